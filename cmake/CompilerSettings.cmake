@@ -1,0 +1,21 @@
+# Compiler-wide settings: warnings (errors in the dev preset), sanitizers, ccache where present.
+
+add_library(quorix_warnings INTERFACE)
+if(MSVC)
+  target_compile_options(quorix_warnings INTERFACE /W4)
+else()
+  target_compile_options(quorix_warnings INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wconversion
+    -Wno-sign-conversion)
+endif()
+
+if(QUORIX_SANITIZE)
+  add_compile_options(-fsanitize=${QUORIX_SANITIZE} -fno-omit-frame-pointer
+    $<$<STREQUAL:${QUORIX_SANITIZE},address$<COMMA>undefined>:-fno-sanitize-recover=undefined>)
+  add_link_options(-fsanitize=${QUORIX_SANITIZE})
+endif()
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+endif()

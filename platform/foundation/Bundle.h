@@ -1,0 +1,45 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace quorix::foundation {
+
+/// A folder of resources: compiled into the program, or on disk.
+///
+/// Immutable once made; any thread may read.
+class Bundle {
+ public:
+  using Ref = std::shared_ptr<const Bundle>;
+  virtual ~Bundle() = default;
+
+  /// The bundle registered under `identifier`, or null.
+  static Ref withIdentifier(std::string_view identifier);
+
+  /// The host application's own bundle, where look-ups go when the library's bundle is not found.
+  /// Empty unless the host set one.
+  static Ref main();
+
+  /// Registers `bundle` under `identifier`, in place of an earlier one. A null bundle takes the
+  /// registration away.
+  static void registerBundle(std::string_view identifier, Ref bundle);
+  static void setMain(Ref bundle);
+
+  /// The files that the build compiled into the library.
+  static Ref embedded();
+  /// The folder at `path` on disk, or null when there is none.
+  static Ref open(const std::string& path);
+
+  /// The path inside this bundle of the folder or file "name.type" ("name" when `type` is empty).
+  virtual std::optional<std::string> pathForResource(std::string_view name,
+                                                     std::string_view type) const = 0;
+  /// The bytes of the file at `path`, or nothing. The text owns a copy only for files on disk.
+  virtual std::optional<std::string> data(const std::string& path) const = 0;
+
+  /// The folder at `path` inside this bundle as a bundle of its own, or null.
+  virtual Ref folder(const std::string& path) const = 0;
+};
+
+}  // namespace quorix::foundation

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/foundation/Error.h"
+#include "platform/foundation/URL.h"
+
+namespace quorix::foundation {
+
+/// What a request ended with: a transport error, or a body (absent when the answer had none) with
+/// the HTTP status, which is 0 when the answer did not come over HTTP.
+struct URLResponse {
+  std::optional<Error> error;
+  std::optional<std::string> body;
+  int status = 0;
+};
+
+/// Performs plain GET requests. `start` returns at once; `completion` runs exactly once, on a thread
+/// that is not the main thread.
+class URLTransport {
+ public:
+  using Completion = std::function<void(URLResponse)>;
+  virtual ~URLTransport() = default;
+  virtual void start(const URL& url, Completion completion) = 0;
+};
+
+/// Answers for an origin in place of the network, on the session's thread. Returns nothing when it
+/// leaves the request to the network.
+using URLProtocol = std::function<std::optional<URLResponse>(const URL&)>;
+
+/// The process-wide HTTP session. The engine installs the transport; a host, a demo or a test may
+/// register protocols that answer for origins of their choice.
+class URLSession {
+ public:
+  static URLSession& shared();
+
+  /// Starts a GET of `url`. With no transport installed it completes with an error of domain
+  /// "URLSession", code -1 (on a thread of its own). Any thread.
+  void get(const URL& url, URLTransport::Completion completion);
+
+  /// Installs the transport that performs the requests from now on. Main thread.
+  void install(std::shared_ptr<URLTransport> transport);
+
+  /// Consults `protocol` before the network, latest registration first; it stays registered as long
+  /// as the returned token lives. Any thread; the protocol runs on the session's thread.
+  [[nodiscard]] std::shared_ptr<void> registerProtocol(URLProtocol protocol);
+
+  /// The first registered protocol's answer for `url`; for transports, on their own thread.
+  std::optional<URLResponse> answerInProcess(const URL& url) const;
+
+ private:
+  URLSession();
+  ~URLSession();
+  struct State;
+  std::unique_ptr<State> state_;
+};
+
+}  // namespace quorix::foundation
