@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/graphics/RGBA.h"
+#include "platform/layout/Geometry.h"
+#include "platform/swiftui/ContentSizeCategory.h"
+
+namespace quorix::swiftui {
+
+/// What a surface tells the views on it: the user's settings and the screen.
+struct Environment {
+  graphics::Appearance appearance = graphics::Appearance::light;
+  layout::LayoutDirection direction = layout::LayoutDirection::leftToRight;
+  ContentSizeCategory textSize = ContentSizeCategory::large;
+  double scale = 1;  ///< device pixels for each point
+  bool operator==(const Environment&) const = default;
+};
+
+}  // namespace quorix::swiftui
