@@ -34,8 +34,8 @@ View compactRow(const ScoreWidgetViewModel& model, const ScoreWidgetTexts& texts
                                               .foregroundColor(ColorResource::grey2())
                                               .strikethrough()})
                         : emphasised(model.baseReturnFee);
-  return HStack(layout::VerticalAlignment::center, 12,
-                {title, swiftui::Spacer(), swiftui::Conditional(model.hasDiscount, fees)});
+  return swiftui::HStack(layout::VerticalAlignment::center, 12,
+                         {title, swiftui::Spacer(), swiftui::Conditional(model.hasDiscount, fees)});
 }
 
 }  // namespace
