@@ -1,0 +1,165 @@
+#include "qt/NetworkThread.h"
+
+#include <QCoreApplication>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <cstdlib>
+#include <string>
+#include <thread>
+#include <utility>
+
+namespace quorix::qt {
+namespace {
+
+using foundation::URLResponse;
+
+URLResponse failure(QNetworkReply::NetworkError code, const QString& text) {
+  return {foundation::Error{"URLSession", code, text.toStdString()}, {}, 0};
+}
+
+URLResponse cancelled() {
+  return failure(QNetworkReply::OperationCanceledError,
+                 QStringLiteral("the application has ended"));
+}
+
+// Qt reports an HTTP status of 400 and above as an error as well. These are the errors that it
+// makes of a status: the content and the server groups whole, and one each for 400 and 407.
+bool standsForStatus(QNetworkReply::NetworkError error) {
+  return (error >= QNetworkReply::ContentAccessDenied &&
+          error <= QNetworkReply::UnknownContentError) ||
+         (error >= QNetworkReply::InternalServerError &&
+          error <= QNetworkReply::UnknownServerError) ||
+         error == QNetworkReply::ProtocolInvalidOperationError ||
+         error == QNetworkReply::ProxyAuthenticationRequiredError;
+}
+
+bool hasNoBody(int status) { return status == 204 || status == 205 || status == 304; }
+
+URLResponse responseOf(QNetworkReply& reply) {
+  const int status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+  const auto error = reply.error();
+  if (error != QNetworkReply::NoError && !(status >= 400 && standsForStatus(error))) {
+    return failure(error, reply.errorString());
+  }
+  std::string body = reply.readAll().toStdString();
+  if (body.empty() && hasNoBody(status)) return {{}, {}, status};
+  return {{}, std::move(body), status};
+}
+
+bool isHttp(const QUrl& url) {
+  return url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https");
+}
+
+}  // namespace
+
+class NetworkThread::Worker : public QObject {
+ public:
+  void performAll() {
+    for (Job& job : shared().takeJobs()) perform(std::move(job));
+  }
+
+  /// Ends every request with an error, also those that no reply stands for yet.
+  void cancelAll() {
+    for (QNetworkReply* reply : findChildren<QNetworkReply*>()) reply->abort();
+    for (Job& job : shared().takeJobs()) job.completion(cancelled());
+  }
+
+ private:
+  void perform(Job job) {
+    if (auto answer = foundation::URLSession::shared().answerInProcess(job.url)) {
+      job.completion(*std::move(answer));
+      return;
+    }
+    // Qt would read local files and its own resources as readily as pages.
+    if (!isHttp(job.request.url())) {
+      job.completion(failure(QNetworkReply::ProtocolUnknownError,
+                             QStringLiteral("the address is neither http nor https")));
+      return;
+    }
+    if (!network_) {
+      network_ = new QNetworkAccessManager(this);
+      network_->setAutoDeleteReplies(true);
+    }
+    QNetworkReply* reply = network_->get(job.request);
+    connect(reply, &QNetworkReply::finished, reply,
+            [reply, completion = std::move(job.completion)] { completion(responseOf(*reply)); });
+  }
+
+  QNetworkAccessManager* network_ = nullptr;
+};
+
+// Never destroyed: other threads may still ask for something while the process ends.
+NetworkThread& NetworkThread::instance() {
+  static NetworkThread& thread = *new NetworkThread;
+  return thread;
+}
+
+NetworkThread& NetworkThread::shared() {
+  static const bool watching = [] {
+    qAddPreRoutine(applicationBegins);  // at once when there is an application already
+    std::atexit(applicationEnds);       // for a host that exits with its application still there
+    return true;
+  }();
+  static_cast<void>(watching);
+  return instance();
+}
+
+void NetworkThread::perform(Job job) {
+  {
+    const std::scoped_lock lock(mutex_);
+    if (applicationAlive_) {
+      jobs_.push_back(std::move(job));
+      if (!thread_) startThread();
+      QMetaObject::invokeMethod(
+          worker_, [worker = worker_] { worker->performAll(); }, Qt::QueuedConnection);
+      return;
+    }
+  }
+  std::thread([completion = std::move(job.completion)] { completion(cancelled()); }).detach();
+}
+
+void NetworkThread::startThread() {
+  thread_ = std::make_unique<QThread>();
+  thread_->setObjectName(QStringLiteral("quorix network"));
+  worker_ = new Worker;
+  worker_->moveToThread(thread_.get());
+  QObject::connect(thread_.get(), &QThread::finished, worker_, &QObject::deleteLater);
+  thread_->start();
+}
+
+std::deque<NetworkThread::Job> NetworkThread::takeJobs() {
+  const std::scoped_lock lock(mutex_);
+  return std::exchange(jobs_, {});
+}
+
+void NetworkThread::applicationBegins() {
+  qAddPostRoutine(applicationEnds);  // Qt forgets its post routines with each application
+  NetworkThread& self = instance();
+  const std::scoped_lock lock(self.mutex_);
+  self.applicationAlive_ = true;
+}
+
+void NetworkThread::applicationEnds() {
+  NetworkThread& self = instance();
+  std::unique_ptr<QThread> thread;
+  {
+    const std::scoped_lock lock(self.mutex_);
+    self.applicationAlive_ = false;
+    if (!self.thread_) return;
+    thread = std::move(self.thread_);
+    QMetaObject::invokeMethod(
+        self.worker_,
+        [worker = self.worker_, thread = thread.get()] {
+          worker->cancelAll();
+          thread->quit();
+        },
+        Qt::QueuedConnection);
+  }
+  if (QThread::currentThread() == thread.get()) {
+    thread.release();  // a completion ended the process: nobody is left to wait for it
+  } else {
+    thread->wait();
+  }
+}
+
+}  // namespace quorix::qt
