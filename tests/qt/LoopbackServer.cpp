@@ -11,8 +11,9 @@
 namespace quorix::testing {
 
 std::string httpAnswer(int status, std::string_view body, std::string_view headers) {
-  return "HTTP/1.1 " + std::to_string(status) + " Status\r\nContent-Length: " +
-         std::to_string(body.size()) + "\r\n" + std::string(headers) + "\r\n" + std::string(body);
+  return "HTTP/1.1 " + std::to_string(status) +
+         " Status\r\nContent-Length: " + std::to_string(body.size()) + "\r\n" +
+         std::string(headers) + "\r\n" + std::string(body);
 }
 
 /// One connection, which may carry several requests one after the other.

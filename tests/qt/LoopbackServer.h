@@ -16,10 +16,10 @@ namespace quorix::testing {
 
 /// What goes over the wire in answer to one request, and how badly.
 struct Answer {
-  std::string bytes;              ///< from the status line on
-  std::size_t piece = SIZE_MAX;   ///< so many bytes at a time, about a millisecond apart
-  bool hangUp = false;            ///< closes the connection after the last byte
-  std::string gate;               ///< sends nothing before this gate is opened; "" is always open
+  std::string bytes;             ///< from the status line on
+  std::size_t piece = SIZE_MAX;  ///< so many bytes at a time, about a millisecond apart
+  bool hangUp = false;           ///< closes the connection after the last byte
+  std::string gate = {};         ///< sends nothing before this gate is opened; "" is always open
 };
 
 /// A well-formed answer. `headers` are whole lines; the length is added.
@@ -36,8 +36,8 @@ class LoopbackServer {
 
   std::string base() const;  ///< "http://127.0.0.1:4711"
 
-  /// Answers the requests for `path` one by one; the last answer serves all further ones. An unknown
-  /// path gets an empty 404.
+  /// Answers the requests for `path` one by one; the last answer serves all further ones. An
+  /// unknown path gets an empty 404.
   void serve(const std::string& path, std::vector<Answer> answers);
   void open(const std::string& gate);
 
