@@ -1,7 +1,6 @@
 #include "qt/NetworkThread.h"
 
 #include <QCoreApplication>
-#include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <cstdlib>
 #include <string>
@@ -63,42 +62,6 @@ bool isHttp(const QUrl& url) {
 
 }  // namespace
 
-class NetworkThread::Worker : public QObject {
- public:
-  void performAll() {
-    for (Job& job : shared().takeJobs()) perform(std::move(job));
-  }
-
-  /// Ends every request with an error, also those that no reply stands for yet.
-  void cancelAll() {
-    for (QNetworkReply* reply : findChildren<QNetworkReply*>()) reply->abort();
-    for (Job& job : shared().takeJobs()) job.completion(cancelled());
-  }
-
- private:
-  void perform(Job job) {
-    if (auto answer = foundation::URLSession::shared().answerInProcess(job.url)) {
-      job.completion(*std::move(answer));
-      return;
-    }
-    // Qt would read local files and its own resources as readily as pages.
-    if (!isHttp(job.request.url())) {
-      job.completion(failure(QNetworkReply::ProtocolUnknownError,
-                             QStringLiteral("the address is neither http nor https")));
-      return;
-    }
-    if (!network_) {
-      network_ = new QNetworkAccessManager(this);
-      network_->setAutoDeleteReplies(true);
-    }
-    QNetworkReply* reply = network_->get(job.request);
-    connect(reply, &QNetworkReply::finished, reply,
-            [reply, completion = std::move(job.completion)] { completion(responseOf(*reply)); });
-  }
-
-  QNetworkAccessManager* network_ = nullptr;
-};
-
 // Never destroyed: other threads may still ask for something while the process ends.
 NetworkThread& NetworkThread::instance() {
   static NetworkThread& thread = *new NetworkThread;
@@ -122,7 +85,7 @@ void NetworkThread::perform(Job job) {
       jobs_.push_back(std::move(job));
       if (!thread_) startThread();
       QMetaObject::invokeMethod(
-          worker_, [worker = worker_] { worker->performAll(); }, Qt::QueuedConnection);
+          receiver_.get(), [] { instance().performAll(); }, Qt::QueuedConnection);
       return;
     }
   }
@@ -132,15 +95,48 @@ void NetworkThread::perform(Job job) {
 void NetworkThread::startThread() {
   thread_ = std::make_unique<QThread>();
   thread_->setObjectName(QStringLiteral("quorix network"));
-  worker_ = new Worker;
-  worker_->moveToThread(thread_.get());
-  QObject::connect(thread_.get(), &QThread::finished, worker_, &QObject::deleteLater);
+  receiver_ = std::make_unique<QObject>();
+  receiver_->moveToThread(thread_.get());
   thread_->start();
 }
 
 std::deque<NetworkThread::Job> NetworkThread::takeJobs() {
   const std::scoped_lock lock(mutex_);
   return std::exchange(jobs_, {});
+}
+
+void NetworkThread::performAll() {
+  for (Job& job : takeJobs()) performOne(std::move(job));
+}
+
+void NetworkThread::performOne(Job job) {
+  if (auto answer = foundation::URLSession::shared().answerInProcess(job.url)) {
+    job.completion(*std::move(answer));
+    return;
+  }
+  // Qt would read local files and its own resources as readily as pages.
+  if (!isHttp(job.request.url())) {
+    job.completion(failure(QNetworkReply::ProtocolUnknownError,
+                           QStringLiteral("the address is neither http nor https")));
+    return;
+  }
+  if (!network_) {
+    network_ = std::make_unique<QNetworkAccessManager>();
+    network_->setAutoDeleteReplies(true);
+  }
+  QNetworkReply* reply = network_->get(job.request);
+  QObject::connect(
+      reply, &QNetworkReply::finished, reply,
+      [reply, completion = std::move(job.completion)] { completion(responseOf(*reply)); });
+}
+
+void NetworkThread::endAll() {
+  if (network_) {
+    for (QNetworkReply* reply : network_->findChildren<QNetworkReply*>()) reply->abort();
+  }
+  for (Job& job : takeJobs()) job.completion(cancelled());
+  network_.reset();
+  QThread::currentThread()->quit();
 }
 
 void NetworkThread::applicationBegins() {
@@ -152,25 +148,18 @@ void NetworkThread::applicationBegins() {
 
 void NetworkThread::applicationEnds() {
   NetworkThread& self = instance();
-  std::unique_ptr<QThread> thread;
   {
     const std::scoped_lock lock(self.mutex_);
     self.applicationAlive_ = false;
     if (!self.thread_) return;
-    thread = std::move(self.thread_);
     QMetaObject::invokeMethod(
-        self.worker_,
-        [worker = self.worker_, thread = thread.get()] {
-          worker->cancelAll();
-          thread->quit();
-        },
-        Qt::QueuedConnection);
+        self.receiver_.get(), [] { instance().endAll(); }, Qt::QueuedConnection);
   }
-  if (QThread::currentThread() == thread.get()) {
-    thread.release();  // a completion ended the process: nobody is left to wait for it
-  } else {
-    thread->wait();
-  }
+  // With no application alive, nobody else touches the thread from here on.
+  if (QThread::currentThread() == self.thread_.get()) return;  // a completion ends the process
+  self.thread_->wait();
+  self.receiver_.reset();
+  self.thread_.reset();
 }
 
 }  // namespace quorix::qt

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QNetworkAccessManager>
 #include <QNetworkRequest>
+#include <QObject>
 #include <QThread>
 #include <deque>
 #include <memory>
@@ -32,8 +34,6 @@ class NetworkThread {
   void perform(Job job);
 
  private:
-  class Worker;
-
   NetworkThread() = default;
   static NetworkThread& instance();
   static void applicationBegins();
@@ -41,11 +41,17 @@ class NetworkThread {
   void startThread();
   std::deque<Job> takeJobs();
 
+  // On the thread.
+  void performAll();
+  void performOne(Job job);
+  void endAll();
+
   std::mutex mutex_;
   bool applicationAlive_ = false;
   std::deque<Job> jobs_;
   std::unique_ptr<QThread> thread_;
-  Worker* worker_ = nullptr;  // lives on the thread and goes with it
+  std::unique_ptr<QObject> receiver_;               // of the thread's turns
+  std::unique_ptr<QNetworkAccessManager> network_;  // the thread's own
 };
 
 }  // namespace quorix::qt
