@@ -1,0 +1,82 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+
+#include "platform/layout/Geometry.h"
+#include "platform/render/Scene.h"
+#include "platform/swiftui/Environment.h"
+#include "platform/swiftui/Presentation.h"
+#include "platform/swiftui/View.h"
+#include "platform/text/TextEngine.h"
+
+namespace quorix::hosting {
+
+/// Puts one view on a surface: evaluates it, lays it out, routes taps and keys into it and says
+/// when any of that changed. What every surface has in common stands here; main thread.
+class ViewHost {
+ public:
+  /// The surface. Both calls may come while the surface itself is calling the host.
+  class Client {
+   public:
+    virtual ~Client() = default;
+    /// Size or scene may have changed: ask again before the next frame.
+    virtual void viewNeedsDisplay() = 0;
+    /// `presentation()` began, changed its content or ended.
+    virtual void presentationChanged() = 0;
+  };
+
+  ViewHost(text::TextEngine& engine, Client& client);
+  ~ViewHost();
+  ViewHost(const ViewHost&) = delete;
+  ViewHost& operator=(const ViewHost&) = delete;
+
+  void setRoot(swiftui::View root);
+  void setEnvironment(const swiftui::Environment& environment);
+  const swiftui::Environment& environment() const;
+
+  /// On screen, observed objects are subscribed and tasks run; off screen both end.
+  void setOnScreen(bool onScreen);
+
+  /// The size that the view chooses when offered `proposal`.
+  layout::Size sizeThatFits(layout::ProposedSize proposal);
+
+  /// The view placed in an area of `size`, centred where it is smaller. The reference holds until
+  /// the next call of this host.
+  const render::Scene& scene(layout::Size size);
+
+  /// The sheet that the view asks for, or null.
+  const swiftui::Presentation* presentation();
+
+  /// The detents that the view asks of the sheet it is shown in; empty when it asks for none.
+  const swiftui::PresentationDetents& detents();
+
+  /// Performs now what waits for the next turn of the main queue: for pictures and tests.
+  void settle();
+
+  // Input, in the coordinates of the latest scene.
+
+  /// A press that ends where it began, on the same hit area, is a tap. Returns whether a hit area
+  /// took the press.
+  bool pointerPressed(layout::Point point);
+  bool pointerReleased(layout::Point point);
+  void pointerCancelled();
+
+  /// Moves the keyboard focus among the elements that act. False when there is none further: focus
+  /// leaves the view.
+  bool moveFocus(bool forward);
+  void clearFocus();
+  /// Where the focus ring goes.
+  std::optional<layout::Rect> focusFrame() const;
+  /// Performs the focused element's action (Enter and Space). False when nothing has the focus.
+  bool activateFocus();
+
+  /// Performs the action of accessibility element `index` of the latest scene.
+  bool activate(int index);
+
+ private:
+  struct State;
+  std::unique_ptr<State> state_;
+};
+
+}  // namespace quorix::hosting

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <optional>
+
+namespace quorix::layout {
+
+// All lengths are in points, with y growing downwards.
+
+inline constexpr double infinity = std::numeric_limits<double>::infinity();
+
+struct Size {
+  double width = 0;
+  double height = 0;
+  bool operator==(const Size&) const = default;
+};
+
+struct Point {
+  double x = 0;
+  double y = 0;
+  bool operator==(const Point&) const = default;
+};
+
+struct Rect {
+  Point origin;
+  Size size;
+
+  double left() const { return origin.x; }
+  double top() const { return origin.y; }
+  double right() const { return origin.x + size.width; }
+  double bottom() const { return origin.y + size.height; }
+  bool contains(Point p) const {
+    return p.x >= left() && p.x < right() && p.y >= top() && p.y < bottom();
+  }
+  Rect translated(Point by) const { return {{origin.x + by.x, origin.y + by.y}, size}; }
+  bool operator==(const Rect&) const = default;
+};
+
+/// Insets by reading direction: `leading` is left in left-to-right text.
+struct EdgeInsets {
+  double top = 0;
+  double leading = 0;
+  double bottom = 0;
+  double trailing = 0;
+  bool operator==(const EdgeInsets&) const = default;
+};
+
+/// What a parent offers a child: 0 asks for the minimum, infinity for the maximum, nothing for the
+/// ideal.
+struct ProposedSize {
+  std::optional<double> width;
+  std::optional<double> height;
+  bool operator==(const ProposedSize&) const = default;
+};
+
+enum class Axis : std::uint8_t { horizontal, vertical };
+
+enum class HorizontalAlignment : std::uint8_t { leading, center, trailing };
+enum class VerticalAlignment : std::uint8_t { top, center, bottom };
+
+struct Alignment {
+  HorizontalAlignment horizontal = HorizontalAlignment::center;
+  VerticalAlignment vertical = VerticalAlignment::center;
+  bool operator==(const Alignment&) const = default;
+};
+
+enum class LayoutDirection : std::uint8_t { leftToRight, rightToLeft };
+
+}  // namespace quorix::layout

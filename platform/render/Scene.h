@@ -1,0 +1,78 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "platform/foundation/Bundle.h"
+#include "platform/graphics/RGBA.h"
+#include "platform/layout/Geometry.h"
+#include "platform/text/AttributedText.h"
+
+namespace quorix::render {
+
+/// A text at its place. The frame's width is the width to break at; its height holds every line.
+struct TextItem {
+  layout::Rect frame;
+  text::AttributedText text;
+};
+
+/// An image of a bundle's asset catalogue, stretched to the frame.
+struct ImageItem {
+  layout::Rect frame;
+  std::string name;
+  foundation::Bundle::Ref bundle;
+  graphics::RGBA tint;  ///< for template images
+};
+
+struct FillItem {
+  layout::Rect frame;
+  graphics::RGBA color;
+  double topCornerRadius = 0;  ///< of the two upper corners
+};
+
+/// A stroke of `width` points just inside the frame.
+struct StrokeItem {
+  layout::Rect frame;
+  graphics::RGBA color;
+  double width = 1;
+};
+
+using Item = std::variant<TextItem, ImageItem, FillItem, StrokeItem>;
+
+/// Where a tap does something. Later areas lie on top of earlier ones.
+struct HitArea {
+  layout::Rect frame;
+  std::function<void()> action;
+};
+
+enum class Role : std::uint8_t { staticText, button, heading, image };
+
+/// What assistive technology meets, in reading order. `action` is empty when it only reads.
+struct AccessibilityElement {
+  layout::Rect frame;
+  Role role = Role::staticText;
+  std::string label;
+  std::string hint;
+  std::function<void()> action;
+};
+
+/// A laid-out view: all that a surface needs to paint it, to read taps from it and to tell
+/// assistive technology about it. Frames are in points from the top left, already mirrored for
+/// right-to-left and on whole device pixels at the scale it was made for. Items are in paint order.
+struct Scene {
+  layout::Size size;
+  graphics::Appearance appearance = graphics::Appearance::light;
+  std::vector<Item> items;
+  std::vector<HitArea> hitAreas;
+  std::vector<AccessibilityElement> accessibility;
+
+  /// The top-most area under `point`, or null.
+  const HitArea* hitTest(layout::Point point) const;
+  /// Appends `other`, moved by `offset`.
+  void append(const Scene& other, layout::Point offset);
+};
+
+}  // namespace quorix::render

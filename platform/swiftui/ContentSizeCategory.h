@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+#include "platform/swiftui/Font.h"
+
+namespace quorix::swiftui {
+
+/// The user's text size, smallest first; `large` is the default.
+enum class ContentSizeCategory : std::uint8_t {
+  extraSmall,
+  small,
+  medium,
+  large,
+  extraLarge,
+  extraExtraLarge,
+  extraExtraExtraLarge,
+  accessibilityMedium,
+  accessibilityLarge,
+  accessibilityExtraLarge,
+  accessibilityExtraExtraLarge,
+  accessibilityExtraExtraExtraLarge,
+};
+
+/// The category of that name ("extraLarge"), or nothing.
+std::optional<ContentSizeCategory> contentSizeCategoryNamed(std::string_view name);
+std::string_view nameOf(ContentSizeCategory category);
+
+/// What a size of `style` at the default category is multiplied by at `category`.
+double scaleFactor(TextStyle style, ContentSizeCategory category);
+
+}  // namespace quorix::swiftui

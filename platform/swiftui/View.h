@@ -1,0 +1,95 @@
+#pragma once
+
+#include <concepts>
+#include <functional>
+#include <memory>
+#include <string_view>
+
+#include "platform/layout/Geometry.h"
+#include "platform/swiftui/Color.h"
+#include "platform/swiftui/Font.h"
+#include "platform/swiftui/PresentationDetent.h"
+#include "platform/swiftui/State.h"
+#include "platform/swiftui/Text.h"
+#include "platform/swiftui/Traits.h"
+
+namespace quorix::swiftui {
+
+struct Node;
+class Component;
+class View;
+
+/// Any type with a body is a view.
+template <class V>
+concept HasBody = requires(const V& view) {
+  { view.body() } -> std::convertible_to<View>;
+};
+
+/// A type that wraps other content: `View body(View content) const`.
+template <class M>
+concept ViewModifier = requires(const M& modifier, View content) {
+  { modifier.body(content) } -> std::convertible_to<View>;
+};
+
+/// A piece of user interface, as an immutable value: cheap to copy, safe to keep. Modifiers wrap
+/// the view and return the wrapped one; of modifiers that reach down (font, colour, text case,
+/// underline, strikethrough) the innermost wins. Main thread.
+///
+///     View row = HStack(12, {Text::verbatim("Fee"), Spacer(), Text::verbatim(fee)});
+///     View padded = row.padding(16);
+class View {
+ public:
+  /// Takes no space and shows nothing.
+  View();
+  View(Text text);  // NOLINT(google-explicit-constructor): a text is a view
+  template <HasBody V>
+  View(V component);  // NOLINT(google-explicit-constructor): any type with a body is a view
+
+  explicit View(std::shared_ptr<const Node> node) : node_(std::move(node)) {}
+  const std::shared_ptr<const Node>& node() const { return node_; }
+
+  View textCase(TextCase value) const;
+  View underline(bool active = true) const;
+  View strikethrough(bool active = true) const;
+  View font(Font font) const;
+  View foregroundColor(Color color) const;
+
+  View padding(double length) const;
+  View padding(layout::EdgeInsets insets) const;
+  View frame(std::optional<double> width, std::optional<double> height,
+             layout::Alignment alignment = {}) const;
+  View frameMaxWidthInfinity(layout::Alignment alignment = {}) const;
+  View fixedSize(bool horizontal, bool vertical) const;
+  /// An image fills the frame it is given instead of keeping its natural size.
+  View resizable() const;
+  /// Lays `content` over this view, in its frame.
+  View overlay(layout::Alignment alignment, View content) const;
+
+  View accessibilityElement(AccessibilityChildren children) const;
+  View accessibilityAddTraits(AccessibilityTrait trait) const;
+  View accessibilityLabel(Text label) const;
+  View accessibilityHint(Text hint) const;
+  View accessibilityHidden(bool hidden) const;
+  /// What assistive technology does by default with this element.
+  View accessibilityAction(std::function<void()> action) const;
+
+  View onTapGesture(std::function<void()> action) const;
+  /// Runs `action` on a turn of the main queue each time the view comes on screen, unless it leaves
+  /// before.
+  View task(TaskPriority priority, std::function<void()> action) const;
+  View sheet(Binding<bool> isPresented, View content) const;
+  View presentationDetents(PresentationDetents detents) const;
+  /// Calls `action` in the layout pass with the size that the view was laid out at, whenever it
+  /// changed.
+  View onGeometryChange(std::function<void(layout::Size)> action) const;
+  template <ViewModifier M>
+  View modifier(M modifier) const;
+
+ private:
+  View(std::shared_ptr<const Component> component);  // NOLINT(google-explicit-constructor)
+  std::shared_ptr<const Node> node_;
+};
+
+}  // namespace quorix::swiftui
+
+#include "platform/swiftui/Component.h"

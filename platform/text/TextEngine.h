@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/layout/Geometry.h"
+#include "platform/text/AttributedText.h"
+
+namespace quorix::text {
+
+/// How a text stands when broken to a width. Points; the baselines count from the top.
+struct TextMetrics {
+  layout::Size size;  ///< of the inked lines: the width of the widest one, the height of all
+  double firstBaseline = 0;
+  double lastBaseline = 0;
+  int lines = 0;
+  bool operator==(const TextMetrics&) const = default;
+};
+
+/// Shapes and breaks text. The one port between layout and an engine's fonts; main thread.
+class TextEngine {
+ public:
+  virtual ~TextEngine() = default;
+
+  /// Breaks `text` into lines no wider than `width` (infinity: only at line ends in the text), at
+  /// word boundaries, and inside a word only where the word alone is wider than `width`. An empty
+  /// text has one line's height and no width.
+  virtual TextMetrics measure(const AttributedText& text, double width) = 0;
+};
+
+}  // namespace quorix::text
