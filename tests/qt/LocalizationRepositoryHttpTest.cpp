@@ -184,7 +184,7 @@ TEST_F(LocalizationRepositoryHttp, FetchDoesNotKeepTheRepository) {
   server.serve(pathOf("en"), {{httpAnswer(200, tableWithHint("late")), SIZE_MAX, false, "answer"}});
   auto onTheWay = LocalizationRepository::make("en");
   auto beforeTheHop = LocalizationRepository::make("en");
-  const std::weak_ptr weaks[] = {onTheWay, beforeTheHop};
+  const std::weak_ptr<LocalizationRepository> weaks[] = {onTheWay, beforeTheHop};
   onTheWay->update();
   beforeTheHop->update();
   onTheWay.reset();
