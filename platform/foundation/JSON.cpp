@@ -39,10 +39,10 @@ constexpr int kMaximumDepth = 600;
 
 Error describe(simdjson::error_code failure) {
   using Code = JSONDocument::ErrorCode;
-  const Code code = failure == simdjson::DEPTH_ERROR                ? Code::tooDeep
-                    : failure == simdjson::SCALAR_DOCUMENT_AS_VALUE ? Code::notContainer
-                                                                    : Code::malformed;
-  return {"JSON", static_cast<std::int64_t>(code), simdjson::error_message(failure)};
+  const Code code = failure == simdjson::DEPTH_ERROR ? Code::tooDeep : Code::malformed;
+  return {"JSON", static_cast<std::int64_t>(code),
+          failure == simdjson::SCALAR_DOCUMENT_AS_VALUE ? "The text is no object and no array."
+                                                        : simdjson::error_message(failure)};
 }
 
 /// A scalar's token reaches to the next one; its own text ends before the white space.
