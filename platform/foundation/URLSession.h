@@ -19,8 +19,8 @@ struct URLResponse {
   int status = 0;
 };
 
-/// Performs plain GET requests. `start` returns at once; `completion` runs exactly once, on a thread
-/// that is not the main thread.
+/// Performs plain GET requests. `start` returns at once; `completion` runs exactly once, on a
+/// thread that is not the main thread.
 class URLTransport {
  public:
   using Completion = std::function<void(URLResponse)>;

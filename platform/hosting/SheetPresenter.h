@@ -7,9 +7,9 @@
 
 namespace quorix::hosting {
 
-/// Shows one sheet over a window: the dimmed background, the rounded panel that rises from the bottom,
-/// its heights, the drag that closes it and the motion between. Every coordinate is the window's, in
-/// points. A surface makes one for each sheet that it shows; main thread.
+/// Shows one sheet over a window: the dimmed background, the rounded panel that rises from the
+/// bottom, its heights, the drag that closes it and the motion between. Every coordinate is the
+/// window's, in points. A surface makes one for each sheet that it shows; main thread.
 class SheetPresenter {
  public:
   class Client {
@@ -35,7 +35,8 @@ class SheetPresenter {
   void present(const swiftui::Presentation& presentation);
   /// The owner took the sheet back: falls, then tells the client.
   void retract();
-  /// The user closes it (Escape, the Back key, assistive technology): writes false through the binding.
+  /// The user closes it (Escape, the Back key, assistive technology): writes false through the
+  /// binding.
   void dismiss();
 
   /// Moves on by `seconds`. Returns whether it is still moving.

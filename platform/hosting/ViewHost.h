@@ -12,8 +12,8 @@
 
 namespace quorix::hosting {
 
-/// Puts one view on a surface: evaluates it, lays it out, routes taps and keys into it and says when
-/// any of that changed. What every surface has in common stands here; main thread.
+/// Puts one view on a surface: evaluates it, lays it out, routes taps and keys into it and says
+/// when any of that changed. What every surface has in common stands here; main thread.
 class ViewHost {
  public:
   /// The surface. Both calls may come while the surface itself is calling the host.
@@ -41,20 +41,23 @@ class ViewHost {
   /// The size that the view chooses when offered `proposal`.
   layout::Size sizeThatFits(layout::ProposedSize proposal);
 
-  /// The view placed in an area of `size`, centred where it is smaller. The reference holds until the
-  /// next call of this host.
+  /// The view placed in an area of `size`, centred where it is smaller. The reference holds until
+  /// the next call of this host.
   const render::Scene& scene(layout::Size size);
 
   /// The sheet that the view asks for, or null.
   const swiftui::Presentation* presentation();
+
+  /// The detents that the view asks of the sheet it is shown in; empty when it asks for none.
+  const swiftui::PresentationDetents& detents();
 
   /// Performs now what waits for the next turn of the main queue: for pictures and tests.
   void settle();
 
   // Input, in the coordinates of the latest scene.
 
-  /// A press that ends where it began, on the same hit area, is a tap. Returns whether a hit area took
-  /// the press.
+  /// A press that ends where it began, on the same hit area, is a tap. Returns whether a hit area
+  /// took the press.
   bool pointerPressed(layout::Point point);
   bool pointerReleased(layout::Point point);
   void pointerCancelled();

@@ -47,7 +47,8 @@ struct EdgeInsets {
   bool operator==(const EdgeInsets&) const = default;
 };
 
-/// What a parent offers a child: 0 asks for the minimum, infinity for the maximum, nothing for the ideal.
+/// What a parent offers a child: 0 asks for the minimum, infinity for the maximum, nothing for the
+/// ideal.
 struct ProposedSize {
   std::optional<double> width;
   std::optional<double> height;

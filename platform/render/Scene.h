@@ -59,9 +59,9 @@ struct AccessibilityElement {
   std::function<void()> action;
 };
 
-/// A laid-out view: all that a surface needs to paint it, to read taps from it and to tell assistive
-/// technology about it. Frames are in points from the top left, already mirrored for right-to-left
-/// and on whole device pixels at the scale it was made for. Items are in paint order.
+/// A laid-out view: all that a surface needs to paint it, to read taps from it and to tell
+/// assistive technology about it. Frames are in points from the top left, already mirrored for
+/// right-to-left and on whole device pixels at the scale it was made for. Items are in paint order.
 struct Scene {
   layout::Size size;
   graphics::Appearance appearance = graphics::Appearance::light;

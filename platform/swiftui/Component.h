@@ -13,7 +13,8 @@
 
 namespace quorix::swiftui {
 
-/// The storage of one component's states, kept by the graph under the component's place in the tree.
+/// The storage of one component's states, kept by the graph under the component's place in the
+/// tree.
 struct StateSlots {
   std::vector<std::any> boxes;
   std::function<void()> onChange;
@@ -28,7 +29,8 @@ class Component {
   /// The body, with the states bound to `slots`, which the first call fills.
   virtual View body(StateSlots& slots) const = 0;
   /// Visits the objects whose changes re-evaluate the body.
-  virtual void visitObserved(const std::function<void(combine::ObservableObject&)>& visit) const = 0;
+  virtual void visitObserved(
+      const std::function<void(combine::ObservableObject&)>& visit) const = 0;
 };
 
 namespace detail {
@@ -84,7 +86,8 @@ class ViewComponent final : public Component {
 template <class M>
 class ModifierComponent final : public Component {
  public:
-  ModifierComponent(M value, View content) : value_(std::move(value)), content_(std::move(content)) {}
+  ModifierComponent(M value, View content)
+      : value_(std::move(value)), content_(std::move(content)) {}
   std::string_view name() const override { return M::typeName; }
   bool isModifier() const override { return true; }
   View body(StateSlots& slots) const override {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "platform/graphics/RGBA.h"
 #include "platform/layout/Geometry.h"
 #include "platform/swiftui/ContentSizeCategory.h"
@@ -11,7 +13,8 @@ struct Environment {
   graphics::Appearance appearance = graphics::Appearance::light;
   layout::LayoutDirection direction = layout::LayoutDirection::leftToRight;
   ContentSizeCategory textSize = ContentSizeCategory::large;
-  double scale = 1;  ///< device pixels for each point
+  double scale = 1;      ///< device pixels for each point
+  std::string language;  ///< the user's own language code, for its rules of upper case
   bool operator==(const Environment&) const = default;
 };
 

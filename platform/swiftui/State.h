@@ -45,7 +45,8 @@ class Binding {
 template <class T>
 class State {
  public:
-  explicit State(T initial) : box_(std::make_shared<StateBox<T>>(StateBox<T>{std::move(initial), {}})) {}
+  explicit State(T initial)
+      : box_(std::make_shared<StateBox<T>>(StateBox<T>{std::move(initial), {}})) {}
 
   const T& get() const { return box_->value; }
   Binding<T> binding() const { return Binding<T>(box_); }

@@ -31,9 +31,9 @@ concept ViewModifier = requires(const M& modifier, View content) {
   { modifier.body(content) } -> std::convertible_to<View>;
 };
 
-/// A piece of user interface, as an immutable value: cheap to copy, safe to keep. Modifiers wrap the
-/// view and return the wrapped one; of modifiers that reach down (font, colour, text case, underline,
-/// strikethrough) the innermost wins. Main thread.
+/// A piece of user interface, as an immutable value: cheap to copy, safe to keep. Modifiers wrap
+/// the view and return the wrapped one; of modifiers that reach down (font, colour, text case,
+/// underline, strikethrough) the innermost wins. Main thread.
 ///
 ///     View row = HStack(12, {Text::verbatim("Fee"), Spacer(), Text::verbatim(fee)});
 ///     View padded = row.padding(16);
@@ -79,7 +79,8 @@ class View {
   View task(TaskPriority priority, std::function<void()> action) const;
   View sheet(Binding<bool> isPresented, View content) const;
   View presentationDetents(PresentationDetents detents) const;
-  /// Calls `action` in the layout pass with the size that the view was laid out at, whenever it changed.
+  /// Calls `action` in the layout pass with the size that the view was laid out at, whenever it
+  /// changed.
   View onGeometryChange(std::function<void(layout::Size)> action) const;
   template <ViewModifier M>
   View modifier(M modifier) const;

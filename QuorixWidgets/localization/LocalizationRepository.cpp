@@ -1,0 +1,45 @@
+#include "QuorixWidgets/localization/LocalizationRepository.h"
+
+#include <utility>
+
+#include "QuorixWidgets/localization/BuiltInTranslations.h"
+#include "QuorixWidgets/localization/ServiceAddresses.h"
+#include "platform/foundation/MainQueue.h"
+#include "platform/foundation/URLSession.h"
+
+namespace quorix {
+
+std::shared_ptr<LocalizationRepository> LocalizationRepository::make(std::string locale) {
+  return std::make_shared<LocalizationRepository>(MakeOnly{}, std::move(locale));
+}
+
+LocalizationRepository::LocalizationRepository(MakeOnly, std::string locale)
+    : strings(*this, builtInTranslations(locale)), locale_(std::move(locale)) {}
+
+void LocalizationRepository::update() {
+  std::string address(modulesServiceBaseURL);
+  address += "/translations/score/overlay/";
+  address += locale_;
+  address += ".json";
+  const auto url = foundation::URL::parse(address);
+  if (!url) return;
+  fetchLocalization(*url, [weak = weak_from_this()](TranslationTableResult result) {
+    const auto* table = std::get_if<std::shared_ptr<const TranslationTable>>(&result);
+    if (!table) return;
+    // Locked only over there: a last reference let go on this thread would destroy the repository
+    // off the main thread.
+    foundation::MainQueue::async([weak, table = *table] {
+      if (const auto repository = weak.lock()) repository->strings = table;
+    });
+  });
+}
+
+void LocalizationRepository::fetchLocalization(
+    const foundation::URL& url, std::function<void(TranslationTableResult)> completion) {
+  foundation::URLSession::shared().get(
+      url, [completion = std::move(completion)](const foundation::URLResponse& response) {
+        completion(readTranslationTable(response));
+      });
+}
+
+}  // namespace quorix

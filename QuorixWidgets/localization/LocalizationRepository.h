@@ -1,0 +1,41 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "QuorixWidgets/localization/TranslationTable.h"
+#include "QuorixWidgets/localization/TranslationTableReader.h"
+#include "platform/combine/ObservableObject.h"
+#include "platform/foundation/URL.h"
+
+namespace quorix {
+
+/// The texts of one widget in its language: built in at first, replaced whole by each successful
+/// fetch. Main thread.
+///
+///     const auto repository = LocalizationRepository::make("es");
+///     repository->strings.get()->text("actions", "close");  // "Cerrar"
+class LocalizationRepository final : public combine::ObservableObject,
+                                     public std::enable_shared_from_this<LocalizationRepository> {
+  struct MakeOnly {};
+
+ public:
+  static std::shared_ptr<LocalizationRepository> make(std::string locale);
+  LocalizationRepository(MakeOnly, std::string locale);
+
+  /// Never null.
+  combine::Published<std::shared_ptr<const TranslationTable>> strings;
+  const std::string& locale() const { return locale_; }
+
+  /// Starts one fetch and returns at once. A failed fetch leaves the texts as they are; of several,
+  /// the last to arrive stays. A fetch does not keep the repository alive.
+  void update();
+
+ private:
+  static void fetchLocalization(const foundation::URL& url,
+                                std::function<void(TranslationTableResult)> completion);
+  std::string locale_;
+};
+
+}  // namespace quorix

@@ -1,0 +1,151 @@
+#include "platform/hosting/SceneBuilder.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace quorix::hosting {
+namespace {
+
+namespace elements = layout::elements;
+namespace modifiers = swiftui::modifiers;
+using render::AccessibilityElement;
+using render::Role;
+
+/// A text keeps its exact size: rounding must never make it break its lines anew.
+layout::Rect textFrame(const layout::PixelGrid& grid, const layout::Rect& frame) {
+  return {{grid.round(frame.left()), grid.round(frame.top())}, frame.size};
+}
+
+std::string spoken(const text::AttributedText& text) {
+  std::string words;
+  for (const text::Run& run : text.runs) words += run.text;
+  return words;
+}
+
+/// One element in place of all that it holds. Its heading stays one, so that a reader who walks
+/// from heading to heading still stops there.
+AccessibilityElement merged(const std::vector<AccessibilityElement>& children,
+                            const layout::Rect& frame) {
+  AccessibilityElement element;
+  element.frame = frame;
+  const auto isHeading = [](const auto& child) { return child.role == Role::heading; };
+  if (std::any_of(children.begin(), children.end(), isHeading)) element.role = Role::heading;
+  return element;
+}
+
+/// An element that acts is a button to whoever can't see it, and the first action given is the one.
+void act(AccessibilityElement& element, const std::function<void()>& action) {
+  if (element.action) return;
+  element.action = action;
+  element.role = Role::button;
+}
+
+}  // namespace
+
+SceneBuilder::SceneBuilder(const swiftui::Evaluation& evaluation,
+                           const swiftui::Environment& environment, GeometryVisitor visitGeometry)
+    : evaluation_(evaluation), visitGeometry_(std::move(visitGeometry)), grid_(environment.scale) {
+  scene_.appearance = environment.appearance;
+}
+
+render::Scene SceneBuilder::build() {
+  scene_.accessibility = add(evaluation_.root);
+  // A picture that nobody named says nothing.
+  std::erase_if(scene_.accessibility, [](const AccessibilityElement& element) {
+    return element.label.empty() && element.hint.empty() && !element.action;
+  });
+  return std::move(scene_);
+}
+
+SceneBuilder::Accessibility SceneBuilder::add(const layout::Element& element) {
+  if (const auto* decorated = std::get_if<elements::Decorated>(&element.kind)) {
+    const auto index = static_cast<std::size_t>(decorated->decoration);
+    return decorate(evaluation_.decorations[index], element);
+  }
+  paint(element);
+  Accessibility described = describe(element);
+  Accessibility below = addChildren(element);
+  std::move(below.begin(), below.end(), std::back_inserter(described));
+  return described;
+}
+
+SceneBuilder::Accessibility SceneBuilder::addChildren(const layout::Element& element) {
+  Accessibility all;
+  for (const layout::Element& child : element.children) {
+    Accessibility below = add(child);
+    std::move(below.begin(), below.end(), std::back_inserter(all));
+  }
+  return all;
+}
+
+void SceneBuilder::paint(const layout::Element& element) {
+  if (const auto* text = std::get_if<elements::Text>(&element.kind)) {
+    scene_.items.push_back(render::TextItem{textFrame(grid_, element.frame), text->text});
+  } else if (const auto* image = std::get_if<elements::Image>(&element.kind)) {
+    scene_.items.push_back(
+        render::ImageItem{grid_.round(element.frame), image->name, image->bundle, image->tint});
+  } else if (const auto* divider = std::get_if<elements::Divider>(&element.kind)) {
+    scene_.items.push_back(render::FillItem{grid_.round(element.frame), divider->color});
+  }
+}
+
+SceneBuilder::Accessibility SceneBuilder::describe(const layout::Element& element) const {
+  AccessibilityElement described;
+  described.frame = grid_.round(element.frame);
+  if (const auto* text = std::get_if<elements::Text>(&element.kind)) {
+    described.label = spoken(text->text);
+  } else if (std::holds_alternative<elements::Image>(element.kind)) {
+    described.role = Role::image;
+  } else {
+    return {};
+  }
+  return {described};
+}
+
+/// Applies a decoration to what assistive technology meets inside it.
+struct SceneBuilder::Decorator {
+  SceneBuilder& self;
+  const swiftui::Decoration& decoration;
+  const layout::Element& element;
+  const layout::Rect& frame;
+  Accessibility& below;
+
+  void operator()(const modifiers::AccessibilityElement&) { below = {merged(below, frame)}; }
+  void operator()(const modifiers::AddTraits& m) {
+    const bool isButton = m.trait == swiftui::AccessibilityTrait::isButton;
+    for (auto& child : below) child.role = isButton ? Role::button : Role::heading;
+  }
+  void operator()(const modifiers::Label& m) {
+    for (auto& child : below) child.label = m.text.resolved();
+  }
+  void operator()(const modifiers::Hint& m) {
+    for (auto& child : below) child.hint = m.text.resolved();
+  }
+  void operator()(const modifiers::Hidden& m) {
+    if (m.hidden) below.clear();
+  }
+  void operator()(const modifiers::AccessibilityAction& m) {
+    for (auto& child : below) act(child, m.action);
+  }
+  void operator()(const modifiers::TapGesture& m) {
+    for (auto& child : below) act(child, m.action);
+  }
+  void operator()(const modifiers::GeometryChange& m) {
+    self.visitGeometry_(decoration.path, element.frame.size, m.action);
+  }
+  void operator()(const auto&) {}  // the rest never is a decoration
+};
+
+SceneBuilder::Accessibility SceneBuilder::decorate(const swiftui::Decoration& decoration,
+                                                   const layout::Element& element) {
+  const layout::Rect frame = grid_.round(element.frame);
+  if (const auto* tap = std::get_if<modifiers::TapGesture>(decoration.modifier)) {
+    scene_.hitAreas.push_back({frame, tap->action});  // before what lies inside and on top of it
+  }
+  Accessibility below = addChildren(element);
+  std::visit(Decorator{*this, decoration, element, frame, below}, *decoration.modifier);
+  return below;
+}
+
+}  // namespace quorix::hosting

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/layout/Geometry.h"
+#include "platform/swiftui/PresentationDetent.h"
+
+namespace quorix::hosting {
+
+/// The sizes of a sheet in a window. Points.
+struct SheetGeometry {
+  static constexpr double cornerRadius = 12;
+  static constexpr double widest = 640;  ///< on wide windows the panel stays readable
+  static constexpr double topGap = 10;   ///< between the largest sheet and the window's top
+
+  layout::Size window;
+  layout::EdgeInsets safeArea;
+
+  double panelWidth() const;
+  /// The height of the panel's content area at rest: the smallest of `detents`, limited by the
+  /// largest sheet; the largest when there are none.
+  double contentHeight(const swiftui::PresentationDetents& detents) const;
+  /// What shows of the window's bottom below the content.
+  double bottomInset() const { return safeArea.bottom; }
+  /// The panel when `revealed` points of it have risen.
+  layout::Rect panel(double revealed) const;
+
+ private:
+  double largest() const;
+};
+
+}  // namespace quorix::hosting

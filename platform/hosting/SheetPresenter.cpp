@@ -1,0 +1,222 @@
+#include "platform/hosting/SheetPresenter.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "platform/hosting/SheetGeometry.h"
+#include "platform/layout/PixelGrid.h"
+
+namespace quorix::hosting {
+namespace {
+
+constexpr double dimming = 0.4;           // of black, behind a sheet at rest
+constexpr double approachPerSecond = 14;  // how fast the panel closes in on where it belongs
+constexpr double dragSlop = 8;            // points before a press becomes a drag
+constexpr double flickSpeed = 600;        // points a second
+constexpr double upwardResistance = 0.2;  // of a drag above the sheet's height
+constexpr double settledWithin = 0.5;     // points
+
+graphics::RGBA panelColor(graphics::Appearance appearance) {
+  return appearance == graphics::Appearance::dark ? graphics::RGBA{28, 28, 30, 255}
+                                                  : graphics::RGBA{255, 255, 255, 255};
+}
+
+}  // namespace
+
+struct SheetPresenter::State final : ViewHost::Client {
+  State(text::TextEngine& engine, SheetPresenter::Client& surface)
+      : client(surface), content(engine, *this) {}
+
+  void viewNeedsDisplay() override {
+    overlay.reset();
+    client.sheetNeedsDisplay();
+  }
+  void presentationChanged() override {}  // the content of a sheet presents no sheet of its own
+
+  double restingHeight() {
+    return geometry.contentHeight(content.detents()) + geometry.bottomInset();
+  }
+  double target() { return closing ? 0 : restingHeight() - drag; }
+  void reveal(double points) {
+    if (revealed == points) return;
+    revealed = points;
+    overlay.reset();
+    client.sheetNeedsDisplay();
+  }
+  layout::Rect panel() const {
+    return layout::PixelGrid(content.environment().scale).round(geometry.panel(revealed));
+  }
+  layout::Point inContent(layout::Point point) const {
+    const layout::Point origin = panel().origin;
+    return {point.x - origin.x, point.y - origin.y};
+  }
+  void endDrag() {
+    press.reset();
+    dragging = false;
+    drag = 0;
+  }
+  void close();
+
+  SheetPresenter::Client& client;
+  ViewHost content;
+  SheetGeometry geometry;
+  std::optional<swiftui::Presentation> presentation;
+  std::optional<render::Scene> overlay;
+  double revealed = 0;  ///< points of the panel that have risen
+  double drag = 0;      ///< points that the finger holds it down
+  std::optional<layout::Point> press;
+  bool pressedOutside = false;
+  bool dragging = false;
+  bool motion = true;
+  bool closing = false;
+  bool closed = false;
+};
+
+void SheetPresenter::State::close() {
+  if (std::exchange(closed, true)) return;
+  content.setOnScreen(false);
+  client.sheetDidClose();
+}
+
+SheetPresenter::SheetPresenter(text::TextEngine& engine, Client& client)
+    : state_(std::make_unique<State>(engine, client)) {}
+
+SheetPresenter::~SheetPresenter() = default;
+
+void SheetPresenter::setEnvironment(const swiftui::Environment& environment) {
+  state_->content.setEnvironment(environment);
+}
+
+void SheetPresenter::setWindow(layout::Size size, layout::EdgeInsets safeArea) {
+  const bool atRest = !isMoving();
+  state_->geometry = {size, safeArea};
+  state_->overlay.reset();
+  if (atRest && state_->presentation) state_->revealed = state_->target();
+  state_->client.sheetNeedsDisplay();
+}
+
+void SheetPresenter::setMotion(bool enabled) { state_->motion = enabled; }
+
+void SheetPresenter::present(const swiftui::Presentation& presentation) {
+  state_->presentation = presentation;
+  state_->closing = false;
+  state_->content.setRoot(presentation.content);
+  state_->content.setOnScreen(true);
+  state_->client.sheetNeedsDisplay();
+}
+
+void SheetPresenter::retract() {
+  state_->closing = true;
+  state_->endDrag();
+  state_->client.sheetNeedsDisplay();
+  if (!state_->motion) advance(0);
+}
+
+void SheetPresenter::dismiss() {
+  if (state_->presentation) state_->presentation->isPresented.set(false);
+}
+
+bool SheetPresenter::isMoving() const {
+  return state_->presentation && !state_->closed &&
+         (state_->closing || state_->revealed != state_->target());
+}
+
+bool SheetPresenter::advance(double seconds) {
+  if (!isMoving()) return false;
+  const double target = state_->target();
+  const double left = target - state_->revealed;
+  const double step = left * (1 - std::exp(-approachPerSecond * seconds));
+  const bool arrives = !state_->motion || state_->dragging || std::abs(left - step) < settledWithin;
+  state_->reveal(arrives ? target : state_->revealed + step);
+  if (arrives && state_->closing) state_->close();
+  return isMoving();
+}
+
+const render::Scene& SheetPresenter::scene() {
+  State& state = *state_;
+  if (state.overlay) return *state.overlay;
+  const layout::Rect panel = state.panel();
+  const double resting = state.restingHeight();
+  const render::Scene& content =
+      state.content.scene({state.geometry.panelWidth(), resting - state.geometry.bottomInset()});
+  const double risen = resting > 0 ? std::clamp(state.revealed / resting, 0.0, 1.0) : 0;
+
+  render::Scene overlay;
+  overlay.size = state.geometry.window;
+  overlay.appearance = content.appearance;
+  const auto shade = static_cast<std::uint8_t>(std::lround(255 * dimming * risen));
+  overlay.items.push_back(render::FillItem{{{}, overlay.size}, {0, 0, 0, shade}});
+  overlay.items.push_back(
+      render::FillItem{panel, panelColor(overlay.appearance), SheetGeometry::cornerRadius});
+  overlay.append(content, panel.origin);
+  state.overlay = std::move(overlay);
+  return *state.overlay;
+}
+
+layout::Rect SheetPresenter::panelFrame() const { return state_->panel(); }
+
+void SheetPresenter::pointerPressed(layout::Point point) {
+  state_->press = point;
+  state_->pressedOutside = !state_->panel().contains(point);
+  if (!state_->pressedOutside) state_->content.pointerPressed(state_->inContent(point));
+}
+
+void SheetPresenter::pointerMoved(layout::Point point) {
+  if (!state_->press || state_->pressedOutside || state_->closing) return;
+  const double down = point.y - state_->press->y;
+  if (!state_->dragging && std::abs(down) > dragSlop) {
+    state_->dragging = true;
+    state_->content.pointerCancelled();
+  }
+  if (!state_->dragging) return;
+  state_->drag = down >= 0 ? down : down * upwardResistance;
+  state_->reveal(state_->target());
+}
+
+void SheetPresenter::pointerReleased(layout::Point point, double velocity) {
+  if (!state_->press) return;
+  const bool outside = state_->pressedOutside && !state_->panel().contains(point);
+  const bool swiped =
+      state_->dragging && (velocity > flickSpeed || state_->drag > state_->restingHeight() / 2);
+  const bool tapped = !state_->pressedOutside && !state_->dragging;
+  state_->endDrag();
+  if (outside || swiped) {
+    dismiss();
+  } else if (tapped) {
+    state_->content.pointerReleased(state_->inContent(point));
+  }
+  state_->client.sheetNeedsDisplay();
+}
+
+void SheetPresenter::pointerCancelled() {
+  state_->content.pointerCancelled();
+  state_->endDrag();
+  state_->client.sheetNeedsDisplay();
+}
+
+void SheetPresenter::moveFocus(bool forward) {
+  if (!state_->content.moveFocus(forward)) state_->content.moveFocus(forward);
+}
+
+std::optional<layout::Rect> SheetPresenter::focusFrame() const {
+  const auto frame = state_->content.focusFrame();
+  if (!frame) return std::nullopt;
+  return frame->translated(state_->panel().origin);
+}
+
+bool SheetPresenter::activateFocus() { return state_->content.activateFocus(); }
+
+bool SheetPresenter::activate(int index) { return state_->content.activate(index); }
+
+void SheetPresenter::settle() {
+  state_->content.settle();
+  scene();
+  state_->content.settle();
+  if (isMoving()) {
+    state_->reveal(state_->target());
+    if (state_->closing) state_->close();
+  }
+}
+
+}  // namespace quorix::hosting

@@ -1,0 +1,214 @@
+#include "platform/hosting/ViewHost.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/hosting/SceneBuilder.h"
+#include "platform/layout/Layout.h"
+#include "platform/swiftui/ViewGraph.h"
+
+namespace quorix::hosting {
+
+struct ViewHost::State {
+  State(text::TextEngine& textEngine, Client& surface)
+      : engine(textEngine), client(surface), graph([this] { invalidated(); }) {}
+
+  swiftui::Evaluation& evaluated();
+  void evaluateAgain();
+  void invalidated();
+  void changed();
+  void layOut(layout::Size size);
+  void perform(const std::function<void()>& action);
+
+  text::TextEngine& engine;
+  Client& client;
+  swiftui::Environment environment;
+  swiftui::ViewGraph graph;
+  // Only between an evaluation and the scene made of it; a view at rest keeps the scene alone.
+  std::unique_ptr<swiftui::Evaluation> evaluation;
+  std::optional<std::pair<layout::ProposedSize, layout::Size>> fitted;
+  std::optional<swiftui::Presentation> presentation;
+  swiftui::PresentationDetents detents;
+  std::optional<render::Scene> scene;
+  std::vector<std::pair<swiftui::TreePath, layout::Size>> geometry;
+  std::optional<layout::Point> pressed;
+  int focused = -1;   ///< index of an accessibility element
+  bool stale = true;  ///< what the latest evaluation said no longer holds
+};
+
+swiftui::Evaluation& ViewHost::State::evaluated() {
+  if (!evaluation) evaluateAgain();
+  return *evaluation;
+}
+
+void ViewHost::State::evaluateAgain() {
+  stale = false;
+  evaluation = std::make_unique<swiftui::Evaluation>(graph.evaluate(environment));
+  detents = evaluation->detents;
+  const bool had = presentation.has_value();
+  presentation = evaluation->presentation;
+  if (had || presentation) client.presentationChanged();
+}
+
+/// The graph's turn: evaluated at once, whether or not anybody paints, since a sheet may hang on
+/// it.
+void ViewHost::State::invalidated() {
+  fitted.reset();
+  scene.reset();
+  evaluateAgain();
+  client.viewNeedsDisplay();
+}
+
+/// The surface changed something, often several things in a row: evaluated when it asks.
+void ViewHost::State::changed() {
+  stale = true;
+  fitted.reset();
+  scene.reset();
+  evaluation.reset();
+  client.viewNeedsDisplay();
+}
+
+void ViewHost::State::layOut(layout::Size size) {
+  swiftui::Evaluation& current = evaluated();
+  layout::Layout pass(engine, environment.scale);
+  const layout::ProposedSize proposal = {size.width, size.height};
+  const layout::Size chosen = pass.measure(current.root, proposal);
+  const layout::Point centred = layout::alignedOffset({}, size, chosen);
+  pass.place(current.root, {std::max(0.0, centred.x), std::max(0.0, centred.y)}, proposal);
+  if (environment.direction == layout::LayoutDirection::rightToLeft) {
+    layout::mirror(current.root, size.width);
+  }
+  // The actions run when the scene stands: they may ask this host again.
+  std::vector<std::function<void()>> changes;
+  scene = SceneBuilder(current, environment,
+                       [&](const auto& path, layout::Size now, const auto& action) {
+                         auto known =
+                             std::find_if(geometry.begin(), geometry.end(),
+                                          [&](const auto& entry) { return entry.first == path; });
+                         if (known == geometry.end())
+                           known = geometry.insert(known, {path, {-1, -1}});
+                         if (known->second == now) return;
+                         known->second = now;
+                         changes.push_back([action, now] { action(now); });
+                       })
+              .build();
+  scene->size = size;
+  evaluation.reset();
+  for (const auto& change : changes) change();
+}
+
+ViewHost::ViewHost(text::TextEngine& engine, Client& client)
+    : state_(std::make_unique<State>(engine, client)) {}
+
+ViewHost::~ViewHost() = default;
+
+void ViewHost::setRoot(swiftui::View root) {
+  state_->graph.setRoot(std::move(root));
+  state_->changed();
+}
+
+void ViewHost::setEnvironment(const swiftui::Environment& environment) {
+  if (state_->environment == environment) return;
+  state_->environment = environment;
+  state_->changed();
+}
+
+const swiftui::Environment& ViewHost::environment() const { return state_->environment; }
+
+void ViewHost::setOnScreen(bool onScreen) {
+  if (state_->graph.isOnScreen() == onScreen) return;
+  state_->graph.setOnScreen(onScreen);
+  if (onScreen) state_->changed();
+}
+
+layout::Size ViewHost::sizeThatFits(layout::ProposedSize proposal) {
+  auto& fitted = state_->fitted;
+  if (!fitted || fitted->first != proposal) {
+    layout::Layout pass(state_->engine, state_->environment.scale);
+    fitted.emplace(proposal, pass.measure(state_->evaluated().root, proposal));
+  }
+  return fitted->second;
+}
+
+const render::Scene& ViewHost::scene(layout::Size size) {
+  if (!state_->scene || state_->scene->size != size) state_->layOut(size);
+  return *state_->scene;
+}
+
+const swiftui::Presentation* ViewHost::presentation() {
+  if (state_->stale) state_->evaluateAgain();
+  return state_->presentation ? &*state_->presentation : nullptr;
+}
+
+const swiftui::PresentationDetents& ViewHost::detents() {
+  if (state_->stale) state_->evaluateAgain();
+  return state_->detents;
+}
+
+void ViewHost::settle() {
+  while (state_->graph.settle()) {
+  }
+}
+
+void ViewHost::State::perform(const std::function<void()>& action) {
+  const auto kept = action;  // the scene that holds it may go while it runs
+  kept();
+}
+
+bool ViewHost::pointerPressed(layout::Point point) {
+  state_->pressed.reset();
+  if (!state_->scene || !state_->scene->hitTest(point)) return false;
+  state_->pressed = point;
+  return true;
+}
+
+bool ViewHost::pointerReleased(layout::Point point) {
+  const auto pressed = std::exchange(state_->pressed, std::nullopt);
+  if (!pressed || !state_->scene) return false;
+  const render::HitArea* area = state_->scene->hitTest(*pressed);
+  if (!area || state_->scene->hitTest(point) != area) return false;
+  state_->perform(area->action);
+  return true;
+}
+
+void ViewHost::pointerCancelled() { state_->pressed.reset(); }
+
+bool ViewHost::moveFocus(bool forward) {
+  if (!state_->scene) return false;
+  const auto& elements = state_->scene->accessibility;
+  const int count = static_cast<int>(elements.size());
+  const int step = forward ? 1 : -1;
+  int next = state_->focused < 0 && !forward ? count - 1 : state_->focused + step;
+  while (next >= 0 && next < count && !elements[static_cast<std::size_t>(next)].action) {
+    next += step;
+  }
+  if (next < 0 || next >= count) {
+    state_->focused = -1;
+    return false;
+  }
+  state_->focused = next;
+  return true;
+}
+
+void ViewHost::clearFocus() { state_->focused = -1; }
+
+std::optional<layout::Rect> ViewHost::focusFrame() const {
+  if (!state_->scene || state_->focused < 0) return std::nullopt;
+  const auto& elements = state_->scene->accessibility;
+  const auto index = static_cast<std::size_t>(state_->focused);
+  if (index >= elements.size()) return std::nullopt;
+  return elements[index].frame;
+}
+
+bool ViewHost::activateFocus() { return activate(state_->focused); }
+
+bool ViewHost::activate(int index) {
+  if (!state_->scene || index < 0) return false;
+  const auto& elements = state_->scene->accessibility;
+  const auto position = static_cast<std::size_t>(index);
+  if (position >= elements.size() || !elements[position].action) return false;
+  state_->perform(elements[position].action);
+  return true;
+}
+
+}  // namespace quorix::hosting

@@ -1,0 +1,84 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <utility>
+#include <variant>
+#include <vector>
+
+#include "platform/foundation/Bundle.h"
+#include "platform/graphics/RGBA.h"
+#include "platform/layout/Geometry.h"
+#include "platform/text/AttributedText.h"
+
+namespace quorix::layout {
+
+/// The element kinds that layout knows, with every setting that reaches them already resolved.
+namespace elements {
+
+struct Empty {};
+struct Text {
+  text::AttributedText text;
+};
+struct Image {
+  std::string name;
+  foundation::Bundle::Ref bundle;
+  Size naturalSize;
+  bool resizable = false;
+  graphics::RGBA tint;
+};
+struct Spacer {
+  Axis axis;  ///< of the stack that it stands in
+  double minLength;
+};
+struct Divider {
+  Axis axis;  ///< of the stack that it stands in
+  graphics::RGBA color;
+};
+struct Stack {
+  Axis axis;
+  Alignment alignment;
+  double spacing;
+};
+struct Padding {
+  EdgeInsets insets;
+};
+struct FixedFrame {
+  std::optional<double> width;
+  std::optional<double> height;
+  Alignment alignment;
+};
+struct MaxWidthFrame {
+  Alignment alignment;
+};
+struct FixedSize {
+  bool horizontal;
+  bool vertical;
+};
+/// The second child lies over the first.
+struct Overlay {
+  Alignment alignment;
+};
+/// Changes nothing in the layout; `decoration` is an index into the evaluation's decorations.
+struct Decorated {
+  int decoration;
+};
+
+}  // namespace elements
+
+/// One element of a view that is ready for layout.
+struct Element {
+  using Kind = std::variant<elements::Empty, elements::Text, elements::Image, elements::Spacer,
+                            elements::Divider, elements::Stack, elements::Padding,
+                            elements::FixedFrame, elements::MaxWidthFrame, elements::FixedSize,
+                            elements::Overlay, elements::Decorated>;
+  Kind kind;
+  std::vector<Element> children;
+
+  /// Where `Layout::place` put it.
+  Rect frame;
+  /// What `Layout::measure` answered in this pass.
+  std::vector<std::pair<ProposedSize, Size>> measured;
+};
+
+}  // namespace quorix::layout

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <functional>
+#include <initializer_list>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "platform/foundation/Bundle.h"
+#include "platform/layout/Geometry.h"
+#include "platform/swiftui/View.h"
+
+namespace quorix::swiftui {
+
+// The elements that views are made of. A missing spacing is the platform's default.
+
+View HStack(layout::VerticalAlignment alignment, std::optional<double> spacing,
+            std::vector<View> children);
+View VStack(layout::HorizontalAlignment alignment, std::optional<double> spacing,
+            std::vector<View> children);
+
+/// Takes what is left along its stack's axis; a missing minimum is the default spacing.
+View Spacer(std::optional<double> minLength = std::nullopt);
+
+/// A hairline across its stack.
+View Divider();
+
+/// An image of the bundle's asset catalogue at its natural size; an unknown name shows nothing.
+View Image(std::string_view name, foundation::Bundle::Ref bundle);
+
+/// Several views where one is expected: the enclosing stack takes them as its own children.
+View Group(std::vector<View> children);
+
+/// One of two views, by a condition; a switch between them starts the new one's state afresh.
+View Conditional(bool condition, const View& whenTrue, const View& whenFalse);
+
+/// The view that `make` returns, made when it is shown.
+View Lazy(std::function<View()> make);
+
+}  // namespace quorix::swiftui

@@ -1,0 +1,296 @@
+#include "platform/swiftui/Evaluation.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/foundation/TextCasing.h"
+#include "platform/graphics/AssetCatalog.h"
+#include "platform/layout/StackDistribution.h"
+#include "platform/swiftui/Component.h"
+
+namespace quorix::swiftui {
+namespace {
+
+using layout::Axis;
+using layout::Element;
+namespace elements = layout::elements;
+
+constexpr graphics::RGBA clear = {0, 0, 0, 0};
+
+/// The platform's hairline colour.
+graphics::RGBA separatorColor(graphics::Appearance appearance) {
+  return appearance == graphics::Appearance::dark ? graphics::RGBA{84, 84, 88, 153}
+                                                  : graphics::RGBA{60, 60, 67, 74};
+}
+
+/// What reaches down to descendants. Each modifier overwrites what came from further out.
+struct Look {
+  const Font* font = nullptr;
+  const Color* color = nullptr;
+  std::optional<TextCase> textCase;
+  bool underline = false;
+  bool strikethrough = false;
+  bool resizable = false;
+};
+
+class Evaluator {
+ public:
+  Evaluator(const Environment& environment, StateStore& store)
+      : environment_(environment), store_(store) {}
+
+  Evaluation run(const View& root) {
+    store_.beginEvaluation();
+    result_.root = single(root, {}, Axis::vertical);
+    store_.endEvaluation();
+    return std::move(result_);
+  }
+
+ private:
+  using Elements = std::vector<Element>;
+  struct Modifying;
+
+  /// Everything that `view` stands for, as children of a stack along `axis`.
+  void collect(const View& view, const Look& look, Axis axis, Elements& out);
+  void collect(const nodes::Empty&, const View&, const Look&, Axis, Elements&) {}
+  void collect(const nodes::Text& node, const View&, const Look& look, Axis, Elements& out);
+  void collect(const nodes::Image& node, const View&, const Look& look, Axis, Elements& out);
+  void collect(const nodes::Spacer& node, const View&, const Look&, Axis axis, Elements& out);
+  void collect(const nodes::Divider&, const View&, const Look&, Axis axis, Elements& out);
+  void collect(const nodes::Stack& node, const View&, const Look& look, Axis, Elements& out);
+  void collect(const nodes::Group& node, const View&, const Look& look, Axis axis, Elements& out);
+  void collect(const nodes::Conditional& node, const View&, const Look& look, Axis axis,
+               Elements& out);
+  void collect(const nodes::Lazy& node, const View&, const Look& look, Axis axis, Elements& out);
+  void collect(const nodes::Custom& node, const View&, const Look& look, Axis axis, Elements& out);
+  void collect(const nodes::Modified& node, const View& view, const Look& look, Axis axis,
+               Elements& out);
+  void collectChildren(const std::vector<View>& children, const Look& look, Axis axis,
+                       Elements& out);
+
+  /// The one element that `view` stands for; several are stacked.
+  Element single(const View& view, const Look& look, Axis axis);
+
+  /// Applies a modifier that changes the layout or is a decoration to each element of its content.
+  template <class Kind>
+  void wrap(const nodes::Modified& node, const Look& look, Axis axis, Elements& out,
+            const Kind& kind);
+  void decorate(const nodes::Modified& node, const View& view, const Look& look, Axis axis,
+                Elements& out);
+
+  graphics::RGBA resolved(const Look& look) const;
+  text::AttributedText attributed(const Text& text, const Look& look) const;
+
+  const Environment& environment_;
+  StateStore& store_;
+  Evaluation result_;
+  TreePath path_;
+};
+
+void Evaluator::collect(const View& view, const Look& look, Axis axis, Elements& out) {
+  std::visit([&](const auto& node) { collect(node, view, look, axis, out); }, view.node()->kind);
+}
+
+void Evaluator::collect(const nodes::Text& node, const View&, const Look& look, Axis,
+                        Elements& out) {
+  out.push_back({elements::Text{attributed(node.text, look)}, {}, {}, {}});
+}
+
+void Evaluator::collect(const nodes::Image& node, const View&, const Look& look, Axis,
+                        Elements& out) {
+  const auto& bundle = node.bundle ? node.bundle : foundation::Bundle::main();
+  const auto asset = graphics::imageSet(bundle, node.name);
+  if (!asset) return;
+  out.push_back(
+      {elements::Image{
+           node.name, bundle, {asset->width, asset->height}, look.resizable, resolved(look)},
+       {},
+       {},
+       {}});
+}
+
+void Evaluator::collect(const nodes::Spacer& node, const View&, const Look&, Axis axis,
+                        Elements& out) {
+  out.push_back(
+      {elements::Spacer{axis, node.minLength.value_or(layout::defaultSpacing)}, {}, {}, {}});
+}
+
+void Evaluator::collect(const nodes::Divider&, const View&, const Look&, Axis axis, Elements& out) {
+  out.push_back({elements::Divider{axis, separatorColor(environment_.appearance)}, {}, {}, {}});
+}
+
+void Evaluator::collect(const nodes::Stack& node, const View&, const Look& look, Axis,
+                        Elements& out) {
+  Element stack = {
+      elements::Stack{node.axis, node.alignment, node.spacing.value_or(layout::defaultSpacing)},
+      {},
+      {},
+      {}};
+  collectChildren(node.children, look, node.axis, stack.children);
+  out.push_back(std::move(stack));
+}
+
+void Evaluator::collect(const nodes::Group& node, const View&, const Look& look, Axis axis,
+                        Elements& out) {
+  collectChildren(node.children, look, axis, out);
+}
+
+void Evaluator::collect(const nodes::Conditional& node, const View&, const Look& look, Axis axis,
+                        Elements& out) {
+  path_.push_back(node.condition ? 'T' : 'F');
+  collect(node.content, look, axis, out);
+  path_.pop_back();
+}
+
+void Evaluator::collect(const nodes::Lazy& node, const View&, const Look& look, Axis axis,
+                        Elements& out) {
+  collect(node.make(), look, axis, out);
+}
+
+void Evaluator::collect(const nodes::Custom& node, const View&, const Look& look, Axis axis,
+                        Elements& out) {
+  node.component->visitObserved([&](combine::ObservableObject& object) {
+    auto& observed = result_.observed;
+    if (std::find(observed.begin(), observed.end(), &object) == observed.end()) {
+      observed.push_back(&object);
+    }
+  });
+  const View body = node.component->body(store_.slots(path_));
+  path_.push_back('C');
+  collect(body, look, axis, out);
+  path_.pop_back();
+}
+
+void Evaluator::collectChildren(const std::vector<View>& children, const Look& look, Axis axis,
+                                Elements& out) {
+  char index = 0;
+  for (const View& child : children) {
+    path_.push_back(index++);
+    collect(child, look, axis, out);
+    path_.pop_back();
+  }
+}
+
+/// Takes a modifier's part in the evaluation and goes on with its content.
+struct Evaluator::Modifying {
+  Evaluator& self;
+  const nodes::Modified& node;
+  const View& view;
+  Look& inner;
+  Axis axis;
+  Elements& out;
+
+  void operator()(const modifiers::Case& m) { inner.textCase = m.value, descend(); }
+  void operator()(const modifiers::Underline& m) { inner.underline = m.active, descend(); }
+  void operator()(const modifiers::Strikethrough& m) {
+    inner.strikethrough = m.active;
+    descend();
+  }
+  void operator()(const modifiers::FontChoice& m) { inner.font = &m.font, descend(); }
+  void operator()(const modifiers::ForegroundColor& m) { inner.color = &m.color, descend(); }
+  void operator()(const modifiers::Resizable&) { inner.resizable = true, descend(); }
+  void operator()(const modifiers::Padding& m) { wrap(elements::Padding{m.insets}); }
+  void operator()(const modifiers::FixedFrame& m) {
+    wrap(elements::FixedFrame{m.width, m.height, m.alignment});
+  }
+  void operator()(const modifiers::MaxWidthFrame& m) { wrap(elements::MaxWidthFrame{m.alignment}); }
+  void operator()(const modifiers::FixedSize& m) {
+    wrap(elements::FixedSize{m.horizontal, m.vertical});
+  }
+  void operator()(const modifiers::Overlay& m) {
+    const std::size_t first = out.size();
+    wrap(elements::Overlay{m.alignment});
+    for (std::size_t i = first; i < out.size(); ++i) {
+      self.path_.push_back('O');
+      out[i].children.push_back(self.single(m.content, inner, axis));
+      self.path_.pop_back();
+    }
+  }
+  void operator()(const modifiers::Task& m) {
+    self.result_.tasks.push_back({self.path_, m.action});
+    descend();
+  }
+  void operator()(const modifiers::Sheet& m) {
+    if (m.isPresented.get()) self.result_.presentation = Presentation{m.isPresented, m.content};
+    descend();
+  }
+  void operator()(const modifiers::Detents& m) {
+    self.result_.detents = m.detents;
+    descend();
+  }
+  void operator()(const auto&) { self.decorate(node, view, inner, axis, out); }
+
+  void descend() { self.collect(node.content, inner, axis, out); }
+
+  template <class Kind>
+  void wrap(const Kind& kind) {
+    self.wrap(node, inner, axis, out, kind);
+  }
+};
+
+void Evaluator::collect(const nodes::Modified& node, const View& view, const Look& look, Axis axis,
+                        Elements& out) {
+  Look inner = look;
+  std::visit(Modifying{*this, node, view, inner, axis, out}, node.modifier);
+}
+
+template <class Kind>
+void Evaluator::wrap(const nodes::Modified& node, const Look& look, Axis axis, Elements& out,
+                     const Kind& kind) {
+  const std::size_t first = out.size();
+  collect(node.content, look, axis, out);
+  for (std::size_t i = first; i < out.size(); ++i) {
+    Element wrapped = {kind, {}, {}, {}};
+    wrapped.children.push_back(std::move(out[i]));
+    out[i] = std::move(wrapped);
+  }
+}
+
+void Evaluator::decorate(const nodes::Modified& node, const View& view, const Look& look, Axis axis,
+                         Elements& out) {
+  const auto index = static_cast<int>(result_.decorations.size());
+  result_.decorations.push_back({view, &node.modifier, path_});
+  wrap(node, look, axis, out, elements::Decorated{index});
+}
+
+Element Evaluator::single(const View& view, const Look& look, Axis axis) {
+  Elements collected;
+  collect(view, look, axis, collected);
+  if (collected.empty()) return {};
+  if (collected.size() == 1) return std::move(collected.front());
+  return {
+      elements::Stack{Axis::vertical, {}, layout::defaultSpacing}, std::move(collected), {}, {}};
+}
+
+graphics::RGBA Evaluator::resolved(const Look& look) const {
+  if (look.color) return look.color->resolve(environment_.appearance).value_or(clear);
+  const bool dark = environment_.appearance == graphics::Appearance::dark;
+  return dark ? graphics::RGBA{255, 255, 255, 255} : graphics::RGBA{0, 0, 0, 255};
+}
+
+text::AttributedText Evaluator::attributed(const Text& text, const Look& look) const {
+  static const Font systemFont;
+  const Font& font = look.font ? *look.font : systemFont;
+  const double scaling = font.scales() ? scaleFactor(font.textStyle(), environment_.textSize) : 1;
+  std::string shown = text.resolved();
+  if (look.textCase == TextCase::uppercase) {
+    shown = foundation::uppercased(shown, environment_.language);
+  } else if (look.textCase == TextCase::lowercase) {
+    shown = foundation::lowercased(shown, environment_.language);
+  }
+  text::AttributedText result;
+  result.direction = environment_.direction;
+  result.runs.push_back({std::move(shown),
+                         {font.name(), font.size() * scaling, font.weight()},
+                         resolved(look),
+                         look.underline,
+                         look.strikethrough});
+  return result;
+}
+
+}  // namespace
+
+Evaluation evaluate(const View& root, const Environment& environment, StateStore& store) {
+  return Evaluator(environment, store).run(root);
+}
+
+}  // namespace quorix::swiftui

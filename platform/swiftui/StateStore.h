@@ -1,0 +1,34 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <string>
+
+#include "platform/swiftui/Component.h"
+
+namespace quorix::swiftui {
+
+/// A place in a view tree: the steps from the root, a byte each. The same place in the next
+/// evaluation is the same view.
+using TreePath = std::string;
+
+/// The states of a view tree's components, by place. What an evaluation does not visit any more has
+/// left the tree and loses its states.
+class StateStore {
+ public:
+  explicit StateStore(std::function<void()> onChange) : onChange_(std::move(onChange)) {}
+
+  StateSlots& slots(const TreePath& path);
+  void beginEvaluation();
+  void endEvaluation();
+
+ private:
+  struct Entry {
+    StateSlots slots;
+    bool visited = false;
+  };
+  std::map<TreePath, Entry> entries_;
+  std::function<void()> onChange_;
+};
+
+}  // namespace quorix::swiftui

@@ -1,0 +1,66 @@
+#include "platform/swiftui/ViewGraph.h"
+
+#include <utility>
+
+#include "platform/foundation/MainQueue.h"
+
+namespace quorix::swiftui {
+
+ViewGraph::ViewGraph(std::function<void()> onInvalidate)
+    : store_([this] { invalidate(); }),
+      onInvalidate_(std::move(onInvalidate)),
+      self_(std::make_shared<ViewGraph*>(this)) {}
+
+ViewGraph::~ViewGraph() = default;
+
+void ViewGraph::setOnScreen(bool onScreen) {
+  if (onScreen_ == onScreen) return;
+  onScreen_ = onScreen;
+  subscriptions_.clear();
+  runningTasks_.clear();
+}
+
+Evaluation ViewGraph::evaluate(const Environment& environment) {
+  turnPending_ = false;
+  Evaluation evaluation = swiftui::evaluate(root_, environment, store_);
+  if (onScreen_) {
+    subscriptions_.clear();
+    for (combine::ObservableObject* object : evaluation.observed) {
+      subscriptions_.push_back(object->onWillChange([this] { invalidate(); }));
+    }
+    startTasks(evaluation.tasks);
+  }
+  return evaluation;
+}
+
+bool ViewGraph::settle() {
+  if (!std::exchange(turnPending_, false)) return false;
+  onInvalidate_();
+  return true;
+}
+
+void ViewGraph::invalidate() {
+  if (std::exchange(turnPending_, true)) return;
+  foundation::MainQueue::async([graph = std::weak_ptr(self_)] {
+    if (const auto self = graph.lock()) (*self)->settle();
+  });
+}
+
+void ViewGraph::startTasks(const std::vector<TaskRequest>& requests) {
+  std::map<TreePath, std::shared_ptr<void>> running;
+  for (const TaskRequest& request : requests) {
+    const auto found = runningTasks_.find(request.path);
+    if (found != runningTasks_.end()) {
+      running.insert(*found);
+      continue;
+    }
+    auto token = std::make_shared<bool>();
+    foundation::MainQueue::async([alive = std::weak_ptr(token), action = request.action] {
+      if (alive.lock()) action();
+    });
+    running.emplace(request.path, std::move(token));
+  }
+  runningTasks_ = std::move(running);
+}
+
+}  // namespace quorix::swiftui

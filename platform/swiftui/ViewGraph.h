@@ -1,0 +1,49 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <vector>
+
+#include "platform/combine/ObservableObject.h"
+#include "platform/swiftui/Evaluation.h"
+
+namespace quorix::swiftui {
+
+/// The life of one view tree on a surface: its states, its subscriptions and tasks while it is on
+/// screen, and the one pending turn that evaluates it again. Main thread.
+class ViewGraph {
+ public:
+  /// `onInvalidate` runs on a turn of the main queue after states or observed objects changed.
+  explicit ViewGraph(std::function<void()> onInvalidate);
+  ~ViewGraph();
+  ViewGraph(const ViewGraph&) = delete;
+  ViewGraph& operator=(const ViewGraph&) = delete;
+
+  void setRoot(View root) { root_ = std::move(root); }
+
+  /// What the graph subscribed and started on screen ends when it leaves; coming back, the next
+  /// evaluation begins it again.
+  void setOnScreen(bool onScreen);
+  bool isOnScreen() const { return onScreen_; }
+
+  Evaluation evaluate(const Environment& environment);
+
+  /// Runs a pending turn at once. Returns whether there was one.
+  bool settle();
+
+ private:
+  void invalidate();
+  void startTasks(const std::vector<TaskRequest>& requests);
+
+  View root_;
+  StateStore store_;
+  std::function<void()> onInvalidate_;
+  std::vector<combine::Cancellable> subscriptions_;
+  std::map<TreePath, std::shared_ptr<void>> runningTasks_;
+  std::shared_ptr<ViewGraph*> self_;  ///< dead graphs are told from living ones on later turns
+  bool onScreen_ = false;
+  bool turnPending_ = false;
+};
+
+}  // namespace quorix::swiftui
