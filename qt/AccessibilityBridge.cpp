@@ -21,8 +21,8 @@ QAccessibleInterface* makeInterface(const QString&, QObject* object) {
   return AccessibilityBridge::surfaceOf(object) ? new ViewAccessible(object) : nullptr;
 }
 
-/// Makes the attached object that marks an item as accessible. Qt Quick names its type only to QML, so
-/// the first call has QML load the module.
+/// Makes the attached object that marks an item as accessible. Qt Quick names its type only to QML,
+/// so the first call has QML load the module.
 QQmlAttachedPropertiesFunc attachAccessible() {
   static const QQmlAttachedPropertiesFunc attach = [] {
     const char* const type = "QQuickAccessibleAttached*";

@@ -21,7 +21,8 @@ QVariant configured(const QString& name, const QString& key, const QVariant& oth
 
 Desktop* Desktop::instance() {
   static QPointer<Desktop> instance;
-  if (!instance && QCoreApplication::instance()) instance = new Desktop(QCoreApplication::instance());
+  if (!instance && QCoreApplication::instance())
+    instance = new Desktop(QCoreApplication::instance());
   return instance;
 }
 

@@ -7,8 +7,8 @@
 
 namespace quorix::qt {
 
-/// What the desktop says for every surface of the process: light or dark, reading direction, motion.
-/// Lives as long as the application object; main thread.
+/// What the desktop says for every surface of the process: light or dark, reading direction,
+/// motion. Lives as long as the application object; main thread.
 class Desktop : public QObject {
   Q_OBJECT
 

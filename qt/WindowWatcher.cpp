@@ -32,7 +32,9 @@ WindowWatcher& WindowWatcher::of(QQuickWindow& window) {
 }
 
 WindowWatcher::WindowWatcher(QQuickWindow& window) : QObject(&window), window_(window) {
-  const auto visibility = [this] { tellAll([](Client& client) { client.windowVisibilityChanged(); }); };
+  const auto visibility = [this] {
+    tellAll([](Client& client) { client.windowVisibilityChanged(); });
+  };
   connect(&window, &QWindow::visibilityChanged, this, visibility);
   connect(&window, &QQuickWindow::afterAnimating, this, &WindowWatcher::frame);
   connect(Desktop::instance(), &Desktop::changed, this,
