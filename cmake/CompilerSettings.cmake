@@ -6,7 +6,10 @@ if(MSVC)
 else()
   target_compile_options(quorix_warnings INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wconversion
-    -Wno-sign-conversion)
+    -Wno-sign-conversion
+    # GCC 12 reports these two inside the standard library's own variant and string.
+    $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>
+    $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 endif()
 
 if(QUORIX_SANITIZE)

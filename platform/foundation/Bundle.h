@@ -4,12 +4,20 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
+
+#include "platform/foundation/Data.h"
 
 namespace quorix::foundation {
 
-/// A folder of resources: compiled into the program, or on disk.
+/// A folder of resources: compiled into the program, or on disk. Paths inside a bundle are
+/// relative, with "/" between their parts; a path that leads out of the bundle names nothing.
 ///
 /// Immutable once made; any thread may read.
+///
+///     Bundle::registerBundle("com.example.shop", Bundle::open("/path/to/resources"));
+///     auto table =
+///     Bundle::withIdentifier("com.example.shop")->data("en.lproj/Localizable.strings");
 class Bundle {
  public:
   using Ref = std::shared_ptr<const Bundle>;
@@ -19,27 +27,34 @@ class Bundle {
   static Ref withIdentifier(std::string_view identifier);
 
   /// The host application's own bundle, where look-ups go when the library's bundle is not found.
-  /// Empty unless the host set one.
+  /// Never null; empty unless the host set one.
   static Ref main();
 
   /// Registers `bundle` under `identifier`, in place of an earlier one. A null bundle takes the
   /// registration away.
   static void registerBundle(std::string_view identifier, Ref bundle);
+  /// Registers `bundle` unless another bundle has that identifier.
+  static void registerBundleIfAbsent(std::string_view identifier, Ref bundle);
+  /// A null bundle empties the main bundle.
   static void setMain(Ref bundle);
 
   /// The files that the build compiled into the library.
   static Ref embedded();
-  /// The folder at `path` on disk, or null when there is none.
+  /// The folder at `path` (UTF-8) on disk, or null when there is none. Files are read anew each
+  /// time.
   static Ref open(const std::string& path);
 
   /// The path inside this bundle of the folder or file "name.type" ("name" when `type` is empty).
   virtual std::optional<std::string> pathForResource(std::string_view name,
                                                      std::string_view type) const = 0;
-  /// The bytes of the file at `path`, or nothing. The text owns a copy only for files on disk.
-  virtual std::optional<std::string> data(const std::string& path) const = 0;
+  /// The bytes of the file at `path`, or nothing. Copied only for files on disk.
+  virtual std::optional<Data> data(const std::string& path) const = 0;
 
   /// The folder at `path` inside this bundle as a bundle of its own, or null.
   virtual Ref folder(const std::string& path) const = 0;
+
+  /// The names of the folders inside the folder at `path` ("" is the bundle itself), sorted.
+  virtual std::vector<std::string> folders(const std::string& path) const = 0;
 };
 
 }  // namespace quorix::foundation

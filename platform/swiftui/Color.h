@@ -1,6 +1,6 @@
 #pragma once
 
-#include <memory>
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -8,6 +8,7 @@
 
 #include "platform/foundation/Bundle.h"
 #include "platform/graphics/RGBA.h"
+#include "platform/swiftui/ColorResource.h"
 
 namespace quorix::swiftui {
 
@@ -17,6 +18,8 @@ class Color {
  public:
   /// The colour set `name` in `bundle` (null: the host's main bundle). Looked up when drawn.
   Color(std::string_view name, foundation::Bundle::Ref bundle);
+  /// The colour set that `resource` names.
+  Color(const ColorResource& resource) : Color(resource.name, resource.bundle) {}
   static Color fixed(graphics::RGBA value) { return Color(value, nullptr); }
   static const Color& black();
   static const Color& white();

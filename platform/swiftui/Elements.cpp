@@ -33,8 +33,8 @@ View Image(std::string_view name, foundation::Bundle::Ref bundle) {
 
 View Group(std::vector<View> children) { return makeView(nodes::Group{std::move(children)}); }
 
-View Conditional(bool condition, const View& whenTrue, const View& whenFalse) {
-  return makeView(nodes::Conditional{condition, condition ? whenTrue : whenFalse});
+View Conditional(bool condition, View chosen) {
+  return makeView(nodes::Conditional{condition, std::move(chosen)});
 }
 
 View Lazy(std::function<View()> make) { return makeView(nodes::Lazy{std::move(make)}); }

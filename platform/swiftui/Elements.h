@@ -31,8 +31,8 @@ View Image(std::string_view name, foundation::Bundle::Ref bundle);
 /// Several views where one is expected: the enclosing stack takes them as its own children.
 View Group(std::vector<View> children);
 
-/// One of two views, by a condition; a switch between them starts the new one's state afresh.
-View Conditional(bool condition, const View& whenTrue, const View& whenFalse);
+/// The branch that `condition` chose of two; a switch to the other starts that one's state afresh.
+View Conditional(bool condition, View chosen);
 
 /// The view that `make` returns, made when it is shown.
 View Lazy(std::function<View()> make);

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string_view>
+
+#include "platform/foundation/Bundle.h"
+
+namespace quorix {
+
+/// What the library's resource bundle is registered under.
+inline constexpr std::string_view kResourceBundleIdentifier = "example.quorix.QuorixWidgets";
+
+/// The library's resource bundle by its identifier, looked up at each call; null when the host took
+/// the registration away. The first call registers the embedded files, unless the host (for live
+/// edits, say) registered a bundle of its own before. Any thread.
+foundation::Bundle::Ref libraryBundle();
+
+/// The bundle that this library was built with: found on the first call, never null, and the same
+/// ever after. Any thread.
+const foundation::Bundle::Ref& resourceBundle();
+
+}  // namespace quorix

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string_view>
+#include <tuple>
+
+#include "platform/swiftui/PresentationDetent.h"
+#include "platform/swiftui/State.h"
+#include "platform/swiftui/View.h"
+
+namespace quorix {
+
+/// Presents a bottom sheet that is exactly as tall as its content: at the platform's medium height
+/// until the content has been laid out, then at the height measured.
+struct AdaptiveSheetModifier {
+  static constexpr std::string_view typeName = "AdaptiveSheetModifier";
+
+  swiftui::Binding<bool> isPresented;
+  swiftui::State<swiftui::PresentationDetents> presentationDetents;
+  swiftui::View sheetContent;
+
+  auto states() const { return std::tie(presentationDetents); }
+  swiftui::View body(const swiftui::View& content) const;
+};
+
+}  // namespace quorix

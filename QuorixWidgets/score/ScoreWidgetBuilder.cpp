@@ -1,0 +1,29 @@
+#include "QuorixWidgets/score/ScoreWidgetBuilder.h"
+
+#include <memory>
+#include <string>
+
+#include "QuorixWidgets/data/TokenData.h"
+#include "QuorixWidgets/localization/LocalizationRepository.h"
+#include "QuorixWidgets/score/ScoreWidgetView.h"
+#include "QuorixWidgets/score/ScoreWidgetViewModel.h"
+#include "platform/swiftui/Elements.h"
+
+namespace quorix {
+
+swiftui::View ScoreWidgetBuilder::buildSwiftUIScoreWidgetView(std::string_view clientId,
+                                                              std::string_view locale,
+                                                              std::string_view token,
+                                                              const ScoreWidgetStyle& style) {
+  const swiftui::View nothing = swiftui::Conditional(false, {});
+  if (token.empty()) return nothing;
+  const auto data = parseTokenData(token);
+  if (!data || clientId.empty()) return nothing;
+  const std::string languageCode(locale);
+  ScoreWidgetView view{
+      std::make_shared<ScoreWidgetViewModel>(std::string(clientId), *data, languageCode, style),
+      LocalizationRepository::make(languageCode)};
+  return swiftui::Conditional(true, std::move(view));
+}
+
+}  // namespace quorix

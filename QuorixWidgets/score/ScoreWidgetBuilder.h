@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string_view>
+
+#include "QuorixWidgets/score/ScoreWidgetStyle.h"
+#include "platform/swiftui/View.h"
+
+namespace quorix {
+
+/// Builds score widgets. Main thread.
+struct ScoreWidgetBuilder {
+  ScoreWidgetBuilder() = delete;
+
+  /// The score row of one shopper, ready to be placed on a surface. Each call makes a fresh one and
+  /// nothing is kept.
+  ///
+  /// `clientId` is the retailer's, `locale` a language code ("en", "es"), `token` the shopper's
+  /// token as the widget service issued it. A token that cannot be read, an empty token and an
+  /// empty client id give an empty view, which takes no space; nothing is reported.
+  ///
+  ///     auto row = ScoreWidgetBuilder::buildSwiftUIScoreWidgetView(
+  ///         "my-shop", "en", token, {std::nullopt, std::nullopt});
+  static swiftui::View buildSwiftUIScoreWidgetView(std::string_view clientId,
+                                                   std::string_view locale, std::string_view token,
+                                                   const ScoreWidgetStyle& style);
+};
+
+}  // namespace quorix

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace quorix {
+
+/// The faces of a score widget. A face named here follows the user's text size; the library's own
+/// faces, used where a name is absent, keep their size. An unknown name draws in the system's font.
+///
+///     ScoreWidgetStyle style{"OpenSans-Regular", "OpenSans-SemiBold"};
+///     ScoreWidgetStyle plain{std::nullopt, std::nullopt};
+struct ScoreWidgetStyle {
+  std::optional<std::string> regularFont;   ///< PostScript or family name, for regular text
+  std::optional<std::string> semiBoldFont;  ///< PostScript or family name, for emphasised text
+
+  ScoreWidgetStyle(std::optional<std::string> regularFace, std::optional<std::string> semiBoldFace)
+      : regularFont(std::move(regularFace)), semiBoldFont(std::move(semiBoldFace)) {}
+};
+
+}  // namespace quorix

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "platform/graphics/RGBA.h"
+
+namespace quorix::graphics {
+
+/// A named colour's value in each appearance.
+struct ColorSet {
+  RGBA light;
+  RGBA dark;
+
+  RGBA resolve(Appearance appearance) const {
+    return appearance == Appearance::dark ? dark : light;
+  }
+
+  bool operator==(const ColorSet&) const = default;
+};
+
+}  // namespace quorix::graphics

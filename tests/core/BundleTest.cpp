@@ -1,0 +1,124 @@
+#include "platform/foundation/Bundle.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "tests/core/MemoryBundle.h"
+
+namespace quorix::foundation {
+namespace {
+
+namespace fs = std::filesystem;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+const std::map<std::string, std::string>& files() {
+  static const std::map<std::string, std::string> table = {
+      {"en.lproj/Main.strings", "english"}, {"en.lproj-old/x", "x"}, {"a/b/deep.txt", "deep"},
+      {"a/c/Contents.json", "{}"},          {"top.txt", ""},
+  };
+  return table;
+}
+
+/// The same files as a bundle in memory and as a folder beside which a secret lies.
+class BundleTest : public ::testing::TestWithParam<bool> {
+ protected:
+  void SetUp() override {
+    if (!GetParam()) {
+      bundle_ = testing::memoryBundle(files());
+      return;
+    }
+    base_ = fs::path(::testing::TempDir()) / ("bundle-" + std::to_string(::getpid()));
+    const fs::path root = base_ / "inside";
+    for (const auto& [path, text] : files()) {
+      fs::create_directories((root / path).parent_path());
+      std::ofstream(root / path) << text;
+    }
+    std::ofstream(base_ / "secret") << "secret";
+    fs::create_directories(base_ / "inside2");
+    std::ofstream(base_ / "inside2/secret") << "secret";
+    fs::create_symlink(base_ / "secret", root / "link");
+    fs::create_directory_symlink(base_ / "inside2", root / "way");
+    bundle_ = Bundle::open(root.string());
+  }
+  void TearDown() override {
+    if (!base_.empty()) fs::remove_all(base_);
+  }
+
+  fs::path base_;
+  Bundle::Ref bundle_;
+};
+
+TEST_P(BundleTest, FindsAndReadsFilesAndFolders) {
+  EXPECT_EQ(bundle_->pathForResource("en", "lproj"), "en.lproj");
+  EXPECT_EQ(bundle_->pathForResource("top.txt", ""), "top.txt");
+  EXPECT_EQ(bundle_->pathForResource("a/b/deep", "txt"), "a/b/deep.txt");
+  EXPECT_EQ(bundle_->pathForResource("fr", "lproj"), std::nullopt);
+  EXPECT_EQ(bundle_->data("a/b/deep.txt").value(), Data("deep"));
+  EXPECT_EQ(bundle_->data("top.txt").value().size(), 0U);
+  EXPECT_EQ(bundle_->data("a/b"), std::nullopt) << "a folder has no bytes";
+
+  const auto english = bundle_->folder("en.lproj");
+  ASSERT_TRUE(english);
+  EXPECT_EQ(english->data("Main.strings").value(), Data("english"));
+  EXPECT_EQ(english->data("top.txt"), std::nullopt);
+  EXPECT_EQ(bundle_->folder("top.txt"), nullptr);
+  EXPECT_EQ(bundle_->folder("fr.lproj"), nullptr);
+
+  EXPECT_THAT(bundle_->folders("a"), ElementsAre("b", "c"));
+  EXPECT_THAT(bundle_->folder("a")->folders(""), ElementsAre("b", "c"));
+  EXPECT_THAT(bundle_->folders("nowhere"), IsEmpty());
+}
+
+TEST_P(BundleTest, NothingOutsideIsReached) {
+  const auto inner = bundle_->folder("a");
+  const std::vector<std::string> paths = {
+      "../secret",   "a/../../secret", "/etc/passwd",       "link", "way/secret",
+      "../top.txt",  "./top.txt",      "a//b/deep.txt",     "",     "top.txt/",
+      "..\\top.txt", "C:top.txt",      {"top.txt\0.x", 10}, "..",   "../inside2/secret",
+  };
+  for (const std::string& path : paths) {
+    EXPECT_EQ(bundle_->data(path), std::nullopt) << path;
+    EXPECT_EQ(inner->data(path), std::nullopt) << path;
+    EXPECT_EQ(bundle_->pathForResource(path, ""), std::nullopt) << path;
+    EXPECT_EQ(bundle_->folder(path), nullptr) << path;
+  }
+  EXPECT_THAT(bundle_->folders("way"), IsEmpty());
+  EXPECT_THAT(bundle_->folders("../inside2"), IsEmpty());
+}
+
+INSTANTIATE_TEST_SUITE_P(Kinds, BundleTest, ::testing::Bool(),
+                         [](const auto& kind) { return kind.param ? "Folder" : "Embedded"; });
+
+TEST(BundleRegistry, LaterRegistrationReplacesAndNullRemoves) {
+  const auto first = testing::memoryBundle({{"a", "1"}});
+  const auto second = testing::memoryBundle({{"a", "2"}});
+  EXPECT_EQ(Bundle::withIdentifier("test.registry"), nullptr);
+  Bundle::registerBundle("test.registry", first);
+  Bundle::registerBundleIfAbsent("test.registry", second);
+  EXPECT_EQ(Bundle::withIdentifier("test.registry"), first);
+  Bundle::registerBundle("test.registry", second);
+  EXPECT_EQ(Bundle::withIdentifier("test.registry"), second);
+  Bundle::registerBundle("test.registry", nullptr);
+  EXPECT_EQ(Bundle::withIdentifier("test.registry"), nullptr);
+}
+
+TEST(BundleRegistry, MainIsEmptyUntilSet) {
+  EXPECT_EQ(Bundle::main()->pathForResource("a", ""), std::nullopt);
+  Bundle::setMain(testing::memoryBundle({{"a", "1"}}));
+  EXPECT_EQ(Bundle::main()->data("a").value(), Data("1"));
+  Bundle::setMain(nullptr);
+  EXPECT_EQ(Bundle::main()->data("a"), std::nullopt);
+}
+
+TEST(BundleOpen, NoFolderNoBundle) {
+  EXPECT_EQ(Bundle::open("/nowhere/at/all"), nullptr);
+  EXPECT_EQ(Bundle::open(""), nullptr);
+  EXPECT_EQ(Bundle::open("/dev/null"), nullptr);
+}
+
+}  // namespace
+}  // namespace quorix::foundation

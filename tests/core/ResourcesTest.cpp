@@ -1,0 +1,185 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <cstdlib>
+#include <thread>
+#include <vector>
+
+#include "QuorixWidgets/localization/Color.h"
+#include "QuorixWidgets/localization/ColorResource.h"
+#include "QuorixWidgets/localization/ImageResource.h"
+#include "QuorixWidgets/localization/ResourceBundle.h"
+#include "QuorixWidgets/localization/UIColor.h"
+#include "platform/graphics/AssetCatalog.h"
+#include "tests/core/MemoryBundle.h"
+
+namespace quorix {
+namespace {
+
+using foundation::Bundle;
+using graphics::Appearance;
+using graphics::RGBA;
+
+constexpr Appearance kAppearances[] = {Appearance::light, Appearance::dark};
+
+RGBA color(std::string_view name, Appearance appearance) {
+  return graphics::colorSet(Bundle::embedded(), name).value().resolve(appearance);
+}
+
+/// Relative luminance and contrast ratio as the accessibility guidelines (WCAG 2) define them.
+double luminance(RGBA c) {
+  const auto linear = [](std::uint8_t channel) {
+    const double v = channel / 255.0;
+    return v <= 0.03928 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * linear(c.red) + 0.7152 * linear(c.green) + 0.0722 * linear(c.blue);
+}
+
+double contrast(RGBA a, RGBA b) {
+  const double la = luminance(a), lb = luminance(b);
+  return (std::max(la, lb) + 0.05) / (std::min(la, lb) + 0.05);
+}
+
+TEST(Palette, TextIsLegibleOnEveryBackground) {
+  ASSERT_NEAR(contrast({0, 0, 0}, {255, 255, 255}), 21, 0.001);
+  for (const auto appearance : kAppearances) {
+    for (const char* background : {"Background", "OverlayBackground"}) {
+      for (const char* text : {"DefaultFontColor", "Grey1", "Grey2"}) {
+        const RGBA ink = color(text, appearance);
+        EXPECT_EQ(ink.alpha, 255);
+        EXPECT_GE(contrast(ink, color(background, appearance)), 4.5)
+            << text << " on " << background << (appearance == Appearance::dark ? ", dark" : "");
+      }
+    }
+  }
+}
+
+/// Every colour that an SVG paints with.
+std::vector<RGBA> paints(std::string_view svg) {
+  std::vector<RGBA> found;
+  for (auto at = svg.find("=\"#"); at != svg.npos; at = svg.find("=\"#", at + 1)) {
+    unsigned value = 0;
+    std::from_chars(svg.data() + at + 3, svg.data() + at + 9, value, 16);
+    found.push_back({static_cast<std::uint8_t>(value >> 16), static_cast<std::uint8_t>(value >> 8),
+                     static_cast<std::uint8_t>(value)});
+  }
+  return found;
+}
+
+TEST(Palette, PicturesWithColoursOfTheirOwnShowInBothAppearances) {
+  struct Case {
+    const char* image;
+    const char* background;
+  };
+  for (const auto& [name, background] :
+       {Case{"close", "OverlayBackground"}, Case{"poweredBy", "Background"}}) {
+    const auto image = graphics::imageSet(Bundle::embedded(), name);
+    ASSERT_TRUE(image && !image->isTemplate) << name;
+    for (const auto appearance : kAppearances) {
+      const auto colors = paints(image->svg(appearance).text());
+      EXPECT_FALSE(colors.empty());
+      for (const RGBA paint : colors) {
+        EXPECT_GE(contrast(paint, color(background, appearance)), 4.5) << name;
+      }
+    }
+  }
+}
+
+TEST(Artwork, HasTheSizesThatTheViewsAreLaidOutFor) {
+  const auto logo = graphics::imageSet(Bundle::embedded(), "logo");
+  ASSERT_TRUE(logo);
+  EXPECT_TRUE(logo->isTemplate) << "the sheet tints it";
+  EXPECT_EQ(std::pair(logo->width, logo->height), std::pair(46.0, 10.0));
+  const auto close = graphics::imageSet(ImageResource::close().bundle, ImageResource::close().name);
+  ASSERT_TRUE(close);
+  EXPECT_EQ(std::pair(close->width, close->height), std::pair(24.0, 24.0));
+  EXPECT_EQ(graphics::imageSet(Bundle::embedded(), "poweredBy")->height, 13);
+}
+
+TEST(NamedAssets, AreTheCataloguesAssetsInBothToolkits) {
+  struct Case {
+    const swiftui::Color& color;
+    const uikit::UIColor::Ref& imperative;
+    std::string_view asset;
+  };
+  const Case cases[] = {
+      {Color::widgetBackground(), UIColor::widgetBackground(), "Background"},
+      {Color::defaultFontColor(), UIColor::defaultFontColor(), "DefaultFontColor"},
+      {Color::overlayBackgrounColor(), UIColor::overlayBackgrounColor(), "OverlayBackground"},
+  };
+  for (const auto& [declarative, imperative, asset] : cases) {
+    EXPECT_EQ(declarative, swiftui::Color(asset, libraryBundle()));
+    for (const auto appearance : kAppearances) {
+      EXPECT_EQ(declarative.resolve(appearance), color(asset, appearance));
+      EXPECT_EQ(imperative->resolve(appearance), color(asset, appearance));
+    }
+  }
+  EXPECT_EQ(&UIColor::defaultFontColor(), &UIColor::defaultFontColor());
+  EXPECT_EQ(swiftui::Color(ColorResource::grey1()).resolve(Appearance::dark),
+            color("Grey1", Appearance::dark));
+  EXPECT_EQ(swiftui::Color(ColorResource::grey2()).resolve(Appearance::light),
+            color("Grey2", Appearance::light));
+}
+
+/// What is made once in a process is tried in a process of its own.
+class ResourcesDeathTest : public ::testing::Test {
+ protected:
+  void SetUp() override { GTEST_FLAG_SET(death_test_style, "threadsafe"); }
+
+  static void replaceLibraryBundle(Bundle::Ref bundle) {
+    libraryBundle();
+    Bundle::registerBundle(kResourceBundleIdentifier, std::move(bundle));
+  }
+};
+
+TEST_F(ResourcesDeathTest, AMissingColourStopsTheImperativeFormOnly) {
+  const auto empty = testing::memoryBundle({});
+  EXPECT_EXIT((replaceLibraryBundle(empty),
+               std::exit(Color::widgetBackground().resolve(Appearance::light) ? 1 : 0)),
+              ::testing::ExitedWithCode(0), "");
+  EXPECT_DEATH((replaceLibraryBundle(empty), UIColor::widgetBackground()),
+               "^QuorixWidgets/Colors: Fatal error: No color named 'Background' in the asset "
+               "catalog\n$");
+  EXPECT_DEATH((replaceLibraryBundle(empty), UIColor::defaultFontColor()), "'DefaultFontColor'");
+  EXPECT_DEATH((replaceLibraryBundle(empty), UIColor::overlayBackgrounColor()),
+               "'OverlayBackground'");
+}
+
+TEST_F(ResourcesDeathTest, WithoutALibraryBundleTheHostsMainBundleAnswers) {
+  EXPECT_EXIT((replaceLibraryBundle(nullptr), Bundle::setMain(Bundle::embedded()),
+               std::exit(Color::widgetBackground().resolve(Appearance::light) &&
+                                 UIColor::widgetBackground() && resourceBundle()
+                             ? 0
+                             : 1)),
+              ::testing::ExitedWithCode(0), "");
+}
+
+TEST_F(ResourcesDeathTest, AHostsEarlierRegistrationStands) {
+  const auto live = testing::memoryBundle({});
+  EXPECT_EXIT((Bundle::registerBundle(kResourceBundleIdentifier, live),
+               std::exit(libraryBundle() == live && resourceBundle() == live ? 0 : 1)),
+              ::testing::ExitedWithCode(0), "");
+}
+
+TEST(ConcurrentResources, FirstReadsFromManyThreadsAgree) {
+  std::vector<std::thread> threads;
+  std::vector<uikit::UIColor::Ref> colors(8);
+  for (std::size_t i = 0; i < colors.size(); ++i) {
+    threads.emplace_back([&colors, i] {
+      colors[i] = UIColor::defaultFontColor();
+      EXPECT_TRUE(Color::defaultFontColor().resolve(Appearance::dark));
+      EXPECT_TRUE(graphics::imageSet(ImageResource::close().bundle, "close"));
+      EXPECT_EQ(ColorResource::grey1().bundle, resourceBundle());
+      // A bundle that comes and goes while others are read.
+      const auto passing = testing::memoryBundle({});
+      EXPECT_FALSE(graphics::colorSet(passing, "Grey1"));
+    });
+  }
+  for (auto& thread : threads) thread.join();
+  EXPECT_EQ(std::count(colors.begin(), colors.end(), colors[0]), 8);
+}
+
+}  // namespace
+}  // namespace quorix
