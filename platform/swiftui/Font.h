@@ -8,17 +8,7 @@ namespace quorix::swiftui {
 
 /// The roles that scaling fonts follow, largest first.
 enum class TextStyle : std::uint8_t {
-  largeTitle,
-  title,
-  title2,
-  title3,
-  headline,
-  body,
-  callout,
-  subheadline,
-  footnote,
-  caption,
-  caption2,
+  largeTitle, title, title2, title3, headline, body, callout, subheadline, footnote, caption, caption2,
 };
 
 enum class FontWeight : std::uint8_t { regular, medium, semibold, bold };
