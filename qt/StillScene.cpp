@@ -12,19 +12,14 @@ namespace {
 using hosting::SheetPresenter;
 using hosting::ViewHost;
 
-/// A still surface: it asks when it paints, so notices tell it nothing.
+/// A still surface: it asks when it paints, so most notices tell it nothing.
 struct StillSurface final : ViewHost::Client, SheetPresenter::Client {
+  bool sheetIsOutdated = false;
   void viewNeedsDisplay() override {}
-  void presentationChanged() override {}
+  void presentationChanged() override { sheetIsOutdated = true; }
   void sheetNeedsDisplay() override {}
   void sheetDidClose() override {}
 };
-
-double heightOf(ViewHost& host, const PictureOptions& options) {
-  if (options.height) return *options.height;
-  if (options.sheet) return 2 * options.width;
-  return host.sizeThatFits({options.width, std::nullopt}).height;
-}
 
 /// Performs the first element that acts. False when there is none.
 bool activateFirst(ViewHost& host, layout::Size size) {
@@ -34,18 +29,26 @@ bool activateFirst(ViewHost& host, layout::Size size) {
   return acting != elements.end() && host.activate(static_cast<int>(acting - elements.begin()));
 }
 
-/// The sheet that the view opens, at rest over a window of `size`; nothing when it opens none.
-std::optional<render::Scene> sheetOver(ViewHost& host, StillSurface& surface, layout::Size size) {
+/// The sheet that the view opens, at rest over `window`; nothing when it opens none.
+std::optional<render::Scene> sheetOver(ViewHost& host, StillSurface& surface, layout::Size size,
+                                       layout::Size window) {
   if (!activateFirst(host, size)) return std::nullopt;
-  host.settle();
-  const swiftui::Presentation* presentation = host.presentation();
-  if (presentation == nullptr) return std::nullopt;
   SheetPresenter sheet(QtTextEngine::shared(), surface);
   sheet.setMotion(false);
   sheet.setEnvironment(host.environment());
-  sheet.setWindow(size, {});
-  sheet.present(*presentation);
-  sheet.settle();
+  sheet.setWindow(window, {});
+  // A sheet that measures its content asks for another height, and is then presented anew.
+  constexpr int mostTurns = 8;
+  for (int turn = 0; turn < mostTurns; ++turn) {
+    host.settle();
+    surface.sheetIsOutdated = false;
+    const swiftui::Presentation* presentation = host.presentation();
+    if (presentation == nullptr) return std::nullopt;
+    sheet.present(*presentation);
+    sheet.settle();
+    host.settle();
+    if (!surface.sheetIsOutdated) break;
+  }
   return sheet.scene();
 }
 
@@ -63,10 +66,17 @@ StillScene stillScene(const swiftui::View& view, const PictureOptions& options) 
   host.setEnvironment(options.environment);
   host.setRoot(view);
   host.setOnScreen(true);
-  const layout::Size size = {options.width, heightOf(host, options)};
+  const auto fitting = [&] { return host.sizeThatFits({options.width, std::nullopt}).height; };
   StillScene still;
-  if (options.sheet) still.sheet = sheetOver(host, surface, size);
-  still.view = host.scene(size);
+  if (options.sheet) {
+    const layout::Size window = {options.width, options.height.value_or(2 * options.width)};
+    const layout::Size size = {options.width, fitting()};
+    still.sheet = sheetOver(host, surface, size, window);
+    still.view = host.scene(size);
+    still.view.size = window;
+  } else {
+    still.view = host.scene({options.width, options.height ? *options.height : fitting()});
+  }
   host.setOnScreen(false);
   return still;
 }
