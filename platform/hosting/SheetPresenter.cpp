@@ -17,7 +17,7 @@ constexpr double flickSpeed = 600;        // points a second
 constexpr double upwardResistance = 0.2;  // of a drag above the sheet's height
 constexpr double settledWithin = 0.5;     // points
 
-graphics::RGBA panelColor(graphics::Appearance appearance) {
+graphics::RGBA colorOfPanel(graphics::Appearance appearance) {
   return appearance == graphics::Appearance::dark ? graphics::RGBA{28, 28, 30, 255}
                                                   : graphics::RGBA{255, 255, 255, 255};
 }
@@ -29,13 +29,25 @@ struct SheetPresenter::State final : ViewHost::Client {
       : client(surface), content(engine, *this) {}
 
   void viewNeedsDisplay() override {
+    contentChanged();
+    moved();
+  }
+  void contentChanged() {
     overlay.reset();
-    client.sheetNeedsDisplay();
+    panelAtRest.reset();
+    ++panelRevision;
   }
   void presentationChanged() override {}  // the content of a sheet presents no sheet of its own
 
   double restingHeight() {
     return geometry.contentHeight(content.detents()) + geometry.bottomInset();
+  }
+  bool isMoving() { return presentation && !closed && (closing || revealed != target()); }
+  bool advance(double seconds);
+  /// Something is elsewhere now, or belongs elsewhere.
+  void moved() {
+    client.sheetNeedsDisplay();
+    if (!motion) advance(0);
   }
   double target() { return closing ? 0 : restingHeight() - drag; }
   void reveal(double points) {
@@ -56,6 +68,9 @@ struct SheetPresenter::State final : ViewHost::Client {
     dragging = false;
     drag = 0;
   }
+  const render::Scene& contentScene() {
+    return content.scene({geometry.panelWidth(), restingHeight() - geometry.bottomInset()});
+  }
   void close();
 
   SheetPresenter::Client& client;
@@ -63,6 +78,8 @@ struct SheetPresenter::State final : ViewHost::Client {
   SheetGeometry geometry;
   std::optional<swiftui::Presentation> presentation;
   std::optional<render::Scene> overlay;
+  std::optional<render::Scene> panelAtRest;
+  unsigned panelRevision = 0;
   double revealed = 0;  ///< points of the panel that have risen
   double drag = 0;      ///< points that the finger holds it down
   std::optional<layout::Point> press;
@@ -79,6 +96,17 @@ void SheetPresenter::State::close() {
   client.sheetDidClose();
 }
 
+bool SheetPresenter::State::advance(double seconds) {
+  if (!isMoving()) return false;
+  const double left = target() - revealed;
+  const double step = left * (1 - std::exp(-approachPerSecond * seconds));
+  const bool arrives = !motion || dragging || std::abs(left - step) < settledWithin;
+  reveal(arrives ? target() : revealed + step);
+  if (!arrives || !closing) return isMoving();
+  close();
+  return false;
+}
+
 SheetPresenter::SheetPresenter(text::TextEngine& engine, Client& client)
     : state_(std::make_unique<State>(engine, client)) {}
 
@@ -91,79 +119,94 @@ void SheetPresenter::setEnvironment(const swiftui::Environment& environment) {
 void SheetPresenter::setWindow(layout::Size size, layout::EdgeInsets safeArea) {
   const bool atRest = !isMoving();
   state_->geometry = {size, safeArea};
-  state_->overlay.reset();
+  state_->contentChanged();
   if (atRest && state_->presentation) state_->revealed = state_->target();
   state_->client.sheetNeedsDisplay();
 }
 
-void SheetPresenter::setMotion(bool enabled) { state_->motion = enabled; }
+void SheetPresenter::setMotion(bool enabled) {
+  state_->motion = enabled;
+  state_->moved();
+}
 
 void SheetPresenter::present(const swiftui::Presentation& presentation) {
   state_->presentation = presentation;
   state_->closing = false;
+  state_->closed = false;
   state_->content.setRoot(presentation.content);
   state_->content.setOnScreen(true);
-  state_->client.sheetNeedsDisplay();
 }
 
 void SheetPresenter::retract() {
   state_->closing = true;
   state_->endDrag();
-  state_->client.sheetNeedsDisplay();
-  if (!state_->motion) advance(0);
+  state_->moved();
 }
 
 void SheetPresenter::dismiss() {
   if (state_->presentation) state_->presentation->isPresented.set(false);
 }
 
-bool SheetPresenter::isMoving() const {
-  return state_->presentation && !state_->closed &&
-         (state_->closing || state_->revealed != state_->target());
-}
+bool SheetPresenter::isMoving() const { return state_->isMoving(); }
 
-bool SheetPresenter::advance(double seconds) {
-  if (!isMoving()) return false;
-  const double target = state_->target();
-  const double left = target - state_->revealed;
-  const double step = left * (1 - std::exp(-approachPerSecond * seconds));
-  const bool arrives = !state_->motion || state_->dragging || std::abs(left - step) < settledWithin;
-  state_->reveal(arrives ? target : state_->revealed + step);
-  if (arrives && state_->closing) state_->close();
-  return isMoving();
-}
+bool SheetPresenter::advance(double seconds) { return state_->advance(seconds); }
 
 const render::Scene& SheetPresenter::scene() {
   State& state = *state_;
   if (state.overlay) return *state.overlay;
-  const layout::Rect panel = state.panel();
-  const double resting = state.restingHeight();
-  const render::Scene& content =
-      state.content.scene({state.geometry.panelWidth(), resting - state.geometry.bottomInset()});
-  const double risen = resting > 0 ? std::clamp(state.revealed / resting, 0.0, 1.0) : 0;
+  const render::Scene& content = state.contentScene();
 
   render::Scene overlay;
   overlay.size = state.geometry.window;
   overlay.appearance = content.appearance;
-  const auto shade = static_cast<std::uint8_t>(std::lround(255 * dimming * risen));
-  overlay.items.push_back(render::FillItem{{{}, overlay.size}, {0, 0, 0, shade}});
-  overlay.items.push_back(
-      render::FillItem{panel, panelColor(overlay.appearance), SheetGeometry::cornerRadius});
-  overlay.append(content, panel.origin);
+  overlay.items.emplace_back(std::in_place_type<render::FillItem>,
+                             render::FillItem{{{}, overlay.size}, shade(), 0});
+  overlay.items.emplace_back(
+      std::in_place_type<render::FillItem>,
+      render::FillItem{state.panel(), panelColor(), SheetGeometry::cornerRadius});
+  overlay.append(content, state.panel().origin);
   state.overlay = std::move(overlay);
   return *state.overlay;
 }
 
+graphics::RGBA SheetPresenter::shade() {
+  const double resting = state_->restingHeight();
+  const double risen = resting > 0 ? std::clamp(state_->revealed / resting, 0.0, 1.0) : 0;
+  return {0, 0, 0, static_cast<std::uint8_t>(std::lround(255 * dimming * risen))};
+}
+
+const render::Scene& SheetPresenter::panel() {
+  State& state = *state_;
+  if (state.panelAtRest) return *state.panelAtRest;
+  const render::Scene& content = state.contentScene();
+  render::Scene panel;
+  panel.size = {content.size.width, content.size.height + state.geometry.bottomInset()};
+  panel.appearance = content.appearance;
+  panel.items.emplace_back(
+      std::in_place_type<render::FillItem>,
+      render::FillItem{{{}, panel.size}, panelColor(), SheetGeometry::cornerRadius});
+  panel.append(content, {});
+  state.panelAtRest = std::move(panel);
+  return *state.panelAtRest;
+}
+
+graphics::RGBA SheetPresenter::panelColor() const {
+  return colorOfPanel(state_->content.environment().appearance);
+}
+
+unsigned SheetPresenter::panelRevision() const { return state_->panelRevision; }
+
 layout::Rect SheetPresenter::panelFrame() const { return state_->panel(); }
 
 void SheetPresenter::pointerPressed(layout::Point point) {
+  if (state_->closing) return;  // a second tap on what closes it must not open it again
   state_->press = point;
   state_->pressedOutside = !state_->panel().contains(point);
   if (!state_->pressedOutside) state_->content.pointerPressed(state_->inContent(point));
 }
 
 void SheetPresenter::pointerMoved(layout::Point point) {
-  if (!state_->press || state_->pressedOutside || state_->closing) return;
+  if (!state_->press || state_->pressedOutside) return;
   const double down = point.y - state_->press->y;
   if (!state_->dragging && std::abs(down) > dragSlop) {
     state_->dragging = true;
@@ -181,18 +224,19 @@ void SheetPresenter::pointerReleased(layout::Point point, double velocity) {
       state_->dragging && (velocity > flickSpeed || state_->drag > state_->restingHeight() / 2);
   const bool tapped = !state_->pressedOutside && !state_->dragging;
   state_->endDrag();
+  state_->moved();
   if (outside || swiped) {
     dismiss();
   } else if (tapped) {
+    // Last, since an action may take away all that shows it.
     state_->content.pointerReleased(state_->inContent(point));
   }
-  state_->client.sheetNeedsDisplay();
 }
 
 void SheetPresenter::pointerCancelled() {
   state_->content.pointerCancelled();
   state_->endDrag();
-  state_->client.sheetNeedsDisplay();
+  state_->moved();
 }
 
 void SheetPresenter::moveFocus(bool forward) {
@@ -205,9 +249,11 @@ std::optional<layout::Rect> SheetPresenter::focusFrame() const {
   return frame->translated(state_->panel().origin);
 }
 
-bool SheetPresenter::activateFocus() { return state_->content.activateFocus(); }
+bool SheetPresenter::activateFocus() { return !state_->closing && state_->content.activateFocus(); }
 
-bool SheetPresenter::activate(int index) { return state_->content.activate(index); }
+bool SheetPresenter::activate(int index) {
+  return !state_->closing && state_->content.activate(index);
+}
 
 void SheetPresenter::settle() {
   state_->content.settle();

@@ -17,7 +17,8 @@ class SheetPresenter {
     virtual ~Client() = default;
     /// Something moved or changed: ask `scene` again; call `advance` each frame while it says so.
     virtual void sheetNeedsDisplay() = 0;
-    /// The panel has left the window: take the overlay away and give the focus back.
+    /// The panel has left the window: take the overlay away and give the focus back. May destroy
+    /// the presenter.
     virtual void sheetDidClose() = 0;
   };
 
@@ -47,6 +48,17 @@ class SheetPresenter {
   const render::Scene& scene();
   layout::Rect panelFrame() const;
 
+  // The same in parts, for a surface that moves pictures rather than paint each frame anew.
+
+  /// What lies over the window behind the panel.
+  graphics::RGBA shade();
+  /// The panel at rest, from its own top left: motion leaves it as it is, and `panelFrame` says
+  /// where it stands. Where it does not reach the window's bottom, `panelColor` goes on.
+  const render::Scene& panel();
+  graphics::RGBA panelColor() const;
+  /// Another number whenever `panel` may have changed.
+  unsigned panelRevision() const;
+
   void pointerPressed(layout::Point point);
   void pointerMoved(layout::Point point);
   /// `velocity` is the finger's downward speed in points a second.
@@ -56,6 +68,7 @@ class SheetPresenter {
   /// Moves the focus inside the sheet, round and round: it never leaves while the sheet is up.
   void moveFocus(bool forward);
   std::optional<layout::Rect> focusFrame() const;
+  /// These do nothing any more once the sheet is on its way out.
   bool activateFocus();
   bool activate(int index);
 
