@@ -13,8 +13,8 @@
 
 namespace quorix::tool {
 
-/// The arguments of one command, sorted into options and operands. Of an option given twice the last
-/// counts.
+/// The arguments of one command, sorted into options and operands. Of an option given twice the
+/// last counts.
 class Arguments {
  public:
   /// Sorts `words`. Values follow their option as the next word or behind "="; a next word that

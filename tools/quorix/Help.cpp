@@ -39,8 +39,9 @@ std::string helpText(std::span<const Command* const> commands) {
   text += twoColumns("  --version", "Prints the version.", 12);
   text += "\n\"quorix COMMAND --help\" tells the rest.\n\nExample:\n";
   text += indented("quorix score --token \"$(quorix mint)\" --out row.png");
-  text += "\nExit status: 0 when all went well, 1 for input that was refused, 2 for a wrong command"
-          " line.\n";
+  text +=
+      "\nExit status: 0 when all went well, 1 for input that was refused, 2 for a wrong command"
+      " line.\n";
   return text;
 }
 

@@ -32,8 +32,9 @@ Outcome mint(const Arguments& arguments) {
 const Command mintCommand{
     .name = "mint",
     .synopsis = "[options]",
-    .purpose = "Prints a shopper token for demos and tests, signed with HS256.\n"
-               "It stands in for the widget service; the widgets themselves check no signature.",
+    .purpose =
+        "Prints a shopper token for demos and tests, signed with HS256.\n"
+        "It stands in for the widget service; the widgets themselves check no signature.",
     .options = options,
     .operands = 0,
     .details = "A score of 0.1 or more earns the reduced fee.",

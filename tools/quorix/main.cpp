@@ -46,7 +46,8 @@ int report(const Failure& failure) {
   std::string line = "quorix: " + failure.message;
   if (failure.status == Failure::usageStatus) line += " (\"quorix --help\" tells more)";
   // Whatever a file or an argument put into the message, it stays one line.
-  std::ranges::replace_if(line, [](char c) { return c == '\n' || c == '\r'; }, ' ');
+  std::ranges::replace_if(
+      line, [](char c) { return c == '\n' || c == '\r'; }, ' ');
   std::fprintf(stderr, "%s\n", line.c_str());
   return failure.status;
 }
