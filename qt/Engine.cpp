@@ -1,0 +1,20 @@
+#include "qt/Engine.h"
+
+#include <memory>
+#include <mutex>
+
+#include "platform/foundation/URLSession.h"
+#include "qt/QtMainQueue.h"
+#include "qt/QtURLTransport.h"
+
+namespace quorix::qt {
+
+void installEngine() {
+  static std::once_flag once;
+  std::call_once(once, [] {
+    QtMainQueue::install();
+    foundation::URLSession::shared().install(std::make_shared<QtURLTransport>());
+  });
+}
+
+}  // namespace quorix::qt

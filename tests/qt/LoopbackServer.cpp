@@ -1,0 +1,114 @@
+#include "tests/qt/LoopbackServer.h"
+
+#include <QEventLoop>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTimer>
+#include <algorithm>
+#include <future>
+#include <utility>
+
+namespace quorix::testing {
+
+std::string httpAnswer(int status, std::string_view body, std::string_view headers) {
+  return "HTTP/1.1 " + std::to_string(status) +
+         " Status\r\nContent-Length: " + std::to_string(body.size()) + "\r\n" +
+         std::string(headers) + "\r\n" + std::string(body);
+}
+
+/// One connection, which may carry several requests one after the other.
+class LoopbackServer::Connection : public QObject {
+ public:
+  Connection(LoopbackServer& server, QTcpSocket* socket)
+      : QObject(socket), server_(server), socket_(socket) {
+    connect(socket, &QTcpSocket::readyRead, this, [this] { read(); });
+    connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
+  }
+
+ private:
+  void read() {
+    head_ += socket_->readAll().toStdString();
+    if (head_.find("\r\n\r\n") == std::string::npos) return;
+    const auto from = head_.find(' ') + 1;
+    const std::string path = head_.substr(from, head_.find(' ', from) - from);
+    answer_ = server_.take(path, std::exchange(head_, {}));
+    sent_ = 0;
+    send();
+  }
+
+  void send() {
+    if (server_.isOpen(answer_.gate)) {
+      const auto size = std::min(answer_.piece, answer_.bytes.size() - sent_);
+      socket_->write(answer_.bytes.data() + sent_, static_cast<qint64>(size));
+      sent_ += size;
+      if (sent_ == answer_.bytes.size()) {
+        if (answer_.hangUp) socket_->disconnectFromHost();
+        return;
+      }
+    }
+    QTimer::singleShot(1, this, [this] { send(); });
+  }
+
+  LoopbackServer& server_;
+  QTcpSocket* socket_;
+  std::string head_;
+  Answer answer_;
+  std::size_t sent_ = 0;
+};
+
+LoopbackServer::LoopbackServer() {
+  std::promise<void> listening;
+  thread_ = std::thread([this, &listening] {
+    QEventLoop loop;
+    QTcpServer server;
+    server.listen(QHostAddress::LocalHost);
+    QObject::connect(&server, &QTcpServer::newConnection, &server, [this, &server] {
+      while (QTcpSocket* socket = server.nextPendingConnection()) new Connection(*this, socket);
+    });
+    port_ = server.serverPort();
+    loop_ = &loop;
+    listening.set_value();
+    loop.exec();
+  });
+  listening.get_future().wait();
+}
+
+LoopbackServer::~LoopbackServer() {
+  QMetaObject::invokeMethod(loop_, "quit", Qt::QueuedConnection);
+  thread_.join();
+}
+
+std::string LoopbackServer::base() const { return "http://127.0.0.1:" + std::to_string(port_); }
+
+void LoopbackServer::serve(const std::string& path, std::vector<Answer> answers) {
+  const std::scoped_lock lock(mutex_);
+  answers_[path] = std::move(answers);
+}
+
+void LoopbackServer::open(const std::string& gate) {
+  const std::scoped_lock lock(mutex_);
+  gates_.insert(gate);
+}
+
+std::vector<std::string> LoopbackServer::requests(const std::string& path) const {
+  const std::scoped_lock lock(mutex_);
+  const auto found = requests_.find(path);
+  return found == requests_.end() ? std::vector<std::string>{} : found->second;
+}
+
+Answer LoopbackServer::take(const std::string& path, const std::string& head) {
+  const std::scoped_lock lock(mutex_);
+  requests_[path].push_back(head);
+  auto& answers = answers_[path];
+  if (answers.empty()) return {httpAnswer(404, "")};
+  const Answer answer = answers.front();
+  if (answers.size() > 1) answers.erase(answers.begin());
+  return answer;
+}
+
+bool LoopbackServer::isOpen(const std::string& gate) const {
+  const std::scoped_lock lock(mutex_);
+  return gate.empty() || gates_.contains(gate);
+}
+
+}  // namespace quorix::testing

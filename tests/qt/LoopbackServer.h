@@ -1,0 +1,62 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <map>
+#include <mutex>
+#include <set>
+#include <string>
+#include <string_view>
+#include <thread>
+#include <vector>
+
+class QEventLoop;
+
+namespace quorix::testing {
+
+/// What goes over the wire in answer to one request, and how badly.
+struct Answer {
+  std::string bytes;             ///< from the status line on
+  std::size_t piece = SIZE_MAX;  ///< so many bytes at a time, about a millisecond apart
+  bool hangUp = false;           ///< closes the connection after the last byte
+  std::string gate = {};         ///< sends nothing before this gate is opened; "" is always open
+};
+
+/// A well-formed answer. `headers` are whole lines; the length is added.
+std::string httpAnswer(int status, std::string_view body, std::string_view headers = {});
+
+/// An HTTP server on 127.0.0.1, on a thread of its own, that answers as it is told. Any thread may
+/// tell it.
+class LoopbackServer {
+ public:
+  LoopbackServer();
+  ~LoopbackServer();
+  LoopbackServer(const LoopbackServer&) = delete;
+  LoopbackServer& operator=(const LoopbackServer&) = delete;
+
+  std::string base() const;  ///< "http://127.0.0.1:4711"
+
+  /// Answers the requests for `path` one by one; the last answer serves all further ones. An
+  /// unknown path gets an empty 404.
+  void serve(const std::string& path, std::vector<Answer> answers);
+  void open(const std::string& gate);
+
+  /// The heads of the requests for `path` so far, each as it came.
+  std::vector<std::string> requests(const std::string& path) const;
+
+ private:
+  class Connection;
+
+  Answer take(const std::string& path, const std::string& head);
+  bool isOpen(const std::string& gate) const;
+
+  mutable std::mutex mutex_;
+  std::map<std::string, std::vector<Answer>> answers_;
+  std::map<std::string, std::vector<std::string>> requests_;
+  std::set<std::string> gates_;
+  std::uint16_t port_ = 0;
+  QEventLoop* loop_ = nullptr;
+  std::thread thread_;
+};
+
+}  // namespace quorix::testing

@@ -1,0 +1,336 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QNetworkReply>
+#include <QTcpServer>
+#include <atomic>
+#include <chrono>
+#include <cstdlib>
+#include <future>
+#include <memory>
+#include <optional>
+#include <ostream>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "platform/foundation/URLSession.h"
+#include "qt/QtURLTransport.h"
+#include "tests/qt/LoopbackServer.h"
+
+namespace quorix::testing {
+namespace {
+
+using foundation::URL;
+using foundation::URLResponse;
+using qt::QtURLTransport;
+using std::chrono::seconds;
+
+struct Outcome {
+  URLResponse response;
+  std::thread::id thread;
+};
+
+/// One request. The main thread stands still while it waits: nothing may need its event loop.
+class Fetch {
+ public:
+  Fetch(foundation::URLTransport& transport, const std::string& address) {
+    transport.start(URL::parse(address).value(), [state = state_](URLResponse response) {
+      if (++state->completions == 1) {
+        state->outcome.set_value({std::move(response), std::this_thread::get_id()});
+      }
+    });
+  }
+
+  Outcome wait() {
+    auto outcome = state_->outcome.get_future();
+    if (outcome.wait_for(seconds(30)) != std::future_status::ready) {
+      ADD_FAILURE() << "the request never completed";
+      return {};
+    }
+    return outcome.get();
+  }
+
+  int completions() const { return state_->completions; }
+
+ private:
+  struct State {
+    std::promise<Outcome> outcome;
+    std::atomic<int> completions = 0;
+  };
+  std::shared_ptr<State> state_ = std::make_shared<State>();
+};
+
+class UrlSession : public ::testing::Test {
+ protected:
+  Outcome fetch(const std::string& path) { return Fetch(transport, server.base() + path).wait(); }
+
+  LoopbackServer server;
+  QtURLTransport transport;
+};
+
+std::string unusedPort() {
+  QTcpServer server;
+  server.listen(QHostAddress::LocalHost);
+  return std::to_string(server.serverPort());
+}
+
+const std::string kTable = R"({"labels":{"hint":"remote"}})";
+const std::string kPacked(
+    "\x1f\x8b\x08\x00\x00\x00\x00\x00\x02\x03\xab\x56\xca\x49\x4c\x4a\xcd\x29\x56\xb2\xaa\x56\xca"
+    "\xc8"
+    "\xcc\x2b\x51\xb2\x52\x2a\x48\x4c\xce\x4e\x4d\x51\xaa\xad\x05\x00\x3f\x78\xc2\x63\x1c\x00\x00"
+    "\x00",
+    48);
+
+struct Case {
+  std::string name;
+  Answer answer;
+  int status;                       // 0 for one that ends with an error
+  std::optional<std::string> body;  // and so is the body
+  bool isError = false;
+};
+
+Case refused(std::string name, Answer answer) {
+  return {std::move(name), std::move(answer), 0, std::nullopt, true};
+}
+
+std::vector<Case> cases() {
+  const auto cut = [](int status) {
+    std::string bytes = httpAnswer(status, kTable);
+    bytes.resize(bytes.size() - 3);
+    return Answer{bytes, SIZE_MAX, true};
+  };
+  const auto plain = [](int status, const std::string& body, const std::string& headers = {}) {
+    return Case{
+        "status " + std::to_string(status), {httpAnswer(status, body, headers)}, status, body};
+  };
+  const std::string chunked = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n";
+  const std::string gzip = "Content-Encoding: gzip\r\n";
+  const std::string binary("\0\xff\n", 3);
+  return {
+      plain(200, kTable),
+      plain(404, kTable),
+      plain(400, kTable),
+      plain(401, kTable, "WWW-Authenticate: Basic realm=\"r\"\r\n"),
+      plain(403, kTable),
+      plain(407, kTable),
+      plain(410, "gone"),
+      plain(418, "teapot"),
+      plain(429, kTable),
+      plain(500, "<html>500</html>"),
+      plain(503, "<html>503</html>"),
+      plain(300, kTable),
+      {"dribbled", {httpAnswer(200, kTable), 1}, 200, kTable},
+      {"empty", {httpAnswer(200, "")}, 200, ""},
+      {"no content", {"HTTP/1.1 204 No Content\r\n\r\n"}, 204, std::nullopt},
+      {"not modified", {"HTTP/1.1 304 Same\r\nContent-Length: 9\r\n\r\n"}, 304, std::nullopt},
+      {"until the end", {"HTTP/1.1 200 OK\r\n\r\n" + kTable, SIZE_MAX, true}, 200, kTable},
+      {"chunked", {chunked + "5\r\n{\"a\":\r\n3\r\n{}}\r\n0\r\n\r\n", 7}, 200, R"({"a":{}})"},
+      {"gzip", {httpAnswer(200, kPacked, gzip), 9}, 200, R"({"labels":{"hint":"packed"}})"},
+      {"no text", {httpAnswer(200, binary)}, 200, binary},
+      refused("cut in the body", cut(200)),
+      refused("cut in an error's body", cut(404)),
+      refused("redirect to nowhere", {httpAnswer(302, kTable)}),
+      refused("cut in the head", {"HTTP/1.1 200 OK\r\nContent-", SIZE_MAX, true}),
+      refused("broken gzip", {httpAnswer(200, "plain", gzip)}),
+      refused("no HTTP at all", {"SSH-2.0-server\r\n\r\n", SIZE_MAX, true}),
+  };
+}
+
+TEST_F(UrlSession, AnswersAreAnswersWhateverTheirStatusAndBrokenOnesAreErrors) {
+  const auto table = cases();
+  std::vector<Fetch> fetches;
+  for (std::size_t i = 0; i < table.size(); ++i) {
+    const std::string path = "/" + std::to_string(i);
+    server.serve(path, {table[i].answer});
+    fetches.emplace_back(transport, server.base() + path);
+  }
+  for (std::size_t i = 0; i < table.size(); ++i) {
+    SCOPED_TRACE(table[i].name);
+    const auto [response, thread] = fetches[i].wait();
+    EXPECT_EQ(response.status, table[i].status);
+    EXPECT_EQ(response.body, table[i].body);
+    EXPECT_EQ(response.error.has_value(), table[i].isError);
+    EXPECT_EQ(response.error ? response.error->domain : "URLSession", "URLSession");
+    EXPECT_NE(thread, std::this_thread::get_id());
+  }
+  fetch("/0");  // whatever else the first requests had to say would have come before this
+  for (const Fetch& each : fetches) EXPECT_EQ(each.completions(), 1);
+}
+
+TEST_F(UrlSession, FollowsRedirectsOverHttpOnly) {
+  const auto to = [](const std::string& place) {
+    return Answer{httpAnswer(302, "moved", "Location: " + place + "\r\n")};
+  };
+  server.serve("/table", {{httpAnswer(200, kTable)}});
+  server.serve("/hop", {to("/table")});
+  server.serve("/two", {to(server.base() + "/hop")});
+  server.serve("/loop", {to("/loop")});
+  server.serve("/file", {to("file:///etc/hostname")});
+  server.serve("/data", {to("data:text/plain,inside")});
+
+  EXPECT_EQ(fetch("/hop").response.body, kTable);
+  EXPECT_EQ(fetch("/two").response.body, kTable);
+  for (const auto& [path, error] : {std::pair{"/loop", QNetworkReply::TooManyRedirectsError},
+                                    std::pair{"/file", QNetworkReply::ProtocolUnknownError},
+                                    std::pair{"/data", QNetworkReply::ProtocolUnknownError}}) {
+    const URLResponse response = fetch(path).response;
+    ASSERT_TRUE(response.error) << path;
+    EXPECT_EQ(response.error->code, error) << path;
+    EXPECT_FALSE(response.body) << path;
+  }
+}
+
+TEST_F(UrlSession, SendsAPlainGetOfTheAddress) {
+  const struct {
+    std::string address, target;
+  } table[] = {
+      {"/es-MX.json", "/es-MX.json"},
+      {"/a b.json?x=%26&y=1+2", "/a%20b.json?x=%26&y=1+2"},
+      {"/a%2Fb//c.json", "/a%2Fb//c.json"},
+      {"/caf\u00e9.json", "/caf%C3%A9.json"},
+      {"/100%.json", "/100%25.json"},
+      {"/fragment#.json", "/fragment"},
+      {"?query", "/?query"},
+  };
+  for (const auto& [address, target] : table) {
+    fetch(address);
+    const auto requests = server.requests(target);
+    ASSERT_EQ(requests.size(), 1u) << address;
+    EXPECT_THAT(requests[0], ::testing::StartsWith("GET " + target + " HTTP/1.1"));
+    EXPECT_THAT(requests[0], ::testing::Not(::testing::HasSubstr("Cache-Control")));
+  }
+}
+
+TEST_F(UrlSession, TakesALargeBodyWithoutTheMainThread) {
+  std::string body(50 << 20, '\0');
+  for (std::size_t i = 0; i < body.size(); ++i) body[i] = static_cast<char>(i * 31 + i / 4096);
+  server.serve("/large", {{httpAnswer(200, body)}});
+  const auto [response, thread] = fetch("/large");
+  EXPECT_TRUE(response.body == body);  // not EXPECT_EQ, which would print both
+  EXPECT_NE(thread, std::this_thread::get_id());
+}
+
+TEST_F(UrlSession, RefusesWhatItCannotReachOrMayNotRead) {
+  const struct {
+    std::string address;
+    QNetworkReply::NetworkError error;
+  } table[] = {
+      {"http://127.0.0.1:" + unusedPort() + "/", QNetworkReply::ConnectionRefusedError},
+      {"file:///etc/hostname", QNetworkReply::ProtocolUnknownError},
+      {"data:text/plain,inside", QNetworkReply::ProtocolUnknownError},
+      {"qrc:/qt-project.org/", QNetworkReply::ProtocolUnknownError},
+  };
+  for (const auto& [address, error] : table) {
+    const URLResponse response = Fetch(transport, address).wait().response;
+    ASSERT_TRUE(response.error) << address;
+    EXPECT_EQ(response.error->code, error) << address;
+  }
+}
+
+TEST_F(UrlSession, GivesUpOnARequestThatStandsStill) {
+  QtURLTransport impatient{std::chrono::milliseconds(100)};
+  server.serve("/still", {{httpAnswer(200, kTable), SIZE_MAX, false, "never"}});
+  const URLResponse response = Fetch(impatient, server.base() + "/still").wait().response;
+  ASSERT_TRUE(response.error);
+  EXPECT_EQ(response.error->code, QNetworkReply::OperationCanceledError);
+}
+
+TEST_F(UrlSession, StandInServesAnOrigin) {
+  server.serve("/v1/es.json?q=1", {{httpAnswer(200, kTable)}});
+  transport.redirectOrigin("https://API.shop.example", server.base());
+  for (const char* address :
+       {"https://api.shop.example/v1/es.json?q=1", "https://api.shop.example:443/v1/es.json?q=1"}) {
+    EXPECT_EQ(Fetch(transport, address).wait().response.body, kTable) << address;
+  }
+  // Loopback has no server for these, and no name service either.
+  transport.redirectOrigin("https://127.0.0.1:1", "not a server");
+  EXPECT_TRUE(Fetch(transport, "https://127.0.0.1:1/v1/es.json?q=1").wait().response.error);
+}
+
+TEST_F(UrlSession, ProtocolAnswersBeforeTheNetworkOnTheSessionsThread) {
+  server.serve("/x", {{httpAnswer(200, "network")}});
+  std::atomic<std::thread::id> ranOn;
+  auto token = foundation::URLSession::shared().registerProtocol(
+      [&](const URL& url) -> std::optional<URLResponse> {
+        ranOn = std::this_thread::get_id();
+        if (url.absoluteString().find("inside") == std::string::npos) return std::nullopt;
+        return URLResponse{{}, "protocol", 0};
+      });
+  const auto [inside, thread] = Fetch(transport, server.base() + "/inside").wait();
+  EXPECT_EQ(inside.body, "protocol");
+  EXPECT_EQ(thread, ranOn.load());
+  EXPECT_NE(thread, std::this_thread::get_id());
+  const auto [outside, again] = fetch("/x");
+  EXPECT_EQ(outside.body, "network");
+  EXPECT_EQ(thread, again);  // one thread for all of them
+  EXPECT_TRUE(server.requests("/inside").empty());
+}
+
+TEST_F(UrlSession, CompletionMayStartTheNextRequest) {
+  server.serve("/x", {{httpAnswer(200, kTable)}});
+  std::promise<std::optional<std::string>> second;
+  const URL url = URL::parse(server.base() + "/x").value();
+  transport.start(url, [&](const URLResponse&) {
+    transport.start(url, [&](const URLResponse& response) { second.set_value(response.body); });
+  });
+  auto body = second.get_future();
+  ASSERT_EQ(body.wait_for(seconds(30)), std::future_status::ready);
+  EXPECT_EQ(body.get(), kTable);
+}
+
+// The application's end needs a process of its own.
+class UrlSessionDeathTest : public UrlSession {
+ protected:
+  UrlSessionDeathTest() { GTEST_FLAG_SET(death_test_style, "threadsafe"); }
+
+  bool wasCancelled(Fetch& fetch) {
+    const auto error = fetch.wait().response.error;
+    return error && error->code == QNetworkReply::OperationCanceledError &&
+           fetch.completions() == 1;
+  }
+
+  /// A request that is on its way and gets no answer.
+  Fetch stalled() {
+    server.serve("/still", {{httpAnswer(200, kTable), SIZE_MAX, false, "never"}});
+    Fetch fetch(transport, server.base() + "/still");
+    while (server.requests("/still").empty()) std::this_thread::yield();
+    return fetch;
+  }
+};
+
+[[noreturn]] void leave(bool passed) { std::_Exit(passed ? 0 : 1); }
+
+TEST_F(UrlSessionDeathTest, EndsWithTheApplicationAndBeginsAnewWithTheNext) {
+  EXPECT_EXIT(
+      {
+        Fetch inFlight = stalled();
+        delete QCoreApplication::instance();
+        const bool ended = inFlight.completions() == 1 && wasCancelled(inFlight);
+        Fetch without(transport, server.base() + "/x");
+        const bool refused = wasCancelled(without);
+
+        int argc = 0;
+        QCoreApplication next(argc, nullptr);
+        LoopbackServer nextServer;
+        nextServer.serve("/x", {{httpAnswer(200, kTable)}});
+        Fetch again(transport, nextServer.base() + "/x");
+        leave(ended && refused && again.wait().response.body == kTable);
+      },
+      ::testing::ExitedWithCode(0), "");
+}
+
+TEST_F(UrlSessionDeathTest, ProcessMayExitWithARequestInFlight) {
+  EXPECT_EXIT(
+      {
+        stalled();
+        std::exit(0);
+      },
+      ::testing::ExitedWithCode(0), "");
+}
+
+}  // namespace
+}  // namespace quorix::testing
