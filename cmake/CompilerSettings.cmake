@@ -13,8 +13,10 @@ else()
 endif()
 
 if(QUORIX_SANITIZE)
-  add_compile_options(-fsanitize=${QUORIX_SANITIZE} -fno-omit-frame-pointer
-    $<$<STREQUAL:${QUORIX_SANITIZE},address$<COMMA>undefined>:-fno-sanitize-recover=undefined>)
+  add_compile_options(-fsanitize=${QUORIX_SANITIZE} -fno-omit-frame-pointer)
+  if(QUORIX_SANITIZE MATCHES "undefined")
+    add_compile_options(-fno-sanitize-recover=undefined)
+  endif()
   add_link_options(-fsanitize=${QUORIX_SANITIZE})
 endif()
 
