@@ -109,21 +109,31 @@ void tap(QQuickWindow& window, const QQuickItem& item) {
   }
 }
 
-QImage pictureOf(const ShopScene& scene) {
-  ShopWindow shop;
-  shop.choose(scene.choices);
-  shop.row().setMoving(false);
-  shop.window().show();
-  settle();
-  shop.window().grabWindow();  // the first frame finds out what is to be seen
-  settle();
-  if (scene.sheet) {
-    tap(shop.window(), shop.row());
-    settle();
-    shop.window().grabWindow();  // the sheet is measured in its first frame
-    settle();
+void press(QQuickWindow& window, Qt::Key key) {
+  for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+    QKeyEvent event(type, key, Qt::NoModifier);
+    QCoreApplication::sendEvent(&window, &event);
   }
-  return shop.window().grabWindow();
+}
+
+/// A first frame finds out what is to be seen and how large it is; what follows from that is in
+/// the next one.
+QImage frameOf(QQuickWindow& window) {
+  settle();
+  window.grabWindow();
+  settle();
+  return window.grabWindow();
+}
+
+QImage pictureOf(ShopWindow& shop, const ShopScene& scene) {
+  shop.choose(scene.choices);
+  const QImage page = frameOf(shop.window());
+  if (!scene.sheet) return page;
+  tap(shop.window(), shop.row());
+  const QImage sheet = frameOf(shop.window());
+  press(shop.window(), Qt::Key_Escape);
+  settle();
+  return sheet;
 }
 
 }  // namespace
@@ -143,8 +153,14 @@ bool Pictures::writeWidgets() {
 }
 
 bool Pictures::writeShop() {
+  ShopWindow shop;
+  shop.row().setMoving(false);
+  shop.window().show();
+  while (!shop.window().isExposed()) {
+    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+  }
   return std::ranges::all_of(
-      shopScenes, [this](const ShopScene& scene) { return save(pictureOf(scene), scene.name); });
+      shopScenes, [&](const ShopScene& scene) { return save(pictureOf(shop, scene), scene.name); });
 }
 
 bool Pictures::save(const QImage& image, const char* name) const {

@@ -5,6 +5,7 @@
 #include <QPalette>
 #include <QVariantMap>
 
+#include "QuorixWidgets/localization/TovaFont.h"
 #include "examples/shop/Shopper.h"
 
 namespace quorix::examples {
@@ -44,11 +45,13 @@ QVariantList Shop::languages() {
 }
 
 QVariantList Shop::faces() {
+  const char* regular = TovaFont::regular().name().c_str();
+  const char* semiBold = "TovaSansLatin-SemiBold";
   return {
       face("Widget's own face", "", "", "large"),
-      face("Shop's face", "Open Sans", "Open Sans SemiBold", "large"),
-      face("Shop's face, larger", "Open Sans", "Open Sans SemiBold", "extraExtraExtraLarge"),
-      face("Shop's face, largest", "Open Sans", "Open Sans SemiBold", "accessibilityLarge"),
+      face("Shop's face", regular, semiBold, "large"),
+      face("Shop's face, larger", regular, semiBold, "extraExtraExtraLarge"),
+      face("Shop's face, largest", regular, semiBold, "accessibilityLarge"),
   };
 }
 

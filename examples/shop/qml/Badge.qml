@@ -17,7 +17,7 @@ Rectangle {
         id: label
         anchors.centerIn: parent
         text: parent.count
-        color: parent.colors.onAccent
+        color: parent.colors.accentInk
         font.pixelSize: 11
         font.weight: Font.DemiBold
     }

@@ -7,9 +7,10 @@ ComboBox {
     id: choice
 
     required property string caption
+    property real share: 1  // of the bar's width
 
     Layout.fillWidth: true
-    Layout.preferredWidth: 1
+    Layout.preferredWidth: share
     implicitHeight: 42
     leftPadding: 10
     rightPadding: 26

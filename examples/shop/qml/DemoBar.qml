@@ -50,6 +50,7 @@ Rectangle {
 
         Choice {
             id: shopperChoice
+            share: 1.2
             caption: "Shopper"
             model: Shop.shoppers
             textRole: "name"
@@ -66,6 +67,7 @@ Rectangle {
 
         Choice {
             id: appearanceChoice
+            share: 1.2
             caption: "Appearance"
             model: ["As the desktop", "Light", "Dark"]
             onActivated: (index) => bar.appearanceChosen(index)

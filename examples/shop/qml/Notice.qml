@@ -56,7 +56,7 @@ Rectangle {
         Text {
             id: label
             anchors.verticalCenter: parent.verticalCenter
-            color: notice.colors.onNotice
+            color: notice.colors.noticeInk
             font.pixelSize: 14
         }
     }

@@ -10,7 +10,7 @@ AbstractButton {
 
     contentItem: Text {
         text: button.text
-        color: button.colors.onAccent
+        color: button.colors.accentInk
         font.pixelSize: 16
         font.weight: Font.DemiBold
         horizontalAlignment: Text.AlignHCenter

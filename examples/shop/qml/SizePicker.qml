@@ -20,6 +20,7 @@ Column {
     }
 
     Row {
+        anchors.left: parent.left
         spacing: 8
 
         Repeater {
@@ -40,7 +41,7 @@ Column {
 
                 contentItem: Text {
                     text: chip.modelData
-                    color: chip.chosen ? picker.colors.onAccent : picker.colors.ink
+                    color: chip.chosen ? picker.colors.accentInk : picker.colors.ink
                     font.pixelSize: 14
                     font.weight: chip.chosen ? Font.DemiBold : Font.Normal
                     horizontalAlignment: Text.AlignHCenter

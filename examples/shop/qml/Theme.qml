@@ -10,7 +10,7 @@ QtObject {
     readonly property color quiet: dark ? "#aeaeb2" : "#636366"
     readonly property color hairline: dark ? "#36363a" : "#e4e4e8"
     readonly property color accent: dark ? "#a9d5c0" : "#1f4a3d"
-    readonly property color onAccent: dark ? "#10241d" : "#ffffff"
+    readonly property color accentInk: dark ? "#10241d" : "#ffffff"
     readonly property color notice: dark ? "#f5f5f7" : "#26262a"
-    readonly property color onNotice: dark ? "#1a1a1c" : "#ffffff"
+    readonly property color noticeInk: dark ? "#1a1a1c" : "#ffffff"
 }
