@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QGuiApplication>
 #include <QNetworkReply>
+#include <QSslConfiguration>
 #include <QTcpServer>
 #include <atomic>
 #include <chrono>
@@ -182,6 +183,33 @@ TEST_F(UrlSession, FollowsRedirectsOverHttpOnly) {
     EXPECT_EQ(response.error->code, error) << path;
     EXPECT_FALSE(response.body) << path;
   }
+}
+
+TEST_F(UrlSession, KeepsToASecureConnection) {
+  LoopbackServer secure(LoopbackServer::Scheme::https);
+  secure.serve("/table", {{httpAnswer(200, kTable)}});
+  secure.serve("/stay", {{httpAnswer(302, "", "Location: /table\r\n")}});
+  secure.serve("/leave", {{httpAnswer(302, "", "Location: " + server.base() + "/table\r\n")}});
+  server.serve("/table", {{httpAnswer(200, kTable)}});
+  server.serve("/enter", {{httpAnswer(302, "", "Location: " + secure.base() + "/table\r\n")}});
+
+  const auto errorOf = [&](const std::string& address) {
+    const URLResponse response = Fetch(transport, address).wait().response;
+    return response.error ? response.error->code : 0;
+  };
+  // Of another server, because Qt keeps to what it once found of one.
+  const LoopbackServer untrusted(LoopbackServer::Scheme::https);
+  EXPECT_EQ(errorOf(untrusted.base() + "/table"), QNetworkReply::SslHandshakeFailedError);
+  const auto before = QSslConfiguration::defaultConfiguration();
+  auto trusting = before;
+  trusting.addCaCertificate(LoopbackServer::certificate());
+  QSslConfiguration::setDefaultConfiguration(trusting);
+  EXPECT_EQ(errorOf(secure.base() + "/table"), 0);
+  EXPECT_EQ(errorOf(secure.base() + "/stay"), 0);
+  EXPECT_EQ(errorOf(server.base() + "/enter"), 0);
+  EXPECT_EQ(errorOf(secure.base() + "/leave"), QNetworkReply::InsecureRedirectError);
+  EXPECT_TRUE(server.requests("/table").empty());
+  QSslConfiguration::setDefaultConfiguration(before);
 }
 
 TEST_F(UrlSession, SendsAPlainGetOfTheAddress) {
