@@ -1,6 +1,5 @@
 #include "QuorixWidgets/data/TokenData.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "platform/foundation/Base64.h"
@@ -16,11 +15,9 @@ constexpr std::size_t kLikelyPayload = 16 * 1024;
 
 std::optional<std::string> decodePayload(std::string_view piece) {
   std::string text(piece);
-  std::replace(text.begin(), text.end(), '-', '+');
-  std::replace(text.begin(), text.end(), '_', '/');
   // Counting bytes is enough: a payload in which characters are longer than that is no base64.
   if (const std::size_t rest = text.size() % 4; rest != 0) text.append(4 - rest, '=');
-  return foundation::decodeBase64(text);
+  return foundation::decodeBase64(text, foundation::Base64Alphabet::either);
 }
 
 TokenReading readFigures(const foundation::JSONValue& data) {

@@ -12,39 +12,55 @@ constexpr std::string_view kAlphabet =
 /// Above every six-bit value, so that a whole quantum is checked with one comparison.
 constexpr std::uint32_t kInvalid = 1u << 31;
 
-constexpr auto kValues = [] {
-  std::array<std::uint32_t, 256> values{};
+using Values = std::array<std::uint32_t, 256>;
+
+constexpr Values valuesOf(Base64Alphabet alphabet) {
+  Values values{};
   values.fill(kInvalid);
   for (std::uint32_t i = 0; i < kAlphabet.size(); ++i) {
     values[static_cast<unsigned char>(kAlphabet[i])] = i;
   }
+  if (alphabet == Base64Alphabet::either) {
+    values['-'] = values['+'];
+    values['_'] = values['/'];
+  }
   return values;
-}();
+}
+
+constexpr Values kStandard = valuesOf(Base64Alphabet::standard);
+constexpr Values kEither = valuesOf(Base64Alphabet::either);
 
 /// Four characters as 24 bits, or a value with `kInvalid` set.
-std::uint32_t quantum(char a, char b, char c, char d) {
-  const auto value = [](char character) { return kValues[static_cast<unsigned char>(character)]; };
-  const std::uint32_t invalid = (value(a) | value(b) | value(c) | value(d)) & kInvalid;
-  return invalid | value(a) << 18 | value(b) << 12 | value(c) << 6 | value(d);
+std::uint32_t quantum(const Values& values, const char* text) {
+  const auto value = [&](int i) { return values[static_cast<unsigned char>(text[i])]; };
+  const std::uint32_t invalid = (value(0) | value(1) | value(2) | value(3)) & kInvalid;
+  return invalid | value(0) << 18 | value(1) << 12 | value(2) << 6 | value(3);
 }
 
 }  // namespace
 
-std::optional<std::string> decodeBase64(std::string_view text) {
+std::optional<std::string> decodeBase64(std::string_view text, Base64Alphabet alphabet) {
   if (text.size() % 4 != 0) return std::nullopt;
-  const std::size_t padding = !text.ends_with('=') ? 0 : text.ends_with("==") ? 2 : 1;
   std::string bytes(text.size() / 4 * 3, '\0');
+  if (text.empty()) return bytes;
+
+  const Values& values = alphabet == Base64Alphabet::either ? kEither : kStandard;
   char* out = bytes.data();
-  for (std::size_t i = 0; i < text.size(); i += 4) {
-    const bool last = i + 4 == text.size();
-    const std::uint32_t bits =
-        quantum(text[i], text[i + 1], last && padding == 2 ? 'A' : text[i + 2],
-                last && padding > 0 ? 'A' : text[i + 3]);
-    if (bits & kInvalid) return std::nullopt;
+  std::uint32_t invalid = 0;
+  const auto decode = [&](const char* four) {
+    const std::uint32_t bits = quantum(values, four);
+    invalid |= bits & kInvalid;
     *out++ = static_cast<char>(bits >> 16);
     *out++ = static_cast<char>(bits >> 8);
     *out++ = static_cast<char>(bits);
-  }
+  };
+  const std::size_t padding = !text.ends_with('=') ? 0 : text.ends_with("==") ? 2 : 1;
+  const std::size_t last = text.size() - 4;
+  for (std::size_t i = 0; i < last; i += 4) decode(text.data() + i);
+  char end[4] = {text[last], text[last + 1], text[last + 2], text[last + 3]};
+  for (std::size_t i = 4 - padding; i < 4; ++i) end[i] = kAlphabet[0];
+  decode(end);
+  if (invalid) return std::nullopt;
   bytes.resize(bytes.size() - padding);
   return bytes;
 }

@@ -6,12 +6,17 @@
 
 namespace quorix::foundation {
 
-/// The bytes that `text` spells in standard, padded base64, or nothing. Strict: a character outside
-/// the alphabet (a line break too) and missing, surplus or misplaced padding are refused; bits left
+/// The alphabets that a text may be written in; `either` also takes the URL-safe "-" and "_" for
+/// the standard "+" and "/".
+enum class Base64Alphabet { standard, either };
+
+/// The bytes that `text` spells in padded base64, or nothing. Strict: a character outside the
+/// alphabet (a line break too) and missing, surplus or misplaced padding are refused; bits left
 /// over before the padding are ignored. Any thread.
 ///
 ///     decodeBase64("AAE=")  // the bytes 0 and 1
-std::optional<std::string> decodeBase64(std::string_view text);
+std::optional<std::string> decodeBase64(std::string_view text,
+                                        Base64Alphabet alphabet = Base64Alphabet::standard);
 
 /// `bytes` in standard base64 with padding. Any thread.
 std::string encodeBase64(std::string_view bytes);

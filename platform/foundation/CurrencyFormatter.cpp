@@ -1,8 +1,10 @@
 #include "platform/foundation/CurrencyFormatter.h"
 
 #include <unicode/currunit.h>
+#include <unicode/dcfmtsym.h>
 #include <unicode/numberformatter.h>
 #include <unicode/ucurr.h>
+#include <unicode/ures.h>
 
 #include <algorithm>
 #include <map>
@@ -26,18 +28,32 @@ bool isCurrencyCode(std::string_view text) {
          });
 }
 
-/// The code as given; for a text that is none, the currency of the language's region where it names
-/// one, and otherwise no currency, which shows as the generic sign.
-icu::CurrencyUnit currencyUnit(const std::string& code, const icu::Locale& language) {
+/// The language, or the neutral root where the locale data does not know it: left to itself ICU
+/// would take the process's own language instead.
+icu::Locale knownLanguage(const std::string& code) {
+  icu::Locale language(code.c_str());
   UErrorCode status = U_ZERO_ERROR;
-  if (isCurrencyCode(code)) return {icu::StringPiece(code), status};
+  const icu::LocalUResourceBundlePointer data(ures_open(nullptr, language.getName(), &status));
+  return U_FAILURE(status) || status == U_USING_DEFAULT_WARNING ? icu::Locale::getRoot() : language;
+}
+
+icu::number::LocalizedNumberFormatter makeFormatter(const Locale& locale) {
+  const icu::Locale language = knownLanguage(locale.languageCode);
+  const auto formatter = icu::number::NumberFormatter::withLocale(language);
+  const std::string& code = locale.currencyCode;
+  UErrorCode status = U_ZERO_ERROR;
+  if (isCurrencyCode(code)) return formatter.unit(icu::CurrencyUnit(code, status));
+  // A text that is no code gives way to the currency of the language's region.
   UChar regional[4] = {};
   if (!code.empty() && *language.getCountry() != '\0' &&
       ucurr_forLocale(language.getName(), regional, 4, &status) == 3 && U_SUCCESS(status)) {
-    return {regional, status};
+    return formatter.unit(icu::CurrencyUnit(regional, status));
   }
+  // Without one, the generic sign, which some languages' data would spell "XXX".
   status = U_ZERO_ERROR;
-  return {u"XXX", status};
+  icu::DecimalFormatSymbols symbols(language, status);
+  symbols.setSymbol(icu::DecimalFormatSymbols::kCurrencySymbol, u"\u00A4");
+  return formatter.symbols(symbols).unit(icu::CurrencyUnit());
 }
 
 }  // namespace
@@ -48,10 +64,7 @@ std::shared_ptr<const CurrencyFormatter::Engine> CurrencyFormatter::engine(const
   const std::scoped_lock lock(mutex);
   if (const auto found = engines.find(locale); found != engines.end()) return found->second;
   if (engines.size() >= kCachedEngines) engines.clear();
-  const icu::Locale language(locale.languageCode.c_str());
-  auto made =
-      std::make_shared<Engine>(Engine{icu::number::NumberFormatter::withLocale(language).unit(
-          currencyUnit(locale.currencyCode, language))});
+  auto made = std::make_shared<Engine>(Engine{makeFormatter(locale)});
   return engines[locale] = std::move(made);
 }
 

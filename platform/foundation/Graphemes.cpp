@@ -36,6 +36,7 @@ bool endsWithPrepend(std::string_view text) {
 
 std::vector<std::string_view> splitCharacters(std::string_view text, char separator) {
   std::vector<std::string_view> pieces;
+  pieces.reserve(4);  // most texts have few
   const auto add = [&](std::size_t start, std::size_t end) {
     if (end > start) pieces.push_back(text.substr(start, end - start));
   };

@@ -29,7 +29,8 @@ struct JSONDocument::State {
   simdjson::error_code add(simdjson::ondemand::value value, std::string_view key, int depth);
   simdjson::error_code addArray(simdjson::ondemand::value& value, int depth);
   simdjson::error_code addObject(simdjson::ondemand::value& value, int depth);
-  static simdjson::error_code readScalar(simdjson::ondemand::value& value, JSONValue::Node& node);
+  static simdjson::error_code readScalar(simdjson::ondemand::value& value,
+                                         simdjson::ondemand::json_type type, JSONValue::Node& node);
 };
 
 namespace {
@@ -39,10 +40,10 @@ constexpr int kMaximumDepth = 600;
 
 Error describe(simdjson::error_code failure) {
   using Code = JSONDocument::ErrorCode;
-  const Code code = failure == simdjson::DEPTH_ERROR                ? Code::tooDeep
-                    : failure == simdjson::SCALAR_DOCUMENT_AS_VALUE ? Code::notContainer
-                                                                    : Code::malformed;
-  return {"JSON", static_cast<std::int64_t>(code), simdjson::error_message(failure)};
+  const Code code = failure == simdjson::DEPTH_ERROR ? Code::tooDeep : Code::malformed;
+  return {"JSON", static_cast<std::int64_t>(code),
+          failure == simdjson::SCALAR_DOCUMENT_AS_VALUE ? "The text is no object and no array."
+                                                        : simdjson::error_message(failure)};
 }
 
 /// A scalar's token reaches to the next one; its own text ends before the white space.
@@ -53,9 +54,8 @@ std::string_view trimmed(std::string_view token) {
 }  // namespace
 
 simdjson::error_code JSONDocument::State::readScalar(simdjson::ondemand::value& value,
+                                                     simdjson::ondemand::json_type type,
                                                      JSONValue::Node& node) {
-  simdjson::ondemand::json_type type;
-  if (const auto failure = value.type().get(type)) return failure;
   switch (type) {
     case simdjson::ondemand::json_type::string:
       node.kind = Kind::string;
@@ -81,15 +81,16 @@ simdjson::error_code JSONDocument::State::readScalar(simdjson::ondemand::value& 
 
 simdjson::error_code JSONDocument::State::add(simdjson::ondemand::value value, std::string_view key,
                                               int depth) {
-  const std::size_t index = nodes.size();
   JSONValue::Node& node = nodes.emplace_back();
   node.key = key;
   simdjson::ondemand::json_type type;
   if (const auto failure = value.type().get(type)) return failure;
   const bool isArray = type == simdjson::ondemand::json_type::array;
-  if (!isArray && type != simdjson::ondemand::json_type::object) return readScalar(value, node);
+  if (!isArray && type != simdjson::ondemand::json_type::object)
+    return readScalar(value, type, node);
   if (depth == kMaximumDepth) return simdjson::DEPTH_ERROR;
   node.kind = isArray ? Kind::array : Kind::object;
+  const std::size_t index = nodes.size() - 1;
   const auto failure = isArray ? addArray(value, depth + 1) : addObject(value, depth + 1);
   nodes[index].span = nodes.size() - index;
   return failure;

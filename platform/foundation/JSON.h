@@ -51,7 +51,7 @@ class JSONValue {
 class JSONDocument {
  public:
   /// The codes of `parse`'s errors, whose domain is "JSON".
-  enum class ErrorCode : std::int64_t { malformed = 1, notContainer = 2, tooDeep = 3 };
+  enum class ErrorCode : std::int64_t { malformed = 1, tooDeep = 2 };
 
   JSONDocument();
   JSONDocument(JSONDocument&&) noexcept;

@@ -17,7 +17,7 @@ constexpr double flickSpeed = 600;        // points a second
 constexpr double upwardResistance = 0.2;  // of a drag above the sheet's height
 constexpr double settledWithin = 0.5;     // points
 
-graphics::RGBA panelColor(graphics::Appearance appearance) {
+graphics::RGBA colorOfPanel(graphics::Appearance appearance) {
   return appearance == graphics::Appearance::dark ? graphics::RGBA{28, 28, 30, 255}
                                                   : graphics::RGBA{255, 255, 255, 255};
 }
@@ -29,8 +29,13 @@ struct SheetPresenter::State final : ViewHost::Client {
       : client(surface), content(engine, *this) {}
 
   void viewNeedsDisplay() override {
-    overlay.reset();
+    contentChanged();
     client.sheetNeedsDisplay();
+  }
+  void contentChanged() {
+    overlay.reset();
+    panelAtRest.reset();
+    ++panelRevision;
   }
   void presentationChanged() override {}  // the content of a sheet presents no sheet of its own
 
@@ -56,6 +61,9 @@ struct SheetPresenter::State final : ViewHost::Client {
     dragging = false;
     drag = 0;
   }
+  const render::Scene& contentScene() {
+    return content.scene({geometry.panelWidth(), restingHeight() - geometry.bottomInset()});
+  }
   void close();
 
   SheetPresenter::Client& client;
@@ -63,6 +71,8 @@ struct SheetPresenter::State final : ViewHost::Client {
   SheetGeometry geometry;
   std::optional<swiftui::Presentation> presentation;
   std::optional<render::Scene> overlay;
+  std::optional<render::Scene> panelAtRest;
+  unsigned panelRevision = 0;
   double revealed = 0;  ///< points of the panel that have risen
   double drag = 0;      ///< points that the finger holds it down
   std::optional<layout::Point> press;
@@ -91,7 +101,7 @@ void SheetPresenter::setEnvironment(const swiftui::Environment& environment) {
 void SheetPresenter::setWindow(layout::Size size, layout::EdgeInsets safeArea) {
   const bool atRest = !isMoving();
   state_->geometry = {size, safeArea};
-  state_->overlay.reset();
+  state_->contentChanged();
   if (atRest && state_->presentation) state_->revealed = state_->target();
   state_->client.sheetNeedsDisplay();
 }
@@ -136,23 +146,47 @@ bool SheetPresenter::advance(double seconds) {
 const render::Scene& SheetPresenter::scene() {
   State& state = *state_;
   if (state.overlay) return *state.overlay;
-  const layout::Rect panel = state.panel();
-  const double resting = state.restingHeight();
-  const render::Scene& content =
-      state.content.scene({state.geometry.panelWidth(), resting - state.geometry.bottomInset()});
-  const double risen = resting > 0 ? std::clamp(state.revealed / resting, 0.0, 1.0) : 0;
+  const render::Scene& content = state.contentScene();
 
   render::Scene overlay;
   overlay.size = state.geometry.window;
   overlay.appearance = content.appearance;
-  const auto shade = static_cast<std::uint8_t>(std::lround(255 * dimming * risen));
-  overlay.items.push_back(render::FillItem{{{}, overlay.size}, {0, 0, 0, shade}});
-  overlay.items.push_back(
-      render::FillItem{panel, panelColor(overlay.appearance), SheetGeometry::cornerRadius});
-  overlay.append(content, panel.origin);
+  overlay.items.emplace_back(std::in_place_type<render::FillItem>,
+                             render::FillItem{{{}, overlay.size}, shade(), 0});
+  overlay.items.emplace_back(
+      std::in_place_type<render::FillItem>,
+      render::FillItem{state.panel(), panelColor(), SheetGeometry::cornerRadius});
+  overlay.append(content, state.panel().origin);
   state.overlay = std::move(overlay);
   return *state.overlay;
 }
+
+graphics::RGBA SheetPresenter::shade() {
+  const double resting = state_->restingHeight();
+  const double risen = resting > 0 ? std::clamp(state_->revealed / resting, 0.0, 1.0) : 0;
+  return {0, 0, 0, static_cast<std::uint8_t>(std::lround(255 * dimming * risen))};
+}
+
+const render::Scene& SheetPresenter::panel() {
+  State& state = *state_;
+  if (state.panelAtRest) return *state.panelAtRest;
+  const render::Scene& content = state.contentScene();
+  render::Scene panel;
+  panel.size = {content.size.width, content.size.height + state.geometry.bottomInset()};
+  panel.appearance = content.appearance;
+  panel.items.emplace_back(
+      std::in_place_type<render::FillItem>,
+      render::FillItem{{{}, panel.size}, panelColor(), SheetGeometry::cornerRadius});
+  panel.append(content, {});
+  state.panelAtRest = std::move(panel);
+  return *state.panelAtRest;
+}
+
+graphics::RGBA SheetPresenter::panelColor() const {
+  return colorOfPanel(state_->content.environment().appearance);
+}
+
+unsigned SheetPresenter::panelRevision() const { return state_->panelRevision; }
 
 layout::Rect SheetPresenter::panelFrame() const { return state_->panel(); }
 

@@ -47,6 +47,17 @@ class SheetPresenter {
   const render::Scene& scene();
   layout::Rect panelFrame() const;
 
+  // The same in parts, for a surface that moves pictures rather than paint each frame anew.
+
+  /// What lies over the window behind the panel.
+  graphics::RGBA shade();
+  /// The panel at rest, from its own top left: motion leaves it as it is, and `panelFrame` says
+  /// where it stands. Where it does not reach the window's bottom, `panelColor` goes on.
+  const render::Scene& panel();
+  graphics::RGBA panelColor() const;
+  /// Another number whenever `panel` may have changed.
+  unsigned panelRevision() const;
+
   void pointerPressed(layout::Point point);
   void pointerMoved(layout::Point point);
   /// `velocity` is the finger's downward speed in points a second.

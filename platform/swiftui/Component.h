@@ -26,8 +26,8 @@ class Component {
   virtual ~Component() = default;
   virtual std::string_view name() const = 0;
   virtual bool isModifier() const = 0;
-  /// The body, with the states bound to `slots`, which the first call fills.
-  virtual View body(StateSlots& slots) const = 0;
+  /// The body, with the states bound to `states`, which the first call fills.
+  virtual View body(StateSlots& states) const = 0;
   /// Visits the objects whose changes re-evaluate the body.
   virtual void visitObserved(
       const std::function<void(combine::ObservableObject&)>& visit) const = 0;
@@ -36,22 +36,22 @@ class Component {
 namespace detail {
 
 template <class T>
-void bind(const State<T>& state, std::size_t index, StateSlots& slots) {
+void bind(const State<T>& state, std::size_t index, StateSlots& states) {
   using Box = std::shared_ptr<StateBox<T>>;
-  if (index == slots.boxes.size()) {
-    auto box = std::make_shared<StateBox<T>>(StateBox<T>{state.get(), slots.onChange});
-    slots.boxes.emplace_back(std::move(box));
+  if (index == states.boxes.size()) {
+    auto box = std::make_shared<StateBox<T>>(StateBox<T>{state.get(), states.onChange});
+    states.boxes.emplace_back(std::move(box));
   }
-  state.adopt(std::any_cast<const Box&>(slots.boxes[index]));
+  state.adopt(std::any_cast<const Box&>(states.boxes[index]));
 }
 
 template <class V>
-void bindStates(const V& value, StateSlots& slots) {
+void bindStates(const V& value, StateSlots& states) {
   if constexpr (requires { value.states(); }) {
     std::apply(
         [&](const auto&... state) {
           std::size_t index = 0;
-          (bind(state, index++, slots), ...);
+          (bind(state, index++, states), ...);
         },
         value.states());
   }
@@ -70,9 +70,9 @@ class ViewComponent final : public Component {
   explicit ViewComponent(V value) : value_(std::move(value)) {}
   std::string_view name() const override { return V::typeName; }
   bool isModifier() const override { return false; }
-  View body(StateSlots& slots) const override {
+  View body(StateSlots& states) const override {
     const V bound = value_;
-    bindStates(bound, slots);
+    bindStates(bound, states);
     return bound.body();
   }
   void visitObserved(const std::function<void(combine::ObservableObject&)>& visit) const override {
@@ -90,9 +90,9 @@ class ModifierComponent final : public Component {
       : value_(std::move(value)), content_(std::move(content)) {}
   std::string_view name() const override { return M::typeName; }
   bool isModifier() const override { return true; }
-  View body(StateSlots& slots) const override {
+  View body(StateSlots& states) const override {
     const M bound = value_;
-    bindStates(bound, slots);
+    bindStates(bound, states);
     return bound.body(content_);
   }
   void visitObserved(const std::function<void(combine::ObservableObject&)>& visit) const override {

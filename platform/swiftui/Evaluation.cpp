@@ -154,7 +154,7 @@ void Evaluator::collect(const nodes::Custom& node, const View&, const Look& look
       observed.push_back(&object);
     }
   });
-  const View body = node.component->body(store_.slots(path_));
+  const View body = node.component->body(store_.states(path_));
   path_.push_back('C');
   collect(body, look, axis, out);
   path_.pop_back();

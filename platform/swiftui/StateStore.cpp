@@ -2,11 +2,11 @@
 
 namespace quorix::swiftui {
 
-StateSlots& StateStore::slots(const TreePath& path) {
+StateSlots& StateStore::states(const TreePath& path) {
   const auto [found, isNew] = entries_.try_emplace(path);
-  if (isNew) found->second.slots.onChange = onChange_;
+  if (isNew) found->second.states.onChange = onChange_;
   found->second.visited = true;
-  return found->second.slots;
+  return found->second.states;
 }
 
 void StateStore::beginEvaluation() {

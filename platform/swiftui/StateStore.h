@@ -18,13 +18,13 @@ class StateStore {
  public:
   explicit StateStore(std::function<void()> onChange) : onChange_(std::move(onChange)) {}
 
-  StateSlots& slots(const TreePath& path);
+  StateSlots& states(const TreePath& path);
   void beginEvaluation();
   void endEvaluation();
 
  private:
   struct Entry {
-    StateSlots slots;
+    StateSlots states;
     bool visited = false;
   };
   std::map<TreePath, Entry> entries_;

@@ -140,8 +140,8 @@ class Printer {
   }
   void element(const nodes::Lazy& node, int depth) { print(node.make(), depth); }
   void element(const nodes::Custom& node, int depth) {
-    StateSlots slots;
-    const View body = node.component->body(slots);
+    StateSlots states;
+    const View body = node.component->body(states);
     if (!node.component->isModifier()) line(depth, node.component->name());
     print(body, node.component->isModifier() ? depth : depth + 1);
   }

@@ -1,0 +1,61 @@
+#include <bit>
+#include <charconv>
+#include <cstdint>
+#include <string>
+
+#include "QuorixWidgets/data/TokenData.h"
+#include "fuzz/Expect.h"
+#include "platform/foundation/Base64.h"
+
+using namespace quorix;
+
+namespace {
+
+std::string quoted(std::string_view text) {
+  std::string json = "\"";
+  for (const char c : text) {
+    if (c == '"' || c == '\\') {
+      json += '\\';
+      json += c;
+    } else if (static_cast<unsigned char>(c) < 0x20) {
+      json += c < 0x10 ? "\\u000" : "\\u001";
+      json += "0123456789abcdef"[c & 15];
+    } else {
+      json += c;
+    }
+  }
+  return json + '"';
+}
+
+std::string minted(const TokenData& data) {
+  char score[32] = {};
+  std::to_chars(score, score + sizeof score, data.score);
+  return "h." +
+         foundation::encodeBase64(
+             "{\"data\":{\"score\":" + std::string(score) + ",\"fee_currency\":" +
+             quoted(data.currency) + ",\"base_fee_amount\":" + std::to_string(data.returnsFee) +
+             ",\"discounted_fee_amount\":" + std::to_string(data.discountedReturnsFee) + "}}") +
+         ".s";
+}
+
+void check(std::string_view token) {
+  const auto data = parseTokenData(token);
+  if (!data) return;
+  const auto again = parseTokenData(minted(*data));
+  expect(again == data, "figures survive minting a token from them");
+  expect(std::bit_cast<std::uint64_t>(again->score) == std::bit_cast<std::uint64_t>(data->score),
+         "so does the score's sign");
+}
+
+}  // namespace
+
+/// The input is read as a token and as a token's payload.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
+  const std::string_view input(reinterpret_cast<const char*>(bytes), size);
+  check(input);
+  check("h." + foundation::encodeBase64(input));
+  if (const auto decoded = foundation::decodeBase64(input)) {
+    expect(foundation::encodeBase64(*decoded).size() == size, "base64 keeps its length");
+  }
+  return 0;
+}

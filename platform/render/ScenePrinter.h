@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+
+#include "platform/render/Scene.h"
+
+namespace quorix::render {
+
+// A scene in words, for tools, tests and whoever asks why something stands where it does. Lengths
+// are points, written to three decimals at most. Any thread.
+
+/// The painted items in paint order, then the hit areas, later ones on top. A line each: what it
+/// is, its frame as x, y, width and height, and what it shows.
+///
+///     text 0 4 105 18 "YOUR RETURN FEE" Saans-Regular 14 #1A1A1CFF underline
+///     image 304 22 24 24 "close" #000000FF
+///     fill 16 120 311 1 #3C3C434A
+///     hit 0 0 343 24
+std::string printFrames(const Scene& scene);
+
+/// What assistive technology meets, in reading order, a line each.
+///
+///     button 0 0 343 24 "Your return fee €4.00" hint "Tap to learn more" acts
+std::string printAccessibility(const Scene& scene);
+
+/// The same as JSON: {"size", "items": [...], "hitAreas": [...]} and an array of elements.
+std::string framesToJSON(const Scene& scene);
+std::string accessibilityToJSON(const Scene& scene);
+
+}  // namespace quorix::render

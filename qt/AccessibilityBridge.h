@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QAccessible>
+#include <QObject>
+
+class QQuickItem;
+
+namespace quorix::qt {
+
+class AccessibleSurface;
+
+/// Makes surfaces known to assistive technology, and tells when one begins to listen. Lives as long
+/// as the application object; main thread.
+class AccessibilityBridge : public QObject, private QAccessible::ActivationObserver {
+  Q_OBJECT
+
+ public:
+  static AccessibilityBridge* instance();
+  ~AccessibilityBridge() override;
+
+  /// Answers for `object` from now on with `surface`, which must outlive it or be removed before.
+  void add(QObject& object, AccessibleSurface& surface);
+  void remove(QObject& object);
+  static AccessibleSurface* surfaceOf(const QObject* object);
+
+  /// Has Qt Quick offer `item` to assistive technology. Does nothing while none listens.
+  static void offer(QQuickItem& item);
+
+ signals:
+  void began();
+
+ private:
+  explicit AccessibilityBridge(QObject* application);
+  void accessibilityActiveChanged(bool active) override;
+};
+
+}  // namespace quorix::qt

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QObject>
+
+#include "platform/graphics/RGBA.h"
+#include "platform/layout/Geometry.h"
+
+namespace quorix::qt {
+
+/// What the desktop says for every surface of the process: light or dark, reading direction,
+/// motion. Lives as long as the application object; main thread.
+class Desktop : public QObject {
+  Q_OBJECT
+
+ public:
+  /// Null without an application object.
+  static Desktop* instance();
+
+  /// Dark when the palette's window is darker than its text: there is no other word about it that
+  /// every supported version passes on.
+  static graphics::Appearance appearance();
+  static layout::LayoutDirection direction();
+  /// The user asked for less motion. Read anew each time.
+  static bool prefersReducedMotion();
+
+ signals:
+  void changed();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  explicit Desktop(QObject* application);
+};
+
+}  // namespace quorix::qt

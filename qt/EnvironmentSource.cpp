@@ -1,0 +1,18 @@
+#include "qt/EnvironmentSource.h"
+
+#include "qt/Desktop.h"
+
+namespace quorix::qt {
+
+swiftui::Environment EnvironmentSource::at(double scale) const {
+  return {.appearance = appearance ? *appearance : Desktop::appearance(),
+          .direction = direction ? *direction : Desktop::direction(),
+          .textSize = textSize,
+          .scale = scale};
+}
+
+bool EnvironmentSource::allowsMotion() const {
+  return motion ? *motion : !Desktop::prefersReducedMotion();
+}
+
+}  // namespace quorix::qt

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QPointF>
+#include <QVector2D>
+#include <optional>
+
+class QTouchEvent;
+
+namespace quorix::qt {
+
+/// Follows the first finger of a touch through its events and leaves the others alone.
+class FingerTracker {
+ public:
+  enum class Phase { pressed, moved, released, cancelled };
+  struct Report {
+    Phase phase;
+    QPointF position;    ///< in the item's points
+    QVector2D velocity;  ///< points a second
+  };
+
+  /// What `event` says about the finger; nothing when it is about others.
+  std::optional<Report> read(const QTouchEvent& event);
+  void forget() { finger_.reset(); }
+
+ private:
+  std::optional<int> finger_;
+};
+
+}  // namespace quorix::qt

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QImage>
+#include <QRectF>
+
+#include "platform/graphics/RGBA.h"
+#include "platform/layout/Geometry.h"
+
+namespace quorix::qt {
+
+/// The ring around the element that has the keyboard focus, a little outside of it.
+namespace FocusRing {
+
+/// What the ring covers, around an element at `element`; points.
+QRectF frameAround(const layout::Rect& element);
+
+/// The ring for an element of `element`'s size, at `scale` device pixels a point.
+QImage picture(const layout::Rect& element, graphics::Appearance appearance, double scale);
+
+}  // namespace FocusRing
+}  // namespace quorix::qt

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QImage>
+#include <QPointF>
+#include <QSGNode>
+
+class QQuickWindow;
+class QSGImageNode;
+
+namespace quorix::qt {
+
+/// A picture in the scene graph whose pixels are the window's. Shows nothing until it is given one.
+/// Render thread, during synchronization.
+class PictureNode : public QSGNode {
+ public:
+  /// Uploads `image`; a null image takes the texture away.
+  void setPicture(QQuickWindow& window, const QImage& image);
+  /// Where its top left stands, in the item's points.
+  void setOrigin(QPointF origin);
+  bool hasPicture() const { return image_ != nullptr; }
+
+ private:
+  QSGImageNode* image_ = nullptr;
+};
+
+}  // namespace quorix::qt

@@ -1,0 +1,167 @@
+#include "qt/QtFonts.h"
+
+#include <QFontDatabase>
+#include <QGuiApplication>
+#include <QRawFont>
+#include <QtEndian>
+#include <algorithm>
+#include <cmath>
+#include <functional>
+#include <optional>
+
+#include "platform/graphics/FontManager.h"
+#include "qt/ApplicationLifetime.h"
+
+namespace quorix::qt {
+namespace {
+
+using graphics::FontManager;
+
+// Sizes vary without end while a user drags the text size; the fonts kept need not.
+constexpr std::size_t maximumFonts = 128;
+
+QString squeezed(QString name) { return name.remove(QLatin1Char(' ')).toLower(); }
+
+/// The face with that PostScript name by its usual form, family and style without their spaces.
+std::optional<QFont> postScriptFace(const QString& name) {
+  const QString wanted = squeezed(name);
+  const QString family = wanted.section(QLatin1Char('-'), 0, 0);
+  const QString style = wanted.section(QLatin1Char('-'), 1);
+  const QStringList families = QFontDatabase::families();
+  for (const QString& candidate : families) {
+    if (squeezed(candidate) != family) continue;
+    if (style.isEmpty()) return QFont(candidate);
+    const QStringList styles = QFontDatabase::styles(candidate);
+    for (const QString& known : styles) {
+      if (squeezed(known) == style) return QFontDatabase::font(candidate, known, 12);
+    }
+  }
+  return std::nullopt;
+}
+
+/// The face that Qt has on its own under `name`.
+std::optional<QFont> installedFace(const QString& name) {
+  if (QFontDatabase::hasFamily(name)) return QFont(name);
+  return postScriptFace(name);
+}
+
+/// Hands a font file to Qt. The file itself says what Qt will call the face.
+std::optional<QFont> loadData(std::string_view data) {
+  const QByteArray bytes(data.data(), static_cast<qsizetype>(data.size()));
+  const int id = QFontDatabase::addApplicationFontFromData(bytes);
+  const QStringList families = QFontDatabase::applicationFontFamilies(id);
+  if (id < 0 || families.isEmpty()) return std::nullopt;
+  const QRawFont file(bytes, 16);
+  const QString family =
+      families.contains(file.familyName()) ? file.familyName() : families.first();
+  return QFontDatabase::font(family, file.styleName(), 12);
+}
+
+QFont::Weight qtWeight(swiftui::FontWeight weight) {
+  switch (weight) {
+    case swiftui::FontWeight::regular: return QFont::Normal;
+    case swiftui::FontWeight::medium: return QFont::Medium;
+    case swiftui::FontWeight::semibold: return QFont::DemiBold;
+    case swiftui::FontWeight::bold: return QFont::Bold;
+  }
+  return QFont::Normal;
+}
+
+/// The strikethrough that the font's designer drew, or the middle of its small letters.
+ShapingFont::Stroke strikethrough(const QRawFont& font) {
+  constexpr qsizetype sizeAt = 26, positionAt = 28;
+  const QByteArray os2 = font.fontTable("OS/2");
+  const double unit = font.pixelSize() / font.unitsPerEm();
+  if (os2.size() >= positionAt + 2) {
+    const auto size = qFromBigEndian<qint16>(os2.constData() + sizeAt);
+    const auto position = qFromBigEndian<qint16>(os2.constData() + positionAt);
+    // The position is that of the stroke's upper edge.
+    if (size > 0 && position > 0) return {-(position - size / 2.0) * unit, size * unit};
+  }
+  return {-font.xHeight() / 2, font.lineThickness()};
+}
+
+ShapingFont::Stroke inPoints(ShapingFont::Stroke stroke) {
+  return {stroke.offset / ShapingFont::unitsPerPoint, stroke.thickness / ShapingFont::unitsPerPoint};
+}
+
+}  // namespace
+
+QtFonts& QtFonts::shared() { return applicationLifetime<QtFonts>(); }
+
+QtFonts::QtFonts() {
+  installSystemLookup();
+  generation_ = FontManager::shared().generation();
+  connection_ = QObject::connect(qGuiApp, &QGuiApplication::fontDatabaseChanged,
+                                 [this] { databaseChanged_ = true; });
+}
+
+QtFonts::~QtFonts() { QObject::disconnect(connection_); }
+
+void QtFonts::installSystemLookup() { FontManager::shared().setSystemLookup(&systemKnows); }
+
+bool QtFonts::systemKnows(std::string_view name) {
+  if (qGuiApp == nullptr || name.empty()) return false;
+  return installedFace(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())))
+      .has_value();
+}
+
+bool QtFonts::refresh() {
+  const std::size_t generation = FontManager::shared().generation();
+  const bool changed = generation != generation_ || databaseChanged_;
+  if (!changed && fonts_.size() <= maximumFonts) return false;
+  if (changed) installed_.clear();
+  fonts_.clear();
+  generation_ = generation;
+  databaseChanged_ = false;
+  return true;
+}
+
+std::size_t QtFonts::Hash::operator()(const text::ResolvedFont& font) const {
+  const std::size_t name = std::hash<std::string>{}(font.name);
+  return (name * 31 + std::hash<double>{}(font.points)) * 31 + static_cast<std::size_t>(font.weight);
+}
+
+/// The registered face `name`, handed to Qt on first use; null when there is none.
+const QFont* QtFonts::registeredFace(const std::string& name) {
+  const auto known = registered_.find(name);
+  if (known != registered_.end()) return &known->second;
+  const auto data = FontManager::shared().data(name);
+  if (!data) return nullptr;
+  const bool changed = databaseChanged_;
+  const auto loaded = loadData(data->text());
+  databaseChanged_ = changed;  // by ourselves: what is cached does not depend on this face
+  return loaded ? &registered_.emplace(name, *loaded).first->second : nullptr;
+}
+
+const QFont& QtFonts::face(const std::string& name) {
+  if (const QFont* registered = registeredFace(name)) return *registered;
+  const auto known = installed_.find(name);
+  if (known != installed_.end()) return known->second;
+  const auto found = name.empty() ? std::nullopt : installedFace(QString::fromStdString(name));
+  const QFont font = found ? *found : QFontDatabase::systemFont(QFontDatabase::GeneralFont);
+  return installed_.emplace(name, font).first->second;
+}
+
+const ShapingFont& QtFonts::find(const text::ResolvedFont& wanted) {
+  const auto known = fonts_.find(wanted);
+  if (known != fonts_.end()) return known->second;
+
+  QFont font = face(wanted.name);
+  if (wanted.weight != swiftui::FontWeight::regular) {
+    font.setStyleName({});
+    font.setWeight(qtWeight(wanted.weight));
+  }
+  font.setPixelSize(std::max(1, static_cast<int>(std::lround(wanted.points *
+                                                             ShapingFont::unitsPerPoint))));
+  font.setHintingPreference(QFont::PreferNoHinting);
+  font.setStyleStrategy(QFont::NoSubpixelAntialias);
+  const QRawFont raw = QRawFont::fromFont(font);
+  return fonts_
+      .emplace(wanted,
+               ShapingFont{font, inPoints({raw.underlinePosition(), raw.lineThickness()}),
+                           inPoints(strikethrough(raw))})
+      .first->second;
+}
+
+}  // namespace quorix::qt

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QObject>
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+#include "platform/text/AttributedText.h"
+#include "qt/ShapingFont.h"
+
+namespace quorix::qt {
+
+/// Finds Qt's fonts for the names that texts carry: a face of the font manager, a family, a
+/// PostScript name such as "OpenSans-SemiBold", and the system's font for any other. Main thread.
+class QtFonts {
+ public:
+  static QtFonts& shared();
+
+  QtFonts();
+  ~QtFonts();
+  QtFonts(const QtFonts&) = delete;
+  QtFonts& operator=(const QtFonts&) = delete;
+
+  /// Tells the font manager which faces Qt has on its own, so that none is registered over one of
+  /// them. To be called before the first face is registered; again is harmless.
+  static void installSystemLookup();
+
+  /// Whether Qt has a face of that family or PostScript name. Any thread; false without an
+  /// application object.
+  static bool systemKnows(std::string_view name);
+
+  /// The reference holds until `refresh` returns true.
+  const ShapingFont& find(const text::ResolvedFont& font);
+
+  /// Forgets the fonts found when faces have come or gone since the last call (or the fonts have
+  /// become too many), and says so.
+  bool refresh();
+
+ private:
+  struct Hash {
+    std::size_t operator()(const text::ResolvedFont& font) const;
+  };
+
+  const QFont& face(const std::string& name);
+  const QFont* registeredFace(const std::string& name);
+
+  std::unordered_map<std::string, QFont> registered_;
+  std::unordered_map<std::string, QFont> installed_;
+  std::unordered_map<text::ResolvedFont, ShapingFont, Hash> fonts_;
+  std::size_t generation_ = 0;
+  bool databaseChanged_ = false;
+  QMetaObject::Connection connection_;
+};
+
+}  // namespace quorix::qt

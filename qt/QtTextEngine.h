@@ -1,0 +1,65 @@
+#pragma once
+
+#include <cstddef>
+#include <list>
+#include <unordered_map>
+#include <vector>
+
+#include "platform/text/TextEngine.h"
+#include "qt/Paragraph.h"
+#include "qt/QtFonts.h"
+#include "qt/ShapedText.h"
+#include "qt/TextIdentity.h"
+
+namespace quorix::qt {
+
+/// Text as Qt shapes it, with Qt's fallback faces. What was measured last is kept for painting, so
+/// that a text is shaped once; what rows off the screen measured long ago is let go. Main thread, with
+/// an application object.
+class QtTextEngine final : public text::TextEngine {
+ public:
+  /// The one that all surfaces measure and paint with.
+  static QtTextEngine& shared();
+
+  QtTextEngine() = default;
+
+  text::TextMetrics measure(const text::AttributedText& text, double width) override;
+
+  /// The lines of `text` in a frame of `width` points. The reference holds until the next call.
+  const ShapedText& shape(const text::AttributedText& text, double width);
+
+  const ShapingFont& font(const text::ResolvedFont& font) { return fonts_.find(font); }
+
+  /// How often text has been broken into lines so far. For tests.
+  int breaks() const { return breaks_; }
+
+ private:
+  /// The text broken to one width, which serves every width down to its own measure.
+  struct Breaking {
+    double width = 0;
+    bool hasGlyphs = false;
+    ShapedText text;
+    bool serves(double wanted) const;
+  };
+  struct Entry {
+    text::AttributedText text;
+    std::vector<Breaking> breakings;  ///< the first is the one without a width
+  };
+
+  const ShapedText& find(const text::AttributedText& text, double width, bool glyphs);
+  Entry& entry(const text::AttributedText& text);
+  Breaking& breaking(Entry& entry, double width, bool glyphs);
+  ShapedText breakLines(const Entry& entry, double width, bool glyphs);
+  void clear();
+
+  QtFonts& fonts_ = QtFonts::shared();
+  Paragraph paragraph_;
+  const Entry* inParagraph_ = nullptr;
+  std::list<Entry> entries_;  ///< the latest used first
+  std::unordered_map<const text::AttributedText*, std::list<Entry>::iterator, TextIdentity,
+                     TextIdentity>
+      index_;
+  int breaks_ = 0;
+};
+
+}  // namespace quorix::qt

@@ -1,0 +1,43 @@
+#include "qt/QuickAccessibleSurface.h"
+
+#include <QAccessible>
+#include <QQuickItem>
+#include <QQuickWindow>
+
+#include "qt/SheetItem.h"
+
+namespace quorix::qt {
+
+void QuickAccessibleSurface::takeFocus() { item_.forceActiveFocus(Qt::OtherFocusReason); }
+
+QRect QuickAccessibleSurface::onScreen(const layout::Rect& frame) const {
+  const QRectF local(frame.left(), frame.top(), frame.size.width, frame.size.height);
+  const QSizeF size = item_.mapRectToScene(local).size();
+  return QRectF(item_.mapToGlobal(local.topLeft()), size).toRect();
+}
+
+QRect QuickAccessibleSurface::onScreen() const {
+  return onScreen({{}, {item_.width(), item_.height()}});
+}
+
+QWindow* QuickAccessibleSurface::accessibleWindow() const { return item_.window(); }
+
+QObject* QuickAccessibleSurface::accessibleParent() const {
+  QQuickWindow* window = item_.window();
+  for (QQuickItem* parent = item_.parentItem(); parent; parent = parent->parentItem()) {
+    if (window && parent == window->contentItem()) return window;
+    if (QAccessible::queryAccessibleInterface(parent)) return parent;
+  }
+  return window;
+}
+
+bool QuickAccessibleSurface::isShown() const {
+  return item_.isVisible() && item_.window() && item_.window()->isVisible();
+}
+
+bool QuickAccessibleSurface::isCovered() const {
+  const SheetItem* sheet = item_.window() ? SheetItem::topmost(*item_.window()) : nullptr;
+  return sheet && sheet != &item_;
+}
+
+}  // namespace quorix::qt

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "qt/AccessibleSurface.h"
+
+class QQuickItem;
+
+namespace quorix::qt {
+
+/// The part of an accessible surface that holds for any item of a Qt Quick window.
+class QuickAccessibleSurface : public AccessibleSurface {
+ public:
+  explicit QuickAccessibleSurface(QQuickItem& item) : item_(item) {}
+
+  void takeFocus() override;
+  QRect onScreen(const layout::Rect& frame) const override;
+  QRect onScreen() const override;
+  QWindow* accessibleWindow() const override;
+  QObject* accessibleParent() const override;
+  bool isShown() const override;
+  bool isCovered() const override;
+
+ private:
+  QQuickItem& item_;
+};
+
+}  // namespace quorix::qt

@@ -1,0 +1,136 @@
+#include "qt/ScenePainter.h"
+
+#include <QPainterPath>
+#include <algorithm>
+#include <cmath>
+#include <variant>
+
+#include "qt/QtColor.h"
+#include "qt/QtImages.h"
+
+namespace quorix::qt {
+namespace {
+
+QRectF toQRectF(const layout::Rect& frame) {
+  return {frame.left(), frame.top(), frame.size.width, frame.size.height};
+}
+
+QRectF rounded(const QRectF& rect) {
+  const QPointF topLeft(std::round(rect.left()), std::round(rect.top()));
+  return {topLeft, QPointF(std::round(rect.right()), std::round(rect.bottom()))};
+}
+
+QPainterPath withRoundedTop(const QRectF& rect, double radius) {
+  const double r = std::min({radius, rect.width() / 2, rect.height()});
+  QPainterPath path(rect.bottomLeft());
+  path.lineTo(rect.left(), rect.top() + r);
+  path.arcTo(rect.left(), rect.top(), 2 * r, 2 * r, 180, -90);
+  path.lineTo(rect.right() - r, rect.top());
+  path.arcTo(rect.right() - 2 * r, rect.top(), 2 * r, 2 * r, 90, -90);
+  path.lineTo(rect.bottomRight());
+  path.closeSubpath();
+  return path;
+}
+
+}  // namespace
+
+ScenePainter::ScenePainter(QPainter& painter, QtTextEngine& engine)
+    : painter_(painter),
+      engine_(engine),
+      base_(painter.transform()),
+      toDevice_(painter.deviceTransform()),
+      fromDevice_(toDevice_.inverted()),
+      upright_(toDevice_.type() <= QTransform::TxScale) {}
+
+void ScenePainter::paint(const render::Scene& scene) {
+  appearance_ = scene.appearance;
+  for (const render::Item& item : scene.items) {
+    std::visit([this](const auto& what) { draw(what); }, item);
+  }
+}
+
+QPointF ScenePainter::onPixels(QPointF point) const {
+  if (!upright_) return point;
+  const QPointF device = toDevice_.map(point);
+  return fromDevice_.map(QPointF(std::round(device.x()), std::round(device.y())));
+}
+
+QRectF ScenePainter::deviceRect(const layout::Rect& frame) const {
+  return rounded(toDevice_.mapRect(toQRectF(frame)));
+}
+
+void ScenePainter::fill(const QRectF& device, graphics::RGBA color) {
+  painter_.fillRect(fromDevice_.mapRect(device), toQColor(color));
+}
+
+void ScenePainter::draw(const render::TextItem& item) {
+  // Frames come from measured sizes by additions that may lose the last bits.
+  constexpr double slack = 1.0 / 256;
+  const ShapedText& shaped = engine_.shape(item.text, item.frame.size.width + slack);
+  const bool fromRight = item.text.direction == layout::LayoutDirection::rightToLeft;
+  for (const ShapedText::Line& line : shaped.lines) {
+    const double left = fromRight ? item.frame.right() - line.advance : item.frame.left();
+    drawLine(line, item.text, onPixels({left, item.frame.top() + line.baseline}));
+  }
+}
+
+void ScenePainter::drawLine(const ShapedText::Line& line, const text::AttributedText& text,
+                            QPointF origin) {
+  for (const ShapedText::Span& span : line.spans) {
+    const text::Run& run = text.runs[span.run];
+    if (run.underline) drawDecoration(span, origin, engine_.font(run.font).underline, run.color);
+  }
+  constexpr double shrink = 1.0 / ShapingFont::unitsPerPoint;
+  painter_.setTransform(QTransform(shrink, 0, 0, shrink, origin.x(), origin.y()) * base_);
+  for (const ShapedText::Piece& piece : line.pieces) {
+    painter_.setPen(toQColor(text.runs[piece.run].color));
+    painter_.drawGlyphRun({}, piece.glyphs);
+  }
+  painter_.setTransform(base_);
+  for (const ShapedText::Span& span : line.spans) {
+    const text::Run& run = text.runs[span.run];
+    if (!run.strikethrough) continue;
+    drawDecoration(span, origin, engine_.font(run.font).strikethrough, run.color);
+  }
+}
+
+void ScenePainter::drawDecoration(const ShapedText::Span& span, QPointF origin,
+                                  ShapingFont::Stroke stroke, graphics::RGBA color) {
+  const layout::Rect exact{{origin.x() + span.left, origin.y() + stroke.offset - stroke.thickness / 2},
+                           {span.right - span.left, stroke.thickness}};
+  QRectF device = toDevice_.mapRect(toQRectF(exact));
+  const double thickness = std::max(1.0, std::round(device.height()));
+  device.setTop(std::round(device.center().y() - thickness / 2));
+  device.setHeight(thickness);
+  fill(rounded(device), color);
+}
+
+void ScenePainter::draw(const render::ImageItem& item) {
+  const QRectF device = deviceRect(item.frame);
+  const QImage picture = QtImages::shared().picture(
+      {item.bundle, item.name, device.size().toSize(), appearance_, item.tint});
+  if (!picture.isNull()) painter_.drawImage(fromDevice_.mapRect(device), picture);
+}
+
+void ScenePainter::draw(const render::FillItem& item) {
+  if (item.topCornerRadius <= 0) return fill(deviceRect(item.frame), item.color);
+  const bool antialiased = painter_.testRenderHint(QPainter::Antialiasing);
+  painter_.setRenderHint(QPainter::Antialiasing);
+  painter_.fillPath(withRoundedTop(toQRectF(item.frame), item.topCornerRadius),
+                    toQColor(item.color));
+  painter_.setRenderHint(QPainter::Antialiasing, antialiased);
+}
+
+void ScenePainter::draw(const render::StrokeItem& item) {
+  const QRectF outer = deviceRect(item.frame);
+  const double scale = toDevice_.mapRect(QRectF(0, 0, 1, 1)).height();
+  const double limit = std::min(outer.width(), outer.height()) / 2;
+  const double w = std::min(std::max(1.0, std::round(item.width * scale)), limit);
+  const QRectF inner = outer.adjusted(w, w, -w, -w);
+  fill({outer.topLeft(), QPointF(outer.right(), inner.top())}, item.color);
+  fill({QPointF(outer.left(), inner.bottom()), outer.bottomRight()}, item.color);
+  fill({QPointF(outer.left(), inner.top()), inner.bottomLeft()}, item.color);
+  fill({inner.topRight(), QPointF(outer.right(), inner.bottom())}, item.color);
+}
+
+}  // namespace quorix::qt

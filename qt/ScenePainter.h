@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QPainter>
+#include <QTransform>
+
+#include "platform/render/Scene.h"
+#include "qt/QtTextEngine.h"
+
+namespace quorix::qt {
+
+/// Draws scenes with a painter on any device, a point of the scene on a unit of the painter. Where
+/// the painter does not turn or shear, baselines, decorations and edges are put on whole device
+/// pixels. Main thread.
+///
+///     QPainter painter(&image);
+///     painter.scale(2, 2);
+///     ScenePainter(painter).paint(host.scene(size));
+class ScenePainter {
+ public:
+  explicit ScenePainter(QPainter& painter, QtTextEngine& engine = QtTextEngine::shared());
+
+  /// Paints every item in order and leaves the painter as it was, but for its pen.
+  void paint(const render::Scene& scene);
+
+ private:
+  void draw(const render::TextItem& item);
+  void draw(const render::ImageItem& item);
+  void draw(const render::FillItem& item);
+  void draw(const render::StrokeItem& item);
+
+  void drawLine(const ShapedText::Line& line, const text::AttributedText& text, QPointF origin);
+  void drawDecoration(const ShapedText::Span& span, QPointF origin, ShapingFont::Stroke stroke,
+                      graphics::RGBA color);
+  void fill(const QRectF& device, graphics::RGBA color);
+  QPointF onPixels(QPointF point) const;
+  QRectF deviceRect(const layout::Rect& frame) const;
+
+  QPainter& painter_;
+  QtTextEngine& engine_;
+  const QTransform base_;
+  const QTransform toDevice_;
+  const QTransform fromDevice_;
+  const bool upright_;
+  graphics::Appearance appearance_ = graphics::Appearance::light;
+};
+
+}  // namespace quorix::qt

@@ -1,0 +1,55 @@
+#include <charconv>
+
+#include "Vectors.h"
+#include "platform/foundation/Base64.h"
+
+using quorix::foundation::decodeBase64;
+using quorix::foundation::encodeBase64;
+
+namespace {
+
+std::string fromHex(std::string_view hex) {
+  std::string bytes;
+  for (std::size_t i = 0; i < hex.size(); i += 2) {
+    unsigned byte = 0;
+    std::from_chars(hex.data() + i, hex.data() + i + 2, byte, 16);
+    bytes += static_cast<char>(byte);
+  }
+  return bytes;
+}
+
+TEST(Base64, DecodesWhatIsWellFormedAndNothingElse) {
+  forEachRow("b64", [](simdjson::dom::element row) {
+    const auto bytes = decodeBase64(text(row, "text"));
+    ASSERT_EQ(bytes.has_value(), !row["hex"].is_null());
+    if (bytes) {
+      EXPECT_EQ(*bytes, fromHex(text(row, "hex")));
+    }
+  });
+}
+
+TEST(Base64, RefusesSurplusPaddingThatLenientDecodersAccept) {
+  forEachRow("b64_open", [](simdjson::dom::element row) {
+    ASSERT_TRUE(row["strict"].is_null());
+    EXPECT_EQ(decodeBase64(text(row, "text")), std::nullopt);
+  });
+}
+
+TEST(Base64, EncodesWhatItDecodes) {
+  std::string bytes;
+  for (int i = 0; i < 300; ++i) {
+    EXPECT_EQ(decodeBase64(encodeBase64(bytes)), bytes);
+    bytes += static_cast<char>(i * 7);
+  }
+  EXPECT_EQ(encodeBase64("\xFB\xFF"), "+/8=");
+}
+
+TEST(Base64, TakesTheURLSafeAlphabetWhenAsked) {
+  using quorix::foundation::Base64Alphabet;
+  EXPECT_EQ(decodeBase64("-_8=+/8", Base64Alphabet::either), std::nullopt);
+  EXPECT_EQ(decodeBase64("-/8=", Base64Alphabet::either), "\xFB\xFF");
+  EXPECT_EQ(decodeBase64("+_8=", Base64Alphabet::either), "\xFB\xFF");
+  EXPECT_EQ(decodeBase64("-/8="), std::nullopt);
+}
+
+}  // namespace

@@ -1,0 +1,82 @@
+#include <gmock/gmock.h>
+
+#include <thread>
+
+#include "Vectors.h"
+#include "platform/foundation/CurrencyFormatter.h"
+
+using quorix::foundation::CurrencyFormatter;
+
+namespace {
+
+constexpr std::int64_t kAmounts[] = {0,
+                                     1,
+                                     4,
+                                     5,
+                                     10,
+                                     999,  //
+                                     1000,
+                                     1234567,
+                                     -1,
+                                     -1234,
+                                     92233720368547758,
+                                     -92233720368547758};
+
+void expectTexts(simdjson::dom::element row, std::string_view column) {
+  const CurrencyFormatter formatter({text(row, "language"), text(row, "currency")});
+  std::size_t i = 0;
+  for (const simdjson::dom::element expected : row[column].get_array()) {
+    const std::int64_t amount = kAmounts[i++];
+    if (expected.is_null()) continue;
+    EXPECT_EQ(formatter.text(amount), std::string(std::string_view(expected))) << amount;
+  }
+  EXPECT_EQ(i, std::size(kAmounts));
+}
+
+TEST(CurrencyFormatter, WritesAmountsAsTheLanguageDoes) {
+  forEachRow("currency", [](simdjson::dom::element row) { expectTexts(row, "texts"); });
+}
+
+// Here platforms differ with the age of their locale data; this is what the system's data says.
+TEST(CurrencyFormatter, FollowsTheSystemsLocaleData) {
+  forEachRow("currency_open", [](simdjson::dom::element row) {
+    if (!row["system"].is_array()) return;
+    expectTexts(row, "system");
+  });
+}
+
+TEST(CurrencyFormatter, WritesAnUnknownLanguageNeutrally) {
+  for (const char* language : {"xx", "english", "xx-DE", "und", ""}) {
+    EXPECT_EQ(CurrencyFormatter({language, "EUR"}).text(-1234), "-€\u00A01,234.00") << language;
+  }
+  // Codes that were replaced long ago are no unknown languages.
+  EXPECT_EQ(CurrencyFormatter({"in", "EUR"}).text(4), CurrencyFormatter({"id", "EUR"}).text(4));
+}
+
+TEST(CurrencyFormatter, WritesSomethingForAnyLocale) {
+  for (const std::string& language :
+       {std::string("en@currency=USD"), std::string(5000, 'x'), std::string("\xFF\xFE"),
+        std::string("-_-"), std::string("en\0x", 4)}) {
+    for (const std::string& currency :
+         {std::string(5000, 'x'), std::string("\xFF\xFE\xFD"), std::string("E\0R", 3)}) {
+      EXPECT_THAT(CurrencyFormatter({language, currency}).text(4).value_or(""),
+                  testing::HasSubstr("4"));
+    }
+  }
+}
+
+TEST(CurrencyFormatterConcurrently, IsSharedByThreads) {
+  std::vector<std::thread> threads;
+  for (int thread = 0; thread < 4; ++thread) {
+    threads.emplace_back([] {
+      for (int i = 0; i < 100; ++i) {
+        const std::string currency{'E', 'U', static_cast<char>('A' + i % 26)};
+        EXPECT_TRUE(CurrencyFormatter({i % 2 ? "en" : "de", currency}).text(i));
+        EXPECT_EQ(CurrencyFormatter({"en", "EUR"}).text(4), "€4.00");
+      }
+    });
+  }
+  for (std::thread& thread : threads) thread.join();
+}
+
+}  // namespace

@@ -1,0 +1,102 @@
+#include <gtest/gtest.h>
+
+#include "QuorixWidgets/localization/BuiltInTranslations.h"
+#include "QuorixWidgets/localization/TranslationTableReader.h"
+#include "Vectors.h"
+
+using quorix::readTranslationTable;
+using quorix::TranslationTable;
+using quorix::TranslationTableResult;
+using quorix::foundation::Error;
+
+namespace {
+
+using Table = std::shared_ptr<const TranslationTable>;
+
+std::string outcome(const TranslationTableResult& result) {
+  if (std::holds_alternative<Table>(result)) return "table";
+  const Error& error = std::get<Error>(result);
+  if (error.domain == "JSON") return "not json";
+  return error.domain == "Localization" && error.code == -2 ? "wrong shape" : error.domain;
+}
+
+TEST(TranslationTable, IsReadFromObjectsOfObjectsOfTexts) {
+  forEachRow("tables", [](simdjson::dom::element row) {
+    const auto result = readTranslationTable(text(row, "body"));
+    ASSERT_EQ(outcome(result), text(row, "outcome"));
+    if (outcome(result) != "table") return;
+    std::size_t count = 0;
+    for (const auto section : row["table"].get_object()) {
+      for (const auto entry : section.value.get_object()) {
+        ++count;
+        EXPECT_EQ(std::get<Table>(result)->text(section.key, entry.key),
+                  std::string_view(entry.value));
+      }
+    }
+    EXPECT_EQ(std::get<Table>(result)->entries().size(), count);
+  });
+}
+
+TEST(TranslationTable, IsRefusedWholeForOneWrongValue) {
+  const struct {
+    std::string_view body, outcome;
+  } rows[] = {
+      {R"({"a":{"b":"c"},"d":{"e":"f","g":1}})", "wrong shape"},
+      {R"({"a":{"b":"c","d":true}})", "wrong shape"},
+      {R"({"a":{"b":{"c":"d"}}})", "wrong shape"},
+      {R"({"a":{"b":"c"},"d":"e"})", "wrong shape"},
+      {R"({"a":1,"a":{"b":"c"}})", "table"},  // the last of two members is the only one
+      {R"({"a":{"b":1,"b":"c"}})", "table"},
+      {R"({"a":{"b":"c"},"a":1})", "wrong shape"},
+      {"{}", "table"},
+      {R"({"a":{"b":"c"},})", "not json"},
+      {R"({"a":{"b":"\ud800"}})", "not json"},
+      {"", "not json"},
+  };
+  for (const auto& row : rows) {
+    EXPECT_EQ(outcome(readTranslationTable(row.body)), row.outcome) << row.body;
+  }
+}
+
+TEST(TranslationTable, LooksUpBySectionAndKey) {
+  const auto table = TranslationTable::make(
+      {{"b", "x", "1"}, {"a", "y", "2"}, {"a", "x", ""}, {"", "", "3"}, {"ab", "", "4"}});
+  EXPECT_EQ(table->text("b", "x"), "1");
+  EXPECT_EQ(table->text("a", "y"), "2");
+  EXPECT_EQ(table->text("a", "x"), "");
+  EXPECT_EQ(table->text("", ""), "3");
+  EXPECT_EQ(table->text("ab", ""), "4");
+  for (const auto& [section, key] : {std::pair("a", "b"), {"c", "x"}, {"a", ""}, {"", "a"}}) {
+    EXPECT_EQ(table->text(section, key), "") << section << key;
+  }
+}
+
+TEST(TranslationTable, ComesFromAResponseWhateverItsStatus) {
+  using quorix::foundation::URLResponse;
+  EXPECT_EQ(outcome(readTranslationTable(URLResponse{{}, R"({"a":{}})", 404})), "table");
+
+  const auto noBody = std::get<Error>(readTranslationTable(URLResponse{{}, {}, 200}));
+  EXPECT_EQ(noBody.domain, "Localization");
+  EXPECT_EQ(noBody.code, -1);
+  const auto offline =
+      std::get<Error>(readTranslationTable(URLResponse{Error{"net", 7, "x"}, R"({"a":{}})", 0}));
+  EXPECT_EQ(offline.domain, "net");
+  EXPECT_EQ(offline.code, 7);
+}
+
+TEST(BuiltInTranslations, AreChosenByTheExactLocale) {
+  const auto english = quorix::builtInTranslations("en");
+  const auto spanish = quorix::builtInTranslations("es");
+  EXPECT_EQ(english->text("labels", "hint"), "Tap to learn more");
+  EXPECT_EQ(spanish->text("labels", "hint"), "Toque para saber más");
+  for (const char* locale : {"en", "", "fr", "ES", "es-MX", " es", "es "}) {
+    EXPECT_EQ(quorix::builtInTranslations(locale), english) << locale;
+  }
+  ASSERT_EQ(english->entries().size(), 9u);
+  ASSERT_EQ(spanish->entries().size(), 9u);
+  for (const auto& entry : english->entries()) {
+    EXPECT_FALSE(spanish->text(entry.section, entry.key).empty()) << entry.key;
+  }
+}
+
+}  // namespace
