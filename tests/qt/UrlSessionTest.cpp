@@ -64,7 +64,7 @@ class Fetch {
   std::shared_ptr<State> state_ = std::make_shared<State>();
 };
 
-class UrlSession : public ::testing::Test {
+class ConcurrentUrlSession : public ::testing::Test {
  protected:
   Outcome fetch(const std::string& path) { return Fetch(transport, server.base() + path).wait(); }
 
@@ -141,7 +141,7 @@ std::vector<Case> cases() {
   };
 }
 
-TEST_F(UrlSession, AnswersAreAnswersWhateverTheirStatusAndBrokenOnesAreErrors) {
+TEST_F(ConcurrentUrlSession, AnswersAreAnswersWhateverTheirStatusAndBrokenOnesAreErrors) {
   const auto table = cases();
   std::vector<Fetch> fetches;
   for (std::size_t i = 0; i < table.size(); ++i) {
@@ -162,7 +162,7 @@ TEST_F(UrlSession, AnswersAreAnswersWhateverTheirStatusAndBrokenOnesAreErrors) {
   for (const Fetch& each : fetches) EXPECT_EQ(each.completions(), 1);
 }
 
-TEST_F(UrlSession, FollowsRedirectsOverHttpOnly) {
+TEST_F(ConcurrentUrlSession, FollowsRedirectsOverHttpOnly) {
   const auto to = [](const std::string& place) {
     return Answer{httpAnswer(302, "moved", "Location: " + place + "\r\n")};
   };
@@ -185,7 +185,7 @@ TEST_F(UrlSession, FollowsRedirectsOverHttpOnly) {
   }
 }
 
-TEST_F(UrlSession, KeepsToASecureConnection) {
+TEST_F(ConcurrentUrlSession, KeepsToASecureConnection) {
   LoopbackServer secure(LoopbackServer::Scheme::https);
   secure.serve("/table", {{httpAnswer(200, kTable)}});
   secure.serve("/stay", {{httpAnswer(302, "", "Location: /table\r\n")}});
@@ -212,7 +212,7 @@ TEST_F(UrlSession, KeepsToASecureConnection) {
   QSslConfiguration::setDefaultConfiguration(before);
 }
 
-TEST_F(UrlSession, SendsAPlainGetOfTheAddress) {
+TEST_F(ConcurrentUrlSession, SendsAPlainGetOfTheAddress) {
   const struct {
     std::string address, target;
   } table[] = {
@@ -233,7 +233,7 @@ TEST_F(UrlSession, SendsAPlainGetOfTheAddress) {
   }
 }
 
-TEST_F(UrlSession, TakesALargeBodyWithoutTheMainThread) {
+TEST_F(ConcurrentUrlSession, TakesALargeBodyWithoutTheMainThread) {
   std::string body(50 << 20, '\0');
   for (std::size_t i = 0; i < body.size(); ++i) body[i] = static_cast<char>(i * 31 + i / 4096);
   server.serve("/large", {{httpAnswer(200, body)}});
@@ -242,7 +242,7 @@ TEST_F(UrlSession, TakesALargeBodyWithoutTheMainThread) {
   EXPECT_NE(thread, std::this_thread::get_id());
 }
 
-TEST_F(UrlSession, RefusesWhatItCannotReachOrMayNotRead) {
+TEST_F(ConcurrentUrlSession, RefusesWhatItCannotReachOrMayNotRead) {
   const struct {
     std::string address;
     QNetworkReply::NetworkError error;
@@ -259,7 +259,7 @@ TEST_F(UrlSession, RefusesWhatItCannotReachOrMayNotRead) {
   }
 }
 
-TEST_F(UrlSession, GivesUpOnARequestThatStandsStill) {
+TEST_F(ConcurrentUrlSession, GivesUpOnARequestThatStandsStill) {
   QtURLTransport impatient{std::chrono::milliseconds(100)};
   server.serve("/still", {{httpAnswer(200, kTable), SIZE_MAX, false, "never"}});
   const URLResponse response = Fetch(impatient, server.base() + "/still").wait().response;
@@ -267,7 +267,7 @@ TEST_F(UrlSession, GivesUpOnARequestThatStandsStill) {
   EXPECT_EQ(response.error->code, QNetworkReply::OperationCanceledError);
 }
 
-TEST_F(UrlSession, StandInServesAnOrigin) {
+TEST_F(ConcurrentUrlSession, StandInServesAnOrigin) {
   server.serve("/v1/es.json?q=1", {{httpAnswer(200, kTable)}});
   transport.redirectOrigin("https://API.shop.example", server.base());
   for (const char* address :
@@ -279,7 +279,7 @@ TEST_F(UrlSession, StandInServesAnOrigin) {
   EXPECT_TRUE(Fetch(transport, "https://127.0.0.1:1/v1/es.json?q=1").wait().response.error);
 }
 
-TEST_F(UrlSession, ProtocolAnswersBeforeTheNetworkOnTheSessionsThread) {
+TEST_F(ConcurrentUrlSession, ProtocolAnswersBeforeTheNetworkOnTheSessionsThread) {
   server.serve("/x", {{httpAnswer(200, "network")}});
   std::atomic<std::thread::id> ranOn;
   auto token = foundation::URLSession::shared().registerProtocol(
@@ -298,7 +298,7 @@ TEST_F(UrlSession, ProtocolAnswersBeforeTheNetworkOnTheSessionsThread) {
   EXPECT_TRUE(server.requests("/inside").empty());
 }
 
-TEST_F(UrlSession, CompletionMayStartTheNextRequest) {
+TEST_F(ConcurrentUrlSession, CompletionMayStartTheNextRequest) {
   server.serve("/x", {{httpAnswer(200, kTable)}});
   std::promise<std::optional<std::string>> second;
   const URL url = URL::parse(server.base() + "/x").value();
@@ -311,9 +311,9 @@ TEST_F(UrlSession, CompletionMayStartTheNextRequest) {
 }
 
 // The application's end needs a process of its own.
-class UrlSessionDeathTest : public UrlSession {
+class ConcurrentUrlSessionDeathTest : public ConcurrentUrlSession {
  protected:
-  UrlSessionDeathTest() { GTEST_FLAG_SET(death_test_style, "threadsafe"); }
+  ConcurrentUrlSessionDeathTest() { GTEST_FLAG_SET(death_test_style, "threadsafe"); }
 
   bool wasCancelled(Fetch& fetch) {
     const auto error = fetch.wait().response.error;
@@ -332,7 +332,7 @@ class UrlSessionDeathTest : public UrlSession {
 
 [[noreturn]] void leave(bool passed) { std::_Exit(passed ? 0 : 1); }
 
-TEST_F(UrlSessionDeathTest, EndsWithTheApplicationAndBeginsAnewWithTheNext) {
+TEST_F(ConcurrentUrlSessionDeathTest, EndsWithTheApplicationAndBeginsAnewWithTheNext) {
   EXPECT_EXIT(
       {
         Fetch inFlight = stalled();
@@ -351,7 +351,7 @@ TEST_F(UrlSessionDeathTest, EndsWithTheApplicationAndBeginsAnewWithTheNext) {
       ::testing::ExitedWithCode(0), "");
 }
 
-TEST_F(UrlSessionDeathTest, ProcessMayExitWithARequestInFlight) {
+TEST_F(ConcurrentUrlSessionDeathTest, ProcessMayExitWithARequestInFlight) {
   EXPECT_EXIT(
       {
         stalled();
