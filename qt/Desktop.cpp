@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <QGuiApplication>
+#include <QLocale>
 #include <QPalette>
 #include <QPointer>
 #include <QSettings>
@@ -42,6 +43,10 @@ layout::LayoutDirection Desktop::direction() {
   return QGuiApplication::layoutDirection() == Qt::RightToLeft
              ? layout::LayoutDirection::rightToLeft
              : layout::LayoutDirection::leftToRight;
+}
+
+std::string Desktop::language() {
+  return QLocale::languageToCode(QLocale().language()).toStdString();
 }
 
 bool Desktop::prefersReducedMotion() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <string>
 
 #include "platform/graphics/RGBA.h"
 #include "platform/layout/Geometry.h"
@@ -20,6 +21,8 @@ class Desktop : public QObject {
   /// every supported version passes on.
   static graphics::Appearance appearance();
   static layout::LayoutDirection direction();
+  /// The application's language, as a code such as "tr".
+  static std::string language();
   /// The user asked for less motion. Read anew each time.
   static bool prefersReducedMotion();
 

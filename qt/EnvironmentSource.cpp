@@ -8,7 +8,8 @@ swiftui::Environment EnvironmentSource::at(double scale) const {
   return {.appearance = appearance ? *appearance : Desktop::appearance(),
           .direction = direction ? *direction : Desktop::direction(),
           .textSize = textSize,
-          .scale = scale};
+          .scale = scale,
+          .language = Desktop::language()};
 }
 
 bool EnvironmentSource::allowsMotion() const {

@@ -1,13 +1,14 @@
 #include "qt/SheetItem.h"
 
+#include <QCursor>
 #include <QQuickWindow>
 
 #include "qt/AccessibilityBridge.h"
 #include "qt/FocusRing.h"
+#include "qt/Picture.h"
 #include "qt/PictureNode.h"
 #include "qt/QtColor.h"
 #include "qt/QtTextEngine.h"
-#include "qt/ScenePicture.h"
 #include "qt/SheetNode.h"
 #include "qt/ViewAccessible.h"
 
@@ -118,7 +119,7 @@ void SheetItem::updatePolish() {
   const render::Scene& panel = presenter_.panel();
   pictureHeight_ = panel.size.height;
   if (revision != paintedRevision_ || paintedScale_ != scale()) {
-    panelPicture_ = scenePicture(panel, scale());
+    panelPicture_ = paintPicture(panel, scale(), {0, 0, 0, 0});
     paintedRevision_ = revision;
     paintedScale_ = scale();
     ring_.reset();

@@ -1,7 +1,6 @@
 #include "qt/ViewItem.h"
 
-#include <QGuiApplication>
-#include <QStyleHints>
+#include <QCursor>
 
 #include "qt/ViewSurface.h"
 

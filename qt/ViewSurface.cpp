@@ -7,9 +7,9 @@
 
 #include "qt/AccessibilityBridge.h"
 #include "qt/FocusRing.h"
+#include "qt/Picture.h"
 #include "qt/PictureNode.h"
 #include "qt/QtTextEngine.h"
-#include "qt/ScenePicture.h"
 #include "qt/SheetItem.h"
 #include "qt/ViewAccessible.h"
 #include "qt/ViewItem.h"
@@ -183,7 +183,7 @@ int ViewSurface::actingElements() {
 
 void ViewSurface::updatePicture() {
   pictureStale_ = false;
-  picture_ = scenePicture(host_.scene(size()), scale());
+  picture_ = paintPicture(host_.scene(size()), scale(), {0, 0, 0, 0});
   painted_ = !picture_.isNull();
   ring_.reset();  // its colour and scale go with the picture's
   item_.update();

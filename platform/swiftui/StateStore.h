@@ -8,9 +8,9 @@
 
 namespace quorix::swiftui {
 
-/// A place in a view tree: the steps from the root, a byte each. The same place in the next
-/// evaluation is the same view.
-using TreePath = std::string;
+/// A place in a view tree: the steps from the root, through components by their type. The same
+/// place in the next evaluation is the same view.
+using TreePath = std::u32string;
 
 /// The states of a view tree's components, by place. What an evaluation does not visit any more has
 /// left the tree and loses its states.
