@@ -1,24 +1,20 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
-#include <QGuiApplication>
 #include <QNetworkReply>
 #include <QSslConfiguration>
 #include <QTcpServer>
 #include <atomic>
 #include <chrono>
-#include <cstdlib>
 #include <future>
-#include <memory>
 #include <optional>
-#include <ostream>
 #include <string>
 #include <thread>
 #include <vector>
 
 #include "platform/foundation/URLSession.h"
 #include "qt/QtURLTransport.h"
+#include "tests/qt/Fetch.h"
 #include "tests/qt/LoopbackServer.h"
 
 namespace quorix::testing {
@@ -27,42 +23,6 @@ namespace {
 using foundation::URL;
 using foundation::URLResponse;
 using qt::QtURLTransport;
-using std::chrono::seconds;
-
-struct Outcome {
-  URLResponse response;
-  std::thread::id thread;
-};
-
-/// One request. The main thread stands still while it waits: nothing may need its event loop.
-class Fetch {
- public:
-  Fetch(foundation::URLTransport& transport, const std::string& address) {
-    transport.start(URL::parse(address).value(), [state = state_](URLResponse response) {
-      if (++state->completions == 1) {
-        state->outcome.set_value({std::move(response), std::this_thread::get_id()});
-      }
-    });
-  }
-
-  Outcome wait() {
-    auto outcome = state_->outcome.get_future();
-    if (outcome.wait_for(seconds(30)) != std::future_status::ready) {
-      ADD_FAILURE() << "the request never completed";
-      return {};
-    }
-    return outcome.get();
-  }
-
-  int completions() const { return state_->completions; }
-
- private:
-  struct State {
-    std::promise<Outcome> outcome;
-    std::atomic<int> completions = 0;
-  };
-  std::shared_ptr<State> state_ = std::make_shared<State>();
-};
 
 class ConcurrentUrlSession : public ::testing::Test {
  protected:
@@ -306,58 +266,8 @@ TEST_F(ConcurrentUrlSession, CompletionMayStartTheNextRequest) {
     transport.start(url, [&](const URLResponse& response) { second.set_value(response.body); });
   });
   auto body = second.get_future();
-  ASSERT_EQ(body.wait_for(seconds(30)), std::future_status::ready);
+  ASSERT_EQ(body.wait_for(std::chrono::seconds(30)), std::future_status::ready);
   EXPECT_EQ(body.get(), kTable);
-}
-
-// The application's end needs a process of its own.
-class ConcurrentUrlSessionDeathTest : public ConcurrentUrlSession {
- protected:
-  ConcurrentUrlSessionDeathTest() { GTEST_FLAG_SET(death_test_style, "threadsafe"); }
-
-  bool wasCancelled(Fetch& fetch) {
-    const auto error = fetch.wait().response.error;
-    return error && error->code == QNetworkReply::OperationCanceledError &&
-           fetch.completions() == 1;
-  }
-
-  /// A request that is on its way and gets no answer.
-  Fetch stalled() {
-    server.serve("/still", {{httpAnswer(200, kTable), SIZE_MAX, false, "never"}});
-    Fetch fetch(transport, server.base() + "/still");
-    while (server.requests("/still").empty()) std::this_thread::yield();
-    return fetch;
-  }
-};
-
-[[noreturn]] void leave(bool passed) { std::_Exit(passed ? 0 : 1); }
-
-TEST_F(ConcurrentUrlSessionDeathTest, EndsWithTheApplicationAndBeginsAnewWithTheNext) {
-  EXPECT_EXIT(
-      {
-        Fetch inFlight = stalled();
-        delete QCoreApplication::instance();
-        const bool ended = inFlight.completions() == 1 && wasCancelled(inFlight);
-        Fetch without(transport, server.base() + "/x");
-        const bool refused = wasCancelled(without);
-
-        int argc = 0;
-        QCoreApplication next(argc, nullptr);
-        LoopbackServer nextServer;
-        nextServer.serve("/x", {{httpAnswer(200, kTable)}});
-        Fetch again(transport, nextServer.base() + "/x");
-        leave(ended && refused && again.wait().response.body == kTable);
-      },
-      ::testing::ExitedWithCode(0), "");
-}
-
-TEST_F(ConcurrentUrlSessionDeathTest, ProcessMayExitWithARequestInFlight) {
-  EXPECT_EXIT(
-      {
-        stalled();
-        std::exit(0);
-      },
-      ::testing::ExitedWithCode(0), "");
 }
 
 }  // namespace
