@@ -7,7 +7,7 @@
 namespace quorix::qt {
 namespace {
 
-constexpr double units = ShapingFont::unitsPerPoint;
+constexpr double smallestSize = 1.0 / 64;  // a size of nothing would leave nothing to scale
 
 /// Qt breaks lines at U+2028 alone.
 QString lineSeparated(const std::string& utf8) {
@@ -41,7 +41,7 @@ double measuredWidth(double natural, double offered) {
 
 /// Pieces of one run that touch become one span: a decoration is one stroke through them all.
 void addSpan(std::vector<ShapedText::Span>& spans, const ShapedText::Span& added) {
-  constexpr double touching = 1.0 / ShapingFont::unitsPerPoint;
+  constexpr double touching = 1.0 / 16;
   for (ShapedText::Span& span : spans) {
     const bool apart = added.left > span.right + touching || added.right < span.left - touching;
     if (span.run != added.run || apart) continue;
@@ -68,10 +68,13 @@ void Paragraph::set(const text::AttributedText& text, QtFonts& fonts) {
   setText(characters, text, fonts);
 }
 
+/// The first run's size sets the scale. Other sizes are rounded to whole pixels beside it, as Qt
+/// has it.
 void Paragraph::setText(const QString& text, const text::AttributedText& attributed,
                         QtFonts& fonts) {
   const text::ResolvedFont first =
       attributed.runs.empty() ? text::ResolvedFont{} : attributed.runs.front().font;
+  unit_ = std::max(first.points, smallestSize) / ShapingFont::pixels;
   layout_.setText(text);
   layout_.setFont(fonts.find(first).font);
   layout_.setTextOption(option(attributed.direction));
@@ -79,8 +82,9 @@ void Paragraph::setText(const QString& text, const text::AttributedText& attribu
   for (std::size_t i = 0; i < runs_.size(); ++i) {
     const text::ResolvedFont& font = attributed.runs[i].font;
     if (font == first || runs_[i].length == 0) continue;
+    const long pixels = std::max(1L, std::lround(font.points / unit_));
     QTextCharFormat format;
-    format.setFont(fonts.find(font).font);
+    format.setFont(fonts.find(font, static_cast<int>(pixels)).font);
     formats.push_back({runs_[i].start, runs_[i].length, format});
   }
   if (!formats.isEmpty()) layout_.setFormats(formats);
@@ -98,19 +102,20 @@ void Paragraph::openSession() {
 ShapedText Paragraph::breakLines(double width, bool glyphs) {
   openSession();
   ShapedText shaped;
+  shaped.unit = unit_;
   double top = 0;
   double natural = 0;
   for (int number = 0;; ++number) {
     QTextLine line = number < layout_.lineCount() ? layout_.lineAt(number) : layout_.createLine();
     if (!line.isValid()) break;
-    line.setLineWidth(std::max(width, 0.0) * units);
+    line.setLineWidth(std::max(width, 0.0) / unit_);
     line.setPosition({0, -line.ascent()});
-    const double baseline = top + line.ascent() / units;
+    const double baseline = top + line.ascent() * unit_;
     if (number == 0) shaped.metrics.firstBaseline = baseline;
     shaped.metrics.lastBaseline = baseline;
     shaped.metrics.lines = number + 1;
-    natural = std::max(natural, line.naturalTextWidth() / units);
-    top += (line.ascent() + line.descent() + std::max(line.leading(), 0.0)) / units;
+    natural = std::max(natural, line.naturalTextWidth() * unit_);
+    top += (line.ascent() + line.descent() + std::max(line.leading(), 0.0)) * unit_;
     if (!glyphs) continue;
     shaped.lines.push_back(collect(line));
     shaped.lines.back().baseline = baseline;
@@ -121,17 +126,17 @@ ShapedText Paragraph::breakLines(double width, bool glyphs) {
 
 ShapedText::Line Paragraph::collect(const QTextLine& line) const {
   ShapedText::Line collected;
-  collected.advance = line.horizontalAdvance() / units;
+  collected.advance = line.horizontalAdvance() * unit_;
   for (std::size_t run = 0; run < runs_.size(); ++run) {
     const int from = std::max(runs_[run].start, line.textStart());
-    const int to = std::min(runs_[run].start + runs_[run].length,
-                            line.textStart() + line.textLength());
+    const int to =
+        std::min(runs_[run].start + runs_[run].length, line.textStart() + line.textLength());
     if (from >= to) continue;
     const QList<QGlyphRun> glyphs = line.glyphRuns(from, to - from);
     for (const QGlyphRun& piece : glyphs) {
       const QRectF bounds = piece.boundingRect();
       collected.pieces.push_back({piece, run});
-      addSpan(collected.spans, {run, bounds.left() / units, bounds.right() / units});
+      addSpan(collected.spans, {run, bounds.left() * unit_, bounds.right() * unit_});
     }
   }
   return collected;

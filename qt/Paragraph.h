@@ -31,6 +31,7 @@ class Paragraph {
 
   QTextLayout layout_;
   std::vector<Run> runs_;
+  double unit_ = 1;  ///< points for each pixel of the shaping font
   bool open_ = false;
 };
 

@@ -4,9 +4,6 @@
 #include <QGuiApplication>
 #include <QRawFont>
 #include <QtEndian>
-#include <algorithm>
-#include <cmath>
-#include <functional>
 #include <optional>
 
 #include "platform/graphics/FontManager.h"
@@ -17,7 +14,7 @@ namespace {
 
 using graphics::FontManager;
 
-// Sizes vary without end while a user drags the text size; the fonts kept need not.
+// Names come from hosts, without end perhaps; the fonts kept have one.
 constexpr std::size_t maximumFonts = 128;
 
 QString squeezed(QString name) { return name.remove(QLatin1Char(' ')).toLower(); }
@@ -59,10 +56,14 @@ std::optional<QFont> loadData(std::string_view data) {
 
 QFont::Weight qtWeight(swiftui::FontWeight weight) {
   switch (weight) {
-    case swiftui::FontWeight::regular: return QFont::Normal;
-    case swiftui::FontWeight::medium: return QFont::Medium;
-    case swiftui::FontWeight::semibold: return QFont::DemiBold;
-    case swiftui::FontWeight::bold: return QFont::Bold;
+    case swiftui::FontWeight::regular:
+      return QFont::Normal;
+    case swiftui::FontWeight::medium:
+      return QFont::Medium;
+    case swiftui::FontWeight::semibold:
+      return QFont::DemiBold;
+    case swiftui::FontWeight::bold:
+      return QFont::Bold;
   }
   return QFont::Normal;
 }
@@ -71,18 +72,18 @@ QFont::Weight qtWeight(swiftui::FontWeight weight) {
 ShapingFont::Stroke strikethrough(const QRawFont& font) {
   constexpr qsizetype sizeAt = 26, positionAt = 28;
   const QByteArray os2 = font.fontTable("OS/2");
-  const double unit = font.pixelSize() / font.unitsPerEm();
   if (os2.size() >= positionAt + 2) {
-    const auto size = qFromBigEndian<qint16>(os2.constData() + sizeAt);
-    const auto position = qFromBigEndian<qint16>(os2.constData() + positionAt);
-    // The position is that of the stroke's upper edge.
-    if (size > 0 && position > 0) return {-(position - size / 2.0) * unit, size * unit};
+    const double size = qFromBigEndian<qint16>(os2.constData() + sizeAt) / font.unitsPerEm();
+    const double top = qFromBigEndian<qint16>(os2.constData() + positionAt) / font.unitsPerEm();
+    if (size > 0 && top > 0) return {size / 2 - top, size};
   }
-  return {-font.xHeight() / 2, font.lineThickness()};
+  const double em = font.pixelSize();
+  return {-font.xHeight() / 2 / em, font.lineThickness() / em};
 }
 
-ShapingFont::Stroke inPoints(ShapingFont::Stroke stroke) {
-  return {stroke.offset / ShapingFont::unitsPerPoint, stroke.thickness / ShapingFont::unitsPerPoint};
+ShapingFont::Stroke underline(const QRawFont& font) {
+  const double em = font.pixelSize();
+  return {font.underlinePosition() / em, font.lineThickness() / em};
 }
 
 }  // namespace
@@ -117,11 +118,6 @@ bool QtFonts::refresh() {
   return true;
 }
 
-std::size_t QtFonts::Hash::operator()(const text::ResolvedFont& font) const {
-  const std::size_t name = std::hash<std::string>{}(font.name);
-  return (name * 31 + std::hash<double>{}(font.points)) * 31 + static_cast<std::size_t>(font.weight);
-}
-
 /// The registered face `name`, handed to Qt on first use; null when there is none.
 const QFont* QtFonts::registeredFace(const std::string& name) {
   const auto known = registered_.find(name);
@@ -143,8 +139,9 @@ const QFont& QtFonts::face(const std::string& name) {
   return installed_.emplace(name, font).first->second;
 }
 
-const ShapingFont& QtFonts::find(const text::ResolvedFont& wanted) {
-  const auto known = fonts_.find(wanted);
+const ShapingFont& QtFonts::find(const text::ResolvedFont& wanted, int pixels) {
+  const Key key{wanted.name, wanted.weight, pixels};
+  const auto known = fonts_.find(key);
   if (known != fonts_.end()) return known->second;
 
   QFont font = face(wanted.name);
@@ -152,16 +149,11 @@ const ShapingFont& QtFonts::find(const text::ResolvedFont& wanted) {
     font.setStyleName({});
     font.setWeight(qtWeight(wanted.weight));
   }
-  font.setPixelSize(std::max(1, static_cast<int>(std::lround(wanted.points *
-                                                             ShapingFont::unitsPerPoint))));
+  font.setPixelSize(pixels);
   font.setHintingPreference(QFont::PreferNoHinting);
   font.setStyleStrategy(QFont::NoSubpixelAntialias);
   const QRawFont raw = QRawFont::fromFont(font);
-  return fonts_
-      .emplace(wanted,
-               ShapingFont{font, inPoints({raw.underlinePosition(), raw.lineThickness()}),
-                           inPoints(strikethrough(raw))})
-      .first->second;
+  return fonts_.emplace(key, ShapingFont{font, underline(raw), strikethrough(raw)}).first->second;
 }
 
 }  // namespace quorix::qt

@@ -28,9 +28,10 @@ class ScenePainter {
   void draw(const render::FillItem& item);
   void draw(const render::StrokeItem& item);
 
-  void drawLine(const ShapedText::Line& line, const text::AttributedText& text, QPointF origin);
+  void drawLine(const ShapedText::Line& line, double unit, const text::AttributedText& text,
+                QPointF origin);
   void drawDecoration(const ShapedText::Span& span, QPointF origin, ShapingFont::Stroke stroke,
-                      graphics::RGBA color);
+                      const text::Run& run);
   void fill(const QRectF& device, graphics::RGBA color);
   QPointF onPixels(QPointF point) const;
   QRectF deviceRect(const layout::Rect& frame) const;

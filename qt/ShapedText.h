@@ -11,8 +11,7 @@ namespace quorix::qt {
 /// A text broken into lines, ready to draw. It holds no colour: texts that differ only in colour or
 /// decoration share it.
 struct ShapedText {
-  /// Glyphs of one run, in `ShapingFont::unitsPerPoint` units from the line's left end, on the
-  /// baseline.
+  /// Glyphs of one run, in pixels of the shaping font from the line's left end, on the baseline.
   struct Piece {
     QGlyphRun glyphs;
     std::size_t run = 0;
@@ -33,6 +32,7 @@ struct ShapedText {
   };
 
   text::TextMetrics metrics;
+  double unit = 1;          ///< points for each pixel of the shaping font
   std::vector<Line> lines;  ///< empty when only the metrics were asked for
 };
 

@@ -18,7 +18,7 @@ namespace quorix::qt {
 namespace {
 
 /// A view in the scene graph: its picture, and the ring around what has the focus.
-struct ViewNode : QSGNode {
+struct ViewNode : QSGTransformNode {
   ViewNode() {
     appendChildNode(picture);
     appendChildNode(ring);

@@ -17,7 +17,7 @@ std::optional<std::string> decodePayload(std::string_view piece) {
   std::string text(piece);
   // Counting bytes is enough: a payload in which characters are longer than that is no base64.
   if (const std::size_t rest = text.size() % 4; rest != 0) text.append(4 - rest, '=');
-  return foundation::decodeBase64(text, foundation::Base64Alphabet::either);
+  return foundation::decodeBase64(std::move(text), foundation::Base64Alphabet::either);
 }
 
 TokenReading readFigures(const foundation::JSONValue& data) {
