@@ -11,7 +11,7 @@ namespace {
 
 /// A document keeps the memory of the largest text that it has read, so each thread keeps one for
 /// payloads of any likely size only.
-constexpr std::size_t kLikelyPayload = 16 * 1024;
+constexpr std::size_t kLikelyPayload = 16384;  // bytes
 
 std::optional<std::string> decodePayload(std::string_view piece) {
   std::string text(piece);

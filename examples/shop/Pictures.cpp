@@ -70,12 +70,25 @@ constexpr ShopScene shopScenes[] = {
     {"shop-sheet-ar-rtl", {ana, arabic, dark, 0}, true},
 };
 
+void show(QQuickWindow& window) {
+  window.show();
+  while (!window.isExposed()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
 /// Lets everything that is under way come to rest.
 void settle() {
   QEventLoop turns;
   StandInServices::whenAnswered([&turns] { turns.quit(); });
   turns.exec();
   QCoreApplication::processEvents();
+}
+
+/// A widget fetches its language's words while it is on screen. Afterwards it has them.
+void letSpeak(const swiftui::View& widget) {
+  QQuickWindow screen;
+  new qt::ViewItem(widget, screen.contentItem());
+  show(screen);
+  settle();
 }
 
 QImage pictureOf(const WidgetScene& scene) {
@@ -90,12 +103,8 @@ QImage pictureOf(const WidgetScene& scene) {
   options.environment.direction = scene.rightToLeft ? layout::LayoutDirection::rightToLeft
                                                     : layout::LayoutDirection::leftToRight;
   options.environment.scale = 2;
-  // Drawn once with its sheet, the widget has asked for its language's table; drawn again, it
-  // speaks with it.
-  options.sheet = true;
-  qt::picture(widget, options);
-  settle();
   options.sheet = scene.sheet;
+  letSpeak(widget);
   return qt::picture(widget, options);
 }
 
@@ -155,10 +164,7 @@ bool Pictures::writeWidgets() {
 bool Pictures::writeShop() {
   ShopWindow shop;
   shop.row().setMoving(false);
-  shop.window().show();
-  while (!shop.window().isExposed()) {
-    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-  }
+  show(shop.window());
   return std::ranges::all_of(
       shopScenes, [&](const ShopScene& scene) { return save(pictureOf(shop, scene), scene.name); });
 }

@@ -1,16 +1,18 @@
 #pragma once
 
+#include <QQuickItem>
 #include <QString>
 
 #include "qt/ViewItem.h"
 
 namespace quorix::examples {
 
-/// The score row as a QML element: it asks the public builder for a fresh widget whenever what the
-/// widget is made of changes, and shows that. It has no height when there is nothing to show.
+/// The score row as a QML element. Whenever what the widget is made of changes it asks the public
+/// builder for a fresh widget and shows that on a fresh surface, so that the widget starts anew:
+/// its sheet closed, its texts fetched again. It has no height when there is nothing to show.
 ///
 ///     ScoreRow { width: parent.width; clientId: "my-shop"; locale: "en"; token: shopper.token }
-class ScoreRow : public qt::ViewItem {
+class ScoreRow : public QQuickItem {
   Q_OBJECT
   // A new value of these means a new widget.
   Q_PROPERTY(QString clientId MEMBER clientId_ WRITE setClientId NOTIFY changed)
@@ -20,10 +22,10 @@ class ScoreRow : public qt::ViewItem {
   Q_PROPERTY(QString regularFont MEMBER regularFont_ WRITE setRegularFont NOTIFY changed)
   Q_PROPERTY(QString semiBoldFont MEMBER semiBoldFont_ WRITE setSemiBoldFont NOTIFY changed)
   // These the widget on screen follows.
-  Q_PROPERTY(Appearance appearance MEMBER appearance_ WRITE setShownAppearance NOTIFY changed)
+  Q_PROPERTY(Appearance appearance MEMBER appearance_ WRITE setAppearance NOTIFY changed)
   Q_PROPERTY(bool rightToLeft MEMBER rightToLeft_ WRITE setRightToLeft NOTIFY changed)
   /// A content size category's name, such as "large" or "accessibilityMedium".
-  Q_PROPERTY(QString textSize MEMBER textSize_ WRITE setTextSizeNamed NOTIFY changed)
+  Q_PROPERTY(QString textSize MEMBER textSize_ WRITE setTextSize NOTIFY changed)
   /// Whether sheets may move. False for still pictures.
   Q_PROPERTY(bool moving MEMBER moving_ WRITE setMoving NOTIFY changed)
 
@@ -31,7 +33,7 @@ class ScoreRow : public qt::ViewItem {
   enum Appearance { System, Light, Dark };
   Q_ENUM(Appearance)
 
-  using qt::ViewItem::ViewItem;
+  explicit ScoreRow(QQuickItem* parent = nullptr) : QQuickItem(parent) {}
 
   void setClientId(const QString& clientId) { replace(clientId_, clientId); }
   void setLocale(const QString& locale) { replace(locale_, locale); }
@@ -39,20 +41,24 @@ class ScoreRow : public qt::ViewItem {
   void setRegularFont(const QString& face) { replace(regularFont_, face); }
   void setSemiBoldFont(const QString& face) { replace(semiBoldFont_, face); }
 
-  void setShownAppearance(Appearance appearance);
-  void setRightToLeft(bool rightToLeft);
-  void setTextSizeNamed(const QString& name);
-  void setMoving(bool moving);
+  void setAppearance(Appearance appearance) { follow(appearance_, appearance); }
+  void setRightToLeft(bool rightToLeft) { follow(rightToLeft_, rightToLeft); }
+  void setTextSize(const QString& category) { follow(textSize_, category); }
+  void setMoving(bool moving) { follow(moving_, moving); }
 
  signals:
   void changed();
 
  protected:
   void componentComplete() override;
+  void geometryChange(const QRectF& now, const QRectF& before) override;
 
  private:
   void replace(QString& value, const QString& replacement);
+  template <class Value>
+  void follow(Value& value, const Value& now);
   void build();
+  void applySettings();
 
   QString clientId_;
   QString locale_;
@@ -63,6 +69,16 @@ class ScoreRow : public qt::ViewItem {
   Appearance appearance_ = System;
   bool rightToLeft_ = false;
   bool moving_ = true;
+
+  qt::ViewItem* surface_ = nullptr;  ///< a child item; null until QML has set all properties
 };
+
+template <class Value>
+void ScoreRow::follow(Value& value, const Value& now) {
+  if (value == now) return;
+  value = now;
+  if (surface_) applySettings();
+  emit changed();
+}
 
 }  // namespace quorix::examples

@@ -32,7 +32,7 @@ std::optional<Failure> writePicture(const render::Scene& scene, const qt::Pictur
   const bool tooLarge = width * height > mostPixels;
   const QImage image = tooLarge ? QImage() : qt::paintPicture(scene, options);
   if (image.isNull()) {
-    return Failure::refused("a picture of " + pixels(width, height) + " can't be made");
+    return Failure::refused("a picture of " + pixels(width, height) + " is too large");
   }
   QSaveFile file(QString::fromStdString(path));
   if (!file.open(QIODevice::WriteOnly)) return cannotWrite(path, file.errorString());

@@ -19,7 +19,7 @@ namespace {
 
 /// Why the builder would give an empty view for `request`, or a view that can't be shown.
 std::optional<Failure> emptiness(const ScoreRequest& request) {
-  constexpr std::string_view consequence = ", and the widget is empty";
+  constexpr std::string_view consequence = ", so the widget is empty: nothing to show";
   const auto reading = readToken(request.token);
   if (const auto* refusal = std::get_if<TokenRefusal>(&reading)) {
     Failure failure = refused(*refusal);
@@ -119,7 +119,7 @@ const Command scoreCommand{
         "Shows the score widget of a token: as a picture, a view tree, frames or words.\n"
         "Nothing is fetched: texts are the built-in ones or those of a file.",
     .options = ScoreRequest::options,
-    .operands = 0,
+    .operand = {},
     .details =
         "Text sizes: extraSmall, small, medium, large, extraLarge, extraExtraLarge,\n"
         "extraExtraExtraLarge, accessibilityMedium, accessibilityLarge,\n"

@@ -70,7 +70,7 @@ swiftui::Environment readEnvironment(OptionReader& read, const std::string& loca
   }
   const std::string size = read.text("--text-size", "large");
   const auto category = swiftui::contentSizeCategoryNamed(size);
-  if (!category) read.fail("--text-size knows no \"" + size + "\"; \"quorix score --help\" does");
+  if (!category) read.fail("--text-size knows no \"" + size + "\"");
   environment.textSize = category.value_or(environment.textSize);
   return environment;
 }

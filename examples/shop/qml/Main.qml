@@ -25,6 +25,11 @@ ApplicationWindow {
                                                   : root.appearance === ScoreRow.Dark
     }
 
+    Shortcut {
+        sequences: [StandardKey.Quit]
+        onActivated: Qt.quit()
+    }
+
     ColumnLayout {
         anchors.fill: parent
         spacing: 0

@@ -82,8 +82,6 @@ Rectangle {
                     horizontalAlignment: Text.AlignLeft
                 }
 
-                Item { width: 1; height: 18 }
-
                 ScoreSection {
                     width: parent.width
                     colors: page.colors

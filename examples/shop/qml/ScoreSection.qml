@@ -1,7 +1,8 @@
 import QtQuick
 import Quorix.Shop
 
-// The score row between hairlines. With nothing to show it takes no room, lines and margins included.
+// The score row between hairlines, and the room around them. With nothing to show it takes no room
+// at all.
 Item {
     id: section
 
@@ -12,12 +13,14 @@ Item {
     required property var face
 
     readonly property bool shown: row.implicitHeight > 0
-    readonly property int margin: 16
+    readonly property int above: 18    // the upper line
+    readonly property int margin: 16   // between each line and the row
 
-    implicitHeight: shown ? row.implicitHeight + 2 * margin : 0
+    implicitHeight: shown ? above + row.implicitHeight + 2 * margin : 0
 
     Rectangle {
         visible: section.shown
+        y: section.above
         width: parent.width
         height: 1
         color: section.colors.hairline
@@ -28,7 +31,8 @@ Item {
         anchors {
             left: parent.left
             right: parent.right
-            verticalCenter: parent.verticalCenter
+            bottom: parent.bottom
+            bottomMargin: section.margin
         }
         clientId: Shop.clientId
         locale: section.language.code
