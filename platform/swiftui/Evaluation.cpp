@@ -1,8 +1,6 @@
 #include "platform/swiftui/Evaluation.h"
 
 #include <algorithm>
-#include <map>
-#include <typeindex>
 #include <typeinfo>
 #include <utility>
 
@@ -25,24 +23,6 @@ graphics::RGBA separatorColor(graphics::Appearance appearance) {
   return appearance == graphics::Appearance::dark ? graphics::RGBA{84, 84, 88, 153}
                                                   : graphics::RGBA{60, 60, 67, 74};
 }
-
-/// Steps of a tree path.
-namespace steps {
-constexpr char32_t chosen = 1;
-constexpr char32_t notChosen = 2;
-constexpr char32_t modified = 3;  ///< into a modifier that needs a place of its own
-// Each of these goes on with its next ones.
-constexpr char32_t firstChild = 1U << 8;
-constexpr char32_t firstOverlay = 1U << 30;  ///< one for each element of a group
-constexpr char32_t firstType = 1U << 31;
-
-/// Into the body of a component. Another type in its place is another view, with states of its own.
-char32_t into(const Component& component) {
-  static std::map<std::type_index, char32_t> known;
-  const auto next = firstType + static_cast<char32_t>(known.size());
-  return known.try_emplace(typeid(component), next).first->second;
-}
-}  // namespace steps
 
 /// What reaches down to descendants. Each modifier overwrites what came from further out.
 struct Look {
@@ -179,8 +159,9 @@ void Evaluator::collect(const nodes::Custom& node, const View&, const Look& look
       observed.push_back(&object);
     }
   });
-  at(steps::into(*node.component),
-     [&] { collect(node.component->body(store_.states(path_)), look, axis, out); });
+  const Component& component = *node.component;
+  at(steps::into(typeid(component)),
+     [&] { collect(component.body(store_.states(path_)), look, axis, out); });
 }
 
 void Evaluator::collectChildren(const std::vector<View>& children, const Look& look, Axis axis,

@@ -33,11 +33,15 @@ class TestWindow final : public hosting::ViewHost::Client, public hosting::Sheet
   explicit TestWindow(swiftui::View root, swiftui::Environment settings = {},
                       layout::Size windowSize = {320, 640})
       : host(std::in_place, text, *this), size(windowSize), environment(settings) {
-    foundation::MainQueue::drain();  // what earlier windows left
     host->setEnvironment(environment);
     host->setRoot(std::move(root));
     host->setOnScreen(true);
     host->scene(size);
+  }
+  ~TestWindow() override {
+    sheet.reset();
+    host.reset();
+    foundation::MainQueue::drain();  // leaves nothing to the next test
   }
   TestWindow(const TestWindow&) = delete;
   TestWindow& operator=(const TestWindow&) = delete;
