@@ -27,4 +27,7 @@ QImage picture(const swiftui::View& view, const PictureOptions& options = {});
 /// Draws `scene` over `background` at `scale` device pixels for each point. Null as above.
 QImage paintPicture(const render::Scene& scene, double scale, graphics::RGBA background);
 
+/// Draws `scene` with the background and the scale of `options`. Null as above.
+QImage paintPicture(const render::Scene& scene, const PictureOptions& options);
+
 }  // namespace quorix::qt

@@ -11,13 +11,13 @@ namespace {
 
 /// A document keeps the memory of the largest text that it has read, so each thread keeps one for
 /// payloads of any likely size only.
-constexpr std::size_t kLikelyPayload = 16 * 1024;
+constexpr std::size_t kLikelyPayload = 16384;  // bytes
 
 std::optional<std::string> decodePayload(std::string_view piece) {
   std::string text(piece);
   // Counting bytes is enough: a payload in which characters are longer than that is no base64.
   if (const std::size_t rest = text.size() % 4; rest != 0) text.append(4 - rest, '=');
-  return foundation::decodeBase64(text, foundation::Base64Alphabet::either);
+  return foundation::decodeBase64(std::move(text), foundation::Base64Alphabet::either);
 }
 
 TokenReading readFigures(const foundation::JSONValue& data) {

@@ -1,5 +1,6 @@
 #include "platform/foundation/Base64.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 
@@ -39,30 +40,25 @@ std::uint32_t quantum(const Values& values, const char* text) {
 
 }  // namespace
 
-std::optional<std::string> decodeBase64(std::string_view text, Base64Alphabet alphabet) {
+std::optional<std::string> decodeBase64(std::string text, Base64Alphabet alphabet) {
   if (text.size() % 4 != 0) return std::nullopt;
-  std::string bytes(text.size() / 4 * 3, '\0');
-  if (text.empty()) return bytes;
+  const std::size_t padding = !text.ends_with('=') ? 0 : text.ends_with("==") ? 2 : 1;
+  std::fill_n(text.rbegin(), padding, kAlphabet[0]);
 
   const Values& values = alphabet == Base64Alphabet::either ? kEither : kStandard;
-  char* out = bytes.data();
+  const char* const end = text.data() + text.size();
+  char* out = text.data();
   std::uint32_t invalid = 0;
-  const auto decode = [&](const char* four) {
-    const std::uint32_t bits = quantum(values, four);
-    invalid |= bits & kInvalid;
+  for (const char* in = out; in != end; in += 4) {
+    const std::uint32_t bits = quantum(values, in);
+    invalid |= bits;
     *out++ = static_cast<char>(bits >> 16);
     *out++ = static_cast<char>(bits >> 8);
     *out++ = static_cast<char>(bits);
-  };
-  const std::size_t padding = !text.ends_with('=') ? 0 : text.ends_with("==") ? 2 : 1;
-  const std::size_t last = text.size() - 4;
-  for (std::size_t i = 0; i < last; i += 4) decode(text.data() + i);
-  char end[4] = {text[last], text[last + 1], text[last + 2], text[last + 3]};
-  for (std::size_t i = 4 - padding; i < 4; ++i) end[i] = kAlphabet[0];
-  decode(end);
-  if (invalid) return std::nullopt;
-  bytes.resize(bytes.size() - padding);
-  return bytes;
+  }
+  if (invalid & kInvalid) return std::nullopt;
+  text.resize(text.size() / 4 * 3 - padding);
+  return text;
 }
 
 std::string encodeBase64(std::string_view bytes) {

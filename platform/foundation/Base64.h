@@ -15,7 +15,7 @@ enum class Base64Alphabet { standard, either };
 /// over before the padding are ignored. Any thread.
 ///
 ///     decodeBase64("AAE=")  // the bytes 0 and 1
-std::optional<std::string> decodeBase64(std::string_view text,
+std::optional<std::string> decodeBase64(std::string text,
                                         Base64Alphabet alphabet = Base64Alphabet::standard);
 
 /// `bytes` in standard base64 with padding. Any thread.

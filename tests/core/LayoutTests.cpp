@@ -3,7 +3,6 @@
 #include <sstream>
 
 #include "platform/layout/Layout.h"
-#include "platform/render/ScenePrinter.h"
 #include "tests/core/LayoutCase.h"
 #include "tests/core/TestWindow.h"
 
@@ -13,18 +12,8 @@ namespace {
 using layout::ProposedSize;
 using testing::FixedWidthText;
 using testing::LayoutCase;
+using testing::printedItems;
 using testing::TestWindow;
-
-/// The painted items, each up to what it shows: the looks are not the layout's.
-std::string printedItems(const render::Scene& scene) {
-  std::istringstream lines(render::printFrames(scene));
-  std::string result;
-  for (std::string line; std::getline(lines, line);) {
-    const std::size_t end = line.rfind('"');
-    result += line.substr(0, end == std::string::npos ? line.rfind(" #") : end + 1) + "\n";
-  }
-  return result;
-}
 
 std::optional<double> readLength(const std::string& word) {
   if (word == "none") return std::nullopt;

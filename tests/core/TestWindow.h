@@ -3,15 +3,28 @@
 #include <gtest/gtest.h>
 
 #include <optional>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 
 #include "platform/foundation/MainQueue.h"
 #include "platform/hosting/SheetPresenter.h"
 #include "platform/hosting/ViewHost.h"
+#include "platform/render/ScenePrinter.h"
 #include "tests/core/FixedWidthText.h"
 
 namespace quorix::testing {
+
+/// The painted items, each up to what it shows: the looks are not the layout's.
+inline std::string printedItems(const render::Scene& scene) {
+  std::istringstream lines(render::printFrames(scene));
+  std::string result;
+  for (std::string line; std::getline(lines, line);) {
+    const std::size_t end = line.rfind('"');
+    result += line.substr(0, end == std::string::npos ? line.rfind(" #") : end + 1) + "\n";
+  }
+  return result;
+}
 
 /// A window that one view fills, as an engine's surface shows it, with the sheet that the view asks
 /// for. What a user does is found by its accessibility label.
@@ -20,6 +33,7 @@ class TestWindow final : public hosting::ViewHost::Client, public hosting::Sheet
   explicit TestWindow(swiftui::View root, swiftui::Environment settings = {},
                       layout::Size windowSize = {320, 640})
       : host(std::in_place, text, *this), size(windowSize), environment(settings) {
+    foundation::MainQueue::drain();  // what earlier windows left
     host->setEnvironment(environment);
     host->setRoot(std::move(root));
     host->setOnScreen(true);

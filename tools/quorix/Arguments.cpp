@@ -25,13 +25,17 @@ bool Arguments::wantHelp(std::span<const std::string> words) {
 
 std::variant<Arguments, Failure> Arguments::parse(std::span<const std::string> words,
                                                   std::span<const Option> options,
-                                                  std::size_t operands) {
+                                                  std::string_view operand) {
   Arguments result;
   bool optionsEnded = false;
+  bool wantsOperand = !operand.empty();
   for (std::size_t i = 0; i < words.size(); ++i) {
     const std::string& word = words[i];
     if (optionsEnded || !isOption(word)) {
-      result.operands_.push_back(word);
+      if (!std::exchange(wantsOperand, false)) {
+        return Failure::usage("unexpected argument " + quoted(word));
+      }
+      result.operand_ = word;
       continue;
     }
     if (word == endOfOptions) {
@@ -55,10 +59,7 @@ std::variant<Arguments, Failure> Arguments::parse(std::span<const std::string> w
     }
     result.values_[name] = std::move(value);
   }
-  if (result.operands_.size() > operands) {
-    return Failure::usage("unexpected argument " + quoted(result.operands_[operands]));
-  }
-  if (result.operands_.size() < operands) return Failure::usage("an argument is missing");
+  if (wantsOperand) return Failure::usage(std::string(operand) + " is missing");
   return result;
 }
 

@@ -20,7 +20,7 @@ struct Command {
   std::string_view synopsis;  ///< what follows the name
   std::string_view purpose;   ///< two lines, the first of which serves in the list of commands
   std::span<const Option> options;
-  std::size_t operands;      ///< how many arguments it takes besides options, no more and no fewer
+  std::string_view operand;  ///< the one argument it takes besides options: "TOKEN"; empty for none
   std::string_view details;  ///< whole lines below the options; may be empty
   std::string_view example;  ///< whole lines that work when pasted into a shell
   Outcome (*run)(const Arguments&);

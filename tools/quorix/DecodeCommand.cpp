@@ -19,7 +19,7 @@ std::string json(const TokenData& figures) {
 }
 
 Outcome decode(const Arguments& arguments) {
-  const auto reading = readToken(tokenText(arguments.operands().front()));
+  const auto reading = readToken(tokenText(arguments.operand()));
   if (const auto* refusal = std::get_if<TokenRefusal>(&reading)) return refused(*refusal);
   return json(std::get<TokenData>(reading));
 }
@@ -29,12 +29,14 @@ Outcome decode(const Arguments& arguments) {
 const Command decodeCommand{
     .name = "decode",
     .synopsis = "TOKEN",
-    .purpose = "Prints the figures in a shopper token as JSON.\n"
-               "A token that a widget would refuse is refused here, with the reason.",
+    .purpose =
+        "Prints the figures in a shopper token as JSON.\n"
+        "A token that a widget would refuse is refused here, with the reason.",
     .options = {},
-    .operands = 1,
-    .details = "TOKEN is the token's text, or - to read it from the standard input. Fees are in\n"
-               "hundredths of the currency's unit. The signature is not checked.",
+    .operand = "TOKEN",
+    .details =
+        "TOKEN is the token's text, or - to read it from the standard input. Fees are in\n"
+        "hundredths of the currency's unit. The signature is not checked.",
     .example = "quorix mint --base 1250 | quorix decode -",
     .run = decode,
 };

@@ -34,13 +34,14 @@ std::string helpText(std::span<const Command* const> commands) {
       "Usage: quorix COMMAND [options]\n\nCommands:\n";
   for (const Command* command : commands) {
     const std::string_view firstLine = command->purpose.substr(0, command->purpose.find('\n'));
-    text += twoColumns("  " + std::string(command->name), firstLine, 12);
+    text += twoColumns("  " + std::string(command->name), firstLine, 14);
   }
-  text += twoColumns("  --version", "Prints the version.", 12);
+  text += twoColumns("  --version", "Prints the version.", 14);
   text += "\n\"quorix COMMAND --help\" tells the rest.\n\nExample:\n";
   text += indented("quorix score --token \"$(quorix mint)\" --out row.png");
-  text += "\nExit status: 0 when all went well, 1 for input that was refused, 2 for a wrong command"
-          " line.\n";
+  text +=
+      "\nExit status: 0 when all went well, 1 for input that was refused, 2 for a wrong command"
+      " line.\n";
   return text;
 }
 

@@ -51,8 +51,7 @@ std::optional<double> OptionReader::optionalNumber(std::string_view option, Rang
   // Written so that it also refuses what is not a number.
   const bool inside = number && *number >= range.least && *number <= range.most;
   if (inside) return number;
-  const std::string what =
-      "a number from " + shortest(range.least) + " to " + shortest(range.most);
+  const std::string what = "a number from " + shortest(range.least) + " to " + shortest(range.most);
   fail(wants(option, what, *given));
   return std::nullopt;
 }
