@@ -153,7 +153,10 @@ const ShapingFont& QtFonts::find(const text::ResolvedFont& wanted, int pixels) {
   font.setHintingPreference(QFont::PreferNoHinting);
   font.setStyleStrategy(QFont::NoSubpixelAntialias);
   const QRawFont raw = QRawFont::fromFont(font);
-  return fonts_.emplace(key, ShapingFont{font, underline(raw), strikethrough(raw)}).first->second;
+  return fonts_
+      .emplace(key,
+               ShapingFont{font, raw.ascent(), raw.descent(), underline(raw), strikethrough(raw)})
+      .first->second;
 }
 
 }  // namespace quorix::qt

@@ -22,6 +22,8 @@ struct ShapingFont {
   };
 
   QFont font;
+  double ascent = 0;   ///< of the face itself, without fallbacks; pixels
+  double descent = 0;  ///< likewise
   Stroke underline;
   Stroke strikethrough;
 };
