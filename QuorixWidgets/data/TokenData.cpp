@@ -13,13 +13,6 @@ namespace {
 /// payloads of any likely size only.
 constexpr std::size_t kLikelyPayload = 16 * 1024;
 
-std::optional<std::string> decodePayload(std::string_view piece) {
-  std::string text(piece);
-  // Counting bytes is enough: a payload in which characters are longer than that is no base64.
-  if (const std::size_t rest = text.size() % 4; rest != 0) text.append(4 - rest, '=');
-  return foundation::decodeBase64(text, foundation::Base64Alphabet::either);
-}
-
 TokenReading readFigures(const foundation::JSONValue& data) {
   const auto read = [&](std::string_view key, auto get) -> decltype((data.*get)()) {
     const auto member = data.member(key);
@@ -77,7 +70,9 @@ std::string_view describe(TokenRefusal refusal) {
 TokenReading readToken(std::string_view token) noexcept {
   const auto pieces = foundation::splitCharacters(token, '.');
   if (pieces.size() < 2) return TokenRefusal::noPayload;
-  const auto payload = decodePayload(pieces[1]);
+  // Completing by bytes is enough: a payload with longer characters is no base64.
+  const auto payload = foundation::decodeBase64(pieces[1], foundation::Base64Alphabet::either,
+                                                foundation::Base64Padding::completed);
   if (!payload) return TokenRefusal::notBase64;
   if (payload->size() > kLikelyPayload) {
     foundation::JSONDocument document;
