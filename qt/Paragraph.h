@@ -30,6 +30,7 @@ class Paragraph {
   ShapedText::Line collect(const QTextLine& line) const;
 
   QTextLayout layout_;
+  double units_ = 1;  ///< for each point
   std::vector<Run> runs_;
   bool open_ = false;
 };

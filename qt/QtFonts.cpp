@@ -4,8 +4,6 @@
 #include <QGuiApplication>
 #include <QRawFont>
 #include <QtEndian>
-#include <algorithm>
-#include <cmath>
 #include <functional>
 #include <optional>
 
@@ -59,10 +57,14 @@ std::optional<QFont> loadData(std::string_view data) {
 
 QFont::Weight qtWeight(swiftui::FontWeight weight) {
   switch (weight) {
-    case swiftui::FontWeight::regular: return QFont::Normal;
-    case swiftui::FontWeight::medium: return QFont::Medium;
-    case swiftui::FontWeight::semibold: return QFont::DemiBold;
-    case swiftui::FontWeight::bold: return QFont::Bold;
+    case swiftui::FontWeight::regular:
+      return QFont::Normal;
+    case swiftui::FontWeight::medium:
+      return QFont::Medium;
+    case swiftui::FontWeight::semibold:
+      return QFont::DemiBold;
+    case swiftui::FontWeight::bold:
+      return QFont::Bold;
   }
   return QFont::Normal;
 }
@@ -81,8 +83,8 @@ ShapingFont::Stroke strikethrough(const QRawFont& font) {
   return {-font.xHeight() / 2, font.lineThickness()};
 }
 
-ShapingFont::Stroke inPoints(ShapingFont::Stroke stroke) {
-  return {stroke.offset / ShapingFont::unitsPerPoint, stroke.thickness / ShapingFont::unitsPerPoint};
+ShapingFont::Stroke scaled(ShapingFont::Stroke stroke, double by) {
+  return {stroke.offset * by, stroke.thickness * by};
 }
 
 }  // namespace
@@ -119,7 +121,8 @@ bool QtFonts::refresh() {
 
 std::size_t QtFonts::Hash::operator()(const text::ResolvedFont& font) const {
   const std::size_t name = std::hash<std::string>{}(font.name);
-  return (name * 31 + std::hash<double>{}(font.points)) * 31 + static_cast<std::size_t>(font.weight);
+  return (name * 31 + std::hash<double>{}(font.points)) * 31 +
+         static_cast<std::size_t>(font.weight);
 }
 
 /// The registered face `name`, handed to Qt on first use; null when there is none.
@@ -152,15 +155,15 @@ const ShapingFont& QtFonts::find(const text::ResolvedFont& wanted) {
     font.setStyleName({});
     font.setWeight(qtWeight(wanted.weight));
   }
-  font.setPixelSize(std::max(1, static_cast<int>(std::lround(wanted.points *
-                                                             ShapingFont::unitsPerPoint))));
+  font.setPixelSize(ShapingFont::pixels);
   font.setHintingPreference(QFont::PreferNoHinting);
   font.setStyleStrategy(QFont::NoSubpixelAntialias);
   const QRawFont raw = QRawFont::fromFont(font);
+  const double points = wanted.points / ShapingFont::pixels;
   return fonts_
       .emplace(wanted,
-               ShapingFont{font, inPoints({raw.underlinePosition(), raw.lineThickness()}),
-                           inPoints(strikethrough(raw))})
+               ShapingFont{font, scaled({raw.underlinePosition(), raw.lineThickness()}, points),
+                           scaled(strikethrough(raw), points)})
       .first->second;
 }
 

@@ -70,17 +70,18 @@ void ScenePainter::draw(const render::TextItem& item) {
   const bool fromRight = item.text.direction == layout::LayoutDirection::rightToLeft;
   for (const ShapedText::Line& line : shaped.lines) {
     const double left = fromRight ? item.frame.right() - line.advance : item.frame.left();
-    drawLine(line, item.text, onPixels({left, item.frame.top() + line.baseline}));
+    drawLine(line, shaped.unitsPerPoint, item.text,
+             onPixels({left, item.frame.top() + line.baseline}));
   }
 }
 
-void ScenePainter::drawLine(const ShapedText::Line& line, const text::AttributedText& text,
-                            QPointF origin) {
+void ScenePainter::drawLine(const ShapedText::Line& line, double unitsPerPoint,
+                            const text::AttributedText& text, QPointF origin) {
   for (const ShapedText::Span& span : line.spans) {
     const text::Run& run = text.runs[span.run];
     if (run.underline) drawDecoration(span, origin, engine_.font(run.font).underline, run.color);
   }
-  constexpr double shrink = 1.0 / ShapingFont::unitsPerPoint;
+  const double shrink = 1 / unitsPerPoint;
   painter_.setTransform(QTransform(shrink, 0, 0, shrink, origin.x(), origin.y()) * base_);
   for (const ShapedText::Piece& piece : line.pieces) {
     painter_.setPen(toQColor(text.runs[piece.run].color));
@@ -96,8 +97,9 @@ void ScenePainter::drawLine(const ShapedText::Line& line, const text::Attributed
 
 void ScenePainter::drawDecoration(const ShapedText::Span& span, QPointF origin,
                                   ShapingFont::Stroke stroke, graphics::RGBA color) {
-  const layout::Rect exact{{origin.x() + span.left, origin.y() + stroke.offset - stroke.thickness / 2},
-                           {span.right - span.left, stroke.thickness}};
+  const layout::Rect exact{
+      {origin.x() + span.left, origin.y() + stroke.offset - stroke.thickness / 2},
+      {span.right - span.left, stroke.thickness}};
   QRectF device = toDevice_.mapRect(toQRectF(exact));
   const double thickness = std::max(1.0, std::round(device.height()));
   device.setTop(std::round(device.center().y() - thickness / 2));

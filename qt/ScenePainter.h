@@ -28,7 +28,8 @@ class ScenePainter {
   void draw(const render::FillItem& item);
   void draw(const render::StrokeItem& item);
 
-  void drawLine(const ShapedText::Line& line, const text::AttributedText& text, QPointF origin);
+  void drawLine(const ShapedText::Line& line, double unitsPerPoint,
+                const text::AttributedText& text, QPointF origin);
   void drawDecoration(const ShapedText::Span& span, QPointF origin, ShapingFont::Stroke stroke,
                       graphics::RGBA color);
   void fill(const QRectF& device, graphics::RGBA color);

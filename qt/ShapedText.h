@@ -11,8 +11,7 @@ namespace quorix::qt {
 /// A text broken into lines, ready to draw. It holds no colour: texts that differ only in colour or
 /// decoration share it.
 struct ShapedText {
-  /// Glyphs of one run, in `ShapingFont::unitsPerPoint` units from the line's left end, on the
-  /// baseline.
+  /// Glyphs of one run, in shaping units from the line's left end, on the baseline.
   struct Piece {
     QGlyphRun glyphs;
     std::size_t run = 0;
@@ -33,7 +32,8 @@ struct ShapedText {
   };
 
   text::TextMetrics metrics;
-  std::vector<Line> lines;  ///< empty when only the metrics were asked for
+  double unitsPerPoint = 1;  ///< the shaping units in a point
+  std::vector<Line> lines;   ///< empty when only the metrics were asked for
 };
 
 }  // namespace quorix::qt
