@@ -75,7 +75,8 @@ QImage paintPicture(const render::Scene& scene, double scale, graphics::RGBA bac
   image.setDevicePixelRatio(scale);
   image.fill(toQColor(background));
   QPainter painter(&image);
-  ScenePainter(painter).paint(scene);
+  using Ground = ScenePainter::Ground;
+  ScenePainter(painter, background.alpha == 0 ? Ground::nothing : Ground::unknown).paint(scene);
   return image;
 }
 
