@@ -73,8 +73,8 @@ void ViewSurface::windowChanged() {
   painted_ = inViewport_ = false;
   pictureStale_ = true;
   AccessibilityBridge::offer(item_);
+  onScreenChanged();  // before anyone asks for a size: the view is then evaluated once
   environmentChanged();
-  onScreenChanged();
   if (window) presentationChanged();
 }
 
