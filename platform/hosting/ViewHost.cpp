@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/hosting/RecentEvaluations.h"
 #include "platform/hosting/SceneBuilder.h"
 #include "platform/layout/Layout.h"
 #include "platform/swiftui/ViewGraph.h"
@@ -12,9 +13,13 @@ namespace quorix::hosting {
 struct ViewHost::State {
   State(text::TextEngine& textEngine, Client& surface)
       : engine(textEngine), client(surface), graph([this] { invalidated(); }) {}
+  ~State() { forget(); }
+  State(const State&) = delete;
+  State& operator=(const State&) = delete;
 
   swiftui::Evaluation& evaluated();
   void evaluateAgain();
+  void forget() { RecentEvaluations::shared().empty(evaluation); }
   void invalidated();
   void changed();
   void layOut(layout::Size size);
@@ -24,8 +29,8 @@ struct ViewHost::State {
   Client& client;
   swiftui::Environment environment;
   swiftui::ViewGraph graph;
-  // Only between an evaluation and the scene made of it; a view at rest keeps the scene alone.
-  std::unique_ptr<swiftui::Evaluation> evaluation;
+  // Between an evaluation and the scene made of it; a view at rest keeps the scene alone.
+  RecentEvaluations::Slot evaluation;
   std::optional<std::pair<layout::ProposedSize, layout::Size>> fitted;
   std::optional<swiftui::Presentation> presentation;
   swiftui::PresentationDetents detents;
@@ -43,7 +48,7 @@ swiftui::Evaluation& ViewHost::State::evaluated() {
 
 void ViewHost::State::evaluateAgain() {
   stale = false;
-  evaluation = std::make_unique<swiftui::Evaluation>(graph.evaluate(environment));
+  RecentEvaluations::shared().fill(evaluation, graph.evaluate(environment));
   detents = evaluation->detents;
   const bool had = presentation.has_value();
   presentation = evaluation->presentation;
@@ -64,7 +69,7 @@ void ViewHost::State::changed() {
   stale = true;
   fitted.reset();
   scene.reset();
-  evaluation.reset();
+  forget();
   client.viewNeedsDisplay();
 }
 
@@ -93,7 +98,7 @@ void ViewHost::State::layOut(layout::Size size) {
                        })
               .build();
   scene->size = size;
-  evaluation.reset();
+  forget();
   for (const auto& change : changes) change();
 }
 
