@@ -75,7 +75,7 @@ void ViewSurface::windowChanged() {
   AccessibilityBridge::offer(item_);
   onScreenChanged();  // before anyone asks for a size: the view is then evaluated once
   environmentChanged();
-  if (window) presentationChanged();
+  if (window && (sheet_ || host_.presentation())) presentationChanged();
 }
 
 void ViewSurface::onScreenChanged() {
