@@ -68,14 +68,19 @@ AccessibleSurface* AccessibilityBridge::surfaceOf(const QObject* object) {
   return surfaces().value(object);
 }
 
+bool AccessibilityBridge::isActive() {
+  return QAccessible::isActive() || instance()->active_;
+}
+
 void AccessibilityBridge::offer(QQuickItem& item) {
-  if (!QAccessible::isActive()) return;
+  if (!isActive()) return;
   if (const QQmlAttachedPropertiesFunc attach = attachAccessible()) {
     qmlAttachedPropertiesObject(&item, attach, true);
   }
 }
 
 void AccessibilityBridge::accessibilityActiveChanged(bool active) {
+  active_ = active;
   if (active) emit began();
 }
 

@@ -23,6 +23,9 @@ class AccessibilityBridge : public QObject, private QAccessible::ActivationObser
   void remove(QObject& object);
   static AccessibleSurface* surfaceOf(const QObject* object);
 
+  /// Whether assistive technology listens.
+  static bool isActive();
+
   /// Has Qt Quick offer `item` to assistive technology. Does nothing while none listens.
   static void offer(QQuickItem& item);
 
@@ -32,6 +35,8 @@ class AccessibilityBridge : public QObject, private QAccessible::ActivationObser
  private:
   explicit AccessibilityBridge(QObject* application);
   void accessibilityActiveChanged(bool active) override;
+
+  bool active_ = false;  ///< not every platform keeps what its observers are told
 };
 
 }  // namespace quorix::qt

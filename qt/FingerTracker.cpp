@@ -8,19 +8,19 @@ std::optional<FingerTracker::Report> FingerTracker::read(const QTouchEvent& even
   if (event.type() == QEvent::TouchCancel) {
     if (!finger_) return std::nullopt;
     forget();
-    return Report{Phase::cancelled, {}, {}};
+    return Report{Phase::cancelled, {}};
   }
   for (const QEventPoint& point : event.points()) {
     if (!finger_ && point.state() == QEventPoint::Pressed) {
       finger_ = point.id();
-      return Report{Phase::pressed, point.position(), {}};
+      return Report{Phase::pressed, point.position()};
     }
     if (finger_ != point.id()) continue;
     if (point.state() == QEventPoint::Released) {
       forget();
-      return Report{Phase::released, point.position(), point.velocity()};
+      return Report{Phase::released, point.position()};
     }
-    return Report{Phase::moved, point.position(), point.velocity()};
+    return Report{Phase::moved, point.position()};
   }
   return std::nullopt;
 }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QPointF>
-#include <QVector2D>
 #include <optional>
 
 class QTouchEvent;
@@ -14,8 +13,7 @@ class FingerTracker {
   enum class Phase { pressed, moved, released, cancelled };
   struct Report {
     Phase phase;
-    QPointF position;    ///< in the item's points
-    QVector2D velocity;  ///< points a second
+    QPointF position;  ///< in the item's points
   };
 
   /// What `event` says about the finger; nothing when it is about others.

@@ -16,8 +16,9 @@ namespace quorix::qt {
 ///
 /// It starts with the first request and sleeps in its event loop between requests; a program that
 /// never asks for anything never has it. (Qt Network keeps one more thread beneath it for the
-/// sockets.) It ends with Qt's application object, which waits for it: what is still in flight ends
-/// with an error first. The next application object's first request starts it anew.
+/// sockets, and an idle connection for two minutes.) It ends with Qt's application object, which
+/// waits for it: what is still in flight ends with an error first. The next application object's
+/// first request starts it anew.
 class NetworkThread {
  public:
   struct Job {

@@ -7,8 +7,7 @@
 namespace quorix::qt {
 namespace {
 
-/// Of a font that draws nothing.
-constexpr double smallest = 1.0 / 64;
+constexpr double smallestSize = 1.0 / 64;  // a size of nothing would leave nothing to scale
 
 /// Qt breaks lines at U+2028 alone.
 QString lineSeparated(const std::string& utf8) {
@@ -34,15 +33,36 @@ QTextOption option(layout::LayoutDirection direction) {
   return option;
 }
 
-/// Rounded up, so that the text breaks the same way when it is given back its own width.
-double measuredWidth(double natural, double offered) {
-  const double width = std::ceil(natural * 64) / 64;
+/// Rounded up, so that the text breaks the same way when it is given back its own width. What is
+/// `needed` is an upper bound: text of a `natural` width that fits never asks for more than it was
+/// offered.
+double measuredWidth(double natural, double needed, double offered) {
+  const double width = std::ceil(needed * 64) / 64;
   return natural <= offered ? std::min(width, offered) : width;
+}
+
+/// How far the ink of a line's last glyph reaches out of it, in pixels at the most. Qt wants room
+/// for that where it breaks a line, but does not always count it into the line's width.
+double overhang(const QTextLine& line, const QString& text) {
+  int last = line.textStart() + line.textLength() - 1;
+  while (last > line.textStart() && text[last].isSpace()) --last;
+  double reach = 0;
+  const QList<QGlyphRun> runs = line.glyphRuns(last, 1);
+  for (const QGlyphRun& run : runs) {
+    const QRawFont font = run.rawFont();
+    const QList<quint32> glyphs = run.glyphIndexes();
+    const QList<QPointF> advances = font.advancesForGlyphIndexes(glyphs);
+    for (qsizetype i = 0; i < glyphs.size(); ++i) {
+      const double ink = font.boundingRect(glyphs[i]).right();
+      reach = std::max(reach, std::ceil(ink - std::floor(advances[i].x())));
+    }
+  }
+  return reach;
 }
 
 /// Pieces of one run that touch become one span: a decoration is one stroke through them all.
 void addSpan(std::vector<ShapedText::Span>& spans, const ShapedText::Span& added) {
-  constexpr double touching = 1.0 / 32;
+  constexpr double touching = 1.0 / 16;
   for (ShapedText::Span& span : spans) {
     const bool apart = added.left > span.right + touching || added.right < span.left - touching;
     if (span.run != added.run || apart) continue;
@@ -69,70 +89,85 @@ void Paragraph::set(const text::AttributedText& text, QtFonts& fonts) {
   setText(characters, text, fonts);
 }
 
+/// The first run's size sets the scale. Other sizes are rounded to whole pixels beside it, as Qt
+/// has it.
 void Paragraph::setText(const QString& text, const text::AttributedText& attributed,
                         QtFonts& fonts) {
   const text::ResolvedFont first =
       attributed.runs.empty() ? text::ResolvedFont{} : attributed.runs.front().font;
-  const bool mixed = std::ranges::any_of(
-      attributed.runs, [&](const text::Run& run) { return run.font.points != first.points; });
-  units_ = mixed ? ShapingFont::mixedUnits : ShapingFont::pixels / std::max(first.points, smallest);
-  const auto shaping = [&](const text::ResolvedFont& wanted) {
-    QFont font = fonts.find(wanted).font;
-    if (mixed)
-      font.setPixelSize(std::max(1, static_cast<int>(std::lround(wanted.points * units_))));
-    return font;
-  };
+  unit_ = std::max(first.points, smallestSize) / ShapingFont::pixels;
   layout_.setText(text);
-  layout_.setFont(shaping(first));
+  const ShapingFont& face = fonts.find(first);
+  ascent_ = face.ascent;
+  descent_ = face.descent;
+  layout_.setFont(face.font);
   layout_.setTextOption(option(attributed.direction));
   QList<QTextLayout::FormatRange> formats;
   for (std::size_t i = 0; i < runs_.size(); ++i) {
     const text::ResolvedFont& font = attributed.runs[i].font;
     if (font == first || runs_[i].length == 0) continue;
+    const long pixels = std::max(1L, std::lround(font.points / unit_));
     QTextCharFormat format;
-    format.setFont(shaping(font));
+    format.setFont(fonts.find(font, static_cast<int>(pixels)).font);
     formats.push_back({runs_[i].start, runs_[i].length, format});
   }
   if (!formats.isEmpty()) layout_.setFormats(formats);
 }
 
-/// Shaping is the dear part and lasts until the session is opened anew. A session whose only line
-/// holds the whole text can be broken again, to a smaller width, without that.
+/// Shaping is the dear part and lasts as long as the session. A session whose only line holds the
+/// whole text can be broken again without it, but a line that Qt lays out anew keeps the height
+/// that it had: so only where no line is higher than the face.
+bool Paragraph::canBreakAgain() const {
+  if (!open_ || layout_.lineCount() != 1) return false;
+  const QTextLine line = layout_.lineAt(0);
+  return line.ascent() == ascent_ && line.descent() == descent_;
+}
+
 void Paragraph::openSession() {
-  if (open_ && layout_.lineCount() == 1) return;
+  if (canBreakAgain()) return;
   if (open_) layout_.endLayout();
   layout_.beginLayout();
   open_ = true;
 }
 
+double Paragraph::widthNeeded(const QTextLine& line) const {
+  const double natural = line.naturalTextWidth();
+  const bool tooWide = natural > line.width();
+  const bool whole = layout_.lineCount() == 1 && line.textLength() == layout_.text().size();
+  if (whole || tooWide) return natural;
+  return std::max(natural, line.horizontalAdvance() + overhang(line, layout_.text()));
+}
+
 ShapedText Paragraph::breakLines(double width, bool glyphs) {
   openSession();
   ShapedText shaped;
-  shaped.unitsPerPoint = units_;
+  shaped.unit = unit_;
   double top = 0;
   double natural = 0;
+  double needed = 0;
   for (int number = 0;; ++number) {
     QTextLine line = number < layout_.lineCount() ? layout_.lineAt(number) : layout_.createLine();
     if (!line.isValid()) break;
-    line.setLineWidth(std::max(width, 0.0) * units_);
+    line.setLineWidth(std::max(width, 0.0) / unit_);
     line.setPosition({0, -line.ascent()});
-    const double baseline = top + line.ascent() / units_;
+    const double baseline = top + line.ascent() * unit_;
     if (number == 0) shaped.metrics.firstBaseline = baseline;
     shaped.metrics.lastBaseline = baseline;
     shaped.metrics.lines = number + 1;
-    natural = std::max(natural, line.naturalTextWidth() / units_);
-    top += (line.ascent() + line.descent() + std::max(line.leading(), 0.0)) / units_;
+    natural = std::max(natural, line.naturalTextWidth() * unit_);
+    needed = std::max(needed, widthNeeded(line) * unit_);
+    top += (line.ascent() + line.descent() + std::max(line.leading(), 0.0)) * unit_;
     if (!glyphs) continue;
     shaped.lines.push_back(collect(line));
     shaped.lines.back().baseline = baseline;
   }
-  shaped.metrics.size = {measuredWidth(natural, width), top};
+  shaped.metrics.size = {measuredWidth(natural, needed, width), top};
   return shaped;
 }
 
 ShapedText::Line Paragraph::collect(const QTextLine& line) const {
   ShapedText::Line collected;
-  collected.advance = line.horizontalAdvance() / units_;
+  collected.advance = line.horizontalAdvance() * unit_;
   for (std::size_t run = 0; run < runs_.size(); ++run) {
     const int from = std::max(runs_[run].start, line.textStart());
     const int to =
@@ -142,7 +177,7 @@ ShapedText::Line Paragraph::collect(const QTextLine& line) const {
     for (const QGlyphRun& piece : glyphs) {
       const QRectF bounds = piece.boundingRect();
       collected.pieces.push_back({piece, run});
-      addSpan(collected.spans, {run, bounds.left() / units_, bounds.right() / units_});
+      addSpan(collected.spans, {run, bounds.left() * unit_, bounds.right() * unit_});
     }
   }
   return collected;

@@ -26,12 +26,16 @@ class Paragraph {
   };
 
   void setText(const QString& text, const text::AttributedText& attributed, QtFonts& fonts);
+  bool canBreakAgain() const;
   void openSession();
+  double widthNeeded(const QTextLine& line) const;
   ShapedText::Line collect(const QTextLine& line) const;
 
   QTextLayout layout_;
-  double units_ = 1;  ///< for each point
   std::vector<Run> runs_;
+  double unit_ = 1;  ///< points for each pixel of the shaping font
+  double ascent_ = 0;
+  double descent_ = 0;
   bool open_ = false;
 };
 

@@ -10,12 +10,13 @@ namespace quorix::qt {
 
 /// Draws `view` once, without a window: for tools, tests and anything that shows a still picture.
 /// The image has `environment.scale` pixels for each point, rounded up to whole pixels, and carries
-/// that scale as its device pixel ratio. Motion and time play no part: the same view and options give
-/// the same picture. The view comes on screen for the length of the call, so its tasks may start.
+/// that scale as its device pixel ratio. Motion and time play no part: the same view and options
+/// give the same picture. The view comes on screen for the length of the call, so its tasks may
+/// start.
 ///
-/// Needs a QGuiApplication (the "offscreen" platform will do) and runs on its main thread. The result
-/// is null when the size is empty, not finite, or more than an image can hold. With `sheet`, a view
-/// without a sheet is drawn as it stands.
+/// Needs a QGuiApplication (the "offscreen" platform will do) and runs on its main thread. The
+/// result is null when the size is empty, not finite, or more than an image can hold. With `sheet`,
+/// a view without a sheet is drawn as it stands.
 ///
 ///     quorix::qt::PictureOptions options;
 ///     options.width = 343;
@@ -25,5 +26,8 @@ QImage picture(const swiftui::View& view, const PictureOptions& options = {});
 
 /// Draws `scene` over `background` at `scale` device pixels for each point. Null as above.
 QImage paintPicture(const render::Scene& scene, double scale, graphics::RGBA background);
+
+/// Draws `scene` with the background and the scale of `options`. Null as above.
+QImage paintPicture(const render::Scene& scene, const PictureOptions& options);
 
 }  // namespace quorix::qt

@@ -12,22 +12,25 @@ void PictureNode::setPicture(QQuickWindow& window, const QImage& image) {
     image_ = nullptr;
     return;
   }
-  if (!image_) {
+  const bool isNew = !image_;
+  if (isNew) {
     image_ = window.createImageNode();
     image_->setOwnsTexture(true);
     // A pixel of the picture is a pixel of the window: interpolating could only blur it.
     image_->setFiltering(QSGTexture::Nearest);
-    appendChildNode(image_);
   }
   QSGTexture* texture = window.createTextureFromImage(image, QQuickWindow::TextureCanUseAtlas);
   image_->setTexture(texture);
   image_->setSourceRect(QRectF(QPointF(), texture->textureSize()));
-  image_->setRect(QRectF(image_->rect().topLeft(), image.deviceIndependentSize()));
+  image_->setRect(QRectF(QPointF(), image.deviceIndependentSize()));
+  // Not before: the software renderer looks at the texture as soon as the node is in the graph.
+  if (isNew) appendChildNode(image_);
 }
 
 void PictureNode::setOrigin(QPointF origin) {
-  if (!image_ || image_->rect().topLeft() == origin) return;
-  image_->setRect(QRectF(origin, image_->rect().size()));
+  QMatrix4x4 moved;
+  moved.translate(static_cast<float>(origin.x()), static_cast<float>(origin.y()));
+  if (moved != matrix()) setMatrix(moved);
 }
 
 }  // namespace quorix::qt

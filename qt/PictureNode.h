@@ -10,8 +10,9 @@ class QSGImageNode;
 namespace quorix::qt {
 
 /// A picture in the scene graph whose pixels are the window's. Shows nothing until it is given one.
-/// Render thread, during synchronization.
-class PictureNode : public QSGNode {
+/// The software renderer takes a node's place from the nearest ancestor only when that is a
+/// transform node, so pictures come and go only under such. Render thread, during synchronization.
+class PictureNode : public QSGTransformNode {
  public:
   /// Uploads `image`; a null image takes the texture away.
   void setPicture(QQuickWindow& window, const QImage& image);

@@ -16,7 +16,8 @@ struct PictureOptions {
   std::optional<double> height;
   /// The user's settings and the device pixels for each point.
   swiftui::Environment environment;
-  /// Opens the sheet behind the view's first element that acts, and draws it risen over the window.
+  /// Opens the sheet behind the view's first element that acts, and draws it risen over the window,
+  /// at whose top the view stands.
   bool sheet = false;
   /// Behind the view. Without it white in the light appearance and black in the dark one.
   std::optional<graphics::RGBA> background;

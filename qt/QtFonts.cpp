@@ -4,7 +4,6 @@
 #include <QGuiApplication>
 #include <QRawFont>
 #include <QtEndian>
-#include <functional>
 #include <optional>
 
 #include "platform/graphics/FontManager.h"
@@ -15,7 +14,7 @@ namespace {
 
 using graphics::FontManager;
 
-// Sizes vary without end while a user drags the text size; the fonts kept need not.
+// Names come from hosts, without end perhaps; the fonts kept have one.
 constexpr std::size_t maximumFonts = 128;
 
 /// Whether `name` is `squeezed` but for spaces and case. A desktop may have thousands of names to
@@ -82,18 +81,18 @@ QFont::Weight qtWeight(swiftui::FontWeight weight) {
 ShapingFont::Stroke strikethrough(const QRawFont& font) {
   constexpr qsizetype sizeAt = 26, positionAt = 28;
   const QByteArray os2 = font.fontTable("OS/2");
-  const double unit = font.pixelSize() / font.unitsPerEm();
   if (os2.size() >= positionAt + 2) {
-    const auto size = qFromBigEndian<qint16>(os2.constData() + sizeAt);
-    const auto position = qFromBigEndian<qint16>(os2.constData() + positionAt);
-    // The position is that of the stroke's upper edge.
-    if (size > 0 && position > 0) return {-(position - size / 2.0) * unit, size * unit};
+    const double size = qFromBigEndian<qint16>(os2.constData() + sizeAt) / font.unitsPerEm();
+    const double top = qFromBigEndian<qint16>(os2.constData() + positionAt) / font.unitsPerEm();
+    if (size > 0 && top > 0) return {size / 2 - top, size};
   }
-  return {-font.xHeight() / 2, font.lineThickness()};
+  const double em = font.pixelSize();
+  return {-font.xHeight() / 2 / em, font.lineThickness() / em};
 }
 
-ShapingFont::Stroke scaled(ShapingFont::Stroke stroke, double by) {
-  return {stroke.offset * by, stroke.thickness * by};
+ShapingFont::Stroke underline(const QRawFont& font) {
+  const double em = font.pixelSize();
+  return {font.underlinePosition() / em, font.lineThickness() / em};
 }
 
 }  // namespace
@@ -130,12 +129,6 @@ bool QtFonts::refresh() {
   return true;
 }
 
-std::size_t QtFonts::Hash::operator()(const text::ResolvedFont& font) const {
-  const std::size_t name = std::hash<std::string>{}(font.name);
-  return (name * 31 + std::hash<double>{}(font.points)) * 31 +
-         static_cast<std::size_t>(font.weight);
-}
-
 /// The registered face `name`, handed to Qt on first use; null when there is none.
 const QFont* QtFonts::registeredFace(const std::string& name) {
   const auto known = registered_.find(name);
@@ -157,8 +150,9 @@ const QFont& QtFonts::face(const std::string& name) {
   return installed_.emplace(name, font).first->second;
 }
 
-const ShapingFont& QtFonts::find(const text::ResolvedFont& wanted) {
-  const auto known = fonts_.find(wanted);
+const ShapingFont& QtFonts::find(const text::ResolvedFont& wanted, int pixels) {
+  const Key key{wanted.name, wanted.weight, pixels};
+  const auto known = fonts_.find(key);
   if (known != fonts_.end()) return known->second;
 
   QFont font = face(wanted.name);
@@ -166,15 +160,13 @@ const ShapingFont& QtFonts::find(const text::ResolvedFont& wanted) {
     font.setStyleName({});
     font.setWeight(qtWeight(wanted.weight));
   }
-  font.setPixelSize(ShapingFont::pixels);
+  font.setPixelSize(pixels);
   font.setHintingPreference(QFont::PreferNoHinting);
   font.setStyleStrategy(QFont::NoSubpixelAntialias);
   const QRawFont raw = QRawFont::fromFont(font);
-  const double points = wanted.points / ShapingFont::pixels;
   return fonts_
-      .emplace(wanted,
-               ShapingFont{font, scaled({raw.underlinePosition(), raw.lineThickness()}, points),
-                           scaled(strikethrough(raw), points)})
+      .emplace(key,
+               ShapingFont{font, raw.ascent(), raw.descent(), underline(raw), strikethrough(raw)})
       .first->second;
 }
 

@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -30,16 +31,22 @@ class QtFonts {
   /// application object.
   static bool systemKnows(std::string_view name);
 
-  /// The reference holds until `refresh` returns true.
-  const ShapingFont& find(const text::ResolvedFont& font);
+  /// The face of `font` in `pixels`. The reference holds until `refresh` returns true.
+  const ShapingFont& find(const text::ResolvedFont& font, int pixels = ShapingFont::pixels);
 
   /// Forgets the fonts found when faces have come or gone since the last call (or the fonts have
   /// become too many), and says so.
   bool refresh();
 
  private:
+  struct Key {
+    std::string name;
+    swiftui::FontWeight weight;
+    int pixels;
+    bool operator==(const Key&) const = default;
+  };
   struct Hash {
-    std::size_t operator()(const text::ResolvedFont& font) const;
+    std::size_t operator()(const Key& key) const { return std::hash<std::string>{}(key.name); }
   };
 
   const QFont& face(const std::string& name);
@@ -47,7 +54,7 @@ class QtFonts {
 
   std::unordered_map<std::string, QFont> registered_;
   std::unordered_map<std::string, QFont> installed_;
-  std::unordered_map<text::ResolvedFont, ShapingFont, Hash> fonts_;
+  std::unordered_map<Key, ShapingFont, Hash> fonts_;
   std::size_t generation_ = 0;
   bool databaseChanged_ = false;
   QMetaObject::Connection connection_;

@@ -18,7 +18,8 @@ namespace quorix::qt {
 /// answer from arriving whole is an error (domain "URLSession", code `QNetworkReply::NetworkError`,
 /// Qt's text). Addresses other than http and https are refused, unless a protocol registered with
 /// the session answers for them. The body is absent for a status that has none (204, 205, 304) and
-/// empty for any other answer without content.
+/// empty for any other answer without content. An answer in chunks that breaks off may pass for
+/// whole: Qt does not always notice.
 ///
 ///     URLSession::shared().install(std::make_shared<QtURLTransport>());
 class QtURLTransport final : public foundation::URLTransport {

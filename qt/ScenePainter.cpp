@@ -106,19 +106,17 @@ void ScenePainter::drawText(const render::TextItem& item) {
   const bool fromRight = item.text.direction == layout::LayoutDirection::rightToLeft;
   for (const ShapedText::Line& line : shaped.lines) {
     const double left = fromRight ? item.frame.right() - line.advance : item.frame.left();
-    drawLine(line, shaped.unitsPerPoint, item.text,
-             onPixels({left, item.frame.top() + line.baseline}));
+    drawLine(line, shaped.unit, item.text, onPixels({left, item.frame.top() + line.baseline}));
   }
 }
 
-void ScenePainter::drawLine(const ShapedText::Line& line, double unitsPerPoint,
+void ScenePainter::drawLine(const ShapedText::Line& line, double unit,
                             const text::AttributedText& text, QPointF origin) {
   for (const ShapedText::Span& span : line.spans) {
     const text::Run& run = text.runs[span.run];
-    if (run.underline) drawDecoration(span, origin, engine_.font(run.font).underline, run.color);
+    if (run.underline) drawDecoration(span, origin, engine_.font(run.font).underline, run);
   }
-  const double shrink = 1 / unitsPerPoint;
-  painter_.setTransform(QTransform(shrink, 0, 0, shrink, origin.x(), origin.y()) * base_);
+  painter_.setTransform(QTransform(unit, 0, 0, unit, origin.x(), origin.y()) * base_);
   for (const ShapedText::Piece& piece : line.pieces) {
     painter_.setPen(toQColor(text.runs[piece.run].color));
     painter_.drawGlyphRun({}, piece.glyphs);
@@ -127,20 +125,20 @@ void ScenePainter::drawLine(const ShapedText::Line& line, double unitsPerPoint,
   for (const ShapedText::Span& span : line.spans) {
     const text::Run& run = text.runs[span.run];
     if (!run.strikethrough) continue;
-    drawDecoration(span, origin, engine_.font(run.font).strikethrough, run.color);
+    drawDecoration(span, origin, engine_.font(run.font).strikethrough, run);
   }
 }
 
 void ScenePainter::drawDecoration(const ShapedText::Span& span, QPointF origin,
-                                  ShapingFont::Stroke stroke, graphics::RGBA color) {
-  const layout::Rect exact{
-      {origin.x() + span.left, origin.y() + stroke.offset - stroke.thickness / 2},
-      {span.right - span.left, stroke.thickness}};
+                                  ShapingFont::Stroke stroke, const text::Run& run) {
+  const double top = (stroke.offset - stroke.thickness / 2) * run.font.points;
+  const layout::Rect exact{{origin.x() + span.left, origin.y() + top},
+                           {span.right - span.left, stroke.thickness * run.font.points}};
   QRectF device = toDevice_.mapRect(toQRectF(exact));
   const double thickness = std::max(1.0, std::round(device.height()));
   device.setTop(std::round(device.center().y() - thickness / 2));
   device.setHeight(thickness);
-  fill(rounded(device), color);
+  fill(rounded(device), run.color);
 }
 
 void ScenePainter::draw(const render::ImageItem& item) {

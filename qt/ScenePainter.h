@@ -36,10 +36,10 @@ class ScenePainter {
   void drawText(const render::TextItem& item);
   bool drawPicture(const render::TextItem& item);
   TextPictures::Picture pictureOf(const render::TextItem& item) const;
-  void drawLine(const ShapedText::Line& line, double unitsPerPoint,
-                const text::AttributedText& text, QPointF origin);
+  void drawLine(const ShapedText::Line& line, double unit, const text::AttributedText& text,
+                QPointF origin);
   void drawDecoration(const ShapedText::Span& span, QPointF origin, ShapingFont::Stroke stroke,
-                      graphics::RGBA color);
+                      const text::Run& run);
   void fill(const QRectF& device, graphics::RGBA color);
   QPointF onPixels(QPointF point) const;
   QRectF deviceRect(const layout::Rect& frame) const;

@@ -11,7 +11,7 @@ namespace quorix::qt {
 /// A text broken into lines, ready to draw. It holds no colour: texts that differ only in colour or
 /// decoration share it.
 struct ShapedText {
-  /// Glyphs of one run, in shaping units from the line's left end, on the baseline.
+  /// Glyphs of one run, in pixels of the shaping font from the line's left end, on the baseline.
   struct Piece {
     QGlyphRun glyphs;
     std::size_t run = 0;
@@ -32,8 +32,8 @@ struct ShapedText {
   };
 
   text::TextMetrics metrics;
-  double unitsPerPoint = 1;  ///< the shaping units in a point
-  std::vector<Line> lines;   ///< empty when only the metrics were asked for
+  double unit = 1;          ///< points for each pixel of the shaping font
+  std::vector<Line> lines;  ///< empty when only the metrics were asked for
 };
 
 }  // namespace quorix::qt

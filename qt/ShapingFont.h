@@ -4,26 +4,26 @@
 
 namespace quorix::qt {
 
-/// A face at the size it is shaped at, and where its decorations go.
+/// A face as texts are shaped in it, and where its decorations go.
 ///
-/// Qt rounds every font to whole pixels. Text is therefore shaped larger than it is drawn and the
-/// painter scales it back: a size of 15.7 points keeps its fraction, and what was measured is the
-/// same at every scale of the screen.
+/// Qt rounds every font to whole pixels, at which a size of 15.7 points would lose its fraction.
+/// Text is therefore shaped in one pixel size whatever its own, and scaled when it is drawn:
+/// without hinting a face has the same shape at every size. So measures are exact and do not depend
+/// on the screen, and all sizes of a face share one font.
 struct ShapingFont {
-  /// What a face is shaped at, whatever its size. Qt keeps the metrics of glyphs that reach no more
-  /// than 127 pixels from their origin and loads all others again for every text.
-  static constexpr int pixels = 96;
+  /// Small enough for Qt to cache advances (it does up to some 120 pixels), large enough for its
+  /// 1/64 of a pixel not to add up.
+  static constexpr int pixels = 64;
 
-  /// Pixels for each point in a text of several sizes, which share one scale.
-  static constexpr int mixedUnits = 32;
-
-  /// A decoration's centre above (negative) or below the baseline, and its thickness. Points.
+  /// A decoration's centre above (negative) or below the baseline, and its thickness. Ems.
   struct Stroke {
     double offset = 0;
     double thickness = 0;
   };
 
-  QFont font;  ///< `pixels` high
+  QFont font;
+  double ascent = 0;   ///< of the face itself, without fallbacks; pixels
+  double descent = 0;  ///< likewise
   Stroke underline;
   Stroke strikethrough;
 };

@@ -83,6 +83,17 @@ void SheetItem::present(const swiftui::Presentation& presentation) {
 
 void SheetItem::sheetDidClose() {
   if (std::exchange(closed_, true)) return;
+  leave();
+}
+
+void SheetItem::abandon() {
+  if (std::exchange(closed_, true)) return;
+  clock_.stop();
+  // On a later turn: the window may be on its way out, and does not bear a change of focus then.
+  QMetaObject::invokeMethod(this, &SheetItem::leave, Qt::QueuedConnection);
+}
+
+void SheetItem::leave() {
   clock_.stop();
   giveFocusBack();
   setVisible(false);
@@ -177,24 +188,32 @@ QSGNode* SheetItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
 
 // Pointer. What happens here stays here: nothing below the sheet hears of it.
 
-void SheetItem::pressed(QPointF point) {
+void SheetItem::pressed(QPointF point, quint64 at) {
   ringWanted_ = false;
+  velocity_.reset();
+  velocity_.add(point.y(), static_cast<double>(at) * 1e-3);
   presenter_.pointerPressed(toPoint(point));
   polish();
 }
 
-void SheetItem::mousePressEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton) pressed(event->position());
+void SheetItem::moved(QPointF point, quint64 at) {
+  velocity_.add(point.y(), static_cast<double>(at) * 1e-3);
+  presenter_.pointerMoved(toPoint(point));
 }
 
-void SheetItem::mouseMoveEvent(QMouseEvent* event) {
-  presenter_.pointerMoved(toPoint(event->position()));
+void SheetItem::released(QPointF point, quint64 at) {
+  velocity_.add(point.y(), static_cast<double>(at) * 1e-3);
+  presenter_.pointerReleased(toPoint(point), velocity_.velocity());
 }
+
+void SheetItem::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) pressed(event->position(), event->timestamp());
+}
+
+void SheetItem::mouseMoveEvent(QMouseEvent* event) { moved(event->position(), event->timestamp()); }
 
 void SheetItem::mouseReleaseEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton) return;
-  presenter_.pointerReleased(toPoint(event->position()),
-                             static_cast<double>(event->points().first().velocity().y()));
+  if (event->button() == Qt::LeftButton) released(event->position(), event->timestamp());
 }
 
 void SheetItem::touchEvent(QTouchEvent* event) {
@@ -202,18 +221,13 @@ void SheetItem::touchEvent(QTouchEvent* event) {
   if (!report) return;
   switch (report->phase) {
     case FingerTracker::Phase::pressed:
-      pressed(report->position);
-      return;
+      return pressed(report->position, event->timestamp());
     case FingerTracker::Phase::moved:
-      presenter_.pointerMoved(toPoint(report->position));
-      return;
+      return moved(report->position, event->timestamp());
     case FingerTracker::Phase::released:
-      presenter_.pointerReleased(toPoint(report->position),
-                                 static_cast<double>(report->velocity.y()));
-      return;
+      return released(report->position, event->timestamp());
     case FingerTracker::Phase::cancelled:
-      presenter_.pointerCancelled();
-      return;
+      return presenter_.pointerCancelled();
   }
 }
 

@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "platform/hosting/SheetPresenter.h"
+#include "platform/hosting/VelocityTracker.h"
 #include "qt/EnvironmentSource.h"
 #include "qt/FingerTracker.h"
 #include "qt/FrameClock.h"
@@ -32,8 +33,8 @@ class SheetItem : public QQuickItem,
   void present(const swiftui::Presentation& presentation);
   /// The owner took the sheet back.
   void retract() { presenter_.retract(); }
-  /// The owner is gone: closes at once.
-  void abandon() { sheetDidClose(); }
+  /// The owner is gone: closes without motion.
+  void abandon();
   bool isClosed() const { return closed_; }
 
  protected:
@@ -62,17 +63,23 @@ class SheetItem : public QQuickItem,
   const std::vector<render::AccessibilityElement>& accessibilityElements() override;
   void performAccessibilityAction(int index) override { presenter_.activate(index); }
   std::optional<layout::Rect> focusedFrame() const override;
+  bool isShown() const override { return !closed_ && QuickAccessibleSurface::isShown(); }
   bool isDialog() const override { return true; }
 
   double scale() const;
-  void pressed(QPointF point);
+  // `at` is the event's time in milliseconds.
+  void pressed(QPointF point, quint64 at);
+  void moved(QPointF point, quint64 at);
+  void released(QPointF point, quint64 at);
   void followMotion();
   void updateRing();
   void giveFocusBack();
+  void leave();
 
   hosting::SheetPresenter presenter_;
   EnvironmentSource settings_;
   FingerTracker finger_;
+  hosting::VelocityTracker velocity_;
   FrameClock clock_;
   QPointer<QQuickItem> focusBefore_;
 

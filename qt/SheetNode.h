@@ -13,7 +13,7 @@ class PictureNode;
 
 /// A sheet in the scene graph: the shade, the panel's picture, its colour on to the window's
 /// bottom, and the focus ring. Motion moves these and paints nothing. Render thread.
-class SheetNode : public QSGNode {
+class SheetNode : public QSGTransformNode {
  public:
   explicit SheetNode(QQuickWindow& window);
 

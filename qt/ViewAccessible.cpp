@@ -10,7 +10,7 @@ namespace {
 
 /// The interface of `owner`, made when it is asked for the first time, if anybody listens.
 ViewAccessible* listening(QObject& owner) {
-  if (!QAccessible::isActive()) return nullptr;
+  if (!AccessibilityBridge::isActive()) return nullptr;
   return dynamic_cast<ViewAccessible*>(QAccessible::queryAccessibleInterface(&owner));
 }
 

@@ -18,7 +18,7 @@ namespace quorix::qt {
 namespace {
 
 /// A view in the scene graph: its picture, and the ring around what has the focus.
-struct ViewNode : QSGNode {
+struct ViewNode : QSGTransformNode {
   ViewNode() {
     appendChildNode(picture);
     appendChildNode(ring);
@@ -154,7 +154,7 @@ void ViewSurface::polish() {
   if (idealStale_) updateIdealSize();
   if (watcher_) place(watcher_->viewportOf(item_));
   const bool seen = watcher_ && inViewport_ && item_.isVisible();
-  if (sceneStale_ && (seen || item_.hasActiveFocus() || QAccessible::isActive())) refreshScene();
+  if (sceneStale_ && (seen || item_.hasActiveFocus() || AccessibilityBridge::isActive())) refreshScene();
   if (seen) {
     if (pictureStale_) updatePicture();
     updateRing();

@@ -11,7 +11,14 @@ namespace {
 
 /// A document keeps the memory of the largest text that it has read, so each thread keeps one for
 /// payloads of any likely size only.
-constexpr std::size_t kLikelyPayload = 16 * 1024;
+constexpr std::size_t kLikelyPayload = 16384;  // bytes
+
+std::optional<std::string> decodePayload(std::string_view piece) {
+  std::string text(piece);
+  // Counting bytes is enough: a payload in which characters are longer than that is no base64.
+  if (const std::size_t rest = text.size() % 4; rest != 0) text.append(4 - rest, '=');
+  return foundation::decodeBase64(std::move(text), foundation::Base64Alphabet::either);
+}
 
 TokenReading readFigures(const foundation::JSONValue& data) {
   const auto read = [&](std::string_view key, auto get) -> decltype((data.*get)()) {
@@ -70,9 +77,7 @@ std::string_view describe(TokenRefusal refusal) {
 TokenReading readToken(std::string_view token) noexcept {
   const auto pieces = foundation::splitCharacters(token, '.');
   if (pieces.size() < 2) return TokenRefusal::noPayload;
-  // Completing by bytes is enough: a payload with longer characters is no base64.
-  const auto payload = foundation::decodeBase64(pieces[1], foundation::Base64Alphabet::either,
-                                                foundation::Base64Padding::completed);
+  const auto payload = decodePayload(pieces[1]);
   if (!payload) return TokenRefusal::notBase64;
   if (payload->size() > kLikelyPayload) {
     foundation::JSONDocument document;

@@ -1,5 +1,6 @@
 #include "platform/foundation/Base64.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 
@@ -9,24 +10,20 @@ namespace {
 constexpr std::string_view kAlphabet =
     "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
 
-/// Above every 24-bit value, so that a whole text is checked with one comparison.
+/// Above every six-bit value, so that a whole quantum is checked with one comparison.
 constexpr std::uint32_t kInvalid = 1u << 31;
 
-/// What a character stands for, shifted to each of its four places in 24 bits.
-using Values = std::array<std::array<std::uint32_t, 256>, 4>;
+using Values = std::array<std::uint32_t, 256>;
 
 constexpr Values valuesOf(Base64Alphabet alphabet) {
   Values values{};
-  for (std::uint32_t place = 0; place < 4; ++place) {
-    auto& shifted = values[place];
-    shifted.fill(kInvalid);
-    for (std::uint32_t i = 0; i < kAlphabet.size(); ++i) {
-      shifted[static_cast<unsigned char>(kAlphabet[i])] = i << (18 - 6 * place);
-    }
-    if (alphabet == Base64Alphabet::either) {
-      shifted['-'] = shifted['+'];
-      shifted['_'] = shifted['/'];
-    }
+  values.fill(kInvalid);
+  for (std::uint32_t i = 0; i < kAlphabet.size(); ++i) {
+    values[static_cast<unsigned char>(kAlphabet[i])] = i;
+  }
+  if (alphabet == Base64Alphabet::either) {
+    values['-'] = values['+'];
+    values['_'] = values['/'];
   }
   return values;
 }
@@ -36,39 +33,32 @@ constexpr Values kEither = valuesOf(Base64Alphabet::either);
 
 /// Four characters as 24 bits, or a value with `kInvalid` set.
 std::uint32_t quantum(const Values& values, const char* text) {
-  const auto value = [&](int i) { return values[i][static_cast<unsigned char>(text[i])]; };
-  return value(0) | value(1) | value(2) | value(3);
+  const auto value = [&](int i) { return values[static_cast<unsigned char>(text[i])]; };
+  const std::uint32_t invalid = (value(0) | value(1) | value(2) | value(3)) & kInvalid;
+  return invalid | value(0) << 18 | value(1) << 12 | value(2) << 6 | value(3);
 }
 
 }  // namespace
 
-std::optional<std::string> decodeBase64(std::string_view text, Base64Alphabet alphabet,
-                                        Base64Padding padding) {
-  if (text.size() % 4 != 0 && padding == Base64Padding::required) return std::nullopt;
-  if (text.empty()) return std::string();
-
-  const std::size_t last = (text.size() - 1) / 4 * 4;
-  std::array<char, 4> end = {'=', '=', '=', '='};
-  text.copy(end.data(), end.size(), last);
-  const std::size_t padded = end[3] != '=' ? 0 : end[2] != '=' ? 1 : 2;
-  for (std::size_t i = end.size() - padded; i < end.size(); ++i) end[i] = kAlphabet[0];
+std::optional<std::string> decodeBase64(std::string text, Base64Alphabet alphabet) {
+  if (text.size() % 4 != 0) return std::nullopt;
+  const std::size_t padding = !text.ends_with('=') ? 0 : text.ends_with("==") ? 2 : 1;
+  std::fill_n(text.rbegin(), padding, kAlphabet[0]);
 
   const Values& values = alphabet == Base64Alphabet::either ? kEither : kStandard;
-  std::string bytes(last / 4 * 3 + 3, '\0');
-  char* out = bytes.data();
+  const char* const end = text.data() + text.size();
+  char* out = text.data();
   std::uint32_t invalid = 0;
-  const auto decode = [&](const char* four) {
-    const std::uint32_t bits = quantum(values, four);
+  for (const char* in = out; in != end; in += 4) {
+    const std::uint32_t bits = quantum(values, in);
     invalid |= bits;
     *out++ = static_cast<char>(bits >> 16);
     *out++ = static_cast<char>(bits >> 8);
     *out++ = static_cast<char>(bits);
-  };
-  for (std::size_t i = 0; i < last; i += 4) decode(text.data() + i);
-  decode(end.data());
+  }
   if (invalid & kInvalid) return std::nullopt;
-  bytes.resize(bytes.size() - padded);
-  return bytes;
+  text.resize(text.size() / 4 * 3 - padding);
+  return text;
 }
 
 std::string encodeBase64(std::string_view bytes) {

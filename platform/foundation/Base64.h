@@ -10,17 +10,13 @@ namespace quorix::foundation {
 /// the standard "+" and "/".
 enum class Base64Alphabet { standard, either };
 
-/// Whether a text carries all its padding, or is read as if "=" filled up its last four characters.
-enum class Base64Padding { required, completed };
-
-/// The bytes that `text` spells in base64, or nothing. Strict: a character outside the alphabet (a
-/// line break too) and missing, surplus or misplaced padding are refused; bits left over before the
-/// padding are ignored. Any thread.
+/// The bytes that `text` spells in padded base64, or nothing. Strict: a character outside the
+/// alphabet (a line break too) and missing, surplus or misplaced padding are refused; bits left
+/// over before the padding are ignored. Any thread.
 ///
 ///     decodeBase64("AAE=")  // the bytes 0 and 1
-std::optional<std::string> decodeBase64(std::string_view text,
-                                        Base64Alphabet alphabet = Base64Alphabet::standard,
-                                        Base64Padding padding = Base64Padding::required);
+std::optional<std::string> decodeBase64(std::string text,
+                                        Base64Alphabet alphabet = Base64Alphabet::standard);
 
 /// `bytes` in standard base64 with padding. Any thread.
 std::string encodeBase64(std::string_view bytes);

@@ -10,6 +10,7 @@
 #include <map>
 #include <mutex>
 #include <string_view>
+#include <utility>
 
 namespace quorix::foundation {
 
@@ -60,12 +61,17 @@ icu::number::LocalizedNumberFormatter makeFormatter(const Locale& locale) {
 
 std::shared_ptr<const CurrencyFormatter::Engine> CurrencyFormatter::engine(const Locale& locale) {
   static std::mutex mutex;
-  static std::map<Locale, std::shared_ptr<const Engine>> engines;
+  static std::map<std::pair<std::string, std::string>, std::shared_ptr<const Engine>> engines;
+  const std::pair key(locale.languageCode, locale.currencyCode);
   const std::scoped_lock lock(mutex);
-  if (const auto found = engines.find(locale); found != engines.end()) return found->second;
+  if (const auto found = engines.find(key); found != engines.end()) return found->second;
   if (engines.size() >= kCachedEngines) engines.clear();
   auto made = std::make_shared<Engine>(Engine{makeFormatter(locale)});
-  return engines[locale] = std::move(made);
+  // ICU compiles a formatter on its third use. Here that happens before threads share it: from then
+  // on they only read.
+  UErrorCode status = U_ZERO_ERROR;
+  for (int use = 0; use < 3; ++use) made->formatter.formatInt(0, status);
+  return engines[key] = std::move(made);
 }
 
 CurrencyFormatter::CurrencyFormatter(const Locale& locale) : engine_(engine(locale)) {}

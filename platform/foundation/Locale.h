@@ -10,7 +10,7 @@ struct Locale {
   std::string languageCode;
   std::string currencyCode;
 
-  auto operator<=>(const Locale&) const = default;
+  bool operator==(const Locale&) const = default;
 };
 
 }  // namespace quorix::foundation

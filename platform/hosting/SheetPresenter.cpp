@@ -30,7 +30,7 @@ struct SheetPresenter::State final : ViewHost::Client {
 
   void viewNeedsDisplay() override {
     contentChanged();
-    client.sheetNeedsDisplay();
+    moved();
   }
   void contentChanged() {
     overlay.reset();
@@ -41,6 +41,13 @@ struct SheetPresenter::State final : ViewHost::Client {
 
   double restingHeight() {
     return geometry.contentHeight(content.detents()) + geometry.bottomInset();
+  }
+  bool isMoving() { return presentation && !closed && (closing || revealed != target()); }
+  bool advance(double seconds);
+  /// Something is elsewhere now, or belongs elsewhere.
+  void moved() {
+    client.sheetNeedsDisplay();
+    if (!motion) advance(0);
   }
   double target() { return closing ? 0 : restingHeight() - drag; }
   void reveal(double points) {
@@ -89,6 +96,17 @@ void SheetPresenter::State::close() {
   client.sheetDidClose();
 }
 
+bool SheetPresenter::State::advance(double seconds) {
+  if (!isMoving()) return false;
+  const double left = target() - revealed;
+  const double step = left * (1 - std::exp(-approachPerSecond * seconds));
+  const bool arrives = !motion || dragging || std::abs(left - step) < settledWithin;
+  reveal(arrives ? target() : revealed + step);
+  if (!arrives || !closing) return isMoving();
+  close();
+  return false;
+}
+
 SheetPresenter::SheetPresenter(text::TextEngine& engine, Client& client)
     : state_(std::make_unique<State>(engine, client)) {}
 
@@ -106,42 +124,32 @@ void SheetPresenter::setWindow(layout::Size size, layout::EdgeInsets safeArea) {
   state_->client.sheetNeedsDisplay();
 }
 
-void SheetPresenter::setMotion(bool enabled) { state_->motion = enabled; }
+void SheetPresenter::setMotion(bool enabled) {
+  state_->motion = enabled;
+  state_->moved();
+}
 
 void SheetPresenter::present(const swiftui::Presentation& presentation) {
   state_->presentation = presentation;
   state_->closing = false;
+  state_->closed = false;
   state_->content.setRoot(presentation.content);
   state_->content.setOnScreen(true);
-  state_->client.sheetNeedsDisplay();
 }
 
 void SheetPresenter::retract() {
   state_->closing = true;
   state_->endDrag();
-  state_->client.sheetNeedsDisplay();
-  if (!state_->motion) advance(0);
+  state_->moved();
 }
 
 void SheetPresenter::dismiss() {
   if (state_->presentation) state_->presentation->isPresented.set(false);
 }
 
-bool SheetPresenter::isMoving() const {
-  return state_->presentation && !state_->closed &&
-         (state_->closing || state_->revealed != state_->target());
-}
+bool SheetPresenter::isMoving() const { return state_->isMoving(); }
 
-bool SheetPresenter::advance(double seconds) {
-  if (!isMoving()) return false;
-  const double target = state_->target();
-  const double left = target - state_->revealed;
-  const double step = left * (1 - std::exp(-approachPerSecond * seconds));
-  const bool arrives = !state_->motion || state_->dragging || std::abs(left - step) < settledWithin;
-  state_->reveal(arrives ? target : state_->revealed + step);
-  if (arrives && state_->closing) state_->close();
-  return isMoving();
-}
+bool SheetPresenter::advance(double seconds) { return state_->advance(seconds); }
 
 const render::Scene& SheetPresenter::scene() {
   State& state = *state_;
@@ -191,13 +199,14 @@ unsigned SheetPresenter::panelRevision() const { return state_->panelRevision; }
 layout::Rect SheetPresenter::panelFrame() const { return state_->panel(); }
 
 void SheetPresenter::pointerPressed(layout::Point point) {
+  if (state_->closing) return;  // a second tap on what closes it must not open it again
   state_->press = point;
   state_->pressedOutside = !state_->panel().contains(point);
   if (!state_->pressedOutside) state_->content.pointerPressed(state_->inContent(point));
 }
 
 void SheetPresenter::pointerMoved(layout::Point point) {
-  if (!state_->press || state_->pressedOutside || state_->closing) return;
+  if (!state_->press || state_->pressedOutside) return;
   const double down = point.y - state_->press->y;
   if (!state_->dragging && std::abs(down) > dragSlop) {
     state_->dragging = true;
@@ -215,18 +224,19 @@ void SheetPresenter::pointerReleased(layout::Point point, double velocity) {
       state_->dragging && (velocity > flickSpeed || state_->drag > state_->restingHeight() / 2);
   const bool tapped = !state_->pressedOutside && !state_->dragging;
   state_->endDrag();
+  state_->moved();
   if (outside || swiped) {
     dismiss();
   } else if (tapped) {
+    // Last, since an action may take away all that shows it.
     state_->content.pointerReleased(state_->inContent(point));
   }
-  state_->client.sheetNeedsDisplay();
 }
 
 void SheetPresenter::pointerCancelled() {
   state_->content.pointerCancelled();
   state_->endDrag();
-  state_->client.sheetNeedsDisplay();
+  state_->moved();
 }
 
 void SheetPresenter::moveFocus(bool forward) {
@@ -239,9 +249,11 @@ std::optional<layout::Rect> SheetPresenter::focusFrame() const {
   return frame->translated(state_->panel().origin);
 }
 
-bool SheetPresenter::activateFocus() { return state_->content.activateFocus(); }
+bool SheetPresenter::activateFocus() { return !state_->closing && state_->content.activateFocus(); }
 
-bool SheetPresenter::activate(int index) { return state_->content.activate(index); }
+bool SheetPresenter::activate(int index) {
+  return !state_->closing && state_->content.activate(index);
+}
 
 void SheetPresenter::settle() {
   state_->content.settle();

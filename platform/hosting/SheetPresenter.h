@@ -17,7 +17,8 @@ class SheetPresenter {
     virtual ~Client() = default;
     /// Something moved or changed: ask `scene` again; call `advance` each frame while it says so.
     virtual void sheetNeedsDisplay() = 0;
-    /// The panel has left the window: take the overlay away and give the focus back.
+    /// The panel has left the window: take the overlay away and give the focus back. May destroy
+    /// the presenter.
     virtual void sheetDidClose() = 0;
   };
 
@@ -67,6 +68,7 @@ class SheetPresenter {
   /// Moves the focus inside the sheet, round and round: it never leaves while the sheet is up.
   void moveFocus(bool forward);
   std::optional<layout::Rect> focusFrame() const;
+  /// These do nothing any more once the sheet is on its way out.
   bool activateFocus();
   bool activate(int index);
 

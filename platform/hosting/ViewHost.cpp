@@ -9,6 +9,12 @@
 #include "platform/swiftui/ViewGraph.h"
 
 namespace quorix::hosting {
+namespace {
+
+/// More than a surface's layout asks about in turn.
+constexpr std::size_t manyProposals = 4;
+
+}  // namespace
 
 struct ViewHost::State {
   State(text::TextEngine& textEngine, Client& surface)
@@ -23,6 +29,7 @@ struct ViewHost::State {
   void invalidated();
   void changed();
   void layOut(layout::Size size);
+  const render::Scene* current();
   void perform(const std::function<void()>& action);
 
   text::TextEngine& engine;
@@ -31,10 +38,11 @@ struct ViewHost::State {
   swiftui::ViewGraph graph;
   // Between an evaluation and the scene made of it; a view at rest keeps the scene alone.
   RecentEvaluations::Slot evaluation;
-  std::optional<std::pair<layout::ProposedSize, layout::Size>> fitted;
+  std::vector<std::pair<layout::ProposedSize, layout::Size>> fitted;
   std::optional<swiftui::Presentation> presentation;
   swiftui::PresentationDetents detents;
   std::optional<render::Scene> scene;
+  std::optional<layout::Size> area;  ///< of the latest scene
   std::vector<std::pair<swiftui::TreePath, layout::Size>> geometry;
   std::optional<layout::Point> pressed;
   int focused = -1;   ///< index of an accessibility element
@@ -58,7 +66,7 @@ void ViewHost::State::evaluateAgain() {
 /// The graph's turn: evaluated at once, whether or not anybody paints, since a sheet may hang on
 /// it.
 void ViewHost::State::invalidated() {
-  fitted.reset();
+  fitted.clear();
   scene.reset();
   evaluateAgain();
   client.viewNeedsDisplay();
@@ -67,39 +75,47 @@ void ViewHost::State::invalidated() {
 /// The surface changed something, often several things in a row: evaluated when it asks.
 void ViewHost::State::changed() {
   stale = true;
-  fitted.reset();
+  fitted.clear();
   scene.reset();
   forget();
   client.viewNeedsDisplay();
 }
 
 void ViewHost::State::layOut(layout::Size size) {
-  swiftui::Evaluation& current = evaluated();
+  swiftui::Evaluation& latest = evaluated();
   layout::Layout pass(engine, environment.scale);
   const layout::ProposedSize proposal = {size.width, size.height};
-  const layout::Size chosen = pass.measure(current.root, proposal);
+  const layout::Size chosen = pass.measure(latest.root, proposal);
   const layout::Point centred = layout::alignedOffset({}, size, chosen);
-  pass.place(current.root, {std::max(0.0, centred.x), std::max(0.0, centred.y)}, proposal);
+  pass.place(latest.root, {std::max(0.0, centred.x), std::max(0.0, centred.y)}, proposal);
   if (environment.direction == layout::LayoutDirection::rightToLeft) {
-    layout::mirror(current.root, size.width);
+    layout::mirror(latest.root, size.width);
   }
   // The actions run when the scene stands: they may ask this host again.
   std::vector<std::function<void()>> changes;
-  scene = SceneBuilder(current, environment,
-                       [&](const auto& path, layout::Size now, const auto& action) {
-                         auto known =
-                             std::find_if(geometry.begin(), geometry.end(),
-                                          [&](const auto& entry) { return entry.first == path; });
-                         if (known == geometry.end())
-                           known = geometry.insert(known, {path, {-1, -1}});
-                         if (known->second == now) return;
-                         known->second = now;
-                         changes.push_back([action, now] { action(now); });
-                       })
-              .build();
+  std::vector<std::pair<swiftui::TreePath, layout::Size>> sizes;
+  const auto visit = [&](const auto& path, layout::Size now, const auto& action) {
+    // Taken from what was known: the next of several in one place finds its own.
+    const auto known = std::find_if(geometry.begin(), geometry.end(),
+                                    [&](const auto& entry) { return entry.first == path; });
+    const bool same = known != geometry.end() && known->second == now;
+    if (known != geometry.end()) geometry.erase(known);
+    sizes.emplace_back(path, now);
+    if (!same) changes.push_back([action, now] { action(now); });
+  };
+  area = size;
+  scene = SceneBuilder(latest, environment, visit).build();
   scene->size = size;
+  geometry = std::move(sizes);
   forget();
   for (const auto& change : changes) change();
+}
+
+/// What input is for: the latest scene, also while its successor waits for the next frame. Null
+/// before the first.
+const render::Scene* ViewHost::State::current() {
+  if (!scene && area) layOut(*area);
+  return scene ? &*scene : nullptr;
 }
 
 ViewHost::ViewHost(text::TextEngine& engine, Client& client)
@@ -128,11 +144,15 @@ void ViewHost::setOnScreen(bool onScreen) {
 
 layout::Size ViewHost::sizeThatFits(layout::ProposedSize proposal) {
   auto& fitted = state_->fitted;
-  if (!fitted || fitted->first != proposal) {
-    layout::Layout pass(state_->engine, state_->environment.scale);
-    fitted.emplace(proposal, pass.measure(state_->evaluated().root, proposal));
+  for (const auto& [offered, size] : fitted) {
+    if (offered == proposal) return size;
   }
-  return fitted->second;
+  swiftui::Evaluation& latest = state_->evaluated();
+  layout::Layout pass(state_->engine, state_->environment.scale);
+  const layout::Size size = pass.measure(latest.root, proposal);
+  if (fitted.size() == manyProposals) fitted.clear();
+  fitted.emplace_back(proposal, size);
+  return size;
 }
 
 const render::Scene& ViewHost::scene(layout::Size size) {
@@ -162,16 +182,18 @@ void ViewHost::State::perform(const std::function<void()>& action) {
 
 bool ViewHost::pointerPressed(layout::Point point) {
   state_->pressed.reset();
-  if (!state_->scene || !state_->scene->hitTest(point)) return false;
+  const render::Scene* scene = state_->current();
+  if (!scene || !scene->hitTest(point)) return false;
   state_->pressed = point;
   return true;
 }
 
 bool ViewHost::pointerReleased(layout::Point point) {
   const auto pressed = std::exchange(state_->pressed, std::nullopt);
-  if (!pressed || !state_->scene) return false;
-  const render::HitArea* area = state_->scene->hitTest(*pressed);
-  if (!area || state_->scene->hitTest(point) != area) return false;
+  const render::Scene* scene = pressed ? state_->current() : nullptr;
+  if (!scene) return false;
+  const render::HitArea* area = scene->hitTest(*pressed);
+  if (!area || scene->hitTest(point) != area) return false;
   state_->perform(area->action);
   return true;
 }
@@ -179,8 +201,9 @@ bool ViewHost::pointerReleased(layout::Point point) {
 void ViewHost::pointerCancelled() { state_->pressed.reset(); }
 
 bool ViewHost::moveFocus(bool forward) {
-  if (!state_->scene) return false;
-  const auto& elements = state_->scene->accessibility;
+  const render::Scene* scene = state_->current();
+  if (!scene) return false;
+  const auto& elements = scene->accessibility;
   const int count = static_cast<int>(elements.size());
   const int step = forward ? 1 : -1;
   int next = state_->focused < 0 && !forward ? count - 1 : state_->focused + step;
@@ -208,8 +231,9 @@ std::optional<layout::Rect> ViewHost::focusFrame() const {
 bool ViewHost::activateFocus() { return activate(state_->focused); }
 
 bool ViewHost::activate(int index) {
-  if (!state_->scene || index < 0) return false;
-  const auto& elements = state_->scene->accessibility;
+  const render::Scene* scene = index < 0 ? nullptr : state_->current();
+  if (!scene) return false;
+  const auto& elements = scene->accessibility;
   const auto position = static_cast<std::size_t>(index);
   if (position >= elements.size() || !elements[position].action) return false;
   state_->perform(elements[position].action);

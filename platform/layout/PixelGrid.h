@@ -13,7 +13,9 @@ class PixelGrid {
   explicit PixelGrid(double scale) : scale_(scale) {}
 
   double pixel() const { return 1 / scale_; }
-  double round(double length) const { return std::round(length * scale_) / scale_; }
+  /// The nearest pixel. Halves, and what misses one by rounding noise, all go the same way, so that
+  /// a hairline between two halves neither vanishes nor doubles.
+  double round(double length) const { return std::floor(length * scale_ + 0.5 + noise) / scale_; }
 
   /// The next whole pixel; a length that misses one by rounding noise stays there.
   double ceil(double length) const { return std::ceil(length * scale_ - noise) / scale_; }

@@ -1,6 +1,7 @@
 #include "platform/swiftui/Evaluation.h"
 
 #include <algorithm>
+#include <typeinfo>
 #include <utility>
 
 #include "platform/foundation/TextCasing.h"
@@ -77,6 +78,14 @@ class Evaluator {
   void decorate(const nodes::Modified& node, const View& view, const Look& look, Axis axis,
                 Elements& out);
 
+  /// Goes on one step further in the tree.
+  template <class Go>
+  void at(char32_t step, Go go) {
+    path_.push_back(step);
+    go();
+    path_.pop_back();
+  }
+
   graphics::RGBA resolved(const Look& look) const;
   text::AttributedText attributed(const Text& text, const Look& look) const;
 
@@ -99,13 +108,10 @@ void Evaluator::collect(const nodes::Image& node, const View&, const Look& look,
                         Elements& out) {
   const auto& bundle = node.bundle ? node.bundle : foundation::Bundle::main();
   const auto asset = graphics::imageSet(bundle, node.name);
-  if (!asset) return;
+  // An unknown image shows nothing, but what is around it keeps its size.
+  const layout::Size size = asset ? layout::Size{asset->width, asset->height} : layout::Size{};
   out.push_back(
-      {elements::Image{
-           node.name, bundle, {asset->width, asset->height}, look.resizable, resolved(look)},
-       {},
-       {},
-       {}});
+      {elements::Image{node.name, bundle, size, look.resizable, resolved(look)}, {}, {}, {}});
 }
 
 void Evaluator::collect(const nodes::Spacer& node, const View&, const Look&, Axis axis,
@@ -136,9 +142,8 @@ void Evaluator::collect(const nodes::Group& node, const View&, const Look& look,
 
 void Evaluator::collect(const nodes::Conditional& node, const View&, const Look& look, Axis axis,
                         Elements& out) {
-  path_.push_back(node.condition ? 'T' : 'F');
-  collect(node.content, look, axis, out);
-  path_.pop_back();
+  at(node.condition ? steps::chosen : steps::notChosen,
+     [&] { collect(node.content, look, axis, out); });
 }
 
 void Evaluator::collect(const nodes::Lazy& node, const View&, const Look& look, Axis axis,
@@ -154,19 +159,16 @@ void Evaluator::collect(const nodes::Custom& node, const View&, const Look& look
       observed.push_back(&object);
     }
   });
-  const View body = node.component->body(store_.states(path_));
-  path_.push_back('C');
-  collect(body, look, axis, out);
-  path_.pop_back();
+  const Component& component = *node.component;
+  at(steps::into(typeid(component)),
+     [&] { collect(component.body(store_.states(path_)), look, axis, out); });
 }
 
 void Evaluator::collectChildren(const std::vector<View>& children, const Look& look, Axis axis,
                                 Elements& out) {
-  char index = 0;
+  char32_t step = steps::firstChild;
   for (const View& child : children) {
-    path_.push_back(index++);
-    collect(child, look, axis, out);
-    path_.pop_back();
+    at(step++, [&] { collect(child, look, axis, out); });
   }
 }
 
@@ -198,16 +200,17 @@ struct Evaluator::Modifying {
   }
   void operator()(const modifiers::Overlay& m) {
     const std::size_t first = out.size();
-    wrap(elements::Overlay{m.alignment});
+    self.at(steps::modified, [&] { wrap(elements::Overlay{m.alignment}); });
+    char32_t step = steps::firstOverlay;
     for (std::size_t i = first; i < out.size(); ++i) {
-      self.path_.push_back('O');
-      out[i].children.push_back(self.single(m.content, inner, axis));
-      self.path_.pop_back();
+      self.at(step++, [&] { out[i].children.push_back(self.single(m.content, inner, axis)); });
     }
   }
   void operator()(const modifiers::Task& m) {
-    self.result_.tasks.push_back({self.path_, m.action});
-    descend();
+    self.at(steps::modified, [&] {
+      self.result_.tasks.push_back({self.path_, m.action});
+      descend();
+    });
   }
   void operator()(const modifiers::Sheet& m) {
     if (m.isPresented.get()) self.result_.presentation = Presentation{m.isPresented, m.content};
@@ -216,6 +219,9 @@ struct Evaluator::Modifying {
   void operator()(const modifiers::Detents& m) {
     self.result_.detents = m.detents;
     descend();
+  }
+  void operator()(const modifiers::GeometryChange&) {
+    self.at(steps::modified, [&] { self.decorate(node, view, inner, axis, out); });
   }
   void operator()(const auto&) { self.decorate(node, view, inner, axis, out); }
 

@@ -2,15 +2,11 @@
 
 #include <functional>
 #include <map>
-#include <string>
 
 #include "platform/swiftui/Component.h"
+#include "platform/swiftui/TreePath.h"
 
 namespace quorix::swiftui {
-
-/// A place in a view tree: the steps from the root, a byte each. The same place in the next
-/// evaluation is the same view.
-using TreePath = std::string;
 
 /// The states of a view tree's components, by place. What an evaluation does not visit any more has
 /// left the tree and loses its states.

@@ -7,9 +7,11 @@
 namespace quorix::swiftui {
 
 ViewGraph::ViewGraph(std::function<void()> onInvalidate)
-    : store_([this] { invalidate(); }),
-      onInvalidate_(std::move(onInvalidate)),
-      self_(std::make_shared<ViewGraph*>(this)) {}
+    : self_(std::make_shared<ViewGraph*>(this)),
+      store_([graph = std::weak_ptr(self_)] {
+        if (const auto self = graph.lock()) (*self)->invalidate();
+      }),
+      onInvalidate_(std::move(onInvalidate)) {}
 
 ViewGraph::~ViewGraph() = default;
 

@@ -36,12 +36,12 @@ class ViewGraph {
   void invalidate();
   void startTasks(const std::vector<TaskRequest>& requests);
 
+  std::shared_ptr<ViewGraph*> self_;  ///< bindings and turns may outlive the graph
   View root_;
   StateStore store_;
   std::function<void()> onInvalidate_;
   std::vector<combine::Cancellable> subscriptions_;
   std::map<TreePath, std::shared_ptr<void>> runningTasks_;
-  std::shared_ptr<ViewGraph*> self_;  ///< dead graphs are told from living ones on later turns
   bool onScreen_ = false;
   bool turnPending_ = false;
 };

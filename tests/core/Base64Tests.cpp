@@ -1,5 +1,4 @@
 #include <charconv>
-#include <optional>
 
 #include "Vectors.h"
 #include "platform/foundation/Base64.h"
@@ -51,28 +50,6 @@ TEST(Base64, TakesTheURLSafeAlphabetWhenAsked) {
   EXPECT_EQ(decodeBase64("-/8=", Base64Alphabet::either), "\xFB\xFF");
   EXPECT_EQ(decodeBase64("+_8=", Base64Alphabet::either), "\xFB\xFF");
   EXPECT_EQ(decodeBase64("-/8="), std::nullopt);
-}
-
-TEST(Base64, CompletesThePaddingWhenAsked) {
-  const struct {
-    std::string_view text;
-    std::optional<std::string> bytes;
-  } rows[] = {{"", ""},
-              {"TWFu", "Man"},
-              {"TWE", "Ma"},
-              {"TWE=", "Ma"},
-              {"TQ", "M"},
-              {"TQ=", "M"},
-              {"TWFuTQ", "ManM"},
-              {"T", std::nullopt},
-              {"TWFuT", std::nullopt},
-              {"=", std::nullopt},
-              {"TQ==TQ", std::nullopt}};
-  for (const auto& row : rows) {
-    using namespace quorix::foundation;
-    EXPECT_EQ(decodeBase64(row.text, Base64Alphabet::standard, Base64Padding::completed), row.bytes)
-        << row.text;
-  }
 }
 
 }  // namespace

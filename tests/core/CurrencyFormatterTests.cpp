@@ -65,7 +65,7 @@ TEST(CurrencyFormatter, WritesSomethingForAnyLocale) {
   }
 }
 
-TEST(CurrencyFormatterConcurrently, IsSharedByThreads) {
+TEST(ConcurrentCurrencyFormatter, IsSharedByThreads) {
   std::vector<std::thread> threads;
   for (int thread = 0; thread < 4; ++thread) {
     threads.emplace_back([] {

@@ -50,13 +50,13 @@ class JoinedTransport final : public foundation::URLTransport {
   std::vector<std::thread> threads_;
 };
 
-class LocalizationRepositoryConcurrently : public testing::Test {
+class ConcurrentLocalizationRepository : public testing::Test {
  protected:
-  LocalizationRepositoryConcurrently() {
+  ConcurrentLocalizationRepository() {
     URLSession::shared().install(transport_);
     token_ = URLSession::shared().registerProtocol([this](const URL& url) { return answer(url); });
   }
-  ~LocalizationRepositoryConcurrently() override {
+  ~ConcurrentLocalizationRepository() override {
     transport_->join();
     MainQueue::drain();
   }
@@ -94,14 +94,14 @@ class LocalizationRepositoryConcurrently : public testing::Test {
   std::multimap<std::string, URLResponse> responses_;
 };
 
-TEST_F(LocalizationRepositoryConcurrently, StartsWithTheBuiltInTable) {
+TEST_F(ConcurrentLocalizationRepository, StartsWithTheBuiltInTable) {
   EXPECT_EQ(LocalizationRepository::make("es")->strings.get(), builtInTranslations("es"));
   const auto mexican = LocalizationRepository::make("es-MX");
   EXPECT_EQ(mexican->strings.get(), builtInTranslations("en"));
   EXPECT_EQ(mexican->locale(), "es-MX");
 }
 
-TEST_F(LocalizationRepositoryConcurrently, ReplacesTheTableWholeOnTheMainQueue) {
+TEST_F(ConcurrentLocalizationRepository, ReplacesTheTableWholeOnTheMainQueue) {
   const auto repository = LocalizationRepository::make("es-MX");
   std::vector<std::string> seen;
   const auto subscription = repository->onWillChange(
@@ -116,7 +116,7 @@ TEST_F(LocalizationRepositoryConcurrently, ReplacesTheTableWholeOnTheMainQueue) 
   EXPECT_EQ(repository->strings.get()->text("actions", "close"), "");
 }
 
-TEST_F(LocalizationRepositoryConcurrently, KeepsTheTableWhenAFetchFails) {
+TEST_F(ConcurrentLocalizationRepository, KeepsTheTableWhenAFetchFails) {
   const auto repository = LocalizationRepository::make("es");
   bool told = false;
   const auto subscription = repository->onWillChange([&] { told = true; });
@@ -134,7 +134,7 @@ TEST_F(LocalizationRepositoryConcurrently, KeepsTheTableWhenAFetchFails) {
   EXPECT_EQ(repository->strings.get(), builtInTranslations("es"));
 }
 
-TEST_F(LocalizationRepositoryConcurrently, KeepsTheLastTableToArrive) {
+TEST_F(ConcurrentLocalizationRepository, KeepsTheLastTableToArrive) {
   const auto repository = LocalizationRepository::make("en");
   repository->update();
   repository->update();
@@ -145,7 +145,7 @@ TEST_F(LocalizationRepositoryConcurrently, KeepsTheLastTableToArrive) {
   EXPECT_EQ(repository->strings.get()->text("a", "b"), "second");
 }
 
-TEST_F(LocalizationRepositoryConcurrently, DropsTheResultOfAReleasedRepository) {
+TEST_F(ConcurrentLocalizationRepository, DropsTheResultOfAReleasedRepository) {
   for (const bool arrived : {false, true}) {
     auto repository = LocalizationRepository::make("en");
     const std::weak_ptr<LocalizationRepository> weak = repository;

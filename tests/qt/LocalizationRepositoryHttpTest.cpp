@@ -41,15 +41,15 @@ class CountingTransport final : public foundation::URLTransport {
   std::shared_ptr<std::atomic<int>> done_ = std::make_shared<std::atomic<int>>(0);
 };
 
-class LocalizationRepositoryHttp : public ::testing::Test {
+class ConcurrentLocalizationRepository : public ::testing::Test {
  protected:
-  LocalizationRepositoryHttp() {
+  ConcurrentLocalizationRepository() {
     qt::QtMainQueue::install();
     transport->network.redirectOrigin(modulesServiceBaseURL, server.base());
     foundation::URLSession::shared().install(transport);
   }
 
-  ~LocalizationRepositoryHttp() override {
+  ~ConcurrentLocalizationRepository() override {
     foundation::URLSession::shared().install(std::make_shared<QtURLTransport>());
   }
 
@@ -88,7 +88,7 @@ std::string tableWithHint(const std::string& hint) {
 
 const std::string kBuiltIn = "Tap to learn more";
 
-TEST_F(LocalizationRepositoryHttp, EachAnswerReplacesTheTableOrLeavesIt) {
+TEST_F(ConcurrentLocalizationRepository, EachAnswerReplacesTheTableOrLeavesIt) {
   const std::string remote = tableWithHint("remote");
   const auto whole = [](int status, const std::string& body) {
     return Answer{httpAnswer(status, body)};
@@ -97,7 +97,7 @@ TEST_F(LocalizationRepositoryHttp, EachAnswerReplacesTheTableOrLeavesIt) {
   cut.bytes.resize(cut.bytes.size() - 1);
   cut.hangUp = true;
   const std::string chunked =
-      "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n1c\r\n" + remote.substr(0, 28);
+      "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n1c\r\n" + remote.substr(0, 20);
   const struct {
     std::string name;
     Answer answer;
@@ -136,7 +136,7 @@ TEST_F(LocalizationRepositoryHttp, EachAnswerReplacesTheTableOrLeavesIt) {
   }
 }
 
-TEST_F(LocalizationRepositoryHttp, UnreachableServiceLeavesTheTable) {
+TEST_F(ConcurrentLocalizationRepository, UnreachableServiceLeavesTheTable) {
   const auto repository = LocalizationRepository::make("es");
   transport->network.redirectOrigin(modulesServiceBaseURL, "http://127.0.0.1:1");
   repository->update();
@@ -145,7 +145,7 @@ TEST_F(LocalizationRepositoryHttp, UnreachableServiceLeavesTheTable) {
   EXPECT_EQ(hint(*repository), "Toque para saber más");
 }
 
-TEST_F(LocalizationRepositoryHttp, LargeTableNeedsTheMainThreadOnlyToTakeItsPlace) {
+TEST_F(ConcurrentLocalizationRepository, LargeTableNeedsTheMainThreadOnlyToTakeItsPlace) {
   constexpr std::size_t kSize = 50 << 20;
   server.serve(pathOf("en"), {{httpAnswer(200, tableWithHint(std::string(kSize, 'x')))}});
   const auto repository = LocalizationRepository::make("en");
@@ -161,7 +161,7 @@ TEST_F(LocalizationRepositoryHttp, LargeTableNeedsTheMainThreadOnlyToTakeItsPlac
   EXPECT_EQ(hint(*repository).size(), kSize);
 }
 
-TEST_F(LocalizationRepositoryHttp, LastOfTwoCompletionsStays) {
+TEST_F(ConcurrentLocalizationRepository, LastOfTwoCompletionsStays) {
   const auto gated = [](const std::string& name) {
     return Answer{httpAnswer(200, tableWithHint(name)), SIZE_MAX, false, name};
   };
@@ -180,7 +180,7 @@ TEST_F(LocalizationRepositoryHttp, LastOfTwoCompletionsStays) {
   EXPECT_TRUE(waitUntil([&] { return hint(*repository) == "first"; }));
 }
 
-TEST_F(LocalizationRepositoryHttp, FetchDoesNotKeepTheRepository) {
+TEST_F(ConcurrentLocalizationRepository, FetchDoesNotKeepTheRepository) {
   server.serve(pathOf("en"), {{httpAnswer(200, tableWithHint("late")), SIZE_MAX, false, "answer"}});
   auto onTheWay = LocalizationRepository::make("en");
   auto beforeTheHop = LocalizationRepository::make("en");

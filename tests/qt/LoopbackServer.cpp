@@ -1,11 +1,16 @@
 #include "tests/qt/LoopbackServer.h"
 
 #include <QEventLoop>
+#include <QFile>
+#include <QSslConfiguration>
+#include <QSslKey>
+#include <QSslServer>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTimer>
 #include <algorithm>
 #include <future>
+#include <memory>
 #include <utility>
 
 namespace quorix::testing {
@@ -16,6 +21,25 @@ std::string httpAnswer(int status, std::string_view body, std::string_view heade
          std::string(headers) + "\r\n" + std::string(body);
 }
 
+namespace {
+
+QByteArray tlsFile(const char* name) {
+  QFile file(QStringLiteral(TEST_DATA "/tls/") + QLatin1String(name));
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+std::unique_ptr<QTcpServer> makeServer(LoopbackServer::Scheme scheme) {
+  if (scheme == LoopbackServer::Scheme::http) return std::make_unique<QTcpServer>();
+  auto server = std::make_unique<QSslServer>();
+  auto configuration = QSslConfiguration::defaultConfiguration();
+  configuration.setLocalCertificate(LoopbackServer::certificate());
+  configuration.setPrivateKey(QSslKey(tlsFile("loopback.key"), QSsl::Ec));
+  server->setSslConfiguration(configuration);
+  return server;
+}
+
+}  // namespace
+
 /// One connection, which may carry several requests one after the other.
 class LoopbackServer::Connection : public QObject {
  public:
@@ -23,6 +47,7 @@ class LoopbackServer::Connection : public QObject {
       : QObject(socket), server_(server), socket_(socket) {
     connect(socket, &QTcpSocket::readyRead, this, [this] { read(); });
     connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
+    read();  // what came before anybody listened
   }
 
  private:
@@ -56,16 +81,16 @@ class LoopbackServer::Connection : public QObject {
   std::size_t sent_ = 0;
 };
 
-LoopbackServer::LoopbackServer() {
+LoopbackServer::LoopbackServer(Scheme scheme) : scheme_(scheme) {
   std::promise<void> listening;
   thread_ = std::thread([this, &listening] {
     QEventLoop loop;
-    QTcpServer server;
-    server.listen(QHostAddress::LocalHost);
-    QObject::connect(&server, &QTcpServer::newConnection, &server, [this, &server] {
-      while (QTcpSocket* socket = server.nextPendingConnection()) new Connection(*this, socket);
+    const auto server = makeServer(scheme_);
+    server->listen(QHostAddress::LocalHost);
+    QObject::connect(server.get(), &QTcpServer::pendingConnectionAvailable, [this, &server] {
+      while (QTcpSocket* socket = server->nextPendingConnection()) new Connection(*this, socket);
     });
-    port_ = server.serverPort();
+    port_ = server->serverPort();
     loop_ = &loop;
     listening.set_value();
     loop.exec();
@@ -78,7 +103,11 @@ LoopbackServer::~LoopbackServer() {
   thread_.join();
 }
 
-std::string LoopbackServer::base() const { return "http://127.0.0.1:" + std::to_string(port_); }
+std::string LoopbackServer::base() const {
+  return (scheme_ == Scheme::http ? "http" : "https") + ("://127.0.0.1:" + std::to_string(port_));
+}
+
+QSslCertificate LoopbackServer::certificate() { return QSslCertificate(tlsFile("loopback.crt")); }
 
 void LoopbackServer::serve(const std::string& path, std::vector<Answer> answers) {
   const std::scoped_lock lock(mutex_);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSslCertificate>
 #include <cstddef>
 #include <cstdint>
 #include <map>
@@ -29,12 +30,17 @@ std::string httpAnswer(int status, std::string_view body, std::string_view heade
 /// tell it.
 class LoopbackServer {
  public:
-  LoopbackServer();
+  enum class Scheme { http, https };
+
+  explicit LoopbackServer(Scheme scheme = Scheme::http);
   ~LoopbackServer();
   LoopbackServer(const LoopbackServer&) = delete;
   LoopbackServer& operator=(const LoopbackServer&) = delete;
 
   std::string base() const;  ///< "http://127.0.0.1:4711"
+
+  /// The certificate that a client has to trust for https.
+  static QSslCertificate certificate();
 
   /// Answers the requests for `path` one by one; the last answer serves all further ones. An
   /// unknown path gets an empty 404.
@@ -50,6 +56,7 @@ class LoopbackServer {
   Answer take(const std::string& path, const std::string& head);
   bool isOpen(const std::string& gate) const;
 
+  const Scheme scheme_;
   mutable std::mutex mutex_;
   std::map<std::string, std::vector<Answer>> answers_;
   std::map<std::string, std::vector<std::string>> requests_;

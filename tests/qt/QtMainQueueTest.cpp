@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
-#include <QGuiApplication>
 #include <cstdlib>
 #include <numeric>
 #include <thread>
@@ -17,12 +16,12 @@ namespace {
 
 using foundation::MainQueue;
 
-class QtMainQueueTest : public ::testing::Test {
+class ConcurrentMainQueue : public ::testing::Test {
  protected:
-  QtMainQueueTest() { qt::QtMainQueue::install(); }
+  ConcurrentMainQueue() { qt::QtMainQueue::install(); }
 };
 
-TEST_F(QtMainQueueTest, RunsTheWorkOfEveryThreadOnTheMainOneInOrder) {
+TEST_F(ConcurrentMainQueue, RunsTheWorkOfEveryThreadOnTheMainOneInOrder) {
   constexpr int kThreads = 4;
   constexpr int kEach = 500;
   std::vector<std::pair<int, int>> ran;  // main thread only
@@ -46,7 +45,7 @@ TEST_F(QtMainQueueTest, RunsTheWorkOfEveryThreadOnTheMainOneInOrder) {
   }
 }
 
-TEST_F(QtMainQueueTest, KeepsTheOrderThroughAnEventLoopInside) {
+TEST_F(ConcurrentMainQueue, KeepsTheOrderThroughAnEventLoopInside) {
   std::vector<int> ran;
   MainQueue::async([&] {
     ran.push_back(1);
@@ -61,7 +60,7 @@ TEST_F(QtMainQueueTest, KeepsTheOrderThroughAnEventLoopInside) {
 }
 
 // The application's end needs a process of its own.
-TEST_F(QtMainQueueTest, WorkOutlivesTheApplicationDeathTest) {
+TEST_F(ConcurrentMainQueue, WorkOutlivesTheApplication) {
   GTEST_FLAG_SET(death_test_style, "threadsafe");
   EXPECT_EXIT(
       {

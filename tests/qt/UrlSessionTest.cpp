@@ -1,23 +1,20 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
-#include <QGuiApplication>
 #include <QNetworkReply>
+#include <QSslConfiguration>
 #include <QTcpServer>
 #include <atomic>
 #include <chrono>
-#include <cstdlib>
 #include <future>
-#include <memory>
 #include <optional>
-#include <ostream>
 #include <string>
 #include <thread>
 #include <vector>
 
 #include "platform/foundation/URLSession.h"
 #include "qt/QtURLTransport.h"
+#include "tests/qt/Fetch.h"
 #include "tests/qt/LoopbackServer.h"
 
 namespace quorix::testing {
@@ -26,44 +23,8 @@ namespace {
 using foundation::URL;
 using foundation::URLResponse;
 using qt::QtURLTransport;
-using std::chrono::seconds;
 
-struct Outcome {
-  URLResponse response;
-  std::thread::id thread;
-};
-
-/// One request. The main thread stands still while it waits: nothing may need its event loop.
-class Fetch {
- public:
-  Fetch(foundation::URLTransport& transport, const std::string& address) {
-    transport.start(URL::parse(address).value(), [state = state_](URLResponse response) {
-      if (++state->completions == 1) {
-        state->outcome.set_value({std::move(response), std::this_thread::get_id()});
-      }
-    });
-  }
-
-  Outcome wait() {
-    auto outcome = state_->outcome.get_future();
-    if (outcome.wait_for(seconds(30)) != std::future_status::ready) {
-      ADD_FAILURE() << "the request never completed";
-      return {};
-    }
-    return outcome.get();
-  }
-
-  int completions() const { return state_->completions; }
-
- private:
-  struct State {
-    std::promise<Outcome> outcome;
-    std::atomic<int> completions = 0;
-  };
-  std::shared_ptr<State> state_ = std::make_shared<State>();
-};
-
-class UrlSession : public ::testing::Test {
+class ConcurrentUrlSession : public ::testing::Test {
  protected:
   Outcome fetch(const std::string& path) { return Fetch(transport, server.base() + path).wait(); }
 
@@ -140,7 +101,7 @@ std::vector<Case> cases() {
   };
 }
 
-TEST_F(UrlSession, AnswersAreAnswersWhateverTheirStatusAndBrokenOnesAreErrors) {
+TEST_F(ConcurrentUrlSession, AnswersAreAnswersWhateverTheirStatusAndBrokenOnesAreErrors) {
   const auto table = cases();
   std::vector<Fetch> fetches;
   for (std::size_t i = 0; i < table.size(); ++i) {
@@ -161,7 +122,7 @@ TEST_F(UrlSession, AnswersAreAnswersWhateverTheirStatusAndBrokenOnesAreErrors) {
   for (const Fetch& each : fetches) EXPECT_EQ(each.completions(), 1);
 }
 
-TEST_F(UrlSession, FollowsRedirectsOverHttpOnly) {
+TEST_F(ConcurrentUrlSession, FollowsRedirectsOverHttpOnly) {
   const auto to = [](const std::string& place) {
     return Answer{httpAnswer(302, "moved", "Location: " + place + "\r\n")};
   };
@@ -184,7 +145,34 @@ TEST_F(UrlSession, FollowsRedirectsOverHttpOnly) {
   }
 }
 
-TEST_F(UrlSession, SendsAPlainGetOfTheAddress) {
+TEST_F(ConcurrentUrlSession, KeepsToASecureConnection) {
+  LoopbackServer secure(LoopbackServer::Scheme::https);
+  secure.serve("/table", {{httpAnswer(200, kTable)}});
+  secure.serve("/stay", {{httpAnswer(302, "", "Location: /table\r\n")}});
+  secure.serve("/leave", {{httpAnswer(302, "", "Location: " + server.base() + "/table\r\n")}});
+  server.serve("/table", {{httpAnswer(200, kTable)}});
+  server.serve("/enter", {{httpAnswer(302, "", "Location: " + secure.base() + "/table\r\n")}});
+
+  const auto errorOf = [&](const std::string& address) {
+    const URLResponse response = Fetch(transport, address).wait().response;
+    return response.error ? response.error->code : 0;
+  };
+  // Of another server, because Qt keeps to what it once found of one.
+  const LoopbackServer untrusted(LoopbackServer::Scheme::https);
+  EXPECT_EQ(errorOf(untrusted.base() + "/table"), QNetworkReply::SslHandshakeFailedError);
+  const auto before = QSslConfiguration::defaultConfiguration();
+  auto trusting = before;
+  trusting.addCaCertificate(LoopbackServer::certificate());
+  QSslConfiguration::setDefaultConfiguration(trusting);
+  EXPECT_EQ(errorOf(secure.base() + "/table"), 0);
+  EXPECT_EQ(errorOf(secure.base() + "/stay"), 0);
+  EXPECT_EQ(errorOf(server.base() + "/enter"), 0);
+  EXPECT_EQ(errorOf(secure.base() + "/leave"), QNetworkReply::InsecureRedirectError);
+  EXPECT_TRUE(server.requests("/table").empty());
+  QSslConfiguration::setDefaultConfiguration(before);
+}
+
+TEST_F(ConcurrentUrlSession, SendsAPlainGetOfTheAddress) {
   const struct {
     std::string address, target;
   } table[] = {
@@ -205,7 +193,7 @@ TEST_F(UrlSession, SendsAPlainGetOfTheAddress) {
   }
 }
 
-TEST_F(UrlSession, TakesALargeBodyWithoutTheMainThread) {
+TEST_F(ConcurrentUrlSession, TakesALargeBodyWithoutTheMainThread) {
   std::string body(50 << 20, '\0');
   for (std::size_t i = 0; i < body.size(); ++i) body[i] = static_cast<char>(i * 31 + i / 4096);
   server.serve("/large", {{httpAnswer(200, body)}});
@@ -214,7 +202,7 @@ TEST_F(UrlSession, TakesALargeBodyWithoutTheMainThread) {
   EXPECT_NE(thread, std::this_thread::get_id());
 }
 
-TEST_F(UrlSession, RefusesWhatItCannotReachOrMayNotRead) {
+TEST_F(ConcurrentUrlSession, RefusesWhatItCannotReachOrMayNotRead) {
   const struct {
     std::string address;
     QNetworkReply::NetworkError error;
@@ -231,7 +219,7 @@ TEST_F(UrlSession, RefusesWhatItCannotReachOrMayNotRead) {
   }
 }
 
-TEST_F(UrlSession, GivesUpOnARequestThatStandsStill) {
+TEST_F(ConcurrentUrlSession, GivesUpOnARequestThatStandsStill) {
   QtURLTransport impatient{std::chrono::milliseconds(100)};
   server.serve("/still", {{httpAnswer(200, kTable), SIZE_MAX, false, "never"}});
   const URLResponse response = Fetch(impatient, server.base() + "/still").wait().response;
@@ -239,7 +227,7 @@ TEST_F(UrlSession, GivesUpOnARequestThatStandsStill) {
   EXPECT_EQ(response.error->code, QNetworkReply::OperationCanceledError);
 }
 
-TEST_F(UrlSession, StandInServesAnOrigin) {
+TEST_F(ConcurrentUrlSession, StandInServesAnOrigin) {
   server.serve("/v1/es.json?q=1", {{httpAnswer(200, kTable)}});
   transport.redirectOrigin("https://API.shop.example", server.base());
   for (const char* address :
@@ -251,7 +239,7 @@ TEST_F(UrlSession, StandInServesAnOrigin) {
   EXPECT_TRUE(Fetch(transport, "https://127.0.0.1:1/v1/es.json?q=1").wait().response.error);
 }
 
-TEST_F(UrlSession, ProtocolAnswersBeforeTheNetworkOnTheSessionsThread) {
+TEST_F(ConcurrentUrlSession, ProtocolAnswersBeforeTheNetworkOnTheSessionsThread) {
   server.serve("/x", {{httpAnswer(200, "network")}});
   std::atomic<std::thread::id> ranOn;
   auto token = foundation::URLSession::shared().registerProtocol(
@@ -270,7 +258,7 @@ TEST_F(UrlSession, ProtocolAnswersBeforeTheNetworkOnTheSessionsThread) {
   EXPECT_TRUE(server.requests("/inside").empty());
 }
 
-TEST_F(UrlSession, CompletionMayStartTheNextRequest) {
+TEST_F(ConcurrentUrlSession, CompletionMayStartTheNextRequest) {
   server.serve("/x", {{httpAnswer(200, kTable)}});
   std::promise<std::optional<std::string>> second;
   const URL url = URL::parse(server.base() + "/x").value();
@@ -278,58 +266,8 @@ TEST_F(UrlSession, CompletionMayStartTheNextRequest) {
     transport.start(url, [&](const URLResponse& response) { second.set_value(response.body); });
   });
   auto body = second.get_future();
-  ASSERT_EQ(body.wait_for(seconds(30)), std::future_status::ready);
+  ASSERT_EQ(body.wait_for(std::chrono::seconds(30)), std::future_status::ready);
   EXPECT_EQ(body.get(), kTable);
-}
-
-// The application's end needs a process of its own.
-class UrlSessionDeathTest : public UrlSession {
- protected:
-  UrlSessionDeathTest() { GTEST_FLAG_SET(death_test_style, "threadsafe"); }
-
-  bool wasCancelled(Fetch& fetch) {
-    const auto error = fetch.wait().response.error;
-    return error && error->code == QNetworkReply::OperationCanceledError &&
-           fetch.completions() == 1;
-  }
-
-  /// A request that is on its way and gets no answer.
-  Fetch stalled() {
-    server.serve("/still", {{httpAnswer(200, kTable), SIZE_MAX, false, "never"}});
-    Fetch fetch(transport, server.base() + "/still");
-    while (server.requests("/still").empty()) std::this_thread::yield();
-    return fetch;
-  }
-};
-
-[[noreturn]] void leave(bool passed) { std::_Exit(passed ? 0 : 1); }
-
-TEST_F(UrlSessionDeathTest, EndsWithTheApplicationAndBeginsAnewWithTheNext) {
-  EXPECT_EXIT(
-      {
-        Fetch inFlight = stalled();
-        delete QCoreApplication::instance();
-        const bool ended = inFlight.completions() == 1 && wasCancelled(inFlight);
-        Fetch without(transport, server.base() + "/x");
-        const bool refused = wasCancelled(without);
-
-        int argc = 0;
-        QCoreApplication next(argc, nullptr);
-        LoopbackServer nextServer;
-        nextServer.serve("/x", {{httpAnswer(200, kTable)}});
-        Fetch again(transport, nextServer.base() + "/x");
-        leave(ended && refused && again.wait().response.body == kTable);
-      },
-      ::testing::ExitedWithCode(0), "");
-}
-
-TEST_F(UrlSessionDeathTest, ProcessMayExitWithARequestInFlight) {
-  EXPECT_EXIT(
-      {
-        stalled();
-        std::exit(0);
-      },
-      ::testing::ExitedWithCode(0), "");
 }
 
 }  // namespace

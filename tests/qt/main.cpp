@@ -5,6 +5,8 @@
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  // Pictures are compared: they must not depend on a graphics driver.
+  if (qEnvironmentVariableIsEmpty("QT_QUICK_BACKEND")) qputenv("QT_QUICK_BACKEND", "software");
   // On the heap, so that a test about the application's end (in a process of its own) can end it.
   new QGuiApplication(argc, argv);
   const int result = RUN_ALL_TESTS();

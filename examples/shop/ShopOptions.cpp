@@ -1,0 +1,38 @@
+#include "examples/shop/ShopOptions.h"
+
+#include <string_view>
+
+namespace quorix::examples {
+
+const char* ShopOptions::usage() {
+  return "Usage: quorix-shop [--pictures] [--out DIR]\n"
+         "\n"
+         "A small shop with the score row on its product page. The bar on top switches shopper,\n"
+         "language, appearance and text while it runs.\n"
+         "\n"
+         "  --pictures   write the shop's scenes as pictures instead of opening a window\n"
+         "               (also what happens where there is no display)\n"
+         "  --out DIR    where pictures go, \"out\" by default; asks for pictures\n"
+         "  --help       show this text\n";
+}
+
+std::variant<ShopOptions, std::string> ShopOptions::parse(std::span<char* const> arguments) {
+  ShopOptions options;
+  for (std::size_t i = 0; i < arguments.size(); ++i) {
+    const std::string_view argument = arguments[i];
+    if (argument == "--help" || argument == "-h") {
+      options.help = true;
+    } else if (argument == "--pictures") {
+      options.pictures = true;
+    } else if (argument == "--out") {
+      if (++i == arguments.size() || *arguments[i] == '\0') return "--out needs a folder";
+      options.pictures = true;
+      options.outFolder = arguments[i];
+    } else {
+      return "unknown option " + std::string(argument) + " (see --help)";
+    }
+  }
+  return options;
+}
+
+}  // namespace quorix::examples

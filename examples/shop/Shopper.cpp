@@ -1,0 +1,31 @@
+#include "examples/shop/Shopper.h"
+
+#include "examples/common/TokenMint.h"
+
+namespace quorix::examples {
+namespace {
+
+/// As if the token had been cut off on its way: what is left can't be decoded.
+std::string brokenToken() {
+  const std::string whole = mintToken({0.82, "EUR", 600, 300});
+  return whole.substr(0, whole.find('.') + 12);
+}
+
+}  // namespace
+
+const std::vector<Shopper>& Shopper::all() {
+  static const std::vector<Shopper> shoppers = {
+      {QStringLiteral("Ana: discount in euros"), mintToken({0.82, "EUR", 600, 300}),
+       QStringLiteral("€ 89")},
+      {QStringLiteral("Ben: no discount, pounds"), mintToken({0.06, "GBP", 500, 250}),
+       QStringLiteral("£79")},
+      {QStringLiteral("Chie: yen"), mintToken({0.91, "JPY", 55000, 33000}),
+       QStringLiteral("¥14,800")},
+      {QStringLiteral("Dana: Swedish kronor"), mintToken({0.74, "SEK", 6900, 3900}),
+       QStringLiteral("949 kr")},
+      {QStringLiteral("Eli: broken token"), brokenToken(), QStringLiteral("€ 89")},
+  };
+  return shoppers;
+}
+
+}  // namespace quorix::examples

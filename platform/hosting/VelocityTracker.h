@@ -1,0 +1,26 @@
+#pragma once
+
+#include <vector>
+
+namespace quorix::hosting {
+
+/// How fast a finger moves along one axis just before it is lifted. A finger that rested before it
+/// was lifted has no speed, however fast it came.
+class VelocityTracker {
+ public:
+  /// The finger is at `position` (points) at the time `seconds`.
+  void add(double position, double seconds);
+  void reset() { samples_.clear(); }
+
+  /// Points a second over the last tenth of a second before the latest sample.
+  double velocity() const;
+
+ private:
+  struct Sample {
+    double position;
+    double seconds;
+  };
+  std::vector<Sample> samples_;  ///< of the last tenth of a second
+};
+
+}  // namespace quorix::hosting

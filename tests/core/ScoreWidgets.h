@@ -1,0 +1,43 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "QuorixWidgets/localization/LocalizationRepository.h"
+#include "QuorixWidgets/score/ScoreWidgetView.h"
+#include "QuorixWidgets/score/ScoreWidgetViewModel.h"
+#include "platform/foundation/URLSession.h"
+
+namespace quorix::testing {
+
+inline const ScoreWidgetStyle ownFaces{std::nullopt, std::nullopt};
+
+/// €4.00, or €2.00 with a discount; returns of 18 percent and of 95.
+inline std::shared_ptr<ScoreWidgetViewModel> scoreModel(bool discount,
+                                                        const std::string& language = "en") {
+  return std::make_shared<ScoreWidgetViewModel>(
+      "shop", TokenData{discount ? 0.82 : 0.05, "EUR", 499, 299}, language, ownFaces);
+}
+
+inline swiftui::View scoreView(bool discount) {
+  return ScoreWidgetView{scoreModel(discount), LocalizationRepository::make("en")};
+}
+
+/// Stands in for the network and answers when the test says so.
+class HeldTransport final : public foundation::URLTransport {
+ public:
+  std::vector<Completion> held;
+  void start(const foundation::URL&, Completion completion) override {
+    held.push_back(std::move(completion));
+  }
+
+  static std::shared_ptr<HeldTransport> install() {
+    auto transport = std::make_shared<HeldTransport>();
+    foundation::URLSession::shared().install(transport);
+    return transport;
+  }
+};
+
+}  // namespace quorix::testing

@@ -1,0 +1,251 @@
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+
+#include "tests/core/ScoreWidgets.h"
+#include "tests/core/TestWindow.h"
+
+namespace quorix {
+namespace {
+
+using foundation::MainQueue;
+using swiftui::Text;
+using swiftui::View;
+using testing::TestWindow;
+
+const std::string row = "Your return fee €4.00";
+
+/// A score row, with its sheet where a test opens it. In 320 points the sheet is 305 high.
+class ScoreSheet : public ::testing::Test {
+ protected:
+  ScoreSheet() { testing::HeldTransport::install(); }
+
+  TestWindow& open(bool motion = false) {
+    window.motion = motion;
+    window.tap(row);
+    window.settle();
+    return window;
+  }
+  double panelHeight() { return window.size.height - window.sheet->panelFrame().top(); }
+
+  std::shared_ptr<LocalizationRepository> strings = LocalizationRepository::make("en");
+  TestWindow window{ScoreWidgetView{testing::scoreModel(false), strings}};
+};
+
+TEST_F(ScoreSheet, IsOfMediumHeightUntilItsContentIsMeasured) {
+  window.tap(row);
+  MainQueue::drain();
+  EXPECT_EQ(panelHeight(), 320);
+  window.sheet->scene();
+  EXPECT_EQ(panelHeight(), 320);
+  MainQueue::drain();
+  EXPECT_EQ(panelHeight(), 305) << "without motion it is there at once";
+  EXPECT_FALSE(window.sheet->isMoving());
+}
+
+TEST_F(ScoreSheet, KeepsItsHeightOverClosingAndOpening) {
+  open().tap("Close");
+  window.settle();
+  ASSERT_FALSE(window.sheet);
+  window.tap(row);
+  MainQueue::drain();
+  EXPECT_EQ(panelHeight(), 305);
+}
+
+TEST_F(ScoreSheet, FollowsItsContentAndTheWindow) {
+  open();
+  const struct {
+    layout::Size window;
+    layout::Rect panel;
+  } rows[] = {
+      {{640, 320}, {{0, 55}, {640, 265}}},      // two lines of disclaimer less
+      {{1000, 640}, {{180, 375}, {640, 265}}},  // no wider than one likes to read
+      {{320, 200}, {{0, 10}, {320, 190}}},      // higher than the window allows
+      {{320, 640}, {{0, 335}, {320, 305}}},
+  };
+  for (const auto& expected : rows) {
+    window.resize(expected.window);
+    EXPECT_EQ(window.sheet->panelFrame(), expected.panel) << expected.window.width;
+  }
+  strings->strings = TranslationTable::make(
+      {{"returns", "disclaimer", std::string(36 * 7, 'x')}, {"actions", "close", "Shut"}});
+  window.settle();
+  EXPECT_EQ(panelHeight(), 305 + 3 * 20);
+  window.tap("Shut");
+  window.settle();
+  EXPECT_FALSE(window.sheet);
+}
+
+TEST_F(ScoreSheet, GoesWhenSwipedFarOrFast) {
+  const struct {
+    double down, velocity, panelTop;
+    bool closes;
+  } rows[] = {
+      {153, 0, 488, true},   {152, 0, 487, false}, {20, 601, 355, true}, {20, 600, 355, false},
+      {8, 5000, 335, false}, {-50, 0, 325, false},  // it gives way upwards, reluctantly
+      {-50, 601, 325, true},
+  };
+  for (const auto& swipe : rows) {
+    open();
+    window.press({160, 400});
+    window.sheet->pointerMoved({160, 400 + swipe.down});
+    EXPECT_EQ(window.sheet->panelFrame().top(), swipe.panelTop) << swipe.down;
+    window.release({160, 400 + swipe.down}, swipe.velocity);
+    window.settle();
+    EXPECT_EQ(!window.sheet, swipe.closes) << swipe.down << " at " << swipe.velocity;
+    if (!window.sheet) continue;
+    EXPECT_EQ(panelHeight(), 305);
+    window.sheet->dismiss();
+    window.settle();
+  }
+}
+
+TEST_F(ScoreSheet, ADragThatStartsOnAButtonIsNoTap) {
+  open();
+  const auto close = TestWindow::middle(window.element("Close").frame);
+  window.press(close);
+  window.sheet->pointerMoved({close.x, close.y + 9});
+  window.sheet->pointerMoved(close);
+  window.release(close);
+  window.settle();
+  ASSERT_TRUE(window.sheet);
+  window.press(close);
+  window.sheet->pointerMoved({close.x, close.y + 100});
+  window.sheet->pointerCancelled();
+  window.settle();
+  EXPECT_EQ(panelHeight(), 305);
+}
+
+TEST_F(ScoreSheet, GoesWhenTappedOutside) {
+  constexpr layout::Point outside{160, 20}, inside{160, 600};
+  const struct {
+    layout::Point press, release;
+    bool closes;
+  } rows[] = {{outside, {10, 300}, true}, {outside, inside, false}, {inside, outside, false}};
+  for (const auto& tap : rows) {
+    open();
+    window.press(tap.press);
+    window.release(tap.release);
+    window.settle();
+    EXPECT_EQ(!window.sheet, tap.closes) << tap.press.y << " to " << tap.release.y;
+    if (window.sheet) window.tap("Close");
+    window.settle();
+    EXPECT_FALSE(window.sheet);
+  }
+}
+
+TEST_F(ScoreSheet, RisesAndFallsAndThenNothingMoves) {
+  window.motion = true;
+  window.tap(row);
+  MainQueue::drain();
+  double height = panelHeight();
+  EXPECT_LT(height, 1);
+  int frames = 0;
+  for (bool moving = true; moving; ++frames) {
+    window.sheet->scene();
+    MainQueue::drain();
+    moving = window.sheet->advance(1.0 / 60);
+    EXPECT_GE(panelHeight(), height);
+    height = panelHeight();
+    ASSERT_LT(frames, 90);
+  }
+  EXPECT_GT(frames, 10);
+  EXPECT_EQ(height, 305);
+  EXPECT_EQ(MainQueue::drain(), 0);
+  EXPECT_FALSE(window.sheet->advance(1) || window.sheet->isMoving());
+  const unsigned painted = window.sheet->panelRevision();
+  window.tap("Close");
+  MainQueue::drain();
+  for (frames = 0; window.sheet; ++frames) {
+    EXPECT_LE(panelHeight(), height);
+    height = panelHeight();
+    const double risen = window.sheet->shade().alpha / 102.0;
+    EXPECT_NEAR(risen, height / 305, 0.02);
+    EXPECT_EQ(window.sheet->panelRevision(), painted);
+    window.sheet->advance(1.0 / 60);
+    ASSERT_LT(frames, 90);
+  }
+  EXPECT_GT(frames, 10);
+}
+
+TEST_F(ScoreSheet, OnItsWayOutItTakesNoTapButMayBeCalledBack) {
+  open(true);
+  const auto close = window.element("Close").frame;
+  for (int i = 0; i < 2; ++i) {
+    window.tap(TestWindow::middle(close));
+    MainQueue::drain();
+    EXPECT_FALSE(window.sheet->activate(1));
+    EXPECT_FALSE(window.host->presentation());
+  }
+  window.sheet->advance(1.0 / 60);
+  window.host->activate(0);
+  window.settle();
+  ASSERT_TRUE(window.sheet);
+  EXPECT_EQ(panelHeight(), 305);
+}
+
+TEST_F(ScoreSheet, KeepsTheFocusInside) {
+  open();
+  EXPECT_FALSE(window.sheet->focusFrame());
+  for (const bool forward : {true, true, false}) {
+    window.sheet->moveFocus(forward);
+    EXPECT_EQ(window.sheet->focusFrame(), window.element("Close").frame);
+  }
+  EXPECT_EQ(window.sheet->focusFrame(), (layout::Rect{{280, 335 + 22}, {24, 24}}));
+  window.sheet->activateFocus();
+  window.settle();
+  EXPECT_FALSE(window.sheet);
+}
+
+TEST_F(ScoreSheet, BelongsToItsOwnRow) {
+  TestWindow other(testing::scoreView(true), {}, {320, 480});
+  open();
+  other.tap("Your return fee Discounted €2.00, Original €4.00");
+  other.settle();
+  window.tap("Close");
+  window.settle();
+  EXPECT_FALSE(window.sheet);
+  ASSERT_TRUE(other.sheet);
+  EXPECT_NO_THROW(other.element("Discounted €2.00, Original €4.00"));
+  EXPECT_EQ(other.sheet->panelFrame().top(), 480 - 305);
+}
+
+/// Up from the start.
+struct Presenting {
+  static constexpr std::string_view typeName = "Presenting";
+  View content;
+  swiftui::State<bool> up{true};
+  auto states() const { return std::tie(up); }
+  View body() const { return View(Text::verbatim("row")).sheet(up.binding(), content); }
+};
+
+TEST(SheetPresenter, AnActionInTheSheetMayDestroyEverything) {
+  std::optional<TestWindow> window;
+  const auto destroy = [&window] { window.reset(); };
+  const View content = View(Text::verbatim("close the window")).onTapGesture(destroy);
+  for (const bool byTap : {true, false}) {
+    window.emplace(Presenting{content});
+    window->settle();
+    ASSERT_TRUE(window->sheet);
+    byTap ? window->tap("close the window") : void(window->sheet->activate(0));
+    EXPECT_FALSE(window);
+  }
+}
+
+TEST(SheetPresenter, StandsOnTheWindowsSafeBottom) {
+  const View content = View(Text::verbatim("x"))
+                           .frame(50, 100)
+                           .presentationDetents({swiftui::PresentationDetent::height(100),
+                                                 swiftui::PresentationDetent::medium()});
+  TestWindow window(Presenting{content});
+  window.settle();
+  window.sheet->setWindow(window.size, {40, 0, 30, 0});
+  EXPECT_EQ(window.sheet->panelFrame(), (layout::Rect{{0, 510}, {320, 130}}));
+  EXPECT_EQ(window.element("x").frame.top(), 510 + 39);  // 22 high in the middle of 100
+  window.sheet->setWindow({320, 140}, {40, 0, 30, 0});
+  EXPECT_EQ(window.sheet->panelFrame().top(), 60) << "half of what the safe area leaves at the top";
+}
+
+}  // namespace
+}  // namespace quorix

@@ -1,0 +1,101 @@
+#include <gtest/gtest.h>
+
+#include "platform/foundation/TextCasing.h"
+#include "platform/swiftui/ContentSizeCategory.h"
+#include "tests/core/TestWindow.h"
+
+namespace quorix {
+namespace {
+
+using swiftui::ContentSizeCategory;
+using swiftui::Font;
+using swiftui::Text;
+using swiftui::TextStyle;
+using swiftui::View;
+using testing::TestWindow;
+
+const auto last = ContentSizeCategory::accessibilityExtraExtraExtraLarge;
+
+TEST(ContentSizeCategory, IsFoundByItsName) {
+  for (int i = 0; i <= static_cast<int>(last); ++i) {
+    const auto category = static_cast<ContentSizeCategory>(i);
+    EXPECT_EQ(swiftui::contentSizeCategoryNamed(swiftui::nameOf(category)), category);
+  }
+  EXPECT_EQ(swiftui::contentSizeCategoryNamed("extraExtraLarge"),
+            ContentSizeCategory::extraExtraLarge);
+  for (const char* name : {"", "Large", "large ", "xl"}) {
+    EXPECT_FALSE(swiftui::contentSizeCategoryNamed(name)) << name;
+  }
+}
+
+TEST(ContentSizeCategory, NeverScalesDownOnItsWayUp) {
+  for (int s = 0; s <= static_cast<int>(TextStyle::caption2); ++s) {
+    const auto style = static_cast<TextStyle>(s);
+    EXPECT_EQ(swiftui::scaleFactor(style, ContentSizeCategory::large), 1);
+    for (int i = 1; i <= static_cast<int>(last); ++i) {
+      EXPECT_LE(swiftui::scaleFactor(style, static_cast<ContentSizeCategory>(i - 1)),
+                swiftui::scaleFactor(style, static_cast<ContentSizeCategory>(i)));
+    }
+  }
+}
+
+/// A font's size as it reaches the text engine.
+TEST(ContentSizeCategory, ReachesScalingFontsOnly) {
+  const Font relative = Font::custom("F", 11, TextStyle::caption2);
+  const struct {
+    Font font;
+    ContentSizeCategory category;
+    double points;
+  } rows[] = {
+      {Font::custom("F", Font::FixedSize{14}), last, 14},
+      {Font::custom("F", 34), last, 106},  // as the body style: 53 of 17
+      {Font::custom("F", 34), ContentSizeCategory::extraSmall, 28},
+      {relative, ContentSizeCategory::extraSmall, 11},
+      {relative, last, 40},
+      {Font(), ContentSizeCategory::extraLarge, 19},
+  };
+  for (const auto& row : rows) {
+    swiftui::Environment environment;
+    environment.textSize = row.category;
+    TestWindow window(View(Text::verbatim("x")).font(row.font), environment);
+    const auto& item = std::get<render::TextItem>(window.shown().items.at(0));
+    EXPECT_DOUBLE_EQ(item.text.runs.at(0).font.points, row.points);
+  }
+}
+
+TEST(TextCasing, FollowsTheLanguage) {
+  const struct {
+    const char* language;
+    const char* text;
+    const char* upper;
+    const char* lower;
+  } rows[] = {
+      {"", "Straße i ÉÑ 日本 7", "STRASSE I ÉÑ 日本 7", "straße i éñ 日本 7"},
+      {"tr", "ilk Işık", "İLK IŞIK", "ilk ışık"},
+      {"el", "Άσος", "ΑΣΟΣ", "άσος"},
+      {"en", "ΑΣΟΣ", "ΑΣΟΣ", "ασος"},
+      {"nl", "ijs", "IJS", "ijs"},
+      {"xx", "a\xFFz", "A\uFFFDZ", "a\uFFFDz"},
+      {"en", "", "", ""},
+  };
+  for (const auto& row : rows) {
+    EXPECT_EQ(foundation::uppercased(row.text, row.language), row.upper);
+    EXPECT_EQ(foundation::lowercased(row.text, row.language), row.lower);
+  }
+}
+
+TEST(TextCase, ShowsTheUsersCapitalsAndLeavesWhatIsReadOutAlone) {
+  swiftui::Environment turkish;
+  turkish.language = "tr";
+  const View outer = View(Text::verbatim("ibis"))
+                         .textCase(swiftui::TextCase::uppercase)
+                         .textCase(swiftui::TextCase::lowercase)
+                         .accessibilityLabel(Text::verbatim("ibis"));
+  TestWindow window(outer, turkish);
+  EXPECT_NO_THROW(window.element("ibis"));
+  const auto& shown = std::get<render::TextItem>(window.shown().items.at(0));
+  EXPECT_EQ(shown.text.runs.at(0).text, "İBİS") << "the innermost wins";
+}
+
+}  // namespace
+}  // namespace quorix

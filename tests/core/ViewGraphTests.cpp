@@ -1,0 +1,275 @@
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <tuple>
+#include <vector>
+
+#include "platform/swiftui/Elements.h"
+#include "tests/core/TestWindow.h"
+
+namespace quorix {
+namespace {
+
+using foundation::MainQueue;
+using swiftui::Binding;
+using swiftui::State;
+using swiftui::Text;
+using swiftui::View;
+using testing::TestWindow;
+
+/// Reads "name value"; a tap adds one.
+struct Counter {
+  static constexpr std::string_view typeName = "Counter";
+  std::string name;
+  State<int> count{0};
+  auto states() const { return std::tie(count); }
+  View body() const {
+    const auto binding = count.binding();
+    return View(Text::verbatim(name + " " + std::to_string(count.get()))).onTapGesture([binding] {
+      binding.set(binding.get() + 1);
+    });
+  }
+};
+
+/// As `Counter`, with a state of another type.
+struct Tally {
+  static constexpr std::string_view typeName = "Tally";
+  State<std::string> marks{"none"};
+  auto states() const { return std::tie(marks); }
+  View body() const {
+    const auto binding = marks.binding();
+    return View(Text::verbatim(marks.get())).onTapGesture([binding] { binding.set("one"); });
+  }
+};
+
+/// Shows `shown` while its switch is on; counts its evaluations.
+struct Switched {
+  static constexpr std::string_view typeName = "Switched";
+  View shown;
+  std::shared_ptr<int> evaluations = std::make_shared<int>(0);
+  State<bool> on{true};
+  auto states() const { return std::tie(on); }
+  View body() const {
+    ++*evaluations;
+    const auto binding = on.binding();
+    return swiftui::VStack(
+        layout::HorizontalAlignment::center, 0,
+        {View(Text::verbatim("switch")).onTapGesture([binding] { binding.toggle(); }),
+         swiftui::Conditional(on.get(), on.get() ? shown : View())});
+  }
+};
+
+/// Hands out a binding to its state.
+struct Leaking {
+  static constexpr std::string_view typeName = "Leaking";
+  std::optional<Binding<bool>>* out;
+  View content;
+  State<bool> flag{false};
+  auto states() const { return std::tie(flag); }
+  View body() const {
+    *out = flag.binding();
+    return content;
+  }
+};
+
+struct Model final : combine::ObservableObject {
+  combine::Published<int> value{*this, 0};
+};
+
+/// Shows its model's value; counts its evaluations.
+struct Observer {
+  static constexpr std::string_view typeName = "Observer";
+  std::shared_ptr<Model> model = std::make_shared<Model>();
+  std::shared_ptr<int> evaluations = std::make_shared<int>(0);
+  auto observed() const { return std::tie(model); }
+  View body() const {
+    ++*evaluations;
+    return Text::verbatim(std::to_string(model->value));
+  }
+};
+
+View column(std::vector<View> views) {
+  return swiftui::VStack(layout::HorizontalAlignment::center, 0, std::move(views));
+}
+
+TEST(ViewGraph, AStateLivesAtItsPlaceAndDiesWithItsBranch) {
+  TestWindow window(column({Counter{"kept"}, Switched{Counter{"left"}}}));
+  for (const char* label : {"kept 0", "left 0", "left 1"}) {
+    window.tap(label);
+    window.settle();
+  }
+  EXPECT_NO_THROW(window.element("left 2"));
+  window.tap("switch");
+  window.settle();
+  EXPECT_ANY_THROW(window.element("left 2"));
+  window.tap("switch");
+  window.settle();
+  EXPECT_NO_THROW(window.element("left 0"));
+  EXPECT_NO_THROW(window.element("kept 1"));
+}
+
+TEST(ViewGraph, EveryPlaceHasItsOwnState) {
+  using layout::Alignment;
+  std::vector<View> many;
+  for (int i = 0; i < 300; ++i) many.emplace_back(Counter{std::to_string(i)});
+  const View laid = column(many)
+                        .overlay({}, Tally{})
+                        .overlay({layout::HorizontalAlignment::leading}, Counter{"inner"})
+                        .overlay({layout::HorizontalAlignment::trailing}, Counter{"outer"});
+  TestWindow window(laid);
+  for (const char* label : {"44 0", "299 0", "none", "inner 0", "outer 0", "outer 1"}) {
+    ASSERT_TRUE(window.host->activate(
+        static_cast<int>(&window.element(label) - window.shown().accessibility.data())));
+    window.settle();
+  }
+  for (const char* label : {"43 0", "44 1", "255 0", "299 1", "one", "inner 1", "outer 2"}) {
+    EXPECT_NO_THROW(window.element(label)) << label;
+  }
+}
+
+TEST(ViewGraph, AnotherTypeInAPlaceStartsAfresh) {
+  TestWindow window(column({Counter{"a"}}));
+  window.tap("a 0");
+  window.host->setRoot(column({Counter{"b"}}));
+  EXPECT_NO_THROW(window.element("b 1")) << "the same type is the same view";
+  window.host->setRoot(column({Tally{}}));
+  EXPECT_NO_THROW(window.element("none"));
+  window.host->setRoot(column({Counter{"c"}}));
+  EXPECT_NO_THROW(window.element("c 0"));
+}
+
+TEST(ViewGraph, ChangesAreEvaluatedTogetherOnTheNextTurn) {
+  const Observer observer;
+  const Switched switched{observer};
+  TestWindow window(switched);
+  const int before = *switched.evaluations;
+  const int displays = window.displays;
+  window.tap("switch");
+  window.tap("switch");
+  observer.model->value = 1;
+  observer.model->value = 2;
+  EXPECT_EQ(*switched.evaluations, before);
+  EXPECT_EQ(MainQueue::drain(), 1);
+  EXPECT_EQ(*switched.evaluations, before + 1);
+  EXPECT_EQ(window.displays, displays + 1);
+  EXPECT_NO_THROW(window.element("2"));
+}
+
+TEST(ViewGraph, ObjectsAreObservedOnlyOnScreen) {
+  const Observer observer;
+  const Observer twin{observer.model};
+  const Switched switched{column({observer, twin})};
+  TestWindow window(switched);
+  const auto turnsAfterChange = [&] {
+    observer.model->value = observer.model->value + 1;
+    return MainQueue::drain();
+  };
+  EXPECT_EQ(turnsAfterChange(), 1);
+  window.host->setOnScreen(false);
+  EXPECT_EQ(turnsAfterChange(), 0);
+  window.host->setOnScreen(true);
+  EXPECT_NO_THROW(window.element("2")) << "what changed while it was away shows";
+  EXPECT_EQ(turnsAfterChange(), 1);
+  window.tap("switch");
+  window.settle();
+  EXPECT_EQ(turnsAfterChange(), 0) << "its branch is gone";
+}
+
+TEST(ViewGraph, ATaskRunsAtEachAppearanceUnlessItsViewLeavesFirst) {
+  std::string log;
+  const auto task = [&log](char name) { return [&log, name] { log += name; }; };
+  const auto priority = swiftui::TaskPriority::userInitiated;
+  const View twoTasks =
+      View(Text::verbatim("t")).task(priority, task('a')).task(priority, task('b'));
+  TestWindow window(Switched{twoTasks});
+  EXPECT_EQ(log, "") << "not before its turn";
+  window.settle();
+  EXPECT_EQ(log.size(), 2U) << log;
+  window.tap("switch");
+  window.tap("switch");
+  window.settle();
+  EXPECT_EQ(log.size(), 2U) << "re-evaluation is no appearance";
+  window.tap("switch");
+  window.settle();
+  window.tap("switch");
+  window.settle();
+  EXPECT_EQ(log.size(), 4U);
+  window.host->setOnScreen(false);
+  window.host->setOnScreen(true);
+  window.shown();
+  window.host->setOnScreen(false);
+  MainQueue::drain();
+  EXPECT_EQ(log.size(), 4U) << "left before its turn";
+  window.host->setOnScreen(true);
+  window.settle();
+  EXPECT_EQ(log.size(), 6U);
+}
+
+TEST(ViewGraph, AnUpdateConcernsOneHostOnly) {
+  const Observer first, second;
+  TestWindow one(first), other(second);
+  const int evaluations = *second.evaluations;
+  const int displays = other.displays;
+  first.model->value = 7;
+  one.settle();
+  other.settle();
+  EXPECT_NO_THROW(one.element("7"));
+  EXPECT_EQ(*second.evaluations, evaluations);
+  EXPECT_EQ(other.displays, displays);
+}
+
+TEST(ViewGraph, AHostMayGoAtAnyTime) {
+  const Observer observer;
+  std::optional<Binding<bool>> kept;
+  bool ran = false;
+  {
+    const auto priority = swiftui::TaskPriority::userInitiated;
+    TestWindow window(Leaking{&kept, View(observer).task(priority, [&ran] { ran = true; })});
+    observer.model->value = 1;  // a turn and a task are pending
+  }
+  kept->set(true);
+  observer.model->value = 2;
+  MainQueue::drain();
+  EXPECT_FALSE(ran);
+}
+
+TEST(ViewGraph, AnActionMayDestroyItsOwnHost) {
+  std::optional<TestWindow> window;
+  const auto close = [&window] { window.reset(); };
+  const View view = View(Text::verbatim("close")).onTapGesture(close);
+  window.emplace(view);
+  window->tap("close");
+  EXPECT_FALSE(window);
+  window.emplace(view);
+  window->host->activate(0);
+  EXPECT_FALSE(window);
+}
+
+TEST(ViewGraph, EachMeasuredPlaceIsToldItsSizeOnceAndAgainWhenItReturns) {
+  std::string log;
+  const auto tell = [&log](const char* name) {
+    return [&log, name](layout::Size size) {
+      log += name + std::to_string(static_cast<int>(size.width)) + " ";
+    };
+  };
+  const View measured = View(Text::verbatim("xx"))
+                            .font(swiftui::Font::custom("F", swiftui::Font::FixedSize{16}))
+                            .onGeometryChange(tell("text "))
+                            .padding(10)
+                            .onGeometryChange(tell("padded "));
+  TestWindow window(Switched{measured});
+  EXPECT_EQ(log, "text 16 padded 36 ");
+  window.environment.scale = 2;
+  window.host->setEnvironment(window.environment);
+  window.settle();
+  EXPECT_EQ(log, "text 16 padded 36 ") << "nothing changed";
+  window.tap("switch");
+  window.settle();
+  window.tap("switch");
+  window.settle();
+  EXPECT_EQ(log, "text 16 padded 36 text 16 padded 36 ");
+}
+
+}  // namespace
+}  // namespace quorix

@@ -1,0 +1,209 @@
+#include <gtest/gtest.h>
+
+#include <map>
+
+#include "QuorixWidgets/score/ScoreWidgetSheet.h"
+#include "platform/foundation/LocalizedString.h"
+#include "platform/render/ScenePrinter.h"
+#include "platform/swiftui/Elements.h"
+#include "tests/core/ScoreWidgets.h"
+#include "tests/core/TestWindow.h"
+
+namespace quorix {
+namespace {
+
+using swiftui::Text;
+using swiftui::View;
+using testing::printedItems;
+using testing::scoreModel;
+using testing::scoreView;
+using testing::TestWindow;
+
+/// A letter of `size` points that adds itself to `log` when tapped.
+View key(std::string& log, const std::string& letter, double size) {
+  return View(Text::verbatim(letter)).frame(size, size).onTapGesture([&log, letter] {
+    log += letter;
+  });
+}
+
+TEST(ViewHostInput, ATapIsAPressAndAReleaseOnOneArea) {
+  std::string log;
+  // "a" 0 to 50, "b" 50 to 100; "c" lies on the middle of "a".
+  const View keys =
+      swiftui::HStack(layout::VerticalAlignment::top, 0,
+                      {key(log, "a", 50).overlay({}, key(log, "c", 10)), key(log, "b", 50)});
+  TestWindow window(keys, {}, {100, 50});
+  const struct {
+    layout::Point press, release;
+    const char* taps;
+  } rows[] = {
+      {{5, 5}, {45, 45}, "a"},    {{25, 25}, {26, 24}, "c"}, {{5, 5}, {55, 5}, ""},
+      {{25, 25}, {5, 5}, ""},     {{5, 5}, {25, 25}, ""},    {{5, 5}, {5, 200}, ""},
+      {{99.9, 0}, {50, 49}, "b"}, {{100, 0}, {99, 0}, ""},
+  };
+  for (const auto& row : rows) {
+    log.clear();
+    window.press(row.press);
+    window.release(row.release);
+    EXPECT_EQ(log, row.taps) << row.press.x << " to " << row.release.x;
+  }
+  log.clear();
+  window.press({5, 5});
+  window.host->pointerCancelled();
+  window.release({5, 5});
+  window.release({5, 5});
+  EXPECT_EQ(log, "");
+}
+
+TEST(ViewHostInput, ATapOutlivesAnUpdateBetweenItsHalves) {
+  const auto model = scoreModel(false);
+  const auto strings = LocalizationRepository::make("en");
+  TestWindow window(ScoreWidgetView{model, strings});
+  const auto frame = window.element("Your return fee €4.00").frame;
+  window.press(TestWindow::middle(frame));
+  strings->strings = TranslationTable::make({{"returns", "title", "Fee"}});
+  foundation::MainQueue::drain();
+  window.release(TestWindow::middle(frame));  // before the next frame
+  window.settle();
+  EXPECT_TRUE(window.sheet);
+}
+
+TEST(ViewHostInput, TheRowsActionTogglesItsSheet) {
+  testing::HeldTransport::install();
+  TestWindow window(scoreView(false));
+  for (const bool open : {true, false, true}) {
+    ASSERT_TRUE(window.host->activate(0));
+    window.settle();
+    EXPECT_EQ(window.sheet.has_value(), open);
+  }
+}
+
+TEST(ViewHostInput, FocusWalksOverWhatActsAndLeavesAtTheEnds) {
+  std::string log;
+  const View keys = swiftui::HStack(layout::VerticalAlignment::top, 0,
+                                    {key(log, "a", 50), Text::verbatim("x"), key(log, "b", 50)});
+  TestWindow window(keys, {}, {200, 50});
+  auto& host = *window.host;
+  EXPECT_FALSE(host.activateFocus());
+  for (const bool forward : {true, false}) {
+    EXPECT_TRUE(host.moveFocus(forward) && host.activateFocus());
+    EXPECT_EQ(host.focusFrame(), window.element(log.substr(log.size() - 1)).frame);
+    EXPECT_TRUE(host.moveFocus(forward) && host.activateFocus());
+    EXPECT_FALSE(host.moveFocus(forward));
+    EXPECT_FALSE(host.focusFrame());
+  }
+  EXPECT_EQ(log, "abba");
+  host.moveFocus(true);
+  host.clearFocus();
+  EXPECT_FALSE(host.activateFocus());
+  for (const int index : {-1, 1, 3}) EXPECT_FALSE(host.activate(index)) << index;
+}
+
+// What is on the screen and what a screen reader says.
+
+View sheetView(bool discount, const char* language) {
+  return scoreWidgetSheet(*scoreModel(discount, language), *LocalizationRepository::make(language),
+                          swiftui::State(true).binding());
+}
+
+TEST(ScoreWidgetAccessibility, TheRowIsOneButton) {
+  const auto empty = LocalizationRepository::make("en");
+  empty->strings = TranslationTable::make({});
+  const std::vector<std::pair<View, std::string>> rows = {
+      {scoreView(false),
+       R"(button 0 13 300 18 "Your return fee €4.00" hint "Tap to learn more" acts)"},
+      {scoreView(true),
+       R"(button 0 13 300 18 "Your return fee Discounted €2.00, Original €4.00" hint "Tap to learn more" acts)"},
+      {ScoreWidgetView{scoreModel(false), empty}, R"(button 0 13 300 18 " €4.00" acts)"},
+      {ScoreWidgetView{scoreModel(true), empty}, R"(button 0 13 300 18 "  €2.00,  €4.00" acts)"},
+  };
+  for (const auto& [view, expected] : rows) {
+    TestWindow window(view, {}, {300, 44});
+    EXPECT_EQ(render::printAccessibility(window.shown()), expected + "\n");
+  }
+}
+
+TEST(ScoreWidgetAccessibility, TheSheetReadsInOrderWithoutItsDivider) {
+  TestWindow window(sheetView(true, "en"), {}, {320, 305});
+  EXPECT_EQ(render::printAccessibility(window.shown()),
+            R"(text 108 24 105 18 "YOUR RETURN FEE"
+button 280 22 24 24 "Close" acts
+heading 16 66 288 24 "Discounted €2.00, Original €4.00"
+text 16 90 288 20 "Return rate 18%"
+text 20 159 280 80 "Your return fee is based on your personal return rate. Fewer returns lead to lower fees benefiting both you and the environment."
+image 137 271 46 10 "" hint "Quorix logo"
+)");
+  TestWindow plain(sheetView(false, "es"), {}, {320, 400});
+  EXPECT_NO_THROW(plain.element("Tu tarifa de devolución 4,00\u00A0€"));
+  EXPECT_NO_THROW(plain.element("Cerrar"));
+}
+
+TEST(ScoreWidgetAccessibility, TheHostsStringTableIsAskedFirst) {
+  const std::map<std::string, std::string, std::less<>> table = {
+      {"%@ %@ %@, %@ %@", "%5$@ %4$@; %3$@ %2$@ (%1$@) 100%%%6$@"}};
+  foundation::setMainStringTable([&](std::string_view sought) {
+    const auto found = table.find(sought);
+    return found == table.end() ? std::nullopt : std::optional(found->second);
+  });
+  TestWindow discounted(scoreView(true)), plain(scoreView(false));
+  EXPECT_NO_THROW(
+      discounted.element("€4.00 Original; €2.00 Discounted (Your return fee) 100%(null)"));
+  EXPECT_NO_THROW(plain.element("Your return fee €4.00"));
+  foundation::setMainStringTable({});
+}
+
+TEST(ScoreWidgetFrames, MirrorFromRightToLeft) {
+  const std::string disclaimer(
+      LocalizationRepository::make("en")->strings.get()->text("returns", "disclaimer"));
+  swiftui::Environment environment;
+  TestWindow window(sheetView(true, "en"), environment, {320, 305});
+  EXPECT_EQ(printedItems(window.shown()), R"(text 108 24 105 18 "YOUR RETURN FEE"
+image 280 22 24 24 "close"
+text 16 66 80 20 "Return fee"
+text 212 66 40 20 "€2.00"
+text 264 66 40 20 "€4.00"
+text 16 90 88 20 "Return rate"
+text 280 90 24 20 "18%"
+fill 16 134 288 1
+text 20 159 280 80 ")" + disclaimer + R"("
+image 137 271 46 10 "logo"
+hit 280 0 24 46
+)");
+  environment.direction = layout::LayoutDirection::rightToLeft;
+  window.host->setEnvironment(environment);
+  EXPECT_EQ(printedItems(window.shown()), R"(text 108 24 105 18 "YOUR RETURN FEE"
+image 16 22 24 24 "close"
+text 224 66 80 20 "Return fee"
+text 68 66 40 20 "€2.00"
+text 16 66 40 20 "€4.00"
+text 216 90 88 20 "Return rate"
+text 16 90 24 20 "18%"
+fill 16 134 288 1
+text 20 159 280 80 ")" + disclaimer + R"("
+image 137 271 46 10 "logo"
+hit 16 0 24 46
+)");
+}
+
+TEST(ScenePrinter, WritesStrictJSON) {
+  render::Scene scene;
+  scene.size = {10, 1.0 / 3};
+  EXPECT_EQ(render::accessibilityToJSON(scene), "[]\n");
+  scene.accessibility.push_back({{}, render::Role::image, "a\"\\\n\x01é", "h", {}});
+  scene.items.emplace_back(render::StrokeItem{{{-0.0001, 1}, {2, 3}}, {1, 2, 3, 4}, 0.5});
+  scene.hitAreas.push_back({{{1, 2}, {3, 4}}, {}});
+  EXPECT_EQ(render::framesToJSON(scene),
+            R"({"size": {"width": 10, "height": 0.333},
+"items":
+[{"kind": "stroke", "frame": {"x": 0, "y": 1, "width": 2, "height": 3}, "color": "#01020304", "width": 0.5}],
+"hitAreas":
+[{"kind": "hit", "frame": {"x": 1, "y": 2, "width": 3, "height": 4}}]}
+)");
+  EXPECT_EQ(render::accessibilityToJSON(scene),
+            R"([{"kind": "image", "frame": {"x": 0, "y": 0, "width": 0, "height": 0}, )"
+            R"("label": "a\"\\\n\u0001é", "hint": "h", "acts": false}])"
+            "\n");
+}
+
+}  // namespace
+}  // namespace quorix

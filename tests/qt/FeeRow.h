@@ -1,0 +1,53 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <tuple>
+
+#include "platform/combine/ObservableObject.h"
+#include "platform/swiftui/Elements.h"
+#include "platform/swiftui/View.h"
+
+namespace quorix::testing {
+
+struct FeeModel : combine::ObservableObject {
+  explicit FeeModel(std::string text) : fee(*this, std::move(text)) {}
+  combine::Published<std::string> fee;
+};
+
+/// A row that is one button and opens a sheet with a line of text and an element that closes it.
+struct FeeRow {
+  static constexpr std::string_view typeName = "FeeRow";
+
+  explicit FeeRow(std::string fee) : model(std::make_shared<FeeModel>(std::move(fee))) {}
+
+  std::shared_ptr<FeeModel> model;
+  swiftui::State<bool> shown{false};
+
+  auto states() const { return std::tie(shown); }
+  auto observed() const { return std::tie(model); }
+
+  swiftui::View body() const {
+    using namespace swiftui;
+    const auto toggle = [binding = shown.binding()] { binding.toggle(); };
+    const std::string& fee = model->fee;
+    const View sheet = VStack(layout::HorizontalAlignment::center, 0,
+                              {Text::verbatim("Fee " + fee),
+                               View(Text::verbatim("X"))
+                                   .onTapGesture(toggle)
+                                   .accessibilityLabel(Text::verbatim("Close " + fee)),
+                               View(Text::verbatim("Terms")).onTapGesture([] {})})
+                           .presentationDetents({PresentationDetent::height(200)});
+    return HStack(layout::VerticalAlignment::center, 12,
+                  {Text::verbatim("Return fee"), Spacer(), Text::verbatim(fee)})
+        .accessibilityElement(AccessibilityChildren::ignore)
+        .accessibilityAddTraits(AccessibilityTrait::isButton)
+        .accessibilityLabel(Text::verbatim("Row " + fee))
+        .accessibilityHint(Text::verbatim("Opens details"))
+        .accessibilityAction(toggle)
+        .onTapGesture(toggle)
+        .sheet(shown.binding(), sheet);
+  }
+};
+
+}  // namespace quorix::testing

@@ -1,0 +1,170 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "qt/QtTextEngine.h"
+#include "tests/qt/Texts.h"
+
+namespace quorix::qt {
+namespace {
+
+using layout::LayoutDirection;
+using testing::linkedText;
+using testing::plainText;
+using text::AttributedText;
+using text::TextMetrics;
+
+struct Sample {
+  const char* name;
+  AttributedText text;
+};
+
+void PrintTo(const Sample& sample, std::ostream* out) { *out << sample.name; }
+
+/// Letters that reach over their right end, in the machine's own face.
+AttributedText overhanging() {
+  AttributedText text =
+      plainText("if of stuff off puff fluffy wolf elf self cliff chef thief roof");
+  text.runs[0].font.name.clear();
+  return text;
+}
+
+std::vector<Sample> samples() {
+  const std::string words =
+      "Your fee is based on how often you return, and falls as you keep more.";
+  return {
+      {"words", plainText(words)},
+      {"fractional_size", plainText(words, 15.68)},
+      {"large_size", plainText(words, 53)},
+      {"long_word",
+       plainText("An uncharacteristically-hyphenated Donaudampfschifffahrtsgesellschaft!")},
+      {"two_paragraphs", plainText("First paragraph\nand the second\r\n\nlast")},
+      {"spaces", plainText("  led   by  spaces  ")},
+      {"arabic", plainText("رسوم الإرجاع الخاصة بك تعتمد على معدل الإرجاع", 16,
+                           LayoutDirection::rightToLeft)},
+      {"mixed", plainText("رسوم 3.45 EUR for المتجر Shop", 14, LayoutDirection::rightToLeft)},
+      {"chinese", plainText("您的退货费用取决于您的退货率", 15)},
+      {"emoji", plainText("Keep 😀👩‍👩‍👧 it 🇪🇸 up", 14)},
+      {"overhanging", overhanging()},
+      {"two_runs", linkedText("Fees follow your habits. ", "Read more about returns")},
+  };
+}
+
+class TextEngineSample : public ::testing::TestWithParam<Sample> {};
+
+TEST_P(TextEngineSample, NarrowerIsNeverLower) {
+  QtTextEngine engine;
+  TextMetrics wider = engine.measure(GetParam().text, layout::infinity);
+  for (double width = wider.size.width + 10; width >= 0; width -= 3.7) {
+    const TextMetrics metrics = engine.measure(GetParam().text, width);
+    EXPECT_GE(metrics.lines, wider.lines) << width;
+    EXPECT_GE(metrics.size.height, wider.size.height - 1e-6) << width;
+    const bool holdsAnyLetter = width > 60;
+    EXPECT_TRUE(!holdsAnyLetter || metrics.size.width <= width) << width;
+    EXPECT_LE(metrics.firstBaseline, metrics.lastBaseline);
+    EXPECT_LT(metrics.lastBaseline, metrics.size.height);
+    wider = metrics;
+  }
+}
+
+/// What is painted in a frame of the measured width has the lines that were measured. An engine of
+/// its own answers, so that nothing comes out of the first one's memory.
+TEST_P(TextEngineSample, BreaksTheSameAtItsOwnWidth) {
+  QtTextEngine engine;
+  const double natural = engine.measure(GetParam().text, layout::infinity).size.width;
+  for (double width = natural + 5; width > 60; width -= 1.3) {
+    const TextMetrics measured = engine.measure(GetParam().text, width);
+    QtTextEngine painting;
+    EXPECT_EQ(painting.shape(GetParam().text, measured.size.width).metrics, measured) << width;
+    EXPECT_EQ(painting.shape(GetParam().text, measured.size.width).lines.size(),
+              static_cast<std::size_t>(measured.lines));
+  }
+}
+
+TEST_P(TextEngineSample, AnswersAlikeInAnyOrder) {
+  QtTextEngine engine;
+  for (const double width : {50.0, 0.0, layout::infinity, 80.0, 0.0, 50.0, 120.0, 81.0, 30.0}) {
+    QtTextEngine fresh;
+    EXPECT_EQ(engine.measure(GetParam().text, width), fresh.measure(GetParam().text, width));
+  }
+}
+
+TEST_P(TextEngineSample, GrowsInProportionToItsSize) {
+  AttributedText doubled = GetParam().text;
+  for (text::Run& run : doubled.runs) run.font.points *= 2;
+  QtTextEngine engine;
+  for (const double width : {70.0, 140.0, layout::infinity}) {
+    const TextMetrics once = engine.measure(GetParam().text, width);
+    const TextMetrics twice = engine.measure(doubled, 2 * width);
+    EXPECT_EQ(twice.lines, once.lines);
+    EXPECT_NEAR(twice.size.width, 2 * once.size.width, 3.0 / 64);
+    EXPECT_NEAR(twice.size.height, 2 * once.size.height, 1e-6);
+    EXPECT_NEAR(twice.lastBaseline, 2 * once.lastBaseline, 1e-6);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Texts, TextEngineSample, ::testing::ValuesIn(samples()),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+TEST(TextEngine, BreaksInsideAWordOnlyWhereItAloneIsTooWide) {
+  QtTextEngine engine;
+  const double word = engine.measure(plainText("extraordinarily"), layout::infinity).size.width;
+  const AttributedText text = plainText("so extraordinarily");
+  EXPECT_EQ(engine.measure(text, layout::infinity).lines, 1);
+  EXPECT_EQ(engine.measure(text, word + 1).lines, 2);
+  EXPECT_DOUBLE_EQ(engine.measure(text, word + 1).size.width, word);
+  EXPECT_EQ(engine.measure(text, word - 1).lines, 3);
+}
+
+TEST(TextEngine, AnEmptyTextHasALineAndNoWidth) {
+  QtTextEngine engine;
+  const TextMetrics line = engine.measure(plainText("x"), layout::infinity);
+  for (const double width : {0.0, 100.0, layout::infinity}) {
+    const TextMetrics empty = engine.measure(plainText(""), width);
+    EXPECT_EQ(empty.size, (layout::Size{0, line.size.height}));
+    EXPECT_EQ(empty.lines, 1);
+    EXPECT_EQ(empty.firstBaseline, line.firstBaseline);
+  }
+  EXPECT_EQ(engine.measure({}, 100).lines, 1);
+  EXPECT_GT(engine.measure({}, 100).size.height, 0);
+}
+
+TEST(TextEngine, LinesAddUp) {
+  QtTextEngine engine;
+  const TextMetrics one = engine.measure(plainText("a"), layout::infinity);
+  const TextMetrics three = engine.measure(plainText("a\na\na"), layout::infinity);
+  EXPECT_EQ(three.lines, 3);
+  EXPECT_DOUBLE_EQ(three.size.height, 3 * one.size.height);
+  EXPECT_DOUBLE_EQ(three.lastBaseline, 2 * one.size.height + one.firstBaseline);
+}
+
+TEST(TextEngine, PaintsWhatItMeasuredWithoutShapingAgain) {
+  QtTextEngine engine;
+  AttributedText text = plainText("Your return fee");
+  const TextMetrics natural = engine.measure(text, layout::infinity);
+  engine.measure(text, 300);
+  text.runs[0].color = {200, 0, 0, 255};
+  text.runs[0].underline = true;
+  engine.shape(text, natural.size.width);
+  EXPECT_EQ(engine.breaks(), 1);
+
+  const TextMetrics wrapped = engine.measure(text, natural.size.width / 2);
+  engine.shape(text, wrapped.size.width);
+  EXPECT_EQ(engine.breaks(), 2);
+}
+
+TEST(TextEngine, LetsGoOfWhatWasMeasuredLongAgo) {
+  QtTextEngine engine;
+  const auto text = [](int i) { return plainText("Row " + std::to_string(i)); };
+  const TextMetrics first = engine.measure(text(0), layout::infinity);
+  for (int i = 1; i < 1000; ++i) engine.measure(text(i), layout::infinity);
+  EXPECT_EQ(engine.breaks(), 1000);
+  engine.measure(text(999), layout::infinity);
+  EXPECT_EQ(engine.breaks(), 1000);
+  EXPECT_EQ(engine.measure(text(0), layout::infinity), first);
+  EXPECT_EQ(engine.breaks(), 1001);
+}
+
+}  // namespace
+}  // namespace quorix::qt

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string>
+
+#include "QuorixWidgets/localization/QuorixFont.h"
+#include "platform/text/AttributedText.h"
+
+namespace quorix::testing {
+
+/// A text of one run in the library's own face, which every machine draws alike.
+inline text::AttributedText plainText(
+    const std::string& characters, double points = 14,
+    layout::LayoutDirection direction = layout::LayoutDirection::leftToRight) {
+  text::Run run;
+  run.text = characters;
+  run.font = {QuorixFont::regular().name(), points};
+  return {{run}, direction};
+}
+
+/// Two runs, the second in another size and face, underlined.
+inline text::AttributedText linkedText(const std::string& lead, const std::string& link) {
+  text::AttributedText text = plainText(lead, 14);
+  text::Run run;
+  run.text = link;
+  run.font = {QuorixFont::medium().name(), 17.5};
+  run.color = {0, 0, 255, 255};
+  run.underline = true;
+  text.runs.push_back(run);
+  return text;
+}
+
+}  // namespace quorix::testing

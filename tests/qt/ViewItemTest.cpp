@@ -1,0 +1,295 @@
+#include "qt/ViewItem.h"
+
+#include <gtest/gtest.h>
+
+#include <QPalette>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QTest>
+
+#include "tests/qt/FeeRow.h"
+#include "tests/qt/QuickScreen.h"
+
+namespace quorix::testing {
+namespace {
+
+using swiftui::Text;
+using swiftui::View;
+
+constexpr QRectF kPlace(20, 40, 300, 0);
+
+View paragraph() {
+  return Text::verbatim("A sentence that needs two lines or more when the room is narrow");
+}
+
+/// Counts what an item asks of the scene graph.
+struct CountingItem : qt::ViewItem {
+  using ViewItem::ViewItem;
+  int polishes = 0;
+  int paints = 0;
+  bool hasPicture = false;
+
+ protected:
+  void updatePolish() override {
+    ++polishes;
+    ViewItem::updatePolish();
+  }
+  QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) override {
+    ++paints;
+    QSGNode* node = ViewItem::updatePaintNode(old, data);
+    hasPicture = node != nullptr;
+    return node;
+  }
+};
+
+bool differsAround(const QImage& before, const QImage& after, QRect inner) {
+  for (int y = 0; y < before.height(); ++y) {
+    for (int x = 0; x < before.width(); ++x) {
+      if (!inner.contains(x, y) && before.pixel(x, y) != after.pixel(x, y)) return true;
+    }
+  }
+  return false;
+}
+
+TEST(ViewItem, ImplicitHeightFollowsTheWidthItIsGiven) {
+  qt::ViewItem item(paragraph());
+  const double ideal = item.implicitWidth();
+  const double line = item.implicitHeight();
+  EXPECT_GT(ideal, 200);
+  EXPECT_EQ(item.width(), ideal);
+  item.setWidth(150);
+  EXPECT_GE(item.implicitHeight(), 2 * line);
+  EXPECT_EQ(item.implicitWidth(), ideal);
+  EXPECT_EQ(item.height(), item.implicitHeight());
+  item.resetWidth();
+  EXPECT_EQ(item.implicitHeight(), line);
+  EXPECT_EQ(item.width(), ideal);
+  item.setView(Text::verbatim("Short"));
+  EXPECT_LT(item.implicitWidth(), ideal);
+}
+
+TEST(ViewItem, StandsInPositionersAndLayouts) {
+  qmlRegisterType<qt::ViewItem>("Shop", 1, 0, "Row");
+  const char* containers[] = {
+      "Column { width: 150; Row { width: 150 } Row { width: 150 } }",
+      "ColumnLayout { width: 150; Row { Layout.fillWidth: true } Row { Layout.fillWidth: true } }",
+      "Item { width: 150; Row { id: a; width: 150 } Row { width: 150; anchors.top: a.bottom } }",
+  };
+  QuickScreen screen;
+  QQmlEngine engine;
+  for (const char* container : containers) {
+    QQmlComponent component(&engine);
+    component.setData(
+        QByteArray("import QtQuick\nimport QtQuick.Layouts\nimport Shop\n") + container, {});
+    const std::unique_ptr<QObject> root(component.create());
+    auto* column = qobject_cast<QQuickItem*>(root.get());
+    ASSERT_TRUE(column) << qPrintable(component.errorString());
+    column->setParentItem(screen.window().contentItem());
+    const auto rows = column->findChildren<qt::ViewItem*>();
+    ASSERT_EQ(rows.size(), 2);
+    for (qt::ViewItem* row : rows) row->setView(paragraph());
+    screen.settle();
+    EXPECT_GT(rows[0]->implicitHeight(), 30) << container;
+    EXPECT_EQ(rows[0]->height(), rows[0]->implicitHeight()) << container;
+    EXPECT_GE(rows[1]->y(), rows[0]->height()) << container;
+    rows[0]->setView(Text::verbatim("Short"));
+    screen.settle();
+    EXPECT_LT(rows[1]->y(), 30) << container;
+  }
+}
+
+TEST(ViewItem, PaintsOncePerChangeAndRestsOtherwise) {
+  QuickScreen screen;
+  auto model = FeeRow("4 €");
+  auto* item = new CountingItem(model, screen.window().contentItem());
+  item->setPosition({20, 40});
+  item->setWidth(300);
+  screen.settle();
+  const int painted = item->paints;
+  EXPECT_TRUE(item->hasPicture);
+  int frames = 0;
+  QObject::connect(&screen.window(), &QQuickWindow::frameSwapped, item, [&] { ++frames; });
+  const int polishes = item->polishes;
+  QTest::qWait(200);
+  EXPECT_EQ(frames, 0);
+  EXPECT_EQ(item->polishes, polishes);
+  screen.window().update();  // somebody else's frame
+  screen.settle();
+  EXPECT_EQ(item->paints, painted);
+  model.model->fee = "5 €";
+  screen.settle();
+  EXPECT_EQ(item->paints, painted + 1);
+  item->setVisible(false);
+  screen.settle();
+  EXPECT_FALSE(item->hasPicture);
+  item->setVisible(true);
+  screen.settle();
+  EXPECT_TRUE(item->hasPicture);
+}
+
+TEST(ViewItem, HasAPictureOnlyInTheViewport) {
+  QuickScreen screen;
+  QQmlEngine engine;
+  QQmlComponent component(&engine);
+  component.setData(
+      "import QtQuick\nFlickable { width: 360; height: 300; clip: true; contentHeight: 4000 }", {});
+  std::unique_ptr<QObject> root(component.create());
+  auto* flickable = qobject_cast<QQuickItem*>(root.get());
+  ASSERT_TRUE(flickable);
+  flickable->setParentItem(screen.window().contentItem());
+  auto* content = flickable->property("contentItem").value<QQuickItem*>();
+  std::vector<CountingItem*> rows;
+  for (int i = 0; i < 100; ++i) {
+    rows.push_back(new CountingItem(FeeRow(std::to_string(i)), content));
+    rows.back()->setPosition({20, 40.0 * i});
+    rows.back()->setWidth(300);
+  }
+  const auto pictured = [&] {
+    std::pair<int, int> range = {100, -1};
+    for (int i = 0; i < 100; ++i) {
+      if (!rows[static_cast<std::size_t>(i)]->hasPicture) continue;
+      range = {std::min(range.first, i), std::max(range.second, i)};
+    }
+    return range;
+  };
+  screen.settle();
+  EXPECT_EQ(pictured(), std::make_pair(0, 7));
+  flickable->setProperty("contentY", 2000);
+  screen.settle();
+  EXPECT_EQ(pictured(), std::make_pair(50, 57));
+}
+
+TEST(ViewItem, TextIsAsCrispAtAFractionalPlaceAsAtAWholeOne) {
+  QuickScreen screen;
+  screen.window().setColor(Qt::white);
+  auto* parent = new QQuickItem(screen.window().contentItem());
+  qt::ViewItem* item = screen.add(FeeRow("4 €"), kPlace);
+  item->setParentItem(parent);
+  screen.settle();
+  const QImage whole = screen.grab();
+  parent->setPosition({0.3, -0.4});
+  screen.settle();
+  EXPECT_EQ(screen.grab(), whole);
+  parent->setPosition({0, 1});
+  screen.settle();
+  EXPECT_NE(screen.grab(), whole);
+}
+
+TEST(ViewItem, FollowsThePaletteUnlessTheHostSaysOtherwise) {
+  QuickScreen screen;
+  const QPalette light = QGuiApplication::palette();
+  qt::ViewItem* follows =
+      screen.add(swiftui::VStack(layout::HorizontalAlignment::center, 0, {swiftui::Divider()}),
+                 {0, 10, 300, 20});
+  const QImage before = screen.grab();
+  QPalette dark = light;
+  dark.setColor(QPalette::Window, Qt::black);
+  dark.setColor(QPalette::WindowText, Qt::white);
+  QGuiApplication::setPalette(dark);
+  screen.settle();
+  EXPECT_NE(screen.grab(), before);
+  follows->setAppearance(graphics::Appearance::light);
+  screen.settle();
+  EXPECT_EQ(screen.grab(), before);
+  QGuiApplication::setPalette(light);
+}
+
+TEST(ViewItem, TabReachesTheRowShowsARingAroundItAndLeaves) {
+  QuickScreen screen;
+  QQuickItem* other = screen.addFocusable();
+  qt::ViewItem* row = screen.add(FeeRow("4 €"), kPlace);
+  const QRect frame = QRectF(row->position(), row->size()).toRect();
+  const QImage plain = screen.grab();
+  screen.key(Qt::Key_Tab);
+  EXPECT_TRUE(row->hasActiveFocus());
+  EXPECT_TRUE(differsAround(plain, screen.grab(), frame));
+  screen.key(Qt::Key_Tab);
+  EXPECT_TRUE(other->hasActiveFocus());
+  EXPECT_EQ(screen.grab(), plain);
+  screen.key(Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_TRUE(row->hasActiveFocus());
+  // A press takes the focus as well, without the ring.
+  other->forceActiveFocus();
+  QTest::mousePress(&screen.window(), Qt::LeftButton, {}, frame.center());
+  screen.settle();
+  EXPECT_TRUE(row->hasActiveFocus());
+  EXPECT_EQ(screen.grab(), plain);
+  QTest::mouseRelease(&screen.window(), Qt::LeftButton, {}, {1, 300});
+}
+
+TEST(ViewItem, TabWalksEveryElementThatActsAndPassesTextBy) {
+  QuickScreen screen;
+  QQuickItem* other = screen.addFocusable();
+  std::string performed;
+  const auto button = [&](const char* name) {
+    return View(Text::verbatim(name)).onTapGesture([&performed, name] { performed += name; });
+  };
+  screen.add(swiftui::VStack(layout::HorizontalAlignment::leading, 4,
+                             {button("a"), Text::verbatim("text"), button("b")}),
+             kPlace);
+  qt::ViewItem* text = screen.add(paragraph(), {20, 200, 300, 0});
+  for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return}) {
+    screen.key(Qt::Key_Tab);
+    screen.key(key);
+  }
+  EXPECT_EQ(performed, "ab");
+  screen.key(Qt::Key_Tab);
+  EXPECT_TRUE(other->hasActiveFocus());
+  EXPECT_FALSE(text->activeFocusOnTab());
+}
+
+TEST(ViewItem, AFingerThatScrollsTapsNothing) {
+  QuickScreen screen;
+  QQmlEngine engine;
+  QQmlComponent component(&engine);
+  component.setData("import QtQuick\nFlickable { width: 360; height: 500; contentHeight: 2000 }",
+                    {});
+  std::unique_ptr<QObject> root(component.create());
+  auto* flickable = qobject_cast<QQuickItem*>(root.get());
+  ASSERT_TRUE(flickable);
+  flickable->setParentItem(screen.window().contentItem());
+  qt::ViewItem* row = screen.add(FeeRow("4 €"), {20, 300, 300, 150});
+  row->setParentItem(flickable->property("contentItem").value<QQuickItem*>());
+  screen.settle();
+  for (const bool byTouch : {false, true}) {
+    const QPoint from = screen.centreOf("Row 4 €");
+    screen.drag(from, from - QPoint(0, 60), 200, byTouch);
+    QTest::qWait(300);
+    EXPECT_GT(flickable->property("contentY").toDouble(), 0) << byTouch;
+    EXPECT_FALSE(screen.shows("Fee 4 €")) << byTouch;
+    flickable->setProperty("contentY", 0);
+    screen.settle();
+  }
+  screen.drag(screen.centreOf("Row 4 €"), screen.centreOf("Row 4 €"), 50, true);
+  EXPECT_TRUE(screen.shows("Fee 4 €"));
+}
+
+TEST(ViewItem, PointsAtWhatCanBeTapped) {
+  QuickScreen screen;
+  qt::ViewItem* row = screen.add(FeeRow("4 €"), kPlace);
+  qt::ViewItem* text = screen.add(paragraph(), {20, 200, 300, 0});
+  QTest::mouseMove(&screen.window(), screen.centreOf("Row 4 €"));
+  screen.settle();
+  EXPECT_EQ(row->cursor().shape(), Qt::PointingHandCursor);
+  EXPECT_EQ(text->cursor().shape(), Qt::ArrowCursor);
+}
+
+TEST(ViewItem, RunsTasksEachTimeItComesOnScreen) {
+  QuickScreen screen;
+  int runs = 0;
+  qt::ViewItem* item = screen.add(
+      View(Text::verbatim("a")).task(swiftui::TaskPriority::userInitiated, [&runs] { ++runs; }),
+      kPlace);
+  EXPECT_EQ(runs, 1);
+  item->setVisible(false);
+  item->setVisible(true);
+  screen.settle();
+  EXPECT_EQ(runs, 2);
+  screen.window().hide();
+  screen.window().show();
+  screen.settle();
+  EXPECT_EQ(runs, 3);
+}
+
+}  // namespace
+}  // namespace quorix::testing

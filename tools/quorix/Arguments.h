@@ -1,0 +1,40 @@
+#pragma once
+
+#include <map>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <variant>
+
+#include "tools/quorix/Failure.h"
+#include "tools/quorix/Option.h"
+
+namespace quorix::tool {
+
+/// The arguments of one command, sorted into options and operands. Of an option given twice the
+/// last counts.
+class Arguments {
+ public:
+  /// Sorts `words`. Values follow their option as the next word or behind "="; a next word that
+  /// begins with "--" is an option, not a value, and everything behind a lone "--" is an operand.
+  /// One operand is wanted where `operand` names it, and none where that is empty.
+  static std::variant<Arguments, Failure> parse(std::span<const std::string> words,
+                                                std::span<const Option> options,
+                                                std::string_view operand);
+
+  /// Whether `words` ask for help rather than for the command.
+  static bool wantHelp(std::span<const std::string> words);
+
+  bool has(std::string_view option) const { return values_.contains(option); }
+  /// The option's value, empty for a switch; nothing when it was not given.
+  std::optional<std::string> value(std::string_view option) const;
+  /// Empty for a command that takes none.
+  const std::string& operand() const { return operand_; }
+
+ private:
+  std::map<std::string, std::string, std::less<>> values_;
+  std::string operand_;
+};
+
+}  // namespace quorix::tool

@@ -1,0 +1,44 @@
+#include "tools/quorix/DecodeCommand.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include "tools/quorix/TokenInput.h"
+
+namespace quorix::tool {
+namespace {
+
+std::string json(const TokenData& figures) {
+  const QJsonObject object{
+      {"score", figures.score},
+      {"currency", QString::fromStdString(figures.currency)},
+      {"returnsFee", static_cast<qint64>(figures.returnsFee)},
+      {"discountedReturnsFee", static_cast<qint64>(figures.discountedReturnsFee)},
+  };
+  return QJsonDocument(object).toJson(QJsonDocument::Indented).toStdString();
+}
+
+Outcome decode(const Arguments& arguments) {
+  const auto reading = readToken(tokenText(arguments.operand()));
+  if (const auto* refusal = std::get_if<TokenRefusal>(&reading)) return refused(*refusal);
+  return json(std::get<TokenData>(reading));
+}
+
+}  // namespace
+
+const Command decodeCommand{
+    .name = "decode",
+    .synopsis = "TOKEN",
+    .purpose =
+        "Prints the figures in a shopper token as JSON.\n"
+        "A token that a widget would refuse is refused here, with the reason.",
+    .options = {},
+    .operand = "TOKEN",
+    .details =
+        "TOKEN is the token's text, or - to read it from the standard input. Fees are in\n"
+        "hundredths of the currency's unit. The signature is not checked.",
+    .example = "quorix mint --base 1250 | quorix decode -",
+    .run = decode,
+};
+
+}  // namespace quorix::tool

@@ -1,0 +1,81 @@
+#include "tools/quorix/OptionReader.h"
+
+#include <charconv>
+#include <utility>
+
+namespace quorix::tool {
+namespace {
+
+/// The whole of `text` as a number, or nothing.
+template <class Number>
+std::optional<Number> parse(std::string_view text) {
+  Number number{};
+  const char* const end = text.data() + text.size();
+  const auto [rest, error] = std::from_chars(text.data(), end, number);
+  if (error != std::errc() || rest != end) return std::nullopt;
+  return number;
+}
+
+std::string shortest(double number) {
+  char digits[32];
+  return {digits, std::to_chars(digits, digits + sizeof digits, number).ptr};
+}
+
+std::string wants(std::string_view option, std::string_view what, std::string_view got) {
+  return std::string(option) + " wants " + std::string(what) + ", not \"" + std::string(got) + '"';
+}
+
+}  // namespace
+
+void OptionReader::fail(std::string message) {
+  if (!failure_) failure_ = Failure::usage(std::move(message));
+}
+
+std::string OptionReader::text(std::string_view option, std::string_view fallback) const {
+  return arguments_.value(option).value_or(std::string(fallback));
+}
+
+std::string OptionReader::required(std::string_view option) {
+  if (!arguments_.has(option)) fail(std::string(option) + " is missing");
+  return text(option, {});
+}
+
+double OptionReader::number(std::string_view option, double fallback, Range range) {
+  return optionalNumber(option, range).value_or(fallback);
+}
+
+std::optional<double> OptionReader::optionalNumber(std::string_view option, Range range) {
+  const auto given = arguments_.value(option);
+  if (!given) return std::nullopt;
+  const auto number = parse<double>(*given);
+  // Written so that it also refuses what is not a number.
+  const bool inside = number && *number >= range.least && *number <= range.most;
+  if (inside) return number;
+  const std::string what = "a number from " + shortest(range.least) + " to " + shortest(range.most);
+  fail(wants(option, what, *given));
+  return std::nullopt;
+}
+
+std::int64_t OptionReader::integer(std::string_view option, std::int64_t fallback) {
+  const auto given = arguments_.value(option);
+  if (!given) return fallback;
+  const auto number = parse<std::int64_t>(*given);
+  if (!number) fail(wants(option, "a whole number of 64 bits", *given));
+  return number.value_or(fallback);
+}
+
+std::optional<std::size_t> OptionReader::choice(std::string_view option,
+                                                std::initializer_list<std::string_view> names) {
+  const auto given = arguments_.value(option);
+  if (!given) return std::nullopt;
+  std::string known;
+  std::size_t index = 0;
+  for (const std::string_view name : names) {
+    if (name == *given) return index;
+    known += (index++ == 0 ? "" : " or ") + std::string(name);
+  }
+  fail(wants(option, known, *given));
+  return std::nullopt;
+}
+
+}  // namespace quorix::tool

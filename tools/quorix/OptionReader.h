@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+#include <initializer_list>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "tools/quorix/Arguments.h"
+
+namespace quorix::tool {
+
+/// Reads typed values out of arguments. It remembers the first that is wrong, so that a command
+/// reads all that it wants and asks once.
+///
+///     OptionReader read(arguments);
+///     const double width = read.number("--width", 375, {1, 10000});
+///     if (read.failure()) return *read.failure();
+class OptionReader {
+ public:
+  struct Range {
+    double least;
+    double most;
+  };
+
+  explicit OptionReader(const Arguments& arguments) : arguments_(arguments) {}
+
+  std::string text(std::string_view option, std::string_view fallback) const;
+  std::string required(std::string_view option);
+  double number(std::string_view option, double fallback, Range range);
+  std::optional<double> optionalNumber(std::string_view option, Range range);
+  /// A signed 64-bit integer.
+  std::int64_t integer(std::string_view option, std::int64_t fallback);
+  /// Which of `names` was given; nothing when the option was not.
+  std::optional<std::size_t> choice(std::string_view option,
+                                    std::initializer_list<std::string_view> names);
+
+  void fail(std::string message);
+  const std::optional<Failure>& failure() const { return failure_; }
+
+ private:
+  const Arguments& arguments_;
+  std::optional<Failure> failure_;
+};
+
+}  // namespace quorix::tool

@@ -1,0 +1,33 @@
+#include "tools/quorix/PictureApplication.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+#include "qt/Engine.h"
+#include "tools/quorix/Failure.h"
+
+namespace quorix::tool {
+namespace {
+
+/// What stops Qt (a platform plug-in that is not there) ends the tool in its own manner: one line.
+void keepQuiet(QtMsgType type, const QMessageLogContext&, const QString& message) {
+  if (type != QtFatalMsg) return;
+  const QByteArray line = message.section(QLatin1Char('\n'), 0, 0).toLocal8Bit();
+  std::fprintf(stderr, "quorix: %s\n", line.constData());
+  std::_Exit(Failure::refusedStatus);
+}
+
+/// Before the application object is made, which reads it.
+int& prepared(int& argc) {
+  qInstallMessageHandler(keepQuiet);
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  return argc;
+}
+
+}  // namespace
+
+PictureApplication::PictureApplication() : application_(prepared(argc_), argv_) {
+  qt::installEngine();
+}
+
+}  // namespace quorix::tool

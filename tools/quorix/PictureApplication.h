@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QGuiApplication>
+
+namespace quorix::tool {
+
+/// The application object of a command that lays out or paints. It needs no display, unless the
+/// environment asks for one with QT_QPA_PLATFORM, and keeps Qt's own remarks off the terminal.
+class PictureApplication {
+ public:
+  PictureApplication();
+
+ private:
+  int argc_ = 1;
+  char name_[7] = "quorix";
+  char* argv_[2] = {name_, nullptr};
+  QGuiApplication application_;
+};
+
+}  // namespace quorix::tool

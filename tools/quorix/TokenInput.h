@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "QuorixWidgets/data/TokenData.h"
+#include "tools/quorix/Failure.h"
+
+namespace quorix::tool {
+
+/// The token that `argument` is, or for "-" the one on the standard input, without the blanks and
+/// line ends around it.
+std::string tokenText(std::string_view argument);
+
+/// The failure that says why a token can't be used.
+Failure refused(TokenRefusal refusal);
+
+}  // namespace quorix::tool

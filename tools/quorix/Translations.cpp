@@ -1,0 +1,110 @@
+#include "tools/quorix/Translations.h"
+
+#include <QEventLoop>
+#include <QJsonDocument>
+#include <algorithm>
+#include <atomic>
+
+#include "QuorixWidgets/localization/BuiltInTranslations.h"
+#include "QuorixWidgets/localization/ServiceAddresses.h"
+#include "QuorixWidgets/localization/TranslationTableReader.h"
+#include "platform/foundation/MainQueue.h"
+#include "platform/foundation/URLSession.h"
+#include "platform/hosting/ViewHost.h"
+#include "qt/QtTextEngine.h"
+#include "tools/quorix/InputFile.h"
+
+namespace quorix::tool {
+namespace {
+
+using foundation::MainQueue;
+using foundation::URL;
+using foundation::URLResponse;
+using foundation::URLSession;
+
+/// The library's reader has refused the document and knows no lines; Qt's finds where.
+std::string lineOfError(const std::string& document) {
+  QJsonParseError error;
+  QJsonDocument::fromJson(QByteArray::fromStdString(document), &error);
+  if (error.error == QJsonParseError::NoError) return {};
+  const auto end = document.begin() + std::min<std::ptrdiff_t>(error.offset, std::ssize(document));
+  return "line " + std::to_string(1 + std::count(document.begin(), end, '\n')) + ": ";
+}
+
+bool has(const TranslationTable& table, const TranslationTable::Entry& wanted) {
+  return std::ranges::any_of(table.entries(), [&](const auto& entry) {
+    return entry.section == wanted.section && entry.key == wanted.key;
+  });
+}
+
+/// The entries of `all` that `some` lacks: "returns.fee, labels.hint".
+std::string missing(const TranslationTable& all, const TranslationTable& some) {
+  std::string list;
+  for (const auto& entry : all.entries()) {
+    if (has(some, entry)) continue;
+    if (!list.empty()) list += ", ";
+    list += std::string(entry.section) + '.' + std::string(entry.key);
+  }
+  return list;
+}
+
+struct BlindSurface final : hosting::ViewHost::Client {
+  void viewNeedsDisplay() override {}
+  void presentationChanged() override {}
+};
+
+}  // namespace
+
+std::variant<std::string, Failure> readTranslations(const std::string& path) {
+  auto bytes = readInputFile(path);
+  if (std::holds_alternative<Failure>(bytes)) return bytes;
+  const std::string& document = std::get<std::string>(bytes);
+  const auto table = readTranslationTable(document);
+  const auto* error = std::get_if<foundation::Error>(&table);
+  if (error == nullptr) return bytes;
+  const std::string line = error->domain == "JSON" ? lineOfError(document) : "";
+  return Failure::refused(path + ": " + line + error->description);
+}
+
+std::optional<std::string> oversights(const std::string& document) {
+  const auto result = readTranslationTable(document);
+  const auto* table = std::get_if<std::shared_ptr<const TranslationTable>>(&result);
+  if (table == nullptr) return std::nullopt;
+  const auto complete = builtInTranslations("en");
+  const std::string empty = missing(*complete, **table);
+  const std::string unused = missing(**table, *complete);
+  if (empty.empty() && unused.empty()) return std::nullopt;
+  std::string text;
+  if (!empty.empty()) text += "missing, shown empty: " + empty;
+  if (!unused.empty()) text += (text.empty() ? "" : "; ") + ("never used: " + unused);
+  return text;
+}
+
+bool fetchTranslations(const swiftui::View& view, const std::optional<std::string>& document) {
+  std::atomic<bool> asked = false;
+  const auto fence = URL::parse(std::string(modulesServiceBaseURL) + "/fence");
+  const auto protocol =
+      URLSession::shared().registerProtocol([&](const URL& url) -> std::optional<URLResponse> {
+        if (url != *fence) asked = true;
+        if (document) return URLResponse{{}, *document, 200};
+        return URLResponse{foundation::Error{"quorix", 1, "the tool has no network"}, {}, 0};
+      });
+  BlindSurface surface;
+  hosting::ViewHost host(qt::QtTextEngine::shared(), surface);
+  host.setRoot(view);
+  host.setOnScreen(true);
+  host.sizeThatFits({});  // evaluates the view, which hands its task to the main queue
+
+  // The session answers in order and so does the main queue: when a second request that was made
+  // behind the view's own has come all the way back, so has the first.
+  QEventLoop loop;
+  MainQueue::async([&] {
+    URLSession::shared().get(*fence,
+                             [&](const URLResponse&) { MainQueue::async([&] { loop.quit(); }); });
+  });
+  loop.exec();
+  host.setOnScreen(false);
+  return asked;
+}
+
+}  // namespace quorix::tool

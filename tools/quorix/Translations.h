@@ -1,0 +1,25 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <variant>
+
+#include "platform/swiftui/View.h"
+#include "tools/quorix/Failure.h"
+
+namespace quorix::tool {
+
+/// The translation table in the file at `path`, found good: a document as the modules service sends
+/// it.
+std::variant<std::string, Failure> readTranslations(const std::string& path);
+
+/// What a translator may have overlooked in a good table: texts that the widget will show empty,
+/// and keys that it never asks for. Nothing when all is well.
+std::optional<std::string> oversights(const std::string& document);
+
+/// Puts `view` on screen until it has fetched its translations and taken them over. `document` is
+/// what the modules service answers; without one it can't be reached, and nothing ever goes to the
+/// network. Returns whether the view asked for translations. Needs the engine; main thread.
+bool fetchTranslations(const swiftui::View& view, const std::optional<std::string>& document);
+
+}  // namespace quorix::tool

@@ -1,0 +1,72 @@
+#include <algorithm>
+#include <cstdio>
+#include <string>
+#include <vector>
+
+#include "tools/quorix/DecodeCommand.h"
+#include "tools/quorix/Help.h"
+#include "tools/quorix/MintCommand.h"
+#include "tools/quorix/ScoreCommand.h"
+
+namespace {
+
+using quorix::tool::Arguments;
+using quorix::tool::Command;
+using quorix::tool::Failure;
+using quorix::tool::Outcome;
+
+constexpr const Command* commands[] = {
+    &quorix::tool::mintCommand,
+    &quorix::tool::decodeCommand,
+    &quorix::tool::scoreCommand,
+};
+
+Outcome run(const Command& command, std::span<const std::string> words) {
+  if (Arguments::wantHelp(words)) return helpText(command);
+  const auto arguments = Arguments::parse(words, command.options, command.operand);
+  if (const auto* failure = std::get_if<Failure>(&arguments)) return *failure;
+  return command.run(std::get<Arguments>(arguments));
+}
+
+/// Says where `failure` came from and, for a wrong command line, where to read on.
+Failure placed(Failure failure, const std::string& command) {
+  if (!command.empty()) failure.message = command + ": " + failure.message;
+  if (failure.status == Failure::usageStatus) {
+    failure.message += " (see \"quorix" + (command.empty() ? "" : ' ' + command) + " --help\")";
+  }
+  return failure;
+}
+
+Outcome run(std::span<const std::string> words) {
+  if (words.empty()) return placed(Failure::usage("no command given"), {});
+  const std::string& first = words.front();
+  if (first == "--version") return "quorix " QUORIX_VERSION "\n";
+  if (first == "--help" || first == "-h") return quorix::tool::helpText(commands);
+  const auto command = std::ranges::find(commands, first, &Command::name);
+  if (command == std::end(commands)) {
+    return placed(Failure::usage("unknown command \"" + first + '"'), {});
+  }
+  Outcome outcome = run(**command, words.subspan(1));
+  if (auto* failure = std::get_if<Failure>(&outcome)) *failure = placed(*failure, first);
+  return outcome;
+}
+
+int report(const Failure& failure) {
+  std::string line = "quorix: " + failure.message;
+  // Whatever a file or an argument put into the message, it stays one line.
+  std::ranges::replace_if(
+      line, [](char c) { return c == '\n' || c == '\r'; }, ' ');
+  std::fprintf(stderr, "%s\n", line.c_str());
+  return failure.status;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const Outcome outcome = run(std::vector<std::string>(argv + 1, argv + argc));
+  if (const auto* failure = std::get_if<Failure>(&outcome)) return report(*failure);
+  const auto& output = std::get<std::string>(outcome);
+  const bool written = std::fwrite(output.data(), 1, output.size(), stdout) == output.size();
+  if (std::fflush(stdout) == 0 && written) return 0;
+  return report(Failure::refused("can't write to the standard output"));
+}
