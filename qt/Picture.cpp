@@ -33,6 +33,7 @@ QImage paintPicture(const render::Scene& scene, double scale, graphics::RGBA bac
   image.fill(Qt::transparent);
   QPainter painter(&image);
   ScenePainter(painter, ScenePainter::Ground::nothing).paint(scene);
+  if (background.alpha == 0) return image;
   // Last, though it lies below: Qt blends some faces' letters otherwise (and four times as slowly)
   // on an opaque image, and a picture is to look as the view does on a surface, which is
   // transparent.
