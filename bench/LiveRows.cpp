@@ -143,7 +143,8 @@ std::shared_ptr<void> answerRequests() {
 void report(const std::string& kind, std::size_t count) {
   const auto rows = makeRows(kind);
   if (!rows) std::exit(2);
-  for (std::size_t i = 0; i < 50; ++i) rows->add(Shopper::make(i), kRowHeight * i);
+  for (int i = 0; i < 50; ++i)
+    rows->add(Shopper::make(static_cast<std::size_t>(i)), kRowHeight * i);
   settle();
   rows->clear();
   settle();

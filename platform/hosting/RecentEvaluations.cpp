@@ -5,7 +5,7 @@
 namespace quorix::hosting {
 namespace {
 
-constexpr std::size_t kKept = 32;
+constexpr std::size_t kKept = 16;
 
 }  // namespace
 
