@@ -4,6 +4,7 @@
 #include <mutex>
 
 #include "platform/foundation/URLSession.h"
+#include "qt/QtFonts.h"
 #include "qt/QtMainQueue.h"
 #include "qt/QtURLTransport.h"
 
@@ -13,6 +14,7 @@ void installEngine() {
   static std::once_flag once;
   std::call_once(once, [] {
     QtMainQueue::install();
+    QtFonts::installSystemLookup();
     foundation::URLSession::shared().install(std::make_shared<QtURLTransport>());
   });
 }

@@ -2,7 +2,7 @@
 
 namespace quorix::qt {
 
-/// Puts Qt under the platform's services: the main queue and the HTTP session.
+/// Puts Qt under the platform's services: the main queue, the HTTP session and the faces that Qt has.
 ///
 /// Main thread, before or after the application object is made and before the first widget is
 /// built; every later call does nothing.

@@ -103,6 +103,8 @@ void SheetItem::leave() {
 
 void SheetItem::giveFocusBack() {
   if (!hasActiveFocus() || !window()) return;
+  // A window on its way out takes its items off itself from the top down: it has no focus to give.
+  if (!parentItem() || !parentItem()->window()) return;
   const bool there = focusBefore_ && focusBefore_->window() == window() &&
                      focusBefore_->isVisible() && focusBefore_->isEnabled();
   if (there) {

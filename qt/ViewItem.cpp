@@ -21,7 +21,6 @@ ViewItem::ViewItem(QQuickItem* parent) : ViewItem(swiftui::View(), parent) {}
 ViewItem::ViewItem(swiftui::View view, QQuickItem* parent)
     : QQuickItem(parent), surface_(std::make_unique<ViewSurface>(*this)) {
   setFlag(ItemHasContents);
-  setFlag(ItemObservesViewport);
   setAcceptedMouseButtons(Qt::LeftButton);
   setAcceptTouchEvents(true);
   surface_->host().setRoot(std::move(view));
@@ -61,6 +60,9 @@ void ViewItem::itemChange(ItemChange change, const ItemChangeData& data) {
     case ItemSceneChange:
       surface_->windowChanged();
       break;
+    case ItemParentHasChanged:
+      surface_->parentChanged();
+      break;
     case ItemVisibleHasChanged:
       surface_->onScreenChanged();
       break;
@@ -74,6 +76,7 @@ void ViewItem::itemChange(ItemChange change, const ItemChangeData& data) {
 
 void ViewItem::geometryChange(const QRectF& now, const QRectF& before) {
   QQuickItem::geometryChange(now, before);
+  surface_->moved();
   if (now.size() != before.size()) surface_->sizeChanged(now.width() != before.width());
 }
 

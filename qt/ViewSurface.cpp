@@ -46,7 +46,7 @@ ViewSurface::ViewSurface(ViewItem& item)
 
 ViewSurface::~ViewSurface() {
   if (sheet_) sheet_->abandon();
-  if (watcher_) watcher_->remove(*this);
+  WindowWatcher::remove(*this);
   AccessibilityBridge::instance()->remove(item_);
 }
 
@@ -65,17 +65,22 @@ void ViewSurface::environmentChanged() {
 }
 
 void ViewSurface::windowChanged() {
-  if (watcher_) watcher_->remove(*this);
   if (sheet_) sheet_->abandon();
+  parentChanged();
   QQuickWindow* window = item_.window();
-  watcher_ = window ? &WindowWatcher::of(*window) : nullptr;
-  if (watcher_) watcher_->add(*this);
   painted_ = inViewport_ = false;
   pictureStale_ = true;
   AccessibilityBridge::offer(item_);
   onScreenChanged();  // before anyone asks for a size: the view is then evaluated once
   environmentChanged();
   if (window && (sheet_ || host_.presentation())) presentationChanged();
+}
+
+void ViewSurface::parentChanged() {
+  WindowWatcher::remove(*this);
+  QQuickWindow* window = item_.parentItem() ? item_.window() : nullptr;
+  watcher_ = window ? &WindowWatcher::of(*window) : nullptr;
+  if (watcher_) watcher_->add(*this, *item_.parentItem());
 }
 
 void ViewSurface::onScreenChanged() {
@@ -128,15 +133,19 @@ void ViewSurface::sizeChanged(bool width) {
 
 // Place.
 
-void ViewSurface::frameBegins(WindowWatcher& watcher) {
-  if (item_.isVisible() && place(watcher.viewportOf(item_))) item_.polish();
+QRectF ViewSurface::boundsInParent() const {
+  return item_.mapRectToItem(item_.parentItem(), QRectF(0, 0, item_.width(), item_.height()));
+}
+
+void ViewSurface::placeMayHaveChanged() {
+  if (item_.isVisible() && place()) item_.polish();
 }
 
 /// Returns whether the item came into the viewport or left it.
-bool ViewSurface::place(const QRectF& viewport) {
+bool ViewSurface::place() {
   const QTransform toWindow = item_.itemTransform(nullptr, nullptr);
   const QRectF bounds = toWindow.mapRect(QRectF(0, 0, item_.width(), item_.height()));
-  const bool inside = bounds.intersects(viewport);
+  const bool inside = bounds.intersects(WindowWatcher::viewportOf(item_));
   QPointF offset;
   if (toWindow.type() <= QTransform::TxTranslate) {
     const double pixel = 1 / scale();
@@ -152,9 +161,13 @@ bool ViewSurface::place(const QRectF& viewport) {
 
 void ViewSurface::polish() {
   if (idealStale_) updateIdealSize();
-  if (watcher_) place(watcher_->viewportOf(item_));
+  if (watcher_) place();
   const bool seen = watcher_ && inViewport_ && item_.isVisible();
-  if (sceneStale_ && (seen || item_.hasActiveFocus() || AccessibilityBridge::isActive())) refreshScene();
+  // Also out of sight: the scene says whether the item takes part in the focus chain, and is a
+  // third of what the host keeps until it has made it.
+  if (sceneStale_) refreshScene();
+  // The window asks every item that accepts hovering in every frame.
+  item_.setAcceptHoverEvents(seen && !host_.scene(size()).hitAreas.empty());
   if (seen) {
     if (pictureStale_) updatePicture();
     updateRing();
@@ -171,7 +184,6 @@ void ViewSurface::refreshScene() {
   pictureStale_ = true;
   const bool acts = actingElements() > 0;
   item_.setActiveFocusOnTab(acts);
-  item_.setAcceptHoverEvents(!host_.scene(size()).hitAreas.empty());
   ViewAccessible::sceneChanged(item_);
 }
 
@@ -233,12 +245,7 @@ void ViewSurface::focusCame(Qt::FocusReason reason) {
   if (isFromKeyboard(reason)) {
     const bool forward = reason != Qt::BacktabFocusReason;
     host_.clearFocus();
-    if (!host_.moveFocus(forward)) {
-      // It was not known yet that nothing here acts.
-      QQuickItem* next = item_.nextItemInFocusChain(forward);
-      if (next && next != &item_) next->forceActiveFocus(reason);
-      return;
-    }
+    host_.moveFocus(forward);
   } else if (!isInterruption(reason) && !host_.focusFrame() && actingElements() == 1) {
     host_.moveFocus(true);
   }

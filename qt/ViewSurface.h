@@ -33,7 +33,9 @@ class ViewSurface final : private hosting::ViewHost::Client,
   void environmentChanged();
   /// The item came to another window, or to none.
   void windowChanged();
+  void parentChanged();
   void onScreenChanged();
+  void moved() { WindowWatcher::moved(*this); }
   void sizeChanged(bool width);
   /// The view or its settings changed.
   void contentChanged();
@@ -55,7 +57,8 @@ class ViewSurface final : private hosting::ViewHost::Client,
   void windowVisibilityChanged() override { onScreenChanged(); }
   void desktopChanged() override { environmentChanged(); }
   void accessibilityBegan() override;
-  void frameBegins(WindowWatcher& watcher) override;
+  QRectF boundsInParent() const override;
+  void placeMayHaveChanged() override;
 
   const std::vector<render::AccessibilityElement>& accessibilityElements() override;
   void performAccessibilityAction(int index) override { host_.activate(index); }
@@ -66,7 +69,7 @@ class ViewSurface final : private hosting::ViewHost::Client,
   void updateIdealSize();
   void updateImplicitSize();
   void refreshScene();
-  bool place(const QRectF& viewport);
+  bool place();
   void updatePicture();
   void updateRing();
   void presentSheet();

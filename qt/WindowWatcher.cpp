@@ -2,6 +2,8 @@
 
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <algorithm>
+#include <utility>
 #include <vector>
 
 #include "qt/AccessibilityBridge.h"
@@ -15,12 +17,18 @@ QHash<QQuickWindow*, WindowWatcher*>& watchers() {
   return all;
 }
 
-const QQuickItem* viewportAround(const QQuickItem* item) {
-  const QQuickItem* parent = item->parentItem();
-  while (parent && !parent->flags().testFlag(QQuickItem::ItemIsViewport)) {
+/// How many items are looked at anew in each frame: all of an ordinary page's.
+constexpr std::size_t kLooks = 64;
+
+/// The part of the window that is left of it for the children of `parent`.
+QRectF viewportIn(const QQuickItem* parent) {
+  if (!parent) return {};
+  // The window's own root bounds everything.
+  while (parent->parentItem() && !parent->flags().testFlag(QQuickItem::ItemIsViewport)) {
     parent = parent->parentItem();
   }
-  return parent;
+  const QRectF own = parent->mapRectToScene(parent->boundingRect());
+  return parent->parentItem() ? own.intersected(viewportIn(parent->parentItem())) : own;
 }
 
 }  // namespace
@@ -43,36 +51,88 @@ WindowWatcher::WindowWatcher(QQuickWindow& window) : QObject(&window), window_(w
           [this] { tellAll([](Client& client) { client.accessibilityBegan(); }); });
 }
 
-WindowWatcher::~WindowWatcher() { watchers().remove(&window_); }
+WindowWatcher::~WindowWatcher() {
+  for (const Entry& entry : entries_) entry.client->watcher_ = nullptr;
+  watchers().remove(&window_);
+}
+
+void WindowWatcher::add(Client& client, QQuickItem& parent) {
+  remove(client);
+  Group& group = groups_[&parent];
+  ++group.count;
+  client.watcher_ = this;
+  client.index_ = entries_.size();
+  entries_.push_back({&client, &parent, &group, client.boundsInParent()});
+}
+
+void WindowWatcher::remove(Client& client) {
+  WindowWatcher* watcher = std::exchange(client.watcher_, nullptr);
+  if (!watcher) return;
+  Entry& entry = watcher->entries_[client.index_];
+  if (--entry.group->count == 0) watcher->groups_.erase(entry.parent);
+  entry = watcher->entries_.back();
+  entry.client->index_ = client.index_;
+  watcher->entries_.pop_back();
+}
+
+void WindowWatcher::moved(Client& client) {
+  if (client.watcher_) {
+    client.watcher_->entries_[client.index_].bounds = client.boundsInParent();
+    client.placeMayHaveChanged();
+  }
+}
 
 bool WindowWatcher::isWindowVisible() const {
   return window_.isVisible() && window_.visibility() != QWindow::Minimized;
 }
 
-QRectF WindowWatcher::viewportOf(const QQuickItem& item) {
-  const QQuickItem* viewport = viewportAround(&item);
-  if (!viewport) return QRectF(QPointF(), window_.size());
-  const auto known = viewports_.constFind(viewport);
-  if (known != viewports_.cend()) return *known;
-  const QRectF rect =
-      viewport->mapRectToScene(viewport->boundingRect()).intersected(viewportOf(*viewport));
-  if (inFrame_) viewports_.insert(viewport, rect);
-  return rect;
+QRectF WindowWatcher::viewportOf(const QQuickItem& item) { return viewportIn(item.parentItem()); }
+
+bool WindowWatcher::update(Group& group, const QQuickItem& parent) {
+  const QTransform toWindow = parent.itemTransform(nullptr, nullptr);
+  const QRectF viewport = viewportIn(&parent);
+  group.moved = toWindow != group.toWindow || viewport != group.viewport;
+  if (!group.moved) return false;
+  group.toWindow = toWindow;
+  group.viewport = viewport;
+  group.visibleBefore = std::exchange(group.visible, toWindow.inverted().mapRect(viewport));
+  return true;
 }
 
 void WindowWatcher::frame() {
-  inFrame_ = true;
-  for (Client* client : clients_) client->frameBegins(*this);
-  inFrame_ = false;
-  viewports_.clear();
+  bool anyMoved = false;
+  for (auto& [parent, group] : groups_) anyMoved |= update(group, *parent);
+  if (anyMoved) {
+    for (const Entry& entry : entries_) {
+      if (!entry.group->moved) continue;
+      const bool concerned = entry.group->visible.intersects(entry.bounds) ||
+                             entry.group->visibleBefore.intersects(entry.bounds);
+      if (concerned) entry.client->placeMayHaveChanged();
+    }
+  }
+  lookAtSome();
+}
+
+void WindowWatcher::lookAtSome() {
+  for (std::size_t i = 0; i < std::min(kLooks, entries_.size()); ++i) {
+    if (next_ >= entries_.size()) next_ = 0;
+    Entry& entry = entries_[next_++];
+    entry.bounds = entry.client->boundsInParent();
+    entry.client->placeMayHaveChanged();
+  }
 }
 
 template <class Call>
 void WindowWatcher::tellAll(Call call) {
-  // A client's answer may add and remove clients.
-  const std::vector<Client*> all(clients_.begin(), clients_.end());
-  for (Client* client : all) {
-    if (clients_.contains(client)) call(*client);
+  // A client's answer may add and remove clients, which moves others about.
+  const unsigned round = ++round_;
+  for (bool again = true; std::exchange(again, false);) {
+    for (std::size_t i = 0; i < entries_.size(); ++i) {
+      Client& client = *entries_[i].client;
+      if (std::exchange(client.toldIn_, round) == round) continue;
+      again = true;
+      call(client);
+    }
   }
 }
 

@@ -1,17 +1,23 @@
 #pragma once
 
-#include <QHash>
 #include <QObject>
 #include <QRectF>
-#include <unordered_set>
+#include <QTransform>
+#include <cstddef>
+#include <unordered_map>
+#include <vector>
 
 class QQuickItem;
 class QQuickWindow;
 
 namespace quorix::qt {
 
-/// What the view items of one window share: one set of connections for all, so that an item costs
-/// little and an idle one nothing. Belongs to the window; main thread.
+/// What the view items of one window share: one set of connections for all, and one look at each
+/// frame for what scrolled into sight. Belongs to the window; main thread.
+///
+/// Qt Quick tells an item nothing when an ancestor moves. Items are therefore kept by parent: only
+/// where a parent moved are its items compared, as plain rectangles. A few more are looked at anew
+/// in every frame, in turn, for what moves an item that no parent and no geometry tells of.
 class WindowWatcher : public QObject {
   Q_OBJECT
 
@@ -23,30 +29,59 @@ class WindowWatcher : public QObject {
     virtual void windowVisibilityChanged() = 0;
     virtual void desktopChanged() = 0;
     virtual void accessibilityBegan() = 0;
-    /// A frame is about to be made. An item that scrolled is not told so otherwise.
-    virtual void frameBegins(WindowWatcher& watcher) = 0;
+
+    virtual QRectF boundsInParent() const = 0;
+    /// Before a frame: it may have come into sight, left it, or moved in it.
+    virtual void placeMayHaveChanged() = 0;
+
+   private:
+    friend class WindowWatcher;
+    WindowWatcher* watcher_ = nullptr;
+    std::size_t index_ = 0;
+    unsigned toldIn_ = 0;
   };
 
   static WindowWatcher& of(QQuickWindow& window);
 
-  void add(Client& client) { clients_.insert(&client); }
-  void remove(Client& client) { clients_.erase(&client); }
+  void add(Client& client, QQuickItem& parent);
+  static void remove(Client& client);
+  /// Its own geometry changed.
+  static void moved(Client& client);
 
   bool isWindowVisible() const;
   /// The part of the window, in its coordinates, that the viewports around `item` leave to it.
-  QRectF viewportOf(const QQuickItem& item);
+  static QRectF viewportOf(const QQuickItem& item);
 
  private:
   explicit WindowWatcher(QQuickWindow& window);
   ~WindowWatcher() override;
   void frame();
+  void lookAtSome();
   template <class Call>
   void tellAll(Call call);
 
+  /// What holds for all items of one parent.
+  struct Group {
+    QTransform toWindow;
+    QRectF viewport;  ///< in the window
+    QRectF visible;   ///< the viewport in the parent's coordinates
+    QRectF visibleBefore;
+    bool moved = false;
+    int count = 0;
+  };
+  struct Entry {
+    Client* client;
+    QQuickItem* parent;
+    Group* group;
+    QRectF bounds;  ///< in the parent's coordinates
+  };
+  static bool update(Group& group, const QQuickItem& parent);
+
   QQuickWindow& window_;
-  std::unordered_set<Client*> clients_;
-  bool inFrame_ = false;
-  QHash<const QQuickItem*, QRectF> viewports_;  ///< by viewport item, while `inFrame_`
+  std::unordered_map<QQuickItem*, Group> groups_;
+  std::vector<Entry> entries_;
+  std::size_t next_ = 0;  ///< to be looked at anew
+  unsigned round_ = 0;    ///< of telling all
 };
 
 }  // namespace quorix::qt

@@ -19,6 +19,8 @@ namespace elements {
 struct Empty {};
 struct Text {
   text::AttributedText text;
+  /// Broken into lines, it takes the width that it was offered and not that of its longest line.
+  bool spansWhenWrapped = false;
 };
 struct Image {
   std::string name;

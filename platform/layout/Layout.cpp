@@ -197,12 +197,14 @@ Size Layout::measureText(Element& element, ProposedSize proposal) {
     const double earlier = offered.width.value_or(infinity);
     if (earlier == width || (earlier == infinity && size.width <= width)) return size;
   }
-  const auto& text = std::get<elements::Text>(element.kind).text;
+  const auto& text = std::get<elements::Text>(element.kind);
   if (width != infinity) {
     const Size ideal = measure(element, {std::nullopt, proposal.height});
     if (ideal.width <= width) return ideal;
   }
-  return grid_.ceil(engine_.measure(text, width).size);
+  const Size size = grid_.ceil(engine_.measure(text.text, width).size);
+  const bool spans = text.spansWhenWrapped && width != infinity;
+  return {spans ? std::max(width, size.width) : size.width, size.height};
 }
 
 Layout::Offers Layout::divide(Element& stackElement, ProposedSize proposal) {

@@ -32,6 +32,7 @@ struct Look {
   bool underline = false;
   bool strikethrough = false;
   bool resizable = false;
+  bool inColumn = false;  ///< the nearest stack is vertical
 };
 
 class Evaluator {
@@ -101,7 +102,7 @@ void Evaluator::collect(const View& view, const Look& look, Axis axis, Elements&
 
 void Evaluator::collect(const nodes::Text& node, const View&, const Look& look, Axis,
                         Elements& out) {
-  out.push_back({elements::Text{attributed(node.text, look)}, {}, {}, {}});
+  out.push_back({elements::Text{attributed(node.text, look), look.inColumn}, {}, {}, {}});
 }
 
 void Evaluator::collect(const nodes::Image& node, const View&, const Look& look, Axis,
@@ -131,7 +132,9 @@ void Evaluator::collect(const nodes::Stack& node, const View&, const Look& look,
       {},
       {},
       {}};
-  collectChildren(node.children, look, node.axis, stack.children);
+  Look inner = look;
+  inner.inColumn = node.axis == Axis::vertical;
+  collectChildren(node.children, inner, node.axis, stack.children);
   out.push_back(std::move(stack));
 }
 

@@ -172,7 +172,7 @@ TEST(ScoreWidgetAccessibility, TheSheetReadsInOrderWithoutItsDivider) {
 button 280 22 24 24 "Close" acts
 heading 16 66 288 24 "Discounted €2.00, Original €4.00"
 text 16 90 288 20 "Return rate 18%"
-text 20 159 280 80 "Your return fee is based on your personal return rate. Fewer returns lead to lower fees benefiting both you and the environment."
+text 16 159 288 80 "Your return fee is based on your personal return rate. Fewer returns lead to lower fees benefiting both you and the environment."
 image 137 271 46 10 "" hint "Quorix logo"
 )");
   TestWindow plain(sheetView(false, "es"), {}, {320, 400});
@@ -207,7 +207,7 @@ text 264 66 40 20 "€4.00"
 text 16 90 88 20 "Return rate"
 text 280 90 24 20 "18%"
 fill 16 134 288 1
-text 20 159 280 80 ")" + disclaimer + R"("
+text 16 159 288 80 ")" + disclaimer + R"("
 image 137 271 46 10 "logo"
 hit 280 0 24 46
 )");
@@ -221,7 +221,7 @@ text 16 66 40 20 "€4.00"
 text 216 90 88 20 "Return rate"
 text 16 90 24 20 "18%"
 fill 16 134 288 1
-text 20 159 280 80 ")" + disclaimer + R"("
+text 16 159 288 80 ")" + disclaimer + R"("
 image 137 271 46 10 "logo"
 hit 16 0 24 46
 )");
