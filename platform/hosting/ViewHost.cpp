@@ -160,6 +160,11 @@ const render::Scene& ViewHost::scene(layout::Size size) {
   return *state_->scene;
 }
 
+void ViewHost::rest() {
+  state_->scene.reset();
+  state_->forget();
+}
+
 const swiftui::Presentation* ViewHost::presentation() {
   if (state_->stale) state_->evaluateAgain();
   return state_->presentation ? &*state_->presentation : nullptr;
