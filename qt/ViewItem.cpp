@@ -2,6 +2,7 @@
 
 #include <QCursor>
 
+#include "qt/Engine.h"
 #include "qt/ViewSurface.h"
 
 namespace quorix::qt {
@@ -20,6 +21,7 @@ ViewItem::ViewItem(QQuickItem* parent) : ViewItem(swiftui::View(), parent) {}
 
 ViewItem::ViewItem(swiftui::View view, QQuickItem* parent)
     : QQuickItem(parent), surface_(std::make_unique<ViewSurface>(*this)) {
+  installEngine();  // without it a view would stand still
   setFlag(ItemHasContents);
   setAcceptedMouseButtons(Qt::LeftButton);
   setAcceptTouchEvents(true);
