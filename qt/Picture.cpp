@@ -32,7 +32,8 @@ QImage paintPicture(const render::Scene& scene, double scale, graphics::RGBA bac
   image.setDevicePixelRatio(scale);
   image.fill(Qt::transparent);
   QPainter painter(&image);
-  ScenePainter(painter).paint(scene);
+  ScenePainter(painter, ScenePainter::Ground::nothing).paint(scene);
+  if (background.alpha == 0) return image;
   // Last, though it lies below: Qt blends some faces' letters otherwise (and four times as slowly)
   // on an opaque image, and a picture is to look as the view does on a surface, which is
   // transparent.

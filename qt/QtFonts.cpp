@@ -17,20 +17,29 @@ using graphics::FontManager;
 // Names come from hosts, without end perhaps; the fonts kept have one.
 constexpr std::size_t maximumFonts = 128;
 
-QString squeezed(QString name) { return name.remove(QLatin1Char(' ')).toLower(); }
+/// Whether `name` is `squeezed` but for spaces and case. A desktop may have thousands of names to
+/// compare, so none is copied.
+bool squeezesTo(QStringView name, QStringView squeezed) {
+  for (const QChar character : name) {
+    if (character == QLatin1Char(' ')) continue;
+    if (squeezed.isEmpty() || character.toLower() != squeezed.front().toLower()) return false;
+    squeezed = squeezed.sliced(1);
+  }
+  return squeezed.isEmpty();
+}
 
 /// The face with that PostScript name by its usual form, family and style without their spaces.
-std::optional<QFont> postScriptFace(const QString& name) {
-  const QString wanted = squeezed(name);
-  const QString family = wanted.section(QLatin1Char('-'), 0, 0);
-  const QString style = wanted.section(QLatin1Char('-'), 1);
+std::optional<QFont> postScriptFace(QString name) {
+  name.remove(QLatin1Char(' '));
+  const QString family = name.section(QLatin1Char('-'), 0, 0);
+  const QString style = name.section(QLatin1Char('-'), 1);
   const QStringList families = QFontDatabase::families();
   for (const QString& candidate : families) {
-    if (squeezed(candidate) != family) continue;
-    if (style.isEmpty()) return QFont(candidate);
+    if (squeezesTo(candidate, name)) return QFont(candidate);
+    if (!squeezesTo(candidate, family)) continue;
     const QStringList styles = QFontDatabase::styles(candidate);
     for (const QString& known : styles) {
-      if (squeezed(known) == style) return QFontDatabase::font(candidate, known, 12);
+      if (squeezesTo(known, style)) return QFontDatabase::font(candidate, known, 12);
     }
   }
   return std::nullopt;
@@ -103,7 +112,9 @@ void QtFonts::installSystemLookup() { FontManager::shared().setSystemLookup(&sys
 
 bool QtFonts::systemKnows(std::string_view name) {
   if (qGuiApp == nullptr || name.empty()) return false;
-  return installedFace(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())))
+  // Not `hasFamily`, which first asks the system what else the name might stand for: that takes
+  // milliseconds and finds no face of that name.
+  return postScriptFace(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())))
       .has_value();
 }
 

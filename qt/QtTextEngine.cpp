@@ -26,6 +26,11 @@ const ShapedText& QtTextEngine::shape(const text::AttributedText& text, double w
   return find(text, width, true);
 }
 
+TextPictures& QtTextEngine::pictures() {
+  if (fonts_.refresh()) clear();
+  return pictures_;
+}
+
 bool QtTextEngine::Breaking::serves(double wanted) const {
   // Lines are filled greedily, so they stay the same while the widest still fits.
   return wanted == width || (wanted < width && wanted >= text.metrics.size.width);
@@ -80,6 +85,7 @@ ShapedText QtTextEngine::breakLines(const Entry& entry, double width, bool glyph
 void QtTextEngine::clear() {
   index_.clear();
   entries_.clear();
+  pictures_.clear();
   inParagraph_ = nullptr;
 }
 

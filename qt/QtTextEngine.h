@@ -10,6 +10,7 @@
 #include "qt/QtFonts.h"
 #include "qt/ShapedText.h"
 #include "qt/TextIdentity.h"
+#include "qt/TextPictures.h"
 
 namespace quorix::qt {
 
@@ -29,6 +30,9 @@ class QtTextEngine final : public text::TextEngine {
   const ShapedText& shape(const text::AttributedText& text, double width);
 
   const ShapingFont& font(const text::ResolvedFont& font) { return fonts_.find(font); }
+
+  /// The pictures of texts in the fonts that there are now.
+  TextPictures& pictures();
 
   /// How often text has been broken into lines so far. For tests.
   int breaks() const { return breaks_; }
@@ -59,6 +63,7 @@ class QtTextEngine final : public text::TextEngine {
   std::unordered_map<const text::AttributedText*, std::list<Entry>::iterator, TextIdentity,
                      TextIdentity>
       index_;
+  TextPictures pictures_;
   int breaks_ = 0;
 };
 

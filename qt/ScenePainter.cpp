@@ -34,18 +34,20 @@ QPainterPath withRoundedTop(const QRectF& rect, double radius) {
 
 }  // namespace
 
-ScenePainter::ScenePainter(QPainter& painter, QtTextEngine& engine)
+ScenePainter::ScenePainter(QPainter& painter, Ground ground, QtTextEngine& engine)
     : painter_(painter),
       engine_(engine),
       base_(painter.transform()),
       toDevice_(painter.deviceTransform()),
       fromDevice_(toDevice_.inverted()),
-      upright_(toDevice_.type() <= QTransform::TxScale) {}
+      upright_(toDevice_.type() <= QTransform::TxScale),
+      ground_(ground) {}
 
 void ScenePainter::paint(const render::Scene& scene) {
   appearance_ = scene.appearance;
   for (const render::Item& item : scene.items) {
     std::visit([this](const auto& what) { draw(what); }, item);
+    if (!std::holds_alternative<render::TextItem>(item)) ground_ = Ground::unknown;
   }
 }
 
@@ -64,6 +66,40 @@ void ScenePainter::fill(const QRectF& device, graphics::RGBA color) {
 }
 
 void ScenePainter::draw(const render::TextItem& item) {
+  if (ground_ == Ground::unknown || !drawPicture(item)) drawText(item);
+}
+
+/// Draws the text from its picture, where there is one and it falls on whole pixels.
+bool ScenePainter::drawPicture(const render::TextItem& item) {
+  const QPointF corner = toDevice_.map(QPointF(item.frame.left(), item.frame.top()));
+  const double scale = toDevice_.m11();
+  const bool fits = upright_ && scale > 0 && toDevice_.m22() == scale &&
+                    corner == QPointF(corner.toPoint()) && item.frame.size.height * scale < 128;
+  if (!fits) return false;
+  const auto* picture = engine_.pictures().find(item, scale, [&] { return pictureOf(item); });
+  if (!picture) return false;
+  painter_.setTransform(fromDevice_ * base_);
+  painter_.drawImage(corner.toPoint() + picture->offset, picture->image);
+  painter_.setTransform(base_);
+  return true;
+}
+
+/// The text with room around it for ink that leaves its frame.
+TextPictures::Picture ScenePainter::pictureOf(const render::TextItem& item) const {
+  const double scale = toDevice_.m11();
+  const int room = static_cast<int>(std::ceil(item.frame.size.height * scale));
+  const QSize frame = (QSizeF(item.frame.size.width, item.frame.size.height) * scale).toSize();
+  QImage image(frame + QSize(2 * room, 2 * room), QImage::Format_ARGB32_Premultiplied);
+  image.fill(Qt::transparent);
+  QPainter painter(&image);
+  painter.translate(room, room);
+  painter.scale(scale, scale);
+  ScenePainter(painter, Ground::unknown, engine_).drawText({{{}, item.frame.size}, item.text});
+  painter.end();
+  return {image, {-room, -room}};
+}
+
+void ScenePainter::drawText(const render::TextItem& item) {
   // Frames come from measured sizes by additions that may lose the last bits.
   constexpr double slack = 1.0 / 256;
   const ShapedText& shaped = engine_.shape(item.text, item.frame.size.width + slack);

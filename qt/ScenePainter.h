@@ -17,7 +17,12 @@ namespace quorix::qt {
 ///     ScenePainter(painter).paint(host.scene(size));
 class ScenePainter {
  public:
-  explicit ScenePainter(QPainter& painter, QtTextEngine& engine = QtTextEngine::shared());
+  /// What lies under the scene. On nothing, a text that was painted before is painted from its
+  /// picture, with the same pixels; over other things text is blended by their brightness.
+  enum class Ground { unknown, nothing };
+
+  explicit ScenePainter(QPainter& painter, Ground ground = Ground::unknown,
+                        QtTextEngine& engine = QtTextEngine::shared());
 
   /// Paints every item in order and leaves the painter as it was, but for its pen.
   void paint(const render::Scene& scene);
@@ -28,6 +33,9 @@ class ScenePainter {
   void draw(const render::FillItem& item);
   void draw(const render::StrokeItem& item);
 
+  void drawText(const render::TextItem& item);
+  bool drawPicture(const render::TextItem& item);
+  TextPictures::Picture pictureOf(const render::TextItem& item) const;
   void drawLine(const ShapedText::Line& line, double unit, const text::AttributedText& text,
                 QPointF origin);
   void drawDecoration(const ShapedText::Span& span, QPointF origin, ShapingFont::Stroke stroke,
@@ -42,6 +50,7 @@ class ScenePainter {
   const QTransform toDevice_;
   const QTransform fromDevice_;
   const bool upright_;
+  Ground ground_;
   graphics::Appearance appearance_ = graphics::Appearance::light;
 };
 

@@ -71,9 +71,9 @@ void ViewSurface::windowChanged() {
   painted_ = inViewport_ = false;
   pictureStale_ = true;
   AccessibilityBridge::offer(item_);
+  onScreenChanged();  // before anyone asks for a size: the view is then evaluated once
   environmentChanged();
-  onScreenChanged();
-  if (window) presentationChanged();
+  if (window && (sheet_ || host_.presentation())) presentationChanged();
 }
 
 void ViewSurface::parentChanged() {
@@ -163,8 +163,7 @@ void ViewSurface::polish() {
   if (idealStale_) updateIdealSize();
   if (watcher_) place();
   const bool seen = watcher_ && inViewport_ && item_.isVisible();
-  // Also out of sight: the scene says whether the item takes part in the focus chain, and is a
-  // third of what the host keeps until it has made it.
+  // Also out of sight: the scene says whether the item takes part in the focus chain.
   if (sceneStale_) refreshScene();
   // The window asks every item that accepts hovering in every frame.
   item_.setAcceptHoverEvents(seen && !host_.scene(size()).hitAreas.empty());
@@ -177,6 +176,7 @@ void ViewSurface::polish() {
     picture_ = {};
     item_.update();
   }
+  if (!seen && !item_.hasActiveFocus() && !AccessibilityBridge::isActive()) host_.rest();
 }
 
 void ViewSurface::refreshScene() {

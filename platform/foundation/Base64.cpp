@@ -10,20 +10,24 @@ namespace {
 constexpr std::string_view kAlphabet =
     "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
 
-/// Above every six-bit value, so that a whole quantum is checked with one comparison.
+/// Above every 24-bit value, so that a whole text is checked with one comparison.
 constexpr std::uint32_t kInvalid = 1u << 31;
 
-using Values = std::array<std::uint32_t, 256>;
+/// What a character stands for, shifted to each of its four places in 24 bits.
+using Values = std::array<std::array<std::uint32_t, 256>, 4>;
 
 constexpr Values valuesOf(Base64Alphabet alphabet) {
   Values values{};
-  values.fill(kInvalid);
-  for (std::uint32_t i = 0; i < kAlphabet.size(); ++i) {
-    values[static_cast<unsigned char>(kAlphabet[i])] = i;
-  }
-  if (alphabet == Base64Alphabet::either) {
-    values['-'] = values['+'];
-    values['_'] = values['/'];
+  for (std::uint32_t place = 0; place < 4; ++place) {
+    auto& shifted = values[place];
+    shifted.fill(kInvalid);
+    for (std::uint32_t i = 0; i < kAlphabet.size(); ++i) {
+      shifted[static_cast<unsigned char>(kAlphabet[i])] = i << (18 - 6 * place);
+    }
+    if (alphabet == Base64Alphabet::either) {
+      shifted['-'] = shifted['+'];
+      shifted['_'] = shifted['/'];
+    }
   }
   return values;
 }
@@ -33,9 +37,8 @@ constexpr Values kEither = valuesOf(Base64Alphabet::either);
 
 /// Four characters as 24 bits, or a value with `kInvalid` set.
 std::uint32_t quantum(const Values& values, const char* text) {
-  const auto value = [&](int i) { return values[static_cast<unsigned char>(text[i])]; };
-  const std::uint32_t invalid = (value(0) | value(1) | value(2) | value(3)) & kInvalid;
-  return invalid | value(0) << 18 | value(1) << 12 | value(2) << 6 | value(3);
+  const auto value = [&](int i) { return values[i][static_cast<unsigned char>(text[i])]; };
+  return value(0) | value(1) | value(2) | value(3);
 }
 
 }  // namespace

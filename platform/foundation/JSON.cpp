@@ -26,7 +26,7 @@ struct JSONDocument::State {
   std::vector<JSONValue::Node> nodes;
 
   simdjson::error_code read(std::string_view bytes);
-  simdjson::error_code add(simdjson::ondemand::value value, std::string_view key, int depth);
+  simdjson::error_code add(simdjson::ondemand::value& value, std::string_view key, int depth);
   simdjson::error_code addArray(simdjson::ondemand::value& value, int depth);
   simdjson::error_code addObject(simdjson::ondemand::value& value, int depth);
   static simdjson::error_code readScalar(simdjson::ondemand::value& value,
@@ -48,7 +48,9 @@ Error describe(simdjson::error_code failure) {
 
 /// A scalar's token reaches to the next one; its own text ends before the white space.
 std::string_view trimmed(std::string_view token) {
-  return token.substr(0, token.find_last_not_of(" \t\r\n") + 1);
+  const auto isSpace = [](char c) { return c == ' ' || c == '\n' || c == '\r' || c == '\t'; };
+  while (!token.empty() && isSpace(token.back())) token.remove_suffix(1);
+  return token;
 }
 
 }  // namespace
@@ -79,8 +81,8 @@ simdjson::error_code JSONDocument::State::readScalar(simdjson::ondemand::value& 
   }
 }
 
-simdjson::error_code JSONDocument::State::add(simdjson::ondemand::value value, std::string_view key,
-                                              int depth) {
+simdjson::error_code JSONDocument::State::add(simdjson::ondemand::value& value,
+                                              std::string_view key, int depth) {
   JSONValue::Node& node = nodes.emplace_back();
   node.key = key;
   simdjson::ondemand::json_type type;
@@ -110,12 +112,12 @@ simdjson::error_code JSONDocument::State::addArray(simdjson::ondemand::value& va
 simdjson::error_code JSONDocument::State::addObject(simdjson::ondemand::value& value, int depth) {
   simdjson::ondemand::object object;
   if (const auto failure = value.get_object().get(object)) return failure;
-  for (auto field : object) {
+  for (auto result : object) {
+    simdjson::ondemand::field field;
     std::string_view key;
-    simdjson::ondemand::value item;
+    if (const auto failure = std::move(result).get(field)) return failure;
     if (const auto failure = field.unescaped_key().get(key)) return failure;
-    if (const auto failure = field.value().get(item)) return failure;
-    if (const auto failure = add(item, key, depth)) return failure;
+    if (const auto failure = add(field.value(), key, depth)) return failure;
   }
   return simdjson::SUCCESS;
 }
@@ -172,12 +174,13 @@ void JSONValue::forEachChild(Visit visit) const {
 }
 
 std::optional<JSONValue> JSONValue::member(std::string_view key) const {
-  std::optional<JSONValue> found;
-  if (kind() != Kind::object) return found;
+  if (kind() != Kind::object) return std::nullopt;
+  const Node* found = nullptr;
   forEachChild([&](const Node& child) {
-    if (child.key == key) found = JSONValue(&child);
+    if (child.key == key) found = &child;
   });
-  return found;
+  if (!found) return std::nullopt;
+  return JSONValue(found);
 }
 
 std::map<std::string_view, JSONValue> JSONValue::members() const {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/hosting/RecentEvaluations.h"
 #include "platform/hosting/SceneBuilder.h"
 #include "platform/layout/Layout.h"
 #include "platform/swiftui/ViewGraph.h"
@@ -18,9 +19,13 @@ constexpr std::size_t manyProposals = 4;
 struct ViewHost::State {
   State(text::TextEngine& textEngine, Client& surface)
       : engine(textEngine), client(surface), graph([this] { invalidated(); }) {}
+  ~State() { forget(); }
+  State(const State&) = delete;
+  State& operator=(const State&) = delete;
 
   swiftui::Evaluation& evaluated();
   void evaluateAgain();
+  void forget() { RecentEvaluations::shared().empty(evaluation); }
   void invalidated();
   void changed();
   void layOut(layout::Size size);
@@ -31,8 +36,8 @@ struct ViewHost::State {
   Client& client;
   swiftui::Environment environment;
   swiftui::ViewGraph graph;
-  // Only between an evaluation and the scene made of it; a view at rest keeps the scene alone.
-  std::unique_ptr<swiftui::Evaluation> evaluation;
+  // Between an evaluation and the scene made of it; a view at rest keeps the scene alone.
+  RecentEvaluations::Slot evaluation;
   std::vector<std::pair<layout::ProposedSize, layout::Size>> fitted;
   std::optional<swiftui::Presentation> presentation;
   swiftui::PresentationDetents detents;
@@ -51,7 +56,7 @@ swiftui::Evaluation& ViewHost::State::evaluated() {
 
 void ViewHost::State::evaluateAgain() {
   stale = false;
-  evaluation = std::make_unique<swiftui::Evaluation>(graph.evaluate(environment));
+  RecentEvaluations::shared().fill(evaluation, graph.evaluate(environment));
   detents = evaluation->detents;
   const bool had = presentation.has_value();
   presentation = evaluation->presentation;
@@ -72,7 +77,7 @@ void ViewHost::State::changed() {
   stale = true;
   fitted.clear();
   scene.reset();
-  evaluation.reset();
+  forget();
   client.viewNeedsDisplay();
 }
 
@@ -102,7 +107,7 @@ void ViewHost::State::layOut(layout::Size size) {
   scene = SceneBuilder(latest, environment, visit).build();
   scene->size = size;
   geometry = std::move(sizes);
-  evaluation.reset();
+  forget();
   for (const auto& change : changes) change();
 }
 
@@ -153,6 +158,11 @@ layout::Size ViewHost::sizeThatFits(layout::ProposedSize proposal) {
 const render::Scene& ViewHost::scene(layout::Size size) {
   if (!state_->scene || state_->scene->size != size) state_->layOut(size);
   return *state_->scene;
+}
+
+void ViewHost::rest() {
+  state_->scene.reset();
+  state_->forget();
 }
 
 const swiftui::Presentation* ViewHost::presentation() {

@@ -45,6 +45,10 @@ class ViewHost {
   /// the next call of this host.
   const render::Scene& scene(layout::Size size);
 
+  /// Nobody looks at the view: keeps its sizes and lets its scene go. Whatever needs the scene
+  /// again has it made anew.
+  void rest();
+
   /// The sheet that the view asks for, or null.
   const swiftui::Presentation* presentation();
 

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
 #include <map>
+#include <memory>
+#include <vector>
 
 #include "QuorixWidgets/score/ScoreWidgetSheet.h"
 #include "platform/foundation/LocalizedString.h"
@@ -104,6 +106,46 @@ TEST(ViewHostInput, FocusWalksOverWhatActsAndLeavesAtTheEnds) {
 View sheetView(bool discount, const char* language) {
   return scoreWidgetSheet(*scoreModel(discount, language), *LocalizationRepository::make(language),
                           swiftui::State(true).binding());
+}
+
+/// A view whose body counts how often it is asked for.
+struct CountedView {
+  static constexpr std::string_view typeName = "CountedView";
+  std::string text;
+  int* bodies;
+
+  View body() const {
+    ++*bodies;
+    return Text::verbatim(text);
+  }
+};
+
+struct IdleClient : hosting::ViewHost::Client {
+  void viewNeedsDisplay() override {}
+  void presentationChanged() override {}
+};
+
+TEST(ViewHosts, AreEvaluatedOnceOnAScreenAndSparinglyInLongLists) {
+  testing::FixedWidthText engine;
+  IdleClient client;
+  for (const int count : {10, 200}) {
+    int bodies = 0;
+    std::vector<std::unique_ptr<hosting::ViewHost>> hosts;
+    for (int i = 0; i < count; ++i) {
+      hosts.push_back(std::make_unique<hosting::ViewHost>(engine, client));
+      hosts.back()->setRoot(CountedView{std::to_string(i), &bodies});
+      hosts.back()->sizeThatFits({});
+      hosts.back()->sizeThatFits({100, std::nullopt});
+    }
+    EXPECT_EQ(bodies, count);
+    for (int i = 0; i < count; ++i) {
+      const auto& items = hosts[static_cast<std::size_t>(i)]->scene({100, 20}).items;
+      ASSERT_EQ(items.size(), 1u);
+      EXPECT_EQ(std::get<render::TextItem>(items.front()).text.runs.front().text,
+                std::to_string(i));
+    }
+    EXPECT_LE(bodies, count == 10 ? count : 2 * count);
+  }
 }
 
 TEST(ScoreWidgetAccessibility, TheRowIsOneButton) {

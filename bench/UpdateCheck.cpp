@@ -1,0 +1,184 @@
+// A translation update of one row re-lays out and repaints that row and leaves the others, and the
+// host, alone; at rest nothing happens at all. Counts what was evaluated, measured and painted,
+// prints the counts and fails when they are not these.
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QQuickWindow>
+#include <QTimer>
+#include <cstdio>
+#include <memory>
+#include <vector>
+
+#include "QuorixWidgets/data/TokenData.h"
+#include "QuorixWidgets/localization/LocalizationRepository.h"
+#include "QuorixWidgets/score/ScoreWidgetView.h"
+#include "QuorixWidgets/score/ScoreWidgetViewModel.h"
+#include "bench/Shopper.h"
+#include "platform/foundation/URLSession.h"
+#include "platform/hosting/ViewHost.h"
+#include "qt/Engine.h"
+#include "qt/QtTextEngine.h"
+#include "qt/ViewItem.h"
+
+namespace quorix::bench {
+namespace {
+
+constexpr std::size_t kRows = 1000;
+constexpr std::size_t kUpdated = 7;
+constexpr layout::Size kRowSize = {343, 17};
+
+/// How often things happened to one row.
+struct Counts {
+  int bodies = 0;
+  int measured = 0;
+  int painted = 0;
+  bool operator==(const Counts&) const = default;
+};
+
+/// The row's own view behind one that counts.
+struct CountedView {
+  static constexpr std::string_view typeName = "CountedView";
+  ScoreWidgetView row;
+  Counts* counts;
+
+  swiftui::View body() const {
+    ++counts->bodies;
+    return row;
+  }
+};
+
+struct Row {
+  std::shared_ptr<LocalizationRepository> localization = LocalizationRepository::make("en");
+  Counts counts;
+
+  swiftui::View view(std::size_t number) {
+    const TokenData figures{0.82, "EUR", static_cast<std::int64_t>(number) * 100 + 700, 300};
+    return CountedView{{std::make_shared<ScoreWidgetViewModel>(
+                            "my-shop", figures, "en", ScoreWidgetStyle{std::nullopt, std::nullopt}),
+                        localization},
+                       &counts};
+  }
+
+  void update() {
+    localization->strings = TranslationTable::make({{"returns", "title", "Your fee for returns"}});
+  }
+};
+
+/// The row on the library's own surface in a window.
+class CountedItem final : public qt::ViewItem {
+ public:
+  CountedItem(Row& row, std::size_t number, QQuickItem* parent)
+      : ViewItem(row.view(number), parent), counts_(row.counts) {
+    setSize({kRowSize.width, kRowSize.height});
+  }
+
+ private:
+  QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) override {
+    ++counts_.painted;
+    return ViewItem::updatePaintNode(old, data);
+  }
+  Counts& counts_;
+};
+
+/// The row on a surface of the least kind, which counts what its layout measures.
+class CountedHost final : private hosting::ViewHost::Client, private text::TextEngine {
+ public:
+  CountedHost(Row& row, std::size_t number) : counts_(row.counts) {
+    host_.setRoot(row.view(number));
+    host_.setOnScreen(true);
+    paint();
+  }
+
+ private:
+  void viewNeedsDisplay() override {
+    if (std::exchange(queued_, true)) return;
+    QTimer::singleShot(0, qApp, [this] { paint(); });
+  }
+  void presentationChanged() override {}
+  text::TextMetrics measure(const text::AttributedText& text, double width) override {
+    ++counts_.measured;
+    return qt::QtTextEngine::shared().measure(text, width);
+  }
+  void paint() {
+    queued_ = false;
+    host_.scene(kRowSize);
+    ++counts_.painted;
+  }
+
+  Counts& counts_;
+  bool queued_ = false;
+  hosting::ViewHost host_{*this, *this};
+};
+
+void settle() {
+  QEventLoop loop;
+  QTimer::singleShot(300, &loop, &QEventLoop::quit);
+  loop.exec();
+}
+
+/// Runs one update over settled rows and reports what it touched. False when it touched too much.
+bool check(const char* surface, std::vector<Row>& rows, const int& frames) {
+  settle();
+  const int framesBefore = frames;
+  for (Row& row : rows) row.counts = {};
+  settle();
+  bool idle = frames == framesBefore;
+  for (const Row& row : rows) idle = idle && row.counts == Counts{};
+  rows[kUpdated].update();
+  settle();
+  Counts others;
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    if (i == kUpdated) continue;
+    others.bodies += rows[i].counts.bodies;
+    others.measured += rows[i].counts.measured;
+    others.painted += rows[i].counts.painted;
+  }
+  const Counts& own = rows[kUpdated].counts;
+  std::printf(
+      "{\"surface\": \"%s\", \"rows\": %zu, \"idle\": %s, \"own\": [%d, %d, %d], "
+      "\"others\": [%d, %d, %d]}\n",
+      surface, rows.size(), idle ? "true" : "false", own.bodies, own.measured, own.painted,
+      others.bodies, others.measured, others.painted);
+  return idle && own.bodies == 1 && own.painted == 1 && others == Counts{};
+}
+
+bool checkItems() {
+  std::vector<Row> rows(kRows);
+  QQuickWindow window;
+  int frames = 0;
+  QObject::connect(&window, &QQuickWindow::frameSwapped, [&] { ++frames; });
+  window.resize(343, 17 * static_cast<int>(kRows));  // all are seen, so that all could be painted
+  std::vector<std::unique_ptr<CountedItem>> items;
+  for (std::size_t i = 0; i < kRows; ++i) {
+    items.push_back(std::make_unique<CountedItem>(rows[i], i, window.contentItem()));
+    items.back()->setY(kRowSize.height * static_cast<double>(i));
+  }
+  window.show();
+  return check("items in a window", rows, frames);
+}
+
+bool checkHosts() {
+  std::vector<Row> rows(kRows);
+  std::vector<std::unique_ptr<CountedHost>> hosts;
+  for (std::size_t i = 0; i < kRows; ++i) {
+    hosts.push_back(std::make_unique<CountedHost>(rows[i], i));
+  }
+  return check("plain hosts", rows, 0);
+}
+
+}  // namespace
+}  // namespace quorix::bench
+
+int main(int argc, char** argv) {
+  QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+  QApplication app(argc, argv);
+  quorix::qt::installEngine();
+  const auto noNews =
+      quorix::foundation::URLSession::shared().registerProtocol([](const quorix::foundation::URL&) {
+        return quorix::foundation::URLResponse{{}, {}, 404};
+      });
+  const bool items = quorix::bench::checkItems();
+  const bool hosts = quorix::bench::checkHosts();
+  return items && hosts ? 0 : 1;
+}

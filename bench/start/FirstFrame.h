@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QQuickWindow>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+
+namespace quorix::bench {
+
+/// A score of 0.82, 4.99 euros, 2.99 with the discount.
+inline constexpr char kToken[] =
+    "eyJhbGciOiJIUzI1NiIsInR5cCI6IkpXVCJ9."
+    "eyJkYXRhIjp7InNjb3JlIjowLjgyLCJmZWVfY3VycmVuY3kiOiJFVVIiLCJiYXNlX2ZlZV9hbW91bnQiOjQ5OSwiZGlzY2"
+    "91bnRlZF9mZWVfYW1vdW50IjoyOTl9fQ.Pl-3x4uXquglvBix9LCdELzY2acgiYpNngoSk005HVQ";
+
+/// Prints the steady clock's nanoseconds once the window's first frame is on its way, and ends the
+/// process there and then, so that leaving costs neither side anything.
+inline void quitAtFirstFrame(QQuickWindow& window) {
+  QObject::connect(
+      &window, &QQuickWindow::frameSwapped, &window,
+      [] {
+        const auto now = std::chrono::steady_clock::now().time_since_epoch();
+        std::printf("%lld\n",
+                    static_cast<long long>(
+                        std::chrono::duration_cast<std::chrono::nanoseconds>(now).count()));
+        std::fflush(stdout);
+        std::_Exit(0);
+      },
+      Qt::DirectConnection);
+}
+
+}  // namespace quorix::bench

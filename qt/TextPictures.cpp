@@ -1,0 +1,75 @@
+#include "qt/TextPictures.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace quorix::qt {
+namespace {
+
+// The words and figures of a screen full of rows at three pixels a point.
+constexpr std::size_t maximumBytes = std::size_t{2} << 20;
+constexpr std::size_t maximumEntries = 128;
+
+/// `picture` without its empty borders.
+TextPictures::Picture cropped(const TextPictures::Picture& picture) {
+  const QImage& image = picture.image;
+  int left = image.width(), right = -1, top = image.height(), bottom = -1;
+  for (int y = 0; y < image.height(); ++y) {
+    const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+    const auto inked = [](QRgb pixel) { return pixel != 0; };
+    const auto* end = line + image.width();
+    const auto* first = std::find_if(line, end, inked);
+    if (first == end) continue;
+    const auto last = std::find_if(std::reverse_iterator(end), std::reverse_iterator(first), inked);
+    left = std::min(left, static_cast<int>(first - line));
+    right = std::max(right, static_cast<int>(last.base() - line) - 1);
+    top = std::min(top, y);
+    bottom = y;
+  }
+  if (bottom < 0) return {};
+  const QRect ink(QPoint(left, top), QPoint(right, bottom));
+  return {image.copy(ink), picture.offset + ink.topLeft()};
+}
+
+}  // namespace
+
+TextPictures::Entry* TextPictures::known(const render::TextItem& item, double scale) {
+  const std::size_t hash = TextIdentity{}(&item.text);
+  const auto [first, last] = index_.equal_range(hash);
+  for (auto row = first; row != last; ++row) {
+    const Entry& entry = *row->second;
+    if (entry.scale != scale || entry.width != item.frame.size.width || entry.text != item.text) {
+      continue;
+    }
+    entries_.splice(entries_.begin(), entries_, row->second);
+    return &entries_.front();
+  }
+  if (entries_.size() >= maximumEntries) dropLast();
+  entries_.push_front({item.text, item.frame.size.width, scale, false, {}});
+  index_.emplace(hash, entries_.begin());
+  return nullptr;
+}
+
+void TextPictures::keep(Entry& entry, Picture picture) {
+  entry.made = true;
+  entry.picture = cropped(picture);
+  bytes_ += static_cast<std::size_t>(entry.picture.image.sizeInBytes());
+  while (bytes_ > maximumBytes && entries_.size() > 1) dropLast();
+}
+
+void TextPictures::dropLast() {
+  const auto last = std::prev(entries_.end());
+  const auto [first, end] = index_.equal_range(TextIdentity{}(&last->text));
+  index_.erase(std::find_if(first, end, [&](const auto& row) { return row.second == last; }));
+  bytes_ -= static_cast<std::size_t>(last->picture.image.sizeInBytes());
+  entries_.erase(last);
+}
+
+void TextPictures::clear() {
+  index_.clear();
+  entries_.clear();
+  bytes_ = 0;
+}
+
+}  // namespace quorix::qt

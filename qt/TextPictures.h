@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QImage>
+#include <QPoint>
+#include <cstddef>
+#include <list>
+#include <unordered_map>
+
+#include "platform/render/Scene.h"
+#include "qt/TextIdentity.h"
+
+namespace quorix::qt {
+
+/// Texts as they look on nothing, for those that are painted over and over: a row's words are the
+/// same on every row. Main thread.
+class TextPictures {
+ public:
+  struct Picture {
+    QImage image;   ///< null: nothing to see
+    QPoint offset;  ///< of the image from the frame's top left corner; device pixels
+  };
+
+  /// The picture of `item` at `scale` device pixels a point. The first time there is none, since
+  /// most texts are not painted again; the second time `paint` makes it, an image that holds all of
+  /// the text's ink. The pointer holds until the next call.
+  template <class Paint>
+  const Picture* find(const render::TextItem& item, double scale, Paint paint) {
+    Entry* entry = known(item, scale);
+    if (!entry) return nullptr;
+    if (!entry->made) keep(*entry, paint());
+    return &entry->picture;
+  }
+
+  void clear();
+
+ private:
+  struct Entry {
+    text::AttributedText text;
+    double width = 0;
+    double scale = 1;
+    bool made = false;
+    Picture picture;
+  };
+  using Entries = std::list<Entry>;
+
+  Entry* known(const render::TextItem& item, double scale);
+  void keep(Entry& entry, Picture picture);
+  void dropLast();
+
+  Entries entries_;  ///< the latest used first
+  std::unordered_multimap<std::size_t, Entries::iterator> index_;
+  std::size_t bytes_ = 0;
+};
+
+}  // namespace quorix::qt
