@@ -13,8 +13,9 @@ struct Queue {
   MainQueue::Executor executor;
 };
 
+// Never destroyed: other threads may still enqueue while the process ends.
 Queue& queue() {
-  static Queue instance;
+  static Queue& instance = *new Queue;
   return instance;
 }
 

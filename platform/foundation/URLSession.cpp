@@ -33,8 +33,9 @@ struct URLSession::State {
 URLSession::URLSession() : state_(std::make_unique<State>()) {}
 URLSession::~URLSession() = default;
 
+// Never destroyed: requests on other threads may outlive the main function.
 URLSession& URLSession::shared() {
-  static URLSession session;
+  static URLSession& session = *new URLSession;
   return session;
 }
 
