@@ -4,6 +4,7 @@
 #include <QNetworkReply>
 #include <cstdlib>
 #include <string>
+#include <system_error>
 #include <thread>
 #include <utility>
 
@@ -89,7 +90,12 @@ void NetworkThread::perform(Job job) {
       return;
     }
   }
-  std::thread([completion = std::move(job.completion)] { completion(cancelled()); }).detach();
+  const auto end = [completion = std::move(job.completion)] { completion(cancelled()); };
+  try {
+    std::thread(end).detach();
+  } catch (const std::system_error&) {
+    end();  // no thread is to be had
+  }
 }
 
 void NetworkThread::startThread() {

@@ -14,8 +14,8 @@ inline constexpr std::string_view kResourceBundleIdentifier = "example.quorix.Qu
 /// edits, say) registered a bundle of its own before. Any thread.
 foundation::Bundle::Ref libraryBundle();
 
-/// The bundle that this library was built with: found on the first call, never null, and the same
-/// ever after. Any thread.
+/// The bundle of the library's generated asset symbols: what was registered at the first call, or
+/// else the embedded files; never null, and the same ever after. Any thread.
 const foundation::Bundle::Ref& resourceBundle();
 
 }  // namespace quorix

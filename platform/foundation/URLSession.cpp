@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <mutex>
+#include <system_error>
 #include <thread>
 #include <utility>
 
@@ -12,13 +13,18 @@ namespace {
 class NoNetwork final : public URLTransport {
  public:
   void start(const URL& url, Completion completion) override {
-    std::thread([url, completion = std::move(completion)] {
-      if (auto answer = URLSession::shared().answerInProcess(url)) {
-        completion(*std::move(answer));
+    const auto answer = [url, completion = std::move(completion)] {
+      if (auto inProcess = URLSession::shared().answerInProcess(url)) {
+        completion(*std::move(inProcess));
       } else {
         completion({Error{"URLSession", -1, "no network transport is installed"}, {}, 0});
       }
-    }).detach();
+    };
+    try {
+      std::thread(answer).detach();
+    } catch (const std::system_error&) {
+      answer();  // no thread is to be had
+    }
   }
 };
 

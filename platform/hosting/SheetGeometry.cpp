@@ -13,7 +13,8 @@ double SheetGeometry::largest() const {
 double SheetGeometry::contentHeight(const swiftui::PresentationDetents& detents) const {
   double height = largest();
   for (const swiftui::PresentationDetent& detent : detents) {
-    const double wanted = detent.points().value_or((window.height - safeArea.top) / 2);
+    const double available = std::max(0.0, window.height - safeArea.top);
+    const double wanted = detent.points().value_or(available / 2);
     height = std::min(height, wanted);
   }
   return height;

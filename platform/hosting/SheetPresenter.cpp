@@ -133,7 +133,7 @@ void SheetPresenter::present(const swiftui::Presentation& presentation) {
   state_->presentation = presentation;
   state_->closing = false;
   state_->closed = false;
-  state_->content.setRoot(presentation.content);
+  state_->content.updateRoot(presentation.content);
   state_->content.setOnScreen(true);
 }
 

@@ -50,7 +50,7 @@ struct ViewHost::State {
 };
 
 swiftui::Evaluation& ViewHost::State::evaluated() {
-  if (!evaluation) evaluateAgain();
+  while (!evaluation) evaluateAgain();  // a client that was told may have used one up already
   return *evaluation;
 }
 
@@ -125,6 +125,14 @@ ViewHost::~ViewHost() = default;
 
 void ViewHost::setRoot(swiftui::View root) {
   state_->graph.setRoot(std::move(root));
+  state_->geometry.clear();
+  state_->pressed.reset();
+  state_->focused = -1;
+  state_->changed();
+}
+
+void ViewHost::updateRoot(swiftui::View root) {
+  state_->graph.updateRoot(std::move(root));
   state_->changed();
 }
 

@@ -31,7 +31,11 @@ class ViewHost {
   ViewHost(const ViewHost&) = delete;
   ViewHost& operator=(const ViewHost&) = delete;
 
+  /// Shows another view: it begins afresh, and a sheet of the one before goes.
   void setRoot(swiftui::View root);
+  /// Shows the same view with other values, as when an enclosing body was evaluated again: its
+  /// states stay.
+  void updateRoot(swiftui::View root);
   void setEnvironment(const swiftui::Environment& environment);
   const swiftui::Environment& environment() const;
 

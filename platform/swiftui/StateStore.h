@@ -15,6 +15,7 @@ class StateStore {
   explicit StateStore(std::function<void()> onChange) : onChange_(std::move(onChange)) {}
 
   StateSlots& states(const TreePath& path);
+  void clear() { entries_.clear(); }
   void beginEvaluation();
   void endEvaluation();
 

@@ -15,6 +15,14 @@ ViewGraph::ViewGraph(std::function<void()> onInvalidate)
 
 ViewGraph::~ViewGraph() = default;
 
+void ViewGraph::setRoot(View root) {
+  if (root.node() == root_.node()) return;
+  root_ = std::move(root);
+  store_.clear();
+  subscriptions_.clear();
+  runningTasks_.clear();
+}
+
 void ViewGraph::setOnScreen(bool onScreen) {
   if (onScreen_ == onScreen) return;
   onScreen_ = onScreen;

@@ -20,7 +20,10 @@ class ViewGraph {
   ViewGraph(const ViewGraph&) = delete;
   ViewGraph& operator=(const ViewGraph&) = delete;
 
-  void setRoot(View root) { root_ = std::move(root); }
+  /// Shows another view: states and tasks of the one before end.
+  void setRoot(View root);
+  /// Shows the same view with other values: states and tasks go on.
+  void updateRoot(View root) { root_ = std::move(root); }
 
   /// What the graph subscribed and started on screen ends when it leaves; coming back, the next
   /// evaluation begins it again.
