@@ -31,6 +31,13 @@ QRectF viewportIn(const QQuickItem* parent) {
   return parent->parentItem() ? own.intersected(viewportIn(parent->parentItem())) : own;
 }
 
+/// What is as good as seen: a flick brings it into view before the next frame could paint it.
+QRectF seenIn(const QQuickItem* parent) {
+  constexpr double margin = 160;
+  const QRectF viewport = viewportIn(parent);
+  return viewport.isEmpty() ? viewport : viewport.adjusted(-margin, -margin, margin, margin);
+}
+
 }  // namespace
 
 WindowWatcher& WindowWatcher::of(QQuickWindow& window) {
@@ -86,11 +93,11 @@ bool WindowWatcher::isWindowVisible() const {
   return window_.isVisible() && window_.visibility() != QWindow::Minimized;
 }
 
-QRectF WindowWatcher::viewportOf(const QQuickItem& item) { return viewportIn(item.parentItem()); }
+QRectF WindowWatcher::viewportOf(const QQuickItem& item) { return seenIn(item.parentItem()); }
 
 bool WindowWatcher::update(Group& group, const QQuickItem& parent) {
   const QTransform toWindow = parent.itemTransform(nullptr, nullptr);
-  const QRectF viewport = viewportIn(&parent);
+  const QRectF viewport = seenIn(&parent);
   group.moved = toWindow != group.toWindow || viewport != group.viewport;
   if (!group.moved) return false;
   group.toWindow = toWindow;

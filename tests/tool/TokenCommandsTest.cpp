@@ -58,7 +58,7 @@ TEST(ToolDecode, ReadsTheStandardInput) {
   const std::string token = tool.mint();
   const auto run = tool.run({"decode", "-"}, " " + token.substr(0, token.rfind('.')) + "\r\n");
   EXPECT_EQ(run.status, 0);
-  EXPECT_EQ(objectOf(run.out)["returnsFee"].toInteger(), 499);
+  EXPECT_EQ(objectOf(run.out)["returnsFee"].toInteger(), 600);
 }
 
 struct Refusal {

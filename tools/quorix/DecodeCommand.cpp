@@ -19,7 +19,9 @@ std::string json(const TokenData& figures) {
 }
 
 Outcome decode(const Arguments& arguments) {
-  const auto reading = readToken(tokenText(arguments.operand()));
+  const auto token = tokenText(arguments.operand());
+  if (const auto* failure = std::get_if<Failure>(&token)) return *failure;
+  const auto reading = readToken(std::get<std::string>(token));
   if (const auto* refusal = std::get_if<TokenRefusal>(&reading)) return refused(*refusal);
   return json(std::get<TokenData>(reading));
 }

@@ -7,7 +7,10 @@ namespace quorix::tool {
 std::variant<std::string, Failure> readInputFile(const std::string& path) {
   QFile file(QString::fromStdString(path));
   if (file.open(QIODevice::ReadOnly)) {
-    const QByteArray bytes = file.readAll();
+    const QByteArray bytes = file.read(static_cast<qint64>(largestInput) + 1);
+    if (static_cast<std::size_t>(bytes.size()) > largestInput) {
+      return Failure::refused("can't use " + path + ": it is over 64 MB");
+    }
     if (file.error() == QFileDevice::NoError) return bytes.toStdString();
   }
   return Failure::refused("can't read " + path + ": " + file.errorString().toStdString());

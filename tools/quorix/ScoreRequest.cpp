@@ -110,7 +110,9 @@ std::variant<ScoreRequest, Failure> ScoreRequest::read(const Arguments& argument
   request.picture.sheet = arguments.has("--sheet");
   readOutputs(read, arguments, request);
   if (read.failure()) return *read.failure();
-  request.token = tokenText(token);
+  auto text = tokenText(token);
+  if (auto* failure = std::get_if<Failure>(&text)) return std::move(*failure);
+  request.token = std::get<std::string>(std::move(text));
   return request;
 }
 

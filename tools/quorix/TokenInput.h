@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <variant>
 
 #include "QuorixWidgets/data/TokenData.h"
 #include "tools/quorix/Failure.h"
@@ -9,8 +10,8 @@
 namespace quorix::tool {
 
 /// The token that `argument` is, or for "-" the one on the standard input, without the blanks and
-/// line ends around it.
-std::string tokenText(std::string_view argument);
+/// line ends around it. Input that goes on and on is a failure.
+std::variant<std::string, Failure> tokenText(std::string_view argument);
 
 /// The failure that says why a token can't be used.
 Failure refused(TokenRefusal refusal);
