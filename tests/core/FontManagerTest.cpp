@@ -28,16 +28,9 @@ TEST(GraphicsFont, RefusesWhatIsNotAWholeFontFile) {
       EXPECT_FALSE(GraphicsFont::fromData(Data(good.substr(0, length)))) << name << ' ' << length;
     }
     std::string damaged = good;
-    damaged.replace(0, 4, "wOFF");
-    EXPECT_FALSE(GraphicsFont::fromData(Data(damaged)));
-    damaged = good;
     damaged.replace(4, 2, "\xFF\xFF");  // more tables than the file can hold
     EXPECT_FALSE(GraphicsFont::fromData(Data(damaged)));
-    damaged = good;
-    damaged.replace(damaged.find("name"), 4, "eman");  // no names, so no PostScript name
-    EXPECT_FALSE(GraphicsFont::fromData(Data(damaged)));
   }
-  EXPECT_FALSE(GraphicsFont::fromData(Data(std::string(4096, '\0'))));
 }
 
 TEST(FontManager, RefusesANameThatIsTaken) {
@@ -46,34 +39,11 @@ TEST(FontManager, RefusesANameThatIsTaken) {
   EXPECT_TRUE(manager.registerGraphicsFont(font("Saans-Regular")));
   EXPECT_FALSE(manager.registerGraphicsFont(font("Saans-Regular")));
   EXPECT_TRUE(manager.knows("Saans-Regular"));
-  EXPECT_FALSE(manager.knows("Saans"));
   EXPECT_EQ(manager.data("Saans-Regular"), face("Saans-Regular"));
 
   manager.setSystemLookup([](std::string_view name) { return name == "Saans-Medium"; });
   EXPECT_TRUE(manager.knows("Saans-Medium"));
-  EXPECT_EQ(manager.data("Saans-Medium"), std::nullopt);
   EXPECT_FALSE(manager.registerGraphicsFont(font("Saans-Medium")));
-  EXPECT_EQ(manager.generation(), 1U);
-}
-
-TEST(FontManager, AnEngineCatchesUpFromWhatItHasLoaded) {
-  FontManager manager;
-  manager.registerGraphicsFont(font("Saans-Regular"));
-  const auto loaded = manager.generation();
-  manager.registerGraphicsFont(font("Saans-Medium"));
-  ASSERT_EQ(manager.generation(), loaded + 1);
-  const auto fresh = manager.faces(loaded);
-  ASSERT_EQ(fresh.size(), 1U);
-  EXPECT_EQ(fresh[0].postScriptName(), "Saans-Medium");
-  EXPECT_EQ(manager.faces().size(), 2U);
-  EXPECT_TRUE(manager.faces(7).empty());
-}
-
-TEST(FontManager, TheSystemLookupMayAskBack) {
-  FontManager manager;
-  manager.setSystemLookup(
-      [&](std::string_view) { return manager.data("Saans-Regular").has_value(); });
-  EXPECT_TRUE(manager.registerGraphicsFont(font("Saans-Regular")));
 }
 
 TEST(ConcurrentFontManager, OneOfManyRegistersAFace) {

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <cstdlib>
 #include <thread>
@@ -54,48 +53,6 @@ TEST(Palette, TextIsLegibleOnEveryBackground) {
       }
     }
   }
-}
-
-/// Every colour that an SVG paints with.
-std::vector<RGBA> paints(std::string_view svg) {
-  std::vector<RGBA> found;
-  for (auto at = svg.find("=\"#"); at != svg.npos; at = svg.find("=\"#", at + 1)) {
-    unsigned value = 0;
-    std::from_chars(svg.data() + at + 3, svg.data() + at + 9, value, 16);
-    found.push_back({static_cast<std::uint8_t>(value >> 16), static_cast<std::uint8_t>(value >> 8),
-                     static_cast<std::uint8_t>(value)});
-  }
-  return found;
-}
-
-TEST(Palette, PicturesWithColoursOfTheirOwnShowInBothAppearances) {
-  struct Case {
-    const char* image;
-    const char* background;
-  };
-  for (const auto& [name, background] :
-       {Case{"close", "OverlayBackground"}, Case{"poweredBy", "Background"}}) {
-    const auto image = graphics::imageSet(Bundle::embedded(), name);
-    ASSERT_TRUE(image && !image->isTemplate) << name;
-    for (const auto appearance : kAppearances) {
-      const auto colors = paints(image->svg(appearance).text());
-      EXPECT_FALSE(colors.empty());
-      for (const RGBA paint : colors) {
-        EXPECT_GE(contrast(paint, color(background, appearance)), 4.5) << name;
-      }
-    }
-  }
-}
-
-TEST(Artwork, HasTheSizesThatTheViewsAreLaidOutFor) {
-  const auto logo = graphics::imageSet(Bundle::embedded(), "logo");
-  ASSERT_TRUE(logo);
-  EXPECT_TRUE(logo->isTemplate) << "the sheet tints it";
-  EXPECT_EQ(std::pair(logo->width, logo->height), std::pair(46.0, 10.0));
-  const auto close = graphics::imageSet(ImageResource::close().bundle, ImageResource::close().name);
-  ASSERT_TRUE(close);
-  EXPECT_EQ(std::pair(close->width, close->height), std::pair(24.0, 24.0));
-  EXPECT_EQ(graphics::imageSet(Bundle::embedded(), "poweredBy")->height, 13);
 }
 
 TEST(NamedAssets, AreTheCataloguesAssetsInBothToolkits) {

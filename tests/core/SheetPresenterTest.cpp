@@ -42,15 +42,12 @@ TEST_F(ScoreSheet, IsOfMediumHeightUntilItsContentIsMeasured) {
   MainQueue::drain();
   EXPECT_EQ(panelHeight(), 305) << "without motion it is there at once";
   EXPECT_FALSE(window.sheet->isMoving());
-}
-
-TEST_F(ScoreSheet, KeepsItsHeightOverClosingAndOpening) {
-  open().tap("Close");
+  window.tap("Close");
   window.settle();
   ASSERT_FALSE(window.sheet);
   window.tap(row);
   MainQueue::drain();
-  EXPECT_EQ(panelHeight(), 305);
+  EXPECT_EQ(panelHeight(), 305) << "kept over closing and opening";
 }
 
 TEST_F(ScoreSheet, FollowsItsContentAndTheWindow) {
@@ -185,32 +182,6 @@ TEST_F(ScoreSheet, OnItsWayOutItTakesNoTapButMayBeCalledBack) {
   EXPECT_EQ(panelHeight(), 305);
 }
 
-TEST_F(ScoreSheet, KeepsTheFocusInside) {
-  open();
-  EXPECT_FALSE(window.sheet->focusFrame());
-  for (const bool forward : {true, true, false}) {
-    window.sheet->moveFocus(forward);
-    EXPECT_EQ(window.sheet->focusFrame(), window.element("Close").frame);
-  }
-  EXPECT_EQ(window.sheet->focusFrame(), (layout::Rect{{280, 335 + 22}, {24, 24}}));
-  window.sheet->activateFocus();
-  window.settle();
-  EXPECT_FALSE(window.sheet);
-}
-
-TEST_F(ScoreSheet, BelongsToItsOwnRow) {
-  TestWindow other(testing::scoreView(true), {}, {320, 480});
-  open();
-  other.tap("Your return fee Discounted €2.00, Original €4.00");
-  other.settle();
-  window.tap("Close");
-  window.settle();
-  EXPECT_FALSE(window.sheet);
-  ASSERT_TRUE(other.sheet);
-  EXPECT_NO_THROW(other.element("Discounted €2.00, Original €4.00"));
-  EXPECT_EQ(other.sheet->panelFrame().top(), 480 - 305);
-}
-
 /// Up from the start.
 struct Presenting {
   static constexpr std::string_view typeName = "Presenting";
@@ -219,19 +190,6 @@ struct Presenting {
   auto states() const { return std::tie(up); }
   View body() const { return View(Text::verbatim("row")).sheet(up.binding(), content); }
 };
-
-TEST(SheetPresenter, AnActionInTheSheetMayDestroyEverything) {
-  std::optional<TestWindow> window;
-  const auto destroy = [&window] { window.reset(); };
-  const View content = View(Text::verbatim("close the window")).onTapGesture(destroy);
-  for (const bool byTap : {true, false}) {
-    window.emplace(Presenting{content});
-    window->settle();
-    ASSERT_TRUE(window->sheet);
-    byTap ? window->tap("close the window") : void(window->sheet->activate(0));
-    EXPECT_FALSE(window);
-  }
-}
 
 TEST(SheetPresenter, StandsOnTheWindowsSafeBottom) {
   const View content = View(Text::verbatim("x"))

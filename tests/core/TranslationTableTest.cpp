@@ -58,32 +58,6 @@ TEST(TranslationTable, IsRefusedWholeForOneWrongValue) {
   }
 }
 
-TEST(TranslationTable, LooksUpBySectionAndKey) {
-  const auto table = TranslationTable::make(
-      {{"b", "x", "1"}, {"a", "y", "2"}, {"a", "x", ""}, {"", "", "3"}, {"ab", "", "4"}});
-  EXPECT_EQ(table->text("b", "x"), "1");
-  EXPECT_EQ(table->text("a", "y"), "2");
-  EXPECT_EQ(table->text("a", "x"), "");
-  EXPECT_EQ(table->text("", ""), "3");
-  EXPECT_EQ(table->text("ab", ""), "4");
-  for (const auto& [section, key] : {std::pair("a", "b"), {"c", "x"}, {"a", ""}, {"", "a"}}) {
-    EXPECT_EQ(table->text(section, key), "") << section << key;
-  }
-}
-
-TEST(TranslationTable, ComesFromAResponseWhateverItsStatus) {
-  using quorix::foundation::URLResponse;
-  EXPECT_EQ(outcome(readTranslationTable(URLResponse{{}, R"({"a":{}})", 404})), "table");
-
-  const auto noBody = std::get<Error>(readTranslationTable(URLResponse{{}, {}, 200}));
-  EXPECT_EQ(noBody.domain, "Localization");
-  EXPECT_EQ(noBody.code, -1);
-  const auto offline =
-      std::get<Error>(readTranslationTable(URLResponse{Error{"net", 7, "x"}, R"({"a":{}})", 0}));
-  EXPECT_EQ(offline.domain, "net");
-  EXPECT_EQ(offline.code, 7);
-}
-
 TEST(BuiltInTranslations, AreChosenByTheExactLocale) {
   const auto english = quorix::builtInTranslations("en");
   const auto spanish = quorix::builtInTranslations("es");

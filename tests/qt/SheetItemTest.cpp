@@ -67,15 +67,6 @@ TEST(SheetItem, EveryWayClosesItAndGivesTheFocusBack) {
   }
 }
 
-TEST(SheetItem, APullThatGoesBackLeavesItOpen) {
-  QuickScreen screen;
-  screen.add(FeeRow("4 €"), kPlace);
-  screen.click("Row 4 €");
-  const QPoint rest = screen.centreOf("Fee 4 €");
-  screen.drag({180, 420}, {180, 460}, 900, false);
-  EXPECT_EQ(screen.centreOf("Fee 4 €"), rest);
-}
-
 TEST(SheetItem, HoldsTheFocusInside) {
   QuickScreen screen;
   screen.addFocusable();
@@ -143,32 +134,6 @@ TEST(SheetItem, RowsOfOneWindowHaveTheirOwn) {
     EXPECT_EQ(screen.shows("Fee 9 €"), fee == "9 €");
     screen.key(Qt::Key_Escape);
   }
-}
-
-TEST(SheetItem, FollowsTheWindowAndTheView) {
-  QuickScreen screen;
-  const FeeRow row("4 €");
-  screen.add(row, kPlace);
-  screen.click("Row 4 €");
-  const int top = screen.centreOf("Fee 4 €").y();
-  screen.window().resize(360, 700);
-  screen.settle();
-  EXPECT_EQ(screen.centreOf("Fee 4 €").y(), top + 100);
-  row.model->fee = "5 €";
-  screen.settle();
-  EXPECT_EQ(screen.centreOf("Fee 5 €").y(), top + 100);
-}
-
-TEST(SheetItem, IsPaintedForTheAppearance) {
-  QuickScreen screen;
-  qt::ViewItem* row = screen.add(FeeRow("4 €"), kPlace);
-  screen.click("Row 4 €");
-  const QPoint corner(300, 590);
-  const int scale = static_cast<int>(screen.window().effectiveDevicePixelRatio());
-  EXPECT_GT(screen.grab().pixelColor(corner * scale).lightness(), 240);
-  row->setAppearance(graphics::Appearance::dark);
-  screen.settle();
-  EXPECT_LT(screen.grab().pixelColor(corner * scale).lightness(), 60);
 }
 
 TEST(SheetItem, GoesWithItsRow) {

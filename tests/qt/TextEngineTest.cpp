@@ -82,28 +82,6 @@ TEST_P(TextEngineSample, BreaksTheSameAtItsOwnWidth) {
   }
 }
 
-TEST_P(TextEngineSample, AnswersAlikeInAnyOrder) {
-  QtTextEngine engine;
-  for (const double width : {50.0, 0.0, layout::infinity, 80.0, 0.0, 50.0, 120.0, 81.0, 30.0}) {
-    QtTextEngine fresh;
-    EXPECT_EQ(engine.measure(GetParam().text, width), fresh.measure(GetParam().text, width));
-  }
-}
-
-TEST_P(TextEngineSample, GrowsInProportionToItsSize) {
-  AttributedText doubled = GetParam().text;
-  for (text::Run& run : doubled.runs) run.font.points *= 2;
-  QtTextEngine engine;
-  for (const double width : {70.0, 140.0, layout::infinity}) {
-    const TextMetrics once = engine.measure(GetParam().text, width);
-    const TextMetrics twice = engine.measure(doubled, 2 * width);
-    EXPECT_EQ(twice.lines, once.lines);
-    EXPECT_NEAR(twice.size.width, 2 * once.size.width, 3.0 / 64);
-    EXPECT_NEAR(twice.size.height, 2 * once.size.height, 1e-6);
-    EXPECT_NEAR(twice.lastBaseline, 2 * once.lastBaseline, 1e-6);
-  }
-}
-
 INSTANTIATE_TEST_SUITE_P(Texts, TextEngineSample, ::testing::ValuesIn(samples()),
                          [](const auto& row) { return std::string(row.param.name); });
 
@@ -128,15 +106,6 @@ TEST(TextEngine, AnEmptyTextHasALineAndNoWidth) {
   }
   EXPECT_EQ(engine.measure({}, 100).lines, 1);
   EXPECT_GT(engine.measure({}, 100).size.height, 0);
-}
-
-TEST(TextEngine, LinesAddUp) {
-  QtTextEngine engine;
-  const TextMetrics one = engine.measure(plainText("a"), layout::infinity);
-  const TextMetrics three = engine.measure(plainText("a\na\na"), layout::infinity);
-  EXPECT_EQ(three.lines, 3);
-  EXPECT_DOUBLE_EQ(three.size.height, 3 * one.size.height);
-  EXPECT_DOUBLE_EQ(three.lastBaseline, 2 * one.size.height + one.firstBaseline);
 }
 
 TEST(TextEngine, PaintsWhatItMeasuredWithoutShapingAgain) {

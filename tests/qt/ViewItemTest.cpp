@@ -159,41 +159,6 @@ TEST(ViewItem, HasAPictureOnlyInTheViewport) {
   EXPECT_EQ(pictured(), std::make_pair(50, 57));
 }
 
-TEST(ViewItem, TextIsAsCrispAtAFractionalPlaceAsAtAWholeOne) {
-  QuickScreen screen;
-  screen.window().setColor(Qt::white);
-  auto* parent = new QQuickItem(screen.window().contentItem());
-  qt::ViewItem* item = screen.add(FeeRow("4 €"), kPlace);
-  item->setParentItem(parent);
-  screen.settle();
-  const QImage whole = screen.grab();
-  parent->setPosition({0.3, -0.4});
-  screen.settle();
-  EXPECT_EQ(screen.grab(), whole);
-  parent->setPosition({0, 1});
-  screen.settle();
-  EXPECT_NE(screen.grab(), whole);
-}
-
-TEST(ViewItem, FollowsThePaletteUnlessTheHostSaysOtherwise) {
-  QuickScreen screen;
-  const QPalette light = QGuiApplication::palette();
-  qt::ViewItem* follows =
-      screen.add(swiftui::VStack(layout::HorizontalAlignment::center, 0, {swiftui::Divider()}),
-                 {0, 10, 300, 20});
-  const QImage before = screen.grab();
-  QPalette dark = light;
-  dark.setColor(QPalette::Window, Qt::black);
-  dark.setColor(QPalette::WindowText, Qt::white);
-  QGuiApplication::setPalette(dark);
-  screen.settle();
-  EXPECT_NE(screen.grab(), before);
-  follows->setAppearance(graphics::Appearance::light);
-  screen.settle();
-  EXPECT_EQ(screen.grab(), before);
-  QGuiApplication::setPalette(light);
-}
-
 TEST(ViewItem, TabReachesTheRowShowsARingAroundItAndLeaves) {
   QuickScreen screen;
   QQuickItem* other = screen.addFocusable();
@@ -262,16 +227,6 @@ TEST(ViewItem, AFingerThatScrollsTapsNothing) {
   }
   screen.drag(screen.centreOf("Row 4 €"), screen.centreOf("Row 4 €"), 50, true);
   EXPECT_TRUE(screen.shows("Fee 4 €"));
-}
-
-TEST(ViewItem, PointsAtWhatCanBeTapped) {
-  QuickScreen screen;
-  qt::ViewItem* row = screen.add(FeeRow("4 €"), kPlace);
-  qt::ViewItem* text = screen.add(paragraph(), {20, 200, 300, 0});
-  QTest::mouseMove(&screen.window(), screen.centreOf("Row 4 €"));
-  screen.settle();
-  EXPECT_EQ(row->cursor().shape(), Qt::PointingHandCursor);
-  EXPECT_EQ(text->cursor().shape(), Qt::ArrowCursor);
 }
 
 TEST(ViewItem, RunsTasksEachTimeItComesOnScreen) {
