@@ -33,8 +33,9 @@ struct URLSession::State {
 URLSession::URLSession() : state_(std::make_unique<State>()) {}
 URLSession::~URLSession() = default;
 
+// Never destroyed: a request's thread may still ask for it while the process ends.
 URLSession& URLSession::shared() {
-  static URLSession session;
+  static URLSession& session = *new URLSession;
   return session;
 }
 
