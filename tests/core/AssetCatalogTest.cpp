@@ -4,7 +4,6 @@
 
 #include "platform/graphics/AssetContents.h"
 #include "platform/graphics/ColorComponents.h"
-#include "platform/graphics/SvgSize.h"
 #include "tests/core/MemoryBundle.h"
 
 namespace quorix::graphics {
@@ -81,32 +80,6 @@ TEST(AssetContents, ChoosesTheEntryForEachAppearance) {
     if (!set) continue;
     EXPECT_EQ(set->resolve(Appearance::light).green, *light) << json;
     EXPECT_EQ(set->resolve(Appearance::dark).green, *dark) << json;
-  }
-}
-
-TEST(SvgSize, ReadsTheRootElementOnly) {
-  struct Case {
-    std::string_view svg;
-    std::optional<std::pair<double, double>> size;
-  };
-  using Size = std::pair<double, double>;
-  const Case cases[] = {
-      {R"(<svg width="24" height="12.5"/>)", Size{24, 12.5}},
-      {"\xEF\xBB\xBF<?xml version=\"1.0\"?>\n<!DOCTYPE svg>\n<!-- <svg width=\"9\"> -->\n"
-       "<svg\n viewBox=\"0 0 46 10\" data-x='>' />",
-       Size{46, 10}},
-      {R"(<svg width="100%" height="100%" viewBox="0,0,3,4">)", Size{3, 4}},
-      {R"(<svg stroke-width="3" viewBox="-1 -1 5 6"><rect width="9" height="9"/></svg>)",
-       Size{5, 6}},
-      {R"(<svg width="0" height="5">)", {}},
-      {"<!-- <svg width='1' height='5'>", {}},
-      {"", {}},
-  };
-  for (const auto& [svg, expected] : cases) {
-    const auto size = readSvgSize(svg);
-    ASSERT_EQ(size.has_value(), expected.has_value()) << svg;
-    if (!size) continue;
-    EXPECT_EQ(Size(size->width, size->height), *expected) << svg;
   }
 }
 

@@ -87,18 +87,5 @@ TEST_P(BundleTest, NothingOutsideIsReached) {
 INSTANTIATE_TEST_SUITE_P(Kinds, BundleTest, ::testing::Bool(),
                          [](const auto& kind) { return kind.param ? "Folder" : "Embedded"; });
 
-TEST(BundleRegistry, LaterRegistrationReplacesAndNullRemoves) {
-  const auto first = testing::memoryBundle({{"a", "1"}});
-  const auto second = testing::memoryBundle({{"a", "2"}});
-  EXPECT_EQ(Bundle::withIdentifier("test.registry"), nullptr);
-  Bundle::registerBundle("test.registry", first);
-  Bundle::registerBundleIfAbsent("test.registry", second);
-  EXPECT_EQ(Bundle::withIdentifier("test.registry"), first);
-  Bundle::registerBundle("test.registry", second);
-  EXPECT_EQ(Bundle::withIdentifier("test.registry"), second);
-  Bundle::registerBundle("test.registry", nullptr);
-  EXPECT_EQ(Bundle::withIdentifier("test.registry"), nullptr);
-}
-
 }  // namespace
 }  // namespace quorix::foundation

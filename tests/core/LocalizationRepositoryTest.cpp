@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <thread>
+
 #include "QuorixWidgets/localization/BuiltInTranslations.h"
 #include "QuorixWidgets/localization/LocalizationRepository.h"
 #include "platform/foundation/MainQueue.h"
@@ -65,6 +67,20 @@ TEST_F(LocalizationRepositoryTest, KeepsTheLastTableToArrive) {
   network_->held.at(0)(answer(R"({"a":{"b":"first"}})"));
   EXPECT_EQ(MainQueue::drain(), 2) << "neither dropped nor merged";
   EXPECT_EQ(repository->strings.get()->text("a", "b"), "first");
+}
+
+TEST(ConcurrentLocalizationRepository, MayGoWhileItsAnswerArrives) {
+  for (int round = 0; round < 100; ++round) {
+    const auto network = testing::HeldTransport::install();
+    auto repository = LocalizationRepository::make("en");
+    const std::weak_ptr<LocalizationRepository> weak = repository;
+    repository->update();
+    std::thread arriving([&] { network->held.at(0)(answer(R"({"a":{"b":"c"}})")); });
+    repository.reset();
+    EXPECT_TRUE(weak.expired()) << "a request in flight keeps nothing alive";
+    arriving.join();
+    EXPECT_EQ(MainQueue::drain(), 1);
+  }
 }
 
 }  // namespace

@@ -55,31 +55,6 @@ TEST(Palette, TextIsLegibleOnEveryBackground) {
   }
 }
 
-TEST(NamedAssets, AreTheCataloguesAssetsInBothToolkits) {
-  struct Case {
-    const swiftui::Color& color;
-    const uikit::UIColor::Ref& imperative;
-    std::string_view asset;
-  };
-  const Case cases[] = {
-      {Color::widgetBackground(), UIColor::widgetBackground(), "Background"},
-      {Color::defaultFontColor(), UIColor::defaultFontColor(), "DefaultFontColor"},
-      {Color::overlayBackgrounColor(), UIColor::overlayBackgrounColor(), "OverlayBackground"},
-  };
-  for (const auto& [declarative, imperative, asset] : cases) {
-    EXPECT_EQ(declarative, swiftui::Color(asset, libraryBundle()));
-    for (const auto appearance : kAppearances) {
-      EXPECT_EQ(declarative.resolve(appearance), color(asset, appearance));
-      EXPECT_EQ(imperative->resolve(appearance), color(asset, appearance));
-    }
-  }
-  EXPECT_EQ(&UIColor::defaultFontColor(), &UIColor::defaultFontColor());
-  EXPECT_EQ(swiftui::Color(ColorResource::grey1()).resolve(Appearance::dark),
-            color("Grey1", Appearance::dark));
-  EXPECT_EQ(swiftui::Color(ColorResource::grey2()).resolve(Appearance::light),
-            color("Grey2", Appearance::light));
-}
-
 /// What is made once in a process is tried in a process of its own.
 class ResourcesDeathTest : public ::testing::Test {
  protected:
@@ -99,9 +74,6 @@ TEST_F(ResourcesDeathTest, AMissingColourStopsTheImperativeFormOnly) {
   EXPECT_DEATH((replaceLibraryBundle(empty), UIColor::widgetBackground()),
                "^QuorixWidgets/Colors: Fatal error: No color named 'Background' in the asset "
                "catalog\n$");
-  EXPECT_DEATH((replaceLibraryBundle(empty), UIColor::defaultFontColor()), "'DefaultFontColor'");
-  EXPECT_DEATH((replaceLibraryBundle(empty), UIColor::overlayBackgrounColor()),
-               "'OverlayBackground'");
 }
 
 TEST_F(ResourcesDeathTest, WithoutALibraryBundleTheHostsMainBundleAnswers) {
@@ -130,8 +102,7 @@ TEST(ConcurrentResources, FirstReadsFromManyThreadsAgree) {
       EXPECT_TRUE(graphics::imageSet(ImageResource::close().bundle, "close"));
       EXPECT_EQ(ColorResource::grey1().bundle, resourceBundle());
       // A bundle that comes and goes while others are read.
-      const auto passing = testing::memoryBundle({});
-      EXPECT_FALSE(graphics::colorSet(passing, "Grey1"));
+      EXPECT_FALSE(graphics::colorSet(testing::memoryBundle({}), "Grey1"));
     });
   }
   for (auto& thread : threads) thread.join();

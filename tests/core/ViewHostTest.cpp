@@ -160,25 +160,5 @@ hit 280 0 24 46
 )");
 }
 
-TEST(ScenePrinter, WritesStrictJSON) {
-  render::Scene scene;
-  scene.size = {10, 1.0 / 3};
-  EXPECT_EQ(render::accessibilityToJSON(scene), "[]\n");
-  scene.accessibility.push_back({{}, render::Role::image, "a\"\\\n\x01é", "h", {}});
-  scene.items.emplace_back(render::StrokeItem{{{-0.0001, 1}, {2, 3}}, {1, 2, 3, 4}, 0.5});
-  scene.hitAreas.push_back({{{1, 2}, {3, 4}}, {}});
-  EXPECT_EQ(render::framesToJSON(scene),
-            R"({"size": {"width": 10, "height": 0.333},
-"items":
-[{"kind": "stroke", "frame": {"x": 0, "y": 1, "width": 2, "height": 3}, "color": "#01020304", "width": 0.5}],
-"hitAreas":
-[{"kind": "hit", "frame": {"x": 1, "y": 2, "width": 3, "height": 4}}]}
-)");
-  EXPECT_EQ(render::accessibilityToJSON(scene),
-            R"([{"kind": "image", "frame": {"x": 0, "y": 0, "width": 0, "height": 0}, )"
-            R"("label": "a\"\\\n\u0001é", "hint": "h", "acts": false}])"
-            "\n");
-}
-
 }  // namespace
 }  // namespace quorix

@@ -46,11 +46,5 @@ TEST(Picture, AnImpossibleSizeIsNull) {
   EXPECT_TRUE(picture(View(), sized(100, std::nullopt, 1)).isNull());
 }
 
-TEST(Picture, StandsOnTheHostsBackground) {
-  PictureOptions options = sized(60, 40, 1);
-  options.background = graphics::RGBA{0, 0, 0, 0};
-  EXPECT_EQ(picture(View(), options).pixelColor(0, 0).alpha(), 0);
-}
-
 }  // namespace
 }  // namespace quorix::qt

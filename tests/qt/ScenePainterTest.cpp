@@ -43,17 +43,6 @@ std::optional<QRect> inked(const QImage& image) {
   return bounds.isNull() ? std::nullopt : std::optional(bounds);
 }
 
-TEST(ScenePainter, StandsOnTheBaselineThatWasMeasured) {
-  const text::AttributedText text = plainText("HEH", 20);
-  for (const double scale : {1.0, 2.0, 3.0}) {
-    const auto ink = inked(painted(textAt({5, 4}, text), {80, 40}, scale));
-    ASSERT_TRUE(ink);
-    const double baseline = 4 + QtTextEngine::shared().measure(text, 200).firstBaseline;
-    EXPECT_NEAR(ink->bottom() + 1, baseline * scale, 1);
-    EXPECT_NEAR(ink->left(), 5 * scale, 3 * scale);
-  }
-}
-
 TEST(ScenePainter, RightToLeftTextStartsAtTheRight) {
   for (const char* words :
        {"رسوم الإرجاع", "HIH", "رسوم الإرجاع الخاصة بك تعتمد على معدل الإرجاع"}) {
@@ -64,25 +53,8 @@ TEST(ScenePainter, RightToLeftTextStartsAtTheRight) {
   }
 }
 
-TEST(ScenePainter, StrokesJustInsideTheFrame) {
-  for (const double scale : {1.0, 1.5, 3.0}) {
-    const QImage image = painted(render::StrokeItem{{{2, 2}, {20, 10}}, red, 2}, {24, 14}, scale);
-    const auto at = [&](double x, double y) {
-      return image.pixelColor(static_cast<int>(x * scale), static_cast<int>(y * scale)).alpha();
-    };
-    for (const double x : {2.0, 3.4, 12.0, 21.4}) EXPECT_EQ(at(x, 2.5), 255) << x;
-    for (const double y : {2.5, 7.0, 11.4}) EXPECT_EQ(at(21, y), 255) << y;
-    for (const double x : {1.0, 12.0, 22.5}) EXPECT_EQ(at(x, 7), 0) << x;
-  }
-}
-
 render::ImageItem imageNamed(const char* name, RGBA tint = {}) {
   return {{{0, 0}, {46, 24}}, name, libraryBundle(), tint};
-}
-
-TEST(ScenePainter, TintsTemplateImagesAlone) {
-  EXPECT_NE(painted(imageNamed("logo", red), {46, 24}), painted(imageNamed("logo"), {46, 24}));
-  EXPECT_EQ(painted(imageNamed("close", red), {46, 24}), painted(imageNamed("close"), {46, 24}));
 }
 
 TEST(ScenePainter, AMissingImageDrawsNothing) {

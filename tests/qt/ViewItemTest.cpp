@@ -182,27 +182,6 @@ TEST(ViewItem, TabReachesTheRowShowsARingAroundItAndLeaves) {
   QTest::mouseRelease(&screen.window(), Qt::LeftButton, {}, {1, 300});
 }
 
-TEST(ViewItem, TabWalksEveryElementThatActsAndPassesTextBy) {
-  QuickScreen screen;
-  QQuickItem* other = screen.addFocusable();
-  std::string performed;
-  const auto button = [&](const char* name) {
-    return View(Text::verbatim(name)).onTapGesture([&performed, name] { performed += name; });
-  };
-  screen.add(swiftui::VStack(layout::HorizontalAlignment::leading, 4,
-                             {button("a"), Text::verbatim("text"), button("b")}),
-             kPlace);
-  qt::ViewItem* text = screen.add(paragraph(), {20, 200, 300, 0});
-  for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return}) {
-    screen.key(Qt::Key_Tab);
-    screen.key(key);
-  }
-  EXPECT_EQ(performed, "ab");
-  screen.key(Qt::Key_Tab);
-  EXPECT_TRUE(other->hasActiveFocus());
-  EXPECT_FALSE(text->activeFocusOnTab());
-}
-
 TEST(ViewItem, AFingerThatScrollsTapsNothing) {
   QuickScreen screen;
   QQmlEngine engine;
@@ -227,23 +206,6 @@ TEST(ViewItem, AFingerThatScrollsTapsNothing) {
   }
   screen.drag(screen.centreOf("Row 4 €"), screen.centreOf("Row 4 €"), 50, true);
   EXPECT_TRUE(screen.shows("Fee 4 €"));
-}
-
-TEST(ViewItem, RunsTasksEachTimeItComesOnScreen) {
-  QuickScreen screen;
-  int runs = 0;
-  qt::ViewItem* item = screen.add(
-      View(Text::verbatim("a")).task(swiftui::TaskPriority::userInitiated, [&runs] { ++runs; }),
-      kPlace);
-  EXPECT_EQ(runs, 1);
-  item->setVisible(false);
-  item->setVisible(true);
-  screen.settle();
-  EXPECT_EQ(runs, 2);
-  screen.window().hide();
-  screen.window().show();
-  screen.settle();
-  EXPECT_EQ(runs, 3);
 }
 
 }  // namespace
