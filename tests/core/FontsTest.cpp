@@ -1,13 +1,10 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
-#include <functional>
 #include <thread>
 
 #include "QuorixWidgets/localization/Font.h"
-#include "QuorixWidgets/localization/FontError.h"
 #include "QuorixWidgets/localization/ResourceBundle.h"
-#include "QuorixWidgets/localization/UIFont.h"
 #include "platform/graphics/AssetCatalog.h"
 #include "platform/graphics/FontManager.h"
 #include "tests/core/MemoryBundle.h"
@@ -39,24 +36,17 @@ class FontsDeathTest : public ::testing::Test {
 
 using Names = std::vector<std::string>;
 
-TEST_F(FontsDeathTest, AHandleRegistersItsFaceOnce) {
-  EXPECT_IN_FRESH_PROCESS(QuorixFont::regular().name() == "Saans-Regular" &&
-                          QuorixFont::regular().name() == "Saans-Regular" &&
-                          registered() == Names{"Saans-Regular"});
-}
-
-TEST_F(FontsDeathTest, MediumLeavesRegularAlone) {
+TEST_F(FontsDeathTest, AHandleRegistersItsFaceAloneAndOnce) {
   EXPECT_IN_FRESH_PROCESS(
       QuorixFont::medium().name() == "Saans-Medium" && registered() == Names{"Saans-Medium"} &&
-      !uikit::UIFont::named("Saans-Regular", 13) &&
-      QuorixFont::regular().name() == "Saans-Regular" && uikit::UIFont::named("Saans-Regular", 13));
+      QuorixFont::medium().name() == "Saans-Medium" && registered() == Names{"Saans-Medium"} &&
+      QuorixFont::regular().name() == "Saans-Regular" && registered().size() == 2);
 }
 
 TEST_F(FontsDeathTest, TheBrandFamilyComesAsAWhole) {
   EXPECT_IN_FRESH_PROCESS(
       TovaFont::regular().name() == "TovaSansLatin-Regular" &&
-      (registered() == Names{"TovaSansLatin-Regular", "TovaSansLatin-SemiBold"}) &&
-      uikit::UIFont::named("TovaSansLatin-SemiBold", 12));
+      (registered() == Names{"TovaSansLatin-Regular", "TovaSansLatin-SemiBold"}));
 }
 
 void takeName(std::string_view name) {
@@ -85,29 +75,6 @@ TEST_F(FontsDeathTest, AFaceThatCannotBeRegisteredStopsTheProcess) {
   EXPECT_DEATH((foundation::Bundle::setMain(foundation::Bundle::embedded()), replaceBundle(nullptr),
                 QuorixFont::medium()),
                kStop);
-  EXPECT_DEATH((FontManager::shared().setSystemLookup([](std::string_view) { return true; }),
-                QuorixFont::medium()),
-               kStop);
-}
-
-TEST(Fonts, ToolkitFontsCarryFaceSizeAndScaling) {
-  const auto fixed = Font::Quorix::fixed(QuorixFont::regular(), 13);
-  EXPECT_EQ(fixed, swiftui::Font::custom("Saans-Regular", swiftui::Font::FixedSize{13}));
-  const auto relative = Font::Tova::relative(TovaFont::regular(), 16, swiftui::TextStyle::headline);
-  EXPECT_EQ(relative,
-            swiftui::Font::custom("TovaSansLatin-Regular", 16, swiftui::TextStyle::headline));
-  const auto imperative = UIFont::Tova::fixed(TovaFont::regular(), 12.5);
-  EXPECT_EQ(imperative->name(), "TovaSansLatin-Regular");
-  EXPECT_EQ(imperative->pointSize(), 12.5);
-  EXPECT_EQ(uikit::UIFont::named("No-Such-Face", 12), nullptr);
-}
-
-TEST(FontError, IsAnEqualAndHashableError) {
-  constexpr auto error = FontError::failedToRegisterFont;
-  EXPECT_EQ(std::hash<FontError>()(error), std::hash<FontError>()(FontError{}));
-  EXPECT_EQ(error, FontError{});
-  EXPECT_EQ(describe(error).domain, "QuorixWidgets.FontError");
-  EXPECT_EQ(describe(error).code, 0);
 }
 
 TEST(ConcurrentFonts, FirstReadsFromManyThreadsRegisterOnce) {
@@ -117,7 +84,6 @@ TEST(ConcurrentFonts, FirstReadsFromManyThreadsRegisterOnce) {
       EXPECT_EQ(QuorixFont::regular().name(), "Saans-Regular");
       EXPECT_EQ(QuorixFont::medium().name(), "Saans-Medium");
       EXPECT_EQ(TovaFont::regular().name(), "TovaSansLatin-Regular");
-      EXPECT_EQ(UIFont::Quorix::fixed(QuorixFont::medium(), 13)->pointSize(), 13);
     });
   }
   for (auto& thread : threads) thread.join();

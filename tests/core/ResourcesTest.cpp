@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <cstdlib>
 #include <thread>
@@ -56,73 +55,6 @@ TEST(Palette, TextIsLegibleOnEveryBackground) {
   }
 }
 
-/// Every colour that an SVG paints with.
-std::vector<RGBA> paints(std::string_view svg) {
-  std::vector<RGBA> found;
-  for (auto at = svg.find("=\"#"); at != svg.npos; at = svg.find("=\"#", at + 1)) {
-    unsigned value = 0;
-    std::from_chars(svg.data() + at + 3, svg.data() + at + 9, value, 16);
-    found.push_back({static_cast<std::uint8_t>(value >> 16), static_cast<std::uint8_t>(value >> 8),
-                     static_cast<std::uint8_t>(value)});
-  }
-  return found;
-}
-
-TEST(Palette, PicturesWithColoursOfTheirOwnShowInBothAppearances) {
-  struct Case {
-    const char* image;
-    const char* background;
-  };
-  for (const auto& [name, background] :
-       {Case{"close", "OverlayBackground"}, Case{"poweredBy", "Background"}}) {
-    const auto image = graphics::imageSet(Bundle::embedded(), name);
-    ASSERT_TRUE(image && !image->isTemplate) << name;
-    for (const auto appearance : kAppearances) {
-      const auto colors = paints(image->svg(appearance).text());
-      EXPECT_FALSE(colors.empty());
-      for (const RGBA paint : colors) {
-        EXPECT_GE(contrast(paint, color(background, appearance)), 4.5) << name;
-      }
-    }
-  }
-}
-
-TEST(Artwork, HasTheSizesThatTheViewsAreLaidOutFor) {
-  const auto logo = graphics::imageSet(Bundle::embedded(), "logo");
-  ASSERT_TRUE(logo);
-  EXPECT_TRUE(logo->isTemplate) << "the sheet tints it";
-  EXPECT_EQ(std::pair(logo->width, logo->height), std::pair(46.0, 10.0));
-  const auto close = graphics::imageSet(ImageResource::close().bundle, ImageResource::close().name);
-  ASSERT_TRUE(close);
-  EXPECT_EQ(std::pair(close->width, close->height), std::pair(24.0, 24.0));
-  EXPECT_EQ(graphics::imageSet(Bundle::embedded(), "poweredBy")->height, 13);
-}
-
-TEST(NamedAssets, AreTheCataloguesAssetsInBothToolkits) {
-  struct Case {
-    const swiftui::Color& color;
-    const uikit::UIColor::Ref& imperative;
-    std::string_view asset;
-  };
-  const Case cases[] = {
-      {Color::widgetBackground(), UIColor::widgetBackground(), "Background"},
-      {Color::defaultFontColor(), UIColor::defaultFontColor(), "DefaultFontColor"},
-      {Color::overlayBackgrounColor(), UIColor::overlayBackgrounColor(), "OverlayBackground"},
-  };
-  for (const auto& [declarative, imperative, asset] : cases) {
-    EXPECT_EQ(declarative, swiftui::Color(asset, libraryBundle()));
-    for (const auto appearance : kAppearances) {
-      EXPECT_EQ(declarative.resolve(appearance), color(asset, appearance));
-      EXPECT_EQ(imperative->resolve(appearance), color(asset, appearance));
-    }
-  }
-  EXPECT_EQ(&UIColor::defaultFontColor(), &UIColor::defaultFontColor());
-  EXPECT_EQ(swiftui::Color(ColorResource::grey1()).resolve(Appearance::dark),
-            color("Grey1", Appearance::dark));
-  EXPECT_EQ(swiftui::Color(ColorResource::grey2()).resolve(Appearance::light),
-            color("Grey2", Appearance::light));
-}
-
 /// What is made once in a process is tried in a process of its own.
 class ResourcesDeathTest : public ::testing::Test {
  protected:
@@ -142,9 +74,6 @@ TEST_F(ResourcesDeathTest, AMissingColourStopsTheImperativeFormOnly) {
   EXPECT_DEATH((replaceLibraryBundle(empty), UIColor::widgetBackground()),
                "^QuorixWidgets/Colors: Fatal error: No color named 'Background' in the asset "
                "catalog\n$");
-  EXPECT_DEATH((replaceLibraryBundle(empty), UIColor::defaultFontColor()), "'DefaultFontColor'");
-  EXPECT_DEATH((replaceLibraryBundle(empty), UIColor::overlayBackgrounColor()),
-               "'OverlayBackground'");
 }
 
 TEST_F(ResourcesDeathTest, WithoutALibraryBundleTheHostsMainBundleAnswers) {
@@ -173,8 +102,7 @@ TEST(ConcurrentResources, FirstReadsFromManyThreadsAgree) {
       EXPECT_TRUE(graphics::imageSet(ImageResource::close().bundle, "close"));
       EXPECT_EQ(ColorResource::grey1().bundle, resourceBundle());
       // A bundle that comes and goes while others are read.
-      const auto passing = testing::memoryBundle({});
-      EXPECT_FALSE(graphics::colorSet(passing, "Grey1"));
+      EXPECT_FALSE(graphics::colorSet(testing::memoryBundle({}), "Grey1"));
     });
   }
   for (auto& thread : threads) thread.join();

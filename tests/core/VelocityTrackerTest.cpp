@@ -29,13 +29,5 @@ TEST(VelocityTracker, MeasuresTheLastTenthOfASecond) {
   }
 }
 
-TEST(VelocityTracker, BeginsAnew) {
-  VelocityTracker tracker;
-  tracker.add(0, 0);
-  tracker.reset();
-  tracker.add(100, 0.05);
-  EXPECT_EQ(tracker.velocity(), 0);
-}
-
 }  // namespace
 }  // namespace quorix::hosting

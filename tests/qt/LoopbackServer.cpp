@@ -109,9 +109,9 @@ std::string LoopbackServer::base() const {
 
 QSslCertificate LoopbackServer::certificate() { return QSslCertificate(tlsFile("loopback.crt")); }
 
-void LoopbackServer::serve(const std::string& path, std::vector<Answer> answers) {
+void LoopbackServer::serve(const std::string& path, Answer answer) {
   const std::scoped_lock lock(mutex_);
-  answers_[path] = std::move(answers);
+  answers_[path] = std::move(answer);
 }
 
 void LoopbackServer::open(const std::string& gate) {
@@ -128,11 +128,8 @@ std::vector<std::string> LoopbackServer::requests(const std::string& path) const
 Answer LoopbackServer::take(const std::string& path, const std::string& head) {
   const std::scoped_lock lock(mutex_);
   requests_[path].push_back(head);
-  auto& answers = answers_[path];
-  if (answers.empty()) return {httpAnswer(404, "")};
-  const Answer answer = answers.front();
-  if (answers.size() > 1) answers.erase(answers.begin());
-  return answer;
+  const auto answer = answers_.find(path);
+  return answer == answers_.end() ? Answer{httpAnswer(404, "")} : answer->second;
 }
 
 bool LoopbackServer::isOpen(const std::string& gate) const {

@@ -42,9 +42,8 @@ class LoopbackServer {
   /// The certificate that a client has to trust for https.
   static QSslCertificate certificate();
 
-  /// Answers the requests for `path` one by one; the last answer serves all further ones. An
-  /// unknown path gets an empty 404.
-  void serve(const std::string& path, std::vector<Answer> answers);
+  /// Answers every request for `path`. An unknown path gets an empty 404.
+  void serve(const std::string& path, Answer answer);
   void open(const std::string& gate);
 
   /// The heads of the requests for `path` so far, each as it came.
@@ -58,7 +57,7 @@ class LoopbackServer {
 
   const Scheme scheme_;
   mutable std::mutex mutex_;
-  std::map<std::string, std::vector<Answer>> answers_;
+  std::map<std::string, Answer> answers_;
   std::map<std::string, std::vector<std::string>> requests_;
   std::set<std::string> gates_;
   std::uint16_t port_ = 0;

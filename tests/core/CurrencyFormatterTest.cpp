@@ -9,18 +9,8 @@ using quorix::foundation::CurrencyFormatter;
 
 namespace {
 
-constexpr std::int64_t kAmounts[] = {0,
-                                     1,
-                                     4,
-                                     5,
-                                     10,
-                                     999,  //
-                                     1000,
-                                     1234567,
-                                     -1,
-                                     -1234,
-                                     92233720368547758,
-                                     -92233720368547758};
+constexpr std::int64_t kAmounts[] = {
+    0, 1, 4, 5, 10, 999, 1000, 1234567, -1, -1234, 92233720368547758, -92233720368547758};
 
 void expectTexts(simdjson::dom::element row, std::string_view column) {
   const CurrencyFormatter formatter({text(row, "language"), text(row, "currency")});
