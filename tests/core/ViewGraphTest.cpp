@@ -115,12 +115,15 @@ TEST(ViewGraph, EveryPlaceHasItsOwnState) {
 TEST(ViewGraph, AnotherTypeInAPlaceStartsAfresh) {
   TestWindow window(column({Counter{"a"}}));
   window.tap("a 0");
-  window.host->setRoot(column({Counter{"b"}}));
+  window.host->updateRoot(column({Counter{"b"}}));
   EXPECT_NO_THROW(window.element("b 1")) << "the same type is the same view";
-  window.host->setRoot(column({Switched{Text::verbatim("on")}}));
+  window.host->updateRoot(column({Switched{Text::verbatim("on")}}));
   EXPECT_NO_THROW(window.element("on"));
-  window.host->setRoot(column({Counter{"c"}}));
+  window.host->updateRoot(column({Counter{"c"}}));
   EXPECT_NO_THROW(window.element("c 0"));
+  window.tap("c 0");
+  window.host->setRoot(column({Counter{"d"}}));
+  EXPECT_NO_THROW(window.element("d 0")) << "another root is another view";
 }
 
 TEST(ViewGraph, ChangesAreEvaluatedTogetherOnTheNextTurn) {

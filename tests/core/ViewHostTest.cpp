@@ -172,7 +172,7 @@ image 137 271 46 10 "" hint "Quorix logo"
 
 TEST(ScoreWidgetAccessibility, TheHostsStringTableIsAskedFirst) {
   const std::map<std::string, std::string, std::less<>> table = {
-      {"%@ %@ %@, %@ %@", "%5$@ %4$@; %3$@ %2$@ (%1$@) 100%%%6$@"}};
+      {"%@ %@ %@, %@ %@", "%5$@ %-10y%4$10.2@; %3$@ %2$@ (%1$@) 100%%%6$@"}};
   foundation::setMainStringTable([&](std::string_view sought) {
     const auto found = table.find(sought);
     return found == table.end() ? std::nullopt : std::optional(found->second);

@@ -43,7 +43,7 @@ class ToolScore : public testing::Test {
 
 TEST_F(ToolScore, SaysWhatAShopperHears) {
   EXPECT_THAT(print({"--width", "300"}), StartsWith("button 0 0 300 "));
-  EXPECT_THAT(print({}), HasSubstr("\"Your return fee Discounted €2.00, Original €4.00\" hint "
+  EXPECT_THAT(print({}), HasSubstr("\"Your return fee Discounted €3.00, Original €6.00\" hint "
                                    "\"Tap to learn more\" acts\n"));
   EXPECT_THAT(print({"--locale", "es"}), HasSubstr("\"Tu tarifa de devolución Descontado"));
   EXPECT_THAT(print({"--sheet"}), AllOf(HasSubstr("\"Close\" acts"), HasSubstr("Return rate 18%"),
@@ -111,7 +111,7 @@ TEST_F(ToolScore, NamesWhatATranslatorOverlooked) {
   const QString file = tool_.write("gaps.json", R"({"returns": {"titel": "x", "title": "Din"}})");
   const auto run = score({"--translations", file});
   EXPECT_EQ(run.status, 0);
-  EXPECT_THAT(run.out, HasSubstr("\"Din  €2.00,  €4.00\""));
+  EXPECT_THAT(run.out, HasSubstr("\"Din  €3.00,  €6.00\""));
   EXPECT_TRUE(isOneErrorLine(run.err)) << run.err;
   EXPECT_THAT(run.err, AllOf(HasSubstr("shown empty: actions.close, labels.discounted"),
                              HasSubstr("never used: returns.titel")));

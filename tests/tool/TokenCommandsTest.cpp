@@ -25,9 +25,11 @@ struct Minting {
 
 const Minting mintings[] = {
     {{},
-     "eyJhbGciOiJIUzI1NiIsInR5cCI6IkpXVCJ9.eyJkYXRhIjp7ImJhc2VfZmVlX2Ftb3VudCI6NDk5LCJkaXNjb3VudGVk"
-     "X2ZlZV9hbW91bnQiOjI5OSwiZmVlX2N1cnJlbmN5IjoiRVVSIiwic2NvcmUiOjAuODJ9fQ.x3SNX6n8yKowKUMouQV7Kr"
-     "JS882rih7wCJyuWJ38eLE"},
+     "eyJhbGciOiJIUzI1NiIsInR5cCI6IkpXVCJ9."
+     "eyJkYXRhIjp7ImJhc2VfZmVlX2Ftb3VudCI6NjAwLCJkaXNjb3VudGVkX"
+     "2ZlZV9hbW91bnQiOjMwMCwiZmVlX2N1cnJlbmN5IjoiRVVSIiwic2NvcmUiOjAuODJ9fQ._CgKMvOVq5BAg43l_"
+     "78kN7nb"
+     "0vBMVh5Z2jyzaAXW2cQ"},
     {{"--score", "1", "--currency", "S\"é", "--base", "-7", "--discounted", "9223372036854775807",
       "--secret", QString(40, QChar(u'κ'))},
      "eyJhbGciOiJIUzI1NiIsInR5cCI6IkpXVCJ9.eyJkYXRhIjp7ImJhc2VfZmVlX2Ftb3VudCI6LTcsImRpc2NvdW50ZWRf"
