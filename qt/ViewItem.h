@@ -28,6 +28,7 @@ class ViewItem : public QQuickItem {
   explicit ViewItem(swiftui::View view, QQuickItem* parent = nullptr);
   ~ViewItem() override;
 
+  /// Shows another view, which begins afresh; a sheet of the one before goes.
   void setView(swiftui::View view);
 
   /// Light or dark; nothing follows the desktop, which is what holds until this is called.
