@@ -40,6 +40,7 @@ TEST(ConcurrentUrlSessionDeathTest, EndsWithTheApplicationAndBeginsAnewWithTheNe
         passed = passed && again.wait().response.body == "answer";
         nextServer.serve("/still", {httpAnswer(200, "answer"), SIZE_MAX, false, "never"});
         const Fetch atTheEnd(transport, nextServer.base() + "/still");
+        passed = passed && waitUntil([&] { return !nextServer.requests("/still").empty(); });
         std::exit(passed ? 0 : 1);
       },
       ::testing::ExitedWithCode(0), "");
