@@ -5,6 +5,7 @@
 
 #include "qt/AccessibilityBridge.h"
 #include "qt/FocusRing.h"
+#include "qt/Input.h"
 #include "qt/Picture.h"
 #include "qt/PictureNode.h"
 #include "qt/QtColor.h"
@@ -18,17 +19,11 @@ namespace {
 /// Above what pages stack, below the pop-ups of the Controls, which may be asked for over a sheet.
 constexpr double kStacking = 1'000'000;
 
-layout::Point toPoint(QPointF point) { return {point.x(), point.y()}; }
-
 QRectF toRect(const layout::Rect& rect) {
   return {rect.left(), rect.top(), rect.size.width, rect.size.height};
 }
 
 bool closes(int key) { return key == Qt::Key_Escape || key == Qt::Key_Back; }
-bool activates(int key) {
-  return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space ||
-         key == Qt::Key_Select;
-}
 bool walks(int key) { return key == Qt::Key_Tab || key == Qt::Key_Backtab; }
 
 }  // namespace

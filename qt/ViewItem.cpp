@@ -3,20 +3,10 @@
 #include <QCursor>
 
 #include "qt/Engine.h"
+#include "qt/Input.h"
 #include "qt/ViewSurface.h"
 
 namespace quorix::qt {
-namespace {
-
-layout::Point toPoint(QPointF point) { return {point.x(), point.y()}; }
-
-bool isActivation(const QKeyEvent& event) {
-  return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter ||
-         event.key() == Qt::Key_Space || event.key() == Qt::Key_Select;
-}
-
-}  // namespace
-
 ViewItem::ViewItem(QQuickItem* parent) : ViewItem(swiftui::View(), parent) {}
 
 ViewItem::ViewItem(swiftui::View view, QQuickItem* parent)
@@ -149,7 +139,7 @@ void ViewItem::keyPressEvent(QKeyEvent* event) {
     // Without a further element the window moves the focus on.
     event->setAccepted(surface_->host().moveFocus(!back));
     surface_->focusMoved(true);
-  } else if (isActivation(*event)) {
+  } else if (activates(event->key())) {
     if (event->isAutoRepeat()) return;
     event->setAccepted(surface_->host().focusFrame().has_value());
     surface_->host().activateFocus();
