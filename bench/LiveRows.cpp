@@ -25,7 +25,7 @@
 #include "bench/Shopper.h"
 #include "platform/foundation/URLSession.h"
 #include "qt/Engine.h"
-#include "qt/ViewItem.h"
+#include "qt/quick/ViewItem.h"
 
 namespace quorix::bench {
 namespace {

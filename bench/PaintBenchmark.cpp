@@ -17,7 +17,7 @@
 #include "bench/Shopper.h"
 #include "qt/Engine.h"
 #include "qt/Picture.h"
-#include "qt/ViewItem.h"
+#include "qt/quick/ViewItem.h"
 
 namespace quorix::bench {
 namespace {

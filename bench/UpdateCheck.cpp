@@ -19,7 +19,7 @@
 #include "platform/hosting/ViewHost.h"
 #include "qt/Engine.h"
 #include "qt/QtTextEngine.h"
-#include "qt/ViewItem.h"
+#include "qt/quick/ViewItem.h"
 
 namespace quorix::bench {
 namespace {

@@ -3,9 +3,6 @@
 #include <QGuiApplication>
 #include <QHash>
 #include <QPointer>
-#include <QQmlComponent>
-#include <QQmlEngine>
-#include <QQuickItem>
 
 #include "qt/ViewAccessible.h"
 
@@ -19,23 +16,6 @@ QHash<const QObject*, AccessibleSurface*>& surfaces() {
 
 QAccessibleInterface* makeInterface(const QString&, QObject* object) {
   return AccessibilityBridge::surfaceOf(object) ? new ViewAccessible(object) : nullptr;
-}
-
-/// Makes the attached object that marks an item as accessible. Qt Quick names its type only to QML,
-/// so the first call has QML load the module.
-QQmlAttachedPropertiesFunc attachAccessible() {
-  static const QQmlAttachedPropertiesFunc attach = [] {
-    const char* const type = "QQuickAccessibleAttached*";
-    if (!QMetaType::fromName(type).metaObject()) {
-      QQmlEngine engine;
-      QQmlComponent component(&engine);
-      component.setData("import QtQuick\nItem { Accessible.name: '' }", QUrl());
-      delete component.create();
-    }
-    const QMetaObject* known = QMetaType::fromName(type).metaObject();
-    return known ? qmlAttachedPropertiesFunction(nullptr, known) : nullptr;
-  }();
-  return attach;
 }
 
 }  // namespace
@@ -70,13 +50,6 @@ AccessibleSurface* AccessibilityBridge::surfaceOf(const QObject* object) {
 
 bool AccessibilityBridge::isActive() {
   return QAccessible::isActive() || instance()->active_;
-}
-
-void AccessibilityBridge::offer(QQuickItem& item) {
-  if (!isActive()) return;
-  if (const QQmlAttachedPropertiesFunc attach = attachAccessible()) {
-    qmlAttachedPropertiesObject(&item, attach, true);
-  }
 }
 
 void AccessibilityBridge::accessibilityActiveChanged(bool active) {

@@ -3,8 +3,6 @@
 #include <QAccessible>
 #include <QObject>
 
-class QQuickItem;
-
 namespace quorix::qt {
 
 class AccessibleSurface;
@@ -25,9 +23,6 @@ class AccessibilityBridge : public QObject, private QAccessible::ActivationObser
 
   /// Whether assistive technology listens.
   static bool isActive();
-
-  /// Has Qt Quick offer `item` to assistive technology. Does nothing while none listens.
-  static void offer(QQuickItem& item);
 
  signals:
   void began();

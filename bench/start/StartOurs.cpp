@@ -6,7 +6,7 @@
 #include "QuorixWidgets/score/ScoreWidgetBuilder.h"
 #include "bench/start/FirstFrame.h"
 #include "qt/Engine.h"
-#include "qt/ViewItem.h"
+#include "qt/quick/ViewItem.h"
 
 int main(int argc, char** argv) {
   QGuiApplication app(argc, argv);

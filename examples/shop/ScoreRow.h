@@ -3,7 +3,7 @@
 #include <QQuickItem>
 #include <QString>
 
-#include "qt/ViewItem.h"
+#include "qt/quick/ViewItem.h"
 
 namespace quorix::examples {
 

@@ -8,7 +8,7 @@
 #include <memory>
 
 #include "platform/swiftui/View.h"
-#include "qt/ViewItem.h"
+#include "qt/quick/ViewItem.h"
 
 namespace quorix::testing {
 

@@ -1,4 +1,4 @@
-#include "qt/ViewItem.h"
+#include "qt/quick/ViewItem.h"
 
 #include <gtest/gtest.h>
 

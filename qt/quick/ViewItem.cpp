@@ -1,10 +1,10 @@
-#include "qt/ViewItem.h"
+#include "qt/quick/ViewItem.h"
 
 #include <QCursor>
 
 #include "qt/Engine.h"
 #include "qt/Input.h"
-#include "qt/ViewSurface.h"
+#include "qt/quick/ViewSurface.h"
 
 namespace quorix::qt {
 ViewItem::ViewItem(QQuickItem* parent) : ViewItem(swiftui::View(), parent) {}

@@ -1,12 +1,42 @@
-#include "qt/QuickAccessibleSurface.h"
+#include "qt/quick/QuickAccessibleSurface.h"
 
 #include <QAccessible>
+#include <QQmlComponent>
+#include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
 
-#include "qt/SheetItem.h"
+#include "qt/AccessibilityBridge.h"
+#include "qt/quick/SheetItem.h"
 
 namespace quorix::qt {
+namespace {
+
+/// Makes the attached object that marks an item as accessible. Qt Quick names its type only to QML,
+/// so the first call has QML load the module.
+QQmlAttachedPropertiesFunc attachAccessible() {
+  static const QQmlAttachedPropertiesFunc attach = [] {
+    const char* const type = "QQuickAccessibleAttached*";
+    if (!QMetaType::fromName(type).metaObject()) {
+      QQmlEngine engine;
+      QQmlComponent component(&engine);
+      component.setData("import QtQuick\nItem { Accessible.name: '' }", QUrl());
+      delete component.create();
+    }
+    const QMetaObject* known = QMetaType::fromName(type).metaObject();
+    return known ? qmlAttachedPropertiesFunction(nullptr, known) : nullptr;
+  }();
+  return attach;
+}
+
+}  // namespace
+
+void QuickAccessibleSurface::offer() {
+  if (!AccessibilityBridge::isActive()) return;
+  if (const QQmlAttachedPropertiesFunc attach = attachAccessible()) {
+    qmlAttachedPropertiesObject(&item_, attach, true);
+  }
+}
 
 void QuickAccessibleSurface::takeFocus() { item_.forceActiveFocus(Qt::OtherFocusReason); }
 

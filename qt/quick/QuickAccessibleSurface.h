@@ -11,6 +11,9 @@ class QuickAccessibleSurface : public AccessibleSurface {
  public:
   explicit QuickAccessibleSurface(QQuickItem& item) : item_(item) {}
 
+  /// Has Qt Quick offer the item to assistive technology. Does nothing while none listens.
+  void offer();
+
   void takeFocus() override;
   QRect onScreen(const layout::Rect& frame) const override;
   QRect onScreen() const override;

@@ -7,8 +7,8 @@
 #include "platform/hosting/ViewHost.h"
 #include "qt/EnvironmentSource.h"
 #include "qt/FingerTracker.h"
-#include "qt/QuickAccessibleSurface.h"
-#include "qt/WindowWatcher.h"
+#include "qt/quick/QuickAccessibleSurface.h"
+#include "qt/quick/WindowWatcher.h"
 
 class QSGNode;
 

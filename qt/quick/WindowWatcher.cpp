@@ -1,4 +1,4 @@
-#include "qt/WindowWatcher.h"
+#include "qt/quick/WindowWatcher.h"
 
 #include <QQuickItem>
 #include <QQuickWindow>

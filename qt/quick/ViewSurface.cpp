@@ -1,4 +1,4 @@
-#include "qt/ViewSurface.h"
+#include "qt/quick/ViewSurface.h"
 
 #include <QGuiApplication>
 #include <QQuickWindow>
@@ -8,11 +8,11 @@
 #include "qt/AccessibilityBridge.h"
 #include "qt/FocusRing.h"
 #include "qt/Picture.h"
-#include "qt/PictureNode.h"
+#include "qt/quick/PictureNode.h"
 #include "qt/QtTextEngine.h"
-#include "qt/SheetItem.h"
+#include "qt/quick/SheetItem.h"
 #include "qt/ViewAccessible.h"
-#include "qt/ViewItem.h"
+#include "qt/quick/ViewItem.h"
 
 namespace quorix::qt {
 namespace {
@@ -70,7 +70,7 @@ void ViewSurface::windowChanged() {
   QQuickWindow* window = item_.window();
   painted_ = inViewport_ = false;
   pictureStale_ = true;
-  AccessibilityBridge::offer(item_);
+  offer();
   onScreenChanged();  // before anyone asks for a size: the view is then evaluated once
   environmentChanged();
   if (window && (sheet_ || host_.presentation())) presentationChanged();
@@ -89,7 +89,7 @@ void ViewSurface::onScreenChanged() {
 }
 
 void ViewSurface::accessibilityBegan() {
-  AccessibilityBridge::offer(item_);
+  offer();
   item_.polish();
 }
 

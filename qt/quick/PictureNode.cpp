@@ -1,4 +1,4 @@
-#include "qt/PictureNode.h"
+#include "qt/quick/PictureNode.h"
 
 #include <QQuickWindow>
 #include <QSGImageNode>

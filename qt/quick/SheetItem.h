@@ -11,7 +11,7 @@
 #include "qt/EnvironmentSource.h"
 #include "qt/FingerTracker.h"
 #include "qt/FrameClock.h"
-#include "qt/QuickAccessibleSurface.h"
+#include "qt/quick/QuickAccessibleSurface.h"
 
 namespace quorix::qt {
 

@@ -1,4 +1,4 @@
-#include "qt/SheetItem.h"
+#include "qt/quick/SheetItem.h"
 
 #include <QCursor>
 #include <QQuickWindow>
@@ -7,10 +7,10 @@
 #include "qt/FocusRing.h"
 #include "qt/Input.h"
 #include "qt/Picture.h"
-#include "qt/PictureNode.h"
+#include "qt/quick/PictureNode.h"
 #include "qt/QtColor.h"
 #include "qt/QtTextEngine.h"
-#include "qt/SheetNode.h"
+#include "qt/quick/SheetNode.h"
 #include "qt/ViewAccessible.h"
 
 namespace quorix::qt {
@@ -72,7 +72,7 @@ void SheetItem::present(const swiftui::Presentation& presentation) {
   if (std::exchange(presented_, true)) return;
   focusBefore_ = window()->activeFocusItem();
   forceActiveFocus(Qt::PopupFocusReason);
-  AccessibilityBridge::offer(*this);
+  offer();
   ViewAccessible::focusChanged(*this);
 }
 

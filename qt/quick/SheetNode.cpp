@@ -1,9 +1,9 @@
-#include "qt/SheetNode.h"
+#include "qt/quick/SheetNode.h"
 
 #include <QQuickWindow>
 #include <QSGRectangleNode>
 
-#include "qt/PictureNode.h"
+#include "qt/quick/PictureNode.h"
 
 namespace quorix::qt {
 
