@@ -28,6 +28,10 @@ View Divider();
 /// An image of the bundle's asset catalogue at its natural size; an unknown name shows nothing.
 View Image(std::string_view name, foundation::Bundle::Ref bundle);
 
+/// Does `action` when it is tapped. To assistive technology it is one element, called what its
+/// label says; a label that is only an image is called by the image's name.
+View Button(std::function<void()> action, View label);
+
 /// Several views where one is expected: the enclosing stack takes them as its own children.
 View Group(std::vector<View> children);
 
