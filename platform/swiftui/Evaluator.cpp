@@ -58,7 +58,8 @@ void Evaluator::collect(const nodes::Represented& node, const View&, const Look&
   auto& boxes = store_.states(path_).boxes;
   path_.pop_back();
   if (boxes.empty()) boxes.emplace_back(node.make());
-  const Content& content = std::any_cast<const Content&>(boxes.front());
+  const Content content = std::any_cast<const Content&>(boxes.front());
+  if (node.update) node.update(*content);
   out.push_back(
       {elements::Hosted{static_cast<int>(result_.hosted.size()), content.get()}, {}, {}, {}});
   result_.hosted.push_back(content);

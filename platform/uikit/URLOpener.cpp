@@ -14,7 +14,9 @@ std::shared_ptr<URLOpener>& installed() {
 
 }  // namespace
 
-void URLOpener::install(std::shared_ptr<URLOpener> opener) { installed() = std::move(opener); }
+std::shared_ptr<URLOpener> URLOpener::install(std::shared_ptr<URLOpener> opener) {
+  return std::exchange(installed(), std::move(opener));
+}
 
 bool URLOpener::openOutside(const foundation::URL& url) {
   const auto opener = installed();  // kept, should opening replace it

@@ -18,8 +18,8 @@ class URLOpener {
   /// Opens `url`, which `opensOutside` allows. Whether anything shows is up to the system.
   virtual void open(const foundation::URL& url) = 0;
 
-  /// Replaces the opener; null leaves none.
-  static void install(std::shared_ptr<URLOpener> opener);
+  /// Replaces the opener, by none when null; returns the one before, for a test to put back.
+  static std::shared_ptr<URLOpener> install(std::shared_ptr<URLOpener> opener);
   /// Hands `url` to the opener. False, and nothing happens, where `opensOutside` refuses it or no
   /// opener is installed.
   static bool openOutside(const foundation::URL& url);

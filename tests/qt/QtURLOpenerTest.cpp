@@ -1,10 +1,10 @@
-#include "qt/QtURLOpener.h"
-
 #include <gtest/gtest.h>
 
 #include <QDesktopServices>
+#include <QObject>
 #include <QUrl>
 
+#include "platform/uikit/URLOpener.h"
 #include "qt/Engine.h"
 
 namespace {
@@ -23,7 +23,6 @@ class Handler : public QObject {
 
 TEST(QtURLOpener, HandsOverTheAddressAsItIs) {
   quorix::qt::installEngine();
-  quorix::uikit::URLOpener::install(std::make_shared<quorix::qt::QtURLOpener>());
   Handler handler;
   const QByteArray address = "https://shop.example/a%20b?name=%C3%85sa%26%2541+c%3D&x;y#f%23";
   const auto url = quorix::foundation::URL::parse(address.toStdString());
