@@ -35,6 +35,8 @@ View Button(std::function<void()> action, View label) {
   return makeView(nodes::Modified{std::move(label), modifiers::Button{std::move(action)}});
 }
 
+View Image(const ImageResource& resource) { return Image(resource.name, resource.bundle); }
+
 View Group(std::vector<View> children) { return makeView(nodes::Group{std::move(children)}); }
 
 View Conditional(bool condition, View chosen) {
