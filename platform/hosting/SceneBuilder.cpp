@@ -52,7 +52,7 @@ bool isNamed(const AccessibilityElement& element) {
 void act(AccessibilityElement& element, const std::function<void()>& action) {
   if (element.action) return;
   element.action = action;
-  element.role = Role::button;
+  if (element.role != Role::link) element.role = Role::button;
 }
 
 }  // namespace
