@@ -19,7 +19,7 @@ swiftui::View InfoWidgetBuilder::buildSwiftUIInfoWidgetView(std::string_view loc
 
 std::shared_ptr<uikit::UIView> InfoWidgetBuilder::buildUIKitInfoWidgetView(
     std::string_view locale, const InfoWidgetStyle& style) {
-  return std::make_shared<UIInfoWidget>(std::make_shared<UIInfoWidgetViewModel>(
+  return UIInfoWidget::make(std::make_shared<UIInfoWidgetViewModel>(
       std::nullopt, std::string(locale),
       UIKitStyleConfiguration{style.regularFont, style.semiBoldFont, nullptr, false}));
 }
