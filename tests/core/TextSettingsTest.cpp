@@ -40,6 +40,31 @@ TEST(ContentSizeCategory, ReachesScalingFontsOnly) {
   }
 }
 
+/// The runs of a text as they reach the text engine.
+TEST(Text, ItsOwnLooksWinTheFirstOneWrittenFirst) {
+  const auto face = [](const char* name) { return Font::custom(name, Font::FixedSize{10}); };
+  const auto color = [](std::uint8_t red) { return swiftui::Color::fixed({red, 0, 0}); };
+  const Text own = Text::verbatim("own ").font(face("A")).font(face("B")).foregroundColor(color(1));
+  const Text bold = Text::verbatim("bold ").bold().fontWeight(swiftui::FontWeight::medium);
+  const Text sum = (own.underline(false) + bold + Text::localized("%@", {"plain"}))
+                       .font(face("C"))
+                       .foregroundColor(color(2))
+                       .underline();
+  const Text whole = sum + Text::verbatim("") + Text::verbatim(" last");
+  TestWindow window(
+      View(whole).font(face("D")).foregroundColor(color(3)).textCase(swiftui::TextCase::uppercase));
+  const auto run = [](const char* words, const char* name, swiftui::FontWeight weight,
+                      std::uint8_t red, bool underline) {
+    return text::Run{words, {name, 10, weight}, {red, 0, 0}, underline};
+  };
+  constexpr auto regular = swiftui::FontWeight::regular;
+  const std::vector<text::Run> expected = {
+      run("OWN ", "A", regular, 1, false), run("BOLD ", "C", swiftui::FontWeight::bold, 2, true),
+      run("PLAIN", "C", regular, 2, true), run(" LAST", "D", regular, 3, false)};
+  EXPECT_EQ(std::get<render::TextItem>(window.shown().items.at(0)).text.runs, expected);
+  EXPECT_NO_THROW(window.element("OWN BOLD PLAIN LAST"));
+}
+
 TEST(TextCasing, FollowsTheLanguage) {
   const struct {
     const char* language;

@@ -33,6 +33,41 @@ TEST(QtFonts, DrawsEachRegisteredFaceInItsOwnShapes) {
   EXPECT_LT(tova.weight(), semiBold.weight());
 }
 
+/// A weight is met by the nearest face of the family; strokes are thickened only where that falls
+/// far short, and a face that its designer made heavy enough stays as it is.
+TEST(QtFonts, AWeightPicksAFaceOfTheFamily) {
+  using swiftui::FontWeight;
+  TovaFont::regular();
+  const std::string regular = QuorixFont::regular().name(), medium = QuorixFont::medium().name();
+  const struct {
+    std::string named;
+    FontWeight weight;
+    std::string drawn;
+    bool thickened;
+  } rows[] = {
+      {regular, FontWeight::medium, medium, false},
+      {regular, FontWeight::semibold, medium, false},
+      {medium, FontWeight::semibold, medium, false},
+      {medium, FontWeight::medium, medium, false},
+      {medium, FontWeight::regular, medium, false},
+      {medium, FontWeight::bold, medium, true},
+      {"TovaSansLatin-Regular", FontWeight::bold, "TovaSansLatin-SemiBold", false},
+      {"TovaSansLatin-SemiBold", FontWeight::semibold, "TovaSansLatin-SemiBold", false},
+  };
+  QtFonts fonts;
+  for (const auto& row : rows) {
+    const QRawFont drawn = QRawFont::fromFont(fonts.find({row.named, 14, row.weight}).font);
+    const QRawFont plain = face(row.drawn);
+    const auto ink = [](const QRawFont& font) {
+      return font.boundingRect(font.glyphIndexesForString("R").at(0)).width();
+    };
+    EXPECT_EQ(drawn.fontTable("glyf") + drawn.fontTable("CFF "),
+              plain.fontTable("glyf") + plain.fontTable("CFF "))
+        << row.named;
+    EXPECT_EQ(ink(drawn) > ink(plain), row.thickened) << row.named;
+  }
+}
+
 TEST(QtFonts, UnknownNamesDrawInTheSystemsFont) {
   QtFonts fonts;
   const QFont system = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
