@@ -78,12 +78,9 @@ QFont::Weight qtWeight(swiftui::FontWeight weight) {
   return QFont::Normal;
 }
 
-/// `named` in at least `weight`: the nearest face of its family that is no lighter. A face that
-/// falls one step short will do, as a family's medium for semi-bold; shorter than that, Qt thickens
-/// the strokes.
+/// `named` in at least `weight`: the nearest face of its family that is no lighter, so that a face
+/// that its designer calls semi-bold stays what it is. What the family does not have is not faked.
 QFont weighted(const QFont& named, int weight) {
-  constexpr int step = QFont::Medium - QFont::Normal;
-  if (named.weight() >= weight) return named;
   const QString family = named.family();
   QFont nearest = named;
   const QStringList styles = QFontDatabase::styles(family);
@@ -93,9 +90,6 @@ QFont weighted(const QFont& named, int weight) {
     if (!nearer || has < named.weight() || QFontDatabase::italic(family, style)) continue;
     nearest = QFontDatabase::font(family, style, 12);
   }
-  if (nearest.weight() + step >= weight) return nearest;
-  nearest.setStyleName({});
-  nearest.setWeight(QFont::Weight(weight));
   return nearest;
 }
 

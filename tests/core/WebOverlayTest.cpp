@@ -94,7 +94,7 @@ TEST(WebView, LaterValuesReachTheHeadingAndNotThePage) {
   EXPECT_NE(first.find("lang=en"), std::string::npos) << first;
   window.host->updateRoot(overlay(shown, "Ann", "sv"));
   window.settle();
-  EXPECT_NO_THROW(window.element("Hej Ann, så räknas dina returer"));
+  EXPECT_NO_THROW(window.element("Dina returer, Ann"));
   EXPECT_EQ(page(window.shown()).content, content);
   EXPECT_EQ(address(window), first);
 }

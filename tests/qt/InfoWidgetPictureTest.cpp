@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <memory>
+#include <optional>
 #include <ostream>
 #include <string>
+#include <string_view>
 
 #include "QuorixWidgets/info/InfoWidgetView.h"
 #include "QuorixWidgets/localization/TovaFont.h"
@@ -21,6 +23,7 @@ struct PictureCase {
   const char* name;
   const char* locale = "en";
   bool border = false;
+  std::optional<std::string_view> sheetFor = std::nullopt;  ///< opened; the shopper's name
   std::optional<double> percentile = std::nullopt;
   Appearance appearance = Appearance::light;
   double scale = 1;
@@ -40,10 +43,14 @@ class InfoWidgetPicture : public ::testing::TestWithParam<PictureCase> {};
 
 TEST_P(InfoWidgetPicture, LooksAsItDid) {
   const PictureCase& row = GetParam();
-  const auto model = std::make_shared<InfoWidgetViewModel>(std::nullopt, row.locale, style(row));
+  const auto name = row.sheetFor && !row.sheetFor->empty()
+                        ? std::optional<std::string>(*row.sheetFor)
+                        : std::nullopt;
+  const auto model = std::make_shared<InfoWidgetViewModel>(name, row.locale, style(row));
   if (row.percentile) model->userDetails = UserDetails{0, 0, *row.percentile};
   qt::PictureOptions options;
   options.width = 343;
+  options.sheet = row.sheetFor.has_value();
   options.environment = {row.appearance, row.direction, row.textSize, row.scale, "en"};
   EXPECT_TRUE(testing::matchesPicture(qt::picture(InfoWidgetView{model}, options), row.name));
 }
@@ -58,6 +65,11 @@ constexpr PictureCase pictures[] = {
     {.name = "info-border-large-text",
      .border = true,
      .textSize = ContentSizeCategory::extraExtraExtraLarge},
+    {.name = "info-sheet", .sheetFor = ""},
+    {.name = "info-sheet-named-rtl-dark",
+     .sheetFor = "Ann",
+     .appearance = Appearance::dark,
+     .direction = LayoutDirection::rightToLeft},
 };
 
 INSTANTIATE_TEST_SUITE_P(Widgets, InfoWidgetPicture, ::testing::ValuesIn(pictures),
