@@ -23,8 +23,7 @@ class ScoreSheet : public ::testing::Test {
 
   TestWindow& open(bool motion = false) {
     window.motion = motion;
-    window.tap(row);
-    window.settle();
+    window.act(row);
     return window;
   }
   double panelHeight() { return window.size.height - window.sheet->panelFrame().top(); }
@@ -42,8 +41,7 @@ TEST_F(ScoreSheet, IsOfMediumHeightUntilItsContentIsMeasured) {
   MainQueue::drain();
   EXPECT_EQ(panelHeight(), 305) << "without motion it is there at once";
   EXPECT_FALSE(window.sheet->isMoving());
-  window.tap("Close");
-  window.settle();
+  window.act("Close");
   ASSERT_FALSE(window.sheet);
   window.tap(row);
   MainQueue::drain();
@@ -69,8 +67,7 @@ TEST_F(ScoreSheet, FollowsItsContentAndTheWindow) {
       {{"returns", "disclaimer", std::string(36 * 7, 'x')}, {"actions", "close", "Shut"}});
   window.settle();
   EXPECT_EQ(panelHeight(), 305 + 3 * 20);
-  window.tap("Shut");
-  window.settle();
+  window.act("Shut");
   EXPECT_FALSE(window.sheet);
 }
 
@@ -110,8 +107,7 @@ TEST_F(ScoreSheet, GoesWhenTappedOutside) {
     window.release(tap.release);
     window.settle();
     EXPECT_EQ(!window.sheet, tap.closes) << tap.press.y << " to " << tap.release.y;
-    if (window.sheet) window.tap("Close");
-    window.settle();
+    if (window.sheet) window.act("Close");
     EXPECT_FALSE(window.sheet);
   }
 }

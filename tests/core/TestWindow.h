@@ -89,6 +89,11 @@ class TestWindow final : public hosting::ViewHost::Client, public hosting::Sheet
     release(point);
   }
   void tap(const std::string& label) { tap(middle(element(label).frame)); }
+  /// A tap and all that comes of it.
+  void act(const std::string& label) {
+    tap(label);
+    settle();
+  }
 
  private:
   void viewNeedsDisplay() override { ++displays; }

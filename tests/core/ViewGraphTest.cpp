@@ -85,15 +85,12 @@ View column(std::vector<View> views) {
 TEST(ViewGraph, AStateLivesAtItsPlaceAndDiesWithItsBranch) {
   TestWindow window(column({Counter{"kept"}, Switched{Counter{"left"}}}));
   for (const char* label : {"kept 0", "left 0", "left 1"}) {
-    window.tap(label);
-    window.settle();
+    window.act(label);
   }
   EXPECT_NO_THROW(window.element("left 2"));
-  window.tap("switch");
-  window.settle();
+  window.act("switch");
   EXPECT_ANY_THROW(window.element("left 2"));
-  window.tap("switch");
-  window.settle();
+  window.act("switch");
   EXPECT_NO_THROW(window.element("left 0"));
   EXPECT_NO_THROW(window.element("kept 1"));
 }
@@ -158,8 +155,7 @@ TEST(ViewGraph, ObjectsAreObservedOnlyOnScreen) {
   window.host->setOnScreen(true);
   EXPECT_NO_THROW(window.element("2")) << "what changed while it was away shows";
   EXPECT_EQ(turnsAfterChange(), 1);
-  window.tap("switch");
-  window.settle();
+  window.act("switch");
   EXPECT_EQ(turnsAfterChange(), 0) << "its branch is gone";
 }
 
@@ -174,13 +170,10 @@ TEST(ViewGraph, ATaskRunsAtEachAppearanceUnlessItsViewLeavesFirst) {
   window.settle();
   EXPECT_EQ(log.size(), 2U) << log;
   window.tap("switch");
-  window.tap("switch");
-  window.settle();
+  window.act("switch");
   EXPECT_EQ(log.size(), 2U) << "re-evaluation is no appearance";
-  window.tap("switch");
-  window.settle();
-  window.tap("switch");
-  window.settle();
+  window.act("switch");
+  window.act("switch");
   EXPECT_EQ(log.size(), 4U);
   window.host->setOnScreen(false);
   window.host->setOnScreen(true);
@@ -238,10 +231,8 @@ TEST(ViewGraph, EachMeasuredPlaceIsToldItsSizeOnceAndAgainWhenItReturns) {
   window.host->setEnvironment(window.environment);
   window.settle();
   EXPECT_EQ(log, "text 16 padded 36 ") << "nothing changed";
-  window.tap("switch");
-  window.settle();
-  window.tap("switch");
-  window.settle();
+  window.act("switch");
+  window.act("switch");
   EXPECT_EQ(log, "text 16 padded 36 text 16 padded 36 ");
 }
 
