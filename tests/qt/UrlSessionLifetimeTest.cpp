@@ -24,7 +24,7 @@ TEST(ConcurrentUrlSessionDeathTest, EndsWithTheApplicationAndBeginsAnewWithTheNe
       {
         qt::QtURLTransport transport;
         LoopbackServer server;
-        server.serve("/still", {httpAnswer(200, "answer"), SIZE_MAX, false, "never"});
+        server.serve("/still", silence());
         Fetch inFlight(transport, server.base() + "/still");
         bool passed = waitUntil([&] { return !server.requests("/still").empty(); });
         delete QCoreApplication::instance();
@@ -38,7 +38,7 @@ TEST(ConcurrentUrlSessionDeathTest, EndsWithTheApplicationAndBeginsAnewWithTheNe
         nextServer.serve("/x", {httpAnswer(200, "answer")});
         Fetch again(transport, nextServer.base() + "/x");
         passed = passed && again.wait().response.body == "answer";
-        nextServer.serve("/still", {httpAnswer(200, "answer"), SIZE_MAX, false, "never"});
+        nextServer.serve("/still", silence());
         const Fetch atTheEnd(transport, nextServer.base() + "/still");
         passed = passed && waitUntil([&] { return !nextServer.requests("/still").empty(); });
         std::exit(passed ? 0 : 1);
