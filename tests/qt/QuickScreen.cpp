@@ -1,6 +1,7 @@
 #include "tests/qt/QuickScreen.h"
 
 #include <QPointingDevice>
+#include <QQmlComponent>
 #include <QTest>
 
 #include "qt/AccessibilityBridge.h"
@@ -55,6 +56,17 @@ QQuickItem* QuickScreen::addFocusable() {
   item->setSize({10, 10});
   item->setActiveFocusOnTab(true);
   item->forceActiveFocus();
+  return item;
+}
+
+QQuickItem* QuickScreen::addQml(const QByteArray& source) {
+  qmlRegisterType<qt::ViewItem>("Shop", 1, 0, "Row");
+  QQmlComponent component(&engine_);
+  component.setData("import QtQuick\nimport QtQuick.Layouts\nimport Shop\n" + source, {});
+  auto* item = qobject_cast<QQuickItem*>(component.create());
+  if (!item) qFatal("%s", qPrintable(component.errorString()));
+  item->setParent(window_->contentItem());
+  item->setParentItem(window_->contentItem());
   return item;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAccessible>
+#include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QString>
@@ -26,6 +27,8 @@ class QuickScreen {
   qt::ViewItem* add(swiftui::View view, QRectF place);
   /// Something of the host's that can have the focus.
   QQuickItem* addFocusable();
+  /// What `source` says in QML, in which the view items are called "Shop.Row".
+  QQuickItem* addQml(const QByteArray& source);
 
   /// Takes turns until nothing is left to draw.
   void settle();
@@ -45,6 +48,7 @@ class QuickScreen {
   QImage grab();
 
  private:
+  QQmlEngine engine_;
   std::unique_ptr<QQuickWindow> window_;
 };
 

@@ -1,9 +1,7 @@
 #include <gtest/gtest.h>
 
-#include <QQmlComponent>
-#include <QQmlEngine>
 #include <QTest>
-#include <memory>
+#include <functional>
 
 #include "tests/qt/FeeRow.h"
 #include "tests/qt/QuickScreen.h"
@@ -18,8 +16,17 @@ constexpr QRectF kPlace(20, 40, 300, 0);
 
 struct Closing {
   const char* by;
-  void (*perform)(QuickScreen& screen);
+  std::function<void(QuickScreen& screen)> perform;
 };
+
+std::function<void(QuickScreen&)> pull(QPoint to, int milliseconds, bool byTouch) {
+  return [=](QuickScreen& screen) { screen.drag({180, 420}, to, milliseconds, byTouch); };
+}
+std::function<void(QuickScreen&)> keys(QList<Qt::Key> pressed) {
+  return [=](QuickScreen& screen) {
+    for (const Qt::Key key : pressed) screen.key(key);
+  };
+}
 
 const Closing kWays[] = {
     {"the close element", [](QuickScreen& screen) { screen.click("Close 4 €"); }},
@@ -27,25 +34,12 @@ const Closing kWays[] = {
      [](QuickScreen& screen) {
        screen.clickAt({180, 150});
      }},
-    {"Escape", [](QuickScreen& screen) { screen.key(Qt::Key_Escape); }},
-    {"the Back key", [](QuickScreen& screen) { screen.key(Qt::Key_Back); }},
-    {"a flick of the mouse",
-     [](QuickScreen& screen) {
-       screen.drag({180, 420}, {180, 500}, 60, false);
-     }},
-    {"a flick of a finger",
-     [](QuickScreen& screen) {
-       screen.drag({180, 420}, {180, 500}, 60, true);
-     }},
-    {"a slow pull beyond its middle",
-     [](QuickScreen& screen) {
-       screen.drag({180, 420}, {180, 590}, 900, false);
-     }},
-    {"the keyboard on the close element",
-     [](QuickScreen& screen) {
-       screen.key(Qt::Key_Tab);
-       screen.key(Qt::Key_Return);
-     }},
+    {"Escape", keys({Qt::Key_Escape})},
+    {"the Back key", keys({Qt::Key_Back})},
+    {"the keyboard on the close element", keys({Qt::Key_Tab, Qt::Key_Return})},
+    {"a flick of the mouse", pull({180, 500}, 60, false)},
+    {"a flick of a finger", pull({180, 500}, 60, true)},
+    {"a slow pull beyond its middle", pull({180, 590}, 900, false)},
 };
 
 TEST(SheetItem, EveryWayClosesItAndGivesTheFocusBack) {
@@ -85,21 +79,14 @@ TEST(SheetItem, HoldsTheFocusInside) {
 
 TEST(SheetItem, KeepsInputFromWhatLiesBelow) {
   QuickScreen screen;
-  QQmlEngine engine;
-  QQmlComponent component(&engine);
-  component.setData(R"(import QtQuick
+  QQuickItem* below = screen.addQml(R"(
       MouseArea {
         property int events
         acceptedButtons: Qt.AllButtons; hoverEnabled: true
         onPressed: ++events
         onPositionChanged: ++events
         onWheel: ++events
-      })",
-                    {});
-  std::unique_ptr<QObject> root(component.create());
-  auto* below = qobject_cast<QQuickItem*>(root.get());
-  ASSERT_TRUE(below) << qPrintable(component.errorString());
-  below->setParentItem(screen.window().contentItem());
+      })");
   below->setSize(screen.window().size());
   screen.add(FeeRow("4 €"), kPlace);
   const QPoint onPanel(180, 580);
