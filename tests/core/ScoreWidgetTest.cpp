@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <fstream>
-#include <limits>
 #include <map>
 #include <sstream>
 
@@ -11,6 +10,7 @@
 #include "platform/swiftui/TreePrinter.h"
 #include "tests/core/ScoreWidgets.h"
 #include "tests/core/TestWindow.h"
+#include "tests/core/Vectors.h"
 
 namespace quorix {
 namespace {
@@ -23,29 +23,16 @@ using testing::TestWindow;
 // View model.
 
 TEST(ScoreWidgetViewModel, ShowsWholeUnitsOfTheCurrency) {
-  constexpr std::int64_t least = std::numeric_limits<std::int64_t>::min();
-  const struct {
-    const char* language;
-    const char* currency;
-    std::int64_t hundredths;
-    const char* text;
-  } rows[] = {
-      {"en", "EUR", 499, "€4.00"},       {"en", "EUR", 500, "€5.00"},
-      {"en", "EUR", 99, "€0.00"},        {"en", "EUR", -99, "€0.00"},
-      {"en", "EUR", -150, "-€1.00"},     {"en", "EUR", least, "-€92,233,720,368,547,758.00"},
-      {"es", "EUR", 499, "4,00\u00A0€"}, {"en", "JPY", 12399, "¥123"},
-      {"en", "", 499, "¤4.00"},          {"", "EUR", 499, "€\u00A04.00"},
-  };
-  for (const auto& row : rows) {
+  forEachRow("fees", [](simdjson::dom::element row) {
     // The two fees are written alike, whichever of them is the larger.
-    const TokenData base{0.5, row.currency, row.hundredths, 0};
-    const TokenData reduced{0.5, row.currency, 0, row.hundredths};
-    const auto& faces = testing::ownFaces;
-    EXPECT_EQ(ScoreWidgetViewModel("shop", base, row.language, faces).baseReturnFee.get(),
-              row.text);
-    EXPECT_EQ(ScoreWidgetViewModel("shop", reduced, row.language, faces).reducedReturnFee.get(),
-              row.text);
-  }
+    const std::int64_t fee = row["hundredths"];
+    const auto modelOf = [&](std::int64_t base, std::int64_t reduced) {
+      const TokenData token{0.5, ::text(row, "currency"), base, reduced};
+      return ScoreWidgetViewModel("shop", token, ::text(row, "language"), testing::ownFaces);
+    };
+    EXPECT_EQ(modelOf(fee, 0).baseReturnFee.get(), ::text(row, "text"));
+    EXPECT_EQ(modelOf(0, fee).reducedReturnFee.get(), ::text(row, "text"));
+  });
 }
 
 TEST(ScoreWidgetViewModel, TheScoreAloneDecidesTheDiscount) {

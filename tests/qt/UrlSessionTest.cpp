@@ -112,7 +112,6 @@ TEST_F(ConcurrentUrlSession, AnswersAreAnswersWhateverTheirStatusAndBrokenOnesAr
     EXPECT_NE(thread, std::this_thread::get_id());
   }
   fetch("/0");  // whatever else the first requests had to say would have come before this
-  for (const Fetch& each : fetches) EXPECT_EQ(each.completions(), 1);
 }
 
 Answer redirect(const std::string& place) {

@@ -41,15 +41,6 @@ struct CountingItem : qt::ViewItem {
   }
 };
 
-bool differsAround(const QImage& before, const QImage& after, QRect inner) {
-  for (int y = 0; y < before.height(); ++y) {
-    for (int x = 0; x < before.width(); ++x) {
-      if (!inner.contains(x, y) && before.pixel(x, y) != after.pixel(x, y)) return true;
-    }
-  }
-  return false;
-}
-
 TEST(ViewItem, ImplicitHeightFollowsTheWidthItIsGiven) {
   qt::ViewItem item(paragraph());
   const double ideal = item.implicitWidth();
@@ -148,10 +139,11 @@ TEST(ViewItem, TabReachesTheRowShowsARingAroundItAndLeaves) {
   QQuickItem* other = screen.addFocusable();
   qt::ViewItem* row = screen.add(FeeRow("4 €"), kPlace);
   const QRect frame = QRectF(row->position(), row->size()).toRect();
+  const QRect above(frame.topLeft() - QPoint(0, 3), QSize(frame.width(), 3));
   const QImage plain = screen.grab();
   screen.key(Qt::Key_Tab);
   EXPECT_TRUE(row->hasActiveFocus());
-  EXPECT_TRUE(differsAround(plain, screen.grab(), frame));
+  EXPECT_NE(screen.grab().copy(above), plain.copy(above));
   screen.key(Qt::Key_Tab);
   EXPECT_TRUE(other->hasActiveFocus());
   EXPECT_EQ(screen.grab(), plain);
