@@ -47,12 +47,10 @@ std::string unusedPort() {
 }
 
 const std::string kTable = R"({"labels":{"hint":"remote"}})";
-const std::string kPacked(
-    "\x1f\x8b\x08\x00\x00\x00\x00\x00\x02\x03\xab\x56\xca\x49\x4c\x4a\xcd\x29\x56\xb2\xaa\x56\xca"
-    "\xc8"
-    "\xcc\x2b\x51\xb2\x52\x2a\x48\x4c\xce\x4e\x4d\x51\xaa\xad\x05\x00\x3f\x78\xc2\x63\x1c\x00\x00"
-    "\x00",
-    48);
+const std::string kPacked = QByteArray::fromHex(
+                                "1f8b0800000000000203ab56ca494c4acd2956b2aa56cac8cc2b51b2522a48"
+                                "4cce4e4d51aaad05003f78c2631c000000")
+                                .toStdString();
 
 struct Case {
   std::string name;
