@@ -12,6 +12,13 @@
 namespace quorix::examples {
 namespace {
 
+bool isBlank(const QImage& image) {
+  QImage plain(image.size(), image.format());
+  plain.setDevicePixelRatio(image.devicePixelRatio());
+  plain.fill(image.pixelColor(0, 0));
+  return image == plain;
+}
+
 TEST(DemoPicturesTest, WithoutADisplayEverySceneIsAPictureOfItsOwn) {
   const QTemporaryDir folder;
   QProcess shop;
@@ -37,6 +44,7 @@ TEST(DemoPicturesTest, WithoutADisplayEverySceneIsAPictureOfItsOwn) {
   for (const QString& name : pictures) {
     const QImage image(out.filePath(name));
     ASSERT_FALSE(image.isNull()) << name.toStdString();
+    EXPECT_FALSE(isBlank(image)) << name.toStdString();
     EXPECT_TRUE(output.contains("out/" + name)) << name.toStdString();
     const QByteArray pixels(reinterpret_cast<const char*>(image.constBits()), image.sizeInBytes());
     const auto [known, isNew] = seen.emplace(pixels, name.toStdString());
