@@ -57,13 +57,13 @@ std::string mistake(const FormatConversion& conversion, FormatConversion::Kind w
 
 void checkFormat(const std::string& key, const std::string& format, FormatConversion::Kind wanted,
                  Problems& found) {
-  bool shown = false;
+  bool settled = false;  // shown, or known not to be
   for (const FormatConversion& conversion : foundation::conversions(format)) {
     const std::string what = mistake(conversion, wanted);
     if (!what.empty()) found.push_back({key, what});
-    shown = shown || conversion.kind == wanted;
+    settled = settled || !what.empty() || conversion.kind == wanted;
   }
-  if (!shown) found.push_back({key, "does not show its argument"});
+  if (!settled) found.push_back({key, "does not show its argument"});
 }
 
 /// The title is shown as what stands before its figure, the figure, and what stands behind it.
