@@ -7,8 +7,8 @@
 namespace quorix::foundation {
 namespace {
 
-constexpr std::size_t kMostEntries = 4;  // a screen speaks one language, or two
-constexpr std::size_t kLargestKept = 64 * 1024;
+constexpr std::size_t kMostEntries = 4;       // a screen speaks one language, or two
+constexpr std::size_t kLargestKept = 65'536;  // bytes
 
 std::shared_ptr<const StringTable> readTable(std::string_view bytes) {
   auto reading = readStringsFile(bytes);

@@ -7,6 +7,7 @@
 
 #include "Tool.h"
 
+using testing::EndsWith;
 using testing::HasSubstr;
 
 namespace {
@@ -31,7 +32,7 @@ TEST_F(ToolStringsCheck, TheLibrarysOwnTablesAreInOrder) {
        {QStringList{"strings", "check"}, {"strings", "check", QStringLiteral(STRINGS)}}) {
     const auto run = tool_.run(words);
     EXPECT_EQ(run.status, 0);
-    EXPECT_EQ(run.out, "18 tables checked, nothing found\n");
+    EXPECT_THAT(run.out, EndsWith(" tables checked, nothing found\n"));
     EXPECT_EQ(run.err, "");
   }
 }
