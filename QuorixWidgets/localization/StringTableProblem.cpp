@@ -47,7 +47,8 @@ std::string mistake(const FormatConversion& conversion, FormatConversion::Kind w
   if (conversion.kind != wanted) {
     const bool number = wanted == FormatConversion::Kind::number;
     return "has " + source + ", which does not match its argument, a " +
-           (number ? "number (%.0f)" : "text (%@)");
+           (number ? "number (%.0f)" : "text (%@)") +
+           (conversion.blank ? "; a percent sign is written %%" : "");
   }
   if (conversion.argument > 0 || conversion.width.argument || conversion.precision.argument) {
     return "has " + source + ", which asks for a second argument";
