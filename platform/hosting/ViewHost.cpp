@@ -34,6 +34,8 @@ struct ViewHost::State {
 
   text::TextEngine& engine;
   Client& client;
+  std::shared_ptr<State*> alive =
+      std::make_shared<State*>(this);  ///< contents may outlive the host
   swiftui::Environment environment;
   swiftui::ViewGraph graph;
   // Between an evaluation and the scene made of it; a view at rest keeps the scene alone.
@@ -58,6 +60,11 @@ void ViewHost::State::evaluateAgain() {
   stale = false;
   RecentEvaluations::shared().fill(evaluation, graph.evaluate(environment));
   detents = evaluation->detents;
+  for (const auto& content : evaluation->hosted) {
+    content->onChange([self = std::weak_ptr(alive)] {
+      if (self.lock()) (*self.lock())->changed();
+    });
+  }
   const bool had = presentation.has_value();
   presentation = evaluation->presentation;
   if (had || presentation) client.presentationChanged();
@@ -104,7 +111,7 @@ void ViewHost::State::layOut(layout::Size size) {
     if (!same) changes.push_back([action, now] { action(now); });
   };
   area = size;
-  scene = SceneBuilder(latest, environment, visit).build();
+  scene = SceneBuilder(latest, environment, engine, visit).build();
   scene->size = size;
   geometry = std::move(sizes);
   forget();
@@ -232,6 +239,16 @@ bool ViewHost::moveFocus(bool forward) {
 }
 
 void ViewHost::clearFocus() { state_->focused = -1; }
+
+int ViewHost::actingElements() const {
+  const render::Scene* scene = state_->current();
+  if (!scene) return 0;
+  const auto acts = [](const render::AccessibilityElement& element) {
+    return bool(element.action);
+  };
+  const auto& elements = scene->accessibility;
+  return static_cast<int>(std::count_if(elements.begin(), elements.end(), acts));
+}
 
 std::optional<layout::Rect> ViewHost::focusFrame() const {
   if (!state_->scene || state_->focused < 0) return std::nullopt;

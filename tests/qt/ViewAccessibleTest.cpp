@@ -3,7 +3,7 @@
 #include <QAccessible>
 
 #include "tests/qt/FeeRow.h"
-#include "tests/qt/QuickScreen.h"
+#include "tests/qt/Screens.h"
 
 namespace quorix::testing {
 namespace {
@@ -12,6 +12,10 @@ using swiftui::Text;
 using swiftui::View;
 
 constexpr QRectF kPlace(20, 40, 300, 0);
+
+template <class>
+struct Accessible : ::testing::Test {};
+TYPED_TEST_SUITE(Accessible, Screens, ScreenName);
 
 /// An element and what it holds: role, name and description, whether keys reach it and have.
 std::string printed(QAccessibleInterface* element, const std::string& indent = {}) {
@@ -30,33 +34,33 @@ std::string printed(QAccessibleInterface* element, const std::string& indent = {
   return text;
 }
 
-void pressThrough(QuickScreen& screen, QAccessibleInterface* element) {
+void pressThrough(Screen& screen, QAccessibleInterface* element) {
   element->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
   screen.settle();
 }
 
-TEST(ViewAccessible, ARowIsExactlyOneButtonOfItsWindow) {
-  QuickScreen screen;
-  qt::ViewItem* row = screen.add(FeeRow("4 €"), kPlace);
-  QAccessibleInterface* window = QAccessible::queryAccessibleInterface(&screen.window());
+TYPED_TEST(Accessible, ARowIsExactlyOneButtonOfItsWindow) {
+  TypeParam screen;
+  auto* row = screen.add(FeeRow("4 €"), kPlace);
   QAccessibleInterface* button = screen.find("Row 4 €");
   ASSERT_TRUE(button);
   EXPECT_EQ(printed(button), "Button \"Row 4 €\" \"Opens details\" focusable acts\n");
-  EXPECT_EQ(button->parent(), window);
+  QAccessibleInterface* window = button->parent();
+  EXPECT_EQ(window->rect().size(), screen.window().size());
   const std::string everything = printed(window);
   EXPECT_EQ(everything.find("Row 4 €"), everything.rfind("Row 4 €")) << everything;
-  EXPECT_EQ(button->rect().topLeft(), row->mapToGlobal(QPointF()).toPoint());
-  EXPECT_EQ(button->rect().size(), row->size().toSize());
+  const QRect place = screen.placeOf(row);
+  EXPECT_EQ(button->rect(), QRect(screen.window().mapToGlobal(place.topLeft()), place.size()));
   pressThrough(screen, button);
   EXPECT_TRUE(screen.shows("Fee 4 €"));
 }
 
-TEST(ViewAccessible, SeveralElementsStandInAGroupInReadingOrder) {
-  QuickScreen screen;
+TYPED_TEST(Accessible, SeveralElementsStandInAGroupInReadingOrder) {
+  TypeParam screen;
   int taps = 0;
   const View heading =
       View(Text::verbatim("Title")).accessibilityAddTraits(swiftui::AccessibilityTrait::isHeader);
-  qt::ViewItem* item =
+  auto* item =
       screen.add(swiftui::VStack(layout::HorizontalAlignment::leading, 4,
                                  {heading, Text::verbatim("Text"),
                                   View(Text::verbatim("Press")).onTapGesture([&taps] { ++taps; })}),
@@ -78,8 +82,8 @@ TEST(ViewAccessible, SeveralElementsStandInAGroupInReadingOrder) {
   EXPECT_EQ(taps, 1);
 }
 
-TEST(ViewAccessible, ASheetIsAModalDialogAndCoversTheRest) {
-  QuickScreen screen;
+TYPED_TEST(Accessible, ASheetIsAModalDialogAndCoversTheRest) {
+  TypeParam screen;
   screen.add(FeeRow("4 €"), kPlace);
   screen.click("Row 4 €");
   QAccessibleInterface* text = screen.find("Fee 4 €");

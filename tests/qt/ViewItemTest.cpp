@@ -134,30 +134,6 @@ TEST(ViewItem, HasAPictureOnlyInAndNearTheViewport) {
   EXPECT_EQ(pictured(), Range(46, 61));
 }
 
-TEST(ViewItem, TabReachesTheRowShowsARingAroundItAndLeaves) {
-  QuickScreen screen;
-  QQuickItem* other = screen.addFocusable();
-  qt::ViewItem* row = screen.add(FeeRow("4 €"), kPlace);
-  const QRect frame = QRectF(row->position(), row->size()).toRect();
-  const QRect above(frame.topLeft() - QPoint(0, 3), QSize(frame.width(), 3));
-  const QImage plain = screen.grab();
-  screen.key(Qt::Key_Tab);
-  EXPECT_TRUE(row->hasActiveFocus());
-  EXPECT_NE(screen.grab().copy(above), plain.copy(above));
-  screen.key(Qt::Key_Tab);
-  EXPECT_TRUE(other->hasActiveFocus());
-  EXPECT_EQ(screen.grab(), plain);
-  screen.key(Qt::Key_Backtab, Qt::ShiftModifier);
-  EXPECT_TRUE(row->hasActiveFocus());
-  // A press takes the focus as well, without the ring.
-  other->forceActiveFocus();
-  QTest::mousePress(&screen.window(), Qt::LeftButton, {}, frame.center());
-  screen.settle();
-  EXPECT_TRUE(row->hasActiveFocus());
-  EXPECT_EQ(screen.grab(), plain);
-  QTest::mouseRelease(&screen.window(), Qt::LeftButton, {}, {1, 300});
-}
-
 TEST(ViewItem, AFingerThatScrollsTapsNothing) {
   QuickScreen screen;
   QQuickItem* flickable =
