@@ -1,0 +1,177 @@
+#include <gtest/gtest.h>
+
+#include <QTest>
+#include <QWheelEvent>
+#include <functional>
+
+#include "tests/qt/FeeRow.h"
+#include "tests/qt/Screens.h"
+
+namespace quorix::testing {
+namespace {
+
+using swiftui::Text;
+using swiftui::View;
+
+constexpr QRectF kPlace(20, 40, 300, 0);
+
+template <class>
+struct Sheet : ::testing::Test {};
+TYPED_TEST_SUITE(Sheet, Screens, ScreenName);
+
+struct Closing {
+  const char* by;
+  std::function<void(Screen& screen)> perform;
+};
+
+std::function<void(Screen&)> pull(QPoint to, int milliseconds, bool byTouch) {
+  return [=](Screen& screen) { screen.drag({180, 420}, to, milliseconds, byTouch); };
+}
+std::function<void(Screen&)> keys(QList<Qt::Key> pressed) {
+  return [=](Screen& screen) {
+    for (const Qt::Key key : pressed) screen.key(key);
+  };
+}
+
+const Closing kWays[] = {
+    {"the close element", [](Screen& screen) { screen.click("Close 4 €"); }},
+    {"a tap outside",
+     [](Screen& screen) {
+       screen.clickAt({180, 150});
+     }},
+    {"Escape", keys({Qt::Key_Escape})},
+    {"the Back key", keys({Qt::Key_Back})},
+    {"the keyboard on the close element", keys({Qt::Key_Tab, Qt::Key_Return})},
+    {"a flick of the mouse", pull({180, 500}, 60, false)},
+    {"a flick of a finger", pull({180, 500}, 60, true)},
+    {"a slow pull beyond its middle", pull({180, 590}, 900, false)},
+};
+
+TYPED_TEST(Sheet, EveryWayClosesItAndGivesTheFocusBack) {
+  for (const Closing& way : kWays) {
+    TypeParam screen;
+    auto* field = screen.addFocusable();
+    auto* row = screen.add(FeeRow("4 €"), kPlace);
+    const QImage before = screen.grab();
+    screen.key(Qt::Key_Tab);
+    screen.key(Qt::Key_Space);
+    ASSERT_TRUE(screen.shows("Fee 4 €")) << way.by;
+    EXPECT_FALSE(screen.hasFocus(row)) << way.by;
+    way.perform(screen);
+    EXPECT_FALSE(screen.shows("Fee 4 €")) << way.by;
+    EXPECT_TRUE(screen.hasFocus(row)) << way.by;
+    screen.focus(field);
+    screen.settle();
+    EXPECT_EQ(screen.grab(), before) << way.by;
+    screen.key(Qt::Key_Tab);
+    screen.key(Qt::Key_Return);
+    EXPECT_TRUE(screen.shows("Fee 4 €")) << way.by << ", and again";
+  }
+}
+
+TYPED_TEST(Sheet, HoldsTheFocusInside) {
+  TypeParam screen;
+  screen.addFocusable();
+  screen.add(FeeRow("4 €"), kPlace);
+  screen.click("Row 4 €");
+  QObject* sheet = QGuiApplication::focusObject();
+  for (int i = 0; i < 5; ++i) {
+    screen.key(i < 3 ? Qt::Key_Tab : Qt::Key_Backtab);
+    EXPECT_EQ(QGuiApplication::focusObject(), sheet);
+    EXPECT_EQ(screen.find("Close 4 €")->state().focused, i % 2 == 0);
+  }
+}
+
+TYPED_TEST(Sheet, KeepsInputFromWhatLiesBelow) {
+  TypeParam screen;
+  const auto eventsBelow = screen.listenBelow();
+  screen.add(FeeRow("4 €"), kPlace);
+  const QPoint onPanel(180, 580);
+  const auto disturb = [&] {
+    const int before = eventsBelow();
+    QTest::mouseMove(&screen.window(), onPanel);
+    QTest::mouseClick(&screen.window(), Qt::RightButton, {}, onPanel);
+    QWheelEvent wheel(onPanel, onPanel, {0, 20}, {0, 120}, Qt::NoButton, {}, Qt::NoScrollPhase,
+                      false);
+    QCoreApplication::sendEvent(&screen.window(), &wheel);
+    screen.drag(onPanel, onPanel, 20, true);
+    return eventsBelow() - before;
+  };
+  EXPECT_GE(disturb(), 3);
+  screen.click("Row 4 €");
+  EXPECT_EQ(disturb(), 0);
+  EXPECT_TRUE(screen.shows("Fee 4 €"));
+}
+
+TYPED_TEST(Sheet, RowsOfOneWindowHaveTheirOwn) {
+  TypeParam screen;
+  screen.add(FeeRow("4 €"), kPlace);
+  screen.add(FeeRow("9 €"), kPlace.translated(0, 100));
+  for (const QString fee : {"9 €", "4 €"}) {
+    screen.click("Row " + fee);
+    EXPECT_EQ(screen.shows("Fee 4 €"), fee == "4 €");
+    EXPECT_EQ(screen.shows("Fee 9 €"), fee == "9 €");
+    screen.key(Qt::Key_Escape);
+  }
+}
+
+TYPED_TEST(Sheet, GoesWithItsRow) {
+  TypeParam screen;
+  auto* field = screen.addFocusable();
+  auto* row = screen.add(FeeRow("4 €"), kPlace);
+  screen.click("Row 4 €");
+  delete row;
+  EXPECT_FALSE(screen.shows("Fee 4 €"));
+  screen.settle();
+  screen.key(Qt::Key_Tab);
+  EXPECT_TRUE(screen.hasFocus(field));
+}
+
+/// Its sheet asks the host to take the row away.
+struct Leaving {
+  static constexpr std::string_view typeName = "Leaving";
+  std::function<void()> leave;
+  swiftui::State<bool> shown{false};
+  auto states() const { return std::tie(shown); }
+  View body() const {
+    return View(Text::verbatim("open"))
+        .onTapGesture([binding = shown.binding()] { binding.toggle(); })
+        .sheet(shown.binding(), View(Text::verbatim("leave")).onTapGesture(leave));
+  }
+};
+
+TYPED_TEST(Sheet, MayEndItsRowFromInside) {
+  TypeParam screen;
+  decltype(screen.add(View(), kPlace)) row = nullptr;
+  row = screen.add(Leaving{[&] { delete row; }}, kPlace);
+  screen.click("open");
+  screen.click("leave");
+  EXPECT_FALSE(screen.shows("leave"));
+}
+
+TYPED_TEST(Sheet, GoesWithItsWindowAndToAnotherOne) {
+  TypeParam first;
+  TypeParam second;
+  auto* row = first.add(FeeRow("4 €"), kPlace);
+  first.click("Row 4 €");
+  second.adopt(row);
+  second.settle();
+  EXPECT_FALSE(first.shows("Fee 4 €"));
+  EXPECT_TRUE(second.shows("Fee 4 €"));
+  second.closeWindow();
+}
+
+TYPED_TEST(Sheet, RisesOverSeveralFramesAndThenRests) {
+  TypeParam screen;
+  auto* row = screen.add(FeeRow("4 €"), kPlace);
+  row->setMotion(true);
+  const int before = screen.frames();
+  screen.click("Row 4 €");
+  EXPECT_GT(screen.frames(), before + 5);
+  const int risen = screen.frames();
+  QTest::qWait(100);
+  EXPECT_EQ(screen.frames(), risen);
+}
+
+}  // namespace
+}  // namespace quorix::testing
