@@ -39,6 +39,8 @@ const Wrong wrongLines[] = {
     {{"score", "--token", "a.b", "--direction", "up"}, "--direction wants ltr or rtl"},
     {{"score", "--token", "a.b", "--text-size", "huge"}, "--text-size knows no \"huge\""},
     {{"score", "--token", "a.b", "--out", "row.jpg"}, "--out wants a file that ends in .png"},
+    {{"overlay-url", "en"}, "unexpected argument \"en\""},
+    {{"overlay-url", "--locale"}, "--locale wants a value"},
     {{"score", "--token", "a.b", "--json", "--tree"}, "--tree has no JSON form"},
     {{"score", "--token", "a.b", "--json", "--out", "a.png"}, "--json wants"},
 };
@@ -74,8 +76,11 @@ TEST(ToolCommandLine, HelpNeedsNothingElseToBeRight) {
 
 TEST(ToolCommandLine, ExamplesInHelpWorkWhenPasted) {
   const Tool tool;
-  for (const QStringList& words :
-       {QStringList{"--help"}, {"mint", "--help"}, {"decode", "--help"}, {"score", "--help"}}) {
+  for (const QStringList& words : {QStringList{"--help"},
+                                   {"mint", "--help"},
+                                   {"decode", "--help"},
+                                   {"score", "--help"},
+                                   {"overlay-url", "--help"}}) {
     const std::string help = tool.run(words).out;
     const std::string heading = "\nExample:\n";
     const std::size_t at = help.find(heading);

@@ -6,6 +6,7 @@
 #include "tools/quorix/DecodeCommand.h"
 #include "tools/quorix/Help.h"
 #include "tools/quorix/MintCommand.h"
+#include "tools/quorix/OverlayUrlCommand.h"
 #include "tools/quorix/ScoreCommand.h"
 
 namespace {
@@ -19,6 +20,7 @@ constexpr const Command* commands[] = {
     &quorix::tool::mintCommand,
     &quorix::tool::decodeCommand,
     &quorix::tool::scoreCommand,
+    &quorix::tool::overlayUrlCommand,
 };
 
 Outcome run(const Command& command, std::span<const std::string> words) {
