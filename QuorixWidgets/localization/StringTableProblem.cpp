@@ -47,7 +47,8 @@ std::string mistake(const FormatConversion& conversion, FormatConversion::Kind w
   if (conversion.kind != wanted) {
     const bool number = wanted == FormatConversion::Kind::number;
     return "has " + source + ", which does not match its argument, a " +
-           (number ? "number (%.0f)" : "text (%@)");
+           (number ? "number (%.0f)" : "text (%@)") +
+           (conversion.blank ? "; a percent sign is written %%" : "");
   }
   if (conversion.argument > 0 || conversion.width.argument || conversion.precision.argument) {
     return "has " + source + ", which asks for a second argument";
@@ -57,13 +58,13 @@ std::string mistake(const FormatConversion& conversion, FormatConversion::Kind w
 
 void checkFormat(const std::string& key, const std::string& format, FormatConversion::Kind wanted,
                  Problems& found) {
-  bool shown = false;
+  bool settled = false;  // shown, or known not to be
   for (const FormatConversion& conversion : foundation::conversions(format)) {
     const std::string what = mistake(conversion, wanted);
     if (!what.empty()) found.push_back({key, what});
-    shown = shown || conversion.kind == wanted;
+    settled = settled || !what.empty() || conversion.kind == wanted;
   }
-  if (!shown) found.push_back({key, "does not show its argument"});
+  if (!settled) found.push_back({key, "does not show its argument"});
 }
 
 /// The title is shown as what stands before its figure, the figure, and what stands behind it.

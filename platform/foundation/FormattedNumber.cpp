@@ -31,7 +31,7 @@ void addPoint(std::string& text, char exponentLetter) {
 /// "%#g" keeps the zeros that "%g" drops.
 std::string generalWithZeros(double magnitude, int precision) {
   const int significant = std::max(precision, 1);
-  const std::string scientific = digits(magnitude, std::chars_format::scientific, significant - 1);
+  std::string scientific = digits(magnitude, std::chars_format::scientific, significant - 1);
   const std::size_t mark = scientific.find('e') + 1;
   int exponent = 0;
   std::from_chars(scientific.data() + mark + (scientific[mark] == '+' ? 1 : 0),

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "platform/foundation/StringFormat.h"
-#include "platform/foundation/StringsFile.h"
+#include "platform/foundation/StringTableCache.h"
 
 namespace quorix::foundation {
 namespace {
@@ -16,14 +16,13 @@ StringLookup& mainTable() {
 }  // namespace
 
 std::string localizedString(const Bundle& bundle, std::string_view key, std::string_view table) {
+  // Never destroyed: a text may be asked for while the process ends.
+  static StringTableCache& cache = *new StringTableCache;
   const auto file = bundle.data(std::string(table) + ".strings");
-  if (file) {
-    const auto reading = readStringsFile(*file);
-    if (const auto* entries = std::get_if<StringTable>(&reading)) {
-      if (const auto entry = entries->find(key); entry != entries->end()) return entry->second;
-    }
-  }
-  return std::string(key);
+  const auto entries = file ? cache.read(*file) : nullptr;
+  if (!entries) return std::string(key);
+  const auto entry = entries->find(key);
+  return entry == entries->end() ? std::string(key) : entry->second;
 }
 
 void setMainStringTable(StringLookup table) { mainTable() = std::move(table); }

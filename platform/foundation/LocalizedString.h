@@ -10,8 +10,9 @@
 
 namespace quorix::foundation {
 
-/// The text for `key` in the string table "table.strings" of `bundle`, read anew at each call; the
-/// key itself where the bundle has no such entry or no table that can be read. Any thread.
+/// The text for `key` in the string table "table.strings" of `bundle`, as it is at the moment of
+/// the call; the key itself where the bundle has no such entry or no table that can be read. Any
+/// thread.
 ///
 ///     localizedString(*bundle->folder("en.lproj"), "greeting", "Localizable")
 std::string localizedString(const Bundle& bundle, std::string_view key, std::string_view table);

@@ -53,22 +53,27 @@ class Composition {
   const icu::Normalizer2* normalizer_;
 };
 
+std::unique_ptr<icu::BreakIterator> makeCharacterBreaks() {
+  UErrorCode status = U_ZERO_ERROR;
+  std::unique_ptr<icu::BreakIterator> breaks(
+      icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status));
+  if (U_FAILURE(status)) breaks.reset();
+  return breaks;
+}
+
+/// Expensive to make, so each thread keeps one.
+thread_local const std::unique_ptr<icu::BreakIterator> threadsBreaks = makeCharacterBreaks();
+
 /// The places where the characters of `text` begin and end, until the thread asks for those of
 /// another text; null when ICU cannot tell.
 icu::BreakIterator* characterBreaks(std::string_view text) {
-  thread_local const auto breaks = [] {  // expensive to make
-    UErrorCode status = U_ZERO_ERROR;
-    std::unique_ptr<icu::BreakIterator> made(
-        icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status));
-    if (U_FAILURE(status)) made.reset();
-    return made;
-  }();
+  icu::BreakIterator* const breaks = threadsBreaks.get();
   UErrorCode status = U_ZERO_ERROR;
   UText source = UTEXT_INITIALIZER;
   utext_openUTF8(&source, text.data(), static_cast<std::int64_t>(text.size()), &status);
   const icu::LocalUTextPointer closing(&source);
   if (breaks) breaks->setText(&source, status);
-  return U_SUCCESS(status) ? breaks.get() : nullptr;
+  return U_SUCCESS(status) ? breaks : nullptr;
 }
 
 /// Splits where the bytes of `separator` stand between two places that `isBoundary` accepts.

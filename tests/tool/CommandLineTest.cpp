@@ -26,6 +26,8 @@ const Wrong wrongLines[] = {
     {{"mint", "--base", "9223372036854775808"}, "--base wants a whole number"},
     {{"decode"}, "TOKEN is missing"},
     {{"decode", "a.b", "c.d"}, "unexpected argument \"c.d\""},
+    {{"strings"}, "unknown command \"strings\""},
+    {{"strings", "check", "a", "b"}, "unexpected argument \"b\""},
     {{"score"}, "--token is missing"},
     {{"score", "--token", "a.b", "--widht", "3"}, "unknown option \"--widht\""},
     {{"score", "--token", "a.b", "--sheet=yes"}, "--sheet takes no value"},
@@ -80,7 +82,8 @@ TEST(ToolCommandLine, ExamplesInHelpWorkWhenPasted) {
                                    {"mint", "--help"},
                                    {"decode", "--help"},
                                    {"score", "--help"},
-                                   {"overlay-url", "--help"}}) {
+                                   {"overlay-url", "--help"},
+                                   {"strings", "check", "--help"}}) {
     const std::string help = tool.run(words).out;
     const std::string heading = "\nExample:\n";
     const std::size_t at = help.find(heading);
