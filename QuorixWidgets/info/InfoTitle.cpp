@@ -10,9 +10,7 @@ std::vector<InfoTitlePart> splitInfoTitle(std::string_view title, std::string_vi
   auto pieces = foundation::components(title, number);
   std::erase_if(pieces, [](std::string_view piece) { return piece.empty(); });
   if (pieces.empty()) return {};
-  const auto text = [](std::string_view piece) {
-    return InfoTitlePart{std::string(piece), false};
-  };
+  const auto text = [](std::string_view piece) { return InfoTitlePart{std::string(piece), false}; };
   InfoTitlePart figure{std::string(number), true};
   if (pieces.size() == 1) return {std::move(figure), text(pieces[0])};
   return {text(pieces[0]), std::move(figure), text(pieces[1])};

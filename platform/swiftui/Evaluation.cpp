@@ -119,7 +119,7 @@ void Evaluator::collect(const nodes::Image& node, const View&, const Look& look,
 void Evaluator::collect(const nodes::Represented& node, const View&, const Look&, Axis,
                         Elements& out) {
   using Content = std::shared_ptr<render::HostedContent>;
-  path_.push_back(steps::represented);
+  path_.push_back(steps::into(node.make.target_type()));  // another maker, other content
   auto& boxes = store_.states(path_).boxes;
   path_.pop_back();
   if (boxes.empty()) boxes.emplace_back(node.make());

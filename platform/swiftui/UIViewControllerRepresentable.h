@@ -21,9 +21,7 @@ namespace quorix::swiftui {
 template <class R>
 concept UIViewControllerRepresentable = requires(const R& value) {
   { R::typeName } -> std::convertible_to<std::string_view>;
-  {
-    value.makeUIViewController()
-  } -> std::convertible_to<std::shared_ptr<uikit::UIViewController>>;
+  { value.makeUIViewController() } -> std::convertible_to<std::shared_ptr<uikit::UIViewController>>;
   value.updateUIViewController(*value.makeUIViewController());
 };
 

@@ -23,11 +23,13 @@ concept UIViewRepresentable = requires(const R& value) {
   { value.makeUIView() } -> std::convertible_to<std::shared_ptr<uikit::UIView>>;
 };
 
-/// The view that `value` makes, once for each place in a tree; it is let go when it leaves the tree.
+/// The view that `value` makes, once for each place in a tree; it is let go when it leaves the
+/// tree.
 template <UIViewRepresentable R>
 View represent(R value) {
   nodes::Represented node{
-      R::typeName, [value] { return std::make_shared<uikit::UIViewContent>(value.makeUIView()); },
+      R::typeName,
+      [value] { return std::make_shared<uikit::UIViewContent>(value.makeUIView()); },
       {}};
   if constexpr (requires { value.updateUIView(*value.makeUIView()); }) {
     using Made = typename decltype(value.makeUIView())::element_type;

@@ -36,12 +36,17 @@ struct NSLayoutConstraint {
   std::optional<LayoutAttribute> secondAttribute;  ///< absent: the constant alone
   double constant = 0;
 
-  /// Whether two attributes may stand against each other: edges of one axis, or lengths.
+  /// Whether two attributes may stand against each other: edges of one kind, or lengths on one
+  /// axis.
   static bool comparable(LayoutAttribute first, std::optional<LayoutAttribute> second);
 
   /// Puts the constraints in force. One that joins views which do not stand as described above, or
   /// attributes that cannot be compared, stops the process. Main thread.
   static void activate(const std::vector<NSLayoutConstraint>& constraints);
+
+  /// The view that keeps it while it is in force: the one that holds the other, or both. Null when
+  /// it cannot be put in force.
+  UIView* holder() const;
 };
 
 /// One edge or length of a view, to make constraints from.

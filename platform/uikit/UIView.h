@@ -41,7 +41,8 @@ class UIView : public std::enable_shared_from_this<UIView> {
   const std::vector<std::shared_ptr<UIView>>& subviews() const { return subviews_; }
   /// Takes `view` from where it was and puts it on top. A view inside itself stops the process.
   void addSubview(std::shared_ptr<UIView> view);
-  /// The same at `index` among the subviews, counted without `view`; one beyond the last is the top.
+  /// The same at `index` among the subviews, counted without `view`; one beyond the last is the
+  /// top.
   void insertSubview(std::shared_ptr<UIView> view, std::size_t index);
   /// The constraints between this view and those that it leaves end.
   void removeFromSuperview();
@@ -110,8 +111,8 @@ class UIView : public std::enable_shared_from_this<UIView> {
   /// there is no content.
   virtual std::optional<layout::Size> intrinsicContentSize(std::optional<double> width,
                                                            const LayoutContext& context) const;
-  /// Appends what this view shows between its background and its subviews. `frame` is exact, in the
-  /// scene's coordinates.
+  /// Appends what this view shows below its subviews: here, its background. `frame` is exact, in
+  /// the scene's coordinates, and so are the items' frames.
   virtual void draw(const layout::Rect& frame, const LayoutContext& context,
                     std::vector<render::Item>& items) const;
   /// What the content says to assistive technology; nothing when there is nothing to say.

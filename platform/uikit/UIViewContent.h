@@ -27,7 +27,8 @@ class UIViewContent : public render::HostedContent {
     quiet_ = before;
   }
 
-  /// What constraints and content ask for, within the proposal; what they leave open is taken whole.
+  /// What constraints and content ask for, within the proposal; what they leave open is taken
+  /// whole.
   layout::Size sizeThatFits(layout::ProposedSize proposal, text::TextEngine& engine,
                             double scale) override;
   render::Scene scene(layout::Size size, const render::Display& display,

@@ -17,8 +17,8 @@ class WKUIDelegate {
  public:
   virtual ~WKUIDelegate() = default;
 
-  /// The page, or a script on it, asks for a new window. What is returned is not given the page: the
-  /// library knows only windows that leave the app. Absent, and without a delegate, none opens.
+  /// The page, or a script on it, asks for a new window. What is returned is not given the page:
+  /// the library knows only windows that leave the app. Absent, and without a delegate, none opens.
   virtual std::shared_ptr<WKWebView> webView(WKWebView& webView,
                                              const WKWebViewConfiguration& createWebViewWith,
                                              const WKNavigationAction& forAction,
