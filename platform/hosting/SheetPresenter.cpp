@@ -73,10 +73,10 @@ struct SheetPresenter::State final : ViewHost::Client {
     return content.scene({geometry.panelWidth(), restingHeight()},
                          {.bottom = geometry.bottomInset()});
   }
+  void addPanel(render::Scene& to, const layout::Rect& frame);
   std::optional<layout::Rect> inWindow(const std::optional<layout::Rect>& frame) const {
     return frame ? std::optional(frame->translated(panel().origin)) : std::nullopt;
   }
-  void addPanel(render::Scene& to, const layout::Rect& frame);
   void close();
 
   SheetPresenter::Client& client;
