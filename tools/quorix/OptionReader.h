@@ -25,7 +25,11 @@ class OptionReader {
 
   explicit OptionReader(const Arguments& arguments) : arguments_(arguments) {}
 
+  bool has(std::string_view option) const { return arguments_.has(option); }
   std::string text(std::string_view option, std::string_view fallback) const;
+  std::optional<std::string> optionalText(std::string_view option) const {
+    return arguments_.value(option);
+  }
   std::string required(std::string_view option);
   double number(std::string_view option, double fallback, Range range);
   std::optional<double> optionalNumber(std::string_view option, Range range);
