@@ -38,7 +38,7 @@ AccessibilityElement merged(const std::vector<AccessibilityElement>& children,
 void act(AccessibilityElement& element, const std::function<void()>& action) {
   if (element.action) return;
   element.action = action;
-  element.role = Role::button;
+  if (element.role != Role::link) element.role = Role::button;
 }
 
 }  // namespace

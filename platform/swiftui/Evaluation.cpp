@@ -119,11 +119,12 @@ void Evaluator::collect(const nodes::Image& node, const View&, const Look& look,
 void Evaluator::collect(const nodes::Represented& node, const View&, const Look&, Axis,
                         Elements& out) {
   using Content = std::shared_ptr<render::HostedContent>;
-  path_.push_back(steps::represented);
+  path_.push_back(steps::into(node.make.target_type()));  // another maker, other content
   auto& boxes = store_.states(path_).boxes;
   path_.pop_back();
   if (boxes.empty()) boxes.emplace_back(node.make());
-  const Content& content = std::any_cast<const Content&>(boxes.front());
+  const Content content = std::any_cast<const Content&>(boxes.front());
+  if (node.update) node.update(*content);
   out.push_back(
       {elements::Hosted{static_cast<int>(result_.hosted.size()), content.get()}, {}, {}, {}});
   result_.hosted.push_back(content);
