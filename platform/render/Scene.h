@@ -47,7 +47,8 @@ struct StrokeItem {
 struct EmbedItem {
   layout::Rect frame;
   std::shared_ptr<Embed> content;
-  graphics::RGBA background;  ///< shows until the content has painted, and in pictures
+  graphics::RGBA background;   ///< shows until the content has painted, and in pictures
+  double topCornerRadius = 0;  ///< of the two upper corners
 };
 
 using Item = std::variant<TextItem, ImageItem, FillItem, StrokeItem, EmbedItem>;

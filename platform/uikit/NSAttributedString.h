@@ -15,9 +15,9 @@ enum class NSUnderlineStyle : std::uint8_t { none = 0, single = 1, thick = 2 };
 
 /// The looks of a stretch of text; what is absent is left to the label that shows it.
 struct NSAttributes {
-  UIFont::Ref font;              ///< null: the label's
-  UIColor::Ref foregroundColor;  ///< null: the label's
-  std::optional<NSUnderlineStyle> underlineStyle;
+  UIFont::Ref font = nullptr;              ///< null: the label's
+  UIColor::Ref foregroundColor = nullptr;  ///< null: the label's
+  std::optional<NSUnderlineStyle> underlineStyle = std::nullopt;
   bool operator==(const NSAttributes&) const = default;
 };
 
