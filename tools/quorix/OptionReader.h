@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/graphics/RGBA.h"
 #include "tools/quorix/Arguments.h"
 
 namespace quorix::tool {
@@ -38,6 +39,9 @@ class OptionReader {
   /// Which of `names` was given; nothing when the option was not.
   std::optional<std::size_t> choice(std::string_view option,
                                     std::initializer_list<std::string_view> names);
+
+  /// "#RRGGBB", as designers write it; opaque.
+  std::optional<graphics::RGBA> color(std::string_view option);
 
   void fail(std::string message);
   const std::optional<Failure>& failure() const { return failure_; }
