@@ -25,7 +25,9 @@ WKWebView::WKWebView(layout::Rect frame, const WKWebViewConfiguration& configura
 }
 
 /// An engine may hold the page longer than this view.
-WKWebView::~WKWebView() { content_->onNewWindow = nullptr; }
+WKWebView::~WKWebView() {
+  content_->onNewWindow = [](const auto&) {};
+}
 
 void WKWebView::load(const foundation::URLRequest& request) { content_->load(request.url); }
 
