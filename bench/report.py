@@ -177,6 +177,26 @@ def starts(table, folder, quick):
     table.note("… of which an empty window and Qt's list of the fonts", f"{milliseconds(bare)} for both")
 
 
+def overlays(table, folder, quick):
+    """The first overlay beside a bare web view. Without the engine there is nothing to compare."""
+    runs = {"overlay_ours": [], "overlay_bare": []}
+    for _ in range(3 if quick else 9):
+        for program, taken in runs.items():
+            out = subprocess.run([folder / program], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+            if out.returncode != 0:
+                table.note("tap to the overlay's first frame", "no web engine here")
+                return
+            taken.append(json.loads(out.stdout))
+
+    def median(program, state, what):
+        return statistics.median(run[state][what] for run in runs[program])
+
+    for state in ("cold", "warm"):
+        for what, name in (("overlay", "the sheet's first frame"), ("page", "the first frame with its page")):
+            table.add(f"tap to {name}, engine {state}", median("overlay_ours", state, what),
+                      median("overlay_bare", state, "page"), "bare web view", None, milliseconds)
+
+
 def size(table, folder):
     """What the core adds to a program: a stripped one that builds a row and prints its tree."""
     with tempfile.TemporaryDirectory() as scratch:
@@ -199,6 +219,7 @@ def main():
     memory(table, folder, quick)
     contained = updates(table, folder)
     starts(table, folder, quick)
+    overlays(table, folder, quick)
     size(table, folder)
     table.print("--table" in sys.argv)
     return 0 if contained else 1
