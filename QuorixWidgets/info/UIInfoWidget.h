@@ -24,6 +24,8 @@ class UIInfoWidget final : public uikit::UIView {
   [[noreturn]] static std::shared_ptr<UIInfoWidget> initWithCoder();
   [[noreturn]] static std::shared_ptr<UIInfoWidget> initWithFrame(layout::Rect frame);
 
+  std::string_view className() const override { return classXibName; }
+
   /// The link was tapped.
   void tapFunction(uikit::UITapGestureRecognizer& sender);
 

@@ -24,6 +24,7 @@ class UIImageView final : public UIView {
   static layout::Rect pictureFrame(const layout::Rect& rect, const UIEdgeInsets& insets,
                                    layout::Size size);
 
+  std::string_view className() const override { return "UIImageView"; }
   std::optional<layout::Size> intrinsicContentSize(std::optional<double> width,
                                                    const LayoutContext& context) const override;
   void draw(const layout::Rect& frame, const LayoutContext& context,

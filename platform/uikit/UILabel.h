@@ -37,6 +37,7 @@ class UILabel final : public UIView {
   void setNumberOfLines(int lines);
   NSTextAlignment textAlignment() const { return NSTextAlignment::natural; }
 
+  std::string_view className() const override { return "UILabel"; }
   std::optional<layout::Size> intrinsicContentSize(std::optional<double> width,
                                                    const LayoutContext& context) const override;
   void draw(const layout::Rect& frame, const LayoutContext& context,

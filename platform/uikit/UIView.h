@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/layout/Geometry.h"
@@ -106,6 +107,9 @@ class UIView : public std::enable_shared_from_this<UIView> {
   void setAccessibilityTraits(UIAccessibilityTraits traits);
 
   // For what lays out and shows views.
+
+  /// The name of its type, for whoever prints views.
+  virtual std::string_view className() const { return "UIView"; }
 
   /// The size that the content has of its own, broken to `width` where that is given; nothing when
   /// there is no content.

@@ -29,6 +29,7 @@ class UIWindow final : public UIView {
 
   UIWindow();
   ~UIWindow() override;
+  std::string_view className() const override { return "UIWindow"; }
 
   /// Null for none; must outlive the window or be taken away.
   void setClient(Client* client) { client_ = client; }

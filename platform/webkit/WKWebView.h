@@ -36,6 +36,7 @@ class WKWebView final : public uikit::UIView {
   /// The page, for engines. Never null.
   const std::shared_ptr<WebContent>& content() const { return content_; }
 
+  std::string_view className() const override { return "WKWebView"; }
   void draw(const layout::Rect& frame, const uikit::LayoutContext& context,
             std::vector<render::Item>& items) const override;
 

@@ -5,6 +5,7 @@
 
 #include "tools/quorix/DecodeCommand.h"
 #include "tools/quorix/Help.h"
+#include "tools/quorix/InfoCommand.h"
 #include "tools/quorix/MintCommand.h"
 #include "tools/quorix/OverlayUrlCommand.h"
 #include "tools/quorix/ScoreCommand.h"
@@ -21,6 +22,7 @@ constexpr const Command* commands[] = {
     &quorix::tool::mintCommand,
     &quorix::tool::decodeCommand,
     &quorix::tool::scoreCommand,
+    &quorix::tool::infoCommand,
     &quorix::tool::overlayUrlCommand,
     &quorix::tool::stringsCheckCommand,
 };
