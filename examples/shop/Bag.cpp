@@ -1,6 +1,5 @@
 #include "examples/shop/Bag.h"
 
-#include <QVariantMap>
 #include <algorithm>
 #include <numeric>
 
@@ -11,14 +10,6 @@ int Bag::count() const {
                          [](int sum, const Line& line) { return sum + line.count; });
 }
 
-QVariantList Bag::lineList() const {
-  QVariantList list;
-  for (const Line& line : lines_) {
-    list.append(QVariantMap{{"size", line.size}, {"count", line.count}});
-  }
-  return list;
-}
-
 void Bag::add(const QString& size) {
   const auto line = std::ranges::find(lines_, size, &Line::size);
   if (line == lines_.end()) {
@@ -26,18 +17,10 @@ void Bag::add(const QString& size) {
   } else {
     ++line->count;
   }
-  emit changed();
 }
 
 void Bag::remove(const QString& size) {
-  if (std::erase_if(lines_, [&](const Line& line) { return line.size == size; }) > 0) {
-    emit changed();
-  }
-}
-
-void Bag::clear() {
-  lines_.clear();
-  emit changed();
+  std::erase_if(lines_, [&](const Line& line) { return line.size == size; });
 }
 
 }  // namespace quorix::examples

@@ -40,7 +40,7 @@ void Shop::choose(const Choices& choices) {
   emit changed();
 }
 
-void Shop::choose(int index, int Choices::* choice) {
+void Shop::choose(int index, int Choices::*choice) {
   Choices choices = choices_;
   choices.*choice = index;
   choose(choices);
@@ -67,9 +67,29 @@ void Shop::openBag(bool open) {
   emit changed();
 }
 
+QVariantList Shop::bagLines() const {
+  QVariantList list;
+  for (const Bag::Line& line : bag_.lines()) {
+    list.append(QVariantMap{
+        {"size", line.size}, {"count", line.count}, {"price", shopper().priceOf(line.count)}});
+  }
+  return list;
+}
+
 void Shop::addToBag() {
   bag_.add(size_);
+  emit changed();
   emit noticed(words_["added"].arg(words_["product"], size_));
+}
+
+void Shop::takeOut(const QString& size) {
+  bag_.remove(size);
+  emit changed();
+}
+
+void Shop::emptyBag() {
+  bag_ = {};
+  emit changed();
 }
 
 bool Shop::eventFilter(QObject* watched, QEvent* event) {

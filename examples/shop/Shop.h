@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QStringList>
+#include <QVariantList>
 #include <QVariantMap>
 
 #include "examples/shop/Bag.h"
@@ -45,7 +46,11 @@ class Shop : public QObject {
 
   Q_PROPERTY(QString size READ size WRITE chooseSize NOTIFY changed)
   Q_PROPERTY(bool bagOpen READ bagOpen WRITE openBag NOTIFY changed)
-  Q_PROPERTY(quorix::examples::Bag* bag READ bag CONSTANT)
+  Q_PROPERTY(int bagCount READ bagCount NOTIFY changed)
+  /// { size, count, price } each.
+  Q_PROPERTY(QVariantList bagLines READ bagLines NOTIFY changed)
+  Q_PROPERTY(QString price READ price NOTIFY changed)
+  Q_PROPERTY(QString total READ total NOTIFY changed)
 
  public:
   explicit Shop(QObject* parent = nullptr);
@@ -92,12 +97,16 @@ class Shop : public QObject {
   void chooseSize(const QString& size);
   bool bagOpen() const { return bagOpen_; }
   void openBag(bool open);
-  Bag* bag() { return &bag_; }
 
-  /// What `count` pieces cost the shopper.
-  Q_INVOKABLE QString priceOf(int count) const { return shopper().priceOf(count); }
+  const Bag& bag() const { return bag_; }
+  int bagCount() const { return bag_.count(); }
+  QVariantList bagLines() const;
+  QString price() const { return shopper().priceOf(1); }
+  QString total() const { return shopper().priceOf(bag_.count()); }
   /// Puts a piece of the chosen size into the bag and says so.
   Q_INVOKABLE void addToBag();
+  Q_INVOKABLE void takeOut(const QString& size);
+  void emptyBag();
 
  signals:
   void changed();
@@ -110,7 +119,7 @@ class Shop : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  void choose(int index, int Choices::* choice);
+  void choose(int index, int Choices::*choice);
 
   Choices choices_;
   ShopWords words_;

@@ -1,35 +1,26 @@
-#include "examples/shop/ShopWindow.h"
+#include "examples/shop/quick/QuickWindow.h"
 
-#include <QQmlContext>
 #include <QUrl>
 #include <QtQml>
 
-#include "examples/shop/ScoreRow.h"
+#include "examples/shop/Shop.h"
+#include "examples/shop/quick/InfoBox.h"
+#include "examples/shop/quick/ScoreRow.h"
+#include "examples/shop/quick/UIInfoBox.h"
 #include "platform/foundation/FatalError.h"
 
 namespace quorix::examples {
 
-ShopWindow::ShopWindow() {
+QuickWindow::QuickWindow(Shop& shop) {
   qmlRegisterType<ScoreRow>("Quorix.Shop", 1, 0, "ScoreRow");
-  qmlRegisterSingletonInstance("Quorix.Shop", 1, 0, "Shop", &shop_);
+  qmlRegisterType<InfoBox>("Quorix.Shop", 1, 0, "InfoBox");
+  qmlRegisterType<UIInfoBox>("Quorix.Shop", 1, 0, "UIInfoBox");
+  qmlRegisterSingletonInstance("Quorix.Shop", 1, 0, "Shop", &shop);
   engine_.load(QUrl(QStringLiteral("qrc:/shop/qml/Main.qml")));
   if (!engine_.rootObjects().isEmpty()) {
     window_ = qobject_cast<QQuickWindow*>(engine_.rootObjects().constFirst());
   }
   if (window_ == nullptr) foundation::fatalError("the shop's screens can't be read");
-}
-
-void ShopWindow::choose(const Choices& choices) {
-  window_->setProperty("shopper", choices.shopper);
-  window_->setProperty("language", choices.language);
-  window_->setProperty("appearance", choices.appearance);
-  window_->setProperty("face", choices.face);
-}
-
-ScoreRow& ShopWindow::row() const {
-  auto* row = window_->findChild<ScoreRow*>();
-  if (row == nullptr) foundation::fatalError("the shop's page has no score row");
-  return *row;
 }
 
 }  // namespace quorix::examples

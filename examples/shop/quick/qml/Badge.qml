@@ -1,15 +1,15 @@
 import QtQuick
+import Quorix.Shop
 
 // The number of things in the bag; nothing while it is empty.
 Rectangle {
     required property int count
-    required property Theme colors
 
     visible: count > 0
     width: Math.max(height, label.implicitWidth + 8)
     height: 17
     radius: height / 2
-    color: colors.accent
+    color: Shop.colors.accent
 
     onCountChanged: if (visible) pulse.restart()
 
@@ -17,7 +17,7 @@ Rectangle {
         id: label
         anchors.centerIn: parent
         text: parent.count
-        color: parent.colors.accentInk
+        color: Shop.colors.accentInk
         font.pixelSize: 11
         font.weight: Font.DemiBold
     }

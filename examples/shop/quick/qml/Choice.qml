@@ -1,12 +1,14 @@
 import QtQuick
 import QtQuick.Controls.Basic
 import QtQuick.Layouts
+import Quorix.Shop
 
 // One choice of the demo bar: a caption over the value, and the list that drops from it.
 ComboBox {
     id: choice
 
     required property string caption
+    required property int chosen
     property real share: 1  // of the bar's width
 
     Layout.fillWidth: true
@@ -15,6 +17,10 @@ ComboBox {
     leftPadding: 10
     rightPadding: 26
     Accessible.name: caption
+
+    // A list that was chosen from no longer follows by itself.
+    onChosenChanged: currentIndex = chosen
+    Component.onCompleted: currentIndex = chosen
 
     contentItem: Column {
         topPadding: 5

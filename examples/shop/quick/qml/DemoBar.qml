@@ -6,16 +6,6 @@ import Quorix.Shop
 Rectangle {
     id: bar
 
-    property alias shopper: shopperChoice.currentIndex
-    property alias language: languageChoice.currentIndex
-    property alias appearance: appearanceChoice.currentIndex
-    property alias face: faceChoice.currentIndex
-
-    signal shopperChosen(int index)
-    signal languageChosen(int index)
-    signal appearanceChosen(int index)
-    signal faceChosen(int index)
-
     color: "#20242f"
     implicitHeight: choices.implicitHeight + 20
 
@@ -49,36 +39,33 @@ Rectangle {
         rowSpacing: 8
 
         Choice {
-            id: shopperChoice
             share: 1.2
             caption: "Shopper"
             model: Shop.shoppers
-            textRole: "name"
-            onActivated: (index) => bar.shopperChosen(index)
+            chosen: Shop.shopper
+            onActivated: (index) => Shop.shopper = index
         }
 
         Choice {
-            id: languageChoice
             caption: "Language"
             model: Shop.languages
-            textRole: "name"
-            onActivated: (index) => bar.languageChosen(index)
+            chosen: Shop.language
+            onActivated: (index) => Shop.language = index
         }
 
         Choice {
-            id: appearanceChoice
             share: 1.2
             caption: "Appearance"
-            model: ["As the desktop", "Light", "Dark"]
-            onActivated: (index) => bar.appearanceChosen(index)
+            model: Shop.appearances
+            chosen: Shop.appearance
+            onActivated: (index) => Shop.appearance = index
         }
 
         Choice {
-            id: faceChoice
             caption: "Text"
             model: Shop.faces
-            textRole: "name"
-            onActivated: (index) => bar.faceChosen(index)
+            chosen: Shop.face
+            onActivated: (index) => Shop.face = index
         }
     }
 }

@@ -1,10 +1,10 @@
 import QtQuick
+import Quorix.Shop
 
 // A word of confirmation that goes away by itself.
 Rectangle {
     id: notice
 
-    required property Theme colors
     property alias text: label.text
 
     function show(words) {
@@ -18,7 +18,7 @@ Rectangle {
     width: line.implicitWidth + 32
     height: 44
     radius: 22
-    color: colors.notice
+    color: Shop.colors.notice
     Accessible.role: Accessible.AlertMessage
     Accessible.name: text
 
@@ -56,7 +56,7 @@ Rectangle {
         Text {
             id: label
             anchors.verticalCenter: parent.verticalCenter
-            color: notice.colors.noticeInk
+            color: Shop.colors.noticeInk
             font.pixelSize: 14
         }
     }

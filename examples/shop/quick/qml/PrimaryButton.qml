@@ -1,16 +1,15 @@
 import QtQuick
 import QtQuick.Controls.Basic
+import Quorix.Shop
 
 AbstractButton {
     id: button
-
-    required property Theme colors
 
     implicitHeight: 50
 
     contentItem: Text {
         text: button.text
-        color: button.colors.accentInk
+        color: Shop.colors.accentInk
         font.pixelSize: 16
         font.weight: Font.DemiBold
         horizontalAlignment: Text.AlignHCenter
@@ -19,8 +18,8 @@ AbstractButton {
 
     background: Rectangle {
         radius: 12
-        color: button.down ? Qt.darker(button.colors.accent, 1.2) : button.colors.accent
+        color: button.down ? Qt.darker(Shop.colors.accent, 1.2) : Shop.colors.accent
         border.width: button.visualFocus ? 2 : 0
-        border.color: button.colors.ink
+        border.color: Shop.colors.ink
     }
 }

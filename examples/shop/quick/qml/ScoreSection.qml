@@ -6,12 +6,6 @@ import Quorix.Shop
 Item {
     id: section
 
-    required property Theme colors
-    required property var shopper
-    required property var language
-    required property int appearance
-    required property var face
-
     readonly property bool shown: row.implicitHeight > 0
     readonly property int above: 18    // the upper line
     readonly property int margin: 16   // between each line and the row
@@ -23,7 +17,7 @@ Item {
         y: section.above
         width: parent.width
         height: 1
-        color: section.colors.hairline
+        color: Shop.colors.hairline
     }
 
     ScoreRow {
@@ -35,13 +29,14 @@ Item {
             bottomMargin: section.margin
         }
         clientId: Shop.clientId
-        locale: section.language.code
-        token: section.shopper.token
-        regularFont: section.face.regular
-        semiBoldFont: section.face.semiBold
-        textSize: section.face.textSize
-        appearance: section.appearance
-        rightToLeft: section.language.rightToLeft
+        token: Shop.token
+        locale: Shop.locale
+        regularFont: Shop.regularFont
+        semiBoldFont: Shop.semiBoldFont
+        textSize: Shop.textSize
+        dark: Shop.dark
+        rightToLeft: Shop.rightToLeft
+        moving: Shop.moving
     }
 
     Rectangle {
@@ -49,6 +44,6 @@ Item {
         anchors.bottom: parent.bottom
         width: parent.width
         height: 1
-        color: section.colors.hairline
+        color: Shop.colors.hairline
     }
 }

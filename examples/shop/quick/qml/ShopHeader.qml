@@ -1,57 +1,52 @@
 import QtQuick
+import Quorix.Shop
 
 // The shop's name between the way back and the bag.
 Item {
     id: header
 
-    required property int bagCount
-    required property Theme colors
-
     implicitHeight: 52
 
-    Icon {
+    IconButton {
         anchors.left: parent.left
-        anchors.leftMargin: 16
+        anchors.leftMargin: 6
         anchors.verticalCenter: parent.verticalCenter
+        visible: Shop.bagOpen
         name: "back"
-        colors: header.colors
-        mirror: header.LayoutMirroring.enabled
+        mirror: Shop.rightToLeft
+        text: Shop.words.back
+        onClicked: Shop.bagOpen = false
     }
 
     Text {
         anchors.centerIn: parent
         text: "FJORD & THREAD"
-        color: header.colors.ink
+        color: Shop.colors.ink
         font.pixelSize: 14
         font.weight: Font.DemiBold
         font.letterSpacing: 3
     }
 
-    Icon {
+    IconButton {
         id: bag
         anchors.right: parent.right
-        anchors.rightMargin: 18
+        anchors.rightMargin: 8
         anchors.verticalCenter: parent.verticalCenter
         name: "bag"
-        colors: header.colors
-        Accessible.role: Accessible.StaticText
-        Accessible.name: header.bagCount === 1 ? "1 thing in your bag"
-                                               : header.bagCount + " things in your bag"
-    }
+        text: Shop.words.bagOf.arg(Shop.bagCount)
+        onClicked: Shop.bagOpen = !Shop.bagOpen
 
-    Badge {
-        anchors.horizontalCenter: bag.right
-        anchors.horizontalCenterOffset: header.LayoutMirroring.enabled ? 2 : -2
-        anchors.verticalCenter: bag.top
-        anchors.verticalCenterOffset: 4
-        count: header.bagCount
-        colors: header.colors
+        Badge {
+            x: bag.mirrored ? 4 : parent.width - width - 4
+            y: 5
+            count: Shop.bagCount
+        }
     }
 
     Rectangle {
         anchors.bottom: parent.bottom
         width: parent.width
         height: 1
-        color: header.colors.hairline
+        color: Shop.colors.hairline
     }
 }

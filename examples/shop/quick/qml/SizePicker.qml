@@ -1,19 +1,18 @@
 import QtQuick
 import QtQuick.Controls.Basic
+import Quorix.Shop
 
 // The product's sizes, one of them chosen.
 Column {
     id: picker
 
-    required property Theme colors
-    property string size: "M"
 
     spacing: 10
 
     Text {
         width: parent.width
-        text: "Size"
-        color: picker.colors.ink
+        text: Shop.words.size
+        color: Shop.colors.ink
         font.pixelSize: 14
         font.weight: Font.DemiBold
         horizontalAlignment: Text.AlignLeft
@@ -24,24 +23,24 @@ Column {
         spacing: 8
 
         Repeater {
-            model: ["XS", "S", "M", "L", "XL"]
+            model: Shop.sizes
 
             AbstractButton {
                 id: chip
 
                 required property string modelData
-                readonly property bool chosen: picker.size === modelData
+                readonly property bool chosen: Shop.size === modelData
 
                 width: 52
                 height: 44
                 checkable: true
                 checked: chosen
-                Accessible.name: "Size " + modelData
-                onClicked: picker.size = modelData
+                Accessible.name: Shop.words.sizeOf.arg(modelData)
+                onClicked: Shop.size = modelData
 
                 contentItem: Text {
                     text: chip.modelData
-                    color: chip.chosen ? picker.colors.accentInk : picker.colors.ink
+                    color: chip.chosen ? Shop.colors.accentInk : Shop.colors.ink
                     font.pixelSize: 14
                     font.weight: chip.chosen ? Font.DemiBold : Font.Normal
                     horizontalAlignment: Text.AlignHCenter
@@ -50,10 +49,10 @@ Column {
 
                 background: Rectangle {
                     radius: 8
-                    color: chip.chosen ? picker.colors.accent
-                                       : chip.hovered ? picker.colors.stage : "transparent"
+                    color: chip.chosen ? Shop.colors.accent
+                                       : chip.hovered ? Shop.colors.stage : "transparent"
                     border.width: chip.visualFocus ? 2 : chip.chosen ? 0 : 1
-                    border.color: chip.visualFocus ? picker.colors.ink : picker.colors.hairline
+                    border.color: chip.visualFocus ? Shop.colors.ink : Shop.colors.hairline
                 }
             }
         }
