@@ -1,0 +1,32 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import QtQuick.Layouts
+import Quorix.Shop
+
+ApplicationWindow {
+    width: 430
+    height: 860
+    minimumWidth: 340
+    minimumHeight: 480
+    title: "Fjord & Thread"
+    color: Shop.colors.page
+
+    Shortcut {
+        sequences: [StandardKey.Quit]
+        onActivated: Qt.quit()
+    }
+
+    ColumnLayout {
+        anchors.fill: parent
+        spacing: 0
+
+        DemoBar {
+            Layout.fillWidth: true
+        }
+
+        ShopScreen {
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+        }
+    }
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QLabel>
+
+namespace quorix::examples {
+
+/// A text of the shop's, at the leading edge and in as many lines as it needs.
+class Label : public QLabel {
+  Q_OBJECT
+
+ public:
+  enum class Look {
+    title,    ///< of a page
+    price,    ///< of the product
+    heading,  ///< over a section
+    body,
+    strong,
+    quiet,
+  };
+
+  explicit Label(Look look, QWidget* parent = nullptr);
+};
+
+}  // namespace quorix::examples
