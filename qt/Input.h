@@ -3,16 +3,25 @@
 #include <QtCore/qnamespace.h>
 #include <QPointF>
 
+#include "platform/hosting/ViewFocus.h"
 #include "platform/layout/Geometry.h"
+
+class QKeyEvent;
 
 namespace quorix::qt {
 
 inline layout::Point toPoint(QPointF point) { return {point.x(), point.y()}; }
 
-/// The keys that stand for a tap on what has the focus.
-inline bool activates(int key) {
-  return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space ||
-         key == Qt::Key_Select;
-}
+/// What a key stands for, in every surface.
+enum class KeyMeaning {
+  none,
+  activate,  ///< a tap on what has the focus
+  forward,   ///< on to the next element
+  backward,
+  close,  ///< what lies over the window
+};
+KeyMeaning meaningOf(const QKeyEvent& event);
+
+hosting::ViewFocus::Cause causeOf(Qt::FocusReason reason);
 
 }  // namespace quorix::qt

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/hosting/SheetGeometry.h"
+#include "platform/hosting/ViewFocus.h"
 #include "platform/layout/PixelGrid.h"
 
 namespace quorix::hosting {
@@ -26,7 +27,7 @@ graphics::RGBA colorOfPanel(graphics::Appearance appearance) {
 
 struct SheetPresenter::State final : ViewHost::Client {
   State(text::TextEngine& engine, SheetPresenter::Client& surface)
-      : client(surface), content(engine, *this) {}
+      : client(surface), content(engine, *this), focus(content) {}
 
   void viewNeedsDisplay() override {
     contentChanged();
@@ -71,10 +72,14 @@ struct SheetPresenter::State final : ViewHost::Client {
   const render::Scene& contentScene() {
     return content.scene({geometry.panelWidth(), restingHeight() - geometry.bottomInset()});
   }
+  std::optional<layout::Rect> inWindow(const std::optional<layout::Rect>& frame) const {
+    return frame ? std::optional(frame->translated(panel().origin)) : std::nullopt;
+  }
   void close();
 
   SheetPresenter::Client& client;
   ViewHost content;
+  ViewFocus focus;
   SheetGeometry geometry;
   std::optional<swiftui::Presentation> presentation;
   std::optional<render::Scene> overlay;
@@ -200,9 +205,11 @@ layout::Rect SheetPresenter::panelFrame() const { return state_->panel(); }
 
 void SheetPresenter::pointerPressed(layout::Point point) {
   if (state_->closing) return;  // a second tap on what closes it must not open it again
+  state_->focus.hideRing();
   state_->press = point;
   state_->pressedOutside = !state_->panel().contains(point);
   if (!state_->pressedOutside) state_->content.pointerPressed(state_->inContent(point));
+  state_->client.sheetNeedsDisplay();
 }
 
 void SheetPresenter::pointerMoved(layout::Point point) {
@@ -240,13 +247,16 @@ void SheetPresenter::pointerCancelled() {
 }
 
 void SheetPresenter::moveFocus(bool forward) {
-  if (!state_->content.moveFocus(forward)) state_->content.moveFocus(forward);
+  if (!state_->focus.walk(forward)) state_->focus.walk(forward);
+  state_->client.sheetNeedsDisplay();
 }
 
 std::optional<layout::Rect> SheetPresenter::focusFrame() const {
-  const auto frame = state_->content.focusFrame();
-  if (!frame) return std::nullopt;
-  return frame->translated(state_->panel().origin);
+  return state_->inWindow(state_->content.focusFrame());
+}
+
+std::optional<layout::Rect> SheetPresenter::ringFrame() const {
+  return state_->inWindow(state_->focus.ring());
 }
 
 bool SheetPresenter::activateFocus() { return !state_->closing && state_->content.activateFocus(); }

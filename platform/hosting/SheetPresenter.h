@@ -68,6 +68,8 @@ class SheetPresenter {
   /// Moves the focus inside the sheet, round and round: it never leaves while the sheet is up.
   void moveFocus(bool forward);
   std::optional<layout::Rect> focusFrame() const;
+  /// The element that the ring goes around, once the keyboard moved the focus.
+  std::optional<layout::Rect> ringFrame() const;
   /// These do nothing any more once the sheet is on its way out.
   bool activateFocus();
   bool activate(int index);

@@ -240,6 +240,16 @@ bool ViewHost::moveFocus(bool forward) {
 
 void ViewHost::clearFocus() { state_->focused = -1; }
 
+int ViewHost::actingElements() const {
+  const render::Scene* scene = state_->current();
+  if (!scene) return 0;
+  const auto acts = [](const render::AccessibilityElement& element) {
+    return bool(element.action);
+  };
+  const auto& elements = scene->accessibility;
+  return static_cast<int>(std::count_if(elements.begin(), elements.end(), acts));
+}
+
 std::optional<layout::Rect> ViewHost::focusFrame() const {
   if (!state_->scene || state_->focused < 0) return std::nullopt;
   const auto& elements = state_->scene->accessibility;

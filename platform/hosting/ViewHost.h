@@ -74,6 +74,8 @@ class ViewHost {
   /// leaves the view.
   bool moveFocus(bool forward);
   void clearFocus();
+  /// How many elements of the latest scene act.
+  int actingElements() const;
   /// Where the focus ring goes.
   std::optional<layout::Rect> focusFrame() const;
   /// Performs the focused element's action (Enter and Space). False when nothing has the focus.

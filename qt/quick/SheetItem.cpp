@@ -5,13 +5,11 @@
 
 #include "qt/AccessibilityBridge.h"
 #include "qt/FocusRing.h"
-#include "qt/Input.h"
 #include "qt/Picture.h"
-#include "qt/quick/PictureNode.h"
 #include "qt/QtColor.h"
-#include "qt/QtTextEngine.h"
-#include "qt/quick/SheetNode.h"
 #include "qt/ViewAccessible.h"
+#include "qt/quick/PictureNode.h"
+#include "qt/quick/SheetNode.h"
 
 namespace quorix::qt {
 namespace {
@@ -23,16 +21,12 @@ QRectF toRect(const layout::Rect& rect) {
   return {rect.left(), rect.top(), rect.size.width, rect.size.height};
 }
 
-bool closes(int key) { return key == Qt::Key_Escape || key == Qt::Key_Back; }
-bool walks(int key) { return key == Qt::Key_Tab || key == Qt::Key_Backtab; }
-
 }  // namespace
 
 SheetItem::SheetItem(QQuickWindow& window)
     : QQuickItem(window.contentItem()),
-      QuickAccessibleSurface(static_cast<QQuickItem&>(*this)),
-      presenter_(QtTextEngine::shared(), *this),
-      clock_([this](double seconds) { return presenter_.advance(seconds); }) {
+      SheetSurface(static_cast<QObject&>(*this)),
+      QuickAccessibleSurface(static_cast<QQuickItem&>(*this)) {
   setFlag(ItemHasContents);
   setFlag(ItemIsFocusScope);
   setZ(kStacking);
@@ -54,46 +48,17 @@ const SheetItem* SheetItem::topmost(const QQuickWindow& window) {
   const SheetItem* found = nullptr;
   for (QQuickItem* child : window.contentItem()->childItems()) {
     const auto* sheet = qobject_cast<SheetItem*>(child);
-    if (sheet && !sheet->closed_) found = sheet;
+    if (sheet && !sheet->isClosed()) found = sheet;
   }
   return found;
 }
 
 double SheetItem::scale() const { return window() ? window()->effectiveDevicePixelRatio() : 1; }
 
-void SheetItem::setSettings(const EnvironmentSource& settings) {
-  settings_ = settings;
-  presenter_.setEnvironment(settings_.at(scale()));
-  presenter_.setMotion(settings_.allowsMotion());
-}
-
-void SheetItem::present(const swiftui::Presentation& presentation) {
-  presenter_.present(presentation);
-  if (std::exchange(presented_, true)) return;
+void SheetItem::takeFocusOver() {
   focusBefore_ = window()->activeFocusItem();
   forceActiveFocus(Qt::PopupFocusReason);
   offer();
-  ViewAccessible::focusChanged(*this);
-}
-
-void SheetItem::sheetDidClose() {
-  if (std::exchange(closed_, true)) return;
-  leave();
-}
-
-void SheetItem::abandon() {
-  if (std::exchange(closed_, true)) return;
-  clock_.stop();
-  // On a later turn: the window may be on its way out, and does not bear a change of focus then.
-  QMetaObject::invokeMethod(this, &SheetItem::leave, Qt::QueuedConnection);
-}
-
-void SheetItem::leave() {
-  clock_.stop();
-  giveFocusBack();
-  setVisible(false);
-  // The presenter is still at work, and so may be an event of this item.
-  deleteLater();
 }
 
 void SheetItem::giveFocusBack() {
@@ -111,20 +76,20 @@ void SheetItem::giveFocusBack() {
 
 void SheetItem::itemChange(ItemChange change, const ItemChangeData& data) {
   QQuickItem::itemChange(change, data);
-  if (change == ItemDevicePixelRatioHasChanged) setSettings(settings_);
+  if (change == ItemDevicePixelRatioHasChanged) followScale();
 }
 
 void SheetItem::geometryChange(const QRectF& now, const QRectF& before) {
   QQuickItem::geometryChange(now, before);
-  presenter_.setWindow({now.width(), now.height()}, {});
+  presenter().setWindow({now.width(), now.height()}, {});
 }
 
 // Frame.
 
 void SheetItem::updatePolish() {
-  if (closed_ || !presented_) return;
-  const unsigned revision = presenter_.panelRevision();
-  const render::Scene& panel = presenter_.panel();
+  if (isClosed() || !isPresented()) return;
+  const unsigned revision = presenter().panelRevision();
+  const render::Scene& panel = presenter().panel();
   pictureHeight_ = panel.size.height;
   if (revision != paintedRevision_ || paintedScale_ != scale()) {
     panelPicture_ = paintPicture(panel, scale(), {0, 0, 0, 0});
@@ -134,27 +99,18 @@ void SheetItem::updatePolish() {
     ViewAccessible::sceneChanged(*this);
   }
   followMotion();
-  if (closed_) return;
-  panel_ = toRect(presenter_.panelFrame());
-  shade_ = toQColor(presenter_.shade());
-  panelColor_ = toQColor(presenter_.panelColor());
+  if (isClosed()) return;
+  panel_ = toRect(presenter().panelFrame());
+  shade_ = toQColor(presenter().shade());
+  panelColor_ = toQColor(presenter().panelColor());
   updateRing();
   update();
 }
 
-void SheetItem::followMotion() {
-  if (!presenter_.isMoving()) return;
-  if (settings_.allowsMotion()) {
-    clock_.start();
-  } else {
-    presenter_.advance(0);
-  }
-}
-
 void SheetItem::updateRing() {
-  const auto frame = ringWanted_ ? focusedFrame() : std::nullopt;
+  const auto frame = hasActiveFocus() ? presenter().ringFrame() : std::nullopt;
   if (frame && (!ring_ || ring_->size != frame->size)) {
-    ringPicture_ = FocusRing::picture(*frame, presenter_.panel().appearance, scale());
+    ringPicture_ = FocusRing::picture(*frame, presenter().panel().appearance, scale());
   }
   ring_ = frame;
 }
@@ -183,104 +139,23 @@ QSGNode* SheetItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
   return node;
 }
 
-// Pointer. What happens here stays here: nothing below the sheet hears of it.
-
-void SheetItem::pressed(QPointF point, quint64 at) {
-  ringWanted_ = false;
-  velocity_.reset();
-  velocity_.add(point.y(), static_cast<double>(at) * 1e-3);
-  presenter_.pointerPressed(toPoint(point));
-  polish();
-}
-
-void SheetItem::moved(QPointF point, quint64 at) {
-  velocity_.add(point.y(), static_cast<double>(at) * 1e-3);
-  presenter_.pointerMoved(toPoint(point));
-}
-
-void SheetItem::released(QPointF point, quint64 at) {
-  velocity_.add(point.y(), static_cast<double>(at) * 1e-3);
-  presenter_.pointerReleased(toPoint(point), velocity_.velocity());
-}
-
-void SheetItem::mousePressEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton) pressed(event->position(), event->timestamp());
-}
-
-void SheetItem::mouseMoveEvent(QMouseEvent* event) { moved(event->position(), event->timestamp()); }
-
-void SheetItem::mouseReleaseEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton) released(event->position(), event->timestamp());
-}
-
-void SheetItem::touchEvent(QTouchEvent* event) {
-  const auto report = finger_.read(*event);
-  if (!report) return;
-  switch (report->phase) {
-    case FingerTracker::Phase::pressed:
-      return pressed(report->position, event->timestamp());
-    case FingerTracker::Phase::moved:
-      return moved(report->position, event->timestamp());
-    case FingerTracker::Phase::released:
-      return released(report->position, event->timestamp());
-    case FingerTracker::Phase::cancelled:
-      return presenter_.pointerCancelled();
-  }
-}
-
-void SheetItem::touchUngrabEvent() {
-  finger_.forget();
-  presenter_.pointerCancelled();
-}
-
-void SheetItem::wheelEvent(QWheelEvent* event) { event->accept(); }
+// Input.
 
 void SheetItem::hoverMoveEvent(QHoverEvent* event) {
-  const bool tappable = presenter_.scene().hitTest(toPoint(event->position())) != nullptr;
-  const auto shape = tappable ? Qt::PointingHandCursor : Qt::ArrowCursor;
+  const auto shape = takesTapAt(event->position()) ? Qt::PointingHandCursor : Qt::ArrowCursor;
   if (cursor().shape() != shape) setCursor(shape);
 }
 
-// Keyboard.
-
-bool SheetItem::event(QEvent* event) {
-  if (event->type() == QEvent::ShortcutOverride) {
-    const int key = static_cast<QKeyEvent*>(event)->key();
-    event->setAccepted(closes(key) || activates(key) || walks(key));
-    return true;
-  }
-  return QQuickItem::event(event);
-}
-
-void SheetItem::keyPressEvent(QKeyEvent* event) {
-  if (closes(event->key())) {
-    presenter_.dismiss();
-  } else if (walks(event->key())) {
-    const bool back = event->key() == Qt::Key_Backtab || event->modifiers() & Qt::ShiftModifier;
-    presenter_.moveFocus(!back);
-    ringWanted_ = true;
-    ViewAccessible::focusChanged(*this);
-    polish();
-  } else if (activates(event->key())) {
-    if (!event->isAutoRepeat()) presenter_.activateFocus();
-  } else {
-    event->ignore();
-  }
-}
-
-void SheetItem::keyReleaseEvent(QKeyEvent* event) {
-  // A phone closes the window when nobody takes the release of its Back key.
-  event->setAccepted(closes(event->key()));
-}
+bool SheetItem::event(QEvent* event) { return handle(*event) || QQuickItem::event(event); }
 
 // Accessibility.
 
 const std::vector<render::AccessibilityElement>& SheetItem::accessibilityElements() {
-  return presenter_.scene().accessibility;
+  return presenter().scene().accessibility;
 }
 
 std::optional<layout::Rect> SheetItem::focusedFrame() const {
-  return hasActiveFocus() ? presenter_.focusFrame() : std::nullopt;
+  return hasActiveFocus() ? presenter().focusFrame() : std::nullopt;
 }
 
 }  // namespace quorix::qt

@@ -26,25 +26,7 @@ void ViewItem::setView(swiftui::View view) {
   surface_->contentChanged();
 }
 
-void ViewItem::setAppearance(std::optional<graphics::Appearance> appearance) {
-  surface_->settings().appearance = appearance;
-  surface_->environmentChanged();
-}
-
-void ViewItem::setLayoutDirection(std::optional<layout::LayoutDirection> direction) {
-  surface_->settings().direction = direction;
-  surface_->environmentChanged();
-}
-
-void ViewItem::setTextSize(swiftui::ContentSizeCategory category) {
-  surface_->settings().textSize = category;
-  surface_->environmentChanged();
-}
-
-void ViewItem::setMotion(std::optional<bool> motion) {
-  surface_->settings().motion = motion;
-  surface_->environmentChanged();
-}
+void ViewItem::settingsChanged() { surface_->environmentChanged(); }
 
 void ViewItem::itemChange(ItemChange change, const ItemChangeData& data) {
   QQuickItem::itemChange(change, data);
@@ -78,46 +60,14 @@ QSGNode* ViewItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
   return surface_->paint(old);
 }
 
-void ViewItem::mousePressEvent(QMouseEvent* event) {
-  if (!surface_->host().pointerPressed(toPoint(event->position()))) {
-    event->ignore();
-    return;
-  }
-  if (activeFocusOnTab()) forceActiveFocus(Qt::MouseFocusReason);
+bool ViewItem::event(QEvent* event) {
+  // The action may delete this item: nothing is touched after it.
+  return surface_->handle(*event) || QQuickItem::event(event);
 }
 
-// The action may delete this item: nothing is touched after it.
+void ViewItem::mouseUngrabEvent() { surface_->pointerLost(); }
 
-void ViewItem::mouseReleaseEvent(QMouseEvent* event) {
-  surface_->host().pointerReleased(toPoint(event->position()));
-}
-
-void ViewItem::mouseUngrabEvent() { surface_->host().pointerCancelled(); }
-
-void ViewItem::touchEvent(QTouchEvent* event) {
-  const auto report = surface_->finger().read(*event);
-  if (!report) return;
-  switch (report->phase) {
-    case FingerTracker::Phase::pressed:
-      if (surface_->host().pointerPressed(toPoint(report->position))) return;
-      surface_->finger().forget();
-      event->ignore();
-      return;
-    case FingerTracker::Phase::moved:
-      return;
-    case FingerTracker::Phase::released:
-      surface_->host().pointerReleased(toPoint(report->position));
-      return;
-    case FingerTracker::Phase::cancelled:
-      surface_->host().pointerCancelled();
-      return;
-  }
-}
-
-void ViewItem::touchUngrabEvent() {
-  surface_->finger().forget();
-  surface_->host().pointerCancelled();
-}
+void ViewItem::touchUngrabEvent() { surface_->pointerLost(); }
 
 void ViewItem::hoverEnterEvent(QHoverEvent* event) { hoverMoveEvent(event); }
 
@@ -133,19 +83,10 @@ void ViewItem::hoverMoveEvent(QHoverEvent* event) {
 }
 
 void ViewItem::keyPressEvent(QKeyEvent* event) {
-  const bool back = event->key() == Qt::Key_Backtab ||
-                    (event->key() == Qt::Key_Tab && event->modifiers() & Qt::ShiftModifier);
-  if (back || event->key() == Qt::Key_Tab) {
-    // Without a further element the window moves the focus on.
-    event->setAccepted(surface_->host().moveFocus(!back));
-    surface_->focusMoved(true);
-  } else if (activates(event->key())) {
-    if (event->isAutoRepeat()) return;
-    event->setAccepted(surface_->host().focusFrame().has_value());
-    surface_->host().activateFocus();
-  } else {
-    event->ignore();
-  }
+  const KeyMeaning meaning = meaningOf(*event);
+  const bool walks = meaning == KeyMeaning::forward || meaning == KeyMeaning::backward;
+  // Without a further element the window moves the focus on.
+  event->setAccepted(walks && surface_->walk(meaning == KeyMeaning::forward));
 }
 
 void ViewItem::focusInEvent(QFocusEvent* event) {

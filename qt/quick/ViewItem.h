@@ -2,10 +2,9 @@
 
 #include <QQuickItem>
 #include <memory>
-#include <optional>
 
-#include "platform/swiftui/Environment.h"
 #include "platform/swiftui/View.h"
+#include "qt/ViewSettings.h"
 
 namespace quorix::qt {
 
@@ -20,7 +19,7 @@ class ViewSurface;
 ///
 ///     auto* row = new qt::ViewItem(ScoreWidgetBuilder::buildSwiftUIScoreWidgetView(...), page);
 ///     row->setWidth(page->width());
-class ViewItem : public QQuickItem {
+class ViewItem : public QQuickItem, public ViewSettings {
   Q_OBJECT
 
  public:
@@ -31,24 +30,14 @@ class ViewItem : public QQuickItem {
   /// Shows another view, which begins afresh; a sheet of the one before goes.
   void setView(swiftui::View view);
 
-  /// Light or dark; nothing follows the desktop, which is what holds until this is called.
-  void setAppearance(std::optional<graphics::Appearance> appearance);
-  /// The reading direction; nothing follows the application's.
-  void setLayoutDirection(std::optional<layout::LayoutDirection> direction);
-  void setTextSize(swiftui::ContentSizeCategory category);
-  /// Whether sheets move; nothing follows the user's wish where the desktop passes it on.
-  void setMotion(std::optional<bool> motion);
-
  protected:
+  bool event(QEvent* event) override;
   void itemChange(ItemChange change, const ItemChangeData& data) override;
   void geometryChange(const QRectF& now, const QRectF& before) override;
   void updatePolish() override;
   QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) override;
 
-  void mousePressEvent(QMouseEvent* event) override;
-  void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseUngrabEvent() override;
-  void touchEvent(QTouchEvent* event) override;
   void touchUngrabEvent() override;
   void hoverEnterEvent(QHoverEvent* event) override;
   void hoverMoveEvent(QHoverEvent* event) override;
@@ -58,6 +47,7 @@ class ViewItem : public QQuickItem {
 
  private:
   friend class ViewSurface;
+  void settingsChanged() override;
 
   std::unique_ptr<ViewSurface> surface_;
 };

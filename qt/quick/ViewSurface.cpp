@@ -2,16 +2,14 @@
 
 #include <QGuiApplication>
 #include <QQuickWindow>
-#include <algorithm>
 #include <cmath>
 
 #include "qt/AccessibilityBridge.h"
 #include "qt/FocusRing.h"
 #include "qt/Picture.h"
-#include "qt/quick/PictureNode.h"
-#include "qt/QtTextEngine.h"
-#include "qt/quick/SheetItem.h"
 #include "qt/ViewAccessible.h"
+#include "qt/quick/PictureNode.h"
+#include "qt/quick/SheetItem.h"
 #include "qt/quick/ViewItem.h"
 
 namespace quorix::qt {
@@ -27,25 +25,14 @@ struct ViewNode : QSGTransformNode {
   PictureNode* ring = new PictureNode;
 };
 
-bool isFromKeyboard(Qt::FocusReason reason) {
-  return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
-         reason == Qt::ShortcutFocusReason;
-}
-
-/// The focus left for a while and comes back to where it was.
-bool isInterruption(Qt::FocusReason reason) {
-  return reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason;
-}
-
 }  // namespace
 
 ViewSurface::ViewSurface(ViewItem& item)
-    : QuickAccessibleSurface(item), item_(item), host_(QtTextEngine::shared(), *this) {
+    : HostedView(item), QuickAccessibleSurface(item), item_(item) {
   AccessibilityBridge::instance()->add(item, *this);
 }
 
 ViewSurface::~ViewSurface() {
-  if (sheet_) sheet_->abandon();
   WindowWatcher::remove(*this);
   AccessibilityBridge::instance()->remove(item_);
 }
@@ -56,24 +43,31 @@ double ViewSurface::scale() const {
   return item_.window() ? item_.window()->effectiveDevicePixelRatio() : qGuiApp->devicePixelRatio();
 }
 
-// Settings.
+EnvironmentSource ViewSurface::settings() const { return item_.settings(); }
 
-void ViewSurface::environmentChanged() {
-  host_.setEnvironment(settings_.at(scale()));
-  if (sheet_) sheet_->setSettings(settings_);
-  contentChanged();
+bool ViewSurface::hasFocus() const { return item_.hasActiveFocus(); }
+
+void ViewSurface::takeFocusByPress() {
+  if (item_.activeFocusOnTab()) item_.forceActiveFocus(Qt::MouseFocusReason);
 }
 
+void ViewSurface::needsFrame() { item_.polish(); }
+
+SheetSurface* ViewSurface::makeSheet() {
+  return item_.window() ? new SheetItem(*item_.window()) : nullptr;
+}
+
+// Surroundings.
+
 void ViewSurface::windowChanged() {
-  if (sheet_) sheet_->abandon();
+  leaveSheet();
   parentChanged();
-  QQuickWindow* window = item_.window();
   painted_ = inViewport_ = false;
   pictureStale_ = true;
   offer();
   onScreenChanged();  // before anyone asks for a size: the view is then evaluated once
   environmentChanged();
-  if (window && (sheet_ || host_.presentation())) presentationChanged();
+  if (item_.window() && host().presentation()) presentationChanged();
 }
 
 void ViewSurface::parentChanged() {
@@ -84,7 +78,7 @@ void ViewSurface::parentChanged() {
 }
 
 void ViewSurface::onScreenChanged() {
-  host_.setOnScreen(watcher_ && watcher_->isWindowVisible() && item_.isVisible());
+  host().setOnScreen(watcher_ && watcher_->isWindowVisible() && item_.isVisible());
   item_.polish();
 }
 
@@ -107,14 +101,14 @@ void ViewSurface::contentChanged() {
 
 void ViewSurface::updateIdealSize() {
   idealStale_ = false;
-  ideal_ = host_.sizeThatFits({});
+  ideal_ = host().sizeThatFits({});
   updateImplicitSize();
 }
 
 void ViewSurface::updateImplicitSize() {
   const bool hasWidth = item_.widthValid() && item_.width() > 0;
   const double height =
-      hasWidth ? host_.sizeThatFits({item_.width(), std::nullopt}).height : ideal_.height;
+      hasWidth ? host().sizeThatFits({item_.width(), std::nullopt}).height : ideal_.height;
   fitting_ = true;
   item_.setImplicitSize(ideal_.width, height);
   fitting_ = false;
@@ -166,7 +160,7 @@ void ViewSurface::polish() {
   // Also out of sight: the scene says whether the item takes part in the focus chain.
   if (sceneStale_) refreshScene();
   // The window asks every item that accepts hovering in every frame.
-  item_.setAcceptHoverEvents(seen && !host_.scene(size()).hitAreas.empty());
+  item_.setAcceptHoverEvents(seen && !host().scene(size()).hitAreas.empty());
   if (seen) {
     if (pictureStale_) updatePicture();
     updateRing();
@@ -176,36 +170,30 @@ void ViewSurface::polish() {
     picture_ = {};
     item_.update();
   }
-  if (!seen && !item_.hasActiveFocus() && !AccessibilityBridge::isActive()) host_.rest();
+  if (!seen && !item_.hasActiveFocus() && !AccessibilityBridge::isActive()) host().rest();
 }
 
 void ViewSurface::refreshScene() {
   sceneStale_ = false;
   pictureStale_ = true;
-  const bool acts = actingElements() > 0;
-  item_.setActiveFocusOnTab(acts);
+  host().scene(size());
+  item_.setActiveFocusOnTab(host().actingElements() > 0);
   ViewAccessible::sceneChanged(item_);
-}
-
-int ViewSurface::actingElements() {
-  const auto& elements = host_.scene(size()).accessibility;
-  return static_cast<int>(std::count_if(elements.begin(), elements.end(),
-                                        [](const auto& element) { return bool(element.action); }));
 }
 
 void ViewSurface::updatePicture() {
   pictureStale_ = false;
-  picture_ = paintPicture(host_.scene(size()), scale(), {0, 0, 0, 0});
+  picture_ = paintPicture(host().scene(size()), scale(), {0, 0, 0, 0});
   painted_ = !picture_.isNull();
   ring_.reset();  // its colour and scale go with the picture's
   item_.update();
 }
 
 void ViewSurface::updateRing() {
-  const auto frame = ringWanted_ ? focusedFrame() : std::nullopt;
+  const auto frame = ringFrame();
   if (frame == ring_) return;
   ring_ = frame;
-  if (frame) ringPicture_ = FocusRing::picture(*frame, host_.environment().appearance, scale());
+  if (frame) ringPicture_ = FocusRing::picture(*frame, host().environment().appearance, scale());
   item_.update();
 }
 
@@ -234,70 +222,10 @@ QSGNode* ViewSurface::paint(QSGNode* old) {
   return node;
 }
 
-// Input.
-
-bool ViewSurface::takesTapAt(QPointF point) {
-  return host_.scene(size()).hitTest({point.x(), point.y()}) != nullptr;
-}
-
-void ViewSurface::focusCame(Qt::FocusReason reason) {
-  if (sceneStale_) refreshScene();
-  if (isFromKeyboard(reason)) {
-    const bool forward = reason != Qt::BacktabFocusReason;
-    host_.clearFocus();
-    host_.moveFocus(forward);
-  } else if (!isInterruption(reason) && !host_.focusFrame() && actingElements() == 1) {
-    host_.moveFocus(true);
-  }
-  focusMoved(isInterruption(reason) ? ringWanted_ : isFromKeyboard(reason));
-}
-
-void ViewSurface::focusWent(Qt::FocusReason reason) {
-  if (isInterruption(reason)) {
-    item_.polish();
-    return;
-  }
-  host_.clearFocus();
-  focusMoved(false);
-}
-
-void ViewSurface::focusMoved(bool byKeyboard) {
-  ringWanted_ = byKeyboard;
-  item_.polish();
-  if (item_.hasActiveFocus()) ViewAccessible::focusChanged(item_);
-}
-
-// Sheet.
-
-void ViewSurface::presentationChanged() {
-  if (std::exchange(presentQueued_, true)) return;
-  // The host may be in the middle of something.
-  QMetaObject::invokeMethod(
-      &item_, [this] { presentSheet(); }, Qt::QueuedConnection);
-}
-
-void ViewSurface::presentSheet() {
-  presentQueued_ = false;
-  QQuickWindow* window = item_.window();
-  const swiftui::Presentation* presentation = window ? host_.presentation() : nullptr;
-  const bool open = sheet_ && !sheet_->isClosed();
-  if (!presentation) {
-    if (open) sheet_->retract();
-    return;
-  }
-  if (!open) sheet_ = new SheetItem(*window);
-  sheet_->setSettings(settings_);
-  sheet_->present(*presentation);
-}
-
 // Accessibility.
 
 const std::vector<render::AccessibilityElement>& ViewSurface::accessibilityElements() {
-  return host_.scene(size()).accessibility;
-}
-
-std::optional<layout::Rect> ViewSurface::focusedFrame() const {
-  return item_.hasActiveFocus() ? host_.focusFrame() : std::nullopt;
+  return host().scene(size()).accessibility;
 }
 
 }  // namespace quorix::qt

@@ -1,12 +1,9 @@
 #pragma once
 
 #include <QImage>
-#include <QPointer>
 #include <QRectF>
 
-#include "platform/hosting/ViewHost.h"
-#include "qt/EnvironmentSource.h"
-#include "qt/FingerTracker.h"
+#include "qt/HostedView.h"
 #include "qt/quick/QuickAccessibleSurface.h"
 #include "qt/quick/WindowWatcher.h"
 
@@ -14,45 +11,37 @@ class QSGNode;
 
 namespace quorix::qt {
 
-class SheetItem;
 class ViewItem;
 
 /// What a view item keeps and does behind its public face. Main thread, but for `paint`.
-class ViewSurface final : private hosting::ViewHost::Client,
+class ViewSurface final : public HostedView,
                           private WindowWatcher::Client,
                           private QuickAccessibleSurface {
  public:
   explicit ViewSurface(ViewItem& item);
   ~ViewSurface() override;
 
-  hosting::ViewHost& host() { return host_; }
-  EnvironmentSource& settings() { return settings_; }
-  FingerTracker& finger() { return finger_; }
-
-  /// The settings, the desktop or the window's scale changed.
-  void environmentChanged();
   /// The item came to another window, or to none.
   void windowChanged();
   void parentChanged();
   void onScreenChanged();
   void moved() { WindowWatcher::moved(*this); }
   void sizeChanged(bool width);
-  /// The view or its settings changed.
-  void contentChanged();
+  void contentChanged() override;
 
   /// Before a frame: settles size, scene and picture.
   void polish();
   QSGNode* paint(QSGNode* old);
 
-  bool takesTapAt(QPointF point);
-  void focusCame(Qt::FocusReason reason);
-  void focusWent(Qt::FocusReason reason);
-  /// The focus is on another element, or its ring comes or goes.
-  void focusMoved(bool byKeyboard);
-
  private:
   void viewNeedsDisplay() override;
-  void presentationChanged() override;
+  EnvironmentSource settings() const override;
+  layout::Size size() const override;
+  double scale() const override;
+  bool hasFocus() const override;
+  void takeFocusByPress() override;
+  void needsFrame() override;
+  SheetSurface* makeSheet() override;
 
   void windowVisibilityChanged() override { onScreenChanged(); }
   void desktopChanged() override { environmentChanged(); }
@@ -61,26 +50,18 @@ class ViewSurface final : private hosting::ViewHost::Client,
   void placeMayHaveChanged() override;
 
   const std::vector<render::AccessibilityElement>& accessibilityElements() override;
-  void performAccessibilityAction(int index) override { host_.activate(index); }
-  std::optional<layout::Rect> focusedFrame() const override;
+  void performAccessibilityAction(int index) override { host().activate(index); }
+  std::optional<layout::Rect> focusedFrame() const override { return focusFrame(); }
 
-  layout::Size size() const;
-  double scale() const;
   void updateIdealSize();
   void updateImplicitSize();
   void refreshScene();
   bool place();
   void updatePicture();
   void updateRing();
-  void presentSheet();
-  int actingElements();
 
   ViewItem& item_;
-  hosting::ViewHost host_;
-  EnvironmentSource settings_;
-  FingerTracker finger_;
   WindowWatcher* watcher_ = nullptr;
-  QPointer<SheetItem> sheet_;
 
   layout::Size ideal_;
   QPointF offset_;  ///< from the item's corner to the whole device pixel next to it
@@ -94,8 +75,6 @@ class ViewSurface final : private hosting::ViewHost::Client,
   bool fitting_ = false;
   bool inViewport_ = false;
   bool painted_ = false;  ///< the scene graph has, or is about to get, a picture
-  bool ringWanted_ = false;
-  bool presentQueued_ = false;
 };
 
 }  // namespace quorix::qt

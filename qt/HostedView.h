@@ -1,0 +1,86 @@
+#pragma once
+
+#include <QPointF>
+#include <QPointer>
+
+#include "platform/hosting/ViewFocus.h"
+#include "platform/hosting/ViewHost.h"
+#include "qt/EnvironmentSource.h"
+#include "qt/FingerTracker.h"
+
+class QEvent;
+class QKeyEvent;
+class QMouseEvent;
+
+namespace quorix::qt {
+
+class SheetSurface;
+
+/// What a view does in every toolkit: settings, input, focus and its sheet. A toolkit's surface
+/// derives from this and gives it a size, a place and paint. Main thread.
+class HostedView : private hosting::ViewHost::Client {
+ public:
+  HostedView(const HostedView&) = delete;
+  HostedView& operator=(const HostedView&) = delete;
+
+  hosting::ViewHost& host() { return host_; }
+
+  /// The settings, the desktop or the window's scale changed.
+  void environmentChanged();
+
+  /// Takes an event of the pointer or a key that acts: false when it is another. A tap may delete
+  /// the surface: touch nothing of it afterwards.
+  bool handle(QEvent& event);
+  void pointerLost();
+  bool takesTapAt(QPointF point);
+
+  void focusCame(Qt::FocusReason reason);
+  void focusWent(Qt::FocusReason reason);
+  /// The keyboard moves the focus on. False when there is no further element.
+  bool walk(bool forward);
+
+ protected:
+  /// `self` is the item or widget.
+  explicit HostedView(QObject& self);
+  ~HostedView() override;
+
+  /// The element that has the keyboard focus, and the one that the ring goes around.
+  std::optional<layout::Rect> focusFrame() const;
+  std::optional<layout::Rect> ringFrame() const;
+  /// The view came to another window, or to none: its sheet leaves the one before.
+  void leaveSheet();
+  void presentationChanged() override;
+
+ private:
+  virtual EnvironmentSource settings() const = 0;
+  virtual layout::Size size() const = 0;
+  /// Device pixels for each point.
+  virtual double scale() const = 0;
+  virtual bool hasFocus() const = 0;
+  /// A press came to something that acts.
+  virtual void takeFocusByPress() = 0;
+  /// The focus or its ring moved: a frame is wanted.
+  virtual void needsFrame() = 0;
+  /// The view or its settings changed: who asks for its size gets the new one.
+  virtual void contentChanged() = 0;
+  /// A new sheet over the window, which it belongs to; null without a window.
+  virtual SheetSurface* makeSheet() = 0;
+
+  void pressed(QMouseEvent& event);
+  void released(QMouseEvent& event);
+  void handleTouch(QTouchEvent& event);
+  bool handleKey(QKeyEvent& event);
+  void presentSheet();
+  SheetSurface* sheet() const { return sheetObject_ ? sheet_ : nullptr; }
+
+  QObject& self_;
+  hosting::ViewHost host_;
+  hosting::ViewFocus focus_;
+  FingerTracker finger_;
+  bool mouseTaken_ = false;  ///< its press was on something that acts
+  QPointer<QObject> sheetObject_;
+  SheetSurface* sheet_ = nullptr;  ///< as long as its object
+  bool presentQueued_ = false;
+};
+
+}  // namespace quorix::qt

@@ -1,0 +1,174 @@
+#include "qt/SheetSurface.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QTouchEvent>
+#include <utility>
+
+#include "qt/Input.h"
+#include "qt/QtTextEngine.h"
+#include "qt/ViewAccessible.h"
+
+namespace quorix::qt {
+
+SheetSurface::SheetSurface(QObject& self)
+    : self_(self),
+      presenter_(QtTextEngine::shared(), *this),
+      clock_([this](double seconds) { return presenter_.advance(seconds); }) {}
+
+void SheetSurface::setSettings(const EnvironmentSource& settings) {
+  settings_ = settings;
+  presenter_.setEnvironment(settings_.at(scale()));
+  presenter_.setMotion(settings_.allowsMotion());
+}
+
+// Coming and going.
+
+void SheetSurface::present(const swiftui::Presentation& presentation) {
+  presenter_.present(presentation);
+  if (std::exchange(presented_, true)) return;
+  takeFocusOver();
+  ViewAccessible::focusChanged(self_);
+}
+
+void SheetSurface::sheetDidClose() {
+  if (std::exchange(closed_, true)) return;
+  leave();
+}
+
+void SheetSurface::abandon() {
+  if (std::exchange(closed_, true)) return;
+  clock_.stop();
+  // On a later turn: the window may be on its way out, and does not bear a change of focus then.
+  QMetaObject::invokeMethod(
+      &self_, [this] { leave(); }, Qt::QueuedConnection);
+}
+
+void SheetSurface::leave() {
+  clock_.stop();
+  giveFocusBack();
+  vanish();
+  // The presenter is still at work, and so may be an event of this surface.
+  self_.deleteLater();
+}
+
+void SheetSurface::followMotion() {
+  if (!presenter_.isMoving()) return;
+  if (settings_.allowsMotion()) {
+    clock_.start();
+  } else {
+    presenter_.advance(0);
+  }
+}
+
+// Input.
+
+bool SheetSurface::handle(QEvent& event) {
+  switch (event.type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::MouseButtonRelease:
+      return handleMouse(static_cast<QMouseEvent&>(event));
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+    case QEvent::TouchCancel:
+      handleTouch(static_cast<QTouchEvent&>(event));
+      return true;
+    case QEvent::Wheel:
+      event.accept();
+      return true;
+    case QEvent::ShortcutOverride:
+      event.setAccepted(meaningOf(static_cast<QKeyEvent&>(event)) != KeyMeaning::none);
+      return true;
+    case QEvent::KeyPress:
+      return handleKey(static_cast<QKeyEvent&>(event));
+    case QEvent::KeyRelease:
+      // A phone closes the window when nobody takes the release of its Back key.
+      event.setAccepted(meaningOf(static_cast<QKeyEvent&>(event)) == KeyMeaning::close);
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool SheetSurface::handleMouse(const QMouseEvent& event) {
+  const bool moves = event.type() == QEvent::MouseMove;
+  if (!moves && event.button() != Qt::LeftButton) return true;
+  if (moves) {
+    moved(event.position(), event.timestamp());
+  } else if (event.type() == QEvent::MouseButtonRelease) {
+    released(event.position(), event.timestamp());
+  } else {
+    pressed(event.position(), event.timestamp());
+  }
+  return true;
+}
+
+void SheetSurface::handleTouch(const QTouchEvent& event) {
+  const auto report = finger_.read(event);
+  if (!report) return;
+  switch (report->phase) {
+    case FingerTracker::Phase::pressed:
+      return pressed(report->position, event.timestamp());
+    case FingerTracker::Phase::moved:
+      return moved(report->position, event.timestamp());
+    case FingerTracker::Phase::released:
+      return released(report->position, event.timestamp());
+    case FingerTracker::Phase::cancelled:
+      return presenter_.pointerCancelled();
+  }
+}
+
+void SheetSurface::pressed(QPointF point, quint64 at) {
+  velocity_.reset();
+  velocity_.add(point.y(), static_cast<double>(at) * 1e-3);
+  presenter_.pointerPressed(toPoint(point));
+}
+
+void SheetSurface::moved(QPointF point, quint64 at) {
+  velocity_.add(point.y(), static_cast<double>(at) * 1e-3);
+  presenter_.pointerMoved(toPoint(point));
+}
+
+void SheetSurface::released(QPointF point, quint64 at) {
+  velocity_.add(point.y(), static_cast<double>(at) * 1e-3);
+  presenter_.pointerReleased(toPoint(point), velocity_.velocity());
+}
+
+void SheetSurface::pointerLost() {
+  finger_.forget();
+  presenter_.pointerCancelled();
+}
+
+bool SheetSurface::takesTapAt(QPointF point) {
+  return presenter_.scene().hitTest(toPoint(point)) != nullptr;
+}
+
+bool SheetSurface::handleKey(QKeyEvent& event) {
+  switch (meaningOf(event)) {
+    case KeyMeaning::close:
+      presenter_.dismiss();
+      return true;
+    case KeyMeaning::forward:
+      walk(true);
+      return true;
+    case KeyMeaning::backward:
+      walk(false);
+      return true;
+    case KeyMeaning::activate:
+      if (!event.isAutoRepeat()) presenter_.activateFocus();
+      return true;
+    case KeyMeaning::none:
+      return false;
+  }
+  return false;
+}
+
+void SheetSurface::walk(bool forward) {
+  presenter_.moveFocus(forward);
+  ViewAccessible::focusChanged(self_);
+}
+
+}  // namespace quorix::qt

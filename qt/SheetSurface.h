@@ -1,0 +1,90 @@
+#pragma once
+
+#include <QPointF>
+
+#include "platform/hosting/SheetPresenter.h"
+#include "platform/hosting/VelocityTracker.h"
+#include "qt/EnvironmentSource.h"
+#include "qt/FingerTracker.h"
+#include "qt/FrameClock.h"
+
+class QEvent;
+class QKeyEvent;
+class QMouseEvent;
+class QObject;
+
+namespace quorix::qt {
+
+/// What a sheet over a window does in every toolkit: coming and going, settings, motion and input.
+/// A toolkit's sheet derives from this and gives it a place, paint and the focus; it deletes itself
+/// when it has closed. Main thread.
+class SheetSurface : private hosting::SheetPresenter::Client {
+ public:
+  SheetSurface(const SheetSurface&) = delete;
+  SheetSurface& operator=(const SheetSurface&) = delete;
+
+  QObject& object() const { return self_; }
+
+  void setSettings(const EnvironmentSource& settings);
+  void present(const swiftui::Presentation& presentation);
+  /// The owner took the sheet back.
+  void retract() { presenter_.retract(); }
+  /// The owner is gone: closes without motion.
+  void abandon();
+  bool isClosed() const { return closed_; }
+
+ protected:
+  /// `self` is the derived object.
+  explicit SheetSurface(QObject& self);
+  ~SheetSurface() override = default;
+
+  hosting::SheetPresenter& presenter() { return presenter_; }
+  const hosting::SheetPresenter& presenter() const { return presenter_; }
+  bool isPresented() const { return presented_; }
+
+  /// Takes an event of the pointer or the keyboard: false when it is another. What happens here
+  /// stays here: nothing below the sheet hears of it.
+  bool handle(QEvent& event);
+  void pointerLost();
+  bool takesTapAt(QPointF point);
+  /// Moves the focus on, inside the sheet.
+  void walk(bool forward);
+
+  /// For each frame: sees to it that what moves goes on moving. May close the sheet.
+  void followMotion();
+  /// The scale changed.
+  void followScale() { setSettings(settings_); }
+
+ private:
+  /// Device pixels for each point.
+  virtual double scale() const = 0;
+  /// Something moved or changed: a frame is wanted.
+  virtual void needsFrame() = 0;
+  /// Comes up and takes the focus.
+  virtual void takeFocusOver() = 0;
+  virtual void giveFocusBack() = 0;
+  virtual void vanish() = 0;
+
+  void sheetNeedsDisplay() override { needsFrame(); }
+  void sheetDidClose() override;
+  void leave();
+
+  bool handleMouse(const QMouseEvent& event);
+  bool handleKey(QKeyEvent& event);
+  void handleTouch(const QTouchEvent& event);
+  // `at` is the event's time in milliseconds.
+  void pressed(QPointF point, quint64 at);
+  void moved(QPointF point, quint64 at);
+  void released(QPointF point, quint64 at);
+
+  QObject& self_;
+  hosting::SheetPresenter presenter_;
+  EnvironmentSource settings_;
+  FingerTracker finger_;
+  hosting::VelocityTracker velocity_;
+  FrameClock clock_;
+  bool presented_ = false;
+  bool closed_ = false;
+};
+
+}  // namespace quorix::qt

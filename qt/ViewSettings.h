@@ -1,0 +1,41 @@
+#pragma once
+
+#include "qt/EnvironmentSource.h"
+
+namespace quorix::qt {
+
+/// What a host can settle for a view, whatever shows it. Main thread.
+class ViewSettings {
+ public:
+  /// Light or dark; nothing follows the desktop, which is what holds until this is called.
+  void setAppearance(std::optional<graphics::Appearance> appearance) {
+    settings_.appearance = appearance;
+    settingsChanged();
+  }
+  /// The reading direction; nothing follows the application's.
+  void setLayoutDirection(std::optional<layout::LayoutDirection> direction) {
+    settings_.direction = direction;
+    settingsChanged();
+  }
+  void setTextSize(swiftui::ContentSizeCategory category) {
+    settings_.textSize = category;
+    settingsChanged();
+  }
+  /// Whether sheets move; nothing follows the user's wish where the desktop passes it on.
+  void setMotion(std::optional<bool> motion) {
+    settings_.motion = motion;
+    settingsChanged();
+  }
+
+ protected:
+  ViewSettings() = default;
+  ~ViewSettings() = default;
+  const EnvironmentSource& settings() const { return settings_; }
+
+ private:
+  virtual void settingsChanged() = 0;
+
+  EnvironmentSource settings_;
+};
+
+}  // namespace quorix::qt
