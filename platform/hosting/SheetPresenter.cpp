@@ -4,6 +4,7 @@
 #include <cmath>
 #include <utility>
 
+#include "platform/hosting/SceneLayers.h"
 #include "platform/hosting/SheetGeometry.h"
 #include "platform/hosting/ViewFocus.h"
 #include "platform/layout/PixelGrid.h"
@@ -170,6 +171,7 @@ const render::Scene& SheetPresenter::scene() {
       std::in_place_type<render::FillItem>,
       render::FillItem{state.panel(), panelColor(), SheetGeometry::cornerRadius});
   overlay.append(content, state.panel().origin);
+  SheetGeometry::roundTop(overlay, state.panel());
   state.overlay = std::move(overlay);
   return *state.overlay;
 }
@@ -191,6 +193,7 @@ const render::Scene& SheetPresenter::panel() {
       std::in_place_type<render::FillItem>,
       render::FillItem{{{}, panel.size}, panelColor(), SheetGeometry::cornerRadius});
   panel.append(content, {});
+  SheetGeometry::roundTop(panel, {{}, panel.size});
   state.panelAtRest = std::move(panel);
   return *state.panelAtRest;
 }
@@ -246,8 +249,15 @@ void SheetPresenter::pointerCancelled() {
   state_->moved();
 }
 
-void SheetPresenter::moveFocus(bool forward) {
-  if (!state_->focus.walk(forward)) state_->focus.walk(forward);
+bool SheetPresenter::moveFocus(bool forward) {
+  const bool moved =
+      state_->focus.walk(forward) || (!hasEmbeds(panel()) && state_->focus.walk(forward));
+  state_->client.sheetNeedsDisplay();
+  return moved;
+}
+
+void SheetPresenter::dropFocus() {
+  state_->focus.left(ViewFocus::Cause::other);
   state_->client.sheetNeedsDisplay();
 }
 
