@@ -32,17 +32,21 @@ Desktop::Desktop(QObject* application) : QObject(application) {
   connect(qGuiApp, &QGuiApplication::layoutDirectionChanged, this, &Desktop::changed);
 }
 
-graphics::Appearance Desktop::appearance() {
-  const QPalette palette = QGuiApplication::palette();
+graphics::Appearance Desktop::appearance() { return appearanceOf(QGuiApplication::palette()); }
+
+graphics::Appearance Desktop::appearanceOf(const QPalette& palette) {
   const bool dark = palette.color(QPalette::Window).lightnessF() <
                     palette.color(QPalette::WindowText).lightnessF();
   return dark ? graphics::Appearance::dark : graphics::Appearance::light;
 }
 
 layout::LayoutDirection Desktop::direction() {
-  return QGuiApplication::layoutDirection() == Qt::RightToLeft
-             ? layout::LayoutDirection::rightToLeft
-             : layout::LayoutDirection::leftToRight;
+  return directionOf(QGuiApplication::layoutDirection());
+}
+
+layout::LayoutDirection Desktop::directionOf(Qt::LayoutDirection direction) {
+  return direction == Qt::RightToLeft ? layout::LayoutDirection::rightToLeft
+                                      : layout::LayoutDirection::leftToRight;
 }
 
 std::string Desktop::language() {

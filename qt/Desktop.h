@@ -6,6 +6,8 @@
 #include "platform/graphics/RGBA.h"
 #include "platform/layout/Geometry.h"
 
+class QPalette;
+
 namespace quorix::qt {
 
 /// What the desktop says for every surface of the process: light or dark, reading direction,
@@ -20,7 +22,9 @@ class Desktop : public QObject {
   /// Dark when the palette's window is darker than its text: there is no other word about it that
   /// every supported version passes on.
   static graphics::Appearance appearance();
+  static graphics::Appearance appearanceOf(const QPalette& palette);
   static layout::LayoutDirection direction();
+  static layout::LayoutDirection directionOf(Qt::LayoutDirection direction);
   /// The application's language, as a code such as "tr".
   static std::string language();
   /// The user asked for less motion. Read anew each time.

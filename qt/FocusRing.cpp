@@ -24,6 +24,15 @@ QRectF FocusRing::frameAround(const layout::Rect& element) {
       .adjusted(-outset, -outset, outset, outset);
 }
 
+void FocusRing::paint(QPainter& painter, const QRectF& frame, graphics::Appearance appearance) {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(colorFor(appearance), kWidth));
+  constexpr double inset = kWidth / 2;
+  painter.drawRoundedRect(frame.adjusted(inset, inset, -inset, -inset), kRadius, kRadius);
+  painter.restore();
+}
+
 QImage FocusRing::picture(const layout::Rect& element, graphics::Appearance appearance,
                           double scale) {
   const QSizeF points = frameAround(element).size();
@@ -33,11 +42,7 @@ QImage FocusRing::picture(const layout::Rect& element, graphics::Appearance appe
   image.setDevicePixelRatio(scale);
   image.fill(Qt::transparent);
   QPainter painter(&image);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QPen(colorFor(appearance), kWidth));
-  constexpr double inset = kWidth / 2;
-  painter.drawRoundedRect(QRectF(QPointF(), points).adjusted(inset, inset, -inset, -inset), kRadius,
-                          kRadius);
+  paint(painter, QRectF(QPointF(), points), appearance);
   return image;
 }
 

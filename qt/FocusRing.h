@@ -6,6 +6,8 @@
 #include "platform/graphics/RGBA.h"
 #include "platform/layout/Geometry.h"
 
+class QPainter;
+
 namespace quorix::qt {
 
 /// The ring around the element that has the keyboard focus, a little outside of it.
@@ -13,6 +15,9 @@ namespace FocusRing {
 
 /// What the ring covers, around an element at `element`; points.
 QRectF frameAround(const layout::Rect& element);
+
+/// Draws the ring within `frame`.
+void paint(QPainter& painter, const QRectF& frame, graphics::Appearance appearance);
 
 /// The ring for an element of `element`'s size, at `scale` device pixels a point.
 QImage picture(const layout::Rect& element, graphics::Appearance appearance, double scale);

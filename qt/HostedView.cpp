@@ -117,7 +117,6 @@ void HostedView::focusCame(Qt::FocusReason reason) {
   host_.scene(size());  // which says what there is to come to
   focus_.came(causeOf(reason));
   needsFrame();
-  ViewAccessible::focusChanged(self_);
 }
 
 void HostedView::focusWent(Qt::FocusReason reason) {

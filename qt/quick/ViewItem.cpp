@@ -4,6 +4,7 @@
 
 #include "qt/Engine.h"
 #include "qt/Input.h"
+#include "qt/ViewAccessible.h"
 #include "qt/quick/ViewSurface.h"
 
 namespace quorix::qt {
@@ -92,6 +93,7 @@ void ViewItem::keyPressEvent(QKeyEvent* event) {
 void ViewItem::focusInEvent(QFocusEvent* event) {
   QQuickItem::focusInEvent(event);
   surface_->focusCame(event->reason());
+  ViewAccessible::focusChanged(*this);
 }
 
 void ViewItem::focusOutEvent(QFocusEvent* event) {

@@ -1,44 +1,17 @@
 #include "tests/qt/QuickScreen.h"
 
-#include <QPointingDevice>
-#include <QTest>
-
-#include "qt/AccessibilityBridge.h"
-#include "qt/Engine.h"
+#include <QQmlComponent>
+#include <QQmlEngine>
 
 namespace quorix::testing {
-namespace {
-
-/// Depth first; a subtree that is invisible is out of reach with all that is in it.
-QAccessibleInterface* findIn(QAccessibleInterface* root, const QString& name) {
-  if (!root || root->state().invisible) return nullptr;
-  if (root->text(QAccessible::Name) == name && root->role() != QAccessible::Dialog) return root;
-  for (int i = 0; i < root->childCount(); ++i) {
-    if (QAccessibleInterface* found = findIn(root->child(i), name)) return found;
-  }
-  return nullptr;
-}
-
-QPointingDevice& touchScreen() {
-  static QPointingDevice* device = QTest::createTouchDevice();
-  return *device;
-}
-
-}  // namespace
 
 QuickScreen::QuickScreen() : window_(std::make_unique<QQuickWindow>()) {
-  qt::installEngine();
-  qt::AccessibilityBridge::instance();  // hears the next line; the platform itself keeps no such
-                                        // flag
-  QAccessible::setActive(true);
-  window_->resize(360, 600);
+  QObject::connect(window_.get(), &QQuickWindow::frameSwapped, window_.get(),
+                   [this] { countFrame(); });
+  window_->resize(kSize);
   window_->show();
-  if (!QTest::qWaitForWindowExposed(window_.get())) qFatal("The window does not come up");
-  window_->requestActivate();
-  if (!QTest::qWaitForWindowActive(window_.get())) qFatal("The window does not become active");
+  waitUntilActive();
 }
-
-QuickScreen::~QuickScreen() = default;
 
 qt::ViewItem* QuickScreen::add(swiftui::View view, QRectF place) {
   auto* item = new qt::ViewItem(std::move(view), window_->contentItem());
@@ -50,6 +23,11 @@ qt::ViewItem* QuickScreen::add(swiftui::View view, QRectF place) {
   return item;
 }
 
+void QuickScreen::adopt(qt::ViewItem* item) {
+  item->setParentItem(window_->contentItem());
+  item->setParent(window_->contentItem());
+}
+
 QQuickItem* QuickScreen::addFocusable() {
   auto* item = new QQuickItem(window_->contentItem());
   item->setSize({10, 10});
@@ -58,55 +36,24 @@ QQuickItem* QuickScreen::addFocusable() {
   return item;
 }
 
-void QuickScreen::settle() {
-  int frames = 0;
-  const auto counting =
-      QObject::connect(window_.get(), &QQuickWindow::frameSwapped, [&] { ++frames; });
-  for (int quiet = 0; quiet < 2;) {
-    const int before = frames;
-    QTest::qWait(30);
-    quiet = frames == before ? quiet + 1 : 0;
-  }
-  QObject::disconnect(counting);
+std::function<int()> QuickScreen::listenBelow() {
+  auto* engine = new QQmlEngine(window_.get());
+  QQmlComponent component(engine);
+  component.setData(R"(import QtQuick
+      MouseArea {
+        property int events
+        acceptedButtons: Qt.AllButtons; hoverEnabled: true
+        onPressed: ++events
+        onPositionChanged: ++events
+        onWheel: ++events
+      })",
+                    {});
+  auto* area = qobject_cast<QQuickItem*>(component.create());
+  if (!area) qFatal("%s", qUtf8Printable(component.errorString()));
+  area->setParent(window_->contentItem());
+  area->setParentItem(window_->contentItem());
+  area->setSize(window_->size());
+  return [area] { return area->property("events").toInt(); };
 }
-
-QAccessibleInterface* QuickScreen::find(const QString& name) {
-  return findIn(QAccessible::queryAccessibleInterface(window_.get()), name);
-}
-
-QPoint QuickScreen::centreOf(const QString& name) {
-  QAccessibleInterface* found = find(name);
-  if (!found) qFatal("Nothing on screen is called %s", qUtf8Printable(name));
-  return window_->mapFromGlobal(found->rect().center());
-}
-
-void QuickScreen::click(const QString& name) { clickAt(centreOf(name)); }
-
-void QuickScreen::clickAt(QPoint point) {
-  QTest::mouseClick(window_.get(), Qt::LeftButton, {}, point);
-  settle();
-}
-
-void QuickScreen::key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
-  QTest::keyClick(window_.get(), key, modifiers);
-  settle();
-}
-
-void QuickScreen::drag(QPoint from, QPoint to, int milliseconds, bool byTouch) {
-  constexpr int steps = 10;
-  const auto at = [&](int step) { return from + (to - from) * step / steps; };
-  if (byTouch) QTest::touchEvent(window_.get(), &touchScreen()).press(1, from);
-  if (!byTouch) QTest::mousePress(window_.get(), Qt::LeftButton, {}, from);
-  for (int step = 1; step <= steps; ++step) {
-    if (byTouch) QTest::qWait(milliseconds / steps);
-    if (byTouch) QTest::touchEvent(window_.get(), &touchScreen()).move(1, at(step));
-    if (!byTouch) QTest::mouseMove(window_.get(), at(step), milliseconds / steps);
-  }
-  if (byTouch) QTest::touchEvent(window_.get(), &touchScreen()).release(1, to);
-  if (!byTouch) QTest::mouseRelease(window_.get(), Qt::LeftButton, {}, to);
-  settle();
-}
-
-QImage QuickScreen::grab() { return window_->grabWindow(); }
 
 }  // namespace quorix::testing

@@ -1,50 +1,38 @@
 #pragma once
 
-#include <QAccessible>
 #include <QQuickItem>
 #include <QQuickWindow>
-#include <QString>
-#include <QStringList>
 #include <memory>
 
 #include "platform/swiftui/View.h"
 #include "qt/quick/ViewItem.h"
+#include "tests/qt/Screen.h"
 
 namespace quorix::testing {
 
-/// A window as a user meets it: things are found by what assistive technology says of them, and
-/// pointed at where they are.
-class QuickScreen {
+class QuickScreen : public Screen {
  public:
   QuickScreen();
-  ~QuickScreen();
 
-  QQuickWindow& window() { return *window_; }
+  QQuickWindow& window() override { return *window_; }
   void closeWindow() { window_.reset(); }
+  QImage grab() override { return window_->grabWindow(); }
+  std::function<int()> listenBelow() override;
 
   /// A view at `place`, without motion; its height is what it wants where `place` has none.
   qt::ViewItem* add(swiftui::View view, QRectF place);
+  /// Takes `item` over from another screen.
+  void adopt(qt::ViewItem* item);
   /// Something of the host's that can have the focus.
   QQuickItem* addFocusable();
-
-  /// Takes turns until nothing is left to draw.
-  void settle();
-
-  /// What is called `name` and can be reached, or null.
-  QAccessibleInterface* find(const QString& name);
-  bool shows(const QString& name) { return find(name) != nullptr; }
-  QPoint centreOf(const QString& name);
-  void click(const QString& name);
-  void clickAt(QPoint point);
-  void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
-
-  /// Moves a pressed mouse or finger from one point to the other within `milliseconds`. A finger is
-  /// always fast: the test library numbers its events instead of timing them.
-  void drag(QPoint from, QPoint to, int milliseconds, bool byTouch);
-
-  QImage grab();
+  static void focus(QQuickItem* item) { item->forceActiveFocus(); }
+  static bool hasFocus(const QQuickItem* item) { return item->hasActiveFocus(); }
+  static QRect placeOf(const QQuickItem* item) { return {at(item), item->size().toSize()}; }
 
  private:
+  static QPoint at(const QQuickItem* item) { return item->mapToScene({}).toPoint(); }
+  QObject& accessibleRoot() override { return *window_; }
+
   std::unique_ptr<QQuickWindow> window_;
 };
 

@@ -3,7 +3,7 @@
 #include <QAccessible>
 
 #include "tests/qt/FeeRow.h"
-#include "tests/qt/QuickScreen.h"
+#include "tests/qt/Screens.h"
 
 namespace quorix::testing {
 namespace {
@@ -13,6 +13,10 @@ using swiftui::View;
 
 constexpr QRectF kPlace(20, 40, 300, 0);
 
+template <class>
+struct Accessible : ::testing::Test {};
+TYPED_TEST_SUITE(Accessible, Screens, ScreenName);
+
 int childrenNamed(QAccessibleInterface* parent, const QString& name) {
   int count = 0;
   for (int i = 0; i < parent->childCount(); ++i) {
@@ -21,32 +25,33 @@ int childrenNamed(QAccessibleInterface* parent, const QString& name) {
   return count;
 }
 
-TEST(ViewAccessible, ARowIsExactlyOneButtonOfItsWindow) {
-  QuickScreen screen;
-  qt::ViewItem* row = screen.add(FeeRow("4 €"), kPlace);
-  QAccessibleInterface* window = QAccessible::queryAccessibleInterface(&screen.window());
-  ASSERT_EQ(childrenNamed(window, "Row 4 €"), 1);
+TYPED_TEST(Accessible, ARowIsExactlyOneButtonOfItsWindow) {
+  TypeParam screen;
+  auto* row = screen.add(FeeRow("4 €"), kPlace);
   QAccessibleInterface* button = screen.find("Row 4 €");
+  ASSERT_TRUE(button);
+  QAccessibleInterface* window = button->parent();
+  EXPECT_EQ(window->rect().size(), screen.window().size());
+  EXPECT_EQ(childrenNamed(window, "Row 4 €"), 1);
   EXPECT_EQ(button->role(), QAccessible::Button);
   EXPECT_EQ(button->childCount(), 0);
   EXPECT_EQ(button->text(QAccessible::Description), "Opens details");
   EXPECT_TRUE(button->state().focusable);
   EXPECT_FALSE(button->state().focused);
-  EXPECT_EQ(button->parent(), window);
-  EXPECT_EQ(button->rect().topLeft(), row->mapToGlobal(QPointF()).toPoint());
-  EXPECT_EQ(button->rect().size(), row->size().toSize());
+  const QRect place = screen.placeOf(row);
+  EXPECT_EQ(button->rect(), QRect(screen.window().mapToGlobal(place.topLeft()), place.size()));
   ASSERT_TRUE(button->actionInterface());
   button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
   screen.settle();
   EXPECT_TRUE(screen.shows("Fee 4 €"));
 }
 
-TEST(ViewAccessible, SeveralElementsStandInAGroupInReadingOrder) {
-  QuickScreen screen;
+TYPED_TEST(Accessible, SeveralElementsStandInAGroupInReadingOrder) {
+  TypeParam screen;
   int taps = 0;
   const View heading =
       View(Text::verbatim("Title")).accessibilityAddTraits(swiftui::AccessibilityTrait::isHeader);
-  qt::ViewItem* item =
+  auto* item =
       screen.add(swiftui::VStack(layout::HorizontalAlignment::leading, 4,
                                  {heading, Text::verbatim("Text"),
                                   View(Text::verbatim("Press")).onTapGesture([&taps] { ++taps; })}),
@@ -75,8 +80,8 @@ TEST(ViewAccessible, SeveralElementsStandInAGroupInReadingOrder) {
   EXPECT_EQ(group->focusChild(), group->child(2));
 }
 
-TEST(ViewAccessible, ASheetIsAModalDialogAndCoversTheRest) {
-  QuickScreen screen;
+TYPED_TEST(Accessible, ASheetIsAModalDialogAndCoversTheRest) {
+  TypeParam screen;
   screen.add(FeeRow("4 €"), kPlace);
   screen.click("Row 4 €");
   QAccessibleInterface* text = screen.find("Fee 4 €");

@@ -42,15 +42,6 @@ struct CountingItem : qt::ViewItem {
   }
 };
 
-bool differsAround(const QImage& before, const QImage& after, QRect inner) {
-  for (int y = 0; y < before.height(); ++y) {
-    for (int x = 0; x < before.width(); ++x) {
-      if (!inner.contains(x, y) && before.pixel(x, y) != after.pixel(x, y)) return true;
-    }
-  }
-  return false;
-}
-
 TEST(ViewItem, ImplicitHeightFollowsTheWidthItIsGiven) {
   qt::ViewItem item(paragraph());
   const double ideal = item.implicitWidth();
@@ -157,29 +148,6 @@ TEST(ViewItem, HasAPictureOnlyInAndNearTheViewport) {
   flickable->setProperty("contentY", 2000);
   screen.settle();
   EXPECT_EQ(pictured(), std::make_pair(46, 61));
-}
-
-TEST(ViewItem, TabReachesTheRowShowsARingAroundItAndLeaves) {
-  QuickScreen screen;
-  QQuickItem* other = screen.addFocusable();
-  qt::ViewItem* row = screen.add(FeeRow("4 €"), kPlace);
-  const QRect frame = QRectF(row->position(), row->size()).toRect();
-  const QImage plain = screen.grab();
-  screen.key(Qt::Key_Tab);
-  EXPECT_TRUE(row->hasActiveFocus());
-  EXPECT_TRUE(differsAround(plain, screen.grab(), frame));
-  screen.key(Qt::Key_Tab);
-  EXPECT_TRUE(other->hasActiveFocus());
-  EXPECT_EQ(screen.grab(), plain);
-  screen.key(Qt::Key_Backtab, Qt::ShiftModifier);
-  EXPECT_TRUE(row->hasActiveFocus());
-  // A press takes the focus as well, without the ring.
-  other->forceActiveFocus();
-  QTest::mousePress(&screen.window(), Qt::LeftButton, {}, frame.center());
-  screen.settle();
-  EXPECT_TRUE(row->hasActiveFocus());
-  EXPECT_EQ(screen.grab(), plain);
-  QTest::mouseRelease(&screen.window(), Qt::LeftButton, {}, {1, 300});
 }
 
 TEST(ViewItem, AFingerThatScrollsTapsNothing) {

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <QGuiApplication>
+#include <QApplication>
 
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
@@ -8,7 +8,7 @@ int main(int argc, char** argv) {
   // Pictures are compared: they must not depend on a graphics driver.
   if (qEnvironmentVariableIsEmpty("QT_QUICK_BACKEND")) qputenv("QT_QUICK_BACKEND", "software");
   // On the heap, so that a test about the application's end (in a process of its own) can end it.
-  new QGuiApplication(argc, argv);
+  new QApplication(argc, argv);
   const int result = RUN_ALL_TESTS();
   delete QCoreApplication::instance();
   return result;

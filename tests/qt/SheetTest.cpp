@@ -1,12 +1,10 @@
 #include <gtest/gtest.h>
 
-#include <QQmlComponent>
-#include <QQmlEngine>
 #include <QTest>
-#include <memory>
+#include <QWheelEvent>
 
 #include "tests/qt/FeeRow.h"
-#include "tests/qt/QuickScreen.h"
+#include "tests/qt/Screens.h"
 
 namespace quorix::testing {
 namespace {
@@ -16,52 +14,56 @@ using swiftui::View;
 
 constexpr QRectF kPlace(20, 40, 300, 0);
 
+template <class>
+struct Sheet : ::testing::Test {};
+TYPED_TEST_SUITE(Sheet, Screens, ScreenName);
+
 struct Closing {
   const char* by;
-  void (*perform)(QuickScreen& screen);
+  void (*perform)(Screen& screen);
 };
 
 const Closing kWays[] = {
-    {"the close element", [](QuickScreen& screen) { screen.click("Close 4 €"); }},
+    {"the close element", [](Screen& screen) { screen.click("Close 4 €"); }},
     {"a tap outside",
-     [](QuickScreen& screen) {
+     [](Screen& screen) {
        screen.clickAt({180, 150});
      }},
-    {"Escape", [](QuickScreen& screen) { screen.key(Qt::Key_Escape); }},
-    {"the Back key", [](QuickScreen& screen) { screen.key(Qt::Key_Back); }},
+    {"Escape", [](Screen& screen) { screen.key(Qt::Key_Escape); }},
+    {"the Back key", [](Screen& screen) { screen.key(Qt::Key_Back); }},
     {"a flick of the mouse",
-     [](QuickScreen& screen) {
+     [](Screen& screen) {
        screen.drag({180, 420}, {180, 500}, 60, false);
      }},
     {"a flick of a finger",
-     [](QuickScreen& screen) {
+     [](Screen& screen) {
        screen.drag({180, 420}, {180, 500}, 60, true);
      }},
     {"a slow pull beyond its middle",
-     [](QuickScreen& screen) {
+     [](Screen& screen) {
        screen.drag({180, 420}, {180, 590}, 900, false);
      }},
     {"the keyboard on the close element",
-     [](QuickScreen& screen) {
+     [](Screen& screen) {
        screen.key(Qt::Key_Tab);
        screen.key(Qt::Key_Return);
      }},
 };
 
-TEST(SheetItem, EveryWayClosesItAndGivesTheFocusBack) {
+TYPED_TEST(Sheet, EveryWayClosesItAndGivesTheFocusBack) {
   for (const Closing& way : kWays) {
-    QuickScreen screen;
-    QQuickItem* field = screen.addFocusable();
-    qt::ViewItem* row = screen.add(FeeRow("4 €"), kPlace);
+    TypeParam screen;
+    auto* field = screen.addFocusable();
+    auto* row = screen.add(FeeRow("4 €"), kPlace);
     const QImage before = screen.grab();
     screen.key(Qt::Key_Tab);
     screen.key(Qt::Key_Space);
     ASSERT_TRUE(screen.shows("Fee 4 €")) << way.by;
-    EXPECT_FALSE(row->hasActiveFocus()) << way.by;
+    EXPECT_FALSE(screen.hasFocus(row)) << way.by;
     way.perform(screen);
     EXPECT_FALSE(screen.shows("Fee 4 €")) << way.by;
-    EXPECT_TRUE(row->hasActiveFocus()) << way.by;
-    field->forceActiveFocus();
+    EXPECT_TRUE(screen.hasFocus(row)) << way.by;
+    screen.focus(field);
     screen.settle();
     EXPECT_EQ(screen.grab(), before) << way.by;
     screen.key(Qt::Key_Tab);
@@ -70,48 +72,33 @@ TEST(SheetItem, EveryWayClosesItAndGivesTheFocusBack) {
   }
 }
 
-TEST(SheetItem, HoldsTheFocusInside) {
-  QuickScreen screen;
+TYPED_TEST(Sheet, HoldsTheFocusInside) {
+  TypeParam screen;
   screen.addFocusable();
   screen.add(FeeRow("4 €"), kPlace);
   screen.click("Row 4 €");
-  QQuickItem* sheet = screen.window().activeFocusItem();
+  QObject* sheet = QGuiApplication::focusObject();
   for (int i = 0; i < 5; ++i) {
     screen.key(i < 3 ? Qt::Key_Tab : Qt::Key_Backtab);
-    EXPECT_EQ(screen.window().activeFocusItem(), sheet);
+    EXPECT_EQ(QGuiApplication::focusObject(), sheet);
     EXPECT_EQ(screen.find("Close 4 €")->state().focused, i % 2 == 0);
   }
 }
 
-TEST(SheetItem, KeepsInputFromWhatLiesBelow) {
-  QuickScreen screen;
-  QQmlEngine engine;
-  QQmlComponent component(&engine);
-  component.setData(R"(import QtQuick
-      MouseArea {
-        property int events
-        acceptedButtons: Qt.AllButtons; hoverEnabled: true
-        onPressed: ++events
-        onPositionChanged: ++events
-        onWheel: ++events
-      })",
-                    {});
-  std::unique_ptr<QObject> root(component.create());
-  auto* below = qobject_cast<QQuickItem*>(root.get());
-  ASSERT_TRUE(below) << qPrintable(component.errorString());
-  below->setParentItem(screen.window().contentItem());
-  below->setSize(screen.window().size());
+TYPED_TEST(Sheet, KeepsInputFromWhatLiesBelow) {
+  TypeParam screen;
+  const auto eventsBelow = screen.listenBelow();
   screen.add(FeeRow("4 €"), kPlace);
   const QPoint onPanel(180, 580);
   const auto disturb = [&] {
-    below->setProperty("events", 0);
+    const int before = eventsBelow();
     QTest::mouseMove(&screen.window(), onPanel);
     QTest::mouseClick(&screen.window(), Qt::RightButton, {}, onPanel);
     QWheelEvent wheel(onPanel, onPanel, {0, 20}, {0, 120}, Qt::NoButton, {}, Qt::NoScrollPhase,
                       false);
     QCoreApplication::sendEvent(&screen.window(), &wheel);
     screen.drag(onPanel, onPanel, 20, true);
-    return below->property("events").toInt();
+    return eventsBelow() - before;
   };
   EXPECT_GE(disturb(), 3);
   screen.click("Row 4 €");
@@ -119,8 +106,8 @@ TEST(SheetItem, KeepsInputFromWhatLiesBelow) {
   EXPECT_TRUE(screen.shows("Fee 4 €"));
 }
 
-TEST(SheetItem, RowsOfOneWindowHaveTheirOwn) {
-  QuickScreen screen;
+TYPED_TEST(Sheet, RowsOfOneWindowHaveTheirOwn) {
+  TypeParam screen;
   screen.add(FeeRow("4 €"), kPlace);
   screen.add(FeeRow("9 €"), kPlace.translated(0, 100));
   for (const QString fee : {"9 €", "4 €"}) {
@@ -131,16 +118,16 @@ TEST(SheetItem, RowsOfOneWindowHaveTheirOwn) {
   }
 }
 
-TEST(SheetItem, GoesWithItsRow) {
-  QuickScreen screen;
-  QQuickItem* field = screen.addFocusable();
-  qt::ViewItem* row = screen.add(FeeRow("4 €"), kPlace);
+TYPED_TEST(Sheet, GoesWithItsRow) {
+  TypeParam screen;
+  auto* field = screen.addFocusable();
+  auto* row = screen.add(FeeRow("4 €"), kPlace);
   screen.click("Row 4 €");
   delete row;
   EXPECT_FALSE(screen.shows("Fee 4 €"));
   screen.settle();
   screen.key(Qt::Key_Tab);
-  EXPECT_TRUE(field->hasActiveFocus());
+  EXPECT_TRUE(screen.hasFocus(field));
 }
 
 /// Its sheet asks the host to take the row away.
@@ -156,39 +143,37 @@ struct Leaving {
   }
 };
 
-TEST(SheetItem, MayEndItsRowFromInside) {
-  QuickScreen screen;
-  qt::ViewItem* row = nullptr;
+TYPED_TEST(Sheet, MayEndItsRowFromInside) {
+  TypeParam screen;
+  decltype(screen.add(View(), kPlace)) row = nullptr;
   row = screen.add(Leaving{[&] { delete row; }}, kPlace);
   screen.click("open");
   screen.click("leave");
   EXPECT_FALSE(screen.shows("leave"));
 }
 
-TEST(SheetItem, GoesWithItsWindowAndToAnotherOne) {
-  QuickScreen first;
-  QuickScreen second;
-  qt::ViewItem* row = first.add(FeeRow("4 €"), kPlace);
+TYPED_TEST(Sheet, GoesWithItsWindowAndToAnotherOne) {
+  TypeParam first;
+  TypeParam second;
+  auto* row = first.add(FeeRow("4 €"), kPlace);
   first.click("Row 4 €");
-  row->setParentItem(second.window().contentItem());
-  row->setParent(second.window().contentItem());
+  second.adopt(row);
   second.settle();
   EXPECT_FALSE(first.shows("Fee 4 €"));
   EXPECT_TRUE(second.shows("Fee 4 €"));
   second.closeWindow();
 }
 
-TEST(SheetItem, RisesOverSeveralFramesAndThenRests) {
-  QuickScreen screen;
-  qt::ViewItem* row = screen.add(FeeRow("4 €"), kPlace);
+TYPED_TEST(Sheet, RisesOverSeveralFramesAndThenRests) {
+  TypeParam screen;
+  auto* row = screen.add(FeeRow("4 €"), kPlace);
   row->setMotion(true);
-  int frames = 0;
-  QObject::connect(&screen.window(), &QQuickWindow::frameSwapped, row, [&] { ++frames; });
+  const int before = screen.frames();
   screen.click("Row 4 €");
-  EXPECT_GT(frames, 5);
-  frames = 0;
+  EXPECT_GT(screen.frames(), before + 5);
+  const int risen = screen.frames();
   QTest::qWait(100);
-  EXPECT_EQ(frames, 0);
+  EXPECT_EQ(screen.frames(), risen);
 }
 
 }  // namespace

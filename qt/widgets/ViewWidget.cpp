@@ -1,0 +1,125 @@
+#include "qt/widgets/ViewWidget.h"
+
+#include <QCursor>
+#include <QFocusEvent>
+#include <QHoverEvent>
+#include <QPainter>
+
+#include "qt/Engine.h"
+#include "qt/ViewAccessible.h"
+#include "qt/widgets/WidgetSurface.h"
+
+namespace quorix::qt {
+
+ViewWidget::ViewWidget(QWidget* parent) : ViewWidget(swiftui::View(), parent) {}
+
+ViewWidget::ViewWidget(swiftui::View view, QWidget* parent)
+    : QWidget(parent), surface_(std::make_unique<WidgetSurface>(*this)) {
+  installEngine();  // without it a view would stand still
+  setAttribute(Qt::WA_AcceptTouchEvents);
+  setAttribute(Qt::WA_Hover);
+  QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+  policy.setHeightForWidth(true);
+  setSizePolicy(policy);
+  surface_->host().setRoot(std::move(view));
+  surface_->environmentChanged();
+}
+
+ViewWidget::~ViewWidget() = default;
+
+void ViewWidget::setView(swiftui::View view) {
+  surface_->host().setRoot(std::move(view));
+  surface_->contentChanged();
+}
+
+void ViewWidget::settingsChanged() { surface_->environmentChanged(); }
+
+QSize ViewWidget::sizeHint() const { return surface_->idealSize(); }
+
+QSize ViewWidget::minimumSizeHint() const { return surface_->minimumSize(); }
+
+int ViewWidget::heightForWidth(int width) const { return surface_->heightFor(width); }
+
+bool ViewWidget::event(QEvent* event) {
+  switch (event->type()) {
+    case QEvent::HoverEnter:
+    case QEvent::HoverMove:
+      pointAt(static_cast<QHoverEvent*>(event)->position());
+      return true;
+    case QEvent::HoverLeave:
+      return true;  // which would paint the widget anew
+    case QEvent::ParentChange:
+      surface_->placeChanged();
+      break;
+    case QEvent::ScreenChangeInternal:
+      surface_->environmentChanged();
+      break;
+    default:
+      break;
+  }
+  // The action may delete this widget: nothing is touched after it.
+  return (isEnabled() && surface_->handle(*event)) || QWidget::event(event);
+}
+
+void ViewWidget::pointAt(QPointF point) {
+  const bool tappable = isEnabled() && surface_->takesTapAt(point);
+  if (tappable == (cursor().shape() == Qt::PointingHandCursor)) return;
+  if (tappable) {
+    setCursor(Qt::PointingHandCursor);
+  } else {
+    unsetCursor();
+  }
+}
+
+void ViewWidget::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  switch (event->type()) {
+    case QEvent::PaletteChange:
+    case QEvent::StyleChange:
+    case QEvent::LayoutDirectionChange:
+    case QEvent::LanguageChange:
+    case QEvent::LocaleChange:
+      return surface_->environmentChanged();
+    default:
+      return;
+  }
+}
+
+void ViewWidget::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  surface_->paint(painter);
+}
+
+void ViewWidget::resizeEvent(QResizeEvent*) { surface_->sizeChanged(); }
+
+void ViewWidget::showEvent(QShowEvent*) { surface_->placeChanged(); }
+
+void ViewWidget::hideEvent(QHideEvent*) {
+  surface_->pointerLost();
+  surface_->placeChanged();
+}
+
+// Not QWidget's: it would paint the widget anew.
+
+void ViewWidget::focusInEvent(QFocusEvent* event) {
+  surface_->focusCame(event->reason());
+  // Later: Qt has yet to say that the widget has the focus, which is not the whole of it.
+  QMetaObject::invokeMethod(
+      this,
+      [this] {
+        if (hasFocus()) ViewAccessible::focusChanged(*this);
+      },
+      Qt::QueuedConnection);
+}
+
+void ViewWidget::focusOutEvent(QFocusEvent* event) { surface_->focusWent(event->reason()); }
+
+bool ViewWidget::focusNextPrevChild(bool next) {
+  // A widget that is on its way out has its focus moved on from outside.
+  const bool inside = hasFocus() && isVisible() && isEnabled();
+  if (inside && surface_->walk(next)) return true;
+  // Where nothing else takes the focus, it goes round.
+  return QWidget::focusNextPrevChild(next) || (inside && surface_->walk(next));
+}
+
+}  // namespace quorix::qt

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QWidget>
+#include <memory>
+
+#include "platform/swiftui/View.h"
+#include "qt/ViewSettings.h"
+
+namespace quorix::qt {
+
+class WidgetSurface;
+
+/// Shows a view among Qt Widgets. A size in points is a size in widgets' pixels.
+///
+/// Layouts place it like a label with word wrap: its size hint is what the view wants, its height
+/// follows its width. What nobody settles follows the widget: its palette tells light from dark,
+/// and its layout direction is the view's; both are the desktop's unless the host says otherwise.
+/// It has no background, and is painted only when something changed. Sheets of the view open over
+/// the whole window that the widget is in. Main thread.
+///
+///     auto* row = new qt::ViewWidget(ScoreWidgetBuilder::buildSwiftUIScoreWidgetView(...));
+///     page->layout()->addWidget(row);
+class ViewWidget : public QWidget, public ViewSettings {
+  Q_OBJECT
+
+ public:
+  explicit ViewWidget(QWidget* parent = nullptr);
+  explicit ViewWidget(swiftui::View view, QWidget* parent = nullptr);
+  ~ViewWidget() override;
+
+  /// Shows another view, which begins afresh; a sheet of the one before goes.
+  void setView(swiftui::View view);
+
+  // The widget's own, which the view follows, and the view's.
+  using QWidget::setLayoutDirection;
+  using ViewSettings::setLayoutDirection;
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+  bool hasHeightForWidth() const override { return true; }
+  int heightForWidth(int width) const override;
+
+ protected:
+  bool event(QEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
+
+ private:
+  friend class WidgetSurface;
+  void settingsChanged() override;
+  void pointAt(QPointF point);
+
+  std::unique_ptr<WidgetSurface> surface_;
+};
+
+}  // namespace quorix::qt

@@ -1,0 +1,188 @@
+#include "qt/widgets/WidgetSurface.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "qt/AccessibilityBridge.h"
+#include "qt/Desktop.h"
+#include "qt/Picture.h"
+#include "qt/ViewAccessible.h"
+#include "qt/widgets/FocusFrame.h"
+#include "qt/widgets/SheetWidget.h"
+#include "qt/widgets/ViewWidget.h"
+#include "qt/widgets/WindowStateWatcher.h"
+
+namespace quorix::qt {
+namespace {
+
+/// Whole pixels that hold `points`, but for bits that were lost in additions.
+int wholePixels(double points) {
+  constexpr double slack = 1.0 / 256;
+  return static_cast<int>(std::clamp(std::ceil(points - slack), 0.0, double(QWIDGETSIZE_MAX)));
+}
+
+/// Whether anything of `widget` lies within all that it stands in. A widget that is scrolled away
+/// does not, though it is visible.
+bool isInView(const QWidget& widget) {
+  QRect left = widget.rect();
+  for (const QWidget* at = &widget; !at->isWindow() && !left.isEmpty(); at = at->parentWidget()) {
+    left = left.translated(at->pos()).intersected(at->parentWidget()->rect());
+  }
+  return !left.isEmpty();
+}
+
+}  // namespace
+
+WidgetSurface::WidgetSurface(ViewWidget& widget)
+    : HostedView(widget), WidgetAccessibleSurface(widget), widget_(widget) {
+  AccessibilityBridge::instance()->add(widget, *this);
+}
+
+WidgetSurface::~WidgetSurface() {
+  dropRing();
+  QObject::disconnect(windowState_);
+  AccessibilityBridge::instance()->remove(widget_);
+}
+
+layout::Size WidgetSurface::size() const {
+  return {double(widget_.width()), double(widget_.height())};
+}
+
+double WidgetSurface::scale() const { return widget_.devicePixelRatioF(); }
+
+EnvironmentSource WidgetSurface::settings() const {
+  EnvironmentSource now = widget_.settings();
+  if (!now.appearance) now.appearance = Desktop::appearanceOf(widget_.palette());
+  if (!now.direction) now.direction = Desktop::directionOf(widget_.layoutDirection());
+  return now;
+}
+
+bool WidgetSurface::hasFocus() const { return widget_.hasFocus(); }
+
+void WidgetSurface::takeFocusByPress() {
+  if (widget_.focusPolicy() != Qt::NoFocus) widget_.setFocus(Qt::MouseFocusReason);
+}
+
+SheetSurface* WidgetSurface::makeSheet() { return new SheetWidget(*widget_.window()); }
+
+// Place.
+
+void WidgetSurface::placeChanged() {
+  QWidget* window = widget_.window();
+  const bool moved = window != window_;
+  if (moved) {
+    leaveSheet();
+    QObject::disconnect(windowState_);
+    windowState_ = QObject::connect(&WindowStateWatcher::of(*window), &WindowStateWatcher::changed,
+                                    &widget_, [this] { onScreenChanged(); });
+    window_ = window;
+  }
+  onScreenChanged();  // before anyone asks for a size: the view is then evaluated once
+  environmentChanged();
+  if (moved && host().presentation()) presentationChanged();
+}
+
+void WidgetSurface::onScreenChanged() {
+  onScreen_ = widget_.isVisible() && !window_->isMinimized();
+  host().setOnScreen(onScreen_);
+  settleSoon();
+}
+
+// Size.
+
+QSize WidgetSurface::sizeFor(layout::ProposedSize proposal) {
+  const layout::Size size = host().sizeThatFits(proposal);
+  return {wholePixels(size.width), wholePixels(size.height)};
+}
+
+QSize WidgetSurface::idealSize() {
+  told_.ideal = sizeFor({});
+  return *told_.ideal;
+}
+
+QSize WidgetSurface::minimumSize() {
+  // As narrow as it can be; how high that makes it is for `heightFor` to say.
+  told_.minimum = QSize(sizeFor({0, std::nullopt}).width(), sizeFor({}).height());
+  return *told_.minimum;
+}
+
+int WidgetSurface::heightFor(int width) {
+  told_.height = {width, sizeFor({width, std::nullopt}).height()};
+  return told_.height->second;
+}
+
+bool WidgetSurface::toldHolds() {
+  const Told before = told_;
+  return (!before.ideal || before.ideal == idealSize()) &&
+         (!before.minimum || before.minimum == minimumSize()) &&
+         (!before.height || before.height->second == heightFor(before.height->first));
+}
+
+void WidgetSurface::sizeChanged() {
+  sceneStale_ = true;
+  settle();
+}
+
+// Frame.
+
+void WidgetSurface::viewNeedsDisplay() {
+  sizeStale_ = sceneStale_ = true;
+  settleSoon();
+}
+
+void WidgetSurface::contentChanged() { settle(); }
+
+void WidgetSurface::needsFrame() { settleSoon(); }
+
+void WidgetSurface::settleSoon() {
+  if (std::exchange(settleQueued_, true)) return;
+  QMetaObject::invokeMethod(
+      &widget_, [this] { settleQueued_ = false, settle(); }, Qt::QueuedConnection);
+}
+
+void WidgetSurface::settle() {
+  if (std::exchange(sizeStale_, false) && !toldHolds()) {
+    told_ = {};
+    widget_.updateGeometry();
+  }
+  if (onScreen_ && sceneStale_) refreshScene();
+  updateRing();
+  const bool needed = hasFocus() || (onScreen_ && isInView(widget_));
+  if (!needed && !AccessibilityBridge::isActive()) host().rest();
+}
+
+void WidgetSurface::refreshScene() {
+  sceneStale_ = false;
+  host().scene(size());
+  widget_.setFocusPolicy(host().actingElements() > 0 ? Qt::TabFocus : Qt::NoFocus);
+  ViewAccessible::sceneChanged(widget_);
+  widget_.update();
+}
+
+void WidgetSurface::updateRing() {
+  const auto around = ringFrame();
+  if (!around) return dropRing();
+  if (!ring_) ring_ = new FocusFrame(widget_);
+  ring_->goAround(*around, host().environment().appearance);
+}
+
+void WidgetSurface::dropRing() {
+  if (!ring_) return;
+  ring_->setWidget(nullptr);
+  ring_->deleteLater();  // what it stands in may be going through all that it holds
+  ring_ = nullptr;
+}
+
+void WidgetSurface::paint(QPainter& painter) {
+  // Qt tells a widget late, and not everywhere, that its window came to another screen.
+  if (scale() != host().environment().scale) environmentChanged();
+  paintAsPicture(painter, host().scene(size()));
+}
+
+// Accessibility.
+
+const std::vector<render::AccessibilityElement>& WidgetSurface::accessibilityElements() {
+  return host().scene(size()).accessibility;
+}
+
+}  // namespace quorix::qt

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <QMetaObject>
+#include <QPointer>
+#include <QSize>
+#include <optional>
+#include <utility>
+
+#include "qt/HostedView.h"
+#include "qt/widgets/WidgetAccessibleSurface.h"
+
+class QPainter;
+
+namespace quorix::qt {
+
+class FocusFrame;
+class ViewWidget;
+
+/// What a view widget keeps and does behind its public face. Main thread.
+class WidgetSurface final : public HostedView, private WidgetAccessibleSurface {
+ public:
+  explicit WidgetSurface(ViewWidget& widget);
+  ~WidgetSurface() override;
+
+  // What layouts ask.
+  QSize idealSize();
+  QSize minimumSize();
+  int heightFor(int width);
+
+  void contentChanged() override;
+  /// The widget was shown or hidden, or came into another window.
+  void placeChanged();
+  void sizeChanged();
+  void paint(QPainter& painter);
+
+ private:
+  void viewNeedsDisplay() override;
+  EnvironmentSource settings() const override;
+  layout::Size size() const override;
+  double scale() const override;
+  bool hasFocus() const override;
+  void takeFocusByPress() override;
+  void needsFrame() override;
+  SheetSurface* makeSheet() override;
+
+  const std::vector<render::AccessibilityElement>& accessibilityElements() override;
+  void performAccessibilityAction(int index) override { host().activate(index); }
+  std::optional<layout::Rect> focusedFrame() const override { return focusFrame(); }
+
+  /// What layouts were told; only when that no longer holds do they lay out anew.
+  struct Told {
+    std::optional<QSize> ideal;
+    std::optional<QSize> minimum;
+    std::optional<std::pair<int, int>> height;  ///< for a width
+  };
+
+  void onScreenChanged();
+  void settleSoon();
+  void settle();
+  bool toldHolds();
+  void refreshScene();
+  void updateRing();
+  void dropRing();
+  QSize sizeFor(layout::ProposedSize proposal);
+
+  ViewWidget& widget_;
+  QPointer<QWidget> window_;
+  QMetaObject::Connection windowState_;
+  Told told_;
+  QPointer<FocusFrame> ring_;  ///< while it is to be seen
+  bool onScreen_ = false;
+  bool sizeStale_ = false;
+  bool sceneStale_ = true;
+  bool settleQueued_ = false;
+};
+
+}  // namespace quorix::qt

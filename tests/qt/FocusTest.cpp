@@ -1,0 +1,85 @@
+#include <gtest/gtest.h>
+
+#include <QTest>
+
+#include "tests/qt/FeeRow.h"
+#include "tests/qt/Screens.h"
+
+namespace quorix::testing {
+namespace {
+
+using swiftui::Text;
+using swiftui::View;
+
+constexpr QRectF kPlace(20, 40, 300, 0);
+
+template <class>
+struct Focus : ::testing::Test {};
+TYPED_TEST_SUITE(Focus, Screens, ScreenName);
+
+/// Where two pictures of one window differ.
+QRect differing(const QImage& before, const QImage& after) {
+  QRect all;
+  for (int y = 0; y < before.height(); ++y) {
+    for (int x = 0; x < before.width(); ++x) {
+      if (before.pixel(x, y) != after.pixel(x, y)) all |= QRect(x, y, 1, 1);
+    }
+  }
+  return all;
+}
+
+TYPED_TEST(Focus, TabReachesTheRowShowsARingAroundItAndLeaves) {
+  TypeParam screen;
+  auto* other = screen.addFocusable();
+  auto* row = screen.add(FeeRow("4 €"), kPlace);
+  const QRect place = screen.placeOf(row);
+  const QImage plain = screen.grab();
+  screen.key(Qt::Key_Tab);
+  EXPECT_TRUE(screen.hasFocus(row));
+  const QRect ring = differing(plain, screen.grab());
+  EXPECT_GE(ring.width(), place.width());
+  EXPECT_TRUE(place.adjusted(-5, -5, 5, 5).contains(ring));
+  screen.key(Qt::Key_Tab);
+  EXPECT_TRUE(screen.hasFocus(other));
+  EXPECT_EQ(screen.grab(), plain);
+  screen.key(Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_TRUE(screen.hasFocus(row));
+  // A press takes the focus as well, or keeps it, without the ring.
+  for (const bool before : {true, false}) {
+    if (!before) screen.focus(other);
+    QTest::mousePress(&screen.window(), Qt::LeftButton, {}, place.center());
+    screen.settle();
+    EXPECT_TRUE(screen.hasFocus(row));
+    EXPECT_EQ(screen.grab(), plain);
+    QTest::mouseRelease(&screen.window(), Qt::LeftButton, {}, {1, 300});
+  }
+}
+
+TYPED_TEST(Focus, WalksThroughTheElementsThatActAndOn) {
+  TypeParam screen;
+  std::string taps;
+  const auto button = [&](const char* name) {
+    return View(Text::verbatim(name)).onTapGesture([&taps, name] { taps += name; });
+  };
+  auto* before = screen.addFocusable();
+  auto* view = screen.add(swiftui::VStack(layout::HorizontalAlignment::leading, 4,
+                                          {button("A"), Text::verbatim("text"), button("B")}),
+                          kPlace);
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space}) {
+    screen.key(Qt::Key_Tab);
+    screen.key(key);
+  }
+  EXPECT_EQ(taps, "AB");
+  EXPECT_TRUE(screen.hasFocus(view));
+  screen.key(Qt::Key_Tab);
+  EXPECT_TRUE(screen.hasFocus(before));
+  screen.key(Qt::Key_Return);
+  screen.key(Qt::Key_Backtab, Qt::ShiftModifier);
+  screen.key(Qt::Key_Select);
+  screen.key(Qt::Key_Tab, Qt::ShiftModifier);
+  screen.key(Qt::Key_Enter);
+  EXPECT_EQ(taps, "ABBA");
+}
+
+}  // namespace
+}  // namespace quorix::testing

@@ -1,0 +1,87 @@
+#include "tests/qt/Screen.h"
+
+#include <QPointingDevice>
+#include <QTest>
+
+#include "qt/AccessibilityBridge.h"
+#include "qt/Engine.h"
+
+namespace quorix::testing {
+namespace {
+
+/// Depth first; a subtree that is invisible is out of reach with all that is in it.
+QAccessibleInterface* findIn(QAccessibleInterface* root, const QString& name) {
+  if (!root || root->state().invisible) return nullptr;
+  if (root->text(QAccessible::Name) == name && root->role() != QAccessible::Dialog) return root;
+  for (int i = 0; i < root->childCount(); ++i) {
+    if (QAccessibleInterface* found = findIn(root->child(i), name)) return found;
+  }
+  return nullptr;
+}
+
+QPointingDevice& touchScreen() {
+  static QPointingDevice* device = QTest::createTouchDevice();
+  return *device;
+}
+
+}  // namespace
+
+Screen::Screen() {
+  qt::installEngine();
+  qt::AccessibilityBridge::instance();  // hears the next line; the platform itself keeps no such
+                                        // flag
+  QAccessible::setActive(true);
+}
+
+void Screen::waitUntilActive() {
+  if (!QTest::qWaitForWindowExposed(&window())) qFatal("The window does not come up");
+  window().requestActivate();
+  if (!QTest::qWaitForWindowActive(&window())) qFatal("The window does not become active");
+}
+
+void Screen::settle() {
+  for (int quiet = 0; quiet < 2;) {
+    const int before = frames_;
+    QTest::qWait(30);
+    quiet = frames_ == before ? quiet + 1 : 0;
+  }
+}
+
+QAccessibleInterface* Screen::find(const QString& name) {
+  return findIn(QAccessible::queryAccessibleInterface(&accessibleRoot()), name);
+}
+
+QPoint Screen::centreOf(const QString& name) {
+  QAccessibleInterface* found = find(name);
+  if (!found) qFatal("Nothing on screen is called %s", qUtf8Printable(name));
+  return window().mapFromGlobal(found->rect().center());
+}
+
+void Screen::click(const QString& name) { clickAt(centreOf(name)); }
+
+void Screen::clickAt(QPoint point) {
+  QTest::mouseClick(&window(), Qt::LeftButton, {}, point);
+  settle();
+}
+
+void Screen::key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+  QTest::keyClick(&window(), key, modifiers);
+  settle();
+}
+
+void Screen::drag(QPoint from, QPoint to, int milliseconds, bool byTouch) {
+  constexpr int steps = 10;
+  const auto at = [&](int step) { return from + (to - from) * step / steps; };
+  if (byTouch) QTest::touchEvent(&window(), &touchScreen()).press(1, from);
+  if (!byTouch) QTest::mousePress(&window(), Qt::LeftButton, {}, from);
+  for (int step = 1; step <= steps; ++step) {
+    if (byTouch) QTest::qWait(milliseconds / steps);
+    if (byTouch) QTest::touchEvent(&window(), &touchScreen()).move(1, at(step));
+    if (!byTouch) QTest::mouseMove(&window(), at(step), milliseconds / steps);
+  }
+  if (byTouch) QTest::touchEvent(&window(), &touchScreen()).release(1, to);
+  if (!byTouch) QTest::mouseRelease(&window(), Qt::LeftButton, {}, to);
+  settle();
+}
+
+}  // namespace quorix::testing

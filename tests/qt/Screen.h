@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QAccessible>
+#include <QImage>
+#include <QString>
+#include <QWindow>
+#include <functional>
+
+namespace quorix::testing {
+
+/// A window as a user meets it, whatever toolkit fills it: things are found by what assistive
+/// technology says of them, and pointed at where they are.
+class Screen {
+ public:
+  virtual ~Screen() = default;
+
+  virtual QWindow& window() = 0;
+  virtual QImage grab() = 0;
+  /// Puts something under all that comes later, and counts the pointer's events that reach it.
+  virtual std::function<int()> listenBelow() = 0;
+
+  /// Takes turns until nothing is left to draw.
+  void settle();
+  /// How often the window, or something in it, was drawn so far.
+  int frames() const { return frames_; }
+
+  /// What is called `name` and can be reached, or null.
+  QAccessibleInterface* find(const QString& name);
+  bool shows(const QString& name) { return find(name) != nullptr; }
+  QPoint centreOf(const QString& name);
+  void click(const QString& name);
+  void clickAt(QPoint point);
+  void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
+
+  /// Moves a pressed mouse or finger from one point to the other within `milliseconds`. A finger is
+  /// always fast: the test library numbers its events instead of timing them.
+  void drag(QPoint from, QPoint to, int milliseconds, bool byTouch);
+
+ protected:
+  static constexpr QSize kSize{360, 600};
+
+  Screen();
+  /// Once the window is shown.
+  void waitUntilActive();
+  void countFrame() { ++frames_; }
+
+ private:
+  /// What assistive technology knows the window as.
+  virtual QObject& accessibleRoot() = 0;
+
+  int frames_ = 0;
+};
+
+}  // namespace quorix::testing
