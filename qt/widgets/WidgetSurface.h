@@ -13,6 +13,7 @@ class QPainter;
 
 namespace quorix::qt {
 
+class FocusFrame;
 class ViewWidget;
 
 /// What a view widget keeps and does behind its public face. Main thread.
@@ -58,13 +59,15 @@ class WidgetSurface final : public HostedView, private WidgetAccessibleSurface {
   void settle();
   bool toldHolds();
   void refreshScene();
+  void updateRing();
+  void dropRing();
   QSize sizeFor(layout::ProposedSize proposal);
 
   ViewWidget& widget_;
   QPointer<QWidget> window_;
   QMetaObject::Connection windowState_;
   Told told_;
-  std::optional<layout::Rect> ring_;
+  QPointer<FocusFrame> ring_;  ///< while it is to be seen
   bool onScreen_ = false;
   bool sizeStale_ = false;
   bool sceneStale_ = true;
