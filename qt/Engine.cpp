@@ -4,8 +4,10 @@
 #include <mutex>
 
 #include "platform/foundation/URLSession.h"
+#include "platform/uikit/URLOpener.h"
 #include "qt/QtFonts.h"
 #include "qt/QtMainQueue.h"
+#include "qt/QtURLOpener.h"
 #include "qt/QtURLTransport.h"
 
 namespace quorix::qt {
@@ -16,6 +18,7 @@ void installEngine() {
     QtMainQueue::install();
     QtFonts::installSystemLookup();
     foundation::URLSession::shared().install(std::make_shared<QtURLTransport>());
+    uikit::URLOpener::install(std::make_shared<QtURLOpener>());
   });
 }
 

@@ -7,6 +7,7 @@
 #include <mutex>
 #include <string_view>
 
+#include "platform/foundation/URLRequest.h"
 #include "platform/foundation/URLSession.h"
 
 namespace quorix::qt {
@@ -25,7 +26,7 @@ namespace quorix::qt {
 class QtURLTransport final : public foundation::URLTransport {
  public:
   /// How long a request may stand still, without a byte arriving, before it ends with an error.
-  static constexpr std::chrono::seconds kDefaultTimeout{60};
+  static constexpr std::chrono::seconds kDefaultTimeout = foundation::URLRequest::defaultTimeout;
 
   explicit QtURLTransport(std::chrono::milliseconds timeout = kDefaultTimeout);
 

@@ -32,6 +32,7 @@ class ScenePainter {
   void draw(const render::ImageItem& item);
   void draw(const render::FillItem& item);
   void draw(const render::StrokeItem& item);
+  void draw(const render::EmbedItem& item) { fill(deviceRect(item.frame), item.background); }
 
   void drawText(const render::TextItem& item);
   bool drawPicture(const render::TextItem& item);

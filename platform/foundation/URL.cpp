@@ -88,6 +88,13 @@ bool isPort(std::string_view port) {
   return port.empty() || std::all_of(port.begin() + 1, port.end(), isDigit);
 }
 
+std::string inLowerCase(std::string_view text) {
+  std::string result(text);
+  std::transform(result.begin(), result.end(), result.begin(),
+                 [](char c) { return 'A' <= c && c <= 'Z' ? static_cast<char>(c + 32) : c; });
+  return result;
+}
+
 /// Appends `part`, escaping byte by byte what is neither plain, nor an escape, nor one of
 /// `allowed`. The first `delimiter` characters introduce the part and stay.
 void appendEscaped(std::string& out, std::string_view part, std::string_view allowed,
@@ -123,16 +130,13 @@ std::optional<URL> URL::parse(std::string_view text) {
   return URL(std::move(address));
 }
 
+std::string URL::scheme() const { return inLowerCase(split(text_).scheme); }
+
+std::string URL::host() const { return inLowerCase(splitAuthority(split(text_).authority).host); }
+
 std::string URL::origin() const {
-  const Parts parts = split(text_);
-  const Authority authority = splitAuthority(parts.authority);
-  std::string origin(parts.scheme);
-  origin += "://";
-  origin += authority.host;
-  origin += authority.port;
-  std::transform(origin.begin(), origin.end(), origin.begin(),
-                 [](char c) { return 'A' <= c && c <= 'Z' ? static_cast<char>(c + 32) : c; });
-  return origin;
+  const Authority authority = splitAuthority(split(text_).authority);
+  return scheme() + "://" + inLowerCase(authority.host) + std::string(authority.port);
 }
 
 std::string URL::path() const { return std::string(split(text_).path); }

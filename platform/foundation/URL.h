@@ -14,6 +14,10 @@ class URL {
   static std::optional<URL> parse(std::string_view text);
 
   const std::string& absoluteString() const { return text_; }
+  /// The scheme in lower case, without its colon.
+  std::string scheme() const;
+  /// The host in lower case; empty where the address has none ("mailto:", "file:///").
+  std::string host() const;
   /// "https://host:port" in lower case: what an answer in process is registered for.
   std::string origin() const;
   /// The path as it stands in the address, percent-encoded.

@@ -44,8 +44,13 @@ void act(AccessibilityElement& element, const std::function<void()>& action) {
 }  // namespace
 
 SceneBuilder::SceneBuilder(const swiftui::Evaluation& evaluation,
-                           const swiftui::Environment& environment, GeometryVisitor visitGeometry)
-    : evaluation_(evaluation), visitGeometry_(std::move(visitGeometry)), grid_(environment.scale) {
+                           const swiftui::Environment& environment, text::TextEngine& engine,
+                           GeometryVisitor visitGeometry)
+    : evaluation_(evaluation),
+      display_{environment.appearance, environment.direction, environment.scale},
+      engine_(engine),
+      visitGeometry_(std::move(visitGeometry)),
+      grid_(environment.scale) {
   scene_.appearance = environment.appearance;
 }
 
@@ -63,10 +68,25 @@ SceneBuilder::Accessibility SceneBuilder::add(const layout::Element& element) {
     const auto index = static_cast<std::size_t>(decorated->decoration);
     return decorate(evaluation_.decorations[index], element);
   }
+  if (const auto* hosted = std::get_if<elements::Hosted>(&element.kind)) {
+    return host(*evaluation_.hosted[static_cast<std::size_t>(hosted->content)], element);
+  }
   paint(element);
   Accessibility described = describe(element);
   Accessibility below = addChildren(element);
   std::move(below.begin(), below.end(), std::back_inserter(described));
+  return described;
+}
+
+SceneBuilder::Accessibility SceneBuilder::host(render::HostedContent& content,
+                                               const layout::Element& element) {
+  const layout::Rect frame = grid_.round(element.frame);
+  const std::size_t before = scene_.accessibility.size();
+  scene_.append(content.scene(frame.size, display_, engine_), frame.origin);
+  const auto first = scene_.accessibility.begin() + static_cast<std::ptrdiff_t>(before);
+  Accessibility described(std::make_move_iterator(first),
+                          std::make_move_iterator(scene_.accessibility.end()));
+  scene_.accessibility.erase(first, scene_.accessibility.end());
   return described;
 }
 

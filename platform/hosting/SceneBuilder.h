@@ -17,7 +17,7 @@ class SceneBuilder {
                                              const std::function<void(layout::Size)>& action)>;
 
   SceneBuilder(const swiftui::Evaluation& evaluation, const swiftui::Environment& environment,
-               GeometryVisitor visitGeometry);
+               text::TextEngine& engine, GeometryVisitor visitGeometry);
 
   render::Scene build();
 
@@ -31,9 +31,12 @@ class SceneBuilder {
   Accessibility addChildren(const layout::Element& element);
   void paint(const layout::Element& element);
   Accessibility describe(const layout::Element& element) const;
+  Accessibility host(render::HostedContent& content, const layout::Element& element);
   Accessibility decorate(const swiftui::Decoration& decoration, const layout::Element& element);
 
   const swiftui::Evaluation& evaluation_;
+  render::Display display_;
+  text::TextEngine& engine_;
   GeometryVisitor visitGeometry_;
   layout::PixelGrid grid_;
   render::Scene scene_;

@@ -34,6 +34,8 @@ struct ViewHost::State {
 
   text::TextEngine& engine;
   Client& client;
+  std::shared_ptr<State*> alive =
+      std::make_shared<State*>(this);  ///< contents may outlive the host
   swiftui::Environment environment;
   swiftui::ViewGraph graph;
   // Between an evaluation and the scene made of it; a view at rest keeps the scene alone.
@@ -58,6 +60,11 @@ void ViewHost::State::evaluateAgain() {
   stale = false;
   RecentEvaluations::shared().fill(evaluation, graph.evaluate(environment));
   detents = evaluation->detents;
+  for (const auto& content : evaluation->hosted) {
+    content->onChange([self = std::weak_ptr(alive)] {
+      if (self.lock()) (*self.lock())->changed();
+    });
+  }
   const bool had = presentation.has_value();
   presentation = evaluation->presentation;
   if (had || presentation) client.presentationChanged();
@@ -104,7 +111,7 @@ void ViewHost::State::layOut(layout::Size size) {
     if (!same) changes.push_back([action, now] { action(now); });
   };
   area = size;
-  scene = SceneBuilder(latest, environment, visit).build();
+  scene = SceneBuilder(latest, environment, engine, visit).build();
   scene->size = size;
   geometry = std::move(sizes);
   forget();

@@ -9,6 +9,7 @@
 #include "platform/foundation/Bundle.h"
 #include "platform/graphics/RGBA.h"
 #include "platform/layout/Geometry.h"
+#include "platform/layout/SelfSizing.h"
 #include "platform/text/AttributedText.h"
 
 namespace quorix::layout {
@@ -36,6 +37,11 @@ struct Spacer {
 struct Divider {
   Axis axis;  ///< of the stack that it stands in
   graphics::RGBA color;
+};
+/// Content of another toolkit; `content` is an index into the evaluation's hosted contents.
+struct Hosted {
+  int content;
+  SelfSizing* sizing;
 };
 struct Stack {
   Axis axis;
@@ -71,7 +77,7 @@ struct Decorated {
 /// One element of a view that is ready for layout.
 struct Element {
   using Kind = std::variant<elements::Empty, elements::Text, elements::Image, elements::Spacer,
-                            elements::Divider, elements::Stack, elements::Padding,
+                            elements::Divider, elements::Hosted, elements::Stack, elements::Padding,
                             elements::FixedFrame, elements::MaxWidthFrame, elements::FixedSize,
                             elements::Overlay, elements::Decorated>;
   Kind kind;

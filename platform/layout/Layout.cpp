@@ -87,6 +87,10 @@ struct Layout::Chooser {
     return sized(divider.axis, layout.grid_.pixel(), offered.value_or(idealLength));
   }
 
+  Size operator()(const elements::Hosted& hosted) {
+    return hosted.sizing->sizeThatFits(proposal, layout.engine_, 1 / layout.grid_.pixel());
+  }
+
   Size operator()(const elements::Stack& stack) {
     const Offers offers = layout.divide(element, proposal);
     double length = totalSpacing(element);
@@ -141,6 +145,7 @@ struct Layout::Placer {
   void operator()(const elements::Image&) {}
   void operator()(const elements::Spacer&) {}
   void operator()(const elements::Divider&) {}
+  void operator()(const elements::Hosted&) {}
 
   void operator()(const elements::Stack& stack) {
     const Offers offers = layout.divide(element, proposal);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <variant>
@@ -9,6 +10,7 @@
 #include "platform/foundation/Bundle.h"
 #include "platform/graphics/RGBA.h"
 #include "platform/layout/Geometry.h"
+#include "platform/render/Embed.h"
 #include "platform/text/AttributedText.h"
 
 namespace quorix::render {
@@ -40,7 +42,14 @@ struct StrokeItem {
   double width = 1;
 };
 
-using Item = std::variant<TextItem, ImageItem, FillItem, StrokeItem>;
+/// Room for something that paints itself.
+struct EmbedItem {
+  layout::Rect frame;
+  std::shared_ptr<Embed> content;
+  graphics::RGBA background;  ///< shows until the content has painted, and in pictures
+};
+
+using Item = std::variant<TextItem, ImageItem, FillItem, StrokeItem, EmbedItem>;
 
 /// Where a tap does something. Later areas lie on top of earlier ones.
 struct HitArea {

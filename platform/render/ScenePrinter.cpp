@@ -138,6 +138,12 @@ void write(const StrokeItem& item, Writer& to) {
 }
 
 template <class Writer>
+void write(const EmbedItem& item, Writer& to) {
+  to.begin("embed", item.frame);
+  to.value("background", hex(item.background));
+}
+
+template <class Writer>
 void write(const HitArea& area, Writer& to) {
   to.begin("hit", area.frame);
 }

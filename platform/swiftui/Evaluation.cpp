@@ -56,6 +56,7 @@ class Evaluator {
   void collect(const nodes::Empty&, const View&, const Look&, Axis, Elements&) {}
   void collect(const nodes::Text& node, const View&, const Look& look, Axis, Elements& out);
   void collect(const nodes::Image& node, const View&, const Look& look, Axis, Elements& out);
+  void collect(const nodes::Represented& node, const View&, const Look&, Axis, Elements& out);
   void collect(const nodes::Spacer& node, const View&, const Look&, Axis axis, Elements& out);
   void collect(const nodes::Divider&, const View&, const Look&, Axis axis, Elements& out);
   void collect(const nodes::Stack& node, const View&, const Look& look, Axis, Elements& out);
@@ -113,6 +114,19 @@ void Evaluator::collect(const nodes::Image& node, const View&, const Look& look,
   const layout::Size size = asset ? layout::Size{asset->width, asset->height} : layout::Size{};
   out.push_back(
       {elements::Image{node.name, bundle, size, look.resizable, resolved(look)}, {}, {}, {}});
+}
+
+void Evaluator::collect(const nodes::Represented& node, const View&, const Look&, Axis,
+                        Elements& out) {
+  using Content = std::shared_ptr<render::HostedContent>;
+  path_.push_back(steps::represented);
+  auto& boxes = store_.states(path_).boxes;
+  path_.pop_back();
+  if (boxes.empty()) boxes.emplace_back(node.make());
+  const Content& content = std::any_cast<const Content&>(boxes.front());
+  out.push_back(
+      {elements::Hosted{static_cast<int>(result_.hosted.size()), content.get()}, {}, {}, {}});
+  result_.hosted.push_back(content);
 }
 
 void Evaluator::collect(const nodes::Spacer& node, const View&, const Look&, Axis axis,

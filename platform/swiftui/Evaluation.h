@@ -31,6 +31,7 @@ struct TaskRequest {
 struct Evaluation {
   layout::Element root;
   std::vector<Decoration> decorations;
+  std::vector<std::shared_ptr<render::HostedContent>> hosted;
   std::vector<TaskRequest> tasks;
   std::vector<combine::ObservableObject*> observed;
   std::optional<Presentation> presentation;

@@ -4,9 +4,11 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <variant>
 #include <vector>
 
+#include "platform/render/HostedContent.h"
 #include "platform/swiftui/Modifiers.h"
 #include "platform/swiftui/View.h"
 
@@ -22,6 +24,10 @@ struct Text {
 struct Image {
   std::string name;
   foundation::Bundle::Ref bundle;
+};
+struct Represented {
+  std::string_view name;
+  std::function<std::shared_ptr<render::HostedContent>()> make;  ///< once for each place in a tree
 };
 struct Spacer {
   std::optional<double> minLength;
@@ -54,8 +60,9 @@ struct Modified {
 }  // namespace nodes
 
 struct Node {
-  std::variant<nodes::Empty, nodes::Text, nodes::Image, nodes::Spacer, nodes::Divider, nodes::Stack,
-               nodes::Group, nodes::Conditional, nodes::Lazy, nodes::Custom, nodes::Modified>
+  std::variant<nodes::Empty, nodes::Text, nodes::Image, nodes::Represented, nodes::Spacer,
+               nodes::Divider, nodes::Stack, nodes::Group, nodes::Conditional, nodes::Lazy,
+               nodes::Custom, nodes::Modified>
       kind;
 };
 

@@ -14,7 +14,8 @@ namespace steps {
 
 constexpr char32_t chosen = 1;
 constexpr char32_t notChosen = 2;
-constexpr char32_t modified = 3;  ///< into a modifier that needs a place of its own
+constexpr char32_t modified = 3;     ///< into a modifier that needs a place of its own
+constexpr char32_t represented = 4;  ///< content of another toolkit, kept there
 // Each of these goes on with its next ones.
 constexpr char32_t firstChild = 1U << 8;
 constexpr char32_t firstOverlay = 1U << 30;  ///< one for each element of a group

@@ -120,6 +120,7 @@ class Printer {
   void element(const nodes::Image& node, int depth) {
     line(depth, "Image(" + quoted(node.name) + ")");
   }
+  void element(const nodes::Represented& node, int depth) { line(depth, node.name); }
   void element(const nodes::Spacer& node, int depth) {
     line(depth, node.minLength ? "Spacer(minLength: " + number(*node.minLength) + ")" : "Spacer");
   }

@@ -3,35 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <QFontDatabase>
-#include <QPainterPath>
-#include <QRawFont>
-
-#include "QuorixWidgets/localization/QuorixFont.h"
-#include "QuorixWidgets/localization/TovaFont.h"
 
 namespace quorix::qt {
 namespace {
-
-QRawFont face(const std::string& name) {
-  QtFonts fonts;
-  return QRawFont::fromFont(fonts.find(text::ResolvedFont{name, 14}).font);
-}
-
-TEST(QtFonts, DrawsEachRegisteredFaceInItsOwnShapes) {
-  const QRawFont regular = face(QuorixFont::regular().name());
-  const QRawFont medium = face(QuorixFont::medium().name());
-  const QRawFont tova = face(TovaFont::regular().name());
-  const QRawFont semiBold = face("TovaSansLatin-SemiBold");
-  // The glyphs' outlines are what a wrong face of the right family gives away.
-  const auto shape = [](const QRawFont& font) {
-    return font.pathForGlyph(font.glyphIndexesForString("R").at(0));
-  };
-  EXPECT_NE(shape(regular), shape(medium));
-  EXPECT_NE(shape(tova), shape(semiBold));
-  EXPECT_NE(shape(regular), shape(tova));
-  EXPECT_LT(regular.weight(), medium.weight());
-  EXPECT_LT(tova.weight(), semiBold.weight());
-}
 
 TEST(QtFonts, UnknownNamesDrawInTheSystemsFont) {
   QtFonts fonts;

@@ -28,15 +28,16 @@ std::string indented(std::string_view lines) {
 }  // namespace
 
 std::string helpText(std::span<const Command* const> commands) {
+  constexpr std::size_t commandColumn = 17;
   std::string text =
       "quorix shows score widgets without an app: what a shopper sees, hears and is charged.\n"
       "It works without a display and without a network.\n\n"
       "Usage: quorix COMMAND [options]\n\nCommands:\n";
   for (const Command* command : commands) {
     const std::string_view firstLine = command->purpose.substr(0, command->purpose.find('\n'));
-    text += twoColumns("  " + std::string(command->name), firstLine, 14);
+    text += twoColumns("  " + std::string(command->name), firstLine, commandColumn);
   }
-  text += twoColumns("  --version", "Prints the version.", 14);
+  text += twoColumns("  --version", "Prints the version.", commandColumn);
   text += "\n\"quorix COMMAND --help\" tells the rest.\n\nExample:\n";
   text += indented("quorix score --token \"$(quorix mint)\" --out row.png");
   text +=

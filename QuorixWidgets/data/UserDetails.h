@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+#include <variant>
+
+#include "platform/foundation/DecodingError.h"
+
+namespace quorix {
+
+/// A shopper's return statistics, as the widget service tells them.
+///
+///     auto reading = UserDetails::decode(body);
+///     if (auto* details = std::get_if<UserDetails>(&reading)) details->returnPercentile;
+struct UserDetails {
+  double returnRate;        ///< A fraction.
+  double returnRateTrend;   ///< A fraction, negative when the rate falls.
+  double returnPercentile;  ///< 0 to 100; the lower, the fewer returns.
+
+  /// The members of the JSON object, in the order in which they are read.
+  enum class CodingKeys { returnRate, returnPercentile, returnRateTrend };
+
+  static std::string_view stringValue(CodingKeys key);
+  /// The key that is spelled exactly `text`.
+  static std::optional<CodingKeys> codingKey(std::string_view text);
+  /// Keys have no numbers: absent for every key, and no number makes one.
+  static std::optional<std::int64_t> intValue(CodingKeys) { return std::nullopt; }
+  static std::optional<CodingKeys> codingKey(std::int64_t) { return std::nullopt; }
+
+  using Reading = std::variant<UserDetails, foundation::DecodingError>;
+
+  /// The details in the JSON object `bytes`, or the error of the first key that has no number.
+  /// Other members are ignored. Any thread.
+  static Reading decode(std::string_view bytes);
+
+  bool operator==(const UserDetails&) const = default;
+};
+
+}  // namespace quorix

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <chrono>
+
+#include "platform/foundation/URL.h"
+
+namespace quorix::foundation {
+
+/// What to load, and how patiently.
+///
+///     URLRequest request{*URL::parse("https://shop.example/page")};
+struct URLRequest {
+  /// What may answer in place of the server; the values are the platform's.
+  enum class CachePolicy {
+    useProtocolCachePolicy = 0,  ///< Whatever HTTP allows.
+  };
+
+  using Seconds = std::chrono::duration<double>;
+  /// Also what the HTTP session waits.
+  static constexpr std::chrono::seconds defaultTimeout{60};
+
+  URL url;
+  CachePolicy cachePolicy = CachePolicy::useProtocolCachePolicy;
+  Seconds timeoutInterval = defaultTimeout;  ///< Without a byte arriving.
+};
+
+}  // namespace quorix::foundation
