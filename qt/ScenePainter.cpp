@@ -114,7 +114,10 @@ void ScenePainter::drawLine(const ShapedText::Line& line, double unit,
                             const text::AttributedText& text, QPointF origin) {
   for (const ShapedText::Span& span : line.spans) {
     const text::Run& run = text.runs[span.run];
-    if (run.underline) drawDecoration(span, origin, engine_.font(run.font).underline, run);
+    if (!run.underline) continue;
+    ShapingFont::Stroke stroke = engine_.font(run.font).underline;
+    if (run.thickUnderline) stroke.thickness *= 2;
+    drawDecoration(span, origin, stroke, run);
   }
   painter_.setTransform(QTransform(unit, 0, 0, unit, origin.x(), origin.y()) * base_);
   for (const ShapedText::Piece& piece : line.pieces) {
@@ -144,7 +147,7 @@ void ScenePainter::drawDecoration(const ShapedText::Span& span, QPointF origin,
 void ScenePainter::draw(const render::ImageItem& item) {
   const QRectF device = deviceRect(item.frame);
   const QImage picture = QtImages::shared().picture(
-      {item.bundle, item.name, device.size().toSize(), appearance_, item.tint});
+      {item.bundle, item.name, device.size().toSize(), appearance_, item.tint, item.isTemplate});
   if (!picture.isNull()) painter_.drawImage(fromDevice_.mapRect(device), picture);
 }
 

@@ -32,7 +32,9 @@ class ScenePainter {
   void draw(const render::ImageItem& item);
   void draw(const render::FillItem& item);
   void draw(const render::StrokeItem& item);
-  void draw(const render::EmbedItem& item) { fill(deviceRect(item.frame), item.background); }
+  void draw(const render::EmbedItem& item) {
+    draw(render::FillItem{item.frame, item.background, item.topCornerRadius});
+  }
 
   void drawText(const render::TextItem& item);
   bool drawPicture(const render::TextItem& item);

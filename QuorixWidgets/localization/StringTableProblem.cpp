@@ -35,6 +35,7 @@ constexpr Entry kEntries[] = {
     {"widget-title-return-rate-low", Use::takesNumber},
     {"widget-read-more", Use::plain},
     {"webview-overlay-title", Use::takesText},
+    {"close", Use::plain},  // the image of that name, spoken
 };
 
 /// What is wrong with one conversion of a format that gets one argument; empty when nothing is.

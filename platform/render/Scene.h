@@ -26,7 +26,8 @@ struct ImageItem {
   layout::Rect frame;
   std::string name;
   foundation::Bundle::Ref bundle;
-  graphics::RGBA tint;  ///< for template images
+  graphics::RGBA tint;                            ///< for template images
+  std::optional<bool> isTemplate = std::nullopt;  ///< absent: as the asset says
 };
 
 struct FillItem {
@@ -46,7 +47,8 @@ struct StrokeItem {
 struct EmbedItem {
   layout::Rect frame;
   std::shared_ptr<Embed> content;
-  graphics::RGBA background;  ///< shows until the content has painted, and in pictures
+  graphics::RGBA background;   ///< shows until the content has painted, and in pictures
+  double topCornerRadius = 0;  ///< of the two upper corners
 };
 
 using Item = std::variant<TextItem, ImageItem, FillItem, StrokeItem, EmbedItem>;
@@ -57,7 +59,7 @@ struct HitArea {
   std::function<void()> action;
 };
 
-enum class Role : std::uint8_t { staticText, button, heading, image };
+enum class Role : std::uint8_t { staticText, button, heading, image, link };
 
 /// What assistive technology meets, in reading order. `action` is empty when it only reads.
 struct AccessibilityElement {

@@ -46,7 +46,7 @@ std::string hex(graphics::RGBA color) {
 }
 
 std::string_view nameOf(Role role) {
-  constexpr std::string_view names[] = {"text", "button", "heading", "image"};
+  constexpr std::string_view names[] = {"text", "button", "heading", "image", "link"};
   return names[static_cast<int>(role)];
 }
 
@@ -113,6 +113,7 @@ void write(const TextItem& item, Writer& to) {
   to.value("points", look.font.points);
   to.value("color", hex(look.color));
   to.flag("underline", look.underline);
+  if (look.thickUnderline) to.flag("thickUnderline", true);
   to.flag("strikethrough", look.strikethrough);
 }
 

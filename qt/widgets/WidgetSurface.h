@@ -42,10 +42,10 @@ class WidgetSurface final : public HostedView, private WidgetAccessibleSurface {
   bool hasFocus() const override;
   void takeFocusByPress() override;
   void needsFrame() override;
-  SheetSurface* makeSheet() override;
+  WindowScene* windowScene() override;
 
   const std::vector<render::AccessibilityElement>& accessibilityElements() override;
-  void performAccessibilityAction(int index) override { host().activate(index); }
+  void performAccessibilityAction(int index) override { activate(index); }
   std::optional<layout::Rect> focusedFrame() const override { return focusFrame(); }
 
   /// What layouts were told; only when that no longer holds do they lay out anew.
