@@ -88,7 +88,7 @@ void WidgetSurface::placeChanged() {
 }
 
 void WidgetSurface::onScreenChanged() {
-  onScreen_ = widget_.isVisible() && !window_->isMinimized();
+  onScreen_ = widget_.isVisible() && !widget_.window()->isMinimized();
   host().setOnScreen(onScreen_);
   settleSoon();
 }

@@ -28,8 +28,9 @@ class WidgetSurface final : public HostedView, private WidgetAccessibleSurface {
   int heightFor(int width);
 
   void contentChanged() override;
-  /// The widget was shown or hidden, or came into another window.
+  /// The widget was shown, or came into another window.
   void placeChanged();
+  void onScreenChanged();
   void sizeChanged();
   void paint(QPainter& painter);
 
@@ -54,7 +55,6 @@ class WidgetSurface final : public HostedView, private WidgetAccessibleSurface {
     std::optional<std::pair<int, int>> height;  ///< for a width
   };
 
-  void onScreenChanged();
   void settleSoon();
   void settle();
   bool toldHolds();
