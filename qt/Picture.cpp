@@ -42,6 +42,19 @@ QImage paintPicture(const render::Scene& scene, double scale, graphics::RGBA bac
   return image;
 }
 
+void paintAsPicture(QPainter& painter, const render::Scene& scene) {
+  const QTransform toDevice = painter.deviceTransform();
+  const double scale = toDevice.m11();
+  const bool upright = toDevice.type() <= QTransform::TxScale && toDevice.m22() == scale;
+  QImage image = upright ? paintPicture(scene, scale, {0, 0, 0, 0}) : QImage();
+  if (image.isNull()) return ScenePainter(painter).paint(scene);
+  image.setDevicePixelRatio(1);
+  const QTransform before = painter.transform();
+  painter.setTransform(toDevice.inverted() * before);
+  painter.drawImage(toDevice.map(QPointF()).toPoint(), image);
+  painter.setTransform(before);
+}
+
 QImage paintPicture(const render::Scene& scene, const PictureOptions& options) {
   return paintPicture(scene, options.environment.scale, backgroundOf(options));
 }

@@ -6,6 +6,8 @@
 #include "platform/swiftui/View.h"
 #include "qt/PictureOptions.h"
 
+class QPainter;
+
 namespace quorix::qt {
 
 /// Draws `view` once, without a window: for tools, tests and anything that shows a still picture.
@@ -26,6 +28,11 @@ QImage picture(const swiftui::View& view, const PictureOptions& options = {});
 
 /// Draws `scene` over `background` at `scale` device pixels for each point. Null as above.
 QImage paintPicture(const render::Scene& scene, double scale, graphics::RGBA background);
+
+/// Draws `scene` where `painter` stands, with the pixels that its picture has: over what is painted
+/// already, Qt would blend the text otherwise. The top left corner goes to the nearest whole device
+/// pixel; a painter that turns or shears gets the scene without that care.
+void paintAsPicture(QPainter& painter, const render::Scene& scene);
 
 /// Draws `scene` with the background and the scale of `options`. Null as above.
 QImage paintPicture(const render::Scene& scene, const PictureOptions& options);

@@ -11,10 +11,11 @@
 
 namespace quorix::qt {
 
-SheetSurface::SheetSurface(QObject& self)
+SheetSurface::SheetSurface(QObject& self, const QString& webComponent)
     : self_(self),
       presenter_(QtTextEngine::shared(), *this),
-      clock_([this](double seconds) { return presenter_.advance(seconds); }) {}
+      clock_([this](double seconds) { return presenter_.advance(seconds); }),
+      pages_(webComponent, self) {}
 
 void SheetSurface::setSettings(const EnvironmentSource& settings) {
   settings_ = settings;
@@ -29,6 +30,7 @@ void SheetSurface::present(const swiftui::Presentation& presentation) {
   if (std::exchange(presented_, true)) return;
   takeFocusOver();
   ViewAccessible::focusChanged(self_);
+  if (!pages_.canShow(presenter_.panel())) giveUpPages();
 }
 
 void SheetSurface::sheetDidClose() {
@@ -61,6 +63,49 @@ void SheetSurface::followMotion() {
   }
 }
 
+// Pages.
+
+void SheetSurface::wasShown() {
+  if (std::exchange(shown_, true) || closed_) return;
+  needsFrame();
+}
+
+void SheetSurface::followPages() {
+  if (!shown_ || closed_) return;
+  if (pagesRevision_ != presenter_.panelRevision()) {
+    pagesRevision_ = presenter_.panelRevision();
+    if (!pages_.follow(presenter_.panel())) return giveUpPages();
+  }
+  const layout::Point corner = presenter_.panelFrame().origin;
+  int index = 0;
+  pages_.place(presenter_.panel(), [&](QObject& view, const layout::Rect& room) {
+    placePage(view, room.translated(corner), index++);
+  });
+}
+
+void SheetSurface::giveUpPages() {
+  EmbeddedPages::sendOutside(presenter_.panel());
+  presenter_.dismiss();
+}
+
+void SheetSurface::pageTookFocus() {
+  presenter_.dropFocus();
+  ViewAccessible::focusChanged(self_);
+}
+
+void SheetSurface::leftPages(bool forward) {
+  takeFocusFromPages();
+  walk(forward);
+}
+
+/// Leads the focus to the first page, or backward to the last. False when there is none.
+bool SheetSurface::enterPages(bool forward) {
+  const auto views = pages_.views();
+  if (views.empty()) return false;
+  focusPage(forward ? *views.front() : *views.back(), forward);
+  return true;
+}
+
 // Input.
 
 bool SheetSurface::handle(QEvent& event) {
@@ -79,9 +124,11 @@ bool SheetSurface::handle(QEvent& event) {
     case QEvent::Wheel:
       event.accept();
       return true;
-    case QEvent::ShortcutOverride:
-      event.setAccepted(meaningOf(static_cast<QKeyEvent&>(event)) != KeyMeaning::none);
+    case QEvent::ShortcutOverride: {
+      const auto& key = static_cast<const QKeyEvent&>(event);
+      event.setAccepted(meaningOf(key) != KeyMeaning::none || pages_.takes(key, true));
       return true;
+    }
     case QEvent::KeyPress:
       return handleKey(static_cast<QKeyEvent&>(event));
     case QEvent::KeyRelease:
@@ -122,6 +169,7 @@ void SheetSurface::handleTouch(const QTouchEvent& event) {
 }
 
 void SheetSurface::pressed(QPointF point, quint64 at) {
+  takeFocusFromPages();
   velocity_.reset();
   velocity_.add(point.y(), static_cast<double>(at) * 1e-3);
   presenter_.pointerPressed(toPoint(point));
@@ -147,6 +195,7 @@ bool SheetSurface::takesTapAt(QPointF point) {
 }
 
 bool SheetSurface::handleKey(QKeyEvent& event) {
+  if (pages_.takes(event)) return true;
   switch (meaningOf(event)) {
     case KeyMeaning::close:
       presenter_.dismiss();
@@ -167,7 +216,8 @@ bool SheetSurface::handleKey(QKeyEvent& event) {
 }
 
 void SheetSurface::walk(bool forward) {
-  presenter_.moveFocus(forward);
+  // Past the last element come the pages; where none is there yet, the first element again.
+  if (!presenter_.moveFocus(forward) && !enterPages(forward)) presenter_.moveFocus(forward);
   ViewAccessible::focusChanged(self_);
 }
 

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <QPointF>
+#include <optional>
 
 #include "platform/hosting/SheetPresenter.h"
 #include "platform/hosting/VelocityTracker.h"
+#include "qt/EmbeddedPages.h"
 #include "qt/EnvironmentSource.h"
 #include "qt/FingerTracker.h"
 #include "qt/FrameClock.h"
@@ -17,7 +19,9 @@ namespace quorix::qt {
 
 /// What a sheet over a window does in every toolkit: coming and going, settings, motion and input.
 /// A toolkit's sheet derives from this and gives it a place, paint and the focus; it deletes itself
-/// when it has closed. Main thread.
+/// when it has closed. Pages in it open once its first frame has been shown, so that loading the
+/// web engine does not keep the sheet from coming; where there is no engine, their addresses are
+/// opened outside the app and the sheet stays away. Main thread.
 class SheetSurface : private hosting::SheetPresenter::Client {
  public:
   SheetSurface(const SheetSurface&) = delete;
@@ -34,8 +38,8 @@ class SheetSurface : private hosting::SheetPresenter::Client {
   bool isClosed() const { return closed_; }
 
  protected:
-  /// `self` is the derived object.
-  explicit SheetSurface(QObject& self);
+  /// `self` is the derived object, `webComponent` the name of its toolkit's.
+  SheetSurface(QObject& self, const QString& webComponent);
   ~SheetSurface() override = default;
 
   hosting::SheetPresenter& presenter() { return presenter_; }
@@ -52,6 +56,14 @@ class SheetSurface : private hosting::SheetPresenter::Client {
 
   /// For each frame: sees to it that what moves goes on moving. May close the sheet.
   void followMotion();
+  /// For each frame, once the panel stands: pages open, close and move with it.
+  void followPages();
+  /// A frame of the sheet is on the screen.
+  void wasShown();
+  bool hasPages() const { return !pages_.views().empty(); }
+  void pageTookFocus();
+  /// The keyboard leads out of the pages.
+  void leftPages(bool forward);
   /// The scale changed.
   void followScale() { setSettings(settings_); }
 
@@ -65,9 +77,17 @@ class SheetSurface : private hosting::SheetPresenter::Client {
   virtual void giveFocusBack() = 0;
   virtual void vanish() = 0;
 
+  /// Page `view` stands at `frame` in the window; `index` counts from the lowest.
+  virtual void placePage(QObject& view, const layout::Rect& frame, int index) = 0;
+  virtual void focusPage(QObject& view, bool forward) = 0;
+  /// Takes the focus from a page, if one has it.
+  virtual void takeFocusFromPages() = 0;
+
   void sheetNeedsDisplay() override { needsFrame(); }
   void sheetDidClose() override;
   void leave();
+  void giveUpPages();
+  bool enterPages(bool forward);
 
   bool handleMouse(const QMouseEvent& event);
   bool handleKey(QKeyEvent& event);
@@ -83,6 +103,9 @@ class SheetSurface : private hosting::SheetPresenter::Client {
   FingerTracker finger_;
   hosting::VelocityTracker velocity_;
   FrameClock clock_;
+  EmbeddedPages pages_;
+  std::optional<unsigned> pagesRevision_;
+  bool shown_ = false;
   bool presented_ = false;
   bool closed_ = false;
 };

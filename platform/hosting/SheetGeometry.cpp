@@ -25,4 +25,34 @@ layout::Rect SheetGeometry::panel(double revealed) const {
   return {{(window.width - width) / 2, window.height - revealed}, {width, revealed}};
 }
 
+namespace {
+
+void round(render::FillItem& fill, const layout::Rect& panel) {
+  const layout::Rect& frame = fill.frame;
+  const bool covers =
+      frame.top() == panel.top() && frame.left() <= panel.left() && frame.right() >= panel.right();
+  if (covers) fill.topCornerRadius = std::max(fill.topCornerRadius, SheetGeometry::cornerRadius);
+}
+
+void round(render::EmbedItem& embed, const layout::Rect& panel) {
+  constexpr double radius = SheetGeometry::cornerRadius;
+  const layout::Rect& frame = embed.frame;
+  const bool beside =
+      frame.left() < panel.left() + radius || frame.right() > panel.right() - radius;
+  const double cut = panel.top() + radius - frame.top();
+  if (beside && frame.bottom() > panel.top()) {
+    embed.topCornerRadius = std::max(embed.topCornerRadius, cut);
+  }
+}
+
+void round(auto&, const layout::Rect&) {}  // leaves the corners free
+
+}  // namespace
+
+void SheetGeometry::roundTop(render::Scene& scene, const layout::Rect& panel) {
+  for (render::Item& item : scene.items) {
+    std::visit([&](auto& shown) { round(shown, panel); }, item);
+  }
+}
+
 }  // namespace quorix::hosting

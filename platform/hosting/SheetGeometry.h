@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/layout/Geometry.h"
+#include "platform/render/Scene.h"
 #include "platform/swiftui/PresentationDetent.h"
 
 namespace quorix::hosting {
@@ -22,6 +23,9 @@ struct SheetGeometry {
   double bottomInset() const { return safeArea.bottom; }
   /// The panel when `revealed` points of it have risen.
   layout::Rect panel(double revealed) const;
+
+  /// Keeps what fills the upper corners of `panel` in `scene` within their rounding.
+  static void roundTop(render::Scene& scene, const layout::Rect& panel);
 
  private:
   double largest() const;

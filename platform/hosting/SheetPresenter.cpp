@@ -4,6 +4,7 @@
 #include <cmath>
 #include <utility>
 
+#include "platform/hosting/SceneLayers.h"
 #include "platform/hosting/SheetGeometry.h"
 #include "platform/hosting/ViewFocus.h"
 #include "platform/layout/PixelGrid.h"
@@ -105,23 +106,11 @@ void SheetPresenter::State::close() {
 
 /// The panel with its content, of which whatever fills it to both upper corners is cut as it is.
 void SheetPresenter::State::addPanel(render::Scene& to, const layout::Rect& frame) {
-  constexpr double radius = SheetGeometry::cornerRadius;
   const graphics::RGBA color = colorOfPanel(content.environment().appearance);
   to.items.emplace_back(std::in_place_type<render::FillItem>,
-                        render::FillItem{frame, color, radius});
-  const std::size_t first = to.items.size();
+                        render::FillItem{frame, color, SheetGeometry::cornerRadius});
   to.append(contentScene(), frame.origin);
-  const auto reachesCorners = [&](const layout::Rect& part) {
-    return part.top() <= frame.top() && part.left() <= frame.left() &&
-           part.right() >= frame.right();
-  };
-  for (std::size_t i = first; i < to.items.size(); ++i) {
-    if (auto* fill = std::get_if<render::FillItem>(&to.items[i])) {
-      if (reachesCorners(fill->frame)) fill->topCornerRadius = radius;
-    } else if (auto* embed = std::get_if<render::EmbedItem>(&to.items[i])) {
-      if (reachesCorners(embed->frame)) embed->topCornerRadius = radius;
-    }
-  }
+  SheetGeometry::roundTop(to, frame);
 }
 
 bool SheetPresenter::State::advance(double seconds) {
@@ -263,8 +252,15 @@ void SheetPresenter::pointerCancelled() {
   state_->moved();
 }
 
-void SheetPresenter::moveFocus(bool forward) {
-  if (!state_->focus.walk(forward)) state_->focus.walk(forward);
+bool SheetPresenter::moveFocus(bool forward) {
+  const bool moved =
+      state_->focus.walk(forward) || (!hasEmbeds(panel()) && state_->focus.walk(forward));
+  state_->client.sheetNeedsDisplay();
+  return moved;
+}
+
+void SheetPresenter::dropFocus() {
+  state_->focus.left(ViewFocus::Cause::other);
   state_->client.sheetNeedsDisplay();
 }
 

@@ -66,7 +66,10 @@ class SheetPresenter {
   void pointerCancelled();
 
   /// Moves the focus inside the sheet, round and round: it never leaves while the sheet is up.
-  void moveFocus(bool forward);
+  /// False when it is the turn of what paints itself in the sheet, which is after the last element.
+  bool moveFocus(bool forward);
+  /// The focus went to what paints itself in the sheet.
+  void dropFocus();
   std::optional<layout::Rect> focusFrame() const;
   /// The element that the ring goes around, once the keyboard moved the focus.
   std::optional<layout::Rect> ringFrame() const;

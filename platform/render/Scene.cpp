@@ -1,5 +1,7 @@
 #include "platform/render/Scene.h"
 
+#include <algorithm>
+
 namespace quorix::render {
 namespace {
 
@@ -11,18 +13,38 @@ void appendMoved(std::vector<Part>& to, const std::vector<Part>& from, layout::P
   }
 }
 
-}  // namespace
-
-const HitArea* Scene::hitTest(layout::Point point) const {
-  for (auto area = hitAreas.rbegin(); area != hitAreas.rend(); ++area) {
-    if (area->frame.contains(point)) return &*area;
+/// The top-most embed under `point`, whatever lies above it, or null.
+const EmbedItem* embedUnder(const std::vector<Item>& items, layout::Point point) {
+  for (auto item = items.rbegin(); item != items.rend(); ++item) {
+    const auto* embed = std::get_if<EmbedItem>(&*item);
+    if (embed && embed->content && embed->room().contains(point)) return embed;
   }
   return nullptr;
+}
+
+}  // namespace
+
+layout::Rect EmbedItem::room() const {
+  const double lost = std::clamp(topCornerRadius, 0.0, frame.size.height);
+  return {{frame.left(), frame.top() + lost}, {frame.size.width, frame.size.height - lost}};
+}
+
+const HitArea* Scene::hitTest(layout::Point point) const {
+  const EmbedItem* embed = embedUnder(items, point);
+  for (std::size_t i = hitAreas.size(); i > (embed ? embed->hitAreasBelow : 0); --i) {
+    if (hitAreas[i - 1].frame.contains(point)) return &hitAreas[i - 1];
+  }
+  return nullptr;
+}
+
+const EmbedItem* Scene::embedAt(layout::Point point) const {
+  return hitTest(point) ? nullptr : embedUnder(items, point);
 }
 
 void Scene::append(const Scene& other, layout::Point offset) {
   for (Item item : other.items) {
     std::visit([&](auto& part) { part.frame = part.frame.translated(offset); }, item);
+    if (auto* embed = std::get_if<EmbedItem>(&item)) embed->hitAreasBelow += hitAreas.size();
     items.push_back(std::move(item));
   }
   appendMoved(hitAreas, other.hitAreas, offset);

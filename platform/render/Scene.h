@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -47,8 +49,12 @@ struct StrokeItem {
 struct EmbedItem {
   layout::Rect frame;
   std::shared_ptr<Embed> content;
-  graphics::RGBA background;   ///< shows until the content has painted, and in pictures
-  double topCornerRadius = 0;  ///< of the two upper corners
+  graphics::RGBA background;      ///< shows until the content has painted, and in pictures
+  double topCornerRadius = 0;     ///< of the two upper corners
+  std::size_t hitAreasBelow = 0;  ///< so many of the scene's hit areas lie below the content
+
+  /// Where the content stands: clear of the rounded corners, beside which the background shows.
+  layout::Rect room() const;
 };
 
 using Item = std::variant<TextItem, ImageItem, FillItem, StrokeItem, EmbedItem>;
@@ -80,8 +86,10 @@ struct Scene {
   std::vector<HitArea> hitAreas;
   std::vector<AccessibilityElement> accessibility;
 
-  /// The top-most area under `point`, or null.
+  /// The top-most area under `point`, or null; where an embed's content takes it, null too.
   const HitArea* hitTest(layout::Point point) const;
+  /// The embed whose content takes what happens at `point`, or null.
+  const EmbedItem* embedAt(layout::Point point) const;
   /// Appends `other`, moved by `offset`.
   void append(const Scene& other, layout::Point offset);
 };

@@ -128,6 +128,7 @@ template <class Writer>
 void write(const EmbedItem& item, Writer& to) {
   to.begin("embed", item.frame);
   to.value("background", hex(item.background));
+  if (item.topCornerRadius > 0) to.value("topCornerRadius", item.topCornerRadius);
 }
 
 template <class Writer>

@@ -25,8 +25,9 @@ QRectF toRect(const layout::Rect& rect) {
 
 SheetItem::SheetItem(QQuickWindow& window)
     : QQuickItem(window.contentItem()),
-      SheetSurface(static_cast<QObject&>(*this)),
-      QuickAccessibleSurface(static_cast<QQuickItem&>(*this)) {
+      SheetSurface(static_cast<QObject&>(*this), QStringLiteral("QuorixWebQuick")),
+      QuickAccessibleSurface(static_cast<QQuickItem&>(*this)),
+      layers_(*this) {
   setFlag(ItemHasContents);
   setFlag(ItemIsFocusScope);
   setZ(kStacking);
@@ -40,6 +41,13 @@ SheetItem::SheetItem(QQuickWindow& window)
   connect(content, &QQuickItem::widthChanged, this, fill);
   connect(content, &QQuickItem::heightChanged, this, fill);
   fill();
+  // On a later turn: rendering may be on another thread, and may hold this one.
+  connect(
+      &window, &QQuickWindow::frameSwapped, this,
+      [this] {
+        if (paintedRevision_) wasShown();
+      },
+      Qt::QueuedConnection);
 }
 
 SheetItem::~SheetItem() { AccessibilityBridge::instance()->remove(*this); }
@@ -88,31 +96,41 @@ void SheetItem::geometryChange(const QRectF& now, const QRectF& before) {
 
 void SheetItem::updatePolish() {
   if (isClosed() || !isPresented()) return;
-  const unsigned revision = presenter().panelRevision();
-  const render::Scene& panel = presenter().panel();
-  pictureHeight_ = panel.size.height;
-  if (revision != paintedRevision_ || paintedScale_ != scale()) {
-    panelPicture_ = paintPicture(panel, scale(), {0, 0, 0, 0});
-    paintedRevision_ = revision;
-    paintedScale_ = scale();
-    ring_.reset();
-    ViewAccessible::sceneChanged(*this);
-  }
+  updatePictures();
   followMotion();
   if (isClosed()) return;
   panel_ = toRect(presenter().panelFrame());
   shade_ = toQColor(presenter().shade());
   panelColor_ = toQColor(presenter().panelColor());
+  layers_.moveTo(panel_.topLeft());
+  followPages();
   updateRing();
   update();
 }
 
+void SheetItem::updatePictures() {
+  const unsigned revision = presenter().panelRevision();
+  const render::Scene& panel = presenter().panel();
+  pictureHeight_ = panel.size.height;
+  if (revision == paintedRevision_ && paintedScale_ == scale()) return;
+  const auto layers = hosting::layersOf(panel, scale());
+  panelPicture_ = paintPicture(layers.front().scene, scale(), {0, 0, 0, 0});
+  layers_.setPictures(layers, scale());
+  paintedRevision_ = revision;
+  paintedScale_ = scale();
+  ringSize_.reset();
+  ViewAccessible::sceneChanged(*this);
+}
+
 void SheetItem::updateRing() {
   const auto frame = hasActiveFocus() ? presenter().ringFrame() : std::nullopt;
-  if (frame && (!ring_ || ring_->size != frame->size)) {
-    ringPicture_ = FocusRing::picture(*frame, presenter().panel().appearance, scale());
+  if (!frame) return layers_.hideRing();
+  QImage picture;
+  if (ringSize_ != frame->size) {
+    picture = FocusRing::picture(*frame, presenter().panel().appearance, scale());
+    ringSize_ = frame->size;
   }
-  ring_ = frame;
+  layers_.showRing(FocusRing::frameAround(*frame).topLeft(), picture);
 }
 
 QSGNode* SheetItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
@@ -130,13 +148,31 @@ QSGNode* SheetItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
   QRectF below = panel_;
   below.setTop(std::min(panel_.top() + pictureHeight_, height()));
   node->setBelow(below, panelColor_);
-  if (!ring_) {
-    node->ring().setPicture(*window(), {});
-  } else if (!ringPicture_.isNull()) {
-    node->ring().setPicture(*window(), std::exchange(ringPicture_, {}));
-  }
-  if (ring_) node->ring().setOrigin(FocusRing::frameAround(*ring_).topLeft());
   return node;
+}
+
+// Pages.
+
+void SheetItem::placePage(QObject& view, const layout::Rect& frame, int index) {
+  auto* page = qobject_cast<QQuickItem*>(&view);
+  if (!page) return;
+  connect(page, &QQuickItem::activeFocusChanged, this, &SheetItem::pageFocusChanged,
+          Qt::UniqueConnection);
+  layers_.place(*page, toRect(frame), index);
+}
+
+void SheetItem::pageFocusChanged(bool focused) {
+  if (focused) pageTookFocus();
+}
+
+void SheetItem::focusPage(QObject& view, bool forward) {
+  if (auto* page = qobject_cast<QQuickItem*>(&view)) {
+    page->forceActiveFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+  }
+}
+
+void SheetItem::takeFocusFromPages() {
+  if (QQuickItem* inside = scopedFocusItem()) inside->setFocus(false);
 }
 
 // Input.

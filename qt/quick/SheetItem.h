@@ -8,6 +8,7 @@
 
 #include "qt/SheetSurface.h"
 #include "qt/quick/QuickAccessibleSurface.h"
+#include "qt/quick/SheetLayers.h"
 
 namespace quorix::qt {
 
@@ -35,11 +36,19 @@ class SheetItem : public QQuickItem, public SheetSurface, private QuickAccessibl
   void hoverMoveEvent(QHoverEvent* event) override;
 
  private:
+  friend class SheetFront;
+  friend class SheetLayers;
+
   double scale() const override;
   void needsFrame() override { polish(); }
   void takeFocusOver() override;
   void giveFocusBack() override;
   void vanish() override { setVisible(false); }
+
+  void placePage(QObject& view, const layout::Rect& frame, int index) override;
+  void focusPage(QObject& view, bool forward) override;
+  void takeFocusFromPages() override;
+  void pageFocusChanged(bool focused);
 
   const std::vector<render::AccessibilityElement>& accessibilityElements() override;
   void performAccessibilityAction(int index) override { presenter().activate(index); }
@@ -47,6 +56,7 @@ class SheetItem : public QQuickItem, public SheetSurface, private QuickAccessibl
   bool isShown() const override { return !isClosed() && QuickAccessibleSurface::isShown(); }
   bool isDialog() const override { return true; }
 
+  void updatePictures();
   void updateRing();
 
   QPointer<QQuickItem> focusBefore_;
@@ -57,9 +67,9 @@ class SheetItem : public QQuickItem, public SheetSurface, private QuickAccessibl
   double pictureHeight_ = 0;
   QColor shade_;
   QColor panelColor_;
-  QImage ringPicture_;
-  std::optional<layout::Rect> ring_;
 
+  SheetLayers layers_;  ///< above what the item paints itself
+  std::optional<layout::Size> ringSize_;
   std::optional<unsigned> paintedRevision_;
   double paintedScale_ = 0;
 };

@@ -10,12 +10,10 @@ namespace quorix::qt {
 SheetNode::SheetNode(QQuickWindow& window)
     : shade_(window.createRectangleNode()),
       below_(window.createRectangleNode()),
-      panel_(new PictureNode),
-      ring_(new PictureNode) {
+      panel_(new PictureNode) {
   appendChildNode(shade_);
   appendChildNode(below_);
   appendChildNode(panel_);
-  appendChildNode(ring_);
 }
 
 void SheetNode::setShade(const QRectF& window, const QColor& color) {

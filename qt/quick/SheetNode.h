@@ -11,14 +11,13 @@ namespace quorix::qt {
 
 class PictureNode;
 
-/// A sheet in the scene graph: the shade, the panel's picture, its colour on to the window's
-/// bottom, and the focus ring. Motion moves these and paints nothing. Render thread.
+/// A sheet in the scene graph: the shade, the panel's picture, and its colour on to the window's
+/// bottom. Motion moves these and paints nothing. Render thread.
 class SheetNode : public QSGTransformNode {
  public:
   explicit SheetNode(QQuickWindow& window);
 
   PictureNode& panel() { return *panel_; }
-  PictureNode& ring() { return *ring_; }
 
   void setShade(const QRectF& window, const QColor& color);
   void setBelow(const QRectF& rect, const QColor& color);
@@ -27,7 +26,6 @@ class SheetNode : public QSGTransformNode {
   QSGRectangleNode* shade_;
   QSGRectangleNode* below_;
   PictureNode* panel_;
-  PictureNode* ring_;
 };
 
 }  // namespace quorix::qt

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QHoverEvent>
 #include <QPainter>
+#include <algorithm>
 #include <utility>
 
 #include "qt/AccessibilityBridge.h"
@@ -15,7 +16,7 @@ namespace quorix::qt {
 
 SheetWidget::SheetWidget(QWidget& window)
     : QWidget(&window),
-      SheetSurface(static_cast<QObject&>(*this)),
+      SheetSurface(static_cast<QObject&>(*this), QStringLiteral("QuorixWebWidgets")),
       WidgetAccessibleSurface(static_cast<QWidget&>(*this)) {
   setAttribute(Qt::WA_AcceptTouchEvents);
   setAttribute(Qt::WA_Hover);
@@ -63,6 +64,7 @@ void SheetWidget::giveFocusBack() {
 }
 
 void SheetWidget::holdFocus(QWidget* now) {
+  if (now && hasPageFocus()) pageTookFocus();
   // A shortcut of the host's may lead to what lies below.
   const bool below = now && now != this && now->window() == window() && !isAncestorOf(now);
   if (below && topmost(*window()) == this) setFocus(Qt::PopupFocusReason);
@@ -70,7 +72,7 @@ void SheetWidget::holdFocus(QWidget* now) {
 
 bool SheetWidget::focusNextPrevChild(bool next) {
   if (isClosed()) return QWidget::focusNextPrevChild(next);
-  walk(next);
+  hasPageFocus() ? leftPages(next) : walk(next);
   return true;
 }
 
@@ -84,25 +86,81 @@ void SheetWidget::needsFrame() {
 
 void SheetWidget::settle() {
   if (isClosed() || !isPresented()) return;
-  presenter().panel();
-  if (toldRevision_ != presenter().panelRevision()) {
-    toldRevision_ = presenter().panelRevision();
-    ViewAccessible::sceneChanged(*this);
-  }
+  updateLayers();
   followMotion();
-  if (!isClosed()) update();
+  if (isClosed()) return;
+  stack_.clear();
+  followPages();
+  updateFront();
+  updateRing();
+  update();
+}
+
+/// The panel's own picture: also when the window system asks for it before anything settled.
+void SheetWidget::updatePanel() {
+  const unsigned revision = presenter().panelRevision();
+  const render::Scene& panel = presenter().panel();
+  if (paintedRevision_ == revision && picture_.devicePixelRatio() == scale()) return;
+  picture_ = paintPicture(hosting::layersOf(panel, scale()).front().scene, scale(), {0, 0, 0, 0});
+  paintedRevision_ = revision;
+}
+
+void SheetWidget::updateLayers() {
+  const render::Scene& panel = presenter().panel();
+  if (layersRevision_ == presenter().panelRevision()) return;
+  layersRevision_ = presenter().panelRevision();
+  const auto layers = hosting::layersOf(panel, scale());
+  while (layers_.size() + 1 > layers.size()) {
+    delete layers_.back().picture;
+    layers_.pop_back();
+  }
+  for (std::size_t i = 1; i < layers.size(); ++i) {
+    if (layers_.size() < i) layers_.push_back({new PictureWidget(*this), {}});
+    layers_[i - 1].origin = {layers[i].origin.x, layers[i].origin.y};
+    layers_[i - 1].picture->setPicture(paintPicture(layers[i].scene, scale(), {0, 0, 0, 0}));
+  }
+  ringSize_.reset();
+  ViewAccessible::sceneChanged(*this);
+}
+
+/// Puts what lies over the pages there. Without a page the pictures lie on the panel alone.
+void SheetWidget::updateFront() {
+  const layout::Point corner = presenter().panelFrame().origin;
+  for (const Layer& layer : layers_) {
+    layer.picture->move((QPointF(corner.x, corner.y) + layer.origin).toPoint());
+    if (!stack_.contains(layer.picture)) stack_.append(layer.picture);
+  }
+  if (!hasPages()) return;
+  if (!front_) front_ = new SheetWidgetFront(*this);
+  front_->setGeometry(rect());
+  front_->follow(presenter().scene());
+  stack_.append(front_);
+  QList<QObject*> standing = children();
+  standing.removeIf([&](QObject* child) { return !stack_.contains(child); });
+  const bool stands = std::equal(standing.begin(), standing.end(), stack_.begin(), stack_.end());
+  if (stands) return;
+  for (QWidget* widget : stack_) widget->raise();
+}
+
+void SheetWidget::updateRing() {
+  const auto frame = hasFocus() ? presenter().ringFrame() : std::nullopt;
+  if (!ring_ && frame) ring_ = new PictureWidget(*this);
+  if (!ring_) return;
+  ring_->setVisible(frame.has_value());
+  if (!frame) return;
+  if (ringSize_ != frame->size) {
+    ring_->setPicture(FocusRing::picture(*frame, presenter().panel().appearance, scale()));
+    ringSize_ = frame->size;
+  }
+  ring_->move(FocusRing::frameAround(*frame).topLeft().toPoint());
+  if (children().constLast() != ring_) ring_->raise();
 }
 
 void SheetWidget::paintEvent(QPaintEvent*) {
   if (isClosed() || !isPresented()) return;
-  const unsigned revision = presenter().panelRevision();
-  const render::Scene& panel = presenter().panel();
-  if (paintedRevision_ != revision || picture_.devicePixelRatio() != scale()) {
-    picture_ = paintPicture(panel, scale(), {0, 0, 0, 0});
-    paintedRevision_ = revision;
-  }
+  updatePanel();
   const layout::Rect frame = presenter().panelFrame();
-  const double bottom = frame.top() + panel.size.height;
+  const double bottom = frame.top() + presenter().panel().size.height;
   QPainter painter(this);
   painter.fillRect(rect(), toQColor(presenter().shade()));
   painter.drawImage(QPointF(frame.left(), frame.top()), picture_);
@@ -110,8 +168,35 @@ void SheetWidget::paintEvent(QPaintEvent*) {
     painter.fillRect(QRectF(frame.left(), bottom, frame.size.width, height() - bottom),
                      toQColor(presenter().panelColor()));
   }
-  const auto ring = hasFocus() ? presenter().ringFrame() : std::nullopt;
-  if (ring) FocusRing::paint(painter, FocusRing::frameAround(*ring), panel.appearance);
+  QMetaObject::invokeMethod(
+      this, [this] { wasShown(); }, Qt::QueuedConnection);
+}
+
+// Pages.
+
+void SheetWidget::placePage(QObject& view, const layout::Rect& frame, int index) {
+  auto* page = qobject_cast<QWidget*>(&view);
+  if (!page) return;
+  page->setGeometry(
+      QRectF(frame.left(), frame.top(), frame.size.width, frame.size.height).toAlignedRect());
+  page->show();
+  stack_.append(page);
+  if (std::size_t(index) < layers_.size()) stack_.append(layers_[std::size_t(index)].picture);
+}
+
+void SheetWidget::focusPage(QObject& view, bool forward) {
+  if (auto* page = qobject_cast<QWidget*>(&view)) {
+    page->setFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+  }
+}
+
+bool SheetWidget::hasPageFocus() const {
+  const QWidget* focused = window()->focusWidget();
+  return focused && focused != this && isAncestorOf(focused);
+}
+
+void SheetWidget::takeFocusFromPages() {
+  if (hasPageFocus()) setFocus(Qt::OtherFocusReason);
 }
 
 void SheetWidget::resizeEvent(QResizeEvent*) { windowResized(); }
@@ -137,10 +222,6 @@ bool SheetWidget::event(QEvent* event) {
     case QEvent::ScreenChangeInternal:
       followScale();
       break;
-    case QEvent::FocusIn:
-    case QEvent::FocusOut:
-      update();
-      return true;
     default:
       break;
   }

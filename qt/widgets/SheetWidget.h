@@ -4,8 +4,12 @@
 #include <QPointer>
 #include <QWidget>
 #include <optional>
+#include <vector>
 
+#include "platform/hosting/SceneLayers.h"
 #include "qt/SheetSurface.h"
+#include "qt/widgets/PictureWidget.h"
+#include "qt/widgets/SheetWidgetFront.h"
 #include "qt/widgets/WidgetAccessibleSurface.h"
 
 namespace quorix::qt {
@@ -30,11 +34,24 @@ class SheetWidget : public QWidget, public SheetSurface, private WidgetAccessibl
   bool focusNextPrevChild(bool next) override;
 
  private:
+  friend class SheetWidgetFront;
+
+  /// A picture of what lies above a page.
+  struct Layer {
+    PictureWidget* picture;
+    QPointF origin;  ///< in the panel
+  };
+
   double scale() const override { return devicePixelRatioF(); }
   void needsFrame() override;
   void takeFocusOver() override;
   void giveFocusBack() override;
   void vanish() override { hide(); }
+
+  void placePage(QObject& view, const layout::Rect& frame, int index) override;
+  void focusPage(QObject& view, bool forward) override;
+  void takeFocusFromPages() override;
+  bool hasPageFocus() const;
 
   const std::vector<render::AccessibilityElement>& accessibilityElements() override;
   void performAccessibilityAction(int index) override { presenter().activate(index); }
@@ -44,12 +61,21 @@ class SheetWidget : public QWidget, public SheetSurface, private WidgetAccessibl
 
   void windowResized();
   void settle();
+  void updatePanel();
+  void updateLayers();
+  void updateFront();
+  void updateRing();
   void holdFocus(QWidget* now);
   void pointAt(QPointF point);
 
   QPointer<QWidget> focusBefore_;
   QImage picture_;  ///< of the panel at rest, which motion only moves
-  std::optional<unsigned> toldRevision_;
+  std::vector<Layer> layers_;
+  QList<QWidget*> stack_;              ///< what lies over the painted panel, from the bottom up
+  SheetWidgetFront* front_ = nullptr;  ///< made with the first page
+  PictureWidget* ring_ = nullptr;
+  std::optional<layout::Size> ringSize_;
+  std::optional<unsigned> layersRevision_;
   std::optional<unsigned> paintedRevision_;
   bool settleQueued_ = false;
 };

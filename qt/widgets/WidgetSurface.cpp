@@ -1,15 +1,14 @@
 #include "qt/widgets/WidgetSurface.h"
 
-#include <QPainter>
 #include <algorithm>
 #include <cmath>
 
 #include "qt/AccessibilityBridge.h"
 #include "qt/Desktop.h"
-#include "qt/FocusRing.h"
-#include "qt/ScenePainter.h"
+#include "qt/Picture.h"
 #include "qt/ViewAccessible.h"
 #include "qt/WindowScene.h"
+#include "qt/widgets/FocusFrame.h"
 #include "qt/widgets/SheetWidget.h"
 #include "qt/widgets/ViewWidget.h"
 #include "qt/widgets/WindowStateWatcher.h"
@@ -41,6 +40,7 @@ WidgetSurface::WidgetSurface(ViewWidget& widget)
 }
 
 WidgetSurface::~WidgetSurface() {
+  dropRing();
   QObject::disconnect(windowState_);
   AccessibilityBridge::instance()->remove(widget_);
 }
@@ -88,7 +88,7 @@ void WidgetSurface::placeChanged() {
 }
 
 void WidgetSurface::onScreenChanged() {
-  onScreen_ = widget_.isVisible() && !window_->isMinimized();
+  onScreen_ = widget_.isVisible() && !widget_.window()->isMinimized();
   host().setOnScreen(onScreen_);
   settleSoon();
 }
@@ -151,8 +151,7 @@ void WidgetSurface::settle() {
     widget_.updateGeometry();
   }
   if (onScreen_ && sceneStale_) refreshScene();
-  const auto ring = ringFrame();
-  if (ring != std::exchange(ring_, ring)) widget_.update();
+  updateRing();
   const bool needed = hasFocus() || (onScreen_ && isInView(widget_));
   if (!needed && !AccessibilityBridge::isActive()) host().rest();
 }
@@ -165,13 +164,24 @@ void WidgetSurface::refreshScene() {
   widget_.update();
 }
 
+void WidgetSurface::updateRing() {
+  const auto around = ringFrame();
+  if (!around) return dropRing();
+  if (!ring_) ring_ = new FocusFrame(widget_);
+  ring_->goAround(*around, host().environment().appearance);
+}
+
+void WidgetSurface::dropRing() {
+  if (!ring_) return;
+  ring_->setWidget(nullptr);
+  ring_->deleteLater();  // what it stands in may be going through all that it holds
+  ring_ = nullptr;
+}
+
 void WidgetSurface::paint(QPainter& painter) {
   // Qt tells a widget late, and not everywhere, that its window came to another screen.
   if (scale() != host().environment().scale) environmentChanged();
-  ScenePainter(painter).paint(host().scene(size()));
-  if (!ring_) return;
-  const QRectF around = FocusRing::frameAround(*ring_).intersected(widget_.rect());
-  FocusRing::paint(painter, around, host().environment().appearance);
+  paintAsPicture(painter, host().scene(size()));
 }
 
 // Accessibility.

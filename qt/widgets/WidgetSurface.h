@@ -13,6 +13,7 @@ class QPainter;
 
 namespace quorix::qt {
 
+class FocusFrame;
 class ViewWidget;
 
 /// What a view widget keeps and does behind its public face. Main thread.
@@ -27,8 +28,9 @@ class WidgetSurface final : public HostedView, private WidgetAccessibleSurface {
   int heightFor(int width);
 
   void contentChanged() override;
-  /// The widget was shown or hidden, or came into another window.
+  /// The widget was shown, or came into another window.
   void placeChanged();
+  void onScreenChanged();
   void sizeChanged();
   void paint(QPainter& painter);
 
@@ -53,18 +55,19 @@ class WidgetSurface final : public HostedView, private WidgetAccessibleSurface {
     std::optional<std::pair<int, int>> height;  ///< for a width
   };
 
-  void onScreenChanged();
   void settleSoon();
   void settle();
   bool toldHolds();
   void refreshScene();
+  void updateRing();
+  void dropRing();
   QSize sizeFor(layout::ProposedSize proposal);
 
   ViewWidget& widget_;
   QPointer<QWidget> window_;
   QMetaObject::Connection windowState_;
   Told told_;
-  std::optional<layout::Rect> ring_;
+  QPointer<FocusFrame> ring_;  ///< while it is to be seen
   bool onScreen_ = false;
   bool sizeStale_ = false;
   bool sceneStale_ = true;

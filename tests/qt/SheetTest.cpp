@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QGuiApplication>
 #include <QTest>
 #include <QWheelEvent>
 #include <functional>

@@ -15,8 +15,6 @@ namespace {
 using swiftui::Text;
 using swiftui::View;
 
-constexpr QRectF kPlace(20, 40, 300, 0);
-
 View paragraph() {
   return Text::verbatim("A sentence that needs two lines or more when the room is narrow");
 }

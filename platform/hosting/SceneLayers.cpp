@@ -1,0 +1,86 @@
+#include "platform/hosting/SceneLayers.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/layout/PixelGrid.h"
+
+namespace quorix::hosting {
+namespace {
+
+using layout::Rect;
+using render::EmbedItem;
+
+/// Where `item` leaves ink: letters may reach out of their line.
+Rect inked(const render::Item& item) {
+  const Rect frame = std::visit([](const auto& shown) { return shown.frame; }, item);
+  if (!std::holds_alternative<render::TextItem>(item)) return frame;
+  const double reach = frame.size.height;
+  return {{frame.left() - reach, frame.top() - reach},
+          {frame.size.width + 2 * reach, frame.size.height + 2 * reach}};
+}
+
+Rect united(const Rect& a, const Rect& b) {
+  const layout::Point origin = {std::min(a.left(), b.left()), std::min(a.top(), b.top())};
+  return {origin,
+          {std::max(a.right(), b.right()) - origin.x, std::max(a.bottom(), b.bottom()) - origin.y}};
+}
+
+Rect within(const Rect& rect, layout::Size size) {
+  const layout::Point origin = {std::clamp(rect.left(), 0.0, size.width),
+                                std::clamp(rect.top(), 0.0, size.height)};
+  return {origin,
+          {std::clamp(rect.right(), origin.x, size.width) - origin.x,
+           std::clamp(rect.bottom(), origin.y, size.height) - origin.y}};
+}
+
+/// Makes the picture no larger than what is on it.
+void crop(SceneLayer& layer, double scale) {
+  auto& items = layer.scene.items;
+  if (items.empty()) {
+    layer.scene.size = {};
+    return;
+  }
+  Rect all = inked(items.front());
+  for (const render::Item& item : items) all = united(all, inked(item));
+  all = layout::PixelGrid(scale).round(within(all, layer.scene.size));
+  for (render::Item& item : items) {
+    std::visit(
+        [&](auto& shown) {
+          shown.frame = shown.frame.translated({-all.left(), -all.top()});
+        },
+        item);
+  }
+  layer.origin = all.origin;
+  layer.scene.size = all.size;
+}
+
+}  // namespace
+
+std::vector<SceneLayer> layersOf(const render::Scene& scene, double scale) {
+  std::vector<SceneLayer> layers;
+  const auto begin = [&] {
+    layers.emplace_back();
+    layers.back().scene.size = scene.size;
+    layers.back().scene.appearance = scene.appearance;
+  };
+  begin();
+  for (const render::Item& item : scene.items) {
+    layers.back().scene.items.push_back(item);
+    const auto* embed = std::get_if<EmbedItem>(&item);
+    if (!embed || !embed->content) continue;
+    layers.back().embed = embed;
+    begin();
+  }
+  for (std::size_t i = 1; i < layers.size(); ++i) crop(layers[i], scale);
+  return layers;
+}
+
+bool hasEmbeds(const render::Scene& scene) {
+  return std::any_of(scene.items.begin(), scene.items.end(), [](const render::Item& item) {
+    const auto* embed = std::get_if<EmbedItem>(&item);
+    return embed && embed->content;
+  });
+}
+
+}  // namespace quorix::hosting

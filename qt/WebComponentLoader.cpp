@@ -1,0 +1,84 @@
+#include "qt/WebComponentLoader.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QHash>
+#include <QLibrary>
+#include <QtGlobal>
+
+#include "qt/WebComponent.h"
+
+#ifdef Q_OS_UNIX
+#include <dlfcn.h>
+#endif
+
+namespace quorix::qt {
+namespace {
+
+/// The folder of the library or program that this code stands in, or nothing.
+QString ownFolder() {
+#ifdef Q_OS_UNIX
+  Dl_info info;
+  static const char here = 0;
+  if (dladdr(&here, &info) != 0 && info.dli_fname) {
+    return QFileInfo(QString::fromLocal8Bit(info.dli_fname)).absolutePath();
+  }
+#endif
+  return {};
+}
+
+QString fileOf(const QString& name) {
+#if defined(Q_OS_WIN)
+  const QString file = name + QStringLiteral(".dll");
+#else
+  const QString file = QStringLiteral("lib") + name + QStringLiteral(".so");
+#endif
+  for (const QString& folder : WebComponentLoader::folders()) {
+    const QFileInfo found(folder + QLatin1Char('/') + file);
+    if (found.isFile()) return found.absoluteFilePath();
+  }
+  return {};
+}
+
+WebComponent* loaded(const QString& name) {
+  const QString file = fileOf(name);
+  if (file.isEmpty()) return nullptr;
+  QLibrary library(file);
+  const auto entry = reinterpret_cast<WebComponentEntry>(library.resolve(webComponentSymbol));
+  if (!entry) {
+    qWarning("Quorix: no web engine in %s: %s", qUtf8Printable(file),
+             qUtf8Printable(library.errorString()));
+    return nullptr;
+  }
+  WebComponent* component = entry(webComponentVersion);
+  if (!component) qWarning("Quorix: %s is of another version", qUtf8Printable(file));
+  return component;
+}
+
+}  // namespace
+
+QStringList WebComponentLoader::folders() {
+  QStringList all = {QCoreApplication::applicationDirPath()};
+  for (const QString& path : QCoreApplication::libraryPaths()) {
+    all.append(path + QStringLiteral("/quorix"));
+  }
+  const QString own = ownFolder();
+  if (!own.isEmpty()) all.append(own);
+#ifdef QUORIX_WEB_BUILD_FOLDER
+  all.append(QStringLiteral(QUORIX_WEB_BUILD_FOLDER));
+#endif
+  return all;
+}
+
+bool WebComponentLoader::isThere(const QString& name) { return !fileOf(name).isEmpty(); }
+
+WebComponent* WebComponentLoader::load(const QString& name) {
+  static QHash<QString, WebComponent*> known;
+  const auto found = known.constFind(name);
+  if (found != known.constEnd()) return *found;
+  WebComponent* component = loaded(name);
+  known.insert(name, component);
+  return component;
+}
+
+}  // namespace quorix::qt

@@ -1,0 +1,42 @@
+#include "qt/web/WebEngine.h"
+
+#include <QGuiApplication>
+#include <QOpenGLContext>
+#include <QtGlobal>
+#include <QtWebEngineQuick>
+
+#ifdef Q_OS_LINUX
+#include <unistd.h>
+#endif
+
+namespace quorix::qt {
+namespace {
+
+/// The engine does not sandbox for root, and ends a process that asks it to.
+bool isRefused() {
+#ifdef Q_OS_LINUX
+  const bool sandboxed = qEnvironmentVariableIsEmpty("QTWEBENGINE_DISABLE_SANDBOX") &&
+                         !qgetenv("QTWEBENGINE_CHROMIUM_FLAGS").contains("--no-sandbox") &&
+                         !QCoreApplication::arguments().contains(QStringLiteral("--no-sandbox"));
+  if (geteuid() == 0 && sandboxed) {
+    qWarning("Quorix: Qt WebEngine has no sandbox for root, so no page is shown");
+    return true;
+  }
+#endif
+  return false;
+}
+
+}  // namespace
+
+bool WebEngine::start() {
+  static const bool started = [] {
+    if (isRefused()) return false;
+    // The engine crashes where there is nothing to share with. The call comes late, of which Qt
+    // warns; what was drawn before does not share, which is for the toolkits to look at.
+    if (!QOpenGLContext::globalShareContext()) QtWebEngineQuick::initialize();
+    return true;
+  }();
+  return started;
+}
+
+}  // namespace quorix::qt

@@ -1,0 +1,13 @@
+#pragma once
+
+namespace quorix::qt {
+
+/// What Qt WebEngine wants before its first view, in either toolkit. The library leaves the
+/// engine's sandbox and flags to the host. Main thread.
+namespace WebEngine {
+
+/// Readies the engine on first call. False, with a word on the log, where it would end the process.
+bool start();
+
+}  // namespace WebEngine
+}  // namespace quorix::qt

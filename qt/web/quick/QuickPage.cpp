@@ -1,0 +1,54 @@
+#include "qt/web/quick/QuickPage.h"
+
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickWebEngineProfile>
+
+#include "platform/webkit/NavigationRules.h"
+
+namespace quorix::qt {
+
+std::unique_ptr<QuickPage> QuickPage::make(QQmlComponent& source, QQuickWebEngineProfile& profile,
+                                           QQuickItem& place, Options options) {
+  std::unique_ptr<QuickPage> page(new QuickPage(std::move(options)));
+  QObject* made = source.createWithInitialProperties(
+      {{QStringLiteral("page"), QVariant::fromValue<QObject*>(page.get())},
+       {QStringLiteral("profile"), QVariant::fromValue(&profile)}});
+  page->view_ = qobject_cast<QQuickItem*>(made);
+  if (!page->view_) {
+    qWarning("Quorix: no page can be shown: %s", qUtf8Printable(source.errorString()));
+    delete made;
+    return nullptr;
+  }
+  QQmlEngine::setObjectOwnership(made, QQmlEngine::CppOwnership);
+  page->view_->setParentItem(&place);
+  return page;
+}
+
+QuickPage::~QuickPage() { delete view_; }
+
+void QuickPage::load(const QUrl& address) {
+  if (view_ && mayNavigateTo(address)) view_->setProperty("url", address);
+}
+
+bool QuickPage::canGoBack() const { return view_ && view_->property("canGoBack").toBool(); }
+
+void QuickPage::goBack() {
+  if (view_) QMetaObject::invokeMethod(view_, "goBack");
+}
+
+void QuickPage::goForward() {
+  if (view_) QMetaObject::invokeMethod(view_, "goForward");
+}
+
+bool QuickPage::mayNavigateTo(const QUrl& address) const {
+  return webkit::mayNavigateTo(address.scheme().toStdString());
+}
+
+void QuickPage::windowAsked(const QUrl& address) {
+  // Not within the engine's own call: who is asked may do anything.
+  QMetaObject::invokeMethod(
+      this, [this, address] { options_.onNewWindow(address); }, Qt::QueuedConnection);
+}
+
+}  // namespace quorix::qt

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QQuickItem>
+
+#include "qt/WebPage.h"
+
+class QQmlComponent;
+class QQuickWebEngineProfile;
+
+namespace quorix::qt {
+
+/// A page in a Qt Quick window, and what its QML needs to know.
+class QuickPage : public QObject, public WebPage {
+  Q_OBJECT
+  Q_PROPERTY(QColor background READ background CONSTANT)
+  Q_PROPERTY(bool allowsScripts READ allowsScripts CONSTANT)
+  Q_PROPERTY(bool opensWindowsUnasked READ opensWindowsUnasked CONSTANT)
+
+ public:
+  /// Null, with the reason on the log, when QML cannot make the view.
+  static std::unique_ptr<QuickPage> make(QQmlComponent& source, QQuickWebEngineProfile& profile,
+                                         QQuickItem& place, Options options);
+  ~QuickPage() override;
+
+  QObject* view() const override { return view_; }
+  void load(const QUrl& address) override;
+  bool canGoBack() const override;
+  void goBack() override;
+  void goForward() override;
+
+  QColor background() const { return options_.background; }
+  bool allowsScripts() const { return options_.settings.allowsContentJavaScript; }
+  bool opensWindowsUnasked() const {
+    return options_.settings.javaScriptCanOpenWindowsAutomatically;
+  }
+  Q_INVOKABLE bool mayNavigateTo(const QUrl& address) const;
+  Q_INVOKABLE void windowAsked(const QUrl& address);
+
+ private:
+  explicit QuickPage(Options options) : options_(std::move(options)) {}
+
+  Options options_;
+  QPointer<QQuickItem> view_;
+};
+
+}  // namespace quorix::qt

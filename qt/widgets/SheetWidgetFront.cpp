@@ -1,0 +1,55 @@
+#include "qt/widgets/SheetWidgetFront.h"
+
+#include <QEvent>
+#include <QRegion>
+
+#include "qt/widgets/SheetWidget.h"
+
+namespace quorix::qt {
+namespace {
+
+QRect toRect(const layout::Rect& frame) {
+  return QRectF(frame.left(), frame.top(), frame.size.width, frame.size.height).toAlignedRect();
+}
+
+}  // namespace
+
+SheetWidgetFront::SheetWidgetFront(SheetWidget& sheet) : QWidget(&sheet), sheet_(sheet) {
+  setAttribute(Qt::WA_AcceptTouchEvents);
+  setFocusPolicy(Qt::NoFocus);
+  setCursor(Qt::PointingHandCursor);
+}
+
+void SheetWidgetFront::follow(const render::Scene& scene) {
+  QRegion acting;
+  for (std::size_t i = 0; i < scene.hitAreas.size(); ++i) {
+    QRegion area = toRect(scene.hitAreas[i].frame);
+    for (const render::Item& item : scene.items) {
+      const auto* embed = std::get_if<render::EmbedItem>(&item);
+      if (embed && i < embed->hitAreasBelow) area -= toRect(embed->room());
+    }
+    acting += area;
+  }
+  // An empty mask would be none.
+  setVisible(!acting.isEmpty());
+  if (!acting.isEmpty() && acting != mask()) setMask(acting);
+}
+
+bool SheetWidgetFront::event(QEvent* event) {
+  switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::MouseButtonRelease:
+    case QEvent::Wheel:
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+    case QEvent::TouchCancel:
+      return sheet_.event(event);
+    default:
+      return QWidget::event(event);
+  }
+}
+
+}  // namespace quorix::qt
