@@ -45,9 +45,9 @@ TEST(ViewPrinter, WordsClassesFramesLooksAndConstraints) {
             "    .constraint(UILabel[1].top = UILabel[0].bottom + 8)\n"
             "    .constraint(UIView.trailing >= UILabel[1].trailing)\n"
             "    .constraint(UILabel[1].leading = UILabel[0].leading - 4)\n"
-            "  UILabel 16 0 200.5 12.5 \"A \\\"title\\\"\"\n"
+            "  UILabel 16 0 200.5 13 \"A \\\"title\\\"\"\n"
             "      .constraint(UILabel.width = 200.5)\n"
-            "  UILabel 12 20.5 20 12.5 \"More\" link taps\n"
+            "  UILabel 12 21 20 13 \"More\" link taps\n"
             "  UIView 1 2 3 4 hidden\n");
 }
 

@@ -63,7 +63,7 @@ TEST_P(ToolTranscript, HoldsLineByLine) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Transcripts, ToolTranscript,
-                         testing::Values("command_line", "tokens", "score", "translations"),
+                         testing::Values("command_line", "tokens", "score", "info", "translations"),
                          [](const auto& file) { return std::string(file.param); });
 
 }  // namespace
