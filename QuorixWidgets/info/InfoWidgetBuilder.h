@@ -31,7 +31,8 @@ struct InfoWidgetBuilder {
   ///
   ///     auto widget = InfoWidgetBuilder::buildUIKitInfoWidgetView(
   ///         "en", {"OpenSans-Regular", "OpenSans-SemiBold", std::nullopt, false});
-  ///     parent->addSubview(widget);
+  ///     parent->addSubview(widget);                // in a view of the imperative toolkit, or
+  ///     item->setView(swiftui::hosting(widget));  // on any surface
   static std::shared_ptr<uikit::UIView> buildUIKitInfoWidgetView(std::string_view locale,
                                                                  const InfoWidgetStyle& style);
 };

@@ -42,8 +42,9 @@ void SheetLayers::makeStops() {
 void SheetLayers::place(QQuickItem& page, const QRectF& frame, int index) {
   makeStops();
   front_->setSize(sheet_.size());
-  before_->stackBefore(sheet_.childItems().constFirst());
-  after_->stackAfter(sheet_.childItems().constLast());
+  const auto chain = sheet_.childItems();
+  if (chain.constFirst() != before_) before_->stackBefore(chain.constFirst());
+  if (chain.constLast() != after_) after_->stackAfter(chain.constLast());
   page.setZ(2 * index + 1);
   page.setPosition(frame.topLeft());
   page.setSize(frame.size());

@@ -1,0 +1,105 @@
+#include "tests/web/ChildProcess.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QProcess>
+#include <cstdio>
+
+#include "tests/qt/FeeRow.h"
+#include "tests/web/PageTest.h"
+
+namespace quorix::testing {
+namespace {
+
+/// Remembers what is opened outside.
+struct Outside final : uikit::URLOpener {
+  void open(const foundation::URL& url) override { addresses.push_back(url.absoluteString()); }
+  std::vector<std::string> addresses;
+};
+
+bool maps(const char* library) {
+  QFile file(QStringLiteral("/proc/self/maps"));
+  return file.open(QIODevice::ReadOnly) && file.readAll().contains(library);
+}
+
+void say(const char* when) {
+  std::printf("%s: engine %d quick %d widgets %d\n", when, maps("libQt6WebEngine"),
+              maps("libQuorixWebQuick"), maps("libQuorixWebWidgets"));
+}
+
+/// Opens a sheet without a page, then one with.
+template <class Screen>
+int tellMaps() {
+  pages().serve("/page", page("#0000ff"));
+  Screen screen;
+  screen.add(FeeRow("4 €"), {20, 40, 300, 0});
+  screen.add(PageRow{[] {
+               auto content = std::make_shared<webkit::WebContent>();
+               content->settings.allowsContentJavaScript = true;
+               content->load(foundation::URL::parse(std::string(kModules) + "/page").value());
+               return content;
+             }},
+             {20, 100, 300, 0});
+  screen.click("Row 4 €");
+  screen.key(Qt::Key_Escape);
+  say("before");
+  const auto outside = std::make_shared<Outside>();
+  uikit::URLOpener::install(outside);
+  screen.click("Open page");
+  const bool came =
+      waitUntil([&] { return !pages().requests("/here").empty() || !outside->addresses.empty(); });
+  say(came ? "after" : "never");
+  for (const std::string& address : outside->addresses)
+    std::printf("outside: %s\n", address.c_str());
+  std::printf("sheet: %d\n", screen.shows("Close page"));
+  return 0;
+}
+
+/// A page that keeps whatever it can keep, and tells what was there.
+int tellKept() {
+  pages().serve("/page", page("#0000ff", {}, R"(
+    tell('kept ' + document.cookie + (localStorage.kept || ''));
+    document.cookie = 'kept=1; max-age=100000'; localStorage.kept = 'too'; )"));
+  QuickScreen screen;
+  screen.add(PageRow{[] {
+               auto content = std::make_shared<webkit::WebContent>();
+               content->load(foundation::URL::parse(std::string(kModules) + "/page").value());
+               return content;
+             }},
+             {20, 100, 300, 0});
+  screen.click("Open page");
+  const bool told = waitUntil([] { return !pages().requests("/here").empty(); });
+  std::printf("%s\n", qPrintable(told ? reports().join(' ') : QStringLiteral("never")));
+  return 0;
+}
+
+}  // namespace
+
+int runAsChild(const QString& task) {
+  if (task == QLatin1String("maps-quick")) return tellMaps<QuickScreen>();
+  if (task == QLatin1String("maps-widgets")) return tellMaps<WidgetScreen>();
+  if (task == QLatin1String("kept")) return tellKept();
+  return 2;
+}
+
+ChildResult runChild(const QString& task, const QStringList& environment) {
+  auto variables = QProcessEnvironment::systemEnvironment();
+  variables.remove(QStringLiteral("QTWEBENGINE_CHROMIUM_FLAGS"));  // this process's own server
+  for (const QString& entry : environment) {
+    const qsizetype equals = entry.indexOf(QLatin1Char('='));
+    if (equals < 0) variables.remove(entry);
+    if (equals >= 0) variables.insert(entry.left(equals), entry.mid(equals + 1));
+  }
+  QProcess child;
+  child.setProcessEnvironment(variables);
+  child.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+  child.start(QCoreApplication::applicationFilePath(), {task});
+  if (!child.waitForFinished(60000)) {
+    child.kill();
+    child.waitForFinished();
+  }
+  const bool ended = child.exitStatus() == QProcess::NormalExit;
+  return {ended ? child.exitCode() : -1, child.readAllStandardOutput()};
+}
+
+}  // namespace quorix::testing

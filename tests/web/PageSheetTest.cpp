@@ -1,0 +1,134 @@
+#include <QDir>
+#include <QFile>
+#include <QTest>
+
+#include "tests/web/PageTest.h"
+
+namespace quorix::testing {
+namespace {
+
+const QColor kControlColor(kControl.red, kControl.green, kControl.blue);
+
+template <class Screen>
+struct PageSheet : PageTest<Screen> {};
+TYPED_TEST_SUITE(PageSheet, Screens, ScreenName);
+
+TYPED_TEST(PageSheet, StandsBetweenWhatLiesBelowAndAbove) {
+  this->openBlue("<div style='height:2000px' onclick=\"tell('clicked')\">x</div>");
+  EXPECT_EQ(this->at(this->kAtControl), kControlColor);
+  const QImage shown = this->screen.grab();
+  EXPECT_EQ(shown.pixelColor(180, 9), shown.pixelColor(0, 10)) << "the corners are round";
+  EXPECT_EQ(shown.pixelColor(359, 9), shown.pixelColor(359, 10));
+  EXPECT_EQ(shown.pixelColor(180, 10),
+            QColor(kPageGround.red, kPageGround.green, kPageGround.blue));
+  QTest::mouseClick(&this->screen.window(), Qt::LeftButton, {}, this->kInPage);
+  EXPECT_TRUE(this->reported("clicked"));
+  EXPECT_TRUE(this->isOpen()) << "the page lies over what would close it";
+  this->screen.clickAt(this->kAtControl);
+  EXPECT_FALSE(this->isOpen());
+  EXPECT_TRUE(this->latest.expired());
+}
+
+TYPED_TEST(PageSheet, MovesAsOne) {
+  this->opener->setMotion(true);
+  this->openBlue();
+  ASSERT_TRUE(this->shows(kControlColor, this->kAtControl));
+  const QPoint down(0, 60);
+  QTest::mousePress(&this->screen.window(), Qt::LeftButton, {}, this->kAtControl);
+  for (int i = 1; i <= 6; ++i) {
+    QTest::mouseMove(&this->screen.window(), this->kAtControl + down * i / 6, 10);
+  }
+  EXPECT_TRUE(this->shows(kControlColor, this->kAtControl + down));
+  EXPECT_NE(this->at(QPoint(180, 10 + 12 + 30)), QColor(Qt::blue));
+  EXPECT_EQ(this->at(QPoint(180, 10 + 12 + 62)), QColor(Qt::blue));
+  QTest::mouseRelease(&this->screen.window(), Qt::LeftButton, {}, this->kAtControl);
+  this->screen.settle();
+  EXPECT_TRUE(this->isOpen());
+}
+
+TYPED_TEST(PageSheet, ScrollsThePageAndNotTheSheet) {
+  this->openBlue("<div style='height:3000px'></div>", "onscroll = () => tell('scrolled')");
+  QWheelEvent wheel(this->kInPage, this->screen.window().mapToGlobal(this->kInPage), {0, -60},
+                    {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase, false);
+  QCoreApplication::sendEvent(&this->screen.window(), &wheel);
+  EXPECT_TRUE(this->reported("scrolled"));
+  this->screen.drag(this->kInPage, this->kInPage + QPoint(0, 150), 60, false);
+  this->screen.drag(this->kInPage, this->kInPage + QPoint(0, 150), 60, true);
+  EXPECT_TRUE(this->isOpen());
+}
+
+TYPED_TEST(PageSheet, LeadsTheKeyboardIntoThePageAndOutAgain) {
+  auto* field = this->screen.addFocusable();
+  this->openBlue("<input id=a onfocus=\"tell('a')\"><input id=b onfocus=\"tell('b')\">");
+  QAccessibleInterface* control = this->screen.find("Close page");
+  for (int round = 0; round < 2; ++round) {
+    pages().forgetRequests();
+    this->screen.key(Qt::Key_Tab);
+    EXPECT_TRUE(waitUntil([&] { return control->state().focused; })) << round;
+    this->screen.key(Qt::Key_Tab);
+    EXPECT_TRUE(this->reported("a")) << round;
+    this->screen.key(Qt::Key_Tab);
+    EXPECT_TRUE(this->reported("b")) << round;
+    EXPECT_FALSE(control->state().focused);
+  }
+  this->screen.key(Qt::Key_Tab);
+  EXPECT_TRUE(waitUntil([&] { return control->state().focused; }));
+  pages().forgetRequests();
+  this->screen.key(Qt::Key_Backtab);
+  EXPECT_TRUE(this->reported("b"));
+  this->screen.key(Qt::Key_Escape);
+  EXPECT_TRUE(waitUntil([&] { return !this->isOpen(); }));
+  EXPECT_TRUE(waitUntil([&] { return TypeParam::hasFocus(field); }));
+}
+
+TYPED_TEST(PageSheet, LeavesEscapeToThePageThatUsesIt) {
+  this->openBlue(
+      "<input onfocus=\"tell('in')\" onkeydown=\"if (event.key == 'Escape') { "
+      "event.preventDefault(); tell('used'); this.onkeydown = null }\">");
+  this->screen.key(Qt::Key_Tab);
+  this->screen.key(Qt::Key_Tab);
+  ASSERT_TRUE(this->reported("in"));
+  this->screen.key(Qt::Key_Escape);
+  EXPECT_TRUE(this->reported("used"));
+  EXPECT_TRUE(this->isOpen());
+  this->screen.key(Qt::Key_Escape);
+  EXPECT_TRUE(waitUntil([&] { return !this->isOpen(); }));
+}
+
+/// The processes that the engine runs for this one.
+int engineProcesses() {
+  int count = 0;
+  for (const QString& id : QDir(QStringLiteral("/proc")).entryList({"[0-9]*"}, QDir::Dirs)) {
+    QFile command("/proc/" + id + "/cmdline");
+    if (!command.open(QIODevice::ReadOnly)) continue;
+    const QByteArray line = command.readAll();
+    if (line.contains("QtWebEngineProcess") && line.contains("--type=renderer") &&
+        line.contains("web_tests")) {
+      ++count;
+    }
+  }
+  return count;
+}
+
+double residentMegabytes() {
+  QFile status(QStringLiteral("/proc/self/statm"));
+  if (!status.open(QIODevice::ReadOnly)) return 0;
+  return status.readAll().split(' ').value(1).toDouble() * 4096 / 1e6;
+}
+
+TYPED_TEST(PageSheet, LeaksNoProcessAndNoMemory) {
+  double before = 0;
+  for (int i = 0; i < 14; ++i) {
+    this->openBlue();
+    if (i % 2 == 0) this->screen.key(Qt::Key_Escape);
+    if (i % 2 == 1) this->screen.clickAt(this->kAtControl);
+    EXPECT_TRUE(waitUntil([&] { return this->latest.expired(); }));
+    EXPECT_LE(engineProcesses(), 4);
+    if (i == 3) before = residentMegabytes();
+  }
+  EXPECT_LT(residentMegabytes() - before, 30) << "for ten openings";
+  EXPECT_TRUE(waitUntil([] { return engineProcesses() <= 2; })) << engineProcesses();
+}
+
+}  // namespace
+}  // namespace quorix::testing

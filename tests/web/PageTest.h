@@ -1,0 +1,77 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QUrl>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/uikit/URLOpener.h"
+#include "tests/qt/Screens.h"
+#include "tests/qt/WaitUntil.h"
+#include "tests/web/PageRow.h"
+#include "tests/web/Pages.h"
+
+namespace quorix::testing {
+
+/// A window with a row that opens a sheet with a page, and the server that the page comes from.
+template <class Screen>
+class PageTest : public ::testing::Test {
+ protected:
+  static constexpr QPoint kInPage{100, 400};
+  static constexpr QPoint kAtControl{360 - 24, 10 + 64};
+
+  PageTest() {
+    pages().forgetRequests();
+    opener = screen.add(PageRow{[this] { return make(); }}, {20, 40, 300, 0});
+  }
+
+  /// Opens the sheet with the page at `address`.
+  void open(const std::string& address) {
+    address_ = address;
+    screen.click("Open page");
+  }
+  /// Opens `answer` as a page of the modules service, and waits until it is painted in `color`.
+  void openPainted(examples::StandInPages::Answer answer, QColor color) {
+    pages().serve("/page", std::move(answer));
+    open(std::string(kModules) + "/page");
+    ASSERT_TRUE(shows(color));
+  }
+  void openBlue(const QByteArray& content = {}, const QByteArray& script = {}) {
+    openPainted(page("#0000ff", content, script), Qt::blue);
+  }
+
+  QColor at(QPoint point) { return screen.grab().pixelColor(point); }
+  /// Whether the page ever gets this colour.
+  bool shows(QColor color, QPoint where = kInPage) {
+    return waitUntil([&] { return at(where) == color; });
+  }
+  static bool reported(const QString& what) {
+    return waitUntil([&] { return reports().contains(what); });
+  }
+  bool isOpen() { return screen.shows("Close page"); }
+
+  std::shared_ptr<webkit::WebContent> make() {
+    auto content = std::make_shared<webkit::WebContent>();
+    content->settings = settings;
+    content->onNewWindow = [this](const std::optional<foundation::URL>& url) {
+      windows.push_back(url ? url->absoluteString() : "none");
+    };
+    content->load(foundation::URL::parse(address_).value());
+    latest = content;
+    return content;
+  }
+
+  Screen screen;
+  decltype(screen.add(std::declval<swiftui::View>(), QRectF())) opener;
+  webkit::WebContent::Settings settings{true, true, true};
+  std::vector<std::string> windows;  ///< what was asked to leave the app
+  std::weak_ptr<webkit::WebContent> latest;
+
+ private:
+  std::string address_;
+};
+
+}  // namespace quorix::testing

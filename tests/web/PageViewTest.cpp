@@ -1,0 +1,226 @@
+#include <gmock/gmock.h>
+
+#include <QTest>
+
+#include "tests/qt/LoopbackServer.h"
+#include "tests/web/PageTest.h"
+
+namespace quorix::testing {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::Not;
+
+const QColor kGround(kPageGround.red, kPageGround.green, kPageGround.blue);
+
+template <class Screen>
+struct PageView : PageTest<Screen> {};
+TYPED_TEST_SUITE(PageView, Screens, ScreenName);
+
+TYPED_TEST(PageView, AsksForExactlyItsAddress) {
+  const struct {
+    const char* service;
+    const char* target;
+  } rows[] = {
+      {kModules, "/html/overlays/info?lang"},
+      {kWidget, "/users/details/?lang=no&name=A%20%26%20B%C3%A5+c&token=a/b?c%2541~"},
+  };
+  for (const auto& expected : rows) {
+    this->open(std::string(expected.service) + expected.target);
+    ASSERT_TRUE(waitUntil([] { return !pages().requests().empty(); }));
+    const auto& request = pages().requests().front();
+    EXPECT_EQ(request.line.toStdString(), std::string("GET ") + expected.target + " HTTP/1.1");
+    EXPECT_EQ("https://" + request.host.toStdString(), expected.service);
+    EXPECT_THAT(request.head.toStdString(), HasSubstr("QtWebEngine/"));
+    this->screen.key(Qt::Key_Escape);
+    pages().forgetRequests();
+  }
+}
+
+TYPED_TEST(PageView, ShowsItsGroundUntilThePageHasPaintedAndWhenItFails) {
+  pages().serve("/never", {.comes = false});
+  pages().serve("/empty", {.status = 404, .body = ""});
+  const LoopbackServer untrusted(LoopbackServer::Scheme::https);
+  const std::string rows[] = {
+      std::string(kModules) + "/never", std::string(kModules) + "/empty",  "https://127.0.0.1:1/",
+      untrusted.base() + "/",           "https://nowhere.quorix.example/",
+  };
+  for (const std::string& address : rows) {
+    this->open(address);
+    for (int i = 0; i < 10; ++i) this->screen.settle();
+    EXPECT_EQ(this->at(this->kInPage), kGround) << address;
+    EXPECT_TRUE(this->isOpen());
+    this->screen.key(Qt::Key_Escape);
+    EXPECT_FALSE(this->isOpen()) << address;
+  }
+  pages().serve("/missing", {.status = 404, .body = "<body style='background:#00f'>"});
+  this->open(std::string(kModules) + "/missing");
+  EXPECT_TRUE(this->shows(Qt::blue)) << "an error with a page is a page";
+}
+
+TYPED_TEST(PageView, LeavesItsGroundWhereThePageHasNone) {
+  this->openPainted(page("transparent", "<div style='background:#00f;height:60%'></div>"),
+                    Qt::blue);
+}
+
+TYPED_TEST(PageView, RunsScriptsOnlyWhereItMay) {
+  this->settings.allowsContentJavaScript = false;
+  this->openPainted(page("#00f", {}, "document.body.style.background = '#f00'"), Qt::blue);
+  EXPECT_TRUE(pages().requests("/here").empty());
+}
+
+struct NewWindow {
+  const char* what;
+  QByteArray content, script;
+  Qt::MouseButton click;
+  Qt::KeyboardModifiers modifiers;
+  bool unasked;  ///< scripts may open windows as they like
+  std::vector<std::string> asked;
+};
+
+const QByteArray kFill = "display:block;height:2000px;";
+const std::string kOther = std::string(kModules) + "/other?x=1";
+
+std::vector<NewWindow> newWindows() {
+  const QByteArray link = "<a style='" + kFill + "' href='/other?x=1' ";
+  const std::vector<std::string> once = {kOther};
+  return {
+      {"a blank target", link + "target=_blank>x</a>", {}, Qt::LeftButton, {}, true, once},
+      {"a named target", link + "target=elsewhere>x</a>", {}, Qt::LeftButton, {}, true, once},
+      {"the middle button", link + ">x</a>", {}, Qt::MiddleButton, {}, true, once},
+      {"the Control key", link + ">x</a>", {}, Qt::LeftButton, Qt::ControlModifier, true, once},
+      {"a script on click",
+       "<div style='" + kFill + "' onclick=\"open('/other?x=1')\">x</div>",
+       {},
+       Qt::LeftButton,
+       {},
+       false,
+       once},
+      {"a script by itself", {}, "open('/other?x=1')", Qt::NoButton, {}, true, once},
+      {"a script that may not", {}, "open('/other?x=1')", Qt::NoButton, {}, false, {}},
+      {"a flood",
+       {},
+       "for (let i = 0; i < 200; ++i) open('/other?x=1')",
+       Qt::NoButton,
+       {},
+       true,
+       std::vector<std::string>(200, kOther)},
+  };
+}
+
+TYPED_TEST(PageView, NewWindowsLeaveTheAppAndThePageStays) {
+  for (const NewWindow& row : newWindows()) {
+    this->windows.clear();
+    this->settings.javaScriptCanOpenWindowsAutomatically = row.unasked;
+    this->openBlue(row.content, row.script);
+    if (row.click != Qt::NoButton) {
+      QTest::mouseClick(&this->screen.window(), row.click, row.modifiers, this->kInPage);
+    }
+    EXPECT_TRUE(waitUntil([&] { return this->windows.size() >= row.asked.size(); })) << row.what;
+    this->screen.settle();
+    EXPECT_EQ(this->windows, row.asked) << row.what;
+    EXPECT_EQ(this->at(this->kInPage), QColor(Qt::blue)) << row.what;
+    EXPECT_TRUE(pages().requests("/other").empty()) << row.what;
+    this->screen.key(Qt::Key_Escape);
+  }
+}
+
+TYPED_TEST(PageView, MayEndWithTheWindowThatItAsksFor) {
+  this->openBlue("<div style='" + kFill + "' onclick=\"open('/other?x=1')\">x</div>");
+  auto page = this->latest.lock();
+  page->onNewWindow = [this](const auto&) { delete this->opener; };
+  page.reset();
+  QTest::mouseClick(&this->screen.window(), Qt::LeftButton, {}, this->kInPage);
+  EXPECT_TRUE(waitUntil([&] { return this->latest.expired(); }));
+}
+
+TYPED_TEST(PageView, ReachesNoFiles) {
+  const QByteArray secret = "file:///etc/passwd";
+  const QByteArray rows[] = {
+      "location = '" + secret + "'",
+      "document.body.innerHTML = \"<iframe src='" + secret + "' style='width:99%'></iframe>\"",
+      "const a = document.createElement('a'); a.href = '" + secret + "'; a.click()",
+      "location = 'chrome://version'",
+      "location = 'qrc:/quorix/web/quick/WebPage.qml'",
+      "location = 'view-source:" + secret + "'",
+  };
+  for (const QByteArray& script : rows) {
+    this->openBlue({}, "setTimeout(() => { try { " + script + " } catch (e) {} fetch('" +
+                              secret +
+                              "')"
+                              ".then(r => r.text()).then(t => tell('read ' + t))"
+                              ".catch(() => tell('refused')) }, 50)");
+    EXPECT_TRUE(this->reported("refused")) << script.toStdString();
+    this->screen.settle();
+    EXPECT_EQ(this->at(this->kInPage), QColor(Qt::blue)) << script.toStdString();
+    for (const QString& report : reports())
+      EXPECT_THAT(report.toStdString(), Not(HasSubstr("read")));
+    this->screen.key(Qt::Key_Escape);
+    pages().forgetRequests();
+  }
+}
+
+TYPED_TEST(PageView, AsksTheUserForNothing) {
+  this->openBlue({}, R"(
+    navigator.geolocation.getCurrentPosition(() => tell('place'), () => tell('no place'));
+    navigator.mediaDevices.getUserMedia({video: true})
+        .then(() => tell('camera'), () => tell('no camera'));
+    Notification.requestPermission().then(answer => tell('notices ' + answer)); )");
+  EXPECT_TRUE(this->reported("no place"));
+  EXPECT_TRUE(this->reported("no camera"));
+  EXPECT_TRUE(this->reported("notices denied"));
+}
+
+TYPED_TEST(PageView, FollowsLinksAndLeadsBackAndForward) {
+  for (const bool allowed : {true, false}) {
+    this->settings.allowsBackForwardNavigationGestures = allowed;
+    pages().serve("/next", page("#ff0000"));
+    this->openBlue("<a style='" + kFill + "' href='/next'>x</a>");
+    QTest::mouseClick(&this->screen.window(), Qt::LeftButton, {}, this->kInPage);
+    ASSERT_TRUE(this->shows(Qt::red));
+    this->screen.key(Qt::Key_Left, Qt::AltModifier);
+    EXPECT_TRUE(this->shows(allowed ? Qt::blue : Qt::red));
+    if (!allowed) continue;
+    this->screen.key(Qt::Key_Right, Qt::AltModifier);
+    EXPECT_TRUE(this->shows(Qt::red));
+    this->screen.key(Qt::Key_Back);
+    EXPECT_TRUE(this->shows(Qt::blue));
+    this->screen.key(Qt::Key_Back);
+    EXPECT_TRUE(waitUntil([&] { return !this->isOpen(); })) << "no way back but out";
+  }
+}
+
+TYPED_TEST(PageView, KeepsTheHostResponsiveUnderHostilePages) {
+  pages().serve("/round", [](const auto&) {
+    return examples::StandInPages::Answer{302, "", "Location: /round\r\n"};
+  });
+  const struct {
+    const char* path;
+    QByteArray script;
+  } rows[] = {
+      {"/page", "setTimeout(() => { for (;;); }, 50)"},
+      {"/page", "setInterval(() => { for (let i = 0; i < 50; ++i) open('/other') }, 20)"},
+      {"/page", "setInterval(() => { history.pushState(0, 0, '#' + Math.random()) }, 1)"},
+      {"/round", {}},
+  };
+  for (const auto& row : rows) {
+    pages().serve("/page", page("#0000ff", {}, row.script));
+    this->open(std::string(kModules) + row.path);
+    ASSERT_TRUE(waitUntil([] { return pages().requests().size() > 1; }));
+    QElapsedTimer turn;
+    qint64 longest = 0;
+    for (int i = 0; i < 30; ++i) {
+      turn.restart();
+      QTest::qWait(10);
+      longest = std::max(longest, turn.elapsed());
+    }
+    EXPECT_LT(longest, 250) << row.path << row.script.toStdString();
+    this->screen.clickAt(this->kAtControl);
+    EXPECT_FALSE(this->isOpen()) << row.path << row.script.toStdString();
+    pages().forgetRequests();
+  }
+}
+
+}  // namespace
+}  // namespace quorix::testing

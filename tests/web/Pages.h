@@ -1,0 +1,20 @@
+#pragma once
+
+#include "examples/common/StandInPages.h"
+
+namespace quorix::testing {
+
+constexpr const char* kModules = "https://modules.quorix.example";
+constexpr const char* kWidget = "https://widget.quorix.example";
+
+/// The process's one server: the engine keeps to the first that it was told of.
+examples::StandInPages& pages();
+
+/// A page of one colour that says that it is there by asking for /here. `script` runs before.
+examples::StandInPages::Answer page(const QByteArray& color, const QByteArray& content = {},
+                                    const QByteArray& script = {});
+
+/// What pages reported by asking for /report?WHAT, the query decoded.
+QStringList reports();
+
+}  // namespace quorix::testing
