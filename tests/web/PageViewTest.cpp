@@ -60,8 +60,9 @@ TYPED_TEST(PageView, ShowsItsGroundUntilThePageHasPaintedAndWhenItFails) {
 }
 
 TYPED_TEST(PageView, LeavesItsGroundWhereThePageHasNone) {
-  this->openPainted(page("transparent", "<div style='background:#00f;height:60%'></div>"),
+  this->openPainted(page("transparent", "<div style='background:#00f;height:480px'></div>"),
                     Qt::blue);
+  EXPECT_EQ(this->at({100, 590}), kGround);
 }
 
 TYPED_TEST(PageView, RunsScriptsOnlyWhereItMay) {
@@ -146,11 +147,10 @@ TYPED_TEST(PageView, ReachesNoFiles) {
       "location = 'view-source:" + secret + "'",
   };
   for (const QByteArray& script : rows) {
-    this->openBlue({}, "setTimeout(() => { try { " + script + " } catch (e) {} fetch('" +
-                              secret +
-                              "')"
-                              ".then(r => r.text()).then(t => tell('read ' + t))"
-                              ".catch(() => tell('refused')) }, 50)");
+    this->openBlue({}, "setTimeout(() => { try { " + script + " } catch (e) {} fetch('" + secret +
+                           "')"
+                           ".then(r => r.text()).then(t => tell('read ' + t))"
+                           ".catch(() => tell('refused')) }, 50)");
     EXPECT_TRUE(this->reported("refused")) << script.toStdString();
     this->screen.settle();
     EXPECT_EQ(this->at(this->kInPage), QColor(Qt::blue)) << script.toStdString();
