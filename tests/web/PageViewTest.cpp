@@ -92,7 +92,7 @@ std::vector<NewWindow> newWindows() {
       {"the middle button", link + ">x</a>", {}, Qt::MiddleButton, {}, true, once},
       {"the Control key", link + ">x</a>", {}, Qt::LeftButton, Qt::ControlModifier, true, once},
       {"a script on click",
-       "<div style='" + kFill + "' onclick=\"open('/other?x=1')\">x</div>",
+       "<div style='" + kFill + "' onclick=\"window.open('/other?x=1')\">x</div>",
        {},
        Qt::LeftButton,
        {},
@@ -128,7 +128,7 @@ TYPED_TEST(PageView, NewWindowsLeaveTheAppAndThePageStays) {
 }
 
 TYPED_TEST(PageView, MayEndWithTheWindowThatItAsksFor) {
-  this->openBlue("<div style='" + kFill + "' onclick=\"open('/other?x=1')\">x</div>");
+  this->openBlue("<div style='" + kFill + "' onclick=\"window.open('/other?x=1')\">x</div>");
   auto page = this->latest.lock();
   page->onNewWindow = [this](const auto&) { delete this->opener; };
   page.reset();
