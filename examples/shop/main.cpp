@@ -6,10 +6,16 @@
 #include <chrono>
 #include <cstdio>
 
-#include "examples/shop/Pictures.h"
+#ifdef Q_OS_LINUX
+#include <unistd.h>
+#endif
+
+#include "examples/shop/OverlayPages.h"
 #include "examples/shop/Shop.h"
 #include "examples/shop/ShopOptions.h"
 #include "examples/shop/StandInServices.h"
+#include "examples/shop/WayOut.h"
+#include "examples/shop/pictures/Pictures.h"
 #include "examples/shop/quick/QuickWindow.h"
 #include "examples/shop/widgets/WidgetsWindow.h"
 #include "qt/Engine.h"
@@ -31,9 +37,20 @@ bool hasDisplay() {
 void prepare() {
   QFont font;
   font.setFamilies({QStringLiteral("Inter"), QStringLiteral("Noto Sans"),
-                    QStringLiteral("Open Sans"), QFont().family()});
+                    QStringLiteral("Open Sans"), QStringLiteral("Noto Sans Arabic"),
+                    QStringLiteral("Noto Sans CJK JP"), QStringLiteral("VL PGothic"),
+                    QFont().family()});
   QGuiApplication::setFont(font);
   quorix::qt::installEngine();
+}
+
+/// What the web engine wants to find before there is an application object.
+void makeReadyForPages() {
+  QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+#ifdef Q_OS_LINUX
+  // It has no sandbox for root, which is who runs the demo in a container. Its pages are our own.
+  if (geteuid() == 0) qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
+#endif
 }
 
 int writePictures(int argc, char** argv, const std::string& folder) {
@@ -42,6 +59,7 @@ int writePictures(int argc, char** argv, const std::string& folder) {
   const QApplication app(argc, argv);
   prepare();
   const StandInServices services(0ms);
+  const OverlayPages pages;
   return Pictures(QString::fromStdString(folder)).write() ? 0 : 1;
 }
 
@@ -49,7 +67,9 @@ int openQuick(int argc, char** argv) {
   const QGuiApplication app(argc, argv);
   prepare();
   const StandInServices services(250ms);
+  const OverlayPages pages;
   Shop shop;
+  const WayOut wayOut(shop);
   const QuickWindow quick(shop);
   quick.window().show();
   return QGuiApplication::exec();
@@ -60,7 +80,9 @@ int openBoth(int argc, char** argv) {
   const QApplication app(argc, argv);
   prepare();
   const StandInServices services(250ms);
+  const OverlayPages pages;
   Shop shop;
+  const WayOut wayOut(shop);
   const QuickWindow quick(shop);
   WidgetsWindow widgets(shop);
   const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
@@ -88,6 +110,7 @@ int main(int argc, char** argv) {
     std::fputs(ShopOptions::usage(), stdout);
     return 0;
   }
+  makeReadyForPages();
   if (options.pictures) return writePictures(argc, argv, options.outFolder);
   if (!hasDisplay()) {
     std::printf("There is no display here: the shop's scenes go into %s as pictures.\n",

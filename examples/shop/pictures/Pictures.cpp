@@ -1,12 +1,12 @@
-#include "examples/shop/Pictures.h"
+#include "examples/shop/pictures/Pictures.h"
 
 #include <QDir>
 #include <algorithm>
 #include <cstdio>
 
-#include "examples/shop/QuickPictures.h"
-#include "examples/shop/WidgetPictures.h"
-#include "examples/shop/WindowPictures.h"
+#include "examples/shop/pictures/QuickPictures.h"
+#include "examples/shop/pictures/WidgetPictures.h"
+#include "examples/shop/pictures/WindowPictures.h"
 
 namespace quorix::examples {
 
