@@ -5,6 +5,8 @@
 #include <QJsonObject>
 #include <QUrlQuery>
 
+#include "examples/shop/Shop.h"
+
 namespace quorix::examples {
 namespace {
 
@@ -15,15 +17,15 @@ QByteArray file(const QString& name) {
 
 }  // namespace
 
-OverlayPages::OverlayPages() {
-  const auto answer = [](const StandInPages::Request& request) {
+OverlayPages::OverlayPages(const Shop& shop) : shop_(shop) {
+  const auto answer = [this](const StandInPages::Request& request) {
     return StandInPages::Answer{.body = page(request.query)};
   };
   pages_.serve("/html/overlays/info", answer);
   pages_.serve("/users/details/", answer);
 }
 
-QByteArray OverlayPages::page(const QByteArray& query) {
+QByteArray OverlayPages::page(const QByteArray& query) const {
   const QUrlQuery items(QString::fromUtf8(query));
   QString language = items.queryItemValue(QStringLiteral("lang"));
   QByteArray table = language.contains(u'/') ? QByteArray() : file(language + ".json");
@@ -37,6 +39,7 @@ QByteArray OverlayPages::page(const QByteArray& query) {
 
   QString text = QString::fromUtf8(file("overlay.html"));
   text.replace(QLatin1String("{{lang}}"), language);
+  text.replace(QLatin1String("{{scheme}}"), QLatin1String(shop_.dark() ? "dark" : "light"));
   text.replace(QLatin1String("{{hello}}"),
                name.isEmpty() ? QString() : "<p class=\"hello\">" + hello + "</p>");
   for (auto word = words.begin(); word != words.end(); ++word) {

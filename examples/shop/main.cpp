@@ -59,7 +59,6 @@ int writePictures(int argc, char** argv, const std::string& folder) {
   const QApplication app(argc, argv);
   prepare();
   const StandInServices services(0ms);
-  const OverlayPages pages;
   return Pictures(QString::fromStdString(folder)).write() ? 0 : 1;
 }
 
@@ -67,8 +66,8 @@ int openQuick(int argc, char** argv) {
   const QGuiApplication app(argc, argv);
   prepare();
   const StandInServices services(250ms);
-  const OverlayPages pages;
   Shop shop;
+  const OverlayPages pages(shop);
   const WayOut wayOut(shop);
   const QuickWindow quick(shop);
   quick.window().show();
@@ -80,8 +79,8 @@ int openBoth(int argc, char** argv) {
   const QApplication app(argc, argv);
   prepare();
   const StandInServices services(250ms);
-  const OverlayPages pages;
   Shop shop;
+  const OverlayPages pages(shop);
   const WayOut wayOut(shop);
   const QuickWindow quick(shop);
   WidgetsWindow widgets(shop);

@@ -76,7 +76,7 @@ const QQuickItem& opener(const QQuickWindow& window, Open what) {
 
 }  // namespace
 
-QuickPictures::QuickPictures() : face_(shop_) {
+QuickPictures::QuickPictures(Shop& shop) : shop_(shop), face_(shop) {
   face_.window().show();
   while (!face_.window().isExposed()) {
     QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);

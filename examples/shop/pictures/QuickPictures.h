@@ -13,7 +13,8 @@ struct ShopScene;
 /// Pictures of the shop's Qt Quick face. Main thread.
 class QuickPictures {
  public:
-  QuickPictures();
+  /// `shop` lives longer.
+  explicit QuickPictures(Shop& shop);
 
   /// Hands each picture with its name to `keep`, until that says false.
   bool each(const std::function<bool(const QImage&, const char* name)>& keep);
@@ -21,7 +22,7 @@ class QuickPictures {
  private:
   QImage pictureOf(const ShopScene& scene);
 
-  Shop shop_;
+  Shop& shop_;
   QuickWindow face_;
 };
 

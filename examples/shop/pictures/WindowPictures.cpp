@@ -67,7 +67,7 @@ WidgetPanel& opener(QWidget& window, Open what) {
 
 }  // namespace
 
-WindowPictures::WindowPictures() : face_(shop_) { face_.show(); }
+WindowPictures::WindowPictures(Shop& shop) : shop_(shop), face_(shop) { face_.show(); }
 
 bool WindowPictures::each(const std::function<bool(const QImage&, const char* name)>& keep) {
   const bool hasPages = qt::WebComponentLoader::isThere("QuorixWebWidgets");

@@ -13,7 +13,8 @@ struct ShopScene;
 /// Pictures of the shop's Qt Widgets face. Main thread.
 class WindowPictures {
  public:
-  WindowPictures();
+  /// `shop` lives longer.
+  explicit WindowPictures(Shop& shop);
 
   /// Hands each picture with its name to `keep`, until that says false.
   bool each(const std::function<bool(const QImage&, const char* name)>& keep);
@@ -21,7 +22,7 @@ class WindowPictures {
  private:
   QImage pictureOf(const ShopScene& scene);
 
-  Shop shop_;
+  Shop& shop_;
   WidgetsWindow face_;
 };
 
