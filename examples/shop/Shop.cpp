@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QGuiApplication>
 #include <QPalette>
+#include <chrono>
 
 namespace quorix::examples {
 namespace {
@@ -24,6 +25,9 @@ bool desktopIsDark() {
 
 Shop::Shop(QObject* parent) : QObject(parent), words_(ShopLanguage::all().front().code) {
   qGuiApp->installEventFilter(this);
+  backAgain_.setSingleShot(true);
+  backAgain_.setInterval(std::chrono::seconds(8));
+  connect(&backAgain_, &QTimer::timeout, this, [this] { leaveFor({}); });
 }
 
 QStringList Shop::shoppers() { return namesOf(Shopper::all()); }
@@ -67,6 +71,12 @@ void Shop::openBag(bool open) {
   emit changed();
 }
 
+void Shop::leaveFor(const QString& address) {
+  leftFor_ = address;
+  if (!address.isEmpty()) backAgain_.start();
+  emit changed();
+}
+
 QVariantList Shop::bagLines() const {
   QVariantList list;
   for (const Bag::Line& line : bag_.lines()) {
@@ -87,8 +97,8 @@ void Shop::takeOut(const QString& size) {
   emit changed();
 }
 
-void Shop::emptyBag() {
-  bag_ = {};
+void Shop::fillBag(const Bag& bag) {
+  bag_ = bag;
   emit changed();
 }
 

@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QStringList>
+#include <QTimer>
 #include <QVariantList>
 #include <QVariantMap>
 
@@ -46,6 +47,8 @@ class Shop : public QObject {
 
   Q_PROPERTY(QString size READ size WRITE chooseSize NOTIFY changed)
   Q_PROPERTY(bool bagOpen READ bagOpen WRITE openBag NOTIFY changed)
+  /// The address that was last opened outside the app, for a while.
+  Q_PROPERTY(QString leftFor READ leftFor NOTIFY changed)
   Q_PROPERTY(int bagCount READ bagCount NOTIFY changed)
   /// { size, count, price } each.
   Q_PROPERTY(QVariantList bagLines READ bagLines NOTIFY changed)
@@ -98,6 +101,9 @@ class Shop : public QObject {
   bool bagOpen() const { return bagOpen_; }
   void openBag(bool open);
 
+  QString leftFor() const { return leftFor_; }
+  void leaveFor(const QString& address);
+
   const Bag& bag() const { return bag_; }
   int bagCount() const { return bag_.count(); }
   QVariantList bagLines() const;
@@ -106,14 +112,13 @@ class Shop : public QObject {
   /// Puts a piece of the chosen size into the bag and says so.
   Q_INVOKABLE void addToBag();
   Q_INVOKABLE void takeOut(const QString& size);
-  void emptyBag();
+  /// Fills the bag, which says nothing.
+  void fillBag(const Bag& bag);
 
  signals:
   void changed();
   /// A word of confirmation for the shopper.
   void noticed(const QString& words);
-  /// A page's address was opened outside the app.
-  void leftFor(const QString& address);
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -126,6 +131,8 @@ class Shop : public QObject {
   QString size_ = QStringLiteral("M");
   bool moving_ = true;
   bool bagOpen_ = false;
+  QString leftFor_;
+  QTimer backAgain_;
   Bag bag_;
 };
 

@@ -6,10 +6,16 @@
 #include <chrono>
 #include <cstdio>
 
-#include "examples/shop/Pictures.h"
+#ifdef Q_OS_LINUX
+#include <unistd.h>
+#endif
+
+#include "examples/shop/OverlayPages.h"
 #include "examples/shop/Shop.h"
 #include "examples/shop/ShopOptions.h"
 #include "examples/shop/StandInServices.h"
+#include "examples/shop/WayOut.h"
+#include "examples/shop/pictures/Pictures.h"
 #include "examples/shop/quick/QuickWindow.h"
 #include "examples/shop/widgets/WidgetsWindow.h"
 #include "qt/Engine.h"
@@ -31,9 +37,20 @@ bool hasDisplay() {
 void prepare() {
   QFont font;
   font.setFamilies({QStringLiteral("Inter"), QStringLiteral("Noto Sans"),
-                    QStringLiteral("Open Sans"), QFont().family()});
+                    QStringLiteral("Open Sans"), QStringLiteral("Noto Sans Arabic"),
+                    QStringLiteral("Noto Sans CJK JP"), QStringLiteral("VL PGothic"),
+                    QFont().family()});
   QGuiApplication::setFont(font);
   quorix::qt::installEngine();
+}
+
+/// What the web engine wants to find before there is an application object.
+void makeReadyForPages() {
+  QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+#ifdef Q_OS_LINUX
+  // It has no sandbox for root, which is who runs the demo in a container. Its pages are our own.
+  if (geteuid() == 0) qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
+#endif
 }
 
 int writePictures(int argc, char** argv, const std::string& folder) {
@@ -50,6 +67,8 @@ int openQuick(int argc, char** argv) {
   prepare();
   const StandInServices services(250ms);
   Shop shop;
+  const OverlayPages pages(shop);
+  const WayOut wayOut(shop);
   const QuickWindow quick(shop);
   quick.window().show();
   return QGuiApplication::exec();
@@ -61,6 +80,8 @@ int openBoth(int argc, char** argv) {
   prepare();
   const StandInServices services(250ms);
   Shop shop;
+  const OverlayPages pages(shop);
+  const WayOut wayOut(shop);
   const QuickWindow quick(shop);
   WidgetsWindow widgets(shop);
   const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
@@ -88,6 +109,7 @@ int main(int argc, char** argv) {
     std::fputs(ShopOptions::usage(), stdout);
     return 0;
   }
+  makeReadyForPages();
   if (options.pictures) return writePictures(argc, argv, options.outFolder);
   if (!hasDisplay()) {
     std::printf("There is no display here: the shop's scenes go into %s as pictures.\n",

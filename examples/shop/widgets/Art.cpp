@@ -26,6 +26,7 @@ void Art::paintEvent(QPaintEvent*) {
   painter.setPen(Qt::NoPen);
   painter.setBrush(palette().alternateBase());
   painter.drawRoundedRect(rect(), radius_, radius_);
+  painter.setBrush(Qt::NoBrush);  // which a drawing starts from
   drawing_.render(&painter, QRectF(rect()).adjusted(margin_, margin_, -margin_, -margin_));
 }
 

@@ -4,6 +4,8 @@
 #include <QPainter>
 #include <QWheelEvent>
 
+#include "examples/shop/widgets/FocusShown.h"
+
 namespace quorix::examples {
 namespace {
 
@@ -41,7 +43,7 @@ ChoiceBox::ChoiceBox(const QString& caption, const QStringList& values, QWidget*
 void ChoiceBox::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(hasFocus() ? QPen(QColor("#ffc24b"), 2) : QPen(Qt::NoPen));
+  painter.setPen(isFocusShown(*this) ? QPen(QColor("#ffc24b"), 2) : QPen(Qt::NoPen));
   painter.setBrush(QColor(underMouse() ? "#3a4152" : "#2f3543"));
   painter.drawRoundedRect(QRectF(rect()).adjusted(1, 0, -1, 0), 6, 6);
   arrow_.render(&painter, QRectF(width() - 19, (height() - 10) / 2, 10, 10));

@@ -2,6 +2,8 @@
 
 #include <QPainter>
 
+#include "examples/shop/widgets/FocusShown.h"
+
 namespace quorix::examples {
 
 IconButton::IconButton(const QString& name, QWidget* parent)
@@ -22,8 +24,9 @@ void IconButton::setBadge(int number) {
 void IconButton::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  if (underMouse() || hasFocus()) {
-    painter.setPen(hasFocus() ? QPen(palette().color(QPalette::WindowText), 2) : QPen(Qt::NoPen));
+  if (underMouse() || isFocusShown(*this)) {
+    painter.setPen(isFocusShown(*this) ? QPen(palette().color(QPalette::WindowText), 2)
+                                       : QPen(Qt::NoPen));
     painter.setBrush(palette().alternateBase());
     painter.drawEllipse(rect().adjusted(1, 1, -1, -1));
   }

@@ -1,5 +1,7 @@
 #include "examples/shop/widgets/Label.h"
 
+#include <QEvent>
+
 namespace quorix::examples {
 namespace {
 
@@ -32,6 +34,18 @@ Label::Label(Look look, QWidget* parent) : QLabel(parent) {
   setForegroundRole(look == Look::quiet ? QPalette::PlaceholderText : QPalette::WindowText);
   setTextFormat(Qt::PlainText);
   setWordWrap(true);
+  align();
+}
+
+void Label::changeEvent(QEvent* event) {
+  QLabel::changeEvent(event);
+  if (event->type() == QEvent::LayoutDirectionChange) align();
+}
+
+// By the page, not by the words: a price has none that are from right to left.
+void Label::align() {
+  setAlignment(Qt::AlignAbsolute | Qt::AlignVCenter |
+               (isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft));
 }
 
 }  // namespace quorix::examples

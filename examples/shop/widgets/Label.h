@@ -19,6 +19,12 @@ class Label : public QLabel {
   };
 
   explicit Label(Look look, QWidget* parent = nullptr);
+
+ protected:
+  void changeEvent(QEvent* event) override;
+
+ private:
+  void align();
 };
 
 }  // namespace quorix::examples

@@ -2,6 +2,8 @@
 
 #include <QHBoxLayout>
 
+#include "examples/shop/widgets/OverlayScrollBar.h"
+
 namespace quorix::examples {
 namespace {
 
@@ -14,6 +16,7 @@ ScrollPage::ScrollPage(QWidget* parent) : QScrollArea(parent) {
   setFrameShape(QFrame::NoFrame);
   setWidgetResizable(true);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  new OverlayScrollBar(*this);
   auto* body = new QWidget;
   auto* middle = new QWidget(body);
   middle->setMaximumWidth(readable + 2 * margin);

@@ -3,6 +3,8 @@
 #include <QPainter>
 #include <QStyle>
 
+#include "examples/shop/widgets/FocusShown.h"
+
 namespace quorix::examples {
 
 ShopButton::ShopButton(Look look, QWidget* parent) : QAbstractButton(parent), look_(look) {
@@ -43,10 +45,10 @@ void ShopButton::paintEvent(QPaintEvent*) {
   QFont face = font();
   if (look_ == Look::chip && isChecked()) face.setWeight(QFont::DemiBold);
   if (look_ == Look::link) {
-    face.setUnderline(underMouse() || hasFocus());
+    face.setUnderline(underMouse() || isFocusShown(*this));
   } else {
-    const double line = hasFocus() ? 2 : isFilled() ? 0 : 1;
-    const auto color = hasFocus() ? QPalette::WindowText : QPalette::Mid;
+    const double line = isFocusShown(*this) ? 2 : isFilled() ? 0 : 1;
+    const auto color = isFocusShown(*this) ? QPalette::WindowText : QPalette::Mid;
     painter.setPen(line > 0 ? QPen(palette().color(color), line) : QPen(Qt::NoPen));
     painter.setBrush(ground());
     const double radius = look_ == Look::primary ? 12 : 8;

@@ -7,6 +7,7 @@
 
 #include "examples/shop/Shop.h"
 #include "examples/shop/widgets/DemoBar.h"
+#include "examples/shop/widgets/DemoNote.h"
 #include "examples/shop/widgets/ShopScreen.h"
 
 namespace quorix::examples {
@@ -41,6 +42,7 @@ WidgetsWindow::WidgetsWindow(Shop& shop) : shop_(shop) {
   all->setContentsMargins(0, 0, 0, 0);
   all->setSpacing(0);
   all->addWidget(new DemoBar(shop, this));
+  all->addWidget(new DemoNote(shop, this));
   all->addWidget(new ShopScreen(shop, this), 1);
   auto* quit = new QShortcut(QKeySequence::Quit, this);
   connect(quit, &QShortcut::activated, qApp, &QApplication::quit);

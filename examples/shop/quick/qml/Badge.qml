@@ -11,7 +11,7 @@ Rectangle {
     radius: height / 2
     color: Shop.colors.accent
 
-    onCountChanged: if (visible) pulse.restart()
+    onCountChanged: if (visible && Shop.moving) pulse.restart()
 
     Text {
         id: label

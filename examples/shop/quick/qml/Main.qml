@@ -24,6 +24,10 @@ ApplicationWindow {
             Layout.fillWidth: true
         }
 
+        DemoNote {
+            Layout.fillWidth: true
+        }
+
         ShopScreen {
             Layout.fillWidth: true
             Layout.fillHeight: true

@@ -4,16 +4,17 @@
 #include <functional>
 
 #include "examples/shop/Shop.h"
-#include "examples/shop/widgets/WidgetsWindow.h"
+#include "examples/shop/quick/QuickWindow.h"
 
 namespace quorix::examples {
 
 struct ShopScene;
 
-/// Pictures of the shop's Qt Widgets face. Main thread.
-class WindowPictures {
+/// Pictures of the shop's Qt Quick face. Main thread.
+class QuickPictures {
  public:
-  WindowPictures();
+  /// `shop` lives longer.
+  explicit QuickPictures(Shop& shop);
 
   /// Hands each picture with its name to `keep`, until that says false.
   bool each(const std::function<bool(const QImage&, const char* name)>& keep);
@@ -21,8 +22,8 @@ class WindowPictures {
  private:
   QImage pictureOf(const ShopScene& scene);
 
-  Shop shop_;
-  WidgetsWindow face_;
+  Shop& shop_;
+  QuickWindow face_;
 };
 
 }  // namespace quorix::examples

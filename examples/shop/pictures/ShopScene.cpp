@@ -1,4 +1,4 @@
-#include "examples/shop/ShopScene.h"
+#include "examples/shop/pictures/ShopScene.h"
 
 #include "examples/shop/Shop.h"
 
@@ -7,14 +7,11 @@ namespace quorix::examples {
 void ShopScene::set(Shop& shop) const {
   shop.setMoving(false);
   shop.choose(choices);
-  shop.emptyBag();
+  Bag bag;
   if (page == Page::bag) {
-    for (const char* size : {"M", "M", "L"}) {
-      shop.chooseSize(QLatin1String(size));
-      shop.addToBag();
-    }
+    for (const char* size : {"M", "M", "L"}) bag.add(QLatin1String(size));
   }
-  shop.chooseSize(QStringLiteral("M"));
+  shop.fillBag(bag);
   shop.openBag(page != Page::product);
 }
 

@@ -1,13 +1,13 @@
-#include "examples/shop/WidgetPictures.h"
+#include "examples/shop/pictures/WidgetPictures.h"
 
 #include <QQuickWindow>
 #include <algorithm>
 
 #include "QuorixWidgets/info/InfoWidgetBuilder.h"
 #include "QuorixWidgets/score/ScoreWidgetBuilder.h"
-#include "examples/shop/Cast.h"
-#include "examples/shop/Settling.h"
 #include "examples/shop/Shop.h"
+#include "examples/shop/pictures/Cast.h"
+#include "examples/shop/pictures/Settling.h"
 #include "platform/swiftui/UIViewRepresentable.h"
 #include "qt/Picture.h"
 #include "qt/quick/ViewItem.h"

@@ -1,14 +1,15 @@
-#include "examples/shop/WindowPictures.h"
+#include "examples/shop/pictures/WindowPictures.h"
 
 #include <QApplication>
 #include <QMouseEvent>
 #include <algorithm>
 
-#include "examples/shop/Cast.h"
-#include "examples/shop/Settling.h"
-#include "examples/shop/ShopScene.h"
+#include "examples/shop/pictures/Cast.h"
+#include "examples/shop/pictures/Settling.h"
+#include "examples/shop/pictures/ShopScene.h"
 #include "examples/shop/widgets/WidgetPanel.h"
 #include "platform/foundation/FatalError.h"
+#include "qt/WebComponentLoader.h"
 
 namespace quorix::examples {
 namespace {
@@ -27,6 +28,8 @@ constexpr ShopScene scenes[] = {
     {"widgets-bag-dark", {ana, german, dark}, Page::bag},
     {"widgets-sheet-light", {ana, english, light}, Page::product, Open::details},
     {"widgets-sheet-dark", {ana, english, dark}, Page::product, Open::details},
+    {"widgets-overlay-en-light", {ana, english, light}, Page::product, Open::overlay},
+    {"widgets-overlay-es-dark", {ana, spanish, dark}, Page::product, Open::overlay},
 };
 
 void tap(QWidget& widget) {
@@ -64,11 +67,13 @@ WidgetPanel& opener(QWidget& window, Open what) {
 
 }  // namespace
 
-WindowPictures::WindowPictures() : face_(shop_) { face_.show(); }
+WindowPictures::WindowPictures(Shop& shop) : shop_(shop), face_(shop) { face_.show(); }
 
 bool WindowPictures::each(const std::function<bool(const QImage&, const char* name)>& keep) {
-  return std::ranges::all_of(
-      scenes, [&](const ShopScene& scene) { return keep(pictureOf(scene), scene.name); });
+  const bool hasPages = qt::WebComponentLoader::isThere("QuorixWebWidgets");
+  return std::ranges::all_of(scenes, [&](const ShopScene& scene) {
+    return (scene.open == Open::overlay && !hasPages) || keep(pictureOf(scene), scene.name);
+  });
 }
 
 QImage WindowPictures::pictureOf(const ShopScene& scene) {
@@ -76,7 +81,8 @@ QImage WindowPictures::pictureOf(const ShopScene& scene) {
   const QImage page = frameOf(face_);
   if (scene.open == Open::nothing) return page;
   tap(opener(face_, scene.open));
-  const QImage sheet = frameOf(face_);
+  const QImage sheet =
+      scene.open == Open::overlay ? frameWithPage([&] { return frameOf(face_); }) : frameOf(face_);
   press(face_, Qt::Key_Escape);
   settle();
   return sheet;

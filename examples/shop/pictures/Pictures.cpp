@@ -1,12 +1,14 @@
-#include "examples/shop/Pictures.h"
+#include "examples/shop/pictures/Pictures.h"
 
 #include <QDir>
 #include <algorithm>
 #include <cstdio>
 
-#include "examples/shop/QuickPictures.h"
-#include "examples/shop/WidgetPictures.h"
-#include "examples/shop/WindowPictures.h"
+#include "examples/shop/OverlayPages.h"
+#include "examples/shop/Shop.h"
+#include "examples/shop/pictures/QuickPictures.h"
+#include "examples/shop/pictures/WidgetPictures.h"
+#include "examples/shop/pictures/WindowPictures.h"
 
 namespace quorix::examples {
 
@@ -16,7 +18,10 @@ bool Pictures::write() const {
     return false;
   }
   const auto keep = [this](const QImage& image, const char* name) { return save(image, name); };
-  return WidgetPictures::each(keep) && QuickPictures().each(keep) && WindowPictures().each(keep);
+  Shop shop;
+  const OverlayPages pages(shop);
+  return WidgetPictures::each(keep) && QuickPictures(shop).each(keep) &&
+         WindowPictures(shop).each(keep);
 }
 
 bool Pictures::save(const QImage& image, const char* name) const {

@@ -1,16 +1,17 @@
-#include "examples/shop/QuickPictures.h"
+#include "examples/shop/pictures/QuickPictures.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QMouseEvent>
 #include <algorithm>
 
-#include "examples/shop/Cast.h"
-#include "examples/shop/Settling.h"
-#include "examples/shop/ShopScene.h"
+#include "examples/shop/pictures/Cast.h"
+#include "examples/shop/pictures/Settling.h"
+#include "examples/shop/pictures/ShopScene.h"
 #include "examples/shop/quick/InfoBox.h"
 #include "examples/shop/quick/ScoreRow.h"
 #include "platform/foundation/FatalError.h"
+#include "qt/WebComponentLoader.h"
 
 namespace quorix::examples {
 namespace {
@@ -33,6 +34,10 @@ constexpr ShopScene scenes[] = {
     {"shop-sheet-dark", {ana, english, dark}, Page::product, Open::details},
     {"shop-sheet-es-light", {ben, spanish, light}, Page::product, Open::details},
     {"shop-sheet-ar-rtl", {ana, arabic, dark}, Page::product, Open::details},
+    {"shop-overlay-en-light", {ana, english, light}, Page::product, Open::overlay},
+    {"shop-overlay-es-dark", {ana, spanish, dark}, Page::product, Open::overlay},
+    {"shop-overlay-ar-rtl", {ana, arabic, light}, Page::product, Open::overlay},
+    {"shop-overlay-ja-light", {ana, japanese, light}, Page::product, Open::overlay},
 };
 
 void tap(QQuickWindow& window, const QQuickItem& item) {
@@ -71,7 +76,7 @@ const QQuickItem& opener(const QQuickWindow& window, Open what) {
 
 }  // namespace
 
-QuickPictures::QuickPictures() : face_(shop_) {
+QuickPictures::QuickPictures(Shop& shop) : shop_(shop), face_(shop) {
   face_.window().show();
   while (!face_.window().isExposed()) {
     QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
@@ -79,8 +84,10 @@ QuickPictures::QuickPictures() : face_(shop_) {
 }
 
 bool QuickPictures::each(const std::function<bool(const QImage&, const char* name)>& keep) {
-  return std::ranges::all_of(
-      scenes, [&](const ShopScene& scene) { return keep(pictureOf(scene), scene.name); });
+  const bool hasPages = qt::WebComponentLoader::isThere("QuorixWebQuick");
+  return std::ranges::all_of(scenes, [&](const ShopScene& scene) {
+    return (scene.open == Open::overlay && !hasPages) || keep(pictureOf(scene), scene.name);
+  });
 }
 
 QImage QuickPictures::pictureOf(const ShopScene& scene) {
@@ -89,7 +96,8 @@ QImage QuickPictures::pictureOf(const ShopScene& scene) {
   const QImage page = frameOf(window);
   if (scene.open == Open::nothing) return page;
   tap(window, opener(window, scene.open));
-  const QImage sheet = frameOf(window);
+  const QImage sheet = scene.open == Open::overlay ? frameWithPage([&] { return frameOf(window); })
+                                                   : frameOf(window);
   press(window, Qt::Key_Escape);
   settle();
   return sheet;

@@ -4,16 +4,17 @@
 #include <functional>
 
 #include "examples/shop/Shop.h"
-#include "examples/shop/quick/QuickWindow.h"
+#include "examples/shop/widgets/WidgetsWindow.h"
 
 namespace quorix::examples {
 
 struct ShopScene;
 
-/// Pictures of the shop's Qt Quick face. Main thread.
-class QuickPictures {
+/// Pictures of the shop's Qt Widgets face. Main thread.
+class WindowPictures {
  public:
-  QuickPictures();
+  /// `shop` lives longer.
+  explicit WindowPictures(Shop& shop);
 
   /// Hands each picture with its name to `keep`, until that says false.
   bool each(const std::function<bool(const QImage&, const char* name)>& keep);
@@ -21,8 +22,8 @@ class QuickPictures {
  private:
   QImage pictureOf(const ShopScene& scene);
 
-  Shop shop_;
-  QuickWindow face_;
+  Shop& shop_;
+  WidgetsWindow face_;
 };
 
 }  // namespace quorix::examples

@@ -1,0 +1,28 @@
+import QtQuick
+import Quorix.Shop
+
+// What the demo has to say for itself: the address that a page or a widget opened outside the app,
+// where a real one would have gone to the browser.
+Rectangle {
+    visible: Shop.leftFor !== ""
+    color: "#ffc24b"
+    implicitHeight: visible ? note.implicitHeight + 20 : 0
+
+    Text {
+        id: note
+        anchors {
+            left: parent.left
+            right: parent.right
+            margins: 14
+            verticalCenter: parent.verticalCenter
+        }
+        text: "Opened outside the app: " + Shop.leftFor
+              + "\nThis is a demo, and nothing answers there."
+        color: "#20242f"
+        font.pixelSize: 13
+        lineHeight: 1.2
+        wrapMode: Text.WrapAnywhere
+        Accessible.role: Accessible.AlertMessage
+        Accessible.name: text
+    }
+}
