@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/swiftui/UIViewControllerRepresentable.h"
+#include "platform/hosting/ControllerPresentation.h"
 #include "platform/uikit/UIApplication.h"
 #include "qt/SheetSurface.h"
 
@@ -18,17 +18,6 @@ using Controller = std::shared_ptr<uikit::UIViewController>;
 std::vector<WindowScene*>& scenes() {
   static std::vector<WindowScene*> all;
   return all;
-}
-
-/// True until the user closes the sheet, which dismisses the controller.
-swiftui::Binding<bool> isPresented(const Controller& controller) {
-  auto box = std::make_shared<swiftui::StateBox<bool>>(swiftui::StateBox<bool>{true, {}});
-  box->onChange = [weak = std::weak_ptr(controller)] {
-    const Controller shown = weak.lock();
-    const Controller presenter = shown ? shown->presentingViewController() : nullptr;
-    if (presenter) presenter->dismiss(true);
-  };
-  return swiftui::Binding<bool>(std::move(box));
 }
 
 }  // namespace
@@ -112,7 +101,7 @@ void WindowScene::show(const Controller& controller) {
   EnvironmentSource settings = settings_;
   if (!animated_) settings.motion = false;
   sheet->setSettings(settings);
-  sheet->present({isPresented(controller), swiftui::hosting(controller)});
+  sheet->present(hosting::controllerPresentation(controller));
   shown_.push_back({controller, sheet, &sheet->object()});
 }
 

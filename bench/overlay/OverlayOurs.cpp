@@ -8,6 +8,7 @@
 #include "bench/BenchApplication.h"
 #include "bench/InfoSubject.h"
 #include "bench/overlay/OverlayClock.h"
+#include "platform/uikit/URLOpener.h"
 #include "qt/quick/ViewItem.h"
 
 namespace {
@@ -34,6 +35,7 @@ int main(int argc, char** argv) {
   using namespace quorix::bench;
   QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
   const BenchApplication application(argc, argv);
+  quorix::uikit::URLOpener::install(nullptr);  // without the engine the page would open elsewhere
   QQuickWindow window;
   window.resize(375, 700);
   const InfoSubject info(InfoSubject::Form::declarative);

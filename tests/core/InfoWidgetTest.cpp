@@ -85,6 +85,7 @@ TEST(InfoWidgetViewModel, ATitleWithoutPiecesStopsTheProcess) {
   }
   EXPECT_DEATH(
       {
+        libraryBundle();  // so that its first use does not bring it back
         foundation::Bundle::registerBundle(kResourceBundleIdentifier, nullptr);
         infoModel()->getInfoTitle();
       },
@@ -110,6 +111,7 @@ TEST(InfoWidgetView, IsTheTreeExpected) {
 }
 
 TEST(InfoWidgetView, WithoutItsLogoOrItsTextsItStillStands) {
+  infoModel()->getInfoTitle();  // the faces are there before their files go
   const OtherResources nothing("");
   TestWindow window(InfoWidgetView{infoModel()}, {}, {420, 100});
   for (const auto& item : window.shown().items) {

@@ -41,7 +41,7 @@ TEST_F(ToolStringsCheck, EveryMistakeIsALine) {
   write("en", english());
   write("de", english().replace("%.0f", "%d").replace("\"widget-read-more\"", "\"a\\n\\033b\""));
   write("es", "// ok\n\"info-widget-title\" = \"x\"\n");
-  write("pt-BR", english().replace("Hi %@", "Oi"));
+  write("pt-BR", english().replace("%@", ""));
   QDir().mkpath(tool_.path("fr.lproj"));
   const auto run = tool_.run({"strings", "check", tool_.path("")});
   EXPECT_EQ(run.status, 1);

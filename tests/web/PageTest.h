@@ -36,7 +36,11 @@ class PageTest : public ::testing::Test {
   /// Opens `answer` as a page of the modules service, and waits until it is painted in `color`.
   void openPainted(examples::StandInPages::Answer answer, QColor color) {
     pages().serve("/page", std::move(answer));
+    pages().forgetRequests();
     open(std::string(kModules) + "/page");
+    if (settings.allowsContentJavaScript) {
+      ASSERT_TRUE(waitUntil([] { return !pages().requests("/here").empty(); }));
+    }
     ASSERT_TRUE(shows(color));
   }
   void openBlue(const QByteArray& content = {}, const QByteArray& script = {}) {

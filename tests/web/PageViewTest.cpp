@@ -60,8 +60,9 @@ TYPED_TEST(PageView, ShowsItsGroundUntilThePageHasPaintedAndWhenItFails) {
 }
 
 TYPED_TEST(PageView, LeavesItsGroundWhereThePageHasNone) {
-  this->openPainted(page("transparent", "<div style='background:#00f;height:60%'></div>"),
+  this->openPainted(page("transparent", "<div style='background:#00f;height:480px'></div>"),
                     Qt::blue);
+  EXPECT_EQ(this->at({100, 590}), kGround);
 }
 
 TYPED_TEST(PageView, RunsScriptsOnlyWhereItMay) {
@@ -91,7 +92,7 @@ std::vector<NewWindow> newWindows() {
       {"the middle button", link + ">x</a>", {}, Qt::MiddleButton, {}, true, once},
       {"the Control key", link + ">x</a>", {}, Qt::LeftButton, Qt::ControlModifier, true, once},
       {"a script on click",
-       "<div style='" + kFill + "' onclick=\"open('/other?x=1')\">x</div>",
+       "<div style='" + kFill + "' onclick=\"window.open('/other?x=1')\">x</div>",
        {},
        Qt::LeftButton,
        {},
@@ -127,7 +128,7 @@ TYPED_TEST(PageView, NewWindowsLeaveTheAppAndThePageStays) {
 }
 
 TYPED_TEST(PageView, MayEndWithTheWindowThatItAsksFor) {
-  this->openBlue("<div style='" + kFill + "' onclick=\"open('/other?x=1')\">x</div>");
+  this->openBlue("<div style='" + kFill + "' onclick=\"window.open('/other?x=1')\">x</div>");
   auto page = this->latest.lock();
   page->onNewWindow = [this](const auto&) { delete this->opener; };
   page.reset();
@@ -146,11 +147,10 @@ TYPED_TEST(PageView, ReachesNoFiles) {
       "location = 'view-source:" + secret + "'",
   };
   for (const QByteArray& script : rows) {
-    this->openBlue({}, "setTimeout(() => { try { " + script + " } catch (e) {} fetch('" +
-                              secret +
-                              "')"
-                              ".then(r => r.text()).then(t => tell('read ' + t))"
-                              ".catch(() => tell('refused')) }, 50)");
+    this->openBlue({}, "setTimeout(() => { try { " + script + " } catch (e) {} fetch('" + secret +
+                           "')"
+                           ".then(r => r.text()).then(t => tell('read ' + t))"
+                           ".catch(() => tell('refused')) }, 50)");
     EXPECT_TRUE(this->reported("refused")) << script.toStdString();
     this->screen.settle();
     EXPECT_EQ(this->at(this->kInPage), QColor(Qt::blue)) << script.toStdString();

@@ -12,7 +12,10 @@ examples::StandInPages::Answer page(const QByteArray& color, const QByteArray& c
   return {.body = "<!doctype html><html style='height:100%;background:" + color +
                   "'><link rel=icon href='data:,'><body style='margin:0'>" + content +
                   "<script>const tell = what => fetch('/report?' + encodeURIComponent(what));" +
-                  script + "</script><script>fetch('/here')</script>"};
+                  script +
+                  "</script><script>requestAnimationFrame(() => requestAnimationFrame("
+                  "() => fetch('/here')))</script><br style='clear:both'><small style='color:" +
+                  color + "'>text</small>"};
 }
 
 QStringList reports() {

@@ -10,7 +10,8 @@ constexpr const char* kWidget = "https://widget.quorix.example";
 /// The process's one server: the engine keeps to the first that it was told of.
 examples::StandInPages& pages();
 
-/// A page of one colour that says that it is there by asking for /here. `script` runs before.
+/// A page of one colour that says that it is painted by asking for /here. `script` runs before. It
+/// has some text: the engine keeps input from a page that shows nothing yet.
 examples::StandInPages::Answer page(const QByteArray& color, const QByteArray& content = {},
                                     const QByteArray& script = {});
 

@@ -3,10 +3,16 @@
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickWebEngineProfile>
+#include <QQuickWindow>
 
 #include "platform/webkit/NavigationRules.h"
 
 namespace quorix::qt {
+
+QuickPage::QuickPage(Options options)
+    : options_(std::move(options)), escape_([this](const QObject& window) {
+        return view_ && view_->hasActiveFocus() && view_->window() == &window;
+      }) {}
 
 std::unique_ptr<QuickPage> QuickPage::make(QQmlComponent& source, QQuickWebEngineProfile& profile,
                                            QQuickItem& place, Options options) {

@@ -5,6 +5,7 @@
 #include <QQuickItem>
 
 #include "qt/WebPage.h"
+#include "qt/web/EscapeKey.h"
 
 class QQmlComponent;
 class QQuickWebEngineProfile;
@@ -39,10 +40,11 @@ class QuickPage : public QObject, public WebPage {
   Q_INVOKABLE void windowAsked(const QUrl& address);
 
  private:
-  explicit QuickPage(Options options) : options_(std::move(options)) {}
+  explicit QuickPage(Options options);
 
   Options options_;
   QPointer<QQuickItem> view_;
+  EscapeKey escape_;
 };
 
 }  // namespace quorix::qt

@@ -4,6 +4,7 @@
 #include <QWebEngineView>
 
 #include "qt/WebPage.h"
+#include "qt/web/EscapeKey.h"
 
 namespace quorix::qt {
 
@@ -20,7 +21,10 @@ class WidgetPage final : public WebPage {
   void goForward() override;
 
  private:
+  bool hasFocusIn(const QObject& window) const;
+
   QPointer<QWebEngineView> view_;
+  EscapeKey escape_;
 };
 
 }  // namespace quorix::qt

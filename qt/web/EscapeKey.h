@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QObject>
+#include <functional>
+
+namespace quorix::qt {
+
+/// Lets Escape come back from a page that has no use for it. The engine gives back what a page
+/// leaves unused, except where a key stands for a character, which it takes Escape to do; so the
+/// page gets Escape without one. Main thread.
+class EscapeKey : public QObject {
+ public:
+  /// `isForPage`: whether what comes to this window goes to the page.
+  explicit EscapeKey(std::function<bool(const QObject& window)> isForPage);
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  std::function<bool(const QObject&)> isForPage_;
+};
+
+}  // namespace quorix::qt
