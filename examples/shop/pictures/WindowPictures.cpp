@@ -28,8 +28,8 @@ constexpr ShopScene scenes[] = {
     {"widgets-bag-dark", {ana, german, dark}, Page::bag},
     {"widgets-sheet-light", {ana, english, light}, Page::product, Open::details},
     {"widgets-sheet-dark", {ana, english, dark}, Page::product, Open::details},
-    {"widgets-overlay-en-light", {ana, english, light}, Page::product, Open::overlay},
-    {"widgets-overlay-es-dark", {ana, spanish, dark}, Page::product, Open::overlay},
+    {"widgets-overlay-de-light", {ana, german, light}, Page::product, Open::overlay},
+    {"widgets-overlay-fr-dark", {ana, french, dark}, Page::product, Open::overlay},
 };
 
 void tap(QWidget& widget) {

@@ -40,7 +40,7 @@ void Notice::say(const QString& words) {
 
 void Notice::place() {
   const int most = parentWidget()->width() - 2 * beside;
-  const int wish = fontMetrics().horizontalAdvance(words_) + check + between + 2 * beside;
+  const int wish = fontMetrics().horizontalAdvance(words_) + 2 + check + between + 2 * beside;
   resize(qMin(wish, most), tall);
   move((parentWidget()->width() - width()) / 2,
        parentWidget()->height() - footerHeight_ - 14 - tall);

@@ -47,6 +47,7 @@ QWidget* ShopScreen::makeFooter(Shop& shop) {
   act->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
   auto* lines = new QVBoxLayout(footer);
   lines->setContentsMargins(0, 0, 0, 0);
+  lines->setSpacing(0);
   lines->addWidget(new Hairline(footer));
   auto* row = new QHBoxLayout;
   row->setContentsMargins(20, 0, 20, 0);

@@ -42,8 +42,8 @@ WidgetsWindow::WidgetsWindow(Shop& shop) : shop_(shop) {
   all->setContentsMargins(0, 0, 0, 0);
   all->setSpacing(0);
   all->addWidget(new DemoBar(shop, this));
-  all->addWidget(new DemoNote(shop, this));
   all->addWidget(new ShopScreen(shop, this), 1);
+  new DemoNote(shop, this);
   auto* quit = new QShortcut(QKeySequence::Quit, this);
   connect(quit, &QShortcut::activated, qApp, &QApplication::quit);
   const auto follow = [this] { setPalette(paletteOf(shop_.colors())); };

@@ -6,7 +6,8 @@ import Quorix.Shop
 Rectangle {
     visible: Shop.leftFor !== ""
     color: "#ffc24b"
-    implicitHeight: visible ? note.implicitHeight + 20 : 0
+    radius: 10
+    height: note.implicitHeight + 24
 
     Text {
         id: note

@@ -24,13 +24,17 @@ ApplicationWindow {
             Layout.fillWidth: true
         }
 
-        DemoNote {
-            Layout.fillWidth: true
-        }
-
         ShopScreen {
             Layout.fillWidth: true
             Layout.fillHeight: true
         }
+    }
+
+    DemoNote {
+        z: 2000000  // over the library's sheets
+        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: 16
+        width: Math.min(parent.width - 32, 480)
     }
 }
