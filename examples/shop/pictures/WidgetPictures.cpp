@@ -82,6 +82,7 @@ void letSpeak(const swiftui::View& widget) {
   QQuickWindow screen;
   new qt::ViewItem(widget, screen.contentItem());
   screen.show();
+  screen.grabWindow();  // a frame, with which the widget asks for its words
   settle();
 }
 
