@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QGuiApplication>
 #include <QPalette>
+#include <QRegularExpression>
 #include <chrono>
 
 namespace quorix::examples {
@@ -25,9 +26,12 @@ bool desktopIsDark() {
 
 Shop::Shop(QObject* parent) : QObject(parent), words_(ShopLanguage::all().front().code) {
   qGuiApp->installEventFilter(this);
-  backAgain_.setSingleShot(true);
-  backAgain_.setInterval(std::chrono::seconds(8));
-  connect(&backAgain_, &QTimer::timeout, this, [this] { leaveFor({}); });
+  noteRead_.setSingleShot(true);
+  noteRead_.setInterval(std::chrono::seconds(8));
+  connect(&noteRead_, &QTimer::timeout, this, [this] {
+    note_.clear();
+    emit changed();
+  });
 }
 
 QStringList Shop::shoppers() { return namesOf(Shopper::all()); }
@@ -72,8 +76,12 @@ void Shop::openBag(bool open) {
 }
 
 void Shop::leaveFor(const QString& address) {
-  leftFor_ = address;
-  if (!address.isEmpty()) backAgain_.start();
+  // Lines break at spaces, of which an address has none: it may break after its parts.
+  QString parts = address;
+  parts.replace(QRegularExpression(QStringLiteral("([/?&])(?=[^/])")), QStringLiteral("\\1\u200b"));
+  note_ = QStringLiteral("Opened outside the app:\n%1\nThis is a demo, and nothing answers there.")
+              .arg(parts);
+  noteRead_.start();
   emit changed();
 }
 

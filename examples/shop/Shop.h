@@ -47,8 +47,8 @@ class Shop : public QObject {
 
   Q_PROPERTY(QString size READ size WRITE chooseSize NOTIFY changed)
   Q_PROPERTY(bool bagOpen READ bagOpen WRITE openBag NOTIFY changed)
-  /// The address that was last opened outside the app, for a while.
-  Q_PROPERTY(QString leftFor READ leftFor NOTIFY changed)
+  /// What the demo has to say for itself, for a while.
+  Q_PROPERTY(QString note READ note NOTIFY changed)
   Q_PROPERTY(int bagCount READ bagCount NOTIFY changed)
   /// { size, count, price } each.
   Q_PROPERTY(QVariantList bagLines READ bagLines NOTIFY changed)
@@ -101,7 +101,8 @@ class Shop : public QObject {
   bool bagOpen() const { return bagOpen_; }
   void openBag(bool open);
 
-  QString leftFor() const { return leftFor_; }
+  QString note() const { return note_; }
+  /// `address` was opened outside the app. Nobody is there: the demo says so.
   void leaveFor(const QString& address);
 
   const Bag& bag() const { return bag_; }
@@ -131,8 +132,8 @@ class Shop : public QObject {
   QString size_ = QStringLiteral("M");
   bool moving_ = true;
   bool bagOpen_ = false;
-  QString leftFor_;
-  QTimer backAgain_;
+  QString note_;
+  QTimer noteRead_;
   Bag bag_;
 };
 

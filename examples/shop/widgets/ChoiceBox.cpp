@@ -40,6 +40,13 @@ ChoiceBox::ChoiceBox(const QString& caption, const QStringList& values, QWidget*
   view()->setMinimumWidth(widest + 40);
 }
 
+void ChoiceBox::hidePopup() {
+  QComboBox::hidePopup();
+  // The list swallows the news that the pointer is elsewhere now.
+  setAttribute(Qt::WA_UnderMouse, rect().contains(mapFromGlobal(QCursor::pos())));
+  update();
+}
+
 void ChoiceBox::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);

@@ -15,6 +15,8 @@ class ChoiceBox : public QComboBox {
   QSize sizeHint() const override { return {170, 42}; }
   QSize minimumSizeHint() const override { return {110, 42}; }
 
+  void hidePopup() override;
+
  protected:
   void paintEvent(QPaintEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;

@@ -2,7 +2,6 @@
 
 #include <QEvent>
 #include <QPainter>
-#include <QRegularExpression>
 
 #include "examples/shop/Shop.h"
 
@@ -19,14 +18,10 @@ DemoNote::DemoNote(Shop& shop, QWidget* parent) : QLabel(parent) {
   setStyleSheet(QStringLiteral("color: #20242f"));
   parent->installEventFilter(this);
   const auto follow = [this, &shop] {
-    const bool left = !shop.leftFor().isEmpty();
-    // Words break at spaces only, and an address has none.
-    QString address = shop.leftFor();
-    address.replace(QRegularExpression(QStringLiteral("([/?&])")), QStringLiteral("\\1\u200b"));
-    setText(QStringLiteral("Opened outside the app: %1\nThis is a demo, and nothing answers there.")
-                .arg(address));
-    if (left) place();
-    setVisible(left);
+    const bool speaks = !shop.note().isEmpty();
+    setText(shop.note());
+    if (speaks) place();
+    setVisible(speaks);
   };
   connect(&shop, &Shop::changed, this, follow);
   follow();
@@ -41,7 +36,7 @@ void DemoNote::place() {
   const QWidget& over = *parentWidget();
   const int width = qMin(over.width() - 32, 480);
   const int height = heightForWidth(width);
-  setGeometry((over.width() - width) / 2, over.height() - height - 16, width, height);
+  setGeometry((over.width() - width) / 2, over.height() - height - 88, width, height);
   raise();
 }
 

@@ -4,7 +4,7 @@ import Quorix.Shop
 // What the demo has to say for itself: the address that a page or a widget opened outside the app,
 // where a real one would have gone to the browser.
 Rectangle {
-    visible: Shop.leftFor !== ""
+    visible: Shop.note !== ""
     color: "#ffc24b"
     radius: 10
     height: note.implicitHeight + 24
@@ -17,12 +17,11 @@ Rectangle {
             margins: 14
             verticalCenter: parent.verticalCenter
         }
-        text: "Opened outside the app: " + Shop.leftFor
-              + "\nThis is a demo, and nothing answers there."
+        text: Shop.note
         color: "#20242f"
         font.pixelSize: 13
         lineHeight: 1.2
-        wrapMode: Text.WrapAnywhere
+        wrapMode: Text.Wrap
         Accessible.role: Accessible.AlertMessage
         Accessible.name: text
     }

@@ -34,7 +34,7 @@ ApplicationWindow {
         z: 2000000  // over the library's sheets
         anchors.horizontalCenter: parent.horizontalCenter
         anchors.bottom: parent.bottom
-        anchors.bottomMargin: 16
+        anchors.bottomMargin: 88  // above what can be done on the page
         width: Math.min(parent.width - 32, 480)
     }
 }
