@@ -77,6 +77,10 @@ std::vector<StandInPages::Request> StandInPages::requests(const QByteArray& path
   return found;
 }
 
+void StandInPages::forgetRequests(const QByteArray& path) {
+  std::erase_if(requests_, [&](const Request& request) { return request.path == path; });
+}
+
 void StandInPages::accept(QTcpSocket* socket) {
   const auto pending = std::make_shared<QByteArray>();
   QObject::connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);

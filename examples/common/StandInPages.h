@@ -46,6 +46,7 @@ class StandInPages {
   const std::vector<Request>& requests() const { return requests_; }
   std::vector<Request> requests(const QByteArray& path) const;
   void forgetRequests() { requests_.clear(); }
+  void forgetRequests(const QByteArray& path);
 
   quint16 port() const { return server_.serverPort(); }
 

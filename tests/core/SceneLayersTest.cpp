@@ -1,0 +1,118 @@
+#include <gtest/gtest.h>
+
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "platform/hosting/SceneLayers.h"
+#include "platform/hosting/SheetGeometry.h"
+
+namespace quorix::hosting {
+namespace {
+
+using layout::Rect;
+using render::EmbedItem;
+using render::FillItem;
+using render::Scene;
+
+struct Content final : render::Embed {};
+
+EmbedItem embed(Rect frame) { return {frame, std::make_shared<Content>(), {1, 2, 3, 255}}; }
+FillItem fill(Rect frame) { return {frame, {9, 9, 9, 255}}; }
+render::TextItem text(Rect frame) { return {frame, {}}; }
+
+/// Each layer as the number of its items, its corner and size, and whether an embed follows.
+std::string told(const Scene& scene, double scale) {
+  std::ostringstream all;
+  for (const SceneLayer& layer : layersOf(scene, scale)) {
+    all << layer.scene.items.size() << " at " << layer.origin.x << "," << layer.origin.y << " "
+        << layer.scene.size.width << "x" << layer.scene.size.height << (layer.embed ? " | " : "");
+  }
+  return all.str();
+}
+
+TEST(SceneLayers, AreCutWhereSomethingPaintsItself) {
+  const Rect whole{{}, {100, 200}};
+  EmbedItem empty = embed(whole);
+  empty.content = nullptr;
+  const struct {
+    std::vector<render::Item> items;
+    const char* layers;
+    double scale = 1;
+  } rows[] = {
+      {{}, "0 at 0,0 100x200"},
+      {{fill(whole), fill(whole)}, "2 at 0,0 100x200"},
+      {{empty, fill(whole)}, "2 at 0,0 100x200"},
+      {{fill(whole), embed(whole)}, "2 at 0,0 100x200 | 0 at 0,0 0x0"},
+      {{embed(whole), fill({{50, 8}, {48, 40}}), fill({{60, 10}, {40, 48}})},
+       "1 at 0,0 100x200 | 2 at 50,8 50x50"},
+      // Letters reach out of their frame; nothing shows outside the scene.
+      {{embed(whole), text({{40, 5}, {20, 10}})}, "1 at 0,0 100x200 | 1 at 30,0 40x25"},
+      {{embed(whole), fill({{-10, 190}, {300, 50}})}, "1 at 0,0 100x200 | 1 at 0,190 100x10"},
+      {{embed(whole), fill({{500, 0}, {5, 5}})}, "1 at 0,0 100x200 | 1 at 100,0 0x5"},
+      {{embed(whole), text({{40, 40.2}, {20, 10.3}})}, "1 at 0,0 100x200 | 1 at 30,30 40x31", 1},
+      {{embed(whole), text({{40, 40.2}, {20, 10.3}})}, "1 at 0,0 100x200 | 1 at 29.5,30 41x31", 2},
+      {{embed(whole), fill({{1, 1}, {2, 2}}), embed(whole), fill({{5, 5}, {1, 1}})},
+       "1 at 0,0 100x200 | 2 at 0,0 100x200 | 1 at 5,5 1x1"},
+  };
+  for (const auto& row : rows) {
+    Scene scene;
+    scene.size = whole.size;
+    scene.items = row.items;
+    EXPECT_EQ(told(scene, row.scale), row.layers);
+  }
+}
+
+TEST(Scene, AnEmbedTakesWhatIsBelowItAndLeavesWhatIsAbove) {
+  Scene inner;
+  inner.size = {100, 100};
+  inner.hitAreas = {{{{}, {100, 100}}, {}}, {{{80, 0}, {20, 20}}, {}}};
+  EmbedItem page = embed({{0, 10}, {100, 60}});
+  page.hitAreasBelow = 1;
+  page.topCornerRadius = 5;
+  inner.items = {page};
+  Scene scene;
+  scene.hitAreas = {{{{}, {300, 300}}, {}}};
+  scene.append(inner, {50, 50});
+  const struct {
+    layout::Point point;
+    int area;
+    bool embed;
+  } rows[] = {
+      {{10, 10}, 0, false},  {{60, 55}, 1, false},  {{60, 62}, 1, false},  {{60, 66}, -1, true},
+      {{140, 66}, 2, false}, {{140, 75}, -1, true}, {{60, 119}, -1, true}, {{60, 121}, 1, false},
+  };
+  for (const auto& row : rows) {
+    const render::HitArea* hit = scene.hitTest(row.point);
+    EXPECT_EQ(hit ? int(hit - scene.hitAreas.data()) : -1, row.area)
+        << row.point.x << "," << row.point.y;
+    EXPECT_EQ(scene.embedAt(row.point) != nullptr, row.embed) << row.point.x << "," << row.point.y;
+  }
+}
+
+TEST(SheetGeometry, KeepsWhatFillsThePanelInItsRoundCorners) {
+  const Rect panel{{10, 100}, {200, 300}};
+  const struct {
+    Rect frame;
+    double fill, embed;  ///< the upper corners' radius
+  } rows[] = {
+      {panel, 12, 12},
+      {{{0, 100}, {220, 10}}, 12, 12},
+      {{{10, 104}, {200, 100}}, 0, 8},
+      {{{10, 112}, {200, 100}}, 0, 0},
+      {{{22, 100}, {176, 100}}, 0, 0},
+      {{{22, 100}, {177, 100}}, 0, 12},
+      {{{21, 100}, {100, 100}}, 0, 12},
+      {{{10, 0}, {200, 50}}, 0, 0},
+  };
+  for (const auto& row : rows) {
+    Scene scene;
+    scene.items = {fill(row.frame), embed(row.frame)};
+    SheetGeometry::roundTop(scene, panel);
+    EXPECT_EQ(std::get<FillItem>(scene.items[0]).topCornerRadius, row.fill) << row.frame.top();
+    EXPECT_EQ(std::get<EmbedItem>(scene.items[1]).topCornerRadius, row.embed) << row.frame.top();
+  }
+}
+
+}  // namespace
+}  // namespace quorix::hosting
