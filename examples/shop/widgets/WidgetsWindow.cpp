@@ -44,7 +44,7 @@ WidgetsWindow::WidgetsWindow(Shop& shop) : shop_(shop) {
   all->addWidget(new DemoBar(shop, this));
   all->addWidget(new ShopScreen(shop, this), 1);
   new DemoNote(shop, this);
-  auto* quit = new QShortcut(QKeySequence::Quit, this);
+  auto* quit = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q), this);
   connect(quit, &QShortcut::activated, qApp, &QApplication::quit);
   const auto follow = [this] { setPalette(paletteOf(shop_.colors())); };
   connect(&shop, &Shop::changed, this, follow);

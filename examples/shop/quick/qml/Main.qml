@@ -12,7 +12,7 @@ ApplicationWindow {
     color: Shop.colors.page
 
     Shortcut {
-        sequences: [StandardKey.Quit]
+        sequence: "Ctrl+Q"
         onActivated: Qt.quit()
     }
 
