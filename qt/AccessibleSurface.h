@@ -18,6 +18,8 @@ class AccessibleSurface {
 
   /// In reading order; holds until the surface is asked for anything else.
   virtual const std::vector<render::AccessibilityElement>& accessibilityElements() = 0;
+  /// What tells of itself, after the elements: views of other makers.
+  virtual std::vector<QObject*> accessibleViews() const { return {}; }
   virtual void performAccessibilityAction(int index) = 0;
   virtual std::optional<layout::Rect> focusedFrame() const = 0;
   virtual void takeFocus() = 0;

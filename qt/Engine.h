@@ -9,6 +9,14 @@ namespace quorix::qt {
 /// item is made. Main thread, before or after the application object is made; every later call does
 /// nothing.
 ///
+/// Sheets with a page of the web have Qt WebEngine show it, which is loaded with the first of them.
+/// The engine wants one line before the application object is made:
+///
+///     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+///
+/// Without it, pages in Qt Quick windows that are drawn with OpenGL are opened outside the app
+/// instead; so they all are where the engine or its component is missing.
+///
 ///     QGuiApplication app(argc, argv);
 ///     quorix::qt::installEngine();
 void installEngine();

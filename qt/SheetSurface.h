@@ -60,7 +60,8 @@ class SheetSurface : private hosting::SheetPresenter::Client {
   void followPages();
   /// A frame of the sheet is on the screen.
   void wasShown();
-  bool hasPages() const { return !pages_.views().empty(); }
+  /// The views of the pages on show, from the bottom up.
+  std::vector<QObject*> pageViews() const { return pages_.views(); }
   void pageTookFocus();
   /// The keyboard leads out of the pages.
   void leftPages(bool forward);

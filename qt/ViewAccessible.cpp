@@ -147,21 +147,40 @@ QAccessibleInterface* ViewAccessible::parent() const {
   return above ? QAccessible::queryAccessibleInterface(above) : nullptr;
 }
 
+std::vector<QAccessibleInterface*> ViewAccessible::views() const {
+  std::vector<QAccessibleInterface*> all;
+  AccessibleSurface* shown = surface();
+  if (!shown) return all;
+  for (QObject* view : shown->accessibleViews()) {
+    if (QAccessibleInterface* known = QAccessible::queryAccessibleInterface(view)) {
+      all.push_back(known);
+    }
+  }
+  return all;
+}
+
 QAccessibleInterface* ViewAccessible::child(int index) const {
   syncChildren();
   const auto at = static_cast<std::size_t>(index);
-  return at < children_.size() ? QAccessible::accessibleInterface(children_[at]) : nullptr;
+  if (at < children_.size()) return QAccessible::accessibleInterface(children_[at]);
+  const auto others = views();
+  return at - children_.size() < others.size() ? others[at - children_.size()] : nullptr;
 }
 
 int ViewAccessible::childCount() const {
   syncChildren();
-  return static_cast<int>(children_.size());
+  return static_cast<int>(children_.size() + views().size());
 }
 
 int ViewAccessible::indexOfChild(const QAccessibleInterface* child) const {
   syncChildren();
   for (std::size_t i = 0; i < children_.size(); ++i) {
     if (QAccessible::accessibleInterface(children_[i]) == child) return static_cast<int>(i);
+  }
+  const auto others = views();
+  const auto found = std::find(others.begin(), others.end(), child);
+  if (found != others.end()) {
+    return static_cast<int>(children_.size()) + static_cast<int>(found - others.begin());
   }
   return -1;
 }

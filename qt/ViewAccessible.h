@@ -47,6 +47,8 @@ class ViewAccessible : public QAccessibleObject, public QAccessibleActionInterfa
   AccessibleSurface* surface() const;
   bool isSoleElement() const;
   void syncChildren() const;
+  /// What tells of itself among the children.
+  std::vector<QAccessibleInterface*> views() const;
   void update();
   void tell(QAccessible::Event event, std::size_t index) const;
 

@@ -51,6 +51,7 @@ class SheetItem : public QQuickItem, public SheetSurface, private QuickAccessibl
   void pageFocusChanged(bool focused);
 
   const std::vector<render::AccessibilityElement>& accessibilityElements() override;
+  std::vector<QObject*> accessibleViews() const override { return pageViews(); }
   void performAccessibilityAction(int index) override { presenter().activate(index); }
   std::optional<layout::Rect> focusedFrame() const override;
   bool isShown() const override { return !isClosed() && QuickAccessibleSurface::isShown(); }

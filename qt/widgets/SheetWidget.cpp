@@ -130,7 +130,7 @@ void SheetWidget::updateFront() {
     layer.picture->move((QPointF(corner.x, corner.y) + layer.origin).toPoint());
     if (!stack_.contains(layer.picture)) stack_.append(layer.picture);
   }
-  if (!hasPages()) return;
+  if (pageViews().empty()) return;
   if (!front_) front_ = new SheetWidgetFront(*this);
   front_->setGeometry(rect());
   front_->follow(presenter().scene());

@@ -54,6 +54,7 @@ class SheetWidget : public QWidget, public SheetSurface, private WidgetAccessibl
   bool hasPageFocus() const;
 
   const std::vector<render::AccessibilityElement>& accessibilityElements() override;
+  std::vector<QObject*> accessibleViews() const override { return pageViews(); }
   void performAccessibilityAction(int index) override { presenter().activate(index); }
   std::optional<layout::Rect> focusedFrame() const override;
   bool isShown() const override { return !isClosed() && WidgetAccessibleSurface::isShown(); }

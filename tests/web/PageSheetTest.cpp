@@ -84,6 +84,16 @@ TYPED_TEST(PageSheet, LeadsTheKeyboardIntoThePageAndOutAgain) {
   EXPECT_TRUE(waitUntil([&] { return TypeParam::hasFocus(this->opener); }));
 }
 
+TYPED_TEST(PageSheet, TellsAssistiveTechnologyOfThePage) {
+  this->openBlue();
+  QAccessibleInterface* sheet = this->screen.find("Close page")->parent();
+  ASSERT_EQ(sheet->childCount(), 2);
+  QAccessibleInterface* view = sheet->child(1);
+  EXPECT_EQ(sheet->indexOfChild(view), 1);
+  EXPECT_EQ(view->parent(), sheet);
+  EXPECT_TRUE(waitUntil([&] { return view->childCount() == 1; })) << "the engine's own tree";
+}
+
 TYPED_TEST(PageSheet, LeavesEscapeToThePageThatUsesIt) {
   this->openBlue(
       "<input onfocus=\"tell('in')\" onkeydown=\"if (event.key == 'Escape') { "
