@@ -21,8 +21,12 @@ constexpr std::string_view labelAttributes =
     "text textAlignment lineBreakMode numberOfLines baselineAdjustment adjustsFontSizeToFit";
 
 bool isWordOf(std::string_view words, std::string_view word) {
-  const std::string spaced = ' ' + std::string(words) + ' ';
-  return !word.empty() && spaced.find(' ' + std::string(word) + ' ') != std::string::npos;
+  if (word.empty()) return false;
+  const auto ends = [&](std::size_t at) { return at == words.size() || words[at] == ' '; };
+  for (std::size_t at = words.find(word); at != words.npos; at = words.find(word, at + 1)) {
+    if ((at == 0 || words[at - 1] == ' ') && ends(at + word.size())) return true;
+  }
+  return false;
 }
 
 std::string tag(pugi::xml_node node) { return '<' + std::string(node.name()) + '>'; }
@@ -84,9 +88,10 @@ double NibReader::number(pugi::xml_node node, const char* attribute,
 
 /// Refuses a value of the attribute, which may be absent, that is none of `values`.
 void NibReader::expect(pugi::xml_node node, const char* attribute, std::string_view values) {
-  const std::string value = node.attribute(attribute).value();
-  if (!node.attribute(attribute) || isWordOf(values, value)) return;
-  refuse(node, std::string(attribute) + " '" + value + "' of " + tag(node) + " is not supported");
+  const pugi::xml_attribute found = node.attribute(attribute);
+  if (!found || isWordOf(values, found.value())) return;
+  refuse(node,
+         std::string(attribute) + " '" + found.value() + "' of " + tag(node) + " is not supported");
 }
 
 void NibReader::readDocument(pugi::xml_node document, std::string_view owner) {
