@@ -1,80 +1,47 @@
 #include "bench/LabelsRow.h"
 
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
-#include <QMouseEvent>
+
+#include "bench/Palette.h"
+#include "bench/Shopper.h"
 
 namespace quorix::bench {
 namespace {
 
-QFont rowFont() {
-  QFont font(QStringLiteral("Saans"));
-  font.setPixelSize(14);
-  return font;
-}
+constexpr int kPixels = 14;
 
-QFont titleFont() {
-  QFont font = rowFont();
+QFont title(QFont font) {
   font.setUnderline(true);
   font.setCapitalization(QFont::AllUppercase);
   return font;
 }
 
-QFont feeFont() {
-  QFont font = rowFont();
+QFont medium(QFont font) {
   font.setWeight(QFont::Medium);
   return font;
 }
 
-QFont baseFeeFont() {
-  QFont font = rowFont();
+QFont struckThrough(QFont font) {
   font.setStrikeOut(true);
   return font;
 }
 
-QPalette inkPalette(const QColor& color) {
-  QPalette palette;
-  palette.setColor(QPalette::WindowText, color);
-  return palette;
-}
-
-QLabel* label(const QString& text, const QFont& font, const QPalette& palette, QWidget* parent) {
-  auto* label = new QLabel(parent);
-  label->setTextFormat(Qt::PlainText);
-  label->setFont(font);
-  label->setPalette(palette);
-  label->setText(text);
-  return label;
-}
-
 }  // namespace
 
-LabelsRow::LabelsRow(const Shopper& shopper, QWidget* parent) : QWidget(parent) {
-  static const QFont title = titleFont(), fee = feeFont(), baseFee = baseFeeFont();
-  static const QPalette ink = inkPalette(inkColor()), faded = inkPalette(fadedColor());
-  setFocusPolicy(Qt::StrongFocus);
+LabelsRow::LabelsRow(const Shopper& shopper, QWidget* parent) : LabelsWidget(parent) {
+  static const QFont titleFont = title(font(kPixels)), feeFont = medium(font(kPixels)),
+                     baseFeeFont = struckThrough(font(kPixels));
+  static const QPalette dark = ink(inkColor()), faded = ink(fadedColor());
   setAccessibleName(shopper.label);
   setAccessibleDescription(shopper.hint);
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(12);
-  layout->addWidget(label(shopper.title, title, ink, this));
+  layout->addWidget(label(shopper.title, titleFont, dark));
   layout->addStretch();
-  layout->addWidget(label(shopper.fee, fee, ink, this));
-  layout->addWidget(label(shopper.baseFee, baseFee, faded, this));
-}
-
-void LabelsRow::mouseReleaseEvent(QMouseEvent* event) {
-  if (rect().contains(event->position().toPoint())) emit activated();
-}
-
-void LabelsRow::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Space) {
-    emit activated();
-  } else {
-    QWidget::keyPressEvent(event);
-  }
+  layout->addWidget(label(shopper.fee, feeFont, dark));
+  layout->addWidget(label(shopper.baseFee, baseFeeFont, faded));
 }
 
 }  // namespace quorix::bench

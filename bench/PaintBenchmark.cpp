@@ -1,46 +1,54 @@
-// A builder call to a painted row: ours beside the same row in QML and in Qt Widgets. Every row
-// shows other fees than the ones before it, and lands in an image of the same size.
+// A builder call to a painted widget: ours beside the same in QML and in Qt Widgets, each in an
+// image of the same size. "same" and "different" are score rows, of one shopper all the time or of
+// always another; "declarative" and "imperative" are info widgets, whose peers are "info".
 
 #include <benchmark/benchmark.h>
 
 #include <time.h>
 
-#include <QApplication>
 #include <QQuickItem>
+#include <QWidget>
 #include <cstdlib>
 #include <memory>
 #include <vector>
 
-#include "bench/LabelsRow.h"
-#include "bench/QmlRows.h"
+#include "bench/BenchApplication.h"
+#include "bench/InfoSubject.h"
+#include "bench/QmlPeer.h"
 #include "bench/QuickStage.h"
 #include "bench/Shopper.h"
-#include "qt/Engine.h"
 #include "qt/Picture.h"
 #include "qt/quick/ViewItem.h"
 
 namespace quorix::bench {
 namespace {
 
-constexpr QSize kSize(343, 17);
+/// What is painted, one after the other, and into which size.
+struct Series {
+  std::vector<std::unique_ptr<Subject>> subjects;
+  QSize size;
+  std::size_t turn = 0;
 
-/// Whose rows are painted, one after the other.
-enum Shoppers { same, different };
+  const Subject& next() { return *subjects[turn++ % subjects.size()]; }
+};
 
-/// One shopper all the time, as on the pages of a shop; or always another, of more than any cache
-/// of texts holds.
-const Shopper& nextShopper(benchmark::State& state) {
-  static const std::vector<Shopper> shoppers = [] {
-    std::vector<Shopper> all;
-    for (std::size_t i = 0; i < 997; ++i) all.push_back(Shopper::make(i));
-    return all;
-  }();
-  static std::size_t next = 0;
-  return state.range(0) == same ? shoppers.front() : shoppers[next++ % shoppers.size()];
+/// As on the pages of a shop, or of more shoppers than any cache of texts holds.
+Series rows(std::size_t shoppers) {
+  Series series{{}, {343, 17}};
+  for (std::size_t i = 0; i < shoppers; ++i)
+    series.subjects.push_back(std::make_unique<Shopper>(i));
+  return series;
 }
 
+Series info(InfoSubject::Form form) {
+  Series series{{}, {343, 96}};
+  series.subjects.push_back(std::make_unique<InfoSubject>(form));
+  return series;
+}
+
+/// The first of the texts stands in the upper half.
 void requireInk(const QImage& image) {
-  for (int y = 0; y < image.height(); ++y) {
+  for (int y = 0; y < (image.height() + 1) / 2; ++y) {
     for (int x = 0; x < image.width(); ++x) {
       const QRgb pixel = image.pixel(x, y);
       if (qAlpha(pixel) > 192 && qGray(pixel) < 64) return;
@@ -57,55 +65,40 @@ double threadSeconds() {
   return static_cast<double>(now.tv_sec) + 1e-9 * static_cast<double>(now.tv_nsec);
 }
 
-/// Times `paint` alone; `cleanUp` takes the row away again.
+/// Times `paint` alone; `cleanUp` takes the widget away again.
 template <class Paint, class CleanUp>
-void run(benchmark::State& state, Paint paint, CleanUp cleanUp) {
+void run(benchmark::State& state, Series& series, Paint paint, CleanUp cleanUp) {
   for (auto _ : state) {
-    const Shopper& shopper = nextShopper(state);
+    const Subject& subject = series.next();
     const double start = threadSeconds();
-    paint(shopper);
+    paint(subject);
     state.SetIterationTime(threadSeconds() - start);
     cleanUp();
     QCoreApplication::processEvents();
   }
 }
 
-void oursInPicture(benchmark::State& state) {
+void oursInPicture(benchmark::State& state, Series& series) {
   qt::PictureOptions options;
-  options.width = kSize.width();
-  options.height = kSize.height();
+  options.width = series.size.width();
+  options.height = series.size.height();
   options.background = graphics::RGBA{0, 0, 0, 0};  // as on the library's surfaces
   QImage image;
   run(
-      state, [&](const Shopper& shopper) { image = qt::picture(shopper.row(), options); }, [] {});
+      state, series, [&](const Subject& subject) { image = qt::picture(subject.ours(), options); },
+      [] {});
   requireInk(image);
 }
 
-void oursInWindow(benchmark::State& state) {
-  QuickStage stage(kSize);
-  std::unique_ptr<qt::ViewItem> item;
-  run(
-      state,
-      [&](const Shopper& shopper) {
-        item = std::make_unique<qt::ViewItem>(shopper.row(), stage.root());
-        item->setSize(kSize);
-        stage.frame();
-      },
-      [&] {
-        requireInk(stage.image());
-        item.reset();
-        stage.frame();
-      });
-}
-
-void qml(benchmark::State& state, const QString& file) {
-  QuickStage stage(kSize);
-  QmlRows rows(file);
+/// What `make` makes for a subject and an item to stand in, in the next frame of a window.
+template <class Make>
+void inWindow(benchmark::State& state, Series& series, Make make) {
+  QuickStage stage(series.size);
   std::unique_ptr<QQuickItem> item;
   run(
-      state,
-      [&](const Shopper& shopper) {
-        item.reset(rows.make(shopper, stage.root(), kSize.width()));
+      state, series,
+      [&](const Subject& subject) {
+        item.reset(make(subject, stage.root()));
         stage.frame();
       },
       [&] {
@@ -115,41 +108,77 @@ void qml(benchmark::State& state, const QString& file) {
       });
 }
 
-void labels(benchmark::State& state) {
+void oursInWindow(benchmark::State& state, Series& series) {
+  inWindow(state, series, [&](const Subject& subject, QQuickItem* root) {
+    auto* item = new qt::ViewItem(subject.ours(), root);
+    item->setSize(series.size);
+    return item;
+  });
+}
+
+void qml(benchmark::State& state, Series& series, const QString& file) {
+  QmlPeer peer(file);
+  inWindow(state, series, [&](const Subject& subject, QQuickItem* root) {
+    return peer.make(subject, root, series.size.width());
+  });
+}
+
+void labels(benchmark::State& state, Series& series) {
   QWidget page;
-  QImage image(kSize, QImage::Format_ARGB32_Premultiplied);
-  std::unique_ptr<LabelsRow> row;
+  QImage image(series.size, QImage::Format_ARGB32_Premultiplied);
+  std::unique_ptr<QWidget> widget;
   run(
-      state,
-      [&](const Shopper& shopper) {
-        row = std::make_unique<LabelsRow>(shopper, &page);
-        row->resize(kSize);
-        row->render(&image);
+      state, series,
+      [&](const Subject& subject) {
+        widget.reset(subject.labels(&page));
+        widget->resize(series.size);
+        widget->render(&image);
       },
       [&] {
         requireInk(image);
-        row.reset();
+        widget.reset();
       });
 }
 
-void bothShoppers(benchmark::internal::Benchmark* benchmark) {
-  benchmark->Arg(same)->Arg(different)->UseManualTime()->Unit(benchmark::kMicrosecond);
+template <class Run>
+void add(const std::string& name, Series& series, Run run) {
+  benchmark::RegisterBenchmark(name.c_str(),
+                               [&series, run](benchmark::State& state) { run(state, series); })
+      ->UseManualTime()
+      ->Unit(benchmark::kMicrosecond);
 }
 
-BENCHMARK(oursInPicture)->Apply(bothShoppers);
-BENCHMARK(oursInWindow)->Apply(bothShoppers);
-BENCHMARK_CAPTURE(qml, layout, QStringLiteral("ScoreRow"))->Apply(bothShoppers);
-BENCHMARK_CAPTURE(qml, anchors, QStringLiteral("LeanScoreRow"))->Apply(bothShoppers);
-BENCHMARK(labels)->Apply(bothShoppers);
+void addOurs(const std::string& name, Series& series) {
+  add("oursInPicture/" + name, series, oursInPicture);
+  add("oursInWindow/" + name, series, oursInWindow);
+}
+
+void addPeers(const std::string& name, Series& series, std::initializer_list<const char*> files) {
+  add("labels/" + name, series, labels);
+  for (const char* file : files) {
+    add(std::string(file) + '/' + name, series, [file](benchmark::State& state, Series& painted) {
+      qml(state, painted, QLatin1String(file));
+    });
+  }
+}
 
 }  // namespace
 }  // namespace quorix::bench
 
 int main(int argc, char** argv) {
-  QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
-  QApplication app(argc, argv);
-  quorix::qt::installEngine();
-  quorix::bench::loadFaces();
+  using namespace quorix::bench;
+  const BenchApplication application(argc, argv);
+  Series same = rows(1), different = rows(997);
+  for (auto& [name, series] :
+       {std::pair<const char*, Series&>{"same", same}, {"different", different}}) {
+    addOurs(name, series);
+    addPeers(name, series, {"ScoreRow", "LeanScoreRow"});
+  }
+  Series declarative = info(InfoSubject::Form::declarative);
+  Series imperative = info(InfoSubject::Form::imperative);
+  addOurs("declarative", declarative);
+  addOurs("imperative", imperative);
+  addPeers("info", declarative, {"InfoWidget"});
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
   benchmark::RunSpecifiedBenchmarks();

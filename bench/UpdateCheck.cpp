@@ -2,8 +2,7 @@
 // host, alone; at rest nothing happens at all. Counts what was evaluated, measured and painted,
 // prints the counts and fails when they are not these.
 
-#include <QApplication>
-#include <QEventLoop>
+#include <QCoreApplication>
 #include <QQuickWindow>
 #include <QTimer>
 #include <cstdio>
@@ -14,10 +13,8 @@
 #include "QuorixWidgets/localization/LocalizationRepository.h"
 #include "QuorixWidgets/score/ScoreWidgetView.h"
 #include "QuorixWidgets/score/ScoreWidgetViewModel.h"
-#include "bench/Shopper.h"
-#include "platform/foundation/URLSession.h"
+#include "bench/BenchApplication.h"
 #include "platform/hosting/ViewHost.h"
-#include "qt/Engine.h"
 #include "qt/QtTextEngine.h"
 #include "qt/quick/ViewItem.h"
 
@@ -111,22 +108,16 @@ class CountedHost final : private hosting::ViewHost::Client, private text::TextE
   hosting::ViewHost host_{*this, *this};
 };
 
-void settle() {
-  QEventLoop loop;
-  QTimer::singleShot(300, &loop, &QEventLoop::quit);
-  loop.exec();
-}
-
 /// Runs one update over settled rows and reports what it touched. False when it touched too much.
 bool check(const char* surface, std::vector<Row>& rows, const int& frames) {
-  settle();
+  BenchApplication::settle();
   const int framesBefore = frames;
   for (Row& row : rows) row.counts = {};
-  settle();
+  BenchApplication::settle();
   bool idle = frames == framesBefore;
   for (const Row& row : rows) idle = idle && row.counts == Counts{};
   rows[kUpdated].update();
-  settle();
+  BenchApplication::settle();
   Counts others;
   for (std::size_t i = 0; i < rows.size(); ++i) {
     if (i == kUpdated) continue;
@@ -171,13 +162,7 @@ bool checkHosts() {
 }  // namespace quorix::bench
 
 int main(int argc, char** argv) {
-  QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
-  QApplication app(argc, argv);
-  quorix::qt::installEngine();
-  const auto noNews =
-      quorix::foundation::URLSession::shared().registerProtocol([](const quorix::foundation::URL&) {
-        return quorix::foundation::URLResponse{{}, {}, 404};
-      });
+  const quorix::bench::BenchApplication application(argc, argv);
   const bool items = quorix::bench::checkItems();
   const bool hosts = quorix::bench::checkHosts();
   return items && hosts ? 0 : 1;

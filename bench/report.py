@@ -75,39 +75,50 @@ def tokens(table, folder, quick):
 
 def painting(table, folder, quick):
     times = google_benchmark(folder / "paint_benchmark", 5 if quick else 15, "real_time")
-    whose = (("0", "one shopper's rows"), ("1", "each row another shopper's"))
-    peers = (("qml/layout", "QML, RowLayout", 10), ("qml/anchors", "QML, anchors", 10),
-             ("labels", "labels in a layout", 5))
-    for surface, where in (("oursInPicture", "a picture"), ("oursInWindow", "a window's frame")):
-        for number, shoppers in whose:
+    row_peers = (("ScoreRow", "QML, RowLayout", 10), ("LeanScoreRow", "QML, anchors", 10),
+                 ("labels", "labels in a layout", 5))
+    info_peers = (("InfoWidget", "QML, anchors", 10), ("labels", "labels in a layout", 5))
+    kinds = (("same", "row", "one shopper's rows", "same", row_peers),
+             ("different", "row", "each row another shopper's", "different", row_peers),
+             ("declarative", "info widget", "declarative", "info", info_peers),
+             ("imperative", "info widget", "imperative", "info", info_peers))
+    for kind, widget, which, peers_kind, peers in kinds:
+        for surface, where in (("oursInPicture", "a picture"), ("oursInWindow", "a window's frame")):
             for peer, name, goal in peers:
-                table.add(f"builder to painted row, {where}, {shoppers}", times[f"{surface}/{number}"],
-                          times[f"{peer}/{number}"], name, goal, microseconds)
+                table.add(f"builder to painted {widget}, {where}, {which}", times[f"{surface}/{kind}"],
+                          times[f"{peer}/{peers_kind}"], name, goal, microseconds)
 
 
-def live_rows(folder, kind, count):
-    out = subprocess.run([folder / "live_rows", kind, str(count)], check=True, capture_output=True)
+def live_widgets(folder, kind, count):
+    out = subprocess.run([folder / "live_widgets", *kind, str(count)], check=True, capture_output=True)
     return json.loads(out.stdout)
 
 
 def memory(table, folder, quick):
-    counts = (1000, 10000)
+    row, counts = ("row", "ours"), (1000, 10000)
+    peers = {row: ((("row", "ScoreRow"), "QML, RowLayout", 5), (("row", "LeanScoreRow"), "QML, anchors", 5),
+                   (("row", "labels"), "labels in a layout", None))}
+    for form in ("declarative", "imperative"):
+        peers[form, "ours"] = ((("declarative", "InfoWidget"), "QML, anchors", 5),
+                               (("declarative", "labels"), "labels in a layout", None))
+    kinds = dict.fromkeys(kind for ours in peers for kind in (ours, *(peer[0] for peer in peers[ours])))
     # The kinds take turns, so that what else the machine does meets all of them.
     runs = {}
     for _ in range(1 if quick else 3):
-        for count in counts:
-            for kind in ("quorix", "layout", "anchors", "labels"):
-                runs.setdefault((kind, count), []).append(live_rows(folder, kind, count))
+        for kind in kinds:
+            for count in counts if kind[0] == "row" else counts[:1]:
+                runs.setdefault((kind, count), []).append(live_widgets(folder, kind, count))
 
     def median(kind, count, what):
         return statistics.median(run[what] for run in runs[kind, count])
 
-    for count in counts:
-        for kind, name, goal in (("layout", "QML, RowLayout", 5), ("anchors", "QML, anchors", 5),
-                                 ("labels", "labels in a layout", None)):
-            for what in ("heap", "resident"):
-                table.add(f"memory of a live row, {count} rows, {what}", median("quorix", count, what),
-                          median(kind, count, what), name, goal, kilobytes)
+    for ours, those in peers.items():
+        name = "row" if ours == row else f"{ours[0]} info widget"
+        for count in counts if ours == row else counts[:1]:
+            for peer, peer_name, goal in those:
+                for what in ("heap", "resident"):
+                    table.add(f"memory of a live {name}, of {count}, {what}", median(ours, count, what),
+                              median(peer, count, what), peer_name, goal, kilobytes)
 
     def growth(kind):
         return median(kind, 10000, "heap") / median(kind, 1000, "heap")
@@ -120,12 +131,12 @@ def memory(table, folder, quick):
                           / statistics.median(run["chunks"][:tenth]))
         return statistics.median(ratios)
 
+    qml = ("row", "ScoreRow")
     table.note("memory of a row among 10000 to one among 1000",
-               f"{growth('quorix'):.2f} (QML {growth('layout'):.2f})",
-               "ok" if growth("quorix") < 1.1 else "missed")
+               f"{growth(row):.2f} (QML {growth(qml):.2f})", "ok" if growth(row) < 1.1 else "missed")
     table.note("time of the last thousand rows made to the first, of 10000",
-               f"{last_to_first('quorix'):.2f} (QML {last_to_first('layout'):.2f})",
-               "ok" if last_to_first("quorix") < 1.25 else "missed")
+               f"{last_to_first(row):.2f} (QML {last_to_first(qml):.2f})",
+               "ok" if last_to_first(row) < 1.25 else "missed")
 
 
 def updates(table, folder):
@@ -166,6 +177,26 @@ def starts(table, folder, quick):
     table.note("… of which an empty window and Qt's list of the fonts", f"{milliseconds(bare)} for both")
 
 
+def overlays(table, folder, quick):
+    """The first overlay beside a bare web view. Without the engine there is nothing to compare."""
+    runs = {"overlay_ours": [], "overlay_bare": []}
+    for _ in range(3 if quick else 9):
+        for program, taken in runs.items():
+            out = subprocess.run([folder / program], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+            if out.returncode != 0:
+                table.note("tap to the overlay's first frame", "no web engine here")
+                return
+            taken.append(json.loads(out.stdout))
+
+    def median(program, state, what):
+        return statistics.median(run[state][what] for run in runs[program])
+
+    for state in ("cold", "warm"):
+        for what, name in (("overlay", "the sheet's first frame"), ("page", "the first frame with its page")):
+            table.add(f"tap to {name}, engine {state}", median("overlay_ours", state, what),
+                      median("overlay_bare", state, "page"), "bare web view", None, milliseconds)
+
+
 def size(table, folder):
     """What the core adds to a program: a stripped one that builds a row and prints its tree."""
     with tempfile.TemporaryDirectory() as scratch:
@@ -188,6 +219,7 @@ def main():
     memory(table, folder, quick)
     contained = updates(table, folder)
     starts(table, folder, quick)
+    overlays(table, folder, quick)
     size(table, folder)
     table.print("--table" in sys.argv)
     return 0 if contained else 1

@@ -26,7 +26,5 @@ if(TARGET Qt6::WebEngineWidgets)
 endif()
 
 # Programs of this build find them where they are built.
-if(PROJECT_IS_TOP_LEVEL)
-  set_property(SOURCE ${PROJECT_SOURCE_DIR}/qt/WebComponentLoader.cpp APPEND PROPERTY
-    COMPILE_DEFINITIONS QUORIX_WEB_BUILD_FOLDER="${PROJECT_BINARY_DIR}/quorix")
-endif()
+set_property(SOURCE ${PROJECT_SOURCE_DIR}/qt/WebComponentLoader.cpp APPEND PROPERTY
+  COMPILE_DEFINITIONS QUORIX_WEB_BUILD_FOLDER="${PROJECT_BINARY_DIR}/quorix")

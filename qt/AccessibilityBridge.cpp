@@ -48,9 +48,7 @@ AccessibleSurface* AccessibilityBridge::surfaceOf(const QObject* object) {
   return surfaces().value(object);
 }
 
-bool AccessibilityBridge::isActive() {
-  return QAccessible::isActive() || instance()->active_;
-}
+bool AccessibilityBridge::isActive() { return QAccessible::isActive() || instance()->active_; }
 
 void AccessibilityBridge::accessibilityActiveChanged(bool active) {
   active_ = active;

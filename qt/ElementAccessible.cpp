@@ -17,6 +17,8 @@ QAccessible::Role roleOf(render::Role role) {
       return QAccessible::Heading;
     case render::Role::image:
       return QAccessible::Graphic;
+    case render::Role::link:
+      return QAccessible::Link;
   }
   return QAccessible::StaticText;
 }

@@ -9,6 +9,7 @@
 #include "qt/QtTextEngine.h"
 #include "qt/SheetSurface.h"
 #include "qt/ViewAccessible.h"
+#include "qt/WindowScene.h"
 
 namespace quorix::qt {
 
@@ -22,6 +23,16 @@ void HostedView::environmentChanged() {
   host_.setEnvironment(now.at(scale()));
   if (SheetSurface* open = sheet()) open->setSettings(now);
   contentChanged();
+}
+
+/// Whatever the view presents on being used belongs over this window.
+void HostedView::used() {
+  if (WindowScene* scene = windowScene()) scene->used(settings());
+}
+
+void HostedView::activate(int index) {
+  used();
+  host_.activate(index);
 }
 
 // Pointer.
@@ -54,6 +65,7 @@ void HostedView::pressed(QMouseEvent& event) {
   event.setAccepted(taken);
   if (!taken) return;
   mouseTaken_ = true;
+  used();
   takeFocusByPress();
   focus_.hideRing();
   needsFrame();
@@ -71,7 +83,7 @@ void HostedView::handleTouch(QTouchEvent& event) {
   if (!report) return;
   switch (report->phase) {
     case FingerTracker::Phase::pressed:
-      if (host_.pointerPressed(toPoint(report->position))) return;
+      if (host_.pointerPressed(toPoint(report->position))) return used();
       finger_.forget();
       event.ignore();
       return;
@@ -102,6 +114,7 @@ bool HostedView::handleKey(QKeyEvent& event) {
   if (meaningOf(event) != KeyMeaning::activate) return false;
   if (event.isAutoRepeat()) return true;
   event.setAccepted(host_.focusFrame().has_value());
+  used();
   host_.activateFocus();
   return true;
 }
@@ -155,8 +168,9 @@ void HostedView::presentSheet() {
     return;
   }
   if (!open) {
-    open = makeSheet();
-    if (!open) return;
+    WindowScene* scene = windowScene();
+    if (!scene) return;
+    open = scene->makeSheet();
     sheet_ = open;
     sheetObject_ = &open->object();
   }

@@ -15,6 +15,7 @@ class QMouseEvent;
 namespace quorix::qt {
 
 class SheetSurface;
+class WindowScene;
 
 /// What a view does in every toolkit: settings, input, focus and its sheet. A toolkit's surface
 /// derives from this and gives it a size, a place and paint. Main thread.
@@ -36,6 +37,8 @@ class HostedView : private hosting::ViewHost::Client {
 
   void focusCame(Qt::FocusReason reason);
   void focusWent(Qt::FocusReason reason);
+  /// Assistive technology has an element act.
+  void activate(int index);
   /// The keyboard moves the focus on. False when there is no further element.
   bool walk(bool forward);
 
@@ -63,9 +66,10 @@ class HostedView : private hosting::ViewHost::Client {
   virtual void needsFrame() = 0;
   /// The view or its settings changed: who asks for its size gets the new one.
   virtual void contentChanged() = 0;
-  /// A new sheet over the window, which it belongs to; null without a window.
-  virtual SheetSurface* makeSheet() = 0;
+  /// The scene of the window; null without a window.
+  virtual WindowScene* windowScene() = 0;
 
+  void used();
   void pressed(QMouseEvent& event);
   void released(QMouseEvent& event);
   void handleTouch(QTouchEvent& event);

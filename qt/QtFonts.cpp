@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QRawFont>
 #include <QtEndian>
+#include <cstdlib>
 #include <optional>
 
 #include "platform/graphics/FontManager.h"
@@ -77,6 +78,21 @@ QFont::Weight qtWeight(swiftui::FontWeight weight) {
   return QFont::Normal;
 }
 
+/// `named` in at least `weight`: the nearest face of its family that is no lighter, so that a face
+/// that its designer calls semi-bold stays what it is. What the family does not have is not faked.
+QFont weighted(const QFont& named, int weight) {
+  const QString family = named.family();
+  QFont nearest = named;
+  const QStringList styles = QFontDatabase::styles(family);
+  for (const QString& style : styles) {
+    const int has = QFontDatabase::weight(family, style);
+    const bool nearer = std::abs(has - weight) < std::abs(nearest.weight() - weight);
+    if (!nearer || has < named.weight() || QFontDatabase::italic(family, style)) continue;
+    nearest = QFontDatabase::font(family, style, 12);
+  }
+  return nearest;
+}
+
 /// The strikethrough that the font's designer drew, or the middle of its small letters.
 ShapingFont::Stroke strikethrough(const QRawFont& font) {
   constexpr qsizetype sizeAt = 26, positionAt = 28;
@@ -141,6 +157,13 @@ const QFont* QtFonts::registeredFace(const std::string& name) {
   return loaded ? &registered_.emplace(name, *loaded).first->second : nullptr;
 }
 
+/// Of a family, whichever faces were drawn before.
+void QtFonts::loadRegisteredFaces() {
+  for (const graphics::GraphicsFont& face : FontManager::shared().faces()) {
+    registeredFace(face.postScriptName());
+  }
+}
+
 const QFont& QtFonts::face(const std::string& name) {
   if (const QFont* registered = registeredFace(name)) return *registered;
   const auto known = installed_.find(name);
@@ -156,9 +179,9 @@ const ShapingFont& QtFonts::find(const text::ResolvedFont& wanted, int pixels) {
   if (known != fonts_.end()) return known->second;
 
   QFont font = face(wanted.name);
-  if (wanted.weight != swiftui::FontWeight::regular) {
-    font.setStyleName({});
-    font.setWeight(qtWeight(wanted.weight));
+  if (font.weight() < qtWeight(wanted.weight)) {
+    loadRegisteredFaces();
+    font = weighted(font, qtWeight(wanted.weight));
   }
   font.setPixelSize(pixels);
   font.setHintingPreference(QFont::PreferNoHinting);

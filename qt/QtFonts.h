@@ -51,6 +51,7 @@ class QtFonts {
 
   const QFont& face(const std::string& name);
   const QFont* registeredFace(const std::string& name);
+  void loadRegisteredFaces();
 
   std::unordered_map<std::string, QFont> registered_;
   std::unordered_map<std::string, QFont> installed_;

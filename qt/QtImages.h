@@ -4,6 +4,7 @@
 #include <QSize>
 #include <cstddef>
 #include <list>
+#include <optional>
 #include <string>
 
 #include "platform/foundation/Bundle.h"
@@ -21,6 +22,7 @@ class QtImages {
     QSize pixels;
     graphics::Appearance appearance = graphics::Appearance::light;
     graphics::RGBA tint;  ///< of template images; others keep their colours
+    std::optional<bool> isTemplate = std::nullopt;  ///< absent: as the asset says
     bool operator==(const Request&) const = default;
   };
 

@@ -40,14 +40,14 @@ ScenePainter::ScenePainter(QPainter& painter, Ground ground, QtTextEngine& engin
       base_(painter.transform()),
       toDevice_(painter.deviceTransform()),
       fromDevice_(toDevice_.inverted()),
-      upright_(toDevice_.type() <= QTransform::TxScale),
-      ground_(ground) {}
+      upright_(toDevice_.type() <= QTransform::TxScale) {
+  if (ground == Ground::nothing && upright_) ground_.emplace();
+}
 
 void ScenePainter::paint(const render::Scene& scene) {
   appearance_ = scene.appearance;
   for (const render::Item& item : scene.items) {
     std::visit([this](const auto& what) { draw(what); }, item);
-    if (!std::holds_alternative<render::TextItem>(item)) ground_ = Ground::unknown;
   }
 }
 
@@ -66,31 +66,45 @@ void ScenePainter::fill(const QRectF& device, graphics::RGBA color) {
 }
 
 void ScenePainter::draw(const render::TextItem& item) {
-  if (ground_ == Ground::unknown || !drawPicture(item)) drawText(item);
+  if (ground_ && drawPicture(item)) return;
+  drawText(item);
+  if (!ground_) return;
+  const QRectF frame = toDevice_.mapRect(toQRectF(item.frame));
+  const int room = static_cast<int>(std::ceil(frame.height()));
+  ground_->inked(frame.toAlignedRect().adjusted(-room, -room, room, room));
 }
 
-/// Draws the text from its picture, where there is one and it falls on whole pixels.
+/// Draws the text from its picture, where there is one for what lies under all of it, and it falls
+/// on whole pixels.
 bool ScenePainter::drawPicture(const render::TextItem& item) {
   const QPointF corner = toDevice_.map(QPointF(item.frame.left(), item.frame.top()));
   const double scale = toDevice_.m11();
-  const bool fits = upright_ && scale > 0 && toDevice_.m22() == scale &&
-                    corner == QPointF(corner.toPoint()) && item.frame.size.height * scale < 128;
+  const bool fits = scale > 0 && toDevice_.m22() == scale && corner == QPointF(corner.toPoint()) &&
+                    item.frame.size.height * scale < 128;
   if (!fits) return false;
-  const auto* picture = engine_.pictures().find(item, scale, [&] { return pictureOf(item); });
+  const auto ground = ground_->under(toDevice_.mapRect(toQRectF(item.frame)).toAlignedRect());
+  if (!ground) return false;
+  const auto* picture =
+      engine_.pictures().find(item, scale, *ground, [&] { return pictureOf(item, *ground); });
   if (!picture) return false;
+  if (picture->image.isNull()) return true;
+  const QRect ink(corner.toPoint() + picture->offset, picture->image.size());
+  if (ground_->under(ink) != ground) return false;
   painter_.setTransform(fromDevice_ * base_);
-  painter_.drawImage(corner.toPoint() + picture->offset, picture->image);
+  painter_.drawImage(ink.topLeft(), picture->image);
   painter_.setTransform(base_);
+  ground_->inked(ink);
   return true;
 }
 
-/// The text with room around it for ink that leaves its frame.
-TextPictures::Picture ScenePainter::pictureOf(const render::TextItem& item) const {
+/// The text on its ground, with room around it for ink that leaves its frame.
+TextPictures::Picture ScenePainter::pictureOf(const render::TextItem& item,
+                                              graphics::RGBA ground) const {
   const double scale = toDevice_.m11();
   const int room = static_cast<int>(std::ceil(item.frame.size.height * scale));
   const QSize frame = (QSizeF(item.frame.size.width, item.frame.size.height) * scale).toSize();
   QImage image(frame + QSize(2 * room, 2 * room), QImage::Format_ARGB32_Premultiplied);
-  image.fill(Qt::transparent);
+  image.fill(toQColor(ground));
   QPainter painter(&image);
   painter.translate(room, room);
   painter.scale(scale, scale);
@@ -114,7 +128,10 @@ void ScenePainter::drawLine(const ShapedText::Line& line, double unit,
                             const text::AttributedText& text, QPointF origin) {
   for (const ShapedText::Span& span : line.spans) {
     const text::Run& run = text.runs[span.run];
-    if (run.underline) drawDecoration(span, origin, engine_.font(run.font).underline, run);
+    if (!run.underline) continue;
+    ShapingFont::Stroke stroke = engine_.font(run.font).underline;
+    if (run.thickUnderline) stroke.thickness *= 2;
+    drawDecoration(span, origin, stroke, run);
   }
   painter_.setTransform(QTransform(unit, 0, 0, unit, origin.x(), origin.y()) * base_);
   for (const ShapedText::Piece& piece : line.pieces) {
@@ -144,12 +161,19 @@ void ScenePainter::drawDecoration(const ShapedText::Span& span, QPointF origin,
 void ScenePainter::draw(const render::ImageItem& item) {
   const QRectF device = deviceRect(item.frame);
   const QImage picture = QtImages::shared().picture(
-      {item.bundle, item.name, device.size().toSize(), appearance_, item.tint});
+      {item.bundle, item.name, device.size().toSize(), appearance_, item.tint, item.isTemplate});
   if (!picture.isNull()) painter_.drawImage(fromDevice_.mapRect(device), picture);
+  if (ground_) ground_->painted(device.toAlignedRect());
 }
 
 void ScenePainter::draw(const render::FillItem& item) {
-  if (item.topCornerRadius <= 0) return fill(deviceRect(item.frame), item.color);
+  const QRectF device = deviceRect(item.frame);
+  if (item.topCornerRadius <= 0) {
+    if (ground_) ground_->filled(device.toAlignedRect(), item.color);
+    return fill(device, item.color);
+  }
+  // Its edges need not be on whole pixels.
+  if (ground_) ground_->painted(device.toAlignedRect().adjusted(-1, -1, 1, 1));
   const bool antialiased = painter_.testRenderHint(QPainter::Antialiasing);
   painter_.setRenderHint(QPainter::Antialiasing);
   painter_.fillPath(withRoundedTop(toQRectF(item.frame), item.topCornerRadius),
@@ -159,6 +183,7 @@ void ScenePainter::draw(const render::FillItem& item) {
 
 void ScenePainter::draw(const render::StrokeItem& item) {
   const QRectF outer = deviceRect(item.frame);
+  if (ground_) ground_->painted(outer.toAlignedRect());
   const double scale = toDevice_.mapRect(QRectF(0, 0, 1, 1)).height();
   const double limit = std::min(outer.width(), outer.height()) / 2;
   const double w = std::min(std::max(1.0, std::round(item.width * scale)), limit);

@@ -2,8 +2,10 @@
 
 #include <QPainter>
 #include <QTransform>
+#include <optional>
 
 #include "platform/render/Scene.h"
+#include "qt/KnownGround.h"
 #include "qt/QtTextEngine.h"
 
 namespace quorix::qt {
@@ -17,8 +19,9 @@ namespace quorix::qt {
 ///     ScenePainter(painter).paint(host.scene(size));
 class ScenePainter {
  public:
-  /// What lies under the scene. On nothing, a text that was painted before is painted from its
-  /// picture, with the same pixels; over other things text is blended by their brightness.
+  /// What lies under the scene. On an empty image in premultiplied ARGB, a text that was painted
+  /// before on the same ground, nothing or one opaque colour, is painted from its picture, with the
+  /// same pixels; over other things text is blended by their brightness.
   enum class Ground { unknown, nothing };
 
   explicit ScenePainter(QPainter& painter, Ground ground = Ground::unknown,
@@ -38,7 +41,7 @@ class ScenePainter {
 
   void drawText(const render::TextItem& item);
   bool drawPicture(const render::TextItem& item);
-  TextPictures::Picture pictureOf(const render::TextItem& item) const;
+  TextPictures::Picture pictureOf(const render::TextItem& item, graphics::RGBA ground) const;
   void drawLine(const ShapedText::Line& line, double unit, const text::AttributedText& text,
                 QPointF origin);
   void drawDecoration(const ShapedText::Span& span, QPointF origin, ShapingFont::Stroke stroke,
@@ -53,7 +56,7 @@ class ScenePainter {
   const QTransform toDevice_;
   const QTransform fromDevice_;
   const bool upright_;
-  Ground ground_;
+  std::optional<KnownGround> ground_;
   graphics::Appearance appearance_ = graphics::Appearance::light;
 };
 

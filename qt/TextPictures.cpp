@@ -4,6 +4,8 @@
 #include <iterator>
 #include <utility>
 
+#include "qt/QtColor.h"
+
 namespace quorix::qt {
 namespace {
 
@@ -11,13 +13,15 @@ namespace {
 constexpr std::size_t maximumBytes = std::size_t{2} << 20;
 constexpr std::size_t maximumEntries = 128;
 
-/// `picture` without its empty borders.
-TextPictures::Picture cropped(const TextPictures::Picture& picture) {
+/// `picture` without the borders that show its ground alone.
+TextPictures::Picture cropped(const TextPictures::Picture& picture, graphics::RGBA ground) {
+  const bool opaque = ground.alpha == 255;
+  const QRgb bare = opaque ? toQColor(ground).rgb() : 0;
   const QImage& image = picture.image;
   int left = image.width(), right = -1, top = image.height(), bottom = -1;
   for (int y = 0; y < image.height(); ++y) {
     const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
-    const auto inked = [](QRgb pixel) { return pixel != 0; };
+    const auto inked = [&](QRgb pixel) { return pixel != bare; };
     const auto* end = line + image.width();
     const auto* first = std::find_if(line, end, inked);
     if (first == end) continue;
@@ -29,31 +33,36 @@ TextPictures::Picture cropped(const TextPictures::Picture& picture) {
   }
   if (bottom < 0) return {};
   const QRect ink(QPoint(left, top), QPoint(right, bottom));
-  return {image.copy(ink), picture.offset + ink.topLeft()};
+  QImage cut = image.copy(ink);
+  // Drawing an image without an alpha channel is copying it.
+  if (opaque) cut.reinterpretAsFormat(QImage::Format_RGB32);
+  return {std::move(cut), picture.offset + ink.topLeft()};
 }
 
 }  // namespace
 
-TextPictures::Entry* TextPictures::known(const render::TextItem& item, double scale) {
+TextPictures::Entry* TextPictures::known(const render::TextItem& item, double scale,
+                                         graphics::RGBA ground) {
   const std::size_t hash = TextIdentity{}(&item.text);
   const auto [first, last] = index_.equal_range(hash);
   for (auto row = first; row != last; ++row) {
     const Entry& entry = *row->second;
-    if (entry.scale != scale || entry.width != item.frame.size.width || entry.text != item.text) {
+    if (entry.scale != scale || entry.ground != ground || entry.width != item.frame.size.width ||
+        entry.text != item.text) {
       continue;
     }
     entries_.splice(entries_.begin(), entries_, row->second);
     return &entries_.front();
   }
   if (entries_.size() >= maximumEntries) dropLast();
-  entries_.push_front({item.text, item.frame.size.width, scale, false, {}});
+  entries_.push_front({item.text, item.frame.size.width, scale, ground, false, {}});
   index_.emplace(hash, entries_.begin());
   return nullptr;
 }
 
 void TextPictures::keep(Entry& entry, Picture picture) {
   entry.made = true;
-  entry.picture = cropped(picture);
+  entry.picture = cropped(picture, entry.ground);
   bytes_ += static_cast<std::size_t>(entry.picture.image.sizeInBytes());
   while (bytes_ > maximumBytes && entries_.size() > 1) dropLast();
 }

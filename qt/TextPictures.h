@@ -11,8 +11,8 @@
 
 namespace quorix::qt {
 
-/// Texts as they look on nothing, for those that are painted over and over: a row's words are the
-/// same on every row. Main thread.
+/// Texts as they look on nothing or on one colour, for those that are painted over and over: a
+/// row's words are the same on every row. Main thread.
 class TextPictures {
  public:
   struct Picture {
@@ -20,12 +20,14 @@ class TextPictures {
     QPoint offset;  ///< of the image from the frame's top left corner; device pixels
   };
 
-  /// The picture of `item` at `scale` device pixels a point. The first time there is none, since
+  /// The picture of `item` at `scale` device pixels a point, on `ground`, which is opaque or
+  /// nothing at all; on an opaque ground, to be copied over it. The first time there is none, since
   /// most texts are not painted again; the second time `paint` makes it, an image that holds all of
-  /// the text's ink. The pointer holds until the next call.
+  /// the text's ink in premultiplied ARGB. The pointer holds until the next call.
   template <class Paint>
-  const Picture* find(const render::TextItem& item, double scale, Paint paint) {
-    Entry* entry = known(item, scale);
+  const Picture* find(const render::TextItem& item, double scale, graphics::RGBA ground,
+                      Paint paint) {
+    Entry* entry = known(item, scale, ground);
     if (!entry) return nullptr;
     if (!entry->made) keep(*entry, paint());
     return &entry->picture;
@@ -38,12 +40,13 @@ class TextPictures {
     text::AttributedText text;
     double width = 0;
     double scale = 1;
+    graphics::RGBA ground;
     bool made = false;
     Picture picture;
   };
   using Entries = std::list<Entry>;
 
-  Entry* known(const render::TextItem& item, double scale);
+  Entry* known(const render::TextItem& item, double scale, graphics::RGBA ground);
   void keep(Entry& entry, Picture picture);
   void dropLast();
 

@@ -13,17 +13,6 @@ constexpr double overlayFontSize = 16;
 constexpr double discountFrom = 0.1;
 constexpr std::int64_t hundredthsInUnit = 100;
 
-/// The host's face scales with the user's text size, the library's own does not.
-const swiftui::Font& cached(std::optional<swiftui::Font>& cache,
-                            const std::optional<std::string>& styleFace,
-                            const QuorixFont& (*ownFace)(), double size) {
-  if (!cache) {
-    cache = styleFace ? swiftui::Font::custom(*styleFace, size)
-                      : swiftui::Font::custom(ownFace().name(), swiftui::Font::FixedSize{size});
-  }
-  return *cache;
-}
-
 }  // namespace
 
 ScoreWidgetViewModel::ScoreWidgetViewModel(std::string clientId, const TokenData& token,
@@ -53,18 +42,18 @@ std::optional<std::string> ScoreWidgetViewModel::feeText(std::int64_t hundredths
 }
 
 const swiftui::Font& ScoreWidgetViewModel::widgetRegularFont() const {
-  return cached(widgetRegularFont_, styleConfiguration_.regularFont, QuorixFont::regular,
-                widgetFontSize);
+  return widgetRegularFont_.get(styleConfiguration_.regularFont, QuorixFont::regular,
+                                widgetFontSize);
 }
 
 const swiftui::Font& ScoreWidgetViewModel::widgetSemiBoldFont() const {
-  return cached(widgetSemiBoldFont_, styleConfiguration_.semiBoldFont, QuorixFont::medium,
-                widgetFontSize);
+  return widgetSemiBoldFont_.get(styleConfiguration_.semiBoldFont, QuorixFont::medium,
+                                 widgetFontSize);
 }
 
 const swiftui::Font& ScoreWidgetViewModel::overlayRegularFont() const {
-  return cached(overlayRegularFont_, styleConfiguration_.regularFont, QuorixFont::regular,
-                overlayFontSize);
+  return overlayRegularFont_.get(styleConfiguration_.regularFont, QuorixFont::regular,
+                                 overlayFontSize);
 }
 
 }  // namespace quorix

@@ -5,8 +5,9 @@
 #include <string>
 
 #include "QuorixWidgets/data/TokenData.h"
+#include "QuorixWidgets/localization/StyleFont.h"
+#include "QuorixWidgets/localization/SwiftUIStyleConfiguration.h"
 #include "QuorixWidgets/score/ScoreWidgetStyle.h"
-#include "QuorixWidgets/score/SwiftUIStyleConfiguration.h"
 #include "platform/combine/ObservableObject.h"
 #include "platform/foundation/CurrencyFormatter.h"
 #include "platform/foundation/Locale.h"
@@ -40,9 +41,9 @@ class ScoreWidgetViewModel final : public combine::ObservableObject {
  private:
   std::optional<std::string> feeText(std::int64_t hundredths) const;
 
-  mutable std::optional<swiftui::Font> widgetRegularFont_;
-  mutable std::optional<swiftui::Font> widgetSemiBoldFont_;
-  mutable std::optional<swiftui::Font> overlayRegularFont_;
+  mutable StyleFont widgetRegularFont_;
+  mutable StyleFont widgetSemiBoldFont_;
+  mutable StyleFont overlayRegularFont_;
   SwiftUIStyleConfiguration styleConfiguration_;
   std::string clientId_;
   std::int64_t returnFee_;

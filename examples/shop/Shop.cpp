@@ -3,68 +3,115 @@
 #include <QEvent>
 #include <QGuiApplication>
 #include <QPalette>
-#include <QVariantMap>
-
-#include "QuorixWidgets/localization/TovaFont.h"
-#include "examples/shop/Shopper.h"
+#include <QRegularExpression>
+#include <chrono>
 
 namespace quorix::examples {
 namespace {
 
-QVariantMap language(const char* name, const char* code, bool rightToLeft = false) {
-  return {{"name", QString::fromUtf8(name)}, {"code", code}, {"rightToLeft", rightToLeft}};
+template <class Thing>
+QStringList namesOf(const std::vector<Thing>& things) {
+  QStringList names;
+  for (const Thing& thing : things) names.append(thing.name);
+  return names;
 }
 
-QVariantMap face(const char* name, const char* regular, const char* semiBold,
-                 const char* textSize) {
-  return {{"name", name}, {"regular", regular}, {"semiBold", semiBold}, {"textSize", textSize}};
-}
-
-}  // namespace
-
-Shop::Shop(QObject* parent) : QObject(parent) { qGuiApp->installEventFilter(this); }
-
-QVariantList Shop::shoppers() {
-  QVariantList list;
-  for (const Shopper& shopper : Shopper::all()) {
-    list.append(QVariantMap{{"name", shopper.name},
-                            {"token", QString::fromStdString(shopper.token)},
-                            {"price", shopper.price}});
-  }
-  return list;
-}
-
-QVariantList Shop::languages() {
-  return {
-      language("English", "en"),
-      language("Español", "es"),
-      language("Deutsch", "de"),
-      language("العربية", "ar", true),
-      language("Français (no table)", "fr"),
-  };
-}
-
-QVariantList Shop::faces() {
-  const char* regular = TovaFont::regular().name().c_str();
-  const char* semiBold = "TovaSansLatin-SemiBold";
-  return {
-      face("Widget's own face", "", "", "large"),
-      face("Shop's face", regular, semiBold, "large"),
-      face("Shop's face, larger", regular, semiBold, "extraExtraExtraLarge"),
-      face("Shop's face, largest", regular, semiBold, "accessibilityLarge"),
-  };
-}
-
-bool Shop::desktopIsDark() {
+bool desktopIsDark() {
   const QPalette palette = QGuiApplication::palette();
   return palette.color(QPalette::Window).lightness() <
          palette.color(QPalette::WindowText).lightness();
 }
 
-bool Shop::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == qGuiApp && event->type() == QEvent::ApplicationPaletteChange) {
-    emit desktopChanged();
+}  // namespace
+
+Shop::Shop(QObject* parent) : QObject(parent), words_(ShopLanguage::all().front().code) {
+  qGuiApp->installEventFilter(this);
+  noteRead_.setSingleShot(true);
+  noteRead_.setInterval(std::chrono::seconds(8));
+  connect(&noteRead_, &QTimer::timeout, this, [this] {
+    note_.clear();
+    emit changed();
+  });
+}
+
+QStringList Shop::shoppers() { return namesOf(Shopper::all()); }
+QStringList Shop::languages() { return namesOf(ShopLanguage::all()); }
+QStringList Shop::appearances() { return {"As the desktop", "Light", "Dark"}; }
+QStringList Shop::faces() { return namesOf(TextFace::all()); }
+QStringList Shop::sizes() { return {"XS", "S", "M", "L", "XL"}; }
+
+void Shop::choose(const Choices& choices) {
+  if (choices_ == choices) return;
+  const bool speaksAnother = choices_.language != choices.language;
+  choices_ = choices;
+  if (speaksAnother) words_ = ShopWords(locale());
+  emit changed();
+}
+
+void Shop::choose(int index, int Choices::*choice) {
+  Choices choices = choices_;
+  choices.*choice = index;
+  choose(choices);
+}
+
+bool Shop::dark() const {
+  return choices_.appearance == 0 ? desktopIsDark() : choices_.appearance == 2;
+}
+
+void Shop::setMoving(bool moving) {
+  moving_ = moving;
+  emit changed();
+}
+
+void Shop::chooseSize(const QString& size) {
+  if (size_ == size) return;
+  size_ = size;
+  emit changed();
+}
+
+void Shop::openBag(bool open) {
+  if (bagOpen_ == open) return;
+  bagOpen_ = open;
+  emit changed();
+}
+
+void Shop::leaveFor(const QString& address) {
+  // Lines break at spaces, of which an address has none: it may break after its parts.
+  QString parts = address;
+  parts.replace(QRegularExpression(QStringLiteral("([/?&])(?=[^/])")), QStringLiteral("\\1\u200b"));
+  note_ = QStringLiteral("Opened outside the app:\n%1\nThis is a demo, and nothing answers there.")
+              .arg(parts);
+  noteRead_.start();
+  emit changed();
+}
+
+QVariantList Shop::bagLines() const {
+  QVariantList list;
+  for (const Bag::Line& line : bag_.lines()) {
+    list.append(QVariantMap{
+        {"size", line.size}, {"count", line.count}, {"price", shopper().priceOf(line.count)}});
   }
+  return list;
+}
+
+void Shop::addToBag() {
+  bag_.add(size_);
+  emit changed();
+  emit noticed(words_["added"].arg(words_["product"], size_));
+}
+
+void Shop::takeOut(const QString& size) {
+  bag_.remove(size);
+  emit changed();
+}
+
+void Shop::fillBag(const Bag& bag) {
+  bag_ = bag;
+  emit changed();
+}
+
+bool Shop::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == qGuiApp && event->type() == QEvent::ApplicationPaletteChange) emit changed();
   return QObject::eventFilter(watched, event);
 }
 

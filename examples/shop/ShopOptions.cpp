@@ -5,11 +5,12 @@
 namespace quorix::examples {
 
 const char* ShopOptions::usage() {
-  return "Usage: quorix-shop [--pictures] [--out DIR]\n"
+  return "Usage: quorix-shop [--widgets | --pictures] [--out DIR]\n"
          "\n"
-         "A small shop with the score row on its product page. The bar on top switches shopper,\n"
-         "language, appearance and text while it runs.\n"
+         "A small shop with the score row and the info widget where a real shop would have them.\n"
+         "The bar on top switches shopper, language, appearance and text while it runs.\n"
          "\n"
+         "  --widgets    open a Qt Widgets window of the shop beside the Qt Quick one\n"
          "  --pictures   write the shop's scenes as pictures instead of opening a window\n"
          "               (also what happens where there is no display)\n"
          "  --out DIR    where pictures go, \"out\" by default; asks for pictures\n"
@@ -22,6 +23,8 @@ std::variant<ShopOptions, std::string> ShopOptions::parse(std::span<char* const>
     const std::string_view argument = arguments[i];
     if (argument == "--help" || argument == "-h") {
       options.help = true;
+    } else if (argument == "--widgets") {
+      options.widgets = true;
     } else if (argument == "--pictures") {
       options.pictures = true;
     } else if (argument == "--out") {

@@ -9,6 +9,7 @@ namespace quorix::examples {
 /// What the command line asks for.
 struct ShopOptions {
   bool help = false;
+  bool widgets = false;           ///< a Qt Widgets window beside the Qt Quick one
   bool pictures = false;          ///< write pictures instead of opening a window
   std::string outFolder = "out";  ///< where they go
 

@@ -1,5 +1,7 @@
 #include "examples/shop/Shopper.h"
 
+#include <QLocale>
+
 #include "examples/common/TokenMint.h"
 
 namespace quorix::examples {
@@ -13,17 +15,21 @@ std::string brokenToken() {
 
 }  // namespace
 
+QString Shopper::priceOf(int count) const {
+  return money.arg(QLocale(QLocale::English).toString(price * count));
+}
+
 const std::vector<Shopper>& Shopper::all() {
   static const std::vector<Shopper> shoppers = {
       {QStringLiteral("Ana: discount in euros"), mintToken({0.82, "EUR", 600, 300}),
-       QStringLiteral("€ 89")},
+       QStringLiteral("€ %1"), 89},
       {QStringLiteral("Ben: no discount, pounds"), mintToken({0.06, "GBP", 500, 250}),
-       QStringLiteral("£79")},
-      {QStringLiteral("Chie: yen"), mintToken({0.91, "JPY", 55000, 33000}),
-       QStringLiteral("¥14,800")},
+       QStringLiteral("£%1"), 79},
+      {QStringLiteral("Chie: yen"), mintToken({0.91, "JPY", 55000, 33000}), QStringLiteral("¥%1"),
+       14800},
       {QStringLiteral("Dana: Swedish kronor"), mintToken({0.74, "SEK", 6900, 3900}),
-       QStringLiteral("949 kr")},
-      {QStringLiteral("Eli: broken token"), brokenToken(), QStringLiteral("€ 89")},
+       QStringLiteral("%1 kr"), 949},
+      {QStringLiteral("Eli: broken token"), brokenToken(), QStringLiteral("€ %1"), 89},
   };
   return shoppers;
 }

@@ -10,7 +10,11 @@ namespace quorix::examples {
 struct Shopper {
   QString name;  ///< with what is special about them, for the demo bar
   std::string token;
-  QString price;  ///< of the product, in the shopper's money
+  QString money;  ///< how an amount is written in the shopper's money, "%1 kr"
+  int price = 0;  ///< of the product, in whole units of that money
+
+  /// What `count` pieces cost.
+  QString priceOf(int count) const;
 
   /// Everybody whom the demo knows, each with a token as the widget service would issue it.
   static const std::vector<Shopper>& all();

@@ -7,8 +7,8 @@
 namespace quorix::examples {
 
 /// Stands in for the vendor's translation service as long as it lives: requests for its addresses
-/// are answered in process and never reach the network. It speaks English, Spanish, German and
-/// Arabic; other languages get the service's "not found" page. Main thread.
+/// are answered in process and never reach the network. It speaks English, Spanish, German,
+/// Arabic and Japanese; other languages get the service's "not found" page. Main thread.
 ///
 ///     StandInServices services(std::chrono::milliseconds(250));
 class StandInServices {

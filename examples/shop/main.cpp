@@ -1,14 +1,23 @@
+#include <QApplication>
 #include <QFont>
-#include <QGuiApplication>
 #include <QQuickWindow>
 #include <QSGRendererInterface>
+#include <QScreen>
 #include <chrono>
 #include <cstdio>
 
-#include "examples/shop/Pictures.h"
+#ifdef Q_OS_LINUX
+#include <unistd.h>
+#endif
+
+#include "examples/shop/OverlayPages.h"
+#include "examples/shop/Shop.h"
 #include "examples/shop/ShopOptions.h"
-#include "examples/shop/ShopWindow.h"
 #include "examples/shop/StandInServices.h"
+#include "examples/shop/WayOut.h"
+#include "examples/shop/pictures/Pictures.h"
+#include "examples/shop/quick/QuickWindow.h"
+#include "examples/shop/widgets/WidgetsWindow.h"
 #include "qt/Engine.h"
 
 namespace {
@@ -25,31 +34,66 @@ bool hasDisplay() {
 #endif
 }
 
-void useShopFont() {
+void prepare() {
   QFont font;
   font.setFamilies({QStringLiteral("Inter"), QStringLiteral("Noto Sans"),
-                    QStringLiteral("Open Sans"), QFont().family()});
+                    QStringLiteral("Open Sans"), QStringLiteral("Noto Sans Arabic"),
+                    QStringLiteral("Noto Sans CJK JP"), QStringLiteral("VL PGothic"),
+                    QFont().family()});
   QGuiApplication::setFont(font);
+  quorix::qt::installEngine();
+}
+
+/// What the web engine wants to find before there is an application object.
+void makeReadyForPages() {
+  QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+#ifdef Q_OS_LINUX
+  // It has no sandbox for root, which is who runs the demo in a container. Its pages are our own.
+  if (geteuid() == 0) qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
+#endif
 }
 
 int writePictures(int argc, char** argv, const std::string& folder) {
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
-  const QGuiApplication app(argc, argv);
-  useShopFont();
-  quorix::qt::installEngine();
+  const QApplication app(argc, argv);
+  prepare();
   const StandInServices services(0ms);
   return Pictures(QString::fromStdString(folder)).write() ? 0 : 1;
 }
 
-int openShop(int argc, char** argv) {
+int openQuick(int argc, char** argv) {
   const QGuiApplication app(argc, argv);
-  useShopFont();
-  quorix::qt::installEngine();
+  prepare();
   const StandInServices services(250ms);
-  const ShopWindow shop;
-  shop.window().show();
+  Shop shop;
+  const OverlayPages pages(shop);
+  const WayOut wayOut(shop);
+  const QuickWindow quick(shop);
+  quick.window().show();
   return QGuiApplication::exec();
+}
+
+/// Both faces beside each other, showing one shop.
+int openBoth(int argc, char** argv) {
+  const QApplication app(argc, argv);
+  prepare();
+  const StandInServices services(250ms);
+  Shop shop;
+  const OverlayPages pages(shop);
+  const WayOut wayOut(shop);
+  const QuickWindow quick(shop);
+  WidgetsWindow widgets(shop);
+  const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+  const int gap = 12;
+  const int both = quick.window().width() + gap + widgets.width();
+  const int left = room.left() + qMax(0, (room.width() - both) / 2);
+  const int top = room.top() + qMax(0, (room.height() - widgets.height()) / 2);
+  quick.window().setPosition(left, top);
+  widgets.move(left + quick.window().width() + gap, top);
+  quick.window().show();
+  widgets.show();
+  return QApplication::exec();
 }
 
 }  // namespace
@@ -65,11 +109,12 @@ int main(int argc, char** argv) {
     std::fputs(ShopOptions::usage(), stdout);
     return 0;
   }
+  makeReadyForPages();
   if (options.pictures) return writePictures(argc, argv, options.outFolder);
   if (!hasDisplay()) {
     std::printf("There is no display here: the shop's scenes go into %s as pictures.\n",
                 options.outFolder.c_str());
     return writePictures(argc, argv, options.outFolder);
   }
-  return openShop(argc, argv);
+  return options.widgets ? openBoth(argc, argv) : openQuick(argc, argv);
 }

@@ -4,6 +4,8 @@
 #include <iterator>
 #include <utility>
 
+#include "platform/hosting/ImageName.h"
+
 namespace quorix::hosting {
 namespace {
 
@@ -34,11 +36,23 @@ AccessibilityElement merged(const std::vector<AccessibilityElement>& children,
   return element;
 }
 
+const elements::Image* firstImage(const layout::Element& element) {
+  if (const auto* image = std::get_if<elements::Image>(&element.kind)) return image;
+  for (const layout::Element& child : element.children) {
+    if (const auto* image = firstImage(child)) return image;
+  }
+  return nullptr;
+}
+
+bool isNamed(const AccessibilityElement& element) {
+  return !element.label.empty() || !element.hint.empty();
+}
+
 /// An element that acts is a button to whoever can't see it, and the first action given is the one.
 void act(AccessibilityElement& element, const std::function<void()>& action) {
   if (element.action) return;
   element.action = action;
-  element.role = Role::button;
+  if (element.role != Role::link) element.role = Role::button;
 }
 
 }  // namespace
@@ -48,6 +62,7 @@ SceneBuilder::SceneBuilder(const swiftui::Evaluation& evaluation,
                            GeometryVisitor visitGeometry)
     : evaluation_(evaluation),
       display_{environment.appearance, environment.direction, environment.scale},
+      language_(environment.language),
       engine_(engine),
       visitGeometry_(std::move(visitGeometry)),
       grid_(environment.scale) {
@@ -58,7 +73,7 @@ render::Scene SceneBuilder::build() {
   scene_.accessibility = add(evaluation_.root);
   // A picture that nobody named says nothing.
   std::erase_if(scene_.accessibility, [](const AccessibilityElement& element) {
-    return element.label.empty() && element.hint.empty() && !element.action;
+    return !isNamed(element) && !element.action;
   });
   return std::move(scene_);
 }
@@ -91,6 +106,10 @@ SceneBuilder::Accessibility SceneBuilder::host(render::HostedContent& content,
 }
 
 SceneBuilder::Accessibility SceneBuilder::addChildren(const layout::Element& element) {
+  if (std::holds_alternative<elements::Background>(element.kind)) {
+    add(element.children.back());
+    return add(element.children.front());
+  }
   Accessibility all;
   for (const layout::Element& child : element.children) {
     Accessibility below = add(child);
@@ -107,6 +126,11 @@ void SceneBuilder::paint(const layout::Element& element) {
         render::ImageItem{grid_.round(element.frame), image->name, image->bundle, image->tint});
   } else if (const auto* divider = std::get_if<elements::Divider>(&element.kind)) {
     scene_.items.push_back(render::FillItem{grid_.round(element.frame), divider->color});
+  } else if (const auto* fill = std::get_if<elements::Fill>(&element.kind)) {
+    scene_.items.push_back(render::FillItem{grid_.round(element.frame), fill->color});
+  } else if (const auto* stroke = std::get_if<elements::Stroke>(&element.kind)) {
+    scene_.items.push_back(
+        render::StrokeItem{grid_.round(element.frame), stroke->color, stroke->width});
   }
 }
 
@@ -121,6 +145,18 @@ SceneBuilder::Accessibility SceneBuilder::describe(const layout::Element& elemen
     return {};
   }
   return {described};
+}
+
+std::string SceneBuilder::buttonLabel(const layout::Element& label,
+                                      const Accessibility& below) const {
+  std::string words;
+  for (const AccessibilityElement& part : below) {
+    if (!words.empty() && !part.label.empty()) words += ", ";
+    words += part.label;
+  }
+  if (!words.empty()) return words;
+  const elements::Image* image = firstImage(label);
+  return image ? spokenName(*image, language_) : words;
 }
 
 /// Applies a decoration to what assistive technology meets inside it.
@@ -148,8 +184,20 @@ struct SceneBuilder::Decorator {
   void operator()(const modifiers::AccessibilityAction& m) {
     for (auto& child : below) act(child, m.action);
   }
+  /// A picture that nobody named is not made to act beside what has a name.
   void operator()(const modifiers::TapGesture& m) {
-    for (auto& child : below) act(child, m.action);
+    const bool anyNamed = std::any_of(below.begin(), below.end(), isNamed);
+    for (auto& child : below) {
+      if (!anyNamed || isNamed(child)) act(child, m.action);
+    }
+  }
+  void operator()(const modifiers::Button& m) {
+    AccessibilityElement button;
+    button.frame = frame;
+    button.role = Role::button;
+    button.label = self.buttonLabel(element, below);
+    button.action = m.action;
+    below = {button};
   }
   void operator()(const modifiers::GeometryChange& m) {
     self.visitGeometry_(decoration.path, element.frame.size, m.action);
@@ -160,8 +208,11 @@ struct SceneBuilder::Decorator {
 SceneBuilder::Accessibility SceneBuilder::decorate(const swiftui::Decoration& decoration,
                                                    const layout::Element& element) {
   const layout::Rect frame = grid_.round(element.frame);
+  // Hit areas go before what lies inside and on top of them.
   if (const auto* tap = std::get_if<modifiers::TapGesture>(decoration.modifier)) {
-    scene_.hitAreas.push_back({frame, tap->action});  // before what lies inside and on top of it
+    scene_.hitAreas.push_back({frame, tap->action});
+  } else if (const auto* button = std::get_if<modifiers::Button>(decoration.modifier)) {
+    scene_.hitAreas.push_back({frame, button->action});
   }
   Accessibility below = addChildren(element);
   std::visit(Decorator{*this, decoration, element, frame, below}, *decoration.modifier);

@@ -32,10 +32,13 @@ class SceneBuilder {
   void paint(const layout::Element& element);
   Accessibility describe(const layout::Element& element) const;
   Accessibility host(render::HostedContent& content, const layout::Element& element);
+  /// What a button is called: all that its label says, or else what it shows.
+  std::string buttonLabel(const layout::Element& label, const Accessibility& below) const;
   Accessibility decorate(const swiftui::Decoration& decoration, const layout::Element& element);
 
   const swiftui::Evaluation& evaluation_;
   render::Display display_;
+  const std::string& language_;
   text::TextEngine& engine_;
   GeometryVisitor visitGeometry_;
   layout::PixelGrid grid_;

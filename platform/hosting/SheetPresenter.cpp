@@ -71,8 +71,10 @@ struct SheetPresenter::State final : ViewHost::Client {
     drag = 0;
   }
   const render::Scene& contentScene() {
-    return content.scene({geometry.panelWidth(), restingHeight() - geometry.bottomInset()});
+    return content.scene({geometry.panelWidth(), restingHeight()},
+                         {.bottom = geometry.bottomInset()});
   }
+  void addPanel(render::Scene& to, const layout::Rect& frame);
   std::optional<layout::Rect> inWindow(const std::optional<layout::Rect>& frame) const {
     return frame ? std::optional(frame->translated(panel().origin)) : std::nullopt;
   }
@@ -100,6 +102,15 @@ void SheetPresenter::State::close() {
   if (std::exchange(closed, true)) return;
   content.setOnScreen(false);
   client.sheetDidClose();
+}
+
+/// The panel with its content, of which whatever fills it to both upper corners is cut as it is.
+void SheetPresenter::State::addPanel(render::Scene& to, const layout::Rect& frame) {
+  const graphics::RGBA color = colorOfPanel(content.environment().appearance);
+  to.items.emplace_back(std::in_place_type<render::FillItem>,
+                        render::FillItem{frame, color, SheetGeometry::cornerRadius});
+  to.append(contentScene(), frame.origin);
+  SheetGeometry::roundTop(to, frame);
 }
 
 bool SheetPresenter::State::advance(double seconds) {
@@ -167,11 +178,7 @@ const render::Scene& SheetPresenter::scene() {
   overlay.appearance = content.appearance;
   overlay.items.emplace_back(std::in_place_type<render::FillItem>,
                              render::FillItem{{{}, overlay.size}, shade(), 0});
-  overlay.items.emplace_back(
-      std::in_place_type<render::FillItem>,
-      render::FillItem{state.panel(), panelColor(), SheetGeometry::cornerRadius});
-  overlay.append(content, state.panel().origin);
-  SheetGeometry::roundTop(overlay, state.panel());
+  state.addPanel(overlay, state.panel());
   state.overlay = std::move(overlay);
   return *state.overlay;
 }
@@ -187,13 +194,9 @@ const render::Scene& SheetPresenter::panel() {
   if (state.panelAtRest) return *state.panelAtRest;
   const render::Scene& content = state.contentScene();
   render::Scene panel;
-  panel.size = {content.size.width, content.size.height + state.geometry.bottomInset()};
+  panel.size = content.size;
   panel.appearance = content.appearance;
-  panel.items.emplace_back(
-      std::in_place_type<render::FillItem>,
-      render::FillItem{{{}, panel.size}, panelColor(), SheetGeometry::cornerRadius});
-  panel.append(content, {});
-  SheetGeometry::roundTop(panel, {{}, panel.size});
+  state.addPanel(panel, {{}, panel.size});
   state.panelAtRest = std::move(panel);
   return *state.panelAtRest;
 }

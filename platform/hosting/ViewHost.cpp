@@ -5,6 +5,7 @@
 
 #include "platform/hosting/RecentEvaluations.h"
 #include "platform/hosting/SceneBuilder.h"
+#include "platform/layout/Alignment.h"
 #include "platform/layout/Layout.h"
 #include "platform/swiftui/ViewGraph.h"
 
@@ -13,6 +14,20 @@ namespace {
 
 /// More than a surface's layout asks about in turn.
 constexpr std::size_t manyProposals = 4;
+
+/// What a view is placed in.
+struct Area {
+  layout::Size size;
+  layout::EdgeInsets insets;
+  bool operator==(const Area&) const = default;
+
+  layout::SafeArea safe() const {
+    return {{{insets.leading, insets.top},
+             {std::max(0.0, size.width - insets.leading - insets.trailing),
+              std::max(0.0, size.height - insets.top - insets.bottom)}},
+            insets};
+  }
+};
 
 }  // namespace
 
@@ -28,7 +43,7 @@ struct ViewHost::State {
   void forget() { RecentEvaluations::shared().empty(evaluation); }
   void invalidated();
   void changed();
-  void layOut(layout::Size size);
+  void layOut(const Area& within);
   const render::Scene* current();
   void perform(const std::function<void()>& action);
 
@@ -44,7 +59,7 @@ struct ViewHost::State {
   std::optional<swiftui::Presentation> presentation;
   swiftui::PresentationDetents detents;
   std::optional<render::Scene> scene;
-  std::optional<layout::Size> area;  ///< of the latest scene
+  std::optional<Area> area;  ///< of the latest scene
   std::vector<std::pair<swiftui::TreePath, layout::Size>> geometry;
   std::optional<layout::Point> pressed;
   int focused = -1;   ///< index of an accessibility element
@@ -88,15 +103,18 @@ void ViewHost::State::changed() {
   client.viewNeedsDisplay();
 }
 
-void ViewHost::State::layOut(layout::Size size) {
+void ViewHost::State::layOut(const Area& within) {
   swiftui::Evaluation& latest = evaluated();
-  layout::Layout pass(engine, environment.scale);
-  const layout::ProposedSize proposal = {size.width, size.height};
+  const layout::SafeArea safe = within.safe();
+  layout::Layout pass(engine, environment.scale, safe);
+  const layout::ProposedSize proposal = {safe.frame.size.width, safe.frame.size.height};
   const layout::Size chosen = pass.measure(latest.root, proposal);
-  const layout::Point centred = layout::alignedOffset({}, size, chosen);
-  pass.place(latest.root, {std::max(0.0, centred.x), std::max(0.0, centred.y)}, proposal);
+  const layout::Point centred = layout::alignedOffset({}, safe.frame.size, chosen);
+  const layout::Point origin = {safe.frame.left() + std::max(0.0, centred.x),
+                                safe.frame.top() + std::max(0.0, centred.y)};
+  pass.place(latest.root, origin, proposal);
   if (environment.direction == layout::LayoutDirection::rightToLeft) {
-    layout::mirror(latest.root, size.width);
+    layout::mirror(latest.root, within.size.width);
   }
   // The actions run when the scene stands: they may ask this host again.
   std::vector<std::function<void()>> changes;
@@ -110,9 +128,9 @@ void ViewHost::State::layOut(layout::Size size) {
     sizes.emplace_back(path, now);
     if (!same) changes.push_back([action, now] { action(now); });
   };
-  area = size;
+  area = within;
   scene = SceneBuilder(latest, environment, engine, visit).build();
-  scene->size = size;
+  scene->size = within.size;
   geometry = std::move(sizes);
   forget();
   for (const auto& change : changes) change();
@@ -170,8 +188,9 @@ layout::Size ViewHost::sizeThatFits(layout::ProposedSize proposal) {
   return size;
 }
 
-const render::Scene& ViewHost::scene(layout::Size size) {
-  if (!state_->scene || state_->scene->size != size) state_->layOut(size);
+const render::Scene& ViewHost::scene(layout::Size size, const layout::EdgeInsets& safeArea) {
+  const Area area = {size, safeArea};
+  if (!state_->scene || state_->area != area) state_->layOut(area);
   return *state_->scene;
 }
 

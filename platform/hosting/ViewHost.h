@@ -45,9 +45,10 @@ class ViewHost {
   /// The size that the view chooses when offered `proposal`.
   layout::Size sizeThatFits(layout::ProposedSize proposal);
 
-  /// The view placed in an area of `size`, centred where it is smaller. The reference holds until
-  /// the next call of this host.
-  const render::Scene& scene(layout::Size size);
+  /// The view placed in an area of `size` less `safeArea`, centred where it is smaller. What
+  /// ignores the safe area goes on into the insets. The reference holds until the next call of this
+  /// host.
+  const render::Scene& scene(layout::Size size, const layout::EdgeInsets& safeArea = {});
 
   /// Nobody looks at the view: keeps its sizes and lets its scene go. Whatever needs the scene
   /// again has it made anew.

@@ -38,6 +38,15 @@ struct Divider {
   Axis axis;  ///< of the stack that it stands in
   graphics::RGBA color;
 };
+/// Fills what it is offered.
+struct Fill {
+  graphics::RGBA color;
+};
+/// Strokes `width` points inside the edges of what it is offered.
+struct Stroke {
+  graphics::RGBA color;
+  double width;
+};
 /// Content of another toolkit; `content` is an index into the evaluation's hosted contents.
 struct Hosted {
   int content;
@@ -63,9 +72,17 @@ struct FixedSize {
   bool horizontal;
   bool vertical;
 };
+/// As large as fits, in the proportion of the child's ideal size.
+struct ScaledToFit {};
 /// The second child lies over the first.
 struct Overlay {
   Alignment alignment;
+};
+/// The second child lies behind the first.
+struct Background {};
+/// Where it reaches the safe area's edge on one of `edges`, its child goes on beyond.
+struct IgnoringSafeArea {
+  Edges edges;
 };
 /// Changes nothing in the layout; `decoration` is an index into the evaluation's decorations.
 struct Decorated {
@@ -76,10 +93,11 @@ struct Decorated {
 
 /// One element of a view that is ready for layout.
 struct Element {
-  using Kind = std::variant<elements::Empty, elements::Text, elements::Image, elements::Spacer,
-                            elements::Divider, elements::Hosted, elements::Stack, elements::Padding,
-                            elements::FixedFrame, elements::MaxWidthFrame, elements::FixedSize,
-                            elements::Overlay, elements::Decorated>;
+  using Kind = std::variant<
+      elements::Empty, elements::Text, elements::Image, elements::Spacer, elements::Divider,
+      elements::Fill, elements::Stroke, elements::Hosted, elements::Stack, elements::Padding,
+      elements::FixedFrame, elements::MaxWidthFrame, elements::FixedSize, elements::ScaledToFit,
+      elements::Overlay, elements::Background, elements::IgnoringSafeArea, elements::Decorated>;
   Kind kind;
   std::vector<Element> children;
 

@@ -47,6 +47,18 @@ struct EdgeInsets {
   bool operator==(const EdgeInsets&) const = default;
 };
 
+/// Some of a rectangle's edges, by reading direction.
+struct Edges {
+  bool top = false;
+  bool leading = false;
+  bool bottom = false;
+  bool trailing = false;
+
+  static constexpr Edges all() { return {true, true, true, true}; }
+  static constexpr Edges vertical() { return {true, false, true, false}; }
+  bool operator==(const Edges&) const = default;
+};
+
 /// What a parent offers a child: 0 asks for the minimum, infinity for the maximum, nothing for the
 /// ideal.
 struct ProposedSize {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/layout/Alignment.h"
 #include "platform/layout/StackDistribution.h"
 
 namespace quorix::layout {
@@ -43,6 +44,20 @@ ProposedSize inside(const elements::FixedSize& fixed, ProposedSize proposal) {
   return proposal;
 }
 
+/// The largest size in the proportion of `ideal` that fits into `proposal`.
+ProposedSize fitting(Size ideal, ProposedSize proposal) {
+  if (ideal.width <= 0 || ideal.height <= 0) return proposal;
+  if (!proposal.width && !proposal.height) return {ideal.width, ideal.height};
+  const double byWidth = proposal.width.value_or(infinity) / ideal.width;
+  const double byHeight = proposal.height.value_or(infinity) / ideal.height;
+  const double scale = std::min(byWidth, byHeight);
+  return {ideal.width * scale, ideal.height * scale};
+}
+
+Size outset(Size size, const EdgeInsets& by) {
+  return {size.width + by.leading + by.trailing, size.height + by.top + by.bottom};
+}
+
 ProposedSize exactly(Size size) { return {size.width, size.height}; }
 
 /// A text gives way down to nothing worth counting, so nobody shapes it to learn that.
@@ -65,7 +80,11 @@ struct Layout::Chooser {
   Element& element;
   ProposedSize proposal;
 
-  Size child(ProposedSize offered) { return layout.measure(element.children.front(), offered); }
+  Size child(ProposedSize to) { return layout.measure(element.children.front(), to); }
+
+  Size offered() const {
+    return {proposal.width.value_or(idealLength), proposal.height.value_or(idealLength)};
+  }
 
   Size operator()(const elements::Empty&) { return {}; }
 
@@ -87,6 +106,9 @@ struct Layout::Chooser {
     return sized(divider.axis, layout.grid_.pixel(), offered.value_or(idealLength));
   }
 
+  Size operator()(const elements::Fill&) { return offered(); }
+  Size operator()(const elements::Stroke&) { return offered(); }
+
   Size operator()(const elements::Hosted& hosted) {
     return hosted.sizing->sizeThatFits(proposal, layout.engine_, 1 / layout.grid_.pixel());
   }
@@ -105,9 +127,7 @@ struct Layout::Chooser {
   }
 
   Size operator()(const elements::Padding& padding) {
-    const Size size = child(inside(padding.insets, proposal));
-    return {size.width + padding.insets.leading + padding.insets.trailing,
-            size.height + padding.insets.top + padding.insets.bottom};
+    return outset(child(inside(padding.insets, proposal)), padding.insets);
   }
 
   Size operator()(const elements::FixedFrame& frame) {
@@ -121,7 +141,12 @@ struct Layout::Chooser {
   }
 
   Size operator()(const elements::FixedSize& fixed) { return child(inside(fixed, proposal)); }
+  Size operator()(const elements::ScaledToFit&) {
+    return child(layout.fittingChild(element, proposal));
+  }
   Size operator()(const elements::Overlay&) { return child(proposal); }
+  Size operator()(const elements::Background&) { return child(proposal); }
+  Size operator()(const elements::IgnoringSafeArea&) { return child(proposal); }
   Size operator()(const elements::Decorated&) { return child(proposal); }
 };
 
@@ -145,6 +170,8 @@ struct Layout::Placer {
   void operator()(const elements::Image&) {}
   void operator()(const elements::Spacer&) {}
   void operator()(const elements::Divider&) {}
+  void operator()(const elements::Fill&) {}
+  void operator()(const elements::Stroke&) {}
   void operator()(const elements::Hosted&) {}
 
   void operator()(const elements::Stack& stack) {
@@ -178,6 +205,21 @@ struct Layout::Placer {
     child(0, {}, proposal);
     aligned(1, overlay.alignment, exactly(element.frame.size));
   }
+
+  void operator()(const elements::Background&) {
+    child(0, {}, proposal);
+    child(1, {}, exactly(element.frame.size));
+  }
+
+  void operator()(const elements::ScaledToFit&) {
+    child(0, {}, layout.fittingChild(element, proposal));
+  }
+
+  void operator()(const elements::IgnoringSafeArea& ignoring) {
+    const EdgeInsets more = layout.safeArea_.beyond(element.frame, ignoring.edges);
+    if (more == EdgeInsets{}) return child(0, {}, proposal);
+    child(0, {-more.leading, -more.top}, exactly(outset(element.frame.size, more)));
+  }
 };
 
 Size Layout::measure(Element& element, ProposedSize proposal) {
@@ -192,6 +234,10 @@ Size Layout::measure(Element& element, ProposedSize proposal) {
 void Layout::place(Element& element, Point origin, ProposedSize proposal) {
   element.frame = {origin, measure(element, proposal)};
   std::visit(Placer{*this, element, proposal}, element.kind);
+}
+
+ProposedSize Layout::fittingChild(Element& fit, ProposedSize proposal) {
+  return fitting(measure(fit.children.front(), {}), proposal);
 }
 
 Size Layout::measureText(Element& element, ProposedSize proposal) {
@@ -229,35 +275,6 @@ Layout::Offers Layout::divide(Element& stackElement, ProposedSize proposal) {
   }
   distribute(flexing, *offered - totalSpacing(stackElement), ask);
   return offers;
-}
-
-double alignedOffset(HorizontalAlignment alignment, double outer, double inner) {
-  switch (alignment) {
-    case HorizontalAlignment::leading:
-      return 0;
-    case HorizontalAlignment::center:
-      return (outer - inner) / 2;
-    case HorizontalAlignment::trailing:
-      return outer - inner;
-  }
-  return 0;
-}
-
-double alignedOffset(VerticalAlignment alignment, double outer, double inner) {
-  switch (alignment) {
-    case VerticalAlignment::top:
-      return 0;
-    case VerticalAlignment::center:
-      return (outer - inner) / 2;
-    case VerticalAlignment::bottom:
-      return outer - inner;
-  }
-  return 0;
-}
-
-Point alignedOffset(Alignment alignment, Size outer, Size inner) {
-  return {alignedOffset(alignment.horizontal, outer.width, inner.width),
-          alignedOffset(alignment.vertical, outer.height, inner.height)};
 }
 
 void mirror(Element& element, double width) {

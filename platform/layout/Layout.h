@@ -3,6 +3,7 @@
 #include "platform/layout/Element.h"
 #include "platform/layout/Geometry.h"
 #include "platform/layout/PixelGrid.h"
+#include "platform/layout/SafeArea.h"
 #include "platform/text/TextEngine.h"
 
 namespace quorix::layout {
@@ -11,7 +12,8 @@ namespace quorix::layout {
 /// Each text is measured once for each width in a pass.
 class Layout {
  public:
-  Layout(text::TextEngine& engine, double scale) : engine_(engine), grid_(scale) {}
+  Layout(text::TextEngine& engine, double scale, const SafeArea& safeArea = {})
+      : engine_(engine), grid_(scale), safeArea_(safeArea) {}
 
   /// The size that `element` chooses when offered `proposal`.
   Size measure(Element& element, ProposedSize proposal);
@@ -26,16 +28,14 @@ class Layout {
   /// What a stack offers each child along its axis.
   using Offers = std::vector<std::optional<double>>;
   Offers divide(Element& stack, ProposedSize proposal);
+  /// What an element that is scaled to fit offers its child.
+  ProposedSize fittingChild(Element& fit, ProposedSize proposal);
   Size measureText(Element& element, ProposedSize proposal);
 
   text::TextEngine& engine_;
   PixelGrid grid_;
+  SafeArea safeArea_;
 };
-
-/// Where an extent of `inner` starts inside one of `outer` when aligned.
-double alignedOffset(HorizontalAlignment alignment, double outer, double inner);
-double alignedOffset(VerticalAlignment alignment, double outer, double inner);
-Point alignedOffset(Alignment alignment, Size outer, Size inner);
 
 /// Turns a finished left-to-right layout of width `width` into its mirror image.
 void mirror(Element& element, double width);

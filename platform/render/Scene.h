@@ -28,7 +28,8 @@ struct ImageItem {
   layout::Rect frame;
   std::string name;
   foundation::Bundle::Ref bundle;
-  graphics::RGBA tint;  ///< for template images
+  graphics::RGBA tint;                            ///< for template images
+  std::optional<bool> isTemplate = std::nullopt;  ///< absent: as the asset says
 };
 
 struct FillItem {
@@ -64,7 +65,7 @@ struct HitArea {
   std::function<void()> action;
 };
 
-enum class Role : std::uint8_t { staticText, button, heading, image };
+enum class Role : std::uint8_t { staticText, button, heading, image, link };
 
 /// What assistive technology meets, in reading order. `action` is empty when it only reads.
 struct AccessibilityElement {

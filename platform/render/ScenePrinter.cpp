@@ -1,52 +1,16 @@
 #include "platform/render/ScenePrinter.h"
 
-#include <array>
-#include <charconv>
-#include <cmath>
-#include <cstdio>
 #include <string_view>
+
+#include "platform/render/Wording.h"
 
 namespace quorix::render {
 namespace {
 
 using layout::Rect;
 
-std::string number(double value) {
-  const double shown = std::round(value * 1000) / 1000 + 0.0;  // no "-0"
-  std::array<char, 32> digits;
-  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), shown).ptr;
-  return {digits.data(), end};
-}
-
-/// A JSON text; as good for reading.
-std::string quoted(std::string_view text) {
-  std::string result = "\"";
-  for (const char c : text) {
-    if (c == '"' || c == '\\') {
-      result += '\\';
-      result += c;
-    } else if (c == '\n') {
-      result += "\\n";
-    } else if (static_cast<unsigned char>(c) < 0x20) {
-      std::array<char, 7> code;
-      std::snprintf(code.data(), code.size(), "\\u%04x", static_cast<unsigned>(c));
-      result += code.data();
-    } else {
-      result += c;
-    }
-  }
-  return result + '"';
-}
-
-std::string hex(graphics::RGBA color) {
-  std::array<char, 10> text;
-  std::snprintf(text.data(), text.size(), "#%02X%02X%02X%02X", color.red, color.green, color.blue,
-                color.alpha);
-  return text.data();
-}
-
 std::string_view nameOf(Role role) {
-  constexpr std::string_view names[] = {"text", "button", "heading", "image"};
+  constexpr std::string_view names[] = {"text", "button", "heading", "image", "link"};
   return names[static_cast<int>(role)];
 }
 
@@ -71,6 +35,9 @@ class WordWriter {
   void flag(std::string_view name, bool on) {
     if (on) text_ += ' ' + std::string(name);
   }
+  void beginRuns() {}
+  void beginRun(std::string_view words) { text("run", words); }
+  void endRuns() {}
   std::string end() { return text_.empty() ? "" : text_ + '\n'; }
 
  private:
@@ -91,6 +58,12 @@ class ObjectWriter {
   void value(std::string_view name, const std::string& word) { member(name, quoted(word)); }
   void value(std::string_view name, double value) { member(name, number(value)); }
   void flag(std::string_view name, bool on) { member(name, on ? "true" : "false"); }
+  void beginRuns() { text_ += ", \"runs\": ["; }
+  void beginRun(std::string_view words) {
+    text_ += text_.back() == '[' ? "{" : "}, {";
+    text_ += "\"text\": " + quoted(words);
+  }
+  void endRuns() { text_ += text_.back() == '[' ? "]" : "}]"; }
   std::string end() { return text_.empty() ? "[]" : "[" + text_ + "}]"; }
 
  private:
@@ -102,18 +75,32 @@ class ObjectWriter {
 };
 
 template <class Writer>
+void writeLook(const text::Run& run, Writer& to) {
+  constexpr std::string_view weights[] = {"", "medium", "semibold", "bold"};
+  to.value("font", run.font.name);
+  to.value("points", run.font.points);
+  if (run.font.weight != swiftui::FontWeight::regular) {
+    to.value("weight", std::string(weights[static_cast<int>(run.font.weight)]));
+  }
+  to.value("color", hex(run.color));
+  to.flag("underline", run.underline);
+  if (run.thickUnderline) to.flag("thickUnderline", true);
+  to.flag("strikethrough", run.strikethrough);
+}
+
+template <class Writer>
 void write(const TextItem& item, Writer& to) {
   std::string words;
   for (const text::Run& run : item.text.runs) words += run.text;
   to.begin("text", item.frame);
   to.main("text", words);
-  if (item.text.runs.empty()) return;
-  const text::Run& look = item.text.runs.front();
-  to.value("font", look.font.name);
-  to.value("points", look.font.points);
-  to.value("color", hex(look.color));
-  to.flag("underline", look.underline);
-  to.flag("strikethrough", look.strikethrough);
+  if (item.text.runs.size() == 1) return writeLook(item.text.runs.front(), to);
+  to.beginRuns();
+  for (const text::Run& run : item.text.runs) {
+    to.beginRun(run.text);
+    writeLook(run, to);
+  }
+  to.endRuns();
 }
 
 template <class Writer>

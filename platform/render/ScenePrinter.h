@@ -13,6 +13,7 @@ namespace quorix::render {
 /// is, its frame as x, y, width and height, and what it shows.
 ///
 ///     text 0 4 105 18 "YOUR RETURN FEE" Saans-Regular 14 #1A1A1CFF underline
+///     text 0 22 70 18 "Top 20%" run "Top " Saans-Regular 14 #1A1A1CFF run "20%" Saans-Medium ...
 ///     image 304 22 24 24 "close" #000000FF
 ///     fill 16 120 311 1 #3C3C434A
 ///     hit 0 0 343 24

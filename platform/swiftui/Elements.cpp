@@ -31,6 +31,12 @@ View Image(std::string_view name, foundation::Bundle::Ref bundle) {
   return makeView(nodes::Image{std::string(name), std::move(bundle)});
 }
 
+View Button(std::function<void()> action, View label) {
+  return makeView(nodes::Modified{std::move(label), modifiers::Button{std::move(action)}});
+}
+
+View Image(const ImageResource& resource) { return Image(resource.name, resource.bundle); }
+
 View Group(std::vector<View> children) { return makeView(nodes::Group{std::move(children)}); }
 
 View Conditional(bool condition, View chosen) {

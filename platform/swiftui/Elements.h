@@ -8,6 +8,7 @@
 
 #include "platform/foundation/Bundle.h"
 #include "platform/layout/Geometry.h"
+#include "platform/swiftui/ImageResource.h"
 #include "platform/swiftui/View.h"
 
 namespace quorix::swiftui {
@@ -27,6 +28,13 @@ View Divider();
 
 /// An image of the bundle's asset catalogue at its natural size; an unknown name shows nothing.
 View Image(std::string_view name, foundation::Bundle::Ref bundle);
+
+/// Does `action` when it is tapped. To assistive technology it is one element, called what its
+/// label says; a label that is only an image is called by the image's name.
+View Button(std::function<void()> action, View label);
+
+/// The image of that asset.
+View Image(const ImageResource& resource);
 
 /// Several views where one is expected: the enclosing stack takes them as its own children.
 View Group(std::vector<View> children);

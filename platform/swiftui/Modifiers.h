@@ -5,6 +5,7 @@
 #include <variant>
 
 #include "platform/layout/Geometry.h"
+#include "platform/swiftui/TextModifiers.h"
 #include "platform/swiftui/View.h"
 
 namespace quorix::swiftui {
@@ -15,20 +16,15 @@ namespace modifiers {
 struct Case {
   TextCase value;
 };
-struct Underline {
-  bool active;
-};
 struct Strikethrough {
   bool active;
 };
-struct FontChoice {
-  Font font;
-};
-struct ForegroundColor {
-  Color color;
-};
 struct Padding {
   layout::EdgeInsets insets;
+};
+struct EdgePadding {
+  layout::Edges edges;
+  double length;
 };
 struct FixedFrame {
   std::optional<double> width;
@@ -43,6 +39,18 @@ struct FixedSize {
   bool vertical;
 };
 struct Resizable {};
+struct ScaledToFit {};
+struct Background {
+  Color color;
+  layout::Edges ignoresSafeAreaEdges;
+};
+struct Border {
+  Color color;
+  double width;
+};
+struct EdgesIgnoringSafeArea {
+  layout::Edges edges;
+};
 struct Overlay {
   layout::Alignment alignment;
   View content;
@@ -68,6 +76,10 @@ struct AccessibilityAction {
 struct TapGesture {
   std::function<void()> action;
 };
+/// The content is the button's label.
+struct Button {
+  std::function<void()> action;
+};
 struct Task {
   TaskPriority priority;
   std::function<void()> action;
@@ -85,13 +97,14 @@ struct GeometryChange {
 
 }  // namespace modifiers
 
-using Modifier =
-    std::variant<modifiers::Case, modifiers::Underline, modifiers::Strikethrough,
-                 modifiers::FontChoice, modifiers::ForegroundColor, modifiers::Padding,
-                 modifiers::FixedFrame, modifiers::MaxWidthFrame, modifiers::FixedSize,
-                 modifiers::Resizable, modifiers::Overlay, modifiers::AccessibilityElement,
-                 modifiers::AddTraits, modifiers::Label, modifiers::Hint, modifiers::Hidden,
-                 modifiers::AccessibilityAction, modifiers::TapGesture, modifiers::Task,
-                 modifiers::Sheet, modifiers::Detents, modifiers::GeometryChange>;
+using Modifier = std::variant<
+    modifiers::Case, modifiers::Underline, modifiers::Strikethrough, modifiers::FontChoice,
+    modifiers::Weight, modifiers::Bold, modifiers::ForegroundColor, modifiers::Padding,
+    modifiers::EdgePadding, modifiers::FixedFrame, modifiers::MaxWidthFrame, modifiers::FixedSize,
+    modifiers::Resizable, modifiers::ScaledToFit, modifiers::Background, modifiers::Border,
+    modifiers::EdgesIgnoringSafeArea, modifiers::Overlay, modifiers::AccessibilityElement,
+    modifiers::AddTraits, modifiers::Label, modifiers::Hint, modifiers::Hidden,
+    modifiers::AccessibilityAction, modifiers::TapGesture, modifiers::Button, modifiers::Task,
+    modifiers::Sheet, modifiers::Detents, modifiers::GeometryChange>;
 
 }  // namespace quorix::swiftui

@@ -28,6 +28,8 @@ struct Image {
 struct Represented {
   std::string_view name;
   std::function<std::shared_ptr<render::HostedContent>()> make;  ///< once for each place in a tree
+  /// At each evaluation, the first included; may be empty.
+  std::function<void(render::HostedContent&)> update = {};
 };
 struct Spacer {
   std::optional<double> minLength;

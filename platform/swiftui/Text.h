@@ -1,9 +1,11 @@
 #pragma once
 
-#include <initializer_list>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
+
+#include "platform/swiftui/TextModifiers.h"
 
 namespace quorix::swiftui {
 
@@ -11,6 +13,12 @@ namespace quorix::swiftui {
 /// table and formatted with its arguments. A key with no entry is its own format.
 ///
 ///     Text::localized("%@ %@", {title, fee})  // reads "Your return fee €4.00"
+///
+/// A text carries looks of its own, which win over those that reach down to it, and of several for
+/// the same thing the first one written wins. Texts add up to one, whose parts keep their looks:
+///
+///     Text::verbatim("Return within ") + Text::verbatim("30
+///     days").fontWeight(FontWeight::semibold)
 class Text {
  public:
   static Text verbatim(std::string_view text) { return Text(std::string(text), {}, false); }
@@ -18,20 +26,37 @@ class Text {
     return Text(std::string(key), std::move(arguments), true);
   }
 
+  Text font(Font font) const;
+  Text fontWeight(FontWeight weight) const;
+  Text bold() const;
+  Text underline(bool active = true) const;
+  Text foregroundColor(Color color) const;
+
+  /// One paragraph that reads `first` and then `second`.
+  friend Text operator+(Text first, Text second);
+
   /// What the user reads.
   std::string resolved() const;
 
+  /// What it was added up from; empty for a text of one part, which alone has what follows.
+  const std::vector<Text>& parts() const { return parts_; }
   const std::string& key() const { return text_; }
   const std::vector<std::string>& arguments() const { return arguments_; }
   bool isLocalized() const { return localized_; }
 
+  /// Its own looks as they were written.
+  const std::vector<TextModifier>& modifiers() const { return modifiers_; }
+
  private:
   Text(std::string text, std::vector<std::string> arguments, bool localized)
       : text_(std::move(text)), arguments_(std::move(arguments)), localized_(localized) {}
+  Text with(TextModifier modifier) const;
 
   std::string text_;
   std::vector<std::string> arguments_;
   bool localized_ = false;
+  std::vector<Text> parts_;
+  std::vector<TextModifier> modifiers_;
 };
 
 }  // namespace quorix::swiftui

@@ -14,15 +14,14 @@ namespace steps {
 
 constexpr char32_t chosen = 1;
 constexpr char32_t notChosen = 2;
-constexpr char32_t modified = 3;     ///< into a modifier that needs a place of its own
-constexpr char32_t represented = 4;  ///< content of another toolkit, kept there
+constexpr char32_t modified = 3;  ///< into a modifier that needs a place of its own
 // Each of these goes on with its next ones.
 constexpr char32_t firstChild = 1U << 8;
 constexpr char32_t firstOverlay = 1U << 30;  ///< one for each element of a group
 constexpr char32_t firstType = 1U << 31;
 
-/// Into the body of a component. Another type in its place is another view, with states of its own.
-/// Main thread.
+/// Into the body of a component, or to content of another toolkit by the type of what makes it.
+/// Another type in its place is another view, with states of its own. Main thread.
 inline char32_t into(std::type_index component) {
   static std::map<std::type_index, char32_t> known;
   const auto next = firstType + static_cast<char32_t>(known.size());

@@ -1,98 +1,13 @@
 #include "platform/swiftui/TreePrinter.h"
 
-#include <charconv>
 #include <string_view>
 
 #include "platform/swiftui/Component.h"
+#include "platform/swiftui/Descriptions.h"
 #include "platform/swiftui/Node.h"
 
 namespace quorix::swiftui {
 namespace {
-
-std::string number(double value) {
-  if (value == layout::infinity) return "infinity";
-  char digits[32];
-  const auto end = std::to_chars(digits, digits + sizeof digits, value).ptr;
-  return {digits, end};
-}
-
-std::string quoted(std::string_view text) {
-  std::string result = "\"";
-  for (const char c : text) {
-    if (c == '"' || c == '\\') result += '\\';
-    result += c;
-  }
-  return result + '"';
-}
-
-std::string_view nameOf(layout::HorizontalAlignment alignment) {
-  constexpr std::string_view names[] = {"leading", "center", "trailing"};
-  return names[static_cast<int>(alignment)];
-}
-
-std::string_view nameOf(layout::VerticalAlignment alignment) {
-  constexpr std::string_view names[] = {"top", "center", "bottom"};
-  return names[static_cast<int>(alignment)];
-}
-
-std::string nameOf(layout::Alignment alignment) {
-  using layout::HorizontalAlignment;
-  using layout::VerticalAlignment;
-  const std::string_view horizontal = nameOf(alignment.horizontal);
-  if (alignment.vertical == VerticalAlignment::center) return std::string(horizontal);
-  std::string name(nameOf(alignment.vertical));
-  if (alignment.horizontal == HorizontalAlignment::center) return name;
-  return name + (alignment.horizontal == HorizontalAlignment::leading ? "Leading" : "Trailing");
-}
-
-std::string_view nameOf(TextStyle style) {
-  constexpr std::string_view names[] = {"largeTitle", "title",   "title2",  "title3",
-                                        "headline",   "body",    "callout", "subheadline",
-                                        "footnote",   "caption", "caption2"};
-  return names[static_cast<int>(style)];
-}
-
-std::string describe(const Font& font) {
-  if (font.name().empty()) return "system";
-  const std::string name = quoted(font.name());
-  if (!font.scales()) return name + ", fixedSize: " + number(font.size());
-  return name + ", size: " + number(font.size()) +
-         ", relativeTo: " + std::string(nameOf(font.textStyle()));
-}
-
-std::string describe(const Text& text) {
-  if (!text.isLocalized()) return quoted(text.key());
-  std::string result = "key: " + quoted(text.key());
-  for (const std::string& argument : text.arguments()) result += ", " + quoted(argument);
-  return result;
-}
-
-std::string describe(const PresentationDetents& detents) {
-  std::string result;
-  for (const PresentationDetent& detent : detents) {
-    if (!result.empty()) result += ", ";
-    result += detent.points() ? "height(" + number(*detent.points()) + ")" : "medium";
-  }
-  return "[" + result + "]";
-}
-
-std::string describe(const layout::EdgeInsets& insets) {
-  const auto& [top, leading, bottom, trailing] = insets;
-  if (top == leading && top == bottom && top == trailing) return number(top);
-  std::string result;
-  const auto edge = [&](std::string_view name, double length) {
-    if (length == 0) return;
-    if (!result.empty()) result += ", ";
-    result += std::string(name) + ": " + number(length);
-  };
-  edge("top", top);
-  edge("leading", leading);
-  edge("bottom", bottom);
-  edge("trailing", trailing);
-  return result;
-}
-
-std::string_view nameOf(bool value) { return value ? "true" : "false"; }
 
 class Printer {
  public:
@@ -103,6 +18,14 @@ class Printer {
   }
 
  private:
+  void print(const Text& part, int depth) {
+    line(depth, part.parts().empty() ? "Text(" + describe(part) + ")" : "Text");
+    for (const Text& below : part.parts()) print(below, depth + 1);
+    for (const TextModifier& own : part.modifiers()) {
+      std::visit([&](const auto& modifier) { this->modifier(modifier, depth + 2); }, own);
+    }
+  }
+
   void line(int depth, std::string_view content) {
     text.append(static_cast<std::size_t>(depth) * 2, ' ');
     text += content;
@@ -114,9 +37,7 @@ class Printer {
   }
 
   void element(const nodes::Empty&, int depth) { line(depth, "EmptyView"); }
-  void element(const nodes::Text& node, int depth) {
-    line(depth, "Text(" + describe(node.text) + ")");
-  }
+  void element(const nodes::Text& node, int depth) { print(node.text, depth); }
   void element(const nodes::Image& node, int depth) {
     line(depth, "Image(" + quoted(node.name) + ")");
   }
@@ -147,6 +68,10 @@ class Printer {
     print(body, node.component->isModifier() ? depth : depth + 1);
   }
   void element(const nodes::Modified& node, int depth) {
+    if (std::holds_alternative<modifiers::Button>(node.modifier)) {
+      line(depth, "Button");
+      return print(node.content, depth + 1);
+    }
     print(node.content, depth);
     std::visit([&](const auto& modifier) { this->modifier(modifier, depth + 2); }, node.modifier);
   }
@@ -163,11 +88,18 @@ class Printer {
   void modifier(const modifiers::FontChoice& m, int depth) {
     line(depth, ".font(" + describe(m.font) + ")");
   }
+  void modifier(const modifiers::Weight& m, int depth) {
+    line(depth, ".fontWeight(" + std::string(nameOf(m.weight)) + ")");
+  }
+  void modifier(const modifiers::Bold&, int depth) { line(depth, ".bold()"); }
   void modifier(const modifiers::ForegroundColor& m, int depth) {
     line(depth, ".foregroundColor(" + m.color.description() + ")");
   }
   void modifier(const modifiers::Padding& m, int depth) {
     line(depth, ".padding(" + describe(m.insets) + ")");
+  }
+  void modifier(const modifiers::EdgePadding& m, int depth) {
+    line(depth, ".padding(" + describe(m.edges) + ", " + number(m.length) + ")");
   }
   void modifier(const modifiers::FixedFrame& m, int depth) {
     std::string bounds;
@@ -183,6 +115,19 @@ class Printer {
                     ", vertical: " + std::string(nameOf(m.vertical)) + ")");
   }
   void modifier(const modifiers::Resizable&, int depth) { line(depth, ".resizable(stretch)"); }
+  void modifier(const modifiers::ScaledToFit&, int depth) { line(depth, ".scaledToFit()"); }
+  void modifier(const modifiers::Background& m, int depth) {
+    const bool ignores = m.ignoresSafeAreaEdges != layout::Edges{};
+    line(depth, ".background(" + m.color.description() +
+                    (ignores ? ", ignoresSafeAreaEdges: " + describe(m.ignoresSafeAreaEdges) : "") +
+                    ")");
+  }
+  void modifier(const modifiers::Border& m, int depth) {
+    line(depth, ".border(" + m.color.description() + ", width: " + number(m.width) + ")");
+  }
+  void modifier(const modifiers::EdgesIgnoringSafeArea& m, int depth) {
+    line(depth, ".edgesIgnoringSafeArea(" + describe(m.edges) + ")");
+  }
   void modifier(const modifiers::Overlay& m, int depth) {
     line(depth, ".overlay(alignment: " + nameOf(m.alignment) + ")");
     print(m.content, depth + 1);
@@ -208,6 +153,7 @@ class Printer {
     line(depth, ".accessibilityAction(default)");
   }
   void modifier(const modifiers::TapGesture&, int depth) { line(depth, ".onTapGesture(count: 1)"); }
+  void modifier(const modifiers::Button&, int) {}  // an element of its own
   void modifier(const modifiers::Task&, int depth) {
     line(depth, ".task(priority: userInitiated)");
   }

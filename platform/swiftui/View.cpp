@@ -33,6 +33,8 @@ View View::strikethrough(bool active) const {
 
 View View::font(Font font) const { return wrap(*this, modifiers::FontChoice{std::move(font)}); }
 
+View View::fontWeight(FontWeight weight) const { return wrap(*this, modifiers::Weight{weight}); }
+
 View View::foregroundColor(Color color) const {
   return wrap(*this, modifiers::ForegroundColor{std::move(color)});
 }
@@ -41,6 +43,10 @@ View View::padding(double length) const { return padding({length, length, length
 
 View View::padding(layout::EdgeInsets insets) const {
   return wrap(*this, modifiers::Padding{insets});
+}
+
+View View::padding(layout::Edges edges, double length) const {
+  return wrap(*this, modifiers::EdgePadding{edges, length});
 }
 
 View View::frame(std::optional<double> width, std::optional<double> height,
@@ -57,6 +63,20 @@ View View::fixedSize(bool horizontal, bool vertical) const {
 }
 
 View View::resizable() const { return wrap(*this, modifiers::Resizable{}); }
+
+View View::scaledToFit() const { return wrap(*this, modifiers::ScaledToFit{}); }
+
+View View::background(Color color, layout::Edges ignoresSafeAreaEdges) const {
+  return wrap(*this, modifiers::Background{std::move(color), ignoresSafeAreaEdges});
+}
+
+View View::border(Color color, double width) const {
+  return wrap(*this, modifiers::Border{std::move(color), width});
+}
+
+View View::edgesIgnoringSafeArea(layout::Edges edges) const {
+  return wrap(*this, modifiers::EdgesIgnoringSafeArea{edges});
+}
 
 View View::overlay(layout::Alignment alignment, View content) const {
   return wrap(*this, modifiers::Overlay{alignment, std::move(content)});

@@ -52,16 +52,28 @@ class View {
   View underline(bool active = true) const;
   View strikethrough(bool active = true) const;
   View font(Font font) const;
+  View fontWeight(FontWeight weight) const;
   View foregroundColor(Color color) const;
 
   View padding(double length) const;
   View padding(layout::EdgeInsets insets) const;
+  View padding(layout::Edges edges, double length) const;
   View frame(std::optional<double> width, std::optional<double> height,
              layout::Alignment alignment = {}) const;
   View frameMaxWidthInfinity(layout::Alignment alignment = {}) const;
   View fixedSize(bool horizontal, bool vertical) const;
   /// An image fills the frame it is given instead of keeping its natural size.
   View resizable() const;
+  /// As large as fits what it is offered, with the width and height of its natural size in their
+  /// proportion.
+  View scaledToFit() const;
+  /// Fills this view's frame behind it; where the frame reaches the edge of the safe area on one of
+  /// `ignoresSafeAreaEdges`, also what lies beyond.
+  View background(Color color, layout::Edges ignoresSafeAreaEdges = {}) const;
+  /// Strokes `width` points just inside this view's frame, on top of it.
+  View border(Color color, double width = 1) const;
+  /// Where this view reaches the edge of the safe area on one of `edges`, it goes on beyond.
+  View edgesIgnoringSafeArea(layout::Edges edges) const;
   /// Lays `content` over this view, in its frame.
   View overlay(layout::Alignment alignment, View content) const;
 

@@ -24,6 +24,7 @@ struct Run {
   graphics::RGBA color;
   bool underline = false;
   bool strikethrough = false;
+  bool thickUnderline = false;  ///< the underline is twice as thick
   bool operator==(const Run&) const = default;
 };
 

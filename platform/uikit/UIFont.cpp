@@ -9,4 +9,6 @@ UIFont::Ref UIFont::named(std::string_view name, double size) {
   return Ref(new UIFont(name, size));
 }
 
+UIFont::Ref UIFont::system(double size) { return Ref(new UIFont({}, size)); }
+
 }  // namespace quorix::uikit

@@ -15,6 +15,9 @@ class UIFont {
   /// The face `name` at `size` points, or null when the font manager does not know the face.
   static Ref named(std::string_view name, double size);
 
+  /// The system's font at `size` points; its name is empty.
+  static Ref system(double size);
+
   const std::string& name() const { return name_; }
   /// Points.
   double pointSize() const { return pointSize_; }

@@ -8,6 +8,7 @@
 #include "qt/FocusRing.h"
 #include "qt/Picture.h"
 #include "qt/ViewAccessible.h"
+#include "qt/WindowScene.h"
 #include "qt/quick/PictureNode.h"
 #include "qt/quick/SheetItem.h"
 #include "qt/quick/ViewItem.h"
@@ -53,8 +54,11 @@ void ViewSurface::takeFocusByPress() {
 
 void ViewSurface::needsFrame() { item_.polish(); }
 
-SheetSurface* ViewSurface::makeSheet() {
-  return item_.window() ? new SheetItem(*item_.window()) : nullptr;
+WindowScene* ViewSurface::windowScene() {
+  QQuickWindow* window = item_.window();
+  if (!window) return nullptr;
+  return &WindowScene::of(
+      *window, {[window] { return window; }, [window] { return new SheetItem(*window); }});
 }
 
 // Surroundings.

@@ -41,7 +41,7 @@ class ViewSurface final : public HostedView,
   bool hasFocus() const override;
   void takeFocusByPress() override;
   void needsFrame() override;
-  SheetSurface* makeSheet() override;
+  WindowScene* windowScene() override;
 
   void windowVisibilityChanged() override { onScreenChanged(); }
   void desktopChanged() override { environmentChanged(); }
@@ -50,7 +50,7 @@ class ViewSurface final : public HostedView,
   void placeMayHaveChanged() override;
 
   const std::vector<render::AccessibilityElement>& accessibilityElements() override;
-  void performAccessibilityAction(int index) override { host().activate(index); }
+  void performAccessibilityAction(int index) override { activate(index); }
   std::optional<layout::Rect> focusedFrame() const override { return focusFrame(); }
 
   void updateIdealSize();

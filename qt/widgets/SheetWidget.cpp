@@ -222,10 +222,6 @@ bool SheetWidget::event(QEvent* event) {
     case QEvent::ScreenChangeInternal:
       followScale();
       break;
-    case QEvent::FocusIn:
-    case QEvent::FocusOut:
-      update();
-      return true;
     default:
       break;
   }

@@ -96,7 +96,7 @@ void ViewWidget::showEvent(QShowEvent*) { surface_->placeChanged(); }
 
 void ViewWidget::hideEvent(QHideEvent*) {
   surface_->pointerLost();
-  surface_->placeChanged();
+  surface_->onScreenChanged();
 }
 
 // Not QWidget's: it would paint the widget anew.

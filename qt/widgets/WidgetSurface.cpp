@@ -7,6 +7,7 @@
 #include "qt/Desktop.h"
 #include "qt/Picture.h"
 #include "qt/ViewAccessible.h"
+#include "qt/WindowScene.h"
 #include "qt/widgets/FocusFrame.h"
 #include "qt/widgets/SheetWidget.h"
 #include "qt/widgets/ViewWidget.h"
@@ -63,7 +64,11 @@ void WidgetSurface::takeFocusByPress() {
   if (widget_.focusPolicy() != Qt::NoFocus) widget_.setFocus(Qt::MouseFocusReason);
 }
 
-SheetSurface* WidgetSurface::makeSheet() { return new SheetWidget(*widget_.window()); }
+WindowScene* WidgetSurface::windowScene() {
+  QWidget* window = widget_.window();
+  return &WindowScene::of(*window, {[window] { return window->windowHandle(); },
+                                    [window] { return new SheetWidget(*window); }});
+}
 
 // Place.
 
@@ -83,7 +88,7 @@ void WidgetSurface::placeChanged() {
 }
 
 void WidgetSurface::onScreenChanged() {
-  onScreen_ = widget_.isVisible() && !window_->isMinimized();
+  onScreen_ = widget_.isVisible() && !widget_.window()->isMinimized();
   host().setOnScreen(onScreen_);
   settleSoon();
 }

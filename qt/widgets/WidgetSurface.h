@@ -28,8 +28,9 @@ class WidgetSurface final : public HostedView, private WidgetAccessibleSurface {
   int heightFor(int width);
 
   void contentChanged() override;
-  /// The widget was shown or hidden, or came into another window.
+  /// The widget was shown, or came into another window.
   void placeChanged();
+  void onScreenChanged();
   void sizeChanged();
   void paint(QPainter& painter);
 
@@ -41,10 +42,10 @@ class WidgetSurface final : public HostedView, private WidgetAccessibleSurface {
   bool hasFocus() const override;
   void takeFocusByPress() override;
   void needsFrame() override;
-  SheetSurface* makeSheet() override;
+  WindowScene* windowScene() override;
 
   const std::vector<render::AccessibilityElement>& accessibilityElements() override;
-  void performAccessibilityAction(int index) override { host().activate(index); }
+  void performAccessibilityAction(int index) override { activate(index); }
   std::optional<layout::Rect> focusedFrame() const override { return focusFrame(); }
 
   /// What layouts were told; only when that no longer holds do they lay out anew.
@@ -54,7 +55,6 @@ class WidgetSurface final : public HostedView, private WidgetAccessibleSurface {
     std::optional<std::pair<int, int>> height;  ///< for a width
   };
 
-  void onScreenChanged();
   void settleSoon();
   void settle();
   bool toldHolds();

@@ -1,5 +1,3 @@
-#include <charconv>
-
 #include "Vectors.h"
 #include "platform/foundation/Base64.h"
 
@@ -7,16 +5,6 @@ using quorix::foundation::decodeBase64;
 using quorix::foundation::encodeBase64;
 
 namespace {
-
-std::string fromHex(std::string_view hex) {
-  std::string bytes;
-  for (std::size_t i = 0; i < hex.size(); i += 2) {
-    unsigned byte = 0;
-    std::from_chars(hex.data() + i, hex.data() + i + 2, byte, 16);
-    bytes += static_cast<char>(byte);
-  }
-  return bytes;
-}
 
 TEST(Base64, DecodesWhatIsWellFormedAndNothingElse) {
   forEachRow("b64", [](simdjson::dom::element row) {

@@ -10,7 +10,7 @@
 namespace quorix::testing {
 
 /// A text engine whose results can be reckoned by hand: each character is half its size wide, each
-/// line 1.25 times its size high. Records what it was asked.
+/// line 1.25 times its size high, by the size of the first run. Records what it was asked.
 class FixedWidthText final : public text::TextEngine {
  public:
   struct Call {
@@ -22,13 +22,15 @@ class FixedWidthText final : public text::TextEngine {
 
   text::TextMetrics measure(const text::AttributedText& text, double width) override {
     const text::Run& run = text.runs.front();
-    calls.push_back({run.text, width});
+    std::string words;
+    for (const text::Run& part : text.runs) words += part.text;
+    calls.push_back({words, width});
     const double advance = run.font.points / 2;
     const double lineHeight = run.font.points * 1.25;
     Lines lines{std::max(1.0, std::floor(width / advance + 1e-9))};
-    for (std::size_t start = 0; start <= run.text.size();) {
-      const std::size_t end = std::min(run.text.find(' ', start), run.text.size());
-      lines.add(characters(run.text.substr(start, end - start)));
+    for (std::size_t start = 0; start <= words.size();) {
+      const std::size_t end = std::min(words.find(' ', start), words.size());
+      lines.add(characters(words.substr(start, end - start)));
       start = end + 1;
     }
     return {{lines.widest * advance, lines.count * lineHeight},

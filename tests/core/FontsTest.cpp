@@ -1,12 +1,11 @@
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <thread>
 
 #include "QuorixWidgets/localization/Font.h"
-#include "QuorixWidgets/localization/ResourceBundle.h"
 #include "platform/graphics/AssetCatalog.h"
 #include "platform/graphics/FontManager.h"
+#include "tests/core/FreshProcess.h"
 #include "tests/core/MemoryBundle.h"
 
 namespace quorix {
@@ -25,15 +24,7 @@ std::vector<std::string> registered() {
   return names;
 }
 
-/// Registration lasts as long as its process, so each of these runs in one of its own.
-class FontsDeathTest : public ::testing::Test {
- protected:
-  void SetUp() override { GTEST_FLAG_SET(death_test_style, "threadsafe"); }
-};
-
-#define EXPECT_IN_FRESH_PROCESS(condition) \
-  EXPECT_EXIT(std::exit((condition) ? 0 : 1), ::testing::ExitedWithCode(0), "")
-
+using FontsDeathTest = testing::FreshProcessDeathTest;
 using Names = std::vector<std::string>;
 
 TEST_F(FontsDeathTest, AHandleRegistersItsFaceAloneAndOnce) {
@@ -57,10 +48,6 @@ void takeName(std::string_view name) {
 TEST_F(FontsDeathTest, AFaceThatCannotBeRegisteredStopsTheProcess) {
   const std::string folder = "Assets.xcassets/Fonts/";
   const std::string space = R"({"properties":{"provides-namespace":true}})";
-  const auto replaceBundle = [](foundation::Bundle::Ref bundle) {
-    libraryBundle();
-    foundation::Bundle::registerBundle(kResourceBundleIdentifier, std::move(bundle));
-  };
   const auto broken = [&](const std::string& bytes) {
     return testing::memoryBundle(
         {{folder + "Contents.json", space},
@@ -69,11 +56,12 @@ TEST_F(FontsDeathTest, AFaceThatCannotBeRegisteredStopsTheProcess) {
   };
   EXPECT_DEATH((takeName("Saans-Medium"), QuorixFont::medium()), kStop);
   EXPECT_DEATH((takeName("TovaSansLatin-SemiBold"), TovaFont::regular()), kStop);
-  EXPECT_DEATH((replaceBundle(testing::memoryBundle({})), QuorixFont::medium()), kStop);
-  EXPECT_DEATH((replaceBundle(broken("no font")), QuorixFont::medium()), kStop);
+  EXPECT_DEATH((testing::replaceLibraryBundle(testing::memoryBundle({})), QuorixFont::medium()),
+               kStop);
+  EXPECT_DEATH((testing::replaceLibraryBundle(broken("no font")), QuorixFont::medium()), kStop);
   // The host's main bundle does not stand in for the library's here.
-  EXPECT_DEATH((foundation::Bundle::setMain(foundation::Bundle::embedded()), replaceBundle(nullptr),
-                QuorixFont::medium()),
+  EXPECT_DEATH((foundation::Bundle::setMain(foundation::Bundle::embedded()),
+                testing::replaceLibraryBundle(nullptr), QuorixFont::medium()),
                kStop);
 }
 

@@ -17,7 +17,9 @@ namespace quorix::testing {
 /// A case of a layout table: what a view of plain elements looks like in a window.
 ///
 ///     == what the case shows
-///     in 200 x 40 scale 2 rtl          scale and direction may be left out
+///     in 200 x 40 scale 2 rtl safe 0 10 0 10
+///                                      scale, direction and the safe area's insets (top, leading,
+///                                      bottom, trailing) may be left out
 ///     row spacing=10                   children are indented by two
 ///       text "aaaa bb"                 16 points: 8 wide a character, 20 high a line
 ///       spacer
@@ -28,6 +30,7 @@ struct LayoutCase {
   std::string name;
   layout::Size window;
   swiftui::Environment environment;
+  layout::EdgeInsets safeArea;
   swiftui::View view;
   std::string expected;
 
@@ -59,6 +62,11 @@ struct LayoutLine {
             has("top")      ? V::top
             : has("bottom") ? V::bottom
                             : V::center};
+  }
+
+  layout::Edges edges() const {
+    const auto has = [&](const char* name) { return arguments.count(name) > 0; };
+    return {has("top"), has("leading"), has("bottom"), has("trailing")};
   }
 
   /// The lines from `at` on that are indented by `depth` or more, as a tree.
@@ -105,6 +113,10 @@ struct LayoutLine {
     }
     const swiftui::View content = views.at(0);
     if (word == "resizable") return content.resizable();
+    if (word == "fit") return content.scaledToFit();
+    if (word == "border") return content.border(swiftui::Color::black(), length("width"));
+    if (word == "background") return content.background(swiftui::Color::black(), edges());
+    if (word == "ignoring") return content.edgesIgnoringSafeArea(edges());
     if (word == "frame") return content.frame(number("width"), number("height"), alignment());
     if (word == "widest") return content.frameMaxWidthInfinity(alignment());
     if (word == "overlay") return content.overlay(alignment(), views.at(1));
@@ -135,6 +147,10 @@ inline std::vector<LayoutCase> LayoutCase::read(const std::string& path) {
       words >> cases.back().window.width >> word >> cases.back().window.height;
       while (words >> word) {
         if (word == "scale") words >> cases.back().environment.scale;
+        if (word == "safe") {
+          auto& [top, leading, bottom, trailing] = cases.back().safeArea;
+          words >> top >> leading >> bottom >> trailing;
+        }
         if (word == "rtl") {
           cases.back().environment.direction = layout::LayoutDirection::rightToLeft;
         }

@@ -49,13 +49,14 @@ TEST_P(LayoutTable, GivesTheFramesExpected) {
   ASSERT_FALSE(cases.empty());
   for (const LayoutCase& row : cases) {
     TestWindow window(row.view, row.environment, row.window);
-    EXPECT_EQ(printedItems(window.shown()) + printedAnswers(window, row.expected), row.expected)
-        << row.name;
+    const render::Scene& scene = window.host->scene(row.window, row.safeArea);
+    EXPECT_EQ(printedItems(scene) + printedAnswers(window, row.expected), row.expected) << row.name;
   }
 }
 
 INSTANTIATE_TEST_SUITE_P(Layout, LayoutTable,
-                         ::testing::Values("stacks", "frames", "texts", "pixels", "directions"));
+                         ::testing::Values("stacks", "frames", "texts", "pixels", "directions",
+                                           "grounds"));
 
 TEST(PixelGrid, LeavesNoSeamAndLosesNoHairline) {
   for (const double scale : {1.0, 1.25, 1.5, 2.0, 3.0}) {

@@ -2,16 +2,15 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
 #include <thread>
 #include <vector>
 
 #include "QuorixWidgets/localization/Color.h"
 #include "QuorixWidgets/localization/ColorResource.h"
 #include "QuorixWidgets/localization/ImageResource.h"
-#include "QuorixWidgets/localization/ResourceBundle.h"
 #include "QuorixWidgets/localization/UIColor.h"
 #include "platform/graphics/AssetCatalog.h"
+#include "tests/core/FreshProcess.h"
 #include "tests/core/MemoryBundle.h"
 
 namespace quorix {
@@ -20,6 +19,7 @@ namespace {
 using foundation::Bundle;
 using graphics::Appearance;
 using graphics::RGBA;
+using testing::replaceLibraryBundle;
 
 constexpr Appearance kAppearances[] = {Appearance::light, Appearance::dark};
 
@@ -55,41 +55,27 @@ TEST(Palette, TextIsLegibleOnEveryBackground) {
   }
 }
 
-/// What is made once in a process is tried in a process of its own.
-class ResourcesDeathTest : public ::testing::Test {
- protected:
-  void SetUp() override { GTEST_FLAG_SET(death_test_style, "threadsafe"); }
-
-  static void replaceLibraryBundle(Bundle::Ref bundle) {
-    libraryBundle();
-    Bundle::registerBundle(kResourceBundleIdentifier, std::move(bundle));
-  }
-};
+using ResourcesDeathTest = testing::FreshProcessDeathTest;
 
 TEST_F(ResourcesDeathTest, AMissingColourStopsTheImperativeFormOnly) {
   const auto empty = testing::memoryBundle({});
-  EXPECT_EXIT((replaceLibraryBundle(empty),
-               std::exit(Color::widgetBackground().resolve(Appearance::light) ? 1 : 0)),
-              ::testing::ExitedWithCode(0), "");
+  EXPECT_IN_FRESH_PROCESS(
+      (replaceLibraryBundle(empty), !Color::widgetBackground().resolve(Appearance::light)));
   EXPECT_DEATH((replaceLibraryBundle(empty), UIColor::widgetBackground()),
                "^QuorixWidgets/Colors: Fatal error: No color named 'Background' in the asset "
                "catalog\n$");
 }
 
 TEST_F(ResourcesDeathTest, WithoutALibraryBundleTheHostsMainBundleAnswers) {
-  EXPECT_EXIT((replaceLibraryBundle(nullptr), Bundle::setMain(Bundle::embedded()),
-               std::exit(Color::widgetBackground().resolve(Appearance::light) &&
-                                 UIColor::widgetBackground() && resourceBundle()
-                             ? 0
-                             : 1)),
-              ::testing::ExitedWithCode(0), "");
+  EXPECT_IN_FRESH_PROCESS((replaceLibraryBundle(nullptr), Bundle::setMain(Bundle::embedded()),
+                           Color::widgetBackground().resolve(Appearance::light) &&
+                               UIColor::widgetBackground() && resourceBundle()));
 }
 
 TEST_F(ResourcesDeathTest, AHostsEarlierRegistrationStands) {
   const auto live = testing::memoryBundle({});
-  EXPECT_EXIT((Bundle::registerBundle(kResourceBundleIdentifier, live),
-               std::exit(libraryBundle() == live && resourceBundle() == live ? 0 : 1)),
-              ::testing::ExitedWithCode(0), "");
+  EXPECT_IN_FRESH_PROCESS((Bundle::registerBundle(kResourceBundleIdentifier, live),
+                           libraryBundle() == live && resourceBundle() == live));
 }
 
 TEST(ConcurrentResources, FirstReadsFromManyThreadsAgree) {

@@ -1,7 +1,3 @@
-#include <gtest/gtest.h>
-
-#include <bit>
-#include <charconv>
 #include <limits>
 
 #include "QuorixWidgets/score/ReturnRate.h"
@@ -13,10 +9,7 @@ namespace {
 
 TEST(ReturnRate, RoundsHalvesAwayFromZero) {
   forEachRow("rates", [](simdjson::dom::element row) {
-    std::uint64_t bits = 0;
-    const std::string hex = text(row, "score_bits");
-    std::from_chars(hex.data(), hex.data() + hex.size(), bits, 16);
-    EXPECT_EQ(returnRateText(std::bit_cast<double>(bits)), text(row, "rate"));
+    EXPECT_EQ(returnRateText(bitsOfDouble(row, "score_bits")), text(row, "rate"));
   });
 }
 

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <fstream>
-#include <limits>
 #include <map>
 #include <sstream>
 
@@ -11,6 +10,7 @@
 #include "platform/swiftui/TreePrinter.h"
 #include "tests/core/ScoreWidgets.h"
 #include "tests/core/TestWindow.h"
+#include "tests/core/Vectors.h"
 
 namespace quorix {
 namespace {
@@ -20,37 +20,19 @@ using testing::scoreModel;
 using testing::scoreView;
 using testing::TestWindow;
 
-std::string contentsOf(const std::string& name) {
-  std::ifstream file(TEST_DATA "/score/" + name);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
-
 // View model.
 
 TEST(ScoreWidgetViewModel, ShowsWholeUnitsOfTheCurrency) {
-  constexpr std::int64_t least = std::numeric_limits<std::int64_t>::min();
-  const struct {
-    const char* language;
-    const char* currency;
-    std::int64_t hundredths;
-    const char* text;
-  } rows[] = {
-      {"en", "EUR", 499, "€4.00"},       {"en", "EUR", 500, "€5.00"},
-      {"en", "EUR", 99, "€0.00"},        {"en", "EUR", -99, "€0.00"},
-      {"en", "EUR", -150, "-€1.00"},     {"en", "EUR", least, "-€92,233,720,368,547,758.00"},
-      {"es", "EUR", 499, "4,00\u00A0€"}, {"en", "JPY", 12399, "¥123"},
-      {"en", "", 499, "¤4.00"},          {"", "EUR", 499, "€\u00A04.00"},
-  };
-  for (const auto& row : rows) {
+  forEachRow("fees", [](simdjson::dom::element row) {
     // The two fees are written alike, whichever of them is the larger.
-    const TokenData base{0.5, row.currency, row.hundredths, 0};
-    const TokenData reduced{0.5, row.currency, 0, row.hundredths};
-    const auto& faces = testing::ownFaces;
-    EXPECT_EQ(ScoreWidgetViewModel("shop", base, row.language, faces).baseReturnFee.get(),
-              row.text);
-    EXPECT_EQ(ScoreWidgetViewModel("shop", reduced, row.language, faces).reducedReturnFee.get(),
-              row.text);
-  }
+    const std::int64_t fee = row["hundredths"];
+    const auto modelOf = [&](std::int64_t base, std::int64_t reduced) {
+      const TokenData token{0.5, ::text(row, "currency"), base, reduced};
+      return ScoreWidgetViewModel("shop", token, ::text(row, "language"), testing::ownFaces);
+    };
+    EXPECT_EQ(modelOf(fee, 0).baseReturnFee.get(), ::text(row, "text"));
+    EXPECT_EQ(modelOf(0, fee).reducedReturnFee.get(), ::text(row, "text"));
+  });
 }
 
 TEST(ScoreWidgetViewModel, TheScoreAloneDecidesTheDiscount) {
@@ -74,25 +56,56 @@ TEST(ScoreWidgetViewModel, TellsOfEachChangeBeforeItIsStored) {
   EXPECT_EQ(model->baseReturnFee.get(), "€4.00");
 }
 
-// Trees.
+// What is made, shown, read out and measured.
 
-TEST(ScoreWidgetView, IsTheTreeExpected) {
+std::string contentsOf(const std::string& name) {
+  std::ifstream file(TEST_DATA "/score/" + name + ".txt");
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+/// A view of `size` in words, after it was laid out as often as a surface may ask.
+std::string printed(const swiftui::View& view, layout::Size size) {
+  TestWindow window({}, {}, size);
+  window.text.calls.clear();
+  window.host->setRoot(view);
+  for (int i = 0; i < 3; ++i) {
+    window.host->sizeThatFits({});
+    window.host->sizeThatFits({size.width, std::nullopt});
+    window.host->scene(size);
+  }
+  std::ostringstream text;
+  text << swiftui::printTree(view) << "\nframes\n" << testing::printedItems(window.shown());
+  text << "\nread out\n" << render::printAccessibility(window.shown()) << "\nmeasured\n";
+  std::sort(window.text.calls.begin(), window.text.calls.end());
+  for (const auto& [words, width] : window.text.calls)
+    text << '"' << words << "\" " << width << '\n';
+  return text.str();
+}
+
+TEST(ScoreWidgetView, IsAsDesigned) {
   const struct {
     const char* file;
-    bool discount;
+    bool sheet, discount;
     const char* language;
-    bool emptyTable;
+    layout::Size size;
   } rows[] = {
-      {"plain-en.txt", false, "en", false},
-      {"discount-en.txt", true, "en", false},
-      {"discount-es.txt", true, "es", false},
-      {"discount-empty.txt", true, "en", true},
+      {"row-plain-en", false, false, "en", {300, 44}},
+      {"row-plain-untranslated", false, false, "", {300, 44}},
+      {"row-discount-en", false, true, "en", {300, 44}},
+      // Too narrow for its title, which is measured again for the 72 points that are left.
+      {"row-discount-es", false, true, "es", {200, 44}},
+      {"row-discount-untranslated", false, true, "", {300, 44}},
+      {"sheet-plain-es", true, false, "es", {320, 400}},
+      {"sheet-discount-en", true, true, "en", {320, 305}},
   };
   for (const auto& row : rows) {
-    const auto strings = LocalizationRepository::make(row.language);
-    if (row.emptyTable) strings->strings = TranslationTable::make({});
-    const ScoreWidgetView view{scoreModel(row.discount, row.language), strings};
-    EXPECT_EQ(swiftui::printTree(view), contentsOf(row.file)) << row.file;
+    const std::string language = *row.language ? row.language : "en";
+    const auto model = scoreModel(row.discount, language);
+    const auto strings = LocalizationRepository::make(language);
+    if (!*row.language) strings->strings = TranslationTable::make({});
+    const auto view = row.sheet ? scoreWidgetSheet(*model, *strings, swiftui::State(true).binding())
+                                : swiftui::View(ScoreWidgetView{model, strings});
+    EXPECT_EQ(printed(view, row.size), contentsOf(row.file)) << row.file;
   }
 }
 
@@ -120,10 +133,8 @@ TEST(ScoreWidgetBuilder, GivesTheEmptyBranchForWhatItCannotUse) {
 }
 
 TEST(ScoreWidgetBuilder, BuildsTheViewForAnyLocale) {
-  std::istringstream expected(contentsOf("discount-en.txt"));
-  std::string tree = "Conditional(true)\n";
-  for (std::string line; std::getline(expected, line);) tree += "  " + line + "\n";
-  EXPECT_EQ(swiftui::printTree(build("shop", "en", token)), tree);
+  const std::string tree = swiftui::printTree(build("shop", "en", token));
+  EXPECT_TRUE(tree.starts_with("Conditional(true)\n  ScoreWidgetView\n")) << tree;
   TestWindow window(build("shop", "", token));
   EXPECT_NO_THROW(window.element("Your return fee Discounted €\u00A02.00, Original €\u00A04.00"));
 }
@@ -138,65 +149,10 @@ TEST(ScoreWidgetBuilder, EachCallMakesAWidgetOfItsOwn) {
   network->held[0]({{}, R"({"returns": {"title": "Fee"}})", 200});
   network->held[1]({foundation::Error{"offline", 1, {}}, {}, 0});
   one.settle();
-  one.tap("Fee  €2.00,  €4.00");
-  one.settle();
+  one.act("Fee  €2.00,  €4.00");
   EXPECT_TRUE(one.sheet);
   EXPECT_FALSE(other.sheet);
   EXPECT_NO_THROW(other.element("Your return fee Discounted €2.00, Original €4.00"));
-}
-
-// Measuring.
-
-using Calls = std::vector<testing::FixedWidthText::Call>;
-
-Calls sorted(Calls calls) {
-  std::sort(calls.begin(), calls.end());
-  return calls;
-}
-
-/// Asks as a surface's layout does: again and again.
-void layOutRepeatedly(hosting::ViewHost& host, layout::Size size) {
-  for (int i = 0; i < 3; ++i) {
-    host.sizeThatFits({});
-    host.sizeThatFits({size.width, std::nullopt});
-    host.scene(size);
-  }
-}
-
-TEST(ScoreWidgetMeasuring, ShapesEachTextOfTheRowOncePerWidth) {
-  constexpr double all = layout::infinity;
-  const struct {
-    double width;
-    Calls calls;
-  } rows[] = {
-      {300, {{"YOUR RETURN FEE", all}, {"€2.00", all}, {"€4.00", all}}},
-      // What is left for the title: 200 less two fees of 35, three gaps of 12 and the spacer's 8.
-      {200, {{"YOUR RETURN FEE", 86}, {"YOUR RETURN FEE", all}, {"€2.00", all}, {"€4.00", all}}},
-  };
-  for (const auto& row : rows) {
-    TestWindow window(scoreView(true), {}, {row.width, 44});
-    window.text.calls.clear();
-    window.host->setRoot(scoreView(true));
-    layOutRepeatedly(*window.host, window.size);
-    EXPECT_EQ(sorted(window.text.calls), row.calls) << row.width;
-  }
-}
-
-TEST(ScoreWidgetMeasuring, ShapesEachTextOfTheSheetOncePerWidth) {
-  const auto strings = LocalizationRepository::make("en");
-  const auto sheet = scoreWidgetSheet(*scoreModel(false), *strings, swiftui::State(true).binding());
-  TestWindow window({}, {}, {320, 400});
-  window.host->setRoot(sheet);
-  layOutRepeatedly(*window.host, window.size);
-  const std::string disclaimer(strings->strings.get()->text("returns", "disclaimer"));
-  constexpr double all = layout::infinity;
-  EXPECT_EQ(sorted(window.text.calls), (Calls{{"95%", all},
-                                              {"Return fee", all},
-                                              {"Return rate", all},
-                                              {"YOUR RETURN FEE", all},
-                                              {disclaimer, 288},
-                                              {disclaimer, all},
-                                              {"€4.00", all}}));
 }
 
 }  // namespace

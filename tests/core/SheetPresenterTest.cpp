@@ -23,8 +23,7 @@ class ScoreSheet : public ::testing::Test {
 
   TestWindow& open(bool motion = false) {
     window.motion = motion;
-    window.tap(row);
-    window.settle();
+    window.act(row);
     return window;
   }
   double panelHeight() { return window.size.height - window.sheet->panelFrame().top(); }
@@ -42,8 +41,7 @@ TEST_F(ScoreSheet, IsOfMediumHeightUntilItsContentIsMeasured) {
   MainQueue::drain();
   EXPECT_EQ(panelHeight(), 305) << "without motion it is there at once";
   EXPECT_FALSE(window.sheet->isMoving());
-  window.tap("Close");
-  window.settle();
+  window.act("Close");
   ASSERT_FALSE(window.sheet);
   window.tap(row);
   MainQueue::drain();
@@ -69,50 +67,40 @@ TEST_F(ScoreSheet, FollowsItsContentAndTheWindow) {
       {{"returns", "disclaimer", std::string(36 * 7, 'x')}, {"actions", "close", "Shut"}});
   window.settle();
   EXPECT_EQ(panelHeight(), 305 + 3 * 20);
-  window.tap("Shut");
-  window.settle();
+  window.act("Shut");
   EXPECT_FALSE(window.sheet);
 }
 
-TEST_F(ScoreSheet, GoesWhenSwipedFarOrFast) {
+TEST_F(ScoreSheet, GoesWhenSwipedFarOrFastOrTappedOutside) {
+  constexpr layout::Point outside{160, 20}, inside{160, 400};
   const struct {
-    double down, velocity, panelTop;
+    layout::Point press, release;
+    double velocity, panelTop;
     bool closes;
   } rows[] = {
-      {153, 0, 488, true},   {152, 0, 487, false}, {20, 601, 355, true}, {20, 600, 355, false},
-      {8, 5000, 335, false}, {-50, 0, 325, false},  // it gives way upwards, reluctantly
-      {-50, 601, 325, true},
+      {inside, {160, 553}, 0, 488, true},
+      {inside, {160, 552}, 0, 487, false},
+      {inside, {160, 420}, 601, 355, true},
+      {inside, {160, 420}, 600, 355, false},
+      {inside, {160, 408}, 5000, 335, false},
+      {inside, {160, 350}, 0, 325, false},  // it gives way upwards, reluctantly
+      {inside, {160, 350}, 601, 325, true},
+      {outside, {10, 300}, 0, 335, true},
+      {outside, inside, 0, 335, false},
+      {inside, outside, 0, 259, false},
   };
-  for (const auto& swipe : rows) {
+  for (const auto& drag : rows) {
     open();
-    window.press({160, 400});
-    window.sheet->pointerMoved({160, 400 + swipe.down});
-    EXPECT_EQ(window.sheet->panelFrame().top(), swipe.panelTop) << swipe.down;
-    window.release({160, 400 + swipe.down}, swipe.velocity);
+    window.press(drag.press);
+    window.sheet->pointerMoved(drag.release);
+    EXPECT_EQ(window.sheet->panelFrame().top(), drag.panelTop) << drag.release.y;
+    window.release(drag.release, drag.velocity);
     window.settle();
-    EXPECT_EQ(!window.sheet, swipe.closes) << swipe.down << " at " << swipe.velocity;
+    EXPECT_EQ(!window.sheet, drag.closes) << drag.release.y << " at " << drag.velocity;
     if (!window.sheet) continue;
     EXPECT_EQ(panelHeight(), 305);
     window.sheet->dismiss();
     window.settle();
-  }
-}
-
-TEST_F(ScoreSheet, GoesWhenTappedOutside) {
-  constexpr layout::Point outside{160, 20}, inside{160, 600};
-  const struct {
-    layout::Point press, release;
-    bool closes;
-  } rows[] = {{outside, {10, 300}, true}, {outside, inside, false}, {inside, outside, false}};
-  for (const auto& tap : rows) {
-    open();
-    window.press(tap.press);
-    window.release(tap.release);
-    window.settle();
-    EXPECT_EQ(!window.sheet, tap.closes) << tap.press.y << " to " << tap.release.y;
-    if (window.sheet) window.tap("Close");
-    window.settle();
-    EXPECT_FALSE(window.sheet);
   }
 }
 

@@ -74,6 +74,14 @@ class TestWindow final : public hosting::ViewHost::Client, public hosting::Sheet
     }
     throw std::out_of_range("nothing is called " + label);
   }
+  /// All that is read out: "kept 1, switch".
+  std::string labels() {
+    std::string result;
+    for (const auto& element : shown().accessibility) {
+      result += (result.empty() ? "" : ", ") + element.label;
+    }
+    return result;
+  }
   static layout::Point middle(const layout::Rect& frame) {
     return {frame.left() + frame.size.width / 2, frame.top() + frame.size.height / 2};
   }
@@ -89,6 +97,11 @@ class TestWindow final : public hosting::ViewHost::Client, public hosting::Sheet
     release(point);
   }
   void tap(const std::string& label) { tap(middle(element(label).frame)); }
+  /// A tap and all that comes of it.
+  void act(const std::string& label) {
+    tap(label);
+    settle();
+  }
 
  private:
   void viewNeedsDisplay() override { ++displays; }

@@ -3,6 +3,7 @@
 #include "platform/foundation/TextCasing.h"
 #include "platform/swiftui/ContentSizeCategory.h"
 #include "tests/core/TestWindow.h"
+#include "tests/core/Vectors.h"
 
 namespace quorix {
 namespace {
@@ -40,23 +41,47 @@ TEST(ContentSizeCategory, ReachesScalingFontsOnly) {
   }
 }
 
-TEST(TextCasing, FollowsTheLanguage) {
-  const struct {
-    const char* language;
-    const char* text;
-    const char* upper;
-    const char* lower;
-  } rows[] = {
-      {"", "Straße i ÉÑ 日本 7", "STRASSE I ÉÑ 日本 7", "straße i éñ 日本 7"},
-      {"tr", "ilk Işık", "İLK IŞIK", "ilk ışık"},
-      {"el", "Άσος", "ΑΣΟΣ", "άσος"},
-      {"en", "ΑΣΟΣ", "ΑΣΟΣ", "ασος"},
-      {"xx", "a\xFFz", "A\uFFFDZ", "a\uFFFDz"},
+/// The runs of a text as they reach the text engine.
+TEST(Text, ItsOwnLooksWinTheFirstOneWrittenFirst) {
+  const auto face = [](const char* name) { return Font::custom(name, Font::FixedSize{10}); };
+  const auto color = [](std::uint8_t red) { return swiftui::Color::fixed({red, 0, 0}); };
+  const Text own = Text::verbatim("own ").font(face("A")).font(face("B")).foregroundColor(color(1));
+  const Text bold = Text::verbatim("bold ").bold().fontWeight(swiftui::FontWeight::medium);
+  const Text sum = (own.underline(false) + bold + Text::localized("%@", {"plain"}))
+                       .font(face("C"))
+                       .foregroundColor(color(2))
+                       .underline();
+  const Text whole = sum + Text::verbatim("") + Text::verbatim(" last");
+  TestWindow window(
+      View(whole).font(face("D")).foregroundColor(color(3)).textCase(swiftui::TextCase::uppercase));
+  const auto run = [](const char* words, const char* name, swiftui::FontWeight weight,
+                      std::uint8_t red, bool underline) {
+    return text::Run{words, {name, 10, weight}, {red, 0, 0}, underline};
   };
-  for (const auto& row : rows) {
-    EXPECT_EQ(foundation::uppercased(row.text, row.language), row.upper);
-    EXPECT_EQ(foundation::lowercased(row.text, row.language), row.lower);
-  }
+  constexpr auto regular = swiftui::FontWeight::regular;
+  const std::vector<text::Run> expected = {
+      run("OWN ", "A", regular, 1, false), run("BOLD ", "C", swiftui::FontWeight::bold, 2, true),
+      run("PLAIN", "C", regular, 2, true), run(" LAST", "D", regular, 3, false)};
+  EXPECT_EQ(std::get<render::TextItem>(window.shown().items.at(0)).text.runs, expected);
+  EXPECT_NO_THROW(window.element("OWN BOLD PLAIN LAST"));
+  const auto has = [](const std::string& printed, const char* part) {
+    return printed.find(part) != std::string::npos;
+  };
+  EXPECT_TRUE(has(render::printFrames(window.shown()),
+                  R"("OWN BOLD PLAIN LAST" run "OWN " A 10 #010000FF run "BOLD " C 10 bold )"));
+  EXPECT_TRUE(has(render::framesToJSON(window.shown()), R"("strikethrough": false}, {"text": )"
+                                                        R"("BOLD ", "font": "C", "points": 10, )"
+                                                        R"("weight": "bold", )"));
+}
+
+TEST(TextCasing, FollowsTheLanguage) {
+  forEachRow("casing", [](simdjson::dom::element row) {
+    const std::string language = ::text(row, "language");
+    EXPECT_EQ(foundation::uppercased(::text(row, "text"), language), ::text(row, "upper"));
+    EXPECT_EQ(foundation::lowercased(::text(row, "text"), language), ::text(row, "lower"));
+  });
+  EXPECT_EQ(foundation::uppercased("a\xFFz", "xx"), "A\uFFFDZ");
+  EXPECT_EQ(foundation::lowercased("A\xFFZ", "xx"), "a\uFFFDz");
 }
 
 TEST(TextCase, ShowsTheUsersCapitalsAndLeavesWhatIsReadOutAlone) {

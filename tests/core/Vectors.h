@@ -3,8 +3,11 @@
 #include <gtest/gtest.h>
 #include <simdjson.h>
 
+#include <bit>
+#include <fstream>
 #include <functional>
 #include <string>
+#include <vector>
 
 /// Calls `check` with every row of tests/data/<name>.json. A failing row names itself.
 inline void forEachRow(const std::string& name,
@@ -21,4 +24,38 @@ inline void forEachRow(const std::string& name,
 
 inline std::string text(simdjson::dom::element row, std::string_view key) {
   return std::string(std::string_view(row[key]));
+}
+
+/// A number that is written as the hexadecimal digits of its 64 bits.
+inline double bitsOfDouble(simdjson::dom::element row, std::string_view key) {
+  return std::bit_cast<double>(std::uint64_t{std::stoull(text(row, key), nullptr, 16)});
+}
+
+/// The bytes of hexadecimal digits, which may stand apart in pairs.
+inline std::string fromHex(std::string_view hex) {
+  std::string bytes;
+  for (std::size_t i = 0; i < hex.size(); i += hex[i] == ' ' ? 1 : 2) {
+    if (hex[i] == ' ') continue;
+    bytes += static_cast<char>(std::stoi(std::string(hex.substr(i, 2)), nullptr, 16));
+  }
+  return bytes;
+}
+
+/// The lines of tests/data/<name>.txt that are no comments. "<EF BB BF>" in them stands for these
+/// bytes, "<>" for none.
+inline std::vector<std::string> readLines(const std::string& name) {
+  std::ifstream file(TEST_DATA "/" + name + ".txt");
+  EXPECT_TRUE(file) << name;
+  std::vector<std::string> lines;
+  for (std::string line; std::getline(file, line);) {
+    if (line.starts_with('#')) continue;
+    for (std::size_t at = 0; (at = line.find('<', at)) != std::string::npos;) {
+      const std::size_t end = line.find('>', at);
+      const std::string bytes = fromHex(line.substr(at + 1, end - at - 1));
+      line.replace(at, end - at + 1, bytes);
+      at += bytes.size();
+    }
+    lines.push_back(line);
+  }
+  return lines;
 }

@@ -1,12 +1,9 @@
 #include <gtest/gtest.h>
 
-#include <map>
 #include <memory>
 #include <vector>
 
-#include "QuorixWidgets/score/ScoreWidgetSheet.h"
 #include "platform/foundation/LocalizedString.h"
-#include "platform/render/ScenePrinter.h"
 #include "platform/swiftui/Elements.h"
 #include "tests/core/ScoreWidgets.h"
 #include "tests/core/TestWindow.h"
@@ -16,7 +13,6 @@ namespace {
 
 using swiftui::Text;
 using swiftui::View;
-using testing::printedItems;
 using testing::scoreModel;
 using testing::scoreView;
 using testing::TestWindow;
@@ -91,13 +87,6 @@ TEST(ViewHostInput, FocusWalksOverWhatActsAndLeavesAtTheEnds) {
   for (const int index : {-1, 1, 3}) EXPECT_FALSE(host.activate(index)) << index;
 }
 
-// What is on the screen and what a screen reader says.
-
-View sheetView(bool discount, const char* language) {
-  return scoreWidgetSheet(*scoreModel(discount, language), *LocalizationRepository::make(language),
-                          swiftui::State(true).binding());
-}
-
 /// A view whose body counts how often it is asked for.
 struct CountedView {
   static constexpr std::string_view typeName = "CountedView";
@@ -138,68 +127,15 @@ TEST(ViewHosts, AreEvaluatedOnceOnAScreenAndSparinglyInLongLists) {
   }
 }
 
-TEST(ScoreWidgetAccessibility, TheRowIsOneButton) {
-  const auto empty = LocalizationRepository::make("en");
-  empty->strings = TranslationTable::make({});
-  const std::vector<std::pair<View, std::string>> rows = {
-      {scoreView(false),
-       R"(button 0 13 300 18 "Your return fee €4.00" hint "Tap to learn more" acts)"},
-      {scoreView(true),
-       R"(button 0 13 300 18 "Your return fee Discounted €2.00, Original €4.00" hint "Tap to learn more" acts)"},
-      {ScoreWidgetView{scoreModel(false), empty}, R"(button 0 13 300 18 " €4.00" acts)"},
-      {ScoreWidgetView{scoreModel(true), empty}, R"(button 0 13 300 18 "  €2.00,  €4.00" acts)"},
-  };
-  for (const auto& [view, expected] : rows) {
-    TestWindow window(view, {}, {300, 44});
-    EXPECT_EQ(render::printAccessibility(window.shown()), expected + "\n");
-  }
-}
-
-TEST(ScoreWidgetAccessibility, TheSheetReadsInOrderWithoutItsDivider) {
-  TestWindow window(sheetView(true, "en"), {}, {320, 305});
-  EXPECT_EQ(render::printAccessibility(window.shown()),
-            R"(text 108 24 105 18 "YOUR RETURN FEE"
-button 280 22 24 24 "Close" acts
-heading 16 66 288 24 "Discounted €2.00, Original €4.00"
-text 16 90 288 20 "Return rate 18%"
-text 16 159 288 80 "Your return fee is based on your personal return rate. Fewer returns lead to lower fees benefiting both you and the environment."
-image 137 271 46 10 "" hint "Quorix logo"
-)");
-  TestWindow plain(sheetView(false, "es"), {}, {320, 400});
-  EXPECT_NO_THROW(plain.element("Tu tarifa de devolución 4,00\u00A0€"));
-  EXPECT_NO_THROW(plain.element("Cerrar"));
-}
-
 TEST(ScoreWidgetAccessibility, TheHostsStringTableIsAskedFirst) {
-  const std::map<std::string, std::string, std::less<>> table = {
-      {"%@ %@ %@, %@ %@", "%5$@ %-10y%4$10.2@; %3$@ %2$@ (%1$@) 100%%%6$@"}};
-  foundation::setMainStringTable([&](std::string_view sought) {
-    const auto found = table.find(sought);
-    return found == table.end() ? std::nullopt : std::optional(found->second);
+  foundation::setMainStringTable([](std::string_view sought) -> std::optional<std::string> {
+    if (sought != "%@ %@ %@, %@ %@") return std::nullopt;
+    return "%5$@ %-10y%4$10.2@; %3$@ %2$@ (%1$@) 100%%%6$@";
   });
   TestWindow discounted(scoreView(true)), plain(scoreView(false));
-  EXPECT_NO_THROW(
-      discounted.element("€4.00 Original; €2.00 Discounted (Your return fee) 100%(null)"));
-  EXPECT_NO_THROW(plain.element("Your return fee €4.00"));
+  EXPECT_EQ(discounted.labels(), "€4.00 Original; €2.00 Discounted (Your return fee) 100%(null)");
+  EXPECT_EQ(plain.labels(), "Your return fee €4.00");
   foundation::setMainStringTable({});
-}
-
-TEST(ScoreWidgetFrames, OfTheSheetAreThoseDesigned) {
-  const std::string disclaimer(
-      LocalizationRepository::make("en")->strings.get()->text("returns", "disclaimer"));
-  TestWindow window(sheetView(true, "en"), {}, {320, 305});
-  EXPECT_EQ(printedItems(window.shown()), R"(text 108 24 105 18 "YOUR RETURN FEE"
-image 280 22 24 24 "close"
-text 16 66 80 20 "Return fee"
-text 212 66 40 20 "€2.00"
-text 264 66 40 20 "€4.00"
-text 16 90 88 20 "Return rate"
-text 280 90 24 20 "18%"
-fill 16 134 288 1
-text 16 159 288 80 ")" + disclaimer + R"("
-image 137 271 46 10 "logo"
-hit 280 0 24 46
-)");
 }
 
 }  // namespace

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <atomic>
 #include <chrono>
 #include <future>
 #include <memory>
@@ -19,35 +18,32 @@ struct Outcome {
   std::thread::id thread;  ///< on which it completed
 };
 
-/// One request. The main thread stands still while it waits: nothing may need its event loop.
+/// One request. The main thread stands still while it waits: nothing may need its event loop. A
+/// second completion would end the process: the promise is kept already.
 class Fetch {
  public:
   Fetch(foundation::URLTransport& transport, const std::string& address) {
     transport.start(foundation::URL::parse(address).value(),
-                    [state = state_](foundation::URLResponse response) {
-                      if (++state->completions == 1) {
-                        state->outcome.set_value({std::move(response), std::this_thread::get_id()});
-                      }
+                    [promise = promise_](foundation::URLResponse response) {
+                      promise->set_value({std::move(response), std::this_thread::get_id()});
                     });
   }
 
+  bool isDone() const { return isDoneWithin(std::chrono::seconds(0)); }
+
   Outcome wait() {
-    auto outcome = state_->outcome.get_future();
-    if (outcome.wait_for(std::chrono::seconds(30)) != std::future_status::ready) {
-      ADD_FAILURE() << "the request never completed";
-      return {};
-    }
-    return outcome.get();
+    if (isDoneWithin(std::chrono::seconds(30))) return outcome_.get();
+    ADD_FAILURE() << "the request never completed";
+    return {};
   }
 
-  int completions() const { return state_->completions; }
-
  private:
-  struct State {
-    std::promise<Outcome> outcome;
-    std::atomic<int> completions = 0;
-  };
-  std::shared_ptr<State> state_ = std::make_shared<State>();
+  bool isDoneWithin(std::chrono::seconds limit) const {
+    return outcome_.wait_for(limit) == std::future_status::ready;
+  }
+
+  std::shared_ptr<std::promise<Outcome>> promise_ = std::make_shared<std::promise<Outcome>>();
+  std::future<Outcome> outcome_ = promise_->get_future();
 };
 
 }  // namespace quorix::testing

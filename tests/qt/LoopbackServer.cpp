@@ -62,16 +62,14 @@ class LoopbackServer::Connection : public QObject {
   }
 
   void send() {
-    if (server_.isOpen(answer_.gate)) {
-      const auto size = std::min(answer_.piece, answer_.bytes.size() - sent_);
-      socket_->write(answer_.bytes.data() + sent_, static_cast<qint64>(size));
-      sent_ += size;
-      if (sent_ == answer_.bytes.size()) {
-        if (answer_.hangUp) socket_->disconnectFromHost();
-        return;
-      }
+    const auto size = std::min(answer_.piece, answer_.bytes.size() - sent_);
+    socket_->write(answer_.bytes.data() + sent_, static_cast<qint64>(size));
+    sent_ += size;
+    if (sent_ < answer_.bytes.size()) {
+      QTimer::singleShot(1, this, [this] { send(); });
+    } else if (answer_.hangUp) {
+      socket_->disconnectFromHost();
     }
-    QTimer::singleShot(1, this, [this] { send(); });
   }
 
   LoopbackServer& server_;
@@ -114,11 +112,6 @@ void LoopbackServer::serve(const std::string& path, Answer answer) {
   answers_[path] = std::move(answer);
 }
 
-void LoopbackServer::open(const std::string& gate) {
-  const std::scoped_lock lock(mutex_);
-  gates_.insert(gate);
-}
-
 std::vector<std::string> LoopbackServer::requests(const std::string& path) const {
   const std::scoped_lock lock(mutex_);
   const auto found = requests_.find(path);
@@ -130,11 +123,6 @@ Answer LoopbackServer::take(const std::string& path, const std::string& head) {
   requests_[path].push_back(head);
   const auto answer = answers_.find(path);
   return answer == answers_.end() ? Answer{httpAnswer(404, "")} : answer->second;
-}
-
-bool LoopbackServer::isOpen(const std::string& gate) const {
-  const std::scoped_lock lock(mutex_);
-  return gate.empty() || gates_.contains(gate);
 }
 
 }  // namespace quorix::testing

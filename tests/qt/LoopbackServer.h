@@ -5,7 +5,6 @@
 #include <cstdint>
 #include <map>
 #include <mutex>
-#include <set>
 #include <string>
 #include <string_view>
 #include <thread>
@@ -20,11 +19,13 @@ struct Answer {
   std::string bytes;             ///< from the status line on
   std::size_t piece = SIZE_MAX;  ///< so many bytes at a time, about a millisecond apart
   bool hangUp = false;           ///< closes the connection after the last byte
-  std::string gate = {};         ///< sends nothing before this gate is opened; "" is always open
 };
 
 /// A well-formed answer. `headers` are whole lines; the length is added.
 std::string httpAnswer(int status, std::string_view body, std::string_view headers = {});
+
+/// Not a byte, and no end either.
+inline Answer silence() { return {}; }
 
 /// An HTTP server on 127.0.0.1, on a thread of its own, that answers as it is told. Any thread may
 /// tell it.
@@ -44,7 +45,6 @@ class LoopbackServer {
 
   /// Answers every request for `path`. An unknown path gets an empty 404.
   void serve(const std::string& path, Answer answer);
-  void open(const std::string& gate);
 
   /// The heads of the requests for `path` so far, each as it came.
   std::vector<std::string> requests(const std::string& path) const;
@@ -53,13 +53,11 @@ class LoopbackServer {
   class Connection;
 
   Answer take(const std::string& path, const std::string& head);
-  bool isOpen(const std::string& gate) const;
 
   const Scheme scheme_;
   mutable std::mutex mutex_;
   std::map<std::string, Answer> answers_;
   std::map<std::string, std::vector<std::string>> requests_;
-  std::set<std::string> gates_;
   std::uint16_t port_ = 0;
   QEventLoop* loop_ = nullptr;
   std::thread thread_;

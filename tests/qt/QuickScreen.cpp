@@ -1,7 +1,6 @@
 #include "tests/qt/QuickScreen.h"
 
 #include <QQmlComponent>
-#include <QQmlEngine>
 
 namespace quorix::testing {
 
@@ -36,22 +35,26 @@ QQuickItem* QuickScreen::addFocusable() {
   return item;
 }
 
+QQuickItem* QuickScreen::addQml(const QByteArray& source) {
+  qmlRegisterType<qt::ViewItem>("Shop", 1, 0, "Row");
+  QQmlComponent component(&engine_);
+  component.setData("import QtQuick\nimport QtQuick.Layouts\nimport Shop\n" + source, {});
+  auto* item = qobject_cast<QQuickItem*>(component.create());
+  if (!item) qFatal("%s", qUtf8Printable(component.errorString()));
+  item->setParent(window_->contentItem());
+  item->setParentItem(window_->contentItem());
+  return item;
+}
+
 std::function<int()> QuickScreen::listenBelow() {
-  auto* engine = new QQmlEngine(window_.get());
-  QQmlComponent component(engine);
-  component.setData(R"(import QtQuick
+  QQuickItem* area = addQml(R"(
       MouseArea {
         property int events
         acceptedButtons: Qt.AllButtons; hoverEnabled: true
         onPressed: ++events
         onPositionChanged: ++events
         onWheel: ++events
-      })",
-                    {});
-  auto* area = qobject_cast<QQuickItem*>(component.create());
-  if (!area) qFatal("%s", qUtf8Printable(component.errorString()));
-  area->setParent(window_->contentItem());
-  area->setParentItem(window_->contentItem());
+      })");
   area->setSize(window_->size());
   return [area] { return area->property("events").toInt(); };
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <memory>
@@ -25,6 +26,8 @@ class QuickScreen : public Screen {
   void adopt(qt::ViewItem* item);
   /// Something of the host's that can have the focus.
   QQuickItem* addFocusable();
+  /// What `source` says in QML, in which the view items are called "Row".
+  QQuickItem* addQml(const QByteArray& source);
   static void focus(QQuickItem* item) { item->forceActiveFocus(); }
   static bool hasFocus(const QQuickItem* item) { return item->hasActiveFocus(); }
   static QRect placeOf(const QQuickItem* item) { return {at(item), item->size().toSize()}; }
@@ -33,6 +36,7 @@ class QuickScreen : public Screen {
   static QPoint at(const QQuickItem* item) { return item->mapToScene({}).toPoint(); }
   QObject& accessibleRoot() override { return *window_; }
 
+  QQmlEngine engine_;
   std::unique_ptr<QQuickWindow> window_;
 };
 

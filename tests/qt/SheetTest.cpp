@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <QGuiApplication>
 #include <QTest>
 #include <QWheelEvent>
+#include <functional>
 
 #include "tests/qt/FeeRow.h"
 #include "tests/qt/Screens.h"
@@ -20,8 +22,17 @@ TYPED_TEST_SUITE(Sheet, Screens, ScreenName);
 
 struct Closing {
   const char* by;
-  void (*perform)(Screen& screen);
+  std::function<void(Screen& screen)> perform;
 };
+
+std::function<void(Screen&)> pull(QPoint to, int milliseconds, bool byTouch) {
+  return [=](Screen& screen) { screen.drag({180, 420}, to, milliseconds, byTouch); };
+}
+std::function<void(Screen&)> keys(QList<Qt::Key> pressed) {
+  return [=](Screen& screen) {
+    for (const Qt::Key key : pressed) screen.key(key);
+  };
+}
 
 const Closing kWays[] = {
     {"the close element", [](Screen& screen) { screen.click("Close 4 €"); }},
@@ -29,25 +40,12 @@ const Closing kWays[] = {
      [](Screen& screen) {
        screen.clickAt({180, 150});
      }},
-    {"Escape", [](Screen& screen) { screen.key(Qt::Key_Escape); }},
-    {"the Back key", [](Screen& screen) { screen.key(Qt::Key_Back); }},
-    {"a flick of the mouse",
-     [](Screen& screen) {
-       screen.drag({180, 420}, {180, 500}, 60, false);
-     }},
-    {"a flick of a finger",
-     [](Screen& screen) {
-       screen.drag({180, 420}, {180, 500}, 60, true);
-     }},
-    {"a slow pull beyond its middle",
-     [](Screen& screen) {
-       screen.drag({180, 420}, {180, 590}, 900, false);
-     }},
-    {"the keyboard on the close element",
-     [](Screen& screen) {
-       screen.key(Qt::Key_Tab);
-       screen.key(Qt::Key_Return);
-     }},
+    {"Escape", keys({Qt::Key_Escape})},
+    {"the Back key", keys({Qt::Key_Back})},
+    {"the keyboard on the close element", keys({Qt::Key_Tab, Qt::Key_Return})},
+    {"a flick of the mouse", pull({180, 500}, 60, false)},
+    {"a flick of a finger", pull({180, 500}, 60, true)},
+    {"a slow pull beyond its middle", pull({180, 590}, 900, false)},
 };
 
 TYPED_TEST(Sheet, EveryWayClosesItAndGivesTheFocusBack) {

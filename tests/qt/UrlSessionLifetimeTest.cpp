@@ -14,7 +14,7 @@ namespace {
 
 bool wasCancelled(Fetch& fetch) {
   const auto error = fetch.wait().response.error;
-  return error && error->code == QNetworkReply::OperationCanceledError && fetch.completions() == 1;
+  return error && error->code == QNetworkReply::OperationCanceledError;
 }
 
 // The application's end needs a process of its own, which here exits with a request in flight.
@@ -24,11 +24,11 @@ TEST(ConcurrentUrlSessionDeathTest, EndsWithTheApplicationAndBeginsAnewWithTheNe
       {
         qt::QtURLTransport transport;
         LoopbackServer server;
-        server.serve("/still", {httpAnswer(200, "answer"), SIZE_MAX, false, "never"});
+        server.serve("/still", silence());
         Fetch inFlight(transport, server.base() + "/still");
         bool passed = waitUntil([&] { return !server.requests("/still").empty(); });
         delete QCoreApplication::instance();
-        passed = passed && inFlight.completions() == 1 && wasCancelled(inFlight);
+        passed = passed && inFlight.isDone() && wasCancelled(inFlight);
         Fetch without(transport, server.base() + "/x");
         passed = passed && wasCancelled(without);
 
@@ -38,7 +38,7 @@ TEST(ConcurrentUrlSessionDeathTest, EndsWithTheApplicationAndBeginsAnewWithTheNe
         nextServer.serve("/x", {httpAnswer(200, "answer")});
         Fetch again(transport, nextServer.base() + "/x");
         passed = passed && again.wait().response.body == "answer";
-        nextServer.serve("/still", {httpAnswer(200, "answer"), SIZE_MAX, false, "never"});
+        nextServer.serve("/still", silence());
         const Fetch atTheEnd(transport, nextServer.base() + "/still");
         passed = passed && waitUntil([&] { return !nextServer.requests("/still").empty(); });
         std::exit(passed ? 0 : 1);

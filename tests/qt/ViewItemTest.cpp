@@ -2,10 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include <QPalette>
-#include <QQmlComponent>
-#include <QQmlEngine>
 #include <QTest>
+#include <algorithm>
+#include <utility>
 
 #include "tests/qt/FeeRow.h"
 #include "tests/qt/QuickScreen.h"
@@ -15,8 +14,6 @@ namespace {
 
 using swiftui::Text;
 using swiftui::View;
-
-constexpr QRectF kPlace(20, 40, 300, 0);
 
 View paragraph() {
   return Text::verbatim("A sentence that needs two lines or more when the room is narrow");
@@ -60,22 +57,14 @@ TEST(ViewItem, ImplicitHeightFollowsTheWidthItIsGiven) {
 }
 
 TEST(ViewItem, StandsInPositionersAndLayouts) {
-  qmlRegisterType<qt::ViewItem>("Shop", 1, 0, "Row");
   const char* containers[] = {
       "Column { width: 150; Row { width: 150 } Row { width: 150 } }",
       "ColumnLayout { width: 150; Row { Layout.fillWidth: true } Row { Layout.fillWidth: true } }",
       "Item { width: 150; Row { id: a; width: 150 } Row { width: 150; anchors.top: a.bottom } }",
   };
   QuickScreen screen;
-  QQmlEngine engine;
   for (const char* container : containers) {
-    QQmlComponent component(&engine);
-    component.setData(
-        QByteArray("import QtQuick\nimport QtQuick.Layouts\nimport Shop\n") + container, {});
-    const std::unique_ptr<QObject> root(component.create());
-    auto* column = qobject_cast<QQuickItem*>(root.get());
-    ASSERT_TRUE(column) << qPrintable(component.errorString());
-    column->setParentItem(screen.window().contentItem());
+    const std::unique_ptr<QQuickItem> column(screen.addQml(container));
     const auto rows = column->findChildren<qt::ViewItem*>();
     ASSERT_EQ(rows.size(), 2);
     for (qt::ViewItem* row : rows) row->setView(paragraph());
@@ -120,14 +109,8 @@ TEST(ViewItem, PaintsOncePerChangeAndRestsOtherwise) {
 
 TEST(ViewItem, HasAPictureOnlyInAndNearTheViewport) {
   QuickScreen screen;
-  QQmlEngine engine;
-  QQmlComponent component(&engine);
-  component.setData(
-      "import QtQuick\nFlickable { width: 360; height: 300; clip: true; contentHeight: 4000 }", {});
-  std::unique_ptr<QObject> root(component.create());
-  auto* flickable = qobject_cast<QQuickItem*>(root.get());
-  ASSERT_TRUE(flickable);
-  flickable->setParentItem(screen.window().contentItem());
+  QQuickItem* flickable =
+      screen.addQml("Flickable { width: 360; height: 300; clip: true; contentHeight: 4000 }");
   auto* content = flickable->property("contentItem").value<QQuickItem*>();
   std::vector<CountingItem*> rows;
   for (int i = 0; i < 100; ++i) {
@@ -135,31 +118,24 @@ TEST(ViewItem, HasAPictureOnlyInAndNearTheViewport) {
     rows.back()->setPosition({20, 40.0 * i});
     rows.back()->setWidth(300);
   }
-  const auto pictured = [&] {
-    std::pair<int, int> range = {100, -1};
-    for (int i = 0; i < 100; ++i) {
-      if (!rows[static_cast<std::size_t>(i)]->hasPicture) continue;
-      range = {std::min(range.first, i), std::max(range.second, i)};
-    }
-    return range;
+  using Range = std::pair<std::ptrdiff_t, std::ptrdiff_t>;
+  const auto pictured = [&]() -> Range {
+    const auto hasPicture = [](const CountingItem* row) { return row->hasPicture; };
+    const auto first = std::find_if(rows.begin(), rows.end(), hasPicture);
+    const auto last = std::find_if(rows.rbegin(), rows.rend(), hasPicture);
+    return {first - rows.begin(), rows.rend() - last - 1};
   };
   screen.settle();
-  EXPECT_EQ(pictured(), std::make_pair(0, 11));
+  EXPECT_EQ(pictured(), Range(0, 11));
   flickable->setProperty("contentY", 2000);
   screen.settle();
-  EXPECT_EQ(pictured(), std::make_pair(46, 61));
+  EXPECT_EQ(pictured(), Range(46, 61));
 }
 
 TEST(ViewItem, AFingerThatScrollsTapsNothing) {
   QuickScreen screen;
-  QQmlEngine engine;
-  QQmlComponent component(&engine);
-  component.setData("import QtQuick\nFlickable { width: 360; height: 500; contentHeight: 2000 }",
-                    {});
-  std::unique_ptr<QObject> root(component.create());
-  auto* flickable = qobject_cast<QQuickItem*>(root.get());
-  ASSERT_TRUE(flickable);
-  flickable->setParentItem(screen.window().contentItem());
+  QQuickItem* flickable =
+      screen.addQml("Flickable { width: 360; height: 500; contentHeight: 2000 }");
   qt::ViewItem* row = screen.add(FeeRow("4 €"), {20, 300, 300, 150});
   row->setParentItem(flickable->property("contentItem").value<QQuickItem*>());
   screen.settle();

@@ -19,6 +19,7 @@ class Listener : public QWidget {
   bool event(QEvent* event) override {
     switch (event->type()) {
       case QEvent::MouseButtonPress:
+      case QEvent::MouseButtonRelease:
       case QEvent::MouseMove:
       case QEvent::Wheel:
       case QEvent::TouchBegin:

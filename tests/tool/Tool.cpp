@@ -13,6 +13,7 @@ Tool::Run Tool::start(const QString& program, const QStringList& words,
   }
   const QString tools = QFileInfo(QStringLiteral(QUORIX_TOOL)).path();
   environment.insert("PATH", tools + ':' + environment.value("PATH"));
+  environment.insert("FACE", FONTS "/TovaSansLatin-SemiBold.dataset/TovaSansLatin-SemiBold.ttf");
   QProcess process;
   process.setProcessEnvironment(environment);
   process.setWorkingDirectory(folder_.path());
@@ -30,12 +31,6 @@ Tool::Run Tool::run(const QStringList& words, const std::string& input) const {
 
 Tool::Run Tool::shell(const std::string& line) const {
   return start("sh", {"-c", QString::fromStdString(line)}, {});
-}
-
-std::string Tool::mint(const QStringList& words) const {
-  std::string token = run(QStringList{"mint"} + words).out;
-  if (token.ends_with('\n')) token.pop_back();
-  return token;
 }
 
 QString Tool::write(const QString& file, const QByteArray& bytes) const {

@@ -15,11 +15,8 @@ class Tool {
   };
 
   Run run(const QStringList& words, const std::string& input = {}) const;
-  /// Runs a shell's command line, with the tool on the path.
+  /// Runs a shell's command line, with the tool on the path and a host's font file as $FACE.
   Run shell(const std::string& line) const;
-
-  /// A token from the tool's own mint, without the line end.
-  std::string mint(const QStringList& words = {}) const;
 
   QString path(const QString& file) const { return folder_.filePath(file); }
   QString write(const QString& file, const QByteArray& bytes) const;

@@ -59,7 +59,8 @@ std::variant<Arguments, Failure> Arguments::parse(std::span<const std::string> w
     }
     result.values_[name] = std::move(value);
   }
-  if (wantsOperand) return Failure::usage(std::string(operand) + " is missing");
+  if (wantsOperand && !operand.starts_with('['))
+    return Failure::usage(std::string(operand) + " is missing");
   return result;
 }
 

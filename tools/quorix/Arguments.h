@@ -18,7 +18,8 @@ class Arguments {
  public:
   /// Sorts `words`. Values follow their option as the next word or behind "="; a next word that
   /// begins with "--" is an option, not a value, and everything behind a lone "--" is an operand.
-  /// One operand is wanted where `operand` names it, and none where that is empty.
+  /// One operand is wanted where `operand` names it, may be given where the name stands in
+  /// brackets, and none where that is empty.
   static std::variant<Arguments, Failure> parse(std::span<const std::string> words,
                                                 std::span<const Option> options,
                                                 std::string_view operand);
@@ -29,7 +30,7 @@ class Arguments {
   bool has(std::string_view option) const { return values_.contains(option); }
   /// The option's value, empty for a switch; nothing when it was not given.
   std::optional<std::string> value(std::string_view option) const;
-  /// Empty for a command that takes none.
+  /// Empty where none was given.
   const std::string& operand() const { return operand_; }
 
  private:

@@ -28,9 +28,9 @@ std::string indented(std::string_view lines) {
 }  // namespace
 
 std::string helpText(std::span<const Command* const> commands) {
-  constexpr std::size_t commandColumn = 16;
+  constexpr std::size_t commandColumn = 17;
   std::string text =
-      "quorix shows score widgets without an app: what a shopper sees, hears and is charged.\n"
+      "quorix shows the widgets without an app: what a shopper sees, hears and is charged.\n"
       "It works without a display and without a network.\n\n"
       "Usage: quorix COMMAND [options]\n\nCommands:\n";
   for (const Command* command : commands) {

@@ -8,10 +8,10 @@ namespace {
 
 /// The whole of `text` as a number, or nothing.
 template <class Number>
-std::optional<Number> parse(std::string_view text) {
+std::optional<Number> parse(std::string_view text, auto... base) {
   Number number{};
   const char* const end = text.data() + text.size();
-  const auto [rest, error] = std::from_chars(text.data(), end, number);
+  const auto [rest, error] = std::from_chars(text.data(), end, number, base...);
   if (error != std::errc() || rest != end) return std::nullopt;
   return number;
 }
@@ -75,6 +75,19 @@ std::optional<std::size_t> OptionReader::choice(std::string_view option,
     known += (index++ == 0 ? "" : " or ") + std::string(name);
   }
   fail(wants(option, known, *given));
+  return std::nullopt;
+}
+
+std::optional<graphics::RGBA> OptionReader::color(std::string_view option) {
+  const auto given = arguments_.value(option);
+  if (!given) return std::nullopt;
+  const auto digits =
+      parse<std::uint32_t>(std::string_view(*given).substr(given->empty() ? 0 : 1), 16);
+  if (digits && given->size() == 7 && given->front() == '#') {
+    const auto byte = [&](int shift) { return static_cast<std::uint8_t>(*digits >> shift); };
+    return graphics::RGBA{byte(16), byte(8), byte(0), 255};
+  }
+  fail(wants(option, "a colour such as #FAF7F0", *given));
   return std::nullopt;
 }
 

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/graphics/RGBA.h"
 #include "tools/quorix/Arguments.h"
 
 namespace quorix::tool {
@@ -25,7 +26,11 @@ class OptionReader {
 
   explicit OptionReader(const Arguments& arguments) : arguments_(arguments) {}
 
+  bool has(std::string_view option) const { return arguments_.has(option); }
   std::string text(std::string_view option, std::string_view fallback) const;
+  std::optional<std::string> optionalText(std::string_view option) const {
+    return arguments_.value(option);
+  }
   std::string required(std::string_view option);
   double number(std::string_view option, double fallback, Range range);
   std::optional<double> optionalNumber(std::string_view option, Range range);
@@ -34,6 +39,9 @@ class OptionReader {
   /// Which of `names` was given; nothing when the option was not.
   std::optional<std::size_t> choice(std::string_view option,
                                     std::initializer_list<std::string_view> names);
+
+  /// "#RRGGBB", as designers write it; opaque.
+  std::optional<graphics::RGBA> color(std::string_view option);
 
   void fail(std::string message);
   const std::optional<Failure>& failure() const { return failure_; }

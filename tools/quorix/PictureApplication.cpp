@@ -1,8 +1,10 @@
 #include "tools/quorix/PictureApplication.h"
 
+#include <QEventLoop>
 #include <cstdio>
 #include <cstdlib>
 
+#include "platform/foundation/MainQueue.h"
 #include "qt/Engine.h"
 #include "tools/quorix/Failure.h"
 
@@ -28,6 +30,12 @@ int& prepared(int& argc) {
 
 PictureApplication::PictureApplication() : application_(prepared(argc_), argv_) {
   qt::installEngine();
+}
+
+void PictureApplication::takeTurn() const {
+  QEventLoop loop;
+  foundation::MainQueue::async([&] { loop.quit(); });
+  loop.exec();
 }
 
 }  // namespace quorix::tool

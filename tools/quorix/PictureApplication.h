@@ -10,6 +10,9 @@ class PictureApplication {
  public:
   PictureApplication();
 
+  /// Runs what waits on the main queue.
+  void takeTurn() const;
+
  private:
   int argc_ = 1;
   char name_[7] = "quorix";

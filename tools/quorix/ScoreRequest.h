@@ -5,26 +5,16 @@
 #include <string>
 #include <variant>
 
-#include "qt/PictureOptions.h"
 #include "tools/quorix/Arguments.h"
+#include "tools/quorix/WidgetRequest.h"
 
 namespace quorix::tool {
 
 /// What "quorix score" was asked for.
-struct ScoreRequest {
-  std::string clientId;
-  std::string locale;
-  std::string token;
-  std::optional<std::string> regularFont;   ///< a name or a font file
-  std::optional<std::string> semiBoldFont;  ///< likewise
-  std::optional<std::string> translations;  ///< a file
-  qt::PictureOptions picture;
-
-  std::optional<std::string> out;  ///< a file
-  bool tree = false;
-  bool frames = false;
-  bool accessibility = false;
-  bool json = false;
+struct ScoreRequest : WidgetRequest {
+  std::string clientId = {};
+  std::string token = {};
+  std::optional<std::string> translations = {};  ///< a file
 
   static const std::span<const Option> options;
 

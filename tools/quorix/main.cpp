@@ -5,9 +5,11 @@
 
 #include "tools/quorix/DecodeCommand.h"
 #include "tools/quorix/Help.h"
+#include "tools/quorix/InfoCommand.h"
 #include "tools/quorix/MintCommand.h"
 #include "tools/quorix/OverlayUrlCommand.h"
 #include "tools/quorix/ScoreCommand.h"
+#include "tools/quorix/StringsCheckCommand.h"
 
 namespace {
 
@@ -20,7 +22,9 @@ constexpr const Command* commands[] = {
     &quorix::tool::mintCommand,
     &quorix::tool::decodeCommand,
     &quorix::tool::scoreCommand,
+    &quorix::tool::infoCommand,
     &quorix::tool::overlayUrlCommand,
+    &quorix::tool::stringsCheckCommand,
 };
 
 Outcome run(const Command& command, std::span<const std::string> words) {
@@ -39,21 +43,37 @@ Failure placed(Failure failure, const std::string& command) {
   return failure;
 }
 
+/// The command that `words` begin with, or null.
+const Command* commandOf(std::span<const std::string> words) {
+  const std::string& first = words[0];
+  const std::string both = words.size() > 1 ? first + ' ' + words[1] : first;
+  const auto found = std::ranges::find_if(commands, [&](const Command* command) {
+    return command->name == first || command->name == both;
+  });
+  return found == std::end(commands) ? nullptr : *found;
+}
+
 Outcome run(std::span<const std::string> words) {
   if (words.empty()) return placed(Failure::usage("no command given"), {});
   const std::string& first = words.front();
   if (first == "--version") return "quorix " QUORIX_VERSION "\n";
   if (first == "--help" || first == "-h") return quorix::tool::helpText(commands);
-  const auto command = std::ranges::find(commands, first, &Command::name);
-  if (command == std::end(commands)) {
-    return placed(Failure::usage("unknown command \"" + first + '"'), {});
+  const Command* const command = commandOf(words);
+  if (command == nullptr) return placed(Failure::usage("unknown command \"" + first + '"'), {});
+  Outcome outcome = run(*command, words.subspan(command->name == first ? 1 : 2));
+  if (auto* failure = std::get_if<Failure>(&outcome)) {
+    *failure = placed(*failure, std::string(command->name));
   }
-  Outcome outcome = run(**command, words.subspan(1));
-  if (auto* failure = std::get_if<Failure>(&outcome)) *failure = placed(*failure, first);
   return outcome;
 }
 
+bool print(const std::string& output) {
+  const bool written = std::fwrite(output.data(), 1, output.size(), stdout) == output.size();
+  return std::fflush(stdout) == 0 && written;
+}
+
 int report(const Failure& failure) {
+  print(failure.output);
   std::string line = "quorix: " + failure.message;
   // Whatever a file or an argument put into the message, it stays one line.
   std::ranges::replace_if(
@@ -67,8 +87,6 @@ int report(const Failure& failure) {
 int main(int argc, char** argv) {
   const Outcome outcome = run(std::vector<std::string>(argv + 1, argv + argc));
   if (const auto* failure = std::get_if<Failure>(&outcome)) return report(*failure);
-  const auto& output = std::get<std::string>(outcome);
-  const bool written = std::fwrite(output.data(), 1, output.size(), stdout) == output.size();
-  if (std::fflush(stdout) == 0 && written) return 0;
+  if (print(std::get<std::string>(outcome))) return 0;
   return report(Failure::refused("can't write to the standard output"));
 }

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <memory>
+#include <string_view>
+
+#include "QuorixWidgets/info/InfoWidgetStyle.h"
+#include "platform/swiftui/View.h"
+#include "platform/uikit/UIView.h"
+
+namespace quorix {
+
+/// Builds info widgets: a sentence on how returns count and a link to a page that says more. Main
+/// thread.
+///
+/// `locale` is a language code ("en", "nb"); one that the library has no texts for reads English.
+/// Each call makes a fresh widget and nothing is kept.
+struct InfoWidgetBuilder {
+  InfoWidgetBuilder() = delete;
+
+  /// The declarative widget. A tap anywhere on it opens the page in a sheet.
+  ///
+  ///     auto view = InfoWidgetBuilder::buildSwiftUIInfoWidgetView(
+  ///         "en", {std::nullopt, std::nullopt, std::nullopt, true});
+  ///     item->setView(view);  // a quorix::qt::ViewItem, or any other surface
+  static swiftui::View buildSwiftUIInfoWidgetView(std::string_view locale,
+                                                  const InfoWidgetStyle& style);
+
+  /// The imperative widget. A tap on its link opens the page over the app's top-most screen. Of
+  /// `style` only the faces count: its background is the library's own and it has no border. Never
+  /// null.
+  ///
+  ///     auto widget = InfoWidgetBuilder::buildUIKitInfoWidgetView(
+  ///         "en", {"OpenSans-Regular", "OpenSans-SemiBold", std::nullopt, false});
+  ///     parent->addSubview(widget);                // in a view of the imperative toolkit, or
+  ///     item->setView(swiftui::hosting(widget));  // on any surface
+  static std::shared_ptr<uikit::UIView> buildUIKitInfoWidgetView(std::string_view locale,
+                                                                 const InfoWidgetStyle& style);
+};
+
+}  // namespace quorix

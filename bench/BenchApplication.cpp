@@ -1,0 +1,39 @@
+#include "bench/BenchApplication.h"
+
+#include <QEventLoop>
+#include <QQuickWindow>
+#include <QTimer>
+#include <cstdlib>
+
+#include "bench/Shopper.h"
+#include "platform/foundation/URLSession.h"
+#include "qt/Engine.h"
+#include "qt/Picture.h"
+
+namespace quorix::bench {
+namespace {
+
+/// Before the application object is made.
+int& prepared(int& argc) {
+  QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+  return argc;
+}
+
+}  // namespace
+
+BenchApplication::BenchApplication(int& argc, char** argv) : application_(prepared(argc), argv) {
+  qt::installEngine();
+  noNews_ = foundation::URLSession::shared().registerProtocol([](const foundation::URL&) {
+    return foundation::URLResponse{{}, {}, 404};
+  });
+  // As the first of our rows would.
+  if (qt::picture(Shopper(0).ours()).isNull()) std::abort();
+}
+
+void BenchApplication::settle() {
+  QEventLoop loop;
+  QTimer::singleShot(300, &loop, &QEventLoop::quit);
+  loop.exec();
+}
+
+}  // namespace quorix::bench

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QColor>
+
+namespace quorix::bench {
+
+// The colours of our widgets in the light appearance, for the peers.
+
+QColor inkColor();
+QColor fadedColor();
+QColor groundColor();
+
+}  // namespace quorix::bench

@@ -1,0 +1,21 @@
+#include "examples/shop/TextFace.h"
+
+#include "QuorixWidgets/localization/TovaFont.h"
+
+namespace quorix::examples {
+
+const std::vector<TextFace>& TextFace::all() {
+  static const auto regular = QString::fromStdString(TovaFont::regular().name());
+  static const auto semiBold = QStringLiteral("TovaSansLatin-SemiBold");
+  static const std::vector<TextFace> faces = {
+      {QStringLiteral("Widget's own face"), {}, {}, QStringLiteral("large")},
+      {QStringLiteral("Shop's face"), regular, semiBold, QStringLiteral("large")},
+      {QStringLiteral("Shop's face, larger"), regular, semiBold,
+       QStringLiteral("extraExtraExtraLarge")},
+      {QStringLiteral("Shop's face, largest"), regular, semiBold,
+       QStringLiteral("accessibilityLarge")},
+  };
+  return faces;
+}
+
+}  // namespace quorix::examples

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+#include <vector>
+
+namespace quorix::examples {
+
+/// What the widgets' texts are set in.
+struct TextFace {
+  QString name;      ///< for the demo bar
+  QString regular;   ///< a face of the shop's own, empty for the widgets'
+  QString semiBold;  ///< likewise
+  QString textSize;  ///< a content size category's name
+
+  static const std::vector<TextFace>& all();
+};
+
+}  // namespace quorix::examples

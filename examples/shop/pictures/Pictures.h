@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QImage>
+#include <QString>
+
+namespace quorix::examples {
+
+/// The demo's scenes as PNG files: widgets and sheets on their own, and the shop in both its faces
+/// with them in place. Main thread; needs the application object, the engine and the services.
+class Pictures {
+ public:
+  explicit Pictures(QString folder) : folder_(std::move(folder)) {}
+
+  /// Writes them all, makes the folder where it is missing, and prints each file's name. False
+  /// after a line on the standard error when one can't be written.
+  bool write() const;
+
+ private:
+  bool save(const QImage& image, const char* name) const;
+
+  QString folder_;
+};
+
+}  // namespace quorix::examples

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QQmlApplicationEngine>
+#include <QQuickWindow>
+
+namespace quorix::examples {
+
+class Shop;
+
+/// The shop's Qt Quick face. Main thread; needs the application object.
+class QuickWindow {
+ public:
+  /// Shows `shop`, which lives longer.
+  explicit QuickWindow(Shop& shop);
+
+  QQuickWindow& window() const { return *window_; }
+
+ private:
+  QQmlApplicationEngine engine_;
+  QQuickWindow* window_ = nullptr;
+};
+
+}  // namespace quorix::examples

@@ -1,0 +1,49 @@
+import QtQuick
+import Quorix.Shop
+
+// The score row between hairlines, and the room around them. With nothing to show it takes no room
+// at all.
+Item {
+    id: section
+
+    readonly property bool shown: row.implicitHeight > 0
+    readonly property int above: 18    // the upper line
+    readonly property int margin: 16   // between each line and the row
+
+    implicitHeight: shown ? above + row.implicitHeight + 2 * margin : 0
+
+    Rectangle {
+        visible: section.shown
+        y: section.above
+        width: parent.width
+        height: 1
+        color: Shop.colors.hairline
+    }
+
+    ScoreRow {
+        id: row
+        anchors {
+            left: parent.left
+            right: parent.right
+            bottom: parent.bottom
+            bottomMargin: section.margin
+        }
+        clientId: Shop.clientId
+        token: Shop.token
+        locale: Shop.locale
+        regularFont: Shop.regularFont
+        semiBoldFont: Shop.semiBoldFont
+        textSize: Shop.textSize
+        dark: Shop.dark
+        rightToLeft: Shop.rightToLeft
+        moving: Shop.moving
+    }
+
+    Rectangle {
+        visible: section.shown
+        anchors.bottom: parent.bottom
+        width: parent.width
+        height: 1
+        color: Shop.colors.hairline
+    }
+}

@@ -1,0 +1,21 @@
+import QtQuick
+import QtQuick.Controls.Basic
+
+// A page of the shop, which scrolls when it is longer than the window.
+Flickable {
+    id: page
+
+    default property alias content: column.data
+
+    contentHeight: column.height
+    boundsBehavior: Flickable.StopAtBounds
+    clip: true
+
+    ScrollBar.vertical: ScrollBar { policy: ScrollBar.AsNeeded }
+
+    Column {
+        id: column
+        width: page.width
+        bottomPadding: 24
+    }
+}

@@ -1,0 +1,12 @@
+import QtQuick
+import Quorix.Shop
+
+// A text of the shop's, at the leading edge and in as many lines as it needs.
+Text {
+    property bool quiet: false
+
+    color: quiet ? Shop.colors.quiet : Shop.colors.ink
+    font.pixelSize: 14
+    horizontalAlignment: Text.AlignLeft
+    wrapMode: Text.WordWrap
+}

@@ -1,0 +1,33 @@
+#include "examples/shop/widgets/Art.h"
+
+#include <QPainter>
+
+namespace quorix::examples {
+
+Art::Art(const QString& name, int margin, int radius, QWidget* parent)
+    : QWidget(parent),
+      drawing_(QStringLiteral(":/shop/art/%1.svg").arg(name)),
+      margin_(margin),
+      radius_(radius) {
+  drawing_.setAspectRatioMode(Qt::KeepAspectRatio);
+}
+
+void Art::followWidth(double share, int most) {
+  share_ = share;
+  most_ = most;
+  QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+  policy.setHeightForWidth(true);
+  setSizePolicy(policy);
+}
+
+void Art::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(palette().alternateBase());
+  painter.drawRoundedRect(rect(), radius_, radius_);
+  painter.setBrush(Qt::NoBrush);  // which a drawing starts from
+  drawing_.render(&painter, QRectF(rect()).adjusted(margin_, margin_, -margin_, -margin_));
+}
+
+}  // namespace quorix::examples

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "examples/shop/widgets/ScrollPage.h"
+
+namespace quorix::examples {
+
+class Label;
+class Shop;
+
+/// What is in the bag, what it comes to, and how it would go back.
+class BagPage : public ScrollPage {
+  Q_OBJECT
+
+ public:
+  explicit BagPage(Shop& shop, QWidget* parent = nullptr);
+
+ private:
+  void follow();
+  void followBag();
+
+  Shop& shop_;
+  Label* title_;
+  Label* empty_;
+  QWidget* lines_;
+  QWidget* sum_;
+  Label* total_;
+  Label* amount_;
+  Label* returns_;
+  Label* returnsText_;
+};
+
+}  // namespace quorix::examples

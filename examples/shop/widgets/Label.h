@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QLabel>
+
+namespace quorix::examples {
+
+/// A text of the shop's, at the leading edge and in as many lines as it needs.
+class Label : public QLabel {
+  Q_OBJECT
+
+ public:
+  enum class Look {
+    title,    ///< of a page
+    price,    ///< of the product
+    heading,  ///< over a section
+    body,
+    strong,
+    quiet,
+  };
+
+  explicit Label(Look look, QWidget* parent = nullptr);
+
+ protected:
+  void changeEvent(QEvent* event) override;
+
+ private:
+  void align();
+};
+
+}  // namespace quorix::examples

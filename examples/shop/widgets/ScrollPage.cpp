@@ -1,0 +1,40 @@
+#include "examples/shop/widgets/ScrollPage.h"
+
+#include <QHBoxLayout>
+
+#include "examples/shop/widgets/OverlayScrollBar.h"
+
+namespace quorix::examples {
+namespace {
+
+constexpr int readable = 560;  // pixels
+constexpr int margin = 20;
+
+}  // namespace
+
+ScrollPage::ScrollPage(QWidget* parent) : QScrollArea(parent) {
+  setFrameShape(QFrame::NoFrame);
+  setWidgetResizable(true);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  new OverlayScrollBar(*this);
+  auto* body = new QWidget;
+  auto* middle = new QWidget(body);
+  middle->setMaximumWidth(readable + 2 * margin);
+  column_ = new QVBoxLayout(middle);
+  column_->setContentsMargins(margin, 18, margin, 24);
+  column_->setSpacing(0);
+  auto* centred = new QHBoxLayout;
+  centred->addStretch(1);
+  centred->addWidget(middle, 1000);
+  centred->addStretch(1);
+  page_ = new QVBoxLayout(body);
+  page_->setContentsMargins(0, 0, 0, 0);
+  page_->setSpacing(0);
+  page_->addLayout(centred);
+  page_->addStretch(1);
+  setWidget(body);
+}
+
+void ScrollPage::setBanner(QWidget* widget) { page_->insertWidget(0, widget); }
+
+}  // namespace quorix::examples

@@ -1,0 +1,50 @@
+#include <cmath>
+#include <cstdint>
+
+#include "fuzz/Expect.h"
+#include "platform/uikit/Nib.h"
+#include "platform/uikit/ViewLayout.h"
+
+using namespace quorix;
+
+namespace {
+
+/// Half a point for each byte, on one line.
+struct PlainText final : text::TextEngine {
+  text::TextMetrics measure(const text::AttributedText& text, double) override {
+    double width = 0;
+    for (const text::Run& run : text.runs) width += 0.5 * static_cast<double>(run.text.size());
+    return {{width, 10}, 8, 8, 1};
+  }
+};
+
+void expectFinite(const uikit::UIView& view) {
+  const layout::Rect& frame = view.frame();
+  expect(std::isfinite(frame.right()) && std::isfinite(frame.bottom()), "every frame is somewhere");
+  for (const auto& subview : view.subviews()) expectFinite(*subview);
+}
+
+}  // namespace
+
+/// Whatever is read as an interface file is refused in words, or can be laid out.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
+  std::shared_ptr<uikit::UIView> content;
+  std::weak_ptr<uikit::UILabel> title, link;
+  const auto read = uikit::Nib::parse(
+      {reinterpret_cast<const char*>(bytes), size}, "Fuzz", "UIInfoWidget",
+      {{{"contentView", &content}}, {{"titleLabel", &title}, {"linkLabel", &link}}});
+  if (const auto* error = std::get_if<foundation::Error>(&read)) {
+    expect(!error->description.empty(), "a refusal has its reason");
+    expect(!content && title.expired() && link.expired(), "a refused file connects nothing");
+    return 0;
+  }
+  PlainText text;
+  const uikit::LayoutContext context{text, {}};
+  const uikit::ViewLayout layout(context);
+  for (const auto& view : std::get<uikit::Nib::Views>(read)) {
+    const layout::Size size320 = layout.sizeThatFits(*view, {320, std::nullopt});
+    layout.layOut(*view, {{}, size320});
+    expectFinite(*view);
+  }
+  return 0;
+}

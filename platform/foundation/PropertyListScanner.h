@@ -1,0 +1,49 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/foundation/Error.h"
+
+namespace quorix::foundation {
+
+/// Reads the words of a property list in its old text form, one after the other. Blanks and
+/// comments, `// ...` and `/* ... */`, may stand before each; a comment without an end goes to the
+/// end of the text. Remembers the first failure and keeps a view of the text.
+class PropertyListScanner {
+ public:
+  explicit PropertyListScanner(std::string_view text) : text_(text) {}
+
+  bool atEnd();
+  bool isNext(char mark);
+  /// Moves past `mark` if it is next.
+  bool take(char mark);
+
+  /// Where the next word begins, in bytes.
+  std::size_t offset();
+
+  /// The next word, which must be a text: in quotes of either kind, or of letters, digits and
+  /// "_$/:.-" without. Fails otherwise.
+  std::optional<std::string> readText();
+  /// Moves past bytes in hexadecimal, `<0f 1a>`, or fails.
+  bool skipData();
+
+  /// Always false, for a caller to return.
+  bool fail(const std::string& what);
+  bool failAt(std::size_t offset, const std::string& what);
+  const std::optional<Error>& failure() const { return failure_; }
+
+ private:
+  void skipBlanks();
+  bool skipComment();
+  std::size_t blankLength() const;
+  std::optional<std::string> readQuoted(char quote);
+
+  std::string_view text_;
+  std::size_t at_ = 0;
+  std::optional<Error> failure_;
+};
+
+}  // namespace quorix::foundation

@@ -1,0 +1,19 @@
+#include "platform/hosting/ControllerPresentation.h"
+
+#include "platform/swiftui/UIViewControllerRepresentable.h"
+
+namespace quorix::hosting {
+
+swiftui::Presentation controllerPresentation(
+    const std::shared_ptr<uikit::UIViewController>& controller) {
+  auto isPresented = std::make_shared<swiftui::StateBox<bool>>();
+  isPresented->value = true;
+  isPresented->onChange = [presented = std::weak_ptr(controller)] {
+    const auto closed = presented.lock();
+    const auto presenter = closed ? closed->presentingViewController() : nullptr;
+    if (presenter) presenter->dismiss(true);
+  };
+  return {swiftui::Binding<bool>(std::move(isPresented)), swiftui::hosting(controller)};
+}
+
+}  // namespace quorix::hosting

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <memory>
+
+#include "platform/swiftui/Presentation.h"
+#include "platform/uikit/UIViewController.h"
+
+namespace quorix::hosting {
+
+/// The sheet that shows the presented `controller`: closing it dismisses the controller. Main
+/// thread.
+swiftui::Presentation controllerPresentation(
+    const std::shared_ptr<uikit::UIViewController>& controller);
+
+}  // namespace quorix::hosting

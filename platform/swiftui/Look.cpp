@@ -1,0 +1,66 @@
+#include "platform/swiftui/Look.h"
+
+#include <algorithm>
+#include <functional>
+#include <string>
+#include <utility>
+#include <variant>
+
+#include "platform/foundation/TextCasing.h"
+
+namespace quorix::swiftui {
+namespace {
+
+constexpr graphics::RGBA clear = {0, 0, 0, 0};
+
+text::ResolvedFont resolvedFont(const Look& look, const Environment& environment) {
+  static const Font systemFont;
+  const Font& font = look.font ? *look.font : systemFont;
+  const double scaling = font.scales() ? scaleFactor(font.textStyle(), environment.textSize) : 1;
+  return {font.name(), font.size() * scaling, look.weight.value_or(font.weight())};
+}
+
+std::string cased(std::string words, std::optional<TextCase> textCase,
+                  const std::string& language) {
+  if (!textCase) return words;
+  return textCase == TextCase::uppercase ? foundation::uppercased(words, language)
+                                         : foundation::lowercased(words, language);
+}
+
+/// Appends the runs of `text` inside `look`. A text's own looks go on from the last one written to
+/// the first, which so comes to lie on top.
+void appendRuns(const Text& text, Look look, const Environment& environment,
+                std::vector<text::Run>& runs) {
+  for (auto own = text.modifiers().rbegin(); own != text.modifiers().rend(); ++own) {
+    std::visit([&](const auto& modifier) { look.apply(modifier); }, *own);
+  }
+  for (const Text& part : text.parts()) appendRuns(part, look, environment, runs);
+  if (!text.parts().empty()) return;
+  runs.push_back({cased(text.resolved(), look.textCase, environment.language),
+                  resolvedFont(look, environment), look.drawnColor(environment), look.underline,
+                  look.strikethrough});
+}
+
+}  // namespace
+
+graphics::RGBA Look::drawnColor(const Environment& environment) const {
+  if (color) return color->resolve(environment.appearance).value_or(clear);
+  const bool dark = environment.appearance == graphics::Appearance::dark;
+  return dark ? graphics::RGBA{255, 255, 255, 255} : graphics::RGBA{0, 0, 0, 255};
+}
+
+text::AttributedText Look::attributed(const Text& text, const Environment& environment) const {
+  text::AttributedText result;
+  result.direction = environment.direction;
+  appendRuns(text, *this, environment, result.runs);
+  // A part that says nothing must not lend the line its height either; all alike, one stays.
+  const auto says = [](const text::Run& run) { return !run.text.empty(); };
+  if (std::any_of(result.runs.begin(), result.runs.end(), says)) {
+    std::erase_if(result.runs, std::not_fn(says));
+  } else {
+    result.runs.resize(1);
+  }
+  return result;
+}
+
+}  // namespace quorix::swiftui

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <concepts>
+#include <memory>
+#include <string_view>
+
+#include "platform/swiftui/Node.h"
+#include "platform/uikit/UIViewContent.h"
+
+namespace quorix::swiftui {
+
+/// A value that makes a view of the imperative toolkit for one place in a tree. With
+/// `updateUIView(view)` it also hands later values on: that runs at each evaluation.
+///
+///     struct Gauge {
+///       static constexpr std::string_view typeName = "Gauge";
+///       std::shared_ptr<GaugeView> makeUIView() const;
+///       void updateUIView(GaugeView& view) const;
+///     };
+template <class R>
+concept UIViewRepresentable = requires(const R& value) {
+  { R::typeName } -> std::convertible_to<std::string_view>;
+  { value.makeUIView() } -> std::convertible_to<std::shared_ptr<uikit::UIView>>;
+};
+
+/// The view that `value` makes, once for each place in a tree; it is let go when it leaves the
+/// tree.
+template <UIViewRepresentable R>
+View represent(R value) {
+  nodes::Represented node{
+      R::typeName,
+      [value] { return std::make_shared<uikit::UIViewContent>(value.makeUIView()); },
+      {}};
+  if constexpr (requires { value.updateUIView(*value.makeUIView()); }) {
+    using Made = typename decltype(value.makeUIView())::element_type;
+    node.update = [value](render::HostedContent& hosted) {
+      auto& content = static_cast<uikit::UIViewContent&>(hosted);
+      content.updateQuietly([&] { value.updateUIView(static_cast<Made&>(*content.view())); });
+    };
+  }
+  return makeView(std::move(node));
+}
+
+/// Shows `view` itself, so that every surface that shows a declarative view can show an imperative
+/// one. In one place at a time. A null view shows nothing.
+///
+///     item->setView(swiftui::hosting(InfoWidgetBuilder::buildUIKitInfoWidgetView("en", style)));
+View hosting(std::shared_ptr<uikit::UIView> view);
+
+}  // namespace quorix::swiftui

@@ -1,0 +1,177 @@
+#include "platform/uikit/AxisLayout.h"
+
+#include <algorithm>
+
+namespace quorix::uikit {
+namespace {
+
+using Edge = AxisRule::Edge;
+using Length = std::optional<double>;
+
+struct Line {
+  Length start;
+  Length end;
+  Length length;
+  bool hollow = false;  ///< its length is 0 because nothing says otherwise
+
+  Length& at(Edge edge) { return edge == Edge::start ? start : edge == Edge::end ? end : length; }
+  bool isComplete() const { return start && end && length; }
+  bool hasEdge() const { return start || end; }
+  /// Two of the three say the third.
+  void complete() {
+    if (start && end && !length) length = *end - *start;
+    if (start && length && !end) end = *start + *length;
+    if (end && length && !start) start = *end - *length;
+  }
+};
+
+class Solver {
+ public:
+  Solver(const std::vector<AxisItem>& items, const std::vector<AxisRule>& rules, Length extent)
+      : items_(items), rules_(rules) {
+    lines_.push_back({0.0, extent, extent});
+    for (const AxisItem& item : items) {
+      lines_.push_back({item.start, {}, item.length});
+      lines_.back().complete();
+    }
+  }
+
+  void solve() {
+    do {
+      while (followRules()) {
+      }
+    } while (assumeNext());
+  }
+
+  const std::vector<Line>& lines() const { return lines_; }
+
+ private:
+  Line& line(int index) { return lines_[static_cast<std::size_t>(index)]; }
+
+  /// Sets what one more rule says. False when none says anything new.
+  bool followRules() {
+    bool found = false;
+    for (const AxisRule& rule : rules_) {
+      if (rule.relation != LayoutRelation::equal) continue;
+      if (rule.second == AxisRule::nobody) {
+        found |= tell(rule.first, rule.firstEdge, rule.constant);
+        continue;
+      }
+      const Length second = line(rule.second).at(rule.secondEdge);
+      if (second) found |= tell(rule.first, rule.firstEdge, *second + rule.constant);
+      const Length first = line(rule.first).at(rule.firstEdge);
+      if (first) found |= tell(rule.second, rule.secondEdge, *first - rule.constant);
+    }
+    return found;
+  }
+
+  bool tell(int index, Edge edge, double value) {
+    Length& known = line(index).at(edge);
+    if (index == 0 || known) return false;
+    known = value;
+    line(index).complete();
+    return true;
+  }
+
+  /// Where the rules lead no further, assumes one thing. False when nothing is open.
+  bool assumeNext() {
+    const auto assume = [this](auto applies, auto apply) {
+      for (std::size_t i = 1; i < lines_.size(); ++i) {
+        if (lines_[i].isComplete() || !applies(lines_[i], items_[i - 1])) continue;
+        apply(lines_[i], static_cast<int>(i));
+        lines_[i].complete();
+        return true;
+      }
+      return false;
+    };
+    return assume([](const Line& open,
+                     const AxisItem& item) { return open.hasEdge() && item.natural.has_value(); },
+                  [this](Line& open, int index) {
+                    open.length =
+                        limited(*items_[static_cast<std::size_t>(index - 1)].natural, index);
+                  }) ||
+           assume([](const Line& open, const AxisItem&) { return open.hasEdge(); },
+                  [](Line& open, int) { open.length = 0, open.hollow = true; }) ||
+           assume([](const Line&, const AxisItem&) { return true; },
+                  [](Line& open, int) { open.start = 0; });
+  }
+
+  /// `natural` within what the inequalities of item `index` allow.
+  double limited(double natural, int index) {
+    for (const AxisRule& rule : rules_) {
+      if (rule.relation == LayoutRelation::equal) continue;
+      const bool isFirst = rule.first == index;
+      if (!isFirst && rule.second != index) continue;
+      const bool atMost = (rule.relation == LayoutRelation::lessThanOrEqual) == isFirst;
+      const int other = isFirst ? rule.second : rule.first;
+      Length bound = 0.0;
+      if (other != AxisRule::nobody)
+        bound = line(other).at(isFirst ? rule.secondEdge : rule.firstEdge);
+      if (!bound) continue;
+      *bound += isFirst ? rule.constant : -rule.constant;
+      natural =
+          bounded(natural, line(index), isFirst ? rule.firstEdge : rule.secondEdge, atMost, *bound);
+    }
+    return std::max(natural, 0.0);
+  }
+
+  static double bounded(double natural, const Line& open, Edge edge, bool atMost, double bound) {
+    double limit = bound;
+    if (edge == Edge::end && open.start) {
+      limit = bound - *open.start;
+    } else if (edge == Edge::start && open.end) {
+      limit = *open.end - bound;
+      atMost = !atMost;
+    } else if (edge != Edge::length) {
+      return natural;
+    }
+    return atMost ? std::min(natural, limit) : std::max(natural, limit);
+  }
+
+  const std::vector<AxisItem>& items_;
+  const std::vector<AxisRule>& rules_;
+  std::vector<Line> lines_;
+};
+
+/// How far the container has to reach for `rule`; nothing when it asks for nothing.
+Length reach(const AxisRule& rule, std::vector<Line> lines) {
+  const bool isFirst = rule.first == 0;
+  const Edge edge = isFirst ? rule.firstEdge : rule.secondEdge;
+  if ((!isFirst && rule.second != 0) || edge == Edge::start) return std::nullopt;
+  const LayoutRelation shrinks =
+      isFirst ? LayoutRelation::lessThanOrEqual : LayoutRelation::greaterThanOrEqual;
+  if (rule.relation == shrinks) return std::nullopt;
+  if (rule.second == AxisRule::nobody) return rule.constant;
+  Line& item = lines[static_cast<std::size_t>(isFirst ? rule.second : rule.first)];
+  const Length at = item.at(isFirst ? rule.secondEdge : rule.firstEdge);
+  if (item.hollow || !at) return std::nullopt;
+  return *at + (isFirst ? rule.constant : -rule.constant);
+}
+
+}  // namespace
+
+std::vector<AxisSpan> placeAlong(const std::vector<AxisItem>& items,
+                                 const std::vector<AxisRule>& rules, double extent) {
+  Solver solver(items, rules, extent);
+  solver.solve();
+  std::vector<AxisSpan> spans;
+  for (std::size_t i = 1; i < solver.lines().size(); ++i) {
+    const Line& line = solver.lines()[i];
+    spans.push_back({*line.start, std::max(*line.length, 0.0)});
+  }
+  return spans;
+}
+
+std::optional<double> fittingExtent(const std::vector<AxisItem>& items,
+                                    const std::vector<AxisRule>& rules) {
+  Solver solver(items, rules, std::nullopt);
+  solver.solve();
+  Length extent;
+  for (const AxisRule& rule : rules) {
+    const Length reached = reach(rule, solver.lines());
+    if (reached) extent = std::max(extent.value_or(0), *reached);
+  }
+  return extent;
+}
+
+}  // namespace quorix::uikit

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "platform/uikit/UIColor.h"
+
+namespace quorix::uikit {
+
+class UIView;
+
+/// A view's frame as it is drawn. Part of its view.
+class CALayer {
+ public:
+  explicit CALayer(UIView& view) : view_(view) {}
+  CALayer(const CALayer&) = delete;
+  CALayer& operator=(const CALayer&) = delete;
+
+  /// Points, inside the view's edges and over its subviews; 0 draws none.
+  double borderWidth() const { return borderWidth_; }
+  void setBorderWidth(double width);
+  /// Null is black.
+  const UIColor::Ref& borderColor() const { return borderColor_; }
+  void setBorderColor(UIColor::Ref color);
+
+ private:
+  UIView& view_;
+  double borderWidth_ = 0;
+  UIColor::Ref borderColor_;
+};
+
+}  // namespace quorix::uikit

@@ -1,0 +1,85 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace quorix::uikit {
+
+class UIView;
+
+/// What a constraint takes hold of. Leading and trailing follow the reading direction.
+enum class LayoutAttribute : std::uint8_t {
+  left,
+  right,
+  leading,
+  trailing,
+  top,
+  bottom,
+  width,
+  height
+};
+
+enum class LayoutRelation : std::uint8_t { equal, lessThanOrEqual, greaterThanOrEqual };
+
+/// One edge or length of a view against another, or against a constant, in points. It acts on
+/// layout rectangles, and from its activation until one of its views leaves the other.
+///
+/// There is no general solver: a constraint joins a view and its superview, or two subviews of one
+/// view, and lengths that constraints leave open come from the content.
+struct NSLayoutConstraint {
+  std::weak_ptr<UIView> firstItem;
+  LayoutAttribute firstAttribute = LayoutAttribute::left;
+  LayoutRelation relation = LayoutRelation::equal;
+  std::weak_ptr<UIView> secondItem;
+  std::optional<LayoutAttribute> secondAttribute;  ///< absent: the constant alone
+  double constant = 0;
+
+  /// Whether two attributes may stand against each other: edges of one kind, or lengths on one
+  /// axis.
+  static bool comparable(LayoutAttribute first, std::optional<LayoutAttribute> second);
+
+  /// Puts the constraints in force. One that joins views which do not stand as described above, or
+  /// attributes that cannot be compared, stops the process. Main thread.
+  static void activate(const std::vector<NSLayoutConstraint>& constraints);
+
+  /// The view that keeps it while it is in force: the one that holds the other, or both. Null when
+  /// it cannot be put in force.
+  UIView* holder() const;
+};
+
+/// One edge or length of a view, to make constraints from.
+///
+///     NSLayoutConstraint::activate({label->topAnchor().equalTo(view->topAnchor(), 16),
+///                                   image->widthAnchor().equalTo(48)});
+class NSLayoutAnchor {
+ public:
+  NSLayoutAnchor(std::weak_ptr<UIView> view, LayoutAttribute attribute)
+      : view_(std::move(view)), attribute_(attribute) {}
+
+  NSLayoutConstraint equalTo(const NSLayoutAnchor& other, double constant = 0) const {
+    return to(LayoutRelation::equal, other, constant);
+  }
+  NSLayoutConstraint lessThanOrEqualTo(const NSLayoutAnchor& other, double constant = 0) const {
+    return to(LayoutRelation::lessThanOrEqual, other, constant);
+  }
+  NSLayoutConstraint greaterThanOrEqualTo(const NSLayoutAnchor& other, double constant = 0) const {
+    return to(LayoutRelation::greaterThanOrEqual, other, constant);
+  }
+  /// For widths and heights.
+  NSLayoutConstraint equalTo(double constant) const {
+    return {view_, attribute_, LayoutRelation::equal, {}, std::nullopt, constant};
+  }
+
+ private:
+  NSLayoutConstraint to(LayoutRelation relation, const NSLayoutAnchor& other,
+                        double constant) const {
+    return {view_, attribute_, relation, other.view_, other.attribute_, constant};
+  }
+
+  std::weak_ptr<UIView> view_;
+  LayoutAttribute attribute_;
+};
+
+}  // namespace quorix::uikit

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/foundation/URL.h"
+#include "platform/uikit/UIScene.h"
+
+namespace quorix::uikit {
+
+/// The running app: its scenes, and the way out of it. Main thread.
+class UIApplication {
+ public:
+  using OpenOptions = std::map<std::string, std::string>;
+
+  static UIApplication& shared();
+
+  /// In the order in which they came.
+  const std::vector<std::shared_ptr<UIScene>>& connectedScenes() const { return scenes_; }
+  /// For surfaces: a scene begins and ends.
+  void connect(std::shared_ptr<UIScene> scene);
+  void disconnect(const std::shared_ptr<UIScene>& scene);
+
+  /// Hands `url` to the system's handler of such addresses. An address that leads to local files or
+  /// runs script goes nowhere. `completion` learns on a later turn of the main queue whether it was
+  /// handed over.
+  void open(const foundation::URL& url, const OpenOptions& options,
+            std::function<void(bool)> completion = {});
+
+ protected:
+  UIApplication() = default;
+
+ private:
+  std::vector<std::shared_ptr<UIScene>> scenes_;
+};
+
+}  // namespace quorix::uikit

@@ -1,0 +1,147 @@
+#include "platform/uikit/UIView.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/foundation/FatalError.h"
+
+namespace quorix::uikit {
+namespace {
+
+/// Stores `value`; true when it differs from what was there.
+template <class T>
+bool store(T& stored, T value) {
+  if (stored == value) return false;
+  stored = std::move(value);
+  return true;
+}
+
+}  // namespace
+
+UIView::UIView(layout::Rect frame) : frame_(frame) {}
+
+UIView::~UIView() {
+  for (const auto& view : subviews_) view->superview_ = nullptr;
+}
+
+std::shared_ptr<UIView> UIView::superview() const {
+  return superview_ ? superview_->weak_from_this().lock() : nullptr;
+}
+
+bool UIView::isDescendant(const UIView& view) const {
+  const UIView* above = this;
+  while (above != nullptr && above != &view) above = above->superview_;
+  return above != nullptr;
+}
+
+void UIView::addSubview(std::shared_ptr<UIView> view) {
+  insertSubview(std::move(view), subviews_.size());
+}
+
+void UIView::insertSubview(std::shared_ptr<UIView> view, std::size_t index) {
+  if (!view || isDescendant(*view)) {
+    foundation::fatalError("Only another view that does not hold this one can be its subview",
+                           "UIView");
+  }
+  if (view->superview_ == this) {
+    std::erase(subviews_, view);  // only its place among its siblings is another
+  } else {
+    view->removeFromSuperview();
+  }
+  const std::size_t place = std::min(index, subviews_.size());
+  view->superview_ = this;
+  subviews_.insert(subviews_.begin() + static_cast<std::ptrdiff_t>(place), std::move(view));
+  setNeedsLayout();
+}
+
+void UIView::removeFromSuperview() {
+  if (superview_ == nullptr) return;
+  UIView& left = *std::exchange(superview_, nullptr);
+  left.dropConstraintsInto(*this);
+  const auto kept = weak_from_this().lock();
+  std::erase_if(left.subviews_, [this](const auto& view) { return view.get() == this; });
+  left.setNeedsLayout();
+}
+
+void UIView::dropConstraintsInto(const UIView& leaving) {
+  std::erase_if(constraints_, [&](const NSLayoutConstraint& constraint) {
+    return constraint.firstItem.lock().get() == &leaving ||
+           constraint.secondItem.lock().get() == &leaving;
+  });
+}
+
+void UIView::setFrame(const layout::Rect& frame) {
+  if (store(frame_, frame)) setNeedsLayout();
+}
+
+void UIView::setTranslatesAutoresizingMaskIntoConstraints(bool translates) {
+  if (store(translatesMask_, translates)) setNeedsLayout();
+}
+
+void UIView::setBackgroundColor(UIColor::Ref color) {
+  if (store(backgroundColor_, std::move(color))) setNeedsLayout();
+}
+
+void UIView::setHidden(bool hidden) {
+  if (store(hidden_, hidden)) setNeedsLayout();
+}
+
+void UIView::setOpaque(bool opaque) {
+  if (store(opaque_, opaque)) setNeedsLayout();
+}
+
+void UIView::setUserInteractionEnabled(bool enabled) {
+  if (store(userInteractionEnabled_, enabled)) setNeedsLayout();
+}
+
+void UIView::addGestureRecognizer(std::shared_ptr<UITapGestureRecognizer> recognizer) {
+  gestureRecognizers_.push_back(std::move(recognizer));
+  setNeedsLayout();
+}
+
+std::shared_ptr<UIView> UIView::hitTest(layout::Point point) {
+  if (hidden_ || !userInteractionEnabled_ || !bounds().contains(point)) return nullptr;
+  for (auto view = subviews_.rbegin(); view != subviews_.rend(); ++view) {
+    const layout::Point origin = (*view)->frame_.origin;
+    if (auto hit = (*view)->hitTest({point.x - origin.x, point.y - origin.y})) return hit;
+  }
+  return weak_from_this().lock();
+}
+
+void UIView::setAccessibilityLabel(std::optional<std::string> label) {
+  if (store(accessibilityLabel_, std::move(label))) setNeedsLayout();
+}
+
+void UIView::setAccessibilityTraits(UIAccessibilityTraits traits) {
+  if (store(accessibilityTraits_, traits)) setNeedsLayout();
+}
+
+std::optional<layout::Size> UIView::intrinsicContentSize(std::optional<double>,
+                                                         const LayoutContext&) const {
+  return std::nullopt;
+}
+
+void UIView::draw(const layout::Rect& frame, const LayoutContext& context,
+                  std::vector<render::Item>& items) const {
+  if (!backgroundColor_) return;
+  items.push_back(render::FillItem{frame, backgroundColor_->resolve(context.display.appearance)});
+}
+
+std::optional<render::AccessibilityElement> UIView::describe() const { return std::nullopt; }
+
+void UIView::setNeedsLayout() const {
+  for (const UIView* view = this; view != nullptr; view = view->superview_) {
+    if (view->changed_) view->changed_();
+  }
+}
+
+void UIView::setShownBy(const void* owner, std::function<void()> changed) {
+  shownBy_ = owner;
+  changed_ = std::move(changed);
+}
+
+void UIView::endShownBy(const void* owner) {
+  if (shownBy_ == owner) setShownBy(nullptr, {});
+}
+
+}  // namespace quorix::uikit

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+
+#include "platform/uikit/UIView.h"
+
+namespace quorix::uikit {
+
+/// `view` and all in it, in words: of each its class, its frame in its superview as of the latest
+/// layout, in points, and what it shows; then its constraints, and its subviews from the lowest to
+/// the top-most. Main thread.
+///
+///     UIView 0 0 343 80 background "WidgetBackground"
+///         .constraint(UILabel[0].top = UIView.top + 16)
+///       UILabel 16 16 311 16 "Read more" link taps
+std::string printViews(const UIView& view);
+
+}  // namespace quorix::uikit

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QRect>
+#include <optional>
+#include <vector>
+
+#include "platform/graphics/RGBA.h"
+
+namespace quorix::qt {
+
+/// What lies under the next item of a scene, item being painted over item on a surface that was
+/// empty. Rects are in device pixels.
+class KnownGround {
+ public:
+  /// The one colour that all of `pixels` have: opaque, or transparent where nothing was painted.
+  /// Absent where that is not known.
+  std::optional<graphics::RGBA> under(const QRect& pixels) const;
+
+  /// Every one of `pixels` has `color` now, if that is opaque.
+  void filled(const QRect& pixels, graphics::RGBA color);
+
+  /// Some of `pixels` were painted, no others.
+  void painted(const QRect& pixels) { layers_.push_back({pixels, std::nullopt}); }
+
+  /// A text was painted, its ink in `pixels`. On nothing it leaves nothing for the next text: texts
+  /// stand beside each other and a picture is blended there, so ink that meets is no harm.
+  void inked(const QRect& pixels);
+
+ private:
+  struct Layer {
+    QRect pixels;
+    std::optional<graphics::RGBA> color;  ///< absent: of more than one, or not known
+  };
+
+  std::vector<Layer> layers_;  ///< the last on top
+};
+
+}  // namespace quorix::qt

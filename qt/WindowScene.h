@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "platform/uikit/UIWindow.h"
+#include "platform/uikit/UIWindowScene.h"
+#include "qt/EnvironmentSource.h"
+
+class QWindow;
+
+namespace quorix::qt {
+
+class SheetSurface;
+
+/// A window of the toolkit as the imperative vocabulary sees it: a scene with one window, whose
+/// root controller stands for the host's own screen. Controllers that are presented over it are
+/// shown as sheets. Belongs to the toolkit's window; main thread.
+class WindowScene : public QObject, private uikit::UIWindow::Client {
+  Q_OBJECT
+
+ public:
+  /// How a toolkit answers for one of its windows.
+  struct Toolkit {
+    std::function<QWindow*()> window;          ///< null while it is not shown
+    std::function<SheetSurface*()> makeSheet;  ///< a new one over the window, which it belongs to
+  };
+
+  /// The scene of `window`, begun when the first surface in it asks.
+  static WindowScene& of(QObject& window, const Toolkit& toolkit);
+  ~WindowScene() override;
+
+  /// The user works with a surface of this window, which has these settings.
+  void used(const EnvironmentSource& settings);
+  /// A new sheet over the window, which it belongs to.
+  SheetSurface* makeSheet() const { return toolkit_.makeSheet(); }
+
+ private:
+  /// A controller on its sheet.
+  struct Shown {
+    std::shared_ptr<uikit::UIViewController> controller;
+    SheetSurface* sheet;  ///< as long as `object`
+    QPointer<QObject> object;
+  };
+
+  WindowScene(QObject& window, const Toolkit& toolkit);
+  void presentedControllersChanged(uikit::UIWindow& window, bool animated) override;
+  void showPresented();
+  void show(const std::shared_ptr<uikit::UIViewController>& controller);
+  void focusWindowChanged(QWindow* focused);
+  void updateActivation();
+
+  Toolkit toolkit_;
+  std::shared_ptr<uikit::UIWindow> window_ = std::make_shared<uikit::UIWindow>();
+  std::shared_ptr<uikit::UIWindowScene> scene_ = std::make_shared<uikit::UIWindowScene>();
+  EnvironmentSource settings_;
+  std::vector<Shown> shown_;  ///< the lowest first
+  bool animated_ = true;
+  bool showQueued_ = false;
+};
+
+}  // namespace quorix::qt

@@ -1,0 +1,194 @@
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include "QuorixWidgets/info/InfoWidgetBuilder.h"
+#include "QuorixWidgets/localization/Color.h"
+#include "QuorixWidgets/localization/ResourceBundle.h"
+#include "platform/swiftui/TreePrinter.h"
+#include "tests/core/InfoWidgets.h"
+#include "tests/core/MemoryBundle.h"
+#include "tests/core/TestWindow.h"
+
+namespace quorix {
+namespace {
+
+using testing::infoModel;
+using testing::TestWindow;
+
+const std::string title =
+    "Shoppers who return less than 20% of what they buy pay a lower return fee.";
+const std::string link = "Read more";
+const SwiftUIStyleConfiguration bordered{std::nullopt, std::nullopt, std::nullopt, true};
+
+std::string contentsOf(const std::string& name) {
+  std::ifstream file(TEST_DATA "/info/" + name);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+/// For a test's length, the library has no resources but this English table.
+class OtherResources {
+ public:
+  explicit OtherResources(const std::string& table) {
+    foundation::Bundle::registerBundle(
+        kResourceBundleIdentifier,
+        testing::memoryBundle({{"en.lproj/Localizable.strings", table}}));
+  }
+  ~OtherResources() {
+    foundation::Bundle::registerBundle(kResourceBundleIdentifier, foundation::Bundle::embedded());
+  }
+};
+
+// View model.
+
+TEST(InfoWidgetViewModel, TellsOfTheShoppersReturnsByBands) {
+  const OtherResources words(R"("widget-title-start" = "Start "; "widget-title-end" = " end";
+                                  "widget-title-return-rate-low" = "low %g ";
+                                  "widget-title-return-rate-medium" = "medium %g ";
+                                  "widget-title-return-rate-high" = "high %g ";
+                                  "widget-read-more" = "more";)");
+  const struct {
+    double percentile;
+    const char* title;
+  } rows[] = {
+      {-1, "Start low -1 more end"}, {30, "Start low 30 more end"}, {30.5, "medium 30.5 more end"},
+      {50, "medium 50 more end"},    {50.5, "high 49.5 more end"},  {100, "high 0 more end"},
+  };
+  for (const auto& row : rows) {
+    EXPECT_EQ(infoModel("en", {}, row.percentile)->getTitle()->resolved(), row.title);
+  }
+  EXPECT_FALSE(infoModel()->getTitle());
+}
+
+TEST(InfoWidgetViewModel, HostFacesFollowTheTextSizeAndOwnFacesDoNot) {
+  const auto own = infoModel();
+  EXPECT_EQ(own->regularFont(),
+            swiftui::Font::custom("Saans-Regular", swiftui::Font::FixedSize{13}));
+  EXPECT_EQ(own->semiBoldFont(),
+            swiftui::Font::custom("Saans-Medium", swiftui::Font::FixedSize{13}));
+  const auto host = infoModel("en", {"Regular", "Bold", std::nullopt, false});
+  EXPECT_EQ(host->regularFont(), swiftui::Font::custom("Regular", 13));
+  EXPECT_EQ(host->semiBoldFont(), swiftui::Font::custom("Bold", 13));
+  EXPECT_EQ(&host->semiBoldFont(), &host->semiBoldFont()) << "made once";
+}
+
+TEST(InfoWidgetViewModel, ATitleWithoutPiecesStopsTheProcess) {
+  const auto evaluate = [](const std::string& table) {
+    const OtherResources words(table);
+    infoModel()->getInfoTitle();
+  };
+  const std::string number = R"("info-widget-title-number" = "20%"; "info-widget-title" = )";
+  for (const char* text : {"\"\";", "\"20%\";", "\"20%20%\";"}) {
+    EXPECT_DEATH(evaluate(number + text), "Index out of range") << text;
+  }
+  EXPECT_DEATH(
+      {
+        libraryBundle();  // so that its first use does not bring it back
+        foundation::Bundle::registerBundle(kResourceBundleIdentifier, nullptr);
+        infoModel()->getInfoTitle();
+      },
+      "Index out of range")
+      << "no resources at all";
+}
+
+// Trees.
+
+TEST(InfoWidgetView, IsTheTreeExpected) {
+  const struct {
+    const char* file;
+    std::shared_ptr<InfoWidgetViewModel> model;
+  } rows[] = {
+      {"general-en.txt", infoModel()},
+      {"border-ar.txt", infoModel("ar", bordered)},
+      {"personal-es.txt",
+       infoModel("es", {"Host-Regular", "Host-Bold", swiftui::Color::white(), false}, 12, "Ann")},
+  };
+  for (const auto& row : rows) {
+    EXPECT_EQ(swiftui::printTree(InfoWidgetView{row.model}), contentsOf(row.file)) << row.file;
+  }
+}
+
+TEST(InfoWidgetView, WithoutItsLogoOrItsTextsItStillStands) {
+  infoModel()->getInfoTitle();  // the faces are there before their files go
+  const OtherResources nothing("");
+  TestWindow window(InfoWidgetView{infoModel()}, {}, {420, 100});
+  for (const auto& item : window.shown().items) {
+    EXPECT_FALSE(std::holds_alternative<render::ImageItem>(item));
+  }
+  EXPECT_NO_THROW(window.element("info-widget-title-numberinfo-widget-title"));
+  EXPECT_NO_THROW(window.element("widget-read-more"));
+}
+
+TEST(InfoWidgetBuilder, CarriesTheStyleIntoTheDeclarativeWidgetAlone) {
+  const InfoWidgetStyle style{"Host-Regular", "Host-Bold", swiftui::Color::fixed({1, 2, 3}), true};
+  const std::string tree =
+      swiftui::printTree(InfoWidgetBuilder::buildSwiftUIInfoWidgetView("en", style));
+  for (const char* part : {"\"Host-Regular\", size: 13", "\"Host-Bold\", size: 13",
+                           ".background(#010203FF)", ".border(DefaultFontColor, width: 1)"}) {
+    EXPECT_NE(tree.find(part), std::string::npos) << part;
+  }
+  const auto widget = InfoWidgetBuilder::buildUIKitInfoWidgetView("en", style);
+  const auto& content = *widget->subviews().at(0);
+  EXPECT_EQ(content.backgroundColor()->name(), "Background");
+  EXPECT_EQ(content.layer().borderWidth(), 0);
+}
+
+// On screen. The widget is as wide as the window, which it does not fill.
+
+TEST(InfoWidgetView, OpensItsPageFromAnywhereOnIt) {
+  TestWindow window(InfoWidgetView{infoModel("en", bordered)});
+  const auto area = window.shown().hitAreas.at(0).frame;
+  EXPECT_EQ(area.size.width, 320) << "border and padding are part of it";
+  const layout::Point places[] = {
+      {area.left() + 1, area.top() + 1},
+      {area.right() - 1, area.bottom() - 1},
+      TestWindow::middle(window.element(link).frame),
+  };
+  for (const layout::Point place : places) {
+    window.tap(place);
+    window.settle();
+    ASSERT_TRUE(window.sheet);
+    window.tap("Close");
+    window.settle();
+    ASSERT_FALSE(window.sheet);
+  }
+}
+
+TEST(InfoWidgetView, ASecondTapBeforeTheSheetIsUpTakesTheFirstBack) {
+  TestWindow window(InfoWidgetView{infoModel()});
+  window.tap(link);
+  window.tap(link);
+  window.settle();
+  EXPECT_FALSE(window.sheet);
+  window.tap(link);
+  window.settle();
+  ASSERT_TRUE(window.sheet);
+  window.sheet->dismiss();
+  window.settle();
+  EXPECT_FALSE(window.sheet) << "the user closed it";
+  window.tap(link);
+  window.settle();
+  EXPECT_TRUE(window.sheet) << "and the flag knows";
+}
+
+TEST(InfoWidgetView, IsReadAsItsTextsAndOpensFromTheKeyboard) {
+  TestWindow window(InfoWidgetView{infoModel()});
+  const auto& elements = window.shown().accessibility;
+  ASSERT_EQ(elements.size(), 2U) << "the logo says nothing";
+  EXPECT_EQ(elements[0].label, title);
+  EXPECT_EQ(elements[1].label, link);
+  for (const int presses : {1, 2}) {
+    window.host->clearFocus();
+    for (int i = 0; i < presses; ++i) ASSERT_TRUE(window.host->moveFocus(true));
+    EXPECT_TRUE(window.host->activateFocus());
+    window.settle();
+    ASSERT_TRUE(window.sheet);
+    window.sheet->dismiss();
+    window.settle();
+  }
+}
+
+}  // namespace
+}  // namespace quorix

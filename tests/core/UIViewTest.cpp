@@ -1,0 +1,171 @@
+#include "platform/uikit/UIView.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/render/ScenePrinter.h"
+#include "platform/swiftui/Elements.h"
+#include "platform/swiftui/UIViewControllerRepresentable.h"
+#include "platform/swiftui/UIViewRepresentable.h"
+#include "platform/uikit/UILabel.h"
+#include "tests/core/FixedWidthText.h"
+#include "tests/core/TestWindow.h"
+
+using namespace quorix;
+using namespace quorix::uikit;
+using quorix::testing::FixedWidthText;
+using quorix::testing::TestWindow;
+
+namespace {
+
+using Taps = std::vector<std::string>;
+
+/// A plain view; with `taps`, one that notes its taps there under `name`.
+std::shared_ptr<UIView> box(layout::Rect frame, const std::shared_ptr<Taps>& taps = nullptr,
+                            const char* name = "") {
+  auto view = std::make_shared<UIView>(frame);
+  if (!taps) return view;
+  view->addGestureRecognizer(std::make_shared<UITapGestureRecognizer>(
+      taps, [name](Taps& noted, UITapGestureRecognizer&) { noted.push_back(name); }));
+  return view;
+}
+
+}  // namespace
+
+TEST(UIView, TapsFindTheTopmostTouchedView) {
+  const auto taps = std::make_shared<Taps>();
+  const auto root = box({{}, {100, 100}});
+  const auto low = box({{0, 0}, {50, 50}}, taps, "low");
+  const auto cover = box({{0, 0}, {20, 20}});   // touched, and has nothing to do
+  const auto glass = box({{20, 0}, {20, 20}});  // lets touches through
+  const auto gone = box({{0, 20}, {20, 20}}, taps, "gone");
+  const auto parent = box({{50, 50}, {50, 50}}, taps, "parent");
+  const auto child = box({{10, 10}, {20, 20}}, taps, "child");
+  const auto label = std::make_shared<UILabel>(layout::Rect{{30, 30}, {60, 10}});
+  for (const auto& view : {low, cover, glass, gone, parent}) root->addSubview(view);
+  parent->addSubview(child);
+  parent->addSubview(label);
+  glass->setUserInteractionEnabled(false);
+  gone->setHidden(true);
+
+  FixedWidthText text;
+  UIViewContent content(root);
+  const render::Scene scene = content.scene({100, 100}, {}, text);
+  struct {
+    layout::Point point;
+    UIView* hit;
+    const char* tapped;
+  } const rows[] = {
+      {{45, 45}, low.get(), "low"},     {{10, 10}, cover.get(), ""},
+      {{30, 10}, low.get(), "low"},     {{10, 30}, low.get(), "low"},
+      {{90, 10}, root.get(), ""},       {{55, 55}, parent.get(), "parent"},
+      {{65, 65}, child.get(), "child"}, {{85, 85}, parent.get(), "parent"},
+      {{100, 85}, nullptr, ""},  // the label reaches out of its superview, touches do not
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.point.x);
+    EXPECT_EQ(root->hitTest(row.point).get(), row.hit);
+    taps->clear();
+    if (const auto* area = scene.hitTest(row.point)) area->action();
+    EXPECT_EQ(*taps, *row.tapped ? Taps{row.tapped} : Taps{});
+  }
+}
+
+TEST(UIView, SaysWhatItIsToAssistiveTechnology) {
+  const auto label = std::make_shared<UILabel>();
+  label->setText("More");
+  const auto shown = [&] {
+    FixedWidthText text;
+    return render::printAccessibility(UIViewContent(label).scene({50, 20}, {}, text));
+  };
+  EXPECT_EQ(shown(), "text 0 0 50 20 \"More\"\n");
+  label->setUserInteractionEnabled(true);
+  label->addGestureRecognizer(
+      std::make_shared<UITapGestureRecognizer>(label, [](UILabel&, UITapGestureRecognizer&) {}));
+  EXPECT_EQ(shown(), "button 0 0 50 20 \"More\" acts\n");
+  label->setAccessibilityTraits(UIAccessibilityTraits::link);
+  label->setAccessibilityLabel("Read more");
+  EXPECT_EQ(shown(), "link 0 0 50 20 \"Read more\" acts\n");
+  label->setUserInteractionEnabled(false);
+  EXPECT_EQ(shown(), "link 0 0 50 20 \"Read more\"\n");
+}
+
+TEST(UIView, LeavesItsPlaceWithItsConstraints) {
+  const auto one = box({}), other = box({}), child = box({}), sibling = box({});
+  one->addSubview(sibling);
+  one->addSubview(child);
+  NSLayoutConstraint::activate({child->topAnchor().equalTo(one->topAnchor()),
+                                sibling->topAnchor().equalTo(child->bottomAnchor()),
+                                sibling->leftAnchor().equalTo(one->leftAnchor())});
+  one->insertSubview(child, 0);
+  EXPECT_EQ(one->subviews().front(), child);
+  EXPECT_EQ(one->constraints().size(), 3u);
+  other->addSubview(child);
+  EXPECT_EQ(child->superview(), other);
+  EXPECT_EQ(one->subviews().size(), 1u);
+  EXPECT_EQ(one->constraints().size(), 1u);
+  EXPECT_DEATH(NSLayoutConstraint::activate({child->topAnchor().equalTo(one->topAnchor())}),
+               "A constraint joins comparable attributes");
+  EXPECT_DEATH(child->addSubview(other), "Only another view");
+}
+
+namespace {
+
+struct Counter {
+  static constexpr std::string_view typeName = "Counter";
+  int value = 0;
+  std::vector<std::weak_ptr<UIView>>* made;
+  std::shared_ptr<UILabel> makeUIView() const {
+    auto label = std::make_shared<UILabel>();
+    made->push_back(label);
+    return label;
+  }
+  void updateUIView(UILabel& label) const { label.setText(std::to_string(value)); }
+};
+
+struct Page {
+  static constexpr std::string_view typeName = "Page";
+  std::shared_ptr<UIViewController> makeUIViewController() const {
+    return std::make_shared<UIViewController>();
+  }
+  void updateUIViewController(UIViewController& page) const {
+    page.view()->setAccessibilityLabel("page");
+  }
+};
+
+}  // namespace
+
+TEST(Representable, IsMadeOnceAndToldOfLaterValues) {
+  std::vector<std::weak_ptr<UIView>> made;
+  TestWindow window(swiftui::represent(Counter{1, &made}));
+  // The same view with another value, as from a body that was evaluated again.
+  window.host->updateRoot(swiftui::represent(Counter{2, &made}));
+  EXPECT_EQ(window.element("2").label, "2");
+  ASSERT_EQ(made.size(), 1u);
+  // A change from outside shows too, without another evaluation's help.
+  const int before = window.displays;
+  std::static_pointer_cast<UILabel>(made.front().lock())->setAccessibilityLabel("two");
+  EXPECT_EQ(window.displays, before + 1);
+  EXPECT_EQ(window.element("two").label, "two");
+  // Another kind in the same place is another view, and the first is let go.
+  window.host->updateRoot(swiftui::represent(Page{}));
+  EXPECT_EQ(window.element("page").frame, (layout::Rect{{}, {320, 640}}));
+  EXPECT_TRUE(made.front().expired());
+}
+
+TEST(Hosting, ShowsTheViewThatItIsGiven) {
+  const auto label = [](const char* text) {
+    auto made = std::make_shared<UILabel>();
+    made->setText(text);
+    return made;
+  };
+  const auto first = label("first"), second = label("second");
+  TestWindow window(swiftui::hosting(first));
+  EXPECT_EQ(window.element("first").frame.size, (layout::Size{43, 22}));  // 17 points, rounded up
+  window.host->updateRoot(swiftui::hosting(second));
+  EXPECT_EQ(window.shown().accessibility.size(), 1u);
+  const int before = window.displays;
+  first->setText("nobody looks");
+  EXPECT_EQ(window.displays, before);
+  second->setText("last");
+  EXPECT_EQ(window.element("last").label, "last");
+}

@@ -1,0 +1,90 @@
+#include "QuorixWidgets/overlay/WebViewController.h"
+
+#include <gtest/gtest.h>
+
+#include "QuorixWidgets/localization/UIColor.h"
+#include "platform/swiftui/UIViewControllerRepresentable.h"
+#include "platform/uikit/URLOpener.h"
+#include "tests/core/TestWindow.h"
+
+using namespace quorix;
+using quorix::testing::TestWindow;
+
+namespace {
+
+struct Opened final : uikit::URLOpener {
+  std::vector<std::string> addresses;
+  void open(const foundation::URL& url) override { addresses.push_back(url.absoluteString()); }
+};
+
+const webkit::WebContent* pageOf(const render::Scene& scene) {
+  for (const auto& item : scene.items) {
+    const auto* embed = std::get_if<render::EmbedItem>(&item);
+    if (embed) return dynamic_cast<const webkit::WebContent*>(embed->content.get());
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+TEST(WebViewController, ShowsItsPageAndCloseControl) {
+  const auto overlay = std::make_shared<WebViewController>();
+  overlay->locale = "nb";
+  overlay->showCloseButton = true;
+  TestWindow window(swiftui::hosting(overlay), {.direction = layout::LayoutDirection::rightToLeft,
+                                                .language = {}});  // still on the right
+  EXPECT_EQ(render::printFrames(window.shown()),
+            "embed 0 0 320 640 #FFFFFFFF\n"
+            "image 284 22 24 24 \"close\" #007AFFFF\n"
+            "hit 272 10 48 48\n");
+  const auto* page = pageOf(window.shown());
+  ASSERT_NE(page, nullptr);
+  ASSERT_TRUE(page->url().has_value());
+  EXPECT_TRUE(page->url()->absoluteString().ends_with("/html/overlays/info?lang=no"))
+      << page->url()->absoluteString();
+  EXPECT_TRUE(page->settings.allowsContentJavaScript);
+  EXPECT_TRUE(page->settings.javaScriptCanOpenWindowsAutomatically);
+  EXPECT_TRUE(page->settings.allowsBackForwardNavigationGestures);
+
+  // What changes after the view has loaded comes too late.
+  overlay->token = "late";
+  window.host->updateRoot(swiftui::hosting(overlay));
+  EXPECT_EQ(pageOf(window.shown())->url()->path(), "/html/overlays/info");
+
+  const auto root = std::make_shared<uikit::UIViewController>();
+  root->present(overlay, true);
+  window.tap(layout::Point{272, 10});  // the control's very corner
+  EXPECT_EQ(root->presentedViewController(), nullptr);
+}
+
+TEST(WebViewController, HasNoControlUnlessAsked) {
+  const auto overlay = std::make_shared<WebViewController>();
+  overlay->token = "";
+  TestWindow window(swiftui::hosting(overlay),
+                    {.appearance = graphics::Appearance::dark, .language = {}});
+  EXPECT_EQ(window.shown().hitAreas.size(), 0u);
+  EXPECT_EQ(pageOf(window.shown())->url()->path(), "/users/details/");
+  EXPECT_EQ(std::get<render::EmbedItem>(window.shown().items.front()).background,
+            UIColor::overlayBackgrounColor()->resolve(graphics::Appearance::dark));
+}
+
+TEST(WebViewController, NewWindowsLeaveTheApp) {
+  const auto opener = std::make_shared<Opened>();
+  const auto before = uikit::URLOpener::install(opener);
+  auto overlay = std::make_shared<WebViewController>();
+  const auto web =
+      std::dynamic_pointer_cast<webkit::WKWebView>(overlay->view()->subviews().front());
+  const auto page = web->content();
+  page->onNewWindow(foundation::URL::parse("https://shop.example/terms"));
+  page->onNewWindow(foundation::URL::parse("file:///etc/passwd"));
+  page->onNewWindow(std::nullopt);
+  EXPECT_EQ(opener->addresses, std::vector<std::string>{"https://shop.example/terms"});
+
+  // The page may outlive its controller in an engine, and asks nobody then.
+  const std::weak_ptr<WebViewController> watched = overlay;
+  overlay.reset();
+  EXPECT_TRUE(watched.expired()) << "the web view keeps nobody";
+  page->onNewWindow(foundation::URL::parse("https://shop.example/late"));
+  EXPECT_EQ(opener->addresses.size(), 1u);
+  uikit::URLOpener::install(before);
+}

@@ -1,0 +1,98 @@
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "QuorixWidgets/info/UIApplication.h"
+#include "platform/swiftui/UIViewRepresentable.h"
+#include "platform/uikit/UILabel.h"
+#include "platform/uikit/UITapGestureRecognizer.h"
+#include "platform/uikit/UIViewController.h"
+#include "tests/qt/Screens.h"
+
+namespace quorix::testing {
+namespace {
+
+constexpr QRectF kPlace(20, 40, 300, 0);
+
+/// A text that does something when it is tapped.
+std::shared_ptr<uikit::UILabel> button(const std::string& text, std::function<void()> action) {
+  auto label = std::make_shared<uikit::UILabel>();
+  label->setText(text);
+  label->setFrame({{20, 20}, {200, 20}});
+  label->setUserInteractionEnabled(true);
+  label->addGestureRecognizer(std::make_shared<uikit::UITapGestureRecognizer>(
+      label, [action](uikit::UILabel&, uikit::UITapGestureRecognizer&) { action(); }));
+  return label;
+}
+
+struct Page : uikit::UIViewController {
+  explicit Page(std::string text) : title(std::move(text)) {}
+  void viewDidLoad() override {
+    const auto close = [this] { dismiss(true); };
+    view()->addSubview(button(title, close));
+  }
+  std::string title;
+};
+
+/// Presents a page of that title over whatever the user sees in the window that they use.
+void presentPage(const std::string& title) {
+  const auto window = UIApplication::getKeyWindow();
+  ASSERT_TRUE(window);
+  auto top = window->rootViewController();
+  while (top->presentedViewController()) top = top->presentedViewController();
+  top->present(std::make_shared<Page>(title), true);
+}
+
+swiftui::View opener(const std::string& page) {
+  return swiftui::hosting(button("Open " + page, [page] { presentPage(page); }));
+}
+
+template <class>
+struct WindowScene : ::testing::Test {};
+TYPED_TEST_SUITE(WindowScene, Screens, ScreenName);
+
+TYPED_TEST(WindowScene, PresentsOverTheWindowInUse) {
+  TypeParam one;
+  TypeParam two;
+  one.add(opener("first"), kPlace);
+  auto* second = two.add(opener("second"), kPlace);
+  one.click("Open first");
+  EXPECT_TRUE(one.shows("first"));
+  EXPECT_FALSE(two.shows("first"));
+  two.focus(second);
+  two.key(Qt::Key_Tab);
+  two.click("Open second");
+  EXPECT_TRUE(two.shows("second"));
+  EXPECT_FALSE(one.shows("second"));
+}
+
+TYPED_TEST(WindowScene, StacksPagesAndTakesThemAwayOneByOne) {
+  TypeParam screen;
+  screen.add(opener("lower"), kPlace);
+  screen.click("Open lower");
+  presentPage("upper");
+  screen.settle();
+  EXPECT_TRUE(screen.shows("upper"));
+  screen.key(Qt::Key_Escape);
+  EXPECT_FALSE(screen.shows("upper"));
+  EXPECT_TRUE(screen.shows("lower"));
+  screen.click("lower");
+  EXPECT_FALSE(screen.shows("lower"));
+  EXPECT_FALSE(UIApplication::getKeyWindow()->rootViewController()->presentedViewController());
+  screen.click("Open lower");
+  EXPECT_TRUE(screen.shows("lower"));
+}
+
+TYPED_TEST(WindowScene, EndsWithItsWindow) {
+  const auto scenes = [] { return uikit::UIApplication::shared().connectedScenes().size(); };
+  const std::size_t before = scenes();
+  TypeParam screen;
+  screen.add(opener("page"), kPlace);
+  screen.click("Open page");
+  EXPECT_EQ(scenes(), before + 1);
+  screen.closeWindow();
+  EXPECT_EQ(scenes(), before);
+}
+
+}  // namespace
+}  // namespace quorix::testing

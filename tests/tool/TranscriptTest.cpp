@@ -1,0 +1,69 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <string>
+
+#include "Tool.h"
+
+using testing::HasSubstr;
+using testing::Not;
+
+namespace {
+
+/// Holds the tool to one line of a transcript in tests/data/tool, in which a command of the shell
+/// is followed by what comes of it:
+///
+///     $ quorix mint --score high
+///     fails 2 --score wants a number   the exit status and a part of the one error line
+///     prints "score": 1                succeeds without an error; a part of the output
+///     lacks Saans                      the same; no part of it
+///     warns never used:                succeeds with one line on standard error
+void expectOutcome(const Tool::Run& run, const std::string& kind, const std::string& text) {
+  const bool fails = kind == "fails";
+  EXPECT_EQ(run.status, fails ? std::stoi(text) : 0);
+  if (fails || kind == "warns") {
+    EXPECT_EQ(run.out.empty(), fails) << run.out;
+    EXPECT_TRUE(isOneErrorLine(run.err)) << run.err;
+    EXPECT_THAT(run.err, HasSubstr(fails ? text.substr(2) : text));
+    EXPECT_EQ(run.err.find("--help\"") != std::string::npos, run.status == 2) << run.err;
+  } else {
+    EXPECT_EQ(run.err, "");
+    if (kind == "prints")
+      EXPECT_THAT(run.out, HasSubstr(text));
+    else if (kind == "lacks")
+      EXPECT_THAT(run.out, Not(HasSubstr(text)));
+    else
+      ADD_FAILURE() << "no outcome is called " << kind;
+  }
+}
+
+class ToolTranscript : public testing::TestWithParam<const char*> {};
+
+TEST_P(ToolTranscript, HoldsLineByLine) {
+  const Tool tool;
+  Tool::Run run;
+  std::ifstream transcript(TEST_DATA "/tool/" + std::string(GetParam()) + ".txt");
+  int outcomes = 0;
+  std::string command;
+  for (std::string line; std::getline(transcript, line);) {
+    if (line.empty() || line.starts_with('#')) continue;
+    const std::size_t space = line.find(' ');
+    const std::string text = line.substr(space + 1);
+    if (line.starts_with('$')) {
+      command = text;
+      run = tool.shell(command);
+      continue;
+    }
+    SCOPED_TRACE(command);
+    expectOutcome(run, line.substr(0, space), text);
+    ++outcomes;
+  }
+  EXPECT_GT(outcomes, 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Transcripts, ToolTranscript,
+                         testing::Values("command_line", "tokens", "score", "info", "translations"),
+                         [](const auto& file) { return std::string(file.param); });
+
+}  // namespace

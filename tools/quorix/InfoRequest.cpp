@@ -1,0 +1,33 @@
+#include "tools/quorix/InfoRequest.h"
+
+#include "tools/quorix/WidgetOptions.h"
+
+namespace quorix::tool {
+namespace {
+
+constexpr auto table = withWidgetOptions({
+    {"--form", "NAME", "declarative or imperative (default declarative)."},
+    {"--background-color", "#RRGGBB",
+     "Behind the texts (default the library's own). The imperative\n"
+     "form does not take one."},
+    {"--border", "", "Draws a border. The imperative form has none."},
+});
+
+}  // namespace
+
+const std::span<const Option> InfoRequest::options = table;
+
+std::variant<InfoRequest, Failure> InfoRequest::read(const Arguments& arguments) {
+  OptionReader read(arguments);
+  InfoRequest request{WidgetRequest::from(read)};
+  request.imperative = read.choice("--form", {"declarative", "imperative"}) == 1;
+  request.backgroundColor = read.color("--background-color");
+  request.border = read.has("--border");
+  if (request.imperative && (request.backgroundColor || request.border)) {
+    read.fail("the imperative form takes neither a background colour nor a border");
+  }
+  if (read.failure()) return *read.failure();
+  return request;
+}
+
+}  // namespace quorix::tool

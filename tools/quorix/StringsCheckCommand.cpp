@@ -1,0 +1,85 @@
+#include "tools/quorix/StringsCheckCommand.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "QuorixWidgets/localization/StringTableProblem.h"
+#include "platform/foundation/Bundle.h"
+#include "platform/foundation/StringsFile.h"
+
+namespace quorix::tool {
+namespace {
+
+using foundation::Bundle;
+
+/// `line` with what would break it, or colour a terminal, taken out.
+std::string oneLine(std::string line) {
+  const auto isControl = [](unsigned char c) { return c < 0x20 || c == 0x7F; };
+  std::ranges::replace_if(line, isControl, ' ');
+  return line + '\n';
+}
+
+/// A line for each finding in the table at `path`.
+std::vector<std::string> findings(const Bundle& bundle, const std::string& path) {
+  const auto file = bundle.data(path);
+  if (!file) return {oneLine(path + ": is missing")};
+  const auto reading = foundation::readStringsFile(*file);
+  if (const auto* error = std::get_if<foundation::Error>(&reading)) {
+    return {oneLine(path + ": " + error->description)};
+  }
+  std::vector<std::string> lines;
+  for (const auto& problem : problems(std::get<foundation::StringTable>(reading))) {
+    lines.push_back(oneLine(path + ": \"" + problem.key + "\" " + problem.what));
+  }
+  return lines;
+}
+
+std::string counted(std::size_t count, const std::string& what) {
+  return std::to_string(count) + ' ' + what + (count == 1 ? "" : "s");
+}
+
+Outcome check(const Arguments& arguments) {
+  const std::string& path = arguments.operand();
+  const Bundle::Ref bundle = path.empty() ? Bundle::embedded() : Bundle::open(path);
+  if (!bundle) return Failure::refused("can't read the folder " + path);
+  std::vector<std::string> languages = bundle->folders("");
+  std::erase_if(languages, [](const std::string& name) { return !name.ends_with(".lproj"); });
+  if (languages.empty()) return Failure::refused("there is no *.lproj folder in " + path);
+
+  std::string output;
+  std::size_t count = 0;
+  if (std::ranges::find(languages, "en.lproj") == languages.end()) {
+    languages.insert(languages.begin(), "en.lproj");  // what every other locale falls back to
+  }
+  for (const std::string& language : languages) {
+    for (const std::string& line : findings(*bundle, language + "/Localizable.strings")) {
+      output += line;
+      ++count;
+    }
+  }
+  const std::string tables = counted(languages.size(), "table");
+  if (count == 0) return tables + " checked, nothing found\n";
+  Failure failure = Failure::refused(counted(count, "finding") + " in " + tables);
+  failure.output = std::move(output);
+  return failure;
+}
+
+}  // namespace
+
+const Command stringsCheckCommand{
+    "strings check",
+    "[FOLDER]",
+    "Checks the string tables of every language.\n"
+    "FOLDER holds en.lproj/Localizable.strings and so on; without it, the built-in ones are "
+    "checked.",
+    {},
+    "[FOLDER]",
+    "Prints a line for each finding: a mistake in a file and its line, an entry that is missing "
+    "or\n"
+    "never used, a format that does not show its argument, a title that its figure does not part.\n"
+    "Ends with status 1 when it finds anything.",
+    "quorix strings check",
+    check,
+};
+
+}  // namespace quorix::tool
