@@ -4,6 +4,7 @@
 #include <simdjson.h>
 
 #include <bit>
+#include <charconv>
 #include <fstream>
 #include <functional>
 #include <string>
@@ -24,6 +25,14 @@ inline void forEachRow(const std::string& name,
 
 inline std::string text(simdjson::dom::element row, std::string_view key) {
   return std::string(std::string_view(row[key]));
+}
+
+/// A number in decimal digits, which JSON cannot hold in full; also "inf" and "nan".
+inline double number(simdjson::dom::element row, std::string_view key) {
+  const std::string digits = text(row, key);
+  double value = 0;
+  std::from_chars(digits.data(), digits.data() + digits.size(), value);
+  return value;
 }
 
 /// A number that is written as the hexadecimal digits of its 64 bits.
