@@ -4,27 +4,17 @@
 
 #include <vector>
 
+#include "tests/core/OpenedAddresses.h"
 #include "tests/core/Vectors.h"
 
 using quorix::foundation::URL;
+using quorix::testing::OpenedAddresses;
 using quorix::uikit::URLOpener;
 
 namespace {
 
-class Recorder final : public URLOpener {
- public:
-  void open(const URL& url) override { opened.push_back(url.absoluteString()); }
-  std::vector<std::string> opened;
-};
-
-class URLOpenerTest : public testing::Test {
- protected:
-  ~URLOpenerTest() override { URLOpener::install(before_); }
-  std::shared_ptr<Recorder> recorder_ = std::make_shared<Recorder>();
-  std::shared_ptr<URLOpener> before_ = URLOpener::install(recorder_);
-};
-
-TEST_F(URLOpenerTest, OpensOnlyWhatLeavesTheMachineAndRunsNoScript) {
+TEST(URLOpener, OpensOnlyWhatLeavesTheMachineAndRunsNoScript) {
+  const OpenedAddresses asked;
   std::vector<std::string> opened;
   for (const std::string& line : readLines("outside_addresses")) {
     SCOPED_TRACE(line);
@@ -37,10 +27,11 @@ TEST_F(URLOpenerTest, OpensOnlyWhatLeavesTheMachineAndRunsNoScript) {
     if (outcome == "opens") opened.push_back(address);
   }
   EXPECT_FALSE(opened.empty());
-  EXPECT_EQ(recorder_->opened, opened);
+  EXPECT_EQ(asked.list(), opened);
 }
 
-TEST_F(URLOpenerTest, OpensNothingWithoutAnOpener) {
+TEST(URLOpener, OpensNothingWithoutAnOpener) {
+  const OpenedAddresses asked;  // which puts things right afterwards
   URLOpener::install(nullptr);
   EXPECT_FALSE(URLOpener::openOutside(*URL::parse("https://shop.example")));
 }

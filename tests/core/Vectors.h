@@ -7,6 +7,7 @@
 #include <charconv>
 #include <fstream>
 #include <functional>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -48,6 +49,12 @@ inline std::string fromHex(std::string_view hex) {
     bytes += static_cast<char>(std::stoi(std::string(hex.substr(i, 2)), nullptr, 16));
   }
   return bytes;
+}
+
+/// All of tests/data/<name>.
+inline std::string contentsOf(const std::string& name) {
+  std::ifstream file(TEST_DATA "/" + name);
+  return {std::istreambuf_iterator<char>(file), {}};
 }
 
 /// The lines of tests/data/<name>.txt that are no comments. "<EF BB BF>" in them stands for these
