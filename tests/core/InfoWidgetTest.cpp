@@ -1,21 +1,20 @@
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
 #include <string>
 
 #include "QuorixWidgets/info/InfoWidgetBuilder.h"
 #include "QuorixWidgets/localization/Color.h"
-#include "QuorixWidgets/localization/ResourceBundle.h"
 #include "platform/swiftui/TreePrinter.h"
 #include "tests/core/InfoWidgets.h"
-#include "tests/core/MemoryBundle.h"
+#include "tests/core/OtherResources.h"
 #include "tests/core/TestWindow.h"
+#include "tests/core/Vectors.h"
 
 namespace quorix {
 namespace {
 
 using testing::infoModel;
+using testing::OtherResources;
 using testing::TestWindow;
 
 const std::string title =
@@ -23,28 +22,11 @@ const std::string title =
 const std::string link = "Read more";
 const SwiftUIStyleConfiguration bordered{std::nullopt, std::nullopt, std::nullopt, true};
 
-std::string contentsOf(const std::string& name) {
-  std::ifstream file(TEST_DATA "/info/" + name);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
-
-/// For a test's length, the library has no resources but this English table.
-class OtherResources {
- public:
-  explicit OtherResources(const std::string& table) {
-    foundation::Bundle::registerBundle(
-        kResourceBundleIdentifier,
-        testing::memoryBundle({{"en.lproj/Localizable.strings", table}}));
-  }
-  ~OtherResources() {
-    foundation::Bundle::registerBundle(kResourceBundleIdentifier, foundation::Bundle::embedded());
-  }
-};
-
 // View model.
 
 TEST(InfoWidgetViewModel, TellsOfTheShoppersReturnsByBands) {
-  const OtherResources words(R"("widget-title-start" = "Start "; "widget-title-end" = " end";
+  const auto words =
+      OtherResources::english(R"("widget-title-start" = "Start "; "widget-title-end" = " end";
                                   "widget-title-return-rate-low" = "low %g ";
                                   "widget-title-return-rate-medium" = "medium %g ";
                                   "widget-title-return-rate-high" = "high %g ";
@@ -62,35 +44,16 @@ TEST(InfoWidgetViewModel, TellsOfTheShoppersReturnsByBands) {
   EXPECT_FALSE(infoModel()->getTitle());
 }
 
-TEST(InfoWidgetViewModel, HostFacesFollowTheTextSizeAndOwnFacesDoNot) {
-  const auto own = infoModel();
-  EXPECT_EQ(own->regularFont(),
-            swiftui::Font::custom("Saans-Regular", swiftui::Font::FixedSize{13}));
-  EXPECT_EQ(own->semiBoldFont(),
-            swiftui::Font::custom("Saans-Medium", swiftui::Font::FixedSize{13}));
-  const auto host = infoModel("en", {"Regular", "Bold", std::nullopt, false});
-  EXPECT_EQ(host->regularFont(), swiftui::Font::custom("Regular", 13));
-  EXPECT_EQ(host->semiBoldFont(), swiftui::Font::custom("Bold", 13));
-  EXPECT_EQ(&host->semiBoldFont(), &host->semiBoldFont()) << "made once";
-}
-
 TEST(InfoWidgetViewModel, ATitleWithoutPiecesStopsTheProcess) {
   const auto evaluate = [](const std::string& table) {
-    const OtherResources words(table);
+    const auto words = OtherResources::english(table);
     infoModel()->getInfoTitle();
   };
   const std::string number = R"("info-widget-title-number" = "20%"; "info-widget-title" = )";
   for (const char* text : {"\"\";", "\"20%\";", "\"20%20%\";"}) {
     EXPECT_DEATH(evaluate(number + text), "Index out of range") << text;
   }
-  EXPECT_DEATH(
-      {
-        libraryBundle();  // so that its first use does not bring it back
-        foundation::Bundle::registerBundle(kResourceBundleIdentifier, nullptr);
-        infoModel()->getInfoTitle();
-      },
-      "Index out of range")
-      << "no resources at all";
+  EXPECT_DEATH((OtherResources(nullptr), infoModel()->getInfoTitle()), "Index out of range");
 }
 
 // Trees.
@@ -106,13 +69,15 @@ TEST(InfoWidgetView, IsTheTreeExpected) {
        infoModel("es", {"Host-Regular", "Host-Bold", swiftui::Color::white(), false}, 12, "Ann")},
   };
   for (const auto& row : rows) {
-    EXPECT_EQ(swiftui::printTree(InfoWidgetView{row.model}), contentsOf(row.file)) << row.file;
+    EXPECT_EQ(swiftui::printTree(InfoWidgetView{row.model}),
+              contentsOf(std::string("info/") + row.file))
+        << row.file;
   }
 }
 
 TEST(InfoWidgetView, WithoutItsLogoOrItsTextsItStillStands) {
   infoModel()->getInfoTitle();  // the faces are there before their files go
-  const OtherResources nothing("");
+  const auto nothing = OtherResources::english("");
   TestWindow window(InfoWidgetView{infoModel()}, {}, {420, 100});
   for (const auto& item : window.shown().items) {
     EXPECT_FALSE(std::holds_alternative<render::ImageItem>(item));
@@ -150,8 +115,7 @@ TEST(InfoWidgetView, OpensItsPageFromAnywhereOnIt) {
     window.tap(place);
     window.settle();
     ASSERT_TRUE(window.sheet);
-    window.tap("Close");
-    window.settle();
+    window.act("Close");
     ASSERT_FALSE(window.sheet);
   }
 }
@@ -159,26 +123,20 @@ TEST(InfoWidgetView, OpensItsPageFromAnywhereOnIt) {
 TEST(InfoWidgetView, ASecondTapBeforeTheSheetIsUpTakesTheFirstBack) {
   TestWindow window(InfoWidgetView{infoModel()});
   window.tap(link);
-  window.tap(link);
-  window.settle();
+  window.act(link);
   EXPECT_FALSE(window.sheet);
-  window.tap(link);
-  window.settle();
+  window.act(link);
   ASSERT_TRUE(window.sheet);
   window.sheet->dismiss();
   window.settle();
   EXPECT_FALSE(window.sheet) << "the user closed it";
-  window.tap(link);
-  window.settle();
+  window.act(link);
   EXPECT_TRUE(window.sheet) << "and the flag knows";
 }
 
 TEST(InfoWidgetView, IsReadAsItsTextsAndOpensFromTheKeyboard) {
   TestWindow window(InfoWidgetView{infoModel()});
-  const auto& elements = window.shown().accessibility;
-  ASSERT_EQ(elements.size(), 2U) << "the logo says nothing";
-  EXPECT_EQ(elements[0].label, title);
-  EXPECT_EQ(elements[1].label, link);
+  EXPECT_EQ(window.labels(), title + ", " + link) << "the logo says nothing";
   for (const int presses : {1, 2}) {
     window.host->clearFocus();
     for (int i = 0; i < presses; ++i) ASSERT_TRUE(window.host->moveFocus(true));

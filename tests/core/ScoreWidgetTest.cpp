@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <fstream>
 #include <map>
 #include <sstream>
 
@@ -58,11 +57,6 @@ TEST(ScoreWidgetViewModel, TellsOfEachChangeBeforeItIsStored) {
 
 // What is made, shown, read out and measured.
 
-std::string contentsOf(const std::string& name) {
-  std::ifstream file(TEST_DATA "/score/" + name + ".txt");
-  return {std::istreambuf_iterator<char>(file), {}};
-}
-
 /// A view of `size` in words, after it was laid out as often as a surface may ask.
 std::string printed(const swiftui::View& view, layout::Size size) {
   TestWindow window({}, {}, size);
@@ -105,7 +99,8 @@ TEST(ScoreWidgetView, IsAsDesigned) {
     if (!*row.language) strings->strings = TranslationTable::make({});
     const auto view = row.sheet ? scoreWidgetSheet(*model, *strings, swiftui::State(true).binding())
                                 : swiftui::View(ScoreWidgetView{model, strings});
-    EXPECT_EQ(printed(view, row.size), contentsOf(row.file)) << row.file;
+    EXPECT_EQ(printed(view, row.size), contentsOf("score/" + std::string(row.file) + ".txt"))
+        << row.file;
   }
 }
 

@@ -3,17 +3,20 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <map>
+#include <sstream>
+
 #include "QuorixWidgets/info/InfoTitle.h"
 #include "QuorixWidgets/info/UIApplication.h"
-#include "QuorixWidgets/localization/ResourceBundle.h"
 #include "QuorixWidgets/overlay/WebViewController.h"
 #include "platform/swiftui/UIViewRepresentable.h"
 #include "platform/uikit/UIWindowScene.h"
-#include "tests/core/MemoryBundle.h"
+#include "tests/core/OtherResources.h"
 #include "tests/core/TestWindow.h"
 
 using namespace quorix;
 using foundation::MainQueue;
+using quorix::testing::OtherResources;
 using quorix::testing::TestWindow;
 using State = uikit::UIScene::ActivationState;
 
@@ -24,15 +27,12 @@ std::shared_ptr<UIInfoWidget> widget(const UIKitStyleConfiguration& style = {},
   return UIInfoWidget::make(std::make_shared<UIInfoWidgetViewModel>(std::move(name), "en", style));
 }
 
-/// An app of one scene for each of `states`, with a window in each.
+/// An app in words: the scenes, each its state and what tells its windows from plain ones, as in
+/// "active plain key+hidden / background high".
 struct App {
-  explicit App(std::vector<State> states) {
-    for (const State state : states) {
-      scenes.push_back(std::make_shared<uikit::UIWindowScene>());
-      scenes.back()->setActivationState(state);
-      scenes.back()->addWindow(std::make_shared<uikit::UIWindow>());
-      uikit::UIApplication::shared().connect(scenes.back());
-    }
+  explicit App(const std::string& words) {
+    std::istringstream all(words);
+    for (std::string scene; std::getline(all, scene, '/');) add(scene);
   }
   ~App() {
     for (const auto& scene : scenes) uikit::UIApplication::shared().disconnect(scene);
@@ -40,24 +40,38 @@ struct App {
   App(const App&) = delete;
   App& operator=(const App&) = delete;
 
-  const std::shared_ptr<uikit::UIWindow>& window(std::size_t scene, std::size_t index = 0) {
-    return scenes[scene]->windows()[index];
+  void add(const std::string& scene) {
+    static const std::map<std::string, State> states = {{"active", State::foregroundActive},
+                                                        {"inactive", State::foregroundInactive},
+                                                        {"background", State::background},
+                                                        {"unattached", State::unattached}};
+    std::istringstream words(scene);
+    std::string word;
+    words >> word;
+    scenes.push_back(std::make_shared<uikit::UIWindowScene>());
+    scenes.back()->setActivationState(states.at(word));
+    while (words >> word) {
+      const auto is = [&](const char* what) { return word.find(what) != std::string::npos; };
+      const auto window = std::make_shared<uikit::UIWindow>();
+      if (is("key")) window->makeKey();
+      window->setHidden(is("hidden"));
+      if (is("high")) window->setWindowLevel(uikit::UIWindow::alertLevel);
+      scenes.back()->addWindow(window);
+    }
+    uikit::UIApplication::shared().connect(scenes.back());
+  }
+
+  /// "scene window", counted from 0; empty for no window of the app.
+  std::string placeOf(const std::shared_ptr<uikit::UIWindow>& window) const {
+    for (std::size_t i = 0; i < scenes.size(); ++i) {
+      const auto& windows = scenes[i]->windows();
+      const auto at = std::find(windows.begin(), windows.end(), window);
+      if (at != windows.end())
+        return std::to_string(i) + " " + std::to_string(at - windows.begin());
+    }
+    return {};
   }
   std::vector<std::shared_ptr<uikit::UIWindowScene>> scenes;
-};
-
-/// The library's resources without some of them, for as long as it lives.
-struct BrokenBuild {
-  explicit BrokenBuild(std::map<std::string, std::string> files) {
-    libraryBundle();  // registers the real one
-    foundation::Bundle::registerBundle(kResourceBundleIdentifier,
-                                       quorix::testing::memoryBundle(std::move(files)));
-  }
-  ~BrokenBuild() {
-    foundation::Bundle::registerBundle(kResourceBundleIdentifier, foundation::Bundle::embedded());
-  }
-  BrokenBuild(const BrokenBuild&) = delete;
-  BrokenBuild& operator=(const BrokenBuild&) = delete;
 };
 
 }  // namespace
@@ -125,11 +139,11 @@ TEST(UIInfoWidget, FollowsItsModelWithoutKeepingItself) {
 TEST(UIInfoWidget, PresentsTheOverlayOverTheTopmostScreen) {
   TestWindow window(swiftui::hosting(widget({}, "Ann")));
   window.tap("Read more");  // into nowhere: there is no window
-  App app({State::foregroundActive});
+  App app("active plain");
   window.tap("Read more");  // nor a screen
   const auto root = std::make_shared<uikit::UIViewController>();
   const auto alert = std::make_shared<uikit::UIViewController>();
-  app.window(0)->setRootViewController(root);
+  app.scenes[0]->windows()[0]->setRootViewController(root);
   root->present(alert, true);
   window.tap(layout::Point{100, 20});  // the title
   EXPECT_EQ(alert->presentedViewController(), nullptr);
@@ -146,67 +160,30 @@ TEST(UIInfoWidget, PresentsTheOverlayOverTheTopmostScreen) {
 }
 
 TEST(UIApplication, FindsTheKeyWindow) {
-  using Level = uikit::UIWindow::Level;
-  struct Window {
-    bool key;
-    bool hidden;
-    Level level;
-  };
-  struct Scene {
-    State state;
-    std::vector<Window> windows;
-  };
-  constexpr Level normal = uikit::UIWindow::normalLevel, alert = uikit::UIWindow::alertLevel;
-  constexpr State active = State::foregroundActive;
-  const Window plain{false, false, normal}, key{true, false, normal}, hidden{false, true, normal},
-      hiddenKey{true, true, normal}, high{false, false, alert};
-  struct {
-    const char* name;
-    std::vector<Scene> scenes;
-    const char* found;  ///< scene and window
-  } const rows[] = {
-      {"no scene", {}, ""},
-      {"the key window", {{active, {plain, key}}}, "0 1"},
-      {"even a hidden one", {{active, {plain, hiddenKey}}}, "0 1"},
-      {"the first in plain sight", {{active, {hidden, high, plain, plain}}}, "0 2"},
-      {"none in plain sight", {{active, {hidden, high}}}, "0 0"},
-      {"an active scene without windows", {{active, {}}, {State::background, {key}}}, ""},
-      {"the first active scene", {{active, {hidden}}, {active, {key}}}, "0 0"},
-      {"after others", {{State::background, {key}}, {active, {plain}}}, "1 0"},
-      {"none active",
-       {{State::unattached, {plain}}, {State::foregroundInactive, {plain, key}}},
-       "1 1"},
-      {"none active, background", {{State::background, {key}}}, "0 0"},
-      {"none active, no key", {{State::background, {plain}}, {State::unattached, {high}}}, ""},
+  const struct {
+    const char *name, *app, *found;
+  } rows[] = {
+      {"no scene", "", ""},
+      {"the key window", "active plain key", "0 1"},
+      {"even a hidden one", "active plain key+hidden", "0 1"},
+      {"the first in plain sight", "active hidden high plain plain", "0 2"},
+      {"none in plain sight", "active hidden high", "0 0"},
+      {"an active scene without windows", "active / background key", ""},
+      {"the first active scene", "active hidden / active key", "0 0"},
+      {"after others", "background key / active plain", "1 0"},
+      {"none active", "unattached plain / inactive plain key", "1 1"},
+      {"none active, background", "background key", "0 0"},
+      {"none active, no key", "background plain / unattached high", ""},
   };
   // A scene of another kind is passed over wherever it stands.
   const auto other = std::make_shared<uikit::UIScene>();
-  other->setActivationState(active);
+  other->setActivationState(State::foregroundActive);
   uikit::UIApplication::shared().connect(other);
   for (const auto& row : rows) {
-    SCOPED_TRACE(row.name);
-    App app({});
-    std::string found;
-    for (const Scene& scene : row.scenes) {
-      app.scenes.push_back(std::make_shared<uikit::UIWindowScene>());
-      app.scenes.back()->setActivationState(scene.state);
-      uikit::UIApplication::shared().connect(app.scenes.back());
-      for (const Window& window : scene.windows) {
-        const auto made = std::make_shared<uikit::UIWindow>();
-        if (window.key) made->makeKey();
-        made->setHidden(window.hidden);
-        made->setWindowLevel(window.level);
-        app.scenes.back()->addWindow(made);
-      }
-    }
+    const App app(row.app);
     const auto window = UIApplication::getKeyWindow();
-    for (std::size_t i = 0; window && i < app.scenes.size(); ++i) {
-      const auto& windows = app.scenes[i]->windows();
-      const auto at = std::find(windows.begin(), windows.end(), window);
-      if (at == windows.end()) continue;
-      found = std::to_string(i) + " " + std::to_string(at - windows.begin());
-    }
-    EXPECT_EQ(found, row.found);
+    EXPECT_EQ(app.placeOf(window), row.found) << row.name;
+    EXPECT_EQ(window != nullptr, *row.found != '\0') << row.name;
   }
   uikit::UIApplication::shared().disconnect(other);
 }
@@ -232,11 +209,9 @@ TEST(UIInfoWidgetDeath, StopsOnWhatItCannotBe) {
       {{{"UIInfoWidget.xib", without("linkLabel")}}, "Unexpectedly found nil"},
   };
   for (const auto& [files, message] : rows) {
-    const BrokenBuild broken(files);
+    const OtherResources broken(files);
     EXPECT_DEATH(UIInfoWidget::make(model), message);
   }
-  const std::map<std::string, std::string> untitledFiles = {
-      {"en.lproj/Localizable.strings", "\"info-widget-title\" = \"\";"}};
-  const BrokenBuild untitled(untitledFiles);
+  const auto untitled = OtherResources::english("\"info-widget-title\" = \"\";");
   EXPECT_DEATH(UIInfoWidgetViewModel(std::nullopt, "en", {}), "Index out of range");
 }

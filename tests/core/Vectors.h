@@ -4,8 +4,10 @@
 #include <simdjson.h>
 
 #include <bit>
+#include <charconv>
 #include <fstream>
 #include <functional>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -26,6 +28,14 @@ inline std::string text(simdjson::dom::element row, std::string_view key) {
   return std::string(std::string_view(row[key]));
 }
 
+/// A number in decimal digits, which JSON cannot hold in full; also "inf" and "nan".
+inline double number(simdjson::dom::element row, std::string_view key) {
+  const std::string digits = text(row, key);
+  double value = 0;
+  std::from_chars(digits.data(), digits.data() + digits.size(), value);
+  return value;
+}
+
 /// A number that is written as the hexadecimal digits of its 64 bits.
 inline double bitsOfDouble(simdjson::dom::element row, std::string_view key) {
   return std::bit_cast<double>(std::uint64_t{std::stoull(text(row, key), nullptr, 16)});
@@ -39,6 +49,12 @@ inline std::string fromHex(std::string_view hex) {
     bytes += static_cast<char>(std::stoi(std::string(hex.substr(i, 2)), nullptr, 16));
   }
   return bytes;
+}
+
+/// All of tests/data/<name>.
+inline std::string contentsOf(const std::string& name) {
+  std::ifstream file(TEST_DATA "/" + name);
+  return {std::istreambuf_iterator<char>(file), {}};
 }
 
 /// The lines of tests/data/<name>.txt that are no comments. "<EF BB BF>" in them stands for these

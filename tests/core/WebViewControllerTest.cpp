@@ -4,18 +4,13 @@
 
 #include "QuorixWidgets/localization/UIColor.h"
 #include "platform/swiftui/UIViewControllerRepresentable.h"
-#include "platform/uikit/URLOpener.h"
+#include "tests/core/OpenedAddresses.h"
 #include "tests/core/TestWindow.h"
 
 using namespace quorix;
 using quorix::testing::TestWindow;
 
 namespace {
-
-struct Opened final : uikit::URLOpener {
-  std::vector<std::string> addresses;
-  void open(const foundation::URL& url) override { addresses.push_back(url.absoluteString()); }
-};
 
 const webkit::WebContent* pageOf(const render::Scene& scene) {
   for (const auto& item : scene.items) {
@@ -69,8 +64,7 @@ TEST(WebViewController, HasNoControlUnlessAsked) {
 }
 
 TEST(WebViewController, NewWindowsLeaveTheApp) {
-  const auto opener = std::make_shared<Opened>();
-  const auto before = uikit::URLOpener::install(opener);
+  const quorix::testing::OpenedAddresses opened;
   auto overlay = std::make_shared<WebViewController>();
   const auto web =
       std::dynamic_pointer_cast<webkit::WKWebView>(overlay->view()->subviews().front());
@@ -78,13 +72,12 @@ TEST(WebViewController, NewWindowsLeaveTheApp) {
   page->onNewWindow(foundation::URL::parse("https://shop.example/terms"));
   page->onNewWindow(foundation::URL::parse("file:///etc/passwd"));
   page->onNewWindow(std::nullopt);
-  EXPECT_EQ(opener->addresses, std::vector<std::string>{"https://shop.example/terms"});
+  EXPECT_EQ(opened.list(), std::vector<std::string>{"https://shop.example/terms"});
 
   // The page may outlive its controller in an engine, and asks nobody then.
   const std::weak_ptr<WebViewController> watched = overlay;
   overlay.reset();
   EXPECT_TRUE(watched.expired()) << "the web view keeps nobody";
   page->onNewWindow(foundation::URL::parse("https://shop.example/late"));
-  EXPECT_EQ(opener->addresses.size(), 1u);
-  uikit::URLOpener::install(before);
+  EXPECT_EQ(opened.list().size(), 1u);
 }

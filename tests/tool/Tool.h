@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
 #include <QTemporaryDir>
 #include <string>
 
@@ -14,15 +13,13 @@ class Tool {
     std::string err;
   };
 
-  Run run(const QStringList& words, const std::string& input = {}) const;
-  /// Runs a shell's command line, with the tool on the path and a host's font file as $FACE.
+  /// Runs a shell's command line, with the tool on the path, a host's font file as
+  /// $FACE and the folder of the library's tables as $STRINGS.
   Run shell(const std::string& line) const;
 
   QString path(const QString& file) const { return folder_.filePath(file); }
-  QString write(const QString& file, const QByteArray& bytes) const;
 
  private:
-  Run start(const QString& program, const QStringList& words, const std::string& input) const;
   QTemporaryDir folder_;
 };
 

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/uikit/URLOpener.h"
+
+namespace quorix::testing {
+
+/// Stands in for the device's way to other apps while it lives, and notes what it is asked to open.
+class OpenedAddresses {
+ public:
+  OpenedAddresses() : before_(uikit::URLOpener::install(opener_)) {}
+  ~OpenedAddresses() { uikit::URLOpener::install(before_); }
+  OpenedAddresses(const OpenedAddresses&) = delete;
+  OpenedAddresses& operator=(const OpenedAddresses&) = delete;
+
+  const std::vector<std::string>& list() const { return opener_->addresses; }
+
+ private:
+  struct Opener final : uikit::URLOpener {
+    std::vector<std::string> addresses;
+    void open(const foundation::URL& url) override { addresses.push_back(url.absoluteString()); }
+  };
+  std::shared_ptr<Opener> opener_ = std::make_shared<Opener>();
+  std::shared_ptr<uikit::URLOpener> before_;
+};
+
+}  // namespace quorix::testing

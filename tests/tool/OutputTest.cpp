@@ -1,0 +1,62 @@
+#include <gtest/gtest.h>
+
+#include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include "Tool.h"
+
+namespace {
+
+const std::string score = "quorix score --token $(quorix mint) ", info = "quorix info ",
+                  imperative = info + "--form imperative ";
+
+TEST(ToolOutput, IsJSON) {
+  const struct {
+    std::string command;
+    int height, elements;
+  } rows[] = {{score + "--sheet", 750, 6}, {info, 96, 2}, {imperative, 96, 2}};
+  for (const auto& row : rows) {
+    const auto run = Tool().shell(row.command + " --json --frames --accessibility");
+    const auto document = QJsonDocument::fromJson(QByteArray::fromStdString(run.out)).object();
+    EXPECT_EQ(document["frames"]["size"]["height"].toInt(), row.height) << row.command;
+    EXPECT_EQ(document["accessibility"].toArray().size(), row.elements) << row.command;
+    EXPECT_NE(document["accessibility"][0]["label"].toString(), "") << row.command;
+  }
+}
+
+QImage picture(const std::string& command) {
+  const Tool tool;
+  const auto run = tool.shell(command + " --out picture.png");
+  EXPECT_EQ(run.status, 0) << command << run.err;
+  return QImage(tool.path("picture.png"));
+}
+
+TEST(ToolOutput, PicturesHaveThePixelsAskedFor) {
+  const struct {
+    std::string command;
+    int width, height;  // a height of 0 is what the row needs
+  } rows[] = {
+      {score + "--width 320 --scale 3", 960, 0},
+      {score + "--width 100.5 --scale 2 --height 20.25", 201, 41},
+      {score + "--sheet --width 200", 200, 400},
+      {score + "--sheet --width 200 --height 90 --scale 0.5", 100, 45},
+      {info + "--width 300 --scale 2", 600, 0},
+  };
+  for (const auto& row : rows) {
+    const QImage image = picture(row.command);
+    EXPECT_EQ(image.width(), row.width) << row.command;
+    EXPECT_EQ(image.height(), row.height ? row.height : image.height()) << row.command;
+  }
+}
+
+TEST(ToolOutput, PicturesHaveTheColoursAskedFor) {
+  const QImage own = picture(info + "--background-color '#FAF7F0' --border");
+  EXPECT_EQ(own.pixelColor(5, 5).name().toStdString(), "#faf7f0");
+  EXPECT_NE(own.pixelColor(0, 5), own.pixelColor(5, 5));
+  EXPECT_NE(picture(imperative + "--appearance dark").pixelColor(5, 5),
+            picture(imperative).pixelColor(5, 5));
+}
+
+}  // namespace
