@@ -19,12 +19,9 @@ using quorix::tool::Failure;
 using quorix::tool::Outcome;
 
 constexpr const Command* commands[] = {
-    &quorix::tool::mintCommand,
-    &quorix::tool::decodeCommand,
-    &quorix::tool::scoreCommand,
-    &quorix::tool::infoCommand,
-    &quorix::tool::overlayUrlCommand,
-    &quorix::tool::stringsCheckCommand,
+    &quorix::tool::mintCommand,       &quorix::tool::decodeCommand,
+    &quorix::tool::scoreCommand,      &quorix::tool::infoCommand,
+    &quorix::tool::overlayUrlCommand, &quorix::tool::stringsCheckCommand,
 };
 
 Outcome run(const Command& command, std::span<const std::string> words) {
@@ -53,13 +50,22 @@ const Command* commandOf(std::span<const std::string> words) {
   return found == std::end(commands) ? nullptr : *found;
 }
 
+/// Why `first` is no command; where it is the first word of one, with that command.
+std::string unknown(const std::string& first) {
+  const auto longer = std::ranges::find_if(
+      commands, [&](const Command* command) { return command->name.starts_with(first + ' '); });
+  const std::string message = "unknown command \"" + first + '"';
+  if (longer == std::end(commands)) return message;
+  return message + "; there is \"" + std::string((*longer)->name) + '"';
+}
+
 Outcome run(std::span<const std::string> words) {
   if (words.empty()) return placed(Failure::usage("no command given"), {});
   const std::string& first = words.front();
   if (first == "--version") return "quorix " QUORIX_VERSION "\n";
   if (first == "--help" || first == "-h") return quorix::tool::helpText(commands);
   const Command* const command = commandOf(words);
-  if (command == nullptr) return placed(Failure::usage("unknown command \"" + first + '"'), {});
+  if (command == nullptr) return placed(Failure::usage(unknown(first)), {});
   Outcome outcome = run(*command, words.subspan(command->name == first ? 1 : 2));
   if (auto* failure = std::get_if<Failure>(&outcome)) {
     *failure = placed(*failure, std::string(command->name));
