@@ -7,6 +7,7 @@
 #include <QtGlobal>
 
 #include "qt/WebComponent.h"
+#include "qt/WebLog.h"
 
 #ifdef Q_OS_UNIX
 #include <dlfcn.h>
@@ -46,12 +47,12 @@ WebComponent* loaded(const QString& name) {
   QLibrary library(file);
   const auto entry = reinterpret_cast<WebComponentEntry>(library.resolve(webComponentSymbol));
   if (!entry) {
-    qWarning("Quorix: no web engine in %s: %s", qUtf8Printable(file),
-             qUtf8Printable(library.errorString()));
+    qCWarning(webLog, "no web engine in %s: %s", qUtf8Printable(file),
+              qUtf8Printable(library.errorString()));
     return nullptr;
   }
   WebComponent* component = entry(webComponentVersion);
-  if (!component) qWarning("Quorix: %s is of another version", qUtf8Printable(file));
+  if (!component) qCWarning(webLog, "%s is of another version", qUtf8Printable(file));
   return component;
 }
 

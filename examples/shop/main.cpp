@@ -62,15 +62,20 @@ int writePictures(int argc, char** argv, const std::string& folder) {
   return Pictures(QString::fromStdString(folder)).write() ? 0 : 1;
 }
 
+/// The shop with all that answers for it, and its window.
+struct OpenShop {
+  StandInServices services{250ms};
+  Shop shop;
+  OverlayPages pages{shop};
+  WayOut wayOut{shop};
+  QuickWindow quick{shop};
+};
+
 int openQuick(int argc, char** argv) {
   const QGuiApplication app(argc, argv);
   prepare();
-  const StandInServices services(250ms);
-  Shop shop;
-  const OverlayPages pages(shop);
-  const WayOut wayOut(shop);
-  const QuickWindow quick(shop);
-  quick.window().show();
+  const OpenShop open;
+  open.quick.window().show();
   return QGuiApplication::exec();
 }
 
@@ -78,20 +83,17 @@ int openQuick(int argc, char** argv) {
 int openBoth(int argc, char** argv) {
   const QApplication app(argc, argv);
   prepare();
-  const StandInServices services(250ms);
-  Shop shop;
-  const OverlayPages pages(shop);
-  const WayOut wayOut(shop);
-  const QuickWindow quick(shop);
-  WidgetsWindow widgets(shop);
+  OpenShop open;
+  QQuickWindow& quick = open.quick.window();
+  WidgetsWindow widgets(open.shop);
   const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
   const int gap = 12;
-  const int both = quick.window().width() + gap + widgets.width();
+  const int both = quick.width() + gap + widgets.width();
   const int left = room.left() + qMax(0, (room.width() - both) / 2);
   const int top = room.top() + qMax(0, (room.height() - widgets.height()) / 2);
-  quick.window().setPosition(left, top);
-  widgets.move(left + quick.window().width() + gap, top);
-  quick.window().show();
+  quick.setPosition(left, top);
+  widgets.move(left + quick.width() + gap, top);
+  quick.show();
   widgets.show();
   return QApplication::exec();
 }

@@ -19,13 +19,22 @@ class HostedContent : public layout::SelfSizing {
   /// `changed` is called whenever size or scene may have become another.
   void onChange(std::function<void()> changed) { changed_ = std::move(changed); }
 
+  /// Runs `update` and tells nobody of what it changes: for changes that the asking host makes.
+  template <class Update>
+  void updateQuietly(Update update) {
+    const bool before = std::exchange(quiet_, true);
+    update();
+    quiet_ = before;
+  }
+
  protected:
   void tellChanged() const {
-    if (changed_) changed_();
+    if (changed_ && !quiet_) changed_();
   }
 
  private:
   std::function<void()> changed_;
+  bool quiet_ = false;
 };
 
 }  // namespace quorix::render

@@ -18,11 +18,9 @@ void UIViewContent::show(std::shared_ptr<UIView> view) {
   if (view_) view_->endShownBy(this);
   view_ = std::move(view);
   if (view_) {
-    view_->setShownBy(this, [this] {
-      if (!quiet_) tellChanged();
-    });
+    view_->setShownBy(this, [this] { tellChanged(); });
   }
-  if (!quiet_) tellChanged();
+  tellChanged();
 }
 
 layout::Size UIViewContent::sizeThatFits(layout::ProposedSize proposal, text::TextEngine& engine,

@@ -19,13 +19,6 @@ class UIViewContent : public render::HostedContent {
   const std::shared_ptr<UIView>& view() const { return view_; }
   /// Shows another view.
   void show(std::shared_ptr<UIView> view);
-  /// Runs `update` and tells nobody of what it changes: for changes that the asking host makes.
-  template <class Update>
-  void updateQuietly(Update update) {
-    const bool before = std::exchange(quiet_, true);
-    update();
-    quiet_ = before;
-  }
 
   /// What constraints and content ask for, within the proposal; what they leave open is taken
   /// whole.
@@ -36,7 +29,6 @@ class UIViewContent : public render::HostedContent {
 
  private:
   std::shared_ptr<UIView> view_;
-  bool quiet_ = false;
 };
 
 }  // namespace quorix::uikit

@@ -11,7 +11,7 @@ void UIViewControllerContent::show(std::shared_ptr<UIViewController> controller)
   if (controller == controller_) return;
   controller_ = std::move(controller);
   content_.reset();
-  if (!quiet_) tellChanged();
+  tellChanged();
 }
 
 layout::Size UIViewControllerContent::sizeThatFits(layout::ProposedSize proposal, text::TextEngine&,
@@ -24,9 +24,7 @@ render::Scene UIViewControllerContent::scene(layout::Size size, const render::Di
   if (!controller_) return {};
   if (!content_) {
     content_.emplace(controller_->view());
-    content_->onChange([this] {
-      if (!quiet_) tellChanged();
-    });
+    content_->onChange([this] { tellChanged(); });
   }
   return content_->scene(size, display, engine);
 }

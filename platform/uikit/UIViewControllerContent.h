@@ -17,13 +17,6 @@ class UIViewControllerContent final : public render::HostedContent {
   const std::shared_ptr<UIViewController>& controller() const { return controller_; }
   /// Shows another controller.
   void show(std::shared_ptr<UIViewController> controller);
-  /// As `UIViewContent::updateQuietly`.
-  template <class Update>
-  void updateQuietly(Update update) {
-    const bool before = std::exchange(quiet_, true);
-    update();
-    quiet_ = before;
-  }
 
   layout::Size sizeThatFits(layout::ProposedSize proposal, text::TextEngine& engine,
                             double scale) override;
@@ -33,7 +26,6 @@ class UIViewControllerContent final : public render::HostedContent {
  private:
   std::shared_ptr<UIViewController> controller_;
   std::optional<UIViewContent> content_;  // once the view is loaded
-  bool quiet_ = false;
 };
 
 }  // namespace quorix::uikit

@@ -7,6 +7,7 @@
 
 #ifdef Q_OS_LINUX
 #include <unistd.h>
+#include "qt/WebLog.h"
 #endif
 
 namespace quorix::qt {
@@ -19,7 +20,7 @@ bool isRefused() {
                          !qgetenv("QTWEBENGINE_CHROMIUM_FLAGS").contains("--no-sandbox") &&
                          !QCoreApplication::arguments().contains(QStringLiteral("--no-sandbox"));
   if (geteuid() == 0 && sandboxed) {
-    qWarning("Quorix: Qt WebEngine has no sandbox for root, so no page is shown");
+    qCWarning(webLog, "Qt WebEngine has no sandbox for root, so no page is shown");
     return true;
   }
 #endif

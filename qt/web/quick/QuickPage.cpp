@@ -6,6 +6,7 @@
 #include <QQuickWindow>
 
 #include "platform/webkit/NavigationRules.h"
+#include "qt/WebLog.h"
 
 namespace quorix::qt {
 
@@ -22,7 +23,7 @@ std::unique_ptr<QuickPage> QuickPage::make(QQmlComponent& source, QQuickWebEngin
        {QStringLiteral("profile"), QVariant::fromValue(&profile)}});
   page->view_ = qobject_cast<QQuickItem*>(made);
   if (!page->view_) {
-    qWarning("Quorix: no page can be shown: %s", qUtf8Printable(source.errorString()));
+    qCWarning(webLog, "no page can be shown: %s", qUtf8Printable(source.errorString()));
     delete made;
     return nullptr;
   }

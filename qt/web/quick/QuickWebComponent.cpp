@@ -6,6 +6,7 @@
 #include <QSGRendererInterface>
 
 #include "qt/ApplicationLifetime.h"
+#include "qt/WebLog.h"
 #include "qt/web/WebEngine.h"
 #include "qt/web/quick/QuickPage.h"
 
@@ -31,8 +32,9 @@ std::unique_ptr<WebPage> QuickWebComponent::open(QObject& place, WebPage::Option
   auto* item = qobject_cast<QQuickItem*>(&place);
   if (!item || !item->window() || !WebEngine::start()) return nullptr;
   if (!reaches(*item->window())) {
-    qWarning(
-        "Quorix: no page can be shown in this window. Call "
+    qCWarning(
+        webLog,
+        "no page can be shown in this window. Call "
         "QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts) before making the application");
     return nullptr;
   }
