@@ -30,7 +30,10 @@ class Data {
   std::span<const std::byte> bytes() const { return std::as_bytes(std::span(bytes_)); }
   std::size_t size() const { return bytes_.size(); }
 
-  bool operator==(const Data& other) const { return bytes_ == other.bytes_; }
+  bool operator==(const Data& other) const {
+    const bool same = bytes_.data() == other.bytes_.data() && size() == other.size();
+    return same || bytes_ == other.bytes_;
+  }
 
  private:
   std::shared_ptr<const std::string> owner_;

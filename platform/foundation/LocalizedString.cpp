@@ -2,8 +2,9 @@
 
 #include <utility>
 
+#include "platform/foundation/ParsedFileCache.h"
 #include "platform/foundation/StringFormat.h"
-#include "platform/foundation/StringTableCache.h"
+#include "platform/foundation/StringsFile.h"
 
 namespace quorix::foundation {
 namespace {
@@ -13,11 +14,17 @@ StringLookup& mainTable() {
   return table;
 }
 
+std::shared_ptr<const StringTable> readTable(std::string_view bytes) {
+  auto reading = readStringsFile(bytes);
+  auto* table = std::get_if<StringTable>(&reading);
+  return table == nullptr ? nullptr : std::make_shared<const StringTable>(std::move(*table));
+}
+
 }  // namespace
 
 std::string localizedString(const Bundle& bundle, std::string_view key, std::string_view table) {
   // Never destroyed: a text may be asked for while the process ends.
-  static StringTableCache& cache = *new StringTableCache;
+  static auto& cache = *new ParsedFileCache<StringTable>(readTable);
   const auto file = bundle.data(std::string(table) + ".strings");
   const auto entries = file ? cache.read(*file) : nullptr;
   if (!entries) return std::string(key);

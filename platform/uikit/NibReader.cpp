@@ -1,7 +1,6 @@
 #include "platform/uikit/NibReader.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <utility>
 
@@ -9,7 +8,6 @@ namespace quorix::uikit {
 namespace {
 
 constexpr int deepest = 32;
-constexpr double longest = 1e6;  // points; nothing sensible is longer
 
 // What the designer's tool writes and what changes nothing here, or what is read below.
 constexpr std::string_view viewAttributes =
@@ -20,233 +18,196 @@ constexpr std::string_view labelAttributes =
     "translatesAutoresizingMaskIntoConstraints horizontalHuggingPriority verticalHuggingPriority "
     "text textAlignment lineBreakMode numberOfLines baselineAdjustment adjustsFontSizeToFit";
 
-bool isWordOf(std::string_view words, std::string_view word) {
-  if (word.empty()) return false;
-  const auto ends = [&](std::size_t at) { return at == words.size() || words[at] == ' '; };
-  for (std::size_t at = words.find(word); at != words.npos; at = words.find(word, at + 1)) {
-    if ((at == 0 || words[at - 1] == ' ') && ends(at + word.size())) return true;
-  }
-  return false;
-}
-
-std::string tag(pugi::xml_node node) { return '<' + std::string(node.name()) + '>'; }
+std::string tag(pugi::xml_node node) { return NibElements::tag(node); }
 
 }  // namespace
 
-foundation::Result<Nib::Views> NibReader::read(std::string_view owner,
-                                               const Nib::Outlets& outlets) {
+foundation::Result<NibDocument> NibReader::read() {
   pugi::xml_document file;
   const auto parsed = file.load_buffer(xml_.data(), xml_.size());
   if (parsed) {
-    readDocument(file.document_element(), owner);
-    for (const Joined& joined : constraints_) join(joined);
-    for (const Connection& connection : connections_) connect(connection, outlets, true);
+    readDocument(file.document_element());
+    for (const Joined& joined : constraints_) readConstraint(joined);
+    for (const pugi::xml_node outlet : outlets_) readOutlet(outlet);
   } else {
-    refuseAt(parsed.offset, parsed.description());
+    elements_.refuseAt(parsed.offset, parsed.description());
   }
-  if (refusal_) return foundation::Error{"Nib", 1, *refusal_};
-  for (const Connection& connection : connections_) connect(connection, outlets, false);
-  return std::move(views_);
+  if (const auto& refusal = elements_.refusal()) return foundation::Error{"Nib", 1, *refusal};
+  return std::move(document_);
 }
 
-void NibReader::refuse(pugi::xml_node at, const std::string& why) {
-  refuseAt(at.offset_debug(), why);
-}
-
-void NibReader::refuseAt(std::ptrdiff_t offset, const std::string& why) {
-  if (refusal_) return;
-  const auto length = std::clamp<std::ptrdiff_t>(offset, 0, std::ssize(xml_));
-  const auto line = 1 + std::count(xml_.begin(), xml_.begin() + length, '\n');
-  refusal_ = name_ + ".xib:" + std::to_string(line) + ": " + why;
-}
-
-void NibReader::checkAttributes(pugi::xml_node node, std::string_view known) {
-  for (const pugi::xml_attribute attribute : node.attributes()) {
-    if (isWordOf(known, attribute.name())) continue;
-    refuse(node, "the attribute " + std::string(attribute.name()) + " of " + tag(node) +
-                     " is not supported");
-  }
-}
-
-bool NibReader::flag(pugi::xml_node node, const char* attribute, bool otherwise) {
-  if (!node.attribute(attribute)) return otherwise;
-  expect(node, attribute, "YES NO");
-  return std::string_view(node.attribute(attribute).value()) == "YES";
-}
-
-double NibReader::number(pugi::xml_node node, const char* attribute,
-                         std::optional<double> otherwise) {
-  const std::string_view text = node.attribute(attribute).value();
-  if (text.empty() && otherwise) return *otherwise;
-  double value = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-  const bool whole = error == std::errc() && end == text.data() + text.size();
-  if (whole && std::abs(value) <= longest) return value;
-  refuse(node, std::string(attribute) + " of " + tag(node) + " is no number of points");
-  return 0;
-}
-
-/// Refuses a value of the attribute, which may be absent, that is none of `values`.
-void NibReader::expect(pugi::xml_node node, const char* attribute, std::string_view values) {
-  const pugi::xml_attribute found = node.attribute(attribute);
-  if (!found || isWordOf(values, found.value())) return;
-  refuse(node,
-         std::string(attribute) + " '" + found.value() + "' of " + tag(node) + " is not supported");
-}
-
-void NibReader::readDocument(pugi::xml_node document, std::string_view owner) {
+void NibReader::readDocument(pugi::xml_node document) {
   constexpr std::string_view type = "com.apple.InterfaceBuilder3.CocoaTouch.XIB";
   if (std::string_view(document.name()) != "document" ||
       document.attribute("type").value() != type) {
-    return refuse(document, "not an interface file");
+    return elements_.refuse(document, "not an interface file");
   }
   for (const pugi::xml_node part : document.children()) {
     const std::string_view kind = part.name();
     if (kind == "device" || kind == "dependencies") continue;  // the tool's own
     if (kind != "objects") {
-      refuse(part, tag(part) + " is not supported");
+      elements_.refuse(part, tag(part) + " is not supported");
       continue;
     }
     for (const pugi::xml_node object : part.children()) {
       if (std::string_view(object.name()) == "placeholder") {
-        readPlaceholder(object, owner);
-      } else if (auto view = readView(object, 0)) {
-        views_.push_back(std::move(view));
+        readPlaceholder(object);
+      } else {
+        readView(object, std::nullopt, 0);
       }
     }
   }
 }
 
-void NibReader::readPlaceholder(pugi::xml_node placeholder, std::string_view owner) {
-  checkAttributes(placeholder, "placeholderIdentifier id userLabel customClass customModule");
-  expect(placeholder, "placeholderIdentifier", "IBFilesOwner IBFirstResponder");
+void NibReader::readPlaceholder(pugi::xml_node placeholder) {
+  elements_.checkAttributes(placeholder,
+                            "placeholderIdentifier id userLabel customClass customModule");
+  elements_.expect(placeholder, "placeholderIdentifier", "IBFilesOwner IBFirstResponder");
   const bool isOwner =
       std::string_view(placeholder.attribute("placeholderIdentifier").value()) == "IBFilesOwner";
-  if (isOwner && placeholder.attribute("customClass").value() != owner) {
-    refuse(placeholder, "the owner is no " + std::string(owner));
+  if (isOwner) {
+    document_.owners.push_back({line(placeholder), placeholder.attribute("customClass").value()});
   }
   for (const pugi::xml_node part : placeholder.children()) {
     if (!isOwner || std::string_view(part.name()) != "connections") {
-      refuse(part, tag(part) + " of a placeholder is not supported");
+      elements_.refuse(part, tag(part) + " of a placeholder is not supported");
       continue;
     }
-    for (const pugi::xml_node outlet : part.children()) {
-      checkAttributes(outlet, "property destination id");
-      if (std::string_view(outlet.name()) != "outlet") {
-        refuse(outlet, tag(outlet) + " is not supported");
-      }
-      connections_.push_back(
-          {outlet, outlet.attribute("property").value(), outlet.attribute("destination").value()});
-    }
+    for (const pugi::xml_node outlet : part.children()) outlets_.push_back(outlet);
   }
 }
 
-std::shared_ptr<UIView> NibReader::readView(pugi::xml_node node, int depth) {
+void NibReader::readView(pugi::xml_node node, std::optional<std::size_t> superview, int depth) {
+  if (depth == deepest) return elements_.refuse(node, "views nested too deep");
   const std::string_view kind = node.name();
-  if ((kind != "view" && kind != "label") || depth == deepest) {
-    refuse(node, depth == deepest ? "views nested too deep" : tag(node) + " is not supported");
-    return nullptr;
+  if (kind != "view" && kind != "label") {
+    return elements_.refuse(node, tag(node) + " is not supported");
   }
-  const bool isLabel = kind == "label";
-  checkAttributes(node, isLabel ? labelAttributes : viewAttributes);
-  const auto view = isLabel ? makeLabel(node) : std::make_shared<UIView>();
-  view->setOpaque(flag(node, "opaque", true));
-  view->setHidden(flag(node, "hidden", false));
-  view->setUserInteractionEnabled(flag(node, "userInteractionEnabled", !isLabel));
-  view->setTranslatesAutoresizingMaskIntoConstraints(
-      flag(node, "translatesAutoresizingMaskIntoConstraints", true));
+  const std::size_t index = document_.views.size();
+  document_.views.push_back(read(node));
+  document_.views.back().superview = superview;
   const std::string id = node.attribute("id").value();
-  if (id.empty() || !byId_.emplace(id, view).second) refuse(node, "an id of its own is missing");
-  for (const pugi::xml_node part : node.children()) readPart(part, view, depth);
+  if (id.empty() || !byId_.emplace(id, index).second) {
+    elements_.refuse(node, "an id of its own is missing");
+  }
+  for (const pugi::xml_node part : node.children()) readPart(part, index, depth);
+}
+
+NibReader::View NibReader::read(pugi::xml_node node) {
+  const bool isLabel = std::string_view(node.name()) == "label";
+  elements_.checkAttributes(node, isLabel ? labelAttributes : viewAttributes);
+  View view;
+  if (isLabel) view.label = readLabel(node);
+  view.opaque = elements_.flag(node, "opaque", true);
+  view.hidden = elements_.flag(node, "hidden", false);
+  view.userInteractionEnabled = elements_.flag(node, "userInteractionEnabled", !isLabel);
+  view.translatesMask = elements_.flag(node, "translatesAutoresizingMaskIntoConstraints", true);
   return view;
 }
 
-std::shared_ptr<UILabel> NibReader::makeLabel(pugi::xml_node node) {
-  expect(node, "textAlignment", "natural");
-  expect(node, "lineBreakMode", "wordWrap tailTruncation");
-  expect(node, "adjustsFontSizeToFit", "NO");
-  const auto label = std::make_shared<UILabel>();
-  label->setText(node.attribute("text").value());
-  label->setNumberOfLines(static_cast<int>(number(node, "numberOfLines", 1)));
+NibDocument::Label NibReader::readLabel(pugi::xml_node node) {
+  elements_.expect(node, "textAlignment", "natural");
+  elements_.expect(node, "lineBreakMode", "wordWrap tailTruncation");
+  elements_.expect(node, "adjustsFontSizeToFit", "NO");
+  NibDocument::Label label;
+  label.text = node.attribute("text").value();
+  label.numberOfLines = static_cast<int>(elements_.number(node, "numberOfLines", 1));
   return label;
 }
 
-void NibReader::readPart(pugi::xml_node part, const std::shared_ptr<UIView>& view, int depth) {
+void NibReader::readPart(pugi::xml_node part, std::size_t index, int depth) {
   const std::string_view kind = part.name();
+  View& view = document_.views[index];
   if (kind == "rect") {
-    readFrame(part, *view);
+    readFrame(part, view);
   } else if (kind == "fontDescription") {
-    readFont(part, *view);
+    readFont(part, view);
   } else if (kind == "color") {
-    readColor(part, *view);
+    readColor(part, view);
   } else if (kind == "nil") {
-    checkAttributes(part, "key");
-    expect(part, "key", "textColor highlightedColor backgroundColor");
+    elements_.checkAttributes(part, "key");
+    elements_.expect(part, "key", "textColor highlightedColor backgroundColor");
   } else if (kind == "accessibility") {
-    readAccessibility(part, *view);
+    readAccessibility(part, view);
   } else if (kind == "subviews") {
-    for (const pugi::xml_node node : part.children()) {
-      if (auto subview = readView(node, depth + 1)) view->addSubview(std::move(subview));
-    }
+    for (const pugi::xml_node node : part.children()) readView(node, index, depth + 1);
   } else if (kind == "constraints") {
-    for (const pugi::xml_node node : part.children()) constraints_.push_back({node, view});
+    for (const pugi::xml_node node : part.children()) constraints_.push_back({node, index});
   } else if (kind != "autoresizingMask" || depth > 0) {  // the owner places the outermost view
-    refuse(part, tag(part) + " of a view is not supported");
+    elements_.refuse(part, tag(part) + " of a view is not supported");
   }
 }
 
-void NibReader::readFrame(pugi::xml_node rect, UIView& view) {
-  checkAttributes(rect, "key x y width height");
-  expect(rect, "key", "frame");
-  view.setFrame({{number(rect, "x", std::nullopt), number(rect, "y", std::nullopt)},
-                 {number(rect, "width", std::nullopt), number(rect, "height", std::nullopt)}});
+void NibReader::readFrame(pugi::xml_node rect, View& view) {
+  elements_.checkAttributes(rect, "key x y width height");
+  elements_.expect(rect, "key", "frame");
+  const auto points = [&](const char* name) { return elements_.number(rect, name, std::nullopt); };
+  view.frame = {{points("x"), points("y")}, {points("width"), points("height")}};
 }
 
-void NibReader::readFont(pugi::xml_node font, UIView& view) {
-  checkAttributes(font, "key type pointSize");
-  expect(font, "type", "system");
-  auto* label = dynamic_cast<UILabel*>(&view);
-  const double points = number(font, "pointSize", std::nullopt);
-  if (label == nullptr || points <= 0) return refuse(font, "not a font for this view");
-  label->setFont(UIFont::system(points));
+void NibReader::readFont(pugi::xml_node font, View& view) {
+  elements_.checkAttributes(font, "key type pointSize");
+  elements_.expect(font, "type", "system");
+  const double points = elements_.number(font, "pointSize", std::nullopt);
+  if (!view.label || points <= 0) return elements_.refuse(font, "not a font for this view");
+  view.label->font = UIFont::system(points);
 }
 
-void NibReader::readColor(pugi::xml_node color, UIView& view) {
-  checkAttributes(color, "key red green blue alpha colorSpace customColorSpace");
-  expect(color, "key", "backgroundColor textColor");
+void NibReader::readColor(pugi::xml_node color, View& view) {
+  elements_.checkAttributes(color, "key red green blue alpha colorSpace customColorSpace");
+  elements_.expect(color, "key", "backgroundColor textColor");
   const auto channel = [&](const char* name) {
-    const double value = std::clamp(number(color, name, std::nullopt), 0.0, 1.0);
+    const double value = std::clamp(elements_.number(color, name, std::nullopt), 0.0, 1.0);
     return static_cast<std::uint8_t>(std::lround(value * 255));
   };
   const std::string_view space = color.attribute("customColorSpace").value();
-  if (space != "sRGB") return refuse(color, "a colour is not in sRGB");
+  if (space != "sRGB") return elements_.refuse(color, "a colour is not in sRGB");
   auto value =
       UIColor::fixed({channel("red"), channel("green"), channel("blue"), channel("alpha")});
-  auto* label = dynamic_cast<UILabel*>(&view);
   if (std::string_view(color.attribute("key").value()) == "backgroundColor") {
-    view.setBackgroundColor(std::move(value));
-  } else if (label != nullptr) {
-    label->setTextColor(std::move(value));
+    view.backgroundColor = std::move(value);
+  } else if (view.label) {
+    view.label->textColor = std::move(value);
   } else {
-    refuse(color, "only labels have a text colour");
+    elements_.refuse(color, "only labels have a text colour");
   }
 }
 
-void NibReader::readAccessibility(pugi::xml_node accessibility, UIView& view) {
-  checkAttributes(accessibility, "key label");
-  expect(accessibility, "key", "accessibilityConfiguration");
-  if (const auto label = accessibility.attribute("label")) {
-    view.setAccessibilityLabel(label.value());
-  }
+void NibReader::readAccessibility(pugi::xml_node accessibility, View& view) {
+  elements_.checkAttributes(accessibility, "key label");
+  elements_.expect(accessibility, "key", "accessibilityConfiguration");
+  if (const auto label = accessibility.attribute("label")) view.accessibilityLabel = label.value();
   for (const pugi::xml_node traits : accessibility.children()) {
     if (std::string_view(traits.name()) != "accessibilityTraits") {
-      refuse(traits, tag(traits) + " is not supported");
+      elements_.refuse(traits, tag(traits) + " is not supported");
     }
-    checkAttributes(traits, "key button link header");
-    if (flag(traits, "button", false)) view.setAccessibilityTraits(UIAccessibilityTraits::button);
-    if (flag(traits, "link", false)) view.setAccessibilityTraits(UIAccessibilityTraits::link);
-    if (flag(traits, "header", false)) view.setAccessibilityTraits(UIAccessibilityTraits::header);
+    elements_.checkAttributes(traits, "key button link header");
+    using enum UIAccessibilityTraits;
+    if (elements_.flag(traits, "button", false)) view.accessibilityTraits = button;
+    if (elements_.flag(traits, "link", false)) view.accessibilityTraits = link;
+    if (elements_.flag(traits, "header", false)) view.accessibilityTraits = header;
   }
+}
+
+void NibReader::readConstraint(const Joined& joined) {
+  const pugi::xml_node node = joined.constraint;
+  elements_.checkAttributes(
+      node, "firstItem firstAttribute relation secondItem secondAttribute constant priority id");
+  elements_.expect(node, "relation", "equal lessThanOrEqual greaterThanOrEqual");
+  elements_.expect(node, "priority", "1000");
+  const auto first = edge(node, "firstAttribute");
+  if (!first || std::string_view(node.name()) != "constraint") {
+    return elements_.refuse(node, "a constraint's first edge is missing");
+  }
+  const auto second = edge(node, "secondAttribute");
+  const std::string_view relation = node.attribute("relation").value();
+  document_.constraints.push_back({line(node), joined.holder, item(joined, "firstItem"), *first,
+                                   relation == "lessThanOrEqual" ? LayoutRelation::lessThanOrEqual
+                                   : relation == "greaterThanOrEqual"
+                                       ? LayoutRelation::greaterThanOrEqual
+                                       : LayoutRelation::equal,
+                                   second ? item(joined, "secondItem") : std::nullopt, second,
+                                   elements_.number(node, "constant", 0)});
 }
 
 std::optional<LayoutAttribute> NibReader::edge(pugi::xml_node constraint, const char* attribute) {
@@ -257,54 +218,30 @@ std::optional<LayoutAttribute> NibReader::edge(pugi::xml_node constraint, const 
       {"width", LayoutAttribute::width},     {"height", LayoutAttribute::height}};
   const auto found = known.find(constraint.attribute(attribute).value());
   if (found != known.end()) return found->second;
-  if (constraint.attribute(attribute)) refuse(constraint, "a constraint's edge is not supported");
+  if (constraint.attribute(attribute)) {
+    elements_.refuse(constraint, "a constraint's edge is not supported");
+  }
   return std::nullopt;
 }
 
 /// The view that a constraint names; the one whose constraint it is where it names none.
-std::shared_ptr<UIView> NibReader::item(const Joined& joined, const char* attribute) {
-  const auto named = joined.constraint.attribute(attribute);
-  if (!named) return joined.holder;
-  const auto found = byId_.find(named.value());
-  return found == byId_.end() ? nullptr : found->second;
+std::optional<std::size_t> NibReader::item(const Joined& joined, const char* attribute) const {
+  const auto id = joined.constraint.attribute(attribute);
+  return id ? named(id.value()) : joined.holder;
 }
 
-void NibReader::join(const Joined& joined) {
-  const pugi::xml_node node = joined.constraint;
-  checkAttributes(
-      node, "firstItem firstAttribute relation secondItem secondAttribute constant priority id");
-  expect(node, "relation", "equal lessThanOrEqual greaterThanOrEqual");
-  expect(node, "priority", "1000");
-  const auto first = edge(node, "firstAttribute");
-  NSLayoutConstraint constraint;
-  constraint.firstItem = item(joined, "firstItem");
-  if (first) constraint.firstAttribute = *first;
-  const std::string_view relation = node.attribute("relation").value();
-  if (relation == "lessThanOrEqual") constraint.relation = LayoutRelation::lessThanOrEqual;
-  if (relation == "greaterThanOrEqual") constraint.relation = LayoutRelation::greaterThanOrEqual;
-  constraint.secondAttribute = edge(node, "secondAttribute");
-  if (constraint.secondAttribute) constraint.secondItem = item(joined, "secondItem");
-  constraint.constant = number(node, "constant", 0);
-  const bool stands = first && std::string_view(node.name()) == "constraint" &&
-                      constraint.holder() == joined.holder.get();
-  if (!stands) return refuse(node, "a constraint does not join its view and what is in it");
-  NSLayoutConstraint::activate({constraint});
-}
-
-void NibReader::connect(const Connection& connection, const Nib::Outlets& outlets, bool check) {
-  const auto found = byId_.find(connection.destination);
-  const auto target = found == byId_.end() ? nullptr : found->second;
-  const auto label = std::dynamic_pointer_cast<UILabel>(target);
-  const auto forView = outlets.views.find(connection.property);
-  const auto forLabel = outlets.labels.find(connection.property);
-  const bool takesView = target && forView != outlets.views.end();
-  const bool takesLabel = label && forLabel != outlets.labels.end();
-  if (check && !takesView && !takesLabel) {
-    refuse(connection.outlet, "no outlet '" + connection.property + "' for this view");
+void NibReader::readOutlet(pugi::xml_node outlet) {
+  elements_.checkAttributes(outlet, "property destination id");
+  if (std::string_view(outlet.name()) != "outlet") {
+    return elements_.refuse(outlet, tag(outlet) + " is not supported");
   }
-  if (check) return;
-  if (takesView) *forView->second = target;
-  if (takesLabel) *forLabel->second = label;
+  document_.outlets.push_back({line(outlet), outlet.attribute("property").value(),
+                               named(outlet.attribute("destination").value())});
+}
+
+std::optional<std::size_t> NibReader::named(std::string_view id) const {
+  const auto found = byId_.find(id);
+  return found == byId_.end() ? std::nullopt : std::optional(found->second);
 }
 
 }  // namespace quorix::uikit

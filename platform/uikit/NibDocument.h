@@ -1,0 +1,72 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/layout/Geometry.h"
+#include "platform/uikit/NSLayoutConstraint.h"
+#include "platform/uikit/UIColor.h"
+#include "platform/uikit/UIFont.h"
+#include "platform/uikit/UIView.h"
+
+namespace quorix::uikit {
+
+/// What an interface file says, read once to make views from many times. Views are named by their
+/// place in `views`. Immutable once read; any thread.
+struct NibDocument {
+  /// The line of the file, for messages.
+  using Line = std::ptrdiff_t;
+
+  struct Label {
+    std::string text;
+    UIFont::Ref font;
+    UIColor::Ref textColor;
+    int numberOfLines = 1;
+  };
+
+  /// A view, or a label where it has one.
+  struct View {
+    std::optional<Label> label;
+    layout::Rect frame;
+    UIColor::Ref backgroundColor;
+    std::optional<std::string> accessibilityLabel;
+    UIAccessibilityTraits accessibilityTraits = UIAccessibilityTraits::none;
+    bool opaque = true;
+    bool hidden = false;
+    bool userInteractionEnabled = true;
+    bool translatesMask = true;
+    std::optional<std::size_t> superview;  ///< stands before it
+  };
+
+  struct Constraint {
+    Line line;
+    std::size_t holder;
+    std::optional<std::size_t> firstItem;
+    LayoutAttribute firstAttribute;
+    LayoutRelation relation;
+    std::optional<std::size_t> secondItem;
+    std::optional<LayoutAttribute> secondAttribute;
+    double constant;
+  };
+
+  struct Outlet {
+    Line line;
+    std::string property;
+    std::optional<std::size_t> destination;
+  };
+
+  struct Owner {
+    Line line;
+    std::string className;
+  };
+
+  std::vector<Owner> owners;  ///< one, in what the designer's tool writes
+  std::vector<View> views;
+  std::vector<Constraint> constraints;
+  std::vector<Outlet> outlets;
+};
+
+}  // namespace quorix::uikit

@@ -1,0 +1,65 @@
+#include "platform/uikit/NibElements.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+
+namespace quorix::uikit {
+namespace {
+
+constexpr double longest = 1e6;  // points; nothing sensible is longer
+
+bool isWordOf(std::string_view words, std::string_view word) {
+  if (word.empty()) return false;
+  const auto ends = [&](std::size_t at) { return at == words.size() || words[at] == ' '; };
+  for (std::size_t at = words.find(word); at != words.npos; at = words.find(word, at + 1)) {
+    if ((at == 0 || words[at - 1] == ' ') && ends(at + word.size())) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+NibDocument::Line NibElements::line(std::ptrdiff_t offset) const {
+  const auto length = std::clamp<std::ptrdiff_t>(offset, 0, std::ssize(xml_));
+  return 1 + std::count(xml_.begin(), xml_.begin() + length, '\n');
+}
+
+void NibElements::refuseAt(std::ptrdiff_t offset, const std::string& why) {
+  if (!refusal_) refusal_ = std::to_string(line(offset)) + ": " + why;
+}
+
+void NibElements::checkAttributes(pugi::xml_node node, std::string_view known) {
+  for (const pugi::xml_attribute attribute : node.attributes()) {
+    if (isWordOf(known, attribute.name())) continue;
+    refuse(node, "the attribute " + std::string(attribute.name()) + " of " + tag(node) +
+                     " is not supported");
+  }
+}
+
+void NibElements::expect(pugi::xml_node node, const char* attribute, std::string_view values) {
+  const pugi::xml_attribute found = node.attribute(attribute);
+  if (!found || isWordOf(values, found.value())) return;
+  refuse(node,
+         std::string(attribute) + " '" + found.value() + "' of " + tag(node) + " is not supported");
+}
+
+bool NibElements::flag(pugi::xml_node node, const char* attribute, bool otherwise) {
+  if (!node.attribute(attribute)) return otherwise;
+  expect(node, attribute, "YES NO");
+  return std::string_view(node.attribute(attribute).value()) == "YES";
+}
+
+double NibElements::number(pugi::xml_node node, const char* attribute,
+                           std::optional<double> otherwise) {
+  const std::string_view text = node.attribute(attribute).value();
+  if (text.empty() && otherwise) return *otherwise;
+  double value = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+  const bool whole = error == std::errc() && end == text.data() + text.size();
+  if (whole && std::abs(value) <= longest) return value;
+  refuse(node, std::string(attribute) + " of " + tag(node) + " is no number of points");
+  return 0;
+}
+
+}  // namespace quorix::uikit

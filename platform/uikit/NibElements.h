@@ -1,0 +1,40 @@
+#pragma once
+
+#include <optional>
+#include <pugixml.hpp>
+#include <string>
+#include <string_view>
+
+#include "platform/uikit/NibDocument.h"
+
+namespace quorix::uikit {
+
+/// Reads the attributes of an interface file's elements, and keeps the first refusal. After it,
+/// reading goes on to no effect.
+class NibElements {
+ public:
+  explicit NibElements(std::string_view xml) : xml_(xml) {}
+
+  /// "7: why", where 7 is the line.
+  const std::optional<std::string>& refusal() const { return refusal_; }
+  void refuse(pugi::xml_node at, const std::string& why) { refuseAt(at.offset_debug(), why); }
+  void refuseAt(std::ptrdiff_t offset, const std::string& why);
+  NibDocument::Line line(std::ptrdiff_t offset) const;
+
+  /// Refuses attributes that `known` does not name: words between blanks.
+  void checkAttributes(pugi::xml_node node, std::string_view known);
+  /// Refuses a value of the attribute, which may be absent, that is none of `values`.
+  void expect(pugi::xml_node node, const char* attribute, std::string_view values);
+  bool flag(pugi::xml_node node, const char* attribute, bool otherwise);
+  /// Points; without `otherwise` the attribute has to be there.
+  double number(pugi::xml_node node, const char* attribute, std::optional<double> otherwise);
+
+  /// "<name>", for messages.
+  static std::string tag(pugi::xml_node node) { return '<' + std::string(node.name()) + '>'; }
+
+ private:
+  std::string_view xml_;
+  std::optional<std::string> refusal_;
+};
+
+}  // namespace quorix::uikit
