@@ -5,9 +5,10 @@
 #include <QtGlobal>
 #include <QtWebEngineQuick>
 
+#include "qt/WebLog.h"
+
 #ifdef Q_OS_LINUX
 #include <unistd.h>
-#include "qt/WebLog.h"
 #endif
 
 namespace quorix::qt {

@@ -1,5 +1,7 @@
 #include <gmock/gmock.h>
 
+#include <QDir>
+#include <QStandardPaths>
 #include <QTest>
 
 #include "tests/qt/LoopbackServer.h"
@@ -166,10 +168,24 @@ TYPED_TEST(PageView, AsksTheUserForNothing) {
     navigator.geolocation.getCurrentPosition(() => tell('place'), () => tell('no place'));
     navigator.mediaDevices.getUserMedia({video: true})
         .then(() => tell('camera'), () => tell('no camera'));
-    Notification.requestPermission().then(answer => tell('notices ' + answer)); )");
+    Notification.requestPermission().then(answer => tell('notices ' + answer));
+    alert('x'); tell('confirm ' + confirm('x')); tell('prompt ' + prompt('x', 'y')); )");
   EXPECT_TRUE(this->reported("no place"));
   EXPECT_TRUE(this->reported("no camera"));
   EXPECT_TRUE(this->reported("notices denied"));
+  EXPECT_TRUE(this->reported("confirm false"));
+  EXPECT_TRUE(this->reported("prompt null"));
+}
+
+TYPED_TEST(PageView, KeepsNoDownloads) {
+  pages().serve("/file", {.headers = "Content-Disposition: attachment; filename=kept.bin\r\n"});
+  this->openBlue("<a style='" + kFill + "' href='/file' download>x</a>");
+  QTest::mouseClick(&this->screen.window(), Qt::LeftButton, {}, this->kInPage);
+  EXPECT_TRUE(waitUntil([] { return !pages().requests("/file").empty(); }));
+  this->screen.settle();
+  EXPECT_EQ(this->at(this->kInPage), QColor(Qt::blue));
+  const QDir downloads(QStandardPaths::writableLocation(QStandardPaths::DownloadLocation));
+  EXPECT_TRUE(downloads.entryList({"kept*"}).isEmpty());
 }
 
 TYPED_TEST(PageView, FollowsLinksAndLeadsBackAndForward) {
@@ -189,6 +205,10 @@ TYPED_TEST(PageView, FollowsLinksAndLeadsBackAndForward) {
     this->screen.key(Qt::Key_Right, Qt::AltModifier);
     EXPECT_TRUE(this->isPainted(Qt::red));
     this->screen.key(Qt::Key_Back);
+    EXPECT_TRUE(this->isPainted(Qt::blue));
+    QTest::mouseClick(&this->screen.window(), Qt::ForwardButton, {}, this->kInPage);
+    EXPECT_TRUE(this->isPainted(Qt::red));
+    QTest::mouseClick(&this->screen.window(), Qt::BackButton, {}, this->kInPage);
     EXPECT_TRUE(this->isPainted(Qt::blue));
     this->screen.key(Qt::Key_Back);
     EXPECT_TRUE(waitUntil([&] { return !this->isOpen(); })) << "no way back but out";

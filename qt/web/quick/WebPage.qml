@@ -32,6 +32,10 @@ WebEngineView {
         request.accepted = true;
         request.dialogReject();
     }
+    onJavaScriptDialogRequested: request => {
+        request.accepted = true;
+        request.dialogReject();
+    }
     onQuotaRequested: request => request.reject()
     onRegisterProtocolHandlerRequested: request => request.reject()
     onTooltipRequested: request => request.accepted = true

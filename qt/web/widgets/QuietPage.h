@@ -22,6 +22,11 @@ class QuietPage : public QWebEnginePage {
   QStringList chooseFiles(FileSelectionMode, const QStringList&, const QStringList&) override {
     return {};
   }
+  void javaScriptAlert(const QUrl&, const QString&) override {}
+  bool javaScriptConfirm(const QUrl&, const QString&) override { return false; }
+  bool javaScriptPrompt(const QUrl&, const QString&, const QString&, QString*) override {
+    return false;
+  }
 
  private:
   void settle(const webkit::WebContent::Settings& settings);
