@@ -1,27 +1,17 @@
 #include "tools/quorix/PictureApplication.h"
 
 #include <QEventLoop>
-#include <cstdio>
-#include <cstdlib>
 
 #include "platform/foundation/MainQueue.h"
 #include "qt/Engine.h"
-#include "tools/quorix/Failure.h"
+#include "tools/quorix/QuietQt.h"
 
 namespace quorix::tool {
 namespace {
 
-/// What stops Qt (a platform plug-in that is not there) ends the tool in its own manner: one line.
-void keepQuiet(QtMsgType type, const QMessageLogContext&, const QString& message) {
-  if (type != QtFatalMsg) return;
-  const QByteArray line = message.section(QLatin1Char('\n'), 0, 0).toLocal8Bit();
-  std::fprintf(stderr, "quorix: %s\n", line.constData());
-  std::_Exit(Failure::refusedStatus);
-}
-
 /// Before the application object is made, which reads it.
 int& prepared(int& argc) {
-  qInstallMessageHandler(keepQuiet);
+  keepQtQuiet();
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   return argc;
 }

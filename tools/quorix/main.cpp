@@ -10,6 +10,7 @@
 #include "tools/quorix/OverlayUrlCommand.h"
 #include "tools/quorix/ScoreCommand.h"
 #include "tools/quorix/StringsCheckCommand.h"
+#include "tools/quorix/preview/PreviewCommand.h"
 
 namespace {
 
@@ -22,6 +23,7 @@ constexpr const Command* commands[] = {
     &quorix::tool::mintCommand,       &quorix::tool::decodeCommand,
     &quorix::tool::scoreCommand,      &quorix::tool::infoCommand,
     &quorix::tool::overlayUrlCommand, &quorix::tool::stringsCheckCommand,
+    &quorix::tool::previewCommand,
 };
 
 Outcome run(const Command& command, std::span<const std::string> words) {

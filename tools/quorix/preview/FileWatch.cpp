@@ -1,0 +1,53 @@
+#include "tools/quorix/preview/FileWatch.h"
+
+#include <QDirIterator>
+#include <QFileInfo>
+#include <utility>
+
+namespace quorix::tool {
+
+FileWatch::FileWatch(QStringList roots, QObject* parent)
+    : QObject(parent), roots_(std::move(roots)) {
+  pause_.setSingleShot(true);
+  pause_.setInterval(80);  // milliseconds; an editor's several writes are one change
+  const auto wait = [this] { pause_.start(); };
+  connect(&watcher_, &QFileSystemWatcher::fileChanged, this, wait);
+  connect(&watcher_, &QFileSystemWatcher::directoryChanged, this, wait);
+  connect(&pause_, &QTimer::timeout, this, &FileWatch::compare);
+  known_ = look();
+}
+
+/// What is there now, all of it watched from now on.
+FileWatch::Stamps FileWatch::look() {
+  Stamps stamps;
+  QStringList paths;
+  const auto add = [&](const QFileInfo& info) {
+    if (!info.exists()) return;
+    paths.append(info.filePath());
+    if (info.isFile()) stamps[info.filePath()] = {info.lastModified(), info.size()};
+  };
+  for (const QString& root : std::as_const(roots_)) {
+    add(QFileInfo(root));
+    add(QFileInfo(QFileInfo(root).path()));  // where a file that is replaced comes back
+    if (!QFileInfo(root).isDir()) continue;
+    QDirIterator inside(root, QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot,
+                        QDirIterator::Subdirectories);
+    while (inside.hasNext()) add(QFileInfo(inside.next()));
+  }
+  if (!paths.isEmpty()) watcher_.addPaths(paths);
+  return stamps;
+}
+
+void FileWatch::compare() {
+  const Stamps before = std::exchange(known_, look());
+  QStringList files;
+  for (auto file = known_.cbegin(); file != known_.cend(); ++file) {
+    if (before.value(file.key()) != file.value()) files.append(file.key());
+  }
+  for (auto file = before.cbegin(); file != before.cend(); ++file) {
+    if (!known_.contains(file.key())) files.append(file.key());
+  }
+  if (!files.isEmpty()) emit changed(files);
+}
+
+}  // namespace quorix::tool

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QTimer>
+#include <memory>
+
+#include "tools/quorix/preview/FileWatch.h"
+#include "tools/quorix/preview/PreviewControls.h"
+#include "tools/quorix/preview/PreviewScreen.h"
+
+namespace quorix::tool {
+
+/// A widget on a screen, its controls beside it, and the files that it follows. Texts that change
+/// are read in place; for other resources, which a process reads once, the preview starts itself
+/// anew and looks as before. Main thread.
+class Preview : public QObject {
+  Q_OBJECT
+
+ public:
+  explicit Preview(const PreviewChoices& choices);
+
+  void open();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void refresh();
+  void filesChanged(const QStringList& files);
+  QString remark(const QString& file) const;
+  void startAnew();
+  void writePicture();
+
+  PreviewControls controls_;
+  PreviewScreen screen_;
+  FileWatch files_;
+  std::shared_ptr<void> translations_;  ///< answers for the service
+  QTimer pictureDue_;
+  QImage written_;
+};
+
+}  // namespace quorix::tool

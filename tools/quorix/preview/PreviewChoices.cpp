@@ -1,0 +1,138 @@
+#include "tools/quorix/preview/PreviewChoices.h"
+
+#include <QLocale>
+#include <algorithm>
+#include <array>
+
+#include "examples/common/TokenMint.h"
+#include "tools/quorix/OptionReader.h"
+#include "tools/quorix/TokenInput.h"
+
+namespace quorix::tool {
+namespace {
+
+using layout::LayoutDirection;
+
+constexpr auto table = std::to_array<Option>({
+    {"--widget", "NAME", "score, info or imperative (default score)."},
+    {"--token", "TOKEN",
+     "A shopper of your own beside the ones offered, or - to read it\n"
+     "from the standard input."},
+    {"--shopper", "NAME",
+     "own, discount, none, yen, kronor or unreadable (default own with\n"
+     "--token, else discount)."},
+    {"--locale", "CODE", "Language code of the texts (default en)."},
+    {"--translations", "FILE.json",
+     "Replaces the score widget's texts, as a fetched table would, and\n"
+     "is followed."},
+    {"--resources", "FOLDER",
+     "String tables (en.lproj/Localizable.strings), assets and interface\n"
+     "files that replace the library's own, file by file, and are\n"
+     "followed."},
+    {"--appearance", "NAME", "light or dark (default light)."},
+    {"--text-size", "NAME", "The user's text size, as in \"quorix score --help\"."},
+    {"--regular-font", "FACE",
+     "Name of a face, or a font file, for regular text (default the\n"
+     "library's own)."},
+    {"--semi-bold-font", "FACE", "Likewise for emphasised text."},
+    {"--direction", "NAME", "ltr or rtl (default that of the locale's script)."},
+    {"--width", "POINTS", "Width of the screen, 240 to 1024 (default 375)."},
+    {"--sheet", "", "Opens the sheet, as a tap on the widget does."},
+    {"--out", "FILE.png", "Writes a picture of the screen each time that it changes."},
+});
+
+constexpr const char* widgetNames[] = {"score", "info", "imperative"};
+
+std::vector<PreviewChoices::Shopper> standIns() {
+  const std::string whole = examples::mintToken({0.82, "EUR", 600, 300});
+  return {
+      {"discount", QStringLiteral("Discount, in euros"), whole},
+      {"none", QStringLiteral("No discount, in pounds"),
+       examples::mintToken({0.06, "GBP", 500, 250})},
+      {"yen", QStringLiteral("Yen"), examples::mintToken({0.91, "JPY", 55000, 33000})},
+      {"kronor", QStringLiteral("Kronor"), examples::mintToken({0.74, "SEK", 6900, 3900})},
+      {"unreadable", QStringLiteral("Unreadable token"), whole.substr(0, whole.size() / 2)},
+  };
+}
+
+void readShopper(OptionReader& read, PreviewChoices& choices) {
+  choices.shoppers = standIns();
+  if (const auto token = read.optionalText("--token")) {
+    const auto text = tokenText(*token);
+    if (const auto* failure = std::get_if<Failure>(&text)) return read.fail(failure->message);
+    choices.shoppers.insert(choices.shoppers.begin(),
+                            {"own", QStringLiteral("Your own"), std::get<std::string>(text)});
+  }
+  const std::string name = read.text("--shopper", choices.shoppers.front().name);
+  const auto found = std::ranges::find(choices.shoppers, name, &PreviewChoices::Shopper::name);
+  if (found == choices.shoppers.end()) return read.fail("--shopper knows no \"" + name + '"');
+  choices.shopper = static_cast<std::size_t>(found - choices.shoppers.begin());
+}
+
+}  // namespace
+
+const std::span<const Option> PreviewChoices::options = table;
+
+std::variant<PreviewChoices, Failure> PreviewChoices::read(const Arguments& arguments) {
+  OptionReader read(arguments);
+  PreviewChoices choices;
+  choices.widget = static_cast<Widget>(
+      read.choice("--widget", {widgetNames[0], widgetNames[1], widgetNames[2]}).value_or(0));
+  choices.locale = read.text("--locale", choices.locale);
+  choices.translations = read.optionalText("--translations");
+  choices.resources = read.optionalText("--resources");
+  choices.regularFont = read.optionalText("--regular-font");
+  choices.semiBoldFont = read.optionalText("--semi-bold-font");
+  if (read.choice("--appearance", {"light", "dark"}) == 1) {
+    choices.appearance = graphics::Appearance::dark;
+  }
+  const std::string size = read.text("--text-size", "large");
+  const auto category = swiftui::contentSizeCategoryNamed(size);
+  if (!category) read.fail("--text-size knows no \"" + size + '"');
+  choices.textSize = category.value_or(choices.textSize);
+  if (const auto direction = read.choice("--direction", {"ltr", "rtl"})) {
+    choices.direction =
+        *direction == 1 ? LayoutDirection::rightToLeft : LayoutDirection::leftToRight;
+  }
+  choices.width = static_cast<int>(read.number("--width", choices.width, {narrowest, widest}));
+  choices.sheet = read.has("--sheet");
+  choices.out = read.optionalText("--out");
+  readShopper(read, choices);
+  if (read.failure()) return *read.failure();
+  return choices;
+}
+
+QStringList PreviewChoices::toWords() const {
+  QStringList words;
+  const auto add = [&](const char* option, std::string_view value) {
+    words << QLatin1String(option)
+          << QString::fromUtf8(value.data(), static_cast<qsizetype>(value.size()));
+  };
+  const auto addIf = [&](const char* option, const std::optional<std::string>& value) {
+    if (value) add(option, *value);
+  };
+  add("--widget", widgetNames[static_cast<int>(widget)]);
+  if (shoppers.front().name == "own") add("--token", shoppers.front().token);
+  add("--shopper", shoppers[shopper].name);
+  add("--locale", locale);
+  addIf("--translations", translations);
+  addIf("--resources", resources);
+  addIf("--regular-font", regularFont);
+  addIf("--semi-bold-font", semiBoldFont);
+  add("--appearance", appearance == graphics::Appearance::dark ? "dark" : "light");
+  add("--text-size", nameOf(textSize));
+  if (direction) add("--direction", *direction == LayoutDirection::rightToLeft ? "rtl" : "ltr");
+  add("--width", std::to_string(width));
+  if (sheet) words << QStringLiteral("--sheet");
+  addIf("--out", out);
+  return words;
+}
+
+layout::LayoutDirection PreviewChoices::readingDirection() const {
+  if (direction) return *direction;
+  const QLocale language(QString::fromStdString(locale));
+  return language.textDirection() == Qt::RightToLeft ? LayoutDirection::rightToLeft
+                                                     : LayoutDirection::leftToRight;
+}
+
+}  // namespace quorix::tool

@@ -1,0 +1,77 @@
+#include "tools/quorix/preview/PreviewCommand.h"
+
+#include <QApplication>
+
+#include "QuorixWidgets/localization/ResourceBundle.h"
+#include "qt/Engine.h"
+#include "tools/quorix/Faces.h"
+#include "tools/quorix/QuietQt.h"
+#include "tools/quorix/Translations.h"
+#include "tools/quorix/preview/LayeredBundle.h"
+#include "tools/quorix/preview/Preview.h"
+#include "tools/quorix/preview/PreviewChoices.h"
+
+namespace quorix::tool {
+namespace {
+
+using foundation::Bundle;
+
+std::optional<Failure> layResources(const std::optional<std::string>& folder) {
+  if (!folder) return std::nullopt;
+  Bundle::Ref upper = Bundle::open(*folder);
+  if (!upper) return Failure::refused("can't read the folder " + *folder);
+  Bundle::registerBundle(kResourceBundleIdentifier,
+                         std::make_shared<LayeredBundle>(upper, Bundle::embedded()));
+  return std::nullopt;
+}
+
+std::optional<Failure> findFaces(PreviewChoices& choices) {
+  for (auto* face : {&choices.regularFont, &choices.semiBoldFont}) {
+    if (!*face) continue;
+    auto found = usableFace(**face);
+    if (auto* failure = std::get_if<Failure>(&found)) return *failure;
+    *face = std::get<std::string>(std::move(found));
+  }
+  return std::nullopt;
+}
+
+Outcome preview(const Arguments& arguments) {
+  auto read = PreviewChoices::read(arguments);
+  if (const auto* failure = std::get_if<Failure>(&read)) return *failure;
+  auto& choices = std::get<PreviewChoices>(read);
+  if (const auto failure = layResources(choices.resources)) return *failure;
+  if (choices.translations) {
+    const auto document = readTranslations(*choices.translations);
+    if (const auto* failure = std::get_if<Failure>(&document)) return *failure;
+  }
+
+  keepQtQuiet();
+  QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+  char name[] = "quorix";
+  char* argv[] = {name, nullptr};
+  int argc = 1;
+  QApplication application(argc, argv);
+  qt::installEngine();
+  if (const auto failure = findFaces(choices)) return *failure;
+  Preview window(choices);
+  window.open();
+  QApplication::exec();
+  return std::string();
+}
+
+}  // namespace
+
+const Command previewCommand{
+    .name = "preview",
+    .synopsis = "[options]",
+    .purpose =
+        "Opens a window on a widget, with controls, and follows files as they change.\n"
+        "Texts are not fetched: they are the built-in ones or those of a file.",
+    .options = PreviewChoices::options,
+    .operand = {},
+    .details = {},
+    .example = "quorix preview --locale es --resources QuorixWidgets/resources",
+    .run = preview,
+};
+
+}  // namespace quorix::tool

@@ -1,0 +1,83 @@
+#include "tools/quorix/preview/PreviewScreen.h"
+
+#include <QAccessible>
+#include <QVBoxLayout>
+
+#include "QuorixWidgets/info/InfoWidgetBuilder.h"
+#include "QuorixWidgets/score/ScoreWidgetBuilder.h"
+#include "platform/swiftui/UIViewRepresentable.h"
+#include "qt/widgets/SheetWidget.h"
+
+namespace quorix::tool {
+namespace {
+
+constexpr int kMargin = 16;
+constexpr int kHeight = 720;
+
+swiftui::View viewOf(const PreviewChoices& choices) {
+  if (choices.widget == PreviewChoices::Widget::score) {
+    return ScoreWidgetBuilder::buildSwiftUIScoreWidgetView(
+        "preview", choices.locale, choices.shoppers[choices.shopper].token,
+        {choices.regularFont, choices.semiBoldFont});
+  }
+  const InfoWidgetStyle style(choices.regularFont, choices.semiBoldFont, std::nullopt, false);
+  if (choices.widget == PreviewChoices::Widget::info) {
+    return InfoWidgetBuilder::buildSwiftUIInfoWidgetView(choices.locale, style);
+  }
+  return swiftui::hosting(InfoWidgetBuilder::buildUIKitInfoWidgetView(choices.locale, style));
+}
+
+QPalette paper(graphics::Appearance appearance) {
+  const bool dark = appearance == graphics::Appearance::dark;
+  QPalette palette;
+  palette.setColor(QPalette::Window, dark ? QColor(0x12, 0x12, 0x14) : QColor(Qt::white));
+  palette.setColor(QPalette::WindowText, dark ? QColor(Qt::white) : QColor(Qt::black));
+  return palette;
+}
+
+}  // namespace
+
+PreviewScreen::PreviewScreen() : widget_(new qt::ViewWidget(this)) {
+  setWindowTitle(tr("Screen"));
+  setAutoFillBackground(true);
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  column->addWidget(widget_);
+  column->addStretch();
+}
+
+void PreviewScreen::show(const PreviewChoices& choices) {
+  const bool rightToLeft = choices.readingDirection() == layout::LayoutDirection::rightToLeft;
+  setPalette(paper(choices.appearance));
+  setFixedSize(choices.width, kHeight);
+  widget_->setAppearance(choices.appearance);
+  widget_->setTextSize(choices.textSize);
+  widget_->ViewSettings::setLayoutDirection(choices.readingDirection());
+  QWidget::setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+  widget_->setView(viewOf(choices));
+  QWidget::show();
+  if (choices.sheet)
+    QMetaObject::invokeMethod(this, &PreviewScreen::openSheet, Qt::QueuedConnection);
+}
+
+bool PreviewScreen::hasSheet() const { return qt::SheetWidget::topmost(*this) != nullptr; }
+
+/// As a screen reader would: presses the first of the widget's elements that acts.
+void PreviewScreen::openSheet() {
+  QAccessibleInterface* elements = QAccessible::queryAccessibleInterface(widget_);
+  for (int i = 0; elements && i < elements->childCount(); ++i) {
+    QAccessibleInterface* element = elements->child(i);
+    QAccessibleActionInterface* actions = element ? element->actionInterface() : nullptr;
+    if (!actions || !actions->actionNames().contains(QAccessibleActionInterface::pressAction())) {
+      continue;
+    }
+    return actions->doAction(QAccessibleActionInterface::pressAction());
+  }
+}
+
+void PreviewScreen::closeEvent(QCloseEvent* event) {
+  QWidget::closeEvent(event);
+  emit closed();
+}
+
+}  // namespace quorix::tool
