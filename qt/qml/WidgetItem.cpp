@@ -57,7 +57,11 @@ void WidgetItem::makeAnew() {
   polish();
   // No frame comes while the window is hidden, but `visible: implicitHeight > 0` wants its answer.
   QMetaObject::invokeMethod(
-      this, [this] { if (stale_) make(); }, Qt::QueuedConnection);
+      this,
+      [this] {
+        if (stale_) make();
+      },
+      Qt::QueuedConnection);
 }
 
 void WidgetItem::make() {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QString>
 #include <QtQml/qqmlregistration.h>
+#include <QString>
 #include <optional>
 #include <string>
 
@@ -25,7 +25,8 @@ class WidgetItem : public quorix::qt::ViewItem {
 
   /// A language code ("en", "es"), used as it is: a tag with a region reads English. Empty for the
   /// language of Qt's default locale as it is when the widget is made.
-  Q_PROPERTY(QString locale READ locale WRITE setLocale RESET resetLocale NOTIFY localeChanged FINAL)
+  Q_PROPERTY(
+      QString locale READ locale WRITE setLocale RESET resetLocale NOTIFY localeChanged FINAL)
   /// Faces of the app's own, by PostScript or family name, which follow the user's text size; empty
   /// for the widget's, which keep theirs.
   Q_PROPERTY(QString regularFont READ regularFont WRITE setRegularFont RESET resetRegularFont NOTIFY
