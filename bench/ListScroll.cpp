@@ -1,5 +1,5 @@
 // What a row costs in QML: made and painted one by one, from C++ and from the QML module, and in a
-// list of 200 that scrolls from end to end, with and without the reuse of delegates.
+// list of 200 that scrolls from end to end, with and without the reuse of delegates, beside a peer.
 //
 //   list_scroll
 
@@ -10,6 +10,7 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -32,18 +33,23 @@ constexpr char kRow[] = R"(
     ScoreWidget { clientId: "my-shop"; locale: "en" })";
 constexpr char kList[] = R"(
     import QtQuick
+    import QuorixBench
     import QuorixWidgets
     ListView {
-      id: list
       property int taken: 0
       width: 343; height: 720; spacing: 8; cacheBuffer: 0
-      delegate: ScoreWidget {
-        required property string modelData
-        width: list.width; clientId: "my-shop"; locale: "en"; token: modelData
-        Component.onCompleted: ++list.taken
-        ListView.onReused: ++list.taken
+      delegate: %1 {
+        required property var modelData
+        width: ListView.view.width
+        Component.onCompleted: ++ListView.view.taken
+        ListView.onReused: ++ListView.view.taken
       }
     })";
+constexpr char kOurs[] = R"(ScoreWidget {
+        clientId: "my-shop"; locale: "en"; token: modelData.token)";
+constexpr char kPeer[] = R"(LeanScoreRow {
+        title: modelData.title; fee: modelData.fee; baseFee: modelData.baseFee
+        label: modelData.label; hint: modelData.hint; ink: modelData.ink; faded: modelData.faded)";
 
 double microsecondsSince(Clock::time_point start) {
   return std::chrono::duration<double, std::micro>(Clock::now() - start).count();
@@ -53,7 +59,9 @@ class Measurement {
  public:
   Measurement() {
     row_.setData(kRow, {});
-    list_.setData(kList, {});
+    engine_.addImportPath("qrc:/");
+    ours_.setData(QByteArray(kList).replace("%1 {", kOurs), {});
+    peer_.setData(QByteArray(kList).replace("%1 {", kPeer), {});
     for (std::size_t i = 0; i < kRows; ++i) shoppers_.emplace_back(i);
   }
 
@@ -74,13 +82,16 @@ class Measurement {
   }
 
   /// For each row that came into sight, the frames in which none did counted in.
-  double scrolled(bool reuse) {
-    QStringList tokens;
-    for (const Shopper& shopper : shoppers_) tokens.append(QString::fromStdString(shopper.token));
-    const std::unique_ptr<QQuickItem> list(
-        create(list_, {{"parent", QVariant::fromValue(stage_.root())},
-                       {"reuseItems", reuse},
-                       {"model", tokens}}));
+  double scrolled(bool ours, bool reuse) {
+    QVariantList model;
+    for (const Shopper& shopper : shoppers_) {
+      QVariantMap row = shopper.properties();
+      row.insert("token", QString::fromStdString(shopper.token));
+      model.append(row);
+    }
+    const std::unique_ptr<QQuickItem> list(create(
+        ours ? ours_ : peer_,
+        {{"parent", QVariant::fromValue(stage_.root())}, {"reuseItems", reuse}, {"model", model}}));
     stage_.frame();
     const double end = list->property("contentHeight").toDouble() - kWindow.height();
     list->setProperty("taken", 0);
@@ -113,7 +124,8 @@ class Measurement {
   QuickStage stage_{kWindow};
   QQmlEngine engine_;
   QQmlComponent row_{&engine_};
-  QQmlComponent list_{&engine_};
+  QQmlComponent ours_{&engine_};
+  QQmlComponent peer_{&engine_};
   std::vector<Shopper> shoppers_;
 };
 
@@ -124,18 +136,27 @@ double median(std::vector<double> values) {
 
 void report() {
   Measurement measurement;
-  std::vector<double> fromCpp, fromQml, made, reused;
-  for (int turn = -1; turn < kTurns; ++turn) {  // the first warms up
-    if (turn == 0) fromCpp.clear(), fromQml.clear(), made.clear(), reused.clear();
-    fromCpp.push_back(measurement.fromCpp());
-    fromQml.push_back(measurement.fromQml());
-    made.push_back(measurement.scrolled(false));
-    reused.push_back(measurement.scrolled(true));
+  const struct {
+    const char* what;
+    std::function<double()> run;
+  } measured[] = {
+      {"made and painted, from C++", [&] { return measurement.fromCpp(); }},
+      {"made and painted, from QML", [&] { return measurement.fromQml(); }},
+      {"scrolled into sight, made anew", [&] { return measurement.scrolled(true, false); }},
+      {"... a peer in QML", [&] { return measurement.scrolled(false, false); }},
+      {"scrolled into sight, reused", [&] { return measurement.scrolled(true, true); }},
+      {"... a peer in QML", [&] { return measurement.scrolled(false, true); }},
+  };
+  std::vector<std::vector<double>> values(std::size(measured));
+  for (int turn = -1; turn < kTurns; ++turn) {
+    for (std::size_t i = 0; i < values.size(); ++i) {
+      const double taken = measured[i].run();
+      if (turn >= 0) values[i].push_back(taken);  // the first warms up
+    }
   }
-  std::printf("made and painted, microseconds a row: %.1f from C++, %.1f from QML\n",
-              median(fromCpp), median(fromQml));
-  std::printf("scrolled into sight in a list of %d: %.1f made anew, %.1f reused\n", kRows,
-              median(made), median(reused));
+  for (std::size_t i = 0; i < values.size(); ++i) {
+    std::printf("%-32s %7.1f us a row\n", measured[i].what, median(values[i]));
+  }
 }
 
 }  // namespace
