@@ -18,6 +18,15 @@ HostedView::HostedView(QObject& self)
 
 HostedView::~HostedView() { leaveSheet(); }
 
+void HostedView::replaceView(swiftui::View view) {
+  const bool focused = focusFrame().has_value();
+  host_.setRoot(std::move(view));
+  contentChanged();
+  if (!focused) return;
+  host_.scene(size());  // which says what there is to come to
+  focus_.renewed();
+}
+
 void HostedView::environmentChanged() {
   const EnvironmentSource now = settings();
   host_.setEnvironment(now.at(scale()));

@@ -26,6 +26,9 @@ class HostedView : private hosting::ViewHost::Client {
 
   hosting::ViewHost& host() { return host_; }
 
+  /// Shows another view, which begins afresh; the focus inside goes over to it.
+  void replaceView(swiftui::View view);
+
   /// The settings, the desktop or the window's scale changed.
   void environmentChanged();
 

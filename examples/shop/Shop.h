@@ -39,7 +39,7 @@ class Shop : public QObject {
   Q_PROPERTY(bool rightToLeft READ rightToLeft NOTIFY changed)
   Q_PROPERTY(QString regularFont READ regularFont NOTIFY changed)
   Q_PROPERTY(QString semiBoldFont READ semiBoldFont NOTIFY changed)
-  Q_PROPERTY(QString textSize READ textSize NOTIFY changed)
+  Q_PROPERTY(int textSize READ textSize NOTIFY changed)
   Q_PROPERTY(bool dark READ dark NOTIFY changed)
   Q_PROPERTY(quorix::examples::ShopColors colors READ colors NOTIFY changed)
   Q_PROPERTY(QVariantMap words READ wordMap NOTIFY changed)
@@ -86,7 +86,7 @@ class Shop : public QObject {
   bool rightToLeft() const { return language().rightToLeft; }
   QString regularFont() const { return face().regular; }
   QString semiBoldFont() const { return face().semiBold; }
-  QString textSize() const { return face().textSize; }
+  int textSize() const { return static_cast<int>(face().textSize); }
   bool dark() const;
   ShopColors colors() const { return dark() ? ShopColors::dark() : ShopColors::light(); }
   const ShopWords& words() const { return words_; }

@@ -4,16 +4,18 @@
 
 namespace quorix::examples {
 
+using swiftui::ContentSizeCategory;
+
 const std::vector<TextFace>& TextFace::all() {
   static const auto regular = QString::fromStdString(TovaFont::regular().name());
   static const auto semiBold = QStringLiteral("TovaSansLatin-SemiBold");
   static const std::vector<TextFace> faces = {
-      {QStringLiteral("Widget's own face"), {}, {}, QStringLiteral("large")},
-      {QStringLiteral("Shop's face"), regular, semiBold, QStringLiteral("large")},
+      {QStringLiteral("Widget's own face"), {}, {}, ContentSizeCategory::large},
+      {QStringLiteral("Shop's face"), regular, semiBold, ContentSizeCategory::large},
       {QStringLiteral("Shop's face, larger"), regular, semiBold,
-       QStringLiteral("extraExtraExtraLarge")},
+       ContentSizeCategory::extraExtraExtraLarge},
       {QStringLiteral("Shop's face, largest"), regular, semiBold,
-       QStringLiteral("accessibilityLarge")},
+       ContentSizeCategory::accessibilityLarge},
   };
   return faces;
 }

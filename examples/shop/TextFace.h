@@ -3,6 +3,8 @@
 #include <QString>
 #include <vector>
 
+#include "platform/swiftui/ContentSizeCategory.h"
+
 namespace quorix::examples {
 
 /// What the widgets' texts are set in.
@@ -10,7 +12,7 @@ struct TextFace {
   QString name;      ///< for the demo bar
   QString regular;   ///< a face of the shop's own, empty for the widgets'
   QString semiBold;  ///< likewise
-  QString textSize;  ///< a content size category's name
+  swiftui::ContentSizeCategory textSize;
 
   static const std::vector<TextFace>& all();
 };

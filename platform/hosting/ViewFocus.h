@@ -24,6 +24,9 @@ class ViewFocus {
   void left(Cause cause);
   /// The keyboard moves it on. False when there is no further element: the focus leaves the view.
   bool walk(bool forward);
+  /// The view was replaced while it had the focus: it comes to the first element of the new one,
+  /// and the ring is seen as before.
+  void renewed() { host_.moveFocus(true); }
   /// The user points: nobody needs the ring.
   void hideRing() { ringWanted_ = false; }
 

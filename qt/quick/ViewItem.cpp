@@ -22,10 +22,7 @@ ViewItem::ViewItem(swiftui::View view, QQuickItem* parent)
 
 ViewItem::~ViewItem() = default;
 
-void ViewItem::setView(swiftui::View view) {
-  surface_->host().setRoot(std::move(view));
-  surface_->contentChanged();
-}
+void ViewItem::setView(swiftui::View view) { surface_->replaceView(std::move(view)); }
 
 void ViewItem::settingsChanged() { surface_->environmentChanged(); }
 

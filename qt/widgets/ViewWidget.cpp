@@ -27,10 +27,7 @@ ViewWidget::ViewWidget(swiftui::View view, QWidget* parent)
 
 ViewWidget::~ViewWidget() = default;
 
-void ViewWidget::setView(swiftui::View view) {
-  surface_->host().setRoot(std::move(view));
-  surface_->contentChanged();
-}
+void ViewWidget::setView(swiftui::View view) { surface_->replaceView(std::move(view)); }
 
 void ViewWidget::settingsChanged() { surface_->environmentChanged(); }
 

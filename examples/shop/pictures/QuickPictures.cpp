@@ -8,10 +8,10 @@
 #include "examples/shop/pictures/Cast.h"
 #include "examples/shop/pictures/Settling.h"
 #include "examples/shop/pictures/ShopScene.h"
-#include "examples/shop/quick/InfoBox.h"
-#include "examples/shop/quick/ScoreRow.h"
 #include "platform/foundation/FatalError.h"
 #include "qt/WebComponentLoader.h"
+#include "qt/qml/InfoWidget.h"
+#include "qt/qml/ScoreWidget.h"
 
 namespace quorix::examples {
 namespace {
@@ -68,8 +68,8 @@ QImage frameOf(QQuickWindow& window) {
 
 const QQuickItem& opener(const QQuickWindow& window, Open what) {
   const QQuickItem* item = what == Open::details
-                               ? static_cast<QQuickItem*>(window.findChild<ScoreRow*>())
-                               : window.findChild<InfoBox*>();
+                               ? static_cast<QQuickItem*>(window.findChild<qml::ScoreWidget*>())
+                               : window.findChild<qml::InfoWidget*>();
   if (item == nullptr) foundation::fatalError("the shop's page lacks a widget");
   return *item;
 }

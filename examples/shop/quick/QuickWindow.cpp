@@ -4,16 +4,12 @@
 #include <QtQml>
 
 #include "examples/shop/Shop.h"
-#include "examples/shop/quick/InfoBox.h"
-#include "examples/shop/quick/ScoreRow.h"
 #include "examples/shop/quick/UIInfoBox.h"
 #include "platform/foundation/FatalError.h"
 
 namespace quorix::examples {
 
 QuickWindow::QuickWindow(Shop& shop) {
-  qmlRegisterType<ScoreRow>("Quorix.Shop", 1, 0, "ScoreRow");
-  qmlRegisterType<InfoBox>("Quorix.Shop", 1, 0, "InfoBox");
   qmlRegisterType<UIInfoBox>("Quorix.Shop", 1, 0, "UIInfoBox");
   qmlRegisterSingletonInstance("Quorix.Shop", 1, 0, "Shop", &shop);
   engine_.load(QUrl(QStringLiteral("qrc:/shop/qml/Main.qml")));

@@ -7,7 +7,7 @@ namespace quorix::examples {
 
 swiftui::View UIInfoBox::widget() const {
   return swiftui::hosting(InfoWidgetBuilder::buildUIKitInfoWidgetView(
-      locale(), {regularFace(), semiBoldFace(), std::nullopt, false}));
+      language(), {regularFace(), semiBoldFace(), std::nullopt, false}));
 }
 
 }  // namespace quorix::examples

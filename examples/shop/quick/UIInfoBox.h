@@ -1,13 +1,13 @@
 #pragma once
 
-#include "examples/shop/quick/WidgetItem.h"
+#include "qt/qml/WidgetItem.h"
 
 namespace quorix::examples {
 
-/// The info widget as a QML element, in its imperative form.
+/// The info widget in its imperative form as a QML element, which the library leaves to its hosts.
 ///
 ///     UIInfoBox { width: parent.width; locale: "en" }
-class UIInfoBox : public WidgetItem {
+class UIInfoBox : public qml::WidgetItem {
   Q_OBJECT
 
  public:

@@ -29,8 +29,7 @@ void WidgetPanel::follow() {
     madeOf_ = parts;
     setView(widget());
   }
-  const auto category = swiftui::contentSizeCategoryNamed(shop_.textSize().toStdString());
-  setTextSize(category.value_or(swiftui::ContentSizeCategory::large));
+  setTextSize(shop_.face().textSize);
   setMotion(shop_.moving() ? std::nullopt : std::optional(false));
 }
 

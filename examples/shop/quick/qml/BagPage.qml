@@ -90,9 +90,9 @@ ScrollPage {
             regularFont: Shop.regularFont
             semiBoldFont: Shop.semiBoldFont
             textSize: Shop.textSize
-            dark: Shop.dark
-            rightToLeft: Shop.rightToLeft
-            moving: Shop.moving
+            appearance: Shop.dark ? UIInfoBox.Dark : UIInfoBox.Light
+            layoutDirection: Shop.rightToLeft ? Qt.RightToLeft : Qt.LeftToRight
+            animated: Shop.moving
         }
     }
 }

@@ -1,5 +1,6 @@
 import QtQuick
 import Quorix.Shop
+import QuorixWidgets
 
 // The shop's page: the product, with the score row below its price and what is good to know.
 ScrollPage {
@@ -58,15 +59,15 @@ ScrollPage {
             font.weight: Font.DemiBold
         }
 
-        InfoBox {
+        InfoWidget {
             width: parent.width
             locale: Shop.locale
             regularFont: Shop.regularFont
             semiBoldFont: Shop.semiBoldFont
             textSize: Shop.textSize
-            dark: Shop.dark
-            rightToLeft: Shop.rightToLeft
-            moving: Shop.moving
+            appearance: Shop.dark ? InfoWidget.Dark : InfoWidget.Light
+            layoutDirection: Shop.rightToLeft ? Qt.RightToLeft : Qt.LeftToRight
+            animated: Shop.moving
         }
 
         Words {

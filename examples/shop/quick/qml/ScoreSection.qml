@@ -1,5 +1,6 @@
 import QtQuick
 import Quorix.Shop
+import QuorixWidgets
 
 // The score row between hairlines, and the room around them. With nothing to show it takes no room
 // at all.
@@ -20,7 +21,7 @@ Item {
         color: Shop.colors.hairline
     }
 
-    ScoreRow {
+    ScoreWidget {
         id: row
         anchors {
             left: parent.left
@@ -34,9 +35,9 @@ Item {
         regularFont: Shop.regularFont
         semiBoldFont: Shop.semiBoldFont
         textSize: Shop.textSize
-        dark: Shop.dark
-        rightToLeft: Shop.rightToLeft
-        moving: Shop.moving
+        appearance: Shop.dark ? ScoreWidget.Dark : ScoreWidget.Light
+        layoutDirection: Shop.rightToLeft ? Qt.RightToLeft : Qt.LeftToRight
+        animated: Shop.moving
     }
 
     Rectangle {

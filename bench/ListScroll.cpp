@@ -1,0 +1,170 @@
+// What a row costs in QML: made and painted one by one, from C++ and from the QML module, and in a
+// list of 200 that scrolls from end to end, with and without the reuse of delegates, beside a peer.
+//
+//   list_scroll
+
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "bench/BenchApplication.h"
+#include "bench/QuickStage.h"
+#include "bench/Shopper.h"
+#include "qt/quick/ViewItem.h"
+
+namespace quorix::bench {
+namespace {
+
+constexpr QSize kWindow(343, 720);
+constexpr int kRows = 200;
+constexpr int kTurns = 15;
+
+constexpr char kRow[] = R"(
+    import QuorixWidgets
+    ScoreWidget { clientId: "my-shop"; locale: "en" })";
+constexpr char kList[] = R"(
+    import QtQuick
+    import QuorixBench
+    import QuorixWidgets
+    ListView {
+      property int taken: 0
+      width: 343; height: 720; spacing: 8; cacheBuffer: 0
+      delegate: %1 {
+        required property var modelData
+        width: ListView.view.width
+        Component.onCompleted: ++ListView.view.taken
+        ListView.onReused: ++ListView.view.taken
+      }
+    })";
+constexpr char kOurs[] = R"(ScoreWidget {
+        clientId: "my-shop"; locale: "en"; token: modelData.token)";
+constexpr char kPeer[] = R"(LeanScoreRow {
+        title: modelData.title; fee: modelData.fee; baseFee: modelData.baseFee
+        label: modelData.label; hint: modelData.hint; ink: modelData.ink; faded: modelData.faded)";
+
+/// The thread's processor time: other work on the machine does not show.
+double microseconds() {
+  timespec now{};
+  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+  return static_cast<double>(now.tv_sec) * 1e6 + static_cast<double>(now.tv_nsec) / 1e3;
+}
+
+class Measurement {
+ public:
+  Measurement() {
+    row_.setData(kRow, {});
+    engine_.addImportPath("qrc:/");
+    ours_.setData(QByteArray(kList).replace("%1 {", kOurs), {});
+    peer_.setData(QByteArray(kList).replace("%1 {", kPeer), {});
+    for (std::size_t i = 0; i < kRows; ++i) shoppers_.emplace_back(i);
+  }
+
+  double fromCpp() {
+    return oneByOne([&](const Shopper& shopper) -> QQuickItem* {
+      auto* item = new qt::ViewItem(shopper.ours(), stage_.root());
+      item->setWidth(kWindow.width());
+      return item;
+    });
+  }
+
+  double fromQml() {
+    return oneByOne([&](const Shopper& shopper) {
+      return create(row_, {{"parent", QVariant::fromValue(stage_.root())},
+                           {"width", kWindow.width()},
+                           {"token", QString::fromStdString(shopper.token)}});
+    });
+  }
+
+  /// For each row that came into sight, the frames in which none did counted in.
+  double scrolled(bool ours, bool reuse) {
+    QVariantList model;
+    for (const Shopper& shopper : shoppers_) {
+      QVariantMap row = shopper.properties();
+      row.insert("token", QString::fromStdString(shopper.token));
+      model.append(row);
+    }
+    const std::unique_ptr<QQuickItem> list(create(
+        ours ? ours_ : peer_,
+        {{"parent", QVariant::fromValue(stage_.root())}, {"reuseItems", reuse}, {"model", model}}));
+    stage_.frame();
+    const double end = list->property("contentHeight").toDouble() - kWindow.height();
+    list->setProperty("taken", 0);
+    const double start = microseconds();
+    for (double y = 0; y < end; y += 25) {
+      list->setProperty("contentY", y);
+      stage_.frame();
+    }
+    return (microseconds() - start) / list->property("taken").toDouble();
+  }
+
+ private:
+  template <class Make>
+  double oneByOne(const Make& make) {
+    const double start = microseconds();
+    for (const Shopper& shopper : shoppers_) {
+      const std::unique_ptr<QQuickItem> item(make(shopper));
+      stage_.frame();
+    }
+    return (microseconds() - start) / kRows;
+  }
+
+  static QQuickItem* create(QQmlComponent& component, const QVariantMap& properties) {
+    auto* item = qobject_cast<QQuickItem*>(component.createWithInitialProperties(properties));
+    if (item) return item;
+    qCritical("%s", qPrintable(component.errorString()));
+    std::abort();
+  }
+
+  QuickStage stage_{kWindow};
+  QQmlEngine engine_;
+  QQmlComponent row_{&engine_};
+  QQmlComponent ours_{&engine_};
+  QQmlComponent peer_{&engine_};
+  std::vector<Shopper> shoppers_;
+};
+
+double median(std::vector<double> values) {
+  std::nth_element(values.begin(), values.begin() + kTurns / 2, values.end());
+  return values[kTurns / 2];
+}
+
+void report() {
+  Measurement measurement;
+  const struct {
+    const char* what;
+    std::function<double()> run;
+  } measured[] = {
+      {"made and painted, from C++", [&] { return measurement.fromCpp(); }},
+      {"made and painted, from QML", [&] { return measurement.fromQml(); }},
+      {"scrolled into sight, made anew", [&] { return measurement.scrolled(true, false); }},
+      {"... a peer in QML", [&] { return measurement.scrolled(false, false); }},
+      {"scrolled into sight, reused", [&] { return measurement.scrolled(true, true); }},
+      {"... a peer in QML", [&] { return measurement.scrolled(false, true); }},
+  };
+  std::vector<std::vector<double>> values(std::size(measured));
+  for (int turn = -1; turn < kTurns; ++turn) {
+    for (std::size_t i = 0; i < values.size(); ++i) {
+      const double taken = measured[i].run();
+      if (turn >= 0) values[i].push_back(taken);  // the first warms up
+    }
+  }
+  for (std::size_t i = 0; i < values.size(); ++i) {
+    std::printf("%-32s %7.1f us a row\n", measured[i].what, median(values[i]));
+  }
+}
+
+}  // namespace
+}  // namespace quorix::bench
+
+int main(int argc, char** argv) {
+  const quorix::bench::BenchApplication application(argc, argv);
+  quorix::bench::report();
+  return 0;
+}

@@ -1,0 +1,136 @@
+#include "qt/qml/WidgetItem.h"
+
+#include <QLocale>
+#include <utility>
+
+namespace quorix::qml {
+namespace {
+
+using swiftui::ContentSizeCategory;
+
+static_assert(static_cast<int>(WidgetItem::Large) == static_cast<int>(ContentSizeCategory::large));
+static_assert(static_cast<int>(WidgetItem::AccessibilityExtraExtraExtraLarge) ==
+              static_cast<int>(ContentSizeCategory::accessibilityExtraExtraExtraLarge));
+
+/// The code of Qt's default language; the C locale has none.
+QString applicationLanguage() {
+  const QLocale locale;
+  return locale.language() == QLocale::C ? QStringLiteral("en")
+                                         : locale.name().section(QLatin1Char('_'), 0, 0);
+}
+
+}  // namespace
+
+// What the widget is made of.
+
+void WidgetItem::setLocale(const QString& locale) {
+  if (replace(locale_, locale)) emit localeChanged();
+}
+
+void WidgetItem::setRegularFont(const QString& face) {
+  if (replace(regularFont_, face)) emit regularFontChanged();
+}
+
+void WidgetItem::setSemiBoldFont(const QString& face) {
+  if (replace(semiBoldFont_, face)) emit semiBoldFontChanged();
+}
+
+std::string WidgetItem::language() const {
+  return (locale_.isEmpty() ? applicationLanguage() : locale_).toStdString();
+}
+
+void WidgetItem::componentComplete() {
+  ViewItem::componentComplete();
+  // At once: a list asks a new delegate for its height before any frame.
+  make();
+}
+
+void WidgetItem::updatePolish() {
+  if (stale_) make();
+  ViewItem::updatePolish();
+}
+
+/// Hosts set one property after the other, and bindings follow one by one: the widget is made when
+/// all have had their turn, and before any frame shows the old one with the new surroundings.
+void WidgetItem::makeAnew() {
+  if (!isComponentComplete() || std::exchange(stale_, true)) return;
+  polish();
+  // No frame comes while the window is hidden, but `visible: implicitHeight > 0` wants its answer.
+  QMetaObject::invokeMethod(
+      this,
+      [this] {
+        if (stale_) make();
+      },
+      Qt::QueuedConnection);
+}
+
+void WidgetItem::make() {
+  stale_ = false;
+  setView(widget());
+}
+
+// Its surroundings.
+
+WidgetItem::Appearance WidgetItem::appearance() const {
+  const auto own = settings().appearance;
+  if (!own) return System;
+  return *own == graphics::Appearance::dark ? Dark : Light;
+}
+
+void WidgetItem::setAppearance(Appearance appearance) {
+  if (appearance == this->appearance()) return;
+  switch (appearance) {
+    case System:
+      ViewItem::setAppearance(std::nullopt);
+      break;
+    case Light:
+      ViewItem::setAppearance(graphics::Appearance::light);
+      break;
+    case Dark:
+      ViewItem::setAppearance(graphics::Appearance::dark);
+      break;
+  }
+  emit appearanceChanged();
+}
+
+Qt::LayoutDirection WidgetItem::layoutDirection() const {
+  const auto own = settings().direction;
+  if (!own) return Qt::LayoutDirectionAuto;
+  return *own == layout::LayoutDirection::rightToLeft ? Qt::RightToLeft : Qt::LeftToRight;
+}
+
+void WidgetItem::setLayoutDirection(Qt::LayoutDirection direction) {
+  if (direction == layoutDirection()) return;
+  switch (direction) {
+    case Qt::LayoutDirectionAuto:
+      ViewItem::setLayoutDirection(std::nullopt);
+      break;
+    case Qt::LeftToRight:
+      ViewItem::setLayoutDirection(layout::LayoutDirection::leftToRight);
+      break;
+    case Qt::RightToLeft:
+      ViewItem::setLayoutDirection(layout::LayoutDirection::rightToLeft);
+      break;
+  }
+  emit layoutDirectionChanged();
+}
+
+WidgetItem::TextSize WidgetItem::textSize() const {
+  return static_cast<TextSize>(settings().textSize);
+}
+
+void WidgetItem::setTextSize(TextSize size) {
+  if (size == textSize() || size < ExtraSmall || size > AccessibilityExtraExtraExtraLarge) return;
+  ViewItem::setTextSize(static_cast<ContentSizeCategory>(size));
+  emit textSizeChanged();
+}
+
+bool WidgetItem::animated() const { return settings().motion.value_or(true); }
+
+void WidgetItem::setAnimated(bool animated) {
+  if (animated == this->animated()) return;
+  setMotion(animated ? std::nullopt : std::optional(false));
+  emit animatedChanged();
+}
+
+}  // namespace quorix::qml

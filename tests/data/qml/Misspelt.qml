@@ -1,0 +1,5 @@
+import QuorixWidgets
+
+ScoreWidget {
+    tokens: ""
+}

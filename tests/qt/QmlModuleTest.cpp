@@ -1,0 +1,161 @@
+#include <gtest/gtest.h>
+
+#include <QLocale>
+#include <QQmlComponent>
+
+#include "QuorixWidgets/info/InfoWidgetBuilder.h"
+#include "QuorixWidgets/score/ScoreWidgetBuilder.h"
+#include "examples/common/TokenMint.h"
+#include "platform/foundation/URLSession.h"
+#include "platform/swiftui/TreePrinter.h"
+#include "qt/qml/InfoWidget.h"
+#include "qt/qml/ScoreWidget.h"
+#include "tests/qt/QuickScreen.h"
+
+namespace quorix::testing {
+namespace {
+
+/// A type of the module that shows what it makes, and counts.
+template <class Type>
+struct Open : Type {
+  static inline int made = 0;
+  swiftui::View widget() const override { return ++made, Type::widget(); }
+};
+using Score = Open<qml::ScoreWidget>;
+using Info = Open<qml::InfoWidget>;
+
+QString tokenOf(std::int64_t fee) {
+  return QString::fromStdString(examples::mintToken({0.82, "EUR", 900, fee}));
+}
+
+struct QmlModule : ::testing::Test {
+  QmlModule() {
+    qmlRegisterType<Score>("Shop", 1, 0, "Score");
+    qmlRegisterType<Info>("Shop", 1, 0, "Info");
+    Score::made = 0;
+  }
+
+  QQuickItem* add(const char* source) {
+    QQuickItem* item = screen.addQml(QByteArray(source).replace("TOKEN", tokenOf(300).toUtf8()));
+    screen.settle();
+    return item;
+  }
+  int made() { return std::exchange(Score::made, 0); }
+
+  std::shared_ptr<void> offline = foundation::URLSession::shared().registerProtocol([](auto&) {
+    return foundation::URLResponse{foundation::Error{"Test", 1, "offline"}, {}, 0};
+  });
+  QuickScreen screen;
+};
+
+TEST_F(QmlModule, MakesWhatTheBuildersMake) {
+  QLocale::setDefault(QLocale("de_DE"));
+  constexpr auto absent = std::nullopt;
+  const auto score = [](auto client, auto locale, const ScoreWidgetStyle& style) {
+    return ScoreWidgetBuilder::buildSwiftUIScoreWidgetView(client, locale,
+                                                           tokenOf(300).toStdString(), style);
+  };
+  const auto info = &InfoWidgetBuilder::buildSwiftUIInfoWidgetView;
+  const auto cream = swiftui::Color::fixed({250, 247, 240, 128});
+  const struct {
+    const char* source;
+    swiftui::View expected;
+  } cases[] = {
+      {"Score { clientId: 'shop'; token: 'TOKEN'; locale: 'es'; regularFont: '' }",
+       score("shop", "es", {absent, absent})},
+      {"Score { clientId: 'shop'; token: 'TOKEN'; regularFont: 'A'; semiBoldFont: 'B' }",
+       score("shop", "de", {"A", "B"})},
+      {"Score { token: 'TOKEN' }", score("", "de", {absent, absent})},
+      {"Score { clientId: 'shop'; token: undefined }", score("", "de", {absent, absent})},
+      {"Info { locale: undefined; backgroundColor: undefined; semiBoldFont: 'B' }",
+       info("de", {absent, "B", absent, false})},
+      {"Info { locale: 'nb'; backgroundColor: '#80faf7f0'; showBorder: true }",
+       info("nb", {absent, absent, cream, true})},
+  };
+  for (const auto& tested : cases) {
+    const QQuickItem* item = add(tested.source);
+    const auto* asInfo = dynamic_cast<const Info*>(item);
+    const auto view = asInfo ? asInfo->widget() : static_cast<const Score*>(item)->widget();
+    EXPECT_EQ(printTree(view), printTree(tested.expected)) << tested.source;
+    const qt::ViewItem plain(tested.expected);
+    EXPECT_EQ(item->size(), QSizeF(plain.implicitWidth(), plain.implicitHeight()));
+  }
+  QLocale::setDefault(QLocale::c());
+}
+
+TEST_F(QmlModule, IsMadeOnceForAllThatChangesInOneGo) {
+  QQuickItem* row = add(R"(
+      Score { visible: implicitHeight > 0; clientId: "shop"; token: "TOKEN"; locale: "en" })");
+  EXPECT_EQ(made(), 1);
+  row->setProperty("token", tokenOf(200));
+  row->setProperty("locale", "es");
+  EXPECT_EQ(made(), 0);
+  screen.settle();
+  EXPECT_EQ(made(), 1);
+  row->setProperty("locale", "es");
+  row->setProperty("textSize", qml::WidgetItem::Small);
+  screen.settle();
+  EXPECT_EQ(made(), 0);
+  // What shows nothing and is hidden for it comes back by itself.
+  for (const bool shown : {false, true}) {
+    row->setProperty("token", shown ? tokenOf(100) : "unreadable");
+    screen.settle();
+    EXPECT_EQ(row->isVisible(), shown);
+    EXPECT_EQ(made(), 1);
+  }
+}
+
+TEST_F(QmlModule, ANewTokenStandsWhereTheOldOneStood) {
+  auto* row = add("Score { y: 40; width: 300; clientId: 'shop'; token: 'TOKEN'; locale: 'en' }");
+  row->setProperty("animated", false);
+  screen.addFocusable();
+  screen.key(Qt::Key_Tab);
+  ASSERT_TRUE(row->hasActiveFocus());
+  const QImage before = screen.grab();
+  row->setProperty("token", tokenOf(200));
+  EXPECT_NE(screen.grab(), before) << "the first frame shows it";
+  row->setProperty("token", tokenOf(300));
+  EXPECT_EQ(screen.grab(), before) << "the ring is where it was";
+  screen.key(Qt::Key_Space);
+  screen.settle();
+  EXPECT_TRUE(screen.shows("Close"));
+  row->setProperty("token", tokenOf(200));
+  screen.settle();
+  EXPECT_FALSE(screen.shows("Close"));
+}
+
+TEST_F(QmlModule, AListMakesARowOnceForEachPlaceItTakes) {
+  QQuickItem* list = add(R"(
+      ListView {
+        property int taken
+        width: 320; height: 400; model: 200; reuseItems: true
+        delegate: Score {
+          required property int index
+          clientId: "shop" + index; token: "TOKEN"; locale: index % 2 ? "en" : "es"
+          Component.onCompleted: ++ListView.view.taken
+          ListView.onReused: ++ListView.view.taken
+        }
+      })");
+  for (int y = 0; y < 3000; y += 330) {
+    list->setProperty("contentY", y);
+    screen.settle();
+  }
+  EXPECT_GT(list->property("taken").toInt(), 100);
+  EXPECT_EQ(made(), list->property("taken").toInt());
+}
+
+TEST_F(QmlModule, IsThereForAFileThatKnowsNothingElse) {
+  QQmlEngine engine;
+  QQmlComponent component(&engine, QUrl::fromLocalFile(TEST_DATA "/qml/Page.qml"));
+  const std::unique_ptr<QObject> page(component.create());
+  ASSERT_TRUE(page) << component.errorString().toStdString();
+  auto& item = dynamic_cast<QQuickItem&>(*page);
+  const double wide = item.implicitHeight();
+  item.setParentItem(screen.window().contentItem());
+  item.setWidth(200);
+  screen.settle();
+  EXPECT_GT(item.implicitHeight(), wide);
+}
+
+}  // namespace
+}  // namespace quorix::testing
