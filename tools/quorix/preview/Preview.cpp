@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QFileInfo>
 #include <QProcess>
+#include <QSaveFile>
 #include <algorithm>
 #include <vector>
 
@@ -78,6 +79,7 @@ Preview::Preview(const PreviewChoices& choices)
   translations_ = foundation::URLSession::shared().registerProtocol(
       [file = choices.translations](const URL&) { return answer(file); });
   pictureDue_.setSingleShot(true);
+  pictureDue_.setInterval(50);  // milliseconds
   connect(&controls_, &PreviewControls::chosen, this, &Preview::refresh);
   connect(&controls_, &PreviewControls::closed, qApp, &QApplication::quit);
   connect(&screen_, &PreviewScreen::closed, qApp, &QApplication::quit);
@@ -168,8 +170,9 @@ void Preview::writePicture() {
   const QImage picture = screen_.picture().toImage();
   if (picture == written_) return;
   written_ = picture;
-  const QString file = QString::fromStdString(*controls_.choices().out);
-  if (!picture.save(file)) controls_.say(tr("Can't write %1.").arg(file));
+  QSaveFile file(QString::fromStdString(*controls_.choices().out));  // whole or not at all
+  const bool saved = file.open(QIODevice::WriteOnly) && picture.save(&file, "PNG") && file.commit();
+  if (!saved) controls_.say(tr("Can't write %1.").arg(file.fileName()));
 }
 
 }  // namespace quorix::tool

@@ -1,11 +1,13 @@
 #include "tools/quorix/preview/PreviewScreen.h"
 
-#include <QAccessible>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "QuorixWidgets/info/InfoWidgetBuilder.h"
 #include "QuorixWidgets/score/ScoreWidgetBuilder.h"
 #include "platform/swiftui/UIViewRepresentable.h"
+#include "qt/AccessibilityBridge.h"
+#include "qt/AccessibleSurface.h"
 #include "qt/widgets/SheetWidget.h"
 
 namespace quorix::tool {
@@ -62,17 +64,14 @@ void PreviewScreen::show(const PreviewChoices& choices) {
 
 bool PreviewScreen::hasSheet() const { return qt::SheetWidget::topmost(*this) != nullptr; }
 
-/// As a screen reader would: presses the first of the widget's elements that acts.
+/// As a screen reader would: acts on the first of the widget's elements that does anything.
 void PreviewScreen::openSheet() {
-  QAccessibleInterface* elements = QAccessible::queryAccessibleInterface(widget_);
-  for (int i = 0; elements && i < elements->childCount(); ++i) {
-    QAccessibleInterface* element = elements->child(i);
-    QAccessibleActionInterface* actions = element ? element->actionInterface() : nullptr;
-    if (!actions || !actions->actionNames().contains(QAccessibleActionInterface::pressAction())) {
-      continue;
-    }
-    return actions->doAction(QAccessibleActionInterface::pressAction());
-  }
+  qt::AccessibleSurface* surface = qt::AccessibilityBridge::surfaceOf(widget_);
+  const auto& elements = surface->accessibilityElements();
+  const auto acting =
+      std::ranges::find_if(elements, [](const auto& element) { return bool(element.action); });
+  if (acting == elements.end()) return;
+  surface->performAccessibilityAction(static_cast<int>(acting - elements.begin()));
 }
 
 void PreviewScreen::closeEvent(QCloseEvent* event) {

@@ -1,0 +1,106 @@
+#include <gtest/gtest.h>
+
+#include <QDeadlineTimer>
+#include <QFile>
+#include <QImage>
+#include <QProcess>
+#include <algorithm>
+
+#include "Tool.h"
+
+namespace {
+
+void write(const QString& path, const QByteArray& bytes) {
+  QFile file(path);
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << path.toStdString();
+  file.write(bytes);
+}
+
+/// A preview that writes what it shows into a file, without a display.
+struct Preview {
+  Tool tool;
+  QProcess process;
+  QImage shown;
+
+  explicit Preview(QStringList arguments) {
+    arguments << "--out" << tool.path("shown.png");
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("QT_QPA_PLATFORM", "offscreen");
+    process.setProcessEnvironment(environment);
+    process.setWorkingDirectory(tool.path("."));
+    process.start(QUORIX_TOOL, QStringList("preview") + arguments);
+  }
+  ~Preview() {
+    process.kill();
+    process.waitForFinished();
+  }
+
+  /// Whether another picture comes up; `shown` is that one then.
+  bool showsAnother() {
+    const QDeadlineTimer deadline(20'000);
+    while (!deadline.hasExpired() && !process.waitForFinished(20)) {
+      const QImage now(tool.path("shown.png"));
+      if (now.isNull() || now == shown) continue;
+      shown = now;
+      return true;
+    }
+    return false;
+  }
+};
+
+/// How far the row's title reaches, in pixels of a screen 375 wide.
+int reachOfTitle(const QImage& screen) {
+  int reach = 0;
+  for (int y = 0; y < 60; ++y) {
+    for (int x = 0; x < 250; ++x) {
+      if (qGray(screen.pixel(x, y)) < 128) reach = std::max(reach, x);
+    }
+  }
+  return reach;
+}
+
+}  // namespace
+
+TEST(PreviewTool, FollowsTextsAndAssets) {
+  const Tool folder;
+  const auto made = folder.shell(
+      "mkdir -p en.lproj && cp $STRINGS/en.lproj/Localizable.strings en.lproj && "
+      "cp -r $STRINGS/Assets.xcassets/Background.colorset . && mkdir Assets.xcassets && "
+      "mv Background.colorset Assets.xcassets");
+  ASSERT_EQ(made.status, 0) << made.err;
+  Preview preview({"--widget", "info", "--resources", folder.path(".")});
+  ASSERT_TRUE(preview.showsAnother());
+  const char* rows[] = {
+      "sed -i 's/\"widget-read-more\".*/\"widget-read-more\" = \"Onwards\";/' "
+      "en.lproj/Localizable.strings",
+      "sed -i 's/\"red\".*:.*/\"red\" : \"0.300\",/' Assets.xcassets/Background.colorset/*.json",
+  };
+  for (const char* edit : rows) {
+    ASSERT_EQ(folder.shell(edit).status, 0) << edit;
+    EXPECT_TRUE(preview.showsAnother()) << edit;
+  }
+}
+
+TEST(PreviewTool, FollowsTranslationsThatAreReplaced) {
+  const Tool folder;
+  write(folder.path("texts.json"), R"({"returns": {"title": "i"}})");
+  Preview preview({"--translations", folder.path("texts.json")});
+  while (preview.showsAnother() && reachOfTitle(preview.shown) > 30) {
+  }
+  ASSERT_LT(reachOfTitle(preview.shown), 30);
+  // As editors do: a new file under the old name.
+  write(folder.path("new.json"), R"({"returns": {"title": "a title that is far longer"}})");
+  ASSERT_EQ(folder.shell("mv new.json texts.json").status, 0);
+  EXPECT_TRUE(preview.showsAnother());
+  EXPECT_GT(reachOfTitle(preview.shown), 180);
+}
+
+TEST(PreviewTool, SaysInOneLineWhatItCannotShow) {
+  const Tool tool;
+  for (const char* arguments : {"--resources nowhere", "--translations nowhere.json",
+                                "--shopper nobody", "--width 10", "--regular-font nowhere.ttf"}) {
+    const auto run = tool.shell(std::string("quorix preview ") + arguments);
+    EXPECT_NE(run.status, 0) << arguments;
+    EXPECT_TRUE(isOneErrorLine(run.err)) << arguments << run.err;
+  }
+}
