@@ -35,6 +35,9 @@ ScrollPage::ScrollPage(QWidget* parent) : QScrollArea(parent) {
   setWidget(body);
 }
 
-void ScrollPage::setBanner(QWidget* widget) { page_->insertWidget(0, widget); }
+void ScrollPage::setBanner(QWidget* widget) {
+  page_->insertWidget(0, widget);
+  widget->lower();  // to be read first
+}
 
 }  // namespace quorix::examples
