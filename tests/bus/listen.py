@@ -54,7 +54,9 @@ class Walk:
         reader.press(opener)
         sheet = bus.until(window.dialog, f"the sheet of {title}")
         self.lines += ["-- opens", *window.heard_until(reader.line(sheet)), *reader.read(sheet)]
-        bus.until(lambda: not reader.shown(opener), "what is behind the sheet to go")
+        bus.until(lambda: opener in window.hidden and not reader.shown(opener),
+                  "what is behind the sheet to go")
+        window.hidden.clear()
         reader.press(next(window.all("push button", *CLOSES)))
         bus.until(lambda: not window.dialog(), "the sheet to close")
         self.lines += ["-- closes", *window.heard_until(itself)]

@@ -28,7 +28,6 @@ def listen():
         value = GLib.Variant("(ssv)", ("org.a11y.Status", name, GLib.Variant("b", True)))
         status.call_sync("Set", value, 0, -1, None)
     Atspi.init()
-    Atspi.get_desktop(0).set_cache_mask(Atspi.Cache.NONE)  # what is, not what was
 
 
 def children(element):
@@ -41,6 +40,7 @@ def children(element):
 
 def shown(element):
     try:
+        element.clear_cache()  # Qt does not tell of every change
         return element.get_state_set().contains(State.SHOWING)
     except GLib.Error:
         return False
@@ -83,8 +83,11 @@ def actions(element):
 
 def read(element):
     """A line for each thing in it to hear; what only holds others together is silent."""
-    return [line(each) for child in children(element) for each in walk(child)
-            if each.get_role_name() not in SILENT or any(words(each))]
+    return [line(each) for child in children(element) for each in walk(child) if speaks(each)]
+
+
+def speaks(element):
+    return element.get_role_name() not in SILENT or any(words(element))
 
 
 def press(element):
@@ -97,9 +100,10 @@ class Window:
     def __init__(self, title):
         self.title = title
         self.events = []
+        self.hidden = []
         self.root = bus.until(self._find, f"the window {title}")
         self._listener = Atspi.EventListener.new(self._hear)
-        for event in ("object:state-changed:focused", "object:property-change:accessible-name",
+        for event in ("object:state-changed:focused", "object:state-changed:showing", "object:property-change:accessible-name",
                       "object:property-change:accessible-description",
                       "object:announcement"):
             self._listener.register(event)
@@ -110,10 +114,14 @@ class Window:
                      if window.get_name() == self.title and shown(window)), None)
 
     def _hear(self, event):
-        if event.type.endswith("focused") and not event.detail1:
+        if event.type.endswith("showing") and not event.detail1:
+            self.hidden.append(event.source)
+        if event.type.endswith("showing") or (event.type.endswith("focused") and not event.detail1):
             return
         kind = event.type.split(":")[-1]
         try:
+            if not speaks(event.source):
+                return
             said = f"{kind}: {line(event.source)}"
             above = event.source
             while above and above != self.root:
@@ -131,7 +139,7 @@ class Window:
         self.forget()
 
     def _is_active(self):
-        self.root.clear_cache()  # not every toolkit tells of it
+        self.root.clear_cache()
         return self.root.get_state_set().contains(State.ACTIVE)
 
     def forget(self):
