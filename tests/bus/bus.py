@@ -22,7 +22,8 @@ def enter(locale):
         sys.exit(SKIPPED)
     read, write = os.pipe()
     display = subprocess.Popen(
-        ["Xvfb", "-displayfd", str(write), "-nolisten", "tcp", "-screen", "0", "1280x1024x24"],
+        ["Xvfb", "-displayfd", str(write), "-noreset", "-nolisten", "tcp",
+         "-screen", "0", "1280x1024x24"],
         pass_fds=[write], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
     os.close(write)
     with os.fdopen(read) as told, tempfile.TemporaryDirectory() as home:

@@ -32,6 +32,7 @@ def listen():
 
 def children(element):
     try:
+        element.clear_cache()  # Qt does not tell of every change
         every = [element.get_child_at_index(i) for i in range(element.get_child_count())]
     except GLib.Error:  # it went in the meantime
         return []
@@ -40,7 +41,7 @@ def children(element):
 
 def shown(element):
     try:
-        element.clear_cache()  # Qt does not tell of every change
+        element.clear_cache()
         return element.get_state_set().contains(State.SHOWING)
     except GLib.Error:
         return False
