@@ -48,6 +48,13 @@ AccessibleSurface* AccessibilityBridge::surfaceOf(const QObject* object) {
   return surfaces().value(object);
 }
 
+void AccessibilityBridge::coverChanged() {
+  if (!isActive()) return;
+  for (const QObject* object : surfaces().keys()) {
+    ViewAccessible::coverChanged(const_cast<QObject&>(*object));
+  }
+}
+
 bool AccessibilityBridge::isActive() { return QAccessible::isActive() || instance()->active_; }
 
 void AccessibilityBridge::accessibilityActiveChanged(bool active) {

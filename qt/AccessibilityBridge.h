@@ -21,6 +21,9 @@ class AccessibilityBridge : public QObject, private QAccessible::ActivationObser
   void remove(QObject& object);
   static AccessibleSurface* surfaceOf(const QObject* object);
 
+  /// Something modal came over a window, or went.
+  static void coverChanged();
+
   /// Whether assistive technology listens.
   static bool isActive();
 

@@ -22,6 +22,9 @@ class AccessibleSurface {
   virtual std::vector<QObject*> accessibleViews() const { return {}; }
   virtual void performAccessibilityAction(int index) = 0;
   virtual std::optional<layout::Rect> focusedFrame() const = 0;
+  /// Leads the keyboard focus inside the surface to an element. False when that does not act.
+  virtual bool focusElement(int index) = 0;
+  /// Takes the keyboard focus, which then is where `focusElement` led it.
   virtual void takeFocus() = 0;
 
   /// A frame of the scene on the screen, in points.

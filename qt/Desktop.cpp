@@ -8,6 +8,10 @@
 #include <QSettings>
 #include <QStandardPaths>
 
+#ifdef QUORIX_DBUS
+#include "qt/DesktopPortal.h"
+#endif
+
 namespace quorix::qt {
 namespace {
 
@@ -30,6 +34,10 @@ Desktop* Desktop::instance() {
 Desktop::Desktop(QObject* application) : QObject(application) {
   application->installEventFilter(this);
   connect(qGuiApp, &QGuiApplication::layoutDirectionChanged, this, &Desktop::changed);
+#ifdef QUORIX_DBUS
+  portal_ = new DesktopPortal(this);
+  connect(portal_, &DesktopPortal::changed, this, &Desktop::changed);
+#endif
 }
 
 graphics::Appearance Desktop::appearance() { return appearanceOf(QGuiApplication::palette()); }
@@ -54,9 +62,17 @@ std::string Desktop::language() {
 }
 
 bool Desktop::prefersReducedMotion() {
-  // Qt 6.4 passes no such wish on. The two desktops that keep it in a plain file are asked.
+  // Qt 6.4 passes no such wish on. It is the desktops' common settings service that has it, and
+  // files where there is none.
+#ifdef QUORIX_DBUS
+  const Desktop* desktop = instance();
+  if (desktop && desktop->portal_->prefersReducedMotion()) return true;
+#endif
   if (configured("kdeglobals", "KDE/AnimationDurationFactor", 1.0).toDouble() == 0) return true;
-  return !configured("gtk-3.0/settings.ini", "Settings/gtk-enable-animations", true).toBool();
+  for (const char* gtk : {"gtk-4.0/settings.ini", "gtk-3.0/settings.ini"}) {
+    if (!configured(gtk, "Settings/gtk-enable-animations", true).toBool()) return true;
+  }
+  return false;
 }
 
 bool Desktop::eventFilter(QObject* watched, QEvent* event) {

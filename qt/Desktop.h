@@ -10,6 +10,8 @@ class QPalette;
 
 namespace quorix::qt {
 
+class DesktopPortal;
+
 /// What the desktop says for every surface of the process: light or dark, reading direction,
 /// motion. Lives as long as the application object; main thread.
 class Desktop : public QObject {
@@ -27,7 +29,7 @@ class Desktop : public QObject {
   static layout::LayoutDirection directionOf(Qt::LayoutDirection direction);
   /// The application's language, as a code such as "tr".
   static std::string language();
-  /// The user asked for less motion. Read anew each time.
+  /// The user asked for less motion: the latest word of the desktop's settings.
   static bool prefersReducedMotion();
 
  signals:
@@ -38,6 +40,8 @@ class Desktop : public QObject {
 
  private:
   explicit Desktop(QObject* application);
+
+  DesktopPortal* portal_ = nullptr;  ///< where there is D-Bus
 };
 
 }  // namespace quorix::qt

@@ -78,7 +78,7 @@ QAccessible::State ElementAccessible::state() const {
   const AccessibleSurface& surface = *AccessibilityBridge::surfaceOf(owner_);
   const bool reachable = surface.isShown() && !surface.isCovered();
   state.invisible = !reachable;
-  state.readOnly = true;
+  state.readOnly = !acts;
   state.focusable = acts && reachable;
   state.focused = acts && surface.focusedFrame() == frame;
   return state;
@@ -103,7 +103,7 @@ void ElementAccessible::doAction(const QString& name) {
   AccessibleSurface* surface = AccessibilityBridge::surfaceOf(owner_);
   if (!surface || surface->isCovered()) return;
   if (name == pressAction()) surface->performAccessibilityAction(index_);
-  if (name == setFocusAction()) surface->takeFocus();
+  if (name == setFocusAction() && surface->focusElement(index_)) surface->takeFocus();
 }
 
 }  // namespace quorix::qt

@@ -44,6 +44,13 @@ void HostedView::activate(int index) {
   host_.activate(index);
 }
 
+bool HostedView::focusElement(int index) {
+  host_.scene(size());  // which the index is of
+  needsFrame();
+  if (hasFocus()) ViewAccessible::focusChanged(self_, Qt::QueuedConnection);
+  return host_.focus(index);
+}
+
 // Pointer.
 
 bool HostedView::handle(QEvent& event) {
@@ -139,6 +146,8 @@ void HostedView::focusCame(Qt::FocusReason reason) {
   host_.scene(size());  // which says what there is to come to
   focus_.came(causeOf(reason));
   needsFrame();
+  // After the toolkit, which tells of the view as a whole.
+  if (host_.focusFrame()) ViewAccessible::focusChanged(self_, Qt::QueuedConnection);
 }
 
 void HostedView::focusWent(Qt::FocusReason reason) {

@@ -42,6 +42,8 @@ class HostedView : private hosting::ViewHost::Client {
   void focusWent(Qt::FocusReason reason);
   /// Assistive technology has an element act.
   void activate(int index);
+  /// It leads the focus to an element. False when that does not act.
+  bool focusElement(int index);
   /// The keyboard moves the focus on. False when there is no further element.
   bool walk(bool forward);
 

@@ -5,6 +5,7 @@
 #include <QTouchEvent>
 #include <utility>
 
+#include "qt/AccessibilityBridge.h"
 #include "qt/Input.h"
 #include "qt/QtTextEngine.h"
 #include "qt/ViewAccessible.h"
@@ -28,6 +29,7 @@ void SheetSurface::setSettings(const EnvironmentSource& settings) {
 void SheetSurface::present(const swiftui::Presentation& presentation) {
   presenter_.present(presentation);
   if (std::exchange(presented_, true)) return;
+  AccessibilityBridge::coverChanged();
   takeFocusOver();
   ViewAccessible::focusChanged(self_);
   if (!pages_.canShow(presenter_.panel())) giveUpPages();
@@ -48,6 +50,7 @@ void SheetSurface::abandon() {
 
 void SheetSurface::leave() {
   clock_.stop();
+  AccessibilityBridge::coverChanged();
   giveFocusBack();
   vanish();
   // The presenter is still at work, and so may be an event of this surface.
@@ -213,6 +216,11 @@ bool SheetSurface::handleKey(QKeyEvent& event) {
       return false;
   }
   return false;
+}
+
+bool SheetSurface::focusElement(int index) {
+  ViewAccessible::focusChanged(self_, Qt::QueuedConnection);
+  return presenter_.focus(index);
 }
 
 void SheetSurface::walk(bool forward) {

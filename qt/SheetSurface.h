@@ -51,6 +51,8 @@ class SheetSurface : private hosting::SheetPresenter::Client {
   bool handle(QEvent& event);
   void pointerLost();
   bool takesTapAt(QPointF point);
+  /// Assistive technology leads the focus to an element. False when that does not act.
+  bool focusElement(int index);
   /// Moves the focus on, inside the sheet.
   void walk(bool forward);
 

@@ -20,6 +20,7 @@ ViewAccessible::ViewAccessible(QObject* owner) : QAccessibleObject(owner), sole_
   for (const auto& element : surface()->accessibilityElements()) {
     told_.push_back({element.label, element.hint});
   }
+  covered_ = surface()->isCovered();
 }
 
 ViewAccessible::~ViewAccessible() {
@@ -53,12 +54,29 @@ void ViewAccessible::sceneChanged(QObject& owner) {
   if (ViewAccessible* self = listening(owner)) self->update();
 }
 
-void ViewAccessible::focusChanged(QObject& owner) {
+void ViewAccessible::focusChanged(QObject& owner, Qt::ConnectionType when) {
+  if (!AccessibilityBridge::isActive()) return;
+  const auto say = [&owner] {
+    ViewAccessible* self = listening(owner);
+    if (!self) return;
+    QAccessibleInterface* focused = self->focusChild();
+    QAccessibleEvent event(focused ? focused : self, QAccessible::Focus);
+    QAccessible::updateAccessibility(&event);
+  };
+  QMetaObject::invokeMethod(&owner, say, when);
+}
+
+// A reader keeps what it was told: it would go on reading what lies behind a sheet.
+void ViewAccessible::coverChanged(QObject& owner) {
   ViewAccessible* self = listening(owner);
-  if (!self) return;
-  QAccessibleInterface* focused = self->focusChild();
-  QAccessibleEvent event(focused ? focused : self, QAccessible::Focus);
-  QAccessible::updateAccessibility(&event);
+  const AccessibleSurface* shown = self ? self->surface() : nullptr;
+  if (!shown || std::exchange(self->covered_, shown->isCovered()) == self->covered_) return;
+  if (!shown->isShown()) return;
+  const auto event = self->covered_ ? QAccessible::ObjectHide : QAccessible::ObjectShow;
+  QAccessibleEvent said(self, event);
+  QAccessible::updateAccessibility(&said);
+  if (self->isSoleElement()) return;
+  for (std::size_t i = 0; i < self->told_.size(); ++i) self->tell(event, i);
 }
 
 void ViewAccessible::update() {
@@ -106,9 +124,12 @@ QString ViewAccessible::text(QAccessible::Text kind) const {
   if (isSoleElement()) return sole_.text(kind);
   AccessibleSurface* shown = surface();
   if (!shown || !shown->isDialog() || kind != QAccessible::Name) return {};
-  // A dialog bears the name of what it begins with.
-  const auto& elements = shown->accessibilityElements();
-  return elements.empty() ? QString() : QString::fromStdString(elements.front().label);
+  // A dialog bears the name of the first text in it, or else of its page.
+  for (const auto& element : shown->accessibilityElements()) {
+    if (!element.action) return QString::fromStdString(element.label);
+  }
+  const auto pages = views();
+  return pages.empty() ? QString() : pages.front()->text(kind);
 }
 
 QAccessible::Role ViewAccessible::role() const {

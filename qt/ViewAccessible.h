@@ -18,7 +18,10 @@ class ViewAccessible : public QAccessibleObject, public QAccessibleActionInterfa
   /// Tells assistive technology, if it listens, what differs from the scene that it was told of
   /// last.
   static void sceneChanged(QObject& owner);
-  static void focusChanged(QObject& owner);
+  /// Tells where the focus is: now, or on a later turn.
+  static void focusChanged(QObject& owner, Qt::ConnectionType when = Qt::DirectConnection);
+  /// Tells when something modal came over it, or went.
+  static void coverChanged(QObject& owner);
 
   QWindow* window() const override;
   QRect rect() const override;
@@ -55,6 +58,7 @@ class ViewAccessible : public QAccessibleObject, public QAccessibleActionInterfa
   ElementAccessible sole_;
   mutable std::vector<QAccessible::Id> children_;
   std::vector<Told> told_;
+  bool covered_;  ///< as told last
 };
 
 }  // namespace quorix::qt

@@ -12,6 +12,7 @@ struct ShopOptions {
   bool widgets = false;           ///< a Qt Widgets window beside the Qt Quick one
   bool pictures = false;          ///< write pictures instead of opening a window
   std::string outFolder = "out";  ///< where they go
+  int language = 0;               ///< which of the shop's it starts in
 
   static const char* usage();
 

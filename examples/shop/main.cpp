@@ -64,6 +64,8 @@ int writePictures(int argc, char** argv, const std::string& folder) {
 
 /// The shop with all that answers for it, and its window.
 struct OpenShop {
+  explicit OpenShop(const ShopOptions& options) { shop.chooseLanguage(options.language); }
+
   StandInServices services{250ms};
   Shop shop;
   OverlayPages pages{shop};
@@ -71,19 +73,19 @@ struct OpenShop {
   QuickWindow quick{shop};
 };
 
-int openQuick(int argc, char** argv) {
+int openQuick(int argc, char** argv, const ShopOptions& options) {
   const QGuiApplication app(argc, argv);
   prepare();
-  const OpenShop open;
+  const OpenShop open(options);
   open.quick.window().show();
   return QGuiApplication::exec();
 }
 
 /// Both faces beside each other, showing one shop.
-int openBoth(int argc, char** argv) {
+int openBoth(int argc, char** argv, const ShopOptions& options) {
   const QApplication app(argc, argv);
   prepare();
-  OpenShop open;
+  OpenShop open(options);
   QQuickWindow& quick = open.quick.window();
   WidgetsWindow widgets(open.shop);
   const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
@@ -118,5 +120,5 @@ int main(int argc, char** argv) {
                 options.outFolder.c_str());
     return writePictures(argc, argv, options.outFolder);
   }
-  return options.widgets ? openBoth(argc, argv) : openQuick(argc, argv);
+  return options.widgets ? openBoth(argc, argv, options) : openQuick(argc, argv, options);
 }

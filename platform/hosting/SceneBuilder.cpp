@@ -4,7 +4,7 @@
 #include <iterator>
 #include <utility>
 
-#include "platform/hosting/ImageName.h"
+#include "platform/graphics/ImageName.h"
 
 namespace quorix::hosting {
 namespace {
@@ -61,8 +61,8 @@ SceneBuilder::SceneBuilder(const swiftui::Evaluation& evaluation,
                            const swiftui::Environment& environment, text::TextEngine& engine,
                            GeometryVisitor visitGeometry)
     : evaluation_(evaluation),
-      display_{environment.appearance, environment.direction, environment.scale},
-      language_(environment.language),
+      display_{environment.appearance, environment.direction, environment.scale,
+               environment.language},
       engine_(engine),
       visitGeometry_(std::move(visitGeometry)),
       grid_(environment.scale) {
@@ -156,7 +156,7 @@ std::string SceneBuilder::buttonLabel(const layout::Element& label,
   }
   if (!words.empty()) return words;
   const elements::Image* image = firstImage(label);
-  return image ? spokenName(*image, language_) : words;
+  return image ? graphics::spokenName(*image->bundle, image->name, display_.language) : words;
 }
 
 /// Applies a decoration to what assistive technology meets inside it.

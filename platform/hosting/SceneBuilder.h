@@ -38,7 +38,6 @@ class SceneBuilder {
 
   const swiftui::Evaluation& evaluation_;
   render::Display display_;
-  const std::string& language_;
   text::TextEngine& engine_;
   GeometryVisitor visitGeometry_;
   layout::PixelGrid grid_;

@@ -259,6 +259,11 @@ bool SheetPresenter::moveFocus(bool forward) {
   return moved;
 }
 
+bool SheetPresenter::focus(int index) {
+  state_->client.sheetNeedsDisplay();
+  return state_->content.focus(index);
+}
+
 void SheetPresenter::dropFocus() {
   state_->focus.left(ViewFocus::Cause::other);
   state_->client.sheetNeedsDisplay();

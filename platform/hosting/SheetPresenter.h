@@ -68,6 +68,8 @@ class SheetPresenter {
   /// Moves the focus inside the sheet, round and round: it never leaves while the sheet is up.
   /// False when it is the turn of what paints itself in the sheet, which is after the last element.
   bool moveFocus(bool forward);
+  /// Moves it to accessibility element `index` of `scene`. False when that does not act.
+  bool focus(int index);
   /// The focus went to what paints itself in the sheet.
   void dropFocus();
   std::optional<layout::Rect> focusFrame() const;

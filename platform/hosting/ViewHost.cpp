@@ -46,6 +46,7 @@ struct ViewHost::State {
   void layOut(const Area& within);
   const render::Scene* current();
   void perform(const std::function<void()>& action);
+  const render::AccessibilityElement* acting(int index);
 
   text::TextEngine& engine;
   Client& client;
@@ -257,6 +258,21 @@ bool ViewHost::moveFocus(bool forward) {
   return true;
 }
 
+/// Element `index` of the latest scene, or null when it is none that acts.
+const render::AccessibilityElement* ViewHost::State::acting(int index) {
+  const render::Scene* latest = index < 0 ? nullptr : current();
+  const auto position = static_cast<std::size_t>(index);
+  if (!latest || position >= latest->accessibility.size()) return nullptr;
+  const auto& element = latest->accessibility[position];
+  return element.action ? &element : nullptr;
+}
+
+bool ViewHost::focus(int index) {
+  if (!state_->acting(index)) return false;
+  state_->focused = index;
+  return true;
+}
+
 void ViewHost::clearFocus() { state_->focused = -1; }
 
 int ViewHost::actingElements() const {
@@ -280,13 +296,9 @@ std::optional<layout::Rect> ViewHost::focusFrame() const {
 bool ViewHost::activateFocus() { return activate(state_->focused); }
 
 bool ViewHost::activate(int index) {
-  const render::Scene* scene = index < 0 ? nullptr : state_->current();
-  if (!scene) return false;
-  const auto& elements = scene->accessibility;
-  const auto position = static_cast<std::size_t>(index);
-  if (position >= elements.size() || !elements[position].action) return false;
-  state_->perform(elements[position].action);
-  return true;
+  const render::AccessibilityElement* element = state_->acting(index);
+  if (element) state_->perform(element->action);
+  return element != nullptr;
 }
 
 }  // namespace quorix::hosting

@@ -74,6 +74,8 @@ class ViewHost {
   /// Moves the keyboard focus among the elements that act. False when there is none further: focus
   /// leaves the view.
   bool moveFocus(bool forward);
+  /// Moves it to accessibility element `index` of the latest scene. False when that does not act.
+  bool focus(int index);
   void clearFocus();
   /// How many elements of the latest scene act.
   int actingElements() const;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "platform/graphics/RGBA.h"
 #include "platform/layout/Geometry.h"
 
@@ -9,7 +11,8 @@ namespace quorix::render {
 struct Display {
   graphics::Appearance appearance = graphics::Appearance::light;
   layout::LayoutDirection direction = layout::LayoutDirection::leftToRight;
-  double scale = 1;  ///< device pixels for each point
+  double scale = 1;           ///< device pixels for each point
+  std::string language = {};  ///< of what has no words of its own, as a code such as "tr"
 };
 
 }  // namespace quorix::render

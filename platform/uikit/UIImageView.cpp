@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "platform/graphics/ImageName.h"
+
 namespace quorix::uikit {
 namespace {
 
@@ -57,12 +59,13 @@ void UIImageView::draw(const layout::Rect& frame, const LayoutContext& context,
   items.push_back(std::move(item));
 }
 
-std::optional<render::AccessibilityElement> UIImageView::describe() const {
+std::optional<render::AccessibilityElement> UIImageView::describe(std::string_view language) const {
   if (!image_) return std::nullopt;
   render::AccessibilityElement element;
   element.role = render::Role::image;
   // A picture that can be tapped is better called by its name than not at all.
-  if (!gestureRecognizers().empty()) element.label = image_->name();
+  const bool acts = !gestureRecognizers().empty() && image_->bundle();
+  if (acts) element.label = graphics::spokenName(*image_->bundle(), image_->name(), language);
   return element;
 }
 

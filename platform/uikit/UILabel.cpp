@@ -106,7 +106,7 @@ void UILabel::draw(const layout::Rect& frame, const LayoutContext& context,
   items.push_back(render::TextItem{{{left, top}, {width, size.height}}, resolved(context.display)});
 }
 
-std::optional<render::AccessibilityElement> UILabel::describe() const {
+std::optional<render::AccessibilityElement> UILabel::describe(std::string_view) const {
   if (text_.runs().empty()) return std::nullopt;
   render::AccessibilityElement element;
   element.label = text();

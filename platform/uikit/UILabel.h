@@ -42,7 +42,7 @@ class UILabel final : public UIView {
                                                    const LayoutContext& context) const override;
   void draw(const layout::Rect& frame, const LayoutContext& context,
             std::vector<render::Item>& items) const override;
-  std::optional<render::AccessibilityElement> describe() const override;
+  std::optional<render::AccessibilityElement> describe(std::string_view language) const override;
 
  private:
   struct Measured {

@@ -127,7 +127,9 @@ void UIView::draw(const layout::Rect& frame, const LayoutContext& context,
   items.push_back(render::FillItem{frame, backgroundColor_->resolve(context.display.appearance)});
 }
 
-std::optional<render::AccessibilityElement> UIView::describe() const { return std::nullopt; }
+std::optional<render::AccessibilityElement> UIView::describe(std::string_view) const {
+  return std::nullopt;
+}
 
 void UIView::setNeedsLayout() const {
   for (const UIView* view = this; view != nullptr; view = view->superview_) {

@@ -119,8 +119,9 @@ class UIView : public std::enable_shared_from_this<UIView> {
   /// the scene's coordinates, and so are the items' frames.
   virtual void draw(const layout::Rect& frame, const LayoutContext& context,
                     std::vector<render::Item>& items) const;
-  /// What the content says to assistive technology; nothing when there is nothing to say.
-  virtual std::optional<render::AccessibilityElement> describe() const;
+  /// What the content says to assistive technology, in `language` where it has no words of its own;
+  /// nothing when there is nothing to say.
+  virtual std::optional<render::AccessibilityElement> describe(std::string_view language) const;
   /// The place that a layout gave it: no change that anybody is told of.
   void layOutAt(const layout::Rect& frame) { frame_ = frame; }
 

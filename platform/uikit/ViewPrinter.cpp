@@ -49,7 +49,7 @@ std::string describe(const UIView& holder, const NSLayoutConstraint& constraint)
 
 std::string looks(const UIView& view) {
   std::string text;
-  const auto content = view.describe();
+  const auto content = view.describe({});
   if (view.accessibilityLabel()) {
     text += ' ' + quoted(*view.accessibilityLabel());
   } else if (content) {

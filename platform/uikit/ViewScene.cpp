@@ -95,7 +95,7 @@ void ViewScene::takeTouches(UIView& view, Surroundings& around) {
 }
 
 void ViewScene::describe(const UIView& view, const Rect& frame, const Surroundings& around) {
-  auto element = view.describe();
+  auto element = view.describe(context_.display.language);
   if (view.accessibilityLabel()) {
     if (!element) element.emplace();
     element->label = *view.accessibilityLabel();

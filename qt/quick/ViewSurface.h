@@ -51,6 +51,7 @@ class ViewSurface final : public HostedView,
 
   const std::vector<render::AccessibilityElement>& accessibilityElements() override;
   void performAccessibilityAction(int index) override { activate(index); }
+  bool focusElement(int index) override { return HostedView::focusElement(index); }
   std::optional<layout::Rect> focusedFrame() const override { return focusFrame(); }
 
   void updateIdealSize();

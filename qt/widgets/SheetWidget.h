@@ -56,6 +56,7 @@ class SheetWidget : public QWidget, public SheetSurface, private WidgetAccessibl
   const std::vector<render::AccessibilityElement>& accessibilityElements() override;
   std::vector<QObject*> accessibleViews() const override { return pageViews(); }
   void performAccessibilityAction(int index) override { presenter().activate(index); }
+  bool focusElement(int index) override { return SheetSurface::focusElement(index); }
   std::optional<layout::Rect> focusedFrame() const override;
   bool isShown() const override { return !isClosed() && WidgetAccessibleSurface::isShown(); }
   bool isDialog() const override { return true; }

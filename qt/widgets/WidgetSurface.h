@@ -46,6 +46,7 @@ class WidgetSurface final : public HostedView, private WidgetAccessibleSurface {
 
   const std::vector<render::AccessibilityElement>& accessibilityElements() override;
   void performAccessibilityAction(int index) override { activate(index); }
+  bool focusElement(int index) override { return HostedView::focusElement(index); }
   std::optional<layout::Rect> focusedFrame() const override { return focusFrame(); }
 
   /// What layouts were told; only when that no longer holds do they lay out anew.

@@ -1,6 +1,7 @@
 #include "examples/shop/widgets/DemoBar.h"
 
 #include <QGridLayout>
+#include <QLabel>
 #include <QPainter>
 
 #include "examples/shop/Shop.h"
@@ -29,6 +30,10 @@ DemoBar::DemoBar(Shop& shop, QWidget* parent) : QWidget(parent) {
     connect(&shop, &Shop::changed, choice,
             [choice, &shop, chosen] { choice->setCurrentIndex((shop.*chosen)()); });
     grid->addWidget(choice, row, column);
+    // Who does not see the choice hears this before its value. It shows in the choice itself.
+    auto* label = new QLabel(QLatin1String(caption), this);
+    label->setBuddy(choice);
+    label->hide();
   };
   add("Shopper", shop.shoppers(), 0, 0, &Shop::shopperIndex, &Shop::chooseShopper);
   add("Language", shop.languages(), 0, 1, &Shop::languageIndex, &Shop::chooseLanguage);

@@ -14,6 +14,7 @@ constexpr int margin = 20;
 
 ScrollPage::ScrollPage(QWidget* parent) : QScrollArea(parent) {
   setFrameShape(QFrame::NoFrame);
+  setFocusPolicy(Qt::NoFocus);  // what it holds has the focus, and scrolls into view
   setWidgetResizable(true);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   new OverlayScrollBar(*this);
@@ -35,6 +36,9 @@ ScrollPage::ScrollPage(QWidget* parent) : QScrollArea(parent) {
   setWidget(body);
 }
 
-void ScrollPage::setBanner(QWidget* widget) { page_->insertWidget(0, widget); }
+void ScrollPage::setBanner(QWidget* widget) {
+  page_->insertWidget(0, widget);
+  widget->lower();  // to be read first
+}
 
 }  // namespace quorix::examples

@@ -1,10 +1,11 @@
 #include "examples/shop/widgets/ShopHeader.h"
 
-#include <QHBoxLayout>
+#include <QGridLayout>
 #include <QPainter>
 
 #include "examples/shop/Shop.h"
 #include "examples/shop/widgets/IconButton.h"
+#include "examples/shop/widgets/Label.h"
 
 namespace quorix::examples {
 
@@ -12,12 +13,18 @@ ShopHeader::ShopHeader(Shop& shop, QWidget* parent) : QWidget(parent) {
   setFixedHeight(52);
   auto* back = new IconButton(QStringLiteral("back"), this);
   back->setPointing(true);
+  auto* name = new Label(Label::Look::heading, this);
+  name->setText(QStringLiteral("FJORD & THREAD"));
+  name->setWordWrap(false);
+  QFont face = name->font();
+  face.setLetterSpacing(QFont::AbsoluteSpacing, 3);
+  name->setFont(face);
   auto* bag = new IconButton(QStringLiteral("bag"), this);
-  auto* row = new QHBoxLayout(this);
-  row->setContentsMargins(6, 0, 8, 0);
-  row->addWidget(back);
-  row->addStretch(1);
-  row->addWidget(bag);
+  auto* row = new QGridLayout(this);
+  row->setContentsMargins(7, 0, 7, 0);
+  row->addWidget(name, 0, 0, 1, 2, Qt::AlignCenter);
+  row->addWidget(back, 0, 0, Qt::AlignLeft);
+  row->addWidget(bag, 0, 1, Qt::AlignRight);
   connect(back, &IconButton::clicked, &shop, [&shop] { shop.openBag(false); });
   connect(bag, &IconButton::clicked, &shop, [&shop] { shop.openBag(!shop.bagOpen()); });
   const auto follow = [=, &shop] {
@@ -31,15 +38,7 @@ ShopHeader::ShopHeader(Shop& shop, QWidget* parent) : QWidget(parent) {
 }
 
 void ShopHeader::paintEvent(QPaintEvent*) {
-  QPainter painter(this);
-  QFont face = font();
-  face.setPixelSize(14);
-  face.setWeight(QFont::DemiBold);
-  face.setLetterSpacing(QFont::AbsoluteSpacing, 3);
-  painter.setFont(face);
-  painter.setPen(palette().color(QPalette::WindowText));
-  painter.drawText(rect(), Qt::AlignCenter, QStringLiteral("FJORD & THREAD"));
-  painter.fillRect(0, height() - 1, width(), 1, palette().mid());
+  QPainter(this).fillRect(0, height() - 1, width(), 1, palette().mid());
 }
 
 }  // namespace quorix::examples

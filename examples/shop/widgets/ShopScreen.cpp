@@ -20,13 +20,14 @@ constexpr int footerHeight = 74;
 
 ShopScreen::ShopScreen(Shop& shop, QWidget* parent)
     : QWidget(parent), notice_(new Notice(footerHeight, this)) {
+  auto* header = new ShopHeader(shop, this);  // what comes first is read first
   auto* pages = new QStackedWidget(this);
   pages->addWidget(new ProductPage(shop, pages));
   pages->addWidget(new BagPage(shop, pages));
   auto* all = new QVBoxLayout(this);
   all->setContentsMargins(0, 0, 0, 0);
   all->setSpacing(0);
-  all->addWidget(new ShopHeader(shop, this));
+  all->addWidget(header);
   all->addWidget(pages, 1);
   all->addWidget(makeFooter(shop));
 

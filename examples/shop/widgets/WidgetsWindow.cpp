@@ -38,11 +38,13 @@ WidgetsWindow::WidgetsWindow(Shop& shop) : shop_(shop) {
   setWindowTitle(QStringLiteral("Fjord & Thread (Qt Widgets)"));
   setMinimumSize(340, 480);
   resize(430, 860);
-  auto* all = new QVBoxLayout(this);
+  auto* body = new QWidget(this);
+  auto* all = new QVBoxLayout(body);
   all->setContentsMargins(0, 0, 0, 0);
   all->setSpacing(0);
-  all->addWidget(new DemoBar(shop, this));
-  all->addWidget(new ShopScreen(shop, this), 1);
+  all->addWidget(new DemoBar(shop, body));
+  all->addWidget(new ShopScreen(shop, body), 1);
+  setCentralWidget(body);
   new DemoNote(shop, this);
   auto* quit = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q), this);
   connect(quit, &QShortcut::activated, qApp, &QApplication::quit);

@@ -1,13 +1,13 @@
 #pragma once
 
-#include <QWidget>
+#include <QMainWindow>
 
 namespace quorix::examples {
 
 class Shop;
 
 /// The shop's Qt Widgets face. Main thread; needs a QApplication.
-class WidgetsWindow : public QWidget {
+class WidgetsWindow : public QMainWindow {
   Q_OBJECT
 
  public:

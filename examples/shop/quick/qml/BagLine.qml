@@ -56,6 +56,7 @@ Item {
             height: 26
             text: Shop.words.remove
             Accessible.description: Shop.words.sizeOf.arg(line.size)
+            Accessible.onPressAction: clicked()
             onClicked: Shop.takeOut(line.size)
 
             contentItem: Words {

@@ -17,6 +17,8 @@ ComboBox {
     leftPadding: 10
     rightPadding: 26
     Accessible.name: caption
+    Accessible.description: displayText
+    Accessible.onPressAction: popup.open()
 
     // A list that was chosen from no longer follows by itself.
     onChosenChanged: currentIndex = chosen

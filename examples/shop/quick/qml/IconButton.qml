@@ -15,6 +15,7 @@ AbstractButton {
     height: 44
     padding: 10
     Accessible.name: text
+    Accessible.onPressAction: clicked()
 
     contentItem: Image {
         readonly property real pixels: 24 * Screen.devicePixelRatio

@@ -6,6 +6,7 @@ AbstractButton {
     id: button
 
     implicitHeight: 50
+    Accessible.onPressAction: clicked()
 
     contentItem: Text {
         text: button.text

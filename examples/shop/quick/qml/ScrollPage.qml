@@ -11,7 +11,10 @@ Flickable {
     boundsBehavior: Flickable.StopAtBounds
     clip: true
 
-    ScrollBar.vertical: ScrollBar { policy: ScrollBar.AsNeeded }
+    ScrollBar.vertical: ScrollBar {
+        policy: ScrollBar.AsNeeded
+        Accessible.ignored: true
+    }
 
     Column {
         id: column

@@ -18,10 +18,9 @@ Item {
         onClicked: Shop.bagOpen = false
     }
 
-    Text {
+    Words {
         anchors.centerIn: parent
         text: "FJORD & THREAD"
-        color: Shop.colors.ink
         font.pixelSize: 14
         font.weight: Font.DemiBold
         font.letterSpacing: 3

@@ -6,16 +6,12 @@ import Quorix.Shop
 Column {
     id: picker
 
-
     spacing: 10
 
-    Text {
+    Words {
         width: parent.width
         text: Shop.words.size
-        color: Shop.colors.ink
-        font.pixelSize: 14
         font.weight: Font.DemiBold
-        horizontalAlignment: Text.AlignLeft
     }
 
     Row {
@@ -36,6 +32,7 @@ Column {
                 checkable: true
                 checked: chosen
                 Accessible.name: Shop.words.sizeOf.arg(modelData)
+                Accessible.onPressAction: clicked()
                 onClicked: Shop.size = modelData
 
                 contentItem: Text {

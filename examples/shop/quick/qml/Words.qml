@@ -9,4 +9,6 @@ Text {
     font.pixelSize: 14
     horizontalAlignment: Text.AlignLeft
     wrapMode: Text.WordWrap
+    Accessible.role: Accessible.StaticText
+    Accessible.name: text
 }

@@ -1,0 +1,167 @@
+"""A screen reader of few words: what the accessibility bus says about a window, as lines of text."""
+
+import re
+import subprocess
+import warnings
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, Gio, GLib
+
+import bus
+
+State = Atspi.StateType
+# Told only where they hold; every element shown is enabled, or says that it is not.
+STATES = [State.CHECKED, State.MODAL]
+SILENT = ("filler", "panel", "layered pane")
+WEB = ("document web", "document frame")
+
+
+def listen():
+    """Switches the desktop's accessibility on, as a reader does that starts with the session."""
+    warnings.simplefilter("ignore", DeprecationWarning)
+    status = Gio.DBusProxy.new_for_bus_sync(
+        Gio.BusType.SESSION, 0, None, "org.a11y.Bus", "/org/a11y/bus",
+        "org.freedesktop.DBus.Properties", None)
+    for name in ("IsEnabled", "ScreenReaderEnabled"):
+        value = GLib.Variant("(ssv)", ("org.a11y.Status", name, GLib.Variant("b", True)))
+        status.call_sync("Set", value, 0, -1, None)
+    Atspi.init()
+
+
+def children(element):
+    try:
+        element.clear_cache()  # Qt does not tell of every change
+        every = [element.get_child_at_index(i) for i in range(element.get_child_count())]
+    except GLib.Error:  # it went in the meantime
+        return []
+    return [child for child in every if child]
+
+
+def shown(element):
+    try:
+        element.clear_cache()
+        return element.get_state_set().contains(State.SHOWING)
+    except GLib.Error:
+        return False
+
+
+def walk(element):
+    """What is on the screen, in reading order. A page keeps its inside to itself."""
+    if not shown(element):
+        return
+    yield element
+    if element.get_role_name() not in WEB:
+        for child in children(element):
+            yield from walk(child)
+
+
+def words(element):
+    """What it is called, by itself or by its label, and what else is said of it."""
+    label = [relation.get_target(0).get_name() for relation in element.get_relation_set()
+             if relation.get_relation_type() == Atspi.RelationType.LABELLED_BY]
+    return list(dict.fromkeys(label + [element.get_name(), element.get_description()]))
+
+
+def line(element):
+    states = element.get_state_set()
+    said = [element.get_role_name()] + [f'"{text}"' for text in words(element) if text]
+    said += [state.value_nick for state in STATES if states.contains(state)]
+    if not states.contains(State.ENABLED):
+        said.append("disabled")
+    if {"Press", "Toggle"} & set(actions(element)):
+        said.append("acts, yet read-only" if states.contains(State.READ_ONLY) else "acts")
+        if not states.contains(State.FOCUSABLE):  # texts of Qt Quick are, which leads nowhere
+            said.append("out of the keyboard's reach")
+    return " ".join(said)
+
+
+def actions(element):
+    count = Atspi.Action.get_n_actions(element) if element.get_action_iface() else 0
+    return [Atspi.Action.get_action_name(element, i) for i in range(count)]
+
+
+def read(element):
+    """A line for each thing in it to hear; what only holds others together is silent."""
+    return [line(each) for child in children(element) for each in walk(child) if speaks(each)]
+
+
+def speaks(element):
+    return element.get_role_name() not in SILENT or any(words(element))
+
+
+def press(element):
+    Atspi.Action.do_action(element, actions(element).index("Press"))
+
+
+class Window:
+    """A window of a program, by its title, and what it says of itself."""
+
+    def __init__(self, title):
+        self.title = title
+        self.events = []
+        self.hidden = []
+        self.root = bus.until(self._find, f"the window {title}")
+        self._listener = Atspi.EventListener.new(self._hear)
+        for event in ("object:state-changed:focused", "object:state-changed:showing", "object:property-change:accessible-name",
+                      "object:property-change:accessible-description",
+                      "object:announcement"):
+            self._listener.register(event)
+
+    def _find(self):
+        desktop = Atspi.get_desktop(0)
+        return next((window for program in children(desktop) for window in children(program)
+                     if window.get_name() == self.title and shown(window)), None)
+
+    def _hear(self, event):
+        if event.type.endswith("showing") and not event.detail1:
+            self.hidden.append(event.source)
+        if event.type.endswith("showing") or (event.type.endswith("focused") and not event.detail1):
+            return
+        kind = event.type.split(":")[-1]
+        try:
+            if not speaks(event.source):
+                return
+            said = f"{kind}: {line(event.source)}"
+            above = event.source
+            while above and above != self.root:
+                above = above.get_parent()
+        except GLib.Error:
+            return
+        if above and self.events[-1:] != [said]:  # twice the same is said once
+            self.events.append(said)
+
+    def take_keyboard(self):
+        """What a window manager does when the user turns to the window."""
+        search = ["xdotool", "search", "--name", f"^{re.escape(self.title)}$", "windowfocus"]
+        subprocess.run(search, check=True)
+        bus.until(self._is_active, "the keyboard")
+        self.forget()
+
+    def _is_active(self):
+        self.root.clear_cache()
+        return self.root.get_state_set().contains(State.ACTIVE)
+
+    def forget(self):
+        while GLib.MainContext.default().iteration(False):
+            pass
+        self.events.clear()
+
+    def all(self, role, *names):
+        return (each for each in walk(self.root) if each.get_role_name() == role
+                and (not names or each.get_name() in names))
+
+    def find(self, start, description=""):
+        return next((each for each in walk(self.root) if each.get_name().startswith(start)
+                     and description in each.get_description()), None)
+
+    def dialog(self):
+        return next(self.all("dialog"), None)
+
+    def heard_until(self, focused):
+        """What was told until the focus came to that line."""
+        last = [f"focused: {focused}"]
+        bus.until(lambda: self.events[-1:] == last, last[0])
+        events, self.events = self.events, []
+        return events
