@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/text/BaseDirection.h"
+
 namespace quorix::qt {
 namespace {
 
@@ -101,7 +103,7 @@ void Paragraph::setText(const QString& text, const text::AttributedText& attribu
   ascent_ = face.ascent;
   descent_ = face.descent;
   layout_.setFont(face.font);
-  layout_.setTextOption(option(attributed.direction));
+  layout_.setTextOption(option(text::baseDirection(attributed)));
   QList<QTextLayout::FormatRange> formats;
   for (std::size_t i = 0; i < runs_.size(); ++i) {
     const text::ResolvedFont& font = attributed.runs[i].font;
@@ -163,6 +165,25 @@ ShapedText Paragraph::breakLines(double width, bool glyphs) {
   }
   shaped.metrics.size = {measuredWidth(natural, needed, width), top};
   return shaped;
+}
+
+double Paragraph::leastWidth() {
+  if (open_) layout_.endLayout();
+  open_ = false;
+  const QTextOption usual = layout_.textOption();
+  QTextOption wordByWord = usual;
+  wordByWord.setWrapMode(QTextOption::WordWrap);
+  layout_.setTextOption(wordByWord);
+  double least = 0;
+  layout_.beginLayout();
+  for (QTextLine line = layout_.createLine(); line.isValid(); line = layout_.createLine()) {
+    line.setLineWidth(0);
+    const double needed = line.horizontalAdvance() + overhang(line, layout_.text());
+    least = std::max({least, line.naturalTextWidth() * unit_, needed * unit_});
+  }
+  layout_.endLayout();
+  layout_.setTextOption(usual);
+  return measuredWidth(least, least, 0);
 }
 
 ShapedText::Line Paragraph::collect(const QTextLine& line) const {

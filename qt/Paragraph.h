@@ -19,6 +19,9 @@ class Paragraph {
   /// The text broken to `width` points, with its glyphs where `glyphs` says so.
   ShapedText breakLines(double width, bool glyphs);
 
+  /// The points that its longest word takes. Leaves the lines to be broken anew.
+  double leastWidth();
+
  private:
   struct Run {
     int start = 0;

@@ -35,7 +35,10 @@ void Evaluator::collect(const View& view, const Look& look, Axis axis, Elements&
 void Evaluator::collect(const nodes::Text& node, const View&, const Look& look, Axis,
                         Elements& out) {
   out.push_back(
-      {elements::Text{look.attributed(node.text, environment_), look.inColumn}, {}, {}, {}});
+      {elements::Text{look.attributed(node.text, environment_), look.inColumn, look.inRow},
+       {},
+       {},
+       {}});
 }
 
 void Evaluator::collect(const nodes::Image& node, const View&, const Look& look, Axis,
@@ -84,6 +87,7 @@ void Evaluator::collect(const nodes::Stack& node, const View&, const Look& look,
       {}};
   Look inner = look;
   inner.inColumn = node.axis == Axis::vertical;
+  inner.inRow = node.axis == Axis::horizontal;
   collectChildren(node.children, inner, node.axis, stack.children);
   out.push_back(std::move(stack));
 }

@@ -20,6 +20,7 @@ struct Look {
   bool strikethrough = false;
   bool resizable = false;
   bool inColumn = false;  ///< the nearest stack is vertical
+  bool inRow = false;     ///< the nearest stack is horizontal
 
   void apply(const modifiers::FontChoice& m) { font = &m.font; }
   void apply(const modifiers::ForegroundColor& m) { color = &m.color; }

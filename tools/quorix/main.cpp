@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "tools/quorix/DecodeCommand.h"
+#include "tools/quorix/GalleryCommand.h"
 #include "tools/quorix/Help.h"
 #include "tools/quorix/InfoCommand.h"
 #include "tools/quorix/MintCommand.h"
@@ -19,9 +20,10 @@ using quorix::tool::Failure;
 using quorix::tool::Outcome;
 
 constexpr const Command* commands[] = {
-    &quorix::tool::mintCommand,       &quorix::tool::decodeCommand,
-    &quorix::tool::scoreCommand,      &quorix::tool::infoCommand,
-    &quorix::tool::overlayUrlCommand, &quorix::tool::stringsCheckCommand,
+    &quorix::tool::mintCommand,         &quorix::tool::decodeCommand,
+    &quorix::tool::scoreCommand,        &quorix::tool::infoCommand,
+    &quorix::tool::galleryCommand,      &quorix::tool::overlayUrlCommand,
+    &quorix::tool::stringsCheckCommand,
 };
 
 Outcome run(const Command& command, std::span<const std::string> words) {
