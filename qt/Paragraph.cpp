@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "platform/text/BaseDirection.h"
+#include "platform/text/UnspacedWords.h"
 
 namespace quorix::qt {
 namespace {
@@ -167,6 +168,23 @@ ShapedText Paragraph::breakLines(double width, bool glyphs) {
   return shaped;
 }
 
+/// Of a word in which a line may end, as far as scripts go.
+double Paragraph::longestUnspacedWord() {
+  const QString& text = layout_.text();
+  const auto words = text::unspacedWords(
+      {reinterpret_cast<const char16_t*>(text.utf16()), static_cast<std::size_t>(text.size())});
+  if (words.empty()) return 0;
+  layout_.beginLayout();
+  const QTextLine line = layout_.createLine();
+  double longest = 0;
+  for (const text::WordRange& word : words) {
+    const double width = line.cursorToX(word.start + word.length) - line.cursorToX(word.start);
+    longest = std::max(longest, std::abs(width) * unit_);
+  }
+  layout_.endLayout();
+  return longest;
+}
+
 double Paragraph::leastWidth() {
   if (open_) layout_.endLayout();
   open_ = false;
@@ -183,6 +201,7 @@ double Paragraph::leastWidth() {
   }
   layout_.endLayout();
   layout_.setTextOption(usual);
+  least = std::max(least, longestUnspacedWord());
   return measuredWidth(least, least, 0);
 }
 

@@ -31,6 +31,7 @@ class Paragraph {
   void setText(const QString& text, const text::AttributedText& attributed, QtFonts& fonts);
   bool canBreakAgain() const;
   void openSession();
+  double longestUnspacedWord();
   double widthNeeded(const QTextLine& line) const;
   ShapedText::Line collect(const QTextLine& line) const;
 

@@ -23,8 +23,9 @@ struct Text {
   text::AttributedText text;
   /// Broken into lines, it takes the width that it was offered and not that of its longest line.
   bool spansWhenWrapped = false;
-  /// Where its longest word does not fit, it is drawn smaller rather than broken inside the word.
-  bool keepsWords = false;
+  /// Where its longest word does not fit, it is drawn smaller rather than broken inside the word,
+  /// down to this part of its size.
+  double smallestPart = 1;
   /// The part of its size that it is drawn at, as `Layout::place` found it.
   double drawnAt = 1;
 };

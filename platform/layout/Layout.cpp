@@ -68,8 +68,6 @@ bool isText(const Element& element) {
   return std::holds_alternative<elements::Text>(element.kind);
 }
 
-/// A text is drawn no smaller, and breaks inside its words after all: nobody could read it.
-constexpr double smallestPart = 0.25;
 /// Points; as much as a text engine's own rounding may take.
 constexpr double roundingNoise = 1.0 / 32;
 
@@ -263,11 +261,12 @@ Size Layout::measureText(Element& element, ProposedSize proposal) {
 double Layout::drawnPart(Element& element, ProposedSize proposal) {
   const auto& text = std::get<elements::Text>(element.kind);
   const double width = proposal.width.value_or(infinity);
-  if (!text.keepsWords || width == infinity) return 1;
+  if (text.smallestPart == 1 || width == infinity) return 1;
   if (measure(element, {std::nullopt, proposal.height}).width <= width) return 1;
   const double least = grid_.ceil(engine_.leastWidth(text.text));
   if (least <= width) return 1;
-  return std::max((grid_.floor(width) - roundingNoise) / least, smallestPart);
+  const double part = (grid_.floor(width) - roundingNoise) / least;
+  return part < text.smallestPart ? 1 : part;
 }
 
 Layout::Offers Layout::divide(Element& stackElement, ProposedSize proposal) {

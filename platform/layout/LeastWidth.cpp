@@ -4,6 +4,15 @@
 
 namespace quorix::layout {
 
+namespace {
+
+bool holdsText(const Element& element) {
+  return std::holds_alternative<elements::Text>(element.kind) ||
+         std::any_of(element.children.begin(), element.children.end(), holdsText);
+}
+
+}  // namespace
+
 /// Asks an element, and through it all below, how narrow it can be with every word whole.
 struct Layout::LeastWidth {
   Layout& layout;
@@ -64,7 +73,9 @@ bool Layout::breaksWords(Element& stack, std::vector<StackChild>& children,
   if (first == children.size()) return false;
   bool breaks = false;
   for (std::size_t i = 0; i < children.size(); ++i) {
-    children[i].least = leastWidth(stack.children[i]);
+    const bool reads = holdsText(stack.children[i]);
+    if (!reads && children[i].atInfinity == infinity) continue;
+    children[i].least = reads ? leastWidth(stack.children[i]) : children[i].atInfinity;
     breaks = breaks || (gaveWay(i) && lengths[i] < children[i].least);
   }
   return breaks;

@@ -19,8 +19,8 @@ struct Look {
   bool underline = false;
   bool strikethrough = false;
   bool resizable = false;
-  bool inColumn = false;  ///< the nearest stack is vertical
   bool inRow = false;     ///< the nearest stack is horizontal
+  bool inColumn = false;  ///< the nearest stack is vertical
 
   void apply(const modifiers::FontChoice& m) { font = &m.font; }
   void apply(const modifiers::ForegroundColor& m) { color = &m.color; }

@@ -4,8 +4,8 @@
 
 namespace quorix::gallery {
 
-/// `image` with a table of its colours where those are 256 at the most, which halves its file;
-/// otherwise as it is. No colour changes; an alpha channel is dropped.
+/// `image` with a table of its 256 most frequent colours, which makes its file a third; a rare
+/// shade becomes the nearest of them. An alpha channel is dropped.
 QImage withFewColors(const QImage& image);
 
 }  // namespace quorix::gallery
