@@ -25,6 +25,14 @@ QString lineSeparated(const std::string& utf8) {
   return text;
 }
 
+/// Qt would end a line after the "1." of a text that begins with "1.234".
+void keepFirstNumberWhole(QString& text) {
+  constexpr QChar wordJoiner(0x2060);
+  const bool splits =
+      text.size() > 2 && text[0].isDigit() && text[1].isPunct() && text[2].isDigit();
+  if (splits) text.insert(2, wordJoiner);
+}
+
 QTextOption option(layout::LayoutDirection direction) {
   QTextOption option;
   option.setUseDesignMetrics(true);
@@ -82,7 +90,8 @@ void Paragraph::set(const text::AttributedText& text, QtFonts& fonts) {
   QString characters;
   runs_.clear();
   for (const text::Run& run : text.runs) {
-    const QString part = lineSeparated(run.text);
+    QString part = lineSeparated(run.text);
+    if (characters.isEmpty()) keepFirstNumberWhole(part);
     runs_.push_back({static_cast<int>(characters.size()), static_cast<int>(part.size())});
     characters += part;
   }
@@ -175,7 +184,8 @@ double Paragraph::longestUnspacedWord() {
       {reinterpret_cast<const char16_t*>(text.utf16()), static_cast<std::size_t>(text.size())});
   if (words.empty()) return 0;
   layout_.beginLayout();
-  const QTextLine line = layout_.createLine();
+  QTextLine line = layout_.createLine();
+  line.setLineWidth(layout::infinity);
   double longest = 0;
   for (const text::WordRange& word : words) {
     const double width = line.cursorToX(word.start + word.length) - line.cursorToX(word.start);

@@ -16,6 +16,7 @@
 #include "platform/swiftui/TreePrinter.h"
 #include "platform/swiftui/UIViewRepresentable.h"
 #include "platform/uikit/ViewPrinter.h"
+#include "qt/Engine.h"
 #include "qt/Picture.h"
 
 namespace quorix::gallery {
@@ -82,6 +83,7 @@ CellRenderer::CellRenderer()
     : offline_(foundation::URLSession::shared().registerProtocol([](const auto&) {
         return foundation::URLResponse{foundation::Error{"gallery", 1, "no network"}, {}, 0};
       })) {
+  qt::installEngine();
   for (const auto& language : languages) {
     if (!language.value.builtIn) tables_[language.name] = readTable(language.name);
   }

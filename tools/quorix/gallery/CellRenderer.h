@@ -14,7 +14,7 @@
 namespace quorix::gallery {
 
 /// Shows cells of the matrix from what is compiled in: nothing is fetched as long as one lives.
-/// Needs an application object and the engine; main thread.
+/// Needs an application object; main thread.
 ///
 ///     const CellRenderer renderer;
 ///     for (const Cell& cell : cells()) picture(renderer.render(cell, 2), 2).save(...);
