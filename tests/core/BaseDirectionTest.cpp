@@ -26,7 +26,7 @@ TEST(BaseDirection, FollowsTheLettersAndNotThePage) {
       {"\xFF\xFE", ltr, ltr},  // not UTF-8
   };
   for (const auto& row : rows) {
-    const std::vector<Run> runs = {{row.words, {}, {}}};
+    const std::vector<text::Run> runs = {{row.words, {}, {}}};
     EXPECT_EQ(baseDirection({runs, ltr}), row.onLeftToRightPage) << row.words;
     EXPECT_EQ(baseDirection({runs, rtl}), row.onRightToLeftPage) << row.words;
   }

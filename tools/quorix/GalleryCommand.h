@@ -4,6 +4,7 @@
 
 namespace quorix::tool {
 
+/// "quorix gallery": shows the widgets on every screen, on one page or in one picture.
 extern const Command galleryCommand;
 
 }  // namespace quorix::tool
