@@ -97,6 +97,9 @@ class CountedHost final : private hosting::ViewHost::Client, private text::TextE
     ++counts_.measured;
     return qt::QtTextEngine::shared().measure(text, width);
   }
+  double leastWidth(const text::AttributedText& text) override {
+    return qt::QtTextEngine::shared().leastWidth(text);
+  }
   void paint() {
     queued_ = false;
     host_.scene(kRowSize);

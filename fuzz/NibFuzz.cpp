@@ -12,9 +12,12 @@ namespace {
 /// Half a point for each byte, on one line.
 struct PlainText final : text::TextEngine {
   text::TextMetrics measure(const text::AttributedText& text, double) override {
+    return {{leastWidth(text), 10}, 8, 8, 1};
+  }
+  double leastWidth(const text::AttributedText& text) override {
     double width = 0;
     for (const text::Run& run : text.runs) width += 0.5 * static_cast<double>(run.text.size());
-    return {{width, 10}, 8, 8, 1};
+    return width;
   }
 };
 

@@ -4,6 +4,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/text/BaseDirection.h"
+#include "platform/text/UnspacedWords.h"
+
 namespace quorix::qt {
 namespace {
 
@@ -20,6 +23,14 @@ QString lineSeparated(const std::string& utf8) {
     }
   }
   return text;
+}
+
+/// Qt would end a line after the "1." of a text that begins with "1.234".
+void keepFirstNumberWhole(QString& text) {
+  constexpr QChar wordJoiner(0x2060);
+  const bool splits =
+      text.size() > 2 && text[0].isDigit() && text[1].isPunct() && text[2].isDigit();
+  if (splits) text.insert(2, wordJoiner);
 }
 
 QTextOption option(layout::LayoutDirection direction) {
@@ -79,7 +90,8 @@ void Paragraph::set(const text::AttributedText& text, QtFonts& fonts) {
   QString characters;
   runs_.clear();
   for (const text::Run& run : text.runs) {
-    const QString part = lineSeparated(run.text);
+    QString part = lineSeparated(run.text);
+    if (characters.isEmpty()) keepFirstNumberWhole(part);
     runs_.push_back({static_cast<int>(characters.size()), static_cast<int>(part.size())});
     characters += part;
   }
@@ -101,7 +113,7 @@ void Paragraph::setText(const QString& text, const text::AttributedText& attribu
   ascent_ = face.ascent;
   descent_ = face.descent;
   layout_.setFont(face.font);
-  layout_.setTextOption(option(attributed.direction));
+  layout_.setTextOption(option(text::baseDirection(attributed)));
   QList<QTextLayout::FormatRange> formats;
   for (std::size_t i = 0; i < runs_.size(); ++i) {
     const text::ResolvedFont& font = attributed.runs[i].font;
@@ -163,6 +175,44 @@ ShapedText Paragraph::breakLines(double width, bool glyphs) {
   }
   shaped.metrics.size = {measuredWidth(natural, needed, width), top};
   return shaped;
+}
+
+/// Of a word in which a line may end, as far as scripts go.
+double Paragraph::longestUnspacedWord() {
+  const QString& text = layout_.text();
+  const auto words = text::unspacedWords(
+      {reinterpret_cast<const char16_t*>(text.utf16()), static_cast<std::size_t>(text.size())});
+  if (words.empty()) return 0;
+  layout_.beginLayout();
+  QTextLine line = layout_.createLine();
+  line.setLineWidth(layout::infinity);
+  double longest = 0;
+  for (const text::WordRange& word : words) {
+    const double width = line.cursorToX(word.start + word.length) - line.cursorToX(word.start);
+    longest = std::max(longest, std::abs(width) * unit_);
+  }
+  layout_.endLayout();
+  return longest;
+}
+
+double Paragraph::leastWidth() {
+  if (open_) layout_.endLayout();
+  open_ = false;
+  const QTextOption usual = layout_.textOption();
+  QTextOption wordByWord = usual;
+  wordByWord.setWrapMode(QTextOption::WordWrap);
+  layout_.setTextOption(wordByWord);
+  double least = 0;
+  layout_.beginLayout();
+  for (QTextLine line = layout_.createLine(); line.isValid(); line = layout_.createLine()) {
+    line.setLineWidth(0);
+    const double needed = line.horizontalAdvance() + overhang(line, layout_.text());
+    least = std::max({least, line.naturalTextWidth() * unit_, needed * unit_});
+  }
+  layout_.endLayout();
+  layout_.setTextOption(usual);
+  least = std::max(least, longestUnspacedWord());
+  return measuredWidth(least, least, 0);
 }
 
 ShapedText::Line Paragraph::collect(const QTextLine& line) const {

@@ -19,6 +19,9 @@ class Paragraph {
   /// The text broken to `width` points, with its glyphs where `glyphs` says so.
   ShapedText breakLines(double width, bool glyphs);
 
+  /// The points that its longest word takes. Leaves the lines to be broken anew.
+  double leastWidth();
+
  private:
   struct Run {
     int start = 0;
@@ -28,6 +31,7 @@ class Paragraph {
   void setText(const QString& text, const text::AttributedText& attributed, QtFonts& fonts);
   bool canBreakAgain() const;
   void openSession();
+  double longestUnspacedWord();
   double widthNeeded(const QTextLine& line) const;
   ShapedText::Line collect(const QTextLine& line) const;
 

@@ -22,6 +22,16 @@ text::TextMetrics QtTextEngine::measure(const text::AttributedText& text, double
   return find(text, width, width > 0).metrics;
 }
 
+double QtTextEngine::leastWidth(const text::AttributedText& text) {
+  if (fonts_.refresh()) clear();
+  Entry& known = entry(text);
+  if (!known.leastWidth) {
+    takeUp(known);
+    known.leastWidth = paragraph_.leastWidth();
+  }
+  return *known.leastWidth;
+}
+
 const ShapedText& QtTextEngine::shape(const text::AttributedText& text, double width) {
   return find(text, width, true);
 }
@@ -52,7 +62,7 @@ QtTextEngine::Entry& QtTextEngine::entry(const text::AttributedText& text) {
     index_.erase(&entries_.back().text);
     entries_.pop_back();
   }
-  entries_.push_front({text, {}});
+  entries_.push_front({text, {}, std::nullopt});
   index_.emplace(&entries_.front().text, entries_.begin());
   return entries_.front();
 }
@@ -75,9 +85,13 @@ QtTextEngine::Breaking& QtTextEngine::breaking(Entry& entry, double width, bool 
   return *found;
 }
 
-ShapedText QtTextEngine::breakLines(const Entry& entry, double width, bool glyphs) {
+void QtTextEngine::takeUp(const Entry& entry) {
   if (inParagraph_ != &entry) paragraph_.set(entry.text, fonts_);
   inParagraph_ = &entry;
+}
+
+ShapedText QtTextEngine::breakLines(const Entry& entry, double width, bool glyphs) {
+  takeUp(entry);
   ++breaks_;
   return paragraph_.breakLines(width, glyphs);
 }

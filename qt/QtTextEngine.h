@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <list>
+#include <optional>
 #include <unordered_map>
 #include <vector>
 
@@ -25,6 +26,7 @@ class QtTextEngine final : public text::TextEngine {
   QtTextEngine() = default;
 
   text::TextMetrics measure(const text::AttributedText& text, double width) override;
+  double leastWidth(const text::AttributedText& text) override;
 
   /// The lines of `text` in a frame of `width` points. The reference holds until the next call.
   const ShapedText& shape(const text::AttributedText& text, double width);
@@ -48,11 +50,13 @@ class QtTextEngine final : public text::TextEngine {
   struct Entry {
     text::AttributedText text;
     std::vector<Breaking> breakings;  ///< the first is the one without a width
+    std::optional<double> leastWidth;
   };
 
   const ShapedText& find(const text::AttributedText& text, double width, bool glyphs);
   Entry& entry(const text::AttributedText& text);
   Breaking& breaking(Entry& entry, double width, bool glyphs);
+  void takeUp(const Entry& entry);
   ShapedText breakLines(const Entry& entry, double width, bool glyphs);
   void clear();
 

@@ -120,7 +120,9 @@ SceneBuilder::Accessibility SceneBuilder::addChildren(const layout::Element& ele
 
 void SceneBuilder::paint(const layout::Element& element) {
   if (const auto* text = std::get_if<elements::Text>(&element.kind)) {
-    scene_.items.push_back(render::TextItem{textFrame(grid_, element.frame), text->text});
+    const double part = text->drawnAt;
+    scene_.items.push_back(render::TextItem{textFrame(grid_, element.frame),
+                                            part == 1 ? text->text : text->text.scaled(part)});
   } else if (const auto* image = std::get_if<elements::Image>(&element.kind)) {
     scene_.items.push_back(
         render::ImageItem{grid_.round(element.frame), image->name, image->bundle, image->tint});

@@ -16,6 +16,8 @@ struct SheetGeometry {
   layout::EdgeInsets safeArea;
 
   double panelWidth() const;
+  /// The height of the content area of the largest sheet.
+  double largest() const;
   /// The height of the panel's content area at rest: the smallest of `detents`, limited by the
   /// largest sheet; the largest when there are none.
   double contentHeight(const swiftui::PresentationDetents& detents) const;
@@ -27,8 +29,6 @@ struct SheetGeometry {
   /// Keeps what fills the upper corners of `panel` in `scene` within their rounding.
   static void roundTop(render::Scene& scene, const layout::Rect& panel);
 
- private:
-  double largest() const;
 };
 
 }  // namespace quorix::hosting

@@ -6,6 +6,7 @@
 
 #include "platform/hosting/SceneLayers.h"
 #include "platform/hosting/SheetGeometry.h"
+#include "platform/hosting/TextFit.h"
 #include "platform/hosting/ViewFocus.h"
 #include "platform/layout/PixelGrid.h"
 
@@ -28,15 +29,17 @@ graphics::RGBA colorOfPanel(graphics::Appearance appearance) {
 
 struct SheetPresenter::State final : ViewHost::Client {
   State(text::TextEngine& engine, SheetPresenter::Client& surface)
-      : client(surface), content(engine, *this), focus(content) {}
+      : client(surface), content(engine, *this), textFit(content), focus(content) {}
 
   void viewNeedsDisplay() override {
+    if (textFit.isTrying()) return;
     contentChanged();
     moved();
   }
   void contentChanged() {
     overlay.reset();
     panelAtRest.reset();
+    fitted = false;
     ++panelRevision;
   }
   void presentationChanged() override {}  // the content of a sheet presents no sheet of its own
@@ -71,8 +74,10 @@ struct SheetPresenter::State final : ViewHost::Client {
     drag = 0;
   }
   const render::Scene& contentScene() {
-    return content.scene({geometry.panelWidth(), restingHeight()},
-                         {.bottom = geometry.bottomInset()});
+    const layout::Size area = {geometry.panelWidth(), restingHeight()};
+    const layout::EdgeInsets safeArea = {.bottom = geometry.bottomInset()};
+    if (!std::exchange(fitted, true)) textFit.fit(area, safeArea, geometry.largest());
+    return content.scene(area, safeArea);
   }
   void addPanel(render::Scene& to, const layout::Rect& frame);
   std::optional<layout::Rect> inWindow(const std::optional<layout::Rect>& frame) const {
@@ -82,6 +87,7 @@ struct SheetPresenter::State final : ViewHost::Client {
 
   SheetPresenter::Client& client;
   ViewHost content;
+  TextFit textFit;
   ViewFocus focus;
   SheetGeometry geometry;
   std::optional<swiftui::Presentation> presentation;
@@ -96,6 +102,7 @@ struct SheetPresenter::State final : ViewHost::Client {
   bool motion = true;
   bool closing = false;
   bool closed = false;
+  bool fitted = false;  ///< the content's text size is one at which it fits
 };
 
 void SheetPresenter::State::close() {
@@ -130,12 +137,13 @@ SheetPresenter::SheetPresenter(text::TextEngine& engine, Client& client)
 SheetPresenter::~SheetPresenter() = default;
 
 void SheetPresenter::setEnvironment(const swiftui::Environment& environment) {
-  state_->content.setEnvironment(environment);
+  state_->textFit.setEnvironment(environment);
 }
 
 void SheetPresenter::setWindow(layout::Size size, layout::EdgeInsets safeArea) {
   const bool atRest = !isMoving();
-  state_->geometry = {size, safeArea};
+  const layout::Size before = std::exchange(state_->geometry, {size, safeArea}).window;
+  if (before != size) state_->textFit.reset();
   state_->contentChanged();
   if (atRest && state_->presentation) state_->revealed = state_->target();
   state_->client.sheetNeedsDisplay();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <utility>
@@ -22,6 +23,11 @@ struct Text {
   text::AttributedText text;
   /// Broken into lines, it takes the width that it was offered and not that of its longest line.
   bool spansWhenWrapped = false;
+  /// Where its longest word does not fit, it is drawn smaller rather than broken inside the word,
+  /// down to this part of its size.
+  double smallestPart = 1;
+  /// The part of its size that it is drawn at, as `Layout::place` found it.
+  double drawnAt = 1;
 };
 struct Image {
   std::string name;
@@ -57,6 +63,10 @@ struct Stack {
   Alignment alignment;
   double spacing;
 };
+/// Between `count` children.
+inline double totalSpacing(const Stack& stack, std::size_t count) {
+  return count == 0 ? 0 : stack.spacing * static_cast<double>(count - 1);
+}
 struct Padding {
   EdgeInsets insets;
 };

@@ -68,10 +68,8 @@ bool isText(const Element& element) {
   return std::holds_alternative<elements::Text>(element.kind);
 }
 
-double totalSpacing(const Element& stack) {
-  const auto gaps = static_cast<double>(stack.children.empty() ? 0 : stack.children.size() - 1);
-  return std::get<elements::Stack>(stack.kind).spacing * gaps;
-}
+/// Points; as much as a text engine's own rounding may take.
+constexpr double roundingNoise = 1.0 / 32;
 
 }  // namespace
 
@@ -115,7 +113,7 @@ struct Layout::Chooser {
 
   Size operator()(const elements::Stack& stack) {
     const Offers offers = layout.divide(element, proposal);
-    double length = totalSpacing(element);
+    double length = totalSpacing(stack, element.children.size());
     double crossLength = 0;
     for (std::size_t i = 0; i < offers.size(); ++i) {
       const Size size =
@@ -166,7 +164,7 @@ struct Layout::Placer {
   }
 
   void operator()(const elements::Empty&) {}
-  void operator()(const elements::Text&) {}
+  void operator()(elements::Text& text) { text.drawnAt = layout.drawnPart(element, proposal); }
   void operator()(const elements::Image&) {}
   void operator()(const elements::Spacer&) {}
   void operator()(const elements::Divider&) {}
@@ -253,9 +251,22 @@ Size Layout::measureText(Element& element, ProposedSize proposal) {
     const Size ideal = measure(element, {std::nullopt, proposal.height});
     if (ideal.width <= width) return ideal;
   }
-  const Size size = grid_.ceil(engine_.measure(text.text, width).size);
+  const double part = drawnPart(element, proposal);
+  const Size size =
+      grid_.ceil(engine_.measure(part == 1 ? text.text : text.text.scaled(part), width).size);
   const bool spans = text.spansWhenWrapped && width != infinity;
   return {spans ? std::max(width, size.width) : size.width, size.height};
+}
+
+double Layout::drawnPart(Element& element, ProposedSize proposal) {
+  const auto& text = std::get<elements::Text>(element.kind);
+  const double width = proposal.width.value_or(infinity);
+  if (text.smallestPart == 1 || width == infinity) return 1;
+  if (measure(element, {std::nullopt, proposal.height}).width <= width) return 1;
+  const double least = grid_.ceil(engine_.leastWidth(text.text));
+  if (least <= width) return 1;
+  const double part = (grid_.floor(width) - roundingNoise) / least;
+  return part < text.smallestPart ? 1 : part;
 }
 
 Layout::Offers Layout::divide(Element& stackElement, ProposedSize proposal) {
@@ -273,7 +284,11 @@ Layout::Offers Layout::divide(Element& stackElement, ProposedSize proposal) {
     flexing[i] = {stack.axis == Axis::horizontal && isText(children[i]) ? 0 : ask(i, 0),
                   ask(i, infinity), std::holds_alternative<elements::Spacer>(children[i].kind)};
   }
-  distribute(flexing, *offered - totalSpacing(stackElement), ask);
+  const double available = *offered - totalSpacing(stack, children.size());
+  const std::vector<double> given = distribute(flexing, available, ask);
+  if (stack.axis == Axis::horizontal && breaksWords(stackElement, flexing, given)) {
+    distribute(flexing, available, ask);
+  }
   return offers;
 }
 

@@ -4,6 +4,7 @@
 #include "platform/layout/Geometry.h"
 #include "platform/layout/PixelGrid.h"
 #include "platform/layout/SafeArea.h"
+#include "platform/layout/StackDistribution.h"
 #include "platform/text/TextEngine.h"
 
 namespace quorix::layout {
@@ -24,6 +25,7 @@ class Layout {
  private:
   struct Chooser;
   struct Placer;
+  struct LeastWidth;
 
   /// What a stack offers each child along its axis.
   using Offers = std::vector<std::optional<double>>;
@@ -31,6 +33,14 @@ class Layout {
   /// What an element that is scaled to fit offers its child.
   ProposedSize fittingChild(Element& fit, ProposedSize proposal);
   Size measureText(Element& element, ProposedSize proposal);
+  /// The part of its size that a text is drawn at where it is offered `proposal`.
+  double drawnPart(Element& text, ProposedSize proposal);
+  /// The least width at which no word in `element` breaks, as far as that depends on its width.
+  double leastWidth(Element& element);
+  /// Whether one of a row's children that got `lengths` breaks inside a word. Notes in `children`
+  /// what each needs.
+  bool breaksWords(Element& stack, std::vector<StackChild>& children,
+                   const std::vector<double>& lengths);
 
   text::TextEngine& engine_;
   PixelGrid grid_;

@@ -19,6 +19,8 @@ class PixelGrid {
 
   /// The next whole pixel; a length that misses one by rounding noise stays there.
   double ceil(double length) const { return std::ceil(length * scale_ - noise) / scale_; }
+  /// The whole pixel before, likewise.
+  double floor(double length) const { return std::floor(length * scale_ + noise) / scale_; }
   Size ceil(Size size) const { return {ceil(size.width), ceil(size.height)}; }
 
   /// Rounds edge by edge, so that neighbours that touch still touch.

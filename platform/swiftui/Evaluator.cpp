@@ -19,6 +19,11 @@ graphics::RGBA separatorColor(graphics::Appearance appearance) {
                                                   : graphics::RGBA{60, 60, 67, 74};
 }
 
+/// How far a text gives in size before a word in it breaks. What stands side by side (a price, its
+/// name) is to be read whole; a paragraph is not made small for the sake of one endless word.
+constexpr double smallestInRow = 0.25;
+constexpr double smallestParagraph = 0.75;
+
 }  // namespace
 
 Evaluation Evaluator::run(const View& root) {
@@ -34,8 +39,11 @@ void Evaluator::collect(const View& view, const Look& look, Axis axis, Elements&
 
 void Evaluator::collect(const nodes::Text& node, const View&, const Look& look, Axis,
                         Elements& out) {
-  out.push_back(
-      {elements::Text{look.attributed(node.text, environment_), look.inColumn}, {}, {}, {}});
+  const double smallest = look.inRow ? smallestInRow : smallestParagraph;
+  out.push_back({elements::Text{look.attributed(node.text, environment_), look.inColumn, smallest},
+                 {},
+                 {},
+                 {}});
 }
 
 void Evaluator::collect(const nodes::Image& node, const View&, const Look& look, Axis,
@@ -84,6 +92,7 @@ void Evaluator::collect(const nodes::Stack& node, const View&, const Look& look,
       {}};
   Look inner = look;
   inner.inColumn = node.axis == Axis::vertical;
+  inner.inRow = node.axis == Axis::horizontal;
   collectChildren(node.children, inner, node.axis, stack.children);
   out.push_back(std::move(stack));
 }

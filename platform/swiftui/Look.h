@@ -19,6 +19,7 @@ struct Look {
   bool underline = false;
   bool strikethrough = false;
   bool resizable = false;
+  bool inRow = false;     ///< the nearest stack is horizontal
   bool inColumn = false;  ///< the nearest stack is vertical
 
   void apply(const modifiers::FontChoice& m) { font = &m.font; }

@@ -28,11 +28,20 @@ struct Run {
   bool operator==(const Run&) const = default;
 };
 
-/// What a text element shows, in reading order, with the paragraph's base direction.
+/// What a text element shows, in reading order.
 struct AttributedText {
   std::vector<Run> runs;
+  /// Of the page: lines are aligned to the side that it reads from. `baseDirection` tells which way
+  /// the words run.
   layout::LayoutDirection direction = layout::LayoutDirection::leftToRight;
   bool operator==(const AttributedText&) const = default;
+
+  /// The same in letters of `part` their size.
+  AttributedText scaled(double part) const {
+    AttributedText copy = *this;
+    for (Run& run : copy.runs) run.font.points *= part;
+    return copy;
+  }
 };
 
 }  // namespace quorix::text

@@ -23,6 +23,10 @@ class TextEngine {
   /// word boundaries, and inside a word only where the word alone is wider than `width`. An empty
   /// text has one line's height and no width.
   virtual TextMetrics measure(const AttributedText& text, double width) = 0;
+
+  /// The least width that breaks `text` nowhere but at word boundaries: that of its longest word.
+  /// A price is one word.
+  virtual double leastWidth(const AttributedText& text) = 0;
 };
 
 }  // namespace quorix::text

@@ -39,6 +39,18 @@ class FixedWidthText final : public text::TextEngine {
             lines.count};
   }
 
+  double leastWidth(const text::AttributedText& text) override {
+    std::string words;
+    for (const text::Run& part : text.runs) words += part.text;
+    double longest = 0;
+    for (std::size_t start = 0; start <= words.size();) {
+      const std::size_t end = std::min(words.find(' ', start), words.size());
+      longest = std::max(longest, characters(words.substr(start, end - start)));
+      start = end + 1;
+    }
+    return longest * text.runs.front().font.points / 2;
+  }
+
  private:
   struct Lines {
     double capacity;

@@ -56,7 +56,7 @@ TEST_P(LayoutTable, GivesTheFramesExpected) {
 
 INSTANTIATE_TEST_SUITE_P(Layout, LayoutTable,
                          ::testing::Values("stacks", "frames", "texts", "pixels", "directions",
-                                           "grounds"));
+                                           "words", "grounds"));
 
 TEST(PixelGrid, LeavesNoSeamAndLosesNoHairline) {
   for (const double scale : {1.0, 1.25, 1.5, 2.0, 3.0}) {

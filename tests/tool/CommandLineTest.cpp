@@ -5,8 +5,9 @@
 
 TEST(ToolCommandLine, ExamplesInHelpWorkWhenPasted) {
   const Tool tool;
-  for (const char* command : {"quorix", "quorix mint", "quorix decode", "quorix score",
-                              "quorix info", "quorix overlay-url", "quorix strings check"}) {
+  for (const char* command :
+       {"quorix", "quorix mint", "quorix decode", "quorix score", "quorix info", "quorix gallery",
+        "quorix overlay-url", "quorix strings check"}) {
     const std::string help = tool.shell(command + std::string(" --help")).out;
     const std::string heading = "\nExample:\n";
     const std::size_t at = help.find(heading);

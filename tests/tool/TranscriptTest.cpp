@@ -64,7 +64,7 @@ TEST_P(ToolTranscript, HoldsLineByLine) {
 
 INSTANTIATE_TEST_SUITE_P(Transcripts, ToolTranscript,
                          testing::Values("command_line", "tokens", "score", "info", "translations",
-                                         "overlay_url", "strings_check"),
+                                         "overlay_url", "gallery", "strings_check"),
                          [](const auto& file) { return std::string(file.param); });
 
 }  // namespace

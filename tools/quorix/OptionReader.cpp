@@ -65,7 +65,7 @@ std::int64_t OptionReader::integer(std::string_view option, std::int64_t fallbac
 }
 
 std::optional<std::size_t> OptionReader::choice(std::string_view option,
-                                                std::initializer_list<std::string_view> names) {
+                                                std::span<const std::string_view> names) {
   const auto given = arguments_.value(option);
   if (!given) return std::nullopt;
   std::string known;

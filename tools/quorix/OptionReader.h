@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <initializer_list>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -38,7 +39,11 @@ class OptionReader {
   std::int64_t integer(std::string_view option, std::int64_t fallback);
   /// Which of `names` was given; nothing when the option was not.
   std::optional<std::size_t> choice(std::string_view option,
-                                    std::initializer_list<std::string_view> names);
+                                    std::span<const std::string_view> names);
+  std::optional<std::size_t> choice(std::string_view option,
+                                    std::initializer_list<std::string_view> names) {
+    return choice(option, std::span(names.begin(), names.size()));
+  }
 
   /// "#RRGGBB", as designers write it; opaque.
   std::optional<graphics::RGBA> color(std::string_view option);

@@ -1,10 +1,9 @@
 #include "tools/quorix/PictureFile.h"
 
-#include <QImageWriter>
-#include <QSaveFile>
 #include <cmath>
 
 #include "qt/Picture.h"
+#include "tools/quorix/OutputFile.h"
 
 namespace quorix::tool {
 namespace {
@@ -19,10 +18,6 @@ std::string pixels(double width, double height) {
   return whole(width) + " x " + whole(height) + " pixels";
 }
 
-Failure cannotWrite(const std::string& path, const QString& reason) {
-  return Failure::refused("can't write " + path + ": " + reason.toStdString());
-}
-
 }  // namespace
 
 std::optional<Failure> writePicture(const render::Scene& scene, const qt::PictureOptions& options,
@@ -34,12 +29,7 @@ std::optional<Failure> writePicture(const render::Scene& scene, const qt::Pictur
   if (image.isNull()) {
     return Failure::refused("a picture of " + pixels(width, height) + " is too large");
   }
-  QSaveFile file(QString::fromStdString(path));
-  if (!file.open(QIODevice::WriteOnly)) return cannotWrite(path, file.errorString());
-  QImageWriter writer(&file, "png");
-  if (!writer.write(image)) return cannotWrite(path, writer.errorString());
-  if (!file.commit()) return cannotWrite(path, file.errorString());
-  return std::nullopt;
+  return writePicture(image, path);
 }
 
 }  // namespace quorix::tool

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "tools/quorix/DecodeCommand.h"
+#include "tools/quorix/GalleryCommand.h"
 #include "tools/quorix/Help.h"
 #include "tools/quorix/InfoCommand.h"
 #include "tools/quorix/MintCommand.h"
@@ -22,8 +23,8 @@ using quorix::tool::Outcome;
 constexpr const Command* commands[] = {
     &quorix::tool::mintCommand,       &quorix::tool::decodeCommand,
     &quorix::tool::scoreCommand,      &quorix::tool::infoCommand,
+    &quorix::tool::galleryCommand,    &quorix::tool::previewCommand,
     &quorix::tool::overlayUrlCommand, &quorix::tool::stringsCheckCommand,
-    &quorix::tool::previewCommand,
 };
 
 Outcome run(const Command& command, std::span<const std::string> words) {

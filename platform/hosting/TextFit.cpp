@@ -1,0 +1,53 @@
+#include "platform/hosting/TextFit.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace quorix::hosting {
+namespace {
+
+using swiftui::ContentSizeCategory;
+
+bool meet(const layout::Rect& one, const layout::Rect& other) {
+  constexpr double touching = 0.5;  // points
+  const double across = std::min(one.right(), other.right()) - std::max(one.left(), other.left());
+  const double down = std::min(one.bottom(), other.bottom()) - std::max(one.top(), other.top());
+  return across > touching && down > touching;
+}
+
+/// Whether a picture lies on a text.
+bool isCovered(const render::Scene& scene) {
+  for (auto item = scene.items.begin(); item != scene.items.end(); ++item) {
+    const auto* text = std::get_if<render::TextItem>(&*item);
+    const auto covers = [&](const render::Item& later) {
+      const auto* image = std::get_if<render::ImageItem>(&later);
+      return image && meet(text->frame, image->frame);
+    };
+    if (text && std::any_of(item, scene.items.end(), covers)) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+void TextFit::setEnvironment(const swiftui::Environment& environment) {
+  if (std::exchange(wanted_, environment) != environment) content_.setEnvironment(environment);
+}
+
+void TextFit::reset() { content_.setEnvironment(wanted_); }
+
+void TextFit::fit(layout::Size area, const layout::EdgeInsets& safeArea, double tallest) {
+  trying_ = true;
+  swiftui::Environment environment = content_.environment();
+  while (environment.textSize > ContentSizeCategory::large) {
+    const bool isWhole = content_.sizeThatFits({area.width, std::nullopt}).height <= tallest &&
+                         !isCovered(content_.scene(area, safeArea));
+    if (isWhole) break;
+    environment.textSize =
+        static_cast<ContentSizeCategory>(static_cast<int>(environment.textSize) - 1);
+    content_.setEnvironment(environment);
+  }
+  trying_ = false;
+}
+
+}  // namespace quorix::hosting

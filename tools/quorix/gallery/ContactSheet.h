@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QImage>
+#include <string>
+#include <vector>
+
+namespace quorix::gallery {
+
+/// Pictures with a line below each, side by side and in rows on one page.
+struct ContactSheet {
+  struct Entry {
+    QImage picture;
+    std::string caption;
+  };
+
+  /// The page, `width` points wide (wider where a picture is), at the pictures' own scale; null
+  /// when it would be larger than an image can be.
+  static QImage paint(const std::vector<Entry>& entries, double width);
+};
+
+}  // namespace quorix::gallery
