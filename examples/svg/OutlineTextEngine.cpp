@@ -9,6 +9,10 @@ text::TextMetrics OutlineTextEngine::measure(const text::AttributedText& text, d
   return lay(text, width).metrics;
 }
 
+double OutlineTextEngine::leastWidth(const text::AttributedText& text) {
+  return Paragraph(text, faces_).longestWord();
+}
+
 OutlineTextEngine::Block OutlineTextEngine::lay(const text::AttributedText& text, double width) {
   Block block;
   double descent = 0, gap = 0;

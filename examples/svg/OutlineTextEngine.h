@@ -10,6 +10,7 @@ namespace quorix::examples {
 class OutlineTextEngine final : public text::TextEngine {
  public:
   text::TextMetrics measure(const text::AttributedText& text, double width) override;
+  double leastWidth(const text::AttributedText& text) override;
 
   /// What `measure` measured, to be drawn.
   struct Block {

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+#include "platform/text/BaseDirection.h"
+
 namespace quorix::examples {
 namespace {
 
@@ -24,7 +26,8 @@ Paragraph::Paragraph(const text::AttributedText& text, Faces& faces) : bidi_(ubi
     runs_.push_back({text_.length(), &faces.find(run.font.name), run.font.points});
   }
   UErrorCode status = U_ZERO_ERROR;
-  const UBiDiLevel base = text.direction == layout::LayoutDirection::rightToLeft ? 1 : 0;
+  const bool rightToLeft = text::baseDirection(text) == layout::LayoutDirection::rightToLeft;
+  const UBiDiLevel base = rightToLeft ? 1 : 0;
   ubidi_setPara(bidi_.get(), text_.getBuffer(), text_.length(), base, nullptr, &status);
   words_.reset(icu::BreakIterator::createLineInstance(icu::Locale::getRoot(), status));
   characters_.reset(icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status));
@@ -41,6 +44,17 @@ std::vector<Paragraph::Line> Paragraph::lines(double width) {
   }
   if (lines.empty()) lines.emplace_back();
   return lines;
+}
+
+double Paragraph::longestWord() {
+  double longest = 0;
+  std::int32_t from = 0;
+  for (std::int32_t next = words_->following(0); next != icu::BreakIterator::DONE;
+       next = words_->next()) {
+    longest = std::max(longest, shape(from, next).width);
+    from = next;
+  }
+  return longest;
 }
 
 std::int32_t Paragraph::lineEnd(std::int32_t from, double width) {

@@ -37,6 +37,9 @@ class Paragraph {
   /// Lines no wider than `width`, broken between words, and inside a word that alone is wider.
   std::vector<Line> lines(double width);
 
+  /// The width of the widest stretch between two places where a line may end.
+  double longestWord();
+
  private:
   struct Stretch {
     std::int32_t end;  ///< in UTF-16 units

@@ -28,7 +28,6 @@ struct SheetGeometry {
 
   /// Keeps what fills the upper corners of `panel` in `scene` within their rounding.
   static void roundTop(render::Scene& scene, const layout::Rect& panel);
-
 };
 
 }  // namespace quorix::hosting
