@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "platform/foundation/Export.h"
 #include "platform/render/Scene.h"
 #include "qt/WebPage.h"
 
@@ -11,7 +12,7 @@ namespace quorix::qt {
 
 /// The web content of an embed, on show in a window of some toolkit: what the content loads is
 /// loaded, what the page asks for is passed on to it. Main thread.
-class EmbeddedPage {
+class QUORIX_EXPORT EmbeddedPage {
  public:
   /// Opens the page with the component `name`; null where that is not to be had, or where the embed
   /// holds no web content.

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <unordered_map>
 
+#include "platform/foundation/Export.h"
 #include "platform/text/AttributedText.h"
 #include "qt/ShapingFont.h"
 
@@ -14,7 +15,7 @@ namespace quorix::qt {
 
 /// Finds Qt's fonts for the names that texts carry: a face of the font manager, a family, a
 /// PostScript name such as "OpenSans-SemiBold", and the system's font for any other. Main thread.
-class QtFonts {
+class QUORIX_EXPORT QtFonts {
  public:
   static QtFonts& shared();
 

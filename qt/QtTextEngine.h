@@ -5,6 +5,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "platform/foundation/Export.h"
 #include "platform/text/TextEngine.h"
 #include "qt/Paragraph.h"
 #include "qt/QtFonts.h"
@@ -17,7 +18,7 @@ namespace quorix::qt {
 /// Text as Qt shapes it, with Qt's fallback faces. What was measured last is kept for painting, so
 /// that a text is shaped once; what rows off the screen measured long ago is let go. Main thread,
 /// with an application object.
-class QtTextEngine final : public text::TextEngine {
+class QUORIX_EXPORT QtTextEngine final : public text::TextEngine {
  public:
   /// The one that all surfaces measure and paint with.
   static QtTextEngine& shared();

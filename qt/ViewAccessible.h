@@ -4,13 +4,14 @@
 #include <string>
 #include <vector>
 
+#include "platform/foundation/Export.h"
 #include "qt/ElementAccessible.h"
 
 namespace quorix::qt {
 
 /// A surface as assistive technology meets it: a group of its scene's elements, a dialog when it is
 /// a sheet, or, where the whole view is one element, that element itself.
-class ViewAccessible : public QAccessibleObject, public QAccessibleActionInterface {
+class QUORIX_EXPORT ViewAccessible : public QAccessibleObject, public QAccessibleActionInterface {
  public:
   explicit ViewAccessible(QObject* owner);
   ~ViewAccessible() override;
