@@ -12,13 +12,13 @@ namespace quorix::qt {
 
 /// The web content of an embed, on show in a window of some toolkit: what the content loads is
 /// loaded, what the page asks for is passed on to it. Main thread.
-class QUORIX_EXPORT EmbeddedPage {
+class EmbeddedPage {
  public:
   /// Opens the page with the component `name`; null where that is not to be had, or where the embed
   /// holds no web content.
   static std::unique_ptr<EmbeddedPage> open(const QString& name, const render::EmbedItem& embed,
                                             QObject& place);
-  ~EmbeddedPage();
+  QUORIX_EXPORT ~EmbeddedPage();
   EmbeddedPage(const EmbeddedPage&) = delete;
   EmbeddedPage& operator=(const EmbeddedPage&) = delete;
 

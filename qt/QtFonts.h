@@ -15,7 +15,7 @@ namespace quorix::qt {
 
 /// Finds Qt's fonts for the names that texts carry: a face of the font manager, a family, a
 /// PostScript name such as "OpenSans-SemiBold", and the system's font for any other. Main thread.
-class QUORIX_EXPORT QtFonts {
+class QtFonts {
  public:
   static QtFonts& shared();
 
@@ -26,7 +26,7 @@ class QUORIX_EXPORT QtFonts {
 
   /// Tells the font manager which faces Qt has on its own, so that none is registered over one of
   /// them. To be called before the first face is registered; again is harmless.
-  static void installSystemLookup();
+  QUORIX_EXPORT static void installSystemLookup();
 
   /// Whether Qt has a face of that family or PostScript name. Any thread; false without an
   /// application object.

@@ -18,10 +18,10 @@ namespace quorix::qt {
 /// Text as Qt shapes it, with Qt's fallback faces. What was measured last is kept for painting, so
 /// that a text is shaped once; what rows off the screen measured long ago is let go. Main thread,
 /// with an application object.
-class QUORIX_EXPORT QtTextEngine final : public text::TextEngine {
+class QtTextEngine final : public text::TextEngine {
  public:
   /// The one that all surfaces measure and paint with.
-  static QtTextEngine& shared();
+  QUORIX_EXPORT static QtTextEngine& shared();
 
   QtTextEngine() = default;
 

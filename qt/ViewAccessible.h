@@ -11,15 +11,15 @@ namespace quorix::qt {
 
 /// A surface as assistive technology meets it: a group of its scene's elements, a dialog when it is
 /// a sheet, or, where the whole view is one element, that element itself.
-class QUORIX_EXPORT ViewAccessible : public QAccessibleObject, public QAccessibleActionInterface {
+class ViewAccessible : public QAccessibleObject, public QAccessibleActionInterface {
  public:
   explicit ViewAccessible(QObject* owner);
   ~ViewAccessible() override;
 
   /// Tells assistive technology, if it listens, what differs from the scene that it was told of
   /// last.
-  static void sceneChanged(QObject& owner);
-  static void focusChanged(QObject& owner);
+  QUORIX_EXPORT static void sceneChanged(QObject& owner);
+  QUORIX_EXPORT static void focusChanged(QObject& owner);
 
   QWindow* window() const override;
   QRect rect() const override;

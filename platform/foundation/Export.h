@@ -8,6 +8,8 @@
 /// members are inline, or the two would have a type each.
 #if defined(QUORIX_STATIC) || defined(_WIN32)
 #define QUORIX_EXPORT
+#define QUORIX_HIDDEN
 #else
 #define QUORIX_EXPORT __attribute__((visibility("default")))
+#define QUORIX_HIDDEN __attribute__((visibility("hidden")))  // what stands in an exported class
 #endif

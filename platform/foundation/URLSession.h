@@ -56,7 +56,7 @@ class QUORIX_EXPORT URLSession {
  private:
   URLSession();
   ~URLSession();
-  struct State;
+  struct QUORIX_HIDDEN State;
   std::unique_ptr<State> state_;
 };
 

@@ -82,7 +82,7 @@ class QUORIX_EXPORT SheetPresenter {
   void settle();
 
  private:
-  struct State;
+  struct QUORIX_HIDDEN State;
   std::unique_ptr<State> state_;
 };
 

@@ -87,7 +87,7 @@ class QUORIX_EXPORT ViewHost {
   bool activate(int index);
 
  private:
-  struct State;
+  struct QUORIX_HIDDEN State;
   std::unique_ptr<State> state_;
 };
 
