@@ -3,6 +3,7 @@
     conan create packaging/conan --build=missing -o "quorixwidgets/*:qt=False"
 """
 
+import os
 import pathlib
 import re
 
@@ -13,6 +14,7 @@ from conan.tools.files import copy
 
 TREE = ["CMakeLists.txt", "LICENSE", "cmake/*", "platform/*", "QuorixWidgets/*", "qt/*",
         "examples/common/*", "tools/*"]
+FONTS = "QuorixWidgets/resources/Assets.xcassets/Fonts"
 
 
 class QuorixWidgetsRecipe(ConanFile):
@@ -34,12 +36,15 @@ class QuorixWidgetsRecipe(ConanFile):
         return pathlib.Path(self.recipe_folder).parent.parent
 
     def set_version(self):
+        if self.version:
+            return  # in Conan's cache, apart from the tree
         text = (self._root / "CMakeLists.txt").read_text(encoding="utf-8")
-        self.version = re.search(r"project\(QuorixWidgets VERSION ([0-9.]+)", text).group(1)
+        found = re.search(r"project\(QuorixWidgets VERSION ([0-9.]+)", text)
+        self.version = found.group(1)
 
     def export_sources(self):
         for pattern in TREE:
-            copy(self, pattern, self._root, self.export_sources_folder)
+            copy(self, pattern, str(self._root), self.export_sources_folder)
 
     def validate(self):
         check_min_cppstd(self, 20)
@@ -76,9 +81,9 @@ class QuorixWidgetsRecipe(ConanFile):
 
     def package(self):
         CMake(self).install()
-        copy(self, "LICENSE", self.source_folder, pathlib.Path(self.package_folder) / "licenses")
-        copy(self, "OFL-*.txt", self.source_folder, pathlib.Path(self.package_folder) / "licenses",
-             keep_path=False)
+        licences = os.path.join(self.package_folder, "licenses")
+        copy(self, "LICENSE", self.source_folder, licences)
+        copy(self, "OFL-*.txt", os.path.join(self.source_folder, FONTS), licences)
 
     def package_info(self):
         # The package's own CMake files know its targets and what each of them needs.

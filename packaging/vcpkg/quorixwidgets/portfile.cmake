@@ -1,5 +1,5 @@
 # An overlay port that builds the tree it lies in: --overlay-ports=QuorixWidgets/packaging/vcpkg
-get_filename_component(SOURCE_PATH "${CURRENT_PORT_DIR}/../../.." ABSOLUTE)
+get_filename_component(SOURCE_PATH "${CMAKE_CURRENT_LIST_DIR}/../../.." ABSOLUTE)
 
 vcpkg_check_features(OUT_FEATURE_OPTIONS options FEATURES
   qt QUORIX_QT
