@@ -6,18 +6,23 @@ if(WIN32 AND BUILD_SHARED_LIBS)
   set(BUILD_SHARED_LIBS OFF)
 endif()
 
+set(quorix_here "$ORIGIN")
+if(APPLE)
+  set(quorix_here "@loader_path")
+endif()
+
 # quorix_library(TARGET NAME SOURCE...): hosts link it as QuorixWidgets::NAME.
 function(quorix_library target name)
   add_library(${target} ${ARGN})
   add_library(QuorixWidgets::${name} ALIAS ${target})
   set_target_properties(${target} PROPERTIES
     EXPORT_NAME ${name} VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
-    INSTALL_RPATH "$ORIGIN" BUILD_RPATH_USE_ORIGIN ON)
+    INSTALL_RPATH "${quorix_here}" BUILD_RPATH_USE_ORIGIN ON)
   target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>)
   target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:quorix_warnings>)
   if(NOT BUILD_SHARED_LIBS)
     target_compile_definitions(${target} PUBLIC QUORIX_STATIC)
-  elseif(UNIX AND NOT APPLE)
+  elseif(UNIX AND NOT APPLE AND NOT QUORIX_SANITIZE)
     # Templates of the standard library are visible by its own word; the script keeps them in.
     set(script ${PROJECT_SOURCE_DIR}/cmake/symbols.map)
     target_link_options(${target} PRIVATE LINKER:--no-undefined LINKER:--version-script=${script})
