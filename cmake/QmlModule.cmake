@@ -2,10 +2,9 @@
 # import path to set, be the library static or shared: the import finds the types registered.
 file(GLOB qml_sources CONFIGURE_DEPENDS
   ${PROJECT_SOURCE_DIR}/qt/qml/*.cpp ${PROJECT_SOURCE_DIR}/qt/qml/*.h)
-add_library(QuorixQml STATIC ${qml_sources})
-add_library(QuorixWidgets::Qml ALIAS QuorixQml)
+quorix_library(QuorixQml Qml ${qml_sources})
 set_target_properties(QuorixQml PROPERTIES AUTOMOC ON)
-target_link_libraries(QuorixQml PUBLIC QuorixQuick Qt6::Qml PRIVATE quorix_warnings)
+target_link_libraries(QuorixQml PUBLIC QuorixQuick Qt6::Qml)
 target_sources(QuorixQml INTERFACE
   $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/qt/qml/link/LinkModule.cpp>)
 # The generated registration names headers without their folder.

@@ -1,5 +1,6 @@
 # The web engine, for each toolkit a library of its own that is loaded when the first page is to be
-# shown. A host ships them beside its program or in a folder "quorix" in one of Qt's plugin paths.
+# shown. They are installed into a folder "quorix" beside the other libraries; what else may hold them is
+# said at WebComponentLoader.
 if(QUORIX_WEB)
   find_package(Qt6 6.4 QUIET OPTIONAL_COMPONENTS WebEngineQuick WebEngineWidgets)
 endif()
@@ -25,6 +26,17 @@ if(TARGET Qt6::WebEngineWidgets)
   add_web_component(QuorixWebWidgets widgets Qt6::WebEngineWidgets)
 endif()
 
-# Programs of this build find them where they are built.
+# Where a program finds them: installed under one prefix with it, or in the build that a host's own
+# build holds. Programs of this build have a link to them, so that what is installed names no folder
+# of the machine that built it.
+include(GNUInstallDirs)
+file(RELATIVE_PATH from_program /prefix/${CMAKE_INSTALL_BINDIR} /prefix/${CMAKE_INSTALL_LIBDIR}/quorix)
 set_property(SOURCE ${PROJECT_SOURCE_DIR}/qt/WebComponentLoader.cpp APPEND PROPERTY
-  COMPILE_DEFINITIONS QUORIX_WEB_BUILD_FOLDER="${PROJECT_BINARY_DIR}/quorix")
+  COMPILE_DEFINITIONS QUORIX_WEB_FROM_PROGRAM="${from_program}"
+  $<$<NOT:$<BOOL:${QUORIX_INSTALL}>>:QUORIX_WEB_BUILD_FOLDER="${PROJECT_BINARY_DIR}/quorix">)
+if(QUORIX_INSTALL)
+  foreach(folder tests bench examples/shop)
+    file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/quorix ${PROJECT_BINARY_DIR}/${folder})
+    file(CREATE_LINK ${PROJECT_BINARY_DIR}/quorix ${PROJECT_BINARY_DIR}/${folder}/quorix SYMBOLIC)
+  endforeach()
+endif()

@@ -3,13 +3,15 @@
 #include <QAccessible>
 #include <QObject>
 
+#include "platform/foundation/Export.h"
+
 namespace quorix::qt {
 
 class AccessibleSurface;
 
 /// Makes surfaces known to assistive technology, and tells when one begins to listen. Lives as long
 /// as the application object; main thread.
-class AccessibilityBridge : public QObject, private QAccessible::ActivationObserver {
+class QUORIX_EXPORT AccessibilityBridge : public QObject, private QAccessible::ActivationObserver {
   Q_OBJECT
 
  public:

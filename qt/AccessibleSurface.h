@@ -4,6 +4,7 @@
 #include <optional>
 #include <vector>
 
+#include "platform/foundation/Export.h"
 #include "platform/render/Scene.h"
 
 class QObject;
@@ -12,7 +13,7 @@ class QWindow;
 namespace quorix::qt {
 
 /// What assistive technology can ask of a surface that shows a scene. Main thread.
-class AccessibleSurface {
+class QUORIX_EXPORT AccessibleSurface {
  public:
   virtual ~AccessibleSurface() = default;
 

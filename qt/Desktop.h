@@ -3,6 +3,7 @@
 #include <QObject>
 #include <string>
 
+#include "platform/foundation/Export.h"
 #include "platform/graphics/RGBA.h"
 #include "platform/layout/Geometry.h"
 
@@ -14,7 +15,7 @@ class DesktopPortal;
 
 /// What the desktop says for every surface of the process: light or dark, reading direction,
 /// motion. Lives as long as the application object; main thread.
-class Desktop : public QObject {
+class QUORIX_EXPORT Desktop : public QObject {
   Q_OBJECT
 
  public:

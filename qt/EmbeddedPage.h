@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "platform/foundation/Export.h"
 #include "platform/render/Scene.h"
 #include "qt/WebPage.h"
 
@@ -17,7 +18,7 @@ class EmbeddedPage {
   /// holds no web content.
   static std::unique_ptr<EmbeddedPage> open(const QString& name, const render::EmbedItem& embed,
                                             QObject& place);
-  ~EmbeddedPage();
+  QUORIX_EXPORT ~EmbeddedPage();
   EmbeddedPage(const EmbeddedPage&) = delete;
   EmbeddedPage& operator=(const EmbeddedPage&) = delete;
 

@@ -5,12 +5,13 @@
 #include <memory>
 #include <vector>
 
+#include "platform/foundation/Export.h"
 #include "qt/EmbeddedPage.h"
 
 namespace quorix::qt {
 
 /// The live pages of one scene: as many as it makes room for, each where it stands. Main thread.
-class EmbeddedPages {
+class QUORIX_EXPORT EmbeddedPages {
  public:
   /// `component` names the toolkit's web component; views are made children of `place`.
   EmbeddedPages(QString component, QObject& place)

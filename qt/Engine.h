@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/foundation/Export.h"
+
 namespace quorix::qt {
 
 /// Puts Qt under the platform's services: the main queue, the HTTP session, the faces that Qt has,
@@ -19,6 +21,6 @@ namespace quorix::qt {
 ///
 ///     QGuiApplication app(argc, argv);
 ///     quorix::qt::installEngine();
-void installEngine();
+QUORIX_EXPORT void installEngine();
 
 }  // namespace quorix::qt

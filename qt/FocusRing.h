@@ -3,6 +3,7 @@
 #include <QImage>
 #include <QRectF>
 
+#include "platform/foundation/Export.h"
 #include "platform/graphics/RGBA.h"
 #include "platform/layout/Geometry.h"
 
@@ -14,13 +15,14 @@ namespace quorix::qt {
 namespace FocusRing {
 
 /// What the ring covers, around an element at `element`; points.
-QRectF frameAround(const layout::Rect& element);
+QUORIX_EXPORT QRectF frameAround(const layout::Rect& element);
 
 /// Draws the ring within `frame`.
-void paint(QPainter& painter, const QRectF& frame, graphics::Appearance appearance);
+QUORIX_EXPORT void paint(QPainter& painter, const QRectF& frame, graphics::Appearance appearance);
 
 /// The ring for an element of `element`'s size, at `scale` device pixels a point.
-QImage picture(const layout::Rect& element, graphics::Appearance appearance, double scale);
+QUORIX_EXPORT QImage picture(const layout::Rect& element, graphics::Appearance appearance,
+                             double scale);
 
 }  // namespace FocusRing
 }  // namespace quorix::qt

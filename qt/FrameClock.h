@@ -4,10 +4,12 @@
 #include <QElapsedTimer>
 #include <functional>
 
+#include "platform/foundation/Export.h"
+
 namespace quorix::qt {
 
 /// Ticks once for each frame while it runs, in step with the window that is drawn. Main thread.
-class FrameClock : private QAbstractAnimation {
+class QUORIX_EXPORT FrameClock : private QAbstractAnimation {
  public:
   /// Told of the seconds since the last tick; the clock stops when it answers false.
   explicit FrameClock(std::function<bool(double)> tick) : tick_(std::move(tick)) {}

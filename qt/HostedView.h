@@ -3,6 +3,7 @@
 #include <QPointF>
 #include <QPointer>
 
+#include "platform/foundation/Export.h"
 #include "platform/hosting/ViewFocus.h"
 #include "platform/hosting/ViewHost.h"
 #include "qt/EnvironmentSource.h"
@@ -19,7 +20,7 @@ class WindowScene;
 
 /// What a view does in every toolkit: settings, input, focus and its sheet. A toolkit's surface
 /// derives from this and gives it a size, a place and paint. Main thread.
-class HostedView : private hosting::ViewHost::Client {
+class QUORIX_EXPORT HostedView : private hosting::ViewHost::Client {
  public:
   HostedView(const HostedView&) = delete;
   HostedView& operator=(const HostedView&) = delete;

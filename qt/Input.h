@@ -3,6 +3,7 @@
 #include <QtCore/qnamespace.h>
 #include <QPointF>
 
+#include "platform/foundation/Export.h"
 #include "platform/hosting/ViewFocus.h"
 #include "platform/layout/Geometry.h"
 
@@ -20,7 +21,7 @@ enum class KeyMeaning {
   backward,
   close,  ///< what lies over the window
 };
-KeyMeaning meaningOf(const QKeyEvent& event);
+QUORIX_EXPORT KeyMeaning meaningOf(const QKeyEvent& event);
 
 hosting::ViewFocus::Cause causeOf(Qt::FocusReason reason);
 

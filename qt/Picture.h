@@ -2,6 +2,7 @@
 
 #include <QImage>
 
+#include "platform/foundation/Export.h"
 #include "platform/render/Scene.h"
 #include "platform/swiftui/View.h"
 #include "qt/PictureOptions.h"
@@ -24,17 +25,18 @@ namespace quorix::qt {
 ///     options.width = 343;
 ///     options.environment.scale = 3;
 ///     quorix::qt::picture(row, options).save("row.png");
-QImage picture(const swiftui::View& view, const PictureOptions& options = {});
+QUORIX_EXPORT QImage picture(const swiftui::View& view, const PictureOptions& options = {});
 
 /// Draws `scene` over `background` at `scale` device pixels for each point. Null as above.
-QImage paintPicture(const render::Scene& scene, double scale, graphics::RGBA background);
+QUORIX_EXPORT QImage paintPicture(const render::Scene& scene, double scale,
+                                  graphics::RGBA background);
 
 /// Draws `scene` where `painter` stands, with the pixels that its picture has: over what is painted
 /// already, Qt would blend the text otherwise. The top left corner goes to the nearest whole device
 /// pixel; a painter that turns or shears gets the scene without that care.
-void paintAsPicture(QPainter& painter, const render::Scene& scene);
+QUORIX_EXPORT void paintAsPicture(QPainter& painter, const render::Scene& scene);
 
 /// Draws `scene` with the background and the scale of `options`. Null as above.
-QImage paintPicture(const render::Scene& scene, const PictureOptions& options);
+QUORIX_EXPORT QImage paintPicture(const render::Scene& scene, const PictureOptions& options);
 
 }  // namespace quorix::qt

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <unordered_map>
 
+#include "platform/foundation/Export.h"
 #include "platform/text/AttributedText.h"
 #include "qt/ShapingFont.h"
 
@@ -25,7 +26,7 @@ class QtFonts {
 
   /// Tells the font manager which faces Qt has on its own, so that none is registered over one of
   /// them. To be called before the first face is registered; again is harmless.
-  static void installSystemLookup();
+  QUORIX_EXPORT static void installSystemLookup();
 
   /// Whether Qt has a face of that family or PostScript name. Any thread; false without an
   /// application object.

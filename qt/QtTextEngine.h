@@ -6,6 +6,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "platform/foundation/Export.h"
 #include "platform/text/TextEngine.h"
 #include "qt/Paragraph.h"
 #include "qt/QtFonts.h"
@@ -21,7 +22,7 @@ namespace quorix::qt {
 class QtTextEngine final : public text::TextEngine {
  public:
   /// The one that all surfaces measure and paint with.
-  static QtTextEngine& shared();
+  QUORIX_EXPORT static QtTextEngine& shared();
 
   QtTextEngine() = default;
 

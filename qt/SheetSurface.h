@@ -3,6 +3,7 @@
 #include <QPointF>
 #include <optional>
 
+#include "platform/foundation/Export.h"
 #include "platform/hosting/SheetPresenter.h"
 #include "platform/hosting/VelocityTracker.h"
 #include "qt/EmbeddedPages.h"
@@ -22,7 +23,7 @@ namespace quorix::qt {
 /// when it has closed. Pages in it open once its first frame has been shown, so that loading the
 /// web engine does not keep the sheet from coming; where there is no engine, their addresses are
 /// opened outside the app and the sheet stays away. Main thread.
-class SheetSurface : private hosting::SheetPresenter::Client {
+class QUORIX_EXPORT SheetSurface : private hosting::SheetPresenter::Client {
  public:
   SheetSurface(const SheetSurface&) = delete;
   SheetSurface& operator=(const SheetSurface&) = delete;

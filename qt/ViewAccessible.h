@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/foundation/Export.h"
 #include "qt/ElementAccessible.h"
 
 namespace quorix::qt {
@@ -17,11 +18,12 @@ class ViewAccessible : public QAccessibleObject, public QAccessibleActionInterfa
 
   /// Tells assistive technology, if it listens, what differs from the scene that it was told of
   /// last.
-  static void sceneChanged(QObject& owner);
+  QUORIX_EXPORT static void sceneChanged(QObject& owner);
   /// Tells where the focus is: now, or on a later turn.
-  static void focusChanged(QObject& owner, Qt::ConnectionType when = Qt::DirectConnection);
+  QUORIX_EXPORT static void focusChanged(QObject& owner,
+                                         Qt::ConnectionType when = Qt::DirectConnection);
   /// Tells when something modal came over it, or went.
-  static void coverChanged(QObject& owner);
+  QUORIX_EXPORT static void coverChanged(QObject& owner);
 
   QWindow* window() const override;
   QRect rect() const override;

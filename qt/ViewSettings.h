@@ -1,11 +1,12 @@
 #pragma once
 
+#include "platform/foundation/Export.h"
 #include "qt/EnvironmentSource.h"
 
 namespace quorix::qt {
 
 /// What a host can settle for a view, whatever shows it. Main thread.
-class ViewSettings {
+class QUORIX_EXPORT ViewSettings {
  public:
   /// Light or dark; nothing follows the desktop, which is what holds until this is called.
   void setAppearance(std::optional<graphics::Appearance> appearance) {

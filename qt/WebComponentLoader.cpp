@@ -59,12 +59,16 @@ WebComponent* loaded(const QString& name) {
 }  // namespace
 
 QStringList WebComponentLoader::folders() {
-  QStringList all = {QCoreApplication::applicationDirPath()};
+  const QString program = QCoreApplication::applicationDirPath();
+  QStringList all = {program, program + QStringLiteral("/quorix")};
   for (const QString& path : QCoreApplication::libraryPaths()) {
     all.append(path + QStringLiteral("/quorix"));
   }
   const QString own = ownFolder();
-  if (!own.isEmpty()) all.append(own);
+  if (!own.isEmpty()) all << own << own + QStringLiteral("/quorix");
+#ifdef QUORIX_WEB_FROM_PROGRAM
+  all.append(program + QStringLiteral("/" QUORIX_WEB_FROM_PROGRAM));
+#endif
 #ifdef QUORIX_WEB_BUILD_FOLDER
   all.append(QStringLiteral(QUORIX_WEB_BUILD_FOLDER));
 #endif

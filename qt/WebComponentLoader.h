@@ -3,6 +3,8 @@
 #include <QString>
 #include <QStringList>
 
+#include "platform/foundation/Export.h"
+
 namespace quorix::qt {
 
 class WebComponent;
@@ -10,8 +12,9 @@ class WebComponent;
 /// Finds the libraries that hold the web engine ("QuorixWebQuick", "QuorixWebWidgets") and loads
 /// each on first use, for the rest of the process. Main thread.
 ///
-/// They are looked for beside the program, in a folder "quorix" in each of
-/// `QCoreApplication::libraryPaths()`, and beside the library or program that holds this code.
+/// They are looked for beside the program and in a folder "quorix" there, in a folder "quorix" in
+/// each of `QCoreApplication::libraryPaths()`, beside the library or program that holds this code
+/// and in a folder "quorix" there, and where they are when both are installed under one prefix.
 ///
 /// Qt WebEngine wants its host to say, before the application object is made,
 ///
@@ -22,7 +25,7 @@ class WebComponent;
 namespace WebComponentLoader {
 
 /// Whether there is a library of this name to load. Cheap: nothing is loaded.
-bool isThere(const QString& name);
+QUORIX_EXPORT bool isThere(const QString& name);
 /// The component, or null when it is missing, does not load or is of another version.
 WebComponent* load(const QString& name);
 

@@ -6,6 +6,7 @@
 #include <memory>
 #include <vector>
 
+#include "platform/foundation/Export.h"
 #include "platform/uikit/UIWindow.h"
 #include "platform/uikit/UIWindowScene.h"
 #include "qt/EnvironmentSource.h"
@@ -19,7 +20,7 @@ class SheetSurface;
 /// A window of the toolkit as the imperative vocabulary sees it: a scene with one window, whose
 /// root controller stands for the host's own screen. Controllers that are presented over it are
 /// shown as sheets. Belongs to the toolkit's window; main thread.
-class WindowScene : public QObject, private uikit::UIWindow::Client {
+class QUORIX_EXPORT WindowScene : public QObject, private uikit::UIWindow::Client {
   Q_OBJECT
 
  public:

@@ -6,6 +6,8 @@
 #include <string_view>
 #include <variant>
 
+#include "platform/foundation/Export.h"
+
 namespace quorix {
 
 /// The figures that a shopper token carries.
@@ -32,15 +34,15 @@ enum class TokenRefusal {
 };
 
 /// What is wrong, in plain words: "the payload is not base64".
-std::string_view describe(TokenRefusal refusal);
+QUORIX_EXPORT std::string_view describe(TokenRefusal refusal);
 
 using TokenReading = std::variant<TokenData, TokenRefusal>;
 
 /// Reads the figures from the token's payload, its second piece; header and signature are not
 /// looked at. Any thread.
-TokenReading readToken(std::string_view token) noexcept;
+QUORIX_EXPORT TokenReading readToken(std::string_view token) noexcept;
 
 /// The figures of `token`, or nothing when it carries none. Any thread.
-std::optional<TokenData> parseTokenData(std::string_view token) noexcept;
+QUORIX_EXPORT std::optional<TokenData> parseTokenData(std::string_view token) noexcept;
 
 }  // namespace quorix

@@ -6,6 +6,7 @@
 #include <variant>
 
 #include "platform/foundation/DecodingError.h"
+#include "platform/foundation/Export.h"
 
 namespace quorix {
 
@@ -13,7 +14,7 @@ namespace quorix {
 ///
 ///     auto reading = UserDetails::decode(body);
 ///     if (auto* details = std::get_if<UserDetails>(&reading)) details->returnPercentile;
-struct UserDetails {
+struct QUORIX_EXPORT UserDetails {
   double returnRate;        ///< A fraction.
   double returnRateTrend;   ///< A fraction, negative when the rate falls.
   double returnPercentile;  ///< 0 to 100; the lower, the fewer returns.

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "QuorixWidgets/info/InfoWidgetStyle.h"
+#include "platform/foundation/Export.h"
 #include "platform/swiftui/View.h"
 #include "platform/uikit/UIView.h"
 
@@ -14,7 +15,7 @@ namespace quorix {
 ///
 /// `locale` is a language code ("en", "nb"); one that the library has no texts for reads English.
 /// Each call makes a fresh widget and nothing is kept.
-struct InfoWidgetBuilder {
+struct QUORIX_EXPORT InfoWidgetBuilder {
   InfoWidgetBuilder() = delete;
 
   /// The declarative widget. A tap anywhere on it opens the page in a sheet.

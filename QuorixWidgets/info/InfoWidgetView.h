@@ -5,6 +5,7 @@
 #include <tuple>
 
 #include "QuorixWidgets/info/InfoWidgetViewModel.h"
+#include "platform/foundation/Export.h"
 #include "platform/swiftui/State.h"
 #include "platform/swiftui/View.h"
 
@@ -20,7 +21,7 @@ struct InfoWidgetView {
 
   auto states() const { return std::tie(showSheetPresented); }
   auto observed() const { return std::tie(viewModel); }
-  swiftui::View body() const;
+  QUORIX_EXPORT swiftui::View body() const;
 };
 
 }  // namespace quorix

@@ -3,6 +3,7 @@
 #include <cstdint>
 
 #include "platform/foundation/Error.h"
+#include "platform/foundation/Export.h"
 
 namespace quorix {
 
@@ -13,6 +14,6 @@ enum class FontError : std::uint8_t {
 };
 
 /// What `error` says of itself: domain "QuorixWidgets.FontError", code 0 and a text for developers.
-foundation::Error describe(FontError error);
+QUORIX_EXPORT foundation::Error describe(FontError error);
 
 }  // namespace quorix

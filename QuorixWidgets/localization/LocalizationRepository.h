@@ -7,6 +7,7 @@
 #include "QuorixWidgets/localization/TranslationTable.h"
 #include "QuorixWidgets/localization/TranslationTableReader.h"
 #include "platform/combine/ObservableObject.h"
+#include "platform/foundation/Export.h"
 #include "platform/foundation/URL.h"
 
 namespace quorix {
@@ -21,7 +22,7 @@ class LocalizationRepository final : public combine::ObservableObject,
   struct MakeOnly {};
 
  public:
-  static std::shared_ptr<LocalizationRepository> make(std::string locale);
+  QUORIX_EXPORT static std::shared_ptr<LocalizationRepository> make(std::string locale);
   LocalizationRepository(MakeOnly, std::string locale);
 
   /// Never null.

@@ -3,6 +3,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/foundation/Export.h"
+
 namespace quorix {
 
 /// A handle on a face of the library's own family. To hold one is to know that the face is
@@ -12,7 +14,7 @@ namespace quorix {
 /// face of the same name) stops the process with "Failed to register font: ...". Any thread.
 ///
 ///     auto title = Font::Quorix::relative(QuorixFont::medium(), 16, swiftui::TextStyle::headline);
-class QuorixFont {
+class QUORIX_EXPORT QuorixFont {
  public:
   /// "Saans-Regular".
   static const QuorixFont& regular();

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/foundation/Export.h"
 #include "platform/foundation/StringTable.h"
 
 namespace quorix {
@@ -16,6 +17,6 @@ struct StringTableProblem {
 /// All that is wrong with `table`: entries that the widgets ask for and do not find, entries that
 /// nobody asks for, formats that do not show exactly the argument they get, and a title that its
 /// figure does not part in two. Any thread.
-std::vector<StringTableProblem> problems(const foundation::StringTable& table);
+QUORIX_EXPORT std::vector<StringTableProblem> problems(const foundation::StringTable& table);
 
 }  // namespace quorix

@@ -3,6 +3,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/foundation/Export.h"
+
 namespace quorix {
 
 /// A handle on a face of the Tova brand's family, for a host's own styles. As with `QuorixFont`,
@@ -10,7 +12,7 @@ namespace quorix {
 ///
 ///     style.regularFont = TovaFont::regular().name();
 ///     style.semiBoldFont = "TovaSansLatin-SemiBold";  // registered along with the regular face
-class TovaFont {
+class QUORIX_EXPORT TovaFont {
  public:
   /// "TovaSansLatin-Regular". Registers "TovaSansLatin-SemiBold" as well, to be used by its name.
   static const TovaFont& regular();

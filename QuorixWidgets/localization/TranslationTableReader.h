@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "QuorixWidgets/localization/TranslationTable.h"
+#include "platform/foundation/Export.h"
 #include "platform/foundation/Result.h"
 #include "platform/foundation/URLSession.h"
 
@@ -14,10 +15,10 @@ using TranslationTableResult = foundation::Result<std::shared_ptr<const Translat
 /// The table that `body` spells: a JSON object of sections, each an object of keys with texts. Any
 /// other shape is refused as a whole with domain "Localization", code -2; what is not JSON, with
 /// the JSON reader's error. Any thread.
-TranslationTableResult readTranslationTable(std::string_view body);
+QUORIX_EXPORT TranslationTableResult readTranslationTable(std::string_view body);
 
 /// The table in a response, whatever its status; a transport error as it is, and domain
 /// "Localization", code -1, for a response without a body. Any thread.
-TranslationTableResult readTranslationTable(const foundation::URLResponse& response);
+QUORIX_EXPORT TranslationTableResult readTranslationTable(const foundation::URLResponse& response);
 
 }  // namespace quorix

@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 
+#include "platform/foundation/Export.h"
 #include "platform/foundation/URL.h"
 
 namespace quorix {
@@ -12,7 +13,7 @@ namespace quorix {
 ///
 ///     OverlayAddress{.token = "abc", .userName = "Ann", .locale = "nb"}.url();
 ///     // https://widget.quorix.example/users/details/?lang=no&name=Ann&token=abc
-struct OverlayAddress {
+struct QUORIX_EXPORT OverlayAddress {
   std::optional<std::string> token = std::nullopt;
   std::optional<std::string> userName =
       std::nullopt;  ///< Sent with a token only, as the token with it.

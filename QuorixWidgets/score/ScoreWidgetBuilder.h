@@ -3,12 +3,13 @@
 #include <string_view>
 
 #include "QuorixWidgets/score/ScoreWidgetStyle.h"
+#include "platform/foundation/Export.h"
 #include "platform/swiftui/View.h"
 
 namespace quorix {
 
 /// Builds score widgets. Main thread.
-struct ScoreWidgetBuilder {
+struct QUORIX_EXPORT ScoreWidgetBuilder {
   ScoreWidgetBuilder() = delete;
 
   /// The score row of one shopper, ready to be placed on a surface. Each call makes a fresh one and

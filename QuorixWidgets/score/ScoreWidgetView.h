@@ -6,6 +6,7 @@
 
 #include "QuorixWidgets/localization/LocalizationRepository.h"
 #include "QuorixWidgets/score/ScoreWidgetViewModel.h"
+#include "platform/foundation/Export.h"
 #include "platform/swiftui/State.h"
 #include "platform/swiftui/View.h"
 
@@ -21,7 +22,7 @@ struct ScoreWidgetView {
 
   auto states() const { return std::tie(showSheet); }
   auto observed() const { return std::tie(viewModel, localization); }
-  swiftui::View body() const;
+  QUORIX_EXPORT swiftui::View body() const;
 };
 
 }  // namespace quorix

@@ -10,6 +10,7 @@
 #include "QuorixWidgets/score/ScoreWidgetStyle.h"
 #include "platform/combine/ObservableObject.h"
 #include "platform/foundation/CurrencyFormatter.h"
+#include "platform/foundation/Export.h"
 #include "platform/foundation/Locale.h"
 #include "platform/swiftui/Font.h"
 
@@ -19,8 +20,8 @@ namespace quorix {
 /// formatter and the fonts belong to the model. Main thread.
 class ScoreWidgetViewModel final : public combine::ObservableObject {
  public:
-  ScoreWidgetViewModel(std::string clientId, const TokenData& token, std::string languageCode,
-                       const ScoreWidgetStyle& style);
+  QUORIX_EXPORT ScoreWidgetViewModel(std::string clientId, const TokenData& token,
+                                     std::string languageCode, const ScoreWidgetStyle& style);
 
   combine::Published<std::string> baseReturnFee;
   combine::Published<std::string> reducedReturnFee;

@@ -4,13 +4,15 @@
 #include <memory>
 #include <utility>
 
+#include "platform/foundation/Export.h"
+
 namespace quorix::combine {
 
 /// Keeps a subscription alive; dropping it ends the subscription.
 using Cancellable = std::shared_ptr<void>;
 
 /// An object that tells its observers that it is about to change. Shared by reference; main thread.
-class ObservableObject {
+class QUORIX_EXPORT ObservableObject {
  public:
   ObservableObject() = default;
   ObservableObject(const ObservableObject&) = delete;

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/foundation/Data.h"
+#include "platform/foundation/Export.h"
 
 namespace quorix::foundation {
 
@@ -18,7 +19,7 @@ namespace quorix::foundation {
 ///     Bundle::registerBundle("com.example.shop", Bundle::open("/path/to/resources"));
 ///     auto table =
 ///     Bundle::withIdentifier("com.example.shop")->data("en.lproj/Localizable.strings");
-class Bundle {
+class QUORIX_EXPORT Bundle {
  public:
   using Ref = std::shared_ptr<const Bundle>;
   virtual ~Bundle() = default;

@@ -2,13 +2,15 @@
 
 #include <functional>
 
+#include "platform/foundation/Export.h"
+
 namespace quorix::foundation {
 
 /// The queue of the main thread: work handed to it runs there, in order, on a later turn.
 ///
 /// The engine installs its executor once. Until then work waits and `drain` runs it, which is how a
 /// program without an event loop (the core's tests, a command-line tool) takes its turns.
-class MainQueue {
+class QUORIX_EXPORT MainQueue {
  public:
   using Work = std::function<void()>;
   using Executor = std::function<void(Work)>;

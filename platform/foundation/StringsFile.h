@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "platform/foundation/Export.h"
 #include "platform/foundation/Result.h"
 #include "platform/foundation/StringTable.h"
 
@@ -20,6 +21,6 @@ enum class StringsFileErrorCode : std::int64_t {
 /// the last counts. An error's description begins with the line: "line 3: ...". Any thread.
 ///
 ///     const auto table = readStringsFile("/* Title */ \"title\" = \"Caf\\U00e9\";");
-Result<StringTable> readStringsFile(std::string_view bytes);
+QUORIX_EXPORT Result<StringTable> readStringsFile(std::string_view bytes);
 
 }  // namespace quorix::foundation

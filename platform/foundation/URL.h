@@ -4,11 +4,13 @@
 #include <string>
 #include <string_view>
 
+#include "platform/foundation/Export.h"
+
 namespace quorix::foundation {
 
 /// A parsed address. Made only from a text that parses; characters that may not stand in their part
 /// of an address are percent-encoded on the way in, as the platform's parser does.
-class URL {
+class QUORIX_EXPORT URL {
  public:
   /// The address that `text` spells, or nothing. Never throws. Any thread.
   static std::optional<URL> parse(std::string_view text);

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/foundation/Error.h"
+#include "platform/foundation/Export.h"
 #include "platform/foundation/URL.h"
 
 namespace quorix::foundation {
@@ -21,7 +22,7 @@ struct URLResponse {
 
 /// Performs plain GET requests. `start` returns at once; `completion` runs exactly once, on a
 /// thread that is not the main thread.
-class URLTransport {
+class QUORIX_EXPORT URLTransport {
  public:
   using Completion = std::function<void(URLResponse)>;
   virtual ~URLTransport() = default;
@@ -34,7 +35,7 @@ using URLProtocol = std::function<std::optional<URLResponse>(const URL&)>;
 
 /// The process-wide HTTP session. The engine installs the transport; a host, a demo or a test may
 /// register protocols that answer for origins of their choice.
-class URLSession {
+class QUORIX_EXPORT URLSession {
  public:
   static URLSession& shared();
 
@@ -55,7 +56,7 @@ class URLSession {
  private:
   URLSession();
   ~URLSession();
-  struct State;
+  struct QUORIX_HIDDEN State;
   std::unique_ptr<State> state_;
 };
 

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "platform/foundation/Bundle.h"
+#include "platform/foundation/Export.h"
 #include "platform/graphics/ColorSet.h"
 #include "platform/graphics/ImageAsset.h"
 
@@ -24,7 +25,8 @@ namespace quorix::graphics {
 std::optional<ColorSet> colorSet(const foundation::Bundle::Ref& bundle, std::string_view name);
 
 /// The image set `name`: its SVG files.
-std::optional<ImageAsset> imageSet(const foundation::Bundle::Ref& bundle, std::string_view name);
+QUORIX_EXPORT std::optional<ImageAsset> imageSet(const foundation::Bundle::Ref& bundle,
+                                                 std::string_view name);
 
 /// The bytes of the data set `name`.
 std::optional<foundation::Data> dataSet(const foundation::Bundle::Ref& bundle,

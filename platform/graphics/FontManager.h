@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "platform/foundation/Data.h"
+#include "platform/foundation/Export.h"
 #include "platform/graphics/GraphicsFont.h"
 
 namespace quorix::graphics {
@@ -17,7 +18,7 @@ namespace quorix::graphics {
 ///
 ///     auto font = GraphicsFont::fromData(data);
 ///     bool added = font && FontManager::shared().registerGraphicsFont(*font);
-class FontManager {
+class QUORIX_EXPORT FontManager {
  public:
   /// The one that text is drawn with. Others are for tests.
   static FontManager& shared();

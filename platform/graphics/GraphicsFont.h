@@ -5,11 +5,12 @@
 #include <utility>
 
 #include "platform/foundation/Data.h"
+#include "platform/foundation/Export.h"
 
 namespace quorix::graphics {
 
 /// A font file that has been found whole and readable. Immutable; any thread.
-class GraphicsFont {
+class QUORIX_EXPORT GraphicsFont {
  public:
   /// The font in `data`: one face in TrueType or OpenType form with outlines and a PostScript name.
   /// Nothing for any other data.

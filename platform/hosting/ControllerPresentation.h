@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "platform/foundation/Export.h"
 #include "platform/swiftui/Presentation.h"
 #include "platform/uikit/UIViewController.h"
 
@@ -9,7 +10,7 @@ namespace quorix::hosting {
 
 /// The sheet that shows the presented `controller`: closing it dismisses the controller. Main
 /// thread.
-swiftui::Presentation controllerPresentation(
+QUORIX_EXPORT swiftui::Presentation controllerPresentation(
     const std::shared_ptr<uikit::UIViewController>& controller);
 
 }  // namespace quorix::hosting

@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "platform/foundation/Export.h"
 #include "platform/render/Scene.h"
 
 namespace quorix::hosting {
@@ -17,7 +18,7 @@ struct SceneLayer {
 /// further one only as large as what it shows. There is always one layer more than there are
 /// embeds. The picture of a layer also shows the background of its embed. Edges are on whole device
 /// pixels at `scale`. The layers point into `scene`.
-std::vector<SceneLayer> layersOf(const render::Scene& scene, double scale);
+QUORIX_EXPORT std::vector<SceneLayer> layersOf(const render::Scene& scene, double scale);
 
 /// Whether `scene` makes room for something that paints itself.
 bool hasEmbeds(const render::Scene& scene);

@@ -3,6 +3,7 @@
 #include <memory>
 #include <optional>
 
+#include "platform/foundation/Export.h"
 #include "platform/hosting/ViewHost.h"
 
 namespace quorix::hosting {
@@ -10,7 +11,7 @@ namespace quorix::hosting {
 /// Shows one sheet over a window: the dimmed background, the rounded panel that rises from the
 /// bottom, its heights, the drag that closes it and the motion between. Every coordinate is the
 /// window's, in points. A surface makes one for each sheet that it shows; main thread.
-class SheetPresenter {
+class QUORIX_EXPORT SheetPresenter {
  public:
   class Client {
    public:
@@ -83,7 +84,7 @@ class SheetPresenter {
   void settle();
 
  private:
-  struct State;
+  struct QUORIX_HIDDEN State;
   std::unique_ptr<State> state_;
 };
 

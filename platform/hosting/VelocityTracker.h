@@ -2,11 +2,13 @@
 
 #include <vector>
 
+#include "platform/foundation/Export.h"
+
 namespace quorix::hosting {
 
 /// How fast a finger moves along one axis just before it is lifted. A finger that rested before it
 /// was lifted has no speed, however fast it came.
-class VelocityTracker {
+class QUORIX_EXPORT VelocityTracker {
  public:
   /// The finger is at `position` (points) at the time `seconds`.
   void add(double position, double seconds);

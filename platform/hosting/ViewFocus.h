@@ -2,13 +2,14 @@
 
 #include <optional>
 
+#include "platform/foundation/Export.h"
 #include "platform/hosting/ViewHost.h"
 
 namespace quorix::hosting {
 
 /// What the keyboard focus does inside one view: which element it comes to, and whether the ring
 /// around that element is to be seen, which it is only for who uses the keyboard. Main thread.
-class ViewFocus {
+class QUORIX_EXPORT ViewFocus {
  public:
   /// Why the surface got the focus or lost it.
   enum class Cause {

@@ -3,6 +3,7 @@
 #include <memory>
 #include <optional>
 
+#include "platform/foundation/Export.h"
 #include "platform/layout/Geometry.h"
 #include "platform/render/Scene.h"
 #include "platform/swiftui/Environment.h"
@@ -14,7 +15,7 @@ namespace quorix::hosting {
 
 /// Puts one view on a surface: evaluates it, lays it out, routes taps and keys into it and says
 /// when any of that changed. What every surface has in common stands here; main thread.
-class ViewHost {
+class QUORIX_EXPORT ViewHost {
  public:
   /// The surface. Both calls may come while the surface itself is calling the host.
   class Client {
@@ -88,7 +89,7 @@ class ViewHost {
   bool activate(int index);
 
  private:
-  struct State;
+  struct QUORIX_HIDDEN State;
   std::unique_ptr<State> state_;
 };
 

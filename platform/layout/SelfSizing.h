@@ -1,12 +1,13 @@
 #pragma once
 
+#include "platform/foundation/Export.h"
 #include "platform/layout/Geometry.h"
 #include "platform/text/TextEngine.h"
 
 namespace quorix::layout {
 
 /// Content that knows its own rules of size. Main thread.
-class SelfSizing {
+class QUORIX_EXPORT SelfSizing {
  public:
   virtual ~SelfSizing() = default;
   /// The size that it chooses when offered `proposal`. Points.

@@ -3,6 +3,7 @@
 #include <functional>
 #include <utility>
 
+#include "platform/foundation/Export.h"
 #include "platform/layout/SelfSizing.h"
 #include "platform/render/Display.h"
 #include "platform/render/Scene.h"
@@ -11,7 +12,7 @@ namespace quorix::render {
 
 /// Content of another toolkit that stands in a view tree: it answers for its own size and brings
 /// its own scene. One host at a time; main thread.
-class HostedContent : public layout::SelfSizing {
+class QUORIX_EXPORT HostedContent : public layout::SelfSizing {
  public:
   /// The content laid out in an area of `size`, with its origin at zero.
   virtual Scene scene(layout::Size size, const Display& display, text::TextEngine& engine) = 0;

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "platform/foundation/Bundle.h"
+#include "platform/foundation/Export.h"
 #include "platform/graphics/RGBA.h"
 #include "platform/layout/Geometry.h"
 #include "platform/render/Embed.h"
@@ -46,7 +47,7 @@ struct StrokeItem {
 };
 
 /// Room for something that paints itself.
-struct EmbedItem {
+struct QUORIX_EXPORT EmbedItem {
   layout::Rect frame;
   std::shared_ptr<Embed> content;
   graphics::RGBA background;      ///< shows until the content has painted, and in pictures
@@ -79,7 +80,7 @@ struct AccessibilityElement {
 /// A laid-out view: all that a surface needs to paint it, to read taps from it and to tell
 /// assistive technology about it. Frames are in points from the top left, already mirrored for
 /// right-to-left and on whole device pixels at the scale it was made for. Items are in paint order.
-struct Scene {
+struct QUORIX_EXPORT Scene {
   layout::Size size;
   graphics::Appearance appearance = graphics::Appearance::light;
   std::vector<Item> items;

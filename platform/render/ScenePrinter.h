@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "platform/foundation/Export.h"
 #include "platform/render/Scene.h"
 
 namespace quorix::render {
@@ -17,15 +18,15 @@ namespace quorix::render {
 ///     image 304 22 24 24 "close" #000000FF
 ///     fill 16 120 311 1 #3C3C434A
 ///     hit 0 0 343 24
-std::string printFrames(const Scene& scene);
+QUORIX_EXPORT std::string printFrames(const Scene& scene);
 
 /// What assistive technology meets, in reading order, a line each.
 ///
 ///     button 0 0 343 24 "Your return fee €4.00" hint "Tap to learn more" acts
-std::string printAccessibility(const Scene& scene);
+QUORIX_EXPORT std::string printAccessibility(const Scene& scene);
 
 /// The same as JSON: {"size", "items": [...], "hitAreas": [...]} and an array of elements.
-std::string framesToJSON(const Scene& scene);
-std::string accessibilityToJSON(const Scene& scene);
+QUORIX_EXPORT std::string framesToJSON(const Scene& scene);
+QUORIX_EXPORT std::string accessibilityToJSON(const Scene& scene);
 
 }  // namespace quorix::render

@@ -7,6 +7,7 @@
 #include <variant>
 
 #include "platform/foundation/Bundle.h"
+#include "platform/foundation/Export.h"
 #include "platform/graphics/RGBA.h"
 #include "platform/swiftui/ColorResource.h"
 
@@ -14,7 +15,7 @@ namespace quorix::swiftui {
 
 /// A colour: fixed, or named in a bundle's asset catalogue with a value for each appearance.
 /// A cheap value; any thread.
-class Color {
+class QUORIX_EXPORT Color {
  public:
   /// The colour set `name` in `bundle` (null: the host's main bundle). Looked up when drawn.
   Color(std::string_view name, foundation::Bundle::Ref bundle);

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "platform/combine/ObservableObject.h"
+#include "platform/foundation/Export.h"
 #include "platform/swiftui/View.h"
 
 namespace quorix::swiftui {
@@ -21,7 +22,7 @@ struct StateSlots {
 };
 
 /// A view or modifier of the library's own, behind the node that holds it.
-class Component {
+class QUORIX_EXPORT Component {
  public:
   virtual ~Component() = default;
   virtual std::string_view name() const = 0;

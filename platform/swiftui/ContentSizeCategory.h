@@ -4,6 +4,7 @@
 #include <optional>
 #include <string_view>
 
+#include "platform/foundation/Export.h"
 #include "platform/swiftui/Font.h"
 
 namespace quorix::swiftui {
@@ -25,10 +26,10 @@ enum class ContentSizeCategory : std::uint8_t {
 };
 
 /// The category of that name ("extraLarge"), or nothing.
-std::optional<ContentSizeCategory> contentSizeCategoryNamed(std::string_view name);
-std::string_view nameOf(ContentSizeCategory category);
+QUORIX_EXPORT std::optional<ContentSizeCategory> contentSizeCategoryNamed(std::string_view name);
+QUORIX_EXPORT std::string_view nameOf(ContentSizeCategory category);
 
 /// What a size of `style` at the default category is multiplied by at `category`.
-double scaleFactor(TextStyle style, ContentSizeCategory category);
+QUORIX_EXPORT double scaleFactor(TextStyle style, ContentSizeCategory category);
 
 }  // namespace quorix::swiftui

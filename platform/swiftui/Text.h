@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/foundation/Export.h"
 #include "platform/swiftui/TextModifiers.h"
 
 namespace quorix::swiftui {
@@ -19,7 +20,7 @@ namespace quorix::swiftui {
 ///
 ///     Text::verbatim("Return within ") + Text::verbatim("30
 ///     days").fontWeight(FontWeight::semibold)
-class Text {
+class QUORIX_EXPORT Text {
  public:
   static Text verbatim(std::string_view text) { return Text(std::string(text), {}, false); }
   static Text localized(std::string_view key, std::vector<std::string> arguments) {

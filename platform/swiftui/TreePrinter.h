@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "platform/foundation/Export.h"
 #include "platform/swiftui/View.h"
 
 namespace quorix::swiftui {
@@ -14,6 +15,6 @@ namespace quorix::swiftui {
 ///
 /// Bodies are evaluated with their states' initial values. What a sheet shows stands below the
 /// modifier that presents it.
-std::string printTree(const View& view);
+QUORIX_EXPORT std::string printTree(const View& view);
 
 }  // namespace quorix::swiftui

@@ -4,6 +4,7 @@
 #include <memory>
 #include <string_view>
 
+#include "platform/foundation/Export.h"
 #include "platform/swiftui/Node.h"
 #include "platform/uikit/UIViewControllerContent.h"
 
@@ -43,6 +44,6 @@ View represent(R value) {
 }
 
 /// Shows `controller` itself. In one place at a time.
-View hosting(std::shared_ptr<uikit::UIViewController> controller);
+QUORIX_EXPORT View hosting(std::shared_ptr<uikit::UIViewController> controller);
 
 }  // namespace quorix::swiftui

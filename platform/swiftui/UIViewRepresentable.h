@@ -4,6 +4,7 @@
 #include <memory>
 #include <string_view>
 
+#include "platform/foundation/Export.h"
 #include "platform/swiftui/Node.h"
 #include "platform/uikit/UIViewContent.h"
 
@@ -45,6 +46,6 @@ View represent(R value) {
 /// one. In one place at a time. A null view shows nothing.
 ///
 ///     item->setView(swiftui::hosting(InfoWidgetBuilder::buildUIKitInfoWidgetView("en", style)));
-View hosting(std::shared_ptr<uikit::UIView> view);
+QUORIX_EXPORT View hosting(std::shared_ptr<uikit::UIView> view);
 
 }  // namespace quorix::swiftui

@@ -5,6 +5,7 @@
 #include <memory>
 #include <string_view>
 
+#include "platform/foundation/Export.h"
 #include "platform/layout/Geometry.h"
 #include "platform/swiftui/Color.h"
 #include "platform/swiftui/Font.h"
@@ -37,7 +38,7 @@ concept ViewModifier = requires(const M& modifier, View content) {
 ///
 ///     View row = HStack(12, {Text::verbatim("Fee"), Spacer(), Text::verbatim(fee)});
 ///     View padded = row.padding(16);
-class View {
+class QUORIX_EXPORT View {
  public:
   /// Takes no space and shows nothing.
   View();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/foundation/Export.h"
 #include "platform/text/AttributedText.h"
 
 namespace quorix::text {
@@ -8,6 +9,6 @@ namespace quorix::text {
 /// its first letter, and left to right where it has none, so that "4,00 €" and "18 %" keep their
 /// order on a page that is read from the right. On such a page a text with any letter of a
 /// right-to-left script runs as the page does, also when it begins with a foreign name. Any thread.
-layout::LayoutDirection baseDirection(const AttributedText& text);
+QUORIX_EXPORT layout::LayoutDirection baseDirection(const AttributedText& text);
 
 }  // namespace quorix::text

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/foundation/Export.h"
 #include "platform/layout/Geometry.h"
 #include "platform/text/AttributedText.h"
 
@@ -15,7 +16,7 @@ struct TextMetrics {
 };
 
 /// Shapes and breaks text. The one port between layout and an engine's fonts; main thread.
-class TextEngine {
+class QUORIX_EXPORT TextEngine {
  public:
   virtual ~TextEngine() = default;
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/foundation/Export.h"
 #include "platform/uikit/UIColor.h"
 
 namespace quorix::uikit {
@@ -7,7 +8,7 @@ namespace quorix::uikit {
 class UIView;
 
 /// A view's frame as it is drawn. Part of its view.
-class CALayer {
+class QUORIX_EXPORT CALayer {
  public:
   explicit CALayer(UIView& view) : view_(view) {}
   CALayer(const CALayer&) = delete;

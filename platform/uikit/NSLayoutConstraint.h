@@ -5,6 +5,8 @@
 #include <optional>
 #include <vector>
 
+#include "platform/foundation/Export.h"
+
 namespace quorix::uikit {
 
 class UIView;
@@ -28,7 +30,7 @@ enum class LayoutRelation : std::uint8_t { equal, lessThanOrEqual, greaterThanOr
 ///
 /// There is no general solver: a constraint joins a view and its superview, or two subviews of one
 /// view, and lengths that constraints leave open come from the content.
-struct NSLayoutConstraint {
+struct QUORIX_EXPORT NSLayoutConstraint {
   std::weak_ptr<UIView> firstItem;
   LayoutAttribute firstAttribute = LayoutAttribute::left;
   LayoutRelation relation = LayoutRelation::equal;

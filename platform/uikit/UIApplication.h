@@ -6,13 +6,14 @@
 #include <string>
 #include <vector>
 
+#include "platform/foundation/Export.h"
 #include "platform/foundation/URL.h"
 #include "platform/uikit/UIScene.h"
 
 namespace quorix::uikit {
 
 /// The running app: its scenes, and the way out of it. Main thread.
-class UIApplication {
+class QUORIX_EXPORT UIApplication {
  public:
   using OpenOptions = std::map<std::string, std::string>;
 

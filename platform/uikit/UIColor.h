@@ -6,13 +6,14 @@
 #include <utility>
 
 #include "platform/foundation/Bundle.h"
+#include "platform/foundation/Export.h"
 #include "platform/graphics/ColorSet.h"
 
 namespace quorix::uikit {
 
 /// A colour of the imperative toolkit: an immutable object, shared by reference. Unlike the
 /// declarative colour it has its values from the start. Any thread.
-class UIColor {
+class QUORIX_EXPORT UIColor {
  public:
   using Ref = std::shared_ptr<const UIColor>;
 

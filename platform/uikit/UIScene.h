@@ -2,10 +2,12 @@
 
 #include <cstdint>
 
+#include "platform/foundation/Export.h"
+
 namespace quorix::uikit {
 
 /// One running instance of the app's interface. Main thread.
-class UIScene {
+class QUORIX_EXPORT UIScene {
  public:
   enum class ActivationState : std::uint8_t {
     unattached,

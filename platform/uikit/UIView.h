@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/foundation/Export.h"
 #include "platform/layout/Geometry.h"
 #include "platform/render/Scene.h"
 #include "platform/uikit/CALayer.h"
@@ -28,7 +29,7 @@ enum class UIAccessibilityTraits : std::uint8_t { none, button, link, header };
 ///     auto box = std::make_shared<UIView>();
 ///     box->setBackgroundColor(UIColor::fixed({255, 255, 255, 255}));
 ///     box->addSubview(label);
-class UIView : public std::enable_shared_from_this<UIView> {
+class QUORIX_EXPORT UIView : public std::enable_shared_from_this<UIView> {
  public:
   explicit UIView(layout::Rect frame = {});
   virtual ~UIView();

@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "platform/foundation/Export.h"
 #include "platform/render/HostedContent.h"
 #include "platform/uikit/UIView.h"
 
@@ -9,7 +10,7 @@ namespace quorix::uikit {
 
 /// Shows a view, with all that is in it, as a scene. One content at a time shows a view: the latest
 /// one that took it. Main thread.
-class UIViewContent : public render::HostedContent {
+class QUORIX_EXPORT UIViewContent : public render::HostedContent {
  public:
   explicit UIViewContent(std::shared_ptr<UIView> view);
   ~UIViewContent() override;

@@ -3,6 +3,7 @@
 #include <functional>
 #include <memory>
 
+#include "platform/foundation/Export.h"
 #include "platform/uikit/UIView.h"
 
 namespace quorix::uikit {
@@ -17,7 +18,7 @@ class UIWindow;
 ///       void viewDidLoad() override { view()->addSubview(label); }
 ///     };
 ///     top->present(std::make_shared<Page>(), true);
-class UIViewController : public std::enable_shared_from_this<UIViewController> {
+class QUORIX_EXPORT UIViewController : public std::enable_shared_from_this<UIViewController> {
  public:
   UIViewController() = default;
   virtual ~UIViewController();

@@ -3,6 +3,7 @@
 #include <memory>
 #include <vector>
 
+#include "platform/foundation/Export.h"
 #include "platform/uikit/UIView.h"
 #include "platform/uikit/UIViewController.h"
 
@@ -11,7 +12,7 @@ namespace quorix::uikit {
 /// A window of the app. A surface makes one for each window of its toolkit, with a root controller,
 /// puts it into a scene, and shows what is presented over the root as sheets. Hidden until it is
 /// told otherwise. Main thread.
-class UIWindow final : public UIView {
+class QUORIX_EXPORT UIWindow final : public UIView {
  public:
   using Level = double;
   static constexpr Level normalLevel = 0;

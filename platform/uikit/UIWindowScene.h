@@ -4,13 +4,14 @@
 #include <utility>
 #include <vector>
 
+#include "platform/foundation/Export.h"
 #include "platform/uikit/UIScene.h"
 #include "platform/uikit/UIWindow.h"
 
 namespace quorix::uikit {
 
 /// A scene with windows, in the order in which they came. Main thread.
-class UIWindowScene final : public UIScene {
+class QUORIX_EXPORT UIWindowScene final : public UIScene {
  public:
   const std::vector<std::shared_ptr<UIWindow>>& windows() const { return windows_; }
   void addWindow(std::shared_ptr<UIWindow> window) { windows_.push_back(std::move(window)); }

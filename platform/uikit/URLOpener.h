@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "platform/foundation/Export.h"
 #include "platform/foundation/URL.h"
 
 namespace quorix::uikit {
@@ -12,7 +13,7 @@ namespace quorix::uikit {
 ///
 ///     URLOpener::install(std::make_shared<MyOpener>());
 ///     const bool handedOver = URLOpener::openOutside(url);
-class URLOpener {
+class QUORIX_EXPORT URLOpener {
  public:
   virtual ~URLOpener() = default;
   /// Opens `url`, which `opensOutside` allows. Whether anything shows is up to the system.

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "platform/foundation/Export.h"
 #include "platform/uikit/UIView.h"
 
 namespace quorix::uikit {
@@ -13,6 +14,6 @@ namespace quorix::uikit {
 ///     UIView 0 0 343 80 background "WidgetBackground"
 ///         .constraint(UILabel[0].top = UIView.top + 16)
 ///       UILabel 16 16 311 16 "Read more" link taps
-std::string printViews(const UIView& view);
+QUORIX_EXPORT std::string printViews(const UIView& view);
 
 }  // namespace quorix::uikit

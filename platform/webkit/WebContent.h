@@ -3,6 +3,7 @@
 #include <functional>
 #include <optional>
 
+#include "platform/foundation/Export.h"
 #include "platform/foundation/URL.h"
 #include "platform/render/Embed.h"
 
@@ -11,7 +12,7 @@ namespace quorix::webkit {
 /// A web page as an engine shows it: what to load and how, and what the page asks of the app. The
 /// web view of the imperative toolkit owns it; the surface that shows it attaches an engine, which
 /// may come after the first load and go before the page does. Main thread.
-class WebContent final : public render::Embed {
+class QUORIX_EXPORT WebContent final : public render::Embed {
  public:
   struct Settings {
     bool allowsContentJavaScript = true;

@@ -3,6 +3,7 @@
 #include <QQuickItem>
 #include <memory>
 
+#include "platform/foundation/Export.h"
 #include "platform/swiftui/View.h"
 #include "qt/ViewSettings.h"
 
@@ -19,7 +20,7 @@ class ViewSurface;
 ///
 ///     auto* row = new qt::ViewItem(ScoreWidgetBuilder::buildSwiftUIScoreWidgetView(...), page);
 ///     row->setWidth(page->width());
-class ViewItem : public QQuickItem, public ViewSettings {
+class QUORIX_EXPORT ViewItem : public QQuickItem, public ViewSettings {
   Q_OBJECT
 
  public:

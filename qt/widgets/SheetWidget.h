@@ -6,6 +6,7 @@
 #include <optional>
 #include <vector>
 
+#include "platform/foundation/Export.h"
 #include "platform/hosting/SceneLayers.h"
 #include "qt/SheetSurface.h"
 #include "qt/widgets/PictureWidget.h"
@@ -24,7 +25,7 @@ class SheetWidget : public QWidget, public SheetSurface, private WidgetAccessibl
   ~SheetWidget() override;
 
   /// The sheet of `window` that takes the input, or null.
-  static const SheetWidget* topmost(const QWidget& window);
+  QUORIX_EXPORT static const SheetWidget* topmost(const QWidget& window);
 
  protected:
   bool event(QEvent* event) override;

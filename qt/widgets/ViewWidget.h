@@ -3,6 +3,7 @@
 #include <QWidget>
 #include <memory>
 
+#include "platform/foundation/Export.h"
 #include "platform/swiftui/View.h"
 #include "qt/ViewSettings.h"
 
@@ -20,7 +21,7 @@ class WidgetSurface;
 ///
 ///     auto* row = new qt::ViewWidget(ScoreWidgetBuilder::buildSwiftUIScoreWidgetView(...));
 ///     page->layout()->addWidget(row);
-class ViewWidget : public QWidget, public ViewSettings {
+class QUORIX_EXPORT ViewWidget : public QWidget, public ViewSettings {
   Q_OBJECT
 
  public:

@@ -1,0 +1,120 @@
+# What `cmake --install` puts where, by component: core, qt, qml, web, tool and dev. Everything that is
+# installed finds its own by where it stands, so that the folder may be moved.
+
+include(GNUInstallDirs)
+include(CMakePackageConfigHelpers)
+
+set(quorix_cmake_folder ${CMAKE_INSTALL_LIBDIR}/cmake/QuorixWidgets)
+set(quorix_config_components "")
+
+# quorix_install_library(TARGET NAME COMPONENT [NEEDS NAME...] [QT MODULE...] [STATIC_QT MODULE...]):
+# the library, its headers, and NAME as a component of find_package, which finds the components it
+# NEEDS and the modules of QT, those of STATIC_QT only where the library is static.
+macro(quorix_install_library target name component)
+  cmake_parse_arguments(library "" "" "NEEDS;QT;STATIC_QT" ${ARGN})
+  install(TARGETS ${target} EXPORT QuorixWidgets${name}Targets
+    RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT ${component}
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT ${component} NAMELINK_COMPONENT dev
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT dev
+    FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/quorixwidgets COMPONENT dev
+    INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/quorixwidgets)
+  install(EXPORT QuorixWidgets${name}Targets NAMESPACE QuorixWidgets::
+    DESTINATION ${quorix_cmake_folder} COMPONENT dev)
+  if(NOT BUILD_SHARED_LIBS)
+    list(APPEND library_QT ${library_STATIC_QT})
+  endif()
+  list(JOIN library_QT " " library_QT)
+  string(APPEND quorix_config_components
+    "set(_quorix_${name}_needs ${library_NEEDS})\nset(_quorix_${name}_qt ${library_QT})\n")
+endmacro()
+
+# quorix_install_pkgconfig(FILE TARGET DESCRIPTION REQUIRES REQUIRES_PRIVATE): FILE.pc. What is private to
+# a shared library is needed to link a static one.
+function(quorix_install_pkgconfig file target description requires requires_private)
+  file(RELATIVE_PATH up /prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig /prefix)
+  string(REGEX REPLACE "/$" "" up "${up}")
+  set(flags "")
+  set(private .private)
+  if(NOT BUILD_SHARED_LIBS)
+    set(flags " -DQUORIX_STATIC")
+    set(private "")
+    set(requires "${requires} ${requires_private}")
+    set(requires_private "")
+  endif()
+  file(WRITE ${PROJECT_BINARY_DIR}/${file}.pc
+"prefix=\${pcfiledir}/${up}
+libdir=\${prefix}/${CMAKE_INSTALL_LIBDIR}
+includedir=\${prefix}/${CMAKE_INSTALL_INCLUDEDIR}/quorixwidgets
+
+Name: ${target}
+Description: ${description}
+Version: ${PROJECT_VERSION}
+Requires: ${requires}
+Requires.private: ${requires_private}
+Libs: -L\${libdir} -l${target}
+Libs${private}: -pthread
+Cflags: -I\${includedir}${flags}
+")
+  install(FILES ${PROJECT_BINARY_DIR}/${file}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
+    COMPONENT dev)
+endfunction()
+
+quorix_install_library(QuorixWidgets QuorixWidgets core)
+quorix_install_pkgconfig(quorixwidgets QuorixWidgets "Return standing widgets, without a surface"
+  "" "icu-i18n icu-uc simdjson freetype2 pugixml")
+install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT core)
+file(GLOB quorix_font_licences
+  ${PROJECT_SOURCE_DIR}/QuorixWidgets/resources/Assets.xcassets/Fonts/OFL-*.txt)
+install(FILES ${quorix_font_licences} DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT core)
+
+if(QUORIX_QT)
+  set(dbus "")
+  if(TARGET Qt6::DBus)
+    set(dbus DBus)
+    set(dbus_package Qt6DBus)
+  endif()
+  quorix_install_library(QuorixQt Qt qt QT Gui STATIC_QT Network Svg ${dbus})
+  quorix_install_library(QuorixQuick Quick qt NEEDS Qt QT Quick)
+  quorix_install_library(QuorixQtWidgets QtWidgets qt NEEDS Qt QT Widgets)
+  quorix_install_pkgconfig(quorixwidgets-qt QuorixQt "Return standing widgets as pictures"
+    "quorixwidgets Qt6Gui" "Qt6Network Qt6Svg ${dbus_package}")
+  quorix_install_pkgconfig(quorixwidgets-quick QuorixQuick
+    "Return standing widgets in Qt Quick windows" "quorixwidgets-qt Qt6Quick" "")
+  quorix_install_pkgconfig(quorixwidgets-qtwidgets QuorixQtWidgets
+    "Return standing widgets among Qt Widgets" "quorixwidgets-qt Qt6Widgets" "")
+
+  # The module's folder is for tools, and for programs that load its plugin; those that link the module
+  # compile one source.
+  quorix_install_library(QuorixQml Qml qml NEEDS Qt Quick QT Qml)
+  quorix_install_pkgconfig(quorixwidgets-qml QuorixQml
+    "Return standing widgets for QML" "quorixwidgets-quick Qt6Qml" "")
+  set(qml_sources_folder ${CMAKE_INSTALL_DATADIR}/quorixwidgets)
+  target_sources(QuorixQml INTERFACE
+    $<INSTALL_INTERFACE:${qml_sources_folder}/LinkModule.cpp>)
+  install(FILES ${PROJECT_SOURCE_DIR}/qt/qml/link/LinkModule.cpp DESTINATION ${qml_sources_folder}
+    COMPONENT dev)
+  set(qml_folder ${CMAKE_INSTALL_LIBDIR}/qt6/qml/QuorixWidgets)
+  set_target_properties(QuorixQmlPlugin PROPERTIES INSTALL_RPATH "${quorix_here}/../../..")
+  install(TARGETS QuorixQmlPlugin LIBRARY DESTINATION ${qml_folder} COMPONENT qml)
+  install(DIRECTORY ${PROJECT_BINARY_DIR}/qml/QuorixWidgets/ DESTINATION ${qml_folder} COMPONENT qml
+    FILES_MATCHING PATTERN qmldir PATTERN "*.qmltypes" PATTERN "designer/*")
+endif()
+foreach(component QuorixWebQuick QuorixWebWidgets)
+  if(TARGET ${component})
+    install(TARGETS ${component} LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/quorix COMPONENT web)
+  endif()
+endforeach()
+if(TARGET quorix)
+  file(RELATIVE_PATH to_libraries /prefix/${CMAKE_INSTALL_BINDIR} /prefix/${CMAKE_INSTALL_LIBDIR})
+  set_target_properties(quorix PROPERTIES INSTALL_RPATH "${quorix_here}/${to_libraries}")
+  install(TARGETS quorix RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tool)
+endif()
+
+configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/QuorixWidgetsConfig.cmake.in
+  ${PROJECT_BINARY_DIR}/QuorixWidgetsConfig.cmake INSTALL_DESTINATION ${quorix_cmake_folder}
+  PATH_VARS CMAKE_INSTALL_LIBDIR)
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/QuorixWidgetsConfigVersion.cmake
+  COMPATIBILITY SameMajorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/QuorixWidgetsConfig.cmake
+  ${PROJECT_BINARY_DIR}/QuorixWidgetsConfigVersion.cmake
+  DESTINATION ${quorix_cmake_folder} COMPONENT dev)

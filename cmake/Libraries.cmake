@@ -1,0 +1,31 @@
+# How every library of ours is made: static or shared as BUILD_SHARED_LIBS says, its symbols hidden
+# but for what QUORIX_EXPORT names, and found beside its own libraries wherever the folder stands.
+
+if(WIN32 AND BUILD_SHARED_LIBS)
+  message(STATUS "On Windows the libraries are static")
+  set(BUILD_SHARED_LIBS OFF)
+endif()
+
+set(quorix_here "$ORIGIN")
+if(APPLE)
+  set(quorix_here "@loader_path")
+endif()
+
+# quorix_library(TARGET NAME SOURCE...): hosts link it as QuorixWidgets::NAME.
+function(quorix_library target name)
+  add_library(${target} ${ARGN})
+  add_library(QuorixWidgets::${name} ALIAS ${target})
+  set_target_properties(${target} PROPERTIES
+    EXPORT_NAME ${name} VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
+    INSTALL_RPATH "${quorix_here}" BUILD_RPATH_USE_ORIGIN ON)
+  target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>)
+  target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:quorix_warnings>)
+  if(NOT BUILD_SHARED_LIBS)
+    target_compile_definitions(${target} PUBLIC QUORIX_STATIC)
+  elseif(UNIX AND NOT APPLE AND NOT QUORIX_SANITIZE)
+    # Templates of the standard library are visible by its own word; the script keeps them in.
+    set(script ${PROJECT_SOURCE_DIR}/cmake/symbols.map)
+    target_link_options(${target} PRIVATE LINKER:--no-undefined LINKER:--version-script=${script})
+    set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${script})
+  endif()
+endfunction()

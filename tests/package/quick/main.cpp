@@ -1,0 +1,78 @@
+// A Qt Quick app: the score row is painted, and a tap on the info widget opens its page. With
+// "--web" the installed web engine must be what shows it.
+#include <QuorixWidgets/info/InfoWidgetBuilder.h>
+#include <QuorixWidgets/score/ScoreWidgetBuilder.h>
+#include <qt/quick/ViewItem.h>
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QQuickWindow>
+#include <cstdio>
+#include <cstdlib>
+
+#include "../Token.h"
+
+namespace {
+
+void tap(QQuickWindow& window, QPointF point) {
+  for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+    const auto held = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
+    QMouseEvent event(type, point, window.mapToGlobal(point), Qt::LeftButton, held, Qt::NoModifier);
+    QCoreApplication::sendEvent(&window, &event);
+  }
+}
+
+bool webEngineIsLoaded() {
+  QFile maps("/proc/self/maps");
+  return maps.open(QIODevice::ReadOnly) && maps.readAll().contains("libQuorixWebQuick.so");
+}
+
+/// Whether the picture has more than one colour.
+bool showsSomething(const QImage& picture) {
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) {
+      if (picture.pixel(x, y) != picture.pixel(0, 0)) return true;
+    }
+  }
+  return false;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+  QGuiApplication app(argc, argv);
+  QQuickWindow window;
+  window.resize(390, 600);
+  const auto place = [&](quorix::swiftui::View view, double y) {
+    auto* item = new quorix::qt::ViewItem(std::move(view), window.contentItem());
+    item->setWidth(390);
+    item->setY(y);
+    return item;
+  };
+  auto* row = place(quorix::ScoreWidgetBuilder::buildSwiftUIScoreWidgetView(
+                        "my-shop", "en", shopperToken, {std::nullopt, std::nullopt}),
+                    0);
+  window.show();
+  QCoreApplication::processEvents();  // brings the row on screen
+  const bool painted = row->implicitHeight() > 10 && showsSomething(window.grabWindow());
+  std::printf("row: %g points high, %s\n", row->implicitHeight(), painted ? "painted" : "blank");
+  if (!painted || argc < 2) return painted ? 0 : 1;
+
+  auto* info = place(quorix::InfoWidgetBuilder::buildSwiftUIInfoWidgetView(
+                         "en", {std::nullopt, std::nullopt, std::nullopt, true}),
+                     100);
+  QCoreApplication::processEvents();
+  window.grabWindow();
+  tap(window, {195, 100 + info->implicitHeight() / 2});
+  QElapsedTimer waited;
+  waited.start();
+  while (!webEngineIsLoaded() && waited.elapsed() < 30'000) {
+    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 100);
+  }
+  std::printf("web engine: %s\n", webEngineIsLoaded() ? "loaded" : "missing");
+  std::fflush(stdout);
+  std::_Exit(webEngineIsLoaded() ? 0 : 1);  // in the middle of loading a page
+}
