@@ -131,16 +131,6 @@ struct Counter {
   void updateUIView(UILabel& label) const { label.setText(std::to_string(value)); }
 };
 
-struct Page {
-  static constexpr std::string_view typeName = "Page";
-  std::shared_ptr<UIViewController> makeUIViewController() const {
-    return std::make_shared<UIViewController>();
-  }
-  void updateUIViewController(UIViewController& page) const {
-    page.view()->setAccessibilityLabel("page");
-  }
-};
-
 }  // namespace
 
 TEST(Representable, IsMadeOnceAndToldOfLaterValues) {
@@ -156,7 +146,9 @@ TEST(Representable, IsMadeOnceAndToldOfLaterValues) {
   EXPECT_EQ(window.displays, before + 1);
   EXPECT_EQ(window.element("two").label, "two");
   // Another kind in the same place is another view, and the first is let go.
-  window.host->updateRoot(swiftui::represent(Page{}));
+  const auto page = std::make_shared<UIViewController>();
+  page->view()->setAccessibilityLabel("page");
+  window.host->updateRoot(swiftui::hosting(page));
   EXPECT_EQ(window.element("page").frame, (layout::Rect{{}, {320, 640}}));
   EXPECT_TRUE(made.front().expired());
 }

@@ -11,8 +11,6 @@
 namespace quorix::testing {
 namespace {
 
-constexpr QRectF kPlace(20, 40, 300, 0);
-
 template <class>
 struct Sheet : ::testing::Test {};
 TYPED_TEST_SUITE(Sheet, Screens, ScreenName);
@@ -67,11 +65,12 @@ TYPED_TEST(Sheet, EveryWayClosesItAndGivesTheFocusBack) {
   }
 }
 
-TYPED_TEST(Sheet, HoldsTheFocusInside) {
+TYPED_TEST(Sheet, CoversTheRestAndHoldsTheFocusInside) {
   TypeParam screen;
   screen.addFocusable();
   screen.add(FeeRow("4 €"), kPlace);
   screen.click("Row 4 €");
+  EXPECT_FALSE(screen.shows("Row 4 €"));
   QObject* sheet = QGuiApplication::focusObject();
   for (int i = 0; i < 5; ++i) {
     screen.key(i < 3 ? Qt::Key_Tab : Qt::Key_Backtab);

@@ -5,13 +5,12 @@
 #include <QApplication>
 #include <QTest>
 #include <QVBoxLayout>
-#include <algorithm>
-#include <cstdlib>
 
 #include "QuorixWidgets/localization/Font.h"
 #include "QuorixWidgets/localization/QuorixFont.h"
 #include "qt/Picture.h"
 #include "tests/qt/FeeRow.h"
+#include "tests/qt/Pixels.h"
 #include "tests/qt/WidgetScreen.h"
 
 namespace quorix::testing {
@@ -46,13 +45,6 @@ struct CountingWidget : qt::ViewWidget {
     ViewWidget::paintEvent(event);
   }
 };
-
-QImage picture(const View& view, const QWidget& like, swiftui::Environment environment,
-               graphics::RGBA background = {0, 0, 0, 0}) {
-  environment.scale = like.devicePixelRatioF();
-  return qt::picture(view,
-                     {double(like.width()), double(like.height()), environment, false, background});
-}
 
 /// The widget alone, without what is behind it.
 QImage grabbed(QWidget& widget) {
@@ -145,40 +137,31 @@ TEST(ViewWidgetScale, LooksOnItsPageAsThePictureAtThatScale) {
   const QPoint corner(21, 41);
   qt::ViewWidget* widget = screen.add(row, QRectF(corner, QSizeF(300, 30)));
   const double scale = widget->devicePixelRatioF();
-  const QImage wanted = picture(row, *widget, {}, graphics::RGBA{255, 255, 255, 255});
-  const QRect place((QPointF(corner) * scale).toPoint(), wanted.size());
-  const QImage shown = screen.grab().copy(place);
-  int furthest = 0;
-  for (int y = 0; y < wanted.height(); ++y) {
-    for (int x = 0; x < wanted.width(); ++x) {
-      furthest = std::max(furthest, std::abs(qRed(shown.pixel(x, y)) - qRed(wanted.pixel(x, y))));
-    }
-  }
-  EXPECT_LE(furthest, 2);
+  qt::PictureOptions options{300, 30, {}, false, graphics::RGBA{255, 255, 255, 255}};
+  options.environment.scale = scale;
+  const QImage wanted = qt::picture(row, options);
+  const QImage shown = screen.grab().copy({(QPointF(corner) * scale).toPoint(), wanted.size()});
+  EXPECT_EQ(differing(shown, wanted, 2), QRect());
 }
 
 TEST(ViewWidget, FollowsPaletteAndDirectionUnlessToldOtherwise) {
   WidgetScreen screen;
   const FeeRow row("4 €");
   qt::ViewWidget* widget = screen.add(row, kPlace);
-  const auto expect = [&](Appearance appearance, LayoutDirection direction) {
-    screen.settle();
-    swiftui::Environment environment;
-    environment.appearance = appearance;
-    environment.direction = direction;
-    EXPECT_EQ(grabbed(*widget), picture(row, *widget, environment));
-  };
-  expect(Appearance::light, LayoutDirection::leftToRight);
-  QPalette dark;
-  dark.setColor(QPalette::Window, Qt::black);
-  dark.setColor(QPalette::WindowText, Qt::white);
-  screen.host().setPalette(dark);
-  expect(Appearance::dark, LayoutDirection::leftToRight);
+  const auto looks = [&] { return screen.settle(), grabbed(*widget); };
+  const QImage asItIs = looks();  // light, from left to right
+  QPalette palette;
+  palette.setColor(QPalette::Window, Qt::black);
+  palette.setColor(QPalette::WindowText, Qt::white);
+  screen.host().setPalette(palette);
+  const QImage dark = looks();
+  EXPECT_NE(dark, asItIs);
   screen.host().setLayoutDirection(Qt::RightToLeft);
-  expect(Appearance::dark, LayoutDirection::rightToLeft);
-  widget->setAppearance(Appearance::light);
+  EXPECT_NE(looks(), dark);
   widget->setLayoutDirection(LayoutDirection::leftToRight);
-  expect(Appearance::light, LayoutDirection::leftToRight);
+  EXPECT_EQ(looks(), dark);
+  widget->setAppearance(Appearance::light);
+  EXPECT_EQ(looks(), asItIs);
 }
 
 TEST(ViewWidget, PointsAtWhatActsAndLetsTheRestThrough) {

@@ -12,8 +12,6 @@
 namespace quorix::testing {
 namespace {
 
-constexpr QRectF kPlace(20, 40, 300, 0);
-
 /// A text that does something when it is tapped.
 std::shared_ptr<uikit::UILabel> button(const std::string& text, std::function<void()> action) {
   auto label = std::make_shared<uikit::UILabel>();
