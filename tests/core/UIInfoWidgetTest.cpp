@@ -5,6 +5,7 @@
 #include <map>
 
 #include "QuorixWidgets/info/InfoTitle.h"
+#include "QuorixWidgets/info/InfoWidgetBuilder.h"
 #include "QuorixWidgets/info/UIApplication.h"
 #include "QuorixWidgets/overlay/WebViewController.h"
 #include "platform/swiftui/UIViewRepresentable.h"
@@ -25,6 +26,14 @@ namespace {
 std::shared_ptr<UIInfoWidget> widget(const UIKitStyleConfiguration& style = {},
                                      std::optional<std::string> name = std::nullopt) {
   return UIInfoWidget::make(std::make_shared<UIInfoWidgetViewModel>(std::move(name), "en", style));
+}
+
+std::vector<render::TextItem> texts(const render::Scene& scene) {
+  std::vector<render::TextItem> found;
+  for (const auto& item : scene.items) {
+    if (const auto* text = std::get_if<render::TextItem>(&item)) found.push_back(*text);
+  }
+  return found;
 }
 
 struct WindowKind {
@@ -82,6 +91,34 @@ TEST(UIInfoWidget, IsAsDesigned) {
                 "\nread out\n" + render::printAccessibility(window.shown()),
             contentsOf("info/imperative-en.txt"));
   EXPECT_EQ(window.host->sizeThatFits({320, std::nullopt}), (layout::Size{320, 98}));
+}
+
+/// Designers draw the widget once: its two forms differ in the logo and in what the link looks
+/// like.
+TEST(InfoWidgetBuilder, BothFormsSetTheirTextsAlike) {
+  const InfoWidgetStyle style{std::nullopt, std::nullopt, std::nullopt, false};
+  for (const std::string locale : {"en", "de", "ar"}) {
+    SCOPED_TRACE(locale);
+    swiftui::Environment environment;
+    const bool mirrored = locale == "ar";
+    if (mirrored) environment.direction = layout::LayoutDirection::rightToLeft;
+    TestWindow declarative(InfoWidgetBuilder::buildSwiftUIInfoWidgetView(locale, style),
+                           environment);
+    TestWindow imperative(
+        swiftui::hosting(InfoWidgetBuilder::buildUIKitInfoWidgetView(locale, style)), environment);
+    imperative.settle();
+    const auto expected = texts(declarative.shown()), shown = texts(imperative.shown());
+    ASSERT_EQ(expected.size(), 2u);
+    ASSERT_EQ(shown.size(), 2u);
+    for (std::size_t i = 0; i < 2; ++i) {
+      const layout::Rect &one = shown[i].frame, &other = expected[i].frame;
+      // Right-to-left text may have empty room on its left.
+      EXPECT_NEAR(mirrored ? one.right() : one.left(), mirrored ? other.right() : other.left(), 1);
+      EXPECT_NEAR(one.top(), other.top(), 1);
+      EXPECT_NEAR(one.size.height, other.size.height, 1);
+      EXPECT_EQ(shown[i].text.runs.size(), expected[i].text.runs.size());
+    }
+  }
 }
 
 TEST(UIInfoWidget, FollowsItsModelWithoutKeepingItself) {

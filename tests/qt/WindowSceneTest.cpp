@@ -49,7 +49,9 @@ template <class>
 struct WindowScene : ::testing::Test {};
 TYPED_TEST_SUITE(WindowScene, Screens, ScreenName);
 
-TYPED_TEST(WindowScene, PresentsOverTheWindowInUse) {
+TYPED_TEST(WindowScene, PresentsOverTheWindowInUseAndEndsWithIt) {
+  const auto scenes = [] { return uikit::UIApplication::shared().connectedScenes().size(); };
+  const std::size_t before = scenes();
   TypeParam one;
   TypeParam two;
   one.add(opener("first"), kPlace);
@@ -62,6 +64,9 @@ TYPED_TEST(WindowScene, PresentsOverTheWindowInUse) {
   two.click("Open second");
   EXPECT_TRUE(two.shows("second"));
   EXPECT_FALSE(one.shows("second"));
+  EXPECT_EQ(scenes(), before + 2);
+  two.closeWindow();
+  EXPECT_EQ(scenes(), before + 1);
 }
 
 TYPED_TEST(WindowScene, StacksPagesAndTakesThemAwayOneByOne) {
@@ -79,17 +84,6 @@ TYPED_TEST(WindowScene, StacksPagesAndTakesThemAwayOneByOne) {
   EXPECT_FALSE(UIApplication::getKeyWindow()->rootViewController()->presentedViewController());
   screen.click("Open lower");
   EXPECT_TRUE(screen.shows("lower"));
-}
-
-TYPED_TEST(WindowScene, EndsWithItsWindow) {
-  const auto scenes = [] { return uikit::UIApplication::shared().connectedScenes().size(); };
-  const std::size_t before = scenes();
-  TypeParam screen;
-  screen.add(opener("page"), kPlace);
-  screen.click("Open page");
-  EXPECT_EQ(scenes(), before + 1);
-  screen.closeWindow();
-  EXPECT_EQ(scenes(), before);
 }
 
 }  // namespace
