@@ -90,6 +90,7 @@ TEST(ConcurrentResources, FirstReadsFromManyThreadsAgree) {
       EXPECT_TRUE(graphics::imageSet(ImageResource::close().bundle, "close"));
       EXPECT_EQ(ColorResource::grey1().bundle, resourceBundle());
       EXPECT_EQ(QuorixFont::regular().name(), "Saans-Regular");
+      EXPECT_EQ(QuorixFont::medium().name(), "Saans-Medium");
       EXPECT_EQ(TovaFont::regular().name(), "TovaSansLatin-Regular");
       // A bundle that comes and goes while others are read.
       EXPECT_FALSE(graphics::colorSet(testing::memoryBundle({}), "Grey1"));
@@ -97,7 +98,7 @@ TEST(ConcurrentResources, FirstReadsFromManyThreadsAgree) {
   }
   for (auto& thread : threads) thread.join();
   EXPECT_EQ(std::count(colors.begin(), colors.end(), colors[0]), 8);
-  EXPECT_EQ(graphics::FontManager::shared().faces().size(), 3u) << "each face once";
+  EXPECT_EQ(graphics::FontManager::shared().faces().size(), 4u) << "each face once";
 }
 
 }  // namespace

@@ -34,6 +34,7 @@ TEST(WebView, StandsUnderItsHeadingAndRunsOnUnderTheBottomOfTheDevice) {
     const render::Scene& scene = window.host->scene({320, 640}, {40, 0, 30, 0});
     EXPECT_EQ(std::get<render::FillItem>(scene.items.at(0)).frame, (layout::Rect{{}, {320, 640}}));
     EXPECT_EQ(shownPage(scene).frame, row.page);
+    EXPECT_EQ(scene.hitAreas.size(), 1u) << "the page brings no control of its own";
     EXPECT_EQ(scene.accessibility.back().frame, (layout::Rect{{272, 40}, {48, 56}}));
   }
 }

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "QuorixWidgets/localization/UIColor.h"
 #include "platform/swiftui/UIViewControllerRepresentable.h"
 #include "tests/core/OpenedAddresses.h"
 #include "tests/core/ShownPage.h"
@@ -15,6 +14,7 @@ using quorix::testing::TestWindow;
 TEST(WebViewController, ShowsItsPageAndCloseControl) {
   const auto overlay = std::make_shared<WebViewController>();
   overlay->locale = "nb";
+  overlay->token = "";
   overlay->showCloseButton = true;
   TestWindow window(swiftui::hosting(overlay), {.direction = layout::LayoutDirection::rightToLeft,
                                                 .language = {}});  // still on the right
@@ -24,31 +24,20 @@ TEST(WebViewController, ShowsItsPageAndCloseControl) {
             "hit 272 10 48 48\n");
   const webkit::WebContent& page = shownContent(window.shown());
   EXPECT_EQ(page.url().value().absoluteString(),
-            "https://modules.quorix.example/html/overlays/info?lang=no");
+            "https://widget.quorix.example/users/details/?lang=no");
   EXPECT_TRUE(page.settings.allowsContentJavaScript);
   EXPECT_TRUE(page.settings.javaScriptCanOpenWindowsAutomatically);
   EXPECT_TRUE(page.settings.allowsBackForwardNavigationGestures);
 
   // What changes after the view has loaded comes too late.
-  overlay->token = "late";
+  overlay->token = std::nullopt;
   window.host->updateRoot(swiftui::hosting(overlay));
-  EXPECT_EQ(shownContent(window.shown()).url()->path(), "/html/overlays/info");
+  EXPECT_EQ(shownContent(window.shown()).url()->path(), "/users/details/");
 
   const auto root = std::make_shared<uikit::UIViewController>();
   root->present(overlay, true);
   window.tap(layout::Point{272, 10});  // the control's very corner
   EXPECT_EQ(root->presentedViewController(), nullptr);
-}
-
-TEST(WebViewController, HasNoControlUnlessAsked) {
-  const auto overlay = std::make_shared<WebViewController>();
-  overlay->token = "";
-  TestWindow window(swiftui::hosting(overlay),
-                    {.appearance = graphics::Appearance::dark, .language = {}});
-  EXPECT_EQ(window.shown().hitAreas.size(), 0u);
-  EXPECT_EQ(shownContent(window.shown()).url()->path(), "/users/details/");
-  EXPECT_EQ(quorix::testing::shownPage(window.shown()).background,
-            UIColor::overlayBackgrounColor()->resolve(graphics::Appearance::dark));
 }
 
 TEST(WebViewController, NewWindowsLeaveTheApp) {

@@ -23,24 +23,17 @@ namespace {
 using foundation::URL;
 using qt::QtURLTransport;
 
-/// Tells of each request that is over and done with, on whichever thread it ends.
-class WatchedTransport final : public foundation::URLTransport {
- public:
+/// Tells when its request is over and done with, on whichever thread it ends.
+struct WatchedTransport final : foundation::URLTransport {
   void start(const URL& url, Completion completion) override {
-    network.start(url, [done = done_, completion = std::move(completion)](auto response) {
+    network.start(url, [this, completion = std::move(completion)](auto response) {
       completion(std::move(response));
-      done->release();
+      done.release();
     });
   }
 
-  /// Waits for one completion without a turn of this thread.
-  bool completed() { return done_->try_acquire_for(std::chrono::seconds(30)); }
-
+  std::binary_semaphore done{0};
   QtURLTransport network;
-
- private:
-  using Semaphore = std::counting_semaphore<>;
-  std::shared_ptr<Semaphore> done_ = std::make_shared<Semaphore>(0);
 };
 
 TEST(ConcurrentLocalizationRepository, LargeTableNeedsTheMainThreadOnlyToTakeItsPlace) {
@@ -58,7 +51,8 @@ TEST(ConcurrentLocalizationRepository, LargeTableNeedsTheMainThreadOnlyToTakeIts
   const auto token =
       repository->onWillChange([&changes] { changes.push_back(std::this_thread::get_id()); });
   repository->update();
-  ASSERT_TRUE(transport->completed());  // fetched and parsed
+  // Fetched and parsed, without a turn of this thread.
+  ASSERT_TRUE(transport->done.try_acquire_for(std::chrono::seconds(30)));
   EXPECT_TRUE(changes.empty());
   EXPECT_EQ(hint(), "Tap to learn more");
   ASSERT_TRUE(waitUntil([&] { return !changes.empty(); }));

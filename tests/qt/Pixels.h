@@ -7,16 +7,18 @@
 
 namespace quorix::testing {
 
-/// Where two pictures of one size differ by more than `tolerance`, of 255, in a channel.
+/// The most that a channel of one differs from the other's, of 255.
+inline int distance(QRgb one, QRgb other) {
+  return std::max({std::abs(qRed(one) - qRed(other)), std::abs(qGreen(one) - qGreen(other)),
+                   std::abs(qBlue(one) - qBlue(other)), std::abs(qAlpha(one) - qAlpha(other))});
+}
+
+/// Where two pictures of one size are further apart than `tolerance`.
 inline QRect differing(const QImage& one, const QImage& other, int tolerance = 0) {
-  const auto apart = [=](QRgb a, QRgb b) {
-    return std::max({std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)),
-                     std::abs(qBlue(a) - qBlue(b)), std::abs(qAlpha(a) - qAlpha(b))}) > tolerance;
-  };
   QRect all;
   for (int y = 0; y < one.height(); ++y) {
     for (int x = 0; x < one.width(); ++x) {
-      if (apart(one.pixel(x, y), other.pixel(x, y))) all |= QRect(x, y, 1, 1);
+      if (distance(one.pixel(x, y), other.pixel(x, y)) > tolerance) all |= QRect(x, y, 1, 1);
     }
   }
   return all;
