@@ -37,10 +37,10 @@ TEST(Nib, RefusesWhatItDoesNotShow) {
   EXPECT_THAT(outcome("<nib/>"), ::testing::HasSubstr("not an interface file"));
   forEachRow("interface_mistakes", [&](simdjson::dom::element row) {
     std::string xml = good;
-    const auto at = xml.find(text(row, "from"));
+    const auto at = xml.find(::text(row, "from"));
     ASSERT_NE(at, std::string::npos);
-    xml.replace(at, text(row, "from").size(), text(row, "to"));
-    EXPECT_THAT(outcome(xml), ::testing::HasSubstr(text(row, "says")));
+    xml.replace(at, ::text(row, "from").size(), ::text(row, "to"));
+    EXPECT_THAT(outcome(xml), ::testing::HasSubstr(::text(row, "says")));
   });
   std::string deep = "<view id='x0'/>";
   for (int i = 1; i < 40; ++i) {
