@@ -71,6 +71,7 @@ TYPED_TEST(Sheet, CoversTheRestAndHoldsTheFocusInside) {
   screen.add(FeeRow("4 €"), kPlace);
   screen.click("Row 4 €");
   EXPECT_FALSE(screen.shows("Row 4 €"));
+  EXPECT_TRUE(screen.find("Fee 4 €")->parent()->state().modal);
   QObject* sheet = QGuiApplication::focusObject();
   for (int i = 0; i < 5; ++i) {
     screen.key(i < 3 ? Qt::Key_Tab : Qt::Key_Backtab);
