@@ -39,6 +39,22 @@ TEST(WebView, StandsUnderItsHeadingAndRunsOnUnderTheBottomOfTheDevice) {
   }
 }
 
+TEST(WebView, FillsItsSheetToTheRoundCornersAndTheBottom) {
+  const State<bool> shown{true};
+  TestWindow window({});
+  hosting::SheetPresenter sheet(window.text, window);
+  sheet.setMotion(false);
+  sheet.setWindow({320, 640}, {40, 0, 30, 0});
+  sheet.present({shown.binding(), overlay(shown, std::nullopt, "en")});
+  const layout::Rect panel{{0, 50}, {320, 590}};
+  EXPECT_EQ(shownPage(sheet.scene()).frame, panel);
+  EXPECT_EQ(shownPage(sheet.scene()).topCornerRadius, 12);
+  for (const render::Item& item : sheet.scene().items) {
+    const auto* fill = std::get_if<render::FillItem>(&item);
+    EXPECT_TRUE(!fill || fill->frame != panel || fill->topCornerRadius == 12);
+  }
+}
+
 TEST(WebView, ClosesByTheCrossInItsTrailingCorner) {
   const State<bool> shown{true};
   for (const auto direction :

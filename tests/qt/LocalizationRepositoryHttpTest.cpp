@@ -55,9 +55,11 @@ TEST(ConcurrentLocalizationRepository, LargeTableNeedsTheMainThreadOnlyToTakeIts
   ASSERT_TRUE(transport->done.try_acquire_for(std::chrono::seconds(30)));
   EXPECT_TRUE(changes.empty());
   EXPECT_EQ(hint(), "Tap to learn more");
-  ASSERT_TRUE(waitUntil([&] { return !changes.empty(); }));
+  bool caughtUp = false;  // takes the main thread's turns up to here, and none that these lead to
+  foundation::MainQueue::async([&] { caughtUp = true; });
+  ASSERT_TRUE(waitUntil([&] { return caughtUp; }));
   EXPECT_EQ(changes, std::vector{std::this_thread::get_id()});
-  ASSERT_TRUE(waitUntil([&] { return hint().size() == kSize; }));
+  EXPECT_EQ(hint().size(), kSize);
   foundation::URLSession::shared().install(std::make_shared<QtURLTransport>());
 }
 
