@@ -49,6 +49,8 @@ TEST(ViewItem, IsAsWideAsItsViewWishesUnlessToldOtherwise) {
   item.resetWidth();
   EXPECT_EQ(item.width(), ideal);
   EXPECT_EQ(item.height(), item.implicitHeight());
+  item.setView(Text::verbatim("Short"));
+  EXPECT_LT(item.implicitWidth(), ideal);
 }
 
 TEST(ViewItem, StandsInPositionersAndLayouts) {
