@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <thread>
-
 #include "QuorixWidgets/localization/Font.h"
 #include "platform/graphics/AssetCatalog.h"
 #include "platform/graphics/FontManager.h"
@@ -63,19 +61,6 @@ TEST_F(FontsDeathTest, AFaceThatCannotBeRegisteredStopsTheProcess) {
   EXPECT_DEATH((foundation::Bundle::setMain(foundation::Bundle::embedded()),
                 testing::replaceLibraryBundle(nullptr), QuorixFont::medium()),
                kStop);
-}
-
-TEST(ConcurrentFonts, FirstReadsFromManyThreadsRegisterOnce) {
-  std::vector<std::thread> threads;
-  for (int i = 0; i < 8; ++i) {
-    threads.emplace_back([] {
-      EXPECT_EQ(QuorixFont::regular().name(), "Saans-Regular");
-      EXPECT_EQ(QuorixFont::medium().name(), "Saans-Medium");
-      EXPECT_EQ(TovaFont::regular().name(), "TovaSansLatin-Regular");
-    });
-  }
-  for (auto& thread : threads) thread.join();
-  EXPECT_EQ(registered().size(), 4U);
 }
 
 }  // namespace

@@ -7,9 +7,11 @@
 
 #include "QuorixWidgets/localization/Color.h"
 #include "QuorixWidgets/localization/ColorResource.h"
+#include "QuorixWidgets/localization/Font.h"
 #include "QuorixWidgets/localization/ImageResource.h"
 #include "QuorixWidgets/localization/UIColor.h"
 #include "platform/graphics/AssetCatalog.h"
+#include "platform/graphics/FontManager.h"
 #include "tests/core/FreshProcess.h"
 #include "tests/core/MemoryBundle.h"
 
@@ -87,12 +89,16 @@ TEST(ConcurrentResources, FirstReadsFromManyThreadsAgree) {
       EXPECT_TRUE(Color::defaultFontColor().resolve(Appearance::dark));
       EXPECT_TRUE(graphics::imageSet(ImageResource::close().bundle, "close"));
       EXPECT_EQ(ColorResource::grey1().bundle, resourceBundle());
+      EXPECT_EQ(QuorixFont::regular().name(), "Saans-Regular");
+      EXPECT_EQ(QuorixFont::medium().name(), "Saans-Medium");
+      EXPECT_EQ(TovaFont::regular().name(), "TovaSansLatin-Regular");
       // A bundle that comes and goes while others are read.
       EXPECT_FALSE(graphics::colorSet(testing::memoryBundle({}), "Grey1"));
     });
   }
   for (auto& thread : threads) thread.join();
   EXPECT_EQ(std::count(colors.begin(), colors.end(), colors[0]), 8);
+  EXPECT_EQ(graphics::FontManager::shared().faces().size(), 4u) << "each face once";
 }
 
 }  // namespace

@@ -127,17 +127,10 @@ TEST(ScoreWidgetBuilder, GivesTheEmptyBranchForWhatItCannotUse) {
   }
 }
 
-TEST(ScoreWidgetBuilder, BuildsTheViewForAnyLocale) {
-  const std::string tree = swiftui::printTree(build("shop", "en", token));
-  EXPECT_TRUE(tree.starts_with("Conditional(true)\n  ScoreWidgetView\n")) << tree;
-  TestWindow window(build("shop", "", token));
-  EXPECT_NO_THROW(window.element("Your return fee Discounted €\u00A02.00, Original €\u00A04.00"));
-}
-
-TEST(ScoreWidgetBuilder, EachCallMakesAWidgetOfItsOwn) {
+TEST(ScoreWidgetBuilder, EachCallMakesAWidgetOfItsOwnForAnyLocale) {
   const auto network = HeldTransport::install();
   TestWindow one(build("shop", "en", token));
-  TestWindow other(build("shop", "en", token));
+  TestWindow other(build("shop", "", token));
   one.settle();
   other.settle();
   ASSERT_EQ(network->held.size(), 2U);
@@ -147,7 +140,7 @@ TEST(ScoreWidgetBuilder, EachCallMakesAWidgetOfItsOwn) {
   one.act("Fee  €2.00,  €4.00");
   EXPECT_TRUE(one.sheet);
   EXPECT_FALSE(other.sheet);
-  EXPECT_NO_THROW(other.element("Your return fee Discounted €2.00, Original €4.00"));
+  EXPECT_NO_THROW(other.element("Your return fee Discounted €\u00A02.00, Original €\u00A04.00"));
 }
 
 }  // namespace

@@ -150,27 +150,20 @@ TEST_F(ScoreSheet, OnItsWayOutItTakesNoTapButMayBeCalledBack) {
   EXPECT_EQ(panelHeight(), 305);
 }
 
-/// Up from the start.
-struct Presenting {
-  static constexpr std::string_view typeName = "Presenting";
-  View content;
-  swiftui::State<bool> up{true};
-  auto states() const { return std::tie(up); }
-  View body() const { return View(Text::verbatim("row")).sheet(up.binding(), content); }
-};
-
 TEST(SheetPresenter, StandsOnTheWindowsSafeBottom) {
   const View content = View(Text::verbatim("x"))
                            .frame(50, 100)
                            .presentationDetents({swiftui::PresentationDetent::height(100),
                                                  swiftui::PresentationDetent::medium()});
-  TestWindow window(Presenting{content});
-  window.settle();
-  window.sheet->setWindow(window.size, {40, 0, 30, 0});
-  EXPECT_EQ(window.sheet->panelFrame(), (layout::Rect{{0, 510}, {320, 130}}));
+  TestWindow window({});
+  auto& sheet = window.sheet.emplace(window.text, window);
+  sheet.setMotion(false);
+  sheet.setWindow(window.size, {40, 0, 30, 0});
+  sheet.present({swiftui::State<bool>{true}.binding(), content});
+  EXPECT_EQ(sheet.panelFrame(), (layout::Rect{{0, 510}, {320, 130}}));
   EXPECT_EQ(window.element("x").frame.top(), 510 + 39);  // 22 high in the middle of 100
-  window.sheet->setWindow({320, 140}, {40, 0, 30, 0});
-  EXPECT_EQ(window.sheet->panelFrame().top(), 60) << "half of what the safe area leaves at the top";
+  sheet.setWindow({320, 140}, {40, 0, 30, 0});
+  EXPECT_EQ(sheet.panelFrame().top(), 60) << "half of what the safe area leaves at the top";
 }
 
 }  // namespace

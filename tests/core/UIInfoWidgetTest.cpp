@@ -1,18 +1,19 @@
 #include "QuorixWidgets/info/UIInfoWidget.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <map>
-#include <sstream>
 
 #include "QuorixWidgets/info/InfoTitle.h"
+#include "QuorixWidgets/info/InfoWidgetBuilder.h"
 #include "QuorixWidgets/info/UIApplication.h"
 #include "QuorixWidgets/overlay/WebViewController.h"
 #include "platform/swiftui/UIViewRepresentable.h"
 #include "platform/uikit/UIWindowScene.h"
+#include "platform/uikit/ViewPrinter.h"
 #include "tests/core/OtherResources.h"
 #include "tests/core/TestWindow.h"
+#include "tests/core/Vectors.h"
 
 using namespace quorix;
 using foundation::MainQueue;
@@ -27,12 +28,36 @@ std::shared_ptr<UIInfoWidget> widget(const UIKitStyleConfiguration& style = {},
   return UIInfoWidget::make(std::make_shared<UIInfoWidgetViewModel>(std::move(name), "en", style));
 }
 
-/// An app in words: the scenes, each its state and what tells its windows from plain ones, as in
-/// "active plain key+hidden / background high".
+std::vector<render::TextItem> texts(const render::Scene& scene) {
+  std::vector<render::TextItem> found;
+  for (const auto& item : scene.items) {
+    if (const auto* text = std::get_if<render::TextItem>(&item)) found.push_back(*text);
+  }
+  return found;
+}
+
+struct WindowKind {
+  bool key = false, hidden = false, high = false;
+};
+constexpr WindowKind plain{}, key{.key = true}, hidden{.hidden = true}, high{.high = true};
+
+/// The app's scenes while it lives, each its state and its windows.
 struct App {
-  explicit App(const std::string& words) {
-    std::istringstream all(words);
-    for (std::string scene; std::getline(all, scene, '/');) add(scene);
+  using Scenes = std::vector<std::pair<State, std::vector<WindowKind>>>;
+
+  explicit App(const Scenes& kinds) {
+    for (const auto& [state, windows] : kinds) {
+      const auto& scene = scenes.emplace_back(std::make_shared<uikit::UIWindowScene>());
+      scene->setActivationState(state);
+      for (const WindowKind& kind : windows) {
+        const auto window = std::make_shared<uikit::UIWindow>();
+        if (kind.key) window->makeKey();
+        window->setHidden(kind.hidden);
+        if (kind.high) window->setWindowLevel(uikit::UIWindow::alertLevel);
+        scene->addWindow(window);
+      }
+      uikit::UIApplication::shared().connect(scene);
+    }
   }
   ~App() {
     for (const auto& scene : scenes) uikit::UIApplication::shared().disconnect(scene);
@@ -40,37 +65,6 @@ struct App {
   App(const App&) = delete;
   App& operator=(const App&) = delete;
 
-  void add(const std::string& scene) {
-    static const std::map<std::string, State> states = {{"active", State::foregroundActive},
-                                                        {"inactive", State::foregroundInactive},
-                                                        {"background", State::background},
-                                                        {"unattached", State::unattached}};
-    std::istringstream words(scene);
-    std::string word;
-    words >> word;
-    scenes.push_back(std::make_shared<uikit::UIWindowScene>());
-    scenes.back()->setActivationState(states.at(word));
-    while (words >> word) {
-      const auto is = [&](const char* what) { return word.find(what) != std::string::npos; };
-      const auto window = std::make_shared<uikit::UIWindow>();
-      if (is("key")) window->makeKey();
-      window->setHidden(is("hidden"));
-      if (is("high")) window->setWindowLevel(uikit::UIWindow::alertLevel);
-      scenes.back()->addWindow(window);
-    }
-    uikit::UIApplication::shared().connect(scenes.back());
-  }
-
-  /// "scene window", counted from 0; empty for no window of the app.
-  std::string placeOf(const std::shared_ptr<uikit::UIWindow>& window) const {
-    for (std::size_t i = 0; i < scenes.size(); ++i) {
-      const auto& windows = scenes[i]->windows();
-      const auto at = std::find(windows.begin(), windows.end(), window);
-      if (at != windows.end())
-        return std::to_string(i) + " " + std::to_string(at - windows.begin());
-    }
-    return {};
-  }
   std::vector<std::shared_ptr<uikit::UIWindowScene>> scenes;
 };
 
@@ -87,36 +81,44 @@ TEST(InfoTitle, StandsAroundTheFirstNumber) {
   EXPECT_EQ(splitInfoTitle("20%20%", "20%"), Parts{});
 }
 
-TEST(UIInfoWidget, LaysOutTheTitleOverTheLink) {
-  TestWindow window(swiftui::hosting(widget()), {}, {320, 98});
+TEST(UIInfoWidget, IsAsDesigned) {
+  const graphics::RGBA red{255, 0, 0, 255};
+  const auto view = widget({std::nullopt, "No-Such-Face", uikit::UIColor::fixed(red), true});
+  TestWindow window(swiftui::hosting(view), {}, {320, 98});
   EXPECT_EQ(window.shown().accessibility.size(), 1u) << "the title comes with the next turn";
   window.settle();
-  EXPECT_EQ(render::printAccessibility(window.shown()),
-            "text 16 16 288 33 \"Shoppers who return less than 20% of what they buy pay a lower "
-            "return fee.\"\nlink 16 65 59 17 \"Read more\" acts\n");
+  EXPECT_EQ(uikit::printViews(*view) + "\nframes\n" + render::printFrames(window.shown()) +
+                "\nread out\n" + render::printAccessibility(window.shown()),
+            contentsOf("info/imperative-en.txt"));
   EXPECT_EQ(window.host->sizeThatFits({320, std::nullopt}), (layout::Size{320, 98}));
 }
 
-TEST(UIInfoWidget, SetsRunsLinkAndGround) {
-  graphics::RGBA red{255, 0, 0, 255};
-  TestWindow window(
-      swiftui::hosting(widget({std::nullopt, "No-Such-Face", uikit::UIColor::fixed(red), true})));
-  window.settle();
-  std::vector<std::string> looks;
-  for (const auto& item : window.shown().items) {
-    const auto* text = std::get_if<render::TextItem>(&item);
-    for (const auto& run : text ? text->text.runs : std::vector<text::Run>{}) {
-      looks.push_back(run.text + "|" + run.font.name + (run.thickUnderline ? "|thick" : ""));
-      EXPECT_EQ(run.font.points, 13);
+/// Designers draw the widget once: its two forms differ in the logo and in what the link looks
+/// like.
+TEST(InfoWidgetBuilder, BothFormsSetTheirTextsAlike) {
+  const InfoWidgetStyle style{std::nullopt, std::nullopt, std::nullopt, false};
+  for (const std::string locale : {"en", "de", "ar"}) {
+    SCOPED_TRACE(locale);
+    swiftui::Environment environment;
+    const bool mirrored = locale == "ar";
+    if (mirrored) environment.direction = layout::LayoutDirection::rightToLeft;
+    TestWindow declarative(InfoWidgetBuilder::buildSwiftUIInfoWidgetView(locale, style),
+                           environment);
+    TestWindow imperative(
+        swiftui::hosting(InfoWidgetBuilder::buildUIKitInfoWidgetView(locale, style)), environment);
+    imperative.settle();
+    const auto expected = texts(declarative.shown()), shown = texts(imperative.shown());
+    ASSERT_EQ(expected.size(), 2u);
+    ASSERT_EQ(shown.size(), 2u);
+    for (std::size_t i = 0; i < 2; ++i) {
+      const layout::Rect &one = shown[i].frame, &other = expected[i].frame;
+      // Right-to-left text may have empty room on its left.
+      EXPECT_NEAR(mirrored ? one.right() : one.left(), mirrored ? other.right() : other.left(), 1);
+      EXPECT_NEAR(one.top(), other.top(), 1);
+      EXPECT_NEAR(one.size.height, other.size.height, 1);
+      EXPECT_EQ(shown[i].text.runs.size(), expected[i].text.runs.size());
     }
   }
-  EXPECT_THAT(looks, ::testing::ElementsAre(
-                         "Shoppers who return less than |Saans-Regular", "20%|Saans-Medium",
-                         " of what they buy pay a lower return fee.|Saans-Regular",
-                         "Read more|Saans-Regular|thick"));
-  EXPECT_EQ(std::get<render::FillItem>(window.shown().items.front()).color, red);
-  EXPECT_EQ(std::get<render::StrokeItem>(window.shown().items.back()).width, 1);
-  ASSERT_EQ(window.shown().hitAreas.size(), 1u) << "only the link reacts";
 }
 
 TEST(UIInfoWidget, FollowsItsModelWithoutKeepingItself) {
@@ -139,7 +141,7 @@ TEST(UIInfoWidget, FollowsItsModelWithoutKeepingItself) {
 TEST(UIInfoWidget, PresentsTheOverlayOverTheTopmostScreen) {
   TestWindow window(swiftui::hosting(widget({}, "Ann")));
   window.tap("Read more");  // into nowhere: there is no window
-  App app("active plain");
+  App app({{State::foregroundActive, {plain}}});
   window.tap("Read more");  // nor a screen
   const auto root = std::make_shared<uikit::UIViewController>();
   const auto alert = std::make_shared<uikit::UIViewController>();
@@ -160,30 +162,35 @@ TEST(UIInfoWidget, PresentsTheOverlayOverTheTopmostScreen) {
 }
 
 TEST(UIApplication, FindsTheKeyWindow) {
+  constexpr auto active = State::foregroundActive, inactive = State::foregroundInactive,
+                 background = State::background, unattached = State::unattached;
+  using Place = std::pair<std::size_t, std::size_t>;  // of a scene, and of a window in it
   const struct {
-    const char *name, *app, *found;
+    const char* name;
+    App::Scenes app;
+    std::optional<Place> found;
   } rows[] = {
-      {"no scene", "", ""},
-      {"the key window", "active plain key", "0 1"},
-      {"even a hidden one", "active plain key+hidden", "0 1"},
-      {"the first in plain sight", "active hidden high plain plain", "0 2"},
-      {"none in plain sight", "active hidden high", "0 0"},
-      {"an active scene without windows", "active / background key", ""},
-      {"the first active scene", "active hidden / active key", "0 0"},
-      {"after others", "background key / active plain", "1 0"},
-      {"none active", "unattached plain / inactive plain key", "1 1"},
-      {"none active, background", "background key", "0 0"},
-      {"none active, no key", "background plain / unattached high", ""},
+      {"no scene", {}, {}},
+      {"the key window", {{active, {plain, key}}}, Place{0, 1}},
+      {"even a hidden one", {{active, {plain, {.key = true, .hidden = true}}}}, Place{0, 1}},
+      {"the first in plain sight", {{active, {hidden, high, plain, plain}}}, Place{0, 2}},
+      {"none in plain sight", {{active, {hidden, high}}}, Place{0, 0}},
+      {"an active scene without windows", {{active, {}}, {background, {key}}}, {}},
+      {"the first active scene", {{active, {hidden}}, {active, {key}}}, Place{0, 0}},
+      {"after others", {{background, {key}}, {active, {plain}}}, Place{1, 0}},
+      {"none active", {{unattached, {plain}}, {inactive, {plain, key}}}, Place{1, 1}},
+      {"none active, background", {{background, {key}}}, Place{0, 0}},
+      {"none active, no key", {{background, {plain}}, {unattached, {high}}}, {}},
   };
   // A scene of another kind is passed over wherever it stands.
   const auto other = std::make_shared<uikit::UIScene>();
-  other->setActivationState(State::foregroundActive);
+  other->setActivationState(active);
   uikit::UIApplication::shared().connect(other);
   for (const auto& row : rows) {
     const App app(row.app);
-    const auto window = UIApplication::getKeyWindow();
-    EXPECT_EQ(app.placeOf(window), row.found) << row.name;
-    EXPECT_EQ(window != nullptr, *row.found != '\0') << row.name;
+    const auto expected =
+        row.found ? app.scenes[row.found->first]->windows()[row.found->second] : nullptr;
+    EXPECT_EQ(UIApplication::getKeyWindow(), expected) << row.name;
   }
   uikit::UIApplication::shared().disconnect(other);
 }

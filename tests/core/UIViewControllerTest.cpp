@@ -11,34 +11,19 @@ using quorix::foundation::MainQueue;
 
 namespace {
 
-struct Screen final : UIViewController {
-  int loads = 0;
-  void viewDidLoad() override {
-    ++loads;
-    EXPECT_TRUE(view()->subviews().empty());
-  }
-};
-
 struct Surface final : UIWindow::Client {
   int changes = 0;
   void presentedControllersChanged(UIWindow&, bool) override { ++changes; }
 };
 
+std::shared_ptr<UIViewController> screen() { return std::make_shared<UIViewController>(); }
+
 using Chain = std::vector<std::shared_ptr<UIViewController>>;
 
 }  // namespace
 
-TEST(UIViewController, LoadsItsViewOnce) {
-  Screen screen;
-  EXPECT_FALSE(screen.isViewLoaded());
-  const auto view = screen.view();
-  EXPECT_EQ(screen.view(), view);
-  EXPECT_EQ(screen.loads, 1);
-}
-
 TEST(UIViewController, PresentsAChainAndTellsItsWindow) {
-  const auto root = std::make_shared<Screen>(), first = std::make_shared<Screen>(),
-             second = std::make_shared<Screen>(), other = std::make_shared<Screen>();
+  const auto root = screen(), first = screen(), second = screen(), other = screen();
   Surface surface;
   {
     UIWindow window;
@@ -79,7 +64,7 @@ TEST(UIViewController, PresentsAChainAndTellsItsWindow) {
 }
 
 TEST(UIViewController, ASheetThatClosesDismissesIt) {
-  const auto root = std::make_shared<Screen>(), page = std::make_shared<Screen>();
+  const auto root = screen(), page = screen();
   root->present(page, true);
   const auto sheet = quorix::hosting::controllerPresentation(page);
   EXPECT_TRUE(sheet.isPresented.get());

@@ -1,31 +1,19 @@
 #include <gtest/gtest.h>
 
 #include <optional>
-#include <stdexcept>
 #include <string>
 
 #include "QuorixWidgets/overlay/WebView.h"
-#include "platform/webkit/WebContent.h"
+#include "tests/core/ShownPage.h"
 #include "tests/core/TestWindow.h"
 
 namespace quorix {
 namespace {
 
 using swiftui::State;
+using testing::shownContent;
+using testing::shownPage;
 using testing::TestWindow;
-
-/// The page as the surface would show it.
-const render::EmbedItem& page(const render::Scene& scene) {
-  for (const render::Item& item : scene.items) {
-    if (const auto* embed = std::get_if<render::EmbedItem>(&item)) return *embed;
-  }
-  throw std::out_of_range("no page");
-}
-
-std::string address(TestWindow& window) {
-  const auto& content = dynamic_cast<const webkit::WebContent&>(*page(window.shown()).content);
-  return content.url()->absoluteString();
-}
 
 WebView overlay(const State<bool>& shown, std::optional<std::string> name, const char* locale) {
   return {shown.binding(), std::move(name), std::nullopt, locale};
@@ -45,22 +33,22 @@ TEST(WebView, StandsUnderItsHeadingAndRunsOnUnderTheBottomOfTheDevice) {
     TestWindow window(overlay(shown, row.name, "en"));
     const render::Scene& scene = window.host->scene({320, 640}, {40, 0, 30, 0});
     EXPECT_EQ(std::get<render::FillItem>(scene.items.at(0)).frame, (layout::Rect{{}, {320, 640}}));
-    EXPECT_EQ(page(scene).frame, row.page);
+    EXPECT_EQ(shownPage(scene).frame, row.page);
+    EXPECT_EQ(scene.hitAreas.size(), 1u) << "the page brings no control of its own";
     EXPECT_EQ(scene.accessibility.back().frame, (layout::Rect{{272, 40}, {48, 56}}));
   }
 }
 
 TEST(WebView, FillsItsSheetToTheRoundCornersAndTheBottom) {
   const State<bool> shown{true};
-  testing::TestWindow window({});
+  TestWindow window({});
   hosting::SheetPresenter sheet(window.text, window);
   sheet.setMotion(false);
   sheet.setWindow({320, 640}, {40, 0, 30, 0});
   sheet.present({shown.binding(), overlay(shown, std::nullopt, "en")});
-  const layout::Rect panel = sheet.panelFrame();
-  EXPECT_EQ(panel, (layout::Rect{{0, 50}, {320, 590}}));
-  EXPECT_EQ(page(sheet.scene()).frame, panel);
-  EXPECT_EQ(page(sheet.scene()).topCornerRadius, 12);
+  const layout::Rect panel{{0, 50}, {320, 590}};
+  EXPECT_EQ(shownPage(sheet.scene()).frame, panel);
+  EXPECT_EQ(shownPage(sheet.scene()).topCornerRadius, 12);
   for (const render::Item& item : sheet.scene().items) {
     const auto* fill = std::get_if<render::FillItem>(&item);
     EXPECT_TRUE(!fill || fill->frame != panel || fill->topCornerRadius == 12);
@@ -89,14 +77,14 @@ TEST(WebView, ClosesByTheCrossInItsTrailingCorner) {
 TEST(WebView, LaterValuesReachTheHeadingAndNotThePage) {
   const State<bool> shown{true};
   TestWindow window(overlay(shown, "Ann", "en"));
-  const auto content = page(window.shown()).content;
-  const std::string first = address(window);
-  EXPECT_NE(first.find("lang=en"), std::string::npos) << first;
+  const webkit::WebContent* const content = &shownContent(window.shown());
+  const std::string address = content->url()->absoluteString();
+  EXPECT_NE(address.find("lang=en"), std::string::npos) << address;
   window.host->updateRoot(overlay(shown, "Ann", "sv"));
   window.settle();
   EXPECT_NO_THROW(window.element("Dina returer, Ann"));
-  EXPECT_EQ(page(window.shown()).content, content);
-  EXPECT_EQ(address(window), first);
+  EXPECT_EQ(&shownContent(window.shown()), content);
+  EXPECT_EQ(content->url()->absoluteString(), address);
 }
 
 }  // namespace

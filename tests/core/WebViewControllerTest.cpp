@@ -2,29 +2,19 @@
 
 #include <gtest/gtest.h>
 
-#include "QuorixWidgets/localization/UIColor.h"
 #include "platform/swiftui/UIViewControllerRepresentable.h"
 #include "tests/core/OpenedAddresses.h"
+#include "tests/core/ShownPage.h"
 #include "tests/core/TestWindow.h"
 
 using namespace quorix;
+using quorix::testing::shownContent;
 using quorix::testing::TestWindow;
-
-namespace {
-
-const webkit::WebContent* pageOf(const render::Scene& scene) {
-  for (const auto& item : scene.items) {
-    const auto* embed = std::get_if<render::EmbedItem>(&item);
-    if (embed) return dynamic_cast<const webkit::WebContent*>(embed->content.get());
-  }
-  return nullptr;
-}
-
-}  // namespace
 
 TEST(WebViewController, ShowsItsPageAndCloseControl) {
   const auto overlay = std::make_shared<WebViewController>();
   overlay->locale = "nb";
+  overlay->token = "";
   overlay->showCloseButton = true;
   TestWindow window(swiftui::hosting(overlay), {.direction = layout::LayoutDirection::rightToLeft,
                                                 .language = {}});  // still on the right
@@ -32,35 +22,22 @@ TEST(WebViewController, ShowsItsPageAndCloseControl) {
             "embed 0 0 320 640 #FFFFFFFF\n"
             "image 284 22 24 24 \"close\" #007AFFFF\n"
             "hit 272 10 48 48\n");
-  const auto* page = pageOf(window.shown());
-  ASSERT_NE(page, nullptr);
-  ASSERT_TRUE(page->url().has_value());
-  EXPECT_TRUE(page->url()->absoluteString().ends_with("/html/overlays/info?lang=no"))
-      << page->url()->absoluteString();
-  EXPECT_TRUE(page->settings.allowsContentJavaScript);
-  EXPECT_TRUE(page->settings.javaScriptCanOpenWindowsAutomatically);
-  EXPECT_TRUE(page->settings.allowsBackForwardNavigationGestures);
+  const webkit::WebContent& page = shownContent(window.shown());
+  EXPECT_EQ(page.url().value().absoluteString(),
+            "https://widget.quorix.example/users/details/?lang=no");
+  EXPECT_TRUE(page.settings.allowsContentJavaScript);
+  EXPECT_TRUE(page.settings.javaScriptCanOpenWindowsAutomatically);
+  EXPECT_TRUE(page.settings.allowsBackForwardNavigationGestures);
 
   // What changes after the view has loaded comes too late.
-  overlay->token = "late";
+  overlay->token = std::nullopt;
   window.host->updateRoot(swiftui::hosting(overlay));
-  EXPECT_EQ(pageOf(window.shown())->url()->path(), "/html/overlays/info");
+  EXPECT_EQ(shownContent(window.shown()).url()->path(), "/users/details/");
 
   const auto root = std::make_shared<uikit::UIViewController>();
   root->present(overlay, true);
   window.tap(layout::Point{272, 10});  // the control's very corner
   EXPECT_EQ(root->presentedViewController(), nullptr);
-}
-
-TEST(WebViewController, HasNoControlUnlessAsked) {
-  const auto overlay = std::make_shared<WebViewController>();
-  overlay->token = "";
-  TestWindow window(swiftui::hosting(overlay),
-                    {.appearance = graphics::Appearance::dark, .language = {}});
-  EXPECT_EQ(window.shown().hitAreas.size(), 0u);
-  EXPECT_EQ(pageOf(window.shown())->url()->path(), "/users/details/");
-  EXPECT_EQ(std::get<render::EmbedItem>(window.shown().items.front()).background,
-            UIColor::overlayBackgrounColor()->resolve(graphics::Appearance::dark));
 }
 
 TEST(WebViewController, NewWindowsLeaveTheApp) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <tuple>
@@ -15,13 +16,15 @@ struct FeeModel : combine::ObservableObject {
   combine::Published<std::string> fee;
 };
 
-/// A row that is one button and opens a sheet with a line of text and an element that closes it.
+/// A row that is one button and opens a sheet with a line of text, an element that closes it
+/// and one that does what a test wants.
 struct FeeRow {
   static constexpr std::string_view typeName = "FeeRow";
 
   explicit FeeRow(std::string fee) : model(std::make_shared<FeeModel>(std::move(fee))) {}
 
   std::shared_ptr<FeeModel> model;
+  std::function<void()> terms = [] {};  ///< what a tap on "Terms" does
   swiftui::State<bool> shown{false};
 
   auto states() const { return std::tie(shown); }
@@ -36,7 +39,7 @@ struct FeeRow {
                                View(Text::verbatim("X"))
                                    .onTapGesture(toggle)
                                    .accessibilityLabel(Text::verbatim("Close " + fee)),
-                               View(Text::verbatim("Terms")).onTapGesture([] {})})
+                               View(Text::verbatim("Terms")).onTapGesture(terms)})
                            .presentationDetents({PresentationDetent::height(200)});
     return HStack(layout::VerticalAlignment::center, 12,
                   {Text::verbatim("Return fee"), Spacer(), Text::verbatim(fee)})

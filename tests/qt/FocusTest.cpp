@@ -3,6 +3,7 @@
 #include <QTest>
 
 #include "tests/qt/FeeRow.h"
+#include "tests/qt/Pixels.h"
 #include "tests/qt/Screens.h"
 
 namespace quorix::testing {
@@ -11,22 +12,9 @@ namespace {
 using swiftui::Text;
 using swiftui::View;
 
-constexpr QRectF kPlace(20, 40, 300, 0);
-
 template <class>
 struct Focus : ::testing::Test {};
 TYPED_TEST_SUITE(Focus, Screens, ScreenName);
-
-/// Where two pictures of one window differ.
-QRect differing(const QImage& before, const QImage& after) {
-  QRect all;
-  for (int y = 0; y < before.height(); ++y) {
-    for (int x = 0; x < before.width(); ++x) {
-      if (before.pixel(x, y) != after.pixel(x, y)) all |= QRect(x, y, 1, 1);
-    }
-  }
-  return all;
-}
 
 TYPED_TEST(Focus, TabReachesTheRowShowsARingAroundItAndLeaves) {
   TypeParam screen;

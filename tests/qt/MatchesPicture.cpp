@@ -2,8 +2,8 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <algorithm>
-#include <cstdlib>
+
+#include "tests/qt/Pixels.h"
 
 namespace quorix::testing {
 namespace {
@@ -12,11 +12,6 @@ namespace {
 constexpr int kChannelTolerance = 24;
 /// Of the pixels: so many may differ.
 constexpr double kShareTolerance = 0.0015;
-
-int distance(QRgb one, QRgb other) {
-  return std::max({std::abs(qRed(one) - qRed(other)), std::abs(qGreen(one) - qGreen(other)),
-                   std::abs(qBlue(one) - qBlue(other)), std::abs(qAlpha(one) - qAlpha(other))});
-}
 
 /// Marks what differs in `difference` and counts it.
 int compare(const QImage& actual, const QImage& reference, QImage& difference) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QRectF>
 #include <string>
 #include <type_traits>
 
@@ -15,6 +16,9 @@ namespace quorix::testing {
 ///     template <class> struct Sheet : ::testing::Test {};
 ///     TYPED_TEST_SUITE(Sheet, Screens, ScreenName);
 using Screens = ::testing::Types<QuickScreen, WidgetScreen>;
+
+/// Where a test's view stands, as high as it wants to be.
+constexpr QRectF kPlace(20, 40, 300, 0);
 
 struct ScreenName {
   template <class Screen>

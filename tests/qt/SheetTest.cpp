@@ -11,11 +11,6 @@
 namespace quorix::testing {
 namespace {
 
-using swiftui::Text;
-using swiftui::View;
-
-constexpr QRectF kPlace(20, 40, 300, 0);
-
 template <class>
 struct Sheet : ::testing::Test {};
 TYPED_TEST_SUITE(Sheet, Screens, ScreenName);
@@ -70,11 +65,13 @@ TYPED_TEST(Sheet, EveryWayClosesItAndGivesTheFocusBack) {
   }
 }
 
-TYPED_TEST(Sheet, HoldsTheFocusInside) {
+TYPED_TEST(Sheet, CoversTheRestAndHoldsTheFocusInside) {
   TypeParam screen;
   screen.addFocusable();
   screen.add(FeeRow("4 €"), kPlace);
   screen.click("Row 4 €");
+  EXPECT_FALSE(screen.shows("Row 4 €"));
+  EXPECT_TRUE(screen.find("Fee 4 €")->parent()->state().modal);
   QObject* sheet = QGuiApplication::focusObject();
   for (int i = 0; i < 5; ++i) {
     screen.key(i < 3 ? Qt::Key_Tab : Qt::Key_Backtab);
@@ -128,26 +125,15 @@ TYPED_TEST(Sheet, GoesWithItsRow) {
   EXPECT_TRUE(screen.hasFocus(field));
 }
 
-/// Its sheet asks the host to take the row away.
-struct Leaving {
-  static constexpr std::string_view typeName = "Leaving";
-  std::function<void()> leave;
-  swiftui::State<bool> shown{false};
-  auto states() const { return std::tie(shown); }
-  View body() const {
-    return View(Text::verbatim("open"))
-        .onTapGesture([binding = shown.binding()] { binding.toggle(); })
-        .sheet(shown.binding(), View(Text::verbatim("leave")).onTapGesture(leave));
-  }
-};
-
 TYPED_TEST(Sheet, MayEndItsRowFromInside) {
   TypeParam screen;
-  decltype(screen.add(View(), kPlace)) row = nullptr;
-  row = screen.add(Leaving{[&] { delete row; }}, kPlace);
-  screen.click("open");
-  screen.click("leave");
-  EXPECT_FALSE(screen.shows("leave"));
+  FeeRow leaving("4 €");
+  decltype(screen.add(leaving, kPlace)) row = nullptr;
+  leaving.terms = [&] { delete row; };
+  row = screen.add(leaving, kPlace);
+  screen.click("Row 4 €");
+  screen.click("Terms");
+  EXPECT_FALSE(screen.shows("Terms"));
 }
 
 TYPED_TEST(Sheet, GoesWithItsWindowAndToAnotherOne) {
@@ -162,7 +148,7 @@ TYPED_TEST(Sheet, GoesWithItsWindowAndToAnotherOne) {
   second.closeWindow();
 }
 
-TYPED_TEST(Sheet, RisesOverSeveralFramesAndThenRests) {
+TYPED_TEST(Sheet, RisesOverSeveralFramesThenRestsAndGoesWithItsWindowInMidMotion) {
   TypeParam screen;
   auto* row = screen.add(FeeRow("4 €"), kPlace);
   row->setMotion(true);
@@ -172,6 +158,10 @@ TYPED_TEST(Sheet, RisesOverSeveralFramesAndThenRests) {
   const int risen = screen.frames();
   QTest::qWait(100);
   EXPECT_EQ(screen.frames(), risen);
+  QTest::keyClick(&screen.window(), Qt::Key_Escape);
+  QTest::qWait(50);
+  screen.closeWindow();
+  QTest::qWait(50);
 }
 
 }  // namespace

@@ -11,8 +11,6 @@ namespace {
 using swiftui::Text;
 using swiftui::View;
 
-constexpr QRectF kPlace(20, 40, 300, 0);
-
 template <class>
 struct Accessible : ::testing::Test {};
 TYPED_TEST_SUITE(Accessible, Screens, ScreenName);
@@ -80,23 +78,6 @@ TYPED_TEST(Accessible, SeveralElementsStandInAGroupInReadingOrder) {
   EXPECT_EQ(group->focusChild(), group->child(2));
   pressThrough(screen, group->child(2));
   EXPECT_EQ(taps, 1);
-}
-
-TYPED_TEST(Accessible, ASheetIsAModalDialogAndCoversTheRest) {
-  TypeParam screen;
-  screen.add(FeeRow("4 €"), kPlace);
-  screen.click("Row 4 €");
-  QAccessibleInterface* text = screen.find("Fee 4 €");
-  ASSERT_TRUE(text);
-  EXPECT_EQ(printed(text->parent()),
-            "Dialog \"Fee 4 €\" modal\n"
-            "  StaticText \"Fee 4 €\"\n"
-            "  Button \"Close 4 €\" focusable acts\n"
-            "  Button \"Terms\" focusable acts\n");
-  EXPECT_FALSE(screen.shows("Row 4 €"));
-  pressThrough(screen, screen.find("Close 4 €"));
-  EXPECT_FALSE(screen.shows("Fee 4 €"));
-  EXPECT_TRUE(screen.shows("Row 4 €"));
 }
 
 }  // namespace

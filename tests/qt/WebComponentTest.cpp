@@ -2,19 +2,12 @@
 
 #include <QObject>
 
-#include "platform/uikit/URLOpener.h"
 #include "qt/EmbeddedPages.h"
 #include "qt/WebComponentLoader.h"
+#include "tests/core/OpenedAddresses.h"
 
 namespace quorix::testing {
 namespace {
-
-using uikit::URLOpener;
-
-struct Outside final : URLOpener {
-  void open(const foundation::URL& url) override { address = url.absoluteString(); }
-  std::string address;
-};
 
 TEST(WebComponent, WithoutOneThePageIsOpenedOutside) {
   const auto content = std::make_shared<webkit::WebContent>();
@@ -29,11 +22,9 @@ TEST(WebComponent, WithoutOneThePageIsOpenedOutside) {
   EXPECT_FALSE(pages.follow(scene));
   EXPECT_TRUE(pages.views().empty());
 
-  const auto outside = std::make_shared<Outside>();
-  const auto before = URLOpener::install(outside);
+  const OpenedAddresses opened;
   qt::EmbeddedPages::sendOutside(scene);
-  URLOpener::install(before);
-  EXPECT_EQ(outside->address, "https://modules.quorix.example/page");
+  EXPECT_EQ(opened.list(), std::vector<std::string>{"https://modules.quorix.example/page"});
 }
 
 }  // namespace

@@ -2,38 +2,10 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <algorithm>
+#include <iterator>
 
 namespace quorix::testing {
-namespace {
-
-/// Counts what the pointer does on it.
-class Listener : public QWidget {
- public:
-  explicit Listener(QWidget* parent) : QWidget(parent) {
-    setMouseTracking(true);
-    setAttribute(Qt::WA_AcceptTouchEvents);
-  }
-  int events = 0;
-
- protected:
-  bool event(QEvent* event) override {
-    switch (event->type()) {
-      case QEvent::MouseButtonPress:
-      case QEvent::MouseButtonRelease:
-      case QEvent::MouseMove:
-      case QEvent::Wheel:
-      case QEvent::TouchBegin:
-      case QEvent::ContextMenu:
-        ++events;
-        return true;
-      default:
-        return QWidget::event(event);
-    }
-  }
-};
-
-}  // namespace
-
 WidgetScreen::WidgetScreen() : host_(std::make_unique<QWidget>()) {
   qApp->installEventFilter(this);
   host_->resize(kSize);
@@ -47,6 +19,12 @@ bool WidgetScreen::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Paint && host_) {
     auto* widget = qobject_cast<QWidget*>(watched);
     if (widget && widget->window() == host_.get()) countFrame();
+  }
+  const QEvent::Type pointed[] = {QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
+                                  QEvent::MouseMove,        QEvent::Wheel,
+                                  QEvent::TouchBegin,       QEvent::ContextMenu};
+  if (below_ && watched == below_) {
+    eventsBelow_ += std::count(std::begin(pointed), std::end(pointed), event->type());
   }
   return false;
 }
@@ -77,10 +55,12 @@ QWidget* WidgetScreen::addFocusable() {
 }
 
 std::function<int()> WidgetScreen::listenBelow() {
-  auto* listener = new Listener(host_.get());
-  listener->resize(host_->size());
-  listener->show();
-  return [listener] { return listener->events; };
+  below_ = new QWidget(host_.get());
+  below_->setMouseTracking(true);
+  below_->setAttribute(Qt::WA_AcceptTouchEvents);
+  below_->resize(host_->size());
+  below_->show();
+  return [this] { return static_cast<int>(eventsBelow_); };
 }
 
 }  // namespace quorix::testing

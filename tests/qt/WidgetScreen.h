@@ -38,6 +38,8 @@ class WidgetScreen : public QObject, public Screen {
   QObject& accessibleRoot() override { return *host_; }
 
   std::unique_ptr<QWidget> host_;
+  QWidget* below_ = nullptr;
+  std::ptrdiff_t eventsBelow_ = 0;
 };
 
 }  // namespace quorix::testing

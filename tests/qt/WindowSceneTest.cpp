@@ -12,8 +12,6 @@
 namespace quorix::testing {
 namespace {
 
-constexpr QRectF kPlace(20, 40, 300, 0);
-
 /// A text that does something when it is tapped.
 std::shared_ptr<uikit::UILabel> button(const std::string& text, std::function<void()> action) {
   auto label = std::make_shared<uikit::UILabel>();
@@ -51,7 +49,9 @@ template <class>
 struct WindowScene : ::testing::Test {};
 TYPED_TEST_SUITE(WindowScene, Screens, ScreenName);
 
-TYPED_TEST(WindowScene, PresentsOverTheWindowInUse) {
+TYPED_TEST(WindowScene, PresentsOverTheWindowInUseAndEndsWithIt) {
+  const auto scenes = [] { return uikit::UIApplication::shared().connectedScenes().size(); };
+  const std::size_t before = scenes();
   TypeParam one;
   TypeParam two;
   one.add(opener("first"), kPlace);
@@ -64,6 +64,9 @@ TYPED_TEST(WindowScene, PresentsOverTheWindowInUse) {
   two.click("Open second");
   EXPECT_TRUE(two.shows("second"));
   EXPECT_FALSE(one.shows("second"));
+  EXPECT_EQ(scenes(), before + 2);
+  two.closeWindow();
+  EXPECT_EQ(scenes(), before + 1);
 }
 
 TYPED_TEST(WindowScene, StacksPagesAndTakesThemAwayOneByOne) {
@@ -81,17 +84,6 @@ TYPED_TEST(WindowScene, StacksPagesAndTakesThemAwayOneByOne) {
   EXPECT_FALSE(UIApplication::getKeyWindow()->rootViewController()->presentedViewController());
   screen.click("Open lower");
   EXPECT_TRUE(screen.shows("lower"));
-}
-
-TYPED_TEST(WindowScene, EndsWithItsWindow) {
-  const auto scenes = [] { return uikit::UIApplication::shared().connectedScenes().size(); };
-  const std::size_t before = scenes();
-  TypeParam screen;
-  screen.add(opener("page"), kPlace);
-  screen.click("Open page");
-  EXPECT_EQ(scenes(), before + 1);
-  screen.closeWindow();
-  EXPECT_EQ(scenes(), before);
 }
 
 }  // namespace

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QImage>
+#include <QRect>
+#include <algorithm>
+#include <cstdlib>
+
+namespace quorix::testing {
+
+/// The most that a channel of one differs from the other's, of 255.
+inline int distance(QRgb one, QRgb other) {
+  return std::max({std::abs(qRed(one) - qRed(other)), std::abs(qGreen(one) - qGreen(other)),
+                   std::abs(qBlue(one) - qBlue(other)), std::abs(qAlpha(one) - qAlpha(other))});
+}
+
+/// Where two pictures of one size are further apart than `tolerance`.
+inline QRect differing(const QImage& one, const QImage& other, int tolerance = 0) {
+  QRect all;
+  for (int y = 0; y < one.height(); ++y) {
+    for (int x = 0; x < one.width(); ++x) {
+      if (distance(one.pixel(x, y), other.pixel(x, y)) > tolerance) all |= QRect(x, y, 1, 1);
+    }
+  }
+  return all;
+}
+
+}  // namespace quorix::testing
