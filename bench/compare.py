@@ -13,16 +13,17 @@ from programs import Build
 
 SLOWER = 1.03  # by how much time may differ: where the linker puts code alone makes up to that
 LARGER = 1.02  # and what is counted, not timed
-DOUBT = 0.05   # the chance of finding fault with any of the times without cause
+DOUBT = 0.05   # the chance that any of the bounds of times is wrong without a change
 
 
 def times(build):
-    """Processor times, which other work on the machine hardly shows in, by what was timed."""
+    """Processor times, which other work on the machine shows least in, by what was timed. Few and short
+    runs: what the machine does else changes between a pair the less, and many pairs say more."""
     found = {f"token, {name.removeprefix('ours/')}": value / 1000 for name, value in
-             build.google_benchmark("token_benchmark", 3, "cpu_time", "^ours").items()}
-    found |= {name: value for name, value in
-              build.google_benchmark("paint_benchmark", 3, "real_time", "^ours").items()}
-    found["cold start"] = 1000 * statistics.median(build.start("start_ours")[1] for _ in range(5))
+             build.google_benchmark("token_benchmark", 3, "cpu_time", "^ours", 0.01).items()}
+    found |= {name.replace("oursIn", "").lower().replace("/", ", "): value for name, value in
+              build.google_benchmark("paint_benchmark", 3, "real_time", "^ours", 0.01).items()}
+    found["cold start"] = 1000 * min(build.start("start_ours")[1] for _ in range(3))
     if build.has("sheet_open"):
         sheet = build.sheet("ours", "still")
         found |= {f"sheet, {state}": 1000 * sheet[state]["work"] for state in ("cold", "warm")}
@@ -30,7 +31,7 @@ def times(build):
 
 
 def amounts(build):
-    found = {f"heap of a {of} widget": build.live_widgets(of, "ours", 1000)["heap"]
+    found = {f"heap, {of}": build.live_widgets(of, "ours", 1000)["heap"]
              for of in ("row", "declarative", "imperative")}
     return found | {f"size, {name}": size for name, size in build.sizes().items()}
 
@@ -41,7 +42,7 @@ def compare_times(before, now, rounds):
         print(f"round {number + 1} of {rounds}", file=sys.stderr)
         for build in (before, now) if number % 2 == 0 else (now, before):
             taken[build].append(times(build))
-    names = [name for name in taken[now][0] if name in taken[before][0]]
+    names = sorted(taken[now][0].keys() & taken[before][0].keys())
     for name in names:
         pairs = [(one[name], other[name]) for one, other in zip(taken[before], taken[now])]
         low, middle, high = bounds([new / old for old, new in pairs], DOUBT / len(names))
@@ -52,7 +53,7 @@ def compare_times(before, now, rounds):
 
 def compare_amounts(before, now):
     old, new = amounts(before), amounts(now)
-    for name in new.keys() & old.keys():
+    for name in sorted(new.keys() & old.keys()):
         ratio = new[name] / old[name]
         verdict = "larger" if ratio > LARGER else "smaller" if ratio < 1 / LARGER else ""
         yield name, f"{old[name]:.0f} B", f"{new[name]:.0f} B", ratio, "", verdict
@@ -62,11 +63,11 @@ def main():
     before, now = Build(sys.argv[1]), Build(sys.argv[2])
     os.environ["QT_HASH_SEED"] = "0"
     os.sched_setaffinity(0, {max(os.sched_getaffinity(0))})
-    rows = [*sorted(compare_amounts(before, now)),
-            *compare_times(before, now, 10 if "--quick" in sys.argv else 16)]
+    rows = [*compare_amounts(before, now),
+            *compare_times(before, now, 16 if "--quick" in sys.argv else 40)]
     for name, old, new, ratio, spread, verdict in (("", "before", "now", "ratio", "surely", ""), *rows):
         ratio = ratio if isinstance(ratio, str) else f"{ratio:.3f}"
-        print(f"{name:30} {old:>12} {new:>12} {ratio:>6}  {spread:16} {verdict}".rstrip())
+        print(f"{name:24} {old:>12} {new:>12} {ratio:>6}  {spread:16} {verdict}".rstrip())
     worse = [row for row in rows if row[-1] in ("slower", "larger")]
     for name, old, new, ratio, _, verdict in worse:
         print(f"bench: {name} is {verdict}: {old} before, {new} now, {ratio:.3f} times", file=sys.stderr)

@@ -5,9 +5,9 @@ import statistics
 
 
 def bounds(ratios, doubt):
-    """The median of `ratios`, and between what the true one lies: that it lies below the first has a
-    chance of at most `doubt`, and that it lies above the last. Asks nothing of how noise is distributed:
-    a ratio falls on either side of the true median as a coin does. Too few say nothing: 0 and infinity."""
+    """The median of `ratios` between the bounds of the true one, each of which is wrong with a chance of at
+    most `doubt`. Asks nothing of how noise is distributed: a ratio falls on either side of the true median
+    as a coin does. Ratios that are too few for `doubt` are bounded by 0 and infinity."""
     ordered = sorted(ratios)
     count = len(ordered)
     chance, outside = 0, 0

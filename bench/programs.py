@@ -28,11 +28,11 @@ class Build:
         return subprocess.run([f"./{program}", *arguments], cwd=self.folder / "bench", check=True,
                               stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True).stdout
 
-    def google_benchmark(self, program, repetitions, time_name, only="."):
+    def google_benchmark(self, program, repetitions, time_name, only=".", seconds=0.05):
         """The medians of `program`'s benchmarks by name, from runs in random order."""
         out = self.run(program, "--benchmark_format=json", "--benchmark_enable_random_interleaving=true",
                        f"--benchmark_filter={only}", f"--benchmark_repetitions={repetitions}",
-                       "--benchmark_min_time=0.05", "--benchmark_report_aggregates_only=true")
+                       f"--benchmark_min_time={seconds}", "--benchmark_report_aggregates_only=true")
         return {row["run_name"].removesuffix("/manual_time"): row[time_name]
                 for row in json.loads(out)["benchmarks"] if row["aggregate_name"] == "median"}
 

@@ -11,7 +11,7 @@ namespace quorix::bench {
 namespace {
 
 /// Milliseconds without a frame that make a rest: motion wants the next one within 16.
-constexpr int kRest = 200;
+constexpr int kRest = 100;
 
 double milliseconds(clockid_t clock) {
   timespec now{};
