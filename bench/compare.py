@@ -17,12 +17,12 @@ DOUBT = 0.05   # the chance that any of the bounds of times is wrong without a c
 
 
 def times(build):
-    """Processor times, which other work on the machine shows least in, by what was timed. Few and short
-    runs: what the machine does else changes between a pair the less, and many pairs say more."""
+    """Processor times by what was timed: the least of a few short ones, which other work on the machine
+    shows least in. It changes little between a pair that is soon over, and many pairs say more."""
     found = {f"token, {name.removeprefix('ours/')}": value / 1000 for name, value in
-             build.google_benchmark("token_benchmark", 3, "cpu_time", "^ours", 0.01).items()}
+             build.google_benchmark("token_benchmark", "cpu_time", min, "^ours", 10, 0.005).items()}
     found |= {name.replace("oursIn", "").lower().replace("/", ", "): value for name, value in
-              build.google_benchmark("paint_benchmark", 3, "real_time", "^ours", 0.01).items()}
+              build.google_benchmark("paint_benchmark", "real_time", min, "^ours", 10, 0.005).items()}
     found["cold start"] = 1000 * min(build.start("start_ours")[1] for _ in range(3))
     if build.has("sheet_open"):
         sheet = build.sheet("ours", "still")

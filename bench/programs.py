@@ -28,13 +28,16 @@ class Build:
         return subprocess.run([f"./{program}", *arguments], cwd=self.folder / "bench", check=True,
                               stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True).stdout
 
-    def google_benchmark(self, program, repetitions, time_name, only=".", seconds=0.05):
-        """The medians of `program`'s benchmarks by name, from runs in random order."""
+    def google_benchmark(self, program, time_name, pick, only=".", repetitions=15, seconds=0.05):
+        """What `pick` picks of the times of each of `program`'s benchmarks, by name. They run in random order."""
         out = self.run(program, "--benchmark_format=json", "--benchmark_enable_random_interleaving=true",
                        f"--benchmark_filter={only}", f"--benchmark_repetitions={repetitions}",
-                       f"--benchmark_min_time={seconds}", "--benchmark_report_aggregates_only=true")
-        return {row["run_name"].removesuffix("/manual_time"): row[time_name]
-                for row in json.loads(out)["benchmarks"] if row["aggregate_name"] == "median"}
+                       f"--benchmark_min_time={seconds}")
+        found = {}
+        for row in json.loads(out)["benchmarks"]:
+            if row["run_type"] == "iteration":
+                found.setdefault(row["run_name"].removesuffix("/manual_time"), []).append(row[time_name])
+        return {name: pick(taken) for name, taken in found.items()}
 
     def live_widgets(self, of, made, count):
         return json.loads(self.run("live_widgets", of, made, str(count)))

@@ -56,14 +56,14 @@ class Table:
 
 
 def tokens(table, build, quick):
-    times = build.google_benchmark("token_benchmark", 5 if quick else 15, "cpu_time", "small")
+    times = build.google_benchmark("token_benchmark", "cpu_time", statistics.median, "small", 5 if quick else 15)
     table.add("token to figures", times["ours/small"], times["withQt/small"], "Qt's base64 and JSON", 3,
               nanoseconds)
 
 
 def painting(table, build, quick):
-    times = build.google_benchmark("paint_benchmark", 5 if quick else 15, "real_time",
-                                   "ours|labels|LeanScoreRow|InfoWidget")
+    times = build.google_benchmark("paint_benchmark", "real_time", statistics.median,
+                                   "ours|labels|LeanScoreRow|InfoWidget", 5 if quick else 15)
     row, info = "builder to painted row", "builder to painted info widget"
     qml, labels = ("QML", 10), ("labels in a layout", 5)
     for what, ours, peer, (name, aim) in (
