@@ -1,54 +1,20 @@
 #!/usr/bin/python3
-"""Runs the benchmark programs in the folder given and prints what they say as one table of ratios."""
+"""Runs the benchmark programs of the build given and prints what they say as the README's table.
+
+bench/report.py BUILD [--table | --readme] [--quick]
+"""
 
 import json
-import os
 import pathlib
-import shutil
+import re
 import statistics
 import subprocess
 import sys
-import tempfile
-import time
 
+from programs import Build
 
-def google_benchmark(program, repetitions, time_name):
-    """The medians of `program`'s benchmarks by name, from runs in random order."""
-    out = subprocess.run(
-        [program, "--benchmark_format=json", "--benchmark_enable_random_interleaving=true",
-         f"--benchmark_repetitions={repetitions}", "--benchmark_min_time=0.05",
-         "--benchmark_report_aggregates_only=true"],
-        check=True, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL).stdout
-    return {row["run_name"].removesuffix("/manual_time"): row[time_name]
-            for row in json.loads(out)["benchmarks"] if row["aggregate_name"] == "median"}
-
-
-class Table:
-    def __init__(self):
-        self.rows = []
-
-    def add(self, what, ours, peer, peer_name, goal, text):
-        """`goal`: how many times less than the peer's ours is to be; None where there is none."""
-        ratio = peer / ours
-        if goal is None:
-            verdict = ""
-        else:
-            verdict = "ok" if ratio >= goal else "missed"
-        self.rows.append((what, text(ours), f"{text(peer)} ({peer_name})", f"{ratio:.1f}",
-                          "" if goal is None else f"{goal:g}", verdict))
-
-    def note(self, what, ours, verdict=""):
-        self.rows.append((what, ours, "", "", "", verdict))
-
-    def print(self, markdown):
-        head = ("what", "ours", "peer", "times less", "goal", "")
-        if markdown:
-            for row in (head, ("---",) * len(head), *self.rows):
-                print("| " + " | ".join(row) + " |")
-            return
-        widths = [max(len(row[i]) for row in (head, *self.rows)) for i in range(len(head))]
-        for row in (head, *self.rows):
-            print("  ".join(cell.ljust(width) for cell, width in zip(row, widths)).rstrip())
+HEAD = ("what", "ours", "peer", "times less", "aim")
+MARK = re.compile(r"(<!-- bench -->\n).*?(\n<!-- /bench -->)", re.DOTALL)
 
 
 def nanoseconds(value):
@@ -56,172 +22,179 @@ def nanoseconds(value):
 
 
 def microseconds(value):
-    return f"{value:.1f} µs"
+    return f"{value:.1f} µs" if value < 100 else f"{value:.0f} µs"
 
 
 def milliseconds(value):
-    return f"{value:.1f} ms"
+    return f"{value:.1f} ms" if value < 100 else f"{value:.0f} ms"
 
 
 def kilobytes(value):
-    return f"{value / 1000:.1f} kB"
+    return f"{value / 1000:.1f} kB" if value < 100_000 else f"{value / 1000:.0f} kB"
 
 
-def tokens(table, folder, quick):
-    times = google_benchmark(folder / "token_benchmark", 5 if quick else 15, "cpu_time")
-    for kind, name in (("small", "token to figures"), ("full", "… with the usual other claims")):
-        table.add(name, times[f"ours/{kind}"], times[f"withQt/{kind}"], "Qt base64 + JSON", 3, nanoseconds)
+class Table:
+    def __init__(self):
+        self.rows = []
+
+    def add(self, what, ours, peer, peer_name, aim, text):
+        """`aim`: how many times less than the peer's ours is to be; None where there is none."""
+        met = "" if aim is None else f"{aim}" if peer / ours >= aim else f"{aim}, missed"
+        self.rows.append((what, text(ours), f"{text(peer)}, {peer_name}", f"{peer / ours:.1f}", met))
+
+    def note(self, what, ours, met=""):
+        self.rows.append((what, ours, "", "", met))
+
+    def markdown(self):
+        return "\n".join("| " + " | ".join(row) + " |" for row in (HEAD, ("---",) * len(HEAD), *self.rows))
+
+    def text(self):
+        rows = (HEAD, *self.rows)
+        widths = [max(len(row[i]) for row in rows) for i in range(len(HEAD))]
+        return "\n".join("  ".join(cell.ljust(width) for cell, width in zip(row, widths)).rstrip()
+                         for row in rows)
 
 
-def painting(table, folder, quick):
-    times = google_benchmark(folder / "paint_benchmark", 5 if quick else 15, "real_time")
-    row_peers = (("ScoreRow", "QML, RowLayout", 10), ("LeanScoreRow", "QML, anchors", 10),
-                 ("labels", "labels in a layout", 5))
-    info_peers = (("InfoWidget", "QML, anchors", 10), ("labels", "labels in a layout", 5))
-    kinds = (("same", "row", "one shopper's rows", "same", row_peers),
-             ("different", "row", "each row another shopper's", "different", row_peers),
-             ("declarative", "info widget", "declarative", "info", info_peers),
-             ("imperative", "info widget", "imperative", "info", info_peers))
-    for kind, widget, which, peers_kind, peers in kinds:
-        for surface, where in (("oursInPicture", "a picture"), ("oursInWindow", "a window's frame")):
-            for peer, name, goal in peers:
-                table.add(f"builder to painted {widget}, {where}, {which}", times[f"{surface}/{kind}"],
-                          times[f"{peer}/{peers_kind}"], name, goal, microseconds)
+def tokens(table, build, quick):
+    times = build.google_benchmark("token_benchmark", "cpu_time", statistics.median, "small", 5 if quick else 15)
+    table.add("token to figures", times["ours/small"], times["withQt/small"], "Qt's base64 and JSON", 3,
+              nanoseconds)
 
 
-def live_widgets(folder, kind, count):
-    out = subprocess.run([folder / "live_widgets", *kind, str(count)], check=True, capture_output=True)
-    return json.loads(out.stdout)
+def painting(table, build, quick):
+    times = build.google_benchmark("paint_benchmark", "real_time", statistics.median,
+                                   "ours|labels|LeanScoreRow|InfoWidget", 5 if quick else 15)
+    row, info = "builder to painted row", "builder to painted info widget"
+    qml, labels = ("QML", 10), ("labels in a layout", 5)
+    for what, ours, peer, (name, aim) in (
+            (f"{row}, a picture", "oursInPicture/same", "LeanScoreRow/same", qml),
+            ("the same", "oursInPicture/same", "labels/same", labels),
+            ("… each row another shopper's", "oursInPicture/different", "LeanScoreRow/different", qml),
+            ("the same", "oursInPicture/different", "labels/different", labels),
+            (f"{row}, a window's frame", "oursInWindow/same", "LeanScoreRow/same", qml),
+            ("… each row another shopper's", "oursInWindow/different", "LeanScoreRow/different", qml),
+            (f"{info}, a picture", "oursInPicture/declarative", "InfoWidget/info", qml),
+            ("the same", "oursInPicture/declarative", "labels/info", labels),
+            ("… the imperative one", "oursInPicture/imperative", "InfoWidget/info", qml),
+            (f"{info}, a window's frame", "oursInWindow/declarative", "InfoWidget/info", qml),
+            ("… the imperative one", "oursInWindow/imperative", "InfoWidget/info", qml)):
+        table.add(what, times[ours], times[peer], name, aim, microseconds)
 
 
-def memory(table, folder, quick):
-    row, counts = ("row", "ours"), (1000, 10000)
-    peers = {row: ((("row", "ScoreRow"), "QML, RowLayout", 5), (("row", "LeanScoreRow"), "QML, anchors", 5),
-                   (("row", "labels"), "labels in a layout", None))}
-    for form in ("declarative", "imperative"):
-        peers[form, "ours"] = ((("declarative", "InfoWidget"), "QML, anchors", 5),
-                               (("declarative", "labels"), "labels in a layout", None))
-    kinds = dict.fromkeys(kind for ours in peers for kind in (ours, *(peer[0] for peer in peers[ours])))
+def memory(table, build, quick):
+    kinds = (("row", "ours", 10000), ("row", "LeanScoreRow", 10000), ("row", "ours", 1000),
+             ("declarative", "ours", 1000), ("imperative", "ours", 1000), ("declarative", "InfoWidget", 1000))
     # The kinds take turns, so that what else the machine does meets all of them.
     runs = {}
     for _ in range(1 if quick else 3):
         for kind in kinds:
-            for count in counts if kind[0] == "row" else counts[:1]:
-                runs.setdefault((kind, count), []).append(live_widgets(folder, kind, count))
+            runs.setdefault(kind, []).append(build.live_widgets(*kind))
 
-    def median(kind, count, what):
-        return statistics.median(run[what] for run in runs[kind, count])
+    def median(kind):
+        return statistics.median(run["heap"] for run in runs[kind])
 
-    for ours, those in peers.items():
-        name = "row" if ours == row else f"{ours[0]} info widget"
-        for count in counts if ours == row else counts[:1]:
-            for peer, peer_name, goal in those:
-                for what in ("heap", "resident"):
-                    table.add(f"memory of a live {name}, of {count}, {what}", median(ours, count, what),
-                              median(peer, count, what), peer_name, goal, kilobytes)
+    many, peer, few, declarative, imperative, info = kinds
+    table.add("memory of a live row, of 10 000", median(many), median(peer), "QML", 5, kilobytes)
+    table.add("memory of a live info widget, of 1000", median(declarative), median(info), "QML", 5,
+              kilobytes)
+    table.add("… the imperative one", median(imperative), median(info), "QML", 5, kilobytes)
 
-    def growth(kind):
-        return median(kind, 10000, "heap") / median(kind, 1000, "heap")
+    def last_to_first(run):
+        tenth = len(run["chunks"]) // 10
+        return statistics.median(run["chunks"][-tenth:]) / statistics.median(run["chunks"][:tenth])
 
-    def last_to_first(kind):
-        ratios = []
-        for run in runs[kind, 10000]:
-            tenth = len(run["chunks"]) // 10
-            ratios.append(statistics.median(run["chunks"][-tenth:])
-                          / statistics.median(run["chunks"][:tenth]))
-        return statistics.median(ratios)
-
-    qml = ("row", "ScoreRow")
-    table.note("memory of a row among 10000 to one among 1000",
-               f"{growth(row):.2f} (QML {growth(qml):.2f})", "ok" if growth(row) < 1.1 else "missed")
-    table.note("time of the last thousand rows made to the first, of 10000",
-               f"{last_to_first(row):.2f} (QML {last_to_first(qml):.2f})",
-               "ok" if last_to_first(row) < 1.25 else "missed")
+    growth, slowing = median(many) / median(few), statistics.median(map(last_to_first, runs[many]))
+    met = growth <= 1.1 and slowing <= 1.25
+    table.note("10 000 rows to 1000: memory of each; the last thousand's time to the first's",
+               f"{growth:.2f}; {slowing:.2f}", "1.1; 1.25" if met else "1.1; 1.25, missed")
 
 
-def updates(table, folder):
-    """One row's update among a thousand. Returns whether it stayed with that row."""
-    run = subprocess.run([folder / "update_check"], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
-                         text=True)
-    for line in run.stdout.splitlines():
-        row = json.loads(line)
-        own, others = row["own"], row["others"]
-        counts = (f"own row {own[0]} evaluated, {own[2]} painted; the other {row['rows'] - 1} rows "
-                  f"{others[0]}, {others[2]}; at rest nothing" if row["idle"] else "not idle")
-        table.note(f"one row's update among {row['rows']}, {row['surface']}", counts,
-                   "ok" if run.returncode == 0 else "missed")
-    return run.returncode == 0
-
-
-def first_frame(program):
-    """Milliseconds from the start of the process to its first frame."""
-    read, write = os.pipe()
-    start = time.clock_gettime_ns(time.CLOCK_MONOTONIC)
-    child = os.posix_spawn(program, [program], os.environ,
-                           file_actions=[(os.POSIX_SPAWN_DUP2, write, 1), (os.POSIX_SPAWN_CLOSE, read)])
-    os.close(write)
-    with os.fdopen(read) as pipe:
-        moment = int(pipe.read())
-    os.waitpid(child, 0)
-    return (moment - start) / 1e6
-
-
-def starts(table, folder, quick):
+def starts(table, build, quick):
     times = {"start_ours": [], "start_qml": [], "start_bare": []}
     for _ in range(7 if quick else 25):
         for program, taken in times.items():
-            taken.append(first_frame(folder / program))
+            taken.append(build.start(program)[0])
     ours, qml, bare = (statistics.median(taken) for taken in times.values())
-    table.add("process start to first painted row, item in a window", ours, qml, "QML window", 2,
+    table.add("cold start: process start to a window's first frame, a row in it", ours, qml, "QML", 2,
               milliseconds)
-    table.note("… of which an empty window and Qt's list of the fonts", f"{milliseconds(bare)} for both")
+    table.add("… the row's share, without an empty window and Qt's list of fonts", ours - bare, qml - bare,
+              "QML", None, milliseconds)
 
 
-def overlays(table, folder, quick):
+def turns(count, runs):
+    """`count` turns of all of `runs`, each a name and a function."""
+    taken = {name: [] for name in runs}
+    for _ in range(count):
+        for name, run in runs.items():
+            taken[name].append(run())
+    return lambda name, state, what: statistics.median(run[state][what] for run in taken[name])
+
+
+def sheets(table, build, quick):
+    median = turns(3 if quick else 9, {
+        "motion": lambda: build.sheet("ours", "motion"), "still": lambda: build.sheet("ours", "still"),
+        "peer": lambda: build.sheet("qml", "still")})
+    for kind, what in (("motion", "tap to the sheet's first frame"),
+                       ("still", "tap to the sheet at rest, without motion")):
+        for state, when in (("cold", f"{what}, first time"), ("warm", "… every later time")):
+            table.add(when, median(kind, state, "first"), median("peer", state, "first"), "a popup in QML",
+                      None, milliseconds)
+
+
+def overlays(table, build, quick):
     """The first overlay beside a bare web view. Without the engine there is nothing to compare."""
-    runs = {"overlay_ours": [], "overlay_bare": []}
-    for _ in range(3 if quick else 9):
-        for program, taken in runs.items():
-            out = subprocess.run([folder / program], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
-            if out.returncode != 0:
-                table.note("tap to the overlay's first frame", "no web engine here")
-                return
-            taken.append(json.loads(out.stdout))
-
-    def median(program, state, what):
-        return statistics.median(run[state][what] for run in runs[program])
-
-    for state in ("cold", "warm"):
-        for what, name in (("overlay", "the sheet's first frame"), ("page", "the first frame with its page")):
-            table.add(f"tap to {name}, engine {state}", median("overlay_ours", state, what),
-                      median("overlay_bare", state, "page"), "bare web view", None, milliseconds)
+    try:
+        median = turns(3 if quick else 9, {
+            name: lambda name=name: json.loads(build.run(f"overlay_{name}")) for name in ("ours", "bare")})
+    except subprocess.CalledProcessError:
+        table.note("tap to the overlay's first frame", "no web engine here")
+        return
+    for what, state, shown in (("tap to the overlay's first frame, first time", "cold", "overlay"),
+                               ("tap to the frame with its page, first time", "cold", "page"),
+                               ("… every later time", "warm", "page")):
+        table.add(what, median("ours", state, shown), median("bare", state, "page"), "a bare web view", None,
+                  milliseconds)
 
 
-def size(table, folder):
-    """What the core adds to a program: a stripped one that builds a row and prints its tree."""
-    with tempfile.TemporaryDirectory() as scratch:
-        stripped = pathlib.Path(shutil.copy(folder / "core_only", scratch))
-        subprocess.run(["strip", stripped], check=True)
-        sections = subprocess.run(["size", "--format=sysv", stripped], check=True, capture_output=True,
-                                  text=True).stdout
-        file = stripped.stat().st_size
-    text = next(int(line.split()[1]) for line in sections.splitlines() if line.startswith(".text"))
-    table.note("a stripped program that links the core alone",
-               f"{kilobytes(file)}, {kilobytes(text)} of it code; fonts and pictures are in it")
+def sizes(table, build):
+    names = {"core": "size of the core, stripped, fonts and pictures in it", "engine": "… of the Qt engine",
+             "quick": "… of the Qt Quick surface", "widgets": "… of the Qt Widgets surface",
+             "qml": "… of the QML module", "web quick": "… of the web engine's component for Qt Quick",
+             "web widgets": "… of that for Qt Widgets"}
+    found = build.sizes()
+    for name, what in names.items():
+        table.note(what, kilobytes(found[name]) if name in found else "not built here")
+
+
+def updates_stay_put(build):
+    """Whether one row's update among a thousand touches that row alone."""
+    try:
+        build.run("update_check")
+    except subprocess.CalledProcessError as failure:
+        print(f"One row's update touched others:\n{failure.stdout}", file=sys.stderr)
+        return False
+    return True
 
 
 def main():
-    folder = pathlib.Path(sys.argv[1])
-    quick = "--quick" in sys.argv
+    build, quick = Build(sys.argv[1]), "--quick" in sys.argv
+    readme = pathlib.Path("README.md").resolve()
     table = Table()
-    tokens(table, folder, quick)
-    painting(table, folder, quick)
-    memory(table, folder, quick)
-    contained = updates(table, folder)
-    starts(table, folder, quick)
-    overlays(table, folder, quick)
-    size(table, folder)
-    table.print("--table" in sys.argv)
+    contained = updates_stay_put(build)
+    tokens(table, build, quick)
+    painting(table, build, quick)
+    memory(table, build, quick)
+    starts(table, build, quick)
+    sheets(table, build, quick)
+    overlays(table, build, quick)
+    sizes(table, build)
+    if "--readme" in sys.argv:
+        text, places = MARK.subn(lambda found: found[1] + table.markdown() + found[2], readme.read_text())
+        if places != 1:
+            sys.exit(f"bench: {readme} has no place for the table")
+        readme.write_text(text)
+    else:
+        print(table.markdown() if "--table" in sys.argv else table.text())
     return 0 if contained else 1
 
 

@@ -2,34 +2,12 @@
 // engine still to be loaded, the second time with all of it there. Prints after how many
 // milliseconds the sheet and the page were to be seen.
 
-#include <QKeyEvent>
-#include <QMouseEvent>
-
 #include "bench/BenchApplication.h"
 #include "bench/InfoSubject.h"
+#include "bench/Input.h"
 #include "bench/overlay/OverlayClock.h"
 #include "platform/uikit/URLOpener.h"
 #include "qt/quick/ViewItem.h"
-
-namespace {
-
-void sendTap(QQuickWindow& window, QPointF at) {
-  for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-    QMouseEvent event(type, at, window.mapToGlobal(at), Qt::LeftButton,
-                      type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton,
-                      Qt::NoModifier);
-    QCoreApplication::sendEvent(&window, &event);
-  }
-}
-
-void sendEscape(QQuickWindow& window) {
-  for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-    QKeyEvent event(type, Qt::Key_Escape, Qt::NoModifier);
-    QCoreApplication::sendEvent(&window, &event);
-  }
-}
-
-}  // namespace
 
 int main(int argc, char** argv) {
   using namespace quorix::bench;

@@ -1,0 +1,78 @@
+"""What the benchmark programs of one build say, as numbers."""
+
+import json
+import os
+import pathlib
+import shutil
+import subprocess
+import tempfile
+import time
+
+# What a host links or ships, as built: archives, and libraries that are loaded.
+COMPONENTS = {"core": "libQuorixWidgets.a", "engine": "libQuorixQt.a", "quick": "libQuorixQuick.a",
+              "widgets": "libQuorixQtWidgets.a", "qml": "libQuorixQml.a",
+              "web quick": "quorix/libQuorixWebQuick.so", "web widgets": "quorix/libQuorixWebWidgets.so"}
+
+
+class Build:
+    """The programs in `folder`/bench. They run there under a short name, since the length of a path moves
+    a program's stack, and with it how fast it runs."""
+
+    def __init__(self, folder):
+        self.folder = pathlib.Path(folder).resolve()
+
+    def has(self, program):
+        return (self.folder / "bench" / program).exists()
+
+    def run(self, program, *arguments):
+        return subprocess.run([f"./{program}", *arguments], cwd=self.folder / "bench", check=True,
+                              stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True).stdout
+
+    def google_benchmark(self, program, time_name, pick, only=".", repetitions=15, seconds=0.05):
+        """What `pick` picks of the times of each of `program`'s benchmarks, by name. They run in random order."""
+        out = self.run(program, "--benchmark_format=json", "--benchmark_enable_random_interleaving=true",
+                       f"--benchmark_filter={only}", f"--benchmark_repetitions={repetitions}",
+                       f"--benchmark_min_time={seconds}")
+        found = {}
+        for row in json.loads(out)["benchmarks"]:
+            if row["run_type"] == "iteration":
+                found.setdefault(row["run_name"].removesuffix("/manual_time"), []).append(row[time_name])
+        return {name: pick(taken) for name, taken in found.items()}
+
+    def live_widgets(self, of, made, count):
+        return json.loads(self.run("live_widgets", of, made, str(count)))
+
+    def sheet(self, made, motion):
+        """Openings "cold" and "warm", each with the "first" frame and the "work" in milliseconds."""
+        return json.loads(self.run("sheet_open", made, motion))
+
+    def start(self, program):
+        """Milliseconds from the start of the process to its first frame, and of processor time."""
+        os.chdir(self.folder / "bench")
+        read, write = os.pipe()
+        begin = time.clock_gettime_ns(time.CLOCK_MONOTONIC)
+        child = os.posix_spawn(f"./{program}", [program], os.environ,
+                               file_actions=[(os.POSIX_SPAWN_DUP2, write, 1), (os.POSIX_SPAWN_CLOSE, read)])
+        os.close(write)
+        with os.fdopen(read) as pipe:
+            moment = int(pipe.read())
+        used = os.wait4(child, 0)[2]
+        return (moment - begin) / 1e6, (used.ru_utime + used.ru_stime) * 1e3
+
+    def sizes(self):
+        """Bytes of each component as a shared library, stripped: an archive is linked whole."""
+        found = {}
+        for name, file in COMPONENTS.items():
+            built = self.folder / file
+            if not built.exists():
+                continue
+            with tempfile.TemporaryDirectory() as scratch:
+                library = pathlib.Path(scratch) / "library.so"
+                if built.suffix == ".a":
+                    subprocess.run(["c++", "-shared", "-o", library, "-Wl,--whole-archive", built,
+                                    "-Wl,--no-whole-archive"], check=True)
+                else:
+                    shutil.copy(built, library)
+                subprocess.run(["strip", library], check=True)
+                found[name] = library.stat().st_size
+        return found
