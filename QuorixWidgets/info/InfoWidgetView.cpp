@@ -15,6 +15,7 @@ using swiftui::Text;
 using swiftui::View;
 
 View title(const InfoWidgetViewModel& model) {
+  model.semiBoldFont();  // of the same family: registered, it is what bold text is drawn in
   const auto personal = model.getTitle();
   const Text text = personal ? personal->font(model.regularFont()) : model.getInfoTitle();
   return Conditional(personal.has_value(), text.foregroundColor(Color::defaultFontColor()));
