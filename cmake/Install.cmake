@@ -97,7 +97,7 @@ if(QUORIX_QT)
   set_target_properties(QuorixQmlPlugin PROPERTIES INSTALL_RPATH "${quorix_here}/../../..")
   install(TARGETS QuorixQmlPlugin LIBRARY DESTINATION ${qml_folder} COMPONENT qml)
   install(DIRECTORY ${PROJECT_BINARY_DIR}/qml/QuorixWidgets/ DESTINATION ${qml_folder} COMPONENT qml
-    FILES_MATCHING PATTERN qmldir PATTERN "*.qmltypes" PATTERN "designer/*")
+    FILES_MATCHING PATTERN qmldir PATTERN "*.qmltypes" PATTERN "*.metainfo" PATTERN "*.png")
 endif()
 foreach(component QuorixWebQuick QuorixWebWidgets)
   if(TARGET ${component})

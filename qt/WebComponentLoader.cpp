@@ -34,10 +34,13 @@ QString fileOf(const QString& name) {
 #else
   const QString file = QStringLiteral("lib") + name + QStringLiteral(".so");
 #endif
-  for (const QString& folder : WebComponentLoader::folders()) {
+  const QStringList folders = WebComponentLoader::folders();
+  for (const QString& folder : folders) {
     const QFileInfo found(folder + QLatin1Char('/') + file);
     if (found.isFile()) return found.absoluteFilePath();
   }
+  qCWarning(webLog, "there is no %s in %s", qUtf8Printable(file),
+            qUtf8Printable(folders.join(QStringLiteral(", "))));
   return {};
 }
 

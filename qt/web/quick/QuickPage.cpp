@@ -58,4 +58,9 @@ void QuickPage::windowAsked(const QUrl& address) {
       this, [this, address] { options_.onNewWindow(address); }, Qt::QueuedConnection);
 }
 
+void QuickPage::loadFailed(const QUrl& address, const QString& why) {
+  qCWarning(webLog, "%s was not loaded: %s",
+            qUtf8Printable(address.toDisplayString(QUrl::RemoveQuery)), qUtf8Printable(why));
+}
+
 }  // namespace quorix::qt

@@ -38,6 +38,7 @@ class QuickPage : public QObject, public WebPage {
   }
   Q_INVOKABLE bool mayNavigateTo(const QUrl& address) const;
   Q_INVOKABLE void windowAsked(const QUrl& address);
+  Q_INVOKABLE void loadFailed(const QUrl& address, const QString& why);
 
  private:
   explicit QuickPage(Options options);

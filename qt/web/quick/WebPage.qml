@@ -18,6 +18,9 @@ WebEngineView {
     }
 
     onNewWindowRequested: request => page.windowAsked(request.requestedUrl)
+    onLoadingChanged: info => {
+        if (info.status === WebEngineView.LoadFailedStatus) page.loadFailed(info.url, info.errorString);
+    }
     onNavigationRequested: request => {
         if (!page.mayNavigateTo(request.url)) request.reject();
     }

@@ -1,12 +1,14 @@
 #include "qt/web/widgets/QuietPage.h"
 
 #include <QAuthenticator>
+#include <QWebEngineLoadingInfo>
 #include <QWebEngineNewWindowRequest>
 #include <QWebEngineQuotaRequest>
 #include <QWebEngineRegisterProtocolHandlerRequest>
 #include <QWebEngineSettings>
 
 #include "platform/webkit/NavigationRules.h"
+#include "qt/WebLog.h"
 
 namespace quorix::qt {
 
@@ -15,6 +17,12 @@ QuietPage::QuietPage(QWebEngineProfile& profile, WebPage::Options options, QObje
   setBackgroundColor(options_.background);
   settle(options_.settings);
   refuseRequests();
+  connect(this, &QWebEnginePage::loadingChanged, this, [](const QWebEngineLoadingInfo& info) {
+    if (info.status() != QWebEngineLoadingInfo::LoadFailedStatus) return;
+    qCWarning(webLog, "%s was not loaded: %s",
+              qUtf8Printable(info.url().toDisplayString(QUrl::RemoveQuery)),
+              qUtf8Printable(info.errorString()));
+  });
   connect(this, &QWebEnginePage::newWindowRequested, this,
           [this](const QWebEngineNewWindowRequest& request) {
             // Not within the engine's own call: who is asked may do anything.
