@@ -10,7 +10,7 @@ namespace quorix::qt {
 namespace {
 
 QHash<const QObject*, AccessibleSurface*>& surfaces() {
-  static QHash<const QObject*, AccessibleSurface*> all;
+  static auto& all = *new QHash<const QObject*, AccessibleSurface*>;  // views may end last
   return all;
 }
 

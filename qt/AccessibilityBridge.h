@@ -20,7 +20,8 @@ class QUORIX_EXPORT AccessibilityBridge : public QObject, private QAccessible::A
 
   /// Answers for `object` from now on with `surface`, which must outlive it or be removed before.
   void add(QObject& object, AccessibleSurface& surface);
-  void remove(QObject& object);
+  /// Also when the application object is gone, which some views outlive.
+  static void remove(QObject& object);
   static AccessibleSurface* surfaceOf(const QObject* object);
 
   /// Something modal came over a window, or went.

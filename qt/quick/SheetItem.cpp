@@ -50,7 +50,7 @@ SheetItem::SheetItem(QQuickWindow& window)
       Qt::QueuedConnection);
 }
 
-SheetItem::~SheetItem() { AccessibilityBridge::instance()->remove(*this); }
+SheetItem::~SheetItem() { AccessibilityBridge::remove(*this); }
 
 const SheetItem* SheetItem::topmost(const QQuickWindow& window) {
   const SheetItem* found = nullptr;

@@ -35,7 +35,7 @@ ViewSurface::ViewSurface(ViewItem& item)
 
 ViewSurface::~ViewSurface() {
   WindowWatcher::remove(*this);
-  AccessibilityBridge::instance()->remove(item_);
+  AccessibilityBridge::remove(item_);
 }
 
 layout::Size ViewSurface::size() const { return {item_.width(), item_.height()}; }

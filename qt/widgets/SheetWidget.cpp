@@ -31,7 +31,7 @@ SheetWidget::SheetWidget(QWidget& window)
   windowResized();
 }
 
-SheetWidget::~SheetWidget() { AccessibilityBridge::instance()->remove(*this); }
+SheetWidget::~SheetWidget() { AccessibilityBridge::remove(*this); }
 
 const SheetWidget* SheetWidget::topmost(const QWidget& window) {
   const SheetWidget* found = nullptr;

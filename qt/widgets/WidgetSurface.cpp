@@ -42,7 +42,7 @@ WidgetSurface::WidgetSurface(ViewWidget& widget)
 WidgetSurface::~WidgetSurface() {
   dropRing();
   QObject::disconnect(windowState_);
-  AccessibilityBridge::instance()->remove(widget_);
+  AccessibilityBridge::remove(widget_);
 }
 
 layout::Size WidgetSurface::size() const {
