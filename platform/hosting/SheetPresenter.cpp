@@ -39,7 +39,7 @@ struct SheetPresenter::State final : ViewHost::Client {
   void contentChanged() {
     overlay.reset();
     panelAtRest.reset();
-    fitted = false;
+    textFit.contentChanged();
     ++panelRevision;
   }
   void presentationChanged() override {}  // the content of a sheet presents no sheet of its own
@@ -74,10 +74,8 @@ struct SheetPresenter::State final : ViewHost::Client {
     drag = 0;
   }
   const render::Scene& contentScene() {
-    const layout::Size area = {geometry.panelWidth(), restingHeight()};
-    const layout::EdgeInsets safeArea = {.bottom = geometry.bottomInset()};
-    if (!std::exchange(fitted, true)) textFit.fit(area, safeArea, geometry.largest());
-    return content.scene(area, safeArea);
+    return textFit.scene({geometry.panelWidth(), restingHeight()},
+                         {.bottom = geometry.bottomInset()}, geometry.largest());
   }
   void addPanel(render::Scene& to, const layout::Rect& frame);
   std::optional<layout::Rect> inWindow(const std::optional<layout::Rect>& frame) const {
@@ -102,7 +100,6 @@ struct SheetPresenter::State final : ViewHost::Client {
   bool motion = true;
   bool closing = false;
   bool closed = false;
-  bool fitted = false;  ///< the content's text size is one at which it fits
 };
 
 void SheetPresenter::State::close() {
@@ -113,7 +110,8 @@ void SheetPresenter::State::close() {
 
 /// The panel with its content, of which whatever fills it to both upper corners is cut as it is.
 void SheetPresenter::State::addPanel(render::Scene& to, const layout::Rect& frame) {
-  const graphics::RGBA color = colorOfPanel(content.environment().appearance);
+  to.appearance = contentScene().appearance;
+  const graphics::RGBA color = colorOfPanel(to.appearance);
   to.items.emplace_back(std::in_place_type<render::FillItem>,
                         render::FillItem{frame, color, SheetGeometry::cornerRadius});
   to.append(contentScene(), frame.origin);
@@ -179,11 +177,10 @@ bool SheetPresenter::advance(double seconds) { return state_->advance(seconds); 
 const render::Scene& SheetPresenter::scene() {
   State& state = *state_;
   if (state.overlay) return *state.overlay;
-  const render::Scene& content = state.contentScene();
 
+  state.contentScene();  // in the size that it ends up in, before its height is asked
   render::Scene overlay;
   overlay.size = state.geometry.window;
-  overlay.appearance = content.appearance;
   overlay.items.emplace_back(std::in_place_type<render::FillItem>,
                              render::FillItem{{{}, overlay.size}, shade(), 0});
   state.addPanel(overlay, state.panel());
@@ -200,10 +197,8 @@ graphics::RGBA SheetPresenter::shade() {
 const render::Scene& SheetPresenter::panel() {
   State& state = *state_;
   if (state.panelAtRest) return *state.panelAtRest;
-  const render::Scene& content = state.contentScene();
   render::Scene panel;
-  panel.size = content.size;
-  panel.appearance = content.appearance;
+  panel.size = state.contentScene().size;
   state.addPanel(panel, {{}, panel.size});
   state.panelAtRest = std::move(panel);
   return *state.panelAtRest;

@@ -36,6 +36,12 @@ void TextFit::setEnvironment(const swiftui::Environment& environment) {
 
 void TextFit::reset() { content_.setEnvironment(wanted_); }
 
+const render::Scene& TextFit::scene(layout::Size area, const layout::EdgeInsets& safeArea,
+                                    double tallest) {
+  if (!std::exchange(fits_, true)) fit(area, safeArea, tallest);
+  return content_.scene(area, safeArea);
+}
+
 void TextFit::fit(layout::Size area, const layout::EdgeInsets& safeArea, double tallest) {
   trying_ = true;
   swiftui::Environment environment = content_.environment();

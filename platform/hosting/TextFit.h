@@ -14,20 +14,26 @@ class TextFit {
 
   /// The user's settings.
   void setEnvironment(const swiftui::Environment& environment);
-  /// Begins again with the user's own size: another window, another content.
+  /// Begins again with the user's own size, for another window.
   void reset();
+  /// The content may no longer fit.
+  void contentChanged() { fits_ = false; }
 
-  /// Lowers the text size as far as it takes for content at rest in `area` less `safeArea`, which
-  /// could be `tallest` points high. Never raises it, so that it comes to an end.
-  void fit(layout::Size area, const layout::EdgeInsets& safeArea, double tallest);
+  /// The scene of content at rest in `area` less `safeArea`, which could be `tallest` points high,
+  /// in a text size at which it fits. While the window stays as it is the size is only ever
+  /// lowered: a sheet asks for its height anew after each change, and that has to come to an end.
+  const render::Scene& scene(layout::Size area, const layout::EdgeInsets& safeArea, double tallest);
 
   /// A text size is being tried out: what the content has to say of that is no news.
   bool isTrying() const { return trying_; }
 
  private:
+  void fit(layout::Size area, const layout::EdgeInsets& safeArea, double tallest);
+
   ViewHost& content_;
   swiftui::Environment wanted_;
   bool trying_ = false;
+  bool fits_ = false;
 };
 
 }  // namespace quorix::hosting

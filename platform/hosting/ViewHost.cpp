@@ -20,13 +20,6 @@ struct Area {
   layout::Size size;
   layout::EdgeInsets insets;
   bool operator==(const Area&) const = default;
-
-  layout::SafeArea safe() const {
-    return {{{insets.leading, insets.top},
-             {std::max(0.0, size.width - insets.leading - insets.trailing),
-              std::max(0.0, size.height - insets.top - insets.bottom)}},
-            insets};
-  }
 };
 
 }  // namespace
@@ -106,7 +99,7 @@ void ViewHost::State::changed() {
 
 void ViewHost::State::layOut(const Area& within) {
   swiftui::Evaluation& latest = evaluated();
-  const layout::SafeArea safe = within.safe();
+  const auto safe = layout::SafeArea::within(within.size, within.insets);
   layout::Layout pass(engine, environment.scale, safe);
   const layout::ProposedSize proposal = {safe.frame.size.width, safe.frame.size.height};
   const layout::Size chosen = pass.measure(latest.root, proposal);

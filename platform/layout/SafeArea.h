@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+
 #include "platform/layout/Geometry.h"
 
 namespace quorix::layout {
@@ -9,6 +11,14 @@ namespace quorix::layout {
 struct SafeArea {
   Rect frame;
   EdgeInsets insets;
+
+  /// Of a surface of `size`; nothing is left where the insets meet.
+  static SafeArea within(Size size, const EdgeInsets& insets) {
+    return {{{insets.leading, insets.top},
+             {std::max(0.0, size.width - insets.leading - insets.trailing),
+              std::max(0.0, size.height - insets.top - insets.bottom)}},
+            insets};
+  }
 
   /// How far `rect` may go on beyond those of `edges` at which it reaches the area's own.
   EdgeInsets beyond(const Rect& rect, Edges edges) const {

@@ -80,14 +80,18 @@ std::optional<std::string> oversights(const std::string& document) {
   return text;
 }
 
+URLResponse serviceAnswer(const std::optional<std::string>& document) {
+  if (document) return {{}, *document, 200};
+  return {foundation::Error{"quorix", 1, "the tool has no network"}, {}, 0};
+}
+
 bool fetchTranslations(const swiftui::View& view, const std::optional<std::string>& document) {
   std::atomic<bool> asked = false;
   const auto fence = URL::parse(std::string(modulesServiceBaseURL) + "/fence");
   const auto protocol =
       URLSession::shared().registerProtocol([&](const URL& url) -> std::optional<URLResponse> {
         if (url != *fence) asked = true;
-        if (document) return URLResponse{{}, *document, 200};
-        return URLResponse{foundation::Error{"quorix", 1, "the tool has no network"}, {}, 0};
+        return serviceAnswer(document);
       });
   BlindSurface surface;
   hosting::ViewHost host(qt::QtTextEngine::shared(), surface);

@@ -4,6 +4,7 @@
 #include <string>
 #include <variant>
 
+#include "platform/foundation/URLSession.h"
 #include "platform/swiftui/View.h"
 #include "tools/quorix/Failure.h"
 
@@ -17,9 +18,13 @@ std::variant<std::string, Failure> readTranslations(const std::string& path);
 /// and keys that it never asks for. Nothing when all is well.
 std::optional<std::string> oversights(const std::string& document);
 
+/// What the modules service answers: `document`, or without one that it can't be reached. Nothing
+/// the tool does ever goes to the network.
+foundation::URLResponse serviceAnswer(const std::optional<std::string>& document);
+
 /// Puts `view` on screen until it has fetched its translations and taken them over. `document` is
-/// what the modules service answers; without one it can't be reached, and nothing ever goes to the
-/// network. Returns whether the view asked for translations. Needs the engine; main thread.
+/// what the modules service answers with. Returns whether the view asked for translations. Needs
+/// the engine; main thread.
 bool fetchTranslations(const swiftui::View& view, const std::optional<std::string>& document);
 
 }  // namespace quorix::tool

@@ -9,10 +9,29 @@
 
 namespace quorix::tool {
 
-/// The options of every command that shows a widget; `WidgetRequest` reads them.
+// Of every command in which a user looks at a widget; `WidgetLook` reads them.
+inline constexpr Option localeOption{"--locale", "CODE",
+                                     "Language code of the texts (default en)."};
+inline constexpr Option sheetOption{"--sheet", "", "Opens the sheet, as a tap on the widget does."};
+inline constexpr Option appearanceOption{"--appearance", "NAME", "light or dark (default light)."};
+inline constexpr Option textSizeOption{
+    "--text-size", "NAME",
+    "The user's text size; names below (default large). Only the\nfaces "
+    "given with the next two options follow it."};
+inline constexpr Option regularFontOption{
+    "--regular-font", "FACE",
+    "Name of a face, or a font file, for regular text (default the\n"
+    "library's own)."};
+inline constexpr Option semiBoldFontOption{"--semi-bold-font", "FACE",
+                                           "Likewise for emphasised text."};
+inline constexpr Option directionOption{"--direction", "NAME",
+                                        "ltr or rtl (default that of the locale's script)."};
+
+/// The options of every command that shows a widget as a picture or in words; `WidgetRequest` reads
+/// them.
 inline constexpr auto widgetOptions = std::to_array<Option>({
-    {"--locale", "CODE", "Language code of the texts (default en)."},
-    {"--sheet", "", "Opens the sheet, as a tap on the widget does."},
+    localeOption,
+    sheetOption,
     {"--out", "FILE.png", "Writes the picture."},
     {"--tree", "", "Prints the view tree: every element and what it was told."},
     {"--frames", "",
@@ -29,15 +48,11 @@ inline constexpr auto widgetOptions = std::to_array<Option>({
      "Height, 1 to 10000 (default what the widget needs, with\n--sheet twice the "
      "width)."},
     {"--scale", "FACTOR", "Pixels for each point, 0.5 to 10 (default 1)."},
-    {"--appearance", "NAME", "light or dark (default light)."},
-    {"--text-size", "NAME",
-     "The user's text size; names below (default large). Only the\nfaces "
-     "given with the next two options follow it."},
-    {"--regular-font", "FACE",
-     "Name of a face, or a font file, for regular text (default the\n"
-     "library's own)."},
-    {"--semi-bold-font", "FACE", "Likewise for emphasised text."},
-    {"--direction", "NAME", "ltr or rtl (default that of the locale's script)."},
+    appearanceOption,
+    textSizeOption,
+    regularFontOption,
+    semiBoldFontOption,
+    directionOption,
 });
 
 /// What help says below them.

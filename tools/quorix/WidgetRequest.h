@@ -5,18 +5,16 @@
 
 #include "qt/PictureOptions.h"
 #include "tools/quorix/OptionReader.h"
+#include "tools/quorix/WidgetLook.h"
 
 namespace quorix::tool {
 
 /// What every command that shows a widget is asked: how the widget is to look, and in which forms
 /// it is wanted.
-struct WidgetRequest {
-  std::string locale;
-  std::optional<std::string> regularFont;   ///< a name or a font file
-  std::optional<std::string> semiBoldFont;  ///< likewise
-  qt::PictureOptions picture;
+struct WidgetRequest : WidgetLook {
+  qt::PictureOptions picture = {};
 
-  std::optional<std::string> out;  ///< a file
+  std::optional<std::string> out = {};  ///< a file
   bool tree = false;
   bool frames = false;
   bool accessibility = false;
@@ -24,9 +22,6 @@ struct WidgetRequest {
 
   /// What `widgetOptions` were given. What is wrong with them, `read` remembers.
   static WidgetRequest from(OptionReader& read);
-
-  /// Replaces faces that were given as files by their names. Needs an application object.
-  std::optional<Failure> findFaces();
 };
 
 }  // namespace quorix::tool

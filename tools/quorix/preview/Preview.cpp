@@ -21,9 +21,6 @@
 namespace quorix::tool {
 namespace {
 
-using foundation::URL;
-using foundation::URLResponse;
-
 constexpr const char* kPlaces = "QUORIX_PREVIEW_PLACES";  // of the windows, kept over a start anew
 
 QStringList watched(const PreviewChoices& choices) {
@@ -42,13 +39,11 @@ QStringList languages() {
   return codes;
 }
 
-/// The modules service's part: the file as it is at the moment, or no network.
-std::optional<URLResponse> answer(const std::optional<std::string>& file) {
-  if (file) {
-    auto bytes = readInputFile(*file);
-    if (auto* text = std::get_if<std::string>(&bytes)) return URLResponse{{}, *text, 200};
-  }
-  return URLResponse{foundation::Error{"quorix", 1, "the tool has no network"}, {}, 0};
+/// The file as it is at the moment.
+std::optional<std::string> textOf(const std::optional<std::string>& file) {
+  auto bytes = file ? readInputFile(*file) : Failure::refused("");
+  auto* text = std::get_if<std::string>(&bytes);
+  return text ? std::optional(std::move(*text)) : std::nullopt;
 }
 
 /// What is wrong with the string table in `file`; empty when nothing is.
@@ -77,7 +72,9 @@ bool isReadAgain(const QString& file) {
 Preview::Preview(const PreviewChoices& choices)
     : controls_(choices, languages()), files_(watched(choices)) {
   translations_ = foundation::URLSession::shared().registerProtocol(
-      [file = choices.translations](const URL&) { return answer(file); });
+      [file = choices.translations](const foundation::URL&) {
+        return serviceAnswer(textOf(file));
+      });
   pictureDue_.setSingleShot(true);
   pictureDue_.setInterval(50);  // milliseconds
   connect(&controls_, &PreviewControls::chosen, this, &Preview::refresh);

@@ -1,17 +1,15 @@
 #include "tools/quorix/preview/PreviewChoices.h"
 
-#include <QLocale>
 #include <algorithm>
 #include <array>
 
 #include "examples/common/TokenMint.h"
 #include "tools/quorix/OptionReader.h"
 #include "tools/quorix/TokenInput.h"
+#include "tools/quorix/WidgetOptions.h"
 
 namespace quorix::tool {
 namespace {
-
-using layout::LayoutDirection;
 
 constexpr auto table = std::to_array<Option>({
     {"--widget", "NAME", "score, info or imperative (default score)."},
@@ -21,7 +19,7 @@ constexpr auto table = std::to_array<Option>({
     {"--shopper", "NAME",
      "own, discount, none, yen, kronor or unreadable (default own with\n"
      "--token, else discount)."},
-    {"--locale", "CODE", "Language code of the texts (default en)."},
+    localeOption,
     {"--translations", "FILE.json",
      "Replaces the score widget's texts, as a fetched table would, and\n"
      "is followed."},
@@ -29,15 +27,13 @@ constexpr auto table = std::to_array<Option>({
      "String tables (en.lproj/Localizable.strings), assets and interface\n"
      "files that replace the library's own, file by file, and are\n"
      "followed."},
-    {"--appearance", "NAME", "light or dark (default light)."},
-    {"--text-size", "NAME", "The user's text size, as in \"quorix score --help\"."},
-    {"--regular-font", "FACE",
-     "Name of a face, or a font file, for regular text (default the\n"
-     "library's own)."},
-    {"--semi-bold-font", "FACE", "Likewise for emphasised text."},
-    {"--direction", "NAME", "ltr or rtl (default that of the locale's script)."},
+    appearanceOption,
+    textSizeOption,
+    regularFontOption,
+    semiBoldFontOption,
+    directionOption,
     {"--width", "POINTS", "Width of the screen, 240 to 1024 (default 375)."},
-    {"--sheet", "", "Opens the sheet, as a tap on the widget does."},
+    sheetOption,
     {"--out", "FILE.png", "Writes a picture of the screen each time that it changes."},
 });
 
@@ -75,25 +71,11 @@ const std::span<const Option> PreviewChoices::options = table;
 
 std::variant<PreviewChoices, Failure> PreviewChoices::read(const Arguments& arguments) {
   OptionReader read(arguments);
-  PreviewChoices choices;
+  PreviewChoices choices{WidgetLook::from(read)};
   choices.widget = static_cast<Widget>(
       read.choice("--widget", {widgetNames[0], widgetNames[1], widgetNames[2]}).value_or(0));
-  choices.locale = read.text("--locale", choices.locale);
   choices.translations = read.optionalText("--translations");
   choices.resources = read.optionalText("--resources");
-  choices.regularFont = read.optionalText("--regular-font");
-  choices.semiBoldFont = read.optionalText("--semi-bold-font");
-  if (read.choice("--appearance", {"light", "dark"}) == 1) {
-    choices.appearance = graphics::Appearance::dark;
-  }
-  const std::string size = read.text("--text-size", "large");
-  const auto category = swiftui::contentSizeCategoryNamed(size);
-  if (!category) read.fail("--text-size knows no \"" + size + '"');
-  choices.textSize = category.value_or(choices.textSize);
-  if (const auto direction = read.choice("--direction", {"ltr", "rtl"})) {
-    choices.direction =
-        *direction == 1 ? LayoutDirection::rightToLeft : LayoutDirection::leftToRight;
-  }
   choices.width = static_cast<int>(read.number("--width", choices.width, {narrowest, widest}));
   choices.sheet = read.has("--sheet");
   choices.out = read.optionalText("--out");
@@ -121,18 +103,12 @@ QStringList PreviewChoices::toWords() const {
   addIf("--semi-bold-font", semiBoldFont);
   add("--appearance", appearance == graphics::Appearance::dark ? "dark" : "light");
   add("--text-size", nameOf(textSize));
-  if (direction) add("--direction", *direction == LayoutDirection::rightToLeft ? "rtl" : "ltr");
+  if (direction)
+    add("--direction", *direction == layout::LayoutDirection::rightToLeft ? "rtl" : "ltr");
   add("--width", std::to_string(width));
   if (sheet) words << QStringLiteral("--sheet");
   addIf("--out", out);
   return words;
-}
-
-layout::LayoutDirection PreviewChoices::readingDirection() const {
-  if (direction) return *direction;
-  const QLocale language(QString::fromStdString(locale));
-  return language.textDirection() == Qt::RightToLeft ? LayoutDirection::rightToLeft
-                                                     : LayoutDirection::leftToRight;
 }
 
 }  // namespace quorix::tool

@@ -7,15 +7,13 @@
 #include <variant>
 #include <vector>
 
-#include "platform/graphics/RGBA.h"
-#include "platform/layout/Geometry.h"
-#include "platform/swiftui/ContentSizeCategory.h"
 #include "tools/quorix/Arguments.h"
+#include "tools/quorix/WidgetLook.h"
 
 namespace quorix::tool {
 
 /// What a preview shows, as its controls stand.
-struct PreviewChoices {
+struct PreviewChoices : WidgetLook {
   enum class Widget { score, info, imperative };
 
   /// What a control offers: a name for the command line, and one for the eye.
@@ -27,20 +25,14 @@ struct PreviewChoices {
 
   Widget widget = Widget::score;
   std::size_t shopper = 0;  ///< of `shoppers`
-  std::string locale = "en";
-  graphics::Appearance appearance = graphics::Appearance::light;
-  swiftui::ContentSizeCategory textSize = swiftui::ContentSizeCategory::large;
-  std::optional<layout::LayoutDirection> direction;  ///< absent: the language's
-  int width = 375;                                   ///< points, margins included
+  int width = 375;          ///< points, margins included
   bool sheet = false;
 
   // Given on the command line for good.
-  std::vector<Shopper> shoppers;
-  std::optional<std::string> regularFont;
-  std::optional<std::string> semiBoldFont;
-  std::optional<std::string> translations;  ///< a file
-  std::optional<std::string> resources;     ///< a folder
-  std::optional<std::string> out;           ///< a file
+  std::vector<Shopper> shoppers = {};
+  std::optional<std::string> translations = {};  ///< a file
+  std::optional<std::string> resources = {};     ///< a folder
+  std::optional<std::string> out = {};           ///< a file
 
   static constexpr int narrowest = 240;
   static constexpr int widest = 1024;
@@ -50,8 +42,6 @@ struct PreviewChoices {
 
   /// The options that make these choices again.
   QStringList toWords() const;
-
-  layout::LayoutDirection readingDirection() const;
 };
 
 }  // namespace quorix::tool

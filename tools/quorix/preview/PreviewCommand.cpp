@@ -4,9 +4,9 @@
 
 #include "QuorixWidgets/localization/ResourceBundle.h"
 #include "qt/Engine.h"
-#include "tools/quorix/Faces.h"
 #include "tools/quorix/QuietQt.h"
 #include "tools/quorix/Translations.h"
+#include "tools/quorix/WidgetOptions.h"
 #include "tools/quorix/preview/LayeredBundle.h"
 #include "tools/quorix/preview/Preview.h"
 #include "tools/quorix/preview/PreviewChoices.h"
@@ -22,16 +22,6 @@ std::optional<Failure> layResources(const std::optional<std::string>& folder) {
   if (!upper) return Failure::refused("can't read the folder " + *folder);
   Bundle::registerBundle(kResourceBundleIdentifier,
                          std::make_shared<LayeredBundle>(upper, Bundle::embedded()));
-  return std::nullopt;
-}
-
-std::optional<Failure> findFaces(PreviewChoices& choices) {
-  for (auto* face : {&choices.regularFont, &choices.semiBoldFont}) {
-    if (!*face) continue;
-    auto found = usableFace(**face);
-    if (auto* failure = std::get_if<Failure>(&found)) return *failure;
-    *face = std::get<std::string>(std::move(found));
-  }
   return std::nullopt;
 }
 
@@ -52,7 +42,7 @@ Outcome preview(const Arguments& arguments) {
   int argc = 1;
   QApplication application(argc, argv);
   qt::installEngine();
-  if (const auto failure = findFaces(choices)) return *failure;
+  if (const auto failure = choices.findFaces()) return *failure;
   Preview window(choices);
   window.open();
   QApplication::exec();
@@ -69,7 +59,7 @@ const Command previewCommand{
         "Texts are not fetched: they are the built-in ones or those of a file.",
     .options = PreviewChoices::options,
     .operand = {},
-    .details = {},
+    .details = widgetDetails,
     .example = "quorix preview --locale es --resources QuorixWidgets/resources",
     .run = preview,
 };
