@@ -5,7 +5,7 @@
 
 #include "QuorixWidgets/info/InfoTitle.h"
 #include "QuorixWidgets/info/InfoWidgetBuilder.h"
-#include "QuorixWidgets/localization/LocalizedString.h"
+#include "QuorixWidgets/localization/Strings.h"
 #include "bench/LabelsInfo.h"
 #include "bench/Palette.h"
 #include "platform/swiftui/UIViewRepresentable.h"

@@ -2,8 +2,7 @@
 
 #include <cstdlib>
 
-#include "QuorixWidgets/localization/Color.h"
-#include "QuorixWidgets/localization/ColorResource.h"
+#include "QuorixWidgets/localization/Assets.h"
 
 namespace quorix::bench {
 namespace {

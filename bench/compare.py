@@ -36,6 +36,11 @@ def amounts(build):
     return found | {f"size, {name}": size for name, size in build.sizes().items()}
 
 
+def counts(build):
+    """Empty for a revision from before there was something to count."""
+    return build.counts() if build.has("counted_picture") else {}
+
+
 def compare_times(before, now, rounds):
     taken = {before: [], now: []}
     for number in range(rounds):
@@ -51,23 +56,24 @@ def compare_times(before, now, rounds):
         yield name, f"{old:.2f} µs", f"{new:.2f} µs", middle, f"{low:.3f} to {high:.3f}", verdict
 
 
-def compare_amounts(before, now):
+def compare_amounts(before, now, amounts, unit):
     old, new = amounts(before), amounts(now)
-    for name in sorted(new.keys() & old.keys()):
+    for name in (name for name in new if name in old):
         ratio = new[name] / old[name]
         verdict = "larger" if ratio > LARGER else "smaller" if ratio < 1 / LARGER else ""
-        yield name, f"{old[name]:.0f} B", f"{new[name]:.0f} B", ratio, "", verdict
+        yield name, f"{old[name]:.0f}{unit}", f"{new[name]:.0f}{unit}", ratio, "", verdict
 
 
 def main():
     before, now = Build(sys.argv[1]), Build(sys.argv[2])
     os.environ["QT_HASH_SEED"] = "0"
     os.sched_setaffinity(0, {max(os.sched_getaffinity(0))})
-    rows = [*compare_amounts(before, now),
+    # Counts are the same in every load, so they come first.
+    rows = [*compare_amounts(before, now, counts, ""), *compare_amounts(before, now, amounts, " B"),
             *compare_times(before, now, 16 if "--quick" in sys.argv else 40)]
     for name, old, new, ratio, spread, verdict in (("", "before", "now", "ratio", "surely", ""), *rows):
         ratio = ratio if isinstance(ratio, str) else f"{ratio:.3f}"
-        print(f"{name:24} {old:>12} {new:>12} {ratio:>6}  {spread:16} {verdict}".rstrip())
+        print(f"{name:44} {old:>12} {new:>12} {ratio:>6}  {spread:16} {verdict}".rstrip())
     worse = [row for row in rows if row[-1] in ("slower", "larger")]
     for name, old, new, ratio, _, verdict in worse:
         print(f"bench: {name} is {verdict}: {old} before, {new} now, {ratio:.3f} times", file=sys.stderr)

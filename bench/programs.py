@@ -3,6 +3,7 @@
 import json
 import os
 import pathlib
+import re
 import shutil
 import subprocess
 import tempfile
@@ -12,6 +13,12 @@ import time
 COMPONENTS = {"core": "libQuorixWidgets.a", "engine": "libQuorixQt.a", "quick": "libQuorixQuick.a",
               "widgets": "libQuorixQtWidgets.a", "qml": "libQuorixQml.a",
               "web quick": "quorix/libQuorixWebQuick.so", "web widgets": "quorix/libQuorixWebWidgets.so"}
+
+# The programs that do one thing again and again, to be counted.
+COUNTED = {"the core's pass over a row": ("core_pass",),
+           "builder to a row's picture": ("counted_picture", "same"),
+           "… each row another shopper's": ("counted_picture", "different")}
+COUNTED_CALLS = 500
 
 
 class Build:
@@ -58,6 +65,23 @@ class Build:
             moment = int(pipe.read())
         used = os.wait4(child, 0)[2]
         return (moment - begin) / 1e6, (used.ru_utime + used.ru_stime) * 1e3
+
+    def counts(self):
+        """What does not depend on the machine's load, by what was counted: allocations and, where valgrind is
+        there, instructions, of one call."""
+        found = {}
+        for name, program in COUNTED.items():
+            found[f"{name}, allocations"] = json.loads(self.run(*program, str(COUNTED_CALLS)))["allocations"]
+            if shutil.which("valgrind"):
+                few, many = (self.instructions(*program, str(calls)) for calls in (0, COUNTED_CALLS))
+                found[f"{name}, instructions"] = (many - few) / COUNTED_CALLS
+        return found
+
+    def instructions(self, program, *arguments):
+        told = subprocess.run(["valgrind", "--tool=callgrind", "--callgrind-out-file=/dev/null", f"./{program}",
+                               *arguments], cwd=self.folder / "bench", check=True, stdout=subprocess.DEVNULL,
+                              stderr=subprocess.PIPE, text=True).stderr
+        return int(re.search(r"Collected : (\d+)", told)[1])
 
     def sizes(self):
         """Bytes of each component as a shared library, stripped: an archive is linked whole."""

@@ -13,7 +13,8 @@ import sys
 
 from programs import Build
 
-HEAD = ("what", "ours", "peer", "times less", "aim")
+HEAD = ("what", "ours", "peer", "ratio (peer ÷ ours)", "aim")
+COUNT_AIMS = ((25, 30_000), (60, 75_000), (110, 185_000))  # allocations, instructions
 MARK = re.compile(r"(<!-- bench -->\n).*?(\n<!-- /bench -->)", re.DOTALL)
 
 
@@ -53,6 +54,13 @@ class Table:
         widths = [max(len(row[i]) for row in rows) for i in range(len(HEAD))]
         return "\n".join("  ".join(cell.ljust(width) for cell, width in zip(row, widths)).rstrip()
                          for row in rows)
+
+
+def counted(table, build):
+    found = list(build.counts().items())
+    for (name, amount), aim in zip(found, [aim for pair in COUNT_AIMS for aim in pair] if len(found) == 6 else
+                                   [pair[0] for pair in COUNT_AIMS]):
+        table.note(name, f"{amount:,.0f}", f"{aim:,}" if amount <= aim else f"{aim:,}, missed")
 
 
 def tokens(table, build, quick):
@@ -181,6 +189,7 @@ def main():
     readme = pathlib.Path("README.md").resolve()
     table = Table()
     contained = updates_stay_put(build)
+    counted(table, build)
     tokens(table, build, quick)
     painting(table, build, quick)
     memory(table, build, quick)

@@ -4,6 +4,7 @@
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
+set(quorix_licences_folder ${CMAKE_INSTALL_DATADIR}/doc/libquorixwidgets${quorix_series})
 set(quorix_cmake_folder ${CMAKE_INSTALL_LIBDIR}/cmake/QuorixWidgets)
 set(quorix_config_components "")
 
@@ -29,7 +30,7 @@ macro(quorix_install_library target name component)
 endmacro()
 
 # quorix_install_pkgconfig(FILE TARGET DESCRIPTION REQUIRES REQUIRES_PRIVATE): FILE.pc. What is private to
-# a shared library is needed to link a static one.
+# a shared library is needed to link a static one. Our own libraries go together in one version.
 function(quorix_install_pkgconfig file target description requires requires_private)
   file(RELATIVE_PATH up /prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig /prefix)
   string(REGEX REPLACE "/$" "" up "${up}")
@@ -62,10 +63,10 @@ endfunction()
 quorix_install_library(QuorixWidgets QuorixWidgets core)
 quorix_install_pkgconfig(quorixwidgets QuorixWidgets "Return standing widgets, without a surface"
   "" "icu-i18n icu-uc simdjson freetype2 pugixml")
-install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT core)
+install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${quorix_licences_folder} COMPONENT core)
 file(GLOB quorix_font_licences
   ${PROJECT_SOURCE_DIR}/QuorixWidgets/resources/Assets.xcassets/Fonts/OFL-*.txt)
-install(FILES ${quorix_font_licences} DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT core)
+install(FILES ${quorix_font_licences} DESTINATION ${quorix_licences_folder} COMPONENT core)
 
 if(QUORIX_QT)
   set(dbus "")
@@ -77,17 +78,17 @@ if(QUORIX_QT)
   quorix_install_library(QuorixQuick Quick qt NEEDS Qt QT Quick)
   quorix_install_library(QuorixQtWidgets QtWidgets qt NEEDS Qt QT Widgets)
   quorix_install_pkgconfig(quorixwidgets-qt QuorixQt "Return standing widgets as pictures"
-    "quorixwidgets Qt6Gui" "Qt6Network Qt6Svg ${dbus_package}")
+    "quorixwidgets = ${PROJECT_VERSION} Qt6Gui" "Qt6Network Qt6Svg ${dbus_package}")
   quorix_install_pkgconfig(quorixwidgets-quick QuorixQuick
-    "Return standing widgets in Qt Quick windows" "quorixwidgets-qt Qt6Quick" "")
+    "Return standing widgets in Qt Quick windows" "quorixwidgets-qt = ${PROJECT_VERSION} Qt6Quick" "")
   quorix_install_pkgconfig(quorixwidgets-qtwidgets QuorixQtWidgets
-    "Return standing widgets among Qt Widgets" "quorixwidgets-qt Qt6Widgets" "")
+    "Return standing widgets among Qt Widgets" "quorixwidgets-qt = ${PROJECT_VERSION} Qt6Widgets" "")
 
   # The module's folder is for tools, and for programs that load its plugin; those that link the module
   # compile one source.
   quorix_install_library(QuorixQml Qml qml NEEDS Qt Quick QT Qml)
   quorix_install_pkgconfig(quorixwidgets-qml QuorixQml
-    "Return standing widgets for QML" "quorixwidgets-quick Qt6Qml" "")
+    "Return standing widgets for QML" "quorixwidgets-quick = ${PROJECT_VERSION} Qt6Qml" "")
   set(qml_sources_folder ${CMAKE_INSTALL_DATADIR}/quorixwidgets)
   target_sources(QuorixQml INTERFACE
     $<INSTALL_INTERFACE:${qml_sources_folder}/LinkModule.cpp>)
@@ -114,7 +115,7 @@ configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/QuorixWidgetsConfig.cm
   ${PROJECT_BINARY_DIR}/QuorixWidgetsConfig.cmake INSTALL_DESTINATION ${quorix_cmake_folder}
   PATH_VARS CMAKE_INSTALL_LIBDIR)
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/QuorixWidgetsConfigVersion.cmake
-  COMPATIBILITY SameMajorVersion)
+  COMPATIBILITY ${quorix_compatibility})
 install(FILES ${PROJECT_BINARY_DIR}/QuorixWidgetsConfig.cmake
   ${PROJECT_BINARY_DIR}/QuorixWidgetsConfigVersion.cmake
   DESTINATION ${quorix_cmake_folder} COMPONENT dev)

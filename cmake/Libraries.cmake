@@ -11,15 +11,30 @@ if(APPLE)
   set(quorix_here "@loader_path")
 endif()
 
+# Versions that are compatible share a series: until 1.0 a minor version may break hosts, afterwards
+# only a major version. The soname, find_package and the Debian packages' names follow it.
+if(PROJECT_VERSION_MAJOR EQUAL 0)
+  set(quorix_series ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
+  set(quorix_compatibility SameMinorVersion)
+else()
+  set(quorix_series ${PROJECT_VERSION_MAJOR})
+  set(quorix_compatibility SameMajorVersion)
+endif()
+
 # quorix_library(TARGET NAME SOURCE...): hosts link it as QuorixWidgets::NAME.
 function(quorix_library target name)
   add_library(${target} ${ARGN})
   add_library(QuorixWidgets::${name} ALIAS ${target})
   set_target_properties(${target} PROPERTIES
-    EXPORT_NAME ${name} VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
+    EXPORT_NAME ${name} VERSION ${PROJECT_VERSION} SOVERSION ${quorix_series}
     INSTALL_RPATH "${quorix_here}" BUILD_RPATH_USE_ORIGIN ON)
   target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>)
   target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:quorix_warnings>)
+  if(quorix_optimise)
+    target_compile_options(${target} PRIVATE -O2)
+  endif()
+  quorix_harden(${target})
+  quorix_unity(${target})
   if(NOT BUILD_SHARED_LIBS)
     target_compile_definitions(${target} PUBLIC QUORIX_STATIC)
   elseif(UNIX AND NOT APPLE AND NOT QUORIX_SANITIZE)

@@ -37,8 +37,9 @@ quorix_public_headers(QuorixWidgets
   QuorixWidgets/info/InfoWidgetBuilder.h
   QuorixWidgets/data/TokenData.h
   QuorixWidgets/data/UserDetails.h
-  QuorixWidgets/localization/QuorixFont.h
-  QuorixWidgets/localization/TovaFont.h
+  # The faces, and fonts of them for either toolkit.
+  QuorixWidgets/localization/Font.h
+  QuorixWidgets/localization/UIFont.h
   QuorixWidgets/localization/FontError.h
   # To show, print and lay out a view without one of our surfaces.
   platform/swiftui/UIViewRepresentable.h
@@ -46,6 +47,9 @@ quorix_public_headers(QuorixWidgets
   platform/hosting/ViewHost.h
   platform/hosting/SheetPresenter.h
   platform/render/ScenePrinter.h
+  # The host's own texts and looks.
+  QuorixWidgets/localization/ResourceBundle.h
+  platform/foundation/Bundle.h
   # What a host may put in the place of the system's.
   platform/foundation/MainQueue.h
   platform/foundation/URLSession.h

@@ -22,6 +22,7 @@ endforeach()
 
 qt_extract_metatypes(QuorixQuick)  # from which the types learn that a ViewItem is an item
 qt_add_plugin(QuorixQmlPlugin SHARED CLASS_NAME QuorixWidgetsPlugin)
+quorix_harden(QuorixQmlPlugin)
 qt_add_qml_module(QuorixQml
   URI QuorixWidgets
   VERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR}

@@ -1,12 +1,20 @@
 # The web engine, for each toolkit a library of its own that is loaded when the first page is to be
 # shown. They are installed into a folder "quorix" beside the other libraries; what else may hold them is
 # said at WebComponentLoader.
-if(QUORIX_WEB)
-  find_package(Qt6 6.4 QUIET OPTIONAL_COMPONENTS WebEngineQuick WebEngineWidgets)
+if(NOT QUORIX_WEB)
+  message(STATUS "QUORIX_WEB is off: overlays open their pages outside the app")
+  return()
 endif()
-if(NOT QUORIX_WEB OR NOT TARGET Qt6::WebEngineQuick)
+find_package(Qt6 6.4 QUIET OPTIONAL_COMPONENTS WebEngineQuick WebEngineWidgets)
+if(NOT TARGET Qt6::WebEngineQuick)
+  if(NOT QUORIX_WEB STREQUAL "AUTO")
+    message(FATAL_ERROR "QUORIX_WEB=${QUORIX_WEB} needs Qt WebEngine (scripts/install-packages web)")
+  endif()
   message(STATUS "No Qt WebEngine: overlays open their pages outside the app")
   return()
+endif()
+if(NOT TARGET Qt6::WebEngineWidgets)
+  message(STATUS "No Qt WebEngineWidgets: overlays of Qt Widgets open their pages outside the app")
 endif()
 
 function(add_web_component name folder)
@@ -17,6 +25,8 @@ function(add_web_component name folder)
     LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/quorix)
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
   target_link_libraries(${name} PRIVATE quorix_warnings Qt6::WebEngineQuick ${ARGN})
+  quorix_harden(${name})
+  quorix_unity(${name})
 endfunction()
 
 add_web_component(QuorixWebQuick quick)

@@ -12,7 +12,7 @@ foreach(file IN LISTS FILES)
   string(APPEND rows "    {\"${file}\", file${number}, ${size}},\n")
   math(EXPR number "${number} + 1")
 endforeach()
-file(WRITE ${TABLE} "#include \"platform/foundation/EmbeddedResources.h\"
+file(WRITE ${TABLE} "#include \"platform/foundation/BundleKinds.h\"
 
 namespace {
 ${arrays}

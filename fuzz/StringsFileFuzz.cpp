@@ -1,6 +1,6 @@
 #include <cstdint>
 
-#include "QuorixWidgets/localization/StringTableProblem.h"
+#include "QuorixWidgets/localization/Strings.h"
 #include "fuzz/Expect.h"
 #include "platform/foundation/StringsFile.h"
 

@@ -4,8 +4,11 @@
 #include <string>
 
 #include "QuorixWidgets/data/TokenData.h"
+#include "QuorixWidgets/score/ScoreWidgetBuilder.h"
 #include "fuzz/Expect.h"
 #include "platform/foundation/Base64.h"
+#include "platform/hosting/ViewHost.h"
+#include "tests/core/FixedWidthText.h"
 
 using namespace quorix;
 
@@ -38,8 +41,29 @@ std::string minted(const TokenData& data) {
          ".s";
 }
 
+struct Surface final : hosting::ViewHost::Client {
+  void viewNeedsDisplay() override {}
+  void presentationChanged() override {}
+};
+
+/// What a shop does with the token that it was sent.
+void show(std::string_view token, bool isRead) {
+  testing::FixedWidthText text;
+  Surface surface;
+  hosting::ViewHost host(text, surface);
+  host.setRoot(ScoreWidgetBuilder::buildSwiftUIScoreWidgetView("shop", "en", token,
+                                                               {std::nullopt, std::nullopt}));
+  host.setOnScreen(true);
+  const layout::Size size = host.sizeThatFits({320, std::nullopt});
+  const render::Scene& scene = host.scene(size);
+  expect(isRead || (size == layout::Size() && scene.items.empty()),
+         "a token that is refused shows nothing");
+  expect(!isRead || scene.items.empty() == (size == layout::Size()), "a row takes room");
+}
+
 void check(std::string_view token) {
   const auto data = parseTokenData(token);
+  show(token, data.has_value());
   if (!data) return;
   const auto again = parseTokenData(minted(*data));
   expect(again == data, "figures survive minting a token from them");

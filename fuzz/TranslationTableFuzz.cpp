@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "QuorixWidgets/localization/TranslationTableReader.h"
+#include "QuorixWidgets/localization/Translations.h"
 #include "fuzz/Expect.h"
 
 using namespace quorix;

@@ -30,9 +30,10 @@ bool EmbeddedPages::follow(const render::Scene& scene) {
     const auto known = std::find_if(pages_.begin(), pages_.end(), [&](const auto& page) {
       return page && page->content() == content;
     });
-    auto page = known != pages_.end()
-                    ? std::move(*known)
-                    : EmbeddedPage::open(component_, std::get<render::EmbedItem>(item), place_);
+    auto page =
+        known != pages_.end()
+            ? std::move(*known)
+            : EmbeddedPage::open(component_, std::get<render::EmbedItem>(item), place_, owner_);
     all = all && page;
     if (page) now.push_back(std::move(page));
   }

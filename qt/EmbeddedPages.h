@@ -14,8 +14,8 @@ namespace quorix::qt {
 class QUORIX_EXPORT EmbeddedPages {
  public:
   /// `component` names the toolkit's web component; views are made children of `place`.
-  EmbeddedPages(QString component, QObject& place)
-      : component_(std::move(component)), place_(place) {}
+  EmbeddedPages(QString component, QObject& place, EmbeddedPage::Owner& owner)
+      : component_(std::move(component)), place_(place), owner_(owner) {}
 
   /// Whether each page of `scene` can be expected to show. Cheap: loads nothing.
   bool canShow(const render::Scene& scene) const;
@@ -36,6 +36,7 @@ class QUORIX_EXPORT EmbeddedPages {
  private:
   QString component_;
   QObject& place_;
+  EmbeddedPage::Owner& owner_;
   std::vector<std::unique_ptr<EmbeddedPage>> pages_;
 };
 

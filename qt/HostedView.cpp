@@ -14,9 +14,13 @@
 namespace quorix::qt {
 
 HostedView::HostedView(QObject& self)
-    : self_(self), host_(QtTextEngine::shared(), *this), focus_(host_) {}
+    : self_(self),
+      host_(QtTextEngine::shared(), *this),
+      focus_(host_),
+      sheet_(
+          self, [this] { return host_.presentation(); }, [this] { return makeSheet(); }) {}
 
-HostedView::~HostedView() { leaveSheet(); }
+HostedView::~HostedView() = default;
 
 void HostedView::replaceView(swiftui::View view) {
   const bool focused = focusFrame().has_value();
@@ -30,13 +34,13 @@ void HostedView::replaceView(swiftui::View view) {
 void HostedView::environmentChanged() {
   const EnvironmentSource now = settings();
   host_.setEnvironment(now.at(scale()));
-  if (SheetSurface* open = sheet()) open->setSettings(now);
+  sheet_.setSettings(now);
   contentChanged();
 }
 
 /// Whatever the view presents on being used belongs over this window.
 void HostedView::used() {
-  if (WindowScene* scene = windowScene()) scene->used(settings());
+  if (WindowScene* scene = windowScene()) scene->used(self_, settings());
 }
 
 void HostedView::activate(int index) {
@@ -91,7 +95,18 @@ void HostedView::released(QMouseEvent& event) {
   // Whoever took the press gets the release as well.
   const bool own = event.button() == Qt::LeftButton && std::exchange(mouseTaken_, false);
   event.setAccepted(own);
-  if (own) host_.pointerReleased(toPoint(event.position()));
+  if (own) release(event.position());
+}
+
+/// On a later turn: Qt Quick still works with the item that it told of the release, and what the
+/// tap does may delete it.
+void HostedView::release(QPointF point) {
+  releasing_ = true;
+  const auto act = [this, at = toPoint(point)] {
+    releasing_ = false;
+    host_.pointerReleased(at);
+  };
+  QMetaObject::invokeMethod(&self_, act, Qt::QueuedConnection);
 }
 
 void HostedView::handleTouch(QTouchEvent& event) {
@@ -106,8 +121,7 @@ void HostedView::handleTouch(QTouchEvent& event) {
     case FingerTracker::Phase::moved:
       return;
     case FingerTracker::Phase::released:
-      host_.pointerReleased(toPoint(report->position));
-      return;
+      return release(report->position);
     case FingerTracker::Phase::cancelled:
       host_.pointerCancelled();
       return;
@@ -117,7 +131,7 @@ void HostedView::handleTouch(QTouchEvent& event) {
 void HostedView::pointerLost() {
   finger_.forget();
   mouseTaken_ = false;
-  host_.pointerCancelled();
+  if (!releasing_) host_.pointerCancelled();
 }
 
 bool HostedView::takesTapAt(QPointF point) {
@@ -145,9 +159,18 @@ bool HostedView::walk(bool forward) {
 void HostedView::focusCame(Qt::FocusReason reason) {
   host_.scene(size());  // which says what there is to come to
   focus_.came(causeOf(reason));
+  // A sheet gave it back to what its content, or the host, made empty.
+  if (reason == Qt::PopupFocusReason && host_.actingElements() == 0) leaveFocus();
   needsFrame();
   // After the toolkit, which tells of the view as a whole.
   if (host_.focusFrame()) ViewAccessible::focusChanged(self_, Qt::QueuedConnection);
+}
+
+void HostedView::leaveFocus() {
+  const auto leave = [this] {
+    if (hasFocus() && host_.actingElements() == 0) giveFocusOn();
+  };
+  QMetaObject::invokeMethod(&self_, leave, Qt::QueuedConnection);
 }
 
 void HostedView::focusWent(Qt::FocusReason reason) {
@@ -165,35 +188,12 @@ std::optional<layout::Rect> HostedView::ringFrame() const {
 
 // Sheet.
 
-void HostedView::leaveSheet() {
-  if (SheetSurface* open = sheet()) open->abandon();
-}
-
-void HostedView::presentationChanged() {
-  if (std::exchange(presentQueued_, true)) return;
-  // The host may be in the middle of something.
-  QMetaObject::invokeMethod(
-      &self_, [this] { presentSheet(); }, Qt::QueuedConnection);
-}
-
-void HostedView::presentSheet() {
-  presentQueued_ = false;
-  SheetSurface* open = sheet();
-  if (open && open->isClosed()) open = nullptr;
-  const swiftui::Presentation* presentation = host_.presentation();
-  if (!presentation) {
-    if (open) open->retract();
-    return;
-  }
-  if (!open) {
-    WindowScene* scene = windowScene();
-    if (!scene) return;
-    open = scene->makeSheet();
-    sheet_ = open;
-    sheetObject_ = &open->object();
-  }
-  open->setSettings(settings());
-  open->present(*presentation);
+SheetSurface* HostedView::makeSheet() {
+  WindowScene* scene = windowScene();
+  if (!scene) return nullptr;
+  SheetSurface* sheet = scene->makeSheet(self_);
+  sheet->setSettings(settings());
+  return sheet;
 }
 
 }  // namespace quorix::qt

@@ -1,13 +1,13 @@
 #pragma once
 
 #include <QPointF>
-#include <QPointer>
 
 #include "platform/foundation/Export.h"
 #include "platform/hosting/ViewFocus.h"
 #include "platform/hosting/ViewHost.h"
 #include "qt/EnvironmentSource.h"
 #include "qt/FingerTracker.h"
+#include "qt/PresentedSheet.h"
 
 class QEvent;
 class QKeyEvent;
@@ -15,7 +15,6 @@ class QMouseEvent;
 
 namespace quorix::qt {
 
-class SheetSurface;
 class WindowScene;
 
 /// What a view does in every toolkit: settings, input, focus and its sheet. A toolkit's surface
@@ -33,8 +32,8 @@ class QUORIX_EXPORT HostedView : private hosting::ViewHost::Client {
   /// The settings, the desktop or the window's scale changed.
   void environmentChanged();
 
-  /// Takes an event of the pointer or a key that acts: false when it is another. A tap may delete
-  /// the surface: touch nothing of it afterwards.
+  /// Takes an event of the pointer or a key that acts: false when it is another. What a key does
+  /// may delete the surface: touch nothing of it afterwards.
   bool handle(QEvent& event);
   void pointerLost();
   bool takesTapAt(QPointF point);
@@ -57,8 +56,10 @@ class QUORIX_EXPORT HostedView : private hosting::ViewHost::Client {
   std::optional<layout::Rect> focusFrame() const;
   std::optional<layout::Rect> ringFrame() const;
   /// The view came to another window, or to none: its sheet leaves the one before.
-  void leaveSheet();
-  void presentationChanged() override;
+  void leaveSheet() { sheet_.abandon(); }
+  void presentationChanged() override { sheet_.follow(); }
+  /// Nothing in the view acts any more: the focus leaves it, on a later turn.
+  void leaveFocus();
 
  private:
   virtual EnvironmentSource settings() const = 0;
@@ -68,6 +69,9 @@ class QUORIX_EXPORT HostedView : private hosting::ViewHost::Client {
   virtual bool hasFocus() const = 0;
   /// A press came to something that acts.
   virtual void takeFocusByPress() = 0;
+  /// The focus goes to the next in the tab order, or to whom the toolkit gives it. May delete the
+  /// surface.
+  virtual void giveFocusOn() = 0;
   /// The focus or its ring moved: a frame is wanted.
   virtual void needsFrame() = 0;
   /// The view or its settings changed: who asks for its size gets the new one.
@@ -79,18 +83,17 @@ class QUORIX_EXPORT HostedView : private hosting::ViewHost::Client {
   void pressed(QMouseEvent& event);
   void released(QMouseEvent& event);
   void handleTouch(QTouchEvent& event);
+  void release(QPointF point);
   bool handleKey(QKeyEvent& event);
-  void presentSheet();
-  SheetSurface* sheet() const { return sheetObject_ ? sheet_ : nullptr; }
+  SheetSurface* makeSheet();
 
   QObject& self_;
   hosting::ViewHost host_;
   hosting::ViewFocus focus_;
   FingerTracker finger_;
   bool mouseTaken_ = false;  ///< its press was on something that acts
-  QPointer<QObject> sheetObject_;
-  SheetSurface* sheet_ = nullptr;  ///< as long as its object
-  bool presentQueued_ = false;
+  bool releasing_ = false;   ///< a tap is about to act
+  PresentedSheet sheet_;
 };
 
 }  // namespace quorix::qt

@@ -1,14 +1,10 @@
 #pragma once
 
-#include <QNetworkAccessManager>
-#include <QNetworkRequest>
-#include <QObject>
-#include <QThread>
-#include <deque>
 #include <memory>
 #include <mutex>
+#include <vector>
 
-#include "platform/foundation/URLSession.h"
+#include "qt/NetworkWorker.h"
 
 namespace quorix::qt {
 
@@ -19,40 +15,32 @@ namespace quorix::qt {
 /// sockets, and an idle connection for two minutes.) It ends with Qt's application object, which
 /// waits for it: what is still in flight ends with an error first. The next application object's
 /// first request starts it anew.
+///
+/// A protocol or a completion that blocks does not keep the application: after
+/// `NetworkWorker::kPatience` the thread is left behind. It does nothing more, even if the protocol
+/// returns.
 class NetworkThread {
  public:
-  struct Job {
-    foundation::URL url;      ///< what was asked for, and what protocols are asked to answer
-    QNetworkRequest request;  ///< what goes to the network when none of them does
-    foundation::URLTransport::Completion completion;
-  };
+  using Request = NetworkWorker::Request;
+  using Completion = NetworkWorker::Completion;
 
   static NetworkThread& shared();
 
-  /// Performs `job` and calls its completion exactly once: on this thread, or on a thread of its
+  /// Performs `request` and calls `completion` exactly once: on this thread, or on a thread of its
   /// own when no application object is alive. A completion must not wait for the main thread, which
   /// may be waiting for this one. Any thread.
-  void perform(Job job);
+  void perform(Request request, Completion completion);
 
  private:
   NetworkThread() = default;
   static NetworkThread& instance();
   static void applicationBegins();
   static void applicationEnds();
-  void startThread();
-  std::deque<Job> takeJobs();
-
-  // On the thread.
-  void performAll();
-  void performOne(Job job);
-  void endAll();
 
   std::mutex mutex_;
   bool applicationAlive_ = false;
-  std::deque<Job> jobs_;
-  std::unique_ptr<QThread> thread_;
-  std::unique_ptr<QObject> receiver_;               // of the thread's turns
-  std::unique_ptr<QNetworkAccessManager> network_;  // the thread's own
+  std::unique_ptr<NetworkWorker> worker_;
+  std::vector<std::unique_ptr<NetworkWorker>> leftBehind_;
 };
 
 }  // namespace quorix::qt

@@ -4,8 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "platform/text/BaseDirection.h"
-#include "platform/text/UnspacedWords.h"
+#include "platform/text/TextAnalysis.h"
 
 namespace quorix::qt {
 namespace {

@@ -1,8 +1,10 @@
 #include "qt/Picture.h"
 
 #include <QPainter>
+#include <algorithm>
 #include <cmath>
 
+#include "platform/render/ScenePart.h"
 #include "qt/QtColor.h"
 #include "qt/ScenePainter.h"
 #include "qt/StillScene.h"
@@ -46,7 +48,9 @@ void paintAsPicture(QPainter& painter, const render::Scene& scene) {
   const QTransform toDevice = painter.deviceTransform();
   const double scale = toDevice.m11();
   const bool upright = toDevice.type() <= QTransform::TxScale && toDevice.m22() == scale;
-  QImage image = upright ? paintPicture(scene, scale, {0, 0, 0, 0}) : QImage();
+  // A larger one would be made for the little of it that is in sight.
+  const bool small = std::max(scene.size.width, scene.size.height) * scale <= render::mostPixels;
+  QImage image = upright && small ? paintPicture(scene, scale, {0, 0, 0, 0}) : QImage();
   if (image.isNull()) return ScenePainter(painter).paint(scene);
   image.setDevicePixelRatio(1);
   const QTransform before = painter.transform();

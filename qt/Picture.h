@@ -33,7 +33,8 @@ QUORIX_EXPORT QImage paintPicture(const render::Scene& scene, double scale,
 
 /// Draws `scene` where `painter` stands, with the pixels that its picture has: over what is painted
 /// already, Qt would blend the text otherwise. The top left corner goes to the nearest whole device
-/// pixel; a painter that turns or shears gets the scene without that care.
+/// pixel; a painter that turns or shears, and a scene beyond `render::mostPixels`, go without that
+/// care.
 QUORIX_EXPORT void paintAsPicture(QPainter& painter, const render::Scene& scene);
 
 /// Draws `scene` with the background and the scale of `options`. Null as above.

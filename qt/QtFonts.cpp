@@ -9,6 +9,7 @@
 
 #include "platform/graphics/FontManager.h"
 #include "qt/ApplicationLifetime.h"
+#include "qt/RegisteredFaces.h"
 
 namespace quorix::qt {
 namespace {
@@ -50,18 +51,6 @@ std::optional<QFont> postScriptFace(QString name) {
 std::optional<QFont> installedFace(const QString& name) {
   if (QFontDatabase::hasFamily(name)) return QFont(name);
   return postScriptFace(name);
-}
-
-/// Hands a font file to Qt. The file itself says what Qt will call the face.
-std::optional<QFont> loadData(std::string_view data) {
-  const QByteArray bytes(data.data(), static_cast<qsizetype>(data.size()));
-  const int id = QFontDatabase::addApplicationFontFromData(bytes);
-  const QStringList families = QFontDatabase::applicationFontFamilies(id);
-  if (id < 0 || families.isEmpty()) return std::nullopt;
-  const QRawFont file(bytes, 16);
-  const QString family =
-      families.contains(file.familyName()) ? file.familyName() : families.first();
-  return QFontDatabase::font(family, file.styleName(), 12);
 }
 
 QFont::Weight qtWeight(swiftui::FontWeight weight) {
@@ -118,8 +107,10 @@ QtFonts& QtFonts::shared() { return applicationLifetime<QtFonts>(); }
 QtFonts::QtFonts() {
   installSystemLookup();
   generation_ = FontManager::shared().generation();
-  connection_ = QObject::connect(qGuiApp, &QGuiApplication::fontDatabaseChanged,
-                                 [this] { databaseChanged_ = true; });
+  connection_ = QObject::connect(qGuiApp, &QGuiApplication::fontDatabaseChanged, [this] {
+    // New faces of ours are counted by `generation_`.
+    if (!RegisteredFaces::shared().isAnnouncing()) databaseChanged_ = true;
+  });
 }
 
 QtFonts::~QtFonts() { QObject::disconnect(connection_); }
@@ -145,27 +136,8 @@ bool QtFonts::refresh() {
   return true;
 }
 
-/// The registered face `name`, handed to Qt on first use; null when there is none.
-const QFont* QtFonts::registeredFace(const std::string& name) {
-  const auto known = registered_.find(name);
-  if (known != registered_.end()) return &known->second;
-  const auto data = FontManager::shared().data(name);
-  if (!data) return nullptr;
-  const bool changed = databaseChanged_;
-  const auto loaded = loadData(data->text());
-  databaseChanged_ = changed;  // by ourselves: what is cached does not depend on this face
-  return loaded ? &registered_.emplace(name, *loaded).first->second : nullptr;
-}
-
-/// Of a family, whichever faces were drawn before.
-void QtFonts::loadRegisteredFaces() {
-  for (const graphics::GraphicsFont& face : FontManager::shared().faces()) {
-    registeredFace(face.postScriptName());
-  }
-}
-
 const QFont& QtFonts::face(const std::string& name) {
-  if (const QFont* registered = registeredFace(name)) return *registered;
+  if (const QFont* registered = RegisteredFaces::shared().find(name)) return *registered;
   const auto known = installed_.find(name);
   if (known != installed_.end()) return known->second;
   const auto found = name.empty() ? std::nullopt : installedFace(QString::fromStdString(name));
@@ -180,7 +152,7 @@ const ShapingFont& QtFonts::find(const text::ResolvedFont& wanted, int pixels) {
 
   QFont font = face(wanted.name);
   if (font.weight() < qtWeight(wanted.weight)) {
-    loadRegisteredFaces();
+    RegisteredFaces::shared().loadAll();
     font = weighted(font, qtWeight(wanted.weight));
   }
   font.setPixelSize(pixels);

@@ -24,8 +24,7 @@ class QtFonts {
   QtFonts(const QtFonts&) = delete;
   QtFonts& operator=(const QtFonts&) = delete;
 
-  /// Tells the font manager which faces Qt has on its own, so that none is registered over one of
-  /// them. To be called before the first face is registered; again is harmless.
+  /// Tells the font manager which faces Qt has on its own. Again is harmless.
   QUORIX_EXPORT static void installSystemLookup();
 
   /// Whether Qt has a face of that family or PostScript name. Any thread; false without an
@@ -51,10 +50,7 @@ class QtFonts {
   };
 
   const QFont& face(const std::string& name);
-  const QFont* registeredFace(const std::string& name);
-  void loadRegisteredFaces();
 
-  std::unordered_map<std::string, QFont> registered_;
   std::unordered_map<std::string, QFont> installed_;
   std::unordered_map<Key, ShapingFont, Hash> fonts_;
   std::size_t generation_ = 0;

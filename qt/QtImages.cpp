@@ -50,7 +50,7 @@ QImage QtImages::render(const Request& request) {
   picture.fill(Qt::transparent);
   QPainter painter(&picture);
   renderer.render(&painter, QRectF(picture.rect()));
-  if (request.isTemplate.value_or(asset->isTemplate)) {
+  if (asset->isTemplate) {
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
     painter.fillRect(picture.rect(), toQColor(request.tint));
   }

@@ -4,7 +4,6 @@
 #include <QSize>
 #include <cstddef>
 #include <list>
-#include <optional>
 #include <string>
 
 #include "platform/foundation/Bundle.h"
@@ -21,8 +20,7 @@ class QtImages {
     std::string name;
     QSize pixels;
     graphics::Appearance appearance = graphics::Appearance::light;
-    graphics::RGBA tint;  ///< of template images; others keep their colours
-    std::optional<bool> isTemplate = std::nullopt;  ///< absent: as the asset says
+    graphics::RGBA tint;  ///< of template images; others keep their colors
     bool operator==(const Request&) const = default;
   };
 

@@ -57,14 +57,21 @@ QtTextEngine::Entry& QtTextEngine::entry(const text::AttributedText& text) {
     entries_.splice(entries_.begin(), entries_, known->second);
     return entries_.front();
   }
-  if (entries_.size() >= maximumEntries) {
-    if (inParagraph_ == &entries_.back()) inParagraph_ = nullptr;
-    index_.erase(&entries_.back().text);
-    entries_.pop_back();
+  if (entries_.size() < maximumEntries) {
+    entries_.push_front({text, {}, std::nullopt});
+    index_.emplace(&entries_.front().text, entries_.begin());
+    return entries_.front();
   }
-  entries_.push_front({text, {}, std::nullopt});
-  index_.emplace(&entries_.front().text, entries_.begin());
-  return entries_.front();
+  // The entry that was used least recently takes the text, with its memory.
+  Entry& oldest = entries_.back();
+  if (inParagraph_ == &oldest) inParagraph_ = nullptr;
+  auto node = index_.extract(&oldest.text);
+  oldest.text = text;
+  oldest.breakings.clear();
+  oldest.leastWidth.reset();
+  index_.insert(std::move(node));
+  entries_.splice(entries_.begin(), entries_, std::prev(entries_.end()));
+  return oldest;
 }
 
 QtTextEngine::Breaking& QtTextEngine::breaking(Entry& entry, double width, bool glyphs) {

@@ -1,6 +1,5 @@
 #include "qt/QtURLTransport.h"
 
-#include <QNetworkRequest>
 #include <utility>
 
 #include "qt/NetworkThread.h"
@@ -20,16 +19,12 @@ QString originOf(const QUrl& url) {
 
 }  // namespace
 
-QtURLTransport::QtURLTransport(std::chrono::milliseconds timeout) : timeout_(timeout) {
+QtURLTransport::QtURLTransport(std::chrono::milliseconds timeLimit) : timeLimit_(timeLimit) {
   NetworkThread::shared();  // from here on it knows whether there is an application object
 }
 
 void QtURLTransport::start(const foundation::URL& url, Completion completion) {
-  QNetworkRequest request(addressOf(url));
-  request.setTransferTimeout(static_cast<int>(timeout_.count()));
-  request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
-                       QNetworkRequest::NoLessSafeRedirectPolicy);
-  NetworkThread::shared().perform({url, std::move(request), std::move(completion)});
+  NetworkThread::shared().perform({url, addressOf(url), timeLimit_}, std::move(completion));
 }
 
 void QtURLTransport::redirectOrigin(std::string_view origin, std::string_view base) {

@@ -14,21 +14,32 @@ namespace quorix::qt {
 
 /// The HTTP session's requests over Qt Network, on the process's `NetworkThread`.
 ///
-/// Plain GETs with Qt's own headers and no cache. Redirects are followed unless they lead from
-/// https to http. An answer with any HTTP status is an answer, 404 and 500 too; only what kept an
-/// answer from arriving whole is an error (domain "URLSession", code `QNetworkReply::NetworkError`,
-/// Qt's text). Addresses other than http and https are refused, unless a protocol registered with
-/// the session answers for them. The body is absent for a status that has none (204, 205, 304) and
+/// Plain GETs with Qt's own headers and no cache. An answer with any HTTP status is an answer, 404
+/// and 500 too; only what kept an answer from arriving whole is an error (domain "URLSession", code
+/// `QNetworkReply::NetworkError`). The body is absent for a status that has none (204, 304) and
 /// empty for any other answer without content. An answer in chunks that breaks off may pass for
-/// whole: Qt does not always notice.
+/// whole: Qt does not always notice. Addresses other than http and https are refused, unless a
+/// protocol registered with the session answers for them.
+///
+/// Redirects (301, 302, 303, 307, 308) are followed, up to 20, unless they lead from https to http;
+/// one without a usable `Location` is an answer like any other.
+///
+/// Requests for an address that is being fetched join that fetch: it costs one connection and one
+/// body, and each request completes with a copy of what comes of it. A request that comes after the
+/// answer fetches again. Up to six fetches run at a time for one host and port; the others wait.
+///
+/// What a server can take is bounded: a body of more than 256 kB (decompressed) ends with
+/// `UnknownContentError`, a fetch that is not over after the time limit with `TimeoutError`, and
+/// its connection is closed. Waiting for its turn does not count. Headers, and the body of
+/// a 401 or 407, are bounded by the time limit alone: Qt hands them over when they are complete.
 ///
 ///     URLSession::shared().install(std::make_shared<QtURLTransport>());
 class QtURLTransport final : public foundation::URLTransport {
  public:
-  /// How long a request may stand still, without a byte arriving, before it ends with an error.
-  static constexpr std::chrono::seconds kDefaultTimeout = foundation::URLRequest::defaultTimeout;
+  /// How long a fetch may take in all, redirects included.
+  static constexpr std::chrono::seconds kDefaultTimeLimit = foundation::URLRequest::defaultTimeout;
 
-  explicit QtURLTransport(std::chrono::milliseconds timeout = kDefaultTimeout);
+  explicit QtURLTransport(std::chrono::milliseconds timeLimit = kDefaultTimeLimit);
 
   /// Any thread. With no application object alive, or when it goes away meanwhile, the request ends
   /// with the error `OperationCanceledError`.
@@ -43,7 +54,7 @@ class QtURLTransport final : public foundation::URLTransport {
  private:
   QUrl addressOf(const foundation::URL& url) const;
 
-  std::chrono::milliseconds timeout_;
+  std::chrono::milliseconds timeLimit_;
   mutable std::mutex mutex_;
   std::map<QString, QUrl> standIns_;  // by origin
 };

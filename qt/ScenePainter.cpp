@@ -161,7 +161,7 @@ void ScenePainter::drawDecoration(const ShapedText::Span& span, QPointF origin,
 void ScenePainter::draw(const render::ImageItem& item) {
   const QRectF device = deviceRect(item.frame);
   const QImage picture = QtImages::shared().picture(
-      {item.bundle, item.name, device.size().toSize(), appearance_, item.tint, item.isTemplate});
+      {item.bundle, item.name, device.size().toSize(), appearance_, item.tint});
   if (!picture.isNull()) painter_.drawImage(fromDevice_.mapRect(device), picture);
   if (ground_) ground_->painted(device.toAlignedRect());
 }

@@ -16,17 +16,28 @@ SheetSurface::SheetSurface(QObject& self, const QString& webComponent)
     : self_(self),
       presenter_(QtTextEngine::shared(), *this),
       clock_([this](double seconds) { return presenter_.advance(seconds); }),
-      pages_(webComponent, self) {}
+      pages_(webComponent, self, *this),
+      above_(
+          self, [this] { return presenter_.presentation(); },
+          [this] {
+            SheetSurface* sheet = makeSheetAbove();
+            if (sheet) sheet->setSettings(settings_);
+            return sheet;
+          }) {}
+
+SheetSurface::~SheetSurface() = default;
 
 void SheetSurface::setSettings(const EnvironmentSource& settings) {
   settings_ = settings;
   presenter_.setEnvironment(settings_.at(scale()));
   presenter_.setMotion(settings_.allowsMotion());
+  above_.setSettings(settings);
 }
 
 // Coming and going.
 
 void SheetSurface::present(const swiftui::Presentation& presentation) {
+  gaveUpPages_ = false;
   presenter_.present(presentation);
   if (std::exchange(presented_, true)) return;
   AccessibilityBridge::coverChanged();
@@ -35,13 +46,14 @@ void SheetSurface::present(const swiftui::Presentation& presentation) {
   if (!pages_.canShow(presenter_.panel())) giveUpPages();
 }
 
-void SheetSurface::sheetDidClose() {
+void SheetSurface::close() {
   if (std::exchange(closed_, true)) return;
   leave();
 }
 
 void SheetSurface::abandon() {
   if (std::exchange(closed_, true)) return;
+  above_.abandon();
   clock_.stop();
   // On a later turn: the window may be on its way out, and does not bear a change of focus then.
   QMetaObject::invokeMethod(
@@ -50,6 +62,7 @@ void SheetSurface::abandon() {
 
 void SheetSurface::leave() {
   clock_.stop();
+  above_.close();  // first, since it gives the focus back to this one
   AccessibilityBridge::coverChanged();
   giveFocusBack();
   vanish();
@@ -74,7 +87,7 @@ void SheetSurface::wasShown() {
 }
 
 void SheetSurface::followPages() {
-  if (!shown_ || closed_) return;
+  if (!shown_ || closed_ || gaveUpPages_) return;
   if (pagesRevision_ != presenter_.panelRevision()) {
     pagesRevision_ = presenter_.panelRevision();
     if (!pages_.follow(presenter_.panel())) return giveUpPages();
@@ -86,13 +99,20 @@ void SheetSurface::followPages() {
   });
 }
 
+/// At most once for each presentation: the sheet may still be falling when its next frame comes.
 void SheetSurface::giveUpPages() {
+  gaveUpPages_ = true;
   EmbeddedPages::sendOutside(presenter_.panel());
   presenter_.dismiss();
 }
 
 void SheetSurface::pageTookFocus() {
   presenter_.dropFocus();
+  ViewAccessible::focusChanged(self_);
+}
+
+void SheetSurface::pageEnded() {
+  takeFocusFromPages();
   ViewAccessible::focusChanged(self_);
 }
 

@@ -10,6 +10,7 @@
 #include "qt/EnvironmentSource.h"
 #include "qt/FingerTracker.h"
 #include "qt/FrameClock.h"
+#include "qt/PresentedSheet.h"
 
 class QEvent;
 class QKeyEvent;
@@ -22,8 +23,10 @@ namespace quorix::qt {
 /// A toolkit's sheet derives from this and gives it a place, paint and the focus; it deletes itself
 /// when it has closed. Pages in it open once its first frame has been shown, so that loading the
 /// web engine does not keep the sheet from coming; where there is no engine, their addresses are
-/// opened outside the app and the sheet stays away. Main thread.
-class QUORIX_EXPORT SheetSurface : private hosting::SheetPresenter::Client {
+/// opened outside the app and the sheet stays away. A sheet that its content presents stands above
+/// it, in the same way. Main thread.
+class QUORIX_EXPORT SheetSurface : private hosting::SheetPresenter::Client,
+                                   private EmbeddedPage::Owner {
  public:
   SheetSurface(const SheetSurface&) = delete;
   SheetSurface& operator=(const SheetSurface&) = delete;
@@ -36,12 +39,14 @@ class QUORIX_EXPORT SheetSurface : private hosting::SheetPresenter::Client {
   void retract() { presenter_.retract(); }
   /// The owner is gone: closes without motion.
   void abandon();
+  /// Closes without motion, now.
+  void close();
   bool isClosed() const { return closed_; }
 
  protected:
   /// `self` is the derived object, `webComponent` the name of its toolkit's.
   SheetSurface(QObject& self, const QString& webComponent);
-  ~SheetSurface() override = default;
+  ~SheetSurface() override;
 
   hosting::SheetPresenter& presenter() { return presenter_; }
   const hosting::SheetPresenter& presenter() const { return presenter_; }
@@ -80,6 +85,8 @@ class QUORIX_EXPORT SheetSurface : private hosting::SheetPresenter::Client {
   virtual void takeFocusOver() = 0;
   virtual void giveFocusBack() = 0;
   virtual void vanish() = 0;
+  /// A new sheet above this one; null without a window.
+  virtual SheetSurface* makeSheetAbove() = 0;
 
   /// Page `view` stands at `frame` in the window; `index` counts from the lowest.
   virtual void placePage(QObject& view, const layout::Rect& frame, int index) = 0;
@@ -88,7 +95,10 @@ class QUORIX_EXPORT SheetSurface : private hosting::SheetPresenter::Client {
   virtual void takeFocusFromPages() = 0;
 
   void sheetNeedsDisplay() override { needsFrame(); }
-  void sheetDidClose() override;
+  void sheetPresentationChanged() override { above_.follow(); }
+  void sheetDidClose() override { close(); }
+  void pageHangs() override { presenter_.dismiss(); }
+  void pageEnded() override;
   void leave();
   void giveUpPages();
   bool enterPages(bool forward);
@@ -108,9 +118,11 @@ class QUORIX_EXPORT SheetSurface : private hosting::SheetPresenter::Client {
   hosting::VelocityTracker velocity_;
   FrameClock clock_;
   EmbeddedPages pages_;
+  PresentedSheet above_;
   std::optional<unsigned> pagesRevision_;
   bool shown_ = false;
   bool presented_ = false;
+  bool gaveUpPages_ = false;  ///< of what is presented
   bool closed_ = false;
 };
 

@@ -1,6 +1,7 @@
 #include "qt/StillScene.h"
 
 #include <algorithm>
+#include <functional>
 
 #include "platform/hosting/SheetPresenter.h"
 #include "platform/hosting/ViewHost.h"
@@ -18,6 +19,7 @@ struct StillSurface final : ViewHost::Client, SheetPresenter::Client {
   void viewNeedsDisplay() override {}
   void presentationChanged() override { sheetIsOutdated = true; }
   void sheetNeedsDisplay() override {}
+  void sheetPresentationChanged() override { sheetIsOutdated = true; }
   void sheetDidClose() override {}
 };
 
@@ -29,35 +31,55 @@ bool activateFirst(ViewHost& host, layout::Size size) {
   return acting != elements.end() && host.activate(static_cast<int>(acting - elements.begin()));
 }
 
-/// The sheet that the view opens, at rest over `window`; nothing when it opens none.
-std::optional<render::Scene> sheetOver(ViewHost& host, StillSurface& surface, layout::Size size,
+/// A view, or the content of a sheet, that may present a sheet.
+struct Presenting {
+  std::function<void()> settle;
+  std::function<const swiftui::Presentation*()> presentation;
+};
+
+/// The sheet that `below` presents, at rest over `window`, and above it the one that its content
+/// presents, and so on; nothing when there is none.
+std::optional<render::Scene> sheetOver(const Presenting& below, StillSurface& surface,
+                                       const swiftui::Environment& environment,
                                        layout::Size window) {
-  if (!activateFirst(host, size)) return std::nullopt;
   SheetPresenter sheet(QtTextEngine::shared(), surface);
   sheet.setMotion(false);
-  sheet.setEnvironment(host.environment());
+  sheet.setEnvironment(environment);
   sheet.setWindow(window, {});
   // A sheet that measures its content asks for another height, and is then presented anew.
   constexpr int mostTurns = 8;
   for (int turn = 0; turn < mostTurns; ++turn) {
-    host.settle();
+    below.settle();
     surface.sheetIsOutdated = false;
-    const swiftui::Presentation* presentation = host.presentation();
+    const swiftui::Presentation* presentation = below.presentation();
     if (presentation == nullptr) return std::nullopt;
     sheet.present(*presentation);
     sheet.settle();
-    host.settle();
+    below.settle();
     if (!surface.sheetIsOutdated) break;
   }
-  return sheet.scene();
+  const Presenting content{[&] { sheet.settle(); }, [&] { return sheet.presentation(); }};
+  const auto above = sheetOver(content, surface, environment, window);
+  render::Scene scene = sheet.scene();
+  if (above) scene.append(*above, {});
+  return scene;
+}
+
+/// The sheets that the first element that acts opens.
+std::optional<render::Scene> sheetOf(ViewHost& host, StillSurface& surface, layout::Size size,
+                                     layout::Size window) {
+  if (!activateFirst(host, size)) return std::nullopt;
+  const Presenting view{[&] { host.settle(); }, [&] { return host.presentation(); }};
+  return sheetOver(view, surface, host.environment(), window);
 }
 
 }  // namespace
 
-render::Scene StillScene::whole() const {
-  render::Scene scene = view;
-  if (sheet) scene.append(*sheet, {});
-  return scene;
+render::Scene StillScene::whole() const& { return StillScene(*this).whole(); }
+
+render::Scene StillScene::whole() && {
+  if (sheet) view.append(*std::move(sheet), {});
+  return std::move(view);
 }
 
 StillScene stillScene(const swiftui::View& view, const PictureOptions& options) {
@@ -71,11 +93,11 @@ StillScene stillScene(const swiftui::View& view, const PictureOptions& options) 
   if (options.sheet) {
     const layout::Size window = {options.width, options.height.value_or(2 * options.width)};
     const layout::Size size = {options.width, fitting()};
-    still.sheet = sheetOver(host, surface, size, window);
-    still.view = host.scene(size);
+    still.sheet = sheetOf(host, surface, size, window);
+    still.view = host.takeScene(size);
     still.view.size = window;
   } else {
-    still.view = host.scene({options.width, options.height ? *options.height : fitting()});
+    still.view = host.takeScene({options.width, options.height ? *options.height : fitting()});
   }
   host.setOnScreen(false);
   return still;

@@ -16,7 +16,8 @@ struct QUORIX_EXPORT StillScene {
   std::optional<render::Scene> sheet;  ///< as large as the view's scene, and on top of it
 
   /// View and sheet in one.
-  render::Scene whole() const;
+  render::Scene whole() const&;
+  render::Scene whole() &&;
   /// What assistive technology meets: a sheet hides all that is behind it.
   const render::Scene& topmost() const { return sheet ? *sheet : view; }
 };

@@ -54,9 +54,24 @@ TextPictures::Entry* TextPictures::known(const render::TextItem& item, double sc
     entries_.splice(entries_.begin(), entries_, row->second);
     return &entries_.front();
   }
-  if (entries_.size() >= maximumEntries) dropLast();
-  entries_.push_front({item.text, item.frame.size.width, scale, ground, false, {}});
-  index_.emplace(hash, entries_.begin());
+  if (entries_.size() < maximumEntries) {
+    entries_.push_front({item.text, item.frame.size.width, scale, ground, false, {}});
+    index_.emplace(hash, entries_.begin());
+    return nullptr;
+  }
+  // The entry that was used least recently takes the text, with its memory.
+  const auto oldest = std::prev(entries_.end());
+  auto node = index_.extract(indexOf(oldest));
+  bytes_ -= static_cast<std::size_t>(oldest->picture.image.sizeInBytes());
+  oldest->text = item.text;
+  oldest->width = item.frame.size.width;
+  oldest->scale = scale;
+  oldest->ground = ground;
+  oldest->made = false;
+  oldest->picture = {};
+  node.key() = hash;
+  index_.insert(std::move(node));
+  entries_.splice(entries_.begin(), entries_, oldest);
   return nullptr;
 }
 
@@ -67,10 +82,14 @@ void TextPictures::keep(Entry& entry, Picture picture) {
   while (bytes_ > maximumBytes && entries_.size() > 1) dropLast();
 }
 
+TextPictures::Index::iterator TextPictures::indexOf(Entries::iterator entry) {
+  const auto [first, end] = index_.equal_range(TextIdentity{}(&entry->text));
+  return std::find_if(first, end, [&](const auto& row) { return row.second == entry; });
+}
+
 void TextPictures::dropLast() {
   const auto last = std::prev(entries_.end());
-  const auto [first, end] = index_.equal_range(TextIdentity{}(&last->text));
-  index_.erase(std::find_if(first, end, [&](const auto& row) { return row.second == last; }));
+  index_.erase(indexOf(last));
   bytes_ -= static_cast<std::size_t>(last->picture.image.sizeInBytes());
   entries_.erase(last);
 }

@@ -45,13 +45,15 @@ class TextPictures {
     Picture picture;
   };
   using Entries = std::list<Entry>;
+  using Index = std::unordered_multimap<std::size_t, Entries::iterator>;
 
   Entry* known(const render::TextItem& item, double scale, graphics::RGBA ground);
   void keep(Entry& entry, Picture picture);
+  Index::iterator indexOf(Entries::iterator entry);
   void dropLast();
 
   Entries entries_;  ///< the latest used first
-  std::unordered_multimap<std::size_t, Entries::iterator> index_;
+  Index index_;
   std::size_t bytes_ = 0;
 };
 

@@ -147,8 +147,8 @@ QAccessible::State ViewAccessible::state() const {
     return state;
   }
   state.invisible = !shown->isShown() || shown->isCovered();
-  state.modal = shown->isDialog();
-  state.active = shown->isDialog() && shown->isShown();
+  state.modal = shown->isDialog() && !shown->isCovered();
+  state.active = state.modal && shown->isShown();
   return state;
 }
 

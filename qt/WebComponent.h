@@ -11,15 +11,17 @@ namespace quorix::qt {
 class WebComponent {
  public:
   /// Opens a page for the window (Qt Quick) or the widget (Qt Widgets) `place`, to be made a child
-  /// of it. Null where the engine cannot show one; it has then said why on the log.
-  virtual std::unique_ptr<WebPage> open(QObject& place, WebPage::Options options) = 0;
+  /// of it. Null where the engine cannot show one; it has then said why on the log. `client`
+  /// outlives the page.
+  virtual std::unique_ptr<WebPage> open(QObject& place, const WebPage::Options& options,
+                                        WebPage::Client& client) = 0;
 
  protected:
   ~WebComponent() = default;  // lives with the application
 };
 
 /// Another number whenever `WebComponent` or `WebPage` is another.
-constexpr int webComponentVersion = 1;
+constexpr int webComponentVersion = 2;
 constexpr char webComponentSymbol[] = "quorixWebComponent";
 
 /// The component, or null when it is built for another version than `version`.

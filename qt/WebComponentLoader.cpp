@@ -11,19 +11,31 @@
 
 #ifdef Q_OS_UNIX
 #include <dlfcn.h>
+#ifdef __GLIBC__
+#include <link.h>
+#endif
 #endif
 
 namespace quorix::qt {
 namespace {
 
-/// The folder of the library or program that this code stands in, or nothing.
+/// The folder of the library that this code stands in, or nothing when that is not known for
+/// certain. A program that holds this code itself is named as it was called, be it by a whole path,
+/// which says nothing of where it is, and neither does a library that was loaded by a relative
+/// path.
 QString ownFolder() {
 #ifdef Q_OS_UNIX
   Dl_info info;
   static const char here = 0;
-  if (dladdr(&here, &info) != 0 && info.dli_fname) {
-    return QFileInfo(QString::fromLocal8Bit(info.dli_fname)).absolutePath();
-  }
+#ifdef __GLIBC__
+  void* map = nullptr;
+  if (dladdr1(&here, &info, &map, RTLD_DL_LINKMAP) == 0 || !map) return {};
+  if (*static_cast<const link_map*>(map)->l_name == '\0') return {};  // the program itself
+#else
+  if (dladdr(&here, &info) == 0) return {};
+#endif
+  const QFileInfo file(QString::fromLocal8Bit(info.dli_fname));
+  if (file.isAbsolute()) return file.absolutePath();
 #endif
   return {};
 }
@@ -64,9 +76,6 @@ WebComponent* loaded(const QString& name) {
 QStringList WebComponentLoader::folders() {
   const QString program = QCoreApplication::applicationDirPath();
   QStringList all = {program, program + QStringLiteral("/quorix")};
-  for (const QString& path : QCoreApplication::libraryPaths()) {
-    all.append(path + QStringLiteral("/quorix"));
-  }
   const QString own = ownFolder();
   if (!own.isEmpty()) all << own << own + QStringLiteral("/quorix");
 #ifdef QUORIX_WEB_FROM_PROGRAM

@@ -12,9 +12,17 @@ class WebComponent;
 /// Finds the libraries that hold the web engine ("QuorixWebQuick", "QuorixWebWidgets") and loads
 /// each on first use, for the rest of the process. Main thread.
 ///
-/// They are looked for beside the program and in a folder "quorix" there, in a folder "quorix" in
-/// each of `QCoreApplication::libraryPaths()`, beside the library or program that holds this code
-/// and in a folder "quorix" there, and where they are when both are installed under one prefix.
+/// Only folders of the program and of this library are searched, by absolute paths and in this
+/// order:
+///
+/// 1. the program's folder, and "quorix" in it;
+/// 2. where this code is in a shared library: the library's folder, and "quorix" in it. A library
+///    that was loaded by a relative path counts as nowhere;
+/// 3. where the libraries are installed, as seen from a program under the same prefix;
+/// 4. for a host that builds the library as part of its own build: that build's folder.
+///
+/// The current folder, the dynamic linker's search and Qt's plugin paths (QT_PLUGIN_PATH, qt.conf)
+/// are not searched: whoever can write there must not run code in the host.
 ///
 /// Qt WebEngine wants its host to say, before the application object is made,
 ///

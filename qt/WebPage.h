@@ -2,7 +2,6 @@
 
 #include <QColor>
 #include <QUrl>
-#include <functional>
 
 #include "platform/webkit/WebContent.h"
 
@@ -14,11 +13,28 @@ namespace quorix::qt {
 /// was loading. Main thread.
 class WebPage {
  public:
+  /// Hears of the page, often within the engine's own call: do not destroy the page in it.
+  class Client {
+   public:
+    /// The page asks for a new window with this address, which may be empty. It gets none.
+    /// `byUser`: the user's gesture caused it.
+    virtual void windowAsked(const QUrl& address, bool byUser) = 0;
+    /// A load began or went on (true), or ended (false).
+    virtual void loading(bool goesOn) = 0;
+    /// The page's process crashed or was killed.
+    virtual void processEnded() = 0;
+    /// A key that closes a sheet goes to the page, which gives it back when it has no use for it.
+    virtual void closingKeyGiven() = 0;
+    /// The page is alive: the answer to `ask`.
+    virtual void answered() = 0;
+
+   protected:
+    ~Client() = default;
+  };
+
   struct Options {
     webkit::WebContent::Settings settings;
     QColor background;  ///< shows where the page has not painted, has none, or could not be loaded
-    /// The page asks for a new window with this address, which may be empty. It gets none.
-    std::function<void(const QUrl&)> onNewWindow;
   };
 
   virtual ~WebPage() = default;
@@ -27,6 +43,9 @@ class WebPage {
   /// does not use go to its parent.
   virtual QObject* view() const = 0;
   virtual void load(const QUrl& address) = 0;
+  virtual void stop() = 0;
+  /// Has the page's process tell the client that it answers; one that hangs never does.
+  virtual void ask() = 0;
   virtual bool canGoBack() const = 0;
   virtual void goBack() = 0;
   virtual void goForward() = 0;

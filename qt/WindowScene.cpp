@@ -46,7 +46,8 @@ WindowScene::~WindowScene() {
   uikit::UIApplication::shared().disconnect(scene_);
 }
 
-void WindowScene::used(const EnvironmentSource& settings) {
+void WindowScene::used(QObject& surface, const EnvironmentSource& settings) {
+  used_ = &surface;
   settings_ = settings;
   window_->makeKey();  // also where no window manager gives the focus to any window
   for (WindowScene* scene : scenes()) scene->updateActivation();
@@ -97,7 +98,7 @@ void WindowScene::showPresented() {
 }
 
 void WindowScene::show(const Controller& controller) {
-  SheetSurface* sheet = makeSheet();
+  SheetSurface* sheet = makeSheet(used_ ? *used_ : *this);
   EnvironmentSource settings = settings_;
   if (!animated_) settings.motion = false;
   sheet->setSettings(settings);

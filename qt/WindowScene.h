@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "platform/foundation/Export.h"
+#include "platform/uikit/UIScene.h"
 #include "platform/uikit/UIWindow.h"
-#include "platform/uikit/UIWindowScene.h"
 #include "qt/EnvironmentSource.h"
 
 class QWindow;
@@ -26,18 +26,19 @@ class QUORIX_EXPORT WindowScene : public QObject, private uikit::UIWindow::Clien
  public:
   /// How a toolkit answers for one of its windows.
   struct Toolkit {
-    std::function<QWindow*()> window;          ///< null while it is not shown
-    std::function<SheetSurface*()> makeSheet;  ///< a new one over the window, which it belongs to
+    std::function<QWindow*()> window;  ///< null while it is not shown
+    /// A new one above `opener` and over the window, which it belongs to.
+    std::function<SheetSurface*(const QObject& opener)> makeSheet;
   };
 
   /// The scene of `window`, begun when the first surface in it asks.
   static WindowScene& of(QObject& window, const Toolkit& toolkit);
   ~WindowScene() override;
 
-  /// The user works with a surface of this window, which has these settings.
-  void used(const EnvironmentSource& settings);
-  /// A new sheet over the window, which it belongs to.
-  SheetSurface* makeSheet() const { return toolkit_.makeSheet(); }
+  /// The user works with `surface`, an item or widget of this window, which has these settings.
+  void used(QObject& surface, const EnvironmentSource& settings);
+  /// A new sheet above `opener` and over the window, which it belongs to.
+  SheetSurface* makeSheet(const QObject& opener) const { return toolkit_.makeSheet(opener); }
 
  private:
   /// A controller on its sheet.
@@ -57,6 +58,7 @@ class QUORIX_EXPORT WindowScene : public QObject, private uikit::UIWindow::Clien
   Toolkit toolkit_;
   std::shared_ptr<uikit::UIWindow> window_ = std::make_shared<uikit::UIWindow>();
   std::shared_ptr<uikit::UIWindowScene> scene_ = std::make_shared<uikit::UIWindowScene>();
+  QPointer<QObject> used_;  ///< the surface that the user worked with last
   EnvironmentSource settings_;
   std::vector<Shown> shown_;  ///< the lowest first
   bool animated_ = true;

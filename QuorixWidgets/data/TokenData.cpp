@@ -3,21 +3,21 @@
 #include <utility>
 
 #include "platform/foundation/Base64.h"
-#include "platform/foundation/Graphemes.h"
 #include "platform/foundation/JSON.h"
+#include "platform/foundation/UnicodeText.h"
 
 namespace quorix {
 namespace {
 
-/// A document keeps the memory of the largest text that it has read, so each thread keeps one for
-/// payloads of any likely size only.
-constexpr std::size_t kLikelyPayload = 16384;  // bytes
+/// Bytes. A document keeps the memory of the largest text that it has read; the document that each
+/// thread keeps therefore reads payloads up to this size only.
+constexpr std::size_t largestReusedPayload = 16384;
 
 std::optional<std::string> decodePayload(std::string_view piece) {
   std::string text(piece);
-  // Counting bytes is enough: a payload in which characters are longer than that is no base64.
+  // Bytes may be counted instead of characters: a payload with longer characters is no base64.
   if (const std::size_t rest = text.size() % 4; rest != 0) text.append(4 - rest, '=');
-  return foundation::decodeBase64(std::move(text), foundation::Base64Alphabet::either);
+  return foundation::decodeBase64(std::move(text));
 }
 
 TokenReading readFigures(const foundation::JSONValue& data) {
@@ -52,6 +52,8 @@ TokenReading readPayload(std::string_view payload, foundation::JSONDocument& doc
 
 std::string_view describe(TokenRefusal refusal) {
   switch (refusal) {
+    case TokenRefusal::tooLong:
+      return "the token is over 64 kB";
     case TokenRefusal::noPayload:
       return "the token has fewer than two pieces";
     case TokenRefusal::notBase64:
@@ -75,11 +77,13 @@ std::string_view describe(TokenRefusal refusal) {
 }
 
 TokenReading readToken(std::string_view token) noexcept {
-  const auto pieces = foundation::splitCharacters(token, '.');
+  if (token.size() > longestToken) return TokenRefusal::tooLong;
+  auto pieces = foundation::components(token, ".");
+  std::erase(pieces, "");
   if (pieces.size() < 2) return TokenRefusal::noPayload;
   const auto payload = decodePayload(pieces[1]);
   if (!payload) return TokenRefusal::notBase64;
-  if (payload->size() > kLikelyPayload) {
+  if (payload->size() > largestReusedPayload) {
     foundation::JSONDocument document;
     return readPayload(*payload, document);
   }

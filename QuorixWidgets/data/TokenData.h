@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -13,15 +14,19 @@ namespace quorix {
 /// The figures that a shopper token carries.
 struct TokenData {
   double score;                       ///< A fraction; 1 - score is the return rate.
-  std::string currency;               ///< Of both fees; as sent, never checked.
+  std::string currency;               ///< Of both fees. As sent, not checked.
   std::int64_t returnsFee;            ///< Hundredths of the currency unit.
   std::int64_t discountedReturnsFee;  ///< Hundredths of the currency unit.
 
   bool operator==(const TokenData&) const = default;
 };
 
+/// Bytes. Issued tokens have a few hundred. A token longer than this is refused before it is read.
+inline constexpr std::size_t longestToken = 65536;
+
 /// The step at which a token was refused, in the order in which the steps are taken.
 enum class TokenRefusal {
+  tooLong,
   noPayload,
   notBase64,
   notJSON,
@@ -33,16 +38,16 @@ enum class TokenRefusal {
   noDiscountedFee,
 };
 
-/// What is wrong, in plain words: "the payload is not base64".
+/// The reason in words: "the payload is not base64".
 QUORIX_EXPORT std::string_view describe(TokenRefusal refusal);
 
 using TokenReading = std::variant<TokenData, TokenRefusal>;
 
-/// Reads the figures from the token's payload, its second piece; header and signature are not
-/// looked at. Any thread.
+/// Reads the figures from the token's payload, its second piece. Does not check header and
+/// signature. Any thread.
 QUORIX_EXPORT TokenReading readToken(std::string_view token) noexcept;
 
-/// The figures of `token`, or nothing when it carries none. Any thread.
+/// The figures of `token`; absent where `readToken` refuses it. Any thread.
 QUORIX_EXPORT std::optional<TokenData> parseTokenData(std::string_view token) noexcept;
 
 }  // namespace quorix

@@ -3,8 +3,6 @@
 #include <array>
 #include <string>
 
-#include "platform/foundation/JSON.h"
-
 namespace quorix {
 
 using foundation::DecodingError;
@@ -16,30 +14,18 @@ namespace {
 using Keys = UserDetails::CodingKeys;
 constexpr std::array allKeys{Keys::returnRate, Keys::returnPercentile, Keys::returnRateTrend};
 
-std::variant<double, DecodingError> readNumber(const JSONValue& object, Keys key) {
+foundation::Result<double, DecodingError> readNumber(const JSONValue& object, Keys key) {
   const std::string_view name = UserDetails::stringValue(key);
   const auto failure = [&](Kind kind) { return DecodingError{kind, std::string(name)}; };
   const auto member = object.member(name);
   if (!member) return failure(Kind::keyNotFound);
   if (member->kind() == JSONValue::Kind::null) return failure(Kind::valueNotFound);
-  // true and false are numbers to the document, but not here.
+  // The document reads true and false as numbers; here they are refused.
   if (member->kind() != JSONValue::Kind::number) return failure(Kind::typeMismatch);
   return *member->number();
 }
 
-UserDetails::Reading readDetails(const JSONValue& top) {
-  if (top.kind() != JSONValue::Kind::object) return DecodingError{Kind::typeMismatch, {}};
-  std::array<double, allKeys.size()> numbers{};
-  for (std::size_t i = 0; i < allKeys.size(); ++i) {
-    auto read = readNumber(top, allKeys[i]);
-    if (auto* error = std::get_if<DecodingError>(&read)) return std::move(*error);
-    numbers[i] = std::get<double>(read);
-  }
-  const auto [rate, percentile, trend] = numbers;
-  return UserDetails{.returnRate = rate, .returnRateTrend = trend, .returnPercentile = percentile};
-}
-
-/// Whether `bytes` are JSON without being an object or an array, which documents must be.
+/// Whether `bytes` are a JSON value that is neither an object nor an array, as documents must be.
 bool isBareValue(std::string_view bytes, foundation::JSONDocument& document) {
   const auto wrapped = document.parse('[' + std::string(bytes) + ']');
   const auto* array = std::get_if<JSONValue>(&wrapped);
@@ -67,10 +53,22 @@ std::optional<UserDetails::CodingKeys> UserDetails::codingKey(std::string_view t
   return std::nullopt;
 }
 
+UserDetails::Reading UserDetails::decode(const JSONValue& container) {
+  if (container.kind() != JSONValue::Kind::object) return DecodingError{Kind::typeMismatch, {}};
+  std::array<double, allKeys.size()> numbers{};
+  for (std::size_t i = 0; i < allKeys.size(); ++i) {
+    auto read = readNumber(container, allKeys[i]);
+    if (auto* error = std::get_if<DecodingError>(&read)) return std::move(*error);
+    numbers[i] = std::get<double>(read);
+  }
+  const auto [rate, percentile, trend] = numbers;
+  return UserDetails{.returnRate = rate, .returnRateTrend = trend, .returnPercentile = percentile};
+}
+
 UserDetails::Reading UserDetails::decode(std::string_view bytes) {
   foundation::JSONDocument document;
   const auto result = document.parse(bytes);
-  if (const auto* top = std::get_if<JSONValue>(&result)) return readDetails(*top);
+  if (const auto* top = std::get_if<JSONValue>(&result)) return decode(*top);
   const bool bare = isBareValue(bytes, document);
   return DecodingError{bare ? Kind::typeMismatch : Kind::dataCorrupted, {}};
 }

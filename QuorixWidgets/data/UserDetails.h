@@ -3,14 +3,15 @@
 #include <cstdint>
 #include <optional>
 #include <string_view>
-#include <variant>
 
 #include "platform/foundation/DecodingError.h"
 #include "platform/foundation/Export.h"
+#include "platform/foundation/JSON.h"
+#include "platform/foundation/Result.h"
 
 namespace quorix {
 
-/// A shopper's return statistics, as the widget service tells them.
+/// A shopper's return statistics from the widget service.
 ///
 ///     auto reading = UserDetails::decode(body);
 ///     if (auto* details = std::get_if<UserDetails>(&reading)) details->returnPercentile;
@@ -29,11 +30,15 @@ struct QUORIX_EXPORT UserDetails {
   static std::optional<std::int64_t> intValue(CodingKeys) { return std::nullopt; }
   static std::optional<CodingKeys> codingKey(std::int64_t) { return std::nullopt; }
 
-  using Reading = std::variant<UserDetails, foundation::DecodingError>;
+  using Reading = foundation::Result<UserDetails, foundation::DecodingError>;
 
   /// The details in the JSON object `bytes`, or the error of the first key that has no number.
   /// Other members are ignored. Any thread.
   static Reading decode(std::string_view bytes);
+  /// The same from the object `container`, which may be any part of a document.
+  ///
+  ///     if (const auto shopper = answer.member("shopper")) UserDetails::decode(*shopper);
+  static Reading decode(const foundation::JSONValue& container);
 
   bool operator==(const UserDetails&) const = default;
 };

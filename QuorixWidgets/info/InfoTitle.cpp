@@ -1,10 +1,20 @@
 #include "QuorixWidgets/info/InfoTitle.h"
 
-#include "QuorixWidgets/localization/LocalizedString.h"
+#include "QuorixWidgets/localization/Strings.h"
 #include "platform/foundation/FatalError.h"
-#include "platform/foundation/TextSplitting.h"
+#include "platform/foundation/UnicodeText.h"
+#include "platform/text/TextBound.h"
 
 namespace quorix {
+namespace {
+
+std::vector<InfoTitlePart> partsOf(std::string_view locale) {
+  // Only this much is shown, and comparing all characters of an endless title would take long.
+  const auto words = [&](std::string_view key) { return text::bounded(localized(key, locale)); };
+  return splitInfoTitle(words("info-widget-title"), words("info-widget-title-number"));
+}
+
+}  // namespace
 
 std::vector<InfoTitlePart> splitInfoTitle(std::string_view title, std::string_view number) {
   auto pieces = foundation::components(title, number);
@@ -16,9 +26,10 @@ std::vector<InfoTitlePart> splitInfoTitle(std::string_view title, std::string_vi
   return {text(pieces[0]), std::move(figure), text(pieces[1])};
 }
 
+bool hasInfoTitle(std::string_view locale) { return !partsOf(locale).empty(); }
+
 std::vector<InfoTitlePart> infoTitle(std::string_view locale) {
-  auto parts = splitInfoTitle(localized("info-widget-title", locale),
-                              localized("info-widget-title-number", locale));
+  auto parts = partsOf(locale);
   if (parts.empty()) foundation::fatalError("Index out of range", "QuorixWidgets/InfoTitle");
   return parts;
 }

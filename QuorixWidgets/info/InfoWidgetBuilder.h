@@ -13,8 +13,8 @@ namespace quorix {
 /// Builds info widgets: a sentence on how returns count and a link to a page that says more. Main
 /// thread.
 ///
-/// `locale` is a language code ("en", "nb"); one that the library has no texts for reads English.
-/// Each call makes a fresh widget and nothing is kept.
+/// `locale` is a language code ("en", "nb"); a language without texts reads English.
+/// Each call makes a new widget; the builder keeps no state.
 struct QUORIX_EXPORT InfoWidgetBuilder {
   InfoWidgetBuilder() = delete;
 
@@ -26,9 +26,9 @@ struct QUORIX_EXPORT InfoWidgetBuilder {
   static swiftui::View buildSwiftUIInfoWidgetView(std::string_view locale,
                                                   const InfoWidgetStyle& style);
 
-  /// The imperative widget. A tap on its link opens the page over the app's top-most screen. Of
-  /// `style` only the faces count: its background is the library's own and it has no border. Never
-  /// null.
+  /// The imperative widget. A tap on its link opens the page over the app's top-most screen. It
+  /// uses the faces of `style` only: its background is the library's own and it has no border.
+  /// Never null.
   ///
   ///     auto widget = InfoWidgetBuilder::buildUIKitInfoWidgetView(
   ///         "en", {"OpenSans-Regular", "OpenSans-SemiBold", std::nullopt, false});

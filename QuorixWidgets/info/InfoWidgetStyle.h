@@ -18,7 +18,7 @@ struct InfoWidgetStyle {
   std::optional<std::string> regularFont;         ///< PostScript or family name
   std::optional<std::string> semiBoldFont;        ///< PostScript or family name, for the figure
   std::optional<swiftui::Color> backgroundColor;  ///< absent: the library's own
-  bool showBorder;                                ///< one point, in the colour of the text
+  bool showBorder;                                ///< one point, in the color of the text
 
   InfoWidgetStyle(std::optional<std::string> regularFace, std::optional<std::string> semiBoldFace,
                   std::optional<swiftui::Color> background, bool border)

@@ -1,8 +1,8 @@
 #include "QuorixWidgets/info/InfoWidgetView.h"
 
-#include "QuorixWidgets/localization/Color.h"
-#include "QuorixWidgets/localization/LocalizedString.h"
+#include "QuorixWidgets/localization/Assets.h"
 #include "QuorixWidgets/localization/ResourceBundle.h"
+#include "QuorixWidgets/localization/Strings.h"
 #include "QuorixWidgets/overlay/WebView.h"
 #include "platform/graphics/AssetCatalog.h"
 #include "platform/swiftui/Elements.h"
@@ -15,13 +15,16 @@ using swiftui::Text;
 using swiftui::View;
 
 View title(const InfoWidgetViewModel& model) {
-  model.semiBoldFont();  // of the same family: registered, it is what bold text is drawn in
+  const SwiftUIStyleConfiguration& style = model.styleConfiguration;
+  const bool facesOfHost = style.regularFont && style.semiBoldFont;
+  // Registers the semi-bold face so that bold text in the library's face can use it.
+  if (!facesOfHost && !model.boldStart().empty()) QuorixFont::medium();
   const auto personal = model.getTitle();
   const Text text = personal ? personal->font(model.regularFont()) : model.getInfoTitle();
   return Conditional(personal.has_value(), text.foregroundColor(Color::defaultFontColor()));
 }
 
-/// Of two colours the first one holds: the white stays for whoever reads the tree.
+/// The first color wins; white only appears in the printed tree.
 View link(const InfoWidgetViewModel& model) {
   return Text::verbatim(localized("widget-read-more", model.locale))
       .font(model.regularFont())
@@ -30,7 +33,7 @@ View link(const InfoWidgetViewModel& model) {
       .foregroundColor(swiftui::Color::white());
 }
 
-/// Nothing when the image is missing.
+/// An empty view if the image is missing.
 View logo() {
   const auto library = libraryBundle();
   const auto bundle = library ? library : foundation::Bundle::main();

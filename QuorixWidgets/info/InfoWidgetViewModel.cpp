@@ -3,26 +3,17 @@
 #include <string_view>
 
 #include "QuorixWidgets/info/InfoTitle.h"
-#include "QuorixWidgets/localization/LocalizedString.h"
+#include "QuorixWidgets/localization/Strings.h"
 
 namespace quorix {
 namespace {
 
 using swiftui::Text;
 
-constexpr double fontSize = 13;
 constexpr double lowUpTo = 30;
 constexpr double mediumUpTo = 50;
 
 }  // namespace
-
-const swiftui::Font& InfoWidgetViewModel::regularFont() const {
-  return regularFont_.get(styleConfiguration.regularFont, QuorixFont::regular, fontSize);
-}
-
-const swiftui::Font& InfoWidgetViewModel::semiBoldFont() const {
-  return semiBoldFont_.get(styleConfiguration.semiBoldFont, QuorixFont::medium, fontSize);
-}
 
 Text InfoWidgetViewModel::getInfoTitle() const {
   std::optional<Text> title;
@@ -35,6 +26,11 @@ Text InfoWidgetViewModel::getInfoTitle() const {
   return *std::move(title);
 }
 
+std::string InfoWidgetViewModel::boldStart() const {
+  const bool low = userDetails && userDetails->returnPercentile <= lowUpTo;
+  return low ? localized("widget-title-start", locale) : std::string();
+}
+
 std::optional<Text> InfoWidgetViewModel::getTitle() const {
   if (!userDetails) return std::nullopt;
   const double percentile = userDetails->returnPercentile;
@@ -43,13 +39,13 @@ std::optional<Text> InfoWidgetViewModel::getTitle() const {
     return Text::verbatim(localized(key, locale, {figure}));
   };
   const bool low = percentile <= lowUpTo;
-  const Text start = low ? text("widget-title-start") : Text::verbatim("");
-  // A high share of returns is told as how many return still more.
+  // Above the medium band the text gives the share of shoppers who return more.
   const Text figure = low ? rate("widget-title-return-rate-low", percentile)
                       : percentile <= mediumUpTo
                           ? rate("widget-title-return-rate-medium", percentile)
                           : rate("widget-title-return-rate-high", 100 - percentile);
-  return start.bold() + figure + text("widget-read-more").underline() + text("widget-title-end");
+  return Text::verbatim(boldStart()).bold() + figure + text("widget-read-more").underline() +
+         text("widget-title-end");
 }
 
 }  // namespace quorix

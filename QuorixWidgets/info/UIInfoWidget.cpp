@@ -1,22 +1,29 @@
 #include "QuorixWidgets/info/UIInfoWidget.h"
 
+#include <algorithm>
 #include <utility>
 
-#include "QuorixWidgets/info/UIApplication.h"
-#include "QuorixWidgets/localization/LocalizedString.h"
+#include "QuorixWidgets/localization/Assets.h"
 #include "QuorixWidgets/localization/ResourceBundle.h"
-#include "QuorixWidgets/localization/UIColor.h"
+#include "QuorixWidgets/localization/Strings.h"
 #include "QuorixWidgets/overlay/WebViewController.h"
 #include "platform/foundation/FatalError.h"
 #include "platform/foundation/MainQueue.h"
 #include "platform/uikit/Nib.h"
+#include "platform/uikit/UIApplication.h"
+#include "platform/uikit/UIScene.h"
 
 namespace quorix {
+
+using uikit::UIScene;
+using uikit::UIWindow;
+using uikit::UIWindowScene;
+
 namespace {
 
 constexpr std::string_view source = "QuorixWidgets/UIInfoWidget";
 
-/// What an outlet holds, which a broken interface file may have left empty.
+/// The object of an outlet. A broken interface file may have left it empty.
 template <class View>
 View& require(const std::shared_ptr<View>& outlet) {
   if (!outlet) {
@@ -26,7 +33,46 @@ View& require(const std::shared_ptr<View>& outlet) {
   return *outlet;
 }
 
+std::vector<std::shared_ptr<UIWindowScene>> windowScenes() {
+  std::vector<std::shared_ptr<UIWindowScene>> found;
+  for (const auto& scene : uikit::UIApplication::shared().connectedScenes()) {
+    if (auto withWindows = std::dynamic_pointer_cast<UIWindowScene>(scene)) {
+      found.push_back(std::move(withWindows));
+    }
+  }
+  return found;
+}
+
+template <class Condition>
+std::shared_ptr<UIWindow> firstWindow(const UIWindowScene& scene, Condition condition) {
+  const auto& windows = scene.windows();
+  const auto found = std::find_if(windows.begin(), windows.end(), condition);
+  return found == windows.end() ? nullptr : *found;
+}
+
+bool isKey(const std::shared_ptr<UIWindow>& window) { return window->isKeyWindow(); }
+
+bool isInPlainSight(const std::shared_ptr<UIWindow>& window) {
+  return !window->isHidden() && window->windowLevel() == UIWindow::normalLevel;
+}
+
 }  // namespace
+
+std::shared_ptr<UIWindow> UIApplication::getKeyWindow() {
+  const auto scenes = windowScenes();
+  const auto active = std::find_if(scenes.begin(), scenes.end(), [](const auto& scene) {
+    return scene->activationState() == UIScene::ActivationState::foregroundActive;
+  });
+  if (active != scenes.end()) {
+    if (auto key = firstWindow(**active, isKey)) return key;
+    if (auto visible = firstWindow(**active, isInPlainSight)) return visible;
+    return firstWindow(**active, [](const auto&) { return true; });
+  }
+  for (const auto& scene : scenes) {
+    if (auto key = firstWindow(*scene, isKey)) return key;
+  }
+  return nullptr;
+}
 
 UIInfoWidget::UIInfoWidget(std::shared_ptr<UIInfoWidgetViewModel> viewModel)
     : viewModel_(std::move(viewModel)) {}
@@ -85,18 +131,16 @@ void UIInfoWidget::setupWithInfo() {
   contentView_->setBackgroundColor(background ? background : UIColor::widgetBackground());
 }
 
-/// Each title, the current one first, is shown on a turn of the main queue.
+/// Shows each title, the current one first, on the main queue's next turn.
 void UIInfoWidget::followTitle() {
   const auto self = std::static_pointer_cast<UIInfoWidget>(shared_from_this());
-  const auto deliver = [widget = std::weak_ptr(self)] {
-    foundation::MainQueue::async([widget] {
+  const auto deliver = [widget = std::weak_ptr(self)](const uikit::NSAttributedString& title) {
+    foundation::MainQueue::async([widget, title] {
       const auto shown = widget.lock();
-      if (!shown) return;
-      require(shown->titleLabel_.lock()).setAttributedText(shown->viewModel_->titleText);
+      if (shown) require(shown->titleLabel_.lock()).setAttributedText(title);
     });
   };
-  cancellables_.push_back(viewModel_->onWillChange(deliver));
-  deliver();
+  cancellables_.push_back(viewModel_->titleText.sink(deliver));
 }
 
 void UIInfoWidget::styleLink() {

@@ -8,19 +8,29 @@
 #include "platform/uikit/UILabel.h"
 #include "platform/uikit/UIView.h"
 #include "platform/uikit/UIViewController.h"
+#include "platform/uikit/UIWindow.h"
 
 namespace quorix {
 
-/// The info widget for hosts of the imperative toolkit: the title over a read-more link, which
-/// presents the web overlay over the app's top-most screen. Its content comes from the interface
-/// file of its name; without it, or without one of its outlets, the process stops. Main thread.
+/// The library's additions to the running app. Main thread.
+namespace UIApplication {
+
+/// The window that the user works in. In the first scene in the foreground: its key window, else
+/// its first visible window at the normal level, else its first window. With no scene in the
+/// foreground: the first key window of any scene. Null if there is none.
+std::shared_ptr<uikit::UIWindow> getKeyWindow();
+
+}  // namespace UIApplication
+
+/// The info widget of the imperative toolkit: the title over a read-more link, which presents the
+/// web overlay over the app's top-most screen. Its content is loaded from the interface file of its
+/// name. If the file or one of its outlets is missing, the process stops. Main thread.
 class UIInfoWidget final : public uikit::UIView {
  public:
-  /// The title label follows the model from the next turn of the main queue on.
+  /// The title label shows the model's title from the next turn of the main queue on.
   static std::shared_ptr<UIInfoWidget> make(std::shared_ptr<UIInfoWidgetViewModel> viewModel);
 
-  // A widget cannot come from an interface file, and needs its model: these stop the process.
-
+  // A widget cannot be made without its model: these stop the process.
   [[noreturn]] static std::shared_ptr<UIInfoWidget> initWithCoder();
   [[noreturn]] static std::shared_ptr<UIInfoWidget> initWithFrame(layout::Rect frame);
 

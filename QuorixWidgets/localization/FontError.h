@@ -9,11 +9,11 @@ namespace quorix {
 
 /// Why a face of the library could not be used. Comparable and hashable (`std::hash`).
 enum class FontError : std::uint8_t {
-  /// The library's bundle has no such face, the file is not a font, or the name is taken.
+  /// The library's bundle has no such face, or the file is not a font.
   failedToRegisterFont,
 };
 
-/// What `error` says of itself: domain "QuorixWidgets.FontError", code 0 and a text for developers.
+/// `error` as a general error: domain "QuorixWidgets.FontError", code 0 and a text for developers.
 QUORIX_EXPORT foundation::Error describe(FontError error);
 
 }  // namespace quorix

@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "QuorixWidgets/localization/BuiltInTranslations.h"
 #include "QuorixWidgets/localization/ServiceAddresses.h"
 #include "platform/foundation/MainQueue.h"
 #include "platform/foundation/URLSession.h"
@@ -26,8 +25,8 @@ void LocalizationRepository::update() {
   fetchLocalization(*url, [weak = weak_from_this()](TranslationTableResult result) {
     const auto* table = std::get_if<std::shared_ptr<const TranslationTable>>(&result);
     if (!table) return;
-    // Locked only over there: a last reference let go on this thread would destroy the repository
-    // off the main thread.
+    // Locked on the main thread only: the last reference, released here, would destroy the
+    // repository off the main thread.
     foundation::MainQueue::async([weak, table = *table] {
       if (const auto repository = weak.lock()) repository->strings = table;
     });

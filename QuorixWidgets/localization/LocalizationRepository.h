@@ -4,16 +4,15 @@
 #include <memory>
 #include <string>
 
-#include "QuorixWidgets/localization/TranslationTable.h"
-#include "QuorixWidgets/localization/TranslationTableReader.h"
+#include "QuorixWidgets/localization/Translations.h"
 #include "platform/combine/ObservableObject.h"
 #include "platform/foundation/Export.h"
 #include "platform/foundation/URL.h"
 
 namespace quorix {
 
-/// The texts of one widget in its language: built in at first, replaced whole by each successful
-/// fetch. Main thread.
+/// The texts of one widget in its language: at first the built-in ones, replaced as a whole by each
+/// successful fetch. Main thread.
 ///
 ///     const auto repository = LocalizationRepository::make("es");
 ///     repository->strings.get()->text("actions", "close");  // "Cerrar"
@@ -29,8 +28,8 @@ class LocalizationRepository final : public combine::ObservableObject,
   combine::Published<std::shared_ptr<const TranslationTable>> strings;
   const std::string& locale() const { return locale_; }
 
-  /// Starts one fetch and returns at once. A failed fetch leaves the texts as they are; of several,
-  /// the last to arrive stays. A fetch does not keep the repository alive.
+  /// Starts one fetch and returns at once. A failed fetch changes nothing; of several fetches the
+  /// last to complete counts. A fetch does not keep the repository alive.
   void update();
 
  private:

@@ -7,11 +7,15 @@
 
 namespace quorix {
 
-/// A handle on a face of the library's own family. To hold one is to know that the face is
-/// registered: the first read of a constant registers its face, which happens once in a process.
+/// A handle on a face of the library's own family. The first read of a constant registers its face
+/// with the font manager and with Qt, once per process: from then on `QFont("Saans")` in C++ and
+/// `font.family: "Saans"` in QML find it. If the constant is read before the application object is
+/// made, Qt gets the face when it is made; if it is read on another thread than the main one, Qt
+/// gets the face on the main thread's next turn.
 ///
-/// A face that cannot be registered (a broken build of the library, or a host that has registered a
-/// face of the same name) stops the process with "Failed to register font: ...". Any thread.
+/// A face of the same name that is installed on the user's desktop is ignored. One that the host
+/// has registered itself is used instead of the library's. If the library was built without the
+/// face, the process stops with "Failed to register font: ...". Any thread.
 ///
 ///     auto title = Font::Quorix::relative(QuorixFont::medium(), 16, swiftui::TextStyle::headline);
 class QUORIX_EXPORT QuorixFont {

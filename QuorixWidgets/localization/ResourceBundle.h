@@ -7,16 +7,24 @@
 
 namespace quorix {
 
-/// What the library's resource bundle is registered under.
+/// The identifier under which the library's resource bundle is registered.
 inline constexpr std::string_view kResourceBundleIdentifier = "example.quorix.QuorixWidgets";
 
-/// The library's resource bundle by its identifier, looked up at each call; null when the host took
-/// the registration away. The first call registers the embedded files, unless the host (for live
-/// edits, say) registered a bundle of its own before. Any thread.
+/// Lays `theme` over the library's own resources: its texts, colors, images, interface file and
+/// faces replace the library's. Null removes the theme. Main thread, before the first widget is
+/// made: colors, faces and symbols that have been read are kept.
+///
+///     setTheme(Bundle::open("/usr/share/shop/theme"));  // holds Assets.xcassets/Grey1.colorset
+QUORIX_EXPORT void setTheme(foundation::Bundle::Ref theme);
+
+/// The library's resource bundle by its identifier, looked up at each call; null if the host has
+/// removed the registration. The first call registers the embedded files, unless a theme is set or
+/// the host has registered a bundle of its own. Any thread.
 QUORIX_EXPORT foundation::Bundle::Ref libraryBundle();
 
-/// The bundle of the library's generated asset symbols: what was registered at the first call, or
-/// else the embedded files; never null, and the same ever after. Any thread.
-const foundation::Bundle::Ref& resourceBundle();
+/// The bundle of the library's asset symbols: the files that are compiled into the library, with
+/// the theme over them. A bundle that the host registers under the identifier does not count here.
+/// Never null, and the same after the first call. Any thread.
+QUORIX_EXPORT const foundation::Bundle::Ref& resourceBundle();
 
 }  // namespace quorix

@@ -4,7 +4,7 @@
 
 namespace quorix {
 
-/// The vendor's services: secure addresses without a trailing slash.
+/// The addresses of the vendor's services: https, without a trailing slash.
 inline constexpr std::string_view modulesServiceBaseURL = "https://modules.quorix.example";
 inline constexpr std::string_view widgetServiceBaseURL = "https://widget.quorix.example";
 

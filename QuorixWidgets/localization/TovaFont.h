@@ -7,14 +7,14 @@
 
 namespace quorix {
 
-/// A handle on a face of the Tova brand's family, for a host's own styles. As with `QuorixFont`,
-/// the first read registers, once in a process, and a failure stops the process. Any thread.
+/// A handle on a face of the Tova brand's family, for a host's own styles. Registered as described
+/// for `QuorixFont`; Qt finds it as `QFont("Tova Sans Latin")`. Any thread.
 ///
 ///     style.regularFont = TovaFont::regular().name();
 ///     style.semiBoldFont = "TovaSansLatin-SemiBold";  // registered along with the regular face
 class QUORIX_EXPORT TovaFont {
  public:
-  /// "TovaSansLatin-Regular". Registers "TovaSansLatin-SemiBold" as well, to be used by its name.
+  /// "TovaSansLatin-Regular". Also registers "TovaSansLatin-SemiBold", which is used by its name.
   static const TovaFont& regular();
 
   /// The face's PostScript name.

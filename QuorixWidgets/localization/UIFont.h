@@ -1,30 +1,33 @@
 #pragma once
 
+#include <string>
+
 #include "QuorixWidgets/localization/QuorixFont.h"
 #include "QuorixWidgets/localization/TovaFont.h"
+#include "platform/foundation/Export.h"
 #include "platform/uikit/UIFont.h"
 
 namespace quorix {
 
 /// The library's faces as fonts of the imperative toolkit. Sizes are in points and do not scale.
-/// Never null: a face that the font manager does not know stops the process. Any thread.
+/// Never null: reading the handle has registered its face. Any thread.
 ///
 ///     label->setFont(UIFont::Quorix::fixed(QuorixFont::regular(), 13));
 struct UIFont : uikit::UIFont {
   UIFont() = delete;
 
-  struct Quorix {
-    Quorix() = delete;
-    static Ref fixed(const QuorixFont& font, double size) { return require(font.name(), size); }
+  /// Fonts of a family's handles: `Quorix` and `Tova`.
+  template <class Handle>
+  struct Family {
+    Family() = delete;
+    static Ref fixed(const Handle& font, double size) { return require(font.name(), size); }
   };
 
-  struct Tova {
-    Tova() = delete;
-    static Ref fixed(const TovaFont& font, double size) { return require(font.name(), size); }
-  };
+  using Quorix = Family<QuorixFont>;
+  using Tova = Family<TovaFont>;
 
  private:
-  static Ref require(const std::string& name, double size);
+  QUORIX_EXPORT static Ref require(const std::string& name, double size);
 };
 
 }  // namespace quorix

@@ -8,17 +8,23 @@ namespace {
 
 using Text = std::optional<std::string>;
 
-/// The pages know Norwegian by one code only.
+/// The pages use one code for both Norwegian languages.
 Text languageOfPage(const Text& locale) {
   return locale == "nb" || locale == "nn" ? Text("no") : locale;
 }
 
 }  // namespace
 
+std::string OverlayAddress::personalPage() {
+  return std::string(widgetServiceBaseURL) + "/users/details/";
+}
+
+std::string OverlayAddress::generalPage() {
+  return std::string(modulesServiceBaseURL) + "/html/overlays/info";
+}
+
 std::optional<foundation::URL> OverlayAddress::url() const {
-  const std::string page = token ? std::string(widgetServiceBaseURL) + "/users/details/"
-                                 : std::string(modulesServiceBaseURL) + "/html/overlays/info";
-  auto components = foundation::URLComponents::parse(page);
+  auto components = foundation::URLComponents::parse(token ? overlayURL : genericOverlayURL);
   if (!components) return std::nullopt;
   components->setQueryItems({{"lang", languageOfPage(locale)}});
   if (userName && token) {

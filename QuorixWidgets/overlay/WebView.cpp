@@ -1,10 +1,9 @@
 #include "QuorixWidgets/overlay/WebView.h"
 
-#include "QuorixWidgets/localization/Color.h"
+#include "QuorixWidgets/localization/Assets.h"
 #include "QuorixWidgets/localization/Font.h"
-#include "QuorixWidgets/localization/ImageResource.h"
-#include "QuorixWidgets/localization/LocalizedString.h"
-#include "QuorixWidgets/overlay/WebViewControllerRepresentable.h"
+#include "QuorixWidgets/localization/Strings.h"
+#include "QuorixWidgets/overlay/WebViewController.h"
 #include "platform/swiftui/Elements.h"
 #include "platform/swiftui/UIViewControllerRepresentable.h"
 
@@ -13,6 +12,25 @@ namespace {
 
 using layout::Edges;
 using swiftui::View;
+
+/// The overlay's page in a declarative view. The controller is made once and keeps its values:
+/// later ones do not reach it, and a page that is shown is not loaded again.
+struct WebViewControllerRepresentable {
+  static constexpr std::string_view typeName = "WebViewControllerRepresentable";
+
+  std::optional<std::string> userName;
+  std::optional<std::string> token;
+  std::string locale;
+
+  std::shared_ptr<WebViewController> makeUIViewController() const {
+    auto controller = std::make_shared<WebViewController>();
+    controller->userName = userName;
+    controller->token = token;
+    controller->locale = locale;
+    return controller;
+  }
+  void updateUIViewController(WebViewController&) const {}
+};
 
 View heading(const std::string& userName, const std::string& locale) {
   const auto words =
@@ -28,7 +46,7 @@ View heading(const std::string& userName, const std::string& locale) {
 
 }  // namespace
 
-/// The cross. It has no label: the image's name is spoken, in the user's own language.
+/// The cross. It has no label: screen readers say the image's name in the user's own language.
 struct WebView::CloseButton {
   static constexpr std::string_view typeName = "CloseButton";
 

@@ -9,7 +9,7 @@
 
 namespace quorix {
 
-/// The web overlay as the content of a sheet: the page, over it a heading for whoever has a name,
+/// The web overlay as the content of a sheet: the page, above it a heading if there is a user name,
 /// and a button that closes the sheet.
 struct WebView {
   static constexpr std::string_view typeName = "WebView";

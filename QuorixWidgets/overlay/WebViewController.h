@@ -3,7 +3,10 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 
+#include "QuorixWidgets/overlay/OverlayAddress.h"
+#include "platform/foundation/Bundle.h"
 #include "platform/uikit/UIImageView.h"
 #include "platform/uikit/UIViewController.h"
 #include "platform/webkit/WKWebView.h"
@@ -11,8 +14,9 @@
 namespace quorix {
 
 /// The web overlay: a page of the vendor's web service that fills the controller's view, with a
-/// close control of its own where that is asked for. What a page wants to open in a new window
-/// leaves the app. Main thread.
+/// close control if `showCloseButton` is set. An address that the page opens in a new window is
+/// opened outside the app. If the page's process ends, a sentence in the page's language and a
+/// button that loads it again take its place. Main thread.
 ///
 /// The fields are read once, when the view loads:
 ///
@@ -29,24 +33,40 @@ class WebViewController final : public uikit::UIViewController,
   std::optional<std::string> locale;    ///< a language code
   bool showCloseButton = false;
 
+  WebViewController() : WebViewController(std::nullopt, nullptr) {}
+  /// Passes both to the base class.
+  WebViewController(std::optional<std::string> nibName, foundation::Bundle::Ref bundle)
+      : UIViewController(std::move(nibName), std::move(bundle)) {}
+  /// A controller from an archive. Archives hold none of the fields above: they are as in a new
+  /// controller.
+  static std::shared_ptr<WebViewController> initWithCoder() {
+    return std::make_shared<WebViewController>();
+  }
+
   void viewDidLoad() override;
-  /// Dismisses the controller.
-  void clickCloseButton();
-  /// Hands the address to the system and opens nothing here.
+  /// Dismisses the controller. `sender`, the tapped button or view, may be null.
+  void clickCloseButton(const uikit::UIView* sender);
+  /// Opens the address outside the app. Always returns null.
   std::shared_ptr<webkit::WKWebView> webView(
       webkit::WKWebView& webView, const webkit::WKWebViewConfiguration& createWebViewWith,
       const webkit::WKNavigationAction& forAction,
       const webkit::WKWindowFeatures& windowFeatures) override;
+  void webViewWebContentProcessDidTerminate(webkit::WKWebView& webView) override;
 
  private:
   void adddWebView();
   void loadURL();
   void addCloseButtonIfNeeded();
+  void showNotice();
+  void tryAgain();
   std::shared_ptr<WebViewController> self() {
     return std::static_pointer_cast<WebViewController>(shared_from_this());
   }
 
+  std::string overlayURL_ = OverlayAddress::personalPage();
+  std::string genericOverlayURL_ = OverlayAddress::generalPage();
   std::shared_ptr<webkit::WKWebView> webView_;
+  std::shared_ptr<uikit::UIView> notice_;  ///< in the page's place; null while the page shows
 };
 
 }  // namespace quorix

@@ -15,10 +15,10 @@ swiftui::View ScoreWidgetBuilder::buildSwiftUIScoreWidgetView(std::string_view c
                                                               std::string_view locale,
                                                               std::string_view token,
                                                               const ScoreWidgetStyle& style) {
-  const swiftui::View nothing = swiftui::Conditional(false, {});
-  if (token.empty()) return nothing;
+  const auto empty = [] { return swiftui::Conditional(false, {}); };
+  if (token.empty()) return empty();
   const auto data = parseTokenData(token);
-  if (!data || clientId.empty()) return nothing;
+  if (!data || !hasReturnRate(data->score) || clientId.empty()) return empty();
   const std::string languageCode(locale);
   ScoreWidgetView view{
       std::make_shared<ScoreWidgetViewModel>(std::string(clientId), *data, languageCode, style),

@@ -12,12 +12,13 @@ namespace quorix {
 struct QUORIX_EXPORT ScoreWidgetBuilder {
   ScoreWidgetBuilder() = delete;
 
-  /// The score row of one shopper, ready to be placed on a surface. Each call makes a fresh one and
-  /// nothing is kept.
+  /// The score row of one shopper, ready to be placed on a surface. Each call makes a new one; the
+  /// builder keeps no state.
   ///
   /// `clientId` is the retailer's, `locale` a language code ("en", "es"), `token` the shopper's
-  /// token as the widget service issued it. A token that cannot be read, an empty token and an
-  /// empty client id give an empty view, which takes no space; nothing is reported.
+  /// token as the widget service issued it. The result is an empty view, which takes no space, for
+  /// an empty client id, an empty token, a token that cannot be read and one whose return rate does
+  /// not fit 64 bits (a score of 1e18). No error is reported.
   ///
   ///     auto row = ScoreWidgetBuilder::buildSwiftUIScoreWidgetView(
   ///         "my-shop", "en", token, {std::nullopt, std::nullopt});

@@ -1,12 +1,15 @@
 #include "QuorixWidgets/score/ScoreWidgetSheet.h"
 
-#include "QuorixWidgets/localization/Color.h"
-#include "QuorixWidgets/localization/ColorResource.h"
+#include "QuorixWidgets/localization/Assets.h"
 #include "QuorixWidgets/localization/ResourceBundle.h"
 #include "QuorixWidgets/score/ScoreWidgetTexts.h"
 #include "platform/swiftui/Elements.h"
 
 namespace quorix {
+
+using swiftui::PresentationDetent;
+using swiftui::PresentationDetents;
+
 namespace {
 
 using layout::EdgeInsets;
@@ -93,6 +96,15 @@ View scoreWidgetSheet(const ScoreWidgetViewModel& model, const LocalizationRepos
                 {header(model, texts, showSheet), feeRow(model, texts), rateRow(model, texts),
                  divider, disclaimer, logo(texts)})
       .padding(EdgeInsets{.leading = 16, .trailing = 16});
+}
+
+View AdaptiveSheetModifier::body(const View& content) const {
+  const auto detents = presentationDetents.binding();
+  const auto follow = [detents](layout::Size size) {
+    detents.set(PresentationDetents{PresentationDetent::height(size.height)});
+  };
+  return content.sheet(isPresented,
+                       sheetContent.presentationDetents(detents.get()).onGeometryChange(follow));
 }
 
 }  // namespace quorix

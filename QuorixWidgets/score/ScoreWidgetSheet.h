@@ -1,17 +1,32 @@
 #pragma once
 
-#include <memory>
+#include <string_view>
+#include <tuple>
 
 #include "QuorixWidgets/localization/LocalizationRepository.h"
 #include "QuorixWidgets/score/ScoreWidgetViewModel.h"
+#include "platform/swiftui/PresentationDetent.h"
 #include "platform/swiftui/State.h"
 #include "platform/swiftui/View.h"
 
 namespace quorix {
 
-/// The content of the detail sheet: the figures again, larger, with what they mean.
+/// The content of the detail sheet: the figures in larger type, with an explanation.
 swiftui::View scoreWidgetSheet(const ScoreWidgetViewModel& model,
                                const LocalizationRepository& localization,
                                const swiftui::Binding<bool>& showSheet);
+
+/// Presents a bottom sheet that is exactly as tall as its content: at the platform's medium height
+/// until the content has been laid out, then at the measured height.
+struct AdaptiveSheetModifier {
+  static constexpr std::string_view typeName = "AdaptiveSheetModifier";
+
+  swiftui::Binding<bool> isPresented;
+  swiftui::State<swiftui::PresentationDetents> presentationDetents;
+  swiftui::View sheetContent;
+
+  auto states() const { return std::tie(presentationDetents); }
+  swiftui::View body(const swiftui::View& content) const;
+};
 
 }  // namespace quorix

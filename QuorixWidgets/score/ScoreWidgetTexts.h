@@ -9,8 +9,8 @@
 
 namespace quorix {
 
-/// The words of the score row and its sheet: the table's texts, and the labels composed of them and
-/// the figures. A missing text is empty.
+/// The words of the score row and its sheet: the table's texts, and the accessibility labels that
+/// are composed of them and the figures. A missing text is empty.
 class ScoreWidgetTexts {
  public:
   ScoreWidgetTexts(const ScoreWidgetViewModel& model, const LocalizationRepository& localization)

@@ -1,8 +1,6 @@
 #include "QuorixWidgets/score/ScoreWidgetView.h"
 
-#include "QuorixWidgets/localization/Color.h"
-#include "QuorixWidgets/localization/ColorResource.h"
-#include "QuorixWidgets/score/AdaptiveSheetModifier.h"
+#include "QuorixWidgets/localization/Assets.h"
 #include "QuorixWidgets/score/ScoreWidgetSheet.h"
 #include "QuorixWidgets/score/ScoreWidgetTexts.h"
 #include "platform/swiftui/Elements.h"
@@ -15,6 +13,12 @@ using swiftui::Text;
 using swiftui::View;
 
 namespace {
+
+/// Made once: it is drawn in every row.
+const swiftui::Color& formerFeeColor() {
+  static const swiftui::Color color(ColorResource::grey2());
+  return color;
+}
 
 View compactRow(const ScoreWidgetViewModel& model, const ScoreWidgetTexts& texts) {
   const auto emphasised = [&](const std::string& fee) {
@@ -31,7 +35,7 @@ View compactRow(const ScoreWidgetViewModel& model, const ScoreWidgetTexts& texts
                         ? swiftui::Group({emphasised(model.reducedReturnFee),
                                           View(Text::verbatim(model.baseReturnFee.get()))
                                               .font(model.widgetRegularFont())
-                                              .foregroundColor(ColorResource::grey2())
+                                              .foregroundColor(formerFeeColor())
                                               .strikethrough()})
                         : emphasised(model.baseReturnFee);
   return swiftui::HStack(layout::VerticalAlignment::center, 12,
@@ -43,7 +47,7 @@ View compactRow(const ScoreWidgetViewModel& model, const ScoreWidgetTexts& texts
 View ScoreWidgetView::body() const {
   const ScoreWidgetTexts texts(*viewModel, *localization);
   const auto sheetFlag = showSheet.binding();
-  const auto toggleSheet = [sheetFlag] { sheetFlag.toggle(); };
+  const foundation::Action toggleSheet = [sheetFlag] { sheetFlag.toggle(); };
   const auto sheetContent = [model = viewModel, strings = localization, sheetFlag] {
     return scoreWidgetSheet(*model, *strings, sheetFlag);
   };

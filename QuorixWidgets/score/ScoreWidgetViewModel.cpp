@@ -1,9 +1,9 @@
 #include "QuorixWidgets/score/ScoreWidgetViewModel.h"
 
+#include <cmath>
 #include <utility>
 
-#include "QuorixWidgets/localization/QuorixFont.h"
-#include "QuorixWidgets/score/ReturnRate.h"
+#include "platform/foundation/FatalError.h"
 
 namespace quorix {
 namespace {
@@ -13,7 +13,22 @@ constexpr double overlayFontSize = 16;
 constexpr double discountFrom = 0.1;
 constexpr std::int64_t hundredthsInUnit = 100;
 
+double percentOf(double score) { return std::round((1.0 - score) * 100.0); }
+
 }  // namespace
+
+bool hasReturnRate(double score) {
+  constexpr double limit = 0x1p63;
+  const double percent = percentOf(score);
+  return percent >= -limit && percent < limit;  // false for NaN as well
+}
+
+std::string returnRateText(double score) {
+  if (!hasReturnRate(score)) {
+    foundation::fatalError("the return rate lies outside the 64-bit range", "ReturnRate");
+  }
+  return std::to_string(static_cast<std::int64_t>(percentOf(score))) + "%";
+}
 
 ScoreWidgetViewModel::ScoreWidgetViewModel(std::string clientId, const TokenData& token,
                                            std::string languageCode, const ScoreWidgetStyle& style)
@@ -21,6 +36,9 @@ ScoreWidgetViewModel::ScoreWidgetViewModel(std::string clientId, const TokenData
       reducedReturnFee(*this, {}),
       hasDiscount(*this, token.score >= discountFrom),
       returnRate(*this, {}),
+      widgetRegularFont(style.regularFont, QuorixFont::regular, widgetFontSize),
+      widgetSemiBoldFont(style.semiBoldFont, QuorixFont::medium, widgetFontSize),
+      overlayRegularFont(style.regularFont, QuorixFont::regular, overlayFontSize),
       styleConfiguration_{style.regularFont, style.semiBoldFont, std::nullopt, false},
       clientId_(std::move(clientId)),
       returnFee_(token.returnsFee),
@@ -39,21 +57,6 @@ void ScoreWidgetViewModel::getReducedReturnFee(std::int64_t fee) {
 /// The hundredths are dropped, never rounded.
 std::optional<std::string> ScoreWidgetViewModel::feeText(std::int64_t hundredths) const {
   return numberFormatter_.text(hundredths / hundredthsInUnit);
-}
-
-const swiftui::Font& ScoreWidgetViewModel::widgetRegularFont() const {
-  return widgetRegularFont_.get(styleConfiguration_.regularFont, QuorixFont::regular,
-                                widgetFontSize);
-}
-
-const swiftui::Font& ScoreWidgetViewModel::widgetSemiBoldFont() const {
-  return widgetSemiBoldFont_.get(styleConfiguration_.semiBoldFont, QuorixFont::medium,
-                                 widgetFontSize);
-}
-
-const swiftui::Font& ScoreWidgetViewModel::overlayRegularFont() const {
-  return overlayRegularFont_.get(styleConfiguration_.regularFont, QuorixFont::regular,
-                                 overlayFontSize);
 }
 
 }  // namespace quorix

@@ -5,19 +5,25 @@
 #include <string>
 
 #include "QuorixWidgets/data/TokenData.h"
-#include "QuorixWidgets/localization/StyleFont.h"
-#include "QuorixWidgets/localization/SwiftUIStyleConfiguration.h"
+#include "QuorixWidgets/localization/StyleConfiguration.h"
 #include "QuorixWidgets/score/ScoreWidgetStyle.h"
 #include "platform/combine/ObservableObject.h"
 #include "platform/foundation/CurrencyFormatter.h"
 #include "platform/foundation/Export.h"
-#include "platform/foundation/Locale.h"
 #include "platform/swiftui/Font.h"
 
 namespace quorix {
 
-/// Everything that a score widget shows, as display text, made once from a token's figures. The
-/// formatter and the fonts belong to the model. Main thread.
+/// Whether `score` has a return rate, one that fits 64 bits. Every issued score has, but a token
+/// may carry any number: check before making a view model. Any thread.
+QUORIX_EXPORT bool hasReturnRate(double score);
+
+/// The return rate that belongs to `score`, 1 - score, in whole percent, halves away from zero:
+/// 0.355 gives "65%". A score that has none stops the process. Any thread.
+std::string returnRateText(double score);
+
+/// The display texts of a score widget, made once from a token's figures, and its fonts. Main
+/// thread.
 class ScoreWidgetViewModel final : public combine::ObservableObject {
  public:
   QUORIX_EXPORT ScoreWidgetViewModel(std::string clientId, const TokenData& token,
@@ -28,23 +34,17 @@ class ScoreWidgetViewModel final : public combine::ObservableObject {
   combine::Published<bool> hasDiscount;
   combine::Published<std::string> returnRate;
 
-  /// Sets the reduced fee's text from `fee`, in hundredths of the currency unit, and the rate's.
-  /// A rate beyond 64 bits stops the process.
-  void getReducedReturnFee(std::int64_t fee);
+  const StyleFont widgetRegularFont;   ///< 14 points
+  const StyleFont widgetSemiBoldFont;  ///< 14 points
+  const StyleFont overlayRegularFont;  ///< 16 points
 
-  /// 14 points.
-  const swiftui::Font& widgetRegularFont() const;
-  /// 14 points.
-  const swiftui::Font& widgetSemiBoldFont() const;
-  /// 16 points.
-  const swiftui::Font& overlayRegularFont() const;
+  /// Sets `reducedReturnFee` from `fee`, in hundredths of the currency unit, and `returnRate`. A
+  /// rate beyond 64 bits stops the process.
+  void getReducedReturnFee(std::int64_t fee);
 
  private:
   std::optional<std::string> feeText(std::int64_t hundredths) const;
 
-  mutable StyleFont widgetRegularFont_;
-  mutable StyleFont widgetSemiBoldFont_;
-  mutable StyleFont overlayRegularFont_;
   SwiftUIStyleConfiguration styleConfiguration_;
   std::string clientId_;
   std::int64_t returnFee_;

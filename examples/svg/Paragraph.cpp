@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-#include "platform/text/BaseDirection.h"
+#include "platform/text/TextAnalysis.h"
 
 namespace quorix::examples {
 namespace {

@@ -111,7 +111,7 @@ void SvgPainter::draw(const render::ImageItem& item) {
   const auto image = graphics::imageSet(item.bundle, item.name);
   if (!image) return;
   std::string filter;
-  if (item.isTemplate.value_or(image->isTemplate)) {
+  if (image->isTemplate) {
     const std::string id = "tint" + std::to_string(svg_.size());
     filter = attribute("filter", "url(#" + id + ")");
     svg_ += "<filter" + attribute("id", id) + "><feFlood" + fill(item.tint, "flood-color") +

@@ -4,14 +4,12 @@
 #include <memory>
 #include <utility>
 
+#include "platform/combine/Observers.h"
 #include "platform/foundation/Export.h"
 
 namespace quorix::combine {
 
-/// Keeps a subscription alive; dropping it ends the subscription.
-using Cancellable = std::shared_ptr<void>;
-
-/// An object that tells its observers that it is about to change. Shared by reference; main thread.
+/// An object that notifies its observers before it changes. Shared by reference; main thread.
 class QUORIX_EXPORT ObservableObject {
  public:
   ObservableObject() = default;
@@ -23,15 +21,15 @@ class QUORIX_EXPORT ObservableObject {
   /// end its own or another subscription while it runs.
   [[nodiscard]] Cancellable onWillChange(std::function<void()> observer);
 
-  /// Tells every observer. For published values.
+  /// Notifies every observer. For published values.
   void sendWillChange();
 
  private:
-  struct Observers;
-  std::shared_ptr<Observers> observers_;
+  std::unique_ptr<Observers<>> observers_;  // most objects are never observed
 };
 
-/// A value whose every assignment first tells the owner's observers and then stores.
+/// A value. Each assignment notifies the owner's observers, passes the new value to the
+/// subscribers, and then stores it.
 template <class T>
 class Published {
  public:
@@ -39,11 +37,19 @@ class Published {
   Published(const Published&) = delete;
   Published& operator=(const Published&) = delete;
 
+  /// Calls `receive` with the current value and with each new one, for as long as the returned
+  /// token lives. Every value arrives, in the order of assignment.
+  [[nodiscard]] Cancellable sink(typename Observers<T>::Observer receive) {
+    receive(value_);
+    return subscribers_.add(std::move(receive));
+  }
+
   const T& get() const { return value_; }
   operator const T&() const { return value_; }
 
   Published& operator=(T value) {
     owner_.sendWillChange();
+    subscribers_.call(value);
     value_ = std::move(value);
     return *this;
   }
@@ -51,6 +57,7 @@ class Published {
  private:
   ObservableObject& owner_;
   T value_;
+  Observers<T> subscribers_;
 };
 
 }  // namespace quorix::combine

@@ -7,59 +7,53 @@
 namespace quorix::foundation {
 namespace {
 
-constexpr std::string_view kAlphabet =
+constexpr std::string_view base64Alphabet =
     "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
 
 /// Above every 24-bit value, so that a whole text is checked with one comparison.
-constexpr std::uint32_t kInvalid = 1u << 31;
+constexpr std::uint32_t invalidBit = 1u << 31;
 
-/// What a character stands for, shifted to each of its four places in 24 bits.
+/// The value of each character, shifted to each of its four places in 24 bits.
 using Values = std::array<std::array<std::uint32_t, 256>, 4>;
 
-constexpr Values valuesOf(Base64Alphabet alphabet) {
-  Values values{};
+constexpr Values characterValues = [] {
+  Values result{};
   for (std::uint32_t place = 0; place < 4; ++place) {
-    auto& shifted = values[place];
-    shifted.fill(kInvalid);
-    for (std::uint32_t i = 0; i < kAlphabet.size(); ++i) {
-      shifted[static_cast<unsigned char>(kAlphabet[i])] = i << (18 - 6 * place);
+    auto& shifted = result[place];
+    shifted.fill(invalidBit);
+    for (std::uint32_t i = 0; i < base64Alphabet.size(); ++i) {
+      shifted[static_cast<unsigned char>(base64Alphabet[i])] = i << (18 - 6 * place);
     }
-    if (alphabet == Base64Alphabet::either) {
-      shifted['-'] = shifted['+'];
-      shifted['_'] = shifted['/'];
-    }
+    shifted['-'] = shifted['+'];
+    shifted['_'] = shifted['/'];
   }
-  return values;
-}
+  return result;
+}();
 
-constexpr Values kStandard = valuesOf(Base64Alphabet::standard);
-constexpr Values kEither = valuesOf(Base64Alphabet::either);
-
-/// Four characters as 24 bits, or a value with `kInvalid` set.
-std::uint32_t quantum(const Values& values, const char* text) {
-  const auto value = [&](int i) { return values[i][static_cast<unsigned char>(text[i])]; };
+/// Four characters as 24 bits, or a value with `invalidBit` set.
+std::uint32_t quantum(const char* text) {
+  const auto value = [&](int i) { return characterValues[i][static_cast<unsigned char>(text[i])]; };
   return value(0) | value(1) | value(2) | value(3);
 }
 
 }  // namespace
 
-std::optional<std::string> decodeBase64(std::string text, Base64Alphabet alphabet) {
+std::optional<std::string> decodeBase64(std::string text) {
   if (text.size() % 4 != 0) return std::nullopt;
   const std::size_t padding = !text.ends_with('=') ? 0 : text.ends_with("==") ? 2 : 1;
-  std::fill_n(text.rbegin(), padding, kAlphabet[0]);
+  std::fill_n(text.rbegin(), padding, base64Alphabet[0]);
 
-  const Values& values = alphabet == Base64Alphabet::either ? kEither : kStandard;
   const char* const end = text.data() + text.size();
   char* out = text.data();
   std::uint32_t invalid = 0;
   for (const char* in = out; in != end; in += 4) {
-    const std::uint32_t bits = quantum(values, in);
+    const std::uint32_t bits = quantum(in);
     invalid |= bits;
     *out++ = static_cast<char>(bits >> 16);
     *out++ = static_cast<char>(bits >> 8);
     *out++ = static_cast<char>(bits);
   }
-  if (invalid & kInvalid) return std::nullopt;
+  if (invalid & invalidBit) return std::nullopt;
   text.resize(text.size() / 4 * 3 - padding);
   return text;
 }
@@ -72,10 +66,10 @@ std::string encodeBase64(std::string_view bytes) {
       return i + k < bytes.size() ? static_cast<unsigned char>(bytes[i + k]) : 0;
     };
     const std::uint32_t bits = byte(0) << 16 | byte(1) << 8 | byte(2);
-    text += kAlphabet[bits >> 18];
-    text += kAlphabet[bits >> 12 & 63];
-    text += i + 1 < bytes.size() ? kAlphabet[bits >> 6 & 63] : '=';
-    text += i + 2 < bytes.size() ? kAlphabet[bits & 63] : '=';
+    text += base64Alphabet[bits >> 18];
+    text += base64Alphabet[bits >> 12 & 63];
+    text += i + 1 < bytes.size() ? base64Alphabet[bits >> 6 & 63] : '=';
+    text += i + 2 < bytes.size() ? base64Alphabet[bits & 63] : '=';
   }
   return text;
 }

@@ -6,17 +6,12 @@
 
 namespace quorix::foundation {
 
-/// The alphabets that a text may be written in; `either` also takes the URL-safe "-" and "_" for
-/// the standard "+" and "/".
-enum class Base64Alphabet { standard, either };
-
-/// The bytes that `text` spells in padded base64, or nothing. Strict: a character outside the
-/// alphabet (a line break too) and missing, surplus or misplaced padding are refused; bits left
-/// over before the padding are ignored. Any thread.
+/// Decodes `text`, padded base64 in the standard or the URL-safe alphabet ("-" and "_" for "+" and
+/// "/"), even mixed. Strict: absent for any other character (a line break too) and for missing,
+/// surplus or misplaced padding. Ignores bits left over before the padding. Any thread.
 ///
 ///     decodeBase64("AAE=")  // the bytes 0 and 1
-std::optional<std::string> decodeBase64(std::string text,
-                                        Base64Alphabet alphabet = Base64Alphabet::standard);
+std::optional<std::string> decodeBase64(std::string text);
 
 /// `bytes` in standard base64 with padding. Any thread.
 std::string encodeBase64(std::string_view bytes);

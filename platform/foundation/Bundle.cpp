@@ -5,9 +5,6 @@
 #include <mutex>
 #include <utility>
 
-#include "platform/foundation/EmbeddedBundle.h"
-#include "platform/foundation/EmbeddedResources.h"
-
 namespace quorix::foundation {
 namespace {
 
@@ -32,10 +29,16 @@ Bundle::Ref Bundle::withIdentifier(std::string_view identifier) {
 }
 
 Bundle::Ref Bundle::main() {
-  static const Ref empty = std::make_shared<EmbeddedBundle>(std::span<const EmbeddedFile>());
+  static const Ref empty = of({});
   Registry& r = registry();
   const std::scoped_lock lock(r.mutex);
   return r.main ? r.main : empty;
+}
+
+bool Bundle::hasMain() {
+  Registry& r = registry();
+  const std::scoped_lock lock(r.mutex);
+  return r.main != nullptr;
 }
 
 void Bundle::registerBundle(std::string_view identifier, Ref bundle) {
@@ -58,11 +61,6 @@ void Bundle::setMain(Ref bundle) {
   Registry& r = registry();
   const std::scoped_lock lock(r.mutex);
   r.main = std::move(bundle);
-}
-
-Bundle::Ref Bundle::embedded() {
-  static const Ref bundle = std::make_shared<EmbeddedBundle>(embeddedFiles());
-  return bundle;
 }
 
 }  // namespace quorix::foundation

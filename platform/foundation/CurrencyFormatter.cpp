@@ -4,13 +4,13 @@
 #include <unicode/dcfmtsym.h>
 #include <unicode/numberformatter.h>
 #include <unicode/ucurr.h>
+#include <unicode/uloc.h>
 #include <unicode/ures.h>
 
 #include <algorithm>
-#include <map>
-#include <mutex>
 #include <string_view>
-#include <utility>
+
+#include "platform/foundation/Cache.h"
 
 namespace quorix::foundation {
 
@@ -20,8 +20,14 @@ struct CurrencyFormatter::Engine {
 
 namespace {
 
-/// A process shows a handful of locales; the bound only keeps odd input from growing the cache.
-constexpr std::size_t kCachedEngines = 32;
+/// A process shows a handful of locales. The bound is for odd input.
+constexpr std::size_t mostEngines = 32;
+
+/// The size of ICU's own buffers for a locale's name. A longer name is no known language.
+constexpr std::size_t longestLanguage = ULOC_FULLNAME_CAPACITY;
+
+/// Replaces each text that is no currency code: the amounts are written the same for all of them.
+constexpr std::string_view noCode = "?";
 
 bool isCurrencyCode(std::string_view text) {
   return text.size() == 3 && std::all_of(text.begin(), text.end(), [](char c) {
@@ -29,8 +35,8 @@ bool isCurrencyCode(std::string_view text) {
          });
 }
 
-/// The language, or the neutral root where the locale data does not know it: left to itself ICU
-/// would take the process's own language instead.
+/// The language, or the neutral root if the locale data does not have it. ICU by itself would use
+/// the process's own language.
 icu::Locale knownLanguage(const std::string& code) {
   icu::Locale language(code.c_str());
   UErrorCode status = U_ZERO_ERROR;
@@ -44,7 +50,7 @@ icu::number::LocalizedNumberFormatter makeFormatter(const Locale& locale) {
   const std::string& code = locale.currencyCode;
   UErrorCode status = U_ZERO_ERROR;
   if (isCurrencyCode(code)) return formatter.unit(icu::CurrencyUnit(code, status));
-  // A text that is no code gives way to the currency of the language's region.
+  // The currency of the language's region replaces a text that is no code.
   UChar regional[4] = {};
   if (!code.empty() && *language.getCountry() != '\0' &&
       ucurr_forLocale(language.getName(), regional, 4, &status) == 3 && U_SUCCESS(status)) {
@@ -57,21 +63,27 @@ icu::number::LocalizedNumberFormatter makeFormatter(const Locale& locale) {
   return formatter.symbols(symbols).unit(icu::CurrencyUnit());
 }
 
+/// Reduces `locale` to what changes how amounts are written, which keeps the cache's keys small.
+Locale shortened(const Locale& locale) {
+  const std::string& code = locale.currencyCode;
+  const bool isUsual = code.empty() || isCurrencyCode(code);
+  return {locale.languageCode.size() < longestLanguage ? locale.languageCode : std::string(),
+          isUsual ? code : std::string(noCode)};
+}
+
 }  // namespace
 
-std::shared_ptr<const CurrencyFormatter::Engine> CurrencyFormatter::engine(const Locale& locale) {
-  static std::mutex mutex;
-  static std::map<std::pair<std::string, std::string>, std::shared_ptr<const Engine>> engines;
-  const std::pair key(locale.languageCode, locale.currencyCode);
-  const std::scoped_lock lock(mutex);
-  if (const auto found = engines.find(key); found != engines.end()) return found->second;
-  if (engines.size() >= kCachedEngines) engines.clear();
-  auto made = std::make_shared<Engine>(Engine{makeFormatter(locale)});
-  // ICU compiles a formatter on its third use. Here that happens before threads share it: from then
-  // on they only read.
-  UErrorCode status = U_ZERO_ERROR;
-  for (int use = 0; use < 3; ++use) made->formatter.formatInt(0, status);
-  return engines[key] = std::move(made);
+std::shared_ptr<const CurrencyFormatter::Engine> CurrencyFormatter::engine(const Locale& wanted) {
+  static Cache<Locale, std::shared_ptr<const Engine>> engines(mostEngines);
+  const Locale locale = shortened(wanted);
+  return engines.get(locale, [&] {
+    auto made = std::make_shared<Engine>(Engine{makeFormatter(locale)});
+    // ICU compiles a formatter on its third use, so that happens here: afterwards, threads that
+    // share it only read.
+    UErrorCode status = U_ZERO_ERROR;
+    for (int use = 0; use < 3; ++use) made->formatter.formatInt(0, status);
+    return made;
+  });
 }
 
 CurrencyFormatter::CurrencyFormatter(const Locale& locale) : engine_(engine(locale)) {}

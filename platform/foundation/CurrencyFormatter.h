@@ -5,19 +5,25 @@
 #include <optional>
 #include <string>
 
-#include "platform/foundation/Locale.h"
-
 namespace quorix::foundation {
 
-/// Writes whole currency units the way a locale's language writes its currency. Formatters of one
-/// locale share what is costly to make, so one per widget is cheap. Any thread.
+/// A language and a currency, as given. The formatter checks them.
+struct Locale {
+  std::string languageCode;
+  std::string currencyCode;
+
+  bool operator==(const Locale&) const = default;
+};
+
+/// Writes whole currency units in the style of a locale. Formatters of one locale share an engine,
+/// so that one formatter per widget is cheap. Any thread.
 ///
 ///     CurrencyFormatter({"en", "EUR"}).text(4)  // "€4.00"
 class CurrencyFormatter {
  public:
   explicit CurrencyFormatter(const Locale& locale);
 
-  /// The text of an amount in whole units, or nothing when the locale data yields none.
+  /// The text of an amount in whole units, absent when the locale data yields none.
   std::optional<std::string> text(std::int64_t wholeUnits) const;
 
  private:

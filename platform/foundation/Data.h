@@ -9,8 +9,8 @@
 
 namespace quorix::foundation {
 
-/// The bytes of a resource: a view of what is compiled into the program, or a shared copy of what
-/// was read from disk. Copies share the bytes. Immutable; any thread.
+/// The bytes of a resource: a view of a file that is compiled into the program, or a shared copy of
+/// a file on disk. Copies share the bytes. Immutable; any thread.
 class Data {
  public:
   Data() = default;

@@ -10,11 +10,11 @@ struct DecodingError {
     keyNotFound,    ///< The object has no such key.
     typeMismatch,   ///< There is a value, of another type.
     valueNotFound,  ///< The value is null.
-    dataCorrupted,  ///< The bytes are no document at all.
+    dataCorrupted,  ///< The bytes are no document.
   };
 
   Kind kind;
-  std::string key;  ///< Empty where it is the document itself.
+  std::string key;  ///< Empty for the document itself.
 
   bool operator==(const DecodingError&) const = default;
 };

@@ -5,7 +5,7 @@
 
 namespace quorix::foundation {
 
-/// An expected failure: who reports it, its number there, and a text for developers.
+/// An expected failure: its source, its number there, and a text for developers.
 struct Error {
   std::string domain;
   std::int64_t code = 0;

@@ -2,11 +2,10 @@
 
 #include <simdjson.h>
 
-#include <charconv>
 #include <string>
 #include <utility>
 
-#include "platform/foundation/ExactInteger.h"
+#include "platform/foundation/Numbers.h"
 
 namespace quorix::foundation {
 
@@ -37,7 +36,7 @@ struct JSONDocument::State {
 namespace {
 
 /// Far beyond any real document, and shallow enough to walk recursively on a small thread's stack.
-constexpr int kMaximumDepth = 600;
+constexpr int maximumDepth = 600;
 
 Error describe(simdjson::error_code failure) {
   using Code = JSONDocument::ErrorCode;
@@ -54,41 +53,6 @@ std::string_view trimmed(std::string_view token) {
   return token;
 }
 
-/// Whether `text` is a number as the grammar has it, with an exponent.
-bool hasExponent(std::string_view text) {
-  const auto skipDigits = [&] {
-    std::size_t count = 0;
-    while (count < text.size() && text[count] >= '0' && text[count] <= '9') ++count;
-    text.remove_prefix(count);
-    return count;
-  };
-  if (text.starts_with('-')) text.remove_prefix(1);
-  const bool leadingZero = text.starts_with('0');
-  const std::size_t whole = skipDigits();
-  if (whole == 0 || (leadingZero && whole > 1)) return false;
-  if (text.starts_with('.')) {
-    text.remove_prefix(1);
-    if (skipDigits() == 0) return false;
-  }
-  if (!text.starts_with('e') && !text.starts_with('E')) return false;
-  text.remove_prefix(1);
-  if (text.starts_with('+') || text.starts_with('-')) text.remove_prefix(1);
-  return skipDigits() > 0 && text.empty();
-}
-
-/// The number in `text` when simdjson refused it for an exponent of very many digits.
-simdjson::error_code readLongExponent(std::string_view text, double& number) {
-  if (!hasExponent(text)) return simdjson::NUMBER_ERROR;
-  const std::size_t mark = text.find_first_of("eE");
-  const bool isZero = text.substr(0, mark).find_first_of("123456789") == std::string_view::npos;
-  const auto [end, failure] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (failure == std::errc{}) return simdjson::SUCCESS;
-  const bool tiny = text[mark + 1] == '-';
-  if (!isZero && !tiny) return simdjson::NUMBER_ERROR;
-  number = text.starts_with('-') ? -0.0 : 0.0;
-  return simdjson::SUCCESS;
-}
-
 }  // namespace
 
 simdjson::error_code JSONDocument::State::readScalar(simdjson::ondemand::value& value,
@@ -102,8 +66,10 @@ simdjson::error_code JSONDocument::State::readScalar(simdjson::ondemand::value& 
       node.kind = Kind::number;
       node.text = trimmed(value.raw_json_token());
       if (const auto failure = value.get_double().get(node.number)) {
-        return failure == simdjson::NUMBER_ERROR ? readLongExponent(node.text, node.number)
-                                                 : failure;
+        // simdjson refuses exponents of very many digits.
+        const auto number = numberWithExponent(node.text);
+        if (failure != simdjson::NUMBER_ERROR || !number) return failure;
+        node.number = *number;
       }
       return simdjson::SUCCESS;
     case simdjson::ondemand::json_type::boolean: {
@@ -130,7 +96,7 @@ simdjson::error_code JSONDocument::State::add(simdjson::ondemand::value& value,
   const bool isArray = type == simdjson::ondemand::json_type::array;
   if (!isArray && type != simdjson::ondemand::json_type::object)
     return readScalar(value, type, node);
-  if (depth == kMaximumDepth) return simdjson::DEPTH_ERROR;
+  if (depth == maximumDepth) return simdjson::DEPTH_ERROR;
   node.kind = isArray ? Kind::array : Kind::object;
   const std::size_t index = nodes.size() - 1;
   const auto failure = isArray ? addArray(value, depth + 1) : addObject(value, depth + 1);

@@ -7,13 +7,14 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/foundation/Export.h"
 #include "platform/foundation/Result.h"
 
 namespace quorix::foundation {
 
-/// A value inside a `JSONDocument`, usable until that document reads again or goes away. A view:
-/// cheap to copy, and so are the texts it hands out.
-class JSONValue {
+/// A view of a value inside a `JSONDocument`, valid until that document parses again or is
+/// destroyed, as are its texts. Cheap to copy.
+class QUORIX_EXPORT JSONValue {
  public:
   enum class Kind : std::uint8_t { null, boolean, number, string, array, object };
 
@@ -35,20 +36,20 @@ class JSONValue {
 
  private:
   friend class JSONDocument;
-  struct Node;
+  struct QUORIX_HIDDEN Node;
   explicit JSONValue(const Node* node) : node_(node) {}
   template <class Visit>
   void forEachChild(Visit visit) const;
   const Node* node_;
 };
 
-/// Reads JSON documents, one after the other, into memory that it keeps: a reused document reads a
-/// small text without allocating. One thread at a time.
+/// Parses JSON documents, one after the other, into memory that it keeps: a reused document parses
+/// a small text without allocating. One thread at a time.
 ///
 ///     JSONDocument document;
 ///     const auto read = document.parse(bytes);
 ///     if (const auto* value = std::get_if<JSONValue>(&read)) value->member("name");
-class JSONDocument {
+class QUORIX_EXPORT JSONDocument {
  public:
   /// The codes of `parse`'s errors, whose domain is "JSON".
   enum class ErrorCode : std::int64_t { malformed = 1, tooDeep = 2 };
@@ -58,13 +59,13 @@ class JSONDocument {
   JSONDocument& operator=(JSONDocument&&) noexcept;
   ~JSONDocument();
 
-  /// The object or array that `bytes` spell. Strict RFC 8259 in UTF-8 throughout, also where no one
-  /// looks; a byte order mark is skipped; numbers beyond the double range and nesting beyond 600
-  /// containers are refused.
+  /// Parses the object or array in `bytes`. Checks the whole document against RFC 8259 in UTF-8,
+  /// unused values too. Skips a byte order mark. Fails for numbers beyond the double range and for
+  /// nesting beyond 600 containers.
   Result<JSONValue> parse(std::string_view bytes);
 
  private:
-  struct State;
+  struct QUORIX_HIDDEN State;
   std::unique_ptr<State> state_;
 };
 

@@ -2,17 +2,12 @@
 
 #include <utility>
 
-#include "platform/foundation/ParsedFileCache.h"
+#include "platform/foundation/Cache.h"
 #include "platform/foundation/StringFormat.h"
 #include "platform/foundation/StringsFile.h"
 
 namespace quorix::foundation {
 namespace {
-
-StringLookup& mainTable() {
-  static StringLookup table;
-  return table;
-}
 
 std::shared_ptr<const StringTable> readTable(std::string_view bytes) {
   auto reading = readStringsFile(bytes);
@@ -20,23 +15,40 @@ std::shared_ptr<const StringTable> readTable(std::string_view bytes) {
   return table == nullptr ? nullptr : std::make_shared<const StringTable>(std::move(*table));
 }
 
+/// The entry for `key` in the table at `path` of `bundle`.
+std::optional<std::string> entryIn(const Bundle& bundle, const std::string& path,
+                                   std::string_view key) {
+  // Never destroyed: texts may be looked up while the process ends.
+  static auto& cache = *new ParsedFileCache<StringTable>(readTable);
+  const auto file = bundle.data(path);
+  const auto entries = file ? cache.read(*file) : nullptr;
+  if (!entries) return std::nullopt;
+  const auto entry = entries->find(key);
+  return entry == entries->end() ? std::nullopt : std::optional(entry->second);
+}
+
 }  // namespace
 
 std::string localizedString(const Bundle& bundle, std::string_view key, std::string_view table) {
-  // Never destroyed: a text may be asked for while the process ends.
-  static auto& cache = *new ParsedFileCache<StringTable>(readTable);
-  const auto file = bundle.data(std::string(table) + ".strings");
-  const auto entries = file ? cache.read(*file) : nullptr;
-  if (!entries) return std::string(key);
-  const auto entry = entries->find(key);
-  return entry == entries->end() ? std::string(key) : entry->second;
+  return entryIn(bundle, std::string(table) + ".strings", key).value_or(std::string(key));
 }
 
-void setMainStringTable(StringLookup table) { mainTable() = std::move(table); }
+std::optional<std::string> localizedEntry(const Bundle& bundle, std::string_view key,
+                                          std::string_view language) {
+  const std::string_view withoutRegion = language.substr(0, language.find_first_of("-_"));
+  for (const std::string_view folder : {language, withoutRegion, std::string_view("en")}) {
+    if (folder.empty()) continue;
+    if (auto entry = entryIn(bundle, std::string(folder) + ".lproj/Localizable.strings", key)) {
+      return entry;
+    }
+  }
+  return entryIn(bundle, "Localizable.strings", key);
+}
 
-std::string localizedString(std::string_view key, const std::vector<std::string>& arguments) {
+std::string localizedString(std::string_view key, const std::vector<std::string>& arguments,
+                            std::string_view language) {
   std::optional<std::string> entry;
-  if (mainTable()) entry = mainTable()(key);
+  if (Bundle::hasMain()) entry = localizedEntry(*Bundle::main(), key, language);
   return formatted(entry ? *entry : key, {arguments.begin(), arguments.end()});
 }
 

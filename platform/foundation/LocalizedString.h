@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -10,20 +9,22 @@
 
 namespace quorix::foundation {
 
-/// The text for `key` in the string table "table.strings" of `bundle`, as it is at the moment of
-/// the call; the key itself where the bundle has no such entry or no table that can be read. Any
+/// The text for `key` in the string table "table.strings" of `bundle`, which is read again if it
+/// has changed; the key itself if the bundle has no such entry or no readable table. Any
 /// thread.
 ///
 ///     localizedString(*bundle->folder("en.lproj"), "greeting", "Localizable")
 std::string localizedString(const Bundle& bundle, std::string_view key, std::string_view table);
 
-/// Answers for a key of the main string table; nothing when the table has no entry.
-using StringLookup = std::function<std::optional<std::string>(std::string_view key)>;
+/// The text for `key` in the "Localizable" string tables of `bundle`, for a user who reads
+/// `language` ("pt-BR"). The first table with an entry counts: of "pt-BR.lproj", of "pt.lproj", of
+/// "en.lproj", and the one outside the languages' folders. Any thread.
+std::optional<std::string> localizedEntry(const Bundle& bundle, std::string_view key,
+                                          std::string_view language);
 
-/// Sets the host application's main string table. Main thread, before the first view is shown.
-void setMainStringTable(StringLookup table);
-
-/// The main table's entry for `key`, or `key` itself, formatted with `arguments`. Main thread.
-std::string localizedString(std::string_view key, const std::vector<std::string>& arguments);
+/// The entry for `key` in the host's main bundle, in the user's `language`, or else `key` itself;
+/// formatted with `arguments`. Any thread.
+std::string localizedString(std::string_view key, const std::vector<std::string>& arguments,
+                            std::string_view language);
 
 }  // namespace quorix::foundation

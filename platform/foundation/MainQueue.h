@@ -6,10 +6,10 @@
 
 namespace quorix::foundation {
 
-/// The queue of the main thread: work handed to it runs there, in order, on a later turn.
+/// The queue of the main thread: runs its work there, in order, on a later turn.
 ///
-/// The engine installs its executor once. Until then work waits and `drain` runs it, which is how a
-/// program without an event loop (the core's tests, a command-line tool) takes its turns.
+/// The engine installs its executor once. Until then work waits for `drain`, which a program
+/// without an event loop (the core's tests, a command-line tool) calls.
 class QUORIX_EXPORT MainQueue {
  public:
   using Work = std::function<void()>;
@@ -18,11 +18,11 @@ class QUORIX_EXPORT MainQueue {
   /// Enqueues `work`. Any thread.
   static void async(Work work);
 
-  /// Hands this and all later work to `executor`; what waited goes there first. An empty executor
-  /// returns to waiting for `drain`. Main thread.
+  /// Sends all later work to `executor`, after the work that waits. With an empty executor, work
+  /// waits for `drain` again. Main thread.
   static void install(Executor executor);
 
-  /// Runs the waiting work, also what that work enqueues, and returns how many pieces ran.
+  /// Runs the waiting work and the work that this enqueues. Returns the number of pieces.
   /// Main thread; for programs with no installed executor.
   static int drain();
 };

@@ -9,9 +9,9 @@
 
 namespace quorix::foundation {
 
-/// Reads the words of a property list in its old text form, one after the other. Blanks and
-/// comments, `// ...` and `/* ... */`, may stand before each; a comment without an end goes to the
-/// end of the text. Remembers the first failure and keeps a view of the text.
+/// Reads the words of a property list in its old text form, one after the other, and skips blanks
+/// and comments before each: `// ...` and `/* ... */`, where a comment without an end reaches the
+/// end of the text. Remembers the first failure. Views the text.
 class PropertyListScanner {
  public:
   explicit PropertyListScanner(std::string_view text) : text_(text) {}

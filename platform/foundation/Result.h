@@ -6,8 +6,8 @@
 
 namespace quorix::foundation {
 
-/// A value, or the reason why there is none.
-template <class T>
-using Result = std::variant<T, Error>;
+/// A value, or the error that prevented it.
+template <class T, class E = Error>
+using Result = std::variant<T, E>;
 
 }  // namespace quorix::foundation

@@ -1,12 +1,16 @@
 #include "platform/foundation/StringFormat.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
 #include <cstddef>
+#include <cstdint>
+#include <limits>
 #include <optional>
 
 #include "platform/foundation/FormatConversion.h"
-#include "platform/foundation/FormattedNumber.h"
+#include "platform/foundation/Numbers.h"
 
 namespace quorix::foundation {
 namespace {
@@ -14,8 +18,140 @@ namespace {
 using Kind = FormatConversion::Kind;
 using Arguments = std::vector<FormatArgument>;
 
-/// The number of characters that a width or precision asks for, with its sign where an argument
-/// gave it; nothing without one, or where that argument is no number.
+constexpr int defaultPrecision = 6;
+
+/// The digits of `magnitude`, which is finite and not negative. Without a precision, all of them.
+std::string digits(double magnitude, std::chars_format form, std::optional<int> precision) {
+  // The longest double has 309 digits before its point.
+  std::array<char, 320 + FormatConversion::largestSize> buffer;
+  char* const end = buffer.data() + buffer.size();
+  const auto written = precision ? std::to_chars(buffer.data(), end, magnitude, form, *precision)
+                                 : std::to_chars(buffer.data(), end, magnitude, form);
+  return written.ec == std::errc() ? std::string(buffer.data(), written.ptr) : std::string();
+}
+
+/// "#" writes a point even without digits behind it.
+void addPoint(std::string& text, char exponentLetter) {
+  if (text.find('.') != text.npos) return;
+  text.insert(std::min(text.find(exponentLetter), text.size()), 1, '.');
+}
+
+/// "%#g" keeps the zeros that "%g" drops.
+std::string generalWithZeros(double magnitude, int precision) {
+  const int significant = std::max(precision, 1);
+  std::string scientific = digits(magnitude, std::chars_format::scientific, significant - 1);
+  const std::size_t mark = scientific.find('e') + 1;
+  int exponent = 0;
+  std::from_chars(scientific.data() + mark + (scientific[mark] == '+' ? 1 : 0),
+                  scientific.data() + scientific.size(), exponent);
+  if (exponent < -4 || exponent >= significant) return scientific;
+  return digits(magnitude, std::chars_format::fixed, significant - 1 - exponent);
+}
+
+std::string magnitudeText(double magnitude, char form, bool alternate,
+                          std::optional<int> precision) {
+  const int places = precision.value_or(defaultPrecision);
+  std::string text;
+  switch (form) {
+    case 'f':
+      text = digits(magnitude, std::chars_format::fixed, places);
+      break;
+    case 'e':
+      text = digits(magnitude, std::chars_format::scientific, places);
+      break;
+    case 'g':
+      text = alternate ? generalWithZeros(magnitude, places)
+                       : digits(magnitude, std::chars_format::general, places);
+      break;
+    default:
+      text = "0x" + digits(magnitude, std::chars_format::hex, precision);
+      break;
+  }
+  if (alternate) addPoint(text, form == 'a' ? 'p' : 'e');
+  return text;
+}
+
+std::string_view signOf(bool negative, const FormatConversion& conversion) {
+  if (negative) return "-";
+  if (conversion.plus) return "+";
+  return conversion.blank ? " " : "";
+}
+
+void makeUpper(std::string& text) {
+  for (char& c : text) {
+    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+  }
+}
+
+std::string floating(double number, const FormatConversion& conversion,
+                     std::optional<int> precision) {
+  if (std::isnan(number)) return conversion.letter >= 'a' ? "nan" : "NAN";
+  std::string text(signOf(std::signbit(number), conversion));
+  const bool upper = conversion.letter < 'a';
+  const char form = upper ? static_cast<char>(conversion.letter - 'A' + 'a') : conversion.letter;
+  text += std::isinf(number)
+              ? "inf"
+              : magnitudeText(std::fabs(number), form, conversion.alternate, precision);
+  if (upper) makeUpper(text);
+  return text;
+}
+
+/// `number` truncated toward 0 and clamped to the 64-bit range.
+template <class Integer>
+Integer wholePart(double number) {
+  using Limits = std::numeric_limits<Integer>;
+  if (std::isnan(number)) return 0;
+  if (number >= std::ldexp(1.0, Limits::digits)) return Limits::max();
+  if (number <= static_cast<double>(Limits::min())) return Limits::min();
+  return static_cast<Integer>(number);
+}
+
+std::string integer(double number, const FormatConversion& conversion,
+                    std::optional<int> precision) {
+  const bool isSigned = std::string_view("dDi").find(conversion.letter) != std::string_view::npos;
+  const auto value = wholePart<std::int64_t>(number);
+  const bool negative = isSigned && value < 0;
+  // Like printf, an unsigned conversion shows the bits of a negative integer.
+  auto magnitude = static_cast<std::uint64_t>(value);
+  if (negative) magnitude = 0 - magnitude;
+  if (!isSigned && number > 0) magnitude = wholePart<std::uint64_t>(number);
+
+  const bool octal = conversion.letter == 'o' || conversion.letter == 'O';
+  const bool hex = conversion.letter == 'x' || conversion.letter == 'X';
+  std::array<char, 24> buffer;
+  const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), magnitude,
+                                     octal ? 8
+                                     : hex ? 16
+                                           : 10);
+  std::string text(buffer.data(), written.ptr);
+  if (magnitude == 0 && precision == 0) text.clear();
+  const auto least = static_cast<std::size_t>(precision.value_or(1));
+  if (text.size() < least) text.insert(0, least - text.size(), '0');
+  if (conversion.alternate && octal && !text.starts_with('0')) text.insert(0, 1, '0');
+  if (conversion.alternate && hex && magnitude != 0) text.insert(0, "0x");
+  if (conversion.letter == 'X') makeUpper(text);
+  if (isSigned) text.insert(0, signOf(negative, conversion));
+  return text;
+}
+
+/// `number` as printf writes it for `conversion`, without its width. `precision` replaces the
+/// conversion's own; absent, it is the default. Numbers beyond 64 bits show as the nearest integer.
+std::string formattedNumber(double number, const FormatConversion& conversion,
+                            std::optional<int> precision) {
+  return conversion.kind == FormatConversion::Kind::number ? floating(number, conversion, precision)
+                                                           : integer(number, conversion, precision);
+}
+
+/// Where zeros that fill a width go into `text`: behind its sign and "0x".
+std::size_t endOfSign(std::string_view text) {
+  std::size_t end = text.find_first_not_of("+- ") == 1 ? 1 : 0;
+  const std::string_view rest = text.substr(end);
+  if (rest.starts_with("0x") || rest.starts_with("0X")) end += 2;
+  return end;
+}
+
+/// The value of a width or precision, negative only from an argument; absent without one, or if its
+/// argument is no number.
 std::optional<int> sizeOf(const FormatConversion::Size& size, const Arguments& arguments) {
   if (!size.argument) return size.value;
   if (*size.argument >= arguments.size()) return std::nullopt;
@@ -51,29 +187,45 @@ std::string numberText(double number, const FormatConversion& conversion,
   return text;
 }
 
-std::string shown(const FormatConversion& conversion, const Arguments& arguments) {
-  if (conversion.kind == Kind::percent) return "%";
-  if (!conversion.takesArgument() || conversion.kind == Kind::none) return {};
-  if (conversion.argument >= arguments.size()) return "(null)";
+void append(std::string& to, const FormatConversion& conversion, const Arguments& arguments) {
+  if (conversion.kind == Kind::percent) {
+    to += '%';
+    return;
+  }
+  if (!conversion.takesArgument() || conversion.kind == Kind::none) return;
+  if (conversion.argument >= arguments.size()) {
+    to += "(null)";
+    return;
+  }
   const FormatArgument& argument = arguments[conversion.argument];
-  if (const auto* text = std::get_if<std::string>(&argument)) return *text;
+  if (const auto* text = std::get_if<std::string>(&argument)) {
+    to += *text;
+    return;
+  }
   const double number = std::get<double>(argument);
   const bool fits = conversion.kind == Kind::number || conversion.kind == Kind::integer;
-  return fits ? numberText(number, conversion, arguments) : shortestNumber(number);
+  to += fits ? numberText(number, conversion, arguments) : shortestNumber(number);
 }
 
 }  // namespace
 
 std::string formatted(std::string_view format, const std::vector<FormatArgument>& arguments) {
-  std::string text;
-  std::size_t at = 0;
-  for (const FormatConversion& conversion : conversions(format)) {
-    const auto start = static_cast<std::size_t>(conversion.source.data() - format.data());
-    text.append(format, at, start - at);
-    text += shown(conversion, arguments);
-    at = start + conversion.source.size();
+  std::size_t length = format.size();
+  for (const FormatArgument& argument : arguments) {
+    if (const auto* words = std::get_if<std::string>(&argument)) length += words->size();
   }
-  return text.append(format, at);
+  std::string text;
+  text.reserve(length);
+  std::size_t at = 0;
+  FormatReader reader(format);
+  while (const auto conversion = reader.next()) {
+    const auto start = static_cast<std::size_t>(conversion->source.data() - format.data());
+    text.append(format, at, start - at);
+    append(text, *conversion, arguments);
+    at = start + conversion->source.size();
+  }
+  text.append(format, at);
+  return text;
 }
 
 }  // namespace quorix::foundation

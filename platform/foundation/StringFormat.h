@@ -7,7 +7,7 @@
 
 namespace quorix::foundation {
 
-/// A value that a format text shows: a number, or a text in UTF-8.
+/// An argument of a format: a number, or a text in UTF-8.
 using FormatArgument = std::variant<double, std::string>;
 
 /// `format` with its conversions replaced by `arguments`, as the platform's printf does it:
@@ -18,9 +18,9 @@ using FormatArgument = std::variant<double, std::string>;
 ///  - "%1$@" names its argument, "*" takes a width or precision from one, "%%" is a percent sign.
 ///
 /// Safe for any format. A conversion that does not fit its argument shows the argument plainly: a
-/// text as it is, a number in its shortest decimal form. Without an argument it reads "(null)".
-/// "%n" and conversions that there are not show nothing. Widths and precisions above 512 count as
-/// 512. Any thread, any C locale.
+/// text as it is, a number in its shortest decimal form. Without an argument it shows "(null)".
+/// "%n" and invalid conversions are dropped. Widths and precisions above 512 count as 512. Any
+/// thread, any C locale.
 ///
 ///     formatted("Top %.0f%% of %@", {12.4, "shoppers"})  // "Top 12% of shoppers"
 std::string formatted(std::string_view format, const std::vector<FormatArgument>& arguments);

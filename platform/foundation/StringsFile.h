@@ -1,26 +1,37 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <functional>
+#include <map>
+#include <string>
 #include <string_view>
 
 #include "platform/foundation/Export.h"
 #include "platform/foundation/Result.h"
-#include "platform/foundation/StringTable.h"
 
 namespace quorix::foundation {
+
+/// The texts of a ".strings" file by key.
+using StringTable = std::map<std::string, std::string, std::less<>>;
 
 /// The codes of `readStringsFile`'s errors, whose domain is "StringsFile".
 enum class StringsFileErrorCode : std::int64_t {
   malformed = 1,  ///< neither a string table nor another property list
-  notATable = 2,  ///< a sound property list that is something else than texts by key
+  notATable = 2,  ///< a valid property list, but not one of texts by key
 };
 
 /// The string table that the bytes of a ".strings" file spell: entries `"key" = "text";` with or
 /// without quotes and braces, `"key";` for a key that is its own text, or the XML property list
 /// form. UTF-8, with or without byte order mark, or UTF-16 with one. Of two entries with one key
-/// the last counts. An error's description begins with the line: "line 3: ...". Any thread.
+/// the last counts. A second `;` behind an entry (`"key" = "text";;`) ends a table without braces:
+/// the rest is ignored. An error's description begins with the line: "line 3: ...". Any thread.
 ///
 ///     const auto table = readStringsFile("/* Title */ \"title\" = \"Caf\\U00e9\";");
 QUORIX_EXPORT Result<StringTable> readStringsFile(std::string_view bytes);
+
+// The errors of the readers, with the line of `offset` in `text`: "line 3: what".
+Error malformedStringsFile(std::string_view text, std::size_t offset, const std::string& what);
+Error notAStringTable(std::string_view text, std::size_t offset, const std::string& what);
 
 }  // namespace quorix::foundation

@@ -9,17 +9,16 @@
 #include <vector>
 
 #include "platform/foundation/PropertyListScanner.h"
-#include "platform/foundation/StringsFileError.h"
 
 namespace quorix::foundation {
 namespace {
 
-class Reader {
+class TextReader {
  public:
-  explicit Reader(std::string_view text) : text_(text), scanner_(text) {}
+  explicit TextReader(std::string_view text) : text_(text), scanner_(text) {}
 
   Result<StringTable> read() {
-    if (scanner_.atEnd()) return StringTable();  // nothing but comments
+    if (scanner_.atEnd()) return StringTable();  // only comments
     if (scanner_.take('{')) {
       if (readEntries('}') && !scanner_.atEnd()) scanner_.fail("the table ends before this");
     } else if (isContainer() || isLoneText()) {
@@ -38,7 +37,7 @@ class Reader {
   }
 
  private:
-  /// What follows inside a list: another value, or its end.
+  /// The next thing inside a list.
   enum class Next : std::uint8_t { value, end, failure };
 
   bool isContainer() {
@@ -50,9 +49,11 @@ class Reader {
     return ahead.readText() && ahead.atEnd();
   }
 
-  /// Reads entries up to `end`, or to the end of the text.
+  /// Reads entries up to `end`, or to the end of the text. Without `end`, a second ';' behind an
+  /// entry ends the table and the rest is ignored, as phones do.
   bool readEntries(std::optional<char> end) {
-    while (!(end ? scanner_.take(*end) : scanner_.atEnd())) {
+    for (bool first = true; !(end ? scanner_.take(*end) : scanner_.atEnd()); first = false) {
+      if (!end && !first && scanner_.isNext(';')) return true;
       const auto key = scanner_.readText();
       if (!key) return false;
       if (scanner_.take(';')) {
@@ -83,7 +84,7 @@ class Reader {
     table_.insert_or_assign(key, std::move(text));
   }
 
-  /// Moves past a value of any kind and all that stands in it.
+  /// Moves past a value of any kind, with the values inside it.
   bool skipValue() {
     std::vector<char> open;
     for (;;) {
@@ -135,11 +136,11 @@ class Reader {
   std::string_view text_;
   PropertyListScanner scanner_;
   StringTable table_;
-  std::map<std::string, std::size_t> others_;  // entries that are no texts, and where
+  std::map<std::string, std::size_t> others_;  // keys whose values are no texts, and their offsets
 };
 
 }  // namespace
 
-Result<StringTable> readTextPropertyList(std::string_view text) { return Reader(text).read(); }
+Result<StringTable> readTextPropertyList(std::string_view text) { return TextReader(text).read(); }
 
 }  // namespace quorix::foundation

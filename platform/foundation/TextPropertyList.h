@@ -2,14 +2,12 @@
 
 #include <string_view>
 
-#include "platform/foundation/Result.h"
-#include "platform/foundation/StringTable.h"
+#include "platform/foundation/StringsFile.h"
 
 namespace quorix::foundation {
 
-/// The table in a property list of the old text form, `text` in UTF-8, its outermost braces there
-/// or not; errors as `readStringsFile` has them. However deep lists stand in each other, the call
-/// stack does not grow.
+/// The table in a property list of the old text form, with or without its outermost braces. `text`
+/// is UTF-8. Errors are those of `readStringsFile`. Nested lists do not grow the call stack.
 Result<StringTable> readTextPropertyList(std::string_view text);
 
 }  // namespace quorix::foundation

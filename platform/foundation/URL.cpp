@@ -1,17 +1,24 @@
 #include "platform/foundation/URL.h"
 
+#include <unicode/unistr.h>
+
 #include <algorithm>
+
+#include "platform/foundation/Numbers.h"
+#include "platform/foundation/URLComponents.h"
 
 namespace quorix::foundation {
 namespace {
 
 bool isAlpha(char c) { return ('a' <= c && c <= 'z') || ('A' <= c && c <= 'Z'); }
 bool isDigit(char c) { return '0' <= c && c <= '9'; }
-bool isHexDigit(char c) { return isDigit(c) || ('a' <= c && c <= 'f') || ('A' <= c && c <= 'F'); }
 bool isOneOf(std::string_view set, char c) { return set.find(c) != std::string_view::npos; }
 
-/// What may stand unescaped in every part after the scheme.
+/// Allowed unescaped in every part after the scheme.
 bool isPlain(char c) { return isAlpha(c) || isDigit(c) || isOneOf("-._~!$&'()*+,;=", c); }
+
+/// Allowed unescaped in the name and value of a query item.
+bool isPlainInQueryItem(char c) { return (isPlain(c) && !isOneOf("&=", c)) || isOneOf(":@/?", c); }
 
 bool isEscape(std::string_view text, std::size_t i) {
   return i + 2 < text.size() && text[i] == '%' && isHexDigit(text[i + 1]) &&
@@ -95,18 +102,35 @@ std::string inLowerCase(std::string_view text) {
   return result;
 }
 
-/// Appends `part`, escaping byte by byte what is neither plain, nor an escape, nor one of
-/// `allowed`. The first `delimiter` characters introduce the part and stay.
+void appendByteEscaped(std::string& out, char c) {
+  constexpr std::string_view hex = "0123456789ABCDEF";
+  const auto byte = static_cast<unsigned char>(c);
+  out += {'%', hex[byte >> 4], hex[byte & 15]};
+}
+
+/// Appends `part` and escapes each byte that is neither plain, nor of an escape, nor in `allowed`.
+/// The first `delimiter` characters introduce the part and stay.
 void appendEscaped(std::string& out, std::string_view part, std::string_view allowed,
                    std::size_t delimiter = 0) {
-  constexpr std::string_view kHex = "0123456789ABCDEF";
   for (std::size_t i = 0; i < part.size(); ++i) {
     if (i < delimiter || isPlain(part[i]) || isOneOf(allowed, part[i]) || isEscape(part, i)) {
       out += part[i];
     } else {
-      const auto byte = static_cast<unsigned char>(part[i]);
-      out += {'%', kHex[byte >> 4], kHex[byte & 15]};
+      appendByteEscaped(out, part[i]);
     }
+  }
+}
+
+/// Appends a query item's `text`, its percent signs escaped too. Bytes that are not UTF-8 become
+/// U+FFFD: a strict server would refuse the whole address.
+void appendQueryText(std::string& out, const std::string& text) {
+  if (std::ranges::all_of(text, isPlainInQueryItem)) {
+    out += text;
+    return;
+  }
+  std::string wellFormed;
+  for (const char c : icu::UnicodeString::fromUTF8(text).toUTF8String(wellFormed)) {
+    isPlainInQueryItem(c) ? out.push_back(c) : appendByteEscaped(out, c);
   }
 }
 
@@ -140,5 +164,42 @@ std::string URL::origin() const {
 }
 
 std::string URL::path() const { return std::string(split(text_).path); }
+
+std::optional<URLComponents> URLComponents::parse(std::string_view text) {
+  const auto url = URL::parse(text);
+  if (!url) return std::nullopt;
+  URLComponents components;
+  std::string& address = components.address_ = url->absoluteString();
+  if (const std::size_t hash = address.find('#'); hash != std::string::npos) {
+    components.fragment_ = address.substr(hash);
+    address.resize(hash);
+  }
+  if (const std::size_t mark = address.find('?'); mark != std::string::npos) {
+    components.query_ = address.substr(mark + 1);
+    address.resize(mark);
+  }
+  return components;
+}
+
+void URLComponents::setQueryItems(const std::vector<URLQueryItem>& items) {
+  query_.reset();
+  for (const URLQueryItem& item : items) appendQueryItem(item);
+  if (!query_) query_.emplace();
+}
+
+void URLComponents::appendQueryItem(const URLQueryItem& item) {
+  if (!query_) query_.emplace();
+  if (!query_->empty()) *query_ += '&';
+  appendQueryText(*query_, item.name);
+  if (!item.value) return;
+  *query_ += '=';
+  appendQueryText(*query_, *item.value);
+}
+
+std::optional<URL> URLComponents::url() const {
+  std::string text = address_;
+  if (query_) text += '?' + *query_;
+  return URL::parse(text + fragment_);
+}
 
 }  // namespace quorix::foundation

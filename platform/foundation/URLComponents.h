@@ -6,9 +6,16 @@
 #include <vector>
 
 #include "platform/foundation/URL.h"
-#include "platform/foundation/URLQueryItem.h"
 
 namespace quorix::foundation {
+
+/// One "name=value" of an address's query, unescaped; without a value it is the bare name.
+struct URLQueryItem {
+  std::string name;
+  std::optional<std::string> value;
+
+  bool operator==(const URLQueryItem&) const = default;
+};
 
 /// An address whose query is written item by item.
 ///
@@ -22,12 +29,12 @@ namespace quorix::foundation {
 ///     components->url();  // https://shop.example/page?lang=en&debug
 class URLComponents {
  public:
-  /// The parts of `text`, or nothing when it is no absolute address.
+  /// The parts of `text`, or absent when it is no absolute address.
   static std::optional<URLComponents> parse(std::string_view text);
 
   /// Replaces the whole query. No items leave an empty query, a bare question mark.
   void setQueryItems(const std::vector<URLQueryItem>& items);
-  /// Adds to what the query holds already.
+  /// Adds an item behind those of the query.
   void appendQueryItem(const URLQueryItem& item);
 
   /// The address that the parts make.

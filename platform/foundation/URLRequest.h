@@ -16,7 +16,7 @@ struct URLRequest {
   };
 
   using Seconds = std::chrono::duration<double>;
-  /// Also what the HTTP session waits.
+  /// Also how long a request of the HTTP session may take in all.
   static constexpr std::chrono::seconds defaultTimeout{60};
 
   URL url;

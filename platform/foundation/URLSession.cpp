@@ -1,7 +1,9 @@
 #include "platform/foundation/URLSession.h"
 
 #include <algorithm>
+#include <exception>
 #include <mutex>
+#include <string_view>
 #include <system_error>
 #include <thread>
 #include <utility>
@@ -9,7 +11,7 @@
 namespace quorix::foundation {
 namespace {
 
-/// What answers before an engine has installed its transport: protocols only, no network.
+/// The transport before an engine has installed one: registered protocols, no network.
 class NoNetwork final : public URLTransport {
  public:
   void start(const URL& url, Completion completion) override {
@@ -23,10 +25,25 @@ class NoNetwork final : public URLTransport {
     try {
       std::thread(answer).detach();
     } catch (const std::system_error&) {
-      answer();  // no thread is to be had
+      answer();  // the system starts no more threads
     }
   }
 };
+
+URLResponse protocolFailure(std::string_view text) {
+  return {Error{"URLSession", -2, "a registered protocol threw: " + std::string(text)}, {}, 0};
+}
+
+// The protocol runs on a thread of the library, where an exception would end the process.
+std::optional<URLResponse> ask(const URLProtocol& protocol, const URL& url) {
+  try {
+    return protocol(url);
+  } catch (const std::exception& exception) {
+    return protocolFailure(exception.what());
+  } catch (...) {
+    return protocolFailure("something that is no std::exception");
+  }
+}
 
 }  // namespace
 
@@ -75,7 +92,7 @@ std::optional<URLResponse> URLSession::answerInProcess(const URL& url) const {
   }
   for (auto entry = protocols.rbegin(); entry != protocols.rend(); ++entry) {
     if (const auto protocol = entry->lock()) {
-      if (auto answer = (*protocol)(url)) return answer;
+      if (auto answer = ask(*protocol, url)) return answer;
     }
   }
   return std::nullopt;

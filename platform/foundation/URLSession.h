@@ -12,8 +12,8 @@
 
 namespace quorix::foundation {
 
-/// What a request ended with: a transport error, or a body (absent when the answer had none) with
-/// the HTTP status, which is 0 when the answer did not come over HTTP.
+/// The result of a request: a transport error, or a body (absent if the answer had none) with the
+/// HTTP status, which is 0 if the answer did not come over HTTP.
 struct URLResponse {
   std::optional<Error> error;
   std::optional<std::string> body;
@@ -21,7 +21,8 @@ struct URLResponse {
 };
 
 /// Performs plain GET requests. `start` returns at once; `completion` runs exactly once, on a
-/// thread that is not the main thread.
+/// thread that is not the main thread, and must not throw. Requests for the same address may share
+/// one connection.
 class QUORIX_EXPORT URLTransport {
  public:
   using Completion = std::function<void(URLResponse)>;
@@ -29,8 +30,13 @@ class QUORIX_EXPORT URLTransport {
   virtual void start(const URL& url, Completion completion) = 0;
 };
 
-/// Answers for an origin in place of the network, on the session's thread. Returns nothing when it
-/// leaves the request to the network.
+/// Answers requests in place of the network, on the session's thread. An absent answer leaves the
+/// request to the network.
+///
+/// It should answer at once: later requests wait for it. The end of the application waits two
+/// seconds for one that blocks, ends all requests with an error, and leaves the thread behind; a
+/// later answer is ignored, and the objects that the protocol uses must still exist. A protocol
+/// that throws answers with an error of domain "URLSession", code -2.
 using URLProtocol = std::function<std::optional<URLResponse>(const URL&)>;
 
 /// The process-wide HTTP session. The engine installs the transport; a host, a demo or a test may

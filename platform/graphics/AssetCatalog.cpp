@@ -1,13 +1,12 @@
 #include "platform/graphics/AssetCatalog.h"
 
-#include <functional>
 #include <map>
 #include <memory>
 #include <mutex>
-#include <string>
 
+#include "platform/foundation/Cache.h"
+#include "platform/foundation/LocalizedString.h"
 #include "platform/graphics/AssetContents.h"
-#include "platform/graphics/AssetIndex.h"
 #include "platform/graphics/SvgSize.h"
 
 namespace quorix::graphics {
@@ -16,93 +15,132 @@ namespace {
 using foundation::Bundle;
 using foundation::Data;
 
-/// What has been read from one bundle. Colours and images are asked for at every paint.
-struct Catalog {
-  explicit Catalog(const Bundle& bundle) : index(bundle) {}
+constexpr std::size_t mostCatalogs = 16;
+constexpr int deepestFolder = 8;  // a link on disk may lead back to an enclosing folder
 
+/// An asset's folder inside its bundle, and the text of its `Contents.json`.
+struct Contents {
+  std::string folder;
+  Data json;
+};
+
+/// The assets of one bundle. Reads each color and image once, since surfaces ask at every paint.
+class Catalog {
+ public:
+  /// Walks the catalog of `bundle`. Of two assets of one name the first in folder order counts.
+  explicit Catalog(const Bundle& bundle) { addFolder(bundle, "Assets.xcassets", "", 0); }
+
+  std::optional<ColorSet> color(const Bundle& bundle, std::string_view name) {
+    return once(colors_, name, [&]() -> std::optional<ColorSet> {
+      const auto found = contents(bundle, name, "colorset");
+      return found ? parseColorSet(found->json) : std::nullopt;
+    });
+  }
+  std::optional<ImageAsset> image(const Bundle& bundle, std::string_view name) {
+    return once(images_, name, [&] { return readImage(bundle, name); });
+  }
+  std::optional<Contents> contents(const Bundle& bundle, std::string_view name,
+                                   std::string_view kind) const;
+
+ private:
   template <class T>
   using Read = std::map<std::string, std::optional<T>, std::less<>>;
 
-  const AssetIndex index;
-  std::mutex mutex;
-  Read<ColorSet> colors;
-  Read<ImageAsset> images;
+  void addFolder(const Bundle& bundle, const std::string& folder, const std::string& prefix,
+                 int depth);
+  std::optional<ImageAsset> readImage(const Bundle& bundle, std::string_view name) const;
+
+  template <class T, class Reader>
+  std::optional<T> once(Read<T>& known, std::string_view name, Reader read) {
+    const std::scoped_lock lock(mutex_);
+    const auto found = known.find(name);
+    return found != known.end() ? found->second : known.emplace(name, read()).first->second;
+  }
+
+  std::map<std::string, std::string> folders_;  // "name.kind" to the asset's folder
+  std::mutex mutex_;
+  Read<ColorSet> colors_;
+  Read<ImageAsset> images_;
 };
 
-/// The catalogue of `bundle`, shared by all who ask while the bundle lives.
-std::shared_ptr<Catalog> catalog(const Bundle::Ref& bundle) {
-  using Catalogs = std::map<std::weak_ptr<const Bundle>, std::shared_ptr<Catalog>,
-                            std::owner_less<std::weak_ptr<const Bundle>>>;
-  static std::mutex mutex;
-  static Catalogs catalogs;
-  const std::scoped_lock lock(mutex);
-  const auto found = catalogs.find(bundle);
-  if (found != catalogs.end()) return found->second;
-  std::erase_if(catalogs, [](const auto& entry) { return entry.first.expired(); });
-  return catalogs[bundle] = std::make_shared<Catalog>(*bundle);
+bool isAsset(std::string_view name) { return name.ends_with("set") && name.find('.') != name.npos; }
+
+void Catalog::addFolder(const Bundle& bundle, const std::string& folder, const std::string& prefix,
+                        int depth) {
+  for (const std::string& name : bundle.folders(folder)) {
+    const std::string path = folder + '/' + name;
+    if (isAsset(name)) {
+      folders_.try_emplace(prefix + name, path);
+    } else if (depth < deepestFolder) {
+      const auto json = bundle.data(path + "/Contents.json");
+      const bool named = json && providesNamespace(*json);
+      addFolder(bundle, path, named ? prefix + name + '/' : prefix, depth + 1);
+    }
+  }
 }
 
-std::optional<Data> contents(const Bundle& bundle, const AssetIndex& index, std::string_view name,
-                             std::string_view kind, std::string& folder) {
-  const auto found = index.folder(name, kind);
-  if (!found) return std::nullopt;
-  folder = *found + '/';
-  return bundle.data(folder + "Contents.json");
+std::optional<Contents> Catalog::contents(const Bundle& bundle, std::string_view name,
+                                          std::string_view kind) const {
+  const auto found = folders_.find(std::string(name).append(".").append(kind));
+  if (found == folders_.end()) return std::nullopt;
+  std::string folder = found->second + '/';
+  auto json = bundle.data(folder + "Contents.json");
+  if (!json) return std::nullopt;
+  return Contents{std::move(folder), *std::move(json)};
 }
 
-std::optional<ColorSet> readColorSet(const Bundle& bundle, const AssetIndex& index,
-                                     std::string_view name) {
-  std::string folder;
-  const auto json = contents(bundle, index, name, "colorset", folder);
-  return json ? parseColorSet(json->text()) : std::nullopt;
-}
-
-std::optional<ImageAsset> readImageSet(const Bundle& bundle, const AssetIndex& index,
-                                       std::string_view name) {
-  std::string folder;
-  const auto json = contents(bundle, index, name, "imageset", folder);
-  const auto files = json ? parseImageSet(json->text()) : std::nullopt;
-  const auto light = files ? bundle.data(folder + files->light) : std::nullopt;
-  const auto size = light ? readSvgSize(light->text()) : std::nullopt;
+std::optional<ImageAsset> Catalog::readImage(const Bundle& bundle, std::string_view name) const {
+  const auto found = contents(bundle, name, "imageset");
+  const auto files = found ? parseImageSet(found->json) : std::nullopt;
+  const auto light = files ? bundle.data(found->folder + files->light) : std::nullopt;
+  const auto size = light ? readSvgSize(*light) : std::nullopt;
   if (!size) return std::nullopt;
   ImageAsset image{*light, std::nullopt, files->isTemplate, size->width, size->height};
   if (files->dark) {
-    image.dark = bundle.data(folder + *files->dark);
-    if (image.dark && !readSvgSize(image.dark->text())) image.dark.reset();
+    image.dark = bundle.data(found->folder + *files->dark);
+    if (image.dark && !readSvgSize(*image.dark)) image.dark.reset();
   }
   return image;
 }
 
-/// The value under `name` in `known`, read on the first call.
-template <class T, class Reader>
-std::optional<T> cached(Catalog& catalog, Catalog::Read<T>& known, const Bundle& bundle,
-                        std::string_view name, Reader read) {
-  const std::scoped_lock lock(catalog.mutex);
-  const auto found = known.find(name);
-  if (found != known.end()) return found->second;
-  return known.emplace(name, read(bundle, catalog.index, name)).first->second;
+/// Identifies a bundle without keeping it alive.
+struct BundleKey {
+  std::weak_ptr<const Bundle> bundle;
+
+  bool operator==(const BundleKey& other) const {
+    return !bundle.owner_before(other.bundle) && !other.bundle.owner_before(bundle);
+  }
+};
+
+Bundle::Ref orMain(const Bundle::Ref& bundle) { return bundle ? bundle : Bundle::main(); }
+
+std::shared_ptr<Catalog> catalog(const Bundle::Ref& bundle) {
+  static foundation::Cache<BundleKey, std::shared_ptr<Catalog>> catalogs(mostCatalogs);
+  return catalogs.get({bundle}, [&] { return std::make_shared<Catalog>(*bundle); });
 }
 
 }  // namespace
 
 std::optional<ColorSet> colorSet(const Bundle::Ref& bundle, std::string_view name) {
-  const Bundle::Ref source = bundle ? bundle : Bundle::main();
-  const auto c = catalog(source);
-  return cached<ColorSet>(*c, c->colors, *source, name, readColorSet);
+  const Bundle::Ref source = orMain(bundle);
+  return catalog(source)->color(*source, name);
 }
 
 std::optional<ImageAsset> imageSet(const Bundle::Ref& bundle, std::string_view name) {
-  const Bundle::Ref source = bundle ? bundle : Bundle::main();
-  const auto c = catalog(source);
-  return cached<ImageAsset>(*c, c->images, *source, name, readImageSet);
+  const Bundle::Ref source = orMain(bundle);
+  return catalog(source)->image(*source, name);
 }
 
 std::optional<Data> dataSet(const Bundle::Ref& bundle, std::string_view name) {
-  const Bundle::Ref source = bundle ? bundle : Bundle::main();
-  std::string folder;
-  const auto json = contents(*source, catalog(source)->index, name, "dataset", folder);
-  const auto file = json ? parseDataSet(json->text()) : std::nullopt;
-  return file ? source->data(folder + *file) : std::nullopt;
+  const Bundle::Ref source = orMain(bundle);
+  const auto found = catalog(source)->contents(*source, name, "dataset");
+  const auto file = found ? parseDataSet(found->json) : std::nullopt;
+  return file ? source->data(found->folder + *file) : std::nullopt;
+}
+
+std::string spokenName(const Bundle& bundle, const std::string& image, std::string_view language) {
+  const auto name = foundation::localizedEntry(bundle, image, language);
+  return name ? *name : foundation::localizedString(image, {}, language);
 }
 
 }  // namespace quorix::graphics

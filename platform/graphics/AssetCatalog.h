@@ -1,24 +1,37 @@
 #pragma once
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "platform/foundation/Bundle.h"
 #include "platform/foundation/Export.h"
 #include "platform/graphics/ColorSet.h"
-#include "platform/graphics/ImageAsset.h"
 
 namespace quorix::graphics {
 
-// The assets of the catalogue "Assets.xcassets" in a bundle (null: the host's main bundle). The
-// name of an asset is its folder's name without the extension, after the names of those enclosing
-// folders that provide a namespace ("Fonts/Saans-Regular"). A missing or malformed asset is
-// nothing.
-//
-// Colours and images are read once per bundle object: open a folder again to see edits on disk.
-// Any thread.
+/// A named image: SVG files and how to draw them. Cheap to copy.
+struct ImageAsset {
+  foundation::Data light;                ///< an SVG file
+  std::optional<foundation::Data> dark;  ///< the same picture for dark surfaces, where it differs
+  bool isTemplate = false;               ///< drawn in the foreground color in place of its own
+  double width = 0;                      ///< natural size in points, above 0
+  double height = 0;
 
-/// The colour set `name`. A set without a dark value has the light one in both appearances.
+  const foundation::Data& svg(Appearance appearance) const {
+    return appearance == Appearance::dark && dark ? *dark : light;
+  }
+};
+
+// The assets of the catalog "Assets.xcassets" in a bundle (null: the host's main bundle). The name
+// of an asset is its folder's name without the extension, after the names of those enclosing
+// folders that provide a namespace ("Fonts/Saans-Regular"). Absent for a missing or malformed
+// asset.
+//
+// Colors and images are kept for the bundles that were used last: open a folder again to see edits
+// on disk. Any thread.
+
+/// The color set `name`. A set without a dark value has the light one in both appearances.
 ///
 ///     auto grey = colorSet(bundle, "Grey1");
 ///     if (grey) paint(grey->resolve(Appearance::dark));
@@ -31,5 +44,11 @@ QUORIX_EXPORT std::optional<ImageAsset> imageSet(const foundation::Bundle::Ref& 
 /// The bytes of the data set `name`.
 std::optional<foundation::Data> dataSet(const foundation::Bundle::Ref& bundle,
                                         std::string_view name);
+
+/// What assistive technology calls an image of `bundle` that has a meaning and no label. Looks up
+/// the image's name in the "Localizable" string table of its bundle, in the user's `language` or
+/// else in English, then in the host's main table; otherwise it is the name itself. Main thread.
+std::string spokenName(const foundation::Bundle& bundle, const std::string& image,
+                       std::string_view language);
 
 }  // namespace quorix::graphics

@@ -1,48 +1,95 @@
 #include "platform/graphics/AssetContents.h"
 
-#include <simdjson.h>
+#include <algorithm>
+#include <charconv>
+#include <cmath>
 
-#include "platform/graphics/ColorComponents.h"
+#include "platform/foundation/JSON.h"
+#include "platform/foundation/Numbers.h"
 
 namespace quorix::graphics {
 namespace {
 
-using simdjson::dom::element;
+using foundation::JSONValue;
 
-std::optional<std::string_view> text(const simdjson::simdjson_result<element>& value) {
-  std::string_view result;
-  if (value.get(result) != simdjson::SUCCESS) return std::nullopt;
-  return result;
+/// The value at `keys`, one object inside the other.
+template <class... Keys>
+std::optional<JSONValue> at(JSONValue object, Keys... keys) {
+  std::optional<JSONValue> value = object;
+  ((value = value ? value->member(keys) : std::nullopt), ...);
+  return value;
 }
 
-/// The appearance that an entry is for; nothing for one that no surface asks for.
+template <class... Keys>
+std::optional<std::string_view> text(JSONValue object, Keys... keys) {
+  const auto value = at(object, keys...);
+  return value ? value->string() : std::nullopt;
+}
+
+/// The elements of the list `key`; empty without one.
+std::vector<JSONValue> list(JSONValue object, std::string_view key) {
+  const auto value = object.member(key);
+  return value ? value->elements() : std::vector<JSONValue>();
+}
+
+/// The appearance that an entry is for.
 struct Target {
   bool dark = false;
   bool any = true;
 };
 
-std::optional<Target> target(element entry) {
-  const auto idiom = text(entry["idiom"]);
+/// Absent for an entry that surfaces never use: for one device only, or for high contrast.
+std::optional<Target> target(JSONValue entry) {
+  const auto idiom = text(entry, "idiom");
   if (idiom && *idiom != "universal") return std::nullopt;
   Target result;
-  simdjson::dom::array appearances;
-  if (entry["appearances"].get(appearances) != simdjson::SUCCESS) return result;
-  for (const element appearance : appearances) {
-    const auto value = text(appearance["value"]);
-    if (text(appearance["appearance"]) != "luminosity") return std::nullopt;
+  for (const JSONValue appearance : list(entry, "appearances")) {
+    const auto value = text(appearance, "value");
+    if (text(appearance, "appearance") != "luminosity") return std::nullopt;
     if (value != "light" && value != "dark") return std::nullopt;
     result = {value == "dark", false};
   }
   return result;
 }
 
-std::optional<RGBA> color(element entry) {
-  const auto color = entry["color"];
-  const auto components = color["components"];
+/// A component as a fraction of 1.
+std::optional<double> component(std::string_view text) {
+  if (text.find('.') != text.npos) {
+    const auto fraction = foundation::parseDecimal(text);
+    return fraction ? std::optional(std::clamp(*fraction, 0.0, 1.0)) : std::nullopt;
+  }
+  const bool hexadecimal = text.starts_with("0x") || text.starts_with("0X");
+  if (hexadecimal) text.remove_prefix(2);
+  unsigned value = 0;
+  const char* end = text.data() + text.size();
+  const auto [stop, error] = std::from_chars(text.data(), end, value, hexadecimal ? 16 : 10);
+  if (error != std::errc() || stop != end || value > 255) return std::nullopt;
+  return value / 255.0;
+}
+
+std::optional<double> alphaComponent(std::string_view text) {
+  if (text.empty() || text == "1") return 1;
+  return component(text);
+}
+
+std::uint8_t channel(double fraction) {
+  return static_cast<std::uint8_t>(std::lround(std::clamp(fraction, 0.0, 1.0) * 255));
+}
+
+double linear(double encoded) {
+  return encoded <= 0.04045 ? encoded / 12.92 : std::pow((encoded + 0.055) / 1.055, 2.4);
+}
+
+double encoded(double linear) {
+  const double value = std::clamp(linear, 0.0, 1.0);
+  return value <= 0.0031308 ? value * 12.92 : 1.055 * std::pow(value, 1 / 2.4) - 0.055;
+}
+
+std::optional<RGBA> color(JSONValue entry) {
   const auto component = [&](std::string_view name) {
-    return text(components[name]).value_or(std::string_view());
+    return text(entry, "color", "components", name).value_or(std::string_view());
   };
-  const auto space = text(color["color-space"]).value_or("srgb");
+  const auto space = text(entry, "color", "color-space").value_or("srgb");
   if (space == "gray-gamma-22" || space == "extended-gray") {
     const auto white = component("white");
     return makeColor(ColorSpace::sRGB, white, white, white, component("alpha"));
@@ -53,8 +100,8 @@ std::optional<RGBA> color(element entry) {
                    component("green"), component("blue"), component("alpha"));
 }
 
-std::optional<std::string> svgFile(element entry) {
-  const auto name = text(entry["filename"]);
+std::optional<std::string> svgFile(JSONValue entry) {
+  const auto name = text(entry, "filename");
   if (!name || !name->ends_with(".svg")) return std::nullopt;
   return std::string(*name);
 }
@@ -66,15 +113,13 @@ struct Looks {
   const std::optional<T>& base() const { return light ? light : any; }
 };
 
-/// The first readable entry for each appearance in the list `key`; nothing without a light one.
-/// Design tools leave entries empty, so an entry that cannot be read is passed over.
+/// The first readable entry for each appearance in the list `key`; absent without a light one.
+/// Skips entries that cannot be read, because design tools leave some empty.
 template <class T>
-std::optional<Looks<T>> readLooks(element root, std::string_view key,
-                                  std::optional<T> (*read)(element)) {
-  simdjson::dom::array entries;
-  if (root[key].get(entries) != simdjson::SUCCESS) return std::nullopt;
+std::optional<Looks<T>> readLooks(JSONValue root, std::string_view key,
+                                  std::optional<T> (*read)(JSONValue)) {
   Looks<T> looks;
-  for (const element entry : entries) {
+  for (const JSONValue entry : list(root, key)) {
     const auto wanted = target(entry);
     if (!wanted) continue;
     auto& slot = wanted->any ? looks.any : wanted->dark ? looks.dark : looks.light;
@@ -84,19 +129,37 @@ std::optional<Looks<T>> readLooks(element root, std::string_view key,
   return looks;
 }
 
-/// Parses `json` and hands its root to `read`, which must copy what it keeps.
+/// Parses `json` and calls `read` with its root. The result must not view the document.
 template <class Read>
-auto withRoot(std::string_view json, Read read) -> decltype(read(element())) {
-  simdjson::dom::parser parser;
-  element root;
-  if (parser.parse(json.data(), json.size()).get(root) != simdjson::SUCCESS) return {};
-  return read(root);
+auto withRoot(std::string_view json, Read read) -> decltype(read(std::declval<JSONValue>())) {
+  foundation::JSONDocument document;
+  const auto parsed = document.parse(json);
+  const auto* root = std::get_if<JSONValue>(&parsed);
+  if (!root) return {};
+  return read(*root);
 }
 
 }  // namespace
 
+std::optional<RGBA> makeColor(ColorSpace space, std::string_view red, std::string_view green,
+                              std::string_view blue, std::string_view alpha) {
+  auto r = component(red);
+  auto g = component(green);
+  auto b = component(blue);
+  const auto a = alphaComponent(alpha);
+  if (!r || !g || !b || !a) return std::nullopt;
+  if (space == ColorSpace::displayP3) {
+    // Both spaces have the same white and the same curve, so one matrix on linear light does it.
+    const double lr = linear(*r), lg = linear(*g), lb = linear(*b);
+    r = encoded(1.2249402 * lr - 0.2249402 * lg);
+    g = encoded(-0.0420569 * lr + 1.0420569 * lg);
+    b = encoded(-0.0196376 * lr - 0.0786361 * lg + 1.0982736 * lb);
+  }
+  return RGBA{channel(*r), channel(*g), channel(*b), channel(*a)};
+}
+
 std::optional<ColorSet> parseColorSet(std::string_view json) {
-  return withRoot(json, [](element root) -> std::optional<ColorSet> {
+  return withRoot(json, [](JSONValue root) -> std::optional<ColorSet> {
     const auto looks = readLooks<RGBA>(root, "colors", color);
     if (!looks) return std::nullopt;
     const RGBA light = *looks->base();
@@ -105,22 +168,20 @@ std::optional<ColorSet> parseColorSet(std::string_view json) {
 }
 
 std::optional<ImageSetFiles> parseImageSet(std::string_view json) {
-  return withRoot(json, [](element root) -> std::optional<ImageSetFiles> {
+  return withRoot(json, [](JSONValue root) -> std::optional<ImageSetFiles> {
     const auto looks = readLooks<std::string>(root, "images", svgFile);
     if (!looks) return std::nullopt;
     ImageSetFiles files{*looks->base(), looks->dark, false};
     if (!files.dark && looks->light) files.dark = looks->any;
-    files.isTemplate = text(root["properties"]["template-rendering-intent"]) == "template";
+    files.isTemplate = text(root, "properties", "template-rendering-intent") == "template";
     return files;
   });
 }
 
 std::optional<std::string> parseDataSet(std::string_view json) {
-  return withRoot(json, [](element root) -> std::optional<std::string> {
-    simdjson::dom::array entries;
-    if (root["data"].get(entries) != simdjson::SUCCESS) return std::nullopt;
-    for (const element entry : entries) {
-      const auto name = text(entry["filename"]);
+  return withRoot(json, [](JSONValue root) -> std::optional<std::string> {
+    for (const JSONValue entry : list(root, "data")) {
+      const auto name = text(entry, "filename");
       if (name && target(entry)) return std::string(*name);
     }
     return std::nullopt;
@@ -128,9 +189,9 @@ std::optional<std::string> parseDataSet(std::string_view json) {
 }
 
 bool providesNamespace(std::string_view json) {
-  return withRoot(json, [](element root) {
-    bool provides = false;
-    return root["properties"]["provides-namespace"].get(provides) == simdjson::SUCCESS && provides;
+  return withRoot(json, [](JSONValue root) {
+    const auto provides = at(root, "properties", "provides-namespace");
+    return provides && provides->kind() == JSONValue::Kind::boolean && provides->integer() == 1;
   });
 }
 

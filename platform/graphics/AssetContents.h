@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -15,13 +16,22 @@ struct ImageSetFiles {
   bool isTemplate = false;
 };
 
-// Readers of the `Contents.json` of each kind of asset folder. Entries for one device only or for
-// high contrast are passed over; nothing for a text that is not such a file.
+// Readers of the `Contents.json` of each kind of asset folder. They skip entries for one device
+// only and for high contrast. Absent for a text that is no such file.
 std::optional<ColorSet> parseColorSet(std::string_view json);
 std::optional<ImageSetFiles> parseImageSet(std::string_view json);
 std::optional<std::string> parseDataSet(std::string_view json);
 
 /// Whether a folder's `Contents.json` makes its name part of the names inside it.
 bool providesNamespace(std::string_view json);
+
+enum class ColorSpace : std::uint8_t { sRGB, displayP3 };
+
+/// The color with these components, in any of the spellings that design tools write: "0xFF", "255"
+/// or "1.000". Alpha is opaque when empty, and a fraction also without a decimal point ("1").
+/// Clamps fractions to 0 to 1, and colors outside sRGB channel by channel. Absent for any other
+/// text.
+std::optional<RGBA> makeColor(ColorSpace space, std::string_view red, std::string_view green,
+                              std::string_view blue, std::string_view alpha);
 
 }  // namespace quorix::graphics

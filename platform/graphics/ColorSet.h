@@ -4,7 +4,7 @@
 
 namespace quorix::graphics {
 
-/// A named colour's value in each appearance.
+/// The value of a named color in each appearance.
 struct ColorSet {
   RGBA light;
   RGBA dark;

@@ -16,8 +16,7 @@ const GraphicsFont* FontManager::find(std::string_view name) const {
   return nullptr;
 }
 
-/// Asks outside the lock: the engine's look-up may well come back here for faces that it has not
-/// loaded yet.
+/// Calls the look-up without the lock: the engine may call `faces` for those it has not loaded yet.
 bool FontManager::systemKnows(std::string_view name) const {
   std::unique_lock lock(mutex_);
   const auto lookup = systemLookup_;
@@ -26,12 +25,19 @@ bool FontManager::systemKnows(std::string_view name) const {
 }
 
 bool FontManager::registerGraphicsFont(const GraphicsFont& font) {
-  if (knows(font.postScriptName())) return false;
-  const std::scoped_lock lock(mutex_);
-  if (find(font.postScriptName()) != nullptr) return false;  // another thread was faster
+  std::unique_lock lock(mutex_);
+  if (find(font.postScriptName()) != nullptr) return false;
   faces_.push_back(font);
   count_.store(faces_.size(), std::memory_order_release);
+  const auto observer = observer_;
+  lock.unlock();  // the toolkit may ask for the face's data
+  if (observer) observer(font);
   return true;
+}
+
+void FontManager::setRegistrationObserver(std::function<void(const GraphicsFont&)> observer) {
+  const std::scoped_lock lock(mutex_);
+  observer_ = std::move(observer);
 }
 
 void FontManager::setSystemLookup(std::function<bool(std::string_view)> lookup) {

@@ -14,36 +14,42 @@
 
 namespace quorix::graphics {
 
-/// The faces that the process has added to those of the system. A face stays for good. Any thread.
+/// The faces that the process has added to those of the system, until it ends. Any thread.
 ///
 ///     auto font = GraphicsFont::fromData(data);
 ///     bool added = font && FontManager::shared().registerGraphicsFont(*font);
 class QUORIX_EXPORT FontManager {
  public:
-  /// The one that text is drawn with. Others are for tests.
+  /// The manager that text is drawn with. Others are for tests.
   static FontManager& shared();
 
   FontManager() = default;
   FontManager(const FontManager&) = delete;
   FontManager& operator=(const FontManager&) = delete;
 
-  /// Adds `font` under its PostScript name. False, and no change, when that name is taken here or
-  /// in the system.
+  /// Adds `font` under its PostScript name. False, and no change, if a face is registered under
+  /// that name already. `font` replaces a face of the system with its name.
   bool registerGraphicsFont(const GraphicsFont& font);
 
-  /// Installs what tells whether the system has a face of a given name. It runs on the thread that
-  /// asks. Without it the system has none.
+  /// Installs the look-up of the system's faces by name. It runs on the thread that calls `knows`.
+  /// Without it, the system has no faces.
   void setSystemLookup(std::function<bool(std::string_view)> lookup);
+
+  /// Installs a function that is called with each face registered from now on, before
+  /// `registerGraphicsFont` returns and on its thread; null removes it. The toolkit uses it so that
+  /// the host's own texts find the face too. It must not run code of the host: a face may be
+  /// registered while a constant is being made.
+  void setRegistrationObserver(std::function<void(const GraphicsFont&)> observer);
 
   /// Whether text in the face `name` would be drawn in that face.
   bool knows(std::string_view name) const;
 
-  /// The font file registered under `name`; nothing for the system's own faces.
+  /// The font file registered under `name`; absent for the system's own faces.
   std::optional<foundation::Data> data(std::string_view name) const;
 
   /// How many faces are registered. An engine that has loaded fewer loads `faces(loaded)`.
   std::size_t generation() const { return count_.load(std::memory_order_acquire); }
-  /// The registered faces in order, without the `first` earliest.
+  /// The registered faces in order, starting at index `first`.
   std::vector<GraphicsFont> faces(std::size_t first = 0) const;
 
  private:
@@ -54,6 +60,7 @@ class QUORIX_EXPORT FontManager {
   std::vector<GraphicsFont> faces_;
   std::atomic<std::size_t> count_ = 0;
   std::function<bool(std::string_view)> systemLookup_;
+  std::function<void(const GraphicsFont&)> observer_;
 };
 
 }  // namespace quorix::graphics

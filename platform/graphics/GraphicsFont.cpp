@@ -19,8 +19,8 @@ std::uint32_t number(std::string_view bytes, std::size_t at, std::size_t length)
   return value;
 }
 
-/// Whether every table that the file's directory lists lies inside the file. The font library is
-/// content with less, and would draw from a file that was cut off.
+/// Whether every table of the file's directory lies inside the file. The font library does not
+/// check this and would draw from a truncated file.
 bool isComplete(std::string_view font) {
   constexpr std::size_t header = 12, record = 16;
   if (font.size() < header) return false;

@@ -9,11 +9,11 @@
 
 namespace quorix::graphics {
 
-/// A font file that has been found whole and readable. Immutable; any thread.
+/// A font file that is complete and readable. Immutable; any thread.
 class QUORIX_EXPORT GraphicsFont {
  public:
   /// The font in `data`: one face in TrueType or OpenType form with outlines and a PostScript name.
-  /// Nothing for any other data.
+  /// Absent for any other data.
   static std::optional<GraphicsFont> fromData(foundation::Data data);
 
   const std::string& postScriptName() const { return name_; }

@@ -4,7 +4,7 @@
 
 namespace quorix::graphics {
 
-/// A colour in sRGB, eight bits a channel, not premultiplied.
+/// A color in sRGB, eight bits a channel, not premultiplied.
 struct RGBA {
   std::uint8_t red = 0;
   std::uint8_t green = 0;

@@ -3,19 +3,19 @@
 #include <algorithm>
 #include <array>
 
-#include "platform/foundation/Decimal.h"
+#include "platform/foundation/Numbers.h"
 
 namespace quorix::graphics {
 namespace {
 
-constexpr std::string_view kBlanks = " \t\r\n";
+constexpr std::string_view blanks = " \t\r\n";
 
-/// What stands between "<svg" and the end of the tag.
+/// The text between "<svg" and the end of the tag.
 std::optional<std::string_view> rootAttributes(std::string_view text) {
   if (text.starts_with("\xEF\xBB\xBF")) text.remove_prefix(3);
   for (;;) {
-    text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
-    if (text.starts_with("<svg") && text.size() > 4 && kBlanks.find(text[4]) != kBlanks.npos) break;
+    text.remove_prefix(std::min(text.find_first_not_of(blanks), text.size()));
+    if (text.starts_with("<svg") && text.size() > 4 && blanks.find(text[4]) != blanks.npos) break;
     std::string_view close;
     if (text.starts_with("<!--")) {
       close = "-->";
@@ -46,11 +46,11 @@ std::optional<std::string_view> rootAttributes(std::string_view text) {
 
 std::optional<std::string_view> attribute(std::string_view attributes, std::string_view name) {
   while (!attributes.empty()) {
-    const auto start = attributes.find_first_not_of(kBlanks);
+    const auto start = attributes.find_first_not_of(blanks);
     const auto equals = attributes.find('=');
     if (start >= equals || equals == attributes.npos) return std::nullopt;
     std::string_view found = attributes.substr(start, equals - start);
-    found = found.substr(0, found.find_last_not_of(kBlanks) + 1);
+    found = found.substr(0, found.find_last_not_of(blanks) + 1);
     const auto open = attributes.find_first_of("\"'", equals);
     if (open == attributes.npos) return std::nullopt;
     const auto close = attributes.find(attributes[open], open + 1);

@@ -12,7 +12,7 @@ struct SvgSize {
 };
 
 /// The natural size of an SVG file: its root's `width` and `height` (plain or "px"), or else the
-/// size of its `viewBox`. Nothing when the text has no such root element or no usable size.
+/// size of its `viewBox`. Absent without such a root element or a usable size.
 std::optional<SvgSize> readSvgSize(std::string_view svg);
 
 }  // namespace quorix::graphics

@@ -14,17 +14,16 @@ RecentEvaluations& RecentEvaluations::shared() {
   return instance;
 }
 
-void RecentEvaluations::fill(Slot& slot, swiftui::Evaluation evaluation) {
+void RecentEvaluations::fill(Slot& slot, std::unique_ptr<swiftui::Evaluation> evaluation) {
   std::erase(filled_, &slot);
-  if (filled_.size() >= kKept) empty(*filled_.front());
-  slot = std::make_unique<swiftui::Evaluation>(std::move(evaluation));
+  if (filled_.size() >= kKept) take(*filled_.front());
+  slot = std::move(evaluation);
   filled_.push_back(&slot);
 }
 
-void RecentEvaluations::empty(Slot& slot) {
-  if (!slot) return;
-  std::erase(filled_, &slot);
-  slot.reset();
+RecentEvaluations::Slot RecentEvaluations::take(Slot& slot) {
+  if (slot) std::erase(filled_, &slot);
+  return std::move(slot);
 }
 
 }  // namespace quorix::hosting

@@ -20,12 +20,7 @@ Rect inked(const render::Item& item) {
           {frame.size.width + 2 * reach, frame.size.height + 2 * reach}};
 }
 
-Rect united(const Rect& a, const Rect& b) {
-  const layout::Point origin = {std::min(a.left(), b.left()), std::min(a.top(), b.top())};
-  return {origin,
-          {std::max(a.right(), b.right()) - origin.x, std::max(a.bottom(), b.bottom()) - origin.y}};
-}
-
+/// Cuts `rect` to the area of `size`. Unlike an intersection, the result never begins outside it.
 Rect within(const Rect& rect, layout::Size size) {
   const layout::Point origin = {std::clamp(rect.left(), 0.0, size.width),
                                 std::clamp(rect.top(), 0.0, size.height)};
@@ -42,7 +37,7 @@ void crop(SceneLayer& layer, double scale) {
     return;
   }
   Rect all = inked(items.front());
-  for (const render::Item& item : items) all = united(all, inked(item));
+  for (const render::Item& item : items) all = layout::united(all, inked(item));
   all = layout::PixelGrid(scale).round(within(all, layer.scene.size));
   for (render::Item& item : items) {
     std::visit(

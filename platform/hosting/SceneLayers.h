@@ -7,20 +7,20 @@
 
 namespace quorix::hosting {
 
-/// A part of a scene that is painted as one picture, and what stands right on top of it.
+/// A part of a display list that is painted as one picture, and the embed directly above it.
 struct SceneLayer {
   layout::Point origin;  ///< of the picture, in the whole scene
   render::Scene scene;   ///< items alone, from the picture's own corner; empty when none is needed
   const render::EmbedItem* embed = nullptr;  ///< the whole scene's own; null on top
 };
 
-/// `scene` cut where something paints itself: the first layer is as large as the scene, each
-/// further one only as large as what it shows. There is always one layer more than there are
-/// embeds. The picture of a layer also shows the background of its embed. Edges are on whole device
-/// pixels at `scale`. The layers point into `scene`.
+/// Cuts `scene` at its embeds, so there is one layer more than there are embeds. The first layer is
+/// as large as the scene, each further one only as large as its items. A layer's picture includes
+/// the background of its embed. Edges are on whole device pixels at `scale`. The layers point into
+/// `scene`.
 QUORIX_EXPORT std::vector<SceneLayer> layersOf(const render::Scene& scene, double scale);
 
-/// Whether `scene` makes room for something that paints itself.
+/// Whether `scene` has an embed with content.
 bool hasEmbeds(const render::Scene& scene);
 
 }  // namespace quorix::hosting

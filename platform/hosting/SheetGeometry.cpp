@@ -45,7 +45,10 @@ void round(render::EmbedItem& embed, const layout::Rect& panel) {
   }
 }
 
-void round(auto&, const layout::Rect&) {}  // leaves the corners free
+// The panel's padding keeps these away from its corners.
+void round(render::TextItem&, const layout::Rect&) {}
+void round(render::ImageItem&, const layout::Rect&) {}
+void round(render::StrokeItem&, const layout::Rect&) {}
 
 }  // namespace
 

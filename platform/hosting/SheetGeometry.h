@@ -21,12 +21,12 @@ struct SheetGeometry {
   /// The height of the panel's content area at rest: the smallest of `detents`, limited by the
   /// largest sheet; the largest when there are none.
   double contentHeight(const swiftui::PresentationDetents& detents) const;
-  /// What shows of the window's bottom below the content.
+  /// The height of the safe area below the content.
   double bottomInset() const { return safeArea.bottom; }
-  /// The panel when `revealed` points of it have risen.
+  /// The panel's frame after `revealed` points of it have risen.
   layout::Rect panel(double revealed) const;
 
-  /// Keeps what fills the upper corners of `panel` in `scene` within their rounding.
+  /// Rounds the items of `scene` that cover the top corners of `panel`.
   static void roundTop(render::Scene& scene, const layout::Rect& panel);
 };
 

@@ -42,14 +42,14 @@ struct SheetPresenter::State final : ViewHost::Client {
     textFit.contentChanged();
     ++panelRevision;
   }
-  void presentationChanged() override {}  // the content of a sheet presents no sheet of its own
+  void presentationChanged() override { client.sheetPresentationChanged(); }
 
   double restingHeight() {
     return geometry.contentHeight(content.detents()) + geometry.bottomInset();
   }
   bool isMoving() { return presentation && !closed && (closing || revealed != target()); }
   bool advance(double seconds);
-  /// Something is elsewhere now, or belongs elsewhere.
+  /// The panel moved, or its target did.
   void moved() {
     client.sheetNeedsDisplay();
     if (!motion) advance(0);
@@ -108,7 +108,7 @@ void SheetPresenter::State::close() {
   client.sheetDidClose();
 }
 
-/// The panel with its content, of which whatever fills it to both upper corners is cut as it is.
+/// Adds the panel with its content. Items that cover the top corners get the panel's radius.
 void SheetPresenter::State::addPanel(render::Scene& to, const layout::Rect& frame) {
   to.appearance = contentScene().appearance;
   const graphics::RGBA color = colorOfPanel(to.appearance);
@@ -163,7 +163,12 @@ void SheetPresenter::present(const swiftui::Presentation& presentation) {
 void SheetPresenter::retract() {
   state_->closing = true;
   state_->endDrag();
+  state_->client.sheetPresentationChanged();  // what stands above goes along
   state_->moved();
+}
+
+const swiftui::Presentation* SheetPresenter::presentation() {
+  return state_->closing ? nullptr : state_->content.presentation();
 }
 
 void SheetPresenter::dismiss() {
@@ -178,7 +183,7 @@ const render::Scene& SheetPresenter::scene() {
   State& state = *state_;
   if (state.overlay) return *state.overlay;
 
-  state.contentScene();  // in the size that it ends up in, before its height is asked
+  state.contentScene();  // finds the text size, on which the height depends
   render::Scene overlay;
   overlay.size = state.geometry.window;
   overlay.items.emplace_back(std::in_place_type<render::FillItem>,
@@ -244,7 +249,7 @@ void SheetPresenter::pointerReleased(layout::Point point, double velocity) {
   if (outside || swiped) {
     dismiss();
   } else if (tapped) {
-    // Last, since an action may take away all that shows it.
+    // Last, since an action may destroy this presenter.
     state_->content.pointerReleased(state_->inContent(point));
   }
 }

@@ -16,10 +16,13 @@ class QUORIX_EXPORT SheetPresenter {
   class Client {
    public:
     virtual ~Client() = default;
-    /// Something moved or changed: ask `scene` again; call `advance` each frame while it says so.
+    /// Something moved or changed: paint `scene` again, and call `advance` each frame while it
+    /// returns true.
     virtual void sheetNeedsDisplay() = 0;
-    /// The panel has left the window: take the overlay away and give the focus back. May destroy
-    /// the presenter.
+    /// `presentation()` began, changed or ended. May come while the presenter is being called.
+    virtual void sheetPresentationChanged() {}
+    /// The panel has left the window: remove the overlay and return the focus. The client may
+    /// destroy the presenter here.
     virtual void sheetDidClose() = 0;
   };
 
@@ -30,16 +33,20 @@ class QUORIX_EXPORT SheetPresenter {
 
   void setEnvironment(const swiftui::Environment& environment);
   void setWindow(layout::Size size, layout::EdgeInsets safeArea);
-  /// Without motion every change is at once.
+  /// Without motion, changes happen at once.
   void setMotion(bool enabled);
 
-  /// Shows `presentation`: rises when it is new, takes over the changed content when it is up.
+  /// Shows `presentation`. A new sheet rises; one that is up takes the changed content.
   void present(const swiftui::Presentation& presentation);
-  /// The owner took the sheet back: falls, then tells the client.
+  /// Closes the sheet on its owner's behalf: it falls, then the client is told.
   void retract();
-  /// The user closes it (Escape, the Back key, assistive technology): writes false through the
-  /// binding.
+  /// Closes the sheet on the user's behalf (Escape, the Back key, assistive technology): writes
+  /// false through the binding.
   void dismiss();
+
+  /// The sheet that the content itself presents. Show it above this one, with a presenter of its
+  /// own. Null without one, and while this sheet closes.
+  const swiftui::Presentation* presentation();
 
   /// Moves on by `seconds`. Returns whether it is still moving.
   bool advance(double seconds);
@@ -49,15 +56,15 @@ class QUORIX_EXPORT SheetPresenter {
   const render::Scene& scene();
   layout::Rect panelFrame() const;
 
-  // The same in parts, for a surface that moves pictures rather than paint each frame anew.
+  // The same in parts, for a surface that moves pictures instead of painting each frame.
 
-  /// What lies over the window behind the panel.
+  /// The color over the window behind the panel.
   graphics::RGBA shade();
-  /// The panel at rest, from its own top left: motion leaves it as it is, and `panelFrame` says
-  /// where it stands. Where it does not reach the window's bottom, `panelColor` goes on.
+  /// The panel at rest, with its top left corner as origin. Motion changes only `panelFrame`. Fill
+  /// the gap between the panel and the window's bottom with `panelColor`.
   const render::Scene& panel();
   graphics::RGBA panelColor() const;
-  /// Another number whenever `panel` may have changed.
+  /// Changes when `panel` may have changed.
   unsigned panelRevision() const;
 
   void pointerPressed(layout::Point point);
@@ -66,21 +73,22 @@ class QUORIX_EXPORT SheetPresenter {
   void pointerReleased(layout::Point point, double velocity);
   void pointerCancelled();
 
-  /// Moves the focus inside the sheet, round and round: it never leaves while the sheet is up.
-  /// False when it is the turn of what paints itself in the sheet, which is after the last element.
+  /// Moves the focus inside the sheet, from the last element to the first: it never leaves an open
+  /// sheet. False when the focus should move to the embedded page, which comes after the last
+  /// element.
   bool moveFocus(bool forward);
   /// Moves it to accessibility element `index` of `scene`. False when that does not act.
   bool focus(int index);
-  /// The focus went to what paints itself in the sheet.
+  /// The embedded page took the focus.
   void dropFocus();
   std::optional<layout::Rect> focusFrame() const;
-  /// The element that the ring goes around, once the keyboard moved the focus.
+  /// The frame of the focus ring, once the keyboard has moved the focus.
   std::optional<layout::Rect> ringFrame() const;
-  /// These do nothing any more once the sheet is on its way out.
+  /// These do nothing while the sheet closes.
   bool activateFocus();
   bool activate(int index);
 
-  /// Performs now what waits for the next turn, and ends all motion: for pictures and tests.
+  /// Runs what is queued for the next turn and ends all motion. For pictures and tests.
   void settle();
 
  private:

@@ -42,16 +42,29 @@ const render::Scene& TextFit::scene(layout::Size area, const layout::EdgeInsets&
   return content_.scene(area, safeArea);
 }
 
+/// Tries few sizes, since each shapes all texts anew: content that does not fit in the smallest
+/// size stays in that; otherwise a binary search finds the largest size that fits.
 void TextFit::fit(layout::Size area, const layout::EdgeInsets& safeArea, double tallest) {
   trying_ = true;
   swiftui::Environment environment = content_.environment();
-  while (environment.textSize > ContentSizeCategory::large) {
-    const bool isWhole = content_.sizeThatFits({area.width, std::nullopt}).height <= tallest &&
-                         !isCovered(content_.scene(area, safeArea));
-    if (isWhole) break;
-    environment.textSize =
-        static_cast<ContentSizeCategory>(static_cast<int>(environment.textSize) - 1);
+  const auto use = [&](int size) {
+    environment.textSize = static_cast<ContentSizeCategory>(size);
     content_.setEnvironment(environment);
+  };
+  const auto isWholeIn = [&](int size) {
+    use(size);
+    return content_.sizeThatFits({area.width, std::nullopt}).height <= tallest &&
+           !isCovered(content_.scene(area, safeArea));
+  };
+  int whole = static_cast<int>(ContentSizeCategory::large);
+  int cut = static_cast<int>(environment.textSize);
+  if (cut > whole && !isWholeIn(cut) && isWholeIn(whole)) {
+    while (cut - whole > 1) {
+      const int between = (whole + cut) / 2;
+      (isWholeIn(between) ? whole : cut) = between;
+    }
+    use(whole);
+    content_.scene(area, safeArea);
   }
   trying_ = false;
 }

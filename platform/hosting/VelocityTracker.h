@@ -6,8 +6,8 @@
 
 namespace quorix::hosting {
 
-/// How fast a finger moves along one axis just before it is lifted. A finger that rested before it
-/// was lifted has no speed, however fast it came.
+/// Measures how fast a finger moves along one axis before it is lifted. A finger that rested before
+/// that has speed 0.
 class QUORIX_EXPORT VelocityTracker {
  public:
   /// The finger is at `position` (points) at the time `seconds`.

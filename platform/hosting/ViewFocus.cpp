@@ -13,7 +13,7 @@ void ViewFocus::came(Cause cause) {
     case Cause::interruption:
       return;  // it is where it was
     case Cause::other:
-      // Where there is a choice, nobody has made it.
+      // With several targets, select none.
       if (!host_.focusFrame() && host_.actingElements() == 1) host_.moveFocus(true);
       ringWanted_ = false;
       return;

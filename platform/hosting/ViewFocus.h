@@ -7,15 +7,15 @@
 
 namespace quorix::hosting {
 
-/// What the keyboard focus does inside one view: which element it comes to, and whether the ring
-/// around that element is to be seen, which it is only for who uses the keyboard. Main thread.
+/// Moves the keyboard focus inside one view, and shows the ring around the focused element while
+/// the keyboard is in use. Main thread.
 class QUORIX_EXPORT ViewFocus {
  public:
   /// Why the surface got the focus or lost it.
   enum class Cause {
-    forward,       ///< the keyboard, from what stands before
-    backward,      ///< the keyboard, from what stands after
-    interruption,  ///< a pop-up or another window has it for a while, or gives it back
+    forward,       ///< by keyboard, from before the view
+    backward,      ///< by keyboard, from behind it
+    interruption,  ///< to or from a pop-up or another window
     other,
   };
 
@@ -23,15 +23,14 @@ class QUORIX_EXPORT ViewFocus {
 
   void came(Cause cause);
   void left(Cause cause);
-  /// The keyboard moves it on. False when there is no further element: the focus leaves the view.
+  /// Moves the focus by keyboard. False after the last element: the focus leaves the view.
   bool walk(bool forward);
-  /// The view was replaced while it had the focus: it comes to the first element of the new one,
-  /// and the ring is seen as before.
+  /// Focuses the first element of a view that replaced the focused one; the ring stays as it was.
   void renewed() { host_.moveFocus(true); }
-  /// The user points: nobody needs the ring.
+  /// Hides the ring when the user points.
   void hideRing() { ringWanted_ = false; }
 
-  /// The element that the ring goes around.
+  /// The frame of the focus ring.
   std::optional<layout::Rect> ring() const;
 
  private:

@@ -4,9 +4,9 @@
 #include <utility>
 
 #include "platform/hosting/RecentEvaluations.h"
-#include "platform/hosting/SceneBuilder.h"
 #include "platform/layout/Alignment.h"
-#include "platform/layout/Layout.h"
+#include "platform/swiftui/DisplayListBuilder.h"
+#include "platform/swiftui/LayoutPass.h"
 #include "platform/swiftui/ViewGraph.h"
 
 namespace quorix::hosting {
@@ -33,18 +33,17 @@ struct ViewHost::State {
 
   swiftui::Evaluation& evaluated();
   void evaluateAgain();
-  void forget() { RecentEvaluations::shared().empty(evaluation); }
+  void forget() { RecentEvaluations::shared().take(evaluation); }
   void invalidated();
   void changed();
   void layOut(const Area& within);
+  void tellSizes(std::vector<swiftui::WatchedSize> sizes);
   const render::Scene* current();
-  void perform(const std::function<void()>& action);
   const render::AccessibilityElement* acting(int index);
 
   text::TextEngine& engine;
   Client& client;
-  std::shared_ptr<State*> alive =
-      std::make_shared<State*>(this);  ///< contents may outlive the host
+  std::shared_ptr<State*> alive;  ///< made for contents, which may outlive the host
   swiftui::Environment environment;
   swiftui::ViewGraph graph;
   // Between an evaluation and the scene made of it; a view at rest keeps the scene alone.
@@ -70,6 +69,7 @@ void ViewHost::State::evaluateAgain() {
   RecentEvaluations::shared().fill(evaluation, graph.evaluate(environment));
   detents = evaluation->detents;
   for (const auto& content : evaluation->hosted) {
+    if (!alive) alive = std::make_shared<State*>(this);
     content->onChange([self = std::weak_ptr(alive)] {
       if (self.lock()) (*self.lock())->changed();
     });
@@ -79,8 +79,7 @@ void ViewHost::State::evaluateAgain() {
   if (had || presentation) client.presentationChanged();
 }
 
-/// The graph's turn: evaluated at once, whether or not anybody paints, since a sheet may hang on
-/// it.
+/// Evaluates at once on the graph's turn, also without a paint: a sheet may begin or end.
 void ViewHost::State::invalidated() {
   fitted.clear();
   scene.reset();
@@ -88,7 +87,7 @@ void ViewHost::State::invalidated() {
   client.viewNeedsDisplay();
 }
 
-/// The surface changed something, often several things in a row: evaluated when it asks.
+/// Evaluates later, when the surface asks: it often changes several settings in a row.
 void ViewHost::State::changed() {
   stale = true;
   fitted.clear();
@@ -98,36 +97,40 @@ void ViewHost::State::changed() {
 }
 
 void ViewHost::State::layOut(const Area& within) {
-  swiftui::Evaluation& latest = evaluated();
+  evaluated();
+  // Taken out: content of another toolkit may tell of a change while it is laid out or shown.
+  const auto taken = RecentEvaluations::shared().take(evaluation);
+  swiftui::Evaluation& latest = *taken;
   const auto safe = layout::SafeArea::within(within.size, within.insets);
-  layout::Layout pass(engine, environment.scale, safe);
+  swiftui::LayoutPass pass(latest.arena(), engine, environment.scale, safe);
   const layout::ProposedSize proposal = {safe.frame.size.width, safe.frame.size.height};
-  const layout::Size chosen = pass.measure(latest.root, proposal);
+  const layout::Size chosen = pass.measure(*latest.root, proposal);
   const layout::Point centred = layout::alignedOffset({}, safe.frame.size, chosen);
   const layout::Point origin = {safe.frame.left() + std::max(0.0, centred.x),
                                 safe.frame.top() + std::max(0.0, centred.y)};
-  pass.place(latest.root, origin, proposal);
+  pass.place(*latest.root, origin, proposal);
   if (environment.direction == layout::LayoutDirection::rightToLeft) {
-    layout::mirror(latest.root, within.size.width);
+    swiftui::mirror(*latest.root, within.size.width);
   }
-  // The actions run when the scene stands: they may ask this host again.
-  std::vector<std::function<void()>> changes;
-  std::vector<std::pair<swiftui::TreePath, layout::Size>> sizes;
-  const auto visit = [&](const auto& path, layout::Size now, const auto& action) {
-    // Taken from what was known: the next of several in one place finds its own.
-    const auto known = std::find_if(geometry.begin(), geometry.end(),
-                                    [&](const auto& entry) { return entry.first == path; });
-    const bool same = known != geometry.end() && known->second == now;
-    if (known != geometry.end()) geometry.erase(known);
-    sizes.emplace_back(path, now);
-    if (!same) changes.push_back([action, now] { action(now); });
-  };
+  swiftui::DisplayListBuilder builder(latest, environment, engine, within.size);
+  builder.build();
   area = within;
-  scene = SceneBuilder(latest, environment, engine, visit).build();
-  scene->size = within.size;
-  geometry = std::move(sizes);
-  forget();
-  for (const auto& change : changes) change();
+  scene = std::move(builder.list);
+  tellSizes(std::move(builder.geometry));
+}
+
+/// Tells the views that want to know of a size that changed. They may ask this host again.
+void ViewHost::State::tellSizes(std::vector<swiftui::WatchedSize> sizes) {
+  auto before = std::exchange(geometry, {});
+  for (const swiftui::WatchedSize& now : sizes) geometry.emplace_back(now.path, now.size);
+  for (const swiftui::WatchedSize& now : sizes) {
+    // Taken from what was known: the next of several in one place finds its own.
+    const auto known = std::find_if(before.begin(), before.end(),
+                                    [&](const auto& entry) { return entry.first == now.path; });
+    const bool same = known != before.end() && known->second == now.size;
+    if (known != before.end()) before.erase(known);
+    if (!same) now.action(now.size);
+  }
 }
 
 /// What input is for: the latest scene, also while its successor waits for the next frame. Null
@@ -175,8 +178,8 @@ layout::Size ViewHost::sizeThatFits(layout::ProposedSize proposal) {
     if (offered == proposal) return size;
   }
   swiftui::Evaluation& latest = state_->evaluated();
-  layout::Layout pass(state_->engine, state_->environment.scale);
-  const layout::Size size = pass.measure(latest.root, proposal);
+  swiftui::LayoutPass pass(latest.arena(), state_->engine, state_->environment.scale);
+  const layout::Size size = pass.measure(*latest.root, proposal);
   if (fitted.size() == manyProposals) fitted.clear();
   fitted.emplace_back(proposal, size);
   return size;
@@ -184,8 +187,13 @@ layout::Size ViewHost::sizeThatFits(layout::ProposedSize proposal) {
 
 const render::Scene& ViewHost::scene(layout::Size size, const layout::EdgeInsets& safeArea) {
   const Area area = {size, safeArea};
-  if (!state_->scene || state_->area != area) state_->layOut(area);
+  if (!state_->scene || state_->stale || state_->area != area) state_->layOut(area);
   return *state_->scene;
+}
+
+render::Scene ViewHost::takeScene(layout::Size size) {
+  scene(size);
+  return *std::exchange(state_->scene, std::nullopt);
 }
 
 void ViewHost::rest() {
@@ -208,11 +216,6 @@ void ViewHost::settle() {
   }
 }
 
-void ViewHost::State::perform(const std::function<void()>& action) {
-  const auto kept = action;  // the scene that holds it may go while it runs
-  kept();
-}
-
 bool ViewHost::pointerPressed(layout::Point point) {
   state_->pressed.reset();
   const render::Scene* scene = state_->current();
@@ -227,7 +230,7 @@ bool ViewHost::pointerReleased(layout::Point point) {
   if (!scene) return false;
   const render::HitArea* area = scene->hitTest(*pressed);
   if (!area || scene->hitTest(point) != area) return false;
-  state_->perform(area->action);
+  area->action();
   return true;
 }
 
@@ -290,8 +293,9 @@ bool ViewHost::activateFocus() { return activate(state_->focused); }
 
 bool ViewHost::activate(int index) {
   const render::AccessibilityElement* element = state_->acting(index);
-  if (element) state_->perform(element->action);
-  return element != nullptr;
+  if (!element) return false;
+  element->action();
+  return true;
 }
 
 }  // namespace quorix::hosting

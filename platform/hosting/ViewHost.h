@@ -13,8 +13,8 @@
 
 namespace quorix::hosting {
 
-/// Puts one view on a surface: evaluates it, lays it out, routes taps and keys into it and says
-/// when any of that changed. What every surface has in common stands here; main thread.
+/// Shows one view on a surface: evaluates it, lays it out, routes taps and keys into it, and tells
+/// the surface when to paint again. Main thread.
 class QUORIX_EXPORT ViewHost {
  public:
   /// The surface. Both calls may come while the surface itself is calling the host.
@@ -32,27 +32,29 @@ class QUORIX_EXPORT ViewHost {
   ViewHost(const ViewHost&) = delete;
   ViewHost& operator=(const ViewHost&) = delete;
 
-  /// Shows another view: it begins afresh, and a sheet of the one before goes.
+  /// Shows another view, which starts with fresh states. The former view's sheet closes.
   void setRoot(swiftui::View root);
-  /// Shows the same view with other values, as when an enclosing body was evaluated again: its
-  /// states stay.
+  /// Shows the same view with other values, as after an enclosing body was evaluated again. Keeps
+  /// the states.
   void updateRoot(swiftui::View root);
   void setEnvironment(const swiftui::Environment& environment);
   const swiftui::Environment& environment() const;
 
-  /// On screen, observed objects are subscribed and tasks run; off screen both end.
+  /// On screen, observed objects are subscribed and tasks run. Both end off screen.
   void setOnScreen(bool onScreen);
 
   /// The size that the view chooses when offered `proposal`.
   layout::Size sizeThatFits(layout::ProposedSize proposal);
 
-  /// The view placed in an area of `size` less `safeArea`, centred where it is smaller. What
-  /// ignores the safe area goes on into the insets. The reference holds until the next call of this
-  /// host.
+  /// The display list of the view in an area of `size` less `safeArea`, centred if it is smaller.
+  /// Elements that ignore the safe area extend into the insets. The reference is valid until the
+  /// next call of this host.
   const render::Scene& scene(layout::Size size, const layout::EdgeInsets& safeArea = {});
 
-  /// Nobody looks at the view: keeps its sizes and lets its scene go. Whatever needs the scene
-  /// again has it made anew.
+  /// Moves the scene out. The next call that needs a scene makes it anew.
+  render::Scene takeScene(layout::Size size);
+  /// Frees the scene of a view that is out of sight and keeps its sizes. The next call that needs a
+  /// scene makes it anew.
   void rest();
 
   /// The sheet that the view asks for, or null.
@@ -61,7 +63,7 @@ class QUORIX_EXPORT ViewHost {
   /// The detents that the view asks of the sheet it is shown in; empty when it asks for none.
   const swiftui::PresentationDetents& detents();
 
-  /// Performs now what waits for the next turn of the main queue: for pictures and tests.
+  /// Runs what is queued for the next turn of the main queue. For pictures and tests.
   void settle();
 
   // Input, in the coordinates of the latest scene.
@@ -72,7 +74,7 @@ class QUORIX_EXPORT ViewHost {
   bool pointerReleased(layout::Point point);
   void pointerCancelled();
 
-  /// Moves the keyboard focus among the elements that act. False when there is none further: focus
+  /// Moves the keyboard focus among the elements that act. False after the last one: the focus
   /// leaves the view.
   bool moveFocus(bool forward);
   /// Moves it to accessibility element `index` of the latest scene. False when that does not act.
@@ -80,7 +82,7 @@ class QUORIX_EXPORT ViewHost {
   void clearFocus();
   /// How many elements of the latest scene act.
   int actingElements() const;
-  /// Where the focus ring goes.
+  /// The frame of the focused element.
   std::optional<layout::Rect> focusFrame() const;
   /// Performs the focused element's action (Enter and Space). False when nothing has the focus.
   bool activateFocus();

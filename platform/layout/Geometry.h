@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <limits>
@@ -34,9 +35,25 @@ struct Rect {
   bool contains(Point p) const {
     return p.x >= left() && p.x < right() && p.y >= top() && p.y < bottom();
   }
+  bool isEmpty() const { return size.width <= 0 || size.height <= 0; }
   Rect translated(Point by) const { return {{origin.x + by.x, origin.y + by.y}, size}; }
   bool operator==(const Rect&) const = default;
 };
+
+/// The area that both cover; empty when they do not overlap.
+inline Rect intersection(const Rect& a, const Rect& b) {
+  const Point origin = {std::max(a.left(), b.left()), std::max(a.top(), b.top())};
+  return {origin,
+          {std::max(0.0, std::min(a.right(), b.right()) - origin.x),
+           std::max(0.0, std::min(a.bottom(), b.bottom()) - origin.y)}};
+}
+
+/// The smallest rectangle around both.
+inline Rect united(const Rect& a, const Rect& b) {
+  const Point origin = {std::min(a.left(), b.left()), std::min(a.top(), b.top())};
+  return {origin,
+          {std::max(a.right(), b.right()) - origin.x, std::max(a.bottom(), b.bottom()) - origin.y}};
+}
 
 /// Insets by reading direction: `leading` is left in left-to-right text.
 struct EdgeInsets {

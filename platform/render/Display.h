@@ -7,12 +7,12 @@
 
 namespace quorix::render {
 
-/// What a scene is made for.
+/// The settings that a display list is made for.
 struct Display {
   graphics::Appearance appearance = graphics::Appearance::light;
   layout::LayoutDirection direction = layout::LayoutDirection::leftToRight;
   double scale = 1;           ///< device pixels for each point
-  std::string language = {};  ///< of what has no words of its own, as a code such as "tr"
+  std::string language = {};  ///< of labels without a text of their own; a code such as "tr"
 };
 
 }  // namespace quorix::render

@@ -10,17 +10,17 @@
 
 namespace quorix::render {
 
-/// Content of another toolkit that stands in a view tree: it answers for its own size and brings
-/// its own scene. One host at a time; main thread.
+/// Content of another toolkit in a view tree: sizes itself and makes its own display list. In one
+/// place of one tree at a time; main thread.
 class QUORIX_EXPORT HostedContent : public layout::SelfSizing {
  public:
   /// The content laid out in an area of `size`, with its origin at zero.
   virtual Scene scene(layout::Size size, const Display& display, text::TextEngine& engine) = 0;
 
-  /// `changed` is called whenever size or scene may have become another.
+  /// Calls `changed` whenever the size or the display list may have changed.
   void onChange(std::function<void()> changed) { changed_ = std::move(changed); }
 
-  /// Runs `update` and tells nobody of what it changes: for changes that the asking host makes.
+  /// Runs `update` without notices of change: for changes during an evaluation.
   template <class Update>
   void updateQuietly(Update update) {
     const bool before = std::exchange(quiet_, true);

@@ -1,19 +1,20 @@
 #include "platform/render/Scene.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace quorix::render {
 namespace {
 
 template <class Part>
-void appendMoved(std::vector<Part>& to, const std::vector<Part>& from, layout::Point offset) {
-  for (Part part : from) {
+void appendMoved(std::vector<Part>& to, std::vector<Part> from, layout::Point offset) {
+  for (Part& part : from) {
     part.frame = part.frame.translated(offset);
     to.push_back(std::move(part));
   }
 }
 
-/// The top-most embed under `point`, whatever lies above it, or null.
+/// The top-most embed under `point`, or null. Hit areas above it are ignored.
 const EmbedItem* embedUnder(const std::vector<Item>& items, layout::Point point) {
   for (auto item = items.rbegin(); item != items.rend(); ++item) {
     const auto* embed = std::get_if<EmbedItem>(&*item);
@@ -37,18 +38,14 @@ const HitArea* Scene::hitTest(layout::Point point) const {
   return nullptr;
 }
 
-const EmbedItem* Scene::embedAt(layout::Point point) const {
-  return hitTest(point) ? nullptr : embedUnder(items, point);
-}
-
-void Scene::append(const Scene& other, layout::Point offset) {
-  for (Item item : other.items) {
+void Scene::append(Scene other, layout::Point offset) {
+  for (Item& item : other.items) {
     std::visit([&](auto& part) { part.frame = part.frame.translated(offset); }, item);
     if (auto* embed = std::get_if<EmbedItem>(&item)) embed->hitAreasBelow += hitAreas.size();
     items.push_back(std::move(item));
   }
-  appendMoved(hitAreas, other.hitAreas, offset);
-  appendMoved(accessibility, other.accessibility, offset);
+  appendMoved(hitAreas, std::move(other.hitAreas), offset);
+  appendMoved(accessibility, std::move(other.accessibility), offset);
 }
 
 }  // namespace quorix::render

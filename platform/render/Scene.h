@@ -2,13 +2,12 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <memory>
-#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
 
+#include "platform/foundation/Action.h"
 #include "platform/foundation/Bundle.h"
 #include "platform/foundation/Export.h"
 #include "platform/graphics/RGBA.h"
@@ -24,13 +23,13 @@ struct TextItem {
   text::AttributedText text;
 };
 
-/// An image of a bundle's asset catalogue, stretched to the frame.
+/// An image of a bundle's asset catalogue, stretched to the frame. A template image is drawn in
+/// `tint`, any other in its own colors.
 struct ImageItem {
   layout::Rect frame;
   std::string name;
   foundation::Bundle::Ref bundle;
-  graphics::RGBA tint;                            ///< for template images
-  std::optional<bool> isTemplate = std::nullopt;  ///< absent: as the asset says
+  graphics::RGBA tint;
 };
 
 struct FillItem {
@@ -46,40 +45,41 @@ struct StrokeItem {
   double width = 1;
 };
 
-/// Room for something that paints itself.
+/// Room for content that paints itself.
 struct QUORIX_EXPORT EmbedItem {
   layout::Rect frame;
   std::shared_ptr<Embed> content;
-  graphics::RGBA background;      ///< shows until the content has painted, and in pictures
+  graphics::RGBA background;      ///< shown until the content has painted, and in pictures
   double topCornerRadius = 0;     ///< of the two upper corners
-  std::size_t hitAreasBelow = 0;  ///< so many of the scene's hit areas lie below the content
+  std::size_t hitAreasBelow = 0;  ///< the number of hit areas below the content
 
-  /// Where the content stands: clear of the rounded corners, beside which the background shows.
+  /// The content's frame: below the rounded corners, where only the background shows.
   layout::Rect room() const;
 };
 
 using Item = std::variant<TextItem, ImageItem, FillItem, StrokeItem, EmbedItem>;
 
-/// Where a tap does something. Later areas lie on top of earlier ones.
+/// An area that reacts to taps. Later areas lie on top of earlier ones.
 struct HitArea {
   layout::Rect frame;
-  std::function<void()> action;
+  foundation::Action action;
 };
 
 enum class Role : std::uint8_t { staticText, button, heading, image, link };
 
-/// What assistive technology meets, in reading order. `action` is empty when it only reads.
+/// An element for assistive technology. `action` is empty when the element is only read out.
 struct AccessibilityElement {
   layout::Rect frame;
   Role role = Role::staticText;
   std::string label;
   std::string hint;
-  std::function<void()> action;
+  foundation::Action action;
 };
 
-/// A laid-out view: all that a surface needs to paint it, to read taps from it and to tell
-/// assistive technology about it. Frames are in points from the top left, already mirrored for
-/// right-to-left and on whole device pixels at the scale it was made for. Items are in paint order.
+/// The display list of a laid-out view: everything that a surface needs to paint it, to handle taps
+/// and to serve assistive technology. Frames are in points from the top left, already mirrored for
+/// right-to-left and on whole device pixels at the scale it was made for. Items are in paint order,
+/// accessibility elements in reading order.
 struct QUORIX_EXPORT Scene {
   layout::Size size;
   graphics::Appearance appearance = graphics::Appearance::light;
@@ -87,12 +87,10 @@ struct QUORIX_EXPORT Scene {
   std::vector<HitArea> hitAreas;
   std::vector<AccessibilityElement> accessibility;
 
-  /// The top-most area under `point`, or null; where an embed's content takes it, null too.
+  /// The top-most area under `point`, or null; null too where an embed's content takes the tap.
   const HitArea* hitTest(layout::Point point) const;
-  /// The embed whose content takes what happens at `point`, or null.
-  const EmbedItem* embedAt(layout::Point point) const;
   /// Appends `other`, moved by `offset`.
-  void append(const Scene& other, layout::Point offset);
+  void append(Scene other, layout::Point offset);
 };
 
 }  // namespace quorix::render

@@ -14,14 +14,14 @@ std::string_view nameOf(Role role) {
   return names[static_cast<int>(role)];
 }
 
-/// Writes one thing after the other as lines of words.
+/// Writes each part as a line of words.
 class WordWriter {
  public:
   void begin(std::string_view kind, const Rect& frame) {
     if (!text_.empty()) text_ += '\n';
     text_ += kind;
     for (const double length : {frame.left(), frame.top(), frame.size.width, frame.size.height}) {
-      text_ += ' ' + number(length);
+      text_ += ' ' + points(length);
     }
   }
   void main(std::string_view, std::string_view text) { text_ += ' ' + quoted(text); }
@@ -31,7 +31,7 @@ class WordWriter {
   void value(std::string_view, const std::string& word) {
     if (!word.empty()) text_ += ' ' + word;
   }
-  void value(std::string_view, double value) { text_ += ' ' + number(value); }
+  void value(std::string_view, double value) { text_ += ' ' + points(value); }
   void flag(std::string_view name, bool on) {
     if (on) text_ += ' ' + std::string(name);
   }
@@ -44,19 +44,19 @@ class WordWriter {
   std::string text_;
 };
 
-/// Writes one thing after the other as JSON objects.
+/// Writes each part as a JSON object.
 class ObjectWriter {
  public:
   void begin(std::string_view kind, const Rect& frame) {
     text_ += text_.empty() ? "{" : "},\n {";
-    text_ += "\"kind\": " + quoted(kind) + ", \"frame\": {\"x\": " + number(frame.left()) +
-             ", \"y\": " + number(frame.top()) + ", \"width\": " + number(frame.size.width) +
-             ", \"height\": " + number(frame.size.height) + "}";
+    text_ += "\"kind\": " + quoted(kind) + ", \"frame\": {\"x\": " + points(frame.left()) +
+             ", \"y\": " + points(frame.top()) + ", \"width\": " + points(frame.size.width) +
+             ", \"height\": " + points(frame.size.height) + "}";
   }
   void main(std::string_view name, std::string_view text) { member(name, quoted(text)); }
   void text(std::string_view name, std::string_view text) { member(name, quoted(text)); }
   void value(std::string_view name, const std::string& word) { member(name, quoted(word)); }
-  void value(std::string_view name, double value) { member(name, number(value)); }
+  void value(std::string_view name, double value) { member(name, points(value)); }
   void flag(std::string_view name, bool on) { member(name, on ? "true" : "false"); }
   void beginRuns() { text_ += ", \"runs\": ["; }
   void beginRun(std::string_view words) {
@@ -171,8 +171,8 @@ std::string printAccessibility(const Scene& scene) {
 }
 
 std::string framesToJSON(const Scene& scene) {
-  return "{\"size\": {\"width\": " + number(scene.size.width) +
-         ", \"height\": " + number(scene.size.height) + "},\n\"items\":\n" +
+  return "{\"size\": {\"width\": " + points(scene.size.width) +
+         ", \"height\": " + points(scene.size.height) + "},\n\"items\":\n" +
          written<ObjectWriter>(scene.items) + ",\n\"hitAreas\":\n" +
          written<ObjectWriter>(scene.hitAreas) + "}\n";
 }

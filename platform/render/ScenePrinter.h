@@ -7,11 +7,11 @@
 
 namespace quorix::render {
 
-// A scene in words, for tools, tests and whoever asks why something stands where it does. Lengths
-// are points, written to three decimals at most. Any thread.
+// Prints a display list, for tools, tests and debugging. Lengths are points, rounded to three
+// decimals. Any thread.
 
-/// The painted items in paint order, then the hit areas, later ones on top. A line each: what it
-/// is, its frame as x, y, width and height, and what it shows.
+/// The painted items in paint order, then the hit areas, later ones on top. One line each: the
+/// kind, the frame as x, y, width and height, and the content.
 ///
 ///     text 0 4 105 18 "YOUR RETURN FEE" Saans-Regular 14 #1A1A1CFF underline
 ///     text 0 22 70 18 "Top 20%" run "Top " Saans-Regular 14 #1A1A1CFF run "20%" Saans-Medium ...
@@ -20,7 +20,7 @@ namespace quorix::render {
 ///     hit 0 0 343 24
 QUORIX_EXPORT std::string printFrames(const Scene& scene);
 
-/// What assistive technology meets, in reading order, a line each.
+/// The elements for assistive technology in reading order, one line each.
 ///
 ///     button 0 0 343 24 "Your return fee €4.00" hint "Tap to learn more" acts
 QUORIX_EXPORT std::string printAccessibility(const Scene& scene);

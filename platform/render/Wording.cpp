@@ -5,13 +5,19 @@
 #include <cmath>
 #include <cstdio>
 
+#include "platform/layout/Geometry.h"
+
 namespace quorix::render {
 
 std::string number(double value) {
-  const double shown = std::round(value * 1000) / 1000 + 0.0;  // no "-0"
+  if (value == layout::infinity) return "infinity";
   std::array<char, 32> digits;
-  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), shown).ptr;
+  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
   return {digits.data(), end};
+}
+
+std::string points(double length) {
+  return number(std::round(length * 1000) / 1000 + 0.0);  // no "-0"
 }
 
 std::string quoted(std::string_view text) {

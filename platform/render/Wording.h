@@ -7,11 +7,13 @@
 
 namespace quorix::render {
 
-// How printed scenes and views word the values in them. Any thread.
+// Writes values for printed trees, views and display lists. Any thread.
 
-/// To three decimals at most.
+/// The shortest text that reads back as `value`, or "infinity".
 std::string number(double value);
-/// A JSON text; as good for reading.
+/// A length, rounded to three decimals.
+std::string points(double length);
+/// A JSON string, control characters escaped.
 std::string quoted(std::string_view text);
 /// "#1A1A1CFF".
 std::string hex(graphics::RGBA color);

@@ -2,14 +2,35 @@
 
 #include <array>
 #include <cstdio>
+#include <mutex>
 #include <utility>
 
 #include "platform/graphics/AssetCatalog.h"
 
 namespace quorix::swiftui {
 
+/// The colour set of a name, read once. Without a bundle of its own it follows the host's main
+/// bundle.
+struct Color::Asset {
+  Asset(std::string_view colorName, foundation::Bundle::Ref from)
+      : name(colorName), bundle(std::move(from)) {}
+
+  std::optional<graphics::ColorSet> set() const {
+    if (!bundle) return graphics::colorSet(bundle, name);
+    std::call_once(once, [this] { known = graphics::colorSet(bundle, name); });
+    return known;
+  }
+
+  const std::string name;
+  const foundation::Bundle::Ref bundle;
+  mutable std::once_flag once;
+  mutable std::optional<graphics::ColorSet> known;
+};
+
 Color::Color(std::string_view name, foundation::Bundle::Ref bundle)
-    : value_(Asset{std::string(name), std::move(bundle)}) {}
+    : asset_(std::make_shared<const Asset>(name, std::move(bundle))) {}
+
+Color::Color(const ColorResource& resource) : Color(resource.name, resource.bundle) {}
 
 const Color& Color::black() {
   static const Color color = fixed({0, 0, 0});
@@ -22,20 +43,24 @@ const Color& Color::white() {
 }
 
 std::optional<graphics::RGBA> Color::resolve(graphics::Appearance appearance) const {
-  if (const auto* value = std::get_if<graphics::RGBA>(&value_)) return *value;
-  const Asset& asset = std::get<Asset>(value_);
-  const auto set = graphics::colorSet(asset.bundle, asset.name);
+  if (!asset_) return value_;
+  const auto set = asset_->set();
   if (!set) return std::nullopt;
   return set->resolve(appearance);
 }
 
 std::string Color::description() const {
-  const auto* value = std::get_if<graphics::RGBA>(&value_);
-  if (value == nullptr) return std::get<Asset>(value_).name;
+  if (asset_) return asset_->name;
   std::array<char, 10> text;
-  std::snprintf(text.data(), text.size(), "#%02X%02X%02X%02X", value->red, value->green,
-                value->blue, value->alpha);
+  std::snprintf(text.data(), text.size(), "#%02X%02X%02X%02X", value_.red, value_.green,
+                value_.blue, value_.alpha);
   return text.data();
+}
+
+bool Color::operator==(const Color& other) const {
+  if (!asset_ || !other.asset_) return !asset_ && !other.asset_ && value_ == other.value_;
+  return asset_ == other.asset_ ||
+         (asset_->name == other.asset_->name && asset_->bundle == other.asset_->bundle);
 }
 
 }  // namespace quorix::swiftui

@@ -1,10 +1,9 @@
 #pragma once
 
-#include <cstddef>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <variant>
 
 #include "platform/foundation/Bundle.h"
 #include "platform/foundation/Export.h"
@@ -17,11 +16,11 @@ namespace quorix::swiftui {
 /// A cheap value; any thread.
 class QUORIX_EXPORT Color {
  public:
-  /// The colour set `name` in `bundle` (null: the host's main bundle). Looked up when drawn.
+  /// The colour set `name` in `bundle` (null: the host's main bundle). Looked up when first drawn.
   Color(std::string_view name, foundation::Bundle::Ref bundle);
   /// The colour set that `resource` names.
-  Color(const ColorResource& resource) : Color(resource.name, resource.bundle) {}
-  static Color fixed(graphics::RGBA value) { return Color(value, nullptr); }
+  Color(const ColorResource& resource);
+  static Color fixed(graphics::RGBA value) { return Color(value); }
   static const Color& black();
   static const Color& white();
 
@@ -31,16 +30,15 @@ class QUORIX_EXPORT Color {
   /// How a printed view tree names it: the asset's name, or "#RRGGBBAA".
   std::string description() const;
 
-  bool operator==(const Color&) const = default;
+  bool operator==(const Color& other) const;
 
  private:
-  struct Asset {
-    std::string name;
-    foundation::Bundle::Ref bundle;
-    bool operator==(const Asset&) const = default;
-  };
-  Color(graphics::RGBA value, std::nullptr_t) : value_(value) {}
-  std::variant<graphics::RGBA, Asset> value_;
+  struct Asset;
+
+  explicit Color(graphics::RGBA value) : value_(value) {}
+
+  std::shared_ptr<const Asset> asset_;  // null for a fixed colour
+  graphics::RGBA value_;
 };
 
 }  // namespace quorix::swiftui

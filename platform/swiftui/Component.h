@@ -1,32 +1,31 @@
 #pragma once
 
-#include <any>
 #include <functional>
 #include <memory>
 #include <string_view>
 #include <tuple>
+#include <typeinfo>
 #include <utility>
-#include <vector>
 
 #include "platform/combine/ObservableObject.h"
 #include "platform/foundation/Export.h"
+#include "platform/swiftui/Node.h"
+#include "platform/swiftui/StateStore.h"
 #include "platform/swiftui/View.h"
 
 namespace quorix::swiftui {
 
-/// The storage of one component's states, kept by the graph under the component's place in the
-/// tree.
-struct StateSlots {
-  std::vector<std::any> boxes;
-  std::function<void()> onChange;
-};
-
-/// A view or modifier of the library's own, behind the node that holds it.
-class QUORIX_EXPORT Component {
+/// The node of a view or modifier with a body.
+class QUORIX_EXPORT Component : public Node {
  public:
-  virtual ~Component() = default;
+  void print(TreePrinter& to, int depth) const final;
+  void evaluate(Evaluator& in, const Look& look, layout::Axis axis, ElementList& out) const final;
+
+ protected:
   virtual std::string_view name() const = 0;
   virtual bool isModifier() const = 0;
+  /// The step into the body, one for each type.
+  virtual char32_t step() const = 0;
   /// The body, with the states bound to `states`, which the first call fills.
   virtual View body(StateSlots& states) const = 0;
   /// Visits the objects whose changes re-evaluate the body.
@@ -36,14 +35,13 @@ class QUORIX_EXPORT Component {
 
 namespace detail {
 
+/// Hands `state` its storage, which the first call makes. Returns where the next one's is.
 template <class T>
-void bind(const State<T>& state, std::size_t index, StateSlots& states) {
-  using Box = std::shared_ptr<StateBox<T>>;
-  if (index == states.boxes.size()) {
-    auto box = std::make_shared<StateBox<T>>(StateBox<T>{state.get(), states.onChange});
-    states.boxes.emplace_back(std::move(box));
-  }
-  state.adopt(std::any_cast<const Box&>(states.boxes[index]));
+std::shared_ptr<Kept>& bindState(const State<T>& state, std::shared_ptr<Kept>& slot,
+                                 const foundation::Action& onChange) {
+  if (!slot) slot = std::make_shared<StateBox<T>>(state.get(), onChange);
+  state.adopt(std::static_pointer_cast<StateBox<T>>(slot));
+  return slot->next;
 }
 
 template <class V>
@@ -51,71 +49,70 @@ void bindStates(const V& value, StateSlots& states) {
   if constexpr (requires { value.states(); }) {
     std::apply(
         [&](const auto&... state) {
-          std::size_t index = 0;
-          (bind(state, index++, states), ...);
+          std::shared_ptr<Kept>* slot = &states.first;
+          ((slot = &bindState(state, *slot, states.onChange)), ...);
         },
         value.states());
   }
 }
 
+/// What views and modifiers with a body have in common.
 template <class V>
-void visitObserved(const V& value, const std::function<void(combine::ObservableObject&)>& visit) {
-  if constexpr (requires { value.observed(); }) {
-    std::apply([&](const auto&... object) { (visit(*object), ...); }, value.observed());
-  }
-}
-
-template <class V>
-class ViewComponent final : public Component {
+class ComponentOf : public Component {
  public:
-  explicit ViewComponent(V value) : value_(std::move(value)) {}
-  std::string_view name() const override { return V::typeName; }
-  bool isModifier() const override { return false; }
-  View body(StateSlots& states) const override {
-    const V bound = value_;
-    bindStates(bound, states);
-    return bound.body();
+  explicit ComponentOf(V value) : value_(std::move(value)) {}
+
+  std::string_view name() const final { return V::typeName; }
+  char32_t step() const final {
+    static const char32_t own = steps::into(typeid(V));
+    return own;
   }
-  void visitObserved(const std::function<void(combine::ObservableObject&)>& visit) const override {
-    detail::visitObserved(value_, visit);
+  void visitObserved(const std::function<void(combine::ObservableObject&)>& visit) const final {
+    if constexpr (requires { value_.observed(); }) {
+      std::apply([&](const auto&... object) { (visit(*object), ...); }, value_.observed());
+    }
+  }
+
+ protected:
+  /// The value with its states bound to `states`.
+  V bound(StateSlots& states) const {
+    V copy = value_;
+    bindStates(copy, states);
+    return copy;
   }
 
  private:
   V value_;
 };
 
+template <class V>
+class ViewComponent final : public ComponentOf<V> {
+ public:
+  using ComponentOf<V>::ComponentOf;
+  bool isModifier() const override { return false; }
+  View body(StateSlots& states) const override { return this->bound(states).body(); }
+};
+
 template <class M>
-class ModifierComponent final : public Component {
+class ModifierComponent final : public ComponentOf<M> {
  public:
   ModifierComponent(M value, View content)
-      : value_(std::move(value)), content_(std::move(content)) {}
-  std::string_view name() const override { return M::typeName; }
+      : ComponentOf<M>(std::move(value)), content_(std::move(content)) {}
   bool isModifier() const override { return true; }
-  View body(StateSlots& states) const override {
-    const M bound = value_;
-    bindStates(bound, states);
-    return bound.body(content_);
-  }
-  void visitObserved(const std::function<void(combine::ObservableObject&)>& visit) const override {
-    detail::visitObserved(value_, visit);
-  }
+  View body(StateSlots& states) const override { return this->bound(states).body(content_); }
 
  private:
-  M value_;
   View content_;
 };
 
 }  // namespace detail
 
 template <HasBody V>
-View::View(V component)
-    : View(std::shared_ptr<const Component>(
-          std::make_shared<detail::ViewComponent<V>>(std::move(component)))) {}
+View::View(V component) : View(makeView<detail::ViewComponent<V>>(std::move(component))) {}
 
 template <ViewModifier M>
 View View::modifier(M modifier) const {
-  return View(std::shared_ptr<const Component>(
-      std::make_shared<detail::ModifierComponent<M>>(std::move(modifier), *this)));
+  return makeView<detail::ModifierComponent<M>>(std::move(modifier), *this);
 }
 
 }  // namespace quorix::swiftui

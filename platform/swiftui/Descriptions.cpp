@@ -1,11 +1,9 @@
 #include "platform/swiftui/Descriptions.h"
 
-#include <charconv>
-
 namespace quorix::swiftui {
 namespace {
 
-std::string_view nameOf(TextStyle style) {
+std::string_view textStyleName(TextStyle style) {
   constexpr std::string_view names[] = {"largeTitle", "title",   "title2",  "title3",
                                         "headline",   "body",    "callout", "subheadline",
                                         "footnote",   "caption", "caption2"};
@@ -13,22 +11,6 @@ std::string_view nameOf(TextStyle style) {
 }
 
 }  // namespace
-
-std::string number(double value) {
-  if (value == layout::infinity) return "infinity";
-  char digits[32];
-  const auto end = std::to_chars(digits, digits + sizeof digits, value).ptr;
-  return {digits, end};
-}
-
-std::string quoted(std::string_view text) {
-  std::string result = "\"";
-  for (const char c : text) {
-    if (c == '"' || c == '\\') result += '\\';
-    result += c;
-  }
-  return result + '"';
-}
 
 std::string_view nameOf(layout::HorizontalAlignment alignment) {
   constexpr std::string_view names[] = {"leading", "center", "trailing"};
@@ -55,7 +37,7 @@ std::string describe(const Font& font) {
   const std::string name = quoted(font.name());
   if (!font.scales()) return name + ", fixedSize: " + number(font.size());
   return name + ", size: " + number(font.size()) +
-         ", relativeTo: " + std::string(nameOf(font.textStyle()));
+         ", relativeTo: " + std::string(textStyleName(font.textStyle()));
 }
 
 std::string describe(const Text& text) {

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "platform/layout/Geometry.h"
+#include "platform/render/Wording.h"
 #include "platform/swiftui/Font.h"
 #include "platform/swiftui/PresentationDetent.h"
 #include "platform/swiftui/Text.h"
@@ -12,8 +13,8 @@ namespace quorix::swiftui {
 
 // How a printed tree words the values in it.
 
-std::string number(double value);
-std::string quoted(std::string_view text);
+using render::number;
+using render::quoted;
 std::string_view nameOf(layout::HorizontalAlignment alignment);
 std::string_view nameOf(layout::VerticalAlignment alignment);
 std::string nameOf(layout::Alignment alignment);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <initializer_list>
 #include <optional>
@@ -13,12 +14,24 @@
 
 namespace quorix::swiftui {
 
+/// Views in order, for as long as the call that takes them.
+class Views {
+ public:
+  Views(std::initializer_list<View> views) : count_(views.size()) { first_ = views.begin(); }
+  Views(const std::vector<View>& views) : first_(views.data()), count_(views.size()) {}
+
+  const View* begin() const { return first_; }
+  const View* end() const { return first_ + count_; }
+
+ private:
+  const View* first_;
+  std::size_t count_;
+};
+
 // The elements that views are made of. A missing spacing is the platform's default.
 
-View HStack(layout::VerticalAlignment alignment, std::optional<double> spacing,
-            std::vector<View> children);
-View VStack(layout::HorizontalAlignment alignment, std::optional<double> spacing,
-            std::vector<View> children);
+View HStack(layout::VerticalAlignment alignment, std::optional<double> spacing, Views children);
+View VStack(layout::HorizontalAlignment alignment, std::optional<double> spacing, Views children);
 
 /// Takes what is left along its stack's axis; a missing minimum is the default spacing.
 View Spacer(std::optional<double> minLength = std::nullopt);
@@ -31,13 +44,13 @@ View Image(std::string_view name, foundation::Bundle::Ref bundle);
 
 /// Does `action` when it is tapped. To assistive technology it is one element, called what its
 /// label says; a label that is only an image is called by the image's name.
-View Button(std::function<void()> action, View label);
+View Button(foundation::Action action, View label);
 
 /// The image of that asset.
 View Image(const ImageResource& resource);
 
 /// Several views where one is expected: the enclosing stack takes them as its own children.
-View Group(std::vector<View> children);
+View Group(Views children);
 
 /// The branch that `condition` chose of two; a switch to the other starts that one's state afresh.
 View Conditional(bool condition, View chosen);

@@ -14,7 +14,7 @@ struct Environment {
   layout::LayoutDirection direction = layout::LayoutDirection::leftToRight;
   ContentSizeCategory textSize = ContentSizeCategory::large;
   double scale = 1;      ///< device pixels for each point
-  std::string language;  ///< the user's own language code, for its rules of upper case
+  std::string language;  ///< the user's own, a code; for upper case and the host's texts
   bool operator==(const Environment&) const = default;
 };
 

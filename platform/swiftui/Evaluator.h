@@ -1,48 +1,76 @@
 #pragma once
 
-#include <vector>
+#include <memory>
+#include <span>
+#include <utility>
 
+#include "platform/foundation/Arena.h"
+#include "platform/swiftui/Environment.h"
 #include "platform/swiftui/Evaluation.h"
 #include "platform/swiftui/Look.h"
+#include "platform/swiftui/Node.h"
+#include "platform/swiftui/Stack.h"
+#include "platform/swiftui/StateStore.h"
+#include "platform/swiftui/TreePath.h"
 
 namespace quorix::swiftui {
 
-/// One evaluation of a view tree: goes down through its nodes and bodies and collects what they
-/// stand for. Main thread.
+/// One evaluation of a view tree: goes down through its nodes and bodies and collects the elements
+/// that they stand for, and what they ask of their host. Main thread.
 class Evaluator {
  public:
-  Evaluator(const Environment& environment, StateStore& store)
-      : environment_(environment), store_(store) {}
+  Evaluator(const Environment& settings, StateStore& store, Evaluation& result)
+      : environment(settings), store_(store), result_(result), path_(result.arena().resource()) {}
 
-  Evaluation run(const View& root);
+  void run(const View& root);
 
- private:
-  using Axis = layout::Axis;
-  using Element = layout::Element;
-  using Elements = std::vector<Element>;
-  struct Modifying;
+  const Environment& environment;
+  Evaluation& result() { return result_; }
+  const TreePath& path() const { return path_; }
 
-  /// Everything that `view` stands for, as children of a stack along `axis`.
-  void collect(const View& view, const Look& look, Axis axis, Elements& out);
-  void collect(const nodes::Empty&, const View&, const Look&, Axis, Elements&) {}
-  void collect(const nodes::Text& node, const View&, const Look& look, Axis, Elements& out);
-  void collect(const nodes::Image& node, const View&, const Look& look, Axis, Elements& out);
-  void collect(const nodes::Represented& node, const View&, const Look&, Axis, Elements& out);
-  void collect(const nodes::Spacer& node, const View&, const Look&, Axis axis, Elements& out);
-  void collect(const nodes::Divider&, const View&, const Look&, Axis axis, Elements& out);
-  void collect(const nodes::Stack& node, const View&, const Look& look, Axis, Elements& out);
-  void collect(const nodes::Group& node, const View&, const Look& look, Axis axis, Elements& out);
-  void collect(const nodes::Conditional& node, const View&, const Look& look, Axis axis,
-               Elements& out);
-  void collect(const nodes::Lazy& node, const View&, const Look& look, Axis axis, Elements& out);
-  void collect(const nodes::Custom& node, const View&, const Look& look, Axis axis, Elements& out);
-  void collect(const nodes::Modified& node, const View& view, const Look& look, Axis axis,
-               Elements& out);
-  void collectChildren(const std::vector<View>& children, const Look& look, Axis axis,
-                       Elements& out);
+  /// An object of this evaluation.
+  template <class T, class... Arguments>
+  T* make(Arguments&&... arguments) {
+    return result_.arena().make<T>(std::forward<Arguments>(arguments)...);
+  }
+
+  /// Appends everything that `view` stands for. The view outlives the evaluation's elements.
+  void collect(const View& view, const Look& look, layout::Axis axis, ElementList& out) {
+    view.node()->evaluate(*this, look, axis, out);
+  }
+  /// The same for a view that was made by this evaluation, which keeps it.
+  void collectMade(View view, const Look& look, layout::Axis axis, ElementList& out) {
+    collect(*make<View>(std::move(view)), look, axis, out);
+  }
+
+  /// Collects `content` and appends to `out` what `wrap` makes of each of its elements.
+  template <class Wrap>
+  void wrapEach(const View& content, const Look& look, layout::Axis axis, ElementList& out,
+                Wrap wrap) {
+    ElementList inner;
+    collect(content, look, axis, inner);
+    for (Element* element = inner.first; element;) {
+      Element* wrapped = std::exchange(element, element->next);
+      wrapped->next = nullptr;
+      out.append(wrap(*wrapped));
+    }
+  }
+
+  /// Makes `child` the last of the element's children.
+  static void adopt(Element& parent, Element* child) {
+    parent.children.append(child);
+    parent.holdsText = parent.holdsText || child->holdsText;
+  }
+
+  /// Appends everything that `children` stand for, each in a place of its own.
+  void collectAll(std::span<const View> children, const Look& look, layout::Axis axis,
+                  ElementList& out);
+
+  /// A stack of `children`.
+  Element* stacked(const Stack& rules, ElementList children);
 
   /// The one element that `view` stands for; several are stacked.
-  Element single(const View& view, const Look& look, Axis axis);
+  Element* single(const View& view, const Look& look, layout::Axis axis);
 
   /// Goes on one step further in the tree.
   template <class Go>
@@ -52,9 +80,12 @@ class Evaluator {
     path_.pop_back();
   }
 
-  const Environment& environment_;
+  /// What is kept for the present place from one evaluation to the next.
+  StateSlots& states() { return store_.states(path_); }
+
+ private:
   StateStore& store_;
-  Evaluation result_;
+  Evaluation& result_;
   TreePath path_;
 };
 

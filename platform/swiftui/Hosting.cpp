@@ -10,11 +10,11 @@ namespace {
 template <class Content, class Object>
 View showing(std::string_view name, const std::shared_ptr<Object>& object) {
   if (!object) return {};
-  return makeView(nodes::Represented{name, [object] { return std::make_shared<Content>(object); },
-                                     [object](render::HostedContent& hosted) {
-                                       auto& content = static_cast<Content&>(hosted);
-                                       content.updateQuietly([&] { content.show(object); });
-                                     }});
+  return represented({name, [object] { return std::make_shared<Content>(object); },
+                      [object](render::HostedContent& hosted) {
+                        auto& content = static_cast<Content&>(hosted);
+                        content.updateQuietly([&] { content.show(object); });
+                      }});
 }
 
 }  // namespace

@@ -6,7 +6,8 @@
 #include <utility>
 #include <variant>
 
-#include "platform/foundation/TextCasing.h"
+#include "platform/foundation/UnicodeText.h"
+#include "platform/text/TextBound.h"
 
 namespace quorix::swiftui {
 namespace {
@@ -22,29 +23,33 @@ text::ResolvedFont resolvedFont(const Look& look, const Environment& environment
 
 std::string cased(std::string words, std::optional<TextCase> textCase,
                   const std::string& language) {
-  if (!textCase) return words;
-  return textCase == TextCase::uppercase ? foundation::uppercased(words, language)
-                                         : foundation::lowercased(words, language);
+  return textCase ? foundation::uppercased(words, language) : std::move(words);
 }
 
 /// Appends the runs of `text` inside `look`. A text's own looks go on from the last one written to
 /// the first, which so comes to lie on top.
 void appendRuns(const Text& text, Look look, const Environment& environment,
                 std::vector<text::Run>& runs) {
-  for (auto own = text.modifiers().rbegin(); own != text.modifiers().rend(); ++own) {
-    std::visit([&](const auto& modifier) { look.apply(modifier); }, *own);
+  for (auto own = text.looks().rbegin(); own != text.looks().rend(); ++own) {
+    std::visit([&](const auto& modifier) { modifier.apply(look); }, *own);
   }
   for (const Text& part : text.parts()) appendRuns(part, look, environment, runs);
   if (!text.parts().empty()) return;
-  runs.push_back({cased(text.resolved(), look.textCase, environment.language),
+  // Before it is cased, which for an endless text would take as long as shaping.
+  runs.push_back({cased(text::bounded(text.resolved(environment.language)), look.textCase,
+                        environment.language),
                   resolvedFont(look, environment), look.drawnColor(environment), look.underline,
                   look.strikethrough});
 }
 
 }  // namespace
 
+graphics::RGBA drawnColor(const Color& color, const Environment& environment) {
+  return color.resolve(environment.appearance).value_or(clear);
+}
+
 graphics::RGBA Look::drawnColor(const Environment& environment) const {
-  if (color) return color->resolve(environment.appearance).value_or(clear);
+  if (color) return swiftui::drawnColor(*color, environment);
   const bool dark = environment.appearance == graphics::Appearance::dark;
   return dark ? graphics::RGBA{255, 255, 255, 255} : graphics::RGBA{0, 0, 0, 255};
 }
@@ -60,6 +65,7 @@ text::AttributedText Look::attributed(const Text& text, const Environment& envir
   } else {
     result.runs.resize(1);
   }
+  text::bound(result, inRow ? text::mostInRow : text::mostOfText);
   return result;
 }
 

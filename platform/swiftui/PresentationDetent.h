@@ -1,8 +1,10 @@
 #pragma once
 
-#include <compare>
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <initializer_list>
 #include <optional>
-#include <set>
 
 namespace quorix::swiftui {
 
@@ -18,10 +20,44 @@ class PresentationDetent {
   auto operator<=>(const PresentationDetent&) const = default;
 
  private:
+  friend class PresentationDetents;
   explicit PresentationDetent(std::optional<double> points) : points_(points) {}
+
   std::optional<double> points_;
 };
 
-using PresentationDetents = std::set<PresentationDetent>;
+/// A set of detents, medium first, then heights from the lowest. A sheet rests at its lowest
+/// detent, so the lowest four are kept.
+class PresentationDetents {
+ public:
+  PresentationDetents() = default;
+  PresentationDetents(std::initializer_list<PresentationDetent> detents) {
+    for (const PresentationDetent& detent : detents) insert(detent);
+  }
+
+  const PresentationDetent* begin() const { return detents_.data(); }
+  const PresentationDetent* end() const { return detents_.data() + count_; }
+  bool empty() const { return count_ == 0; }
+
+  bool operator==(const PresentationDetents& other) const {
+    return std::equal(begin(), end(), other.begin(), other.end());
+  }
+
+ private:
+  void insert(const PresentationDetent& detent) {
+    auto* const data = detents_.data();
+    auto* const place = std::lower_bound(data, data + count_, detent);
+    if (place == data + kMost || (place != data + count_ && *place == detent)) return;
+    count_ = std::min(count_ + 1, kMost);
+    std::copy_backward(place, data + count_ - 1, data + count_);
+    *place = detent;
+  }
+
+  static constexpr std::size_t kMost = 4;
+  std::array<PresentationDetent, kMost> detents_{
+      PresentationDetent::medium(), PresentationDetent::medium(), PresentationDetent::medium(),
+      PresentationDetent::medium()};
+  std::size_t count_ = 0;
+};
 
 }  // namespace quorix::swiftui

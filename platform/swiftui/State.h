@@ -1,33 +1,42 @@
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <utility>
 
+#include "platform/foundation/Action.h"
+
 namespace quorix::swiftui {
+
+/// Something that a graph keeps for a place in its tree, and what it keeps there besides.
+struct Kept {
+  virtual ~Kept() = default;
+  std::shared_ptr<Kept> next;
+};
 
 /// The storage behind a `State`: outlives the view values that read it.
 template <class T>
-struct StateBox {
-  T value;
-  std::function<void()> onChange;  ///< re-evaluates the owner
+struct StateBox final : Kept {
+  StateBox() = default;
+  explicit StateBox(T initial, foundation::Action changed = {})
+      : value(std::move(initial)), onChange(std::move(changed)) {}
+
+  T value{};
+  foundation::Action onChange;  ///< re-evaluates the owner
 };
 
-/// Reads and writes a value that somebody else stores. Cheap to copy; main thread.
+/// Reads and writes a value that is stored elsewhere. Cheap to copy; main thread.
 template <class T>
 class Binding {
  public:
   explicit Binding(std::shared_ptr<StateBox<T>> box) : box_(std::move(box)) {}
 
   const T& get() const { return box_->value; }
-
   /// Stores `value`; when it differs, the owner's body is evaluated again on a later turn.
   void set(T value) const {
     if (box_->value == value) return;
     box_->value = std::move(value);
     if (box_->onChange) box_->onChange();
   }
-
   void toggle() const { set(!get()); }
 
  private:
@@ -45,17 +54,19 @@ class Binding {
 template <class T>
 class State {
  public:
-  explicit State(T initial)
-      : box_(std::make_shared<StateBox<T>>(StateBox<T>{std::move(initial), {}})) {}
+  explicit State(T initial) : initial_(std::move(initial)) {}
 
-  const T& get() const { return box_->value; }
-  Binding<T> binding() const { return Binding<T>(box_); }
+  const T& get() const { return box_ ? box_->value : initial_; }
+  Binding<T> binding() const {
+    if (!box_) box_ = std::make_shared<StateBox<T>>(initial_);
+    return Binding<T>(box_);
+  }
 
-  const std::shared_ptr<StateBox<T>>& box() const { return box_; }
   /// For the graph: reads and writes `box` from now on.
   void adopt(std::shared_ptr<StateBox<T>> box) const { box_ = std::move(box); }
 
  private:
+  T initial_;
   mutable std::shared_ptr<StateBox<T>> box_;
 };
 

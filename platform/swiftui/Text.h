@@ -6,12 +6,13 @@
 #include <vector>
 
 #include "platform/foundation/Export.h"
-#include "platform/swiftui/TextModifiers.h"
+#include "platform/swiftui/TextLook.h"
 
 namespace quorix::swiftui {
 
-/// A text element: shown as it is, or a key that is looked up in the host application's main string
-/// table and formatted with its arguments. A key with no entry is its own format.
+/// A text element: shown as it is, or a key that is looked up in the "Localizable" string table of
+/// the host's main bundle (`Bundle::setMain`), in the user's language, and formatted with its
+/// arguments. A key with no entry is its own format.
 ///
 ///     Text::localized("%@ %@", {title, fee})  // reads "Your return fee €4.00"
 ///
@@ -36,8 +37,8 @@ class QUORIX_EXPORT Text {
   /// One paragraph that reads `first` and then `second`.
   friend Text operator+(Text first, Text second);
 
-  /// What the user reads.
-  std::string resolved() const;
+  /// What a user who reads `language` reads.
+  std::string resolved(std::string_view language = {}) const;
 
   /// What it was added up from; empty for a text of one part, which alone has what follows.
   const std::vector<Text>& parts() const { return parts_; }
@@ -46,18 +47,18 @@ class QUORIX_EXPORT Text {
   bool isLocalized() const { return localized_; }
 
   /// Its own looks as they were written.
-  const std::vector<TextModifier>& modifiers() const { return modifiers_; }
+  const std::vector<TextLook>& looks() const { return looks_; }
 
  private:
   Text(std::string text, std::vector<std::string> arguments, bool localized)
       : text_(std::move(text)), arguments_(std::move(arguments)), localized_(localized) {}
-  Text with(TextModifier modifier) const;
+  Text with(TextLook look) const;
 
   std::string text_;
   std::vector<std::string> arguments_;
   bool localized_ = false;
   std::vector<Text> parts_;
-  std::vector<TextModifier> modifiers_;
+  std::vector<TextLook> looks_;
 };
 
 }  // namespace quorix::swiftui

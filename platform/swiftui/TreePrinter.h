@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "platform/foundation/Export.h"
 #include "platform/swiftui/View.h"
@@ -16,5 +17,15 @@ namespace quorix::swiftui {
 /// Bodies are evaluated with their states' initial values. What a sheet shows stands below the
 /// modifier that presents it.
 QUORIX_EXPORT std::string printTree(const View& view);
+
+/// Where nodes print themselves.
+class TreePrinter {
+ public:
+  void print(const View& view, int depth);
+  /// A line that is indented by two for each of `depth`.
+  void line(int depth, std::string_view content);
+
+  std::string text;
+};
 
 }  // namespace quorix::swiftui

@@ -5,8 +5,9 @@
 #include <string_view>
 
 #include "platform/foundation/Export.h"
-#include "platform/swiftui/Node.h"
-#include "platform/uikit/UIViewControllerContent.h"
+#include "platform/swiftui/Represented.h"
+#include "platform/uikit/UIViewContent.h"
+#include "platform/uikit/UIViewController.h"
 
 namespace quorix::swiftui {
 
@@ -31,16 +32,16 @@ concept UIViewControllerRepresentable = requires(const R& value) {
 template <UIViewControllerRepresentable R>
 View represent(R value) {
   using Made = typename decltype(value.makeUIViewController())::element_type;
-  return makeView(nodes::Represented{
-      R::typeName,
-      [value] {
-        return std::make_shared<uikit::UIViewControllerContent>(value.makeUIViewController());
-      },
-      [value](render::HostedContent& hosted) {
-        auto& content = static_cast<uikit::UIViewControllerContent&>(hosted);
-        content.updateQuietly(
-            [&] { value.updateUIViewController(static_cast<Made&>(*content.controller())); });
-      }});
+  return represented(
+      {R::typeName,
+       [value] {
+         return std::make_shared<uikit::UIViewControllerContent>(value.makeUIViewController());
+       },
+       [value](render::HostedContent& hosted) {
+         auto& content = static_cast<uikit::UIViewControllerContent&>(hosted);
+         content.updateQuietly(
+             [&] { value.updateUIViewController(static_cast<Made&>(*content.controller())); });
+       }});
 }
 
 /// Shows `controller` itself. In one place at a time.

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "platform/foundation/Export.h"
-#include "platform/swiftui/Node.h"
+#include "platform/swiftui/Represented.h"
 #include "platform/uikit/UIViewContent.h"
 
 namespace quorix::swiftui {
@@ -28,18 +28,18 @@ concept UIViewRepresentable = requires(const R& value) {
 /// tree.
 template <UIViewRepresentable R>
 View represent(R value) {
-  nodes::Represented node{
+  Represented content{
       R::typeName,
       [value] { return std::make_shared<uikit::UIViewContent>(value.makeUIView()); },
       {}};
   if constexpr (requires { value.updateUIView(*value.makeUIView()); }) {
     using Made = typename decltype(value.makeUIView())::element_type;
-    node.update = [value](render::HostedContent& hosted) {
-      auto& content = static_cast<uikit::UIViewContent&>(hosted);
-      content.updateQuietly([&] { value.updateUIView(static_cast<Made&>(*content.view())); });
+    content.update = [value](render::HostedContent& hosted) {
+      auto& shown = static_cast<uikit::UIViewContent&>(hosted);
+      shown.updateQuietly([&] { value.updateUIView(static_cast<Made&>(*shown.view())); });
     };
   }
-  return makeView(std::move(node));
+  return represented(std::move(content));
 }
 
 /// Shows `view` itself, so that every surface that shows a declarative view can show an imperative

@@ -4,11 +4,15 @@
 #include <functional>
 #include <memory>
 #include <string_view>
+#include <utility>
 
+#include "platform/foundation/Action.h"
+#include "platform/foundation/Arena.h"
 #include "platform/foundation/Export.h"
 #include "platform/layout/Geometry.h"
 #include "platform/swiftui/Color.h"
 #include "platform/swiftui/Font.h"
+#include "platform/swiftui/Node.h"
 #include "platform/swiftui/PresentationDetent.h"
 #include "platform/swiftui/State.h"
 #include "platform/swiftui/Text.h"
@@ -16,8 +20,6 @@
 
 namespace quorix::swiftui {
 
-struct Node;
-class Component;
 class View;
 
 /// Any type with a body is a view.
@@ -33,10 +35,11 @@ concept ViewModifier = requires(const M& modifier, View content) {
 };
 
 /// A piece of user interface, as an immutable value: cheap to copy, safe to keep. Modifiers wrap
-/// the view and return the wrapped one; of modifiers that reach down (font, colour, text case,
+/// the view and return the wrapped one; of modifiers that reach down (font, color, text case,
 /// underline, strikethrough) the innermost wins. Main thread.
 ///
-///     View row = HStack(12, {Text::verbatim("Fee"), Spacer(), Text::verbatim(fee)});
+///     View row = HStack(layout::VerticalAlignment::center, 12,
+///                       {Text::verbatim("Fee"), Spacer(), Text::verbatim(fee)});
 ///     View padded = row.padding(16);
 class QUORIX_EXPORT View {
  public:
@@ -84,12 +87,12 @@ class QUORIX_EXPORT View {
   View accessibilityHint(Text hint) const;
   View accessibilityHidden(bool hidden) const;
   /// What assistive technology does by default with this element.
-  View accessibilityAction(std::function<void()> action) const;
+  View accessibilityAction(foundation::Action action) const;
 
-  View onTapGesture(std::function<void()> action) const;
+  View onTapGesture(foundation::Action action) const;
   /// Runs `action` on a turn of the main queue each time the view comes on screen, unless it leaves
   /// before.
-  View task(TaskPriority priority, std::function<void()> action) const;
+  View task(TaskPriority priority, foundation::Action action) const;
   View sheet(Binding<bool> isPresented, View content) const;
   View presentationDetents(PresentationDetents detents) const;
   /// Calls `action` in the layout pass with the size that the view was laid out at, whenever it
@@ -99,9 +102,16 @@ class QUORIX_EXPORT View {
   View modifier(M modifier) const;
 
  private:
-  View(std::shared_ptr<const Component> component);  // NOLINT(google-explicit-constructor)
   std::shared_ptr<const Node> node_;
 };
+
+/// The view of a node of type `Kind`, in the arena of the evaluation under way.
+template <class Kind, class... Arguments>
+View makeView(Arguments&&... arguments) {
+  const foundation::SharedIn<Kind> memory(foundation::Arena::current());
+  return View(std::shared_ptr<const Node>(
+      std::allocate_shared<Kind>(memory, std::forward<Arguments>(arguments)...)));
+}
 
 }  // namespace quorix::swiftui
 

@@ -30,15 +30,16 @@ void ViewGraph::setOnScreen(bool onScreen) {
   runningTasks_.clear();
 }
 
-Evaluation ViewGraph::evaluate(const Environment& environment) {
+std::unique_ptr<Evaluation> ViewGraph::evaluate(const Environment& environment) {
   turnPending_ = false;
-  Evaluation evaluation = swiftui::evaluate(root_, environment, store_);
+  auto evaluation = swiftui::evaluate(root_, environment, store_);
   if (onScreen_) {
     subscriptions_.clear();
-    for (combine::ObservableObject* object : evaluation.observed) {
+    subscriptions_.reserve(evaluation->observed.size());
+    for (combine::ObservableObject* object : evaluation->observed) {
       subscriptions_.push_back(object->onWillChange([this] { invalidate(); }));
     }
-    startTasks(evaluation.tasks);
+    startTasks(evaluation->tasks);
   }
   return evaluation;
 }
@@ -56,7 +57,7 @@ void ViewGraph::invalidate() {
   });
 }
 
-void ViewGraph::startTasks(const std::vector<TaskRequest>& requests) {
+void ViewGraph::startTasks(std::span<const TaskRequest> requests) {
   std::map<TreePath, std::shared_ptr<void>> running;
   for (const TaskRequest& request : requests) {
     const auto found = runningTasks_.find(request.path);

@@ -30,14 +30,14 @@ class ViewGraph {
   void setOnScreen(bool onScreen);
   bool isOnScreen() const { return onScreen_; }
 
-  Evaluation evaluate(const Environment& environment);
+  std::unique_ptr<Evaluation> evaluate(const Environment& environment);
 
   /// Runs a pending turn at once. Returns whether there was one.
   bool settle();
 
  private:
   void invalidate();
-  void startTasks(const std::vector<TaskRequest>& requests);
+  void startTasks(std::span<const TaskRequest> requests);
 
   std::shared_ptr<ViewGraph*> self_;  ///< bindings and turns may outlive the graph
   View root_;

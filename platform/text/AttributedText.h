@@ -9,7 +9,7 @@
 
 namespace quorix::text {
 
-/// A face at its final size: what a text engine looks up and draws with.
+/// A face at its final size, for a text engine to look up and draw with.
 struct ResolvedFont {
   std::string name;  ///< PostScript or family name; empty for the system's font
   double points = 17;
@@ -28,15 +28,15 @@ struct Run {
   bool operator==(const Run&) const = default;
 };
 
-/// What a text element shows, in reading order.
+/// The runs of a text element, in reading order.
 struct AttributedText {
   std::vector<Run> runs;
-  /// Of the page: lines are aligned to the side that it reads from. `baseDirection` tells which way
-  /// the words run.
+  /// The direction of the page, which sets the side that lines are aligned to. The direction of the
+  /// words is `baseDirection`.
   layout::LayoutDirection direction = layout::LayoutDirection::leftToRight;
   bool operator==(const AttributedText&) const = default;
 
-  /// The same in letters of `part` their size.
+  /// A copy with its letters scaled by `part`.
   AttributedText scaled(double part) const {
     AttributedText copy = *this;
     for (Run& run : copy.runs) run.font.points *= part;

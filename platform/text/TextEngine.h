@@ -6,7 +6,7 @@
 
 namespace quorix::text {
 
-/// How a text stands when broken to a width. Points; the baselines count from the top.
+/// Measures of a text broken to a width. Points; the baselines count from the top.
 struct TextMetrics {
   layout::Size size;  ///< of the inked lines: the width of the widest one, the height of all
   double firstBaseline = 0;
@@ -15,18 +15,18 @@ struct TextMetrics {
   bool operator==(const TextMetrics&) const = default;
 };
 
-/// Shapes and breaks text. The one port between layout and an engine's fonts; main thread.
+/// Shapes and breaks text: the port from layout to an engine's fonts. Main thread.
 class QUORIX_EXPORT TextEngine {
  public:
   virtual ~TextEngine() = default;
 
   /// Breaks `text` into lines no wider than `width` (infinity: only at line ends in the text), at
-  /// word boundaries, and inside a word only where the word alone is wider than `width`. An empty
-  /// text has one line's height and no width.
+  /// word boundaries, and inside a word only if the word alone is wider than `width`. An empty text
+  /// has the height of one line and no width.
   virtual TextMetrics measure(const AttributedText& text, double width) = 0;
 
-  /// The least width that breaks `text` nowhere but at word boundaries: that of its longest word.
-  /// A price is one word.
+  /// The least width at which `text` breaks only at word boundaries: that of its longest word. A
+  /// price is one word.
   virtual double leastWidth(const AttributedText& text) = 0;
 };
 

@@ -12,12 +12,12 @@ struct Line {
   Length start;
   Length end;
   Length length;
-  bool hollow = false;  ///< its length is 0 because nothing says otherwise
+  bool hollow = false;  ///< no rule and no content sets its length, which is 0
 
   Length& at(Edge edge) { return edge == Edge::start ? start : edge == Edge::end ? end : length; }
   bool isComplete() const { return start && end && length; }
   bool hasEdge() const { return start || end; }
-  /// Two of the three say the third.
+  /// Computes the third value from the other two.
   void complete() {
     if (start && end && !length) length = *end - *start;
     if (start && length && !end) end = *start + *length;
@@ -48,12 +48,12 @@ class Solver {
  private:
   Line& line(int index) { return lines_[static_cast<std::size_t>(index)]; }
 
-  /// Sets what one more rule says. False when none says anything new.
+  /// Applies every rule once. Returns false when none sets a new value.
   bool followRules() {
     bool found = false;
     for (const AxisRule& rule : rules_) {
       if (rule.relation != LayoutRelation::equal) continue;
-      if (rule.second == AxisRule::nobody) {
+      if (rule.second == AxisRule::none) {
         found |= tell(rule.first, rule.firstEdge, rule.constant);
         continue;
       }
@@ -73,7 +73,7 @@ class Solver {
     return true;
   }
 
-  /// Where the rules lead no further, assumes one thing. False when nothing is open.
+  /// Sets one value that the rules leave open. Returns false when none is open.
   bool assumeNext() {
     const auto assume = [this](auto applies, auto apply) {
       for (std::size_t i = 1; i < lines_.size(); ++i) {
@@ -96,7 +96,7 @@ class Solver {
                   [](Line& open, int) { open.start = 0; });
   }
 
-  /// `natural` within what the inequalities of item `index` allow.
+  /// `natural`, limited by the inequalities of item `index`.
   double limited(double natural, int index) {
     for (const AxisRule& rule : rules_) {
       if (rule.relation == LayoutRelation::equal) continue;
@@ -105,7 +105,7 @@ class Solver {
       const bool atMost = (rule.relation == LayoutRelation::lessThanOrEqual) == isFirst;
       const int other = isFirst ? rule.second : rule.first;
       Length bound = 0.0;
-      if (other != AxisRule::nobody)
+      if (other != AxisRule::none)
         bound = line(other).at(isFirst ? rule.secondEdge : rule.firstEdge);
       if (!bound) continue;
       *bound += isFirst ? rule.constant : -rule.constant;
@@ -133,7 +133,7 @@ class Solver {
   std::vector<Line> lines_;
 };
 
-/// How far the container has to reach for `rule`; nothing when it asks for nothing.
+/// The container's length that `rule` needs; absent when it needs none.
 Length reach(const AxisRule& rule, std::vector<Line> lines) {
   const bool isFirst = rule.first == 0;
   const Edge edge = isFirst ? rule.firstEdge : rule.secondEdge;
@@ -141,7 +141,7 @@ Length reach(const AxisRule& rule, std::vector<Line> lines) {
   const LayoutRelation shrinks =
       isFirst ? LayoutRelation::lessThanOrEqual : LayoutRelation::greaterThanOrEqual;
   if (rule.relation == shrinks) return std::nullopt;
-  if (rule.second == AxisRule::nobody) return rule.constant;
+  if (rule.second == AxisRule::none) return rule.constant;
   Line& item = lines[static_cast<std::size_t>(isFirst ? rule.second : rule.first)];
   const Length at = item.at(isFirst ? rule.secondEdge : rule.firstEdge);
   if (item.hollow || !at) return std::nullopt;

@@ -8,25 +8,25 @@
 
 namespace quorix::uikit {
 
-// Constraints along one axis, as pure functions over lengths: a view (the container, index 0) and
-// its subviews (1 and up). Points, from the container's start.
+// Solves constraints along one axis. The container has index 0, its subviews have 1 and up. Lengths
+// are points from the container's start.
 
 /// One of the subviews, before it is placed.
 struct AxisItem {
-  std::optional<double> start;    ///< where a frame set by hand puts it
-  std::optional<double> length;   ///< likewise
-  std::optional<double> natural;  ///< what its content asks for; nothing without content
+  std::optional<double> start;    ///< of a frame set by hand
+  std::optional<double> length;   ///< of a frame set by hand
+  std::optional<double> natural;  ///< of the content; absent without content
 };
 
 /// `first` relates to `second` plus `constant`.
 struct AxisRule {
   enum class Edge : std::uint8_t { start, end, length };
-  static constexpr int nobody = -1;
+  static constexpr int none = -1;
 
   int first;
   Edge firstEdge;
   LayoutRelation relation;
-  int second;  ///< `nobody`: the constant alone
+  int second;  ///< `none`: the constant alone
   Edge secondEdge;
   double constant;
 };
@@ -37,16 +37,16 @@ struct AxisSpan {
   bool operator==(const AxisSpan&) const = default;
 };
 
-/// Where the rules put each item in a container of length `extent`.
+/// Places each item in a container of length `extent`.
 ///
-/// Rules are followed from edge to edge, so far as they lead. A length that they leave open is the
-/// natural one, within what inequalities allow, or 0; a position that they leave open is the start.
-/// Where rules contradict each other the earlier ones hold.
+/// Follows the rules from edge to edge. A length that they leave open is the natural one, limited
+/// by the inequalities, or 0; a position that they leave open is the start. Of rules that
+/// contradict each other the earlier one holds.
 std::vector<AxisSpan> placeAlong(const std::vector<AxisItem>& items,
                                  const std::vector<AxisRule>& rules, double extent);
 
-/// The least container that gives every item its length; nothing when no item's content asks for
-/// anything.
+/// The smallest length of a container in which every item gets its length; absent when no rule
+/// bounds the container.
 std::optional<double> fittingExtent(const std::vector<AxisItem>& items,
                                     const std::vector<AxisRule>& rules);
 

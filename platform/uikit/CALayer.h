@@ -7,14 +7,14 @@ namespace quorix::uikit {
 
 class UIView;
 
-/// A view's frame as it is drawn. Part of its view.
+/// The border of a view. Part of the view.
 class QUORIX_EXPORT CALayer {
  public:
   explicit CALayer(UIView& view) : view_(view) {}
   CALayer(const CALayer&) = delete;
   CALayer& operator=(const CALayer&) = delete;
 
-  /// Points, inside the view's edges and over its subviews; 0 draws none.
+  /// Points, inside the view's edges and above its subviews; 0 for none.
   double borderWidth() const { return borderWidth_; }
   void setBorderWidth(double width);
   /// Null is black.

@@ -5,7 +5,7 @@
 
 namespace quorix::uikit {
 
-/// What sizes and looks depend on besides the views themselves.
+/// The input of layout and drawing besides the views.
 struct LayoutContext {
   text::TextEngine& engine;
   render::Display display;

@@ -13,7 +13,7 @@ namespace quorix::uikit {
 /// The numbers are the platform's.
 enum class NSUnderlineStyle : std::uint8_t { none = 0, single = 1, thick = 2 };
 
-/// The looks of a stretch of text; what is absent is left to the label that shows it.
+/// The look of a run of text. An absent value is the label's.
 struct NSAttributes {
   UIFont::Ref font = nullptr;              ///< null: the label's
   UIColor::Ref foregroundColor = nullptr;  ///< null: the label's
@@ -21,7 +21,7 @@ struct NSAttributes {
   bool operator==(const NSAttributes&) const = default;
 };
 
-/// A text in stretches, each with its own look. A value.
+/// A text in runs, each with its own look. A value.
 class NSAttributedString {
  public:
   struct Run {
@@ -35,7 +35,7 @@ class NSAttributedString {
     if (!text.empty()) runs_.push_back({std::move(text), std::move(attributes)});
   }
 
-  /// The words without their looks.
+  /// The text of all runs.
   std::string string() const {
     std::string words;
     for (const Run& run : runs_) words += run.text;
@@ -50,7 +50,7 @@ class NSAttributedString {
   std::vector<Run> runs_;
 };
 
-/// A text in stretches that grows.
+/// An attributed text that can be extended.
 ///
 ///     NSMutableAttributedString title("Return rate of ", {.font = regular});
 ///     title.append(NSAttributedString("20%", {.font = semiBold}));
@@ -59,10 +59,10 @@ class NSMutableAttributedString : public NSAttributedString {
   using NSAttributedString::NSAttributedString;
 
   void append(const NSAttributedString& other) {
-    const auto added = other.runs();  // which may be this one
+    const auto added = other.runs();  // a copy: `other` may be this object
     runs_.insert(runs_.end(), added.begin(), added.end());
   }
-  /// Over the whole length.
+  /// Of every run.
   void setFont(const UIFont::Ref& font) {
     for (Run& run : runs_) run.attributes.font = font;
   }

@@ -15,11 +15,12 @@ Kind kindOf(LayoutAttribute attribute) {
   return kinds[static_cast<int>(attribute)];
 }
 
-}  // namespace
-
-bool NSLayoutConstraint::comparable(LayoutAttribute first, std::optional<LayoutAttribute> second) {
+/// Edges of one kind are comparable, and lengths on one axis; with a constant, only lengths are.
+bool areComparable(LayoutAttribute first, std::optional<LayoutAttribute> second) {
   return second ? kindOf(first) == kindOf(*second) : kindOf(first) >= Kind::width;
 }
+
+}  // namespace
 
 void NSLayoutConstraint::activate(const std::vector<NSLayoutConstraint>& constraints) {
   for (const NSLayoutConstraint& constraint : constraints) {
@@ -39,7 +40,7 @@ UIView* NSLayoutConstraint::holder() const {
   const auto first = firstItem.lock();
   const auto second = secondItem.lock();
   const bool whole = first && (second != nullptr) == secondAttribute.has_value();
-  if (!whole || !comparable(firstAttribute, secondAttribute)) return nullptr;
+  if (!whole || !areComparable(firstAttribute, secondAttribute)) return nullptr;
   if (!second || second == first || second->superview_ == first.get()) return first.get();
   if (first->superview_ == second.get() || first->superview_ == second->superview_) {
     return first->superview_;

@@ -11,7 +11,7 @@ namespace quorix::uikit {
 
 class UIView;
 
-/// What a constraint takes hold of. Leading and trailing follow the reading direction.
+/// An edge or a length of a view. Leading and trailing follow the reading direction.
 enum class LayoutAttribute : std::uint8_t {
   left,
   right,
@@ -25,8 +25,8 @@ enum class LayoutAttribute : std::uint8_t {
 
 enum class LayoutRelation : std::uint8_t { equal, lessThanOrEqual, greaterThanOrEqual };
 
-/// One edge or length of a view against another, or against a constant, in points. It acts on
-/// layout rectangles, and from its activation until one of its views leaves the other.
+/// Relates an edge or a length of a view to another one, or to a constant, in points. It acts on
+/// layout rectangles, from its activation until one of its views is removed from the other.
 ///
 /// There is no general solver: a constraint joins a view and its superview, or two subviews of one
 /// view, and lengths that constraints leave open come from the content.
@@ -38,20 +38,16 @@ struct QUORIX_EXPORT NSLayoutConstraint {
   std::optional<LayoutAttribute> secondAttribute;  ///< absent: the constant alone
   double constant = 0;
 
-  /// Whether two attributes may stand against each other: edges of one kind, or lengths on one
-  /// axis.
-  static bool comparable(LayoutAttribute first, std::optional<LayoutAttribute> second);
-
-  /// Puts the constraints in force. One that joins views which do not stand as described above, or
-  /// attributes that cannot be compared, stops the process. Main thread.
+  /// Activates the constraints. One that joins other views than described above, or attributes that
+  /// cannot be compared, stops the process. Main thread.
   static void activate(const std::vector<NSLayoutConstraint>& constraints);
 
-  /// The view that keeps it while it is in force: the one that holds the other, or both. Null when
-  /// it cannot be put in force.
+  /// The view that stores it while it is active: the superview of the other one, or of both. Null
+  /// when it cannot be activated.
   UIView* holder() const;
 };
 
-/// One edge or length of a view, to make constraints from.
+/// One edge or length of a view, from which constraints are made.
 ///
 ///     NSLayoutConstraint::activate({label->topAnchor().equalTo(view->topAnchor(), 16),
 ///                                   image->widthAnchor().equalTo(48)});
@@ -65,9 +61,6 @@ class NSLayoutAnchor {
   }
   NSLayoutConstraint lessThanOrEqualTo(const NSLayoutAnchor& other, double constant = 0) const {
     return to(LayoutRelation::lessThanOrEqual, other, constant);
-  }
-  NSLayoutConstraint greaterThanOrEqualTo(const NSLayoutAnchor& other, double constant = 0) const {
-    return to(LayoutRelation::greaterThanOrEqual, other, constant);
   }
   /// For widths and heights.
   NSLayoutConstraint equalTo(double constant) const {

@@ -16,13 +16,13 @@ namespace quorix::uikit {
 
 /// Interface files: views that a designer's tool wrote as XML ("Name.xib").
 ///
-/// Read is the part of the format that laid-out texts need: views and labels with frames, colours
-/// in sRGB, the system's font, edge and size constraints, accessibility labels and traits, and the
-/// owner's outlets. An element, an attribute or a value outside it refuses the whole file
-/// with the line and the name: what is shown is all that the designer sees, or nothing.
+/// Supports the part of the format that texts need: views and labels with frames, colors in sRGB,
+/// the system's font, edge and size constraints, accessibility labels and traits, and the owner's
+/// outlets. A file with any other element, attribute or value is refused, with the line and the
+/// name: a file is shown as the designer sees it, or not at all.
 class Nib {
  public:
-  /// The places of an owner that an interface file fills by name; they outlive the load.
+  /// The owner's variables that an interface file sets, by name. They must outlive the load.
   struct Outlets {
     std::map<std::string, std::shared_ptr<UIView>*, std::less<>> views;
     std::map<std::string, std::weak_ptr<UILabel>*, std::less<>> labels;
@@ -30,9 +30,9 @@ class Nib {
 
   using Views = std::vector<std::shared_ptr<UIView>>;
 
-  /// Loads the interface file `name` of `bundle` for an owner of the class `owner`. On success the
-  /// outlets are connected, and the file's views returned in their order; otherwise nothing is
-  /// touched. Never throws, whatever the file holds. Main thread.
+  /// Loads the interface file `name` of `bundle` for an owner of the class `owner`. On success it
+  /// sets the outlets and returns the file's views in their order; on an error it sets no outlet.
+  /// Never throws. Main thread.
   ///
   ///     auto views = Nib::load("Card", *bundle, "CardView",
   ///                            {{{"contentView", &contentView_}}, {{"titleLabel",

@@ -4,8 +4,10 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
+#include "platform/foundation/Result.h"
 #include "platform/layout/Geometry.h"
 #include "platform/uikit/NSLayoutConstraint.h"
 #include "platform/uikit/UIColor.h"
@@ -14,8 +16,8 @@
 
 namespace quorix::uikit {
 
-/// What an interface file says, read once to make views from many times. Views are named by their
-/// place in `views`. Immutable once read; any thread.
+/// The contents of an interface file, read once to make views from it many times. Refers to views
+/// by their index in `views`. Immutable once read; any thread.
 struct NibDocument {
   /// The line of the file, for messages.
   using Line = std::ptrdiff_t;
@@ -27,7 +29,7 @@ struct NibDocument {
     int numberOfLines = 1;
   };
 
-  /// A view, or a label where it has one.
+  /// A view; a label when `label` is set.
   struct View {
     std::optional<Label> label;
     layout::Rect frame;
@@ -38,7 +40,7 @@ struct NibDocument {
     bool hidden = false;
     bool userInteractionEnabled = true;
     bool translatesMask = true;
-    std::optional<std::size_t> superview;  ///< stands before it
+    std::optional<std::size_t> superview;  ///< comes earlier in `views`
   };
 
   struct Constraint {
@@ -63,10 +65,13 @@ struct NibDocument {
     std::string className;
   };
 
-  std::vector<Owner> owners;  ///< one, in what the designer's tool writes
+  std::vector<Owner> owners;  ///< one, as the designer's tool writes it
   std::vector<View> views;
   std::vector<Constraint> constraints;
   std::vector<Outlet> outlets;
 };
+
+/// Reads an interface file. An error's description begins with the line: "7: ...". Any thread.
+foundation::Result<NibDocument> readNib(std::string_view xml);
 
 }  // namespace quorix::uikit

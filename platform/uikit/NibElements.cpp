@@ -20,9 +20,14 @@ bool isWordOf(std::string_view words, std::string_view word) {
 
 }  // namespace
 
+NibElements::NibElements(std::string_view xml) {
+  for (std::size_t end = xml.find('\n'); end != xml.npos; end = xml.find('\n', end + 1)) {
+    lineEnds_.push_back(static_cast<std::ptrdiff_t>(end));
+  }
+}
+
 NibDocument::Line NibElements::line(std::ptrdiff_t offset) const {
-  const auto length = std::clamp<std::ptrdiff_t>(offset, 0, std::ssize(xml_));
-  return 1 + std::count(xml_.begin(), xml_.begin() + length, '\n');
+  return 1 + (std::ranges::lower_bound(lineEnds_, offset) - lineEnds_.begin());
 }
 
 void NibElements::refuseAt(std::ptrdiff_t offset, const std::string& why) {

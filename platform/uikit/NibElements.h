@@ -4,16 +4,17 @@
 #include <pugixml.hpp>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/uikit/NibDocument.h"
 
 namespace quorix::uikit {
 
-/// Reads the attributes of an interface file's elements, and keeps the first refusal. After it,
-/// reading goes on to no effect.
+/// Reads the attributes of an interface file's elements, and keeps the first refusal. Reading goes
+/// on after it; the result is not used.
 class NibElements {
  public:
-  explicit NibElements(std::string_view xml) : xml_(xml) {}
+  explicit NibElements(std::string_view xml);
 
   /// "7: why", where 7 is the line.
   const std::optional<std::string>& refusal() const { return refusal_; }
@@ -21,19 +22,20 @@ class NibElements {
   void refuseAt(std::ptrdiff_t offset, const std::string& why);
   NibDocument::Line line(std::ptrdiff_t offset) const;
 
-  /// Refuses attributes that `known` does not name: words between blanks.
+  /// Refuses attributes that are not in `known`, a list of words separated by blanks.
   void checkAttributes(pugi::xml_node node, std::string_view known);
-  /// Refuses a value of the attribute, which may be absent, that is none of `values`.
+  /// Refuses a value of the attribute that is not in `values`. The attribute may be absent.
   void expect(pugi::xml_node node, const char* attribute, std::string_view values);
   bool flag(pugi::xml_node node, const char* attribute, bool otherwise);
-  /// Points; without `otherwise` the attribute has to be there.
+  /// Points. Refuses an absent attribute if there is no `otherwise`.
   double number(pugi::xml_node node, const char* attribute, std::optional<double> otherwise);
 
   /// "<name>", for messages.
   static std::string tag(pugi::xml_node node) { return '<' + std::string(node.name()) + '>'; }
 
  private:
-  std::string_view xml_;
+  std::vector<std::ptrdiff_t>
+      lineEnds_;  // found once, because every constraint and outlet stores its line
   std::optional<std::string> refusal_;
 };
 

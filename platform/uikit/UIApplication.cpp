@@ -9,7 +9,7 @@
 namespace quorix::uikit {
 
 UIApplication& UIApplication::shared() {
-  static UIApplication& application = *new UIApplication;  // surfaces end after everything else
+  static UIApplication& application = *new UIApplication;  // never destroyed: surfaces end last
   return application;
 }
 

@@ -12,22 +12,21 @@
 
 namespace quorix::uikit {
 
-/// The running app: its scenes, and the way out of it. Main thread.
+/// The running app: its scenes, and how it opens addresses outside. Main thread.
 class QUORIX_EXPORT UIApplication {
  public:
   using OpenOptions = std::map<std::string, std::string>;
 
   static UIApplication& shared();
 
-  /// In the order in which they came.
+  /// In the order in which they were connected.
   const std::vector<std::shared_ptr<UIScene>>& connectedScenes() const { return scenes_; }
   /// For surfaces: a scene begins and ends.
   void connect(std::shared_ptr<UIScene> scene);
   void disconnect(const std::shared_ptr<UIScene>& scene);
 
-  /// Hands `url` to the system's handler of such addresses. An address that leads to local files or
-  /// runs script goes nowhere. `completion` learns on a later turn of the main queue whether it was
-  /// handed over.
+  /// Hands `url` to `URLOpener::openOutside`, which refuses unsafe addresses. Calls `completion` on
+  /// a later turn of the main queue with its result.
   void open(const foundation::URL& url, const OpenOptions& options,
             std::function<void(bool)> completion = {});
 

@@ -11,13 +11,13 @@
 
 namespace quorix::uikit {
 
-/// A colour of the imperative toolkit: an immutable object, shared by reference. Unlike the
-/// declarative colour it has its values from the start. Any thread.
+/// A color of the imperative toolkit: an immutable object, shared by reference. Unlike the
+/// declarative color it is resolved when it is made. Any thread.
 class QUORIX_EXPORT UIColor {
  public:
   using Ref = std::shared_ptr<const UIColor>;
 
-  /// The colour set `name` in `bundle` (null: the host's main bundle), or null when there is none.
+  /// The color set `name` in `bundle` (null: the host's main bundle), or null when there is none.
   static Ref named(std::string_view name, const foundation::Bundle::Ref& bundle);
   /// The same value in both appearances.
   static Ref fixed(graphics::RGBA value);
@@ -26,7 +26,7 @@ class QUORIX_EXPORT UIColor {
   graphics::RGBA resolve(graphics::Appearance appearance) const {
     return values_.resolve(appearance);
   }
-  /// The asset's name; empty for a fixed colour.
+  /// The asset's name; empty for a fixed color.
   const std::string& name() const { return name_; }
 
   bool operator==(const UIColor&) const = default;

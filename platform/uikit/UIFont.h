@@ -4,19 +4,23 @@
 #include <string>
 #include <string_view>
 
+#include "platform/graphics/FontManager.h"
+
 namespace quorix::uikit {
 
-/// A font of the imperative toolkit: a face that is known to be there, at a size that never scales.
-/// An immutable object, shared by reference. Any thread.
+/// A font of the imperative toolkit: a face that exists, at a size that does not scale with the
+/// user's text size. An immutable object, shared by reference. Any thread.
 class UIFont {
  public:
   using Ref = std::shared_ptr<const UIFont>;
 
   /// The face `name` at `size` points, or null when the font manager does not know the face.
-  static Ref named(std::string_view name, double size);
+  static Ref named(std::string_view name, double size) {
+    return graphics::FontManager::shared().knows(name) ? Ref(new UIFont(name, size)) : nullptr;
+  }
 
   /// The system's font at `size` points; its name is empty.
-  static Ref system(double size);
+  static Ref system(double size) { return Ref(new UIFont({}, size)); }
 
   const std::string& name() const { return name_; }
   /// Points.

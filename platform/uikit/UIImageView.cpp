@@ -2,29 +2,37 @@
 
 #include <utility>
 
-#include "platform/graphics/ImageName.h"
+#include "platform/graphics/AssetCatalog.h"
 
 namespace quorix::uikit {
 namespace {
 
-/// The system's blue, for templates without a tint of their own.
-constexpr graphics::RGBA defaultTint = {0, 122, 255, 255};
+/// The system's blue, which template images are drawn in.
+constexpr graphics::RGBA tint = {0, 122, 255, 255};
 
 }  // namespace
+
+UIImage::Ref UIImage::named(std::string_view name, const foundation::Bundle::Ref& bundle) {
+  const auto& source = bundle ? bundle : foundation::Bundle::main();
+  const auto asset = graphics::imageSet(source, name);
+  if (!asset) return nullptr;
+  return Ref(new UIImage(std::string(name), source, {asset->width, asset->height}));
+}
+
+UIImage::Ref UIImage::withAlignmentRectInsets(UIEdgeInsets insets) const {
+  const auto copy = std::make_shared<UIImage>(*this);
+  copy->alignmentRectInsets_ = insets;
+  return copy;
+}
 
 UIImageView::UIImageView(UIImage::Ref image) : image_(std::move(image)) {
   startUntouched();
   if (image_) layOutAt({{}, image_->size()});
 }
 
-void UIImageView::setImage(UIImage::Ref image) {
-  image_ = std::move(image);
-  setNeedsLayout();
-}
-
 layout::Rect UIImageView::pictureFrame(const layout::Rect& rect, const UIEdgeInsets& insets,
                                        layout::Size size) {
-  // The platform's frame for a layout rectangle: the rectangle with the insets taken back.
+  // The inverse of the layout rectangle: the rectangle extended by the insets.
   const layout::Size room = {rect.size.width + insets.left + insets.right,
                              rect.size.height + insets.top + insets.bottom};
   if (room.width > 0 && room.height > 0) {
@@ -51,11 +59,7 @@ void UIImageView::draw(const layout::Rect& frame, const LayoutContext& context,
   item.frame = pictureFrame(frame, image_->alignmentRectInsets(), image_->size());
   item.name = image_->name();
   item.bundle = image_->bundle();
-  const auto& tint = image_->tintColor();
-  item.tint = tint ? tint->resolve(context.display.appearance) : defaultTint;
-  if (image_->renderingMode() != UIImage::RenderingMode::automatic) {
-    item.isTemplate = image_->renderingMode() == UIImage::RenderingMode::alwaysTemplate;
-  }
+  item.tint = tint;
   items.push_back(std::move(item));
 }
 
@@ -63,7 +67,7 @@ std::optional<render::AccessibilityElement> UIImageView::describe(std::string_vi
   if (!image_) return std::nullopt;
   render::AccessibilityElement element;
   element.role = render::Role::image;
-  // A picture that can be tapped is better called by its name than not at all.
+  // An image that can be tapped needs a label: use its name.
   const bool acts = !gestureRecognizers().empty() && image_->bundle();
   if (acts) element.label = graphics::spokenName(*image_->bundle(), image_->name(), language);
   return element;

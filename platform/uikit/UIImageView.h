@@ -1,26 +1,65 @@
 #pragma once
 
+#include <memory>
+#include <string>
+#include <string_view>
 #include <utility>
 
-#include "platform/uikit/UIImage.h"
+#include "platform/foundation/Bundle.h"
 #include "platform/uikit/UIView.h"
 
 namespace quorix::uikit {
 
-/// An image, stretched to the frame. Not touched unless it is told otherwise.
+/// Insets by side, in points, independent of the reading direction. Negative ones lead outwards.
+struct UIEdgeInsets {
+  double top = 0;
+  double left = 0;
+  double bottom = 0;
+  double right = 0;
+  bool operator==(const UIEdgeInsets&) const = default;
+};
+
+/// An image of an asset catalogue and how to show it: an immutable object, shared by reference.
+/// Any thread.
 ///
-/// The image's alignment insets are the view's: its frame is the layout rectangle, as constraints
-/// have it, and the picture is drawn that much further out (positive insets) or in (negative).
+///     auto image = UIImage::named("close", bundle)->withAlignmentRectInsets({-8, -8, -8, -8});
+class UIImage {
+ public:
+  using Ref = std::shared_ptr<const UIImage>;
+
+  /// The image set `name` in `bundle` (null: the host's main bundle), or null when there is none.
+  static Ref named(std::string_view name, const foundation::Bundle::Ref& bundle);
+
+  /// The same picture with another layout rectangle: its bounds, reduced by `insets`.
+  Ref withAlignmentRectInsets(UIEdgeInsets insets) const;
+
+  const std::string& name() const { return name_; }
+  const foundation::Bundle::Ref& bundle() const { return bundle_; }
+  /// Points.
+  layout::Size size() const { return size_; }
+  const UIEdgeInsets& alignmentRectInsets() const { return alignmentRectInsets_; }
+
+ private:
+  UIImage(std::string name, foundation::Bundle::Ref bundle, layout::Size size)
+      : name_(std::move(name)), bundle_(std::move(bundle)), size_(size) {}
+
+  std::string name_;
+  foundation::Bundle::Ref bundle_;
+  layout::Size size_;
+  UIEdgeInsets alignmentRectInsets_;
+};
+
+/// An image, stretched to the frame. Takes no touches by default.
+///
+/// The view has the alignment insets of its image: constraints set the layout rectangle, which is
+/// the view's frame, and the picture is drawn outside it (positive insets) or inside (negative).
 class UIImageView final : public UIView {
  public:
-  /// `image` at its natural size; null shows nothing.
+  /// `image` at its natural size; null for no image.
   explicit UIImageView(UIImage::Ref image = nullptr);
 
-  const UIImage::Ref& image() const { return image_; }
-  void setImage(UIImage::Ref image);
-
-  /// Where a picture of `size` and `insets` is drawn for the layout rectangle `rect`. Insets that
-  /// would leave it no room leave it its natural size, in the middle.
+  /// The frame of a picture of `size` and `insets` for the layout rectangle `rect`. If the insets
+  /// leave no room, it has its natural size, centered in `rect`.
   static layout::Rect pictureFrame(const layout::Rect& rect, const UIEdgeInsets& insets,
                                    layout::Size size);
 
@@ -32,7 +71,7 @@ class UIImageView final : public UIView {
   std::optional<render::AccessibilityElement> describe(std::string_view language) const override;
 
  private:
-  UIImage::Ref image_;
+  const UIImage::Ref image_;
 };
 
 }  // namespace quorix::uikit

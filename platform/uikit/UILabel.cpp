@@ -4,11 +4,12 @@
 #include <utility>
 
 #include "platform/layout/PixelGrid.h"
+#include "platform/text/TextBound.h"
 
 namespace quorix::uikit {
 namespace {
 
-/// More than one layout asks about.
+/// The cache is cleared beyond this number; one layout measures fewer.
 constexpr std::size_t manyWidths = 4;
 
 graphics::RGBA defaultColor(graphics::Appearance appearance) {
@@ -69,6 +70,7 @@ text::AttributedText UILabel::resolved(const render::Display& display) const {
          color ? color->resolve(display.appearance) : defaultColor(display.appearance),
          underline != NSUnderlineStyle::none, false, underline == NSUnderlineStyle::thick});
   }
+  text::bound(text);
   return text;
 }
 
@@ -76,7 +78,7 @@ layout::Size UILabel::measured(double width, const LayoutContext& context) const
   const double scale = context.display.scale;
   for (const Measured& known : measured_) {
     if (known.width == width && known.scale == scale) return known.size;
-    // From its ideal width on, more width changes nothing.
+    // A text that fits in one line has the same size in any larger width.
     const bool fits = known.width == layout::infinity && known.size.width <= width;
     if (fits && known.scale == scale) return known.size;
   }

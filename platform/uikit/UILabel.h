@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <string>
 #include <utility>
 #include <vector>
@@ -10,32 +9,28 @@
 
 namespace quorix::uikit {
 
-enum class NSTextAlignment : std::uint8_t { natural };
-
-/// A text. Not touched unless it is told otherwise. Its lines begin where reading begins, and stand
-/// in the middle of a frame that is higher than they need.
+/// A text. Takes no touches by default. Its lines are aligned to the leading edge, and centered in
+/// a frame that is higher than the text.
 class UILabel final : public UIView {
  public:
   explicit UILabel(layout::Rect frame = {});
 
   std::string text() const { return text_.string(); }
-  /// In the label's font and colour.
+  /// In the label's font and color.
   void setText(std::string text);
-  const NSAttributedString& attributedText() const { return text_; }
-  /// Runs without a font or a colour of their own take the label's.
+  /// Runs without a font or a color get the label's.
   void setAttributedText(const NSAttributedString& text);
 
-  /// Null is the system's font at 17 points. Setting it sets it over the whole text.
+  /// Null is the system's font at 17 points. Setting it changes every run.
   const UIFont::Ref& font() const { return font_; }
   void setFont(UIFont::Ref font);
-  /// Null is black, or white on dark. Setting it sets it over the whole text.
+  /// Null is black, or white in dark mode. Setting it changes every run.
   const UIColor::Ref& textColor() const { return textColor_; }
   void setTextColor(UIColor::Ref color);
-  /// 1 (the default) never breaks the text; any other number breaks it to the width, into as many
-  /// lines as it takes.
+  /// 1 (the default) never breaks the text; any other number breaks it to the width, without a
+  /// limit of lines.
   int numberOfLines() const { return numberOfLines_; }
   void setNumberOfLines(int lines);
-  NSTextAlignment textAlignment() const { return NSTextAlignment::natural; }
 
   std::string_view className() const override { return "UILabel"; }
   std::optional<layout::Size> intrinsicContentSize(std::optional<double> width,
@@ -59,7 +54,7 @@ class UILabel final : public UIView {
   UIFont::Ref font_;
   UIColor::Ref textColor_;
   int numberOfLines_ = 1;
-  mutable std::vector<Measured> measured_;  // of the text as it is
+  mutable std::vector<Measured> measured_;  // cleared when the text changes
 };
 
 }  // namespace quorix::uikit

@@ -5,8 +5,8 @@
 
 namespace quorix::uikit {
 
-/// Tells a target of a tap on the view that it was added to. The target is held weakly: without it
-/// a tap does nothing. Main thread.
+/// Calls a target when the view that it was added to is tapped. Holds the target weakly and does
+/// not call it once it is gone. Main thread.
 ///
 ///     label->addGestureRecognizer(std::make_shared<UITapGestureRecognizer>(
 ///         widget, [](Widget& widget, UITapGestureRecognizer&) { widget.open(); }));
@@ -19,9 +19,9 @@ class UITapGestureRecognizer {
           if (const auto strong = weak.lock()) action(*strong, sender);
         }) {}
 
-  /// A tap happened.
+  /// Call at a tap.
   void recognize() {
-    const auto kept = recognized_;  // the view may drop this recognizer meanwhile
+    const auto kept = recognized_;  // the action may delete this recognizer
     kept(*this);
   }
 

@@ -8,7 +8,7 @@
 namespace quorix::uikit {
 namespace {
 
-/// Stores `value`; true when it differs from what was there.
+/// Stores `value`. Returns whether it changed.
 template <class T>
 bool store(T& stored, T value) {
   if (stored == value) return false;
@@ -44,7 +44,7 @@ void UIView::insertSubview(std::shared_ptr<UIView> view, std::size_t index) {
                            "UIView");
   }
   if (view->superview_ == this) {
-    std::erase(subviews_, view);  // only its place among its siblings is another
+    std::erase(subviews_, view);  // only its index changes
   } else {
     view->removeFromSuperview();
   }
@@ -99,15 +99,6 @@ void UIView::addGestureRecognizer(std::shared_ptr<UITapGestureRecognizer> recogn
   setNeedsLayout();
 }
 
-std::shared_ptr<UIView> UIView::hitTest(layout::Point point) {
-  if (hidden_ || !userInteractionEnabled_ || !bounds().contains(point)) return nullptr;
-  for (auto view = subviews_.rbegin(); view != subviews_.rend(); ++view) {
-    const layout::Point origin = (*view)->frame_.origin;
-    if (auto hit = (*view)->hitTest({point.x - origin.x, point.y - origin.y})) return hit;
-  }
-  return weak_from_this().lock();
-}
-
 void UIView::setAccessibilityLabel(std::optional<std::string> label) {
   if (store(accessibilityLabel_, std::move(label))) setNeedsLayout();
 }
@@ -144,6 +135,16 @@ void UIView::setShownBy(const void* owner, std::function<void()> changed) {
 
 void UIView::endShownBy(const void* owner) {
   if (shownBy_ == owner) setShownBy(nullptr, {});
+}
+
+void CALayer::setBorderWidth(double width) {
+  borderWidth_ = width;
+  view_.setNeedsLayout();
+}
+
+void CALayer::setBorderColor(UIColor::Ref color) {
+  borderColor_ = std::move(color);
+  view_.setNeedsLayout();
 }
 
 }  // namespace quorix::uikit

@@ -19,12 +19,11 @@
 
 namespace quorix::uikit {
 
-/// What assistive technology takes a view for, beyond what it shows.
+/// The role that assistive technology reads out; `none` is the content's own.
 enum class UIAccessibilityTraits : std::uint8_t { none, button, link, header };
 
-/// A rectangle of the screen: an object that keeps what it was told and draws itself and its
-/// subviews. Shared by reference, with a strong hold on its subviews and none on its superview;
-/// made with std::make_shared. Main thread.
+/// A rectangle of the screen: a retained object that draws itself and its subviews. Owns its
+/// subviews and does not own its superview. Make it with std::make_shared. Main thread.
 ///
 ///     auto box = std::make_shared<UIView>();
 ///     box->setBackgroundColor(UIColor::fixed({255, 255, 255, 255}));
@@ -36,28 +35,28 @@ class QUORIX_EXPORT UIView : public std::enable_shared_from_this<UIView> {
   UIView(const UIView&) = delete;
   UIView& operator=(const UIView&) = delete;
 
-  // Views in views.
+  // Hierarchy.
 
   std::shared_ptr<UIView> superview() const;
   /// The last one lies on top.
   const std::vector<std::shared_ptr<UIView>>& subviews() const { return subviews_; }
-  /// Takes `view` from where it was and puts it on top. A view inside itself stops the process.
+  /// Removes `view` from its superview and puts it on top. Adding a view to itself or to one of its
+  /// subviews stops the process.
   void addSubview(std::shared_ptr<UIView> view);
-  /// The same at `index` among the subviews, counted without `view`; one beyond the last is the
-  /// top.
+  /// The same at `index` among the other subviews; an index beyond the last is the top.
   void insertSubview(std::shared_ptr<UIView> view, std::size_t index);
-  /// The constraints between this view and those that it leaves end.
+  /// Also ends the constraints between this view and the superview or its other subviews.
   void removeFromSuperview();
   bool isDescendant(const UIView& view) const;
 
   // Place and size, in points.
 
-  /// In the superview; what constraints and the host say replaces it when the view is shown. Of a
-  /// view whose content has alignment insets it is the layout rectangle.
+  /// In the superview. Showing the view replaces it by the frame of the layout. Of a view whose
+  /// content has alignment insets it is the layout rectangle.
   const layout::Rect& frame() const { return frame_; }
   void setFrame(const layout::Rect& frame);
   layout::Rect bounds() const { return {{}, frame_.size}; }
-  /// Whether the frame alone says where the view is, and constraints nothing.
+  /// Whether the frame places the view, and constraints do not.
   bool translatesAutoresizingMaskIntoConstraints() const { return translatesMask_; }
   void setTranslatesAutoresizingMaskIntoConstraints(bool translates);
 
@@ -69,17 +68,17 @@ class QUORIX_EXPORT UIView : public std::enable_shared_from_this<UIView> {
   NSLayoutAnchor bottomAnchor() { return anchor(LayoutAttribute::bottom); }
   NSLayoutAnchor widthAnchor() { return anchor(LayoutAttribute::width); }
   NSLayoutAnchor heightAnchor() { return anchor(LayoutAttribute::height); }
-  /// In force, between this view and its subviews or among them.
+  /// The active ones between this view and its subviews or among them.
   const std::vector<NSLayoutConstraint>& constraints() const { return constraints_; }
 
-  // Looks.
+  // Appearance.
 
-  /// Null paints nothing.
+  /// Null for none.
   const UIColor::Ref& backgroundColor() const { return backgroundColor_; }
   void setBackgroundColor(UIColor::Ref color);
   bool isHidden() const { return hidden_; }
   void setHidden(bool hidden);
-  /// Whether the view promises to cover what is behind it.
+  /// Whether the view covers its frame completely.
   bool isOpaque() const { return opaque_; }
   void setOpaque(bool opaque);
   CALayer& layer() { return layer_; }
@@ -87,54 +86,50 @@ class QUORIX_EXPORT UIView : public std::enable_shared_from_this<UIView> {
 
   // Touch.
 
-  /// Off, neither this view nor anything in it is touched.
+  /// When false, neither this view nor its subviews take touches.
   bool isUserInteractionEnabled() const { return userInteractionEnabled_; }
   void setUserInteractionEnabled(bool enabled);
   void addGestureRecognizer(std::shared_ptr<UITapGestureRecognizer> recognizer);
   const std::vector<std::shared_ptr<UITapGestureRecognizer>>& gestureRecognizers() const {
     return gestureRecognizers_;
   }
-  /// The top-most view under `point`, in this view's coordinates: the deepest one, later subviews
-  /// before earlier ones. Null outside, in hidden views and in those that are not touched. Frames
-  /// are those of the latest layout.
-  std::shared_ptr<UIView> hitTest(layout::Point point);
 
   // Assistive technology.
 
-  /// Absent, the content speaks for itself.
+  /// Absent: the content's label.
   const std::optional<std::string>& accessibilityLabel() const { return accessibilityLabel_; }
   void setAccessibilityLabel(std::optional<std::string> label);
   UIAccessibilityTraits accessibilityTraits() const { return accessibilityTraits_; }
   void setAccessibilityTraits(UIAccessibilityTraits traits);
 
-  // For what lays out and shows views.
+  // For layout and display.
 
-  /// The name of its type, for whoever prints views.
+  /// The name of its type, for printed views.
   virtual std::string_view className() const { return "UIView"; }
 
-  /// The size that the content has of its own, broken to `width` where that is given; nothing when
-  /// there is no content.
+  /// The content's natural size; with `width`, that of a text broken to it. Absent without content.
   virtual std::optional<layout::Size> intrinsicContentSize(std::optional<double> width,
                                                            const LayoutContext& context) const;
-  /// Appends what this view shows below its subviews: here, its background. `frame` is exact, in
-  /// the scene's coordinates, and so are the items' frames.
+  /// Appends the items of this view, which lie below its subviews: here, the background. `frame`
+  /// and the items' frames are exact, not rounded to pixels, in the display list's coordinates.
   virtual void draw(const layout::Rect& frame, const LayoutContext& context,
                     std::vector<render::Item>& items) const;
-  /// What the content says to assistive technology, in `language` where it has no words of its own;
-  /// nothing when there is nothing to say.
+  /// The content's element for assistive technology, or absent. A label that the content does not
+  /// bring itself is in `language`.
   virtual std::optional<render::AccessibilityElement> describe(std::string_view language) const;
-  /// The place that a layout gave it: no change that anybody is told of.
+  /// Sets the frame of a layout, without a notice of change.
   void layOutAt(const layout::Rect& frame) { frame_ = frame; }
 
-  /// Tells whoever shows this view that its size or looks may have changed.
+  /// Notifies the owner set by `setShownBy` that the size or appearance may have changed.
   void setNeedsLayout() const;
-  /// `owner` shows this view from now on, in place of an earlier one, and is told of changes.
+  /// Makes `owner` the one that shows this view, in place of an earlier one; changes call
+  /// `changed`.
   void setShownBy(const void* owner, std::function<void()> changed);
-  /// Does nothing when somebody else shows the view by now.
+  /// No effect when another owner shows the view by now.
   void endShownBy(const void* owner);
 
  protected:
-  /// The constructor's default of views that are not touched unless they are told otherwise.
+  /// For constructors of views that take no touches by default.
   void startUntouched() { userInteractionEnabled_ = false; }
 
  private:

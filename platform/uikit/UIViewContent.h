@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
 #include "platform/foundation/Export.h"
 #include "platform/render/HostedContent.h"
@@ -8,8 +9,10 @@
 
 namespace quorix::uikit {
 
-/// Shows a view, with all that is in it, as a scene. One content at a time shows a view: the latest
-/// one that took it. Main thread.
+class UIViewController;
+
+/// Makes the display list of a view and its subviews. Only the latest content made for a view is
+/// told of its changes. Main thread.
 class QUORIX_EXPORT UIViewContent : public render::HostedContent {
  public:
   explicit UIViewContent(std::shared_ptr<UIView> view);
@@ -21,8 +24,8 @@ class QUORIX_EXPORT UIViewContent : public render::HostedContent {
   /// Shows another view.
   void show(std::shared_ptr<UIView> view);
 
-  /// What constraints and content ask for, within the proposal; what they leave open is taken
-  /// whole.
+  /// The size that constraints and content ask for, within the proposal. A length that they leave
+  /// open is the proposed one.
   layout::Size sizeThatFits(layout::ProposedSize proposal, text::TextEngine& engine,
                             double scale) override;
   render::Scene scene(layout::Size size, const render::Display& display,
@@ -30,6 +33,26 @@ class QUORIX_EXPORT UIViewContent : public render::HostedContent {
 
  private:
   std::shared_ptr<UIView> view_;
+};
+
+/// Makes the display list of a controller's view, which fills the offered size. Loads the view at
+/// the first call of `scene`. Main thread.
+class UIViewControllerContent final : public render::HostedContent {
+ public:
+  explicit UIViewControllerContent(std::shared_ptr<UIViewController> controller);
+
+  const std::shared_ptr<UIViewController>& controller() const { return controller_; }
+  /// Shows another controller.
+  void show(std::shared_ptr<UIViewController> controller);
+
+  layout::Size sizeThatFits(layout::ProposedSize proposal, text::TextEngine& engine,
+                            double scale) override;
+  render::Scene scene(layout::Size size, const render::Display& display,
+                      text::TextEngine& engine) override;
+
+ private:
+  std::shared_ptr<UIViewController> controller_;
+  std::optional<UIViewContent> content_;  // once the view is loaded
 };
 
 }  // namespace quorix::uikit

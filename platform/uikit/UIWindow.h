@@ -10,21 +10,19 @@
 namespace quorix::uikit {
 
 /// A window of the app. A surface makes one for each window of its toolkit, with a root controller,
-/// puts it into a scene, and shows what is presented over the root as sheets. Hidden until it is
-/// told otherwise. Main thread.
+/// adds it to a scene, and shows the controllers presented over the root as sheets. Hidden by
+/// default. Main thread.
 class QUORIX_EXPORT UIWindow final : public UIView {
  public:
   using Level = double;
   static constexpr Level normalLevel = 0;
-  static constexpr Level statusBarLevel = 1000;
-  static constexpr Level alertLevel = 2000;
 
-  /// Whoever shows the window.
+  /// Shows the window's controllers; a surface.
   class Client {
    public:
     virtual ~Client() = default;
-    /// `presentedControllers()` is another list: show it. May come while a controller is presented
-    /// or dismissed by what the client itself does.
+    /// Show `presentedControllers()`, which changed. May be called inside a call of the client that
+    /// presents or dismisses a controller.
     virtual void presentedControllersChanged(UIWindow& window, bool animated) = 0;
   };
 
@@ -32,19 +30,19 @@ class QUORIX_EXPORT UIWindow final : public UIView {
   ~UIWindow() override;
   std::string_view className() const override { return "UIWindow"; }
 
-  /// Null for none; must outlive the window or be taken away.
+  /// Null for none. Must outlive the window or be reset.
   void setClient(Client* client) { client_ = client; }
 
   const std::shared_ptr<UIViewController>& rootViewController() const { return root_; }
-  /// A root that another window has leaves that one.
+  /// Removes the root from another window that has it.
   void setRootViewController(std::shared_ptr<UIViewController> root);
-  /// What stands over the root, the lowest first.
+  /// The controllers over the root, the lowest first.
   std::vector<std::shared_ptr<UIViewController>> presentedControllers() const;
 
-  /// Whether the keyboard is this window's: of one in the process.
+  /// Whether this is the process's one window with the keyboard focus.
   bool isKeyWindow() const;
   void makeKey();
-  /// When the window is no longer what keys go to, and no other one has taken over.
+  /// Call when the window lost the keyboard focus and no other window got it.
   void resignKey();
   void makeKeyAndVisible();
 

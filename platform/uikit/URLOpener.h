@@ -7,22 +7,27 @@
 
 namespace quorix::uikit {
 
-/// The port to the system's way of opening an address outside the app: the browser for a page, the
-/// telephone for a number. The engine installs one; a host or a test may install another after it.
-/// Main thread.
+/// The port to the system's handler of addresses: the browser for a page, the telephone for a
+/// number. The engine installs one; a host or a test may install another after it. Main thread.
 ///
 ///     URLOpener::install(std::make_shared<MyOpener>());
 ///     const bool handedOver = URLOpener::openOutside(url);
 class QUORIX_EXPORT URLOpener {
  public:
   virtual ~URLOpener() = default;
-  /// Opens `url`, which `opensOutside` allows. Whether anything shows is up to the system.
+  /// Opens `url`, which `openOutside` has checked. Whether a window shows is up to the system.
   virtual void open(const foundation::URL& url) = 0;
 
-  /// Replaces the opener, by none when null; returns the one before, for a test to put back.
+  /// Replaces the opener; null removes it. Returns the previous one, so that a test can restore it.
   static std::shared_ptr<URLOpener> install(std::shared_ptr<URLOpener> opener);
-  /// Hands `url` to the opener. False, and nothing happens, where `opensOutside` refuses it or no
-  /// opener is installed.
+  /// Hands `url` to the opener. Returns false when the address is refused or no opener is
+  /// installed.
+  ///
+  /// A page can ask for this without a tap, so it must not reach local files, scripts, pages of a
+  /// browser's or the system's own, or disks and shells of other machines: those schemes are
+  /// refused. So are a web address without a host, a mail with items other than recipients, subject
+  /// and text, and a telephone number with characters that set up a telephone. Any other address
+  /// passes, links into other apps included ("whatsapp:").
   static bool openOutside(const foundation::URL& url);
 };
 

@@ -41,7 +41,7 @@ LayoutRelation flipped(LayoutRelation relation) {
   return relation;
 }
 
-/// Collects the constraints in force on `view` and its subviews as rules along one axis.
+/// Collects the active constraints of `view` and its subviews as rules along one axis.
 class RuleReader {
  public:
   RuleReader(const UIView& view, Axis axis, LayoutDirection direction)
@@ -60,8 +60,8 @@ class RuleReader {
     const auto attribute = constraint.firstAttribute;
     const int first = indexOf(constraint.firstItem.lock().get());
     const bool alone = !constraint.secondAttribute;
-    const int second = alone ? AxisRule::nobody : indexOf(constraint.secondItem.lock().get());
-    const bool gone = first == AxisRule::nobody || (!alone && second == AxisRule::nobody);
+    const int second = alone ? AxisRule::none : indexOf(constraint.secondItem.lock().get());
+    const bool gone = first == AxisRule::none || (!alone && second == AxisRule::none);
     if (gone || !isAlong(axis_, attribute)) return;
     const bool reads =
         attribute == LayoutAttribute::leading || attribute == LayoutAttribute::trailing;
@@ -77,7 +77,7 @@ class RuleReader {
     const auto& views = view_.subviews();
     const auto found = std::find_if(views.begin(), views.end(),
                                     [item](const auto& view) { return view.get() == item; });
-    return found == views.end() ? AxisRule::nobody : 1 + static_cast<int>(found - views.begin());
+    return found == views.end() ? AxisRule::none : 1 + static_cast<int>(found - views.begin());
   }
 
   const UIView& view_;
@@ -85,7 +85,7 @@ class RuleReader {
   LayoutDirection direction_;
 };
 
-/// A length that the view's own constraint fixes, whatever is in it.
+/// The length that the view's own constraint sets, regardless of its content.
 std::optional<double> fixedLength(const UIView& view, LayoutAttribute attribute) {
   for (const NSLayoutConstraint& constraint : view.constraints()) {
     const bool own = !constraint.secondAttribute && constraint.firstItem.lock().get() == &view;
@@ -128,7 +128,7 @@ void ViewLayout::layOut(UIView& view, const layout::Rect& frame) const {
 
 ViewLayout::Length ViewLayout::naturalWidth(const UIView& view) const {
   if (const auto content = view.intrinsicContentSize(std::nullopt, context_)) return content->width;
-  // The mirror image is as wide.
+  // The width is the same in both reading directions.
   const RuleReader reader(view, Axis::horizontal, LayoutDirection::leftToRight);
   return fittingExtent(itemsAcross(view), reader.rules);
 }

@@ -7,17 +7,17 @@
 
 namespace quorix::uikit {
 
-/// Sizes and places views by their constraints and their content: across first, then down, since a
-/// text's height follows from its width. Main thread.
+/// Sizes and places views by their constraints and their content: widths first, because a text's
+/// height depends on its width. Main thread.
 class ViewLayout {
  public:
   explicit ViewLayout(const LayoutContext& context) : context_(context) {}
 
-  /// The size that `view` chooses when offered `proposal`: its content's, or what its constraints
-  /// ask for. What neither says is taken from the proposal, and at last from its frame.
+  /// The size of `view` for `proposal`: of its content or by its constraints. A length that neither
+  /// sets is the proposed one, or else that of its frame.
   layout::Size sizeThatFits(const UIView& view, layout::ProposedSize proposal) const;
 
-  /// Gives `view` its frame, and all in it theirs.
+  /// Sets the frame of `view` and lays out its subviews.
   void layOut(UIView& view, const layout::Rect& frame) const;
 
  private:

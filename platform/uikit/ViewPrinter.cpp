@@ -9,7 +9,7 @@
 namespace quorix::uikit {
 namespace {
 
-using render::number;
+using render::points;
 using render::quoted;
 
 std::string describe(const UIColor& color) {
@@ -17,7 +17,7 @@ std::string describe(const UIColor& color) {
                               : quoted(color.name());
 }
 
-/// Constraints join a view and its subviews, of which there may be several of one class.
+/// The class; of a subview also its index, because several may have one class.
 std::string nameIn(const UIView& holder, const UIView& item) {
   std::string name(item.className());
   if (&item == &holder) return name;
@@ -32,7 +32,7 @@ std::string end(const UIView& holder, const UIView& item, LayoutAttribute attrib
   return nameIn(holder, item) + '.' + std::string(names[static_cast<int>(attribute)]);
 }
 
-/// Empty for one whose views are gone.
+/// Empty when a view of the constraint no longer exists.
 std::string describe(const UIView& holder, const NSLayoutConstraint& constraint) {
   constexpr std::string_view relations[] = {" = ", " <= ", " >= "};
   const auto first = constraint.firstItem.lock();
@@ -41,10 +41,10 @@ std::string describe(const UIView& holder, const NSLayoutConstraint& constraint)
   std::string text = end(holder, *first, constraint.firstAttribute);
   text += relations[static_cast<int>(constraint.relation)];
   const double constant = constraint.constant;
-  if (!constraint.secondAttribute) return text + number(constant);
+  if (!constraint.secondAttribute) return text + points(constant);
   text += end(holder, *second, *constraint.secondAttribute);
   if (constant == 0) return text;
-  return text + (constant < 0 ? " - " : " + ") + number(std::abs(constant));
+  return text + (constant < 0 ? " - " : " + ") + points(std::abs(constant));
 }
 
 std::string looks(const UIView& view) {
@@ -60,7 +60,7 @@ std::string looks(const UIView& view) {
   if (view.backgroundColor()) text += " background " + describe(*view.backgroundColor());
   const CALayer& layer = view.layer();
   if (layer.borderWidth() > 0) {
-    text += " border " + number(layer.borderWidth());
+    text += " border " + points(layer.borderWidth());
     if (layer.borderColor()) text += ' ' + describe(*layer.borderColor());
   }
   if (view.isHidden()) text += " hidden";
@@ -76,7 +76,7 @@ void print(const UIView& view, std::size_t depth, std::string& to) {
   const layout::Rect& frame = view.frame();
   std::string head(view.className());
   for (const double length : {frame.left(), frame.top(), frame.size.width, frame.size.height}) {
-    head += ' ' + number(length);
+    head += ' ' + points(length);
   }
   line(depth, head + looks(view));
   for (const NSLayoutConstraint& constraint : view.constraints()) {

@@ -7,8 +7,8 @@
 
 namespace quorix::uikit {
 
-/// `view` and all in it, in words: of each its class, its frame in its superview as of the latest
-/// layout, in points, and what it shows; then its constraints, and its subviews from the lowest to
+/// Prints `view` and its subviews: of each the class, the frame in its superview as of the latest
+/// layout, in points, and the content; then its constraints, and its subviews from the lowest to
 /// the top-most. Main thread.
 ///
 ///     UIView 0 0 343 80 background "WidgetBackground"

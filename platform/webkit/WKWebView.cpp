@@ -1,11 +1,9 @@
 #include "platform/webkit/WKWebView.h"
 
-#include <utility>
-
 namespace quorix::webkit {
 namespace {
 
-/// What an opaque web view shows before its page has painted.
+/// Shown by an opaque web view until its page has painted.
 constexpr graphics::RGBA blankPage = {255, 255, 255, 255};
 
 }  // namespace
@@ -20,38 +18,25 @@ WKWebView::WKWebView(layout::Rect frame, const WKWebViewConfiguration& configura
     const auto kept = weak_from_this().lock();
     WKNavigationAction action;
     if (url) action.request = foundation::URLRequest{*url};
-    if (const auto delegate = uiDelegate()) delegate->webView(*this, configuration_, action, {});
+    if (const auto delegate = uiDelegate_.lock()) {
+      delegate->webView(*this, configuration_, action, {});
+    }
+  };
+  content_->onProcessEnded = [this] {
+    const auto kept = weak_from_this().lock();
+    if (const auto delegate = navigationDelegate_.lock()) {
+      delegate->webViewWebContentProcessDidTerminate(*this);
+    }
   };
 }
 
-/// An engine may hold the page longer than this view.
+/// The engine may outlive this view and still hold the content.
 WKWebView::~WKWebView() {
-  content_->onNewWindow = [](const auto&) {};
+  content_->onNewWindow = nullptr;
+  content_->onProcessEnded = nullptr;
 }
 
-void WKWebView::load(const foundation::URLRequest& request) { content_->load(request.url); }
-
-void WKWebView::setNavigationDelegate(std::weak_ptr<WKNavigationDelegate> delegate) {
-  navigationDelegate_ = std::move(delegate);
-}
-
-void WKWebView::setUIDelegate(std::weak_ptr<WKUIDelegate> delegate) {
-  uiDelegate_ = std::move(delegate);
-}
-
-std::shared_ptr<WKNavigationDelegate> WKWebView::navigationDelegate() const {
-  return navigationDelegate_.lock();
-}
-
-std::shared_ptr<WKUIDelegate> WKWebView::uiDelegate() const { return uiDelegate_.lock(); }
-
-bool WKWebView::allowsBackForwardNavigationGestures() const {
-  return content_->settings.allowsBackForwardNavigationGestures;
-}
-
-void WKWebView::setAllowsBackForwardNavigationGestures(bool allows) {
-  content_->settings.allowsBackForwardNavigationGestures = allows;
-}
+void WKWebView::load(const foundation::URLRequest& request) { content_->load(request); }
 
 void WKWebView::draw(const layout::Rect& frame, const uikit::LayoutContext& context,
                      std::vector<render::Item>& items) const {

@@ -1,18 +1,64 @@
 #pragma once
 
 #include <memory>
+#include <optional>
+#include <utility>
 
 #include "platform/foundation/URLRequest.h"
 #include "platform/uikit/UIView.h"
-#include "platform/webkit/WKNavigationDelegate.h"
-#include "platform/webkit/WKUIDelegate.h"
-#include "platform/webkit/WKWebViewConfiguration.h"
 #include "platform/webkit/WebContent.h"
 
 namespace quorix::webkit {
 
-/// A view that shows a web page, by the engine that the surface attaches to its content. The
-/// delegates are held weakly. Main thread.
+class WKWebView;
+
+struct WKWebpagePreferences {
+  bool allowsContentJavaScript = true;
+};
+
+struct WKPreferences {
+  /// Scripts may ask for windows without a gesture of the user.
+  bool javaScriptCanOpenWindowsAutomatically = false;
+};
+
+/// Settings of a web view. The view copies them: later changes have no effect.
+struct WKWebViewConfiguration {
+  WKWebpagePreferences defaultWebpagePreferences;
+  WKPreferences preferences;
+};
+
+/// The address that a page asks for.
+struct WKNavigationAction {
+  std::optional<foundation::URLRequest> request;  ///< absent: a window without an address
+};
+
+/// The size and the bars that a script asks for. Not passed on.
+struct WKWindowFeatures {};
+
+/// Receives what happens to a web view's page. Main thread.
+class WKNavigationDelegate {
+ public:
+  virtual ~WKNavigationDelegate() = default;
+
+  /// The process of the page crashed or was killed: the view stays empty until the next load.
+  virtual void webViewWebContentProcessDidTerminate(WKWebView&) {}
+};
+
+/// Answers what a page asks of the app. Main thread.
+class WKUIDelegate {
+ public:
+  virtual ~WKUIDelegate() = default;
+
+  /// The page, or a script on it, asks for a new window. Return null: a returned view does not get
+  /// the page, because new windows open outside the app only. Without a delegate none opens.
+  virtual std::shared_ptr<WKWebView> webView(WKWebView& webView,
+                                             const WKWebViewConfiguration& createWebViewWith,
+                                             const WKNavigationAction& forAction,
+                                             const WKWindowFeatures& windowFeatures) = 0;
+};
+
+/// A view that shows a web page. The surface attaches a web engine to its content. Holds the
+/// delegates weakly. Main thread.
 ///
 ///     auto web = std::make_shared<WKWebView>(view->bounds(), WKWebViewConfiguration{});
 ///     web->load({*foundation::URL::parse("https://shop.example/")});
@@ -23,17 +69,17 @@ class WKWebView final : public uikit::UIView {
 
   void load(const foundation::URLRequest& request);
 
-  void setNavigationDelegate(std::weak_ptr<WKNavigationDelegate> delegate);
-  void setUIDelegate(std::weak_ptr<WKUIDelegate> delegate);
-  std::shared_ptr<WKNavigationDelegate> navigationDelegate() const;
-  std::shared_ptr<WKUIDelegate> uiDelegate() const;
+  void setNavigationDelegate(std::weak_ptr<WKNavigationDelegate> delegate) {
+    navigationDelegate_ = std::move(delegate);
+  }
+  void setUIDelegate(std::weak_ptr<WKUIDelegate> delegate) { uiDelegate_ = std::move(delegate); }
 
-  bool allowsBackForwardNavigationGestures() const;
   /// Before the page is shown.
-  void setAllowsBackForwardNavigationGestures(bool allows);
-  const WKWebViewConfiguration& configuration() const { return configuration_; }
+  void setAllowsBackForwardNavigationGestures(bool allows) {
+    content_->settings.allowsBackForwardNavigationGestures = allows;
+  }
 
-  /// The page, for engines. Never null.
+  /// The page, for web engines. Never null.
   const std::shared_ptr<WebContent>& content() const { return content_; }
 
   std::string_view className() const override { return "WKWebView"; }

@@ -2,47 +2,70 @@
 
 #include <functional>
 #include <optional>
+#include <utility>
 
+#include "platform/foundation/Action.h"
 #include "platform/foundation/Export.h"
-#include "platform/foundation/URL.h"
+#include "platform/foundation/URLRequest.h"
 #include "platform/render/Embed.h"
+#include "platform/webkit/PageRules.h"
 
 namespace quorix::webkit {
 
-/// A web page as an engine shows it: what to load and how, and what the page asks of the app. The
-/// web view of the imperative toolkit owns it; the surface that shows it attaches an engine, which
-/// may come after the first load and go before the page does. Main thread.
+/// A web page for a web engine: its address, its settings, and what it asks of the app. `WKWebView`
+/// owns it. The surface attaches an engine, which may come after the first load and may end before
+/// the page. Main thread.
 class QUORIX_EXPORT WebContent final : public render::Embed {
  public:
   struct Settings {
     bool allowsContentJavaScript = true;
-    /// Scripts may ask for windows without the user's gesture.
+    /// Scripts may ask for windows without a gesture of the user.
     bool javaScriptCanOpenWindowsAutomatically = false;
     bool allowsBackForwardNavigationGestures = false;
   };
   Settings settings;
 
-  /// The page, or a script on it, asks for a new window with this address (absent: with none).
+  /// Called when the page, or a script on it, asks for a new window with this address (absent: with
+  /// none) and `NewWindowLimit` allows it.
   std::function<void(const std::optional<foundation::URL>&)> onNewWindow;
+  /// Called when the engine's process for this page crashed or was killed.
+  foundation::Action onProcessEnded;
 
-  /// Loads `url`: now when an engine is attached, otherwise when one is.
-  void load(foundation::URL url) {
-    url_ = std::move(url);
-    if (loader_) loader_(*url_);
+  /// Loads `request`: at once when an engine is attached, otherwise as soon as one is. The engine
+  /// stops the load when no byte arrives for the request's `timeoutInterval`.
+  void load(foundation::URLRequest request) {
+    request_ = std::move(request);
+    if (loader_) loader_(*request_);
   }
-  /// The address of the latest load.
-  const std::optional<foundation::URL>& url() const { return url_; }
+  /// The latest load.
+  const std::optional<foundation::URLRequest>& request() const { return request_; }
+  std::optional<foundation::URL> url() const {
+    return request_ ? std::optional(request_->url) : std::nullopt;
+  }
 
-  /// For engines: `loader` performs the latest load, if there was one, and every later one.
-  void attach(std::function<void(const foundation::URL&)> loader) {
+  /// For engines: `loader` runs for the latest load, if there was one, and for every later one.
+  void attach(std::function<void(const foundation::URLRequest&)> loader) {
     loader_ = std::move(loader);
-    if (loader_ && url_) loader_(*url_);
+    if (loader_ && request_) loader_(*request_);
   }
   void detach() { loader_ = nullptr; }
 
+  /// For engines: the page asks for a new window. `byUser`: a gesture of the user caused it. May
+  /// delete this object.
+  void askForWindow(const std::optional<foundation::URL>& url, bool byUser) {
+    if (url && !limit_.allows(*url, byUser, NewWindowLimit::Clock::now())) return;
+    const auto answer = onNewWindow;
+    if (answer) answer(url);
+  }
+  /// For engines: the page's process ended. May delete this object.
+  void processEnded() {
+    if (onProcessEnded) onProcessEnded();
+  }
+
  private:
-  std::optional<foundation::URL> url_;
-  std::function<void(const foundation::URL&)> loader_;
+  std::optional<foundation::URLRequest> request_;
+  std::function<void(const foundation::URLRequest&)> loader_;
+  NewWindowLimit limit_;
 };
 
 }  // namespace quorix::webkit

@@ -1,5 +1,6 @@
 #include "qt/qml/ScoreWidget.h"
 
+#include "QuorixWidgets/data/TokenData.h"
 #include "QuorixWidgets/score/ScoreWidgetBuilder.h"
 
 namespace quorix::qml {
@@ -9,7 +10,15 @@ void ScoreWidget::setClientId(const QString& clientId) {
 }
 
 void ScoreWidget::setToken(const QString& token) {
-  if (replace(token_, token)) emit tokenChanged();
+  if (token_ == token) return;
+  // Signed anew, the same figures are the same widget: an open sheet stays open.
+  const auto figures = [](const QString& text) { return parseTokenData(text.toStdString()); };
+  if (isComponentComplete() && figures(token_) == figures(token)) {
+    token_ = token;
+  } else {
+    replace(token_, token);
+  }
+  emit tokenChanged();
 }
 
 swiftui::View ScoreWidget::widget() const {

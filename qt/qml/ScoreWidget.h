@@ -15,7 +15,8 @@ class ScoreWidget : public quorix::qml::WidgetItem {
   /// The retailer's.
   Q_PROPERTY(QString clientId READ clientId WRITE setClientId RESET resetClientId NOTIFY
                  clientIdChanged FINAL)
-  /// The shopper's, as the widget service issued it.
+  /// The shopper's, as the widget service issued it. Another token with the same figures leaves the
+  /// widget as it is, and its sheet open.
   Q_PROPERTY(QString token READ token WRITE setToken RESET resetToken NOTIFY tokenChanged FINAL)
 
  public:

@@ -67,7 +67,7 @@ bool QuickAccessibleSurface::isShown() const {
 
 bool QuickAccessibleSurface::isCovered() const {
   const SheetItem* sheet = item_.window() ? SheetItem::topmost(*item_.window()) : nullptr;
-  return sheet && sheet != &item_;
+  return sheet && sheet->liesOver(&item_);
 }
 
 }  // namespace quorix::qt

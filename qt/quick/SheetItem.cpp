@@ -2,6 +2,7 @@
 
 #include <QCursor>
 #include <QQuickWindow>
+#include <algorithm>
 
 #include "qt/AccessibilityBridge.h"
 #include "qt/FocusRing.h"
@@ -17,20 +18,31 @@ namespace {
 /// Above what pages stack, below the pop-ups of the Controls, which may be asked for over a sheet.
 constexpr double kStacking = 1'000'000;
 
+/// Above `opener` too, which may be in one of these pop-ups, and above every other sheet.
+double stackingOver(const QQuickWindow& window, const QQuickItem* opener) {
+  double z = kStacking;
+  for (const QQuickItem* item : window.contentItem()->childItems()) {
+    if (qobject_cast<const SheetItem*>(item)) z = std::max(z, item->z());
+    const bool holds = opener && (item == opener || item->isAncestorOf(opener));
+    if (holds) z = std::max(z, item->z() + 1);
+  }
+  return z;
+}
+
 QRectF toRect(const layout::Rect& rect) {
   return {rect.left(), rect.top(), rect.size.width, rect.size.height};
 }
 
 }  // namespace
 
-SheetItem::SheetItem(QQuickWindow& window)
+SheetItem::SheetItem(QQuickWindow& window, const QQuickItem* opener)
     : QQuickItem(window.contentItem()),
       SheetSurface(static_cast<QObject&>(*this), QStringLiteral("QuorixWebQuick")),
       QuickAccessibleSurface(static_cast<QQuickItem&>(*this)),
       layers_(*this) {
   setFlag(ItemHasContents);
   setFlag(ItemIsFocusScope);
-  setZ(kStacking);
+  setZ(stackingOver(window, opener));
   setAcceptedMouseButtons(Qt::AllButtons);
   setAcceptTouchEvents(true);
   setAcceptHoverEvents(true);
@@ -41,6 +53,9 @@ SheetItem::SheetItem(QQuickWindow& window)
   connect(content, &QQuickItem::widthChanged, this, fill);
   connect(content, &QQuickItem::heightChanged, this, fill);
   fill();
+  // On a later turn: the focus is still moving.
+  connect(&window, &QQuickWindow::activeFocusItemChanged, this, &SheetItem::holdFocus,
+          Qt::QueuedConnection);
   // On a later turn: rendering may be on another thread, and may hold this one.
   connect(
       &window, &QQuickWindow::frameSwapped, this,
@@ -65,8 +80,13 @@ double SheetItem::scale() const { return window() ? window()->effectiveDevicePix
 
 void SheetItem::takeFocusOver() {
   focusBefore_ = window()->activeFocusItem();
+  if (z() > kStacking) window()->installEventFilter(this);
   forceActiveFocus(Qt::PopupFocusReason);
   offer();
+}
+
+SheetSurface* SheetItem::makeSheetAbove() {
+  return window() ? new SheetItem(*window(), this) : nullptr;
 }
 
 void SheetItem::giveFocusBack() {
@@ -80,6 +100,17 @@ void SheetItem::giveFocusBack() {
   } else {
     setFocus(false, Qt::PopupFocusReason);
   }
+}
+
+/// The host may have led it to what lies below. What lies above, such as a pop-up, keeps it.
+void SheetItem::holdFocus() {
+  if (isClosed() || !isPresented() || !window() || topmost(*window()) != this) return;
+  if (liesOver(window()->activeFocusItem())) forceActiveFocus(Qt::PopupFocusReason);
+}
+
+bool SheetItem::liesOver(const QQuickItem* item) const {
+  while (item && item->parentItem() != parentItem()) item = item->parentItem();
+  return item && item != this && item->z() <= z();
 }
 
 void SheetItem::itemChange(ItemChange change, const ItemChangeData& data) {
@@ -180,6 +211,15 @@ void SheetItem::takeFocusFromPages() {
 void SheetItem::hoverMoveEvent(QHoverEvent* event) {
   const auto shape = takesTapAt(event->position()) ? Qt::PointingHandCursor : Qt::ArrowCursor;
   if (cursor().shape() != shape) setCursor(shape);
+}
+
+/// A modal pop-up of the Controls keeps the wheel from all that is not in it, also from a page in
+/// this sheet above it: the window gets the wheel first.
+bool SheetItem::eventFilter(QObject* watched, QEvent* event) {
+  const bool wheel = watched == window() && event->type() == QEvent::Wheel;
+  if (!wheel || isClosed() || topmost(*window()) != this) return false;
+  watched->event(event);
+  return true;
 }
 
 bool SheetItem::event(QEvent* event) { return handle(*event) || QQuickItem::event(event); }

@@ -12,20 +12,24 @@
 
 namespace quorix::qt {
 
-/// A sheet over a Qt Quick window: on top of everything and as large as the window. Belongs to the
-/// window's content, and deletes itself when it has closed. Main thread.
+/// A sheet over a Qt Quick window: as large as the window, above what opened it with all that this
+/// stands in. Belongs to the window's content, and deletes itself when it has closed. Main thread.
 class SheetItem : public QQuickItem, public SheetSurface, private QuickAccessibleSurface {
   Q_OBJECT
 
  public:
-  explicit SheetItem(QQuickWindow& window);
+  /// `opener` may be null.
+  SheetItem(QQuickWindow& window, const QQuickItem* opener);
   ~SheetItem() override;
 
   /// The sheet of `window` that takes the input, or null.
   static const SheetItem* topmost(const QQuickWindow& window);
+  /// Whether `item` of its window stands below it, unlike a pop-up that came later.
+  bool liesOver(const QQuickItem* item) const;
 
  protected:
   bool event(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void itemChange(ItemChange change, const ItemChangeData& data) override;
   void geometryChange(const QRectF& now, const QRectF& before) override;
   void updatePolish() override;
@@ -43,7 +47,9 @@ class SheetItem : public QQuickItem, public SheetSurface, private QuickAccessibl
   void needsFrame() override { polish(); }
   void takeFocusOver() override;
   void giveFocusBack() override;
+  void holdFocus();
   void vanish() override { setVisible(false); }
+  SheetSurface* makeSheetAbove() override;
 
   void placePage(QObject& view, const layout::Rect& frame, int index) override;
   void focusPage(QObject& view, bool forward) override;

@@ -4,6 +4,7 @@
 #include <QQuickWindow>
 #include <cmath>
 
+#include "platform/render/ScenePart.h"
 #include "qt/AccessibilityBridge.h"
 #include "qt/FocusRing.h"
 #include "qt/Picture.h"
@@ -26,10 +27,15 @@ struct ViewNode : QSGTransformNode {
   PictureNode* ring = new PictureNode;
 };
 
+bool covers(const layout::Rect& whole, const layout::Rect& part) {
+  return part.left() >= whole.left() && part.right() <= whole.right() &&
+         part.top() >= whole.top() && part.bottom() <= whole.bottom();
+}
+
 }  // namespace
 
 ViewSurface::ViewSurface(ViewItem& item)
-    : HostedView(item), QuickAccessibleSurface(item), item_(item) {
+    : HostedView(item), QuickAccessibleSurface(item), item_(item), layoutPlace_(item) {
   AccessibilityBridge::instance()->add(item, *this);
 }
 
@@ -52,13 +58,26 @@ void ViewSurface::takeFocusByPress() {
   if (item_.activeFocusOnTab()) item_.forceActiveFocus(Qt::MouseFocusReason);
 }
 
+void ViewSurface::giveFocusOn() {
+  const QPointer<ViewItem> item = &item_;  // what hears of the focus may delete it
+  QQuickItem* next = item->nextItemInFocusChain(true);
+  if (next && next != item && next->activeFocusOnTab()) {
+    next->forceActiveFocus(Qt::TabFocusReason);
+  } else {
+    item->setFocus(false, Qt::TabFocusReason);
+  }
+  if (item && !item->hasActiveFocus()) item->setActiveFocusOnTab(false);
+}
+
 void ViewSurface::needsFrame() { item_.polish(); }
 
 WindowScene* ViewSurface::windowScene() {
   QQuickWindow* window = item_.window();
   if (!window) return nullptr;
-  return &WindowScene::of(
-      *window, {[window] { return window; }, [window] { return new SheetItem(*window); }});
+  const auto makeSheet = [window](const QObject& opener) {
+    return new SheetItem(*window, qobject_cast<const QQuickItem*>(&opener));
+  };
+  return &WindowScene::of(*window, {[window] { return window; }, makeSheet});
 }
 
 // Surroundings.
@@ -79,6 +98,7 @@ void ViewSurface::parentChanged() {
   QQuickWindow* window = item_.parentItem() ? item_.window() : nullptr;
   watcher_ = window ? &WindowWatcher::of(*window) : nullptr;
   if (watcher_) watcher_->add(*this, *item_.parentItem());
+  if (!idealStale_) layoutPlace_.follow(ideal_ == layout::Size{});
 }
 
 void ViewSurface::onScreenChanged() {
@@ -113,6 +133,7 @@ void ViewSurface::updateImplicitSize() {
   const bool hasWidth = item_.widthValid() && item_.width() > 0;
   const double height =
       hasWidth ? host().sizeThatFits({item_.width(), std::nullopt}).height : ideal_.height;
+  layoutPlace_.follow(ideal_ == layout::Size{});
   fitting_ = true;
   item_.setImplicitSize(ideal_.width, height);
   fitting_ = false;
@@ -139,11 +160,17 @@ void ViewSurface::placeMayHaveChanged() {
   if (item_.isVisible() && place()) item_.polish();
 }
 
-/// Returns whether the item came into the viewport or left it.
+/// Returns whether the item came into the viewport or left it, or has to be painted in another
+/// part.
 bool ViewSurface::place() {
   const QTransform toWindow = item_.itemTransform(nullptr, nullptr);
-  const QRectF bounds = toWindow.mapRect(QRectF(0, 0, item_.width(), item_.height()));
-  const bool inside = bounds.intersects(WindowWatcher::viewportOf(item_));
+  const QRectF whole(0, 0, item_.width(), item_.height());
+  const QRectF viewport = WindowWatcher::viewportOf(item_);
+  const bool inside = toWindow.mapRect(whole).intersects(viewport);
+  const QRectF seen = toWindow.inverted().mapRect(viewport).intersected(whole);
+  seen_ = {{seen.left(), seen.top()}, {seen.width(), seen.height()}};
+  const bool leftPart = inside && painted_ && !covers(part_, seen_) && part_ != partToPaint();
+  pictureStale_ = pictureStale_ || leftPart;
   QPointF offset;
   if (toWindow.type() <= QTransform::TxTranslate) {
     const double pixel = 1 / scale();
@@ -152,7 +179,11 @@ bool ViewSurface::place() {
   }
   if (inside && painted_ && offset != offset_) item_.update();
   offset_ = offset;
-  return std::exchange(inViewport_, inside) != inside;
+  return std::exchange(inViewport_, inside) != inside || leftPart;
+}
+
+layout::Rect ViewSurface::partToPaint() const {
+  return render::partToPaint(size(), seen_, scale());
 }
 
 // Frame.
@@ -181,13 +212,21 @@ void ViewSurface::refreshScene() {
   sceneStale_ = false;
   pictureStale_ = true;
   host().scene(size());
-  item_.setActiveFocusOnTab(host().actingElements() > 0);
+  const bool acts = host().actingElements() > 0;
+  if (acts || !item_.hasActiveFocus()) {
+    item_.setActiveFocusOnTab(acts);
+  } else if (item_.activeFocusOnTab()) {
+    leaveFocus();
+  }
   ViewAccessible::sceneChanged(item_);
 }
 
 void ViewSurface::updatePicture() {
   pictureStale_ = false;
-  picture_ = paintPicture(host().scene(size()), scale(), {0, 0, 0, 0});
+  part_ = partToPaint();
+  const render::Scene& scene = host().scene(size());
+  const bool whole = part_.size == scene.size;
+  picture_ = paintPicture(whole ? scene : render::partOf(scene, part_), scale(), {0, 0, 0, 0});
   painted_ = !picture_.isNull();
   ring_.reset();  // its colour and scale go with the picture's
   item_.update();
@@ -216,7 +255,7 @@ QSGNode* ViewSurface::paint(QSGNode* old) {
     QMetaObject::invokeMethod(
         &item_, [this] { pictureStale_ = true, item_.polish(); }, Qt::QueuedConnection);
   }
-  node->picture->setOrigin(offset_);
+  node->picture->setOrigin(offset_ + QPointF(part_.left(), part_.top()));
   if (!ring_) {
     node->ring->setPicture(window, {});
   } else if (!ringPicture_.isNull()) {

@@ -4,6 +4,7 @@
 #include <QRectF>
 
 #include "qt/HostedView.h"
+#include "qt/quick/LayoutPlace.h"
 #include "qt/quick/QuickAccessibleSurface.h"
 #include "qt/quick/WindowWatcher.h"
 
@@ -40,6 +41,7 @@ class ViewSurface final : public HostedView,
   double scale() const override;
   bool hasFocus() const override;
   void takeFocusByPress() override;
+  void giveFocusOn() override;
   void needsFrame() override;
   WindowScene* windowScene() override;
 
@@ -58,15 +60,19 @@ class ViewSurface final : public HostedView,
   void updateImplicitSize();
   void refreshScene();
   bool place();
+  layout::Rect partToPaint() const;
   void updatePicture();
   void updateRing();
 
   ViewItem& item_;
   WindowWatcher* watcher_ = nullptr;
+  LayoutPlace layoutPlace_;
 
   layout::Size ideal_;
-  QPointF offset_;  ///< from the item's corner to the whole device pixel next to it
-  QImage picture_;  ///< only on its way to the scene graph
+  QPointF offset_;     ///< from the item's corner to the whole device pixel next to it
+  layout::Rect seen_;  ///< the part of the item in the viewport
+  layout::Rect part_;  ///< the part of the item that its picture shows
+  QImage picture_;     ///< only on its way to the scene graph
   QImage ringPicture_;
   std::optional<layout::Rect> ring_;
 

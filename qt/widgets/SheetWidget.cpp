@@ -196,7 +196,8 @@ bool SheetWidget::hasPageFocus() const {
 }
 
 void SheetWidget::takeFocusFromPages() {
-  if (hasPageFocus()) setFocus(Qt::OtherFocusReason);
+  // A page whose process ended may have taken the window's focus with it.
+  if (hasPageFocus() || !window()->focusWidget()) setFocus(Qt::OtherFocusReason);
 }
 
 void SheetWidget::resizeEvent(QResizeEvent*) { windowResized(); }
@@ -231,9 +232,17 @@ bool SheetWidget::event(QEvent* event) {
 bool SheetWidget::eventFilter(QObject* watched, QEvent* event) {
   if (watched == parentWidget() && !isClosed()) {
     if (event->type() == QEvent::Resize) setGeometry(parentWidget()->rect());
-    if (event->type() == QEvent::ChildAdded) raise();  // over what comes later, too
+    if (event->type() == QEvent::ChildAdded && topmost(*parentWidget()) == this) raiseAll();
   }
   return QWidget::eventFilter(watched, event);
+}
+
+/// All of the window's sheets, in their order, over what comes later, too.
+void SheetWidget::raiseAll() {
+  const auto sheets = parentWidget()->findChildren<SheetWidget*>(Qt::FindDirectChildrenOnly);
+  for (SheetWidget* sheet : sheets) {
+    if (sheet->isPresented()) sheet->raise();
+  }
 }
 
 void SheetWidget::pointAt(QPointF point) {

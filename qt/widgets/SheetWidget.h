@@ -48,6 +48,7 @@ class SheetWidget : public QWidget, public SheetSurface, private WidgetAccessibl
   void takeFocusOver() override;
   void giveFocusBack() override;
   void vanish() override { hide(); }
+  SheetSurface* makeSheetAbove() override { return new SheetWidget(*parentWidget()); }
 
   void placePage(QObject& view, const layout::Rect& frame, int index) override;
   void focusPage(QObject& view, bool forward) override;
@@ -63,6 +64,7 @@ class SheetWidget : public QWidget, public SheetSurface, private WidgetAccessibl
   bool isDialog() const override { return true; }
 
   void windowResized();
+  void raiseAll();
   void settle();
   void updatePanel();
   void updateLayers();

@@ -64,10 +64,16 @@ void WidgetSurface::takeFocusByPress() {
   if (widget_.focusPolicy() != Qt::NoFocus) widget_.setFocus(Qt::MouseFocusReason);
 }
 
+void WidgetSurface::giveFocusOn() {
+  const QPointer<ViewWidget> widget = &widget_;  // what hears of the focus may delete it
+  if (!widget->focusNextPrevChild(true)) widget->clearFocus();
+  if (widget && !widget->hasFocus()) widget->setFocusPolicy(Qt::NoFocus);
+}
+
 WindowScene* WidgetSurface::windowScene() {
   QWidget* window = widget_.window();
   return &WindowScene::of(*window, {[window] { return window->windowHandle(); },
-                                    [window] { return new SheetWidget(*window); }});
+                                    [window](auto&) { return new SheetWidget(*window); }});
 }
 
 // Place.
@@ -159,7 +165,12 @@ void WidgetSurface::settle() {
 void WidgetSurface::refreshScene() {
   sceneStale_ = false;
   host().scene(size());
-  widget_.setFocusPolicy(host().actingElements() > 0 ? Qt::TabFocus : Qt::NoFocus);
+  const bool acts = host().actingElements() > 0;
+  if (acts || !widget_.hasFocus()) {
+    widget_.setFocusPolicy(acts ? Qt::TabFocus : Qt::NoFocus);
+  } else if (widget_.focusPolicy() != Qt::NoFocus) {
+    leaveFocus();
+  }
   ViewAccessible::sceneChanged(widget_);
   widget_.update();
 }

@@ -41,6 +41,7 @@ class WidgetSurface final : public HostedView, private WidgetAccessibleSurface {
   double scale() const override;
   bool hasFocus() const override;
   void takeFocusByPress() override;
+  void giveFocusOn() override;
   void needsFrame() override;
   WindowScene* windowScene() override;
 

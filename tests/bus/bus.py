@@ -43,12 +43,16 @@ def enter(locale):
 
 
 def until(condition, what, seconds=30):
-    """What `condition` says once it says something; asked again after each event from the bus."""
+    """What `condition` says once it says something; asked again after each event from the bus, and
+    when an element that it asks about goes in the meantime."""
     from gi.repository import GLib
     context = GLib.MainContext.default()
     end = time.monotonic() + seconds
     while True:
-        said = condition()
+        try:
+            said = condition()
+        except GLib.Error:
+            said = None
         if said:
             return said
         if time.monotonic() > end:

@@ -3,7 +3,6 @@
 #include "Vectors.h"
 #include "platform/foundation/Bundle.h"
 #include "platform/graphics/AssetContents.h"
-#include "platform/graphics/ColorComponents.h"
 
 namespace quorix::graphics {
 
@@ -12,7 +11,7 @@ namespace {
 using foundation::Bundle;
 using foundation::Data;
 
-TEST(ColorComponents, EverySpellingAndNothingElse) {
+TEST(AssetContents, ReadsColorsInEverySpellingAndNothingElse) {
   forEachRow("color_components", [](simdjson::dom::element row) {
     const auto color = makeColor(ColorSpace::sRGB, text(row, "red"), "0", "0", text(row, "alpha"));
     ASSERT_EQ(color.has_value(), !row["color"].is_null());

@@ -32,12 +32,10 @@ TEST(Base64, EncodesWhatItDecodes) {
   EXPECT_EQ(encodeBase64("\xFB\xFF"), "+/8=");
 }
 
-TEST(Base64, TakesTheURLSafeAlphabetWhenAsked) {
-  using quorix::foundation::Base64Alphabet;
-  EXPECT_EQ(decodeBase64("-_8=+/8", Base64Alphabet::either), std::nullopt);
-  EXPECT_EQ(decodeBase64("-/8=", Base64Alphabet::either), "\xFB\xFF");
-  EXPECT_EQ(decodeBase64("+_8=", Base64Alphabet::either), "\xFB\xFF");
-  EXPECT_EQ(decodeBase64("-/8="), std::nullopt);
+TEST(Base64, TakesTheURLSafeAlphabetToo) {
+  EXPECT_EQ(decodeBase64("-_8=+/8"), std::nullopt);
+  EXPECT_EQ(decodeBase64("-/8="), "\xFB\xFF");
+  EXPECT_EQ(decodeBase64("+_8="), "\xFB\xFF");
 }
 
 }  // namespace

@@ -1,8 +1,6 @@
-#include "platform/text/BaseDirection.h"
+#include "platform/text/TextAnalysis.h"
 
 #include <gtest/gtest.h>
-
-#include "platform/text/UnspacedWords.h"
 
 namespace quorix::text {
 namespace {

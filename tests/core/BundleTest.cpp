@@ -84,6 +84,11 @@ TEST_P(BundleTest, NothingOutsideIsReached) {
   EXPECT_THAT(bundle_->folders("../inside2"), IsEmpty());
 }
 
+TEST(BundleOfFiles, AFolderOutlivesIt) {
+  const auto folder = Bundle::of({{"a/longer/than/a/short/string.txt", Data("text")}})->folder("a");
+  EXPECT_EQ(folder->data("longer/than/a/short/string.txt").value(), Data("text"));
+}
+
 INSTANTIATE_TEST_SUITE_P(Kinds, BundleTest, ::testing::Bool(),
                          [](const auto& kind) { return kind.param ? "Folder" : "Embedded"; });
 

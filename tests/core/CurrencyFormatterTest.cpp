@@ -1,6 +1,9 @@
 #include <gmock/gmock.h>
 
 #include <thread>
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 #include "Vectors.h"
 #include "platform/foundation/CurrencyFormatter.h"
@@ -54,6 +57,20 @@ TEST(CurrencyFormatter, WritesSomethingForAnyLocale) {
     }
   }
 }
+
+#ifdef __GLIBC__
+TEST(CurrencyFormatter, KeepsNothingOfTextsThatAreNoCode) {
+  const auto inUse = [] { return mallinfo2().uordblks + mallinfo2().hblkhd; };
+  const std::string megabyte(1'000'000, 'x');
+  EXPECT_EQ(CurrencyFormatter({"en", megabyte}).text(4), CurrencyFormatter({"en", "x"}).text(4));
+  const std::size_t before = inUse();
+  for (int i = 0; i < 10; ++i) {
+    EXPECT_TRUE(CurrencyFormatter({"en", megabyte + std::to_string(i)}).text(4));
+    EXPECT_TRUE(CurrencyFormatter({megabyte + std::to_string(i), "EUR"}).text(4));
+  }
+  EXPECT_LT(inUse(), before + megabyte.size());
+}
+#endif
 
 TEST(ConcurrentCurrencyFormatter, IsSharedByThreads) {
   std::vector<std::thread> threads;

@@ -3,7 +3,9 @@
 #include "QuorixWidgets/localization/Font.h"
 #include "platform/graphics/AssetCatalog.h"
 #include "platform/graphics/FontManager.h"
+#include "platform/swiftui/TreePrinter.h"
 #include "tests/core/FreshProcess.h"
+#include "tests/core/InfoWidgets.h"
 #include "tests/core/MemoryBundle.h"
 
 namespace quorix {
@@ -38,9 +40,69 @@ TEST_F(FontsDeathTest, TheBrandFamilyComesAsAWhole) {
       (registered() == Names{"TovaSansLatin-Regular", "TovaSansLatin-SemiBold"}));
 }
 
+foundation::Data fileOf(std::string_view name) {
+  return graphics::dataSet(libraryBundle(), "Fonts/" + std::string(name)).value();
+}
+
+/// The host registers its own file of that name: the library's and a byte more.
 void takeName(std::string_view name) {
-  const auto data = graphics::dataSet(libraryBundle(), "Fonts/" + std::string(name));
-  FontManager::shared().registerGraphicsFont(GraphicsFont::fromData(*data).value());
+  const foundation::Data own(std::string(fileOf(name).text()) + '\0');
+  FontManager::shared().registerGraphicsFont(GraphicsFont::fromData(own).value());
+}
+
+// A shop that has registered a face by one of our names goes on in its own face.
+TEST_F(FontsDeathTest, AFaceThatTheHostRegisteredStays) {
+  EXPECT_IN_FRESH_PROCESS(
+      (takeName("Saans-Medium"),
+       QuorixFont::medium().name() == "Saans-Medium" && registered() == Names{"Saans-Medium"} &&
+           FontManager::shared().data("Saans-Medium") != fileOf("Saans-Medium")));
+  EXPECT_IN_FRESH_PROCESS(
+      (takeName("TovaSansLatin-SemiBold"), TovaFont::regular(),
+       registered() == Names{"TovaSansLatin-SemiBold", "TovaSansLatin-Regular"}));
+}
+
+TEST_F(FontsDeathTest, AFaceOfTheSystemsOwnIsNoRegistration) {
+  EXPECT_IN_FRESH_PROCESS(
+      (FontManager::shared().setSystemLookup([](std::string_view) { return true; }),
+       QuorixFont::regular().name() == "Saans-Regular" && registered() == Names{"Saans-Regular"}));
+}
+
+TEST_F(FontsDeathTest, TheToolkitIsToldOfEachFaceOnce) {
+  EXPECT_IN_FRESH_PROCESS(([] {
+    Names told;
+    FontManager::shared().setRegistrationObserver([&](const GraphicsFont& face) {
+      EXPECT_EQ(FontManager::shared().data(face.postScriptName()), face.data());
+      told.push_back(face.postScriptName());
+    });
+    TovaFont::regular();
+    QuorixFont::medium();
+    return told == registered() && told.size() == 3 &&
+           !FontManager::shared().registerGraphicsFont(FontManager::shared().faces()[0]) &&
+           told.size() == 3;
+  }()));
+}
+
+// Whatever else the process has shown: a row of its own for each.
+TEST_F(FontsDeathTest, AnInfoWidgetReadsTheSemiBoldFaceWhereItsTextNeedsIt) {
+  const Names both{"Saans-Regular", "Saans-Medium"};
+  const struct {
+    const char* of;
+    std::optional<double> percentile;
+    SwiftUIStyleConfiguration style;
+    Names registered;
+  } rows[] = {
+      {"the figure of the general title", {}, {}, both},
+      {"a personal title's bold start", 12, {}, both},
+      {"nothing", 40, {}, {"Saans-Regular"}},
+      {"a bold start in our face", 12, {{}, "Host-Bold", {}, false}, both},
+      {"a bold start in the host's", 12, {"Host-Regular", "Host-Bold", {}, false}, {}},
+  };
+  for (const auto& row : rows) {
+    EXPECT_IN_FRESH_PROCESS(
+        (swiftui::printTree(InfoWidgetView{testing::infoModel("en", row.style, row.percentile)}),
+         registered() == row.registered))
+        << row.of;
+  }
 }
 
 TEST_F(FontsDeathTest, AFaceThatCannotBeRegisteredStopsTheProcess) {
@@ -52,8 +114,6 @@ TEST_F(FontsDeathTest, AFaceThatCannotBeRegisteredStopsTheProcess) {
          {folder + "Saans-Medium.dataset/Contents.json", R"({"data":[{"filename":"f.otf"}]})"},
          {folder + "Saans-Medium.dataset/f.otf", bytes}});
   };
-  EXPECT_DEATH((takeName("Saans-Medium"), QuorixFont::medium()), kStop);
-  EXPECT_DEATH((takeName("TovaSansLatin-SemiBold"), TovaFont::regular()), kStop);
   EXPECT_DEATH((testing::replaceLibraryBundle(testing::memoryBundle({})), QuorixFont::medium()),
                kStop);
   EXPECT_DEATH((testing::replaceLibraryBundle(broken("no font")), QuorixFont::medium()), kStop);

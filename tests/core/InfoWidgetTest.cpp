@@ -3,7 +3,7 @@
 #include <string>
 
 #include "QuorixWidgets/info/InfoWidgetBuilder.h"
-#include "QuorixWidgets/localization/Color.h"
+#include "QuorixWidgets/localization/Assets.h"
 #include "platform/swiftui/TreePrinter.h"
 #include "tests/core/InfoWidgets.h"
 #include "tests/core/OtherResources.h"

@@ -2,7 +2,7 @@
 
 #include <sstream>
 
-#include "platform/layout/Layout.h"
+#include "platform/layout/PixelGrid.h"
 #include "tests/core/LayoutCase.h"
 #include "tests/core/TestWindow.h"
 

@@ -2,8 +2,8 @@
 
 #include <thread>
 
-#include "QuorixWidgets/localization/BuiltInTranslations.h"
 #include "QuorixWidgets/localization/LocalizationRepository.h"
+#include "QuorixWidgets/localization/Translations.h"
 #include "platform/foundation/MainQueue.h"
 #include "tests/core/ScoreWidgets.h"
 

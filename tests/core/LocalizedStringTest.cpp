@@ -1,4 +1,4 @@
-#include "QuorixWidgets/localization/LocalizedString.h"
+#include "QuorixWidgets/localization/Strings.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -8,7 +8,6 @@
 #include <filesystem>
 #include <fstream>
 
-#include "QuorixWidgets/localization/StringTableProblem.h"
 #include "platform/foundation/StringsFile.h"
 #include "tests/core/OtherResources.h"
 #include "tests/core/Vectors.h"

@@ -5,11 +5,8 @@
 #include <thread>
 #include <vector>
 
-#include "QuorixWidgets/localization/Color.h"
-#include "QuorixWidgets/localization/ColorResource.h"
+#include "QuorixWidgets/localization/Assets.h"
 #include "QuorixWidgets/localization/Font.h"
-#include "QuorixWidgets/localization/ImageResource.h"
-#include "QuorixWidgets/localization/UIColor.h"
 #include "platform/graphics/AssetCatalog.h"
 #include "platform/graphics/FontManager.h"
 #include "tests/core/FreshProcess.h"
@@ -74,10 +71,29 @@ TEST_F(ResourcesDeathTest, WithoutALibraryBundleTheHostsMainBundleAnswers) {
                                UIColor::widgetBackground() && resourceBundle()));
 }
 
-TEST_F(ResourcesDeathTest, AHostsEarlierRegistrationStands) {
+TEST_F(ResourcesDeathTest, AHostsRegistrationIsFoundByIdentifierAndNotBySymbol) {
   const auto live = testing::memoryBundle({});
   EXPECT_IN_FRESH_PROCESS((Bundle::registerBundle(kResourceBundleIdentifier, live),
-                           libraryBundle() == live && resourceBundle() == live));
+                           libraryBundle() == live && resourceBundle() == Bundle::embedded() &&
+                               ImageResource::close().bundle == Bundle::embedded()));
+}
+
+/// One red for what is looked up by identifier and for what has a symbol; the rest is the
+/// library's.
+TEST_F(ResourcesDeathTest, AThemeLiesOverAllResources) {
+  const std::string red = R"({"colors": [{"idiom": "universal", "color": {"components":
+      {"red": "1.0", "green": "0", "blue": "0", "alpha": "1"}}}]})";
+  const auto theme =
+      testing::memoryBundle({{"Assets.xcassets/Background.colorset/Contents.json", red},
+                             {"Assets.xcassets/Grey1.colorset/Contents.json", red}});
+  const auto shown = [](const swiftui::Color& color) { return color.resolve(Appearance::dark); };
+  const auto grey1 = [&] { return shown(swiftui::Color(ColorResource::grey1())); };
+  const auto grey2 = [&] { return shown(swiftui::Color(ColorResource::grey2())); };
+  EXPECT_IN_FRESH_PROCESS((setTheme(theme), shown(Color::widgetBackground()) == RGBA{255, 0, 0} &&
+                                                grey1() == RGBA{255, 0, 0} &&
+                                                grey2() == color("Grey2", Appearance::dark)));
+  EXPECT_IN_FRESH_PROCESS(
+      (setTheme(theme), setTheme(nullptr), grey1() == color("Grey1", Appearance::dark)));
 }
 
 TEST(ConcurrentResources, FirstReadsFromManyThreadsAgree) {

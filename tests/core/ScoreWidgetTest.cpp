@@ -116,8 +116,13 @@ swiftui::View build(const char* clientId, const char* locale, const char* shoppe
 }
 
 TEST(ScoreWidgetBuilder, GivesTheEmptyBranchForWhatItCannotUse) {
+  constexpr const char* absurdScore =
+      "h.eyJkYXRhIjp7InNjb3JlIjoxZTE4LCJmZWVfY3VycmVuY3kiOiJFVVIiLCJiYXNlX2ZlZV9hbW91bnQiOjQ5OSwi"
+      "ZGlzY291bnRlZF9mZWVfYW1vdW50IjoyOTl9fQ.s";
+  ASSERT_EQ(parseTokenData(absurdScore), (TokenData{1e18, "EUR", 499, 299}));
   const std::vector<std::pair<const char*, const char*>> rows = {
-      {"shop", ""}, {"", ""}, {"shop", "h"}, {"shop", "h.e30.s"}, {"", token}};
+      {"shop", ""},        {"", ""},    {"shop", "h"},
+      {"shop", "h.e30.s"}, {"", token}, {"shop", absurdScore}};
   for (const auto& [clientId, shopperToken] : rows) {
     const auto view = build(clientId, "en", shopperToken);
     EXPECT_EQ(swiftui::printTree(view), "Conditional(false)\n  EmptyView\n");

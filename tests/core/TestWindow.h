@@ -120,6 +120,7 @@ class TestWindow final : public hosting::ViewHost::Client, public hosting::Sheet
     sheet->present(*presentation);
   }
   void sheetNeedsDisplay() override {}
+  void sheetPresentationChanged() override {}
   void sheetDidClose() override { sheet.reset(); }
 };
 

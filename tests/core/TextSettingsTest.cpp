@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "platform/foundation/TextCasing.h"
 #include "platform/swiftui/ContentSizeCategory.h"
 #include "tests/core/TestWindow.h"
 #include "tests/core/Vectors.h"
@@ -71,27 +70,16 @@ TEST(Text, ItsOwnLooksWinTheFirstOneWrittenFirst) {
       << json;
 }
 
-TEST(TextCasing, FollowsTheLanguage) {
-  forEachRow("casing", [](simdjson::dom::element row) {
-    const std::string language = ::text(row, "language");
-    EXPECT_EQ(foundation::uppercased(::text(row, "text"), language), ::text(row, "upper"));
-    EXPECT_EQ(foundation::lowercased(::text(row, "text"), language), ::text(row, "lower"));
-  });
-  EXPECT_EQ(foundation::uppercased("a\xFFz", "xx"), "A\uFFFDZ");
-  EXPECT_EQ(foundation::lowercased("A\xFFZ", "xx"), "a\uFFFDz");
-}
-
 TEST(TextCase, ShowsTheUsersCapitalsAndLeavesWhatIsReadOutAlone) {
   swiftui::Environment turkish;
   turkish.language = "tr";
   const View outer = View(Text::verbatim("ibis"))
                          .textCase(swiftui::TextCase::uppercase)
-                         .textCase(swiftui::TextCase::lowercase)
                          .accessibilityLabel(Text::verbatim("ibis"));
   TestWindow window(outer, turkish);
   EXPECT_NO_THROW(window.element("ibis"));
   const auto& shown = std::get<render::TextItem>(window.shown().items.at(0));
-  EXPECT_EQ(shown.text.runs.at(0).text, "İBİS") << "the innermost wins";
+  EXPECT_EQ(shown.text.runs.at(0).text, "İBİS");
 }
 
 }  // namespace

@@ -49,12 +49,19 @@ TEST(TokenData, TellsTheStepThatRefused) {
   });
 }
 
-TEST(TokenData, ReadsAPayloadOfAnySize) {
+TEST(TokenData, HasABoundOnATokensLength) {
   const std::string payload =
       "{\"data\":{\"score\":1,\"fee_currency\":\"EUR\",\"base_fee_amount\":1,"
       "\"discounted_fee_amount\":0,\"x\":\"" +
-      std::string(5'000'000, 'x') + "\"}}";
-  EXPECT_EQ(parseTokenData(tokenWith(payload)), (TokenData{1, "EUR", 1, 0}));
+      std::string(40'000, 'x') + "\"}}";
+  std::string token = tokenWith(payload);
+  token.resize(quorix::longestToken, 's');  // the signature
+  EXPECT_EQ(parseTokenData(token), (TokenData{1, "EUR", 1, 0}));
+  const quorix::TokenReading tooLong = TokenRefusal::tooLong;
+  EXPECT_EQ(quorix::readToken(token + 's'), tooLong);
+  // Nor is a byte of it looked at: there are no more than two.
+  const char* volatile text = "h.";
+  EXPECT_EQ(quorix::readToken({text, std::size_t{1} << 40}), tooLong);
 }
 
 }  // namespace

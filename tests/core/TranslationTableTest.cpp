@@ -1,5 +1,4 @@
-#include "QuorixWidgets/localization/BuiltInTranslations.h"
-#include "QuorixWidgets/localization/TranslationTableReader.h"
+#include "QuorixWidgets/localization/Translations.h"
 #include "Vectors.h"
 
 using quorix::readTranslationTable;

@@ -2,14 +2,17 @@
 
 #include <gtest/gtest.h>
 
+#include <deque>
 #include <map>
+#include <utility>
 
 #include "QuorixWidgets/info/InfoTitle.h"
 #include "QuorixWidgets/info/InfoWidgetBuilder.h"
-#include "QuorixWidgets/info/UIApplication.h"
 #include "QuorixWidgets/overlay/WebViewController.h"
 #include "platform/swiftui/UIViewRepresentable.h"
-#include "platform/uikit/UIWindowScene.h"
+#include "platform/uikit/UIApplication.h"
+#include "platform/uikit/UIScene.h"
+#include "platform/uikit/UIWindow.h"
 #include "platform/uikit/ViewPrinter.h"
 #include "tests/core/OtherResources.h"
 #include "tests/core/TestWindow.h"
@@ -53,7 +56,7 @@ struct App {
         const auto window = std::make_shared<uikit::UIWindow>();
         if (kind.key) window->makeKey();
         window->setHidden(kind.hidden);
-        if (kind.high) window->setWindowLevel(uikit::UIWindow::alertLevel);
+        if (kind.high) window->setWindowLevel(uikit::UIWindow::normalLevel + 1);
         scene->addWindow(window);
       }
       uikit::UIApplication::shared().connect(scene);
@@ -136,6 +139,27 @@ TEST(UIInfoWidget, FollowsItsModelWithoutKeepingItself) {
   shown.reset();
   EXPECT_TRUE(watched.expired());
   MainQueue::drain();
+}
+
+TEST(UIInfoWidget, ShowsTitlesOneByOne) {
+  const auto model =
+      std::make_shared<UIInfoWidgetViewModel>(std::nullopt, "en", UIKitStyleConfiguration{});
+  std::deque<MainQueue::Work> turns;
+  MainQueue::install([&](MainQueue::Work work) { turns.push_back(std::move(work)); });
+  const auto shown = UIInfoWidget::make(model);
+  model->titleText = uikit::NSAttributedString("First");
+  model->titleText = uikit::NSAttributedString("Second");
+  std::vector<std::string> seen;
+  while (!turns.empty()) {
+    std::exchange(turns.front(), nullptr)();
+    turns.pop_front();
+    const std::string views = uikit::printViews(*shown);
+    seen.push_back(views.find("\"First\"") != views.npos    ? "First"
+                   : views.find("\"Second\"") != views.npos ? "Second"
+                                                            : "the model's");
+  }
+  MainQueue::install({});
+  EXPECT_EQ(seen, (std::vector<std::string>{"the model's", "First", "Second"}));
 }
 
 TEST(UIInfoWidget, PresentsTheOverlayOverTheTopmostScreen) {

@@ -5,6 +5,7 @@
 
 using quorix::UserDetails;
 using quorix::foundation::DecodingError;
+namespace foundation = quorix::foundation;
 using Kind = DecodingError::Kind;
 using Keys = UserDetails::CodingKeys;
 
@@ -30,6 +31,20 @@ void expectReading(simdjson::dom::element row) {
 TEST(UserDetails, DecodesAsPhonesDo) { forEachRow("users", expectReading); }
 
 TEST(UserDetails, TheFirstReadThatFailsIsTheError) { forEachRow("users_own", expectReading); }
+
+TEST(UserDetails, DecodesFromARecordInsideADocument) {
+  foundation::JSONDocument document;
+  const auto read = document.parse(
+      R"({"shoppers": [7, {"item_return_rate": 0.2, "item_return_percentile": 35,
+                           "return_rate_trend": -0.05}], "item_return_rate": 1})");
+  const auto& top = std::get<foundation::JSONValue>(read);
+  const auto shoppers = top.member("shoppers")->elements();
+  EXPECT_EQ(std::get<UserDetails>(UserDetails::decode(shoppers[1])), (UserDetails{0.2, -0.05, 35}));
+  EXPECT_EQ(std::get<DecodingError>(UserDetails::decode(shoppers[0])),
+            (DecodingError{Kind::typeMismatch, ""}));
+  EXPECT_EQ(std::get<DecodingError>(UserDetails::decode(top)),
+            (DecodingError{Kind::keyNotFound, "item_return_percentile"}));
+}
 
 TEST(UserDetails, KeysAreTheirTextsExactly) {
   for (const Keys key : {Keys::returnRate, Keys::returnPercentile, Keys::returnRateTrend}) {

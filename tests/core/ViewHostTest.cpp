@@ -1,10 +1,12 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <utility>
 #include <vector>
 
-#include "platform/foundation/LocalizedString.h"
 #include "platform/swiftui/Elements.h"
+#include "platform/swiftui/Represented.h"
+#include "tests/core/MemoryBundle.h"
 #include "tests/core/ScoreWidgets.h"
 #include "tests/core/TestWindow.h"
 
@@ -13,6 +15,7 @@ namespace {
 
 using swiftui::Text;
 using swiftui::View;
+using testing::memoryBundle;
 using testing::scoreModel;
 using testing::scoreView;
 using testing::TestWindow;
@@ -22,6 +25,31 @@ View key(std::string& log, const std::string& letter, double size) {
   return View(Text::verbatim(letter)).frame(size, size).onTapGesture([&log, letter] {
     log += letter;
   });
+}
+
+/// Tells of a change while it is shown for the first time, as a view that loads its content does.
+class LateContent final : public render::HostedContent {
+ public:
+  layout::Size sizeThatFits(layout::ProposedSize, text::TextEngine&, double) override {
+    return {10, 10};
+  }
+  render::Scene scene(layout::Size size, const render::Display&, text::TextEngine&) override {
+    if (!std::exchange(loaded_, true)) tellChanged();
+    const graphics::RGBA color = {0, 0, 0, static_cast<std::uint8_t>(++shown_)};
+    return {size, {}, {render::FillItem{{{}, size}, color}}, {}, {}};
+  }
+
+ private:
+  bool loaded_ = false;
+  int shown_ = 0;
+};
+
+TEST(ViewHost, ContentMayChangeWhileItIsShown) {
+  const View late = swiftui::represented({"Late", [] { return std::make_shared<LateContent>(); }});
+  TestWindow window(late.padding(4).onTapGesture([] {}), {}, {20, 20});
+  const auto& fill = std::get<render::FillItem>(window.shown().items.at(0));
+  EXPECT_EQ(fill.color.alpha, 2);  // what came of the change
+  EXPECT_EQ(window.shown().hitAreas.size(), 1);
 }
 
 TEST(ViewHostInput, ATapIsAPressAndAReleaseOnOneArea) {
@@ -128,14 +156,38 @@ TEST(ViewHosts, AreEvaluatedOnceOnAScreenAndSparinglyInLongLists) {
 }
 
 TEST(ScoreWidgetAccessibility, TheHostsStringTableIsAskedFirst) {
-  foundation::setMainStringTable([](std::string_view sought) -> std::optional<std::string> {
-    if (sought != "%@ %@ %@, %@ %@") return std::nullopt;
-    return "%5$@ %-10y%4$10.2@; %3$@ %2$@ (%1$@) 100%%%6$@";
-  });
+  const std::string entry =
+      "\"%@ %@ %@, %@ %@\" = \"%5$@ %-10y%4$10.2@; %3$@ %2$@ (%1$@) 100%%%6$@\";";
+  foundation::Bundle::setMain(memoryBundle({{"en.lproj/Localizable.strings", entry}}));
   TestWindow discounted(scoreView(true)), plain(scoreView(false));
   EXPECT_EQ(discounted.labels(), "€4.00 Original; €2.00 Discounted (Your return fee) 100%(null)");
   EXPECT_EQ(plain.labels(), "Your return fee €4.00");
-  foundation::setMainStringTable({});
+  foundation::Bundle::setMain(nullptr);
+}
+
+TEST(HostsStringTable, IsTheOneOfTheUsersLanguage) {
+  struct Row {
+    const char *language, *label;
+  };
+  const auto heard = [](const std::string& language) {
+    swiftui::Environment settings;
+    settings.language = language;
+    return TestWindow(swiftui::Text::localized("%@ %@", {"fee", "4"}), settings).labels();
+  };
+  foundation::Bundle::setMain(
+      memoryBundle({{"pt-BR.lproj/Localizable.strings", "\"%@ %@\" = \"br %2$@ %1$@\";"},
+                    {"pt.lproj/Localizable.strings", "\"%@ %@\" = \"pt %2$@ %1$@\";"},
+                    {"es.lproj/Localizable.strings", "other = x;"},
+                    {"en.lproj/Localizable.strings", "\"%@ %@\" = \"en %2$@ %1$@\";"}}));
+  for (const auto& [language, label] : {Row{"pt-BR", "br 4 fee"}, Row{"pt-PT", "pt 4 fee"},
+                                        Row{"es", "en 4 fee"}, Row{"", "en 4 fee"}}) {
+    EXPECT_EQ(heard(language), label);
+  }
+  foundation::Bundle::setMain(
+      memoryBundle({{"Localizable.strings", "\"%@ %@\" = \"any %2$@ %1$@\";"}}));
+  EXPECT_EQ(heard("es"), "any 4 fee");
+  foundation::Bundle::setMain(nullptr);
+  EXPECT_EQ(heard("es"), "fee 4");
 }
 
 }  // namespace

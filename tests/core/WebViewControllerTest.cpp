@@ -2,6 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <optional>
+#include <stdexcept>
+#include <string>
+
 #include "platform/swiftui/UIViewControllerRepresentable.h"
 #include "tests/core/OpenedAddresses.h"
 #include "tests/core/ShownPage.h"
@@ -25,6 +30,7 @@ TEST(WebViewController, ShowsItsPageAndCloseControl) {
   const webkit::WebContent& page = shownContent(window.shown());
   EXPECT_EQ(page.url().value().absoluteString(),
             "https://widget.quorix.example/users/details/?lang=no");
+  EXPECT_EQ(page.request()->timeoutInterval, std::chrono::seconds(60));
   EXPECT_TRUE(page.settings.allowsContentJavaScript);
   EXPECT_TRUE(page.settings.javaScriptCanOpenWindowsAutomatically);
   EXPECT_TRUE(page.settings.allowsBackForwardNavigationGestures);
@@ -40,21 +46,78 @@ TEST(WebViewController, ShowsItsPageAndCloseControl) {
   EXPECT_EQ(root->presentedViewController(), nullptr);
 }
 
+TEST(WebViewController, IsMadeInThreeWays) {
+  const auto bundle = foundation::Bundle::embedded();
+  const auto plain = std::make_shared<WebViewController>();
+  const auto named = std::make_shared<WebViewController>("Page", bundle);
+  EXPECT_EQ(plain->nibName(), std::nullopt);
+  EXPECT_EQ(named->nibName(), "Page");
+  EXPECT_EQ(named->nibBundle(), bundle);
+  for (const auto& overlay : {plain, named, WebViewController::initWithCoder()}) {
+    EXPECT_FALSE(overlay->token || overlay->userName || overlay->locale);
+    TestWindow window(swiftui::hosting(overlay));
+    EXPECT_EQ(render::printFrames(window.shown()), "embed 0 0 320 640 #FFFFFFFF\n");
+    EXPECT_EQ(shownContent(window.shown()).url().value().absoluteString(),
+              "https://modules.quorix.example/html/overlays/info?lang");
+  }
+}
+
 TEST(WebViewController, NewWindowsLeaveTheApp) {
   const quorix::testing::OpenedAddresses opened;
   auto overlay = std::make_shared<WebViewController>();
   const auto web =
       std::dynamic_pointer_cast<webkit::WKWebView>(overlay->view()->subviews().front());
   const auto page = web->content();
-  page->onNewWindow(foundation::URL::parse("https://shop.example/terms"));
-  page->onNewWindow(foundation::URL::parse("file:///etc/passwd"));
-  page->onNewWindow(std::nullopt);
+  page->askForWindow(foundation::URL::parse("https://shop.example/terms"), true);
+  page->askForWindow(foundation::URL::parse("file:///etc/passwd"), true);
+  page->askForWindow(std::nullopt, true);
   EXPECT_EQ(opened.list(), std::vector<std::string>{"https://shop.example/terms"});
 
   // The page may outlive its controller in an engine, and asks nobody then.
   const std::weak_ptr<WebViewController> watched = overlay;
   overlay.reset();
   EXPECT_TRUE(watched.expired()) << "the web view keeps nobody";
-  page->onNewWindow(foundation::URL::parse("https://shop.example/late"));
+  page->askForWindow(foundation::URL::parse("https://shop.example/late"), true);
+  page->processEnded();
   EXPECT_EQ(opened.list().size(), 1u);
+}
+
+TEST(WebViewController, SaysThatAPageEndedAndLoadsItAgain) {
+  const struct {
+    std::optional<std::string> locale;
+    layout::LayoutDirection direction;
+    const char* said;
+    const char* button;
+  } rows[] = {
+      {"sv", layout::LayoutDirection::leftToRight, "Sidan kan inte visas just nu.", "Försök igen"},
+      {"ar", layout::LayoutDirection::rightToLeft, "يتعذّر عرض هذه الصفحة حاليًا.", "إعادة المحاولة"},
+      {std::nullopt, layout::LayoutDirection::leftToRight, "This page cannot be shown right now.",
+       "Try again"},
+  };
+  for (const auto& row : rows) {
+    const auto overlay = std::make_shared<WebViewController>();
+    overlay->locale = row.locale;
+    overlay->showCloseButton = true;
+    TestWindow window(swiftui::hosting(overlay), {.direction = row.direction, .language = "en"});
+    const auto web =
+        std::dynamic_pointer_cast<webkit::WKWebView>(overlay->view()->subviews().front());
+    int loads = 0;
+    web->content()->attach([&](const auto&) { ++loads; });
+    EXPECT_EQ(window.labels(), "Close");
+    for (int round = 1; round <= 2; ++round) {
+      web->content()->processEnded();
+      web->content()->processEnded();
+      window.settle();
+      EXPECT_THROW(shownContent(window.shown()), std::out_of_range) << "the page is taken away";
+      EXPECT_EQ(window.labels(), std::string(row.said) + ", " + row.button + ", Close");
+      EXPECT_EQ(window.element(row.button).role, render::Role::button);
+      const bool mirrored = row.direction == layout::LayoutDirection::rightToLeft;
+      const layout::Rect button = window.element(row.button).frame;
+      EXPECT_EQ(mirrored ? 320 - button.right() : button.left(), 44);
+      window.act(row.button);
+      EXPECT_EQ(window.labels(), "Close");
+      EXPECT_EQ(&shownContent(window.shown()), web->content().get());
+      EXPECT_EQ(loads, 1 + round);
+    }
+  }
 }

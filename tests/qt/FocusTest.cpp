@@ -69,5 +69,54 @@ TYPED_TEST(Focus, WalksThroughTheElementsThatActAndOn) {
   EXPECT_EQ(taps, "ABBA");
 }
 
+/// Counts what is logged while it lives.
+struct Log {
+  Log() {
+    count = 0, before = qInstallMessageHandler([](auto, auto&, const QString&) { ++count; });
+  }
+  ~Log() { qInstallMessageHandler(before); }
+  static inline int count = 0;
+  QtMessageHandler before;
+};
+
+TYPED_TEST(Focus, LeavesAViewInWhichNothingActsAnyMore) {
+  const auto empty = [](auto* row) { row->setView(View()); };
+  const auto text = [](auto* row) { row->setView(Text::verbatim("Text")); };
+  for (const bool behindASheet : {false, true}) {
+    for (const bool all : {true, false}) {
+      TypeParam screen;
+      auto* first = screen.addFocusable();
+      auto* row = screen.add(FeeRow("4 €"), kPlace);
+      auto* next = screen.addFocusable();
+      screen.focus(row);
+      if (behindASheet) screen.key(Qt::Key_Return);
+      ASSERT_EQ(screen.hasFocus(row), !behindASheet);
+      Log log;
+      all ? empty(row) : text(row);
+      screen.settle();
+      EXPECT_TRUE(screen.hasFocus(next)) << behindASheet << all;
+      screen.key(Qt::Key_Tab);
+      EXPECT_TRUE(screen.hasFocus(first)) << behindASheet << all;
+      EXPECT_EQ(log.count, 0);
+    }
+  }
+}
+
+TYPED_TEST(Focus, GoesNowhereWhereNothingElseTakesIt) {
+  TypeParam screen;
+  auto* row = screen.add(FeeRow("4 €"), kPlace);
+  screen.key(Qt::Key_Tab);
+  ASSERT_TRUE(screen.hasFocus(row));
+  Log log;
+  row->setView(View());
+  screen.settle();
+  EXPECT_FALSE(screen.hasFocus(row));
+  row->setView(FeeRow("9 €"));
+  screen.settle();
+  screen.key(Qt::Key_Tab);
+  EXPECT_TRUE(screen.hasFocus(row));
+  EXPECT_EQ(log.count, 0);
+}
+
 }  // namespace
 }  // namespace quorix::testing

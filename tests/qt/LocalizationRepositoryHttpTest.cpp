@@ -37,7 +37,7 @@ struct WatchedTransport final : foundation::URLTransport {
 };
 
 TEST(ConcurrentLocalizationRepository, LargeTableNeedsTheMainThreadOnlyToTakeItsPlace) {
-  constexpr std::size_t kSize = 50 << 20;
+  constexpr std::size_t kSize = 250 << 10;
   qt::QtMainQueue::install();
   LoopbackServer server;
   server.serve("/translations/score/overlay/en.json",

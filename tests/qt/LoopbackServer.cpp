@@ -24,7 +24,7 @@ std::string httpAnswer(int status, std::string_view body, std::string_view heade
 namespace {
 
 QByteArray tlsFile(const char* name) {
-  QFile file(QStringLiteral(TEST_DATA "/tls/") + QLatin1String(name));
+  QFile file(QStringLiteral(TLS_FOLDER "/") + QLatin1String(name));
   return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
@@ -46,6 +46,8 @@ class LoopbackServer::Connection : public QObject {
   Connection(LoopbackServer& server, QTcpSocket* socket)
       : QObject(socket), server_(server), socket_(socket) {
     connect(socket, &QTcpSocket::readyRead, this, [this] { read(); });
+    connect(socket, &QTcpSocket::bytesWritten, this,
+            [this](qint64 bytes) { server_.bytesSent_ += static_cast<std::size_t>(bytes); });
     connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
     read();  // what came before anybody listened
   }
@@ -62,15 +64,25 @@ class LoopbackServer::Connection : public QObject {
   }
 
   void send() {
+    if (socket_->bytesToWrite() > kBacklog) {
+      QTimer::singleShot(1, this, [this] { send(); });
+      return;
+    }
     const auto size = std::min(answer_.piece, answer_.bytes.size() - sent_);
     socket_->write(answer_.bytes.data() + sent_, static_cast<qint64>(size));
     sent_ += size;
+    if (sent_ == answer_.bytes.size() && !answer_.filler.empty()) {
+      answer_.bytes = answer_.filler;
+      sent_ = 0;
+    }
     if (sent_ < answer_.bytes.size()) {
       QTimer::singleShot(1, this, [this] { send(); });
     } else if (answer_.hangUp) {
       socket_->disconnectFromHost();
     }
   }
+
+  static constexpr qint64 kBacklog = 1 << 20;  // for a client that does not read
 
   LoopbackServer& server_;
   QTcpSocket* socket_;

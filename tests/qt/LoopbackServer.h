@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QSslCertificate>
+#include <atomic>
 #include <cstddef>
 #include <cstdint>
 #include <map>
@@ -19,6 +20,7 @@ struct Answer {
   std::string bytes;             ///< from the status line on
   std::size_t piece = SIZE_MAX;  ///< so many bytes at a time, about a millisecond apart
   bool hangUp = false;           ///< closes the connection after the last byte
+  std::string filler = {};       ///< follows the bytes over and over, as fast or as slowly as they
 };
 
 /// A well-formed answer. `headers` are whole lines; the length is added.
@@ -49,6 +51,9 @@ class LoopbackServer {
   /// The heads of the requests for `path` so far, each as it came.
   std::vector<std::string> requests(const std::string& path) const;
 
+  /// How much has gone out so far, to all clients.
+  std::size_t bytesSent() const { return bytesSent_; }
+
  private:
   class Connection;
 
@@ -59,6 +64,7 @@ class LoopbackServer {
   std::map<std::string, Answer> answers_;
   std::map<std::string, std::vector<std::string>> requests_;
   std::uint16_t port_ = 0;
+  std::atomic<std::size_t> bytesSent_ = 0;
   QEventLoop* loop_ = nullptr;
   std::thread thread_;
 };

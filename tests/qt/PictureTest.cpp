@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "platform/swiftui/Elements.h"
+#include "qt/StillScene.h"
 
 namespace quorix::qt {
 namespace {
@@ -32,6 +33,28 @@ TEST(Picture, HasTheScalesPixelsAndIsNullForAnImpossibleSize) {
     EXPECT_TRUE(pictureOf(line, 50, 50, side).isNull()) << side;
   }
   EXPECT_TRUE(pictureOf(View(), 100, std::nullopt, 1).isNull());
+}
+
+/// Shows a sheet of `content` from the start.
+struct Presenting {
+  static constexpr std::string_view typeName = "Presenting";
+  View content;
+  swiftui::State<bool> shown{true};
+  auto states() const { return std::tie(shown); }
+  View body() const { return View(Text::verbatim("Below")).sheet(shown.binding(), content); }
+};
+
+TEST(StillScene, ShowsTheSheetsThatASheetPresents) {
+  PictureOptions options;
+  options.sheet = true;
+  const auto opener = [](View content) {
+    return View(Presenting{std::move(content)}).onTapGesture([] {});
+  };
+  const StillScene still = stillScene(opener(Presenting{Text::verbatim("Top")}), options);
+  ASSERT_TRUE(still.sheet);
+  std::string words;
+  for (const auto& element : still.sheet->accessibility) words += element.label + " ";
+  EXPECT_EQ(words, "Below Top ");
 }
 
 }  // namespace

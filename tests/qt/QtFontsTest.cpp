@@ -2,11 +2,17 @@
 
 #include <gtest/gtest.h>
 
+#include <QFile>
 #include <QFontDatabase>
+#include <QFontInfo>
+#include <QFontMetricsF>
+#include <QGuiApplication>
 #include <QRawFont>
+#include <thread>
 
 #include "QuorixWidgets/localization/QuorixFont.h"
 #include "QuorixWidgets/localization/TovaFont.h"
+#include "tests/qt/WideFace.h"
 
 namespace quorix::qt {
 namespace {
@@ -36,6 +42,78 @@ TEST(QtFonts, AWeightPicksTheNearestFaceOfTheFamilyThatIsNoLighter) {
     EXPECT_EQ(QRawFont::fromFont(found).fontTable("head"), face(row.drawn).fontTable("head"))
         << row.named << " in weight " << static_cast<int>(row.weight);
   }
+}
+
+// What a host's own texts find. Constants are made once: each case has a process of its own.
+
+class HostFontsDeathTest : public ::testing::Test {
+ protected:
+  HostFontsDeathTest() { GTEST_FLAG_SET(death_test_style, "threadsafe"); }
+};
+
+#define EXPECT_IN_FRESH_PROCESS(condition) \
+  EXPECT_EXIT(std::_Exit((condition) ? 0 : 1), ::testing::ExitedWithCode(0), "")
+
+bool hostFinds(const char* name, const char* style = "Regular") {
+  const QFontInfo found{QFont(QString::fromLatin1(name))};
+  return found.family() == QLatin1String("Saans") && found.styleName() == QLatin1String(style);
+}
+
+TEST_F(HostFontsDeathTest, FindAFaceFromTheMomentItsConstantIsRead) {
+  EXPECT_IN_FRESH_PROCESS(!hostFinds("Saans") && !hostFinds("Saans-Regular") &&
+                          (QuorixFont::regular(), hostFinds("Saans")) &&
+                          hostFinds("Saans-Regular"));
+  EXPECT_IN_FRESH_PROCESS((QuorixFont::medium(), hostFinds("Saans", "Medium")));
+  EXPECT_IN_FRESH_PROCESS(([] {
+    delete QCoreApplication::instance();
+    QuorixFont::regular();  // before there is an application
+    int argc = 0;
+    for (int application = 0; application < 2; ++application) {
+      QGuiApplication next(argc, nullptr);
+      if (!hostFinds("Saans")) return false;
+    }
+    return true;
+  }()));
+  EXPECT_IN_FRESH_PROCESS(([] {
+    std::thread([] { QuorixFont::regular(); }).join();
+    QCoreApplication::processEvents();
+    return hostFinds("Saans");
+  }()));
+}
+
+TEST_F(HostFontsDeathTest, AreToldOfAFaceOnceItsConstantIsThere) {
+  EXPECT_IN_FRESH_PROCESS(([] {
+    int told = 0;
+    QObject::connect(qGuiApp, &QGuiApplication::fontDatabaseChanged,
+                     [&] { told += hostFinds(QuorixFont::regular().name().c_str()) ? 1 : 0; });
+    QuorixFont::regular();
+    const bool during = told > 0;
+    QCoreApplication::processEvents();
+    return !during && told == 1;
+  }()));
+}
+
+QByteArray contents(const char* path) {
+  QFile file(QString::fromUtf8(path));
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// A host that ships the family itself, in full perhaps, keeps it; and so do the widgets beside it.
+TEST_F(HostFontsDeathTest, StayTheHostsOwn) {
+  EXPECT_IN_FRESH_PROCESS(([] {
+    const QByteArray own =
+        testing::wideFace(contents(FONTS "/Saans-Regular.dataset/Saans-Regular.otf"), "HOST");
+    if (QFontDatabase::addApplicationFontFromData(own) < 0) return false;
+    const double wide = QFontMetricsF(QFont("Saans", 100)).horizontalAdvance("iiii");
+    const std::string name = QuorixFont::regular().name();
+    QuorixFont::medium();
+    const auto isOwn = [&](const QFont& font) {
+      return QRawFont::fromFont(font).fontTable("hmtx") == QRawFont(own, 12).fontTable("hmtx");
+    };
+    return wide == QFontMetricsF(QFont("Saans", 100)).horizontalAdvance("iiii") &&
+           isOwn(QFont("Saans")) && isOwn(QtFonts().find({name, 14}).font) &&
+           !isOwn(QtFonts().find({"Saans-Medium", 14}).font);
+  }()));
 }
 
 TEST(QtFonts, UnknownNamesDrawInTheSystemsFont) {

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QGuiApplication>
 #include <QTest>
 #include <QWheelEvent>
@@ -125,6 +126,77 @@ TYPED_TEST(Sheet, GoesWithItsRow) {
   EXPECT_TRUE(screen.hasFocus(field));
 }
 
+/// A button that presents something.
+struct Opener {
+  static constexpr std::string_view typeName = "Opener";
+  swiftui::View content;
+  swiftui::State<bool> shown{false};
+
+  auto states() const { return std::tie(shown); }
+  swiftui::View body() const {
+    return swiftui::View(swiftui::Text::verbatim("More"))
+        .onTapGesture([binding = shown.binding()] { binding.toggle(); })
+        .sheet(shown.binding(), content);
+  }
+};
+
+/// A sheet with a button that opens a sheet with a row that opens one.
+swiftui::View nested() {
+  const auto height = swiftui::PresentationDetent::height(300);
+  return Opener{swiftui::View(Opener{swiftui::View(FeeRow("4 €")).presentationDetents({height})})
+                    .presentationDetents({height})};
+}
+
+TYPED_TEST(Sheet, ItsContentPresentsFurtherSheetsAboveIt) {
+  TypeParam screen;
+  const auto eventsBelow = screen.listenBelow();
+  auto* row = screen.add(nested(), kPlace);
+  QAccessibleInterface* sheets[3] = {};
+  screen.key(Qt::Key_Tab);
+  ASSERT_TRUE(screen.hasFocus(row));
+  for (int depth = 0; depth < 3; ++depth) {
+    screen.key(Qt::Key_Return);
+    sheets[depth] = QAccessible::queryAccessibleInterface(QGuiApplication::focusObject());
+    if (depth < 2) screen.key(Qt::Key_Tab);
+    for (int below = 0; below <= depth; ++below) {
+      EXPECT_EQ(sheets[below]->state().modal, below == depth) << below << " of " << depth;
+      EXPECT_EQ(sheets[below]->state().invisible, below != depth);
+    }
+  }
+  EXPECT_TRUE(screen.shows("Fee 4 €"));
+  EXPECT_FALSE(screen.shows("More"));
+  screen.addFocusable();  // which comes to lie below all three
+  screen.settle();
+  const int before = eventsBelow();
+  screen.click("Close 4 €");
+  EXPECT_FALSE(screen.shows("Fee 4 €"));
+  EXPECT_TRUE(screen.shows("Row 4 €"));
+  screen.key(Qt::Key_Escape);
+  EXPECT_FALSE(screen.shows("Row 4 €"));
+  EXPECT_TRUE(sheets[0]->state().modal);
+  screen.clickAt({180, 150});  // beside
+  EXPECT_EQ(eventsBelow(), before);
+  EXPECT_TRUE(screen.hasFocus(row));
+  EXPECT_TRUE(screen.shows("More"));
+}
+
+TYPED_TEST(Sheet, FurtherSheetsGoWithTheLowest) {
+  for (const bool deleted : {false, true}) {
+    TypeParam screen;
+    auto* field = screen.addFocusable();
+    auto* row = screen.add(nested(), kPlace);
+    screen.focus(field);
+    for (const char* name : {"More", "More", "Row 4 €"}) screen.click(name);
+    ASSERT_TRUE(screen.shows("Fee 4 €"));
+    deleted ? delete row : row->setView(swiftui::Text::verbatim("Other"));
+    screen.settle();
+    EXPECT_FALSE(screen.shows("Fee 4 €"));
+    EXPECT_EQ(screen.shows("Other"), !deleted);
+    screen.key(Qt::Key_Tab);
+    EXPECT_TRUE(screen.hasFocus(field));
+  }
+}
+
 TYPED_TEST(Sheet, MayEndItsRowFromInside) {
   TypeParam screen;
   FeeRow leaving("4 €");
@@ -134,6 +206,36 @@ TYPED_TEST(Sheet, MayEndItsRowFromInside) {
   screen.click("Row 4 €");
   screen.click("Terms");
   EXPECT_FALSE(screen.shows("Terms"));
+}
+
+/// A view may end in its own tap, by whatever means.
+TYPED_TEST(Sheet, ItsRowMayEndItself) {
+  const Closing means[] = {
+      {"a click", [](Screen& screen) { screen.click("Leave"); }},
+      {"a finger",
+       [](Screen& screen) {
+         screen.drag(screen.centreOf("Leave"), screen.centreOf("Leave"), 20, true);
+       }},
+      {"a key", keys({Qt::Key_Tab, Qt::Key_Return})},
+      {"a screen reader",
+       [](Screen& screen) {
+         screen.find("Leave")->actionInterface()->doAction(
+             QAccessibleActionInterface::pressAction());
+         screen.settle();
+       }},
+  };
+  for (const Closing& way : means) {
+    SCOPED_TRACE(way.by);
+    TypeParam screen;
+    auto* field = screen.addFocusable();
+    decltype(screen.add({}, kPlace)) row = nullptr;
+    row = screen.add(
+        swiftui::View(swiftui::Text::verbatim("Leave")).onTapGesture([&] { delete row; }), kPlace);
+    way.perform(screen);
+    EXPECT_FALSE(screen.shows("Leave"));
+    screen.key(Qt::Key_Tab);
+    EXPECT_TRUE(screen.hasFocus(field));
+  }
 }
 
 TYPED_TEST(Sheet, GoesWithItsWindowAndToAnotherOne) {

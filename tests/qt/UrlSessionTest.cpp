@@ -8,6 +8,7 @@
 #include <chrono>
 #include <future>
 #include <optional>
+#include <stdexcept>
 #include <string>
 #include <thread>
 #include <vector>
@@ -52,6 +53,20 @@ const std::string kPacked = QByteArray::fromHex(
                                 "4cce4e4d51aaad05003f78c2631c000000")
                                 .toStdString();
 
+constexpr std::size_t kLimit = 256 << 10;  // of a body
+
+/// Packs to about a third of its size, not to a thousandth.
+std::string text(std::size_t size) {
+  std::string text;
+  for (int line = 0; text.size() < size; ++line) text += std::to_string(line) + '\n';
+  return text.substr(0, size);
+}
+
+std::string deflated(int status, const std::string& body) {
+  const QByteArray packed = qCompress(QByteArray::fromStdString(body)).mid(4);  // less Qt's length
+  return httpAnswer(status, packed.toStdString(), "Content-Encoding: deflate\r\n");
+}
+
 struct Case {
   std::string name;
   Answer answer;
@@ -78,6 +93,19 @@ std::vector<Case> cases() {
       {"choices", {httpAnswer(300, kTable)}, 300, kTable},
       {"dribbled", {httpAnswer(200, kTable), 1}, 200, kTable},
       {"empty", {httpAnswer(200, "")}, 200, ""},
+      {"reset", {httpAnswer(205, kTable)}, 205, kTable},
+      {"reset, empty", {httpAnswer(205, "")}, 205, ""},
+      {"moved to nowhere", {httpAnswer(301, kTable)}, 301, kTable},
+      {"found nowhere", {httpAnswer(302, kTable, "Location: \r\n")}, 302, kTable},
+      {"by a proxy", {httpAnswer(305, kTable, "Location: /0\r\n")}, 305, kTable},
+      {"for now nowhere", {httpAnswer(307, kTable)}, 307, kTable},
+      {"largest", {httpAnswer(200, std::string(kLimit, 'x'))}, 200, std::string(kLimit, 'x')},
+      {"largest, packed", {deflated(200, text(kLimit))}, 200, text(kLimit)},
+      {"too large", {httpAnswer(200, std::string(kLimit + 1, 'x'))}},
+      {"too large, packed", {deflated(200, text(kLimit + 1))}},
+      {"too large an error", {httpAnswer(404, std::string(kLimit + 1, 'x'))}},
+      {"unpacks to 50 MB", {deflated(200, std::string(50 << 20, ' '))}},
+      {"error unpacks to 50 MB", {deflated(404, std::string(50 << 20, ' '))}},
       {"no content", {"HTTP/1.1 204 No Content\r\n\r\n"}, 204},
       {"not modified", {"HTTP/1.1 304 Same\r\nContent-Length: 9\r\n\r\n"}, 304},
       {"until the end", {"HTTP/1.1 200 OK\r\n\r\n" + kTable, SIZE_MAX, true}, 200, kTable},
@@ -86,7 +114,6 @@ std::vector<Case> cases() {
       {"no text", {httpAnswer(200, binary)}, 200, binary},
       {"cut in the body", cut(200)},
       {"cut in an error's body", cut(404)},
-      {"redirect to nowhere", {httpAnswer(302, kTable)}},
       {"cut in the head", {"HTTP/1.1 200 OK\r\nContent-", SIZE_MAX, true}},
       {"broken gzip", {httpAnswer(200, "plain", gzip)}},
       {"no HTTP at all", {"SSH-2.0-server\r\n\r\n", SIZE_MAX, true}},
@@ -181,12 +208,98 @@ TEST_F(ConcurrentUrlSession, RefusesWhatItCannotReachOrMayNotRead) {
   }
 }
 
-TEST_F(ConcurrentUrlSession, GivesUpOnARequestThatStandsStill) {
-  QtURLTransport impatient{std::chrono::milliseconds(100)};
-  server.serve("/still", silence());
-  const URLResponse response = Fetch(impatient, server.base() + "/still").wait().response;
-  ASSERT_TRUE(response.error);
-  EXPECT_EQ(response.error->code, QNetworkReply::OperationCanceledError);
+// Qt hands over the body of a 401 only when it is complete, so only time bounds that.
+TEST_F(ConcurrentUrlSession, EndsAnAnswerThatHasNoEnd) {
+  const std::string head = "HTTP/1.1 200 OK\r\n", filler(64 << 10, 'x');
+  std::string packed;
+  for (int stream = 0; stream < 1000; ++stream) packed += kPacked;
+  const struct {
+    const char* name;
+    std::string head, filler;
+    bool boundedInSize;
+  } table[] = {
+      {"body", head + "\r\n", filler, true},
+      {"100 MB", head + "Content-Length: 104857600\r\n\r\n", filler, true},
+      {"packed body", head + "Content-Encoding: gzip\r\n\r\n", packed, true},
+      {"redirect's body", "HTTP/1.1 302 Found\r\nLocation: /x\r\n\r\n", filler, true},
+      {"locked", "HTTP/1.1 401 No\r\n\r\n", filler, false},
+  };
+  QtURLTransport impatient{std::chrono::milliseconds(500)};
+  for (const auto& [name, start, rest, boundedInSize] : table) {
+    LoopbackServer endless;
+    endless.serve("/", {start, SIZE_MAX, false, rest});
+    const auto error = Fetch(impatient, endless.base() + "/").wait().response.error;
+    const auto expected =
+        boundedInSize ? QNetworkReply::UnknownContentError : QNetworkReply::TimeoutError;
+    EXPECT_EQ(error ? error->code : 0, expected) << name;
+    if (boundedInSize) {
+      std::this_thread::sleep_for(std::chrono::milliseconds(200));
+      EXPECT_LT(endless.bytesSent(), 8u << 20) << name;  // of 64 MB each second
+    }
+  }
+}
+
+TEST_F(ConcurrentUrlSession, EndsARequestThatTakesTooLongNotOneThatWaitedForItsTurn) {
+  QtURLTransport impatient{std::chrono::milliseconds(600)};
+  const Answer trickle{"HTTP/1.1 200 OK\r\n\r\n", 1, false, "x"};
+  const Answer broken{deflated(200, std::string(50 << 20, ' '))};
+  for (const auto& [first, expected] : {std::pair(trickle, QNetworkReply::TimeoutError),
+                                        std::pair(broken, QNetworkReply::UnknownContentError)}) {
+    LoopbackServer busy;
+    busy.serve("/0", first);
+    busy.serve("/next", {httpAnswer(200, kTable)});
+    std::vector<Fetch> slow;
+    for (int i = 0; i < 6; ++i) {
+      const std::string path = "/" + std::to_string(i);
+      if (i) busy.serve(path, silence());
+      slow.emplace_back(impatient, busy.base() + path);
+    }
+    Fetch waiting(impatient, busy.base() + "/next");
+    for (int i = 0; i < 6; ++i) {
+      const auto error = slow[i].wait().response.error;
+      EXPECT_EQ(error ? error->code : 0, i ? QNetworkReply::TimeoutError : expected);
+    }
+    EXPECT_EQ(waiting.wait().response.body, kTable);
+  }
+}
+
+TEST_F(ConcurrentUrlSession, RequestsForOneAddressShareAFetchWhileItLasts) {
+  const std::string body(500, 'x');  // half a second, a millisecond a byte
+  server.serve("/list", {httpAnswer(200, body), 1});
+  server.serve("/cut", {httpAnswer(200, body).substr(0, 300), 1, true});
+  std::atomic<int> asked = 0;
+  const auto protocol = foundation::URLSession::shared().registerProtocol([&](const URL&) {
+    ++asked;
+    return std::nullopt;
+  });
+  std::vector<Fetch> whole, broken;
+  const auto askForBoth = [&] {
+    whole.emplace_back(transport, server.base() + "/list");
+    broken.emplace_back(transport, server.base() + "/cut");
+  };
+  for (int row = 1; row < 500; ++row) askForBoth();
+  while (server.requests("/list").empty()) std::this_thread::yield();
+  askForBoth();  // the answer has begun
+  for (Fetch& fetch : whole) EXPECT_EQ(fetch.wait().response.body, body);
+  for (Fetch& fetch : broken) EXPECT_TRUE(fetch.wait().response.error);
+  EXPECT_EQ(server.requests("/list").size(), 1u);
+  EXPECT_EQ(server.requests("/cut").size(), 1u);
+  EXPECT_EQ(asked, 1000);
+  EXPECT_EQ(fetch("/list").response.body, body);
+  EXPECT_EQ(server.requests("/list").size(), 2u);
+}
+
+TEST_F(ConcurrentUrlSession, AProtocolThatThrowsAnswersWithAnError) {
+  const auto protocol = foundation::URLSession::shared().registerProtocol(
+      [](const URL& url) -> std::optional<URLResponse> {
+        if (url.absoluteString().find("number") != std::string::npos) throw 1;
+        throw std::runtime_error("out of order");
+      });
+  for (const char* path : {"/exception", "/number"}) {
+    const auto error = fetch(path).response.error;
+    ASSERT_TRUE(error) << path;
+    EXPECT_EQ(error->code, -2) << path;
+  }
 }
 
 TEST_F(ConcurrentUrlSession, ProtocolAnswersBeforeTheNetworkOnTheSessionsThread) {

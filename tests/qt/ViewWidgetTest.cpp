@@ -92,6 +92,36 @@ TEST(ViewWidget, StandsInLayoutsAsALabelWithWordWrapAndTellsThemOfNewSizesOnly) 
   EXPECT_LT(last->y(), 100);
 }
 
+TEST(ViewWidget, WithNothingToShowItTakesNoRoomInAnyLayout) {
+  WidgetScreen screen;
+  for (QLayout* layout :
+       std::initializer_list<QLayout*>{new QGridLayout, new QVBoxLayout, new QHBoxLayout}) {
+    QWidget page(&screen.host());
+    page.resize(300, 400);
+    page.setLayout(layout);
+    layout->setContentsMargins({});
+    layout->setSpacing(3);
+    auto* widget = new qt::ViewWidget;
+    auto* after = new QWidget;
+    after->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    layout->addWidget(widget);
+    layout->addWidget(after);
+    page.show();
+    screen.settle();
+    EXPECT_EQ(after->pos().manhattanLength(), 3);
+    widget->setView(paragraph());
+    screen.settle();
+    const QRect filled = after->geometry();
+    EXPECT_GT(filled.topLeft().manhattanLength(), 15);
+    widget->setView(View());
+    screen.settle();
+    EXPECT_EQ(after->pos().manhattanLength(), 3);
+    widget->setView(paragraph());
+    screen.settle();
+    EXPECT_EQ(after->geometry(), filled);
+  }
+}
+
 TEST(ViewWidget, WorksOncePerChangeAndOnlyWhileItsWindowShowsIt) {
   WidgetScreen screen;
   const Watched view;

@@ -11,10 +11,14 @@ namespace {
 
 TEST(WebComponent, WithoutOneThePageIsOpenedOutside) {
   const auto content = std::make_shared<webkit::WebContent>();
-  content->load(foundation::URL::parse("https://modules.quorix.example/page").value());
+  content->load({foundation::URL::parse("https://modules.quorix.example/page").value()});
   render::Scene scene;
   QObject place;
-  qt::EmbeddedPages pages(QStringLiteral("QuorixWebElsewhere"), place);
+  struct Owner final : qt::EmbeddedPage::Owner {
+    void pageHangs() override {}
+    void pageEnded() override {}
+  } owner;
+  qt::EmbeddedPages pages(QStringLiteral("QuorixWebElsewhere"), place, owner);
   EXPECT_TRUE(pages.canShow(scene) && pages.follow(scene)) << "nothing is wanted";
   scene.items = {render::EmbedItem{{{}, {9, 9}}, content, {}}};
   EXPECT_FALSE(qt::WebComponentLoader::load(QStringLiteral("QuorixWebElsewhere")));

@@ -2,8 +2,9 @@
 
 #include <memory>
 
-#include "QuorixWidgets/info/UIApplication.h"
+#include "QuorixWidgets/info/UIInfoWidget.h"
 #include "platform/swiftui/UIViewRepresentable.h"
+#include "platform/uikit/UIApplication.h"
 #include "platform/uikit/UILabel.h"
 #include "platform/uikit/UITapGestureRecognizer.h"
 #include "platform/uikit/UIViewController.h"

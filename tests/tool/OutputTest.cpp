@@ -1,10 +1,13 @@
 #include <gtest/gtest.h>
 
+#include <QDir>
+#include <QFile>
 #include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include "../qt/WideFace.h"
 #include "Tool.h"
 
 namespace {
@@ -48,6 +51,40 @@ TEST(ToolOutput, PicturesHaveThePixelsAskedFor) {
     const QImage image = picture(row.command);
     EXPECT_EQ(image.width(), row.width) << row.command;
     EXPECT_EQ(image.height(), row.height ? row.height : image.height()) << row.command;
+  }
+}
+
+/// A name as font files hold it: two bytes for a letter, the higher first.
+QByteArray utf16(const char* name) {
+  QByteArray bytes;
+  for (; *name != '\0'; ++name) bytes.append('\0').append(*name);
+  return bytes;
+}
+
+// Another foundry's faces under our names, installed where a user installs fonts.
+TEST(ToolOutput, IsInTheLibrarysFacesWhateverIsInstalled) {
+  const std::string command = score + "--frames";
+  const auto without = Tool().shell(command);
+  ASSERT_EQ(without.status, 0) << without.err;
+  const struct {
+    const char* foundry;
+    bool inCapitals;
+  } rows[] = {{"NONE", false}, {"ABCD", false}, {"ABCD", true}};  // the first is that of our own
+  for (const auto& [foundry, inCapitals] : rows) {
+    const Tool tool;
+    ASSERT_TRUE(QDir().mkpath(tool.path("data/fonts")));
+    for (const QString name : {"Saans-Regular", "Saans-Medium"}) {
+      QFile own(QStringLiteral(FONTS "/%1.dataset/%1.otf").arg(name));
+      QFile installed(tool.path("data/fonts/" + name + ".otf"));
+      ASSERT_TRUE(own.open(QIODevice::ReadOnly) && installed.open(QIODevice::WriteOnly));
+      QByteArray face = quorix::testing::wideFace(own.readAll(), foundry);
+      if (inCapitals) face.replace(utf16("Saans"), utf16("SAANS"));
+      installed.write(face);
+    }
+    const auto with =
+        tool.shell("export HOME=$PWD XDG_DATA_HOME=$PWD/data XDG_CACHE_HOME=$PWD; " + command);
+    EXPECT_EQ(with.status, 0) << with.err;
+    EXPECT_EQ(with.out, without.out) << foundry << inCapitals;
   }
 }
 

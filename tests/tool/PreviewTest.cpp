@@ -73,6 +73,11 @@ TEST(PreviewTool, FollowsTextsAndAssets) {
   const char* rows[] = {
       "sed -i 's/\"widget-read-more\".*/\"widget-read-more\" = \"Onwards\";/' "
       "en.lproj/Localizable.strings",
+      // Saved half-way through, it shows nothing, and goes on.
+      "cp en.lproj/Localizable.strings whole && "
+      "sed -i 's/\"info-widget-title\".*/\"info-widget-title\" = \"\";/' "
+      "en.lproj/Localizable.strings",
+      "cp whole en.lproj/Localizable.strings",
       "sed -i 's/\"red\".*:.*/\"red\" : \"0.300\",/' Assets.xcassets/Background.colorset/*.json",
   };
   for (const char* edit : rows) {

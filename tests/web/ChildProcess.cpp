@@ -27,19 +27,21 @@ void say(const char* when) {
               maps("libQuorixWebQuick"), maps("libQuorixWebWidgets"));
 }
 
-/// Opens a sheet without a page, then one with.
+/// Opens a sheet without a page, then one with, which moves.
 template <class Screen>
 int tellMaps() {
   pages().serve("/page", page("#0000ff"));
   Screen screen;
   screen.add(FeeRow("4 €"), {20, 40, 300, 0});
-  screen.add(PageRow{[] {
-               auto content = std::make_shared<webkit::WebContent>();
-               content->settings.allowsContentJavaScript = true;
-               content->load(foundation::URL::parse(std::string(kModules) + "/page").value());
-               return content;
-             }},
-             {20, 100, 300, 0});
+  auto* row =
+      screen.add(PageRow{[] {
+                   auto content = std::make_shared<webkit::WebContent>();
+                   content->settings.allowsContentJavaScript = true;
+                   content->load({foundation::URL::parse(std::string(kModules) + "/page").value()});
+                   return content;
+                 }},
+                 {20, 100, 300, 0});
+  row->setMotion(true);
   screen.click("Row 4 €");
   screen.key(Qt::Key_Escape);
   say("before");
@@ -48,6 +50,7 @@ int tellMaps() {
   screen.click("Open page");
   const bool came =
       waitUntil([&] { return !pages().requests("/here").empty() || !outside->addresses.empty(); });
+  screen.settle();
   say(came ? "after" : "never");
   for (const std::string& address : outside->addresses)
     std::printf("outside: %s\n", address.c_str());
@@ -63,7 +66,7 @@ int tellKept() {
   QuickScreen screen;
   screen.add(PageRow{[] {
                auto content = std::make_shared<webkit::WebContent>();
-               content->load(foundation::URL::parse(std::string(kModules) + "/page").value());
+               content->load({foundation::URL::parse(std::string(kModules) + "/page").value()});
                return content;
              }},
              {20, 100, 300, 0});
@@ -82,7 +85,7 @@ int runAsChild(const QString& task) {
   return 2;
 }
 
-ChildResult runChild(const QString& task, const QStringList& environment) {
+ChildResult runChild(const QString& task, const QStringList& environment, const Place& place) {
   auto variables = QProcessEnvironment::systemEnvironment();
   variables.remove(QStringLiteral("QTWEBENGINE_CHROMIUM_FLAGS"));  // this process's own server
   for (const QString& entry : environment) {
@@ -93,7 +96,16 @@ ChildResult runChild(const QString& task, const QStringList& environment) {
   QProcess child;
   child.setProcessEnvironment(variables);
   child.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-  child.start(QCoreApplication::applicationFilePath(), {task});
+  child.setWorkingDirectory(place.workingFolder);
+  if (place.programFolder.isEmpty()) {
+    child.start(QCoreApplication::applicationFilePath(), {task});
+  } else {
+    // By its bare name, as a shell finds it.
+    child.start(QStringLiteral("/bin/bash"),
+                {QStringLiteral("-c"), QStringLiteral("PATH=\"$0\"; exec -a \"$3\" \"$1\" \"$2\""),
+                 place.programFolder, place.program, task,
+                 place.calledAs.isEmpty() ? place.program : place.calledAs});
+  }
   if (!child.waitForFinished(60000)) {
     child.kill();
     child.waitForFinished();

@@ -2,8 +2,10 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QDirIterator>
+#include <QFile>
 #include <QTemporaryDir>
 
 #include "tests/web/ChildProcess.h"
@@ -44,6 +46,31 @@ TEST(EngineLoading, OpensTheAddressOutsideWhereTheEngineWouldEndTheProcess) {
     EXPECT_EQ(child.status, 0);
     EXPECT_THAT(child.output.toStdString(),
                 HasSubstr("outside: https://modules.quorix.example/page\nsheet: 0\n"));
+  }
+}
+
+TEST(EngineLoading, RunsNoCodeFromTheCurrentFolderAndOpensTheBrowserOnce) {
+  const QTemporaryDir elsewhere, current;
+  const Place byName{elsewhere.path(), "shop", current.path()};
+  const Place byPath{elsewhere.path(), "shop", current.path(), current.filePath("shop")};
+  const QString program = QCoreApplication::applicationFilePath();
+  ASSERT_TRUE(QFile::copy(program, elsewhere.filePath("shop")));
+  QDir(current.path()).mkdir("quorix");
+  const QDir real(QFileInfo(program).absolutePath() + "/quorix");
+  for (const QString& library : real.entryList({"*.so"})) {
+    for (const char* folder : {"/", "/quorix/"}) {
+      ASSERT_TRUE(QFile::copy(real.filePath(library), current.path() + folder + library));
+    }
+  }
+  for (const Toolkit& toolkit : kToolkits) {
+    for (const Place& place : {byName, byPath}) {
+      const ChildResult child =
+          runChild(toolkit.task, {"LD_LIBRARY_PATH=.", "QT_PLUGIN_PATH=."}, place);
+      EXPECT_EQ(child.output.toStdString(),
+                "before: engine 0 quick 0 widgets 0\nafter: engine 0 quick 0 widgets 0\n"
+                "outside: https://modules.quorix.example/page\nsheet: 0\n")
+          << qPrintable(place.calledAs);
+    }
   }
 }
 

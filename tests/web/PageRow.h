@@ -7,7 +7,7 @@
 
 #include "platform/render/HostedContent.h"
 #include "platform/swiftui/Elements.h"
-#include "platform/swiftui/Node.h"
+#include "platform/swiftui/Represented.h"
 #include "platform/swiftui/View.h"
 #include "platform/webkit/WebContent.h"
 
@@ -56,8 +56,8 @@ struct PageRow {
   swiftui::View body() const {
     using namespace swiftui;
     const auto toggle = [binding = shown.binding()] { binding.toggle(); };
-    const View page = makeView(nodes::Represented{
-        "Page", [make = make, toggle] { return std::make_shared<PageContent>(make(), toggle); }});
+    const View page = represented(
+        {"Page", [make = make, toggle] { return std::make_shared<PageContent>(make(), toggle); }});
     return View(Text::verbatim("Open page"))
         .accessibilityAddTraits(AccessibilityTrait::isButton)
         .accessibilityAction(toggle)

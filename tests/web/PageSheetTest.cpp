@@ -1,11 +1,8 @@
-#include <unistd.h>
-
-#include <QDir>
 #include <QFile>
 #include <QTest>
 #include <QWheelEvent>
-#include <map>
 
+#include "tests/web/EngineProcesses.h"
 #include "tests/web/PageTest.h"
 
 namespace quorix::testing {
@@ -108,26 +105,6 @@ TYPED_TEST(PageSheet, LeavesEscapeToThePageThatUsesIt) {
   EXPECT_TRUE(waitUntil([&] { return !this->isOpen(); }));
 }
 
-/// How many processes the engine runs for this one, their own children included.
-int engineProcesses() {
-  std::map<int, int> parents;
-  for (const QString& id : QDir(QStringLiteral("/proc")).entryList({"[0-9]*"}, QDir::Dirs)) {
-    QFile status("/proc/" + id + "/stat");
-    if (!status.open(QIODevice::ReadOnly)) continue;
-    const QByteArray line = status.readAll();  // "ID (NAME) STATE PARENT ..."
-    const QList<QByteArray> fields = line.mid(line.lastIndexOf(')') + 2).split(' ');
-    const bool ended = fields.value(0) == "Z";
-    if (line.contains("(QtWebEngineProc") && !ended) parents[id.toInt()] = fields.value(1).toInt();
-  }
-  int count = 0;
-  for (const auto& [id, parent] : parents) {
-    int top = parent;
-    while (parents.contains(top)) top = parents[top];
-    if (top == getpid()) ++count;
-  }
-  return count;
-}
-
 double residentMegabytes() {
   QFile status(QStringLiteral("/proc/self/statm"));
   if (!status.open(QIODevice::ReadOnly)) return 0;
@@ -136,20 +113,20 @@ double residentMegabytes() {
 
 TYPED_TEST(PageSheet, LeaksNoProcessAndNoMemory) {
   constexpr int kWarming = 4;
-  int processes = 0;
+  std::size_t processes = 0;
   double memory = 0;
   for (int i = 0; i < kWarming + 10; ++i) {
     this->openBlue();
-    EXPECT_GE(engineProcesses(), 1);
+    EXPECT_GE(engineProcesses().size(), 1u);
     if (i % 2 == 0) this->screen.key(Qt::Key_Escape);
     if (i % 2 == 1) this->screen.clickAt(this->kAtControl);
     ASSERT_TRUE(waitUntil([&] { return this->latest.expired(); }));
     if (i + 1 != kWarming) continue;
-    processes = engineProcesses();
+    processes = engineProcesses().size();
     memory = residentMegabytes();
   }
-  EXPECT_TRUE(waitUntil([&] { return engineProcesses() <= processes; }))
-      << engineProcesses() << " after " << processes;
+  EXPECT_TRUE(waitUntil([&] { return engineProcesses().size() <= processes; }))
+      << engineProcesses().size() << " after " << processes;
   EXPECT_LT(residentMegabytes() - memory, 20) << "for ten openings";
 }
 

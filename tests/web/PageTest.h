@@ -66,7 +66,8 @@ class PageTest : public ::testing::Test {
     content->onNewWindow = [this](const std::optional<foundation::URL>& url) {
       windows.push_back(url ? url->absoluteString() : "none");
     };
-    content->load(foundation::URL::parse(address_).value());
+    content->onProcessEnded = [this] { ++ends; };
+    content->load({foundation::URL::parse(address_).value(), {}, timeout});
     latest = content;
     return content;
   }
@@ -74,7 +75,9 @@ class PageTest : public ::testing::Test {
   Screen screen;
   decltype(screen.add(std::declval<swiftui::View>(), QRectF())) opener;
   webkit::WebContent::Settings settings{true, true, true};
+  foundation::URLRequest::Seconds timeout = foundation::URLRequest::defaultTimeout;
   std::vector<std::string> windows;  ///< what was asked to leave the app
+  int ends = 0;                      ///< how many pages lost their process
   std::weak_ptr<webkit::WebContent> latest;
 
  private:

@@ -88,6 +88,7 @@ const std::string kOther = std::string(kModules) + "/other?x=1";
 std::vector<NewWindow> newWindows() {
   const QByteArray link = "<a style='" + kFill + "' href='/other?x=1' ";
   const std::vector<std::string> once = {kOther};
+  const QByteArray flood = "for (let i = 0; i < 200; ++i) window.open('/other?x=1')";
   return {
       {"a blank target", link + "target=_blank>x</a>", {}, Qt::LeftButton, {}, true, once},
       {"a named target", link + "target=elsewhere>x</a>", {}, Qt::LeftButton, {}, true, once},
@@ -102,13 +103,14 @@ std::vector<NewWindow> newWindows() {
        once},
       {"a script by itself", {}, "open('/other?x=1')", Qt::NoButton, {}, true, once},
       {"a script that may not", {}, "open('/other?x=1')", Qt::NoButton, {}, false, {}},
-      {"a flood",
+      {"a flood", {}, flood, Qt::NoButton, {}, true, once},
+      {"a flood on click",
+       "<div style='" + kFill + "' onclick=\"" + flood + "\">x</div>",
        {},
-       "for (let i = 0; i < 200; ++i) open('/other?x=1')",
-       Qt::NoButton,
+       Qt::LeftButton,
        {},
        true,
-       std::vector<std::string>(200, kOther)},
+       once},
   };
 }
 

@@ -23,7 +23,11 @@ Outcome decode(const Arguments& arguments) {
   if (const auto* failure = std::get_if<Failure>(&token)) return *failure;
   const auto reading = readToken(std::get<std::string>(token));
   if (const auto* refusal = std::get_if<TokenRefusal>(&reading)) return refused(*refusal);
-  return json(std::get<TokenData>(reading));
+  const auto& figures = std::get<TokenData>(reading);
+  auto failure = notShown(figures);
+  if (!failure) return json(figures);
+  failure->output = json(figures);
+  return *std::move(failure);
 }
 
 }  // namespace

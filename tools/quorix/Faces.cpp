@@ -36,7 +36,7 @@ std::variant<std::string, Failure> registeredFile(const std::string& path) {
 
 std::variant<std::string, Failure> usableFace(const std::string& nameOrFile) {
   qt::QtFonts::installSystemLookup();
-  // The library's own faces come first: one whose name a file has taken would stop the process.
+  // The library's own faces come first, lest a file be drawn in their place.
   QuorixFont::regular();
   QuorixFont::medium();
   if (looksLikeFile(QString::fromStdString(nameOrFile))) return registeredFile(nameOrFile);

@@ -1,6 +1,5 @@
 #include "tools/quorix/ScoreCommand.h"
 
-#include <cmath>
 #include <cstdio>
 
 #include "QuorixWidgets/score/ScoreWidgetBuilder.h"
@@ -27,11 +26,7 @@ std::optional<Failure> emptiness(const ScoreRequest& request) {
   if (request.clientId.empty()) {
     return Failure::refused("the client id is empty" + std::string(consequence));
   }
-  // Its rate would not fit 64 bits, which stops the process.
-  if (std::abs(std::get<TokenData>(reading).score) > 1e16) {
-    return Failure::refused("the token's score is no score: its rate has no end");
-  }
-  return std::nullopt;
+  return notShown(std::get<TokenData>(reading));
 }
 
 /// Lets `view` take over the texts of the request's file.
@@ -41,7 +36,7 @@ std::optional<Failure> translate(const swiftui::View& view, const ScoreRequest& 
     auto read = readTranslations(*request.translations);
     if (auto* failure = std::get_if<Failure>(&read)) return *failure;
     document = std::get<std::string>(std::move(read));
-    if (const auto remark = oversights(*document)) {
+    if (const auto remark = Oversights::in(*document).line()) {
       std::fprintf(stderr, "quorix: score: note: %s: %s\n", request.translations->c_str(),
                    remark->c_str());
     }

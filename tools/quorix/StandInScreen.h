@@ -2,8 +2,9 @@
 
 #include <memory>
 
+#include "platform/uikit/UIScene.h"
 #include "platform/uikit/UIViewController.h"
-#include "platform/uikit/UIWindowScene.h"
+#include "platform/uikit/UIWindow.h"
 
 namespace quorix::tool {
 

@@ -1,11 +1,13 @@
 #include "tools/quorix/StringsCheckCommand.h"
 
 #include <algorithm>
+#include <iterator>
 #include <vector>
 
-#include "QuorixWidgets/localization/StringTableProblem.h"
+#include "QuorixWidgets/localization/Strings.h"
 #include "platform/foundation/Bundle.h"
 #include "platform/foundation/StringsFile.h"
+#include "tools/quorix/Translations.h"
 
 namespace quorix::tool {
 namespace {
@@ -38,42 +40,61 @@ std::string counted(std::size_t count, const std::string& what) {
   return std::to_string(count) + ' ' + what + (count == 1 ? "" : "s");
 }
 
+/// What there is to say of `count` tables.
+Outcome outcome(const std::vector<std::string>& lines, std::size_t count) {
+  const std::string tables = counted(count, "table");
+  if (lines.empty()) return tables + " checked, nothing found\n";
+  Failure failure = Failure::refused(counted(lines.size(), "finding") + " in " + tables);
+  for (const std::string& line : lines) failure.output += line;
+  return failure;
+}
+
+/// The table in the file at `path`, as the service sends it.
+Outcome checkTranslations(const std::string& path) {
+  const auto document = readTranslations(path);
+  if (const auto* failure = std::get_if<Failure>(&document)) return *failure;
+  const auto oversights = Oversights::in(std::get<std::string>(document));
+  std::vector<std::string> lines;
+  for (const std::string& key : oversights.missing) {
+    lines.push_back(oneLine(path + ": \"" + key + "\" is missing, and its label stays empty"));
+  }
+  for (const std::string& key : oversights.unused) {
+    lines.push_back(oneLine(path + ": \"" + key + "\" is never used"));
+  }
+  return outcome(lines, 1);
+}
+
 Outcome check(const Arguments& arguments) {
   const std::string& path = arguments.operand();
+  if (path.ends_with(".json")) return checkTranslations(path);
   const Bundle::Ref bundle = path.empty() ? Bundle::embedded() : Bundle::open(path);
   if (!bundle) return Failure::refused("can't read the folder " + path);
   std::vector<std::string> languages = bundle->folders("");
   std::erase_if(languages, [](const std::string& name) { return !name.ends_with(".lproj"); });
   if (languages.empty()) return Failure::refused("there is no *.lproj folder in " + path);
-
-  std::string output;
-  std::size_t count = 0;
   if (std::ranges::find(languages, "en.lproj") == languages.end()) {
     languages.insert(languages.begin(), "en.lproj");  // what every other locale falls back to
   }
+  std::vector<std::string> lines;
   for (const std::string& language : languages) {
-    for (const std::string& line : findings(*bundle, language + "/Localizable.strings")) {
-      output += line;
-      ++count;
-    }
+    std::ranges::move(findings(*bundle, language + "/Localizable.strings"),
+                      std::back_inserter(lines));
   }
-  const std::string tables = counted(languages.size(), "table");
-  if (count == 0) return tables + " checked, nothing found\n";
-  Failure failure = Failure::refused(counted(count, "finding") + " in " + tables);
-  failure.output = std::move(output);
-  return failure;
+  return outcome(lines, languages.size());
 }
 
 }  // namespace
 
 const Command stringsCheckCommand{
     "strings check",
-    "[FOLDER]",
-    "Checks the string tables of every language.\n"
+    "[FOLDER|FILE.json]",
+    "Checks the string tables of every language, or a table as the modules service sends it.\n"
     "FOLDER holds en.lproj/Localizable.strings and so on; without it, the built-in ones are "
     "checked.",
     {},
-    "[FOLDER]",
+    "[FOLDER|FILE.json]",
+    "FILE.json is what \"quorix score --translations\" takes; a label whose key it lacks stays "
+    "empty.\n"
     "Prints a line for each finding: a mistake in a file and its line, an entry that is missing "
     "or\n"
     "never used, a format that does not show its argument, a title that its figure does not part.\n"

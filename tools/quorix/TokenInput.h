@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -10,10 +11,13 @@
 namespace quorix::tool {
 
 /// The token that `argument` is, or for "-" the one on the standard input, without the blanks and
-/// line ends around it. Input that goes on and on is a failure.
+/// line ends around it. Input that is longer than any token is a failure.
 std::variant<std::string, Failure> tokenText(std::string_view argument);
 
 /// The failure that says why a token can't be used.
 Failure refused(TokenRefusal refusal);
+
+/// The failure that says why no widget is shown for `figures`, if none is.
+std::optional<Failure> notShown(const TokenData& figures);
 
 }  // namespace quorix::tool

@@ -5,9 +5,8 @@
 #include <algorithm>
 #include <atomic>
 
-#include "QuorixWidgets/localization/BuiltInTranslations.h"
 #include "QuorixWidgets/localization/ServiceAddresses.h"
-#include "QuorixWidgets/localization/TranslationTableReader.h"
+#include "QuorixWidgets/localization/Translations.h"
 #include "platform/foundation/MainQueue.h"
 #include "platform/foundation/URLSession.h"
 #include "platform/hosting/ViewHost.h"
@@ -37,14 +36,20 @@ bool has(const TranslationTable& table, const TranslationTable::Entry& wanted) {
   });
 }
 
-/// The entries of `all` that `some` lacks: "returns.fee, labels.hint".
-std::string missing(const TranslationTable& all, const TranslationTable& some) {
-  std::string list;
+/// The keys of `all` that `some` lacks.
+std::vector<std::string> difference(const TranslationTable& all, const TranslationTable& some) {
+  std::vector<std::string> keys;
   for (const auto& entry : all.entries()) {
     if (has(some, entry)) continue;
-    if (!list.empty()) list += ", ";
-    list += std::string(entry.section) + '.' + std::string(entry.key);
+    keys.push_back(std::string(entry.section) + '.' + std::string(entry.key));
   }
+  return keys;
+}
+
+/// "title: a, b"; empty without keys.
+std::string listed(const std::string& title, const std::vector<std::string>& keys) {
+  std::string list;
+  for (const std::string& key : keys) list += (list.empty() ? title + ": " : ", ") + key;
   return list;
 }
 
@@ -66,18 +71,19 @@ std::variant<std::string, Failure> readTranslations(const std::string& path) {
   return Failure::refused(path + ": " + line + error->description);
 }
 
-std::optional<std::string> oversights(const std::string& document) {
+Oversights Oversights::in(const std::string& document) {
   const auto result = readTranslationTable(document);
   const auto* table = std::get_if<std::shared_ptr<const TranslationTable>>(&result);
-  if (table == nullptr) return std::nullopt;
+  if (table == nullptr) return {};
   const auto complete = builtInTranslations("en");
-  const std::string empty = missing(*complete, **table);
-  const std::string unused = missing(**table, *complete);
-  if (empty.empty() && unused.empty()) return std::nullopt;
-  std::string text;
-  if (!empty.empty()) text += "missing, shown empty: " + empty;
-  if (!unused.empty()) text += (text.empty() ? "" : "; ") + ("never used: " + unused);
-  return text;
+  return {difference(*complete, **table), difference(**table, *complete)};
+}
+
+std::optional<std::string> Oversights::line() const {
+  std::string text = listed("missing, shown empty", missing);
+  if (!text.empty() && !unused.empty()) text += "; ";
+  text += listed("never used", unused);
+  return text.empty() ? std::nullopt : std::optional(text);
 }
 
 URLResponse serviceAnswer(const std::optional<std::string>& document) {

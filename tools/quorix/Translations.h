@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 #include <variant>
+#include <vector>
 
 #include "platform/foundation/URLSession.h"
 #include "platform/swiftui/View.h"
@@ -14,9 +15,16 @@ namespace quorix::tool {
 /// it.
 std::variant<std::string, Failure> readTranslations(const std::string& path);
 
-/// What a translator may have overlooked in a good table: texts that the widget will show empty,
-/// and keys that it never asks for. Nothing when all is well.
-std::optional<std::string> oversights(const std::string& document);
+/// What a translator may have overlooked in a table, by its keys: "labels.hint".
+struct Oversights {
+  std::vector<std::string> missing;  ///< their labels stay empty
+  std::vector<std::string> unused;   ///< no label asks for them
+
+  /// The oversights in a good `document`.
+  static Oversights in(const std::string& document);
+  /// All of them in one line; nothing when there are none.
+  std::optional<std::string> line() const;
+};
 
 /// What the modules service answers: `document`, or without one that it can't be reached. Nothing
 /// the tool does ever goes to the network.

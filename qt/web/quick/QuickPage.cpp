@@ -5,19 +5,24 @@
 #include <QQuickWebEngineProfile>
 #include <QQuickWindow>
 
-#include "platform/webkit/NavigationRules.h"
+#include "platform/webkit/PageRules.h"
 #include "qt/WebLog.h"
 
 namespace quorix::qt {
 
-QuickPage::QuickPage(Options options)
-    : options_(std::move(options)), escape_([this](const QObject& window) {
-        return view_ && view_->hasActiveFocus() && view_->window() == &window;
-      }) {}
+QuickPage::QuickPage(const Options& options, Client& client)
+    : options_(options),
+      client_(client),
+      escape_(
+          [this](const QObject& window) {
+            return view_ && view_->hasActiveFocus() && view_->window() == &window;
+          },
+          [this] { client_.closingKeyGiven(); }) {}
 
 std::unique_ptr<QuickPage> QuickPage::make(QQmlComponent& source, QQuickWebEngineProfile& profile,
-                                           QQuickItem& place, Options options) {
-  std::unique_ptr<QuickPage> page(new QuickPage(std::move(options)));
+                                           QQuickItem& place, const Options& options,
+                                           Client& client) {
+  std::unique_ptr<QuickPage> page(new QuickPage(options, client));
   QObject* made = source.createWithInitialProperties(
       {{QStringLiteral("page"), QVariant::fromValue<QObject*>(page.get())},
        {QStringLiteral("profile"), QVariant::fromValue(&profile)}});
@@ -28,6 +33,7 @@ std::unique_ptr<QuickPage> QuickPage::make(QQmlComponent& source, QQuickWebEngin
     return nullptr;
   }
   QQmlEngine::setObjectOwnership(made, QQmlEngine::CppOwnership);
+  page->view_->setFlag(QQuickItem::ItemAcceptsDrops, false);  // files are not for pages
   page->view_->setParentItem(&place);
   return page;
 }
@@ -36,6 +42,15 @@ QuickPage::~QuickPage() { delete view_; }
 
 void QuickPage::load(const QUrl& address) {
   if (view_ && mayNavigateTo(address)) view_->setProperty("url", address);
+}
+
+void QuickPage::stop() {
+  if (view_) QMetaObject::invokeMethod(view_, "stop");
+}
+
+void QuickPage::ask() {
+  if (!allowsScripts()) return client_.answered();  // nothing can keep it busy for long
+  if (view_) QMetaObject::invokeMethod(view_, "ask");
 }
 
 bool QuickPage::canGoBack() const { return view_ && view_->property("canGoBack").toBool(); }
@@ -52,10 +67,8 @@ bool QuickPage::mayNavigateTo(const QUrl& address) const {
   return webkit::mayNavigateTo(address.scheme().toStdString());
 }
 
-void QuickPage::windowAsked(const QUrl& address) {
-  // Not within the engine's own call: who is asked may do anything.
-  QMetaObject::invokeMethod(
-      this, [this, address] { options_.onNewWindow(address); }, Qt::QueuedConnection);
+void QuickPage::windowAsked(const QUrl& address, bool byUser) {
+  client_.windowAsked(address, byUser);
 }
 
 void QuickPage::loadFailed(const QUrl& address, const QString& why) {

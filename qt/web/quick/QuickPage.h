@@ -22,11 +22,13 @@ class QuickPage : public QObject, public WebPage {
  public:
   /// Null, with the reason on the log, when QML cannot make the view.
   static std::unique_ptr<QuickPage> make(QQmlComponent& source, QQuickWebEngineProfile& profile,
-                                         QQuickItem& place, Options options);
+                                         QQuickItem& place, const Options& options, Client& client);
   ~QuickPage() override;
 
   QObject* view() const override { return view_; }
   void load(const QUrl& address) override;
+  void stop() override;
+  void ask() override;
   bool canGoBack() const override;
   void goBack() override;
   void goForward() override;
@@ -37,13 +39,17 @@ class QuickPage : public QObject, public WebPage {
     return options_.settings.javaScriptCanOpenWindowsAutomatically;
   }
   Q_INVOKABLE bool mayNavigateTo(const QUrl& address) const;
-  Q_INVOKABLE void windowAsked(const QUrl& address);
+  Q_INVOKABLE void windowAsked(const QUrl& address, bool byUser);
+  Q_INVOKABLE void loading(bool goesOn) { client_.loading(goesOn); }
   Q_INVOKABLE void loadFailed(const QUrl& address, const QString& why);
+  Q_INVOKABLE void processEnded() { client_.processEnded(); }
+  Q_INVOKABLE void answered() { client_.answered(); }
 
  private:
-  explicit QuickPage(Options options);
+  QuickPage(const Options& options, Client& client);
 
   Options options_;
+  Client& client_;
   QPointer<QQuickItem> view_;
   EscapeKey escape_;
 };

@@ -28,7 +28,8 @@ bool reaches(QQuickWindow& window) {
 QuickWebComponent::QuickWebComponent() = default;
 QuickWebComponent::~QuickWebComponent() = default;
 
-std::unique_ptr<WebPage> QuickWebComponent::open(QObject& place, WebPage::Options options) {
+std::unique_ptr<WebPage> QuickWebComponent::open(QObject& place, const WebPage::Options& options,
+                                                 WebPage::Client& client) {
   auto* item = qobject_cast<QQuickItem*>(&place);
   if (!item || !item->window() || !WebEngine::start()) return nullptr;
   if (!reaches(*item->window())) {
@@ -43,7 +44,7 @@ std::unique_ptr<WebPage> QuickWebComponent::open(QObject& place, WebPage::Option
     source_ = std::make_unique<QQmlComponent>(
         &engine_, QUrl(QStringLiteral("qrc:/quorix/web/quick/WebPage.qml")));
   }
-  return QuickPage::make(*source_, *profile_, *item, std::move(options));
+  return QuickPage::make(*source_, *profile_, *item, options, client);
 }
 
 }  // namespace quorix::qt

@@ -16,7 +16,8 @@ class QuickWebComponent final : public WebComponent {
   QuickWebComponent();
   ~QuickWebComponent();
 
-  std::unique_ptr<WebPage> open(QObject& place, WebPage::Options options) override;
+  std::unique_ptr<WebPage> open(QObject& place, const WebPage::Options& options,
+                                WebPage::Client& client) override;
 
  private:
   std::unique_ptr<QQuickWebEngineProfile> profile_;

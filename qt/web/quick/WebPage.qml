@@ -1,45 +1,83 @@
 import QtQuick
 import QtWebEngine
 
-// A page that stands in an app: it shows itself and nothing else. `page` is a QuickPage.
+// A page that stands in an app: it shows itself and nothing else, and whatever a browser would ask its
+// user for is refused. `page` is a QuickPage. The widgets' page is QuietPage; both keep to one table of
+// requests, tests/web/PageRequestsTest.cpp.
 WebEngineView {
+    id: view
+
     required property QtObject page
+
+    // Tells the page's client that the page's process answers.
+    function ask() {
+        runJavaScript("0", () => page.answered());
+    }
 
     backgroundColor: page.background
     settings {
-        javascriptEnabled: page.allowsScripts
+        allowWindowActivationFromJavaScript: false
+        javascriptCanAccessClipboard: false
         javascriptCanOpenWindows: page.opensWindowsUnasked
+        javascriptCanPaste: false
+        javascriptEnabled: page.allowsScripts
         errorPageEnabled: false // the background shows instead
         focusOnNavigationEnabled: false
         fullScreenSupportEnabled: false
+        navigateOnDropEnabled: false
         pluginsEnabled: false
         screenCaptureEnabled: false
         unknownUrlSchemePolicy: WebEngineSettings.DisallowUnknownUrlSchemes
     }
 
-    onNewWindowRequested: request => page.windowAsked(request.requestedUrl)
+    onLoadProgressChanged: if (loading) page.loading(true)
     onLoadingChanged: info => {
+        page.loading(info.status === WebEngineView.LoadStartedStatus);
         if (info.status === WebEngineView.LoadFailedStatus) page.loadFailed(info.url, info.errorString);
     }
     onNavigationRequested: request => {
         if (!page.mayNavigateTo(request.url)) request.reject();
     }
+    onNewWindowRequested: request => page.windowAsked(request.requestedUrl, request.userInitiated)
+    onRenderProcessTerminated: page.processEnded()
 
     onAuthenticationDialogRequested: request => {
         request.accepted = true;
         request.dialogReject();
     }
+    onCertificateError: error => error.rejectCertificate()
+    onColorDialogRequested: request => {
+        request.accepted = true;
+        request.dialogReject();
+    }
     onContextMenuRequested: request => request.accepted = true
-    onFeaturePermissionRequested: (origin, feature) => grantFeaturePermission(origin, feature, false)
     onFileDialogRequested: request => {
         request.accepted = true;
         request.dialogReject();
     }
+    onFileSystemAccessRequested: request => request.reject()
+    onFullScreenRequested: request => request.reject()
+    onJavaScriptConsoleMessage: {} // a handler keeps the page's words off the host's log
     onJavaScriptDialogRequested: request => {
         request.accepted = true;
         request.dialogReject();
     }
     onQuotaRequested: request => request.reject()
     onRegisterProtocolHandlerRequested: request => request.reject()
+    onSelectClientCertificate: selection => selection.selectNone()
     onTooltipRequested: request => request.accepted = true
+    onTouchSelectionMenuRequested: request => request.accepted = true
+
+    // What not every version of the engine asks for.
+    Connections {
+        target: view
+        ignoreUnknownSignals: true
+
+        function onDesktopMediaRequested(request) { request.cancel(); } // 6.7
+        function onFeaturePermissionRequested(origin, feature) { // until 6.8
+            view.grantFeaturePermission(origin, feature, false);
+        }
+        function onPermissionRequested(permission) { permission.deny(); } // 6.8
+        function onWebAuthUxRequested(request) { request.cancel(); } // 6.7
+    }
 }

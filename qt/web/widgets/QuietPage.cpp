@@ -1,35 +1,37 @@
 #include "qt/web/widgets/QuietPage.h"
 
 #include <QAuthenticator>
+#include <QWebEngineCertificateError>
+#include <QWebEngineClientCertificateSelection>
+#include <QWebEngineFileSystemAccessRequest>
+#include <QWebEngineFullScreenRequest>
 #include <QWebEngineLoadingInfo>
 #include <QWebEngineNewWindowRequest>
 #include <QWebEngineQuotaRequest>
 #include <QWebEngineRegisterProtocolHandlerRequest>
 #include <QWebEngineSettings>
 
-#include "platform/webkit/NavigationRules.h"
+#if QT_VERSION >= QT_VERSION_CHECK(6, 7, 0)
+#include <QWebEngineDesktopMediaRequest>
+#include <QWebEngineWebAuthUxRequest>
+#endif
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+#include <QWebEnginePermission>
+#endif
+
+#include "platform/webkit/PageRules.h"
 #include "qt/WebLog.h"
 
 namespace quorix::qt {
 
-QuietPage::QuietPage(QWebEngineProfile& profile, WebPage::Options options, QObject* parent)
-    : QWebEnginePage(&profile, parent), options_(std::move(options)) {
-  setBackgroundColor(options_.background);
-  settle(options_.settings);
+QuietPage::QuietPage(QWebEngineProfile& profile, const WebPage::Options& options,
+                     WebPage::Client& client, QObject* parent)
+    : QWebEnginePage(&profile, parent) {
+  setBackgroundColor(options.background);
+  settle(options.settings);
+  tell(client);
   refuseRequests();
-  connect(this, &QWebEnginePage::loadingChanged, this, [](const QWebEngineLoadingInfo& info) {
-    if (info.status() != QWebEngineLoadingInfo::LoadFailedStatus) return;
-    qCWarning(webLog, "%s was not loaded: %s",
-              qUtf8Printable(info.url().toDisplayString(QUrl::RemoveQuery)),
-              qUtf8Printable(info.errorString()));
-  });
-  connect(this, &QWebEnginePage::newWindowRequested, this,
-          [this](const QWebEngineNewWindowRequest& request) {
-            // Not within the engine's own call: who is asked may do anything.
-            QMetaObject::invokeMethod(
-                this, [this, address = request.requestedUrl()] { options_.onNewWindow(address); },
-                Qt::QueuedConnection);
-          });
+  refusePermissions();
 }
 
 void QuietPage::settle(const webkit::WebContent::Settings& asked) {
@@ -37,25 +39,70 @@ void QuietPage::settle(const webkit::WebContent::Settings& asked) {
   Settings& own = *settings();
   own.setAttribute(Settings::JavascriptEnabled, asked.allowsContentJavaScript);
   own.setAttribute(Settings::JavascriptCanOpenWindows, asked.javaScriptCanOpenWindowsAutomatically);
-  for (const auto off : {Settings::ErrorPageEnabled, Settings::FocusOnNavigationEnabled,
-                         Settings::FullScreenSupportEnabled, Settings::PluginsEnabled,
+  for (const auto off : {Settings::AllowWindowActivationFromJavaScript, Settings::ErrorPageEnabled,
+                         Settings::FocusOnNavigationEnabled, Settings::FullScreenSupportEnabled,
+                         Settings::JavascriptCanAccessClipboard, Settings::JavascriptCanPaste,
+                         Settings::NavigateOnDropEnabled, Settings::PluginsEnabled,
                          Settings::ScreenCaptureEnabled}) {
     own.setAttribute(off, false);
   }
   own.setUnknownUrlSchemePolicy(Settings::DisallowUnknownUrlSchemes);
 }
 
-void QuietPage::refuseRequests() {
-  connect(this, &QWebEnginePage::featurePermissionRequested, this,
-          [this](const QUrl& origin, Feature feature) {
-            setFeaturePermission(origin, feature, PermissionDeniedByUser);
+void QuietPage::tell(WebPage::Client& client) {
+  connect(this, &QWebEnginePage::loadProgress, this, [this, &client] {
+    if (isLoading()) client.loading(true);
+  });
+  connect(this, &QWebEnginePage::loadingChanged, this,
+          [&client](const QWebEngineLoadingInfo& info) {
+            client.loading(info.status() == QWebEngineLoadingInfo::LoadStartedStatus);
+            if (info.status() != QWebEngineLoadingInfo::LoadFailedStatus) return;
+            qCWarning(webLog, "%s was not loaded: %s",
+                      qUtf8Printable(info.url().toDisplayString(QUrl::RemoveQuery)),
+                      qUtf8Printable(info.errorString()));
           });
+  connect(this, &QWebEnginePage::newWindowRequested, this,
+          [&client](const QWebEngineNewWindowRequest& request) {
+            client.windowAsked(request.requestedUrl(), request.isUserInitiated());
+          });
+  connect(this, &QWebEnginePage::renderProcessTerminated, this,
+          [&client] { client.processEnded(); });
+}
+
+void QuietPage::refuseRequests() {
+  connect(this, &QWebEnginePage::certificateError, this,
+          [](QWebEngineCertificateError error) { error.rejectCertificate(); });
+  connect(this, &QWebEnginePage::fileSystemAccessRequested, this,
+          [](QWebEngineFileSystemAccessRequest request) { request.reject(); });
+  connect(this, &QWebEnginePage::fullScreenRequested, this,
+          [](QWebEngineFullScreenRequest request) { request.reject(); });
   connect(this, &QWebEnginePage::quotaRequested, this,
           [](QWebEngineQuotaRequest request) { request.reject(); });
   connect(this, &QWebEnginePage::registerProtocolHandlerRequested, this,
           [](QWebEngineRegisterProtocolHandlerRequest request) { request.reject(); });
+  connect(this, &QWebEnginePage::selectClientCertificate, this,
+          [](QWebEngineClientCertificateSelection selection) { selection.selectNone(); });
   const auto withoutName = [](auto&&, QAuthenticator* authenticator) { *authenticator = {}; };
   connect(this, &QWebEnginePage::authenticationRequired, this, withoutName);
+  connect(this, &QWebEnginePage::proxyAuthenticationRequired, this, withoutName);
+#if QT_VERSION >= QT_VERSION_CHECK(6, 7, 0)
+  connect(this, &QWebEnginePage::desktopMediaRequested, this,
+          [](const QWebEngineDesktopMediaRequest& request) { request.cancel(); });
+  connect(this, &QWebEnginePage::webAuthUxRequested, this,
+          [](QWebEngineWebAuthUxRequest* request) { request->cancel(); });
+#endif
+}
+
+void QuietPage::refusePermissions() {
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+  connect(this, &QWebEnginePage::permissionRequested, this,
+          [](const QWebEnginePermission& permission) { permission.deny(); });
+#else
+  connect(this, &QWebEnginePage::featurePermissionRequested, this,
+          [this](const QUrl& origin, Feature feature) {
+            setFeaturePermission(origin, feature, PermissionDeniedByUser);
+          });
+#endif
 }
 
 bool QuietPage::mayNavigateTo(const QUrl& address) {

@@ -7,12 +7,14 @@
 namespace quorix::qt {
 
 /// A page that stands in an app: it shows itself and nothing else, and is refused quietly whatever
-/// a browser would ask its user for.
+/// a browser would ask its user for. The Qt Quick page is WebPage.qml; both keep to one table of
+/// requests, tests/web/PageRequestsTest.cpp.
 class QuietPage : public QWebEnginePage {
   Q_OBJECT
 
  public:
-  QuietPage(QWebEngineProfile& profile, WebPage::Options options, QObject* parent);
+  QuietPage(QWebEngineProfile& profile, const WebPage::Options& options, WebPage::Client& client,
+            QObject* parent);
 
   static bool mayNavigateTo(const QUrl& address);
 
@@ -27,12 +29,15 @@ class QuietPage : public QWebEnginePage {
   bool javaScriptPrompt(const QUrl&, const QString&, const QString&, QString*) override {
     return false;
   }
+  /// Keeps the page's words off the host's log.
+  void javaScriptConsoleMessage(JavaScriptConsoleMessageLevel, const QString&, int,
+                                const QString&) override {}
 
  private:
   void settle(const webkit::WebContent::Settings& settings);
+  void tell(WebPage::Client& client);
   void refuseRequests();
-
-  WebPage::Options options_;
+  void refusePermissions();
 };
 
 }  // namespace quorix::qt

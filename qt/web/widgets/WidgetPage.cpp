@@ -4,14 +4,18 @@
 #include <QWindow>
 
 #include "qt/web/widgets/QuietPage.h"
+#include "qt/web/widgets/QuietView.h"
 
 namespace quorix::qt {
 
-WidgetPage::WidgetPage(QWebEngineProfile& profile, QWidget& place, Options options)
-    : view_(new QWebEngineView(&place)),
-      escape_([this](const QObject& window) { return hasFocusIn(window); }) {
-  view_->setContextMenuPolicy(Qt::NoContextMenu);
-  view_->setPage(new QuietPage(profile, std::move(options), view_));
+WidgetPage::WidgetPage(QWebEngineProfile& profile, QWidget& place, const Options& options,
+                       Client& client)
+    : view_(new QuietView(&place)),
+      client_(client),
+      allowsScripts_(options.settings.allowsContentJavaScript),
+      escape_([this](const QObject& window) { return hasFocusIn(window); },
+              [this] { client_.closingKeyGiven(); }) {
+  view_->setPage(new QuietPage(profile, options, client, view_));
 }
 
 WidgetPage::~WidgetPage() { delete view_; }
@@ -23,6 +27,19 @@ bool WidgetPage::hasFocusIn(const QObject& window) const {
 
 void WidgetPage::load(const QUrl& address) {
   if (view_ && QuietPage::mayNavigateTo(address)) view_->load(address);
+}
+
+void WidgetPage::stop() {
+  if (view_) view_->stop();
+}
+
+void WidgetPage::ask() {
+  if (!allowsScripts_) return client_.answered();  // nothing can keep it busy for long
+  if (!view_) return;
+  // The engine also calls back when the page is taken away.
+  view_->page()->runJavaScript(QStringLiteral("0"), [this, asked = view_](const QVariant& answer) {
+    if (asked && answer.isValid()) client_.answered();
+  });
 }
 
 bool WidgetPage::canGoBack() const { return view_ && view_->history()->canGoBack(); }

@@ -11,11 +11,13 @@ namespace quorix::qt {
 /// A page in a window of widgets.
 class WidgetPage final : public WebPage {
  public:
-  WidgetPage(QWebEngineProfile& profile, QWidget& place, Options options);
+  WidgetPage(QWebEngineProfile& profile, QWidget& place, const Options& options, Client& client);
   ~WidgetPage() override;
 
   QObject* view() const override { return view_; }
   void load(const QUrl& address) override;
+  void stop() override;
+  void ask() override;
   bool canGoBack() const override;
   void goBack() override;
   void goForward() override;
@@ -24,6 +26,8 @@ class WidgetPage final : public WebPage {
   bool hasFocusIn(const QObject& window) const;
 
   QPointer<QWebEngineView> view_;
+  Client& client_;
+  const bool allowsScripts_;
   EscapeKey escape_;
 };
 

@@ -14,11 +14,12 @@ namespace {
 /// application.
 class WidgetWebComponent final : public WebComponent {
  public:
-  std::unique_ptr<WebPage> open(QObject& place, WebPage::Options options) override {
+  std::unique_ptr<WebPage> open(QObject& place, const WebPage::Options& options,
+                                WebPage::Client& client) override {
     auto* widget = qobject_cast<QWidget*>(&place);
     if (!widget || !WebEngine::start()) return nullptr;
     if (!profile_) profile_ = std::make_unique<QWebEngineProfile>();  // off the record
-    return std::make_unique<WidgetPage>(*profile_, *widget, std::move(options));
+    return std::make_unique<WidgetPage>(*profile_, *widget, options, client);
   }
 
  private:

@@ -1,19 +1,79 @@
-// A program without Qt: the figures of a token, and the row that shows them.
+// A program without Qt: the figures of a token, the row that shows them and is read out in the
+// host's own words, and fonts for texts beside it.
 #include <QuorixWidgets/data/TokenData.h>
+#include <QuorixWidgets/data/UserDetails.h>
+#include <QuorixWidgets/localization/Font.h>
+#include <QuorixWidgets/localization/ResourceBundle.h>
+#include <QuorixWidgets/localization/UIFont.h>
 #include <QuorixWidgets/score/ScoreWidgetBuilder.h>
+#include <platform/foundation/Bundle.h>
+#include <platform/hosting/ViewHost.h>
 #include <platform/swiftui/TreePrinter.h>
 
 #include <iostream>
 
 #include "../Token.h"
 
+namespace {
+
+bool hasFonts() {
+  using namespace quorix;
+  const auto fee = Font::Quorix::fixed(QuorixFont::regular(), 14);
+  const auto title = Font::Tova::relative(TovaFont::regular(), 16, swiftui::TextStyle::headline);
+  const auto label = UIFont::Quorix::fixed(QuorixFont::medium(), 13);
+  const auto link = UIFont::Tova::fixed(TovaFont::regular(), 13);
+  return fee.name() == "Saans-Regular" && !fee.scales() && title.size() == 16 && title.scales() &&
+         label->name() == "Saans-Medium" && link->pointSize() == 13;
+}
+
+/// Ten points for each byte of a text.
+struct PlainText final : quorix::text::TextEngine {
+  quorix::text::TextMetrics measure(const quorix::text::AttributedText& text, double) override {
+    return {{leastWidth(text), 20}, 15, 15, 1};
+  }
+  double leastWidth(const quorix::text::AttributedText& text) override {
+    double width = 0;
+    for (const auto& run : text.runs) width += 10 * static_cast<double>(run.text.size());
+    return width;
+  }
+};
+
+struct Surface final : quorix::hosting::ViewHost::Client {
+  void viewNeedsDisplay() override {}
+  void presentationChanged() override {}
+};
+
+/// What a screen reader says of `view`.
+std::string spoken(const quorix::swiftui::View& view) {
+  PlainText text;
+  Surface surface;
+  quorix::hosting::ViewHost host(text, surface);
+  host.setRoot(view);
+  const auto& elements = host.scene({390, 80}).accessibility;
+  return elements.empty() ? "nothing" : elements.front().label;
+}
+
+}  // namespace
+
 int main() {
+  using quorix::foundation::Bundle;
+  using quorix::foundation::Data;
+  quorix::setTheme(Bundle::of({}));
+  Bundle::setMain(Bundle::of(
+      {{"en.lproj/Localizable.strings", Data("\"%@ %@ %@, %@ %@\" = \"%3$@ instead of %5$@\";")}}));
   const auto figures = quorix::parseTokenData(shopperToken);
   const auto row = quorix::ScoreWidgetBuilder::buildSwiftUIScoreWidgetView(
       "my-shop", "en", shopperToken, {std::nullopt, std::nullopt});
-  const std::string tree = quorix::swiftui::printTree(row);
-  std::cout << tree << '\n';
+  const std::string tree = quorix::swiftui::printTree(row), words = spoken(row);
+  std::cout << tree << '\n' << words << '\n';
+  quorix::foundation::JSONDocument document;
+  const auto answer = document.parse(R"([{"item_return_rate": 0.5}])");
+  const auto& shoppers = std::get<quorix::foundation::JSONValue>(answer);
+  const auto details = quorix::UserDetails::decode(shoppers.elements().front());
+  const auto* error = std::get_if<quorix::foundation::DecodingError>(&details);
   const bool right = figures && figures->currency == "EUR" && figures->returnsFee == 600 &&
-                     tree.find("3.00") != std::string::npos;
+                     tree.find("3.00") != std::string::npos && hasFonts() &&
+                     words == "€3.00 instead of €6.00" && error != nullptr &&
+                     error->key == "item_return_percentile";
   return right ? 0 : 1;
 }

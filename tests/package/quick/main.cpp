@@ -1,11 +1,13 @@
-// A Qt Quick app: the score row is painted, and a tap on the info widget opens its page. With
-// "--web" the installed web engine must be what shows it.
+// A Qt Quick app: its own texts find the library's face, the score row is painted, and a tap on the
+// info widget opens its page. With "--web" the installed web engine must be what shows it.
 #include <QuorixWidgets/info/InfoWidgetBuilder.h>
+#include <QuorixWidgets/localization/QuorixFont.h>
 #include <QuorixWidgets/score/ScoreWidgetBuilder.h>
 #include <qt/quick/ViewItem.h>
 
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFontInfo>
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QQuickWindow>
@@ -44,6 +46,8 @@ bool showsSomething(const QImage& picture) {
 int main(int argc, char** argv) {
   QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
   QGuiApplication app(argc, argv);
+  quorix::QuorixFont::medium();
+  if (QFontInfo(QFont(QStringLiteral("Saans"))).family() != QLatin1String("Saans")) return 1;
   QQuickWindow window;
   window.resize(390, 600);
   const auto place = [&](quorix::swiftui::View view, double y) {

@@ -9,7 +9,7 @@
 #include "QuorixWidgets/info/InfoWidgetBuilder.h"
 #include "QuorixWidgets/info/InfoWidgetView.h"
 #include "QuorixWidgets/localization/TovaFont.h"
-#include "QuorixWidgets/localization/TranslationTableReader.h"
+#include "QuorixWidgets/localization/Translations.h"
 #include "QuorixWidgets/score/ScoreWidgetView.h"
 #include "platform/foundation/MainQueue.h"
 #include "platform/foundation/URLSession.h"

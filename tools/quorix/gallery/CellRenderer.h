@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "QuorixWidgets/localization/TranslationTable.h"
+#include "QuorixWidgets/localization/Translations.h"
 #include "platform/swiftui/View.h"
 #include "qt/StillScene.h"
 #include "tools/quorix/gallery/Matrix.h"

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "QuorixWidgets/localization/ResourceBundle.h"
-#include "QuorixWidgets/localization/StringTableProblem.h"
+#include "QuorixWidgets/localization/Strings.h"
 #include "platform/foundation/StringsFile.h"
 #include "platform/foundation/URLSession.h"
 #include "tools/quorix/InputFile.h"
@@ -59,7 +59,7 @@ std::string findings(const std::string& file) {
 std::string findingsInTranslations(const std::string& file) {
   const auto document = readTranslations(file);
   if (const auto* failure = std::get_if<Failure>(&document)) return failure->message;
-  return oversights(std::get<std::string>(document)).value_or("");
+  return Oversights::in(std::get<std::string>(document)).line().value_or("");
 }
 
 /// Whether a change in `file` shows when the widget is made again.

@@ -1,13 +1,13 @@
 #include "tools/quorix/preview/PreviewCommand.h"
 
 #include <QApplication>
+#include <utility>
 
 #include "QuorixWidgets/localization/ResourceBundle.h"
 #include "qt/Engine.h"
 #include "tools/quorix/QuietQt.h"
 #include "tools/quorix/Translations.h"
 #include "tools/quorix/WidgetOptions.h"
-#include "tools/quorix/preview/LayeredBundle.h"
 #include "tools/quorix/preview/Preview.h"
 #include "tools/quorix/preview/PreviewChoices.h"
 
@@ -18,10 +18,9 @@ using foundation::Bundle;
 
 std::optional<Failure> layResources(const std::optional<std::string>& folder) {
   if (!folder) return std::nullopt;
-  Bundle::Ref upper = Bundle::open(*folder);
-  if (!upper) return Failure::refused("can't read the folder " + *folder);
-  Bundle::registerBundle(kResourceBundleIdentifier,
-                         std::make_shared<LayeredBundle>(upper, Bundle::embedded()));
+  Bundle::Ref theme = Bundle::open(*folder);
+  if (!theme) return Failure::refused("can't read the folder " + *folder);
+  setTheme(std::move(theme));
   return std::nullopt;
 }
 

@@ -3,6 +3,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "QuorixWidgets/info/InfoTitle.h"
 #include "QuorixWidgets/info/InfoWidgetBuilder.h"
 #include "QuorixWidgets/score/ScoreWidgetBuilder.h"
 #include "platform/swiftui/UIViewRepresentable.h"
@@ -22,6 +23,7 @@ swiftui::View viewOf(const PreviewChoices& choices) {
         "preview", choices.locale, choices.shoppers[choices.shopper].token,
         {choices.regularFont, choices.semiBoldFont});
   }
+  if (!hasInfoTitle(choices.locale)) return {};  // as it is edited; the controls say what is wrong
   const InfoWidgetStyle style(choices.regularFont, choices.semiBoldFont, std::nullopt, false);
   if (choices.widget == PreviewChoices::Widget::info) {
     return InfoWidgetBuilder::buildSwiftUIInfoWidgetView(choices.locale, style);

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <cstddef>
+
+namespace quorix::bench {
+
+/// How often this process has allocated memory so far, by whichever library (glibc only).
+std::size_t allocations();
+
+}  // namespace quorix::bench

@@ -1,0 +1,44 @@
+// A builder call to the painted picture of a score row, to be counted: the same row again ("same")
+// or a row of another shopper's each time ("different"). Prints the allocations of a call; run
+// under callgrind with two counts of calls, the difference is the instructions of a call.
+//
+//   counted_picture same|different [CALLS]
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+#include "bench/Allocations.h"
+#include "bench/BenchApplication.h"
+#include "bench/Shopper.h"
+#include "qt/Picture.h"
+
+int main(int argc, char** argv) {
+  using namespace quorix;
+  const bench::BenchApplication application(argc, argv);
+  const bool different = argc > 1 && std::string_view(argv[1]) == "different";
+  const int calls = argc > 2 ? std::atoi(argv[2]) : 1000;
+
+  // More shoppers than any cache of texts holds.
+  std::vector<std::unique_ptr<bench::Shopper>> shoppers;
+  for (std::size_t i = 0; i < (different ? 997 : 1); ++i) {
+    shoppers.push_back(std::make_unique<bench::Shopper>(i));
+  }
+  qt::PictureOptions options;
+  options.width = 343;
+  options.height = 17;
+  options.background = graphics::RGBA{0, 0, 0, 0};  // as on the library's surfaces
+  const auto paint = [&](std::size_t turn) {
+    const auto& shopper = shoppers[turn % shoppers.size()];
+    if (qt::picture(shopper->ours(), options).isNull()) std::abort();
+  };
+  std::size_t turn = 0;
+  while (turn < 20) paint(turn++);
+
+  const std::size_t before = bench::allocations();
+  for (int i = 0; i < calls; ++i) paint(turn++);
+  std::printf("{\"allocations\": %.1f}\n",
+              static_cast<double>(bench::allocations() - before) / std::max(1, calls));
+}

@@ -1,0 +1,36 @@
+# quorix_unity(TARGET): under CMAKE_UNITY_BUILD the sources of a folder, or of some folders that include
+# the same headers, are compiled as one file, because most of the time goes into those headers. A host
+# may set it, and the preset "demo" does; other presets compile each file alone, which shows an include
+# that is missing.
+
+# Files whose local names another file has, too.
+set(quorix_compiled_alone
+  examples/shop/pictures/WidgetPictures.cpp
+  examples/shop/pictures/WindowPictures.cpp
+  platform/swiftui/TreePrinter.cpp
+  qt/QtTextEngine.cpp
+  qt/TextPictures.cpp)
+
+function(quorix_unity target)
+  if(NOT CMAKE_UNITY_BUILD)
+    return()
+  endif()
+  set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
+  get_target_property(sources ${target} SOURCES)
+  foreach(source IN LISTS sources)
+    cmake_path(ABSOLUTE_PATH source)
+    cmake_path(RELATIVE_PATH source BASE_DIRECTORY ${PROJECT_SOURCE_DIR} OUTPUT_VARIABLE path)
+    cmake_path(GET path PARENT_PATH folder)
+    if(path MATCHES "\\.cpp$" AND NOT path IN_LIST quorix_compiled_alone)
+      if(folder MATCHES "^platform/(foundation|graphics)$")
+        set(group platform_data)
+      elseif(folder MATCHES "^(platform|examples/shop|qt/web)(/|$)")
+        set(group ${CMAKE_MATCH_1})
+      else()
+        set(group ${folder})
+      endif()
+      string(MAKE_C_IDENTIFIER "${group}" group)
+      set_source_files_properties(${source} PROPERTIES UNITY_GROUP ${group})
+    endif()
+  endforeach()
+endfunction()

@@ -1,0 +1,151 @@
+// The modifiers that decide what size their content is offered.
+#include <algorithm>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "platform/layout/Alignment.h"
+#include "platform/swiftui/Descriptions.h"
+#include "platform/swiftui/LayoutPass.h"
+#include "platform/swiftui/Modifier.h"
+
+namespace quorix::swiftui {
+namespace {
+
+using layout::ProposedSize;
+using layout::Size;
+
+class FixedFrame final : public LayoutModifier {
+ public:
+  FixedFrame(View content, std::optional<double> width, std::optional<double> height,
+             layout::Alignment alignment)
+      : LayoutModifier(std::move(content)), width_(width), height_(height), alignment_(alignment) {}
+
+  Size measure(LayoutPass& in, Element& self, ProposedSize proposal) const override {
+    const Size size = in.measure(self.child(), inside(proposal));
+    return {width_.value_or(size.width), height_.value_or(size.height)};
+  }
+  void place(LayoutPass& in, Element& self, ProposedSize proposal) const override {
+    in.placeAligned(self.child(), self.frame, alignment_, inside(proposal));
+  }
+  double leastWidth(LayoutPass& in, Element& self) const override {
+    return width_ ? *width_ : in.leastWidth(self.child());
+  }
+
+ private:
+  std::string description() const override {
+    std::string bounds;
+    if (width_) bounds += "width: " + number(*width_) + ", ";
+    if (height_) bounds += "height: " + number(*height_) + ", ";
+    return ".frame(" + bounds + "alignment: " + nameOf(alignment_) + ")";
+  }
+  ProposedSize inside(ProposedSize proposal) const {
+    return {width_ ? width_ : proposal.width, height_ ? height_ : proposal.height};
+  }
+
+  std::optional<double> width_;
+  std::optional<double> height_;
+  layout::Alignment alignment_;
+};
+
+/// As wide as it is offered.
+class MaxWidthFrame final : public LayoutModifier {
+ public:
+  MaxWidthFrame(View content, layout::Alignment alignment)
+      : LayoutModifier(std::move(content)), alignment_(alignment) {}
+
+  Size measure(LayoutPass& in, Element& self, ProposedSize proposal) const override {
+    const Size size = in.measure(self.child(), proposal);
+    return {proposal.width.value_or(size.width), size.height};
+  }
+  void place(LayoutPass& in, Element& self, ProposedSize proposal) const override {
+    in.placeAligned(self.child(), self.frame, alignment_, proposal);
+  }
+  double leastWidth(LayoutPass& in, Element& self) const override {
+    return in.leastWidth(self.child());
+  }
+
+ private:
+  std::string description() const override {
+    return ".frame(maxWidth: infinity, alignment: " + nameOf(alignment_) + ")";
+  }
+
+  layout::Alignment alignment_;
+};
+
+/// Its content's ideal length, whatever is offered.
+class FixedSize final : public LayoutModifier {
+ public:
+  FixedSize(View content, bool horizontal, bool vertical)
+      : LayoutModifier(std::move(content)), horizontal_(horizontal), vertical_(vertical) {}
+
+  Size measure(LayoutPass& in, Element& self, ProposedSize proposal) const override {
+    return in.measure(self.child(), inside(proposal));
+  }
+  void place(LayoutPass& in, Element& self, ProposedSize proposal) const override {
+    in.place(self.child(), self.frame.origin, inside(proposal));
+  }
+  double leastWidth(LayoutPass& in, Element& self) const override {
+    return horizontal_ ? in.measure(self, {}).width : in.leastWidth(self.child());
+  }
+
+ private:
+  std::string description() const override {
+    return ".fixedSize(horizontal: " + std::string(nameOf(horizontal_)) +
+           ", vertical: " + std::string(nameOf(vertical_)) + ")";
+  }
+  ProposedSize inside(ProposedSize proposal) const {
+    if (horizontal_) proposal.width.reset();
+    if (vertical_) proposal.height.reset();
+    return proposal;
+  }
+
+  bool horizontal_;
+  bool vertical_;
+};
+
+/// As large as fits, in the proportion of its content's ideal size.
+class ScaledToFit final : public LayoutModifier {
+ public:
+  using LayoutModifier::LayoutModifier;
+
+  Size measure(LayoutPass& in, Element& self, ProposedSize proposal) const override {
+    return in.measure(self.child(), fitting(in.measure(self.child(), {}), proposal));
+  }
+  void place(LayoutPass& in, Element& self, ProposedSize proposal) const override {
+    in.place(self.child(), self.frame.origin, fitting(in.measure(self.child(), {}), proposal));
+  }
+  double leastWidth(LayoutPass&, Element&) const override { return 0; }
+
+ private:
+  std::string description() const override { return ".scaledToFit()"; }
+
+  /// The largest size in the proportion of `ideal` that fits into `proposal`.
+  static ProposedSize fitting(Size ideal, ProposedSize proposal) {
+    if (ideal.width <= 0 || ideal.height <= 0) return proposal;
+    if (!proposal.width && !proposal.height) return exactly(ideal);
+    const double byWidth = proposal.width.value_or(layout::infinity) / ideal.width;
+    const double byHeight = proposal.height.value_or(layout::infinity) / ideal.height;
+    const double scale = std::min(byWidth, byHeight);
+    return {ideal.width * scale, ideal.height * scale};
+  }
+};
+
+}  // namespace
+
+View View::frame(std::optional<double> width, std::optional<double> height,
+                 layout::Alignment alignment) const {
+  return makeView<FixedFrame>(*this, width, height, alignment);
+}
+
+View View::frameMaxWidthInfinity(layout::Alignment alignment) const {
+  return makeView<MaxWidthFrame>(*this, alignment);
+}
+
+View View::fixedSize(bool horizontal, bool vertical) const {
+  return makeView<FixedSize>(*this, horizontal, vertical);
+}
+
+View View::scaledToFit() const { return makeView<ScaledToFit>(*this); }
+
+}  // namespace quorix::swiftui

@@ -1,0 +1,218 @@
+// The modifiers that act: on a tap, when the view comes on screen, when its size changed, with a
+// sheet.
+#include <algorithm>
+#include <functional>
+#include <string>
+#include <utility>
+
+#include "platform/graphics/AssetCatalog.h"
+#include "platform/swiftui/Descriptions.h"
+#include "platform/swiftui/DisplayListBuilder.h"
+#include "platform/swiftui/Elements.h"
+#include "platform/swiftui/Evaluator.h"
+#include "platform/swiftui/Modifier.h"
+#include "platform/swiftui/TreePrinter.h"
+
+namespace quorix::swiftui {
+namespace {
+
+using foundation::Action;
+using layout::Axis;
+using render::AccessibilityElement;
+
+class TapGesture final : public Decoration {
+ public:
+  TapGesture(View content, Action action)
+      : Decoration(std::move(content)), action_(std::move(action)) {}
+
+  void evaluate(Evaluator& in, const Look& look, Axis axis, ElementList& out) const override {
+    ++in.result().hitAreas;
+    Decoration::evaluate(in, look, axis, out);
+  }
+
+  void show(DisplayListBuilder& to, const Element& self) const override {
+    // Before what lies inside and on top of it.
+    to.list.hitAreas.push_back({to.onPixels(self.frame), action_});
+    const std::size_t first = to.described();
+    to.showChildren(self);
+    // A picture without a name is not made to act beside what has one.
+    const auto below = to.describedSince(first);
+    const bool anyNamed = std::any_of(below.begin(), below.end(), DisplayListBuilder::isNamed);
+    for (AccessibilityElement& child : below) {
+      if (!anyNamed || DisplayListBuilder::isNamed(child)) DisplayListBuilder::act(child, action_);
+    }
+  }
+
+ private:
+  std::string description() const override { return ".onTapGesture(count: 1)"; }
+
+  Action action_;
+};
+
+/// The platform's colour of what can be tapped.
+const Color& accentColor(graphics::Appearance appearance) {
+  static const Color light = Color::fixed({0, 122, 255});
+  static const Color dark = Color::fixed({10, 132, 255});
+  return appearance == graphics::Appearance::dark ? dark : light;
+}
+
+/// An element that holds its label.
+class ButtonNode final : public Node, public Transparent {
+ public:
+  ButtonNode(Action action, View label) : label_(std::move(label)), action_(std::move(action)) {}
+
+  void print(TreePrinter& to, int depth) const override {
+    to.line(depth, "Button");
+    to.print(label_, depth + 1);
+  }
+
+  void evaluate(Evaluator& in, const Look& look, Axis axis, ElementList& out) const override {
+    Look inner = look;
+    if (!inner.color) inner.color = &accentColor(in.environment.appearance);
+    ++in.result().hitAreas;
+    auto* button = in.make<Element>(static_cast<const ElementRules&>(*this));
+    in.adopt(*button, in.single(label_, inner, axis));
+    out.append(button);
+  }
+
+  void show(DisplayListBuilder& to, const Element& self) const override {
+    const layout::Rect frame = to.onPixels(self.frame);
+    to.list.hitAreas.push_back({frame, action_});
+    const std::size_t first = to.described();
+    const auto image = to.showLabel(self);
+    std::string words;
+    for (const AccessibilityElement& part : to.describedSince(first)) {
+      if (!words.empty() && !part.label.empty()) words += ", ";
+      words += part.label;
+    }
+    if (words.empty() && image.bundle) {
+      words = graphics::spokenName(*image.bundle, *image.name, to.environment.language);
+    }
+    to.list.accessibility.resize(first);
+    to.list.accessibility.push_back({frame, render::Role::button, std::move(words), {}, action_});
+  }
+
+ private:
+  View label_;
+  Action action_;
+};
+
+class Task final : public Modifier {
+ public:
+  Task(View content, Action action) : Modifier(std::move(content)), action_(std::move(action)) {}
+
+  void evaluate(Evaluator& in, const Look& look, Axis axis, ElementList& out) const override {
+    in.at(steps::modified, [&] {
+      in.result().tasks.push_back(
+          {TreePath(in.path(), in.result().tasks.get_allocator()), action_});
+      in.collect(content(), look, axis, out);
+    });
+  }
+
+ private:
+  std::string description() const override { return ".task(priority: userInitiated)"; }
+
+  Action action_;
+};
+
+class Sheet final : public Modifier {
+ public:
+  Sheet(View content, Binding<bool> isPresented, View shown)
+      : Modifier(std::move(content)),
+        isPresented_(std::move(isPresented)),
+        shown_(std::move(shown)) {}
+
+  void evaluate(Evaluator& in, const Look& look, Axis axis, ElementList& out) const override {
+    if (isPresented_.get()) in.result().presentation = Presentation{isPresented_, shown_};
+    in.collect(content(), look, axis, out);
+  }
+
+ private:
+  std::string description() const override {
+    return ".sheet(isPresented: " + std::string(nameOf(isPresented_.get())) + ")";
+  }
+  void printBelow(TreePrinter& to, int depth) const override { to.print(shown_, depth); }
+
+  Binding<bool> isPresented_;
+  View shown_;
+};
+
+class Detents final : public Modifier {
+ public:
+  Detents(View content, const PresentationDetents& detents)
+      : Modifier(std::move(content)), detents_(detents) {}
+
+  void evaluate(Evaluator& in, const Look& look, Axis axis, ElementList& out) const override {
+    in.result().detents = detents_;
+    in.collect(content(), look, axis, out);
+  }
+
+ private:
+  std::string description() const override {
+    return ".presentationDetents(" + describe(detents_) + ")";
+  }
+
+  PresentationDetents detents_;
+};
+
+struct WatchedElement final : Element {
+  WatchedElement(const ElementRules& kind, const TreePath& place) : Element(kind), path(place) {}
+
+  TreePath path;
+};
+
+class GeometryChange final : public Decoration {
+ public:
+  GeometryChange(View content, std::function<void(layout::Size)> action)
+      : Decoration(std::move(content)), action_(std::move(action)) {}
+
+  void evaluate(Evaluator& in, const Look& look, Axis axis, ElementList& out) const override {
+    in.at(steps::modified, [&] {
+      in.wrapEach(content(), look, axis, out, [&](Element& inner) {
+        auto* self = in.make<WatchedElement>(static_cast<const ElementRules&>(*this), in.path());
+        in.adopt(*self, &inner);
+        self->isText = inner.isText;
+        return self;
+      });
+    });
+  }
+
+  void show(DisplayListBuilder& to, const Element& self) const override {
+    to.showChildren(self);
+    to.geometry.push_back(
+        {static_cast<const WatchedElement&>(self).path, self.frame.size, action_});
+  }
+
+ private:
+  std::string description() const override { return ".onGeometryChange(size)"; }
+
+  std::function<void(layout::Size)> action_;
+};
+
+}  // namespace
+
+View View::onTapGesture(Action action) const {
+  return makeView<TapGesture>(*this, std::move(action));
+}
+
+View Button(Action action, View label) {
+  return makeView<ButtonNode>(std::move(action), std::move(label));
+}
+
+View View::task(TaskPriority, Action action) const {
+  return makeView<Task>(*this, std::move(action));
+}
+
+View View::sheet(Binding<bool> isPresented, View content) const {
+  return makeView<Sheet>(*this, std::move(isPresented), std::move(content));
+}
+
+View View::presentationDetents(PresentationDetents detents) const {
+  return makeView<Detents>(*this, detents);
+}
+
+View View::onGeometryChange(std::function<void(layout::Size)> action) const {
+  return makeView<GeometryChange>(*this, std::move(action));
+}
+
+}  // namespace quorix::swiftui

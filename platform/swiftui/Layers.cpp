@@ -1,0 +1,184 @@
+// The modifiers that put something over or behind their content, and the safe area that both may
+// ignore.
+#include <string>
+#include <utility>
+
+#include "platform/swiftui/Descriptions.h"
+#include "platform/swiftui/DisplayListBuilder.h"
+#include "platform/swiftui/Evaluator.h"
+#include "platform/swiftui/LayoutPass.h"
+#include "platform/swiftui/Modifier.h"
+#include "platform/swiftui/TreePrinter.h"
+
+namespace quorix::swiftui {
+namespace {
+
+using layout::EdgeInsets;
+using layout::ProposedSize;
+using layout::Size;
+
+/// Where `frame` reaches the safe area's edge on one of `edges`, it goes on beyond.
+layout::Rect beyondSafeArea(const LayoutPass& in, const layout::Rect& frame, layout::Edges edges) {
+  const EdgeInsets more = in.safeArea.beyond(frame, edges);
+  return {{frame.left() - more.leading, frame.top() - more.top},
+          {frame.size.width + more.leading + more.trailing,
+           frame.size.height + more.top + more.bottom}};
+}
+
+/// A modifier that is as large as its content.
+class SizedAsContent : public LayoutModifier {
+ public:
+  using LayoutModifier::LayoutModifier;
+
+  Size measure(LayoutPass& in, Element& self, ProposedSize proposal) const final {
+    return in.measure(self.child(), proposal);
+  }
+  void place(LayoutPass& in, Element& self, ProposedSize proposal) const override {
+    in.place(self.child(), self.frame.origin, proposal);
+  }
+  double leastWidth(LayoutPass& in, Element& self) const final {
+    return in.leastWidth(self.child());
+  }
+};
+
+class EdgesIgnoringSafeArea final : public SizedAsContent {
+ public:
+  EdgesIgnoringSafeArea(View content, layout::Edges edges)
+      : SizedAsContent(std::move(content)), edges_(edges) {}
+
+  void place(LayoutPass& in, Element& self, ProposedSize proposal) const override {
+    const layout::Rect frame = beyondSafeArea(in, self.frame, edges_);
+    in.place(self.child(), frame.origin, frame == self.frame ? proposal : exactly(frame.size));
+  }
+
+ private:
+  std::string description() const override {
+    return ".edgesIgnoringSafeArea(" + describe(edges_) + ")";
+  }
+
+  layout::Edges edges_;
+};
+
+struct FilledElement final : Element {
+  using Element::Element;
+
+  layout::Rect filled;  ///< its frame, and the safe area that the fill ignores
+};
+
+class Background final : public SizedAsContent {
+ public:
+  Background(View content, Color color, layout::Edges ignoresSafeAreaEdges)
+      : SizedAsContent(std::move(content)),
+        color_(std::move(color)),
+        ignores_(ignoresSafeAreaEdges) {}
+
+  void evaluate(Evaluator& in, const Look& look, layout::Axis axis,
+                ElementList& out) const override {
+    in.wrapEach(content(), look, axis, out, [&](Element& inner) {
+      ++in.result().items;
+      auto* self = in.make<FilledElement>(static_cast<const ElementRules&>(*this));
+      in.adopt(*self, &inner);
+      return self;
+    });
+  }
+
+  void place(LayoutPass& in, Element& self, ProposedSize proposal) const override {
+    SizedAsContent::place(in, self, proposal);
+    static_cast<FilledElement&>(self).filled = beyondSafeArea(in, self.frame, ignores_);
+  }
+
+  void show(DisplayListBuilder& to, const Element& self) const override {
+    const layout::Rect& filled = static_cast<const FilledElement&>(self).filled;
+    to.list.items.push_back(
+        render::FillItem{to.onPixels(to.mirrored(filled)), drawnColor(color_, to.environment)});
+    to.showChildren(self);
+  }
+
+ private:
+  std::string description() const override {
+    const bool ignores = ignores_ != layout::Edges{};
+    return ".background(" + color_.description() +
+           (ignores ? ", ignoresSafeAreaEdges: " + describe(ignores_) : "") + ")";
+  }
+
+  Color color_;
+  layout::Edges ignores_;
+};
+
+class Border final : public SizedAsContent {
+ public:
+  Border(View content, Color color, double width)
+      : SizedAsContent(std::move(content)), color_(std::move(color)), width_(width) {}
+
+  void evaluate(Evaluator& in, const Look& look, layout::Axis axis,
+                ElementList& out) const override {
+    ++in.result().items;
+    SizedAsContent::evaluate(in, look, axis, out);
+  }
+
+  void show(DisplayListBuilder& to, const Element& self) const override {
+    to.showChildren(self);
+    to.list.items.push_back(
+        render::StrokeItem{to.onPixels(self.frame), drawnColor(color_, to.environment), width_});
+  }
+
+ private:
+  std::string description() const override {
+    return ".border(" + color_.description() + ", width: " + number(width_) + ")";
+  }
+
+  Color color_;
+  double width_;
+};
+
+/// Its second child lies over the first, in the first one's frame.
+class Overlay final : public SizedAsContent {
+ public:
+  Overlay(View content, layout::Alignment alignment, View above)
+      : SizedAsContent(std::move(content)), alignment_(alignment), above_(std::move(above)) {}
+
+  void evaluate(Evaluator& in, const Look& look, layout::Axis axis,
+                ElementList& out) const override {
+    ElementList wrapped;
+    in.at(steps::modified, [&] { SizedAsContent::evaluate(in, look, axis, wrapped); });
+    char32_t step = steps::firstOverlay;
+    for (Element* element = wrapped.first; element; element = element->next) {
+      in.at(step++, [&] { in.adopt(*element, in.single(above_, look, axis)); });
+    }
+    out.appendAll(wrapped);
+  }
+
+  void place(LayoutPass& in, Element& self, ProposedSize proposal) const override {
+    SizedAsContent::place(in, self, proposal);
+    in.placeAligned(*self.children.last, self.frame, alignment_, exactly(self.frame.size));
+  }
+
+ private:
+  std::string description() const override {
+    return ".overlay(alignment: " + nameOf(alignment_) + ")";
+  }
+  void printBelow(TreePrinter& to, int depth) const override { to.print(above_, depth); }
+
+  layout::Alignment alignment_;
+  View above_;
+};
+
+}  // namespace
+
+View View::edgesIgnoringSafeArea(layout::Edges edges) const {
+  return makeView<EdgesIgnoringSafeArea>(*this, edges);
+}
+
+View View::background(Color color, layout::Edges ignoresSafeAreaEdges) const {
+  return makeView<Background>(*this, std::move(color), ignoresSafeAreaEdges);
+}
+
+View View::border(Color color, double width) const {
+  return makeView<Border>(*this, std::move(color), width);
+}
+
+View View::overlay(layout::Alignment alignment, View content) const {
+  return makeView<Overlay>(*this, alignment, std::move(content));
+}
+
+}  // namespace quorix::swiftui

@@ -1,0 +1,52 @@
+#include "platform/swiftui/Modifier.h"
+
+#include "platform/swiftui/DisplayListBuilder.h"
+#include "platform/swiftui/Evaluator.h"
+#include "platform/swiftui/LayoutPass.h"
+#include "platform/swiftui/TreePrinter.h"
+
+namespace quorix::swiftui {
+
+void Modifier::print(TreePrinter& to, int depth) const {
+  to.print(content_, depth);
+  to.line(depth + 2, description());
+  printBelow(to, depth + 3);
+}
+
+void LayoutModifier::evaluate(Evaluator& in, const Look& look, layout::Axis axis,
+                              ElementList& out) const {
+  in.wrapEach(content(), look, axis, out, [&](Element& inner) {
+    auto* wrapper = in.make<Element>(*this);
+    in.adopt(*wrapper, &inner);
+    return wrapper;
+  });
+}
+
+void LayoutModifier::show(DisplayListBuilder& to, const Element& self) const {
+  to.showChildren(self);
+}
+
+void Decoration::evaluate(Evaluator& in, const Look& look, layout::Axis axis,
+                          ElementList& out) const {
+  in.wrapEach(content(), look, axis, out, [&](Element& inner) {
+    auto* wrapper = in.make<Element>(*this);
+    in.adopt(*wrapper, &inner);
+    wrapper->isText = inner.isText;
+    return wrapper;
+  });
+}
+
+layout::Size Transparent::measure(LayoutPass& in, Element& self,
+                                  layout::ProposedSize proposal) const {
+  return in.measure(self.child(), proposal);
+}
+
+void Transparent::place(LayoutPass& in, Element& self, layout::ProposedSize proposal) const {
+  in.place(self.child(), self.frame.origin, proposal);
+}
+
+double Transparent::leastWidth(LayoutPass& in, Element& self) const {
+  return in.leastWidth(self.child());
+}
+
+}  // namespace quorix::swiftui

@@ -1,0 +1,66 @@
+#include "platform/swiftui/Represented.h"
+
+#include <typeinfo>
+#include <utility>
+
+#include "platform/swiftui/DisplayListBuilder.h"
+#include "platform/swiftui/Evaluator.h"
+#include "platform/swiftui/LayoutPass.h"
+#include "platform/swiftui/TreePrinter.h"
+
+namespace quorix::swiftui {
+namespace {
+
+using render::HostedContent;
+
+using Shown = StateBox<std::shared_ptr<HostedContent>>;
+
+struct HostedElement final : Element {
+  HostedElement(const ElementRules& kind, HostedContent& shown) : Element(kind), content(shown) {}
+
+  HostedContent& content;
+};
+
+class RepresentedNode final : public Node, public ElementRules {
+ public:
+  explicit RepresentedNode(Represented content) : content_(std::move(content)) {}
+
+  void print(TreePrinter& to, int depth) const override { to.line(depth, content_.name); }
+
+  void evaluate(Evaluator& in, const Look&, layout::Axis, ElementList& out) const override {
+    // Another maker makes other content.
+    in.at(steps::into(content_.make.target_type()), [&] {
+      auto& slot = in.states().first;
+      if (!slot) slot = std::make_shared<Shown>(content_.make());
+      const auto& hosted = static_cast<const Shown&>(*slot).value;
+      if (content_.update) content_.update(*hosted);
+      in.result().hosted.push_back(hosted);
+      out.append(in.make<HostedElement>(static_cast<const ElementRules&>(*this), *hosted));
+    });
+  }
+
+  layout::Size measure(LayoutPass& in, Element& self,
+                       layout::ProposedSize proposal) const override {
+    return contentOf(self).sizeThatFits(proposal, in.engine, 1 / in.grid.pixel());
+  }
+
+  void place(LayoutPass&, Element&, layout::ProposedSize) const override {}
+  double leastWidth(LayoutPass&, Element&) const override { return 0; }
+
+  void show(DisplayListBuilder& to, const Element& self) const override {
+    to.host(contentOf(self), self);
+  }
+
+ private:
+  static HostedContent& contentOf(const Element& self) {
+    return static_cast<const HostedElement&>(self).content;
+  }
+
+  Represented content_;
+};
+
+}  // namespace
+
+View represented(Represented content) { return makeView<RepresentedNode>(std::move(content)); }
+
+}  // namespace quorix::swiftui

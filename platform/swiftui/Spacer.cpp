@@ -1,0 +1,62 @@
+#include <algorithm>
+#include <optional>
+
+#include "platform/layout/StackDistribution.h"
+#include "platform/swiftui/Descriptions.h"
+#include "platform/swiftui/Elements.h"
+#include "platform/swiftui/Evaluator.h"
+#include "platform/swiftui/LayoutPass.h"
+#include "platform/swiftui/TreePrinter.h"
+
+namespace quorix::swiftui {
+namespace {
+
+using layout::Axis;
+
+struct ShownSpacer final : Element {
+  ShownSpacer(const ElementRules& kind, Axis stackAxis) : Element(kind), axis(stackAxis) {
+    isSpacer = true;
+  }
+
+  Axis axis;  ///< of the stack that it stands in
+};
+
+class SpacerNode final : public Node, public ElementRules {
+ public:
+  explicit SpacerNode(std::optional<double> minLength) : minLength_(minLength) {}
+
+  void print(TreePrinter& to, int depth) const override {
+    to.line(depth, minLength_ ? "Spacer(minLength: " + number(*minLength_) + ")" : "Spacer");
+  }
+
+  void evaluate(Evaluator& in, const Look&, Axis axis, ElementList& out) const override {
+    out.append(in.make<ShownSpacer>(static_cast<const ElementRules&>(*this), axis));
+  }
+
+  layout::Size measure(LayoutPass&, Element& self, layout::ProposedSize proposal) const override {
+    const bool horizontal = axisOf(self) == Axis::horizontal;
+    const double length =
+        std::max(leastLength(), (horizontal ? proposal.width : proposal.height).value_or(0));
+    return horizontal ? layout::Size{length, 0} : layout::Size{0, length};
+  }
+
+  void place(LayoutPass&, Element&, layout::ProposedSize) const override {}
+
+  double leastWidth(LayoutPass&, Element& self) const override {
+    return axisOf(self) == Axis::horizontal ? leastLength() : 0;
+  }
+
+  void show(DisplayListBuilder&, const Element&) const override {}
+
+ private:
+  static Axis axisOf(const Element& self) { return static_cast<const ShownSpacer&>(self).axis; }
+  double leastLength() const { return minLength_.value_or(layout::defaultSpacing); }
+
+  std::optional<double> minLength_;
+};
+
+}  // namespace
+
+View Spacer(std::optional<double> minLength) { return makeView<SpacerNode>(minLength); }
+
+}  // namespace quorix::swiftui

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+#include "platform/text/AttributedText.h"
+
+namespace quorix::text {
+
+// Bounds of a text that is shown or spoken, in letters of Latin, Greek or Cyrillic script. Any
+// other code point counts as three, because its shaping takes longer. The longest of the widgets'
+// own texts have 190 letters, and 40 in a row.
+
+inline constexpr std::size_t mostOfText = 1800;
+/// For a text beside others.
+inline constexpr std::size_t mostInRow = 300;
+
+/// `utf8` unchanged if it has at most `most` letters. Cuts longer texts to that, the ellipsis
+/// included, between two grapheme clusters. The cost does not depend on the length of the part that
+/// is cut off. Any thread.
+///
+///     bounded("abcdefg", 6)  // "abc…"
+std::string bounded(std::string utf8, std::size_t most = mostOfText);
+
+/// Cuts `text` to `most` characters in all its runs together. Any thread.
+void bound(AttributedText& text, std::size_t most = mostOfText);
+
+}  // namespace quorix::text

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <chrono>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/foundation/URL.h"
+
+namespace quorix::webkit {
+
+/// Whether a page in the app may load an address of `scheme` (lower case): only what the web
+/// serves, no files of the device and no internal pages of the engine.
+constexpr bool mayNavigateTo(std::string_view scheme) {
+  return scheme == "https" || scheme == "http" || scheme == "about" || scheme == "blob" ||
+         scheme == "data";
+}
+
+/// Decides which of a page's requests for a new window may leave the app, so that a page cannot
+/// flood the desktop. Requests by the user always leave. The first request without a gesture of the
+/// user leaves too; every later one only to a web, mail or telephone address. Without a gesture,
+/// at least `pause` must have passed since the latest opening. One object for each page; main
+/// thread.
+///
+///     NewWindowLimit limit;
+///     if (limit.allows(url, byUser, NewWindowLimit::Clock::now())) open(url);
+class NewWindowLimit {
+ public:
+  using Clock = std::chrono::steady_clock;
+  static constexpr std::chrono::seconds pause{10};
+
+  /// `byUser`: a click, a tap or a key of the user's caused the request. A refused request does not
+  /// lengthen the pause.
+  bool allows(const foundation::URL& url, bool byUser, Clock::time_point now) {
+    if (!byUser) {
+      const bool pauses = latest_ && now - *latest_ < pause;
+      if (pauses || (openedUnasked_ && !isOrdinary(url))) return false;
+      openedUnasked_ = true;
+    }
+    latest_ = now;
+    return true;
+  }
+
+ private:
+  static bool isOrdinary(const foundation::URL& url) {
+    const std::string scheme = url.scheme();
+    return scheme == "https" || scheme == "http" || scheme == "mailto" || scheme == "tel";
+  }
+
+  std::optional<Clock::time_point> latest_;
+  bool openedUnasked_ = false;
+};
+
+}  // namespace quorix::webkit

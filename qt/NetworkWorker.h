@@ -1,0 +1,89 @@
+#pragma once
+
+#include <QNetworkAccessManager>
+#include <QObject>
+#include <QThread>
+#include <QUrl>
+#include <chrono>
+#include <deque>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <vector>
+
+#include "platform/foundation/URLSession.h"
+#include "qt/Transfer.h"
+
+namespace quorix::qt {
+
+/// How every request ends that the application object's end overtakes.
+foundation::URLResponse cancelled();
+
+/// What the network thread does, for as long as one application object lives.
+///
+/// Asks the registered protocols for each request, one request after the other. What they leave to
+/// the network goes into a `Transfer`, which requests for the same address share while it lasts.
+class NetworkWorker final : public QObject {
+ public:
+  using Completion = foundation::URLTransport::Completion;
+  using Task = Transfer::Task;
+
+  struct Request {
+    foundation::URL url;  ///< what protocols are asked to answer
+    QUrl address;         ///< what is fetched when none of them does
+    std::chrono::milliseconds timeLimit;
+  };
+
+  /// How many transfers run at a time for one host and port. The others wait here rather than in
+  /// Qt, so that their time limits do not run meanwhile.
+  static constexpr int kTransfersPerHost = 6;
+
+  /// How long `end` waits for a protocol or a completion that blocks.
+  static constexpr std::chrono::seconds kPatience{2};
+
+  /// Starts the thread.
+  NetworkWorker();
+
+  /// Any thread, until `end`. The completion runs once, on the worker's thread.
+  void perform(Request request, Completion completion);
+
+  /// Cancels everything and ends the thread; false when it does not end within `kPatience`. It then
+  /// stays blocked for good (even if the protocol returns), the completions have run on another
+  /// thread, and the worker must never be destroyed. Any other thread, once.
+  bool end();
+
+  bool isCurrentThread() const { return QThread::currentThread() == &thread_; }
+
+ private:
+  struct Waiting {
+    Task task;
+    Request request;
+  };
+
+  std::optional<Waiting> takeNext();
+  void performAll();
+  void performOne(Waiting waiting);
+  void share(Task task, const Request& request);
+  void beginTransfers();
+  void transferEnded(Transfer& transfer, const foundation::URLResponse& response);
+  void complete(Task task, foundation::URLResponse response);
+  void cancelAll();
+  void stayIfLeftBehind();
+  bool leaveBehind();
+
+  QThread thread_;
+  std::mutex mutex_;
+  Task lastTask_ = 0;
+  std::deque<Waiting> waiting_;             // for their turn to ask the protocols
+  std::map<Task, Completion> completions_;  // of all tasks that have not completed
+  bool ending_ = false;
+  bool finishing_ = false;  // nothing of a host's runs on the thread any more
+  bool leftBehind_ = false;
+
+  // The thread's own.
+  std::unique_ptr<QNetworkAccessManager> network_;
+  std::vector<std::unique_ptr<Transfer>> transfers_;
+};
+
+}  // namespace quorix::qt

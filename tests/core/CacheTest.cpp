@@ -1,0 +1,34 @@
+#include "platform/foundation/Cache.h"
+
+#include <gtest/gtest.h>
+
+namespace quorix::foundation {
+namespace {
+
+TEST(Cache, KeepsTheKeysThatWereUsedLast) {
+  Cache<int, int> doubles(2);
+  std::vector<int> made;
+  const auto get = [&](int key) {
+    return doubles.get(key, [&] {
+      made.push_back(key);
+      return 2 * key;
+    });
+  };
+  for (const int key : {1, 2, 1, 3, 1, 3, 2, 3}) EXPECT_EQ(get(key), 2 * key);
+  EXPECT_EQ(made, (std::vector<int>{1, 2, 3, 2}));
+}
+
+TEST(Cache, ParsesAChangedFileAgain) {
+  static int parsed = 0;
+  ParsedFileCache<std::string> cache([](std::string_view bytes) {
+    ++parsed;
+    return std::make_shared<const std::string>(bytes);
+  });
+  for (const char* bytes : {"a", "a", "b"}) EXPECT_EQ(*cache.read(Data(bytes)), bytes);
+  EXPECT_EQ(parsed, 2);
+  const Data large(std::string(65'537, 'x'));
+  EXPECT_EQ(cache.read(large).use_count(), 1) << "a large file is not kept";
+}
+
+}  // namespace
+}  // namespace quorix::foundation

@@ -1,0 +1,197 @@
+#include "platform/text/TextBound.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "QuorixWidgets/info/InfoTitle.h"
+#include "platform/render/ScenePart.h"
+#include "platform/swiftui/Elements.h"
+#include "platform/swiftui/UIViewRepresentable.h"
+#include "platform/uikit/UILabel.h"
+#include "tests/core/OtherResources.h"
+#include "tests/core/ScoreWidgets.h"
+#include "tests/core/TestWindow.h"
+
+namespace quorix {
+namespace {
+
+using swiftui::Text;
+using swiftui::View;
+using testing::TestWindow;
+
+std::string repeated(const std::string& text, std::size_t times) {
+  std::string result;
+  while (times-- > 0) result += text;
+  return result;
+}
+
+std::size_t characters(const std::string& utf8) {
+  return static_cast<std::size_t>(
+      std::count_if(utf8.begin(), utf8.end(), [](char c) { return (c & 0xC0) != 0x80; }));
+}
+
+TEST(TextBound, CutsBetweenWhatAReaderTakesForCharacters) {
+  const std::string acute = "\u0301";
+  const std::string family = "👩\u200D👩\u200D👧";
+  const struct {
+    std::string text;
+    std::size_t most;
+    std::string shown;
+  } rows[] = {
+      {"", 4, ""},
+      {"abcd", 4, "abcd"},
+      {"abcde", 4, "abc…"},
+      {"返品手数料", 12, "返品手…"},
+      {"返品手数", 12, "返品手数"},
+      {"abe" + acute + "d", 6, "ab…"},                     // not the letter without its accent
+      {"a" + family + "b", 13, "a…"},                      // nor a part of a family
+      {"🇩🇪🇫🇷🇪🇸", 12, "🇩🇪…"},                               // nor half a flag
+      {"a\r\nb", 3, "a…"},                                 // nor half a line's end
+      {repeated(acute, 9), 12, repeated(acute, 3) + "…"},  // which one letter has without an end
+      {"a" + repeated(acute, 9), 10, "a" + acute + acute + "…"},
+      {"\xFF\xFF\xFF\xFF\xFF", 12, "\xFF\xFF\xFF…"},
+      {"abc", 1, "…"},
+      {"abc", 0, "…"},
+  };
+  for (const auto& row : rows) EXPECT_EQ(text::bounded(row.text, row.most), row.shown);
+}
+
+TEST(TextBound, CountsAllRunsOfATextTogether) {
+  constexpr std::size_t half = text::mostOfText / 2;
+  const std::string a = repeated("a", half);
+  const struct {
+    std::vector<std::string> runs, shown;
+  } rows[] = {
+      {{a, a}, {a, a}},
+      {{a, "ä" + a, "c"}, {a, "ä" + repeated("a", half - 2) + "…"}},
+      {{a, a, "c"}, {a, repeated("a", half - 1) + "…"}},
+  };
+  for (const auto& row : rows) {
+    text::AttributedText text;
+    for (const std::string& run : row.runs) text.runs.emplace_back().text = run;
+    text::bound(text);
+    std::vector<std::string> shown;
+    for (const text::Run& run : text.runs) shown.push_back(run.text);
+    EXPECT_EQ(shown, row.shown);
+  }
+}
+
+/// A megabyte in one of the ways in which texts reach a widget.
+struct Source {
+  const char* name;
+  View view;
+};
+
+TEST(TextBound, NoTextReachesShapingOrAReaderWhole) {
+  const std::string endless = repeated("fee ", 250'000);
+  const auto strings = LocalizationRepository::make("en");
+  strings->strings = TranslationTable::make({{"returns", "title", endless},
+                                             {"returns", "fee", endless},
+                                             {"returns", "rate", endless},
+                                             {"returns", "disclaimer", endless},
+                                             {"labels", "hint", endless},
+                                             {"labels", "original", endless},
+                                             {"labels", "discounted", endless},
+                                             {"actions", "close", endless}});
+  const Text plain = Text::verbatim(endless);
+  const auto label = std::make_shared<uikit::UILabel>();
+  label->setAttributedText(uikit::NSAttributedString(endless));
+  const Source sources[] = {
+      {"translations", ScoreWidgetView{testing::scoreModel(true), strings}},
+      {"parts", plain + plain + plain},
+      {"cased",
+       View(Text::verbatim(repeated("ß", 500'000))).textCase(swiftui::TextCase::uppercase)},
+      {"format", Text::localized("%@, %@", {endless, endless})},
+      {"button", swiftui::Button([] {}, View(plain))},
+      {"label", swiftui::hosting(label)},
+  };
+  for (const Source& source : sources) {
+    SCOPED_TRACE(source.name);
+    TestWindow window(source.view);
+    const auto& row = window.shown().accessibility;
+    ASSERT_FALSE(row.empty());
+    window.tap(TestWindow::middle(row.front().frame));
+    window.settle();
+    EXPECT_EQ(window.sheet.has_value(), &source == sources);  // the row's own
+    EXPECT_FALSE(window.text.calls.empty());
+    for (const auto& call : window.text.calls) {
+      EXPECT_LE(characters(call.words), text::mostOfText);
+    }
+    for (const auto& element : window.shown().accessibility) {
+      EXPECT_LE(characters(element.label), text::mostOfText);
+      EXPECT_LE(characters(element.hint), text::mostOfText);
+    }
+  }
+}
+
+// Comparing character by character, as for the figure in it, is slow.
+TEST(TextBound, AnEndlessTitleIsCutBeforeItIsSplit) {
+  const auto table =
+      testing::OtherResources::english("\"info-widget-title\" = \"" + repeated("a\u0301", 100'000) +
+                                       " 20%\"; \"info-widget-title-number\" = \"20%\";");
+  std::size_t shown = 0;
+  for (const InfoTitlePart& part : infoTitle("en")) shown += characters(part.text);
+  EXPECT_LE(shown, text::mostOfText + std::string("20%").size());
+}
+
+/// A sheet's texts are shaped anew in each text size that is tried for it.
+TEST(TextBound, HoldsForAllTheTextSizesThatASheetTriesTogether) {
+  const struct {
+    const char* what;
+    std::string text;
+    layout::Size window = {320, 640};
+  } rows[] = {
+      {"fits in none", repeated("a\n", 50'000)},
+      {"fits in a smaller one", repeated("fee ", 25'000), {700, 900}},
+      {"one word", repeated("f", 100'000)},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.what);
+    const auto strings = LocalizationRepository::make("en");
+    const std::string text = row.text;
+    strings->strings = TranslationTable::make({{"returns", "title", "Fee"},
+                                               {"returns", "fee", text},
+                                               {"returns", "rate", text},
+                                               {"returns", "disclaimer", text}});
+    const auto model = std::make_shared<ScoreWidgetViewModel>(
+        "shop", TokenData{0.82, "EUR", 499, 299}, "en", ScoreWidgetStyle{"Shop", "Shop"});
+    swiftui::Environment largest;
+    largest.textSize = swiftui::ContentSizeCategory::accessibilityExtraExtraExtraLarge;
+    TestWindow window(ScoreWidgetView{model, strings}, largest, row.window);
+    window.text.calls.clear();
+    window.tap(TestWindow::middle(window.shown().accessibility.front().frame));
+    window.settle();
+    ASSERT_TRUE(window.sheet);
+    std::size_t measured = 0;
+    for (const auto& call : window.text.calls) measured += characters(call.words);
+    EXPECT_LE(measured, 48'000);
+  }
+}
+
+TEST(ScenePart, IsWhatOnePictureHoldsAroundWhatIsSeen) {
+  const struct {
+    const char* what;
+    layout::Size size;
+    layout::Rect seen;
+    double scale;
+    layout::Rect part;
+  } rows[] = {
+      {"a row", {375, 60}, {{0, 30}, {375, 30}}, 2, {{0, 0}, {375, 60}}},
+      {"just held", {375, 4096}, {{0, 4000}, {375, 96}}, 2, {{0, 0}, {375, 4096}}},
+      {"at its top", {375, 20000}, {{0, 0}, {375, 600}}, 2, {{0, 0}, {375, 4096}}},
+      {"in its middle", {375, 20000}, {{0, 10000}, {375, 600}}, 2, {{0, 8252}, {375, 4096}}},
+      {"at its end", {375, 20000}, {{0, 19400}, {375, 600}}, 2, {{0, 15904}, {375, 4096}}},
+      {"wide", {9000, 10}, {{5000.25, 0}, {100, 10}}, 1, {{808, 0}, {8192, 10}}},
+      {"unseen", {375, 20000}, {}, 4, {{0, 0}, {375, 2048}}},
+  };
+  for (const auto& row : rows) {
+    EXPECT_EQ(render::partToPaint(row.size, row.seen, row.scale), row.part) << row.what;
+  }
+}
+
+}  // namespace
+}  // namespace quorix

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QByteArray>
+#include <QtEndian>
+
+namespace quorix::testing {
+
+/// `font`, a font file, as another foundry might have drawn it: with the same names, and every
+/// letter three units of its grid wider than the em.
+inline QByteArray wideFace(QByteArray font, const char* foundry) {
+  const auto number = [&](qsizetype at) { return qFromBigEndian<quint16>(font.constData() + at); };
+  const auto table = [&](const char* tag) -> qsizetype {
+    for (int i = 0; i < number(4); ++i) {
+      const char* record = font.constData() + 12 + i * 16;
+      if (qstrncmp(record, tag, 4) == 0) return qFromBigEndian<quint32>(record + 8);
+    }
+    return 0;
+  };
+  const int em = number(table("head") + 18), letters = number(table("hhea") + 34);
+  for (int i = 0; i < letters; ++i) {
+    qToBigEndian(static_cast<quint16>(em + 3), font.data() + table("hmtx") + i * 4);
+  }
+  font.replace(table("OS/2") + 58, 4, foundry, 4);
+  font.replace(table("head") + 8, 4, foundry, 4);  // the file's checksum, another one too
+  return font;
+}
+
+}  // namespace quorix::testing

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QMutex>
+#include <QStringList>
+
+namespace quorix::testing {
+
+/// Notes what anybody logs, and keeps it from the log.
+class LogListener {
+ public:
+  LogListener() : before_(qInstallMessageHandler(note)) { lines().clear(); }
+  ~LogListener() { qInstallMessageHandler(before_); }
+  static QStringList& lines() {
+    static QStringList all;
+    return all;
+  }
+
+ private:
+  static void note(QtMsgType, const QMessageLogContext& context, const QString& line) {
+    static QMutex mutex;
+    if (line.contains(QLatin1String("propagateSizeHints")))
+      return;  // the platform without a display
+    const QMutexLocker lock(&mutex);
+    lines().append(QString::fromUtf8(context.category) + ": " + line);
+  }
+  QtMessageHandler before_;
+};
+
+}  // namespace quorix::testing

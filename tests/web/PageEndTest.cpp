@@ -1,0 +1,139 @@
+#include <sys/types.h>
+
+#include <QLoggingCategory>
+#include <QPointer>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTest>
+#include <csignal>
+#include <functional>
+
+#include "tests/web/EngineProcesses.h"
+#include "tests/web/LogListener.h"
+#include "tests/web/OverlayRow.h"
+#include "tests/web/PageTest.h"
+
+namespace quorix::testing {
+namespace {
+
+template <class Screen>
+struct PageEnd : PageTest<Screen> {
+  /// Leads the keyboard's focus into a page that hangs from now on.
+  void openHanging() {
+    this->openBlue("<input onfocus=\"tell('in'); setTimeout(() => { while (true); }, 50)\">");
+    pages().forgetRequests("/report");
+    this->screen.key(Qt::Key_Tab);
+    this->screen.key(Qt::Key_Tab);
+    ASSERT_TRUE(this->reported("in"));
+    QTest::qWait(100);
+  }
+};
+TYPED_TEST_SUITE(PageEnd, Screens, ScreenName);
+
+TYPED_TEST(PageEnd, AHangingPageIsClosedByEveryWayWithinASecond) {
+  this->opener->setMotion(true);
+  const struct {
+    const char* what;
+    std::function<void()> closes;
+  } ways[] = {
+      {"Escape", [&] { this->screen.key(Qt::Key_Escape); }},
+      {"Back", [&] { this->screen.key(Qt::Key_Back); }},
+      {"the button", [&] { this->screen.clickAt(this->kAtControl); }},
+      {"a tap outside",
+       [&] {
+         this->screen.clickAt({180, 4});
+       }},
+      {"a swipe",
+       [&] { this->screen.drag(this->kAtControl, this->kAtControl + QPoint(0, 400), 100, false); }},
+  };
+  for (const auto& way : ways) {
+    this->openHanging();
+    QElapsedTimer since;
+    since.start();
+    way.closes();
+    EXPECT_TRUE(waitUntil([&] { return !this->isOpen(); }, std::chrono::seconds(3))) << way.what;
+    EXPECT_LT(since.elapsed(), 1000) << way.what;
+    EXPECT_TRUE(waitUntil([&] { return TypeParam::hasFocus(this->opener); })) << way.what;
+  }
+}
+
+TYPED_TEST(PageEnd, ABusyPageThatAnswersKeepsItsKeys) {
+  pages().serve("/next", page("#ff0000"));
+  this->openBlue("<a style='display:block;height:2000px' href='/next'>x</a>");
+  QTest::mouseClick(&this->screen.window(), Qt::LeftButton, {}, this->kInPage);
+  ASSERT_TRUE(this->isPainted(Qt::red));
+  this->screen.key(Qt::Key_Back);
+  EXPECT_TRUE(this->isPainted(Qt::blue));
+  QTest::qWait(600);
+  EXPECT_TRUE(this->isOpen());
+}
+
+TYPED_TEST(PageEnd, AKilledPageIsToldOfAndGivesTheFocusBack) {
+  this->openBlue("<input onfocus=\"tell('in')\">");
+  this->screen.key(Qt::Key_Tab);
+  this->screen.key(Qt::Key_Tab);
+  ASSERT_TRUE(this->reported("in"));
+  QLoggingCategory::setFilterRules("quorix.web.warning=true");
+  {
+    const LogListener log;
+    for (const pid_t renderer : engineRenderers()) kill(renderer, SIGKILL);
+    EXPECT_TRUE(waitUntil([&] { return this->ends == 1; }));
+    EXPECT_EQ(
+        LogListener::lines().filter("quorix.web: https://modules.quorix.example/page ").size(), 1);
+  }
+  QLoggingCategory::setFilterRules({});
+  QAccessibleInterface* control = this->screen.find("Close page");
+  this->screen.key(Qt::Key_Tab);
+  EXPECT_TRUE(waitUntil([&] { return control->state().focused; })) << "the sheet has the keys";
+  this->screen.key(Qt::Key_Escape);
+  EXPECT_TRUE(waitUntil([&] { return !this->isOpen(); }, std::chrono::seconds(1)));
+  EXPECT_TRUE(waitUntil([&] { return TypeParam::hasFocus(this->opener); }));
+}
+
+TYPED_TEST(PageEnd, TheOverlaySaysThatItsPageDiedAndShowsItAgain) {
+  pages().serve("/html/overlays/info", page("#0000ff"));
+  auto* row = this->screen.add(OverlayRow{"sv"}, {20, 100, 300, 0});
+  this->screen.click("Open overlay");
+  ASSERT_TRUE(this->isPainted(Qt::blue));
+  for (const pid_t renderer : engineRenderers()) kill(renderer, SIGKILL);
+  ASSERT_TRUE(waitUntil([&] { return this->screen.shows("Sidan kan inte visas just nu."); }));
+  this->screen.settle();
+  EXPECT_NE(this->at(this->kInPage), QColor(Qt::blue));
+  this->screen.key(Qt::Key_Tab);
+  this->screen.key(Qt::Key_Return);
+  EXPECT_TRUE(this->isPainted(Qt::blue));
+  EXPECT_FALSE(this->screen.shows("Sidan kan inte visas just nu."));
+  this->screen.key(Qt::Key_Escape);
+  EXPECT_TRUE(waitUntil([&] { return TypeParam::hasFocus(row); }));
+}
+
+TYPED_TEST(PageEnd, ALoadThatStandsStillIsStopped) {
+  QTcpServer silent;
+  ASSERT_TRUE(silent.listen(QHostAddress::LocalHost));
+  QPointer<QTcpSocket> asking;  // the engine opens others ahead of time
+  QObject::connect(&silent, &QTcpServer::newConnection, &silent, [&] {
+    while (QTcpSocket* socket = silent.nextPendingConnection()) {
+      QObject::connect(socket, &QTcpSocket::readyRead, socket, [&, socket] { asking = socket; });
+    }
+  });
+  this->timeout = std::chrono::milliseconds(700);
+  this->open("http://127.0.0.1:" + std::to_string(silent.serverPort()) + "/");
+  ASSERT_TRUE(waitUntil([&] { return asking != nullptr; }));
+  QElapsedTimer since;
+  since.start();
+  EXPECT_TRUE(waitUntil([&] { return asking->state() == QAbstractSocket::UnconnectedState; },
+                        std::chrono::seconds(5)))
+      << "the engine lets go of the connection";
+  EXPECT_GT(since.elapsed(), 400);
+  EXPECT_TRUE(this->isOpen());
+  EXPECT_EQ(this->at(this->kInPage), QColor(kPageGround.red, kPageGround.green, kPageGround.blue));
+
+  this->screen.key(Qt::Key_Escape);
+  pages().serve("/never", {.comes = false});
+  this->openBlue("<img src='/never'>");
+  QTest::qWait(1200);
+  EXPECT_EQ(this->at(this->kInPage), QColor(Qt::blue)) << "what has come stays";
+}
+
+}  // namespace
+}  // namespace quorix::testing
