@@ -30,8 +30,8 @@ namespace quorix::qt {
 ///
 /// What a server can take is bounded: a body of more than 256 kB (decompressed) ends with
 /// `UnknownContentError`, a fetch that is not over after the time limit with `TimeoutError`, and
-/// its connection is closed. Waiting for its turn does not count. Headers, and the body of
-/// a 401 or 407, are bounded by the time limit alone: Qt hands them over when they are complete.
+/// its connection is closed. Waiting for its turn does not count. Not bounded are the
+/// headers and the body of a 401 or 407: Qt hands them over when they are complete.
 ///
 ///     URLSession::shared().install(std::make_shared<QtURLTransport>());
 class QtURLTransport final : public foundation::URLTransport {
