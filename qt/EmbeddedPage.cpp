@@ -69,12 +69,23 @@ void EmbeddedPage::load(const foundation::URLRequest& request) {
   page_->load(toQUrl(request.url));
 }
 
-void EmbeddedPage::loading(bool goesOn) { goesOn ? standstill_.start() : standstill_.stop(); }
+void EmbeddedPage::loading(int percent) {
+  came_ = percent > 0;
+  standstill_.start();
+}
 
 void EmbeddedPage::loadTimedOut() {
   qCWarning(webLog, "%s was not loaded: nothing came for %d ms", named(*content_).constData(),
             standstill_.interval());
   page_->stop();
+  if (!came_) loadFailed();
+}
+
+void EmbeddedPage::loadFailed() {
+  later([this, kept = content_] {
+    owner_.pageEnded();
+    kept->loadFailed();
+  });
 }
 
 // What the page asks, and how it ends.

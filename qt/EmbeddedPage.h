@@ -53,7 +53,9 @@ class EmbeddedPage final : private WebPage::Client {
   void later(std::function<void()> work);
 
   void windowAsked(const QUrl& address, bool byUser) override;
-  void loading(bool goesOn) override;
+  void loading(int percent) override;
+  void loadEnded() override { standstill_.stop(); }
+  void loadFailed() override;
   void processEnded() override;
   void closingKeyGiven() override { expectAnswer({}); }
   void answered() override;
@@ -61,6 +63,7 @@ class EmbeddedPage final : private WebPage::Client {
   std::shared_ptr<webkit::WebContent> content_;
   Owner& owner_;
   QTimer standstill_;  ///< since the load last moved on
+  bool came_ = false;  ///< something of the load
   QTimer silence_;     ///< since the page was asked
   std::function<void()> onAnswer_;
   std::unique_ptr<WebPage> page_;

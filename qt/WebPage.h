@@ -16,11 +16,14 @@ class WebPage {
   /// Hears of the page, often within the engine's own call: do not destroy the page in it.
   class Client {
    public:
-    /// The page asks for a new window with this address, which may be empty. It gets none.
-    /// `byUser`: the user's gesture caused it.
+    /// The page asks for a new window with this address, which may be empty, or for an address that
+    /// no page may load. It gets neither. `byUser`: the user's gesture caused it.
     virtual void windowAsked(const QUrl& address, bool byUser) = 0;
-    /// A load began or went on (true), or ended (false).
-    virtual void loading(bool goesOn) = 0;
+    /// A load began (0) or went on. It is above 0 once something of the page has come.
+    virtual void loading(int percent) = 0;
+    virtual void loadEnded() = 0;
+    /// A load failed before anything of it came.
+    virtual void loadFailed() = 0;
     /// The page's process crashed or was killed.
     virtual void processEnded() = 0;
     /// A key that closes a sheet goes to the page, which gives it back when it has no use for it.

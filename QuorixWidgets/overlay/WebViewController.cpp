@@ -85,8 +85,6 @@ std::shared_ptr<webkit::WKWebView> WebViewController::webView(
   return nullptr;
 }
 
-void WebViewController::webViewWebContentProcessDidTerminate(webkit::WKWebView&) { showNotice(); }
-
 /// Hides the page, so that the surface removes its view, and shows the notice in its place.
 void WebViewController::showNotice() {
   if (notice_) return;

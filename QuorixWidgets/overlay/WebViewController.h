@@ -15,8 +15,9 @@ namespace quorix {
 
 /// The web overlay: a page of the vendor's web service that fills the controller's view, with a
 /// close control if `showCloseButton` is set. An address that the page opens in a new window is
-/// opened outside the app. If the page's process ends, a sentence in the page's language and a
-/// button that loads it again take its place. Main thread.
+/// opened outside the app, and so is one that no page can show (mail, telephone, another app). If the
+/// page cannot be loaded or its process ends, a sentence in the page's language and a button that
+/// loads it again take its place. Main thread.
 ///
 /// The fields are read once, when the view loads:
 ///
@@ -51,7 +52,8 @@ class WebViewController final : public uikit::UIViewController,
       webkit::WKWebView& webView, const webkit::WKWebViewConfiguration& createWebViewWith,
       const webkit::WKNavigationAction& forAction,
       const webkit::WKWindowFeatures& windowFeatures) override;
-  void webViewWebContentProcessDidTerminate(webkit::WKWebView& webView) override;
+  void webViewWebContentProcessDidTerminate(webkit::WKWebView&) override { showNotice(); }
+  void webViewDidFailProvisionalNavigation(webkit::WKWebView&) override { showNotice(); }
 
  private:
   void adddWebView();

@@ -22,18 +22,21 @@ WKWebView::WKWebView(layout::Rect frame, const WKWebViewConfiguration& configura
       delegate->webView(*this, configuration_, action, {});
     }
   };
-  content_->onProcessEnded = [this] {
-    const auto kept = weak_from_this().lock();
-    if (const auto delegate = navigationDelegate_.lock()) {
-      delegate->webViewWebContentProcessDidTerminate(*this);
-    }
+  const auto tells = [this](void (WKNavigationDelegate::*what)(WKWebView&)) {
+    return [this, what] {
+      const auto kept = weak_from_this().lock();
+      if (const auto delegate = navigationDelegate_.lock()) (delegate.get()->*what)(*this);
+    };
   };
+  content_->onProcessEnded = tells(&WKNavigationDelegate::webViewWebContentProcessDidTerminate);
+  content_->onLoadFailed = tells(&WKNavigationDelegate::webViewDidFailProvisionalNavigation);
 }
 
 /// The engine may outlive this view and still hold the content.
 WKWebView::~WKWebView() {
   content_->onNewWindow = nullptr;
   content_->onProcessEnded = nullptr;
+  content_->onLoadFailed = nullptr;
 }
 
 void WKWebView::load(const foundation::URLRequest& request) { content_->load(request); }

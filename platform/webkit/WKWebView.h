@@ -42,6 +42,9 @@ class WKNavigationDelegate {
 
   /// The process of the page crashed or was killed: the view stays empty until the next load.
   virtual void webViewWebContentProcessDidTerminate(WKWebView&) {}
+
+  /// A load failed before anything of it came: the view is empty.
+  virtual void webViewDidFailProvisionalNavigation(WKWebView&) {}
 };
 
 /// Answers what a page asks of the app. Main thread.

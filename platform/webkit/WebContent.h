@@ -26,10 +26,13 @@ class QUORIX_EXPORT WebContent final : public render::Embed {
   Settings settings;
 
   /// Called when the page, or a script on it, asks for a new window with this address (absent: with
-  /// none) and `NewWindowLimit` allows it.
+  /// none), or for an address that no page can show, and `NewWindowLimit` allows it.
   std::function<void(const std::optional<foundation::URL>&)> onNewWindow;
   /// Called when the engine's process for this page crashed or was killed.
   foundation::Action onProcessEnded;
+  /// Called when a load failed before anything of it came: no network, an unknown host, a server
+  /// that is not trusted or does not answer.
+  foundation::Action onLoadFailed;
 
   /// Loads `request`: at once when an engine is attached, otherwise as soon as one is. The engine
   /// stops the load when no byte arrives for the request's `timeoutInterval`.
@@ -50,8 +53,9 @@ class QUORIX_EXPORT WebContent final : public render::Embed {
   }
   void detach() { loader_ = nullptr; }
 
-  /// For engines: the page asks for a new window. `byUser`: a gesture of the user caused it. May
-  /// delete this object.
+  /// For engines: the page asks for a new window, or for an address that it may not load itself
+  /// (mail, telephone, another app). `byUser`: a gesture of the user caused it. May delete this
+  /// object.
   void askForWindow(const std::optional<foundation::URL>& url, bool byUser) {
     if (url && !limit_.allows(*url, byUser, NewWindowLimit::Clock::now())) return;
     const auto answer = onNewWindow;
@@ -60,6 +64,10 @@ class QUORIX_EXPORT WebContent final : public render::Embed {
   /// For engines: the page's process ended. May delete this object.
   void processEnded() {
     if (onProcessEnded) onProcessEnded();
+  }
+  /// For engines: a load failed. May delete this object.
+  void loadFailed() {
+    if (onLoadFailed) onLoadFailed();
   }
 
  private:

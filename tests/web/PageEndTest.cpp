@@ -107,6 +107,19 @@ TYPED_TEST(PageEnd, TheOverlaySaysThatItsPageDiedAndShowsItAgain) {
   EXPECT_TRUE(waitUntil([&] { return TypeParam::hasFocus(row); }));
 }
 
+TYPED_TEST(PageEnd, TheOverlaySaysThatItsPageCannotBeLoadedAndTriesAgain) {
+  pages().serve("/html/overlays/info", {302, "", "Location: https://nowhere.quorix.example/\r\n"});
+  this->screen.add(OverlayRow{"de"}, {20, 100, 300, 0});
+  this->screen.click("Open overlay");
+  const char* sentence = "Diese Seite kann gerade nicht angezeigt werden.";
+  ASSERT_TRUE(waitUntil([&] { return this->screen.shows(sentence); }));
+  pages().serve("/html/overlays/info", page("#0000ff"));
+  this->screen.key(Qt::Key_Tab);
+  this->screen.key(Qt::Key_Return);
+  EXPECT_TRUE(this->isPainted(Qt::blue));
+  EXPECT_FALSE(this->screen.shows(sentence));
+}
+
 TYPED_TEST(PageEnd, ALoadThatStandsStillIsStopped) {
   QTcpServer silent;
   ASSERT_TRUE(silent.listen(QHostAddress::LocalHost));
@@ -124,6 +137,7 @@ TYPED_TEST(PageEnd, ALoadThatStandsStillIsStopped) {
   EXPECT_TRUE(waitUntil([&] { return asking->state() == QAbstractSocket::UnconnectedState; },
                         std::chrono::seconds(5)))
       << "the engine lets go of the connection";
+  EXPECT_TRUE(waitUntil([&] { return this->failures == 1; })) << "nothing came";
   EXPECT_GT(since.elapsed(), 400);
   EXPECT_TRUE(this->isOpen());
   EXPECT_EQ(this->at(this->kInPage), QColor(kPageGround.red, kPageGround.green, kPageGround.blue));
@@ -133,6 +147,7 @@ TYPED_TEST(PageEnd, ALoadThatStandsStillIsStopped) {
   this->openBlue("<img src='/never'>");
   QTest::qWait(1200);
   EXPECT_EQ(this->at(this->kInPage), QColor(Qt::blue)) << "what has come stays";
+  EXPECT_EQ(this->failures, 1);
 }
 
 }  // namespace

@@ -67,6 +67,7 @@ class PageTest : public ::testing::Test {
       windows.push_back(url ? url->absoluteString() : "none");
     };
     content->onProcessEnded = [this] { ++ends; };
+    content->onLoadFailed = [this] { ++failures; };
     content->load({foundation::URL::parse(address_).value(), {}, timeout});
     latest = content;
     return content;
@@ -78,6 +79,7 @@ class PageTest : public ::testing::Test {
   foundation::URLRequest::Seconds timeout = foundation::URLRequest::defaultTimeout;
   std::vector<std::string> windows;  ///< what was asked to leave the app
   int ends = 0;                      ///< how many pages lost their process
+  int failures = 0;                  ///< how many loads brought nothing
   std::weak_ptr<webkit::WebContent> latest;
 
  private:

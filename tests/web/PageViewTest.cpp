@@ -44,13 +44,22 @@ TYPED_TEST(PageView, ShowsItsGroundUntilThePageHasPaintedAndWhenItFails) {
   pages().serve("/never", {.comes = false});
   pages().serve("/empty", {.status = 404, .body = ""});
   const LoopbackServer untrusted(LoopbackServer::Scheme::https);
-  const std::string rows[] = {
-      std::string(kModules) + "/never", std::string(kModules) + "/empty",  "https://127.0.0.1:1/",
-      untrusted.base() + "/",           "https://nowhere.quorix.example/",
+  const struct {
+    std::string address;
+    bool fails;  ///< and brings nothing
+  } rows[] = {
+      {std::string(kModules) + "/never", false},
+      {std::string(kModules) + "/empty", false},
+      {"https://127.0.0.1:1/", true},
+      {untrusted.base() + "/", true},
+      {"https://nowhere.quorix.example/", true},
   };
-  for (const std::string& address : rows) {
+  for (const auto& [address, fails] : rows) {
+    this->failures = 0;
     this->open(address);
+    EXPECT_TRUE(!fails || waitUntil([&] { return this->failures == 1; })) << address;
     for (int i = 0; i < 10; ++i) this->screen.settle();
+    EXPECT_EQ(this->failures, fails) << address;
     EXPECT_EQ(this->at(this->kInPage), kGround) << address;
     EXPECT_TRUE(this->isOpen());
     this->screen.key(Qt::Key_Escape);
@@ -127,6 +136,44 @@ TYPED_TEST(PageView, NewWindowsLeaveTheAppAndThePageStays) {
     EXPECT_EQ(this->windows, row.asked) << row.what;
     EXPECT_EQ(this->at(this->kInPage), QColor(Qt::blue)) << row.what;
     EXPECT_TRUE(pages().requests("/other").empty()) << row.what;
+    this->screen.key(Qt::Key_Escape);
+  }
+}
+
+TYPED_TEST(PageView, AddressesForOtherAppsLeaveTheAppAndThePageStays) {
+  const QByteArray mail = "mailto:ann@shop.example", call = "tel:+4612345";
+  const QByteArray link = "<a style='" + kFill + "' href='" + mail + "'>x</a>";
+  const QByteArray frame = "<iframe src='" + call + "'></iframe>";
+  const QByteArray flood = "setInterval(() => { location = '" + call + "' }, 20)";
+  const std::vector<std::string> both = {mail.toStdString(), mail.toStdString()};
+  const struct {
+    const char* what;
+    QByteArray content, script;
+    int clicks;
+    std::vector<std::string> asked;
+  } rows[] = {
+      {"a link", link, {}, 2, both},
+      {"a script by itself", {}, flood, 0, {call.toStdString()}},
+      {"a script on click",
+       "<div style='" + kFill + "' onclick=\"" + flood + "\">x</div>",
+       {},
+       1,
+       {call.toStdString()}},
+      {"a frame", frame, {}, 0, {}},
+  };
+  for (const auto& row : rows) {
+    this->windows.clear();
+    this->openBlue(row.content, row.script);
+    for (int click = 1; click <= row.clicks; ++click) {
+      QTest::mouseClick(&this->screen.window(), Qt::LeftButton, {}, this->kInPage);
+      EXPECT_TRUE(waitUntil([&] {
+        return this->windows.size() >= static_cast<std::size_t>(click);
+      })) << row.what;
+    }
+    QTest::qWait(300);
+    EXPECT_EQ(this->windows, row.asked) << row.what;
+    EXPECT_EQ(this->at(this->kInPage), QColor(Qt::blue)) << row.what;
+    EXPECT_EQ(this->failures, 0) << row.what;
     this->screen.key(Qt::Key_Escape);
   }
 }

@@ -7,17 +7,18 @@
 
 #include "platform/webkit/PageRules.h"
 #include "qt/WebLog.h"
+#include "qt/web/WebEngine.h"
 
 namespace quorix::qt {
 
 QuickPage::QuickPage(const Options& options, Client& client)
     : options_(options),
       client_(client),
-      escape_(
+      input_(
           [this](const QObject& window) {
             return view_ && view_->hasActiveFocus() && view_->window() == &window;
           },
-          [this] { client_.closingKeyGiven(); }) {}
+          client) {}
 
 std::unique_ptr<QuickPage> QuickPage::make(QQmlComponent& source, QQuickWebEngineProfile& profile,
                                            QQuickItem& place, const Options& options,
@@ -41,7 +42,9 @@ std::unique_ptr<QuickPage> QuickPage::make(QQmlComponent& source, QQuickWebEngin
 QuickPage::~QuickPage() { delete view_; }
 
 void QuickPage::load(const QUrl& address) {
-  if (view_ && mayNavigateTo(address)) view_->setProperty("url", address);
+  if (view_ && webkit::mayNavigateTo(address.scheme().toStdString())) {
+    view_->setProperty("url", address);
+  }
 }
 
 void QuickPage::stop() {
@@ -63,17 +66,14 @@ void QuickPage::goForward() {
   if (view_) QMetaObject::invokeMethod(view_, "goForward");
 }
 
-bool QuickPage::mayNavigateTo(const QUrl& address) const {
-  return webkit::mayNavigateTo(address.scheme().toStdString());
-}
-
 void QuickPage::windowAsked(const QUrl& address, bool byUser) {
   client_.windowAsked(address, byUser);
 }
 
-void QuickPage::loadFailed(const QUrl& address, const QString& why) {
+void QuickPage::loadFailed(const QUrl& address, const QString& why, int code) {
   qCWarning(webLog, "%s was not loaded: %s",
             qUtf8Printable(address.toDisplayString(QUrl::RemoveQuery)), qUtf8Printable(why));
+  if (WebEngine::broughtNothing(code)) client_.loadFailed();
 }
 
 }  // namespace quorix::qt

@@ -5,7 +5,7 @@
 #include <QQuickItem>
 
 #include "qt/WebPage.h"
-#include "qt/web/EscapeKey.h"
+#include "qt/web/PageInput.h"
 
 class QQmlComponent;
 class QQuickWebEngineProfile;
@@ -38,10 +38,13 @@ class QuickPage : public QObject, public WebPage {
   bool opensWindowsUnasked() const {
     return options_.settings.javaScriptCanOpenWindowsAutomatically;
   }
-  Q_INVOKABLE bool mayNavigateTo(const QUrl& address) const;
+  Q_INVOKABLE bool mayNavigate(const QUrl& address, bool mainFrame) {
+    return input_.mayNavigate(address, mainFrame);
+  }
   Q_INVOKABLE void windowAsked(const QUrl& address, bool byUser);
-  Q_INVOKABLE void loading(bool goesOn) { client_.loading(goesOn); }
-  Q_INVOKABLE void loadFailed(const QUrl& address, const QString& why);
+  Q_INVOKABLE void loading(int percent) { client_.loading(percent); }
+  Q_INVOKABLE void loadEnded() { client_.loadEnded(); }
+  Q_INVOKABLE void loadFailed(const QUrl& address, const QString& why, int code);
   Q_INVOKABLE void processEnded() { client_.processEnded(); }
   Q_INVOKABLE void answered() { client_.answered(); }
 
@@ -51,7 +54,7 @@ class QuickPage : public QObject, public WebPage {
   Options options_;
   Client& client_;
   QPointer<QQuickItem> view_;
-  EscapeKey escape_;
+  PageInput input_;
 };
 
 }  // namespace quorix::qt

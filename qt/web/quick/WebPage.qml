@@ -27,16 +27,19 @@ WebEngineView {
         navigateOnDropEnabled: false
         pluginsEnabled: false
         screenCaptureEnabled: false
-        unknownUrlSchemePolicy: WebEngineSettings.DisallowUnknownUrlSchemes
+        unknownUrlSchemePolicy: WebEngineSettings.AllowAllUnknownUrlSchemes // so that we are asked
     }
 
-    onLoadProgressChanged: if (loading) page.loading(true)
+    onLoadProgressChanged: if (loading) page.loading(loadProgress)
     onLoadingChanged: info => {
-        page.loading(info.status === WebEngineView.LoadStartedStatus);
-        if (info.status === WebEngineView.LoadFailedStatus) page.loadFailed(info.url, info.errorString);
+        if (info.status === WebEngineView.LoadStartedStatus) page.loading(0);
+        else page.loadEnded();
+        if (info.status === WebEngineView.LoadFailedStatus) {
+            page.loadFailed(info.url, info.errorString, info.errorCode);
+        }
     }
     onNavigationRequested: request => {
-        if (!page.mayNavigateTo(request.url)) request.reject();
+        if (!page.mayNavigate(request.url, request.isMainFrame)) request.reject();
     }
     onNewWindowRequested: request => page.windowAsked(request.requestedUrl, request.userInitiated)
     onRenderProcessTerminated: page.processEnded()

@@ -19,14 +19,14 @@
 #include <QWebEnginePermission>
 #endif
 
-#include "platform/webkit/PageRules.h"
 #include "qt/WebLog.h"
+#include "qt/web/WebEngine.h"
 
 namespace quorix::qt {
 
 QuietPage::QuietPage(QWebEngineProfile& profile, const WebPage::Options& options,
-                     WebPage::Client& client, QObject* parent)
-    : QWebEnginePage(&profile, parent) {
+                     WebPage::Client& client, PageInput& input, QObject* parent)
+    : QWebEnginePage(&profile, parent), input_(input) {
   setBackgroundColor(options.background);
   settle(options.settings);
   tell(client);
@@ -46,20 +46,22 @@ void QuietPage::settle(const webkit::WebContent::Settings& asked) {
                          Settings::ScreenCaptureEnabled}) {
     own.setAttribute(off, false);
   }
-  own.setUnknownUrlSchemePolicy(Settings::DisallowUnknownUrlSchemes);
+  own.setUnknownUrlSchemePolicy(Settings::AllowAllUnknownUrlSchemes);  // so that we are asked
 }
 
 void QuietPage::tell(WebPage::Client& client) {
-  connect(this, &QWebEnginePage::loadProgress, this, [this, &client] {
-    if (isLoading()) client.loading(true);
+  connect(this, &QWebEnginePage::loadProgress, this, [this, &client](int percent) {
+    if (isLoading()) client.loading(percent);
   });
   connect(this, &QWebEnginePage::loadingChanged, this,
           [&client](const QWebEngineLoadingInfo& info) {
-            client.loading(info.status() == QWebEngineLoadingInfo::LoadStartedStatus);
+            if (info.status() == QWebEngineLoadingInfo::LoadStartedStatus) return client.loading(0);
+            client.loadEnded();
             if (info.status() != QWebEngineLoadingInfo::LoadFailedStatus) return;
             qCWarning(webLog, "%s was not loaded: %s",
                       qUtf8Printable(info.url().toDisplayString(QUrl::RemoveQuery)),
                       qUtf8Printable(info.errorString()));
+            if (WebEngine::broughtNothing(info.errorCode())) client.loadFailed();
           });
   connect(this, &QWebEnginePage::newWindowRequested, this,
           [&client](const QWebEngineNewWindowRequest& request) {
@@ -103,14 +105,6 @@ void QuietPage::refusePermissions() {
             setFeaturePermission(origin, feature, PermissionDeniedByUser);
           });
 #endif
-}
-
-bool QuietPage::mayNavigateTo(const QUrl& address) {
-  return webkit::mayNavigateTo(address.scheme().toStdString());
-}
-
-bool QuietPage::acceptNavigationRequest(const QUrl& address, NavigationType, bool) {
-  return mayNavigateTo(address);
 }
 
 }  // namespace quorix::qt

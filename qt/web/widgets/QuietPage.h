@@ -3,6 +3,7 @@
 #include <QWebEnginePage>
 
 #include "qt/WebPage.h"
+#include "qt/web/PageInput.h"
 
 namespace quorix::qt {
 
@@ -14,12 +15,12 @@ class QuietPage : public QWebEnginePage {
 
  public:
   QuietPage(QWebEngineProfile& profile, const WebPage::Options& options, WebPage::Client& client,
-            QObject* parent);
-
-  static bool mayNavigateTo(const QUrl& address);
+            PageInput& input, QObject* parent);
 
  protected:
-  bool acceptNavigationRequest(const QUrl& address, NavigationType type, bool isMainFrame) override;
+  bool acceptNavigationRequest(const QUrl& address, NavigationType, bool mainFrame) override {
+    return input_.mayNavigate(address, mainFrame);
+  }
   QWebEnginePage* createWindow(WebWindowType) override { return nullptr; }
   QStringList chooseFiles(FileSelectionMode, const QStringList&, const QStringList&) override {
     return {};
@@ -38,6 +39,8 @@ class QuietPage : public QWebEnginePage {
   void tell(WebPage::Client& client);
   void refuseRequests();
   void refusePermissions();
+
+  PageInput& input_;
 };
 
 }  // namespace quorix::qt

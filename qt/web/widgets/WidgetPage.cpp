@@ -3,6 +3,7 @@
 #include <QWebEngineHistory>
 #include <QWindow>
 
+#include "platform/webkit/PageRules.h"
 #include "qt/web/widgets/QuietPage.h"
 #include "qt/web/widgets/QuietView.h"
 
@@ -13,9 +14,8 @@ WidgetPage::WidgetPage(QWebEngineProfile& profile, QWidget& place, const Options
     : view_(new QuietView(&place)),
       client_(client),
       allowsScripts_(options.settings.allowsContentJavaScript),
-      escape_([this](const QObject& window) { return hasFocusIn(window); },
-              [this] { client_.closingKeyGiven(); }) {
-  view_->setPage(new QuietPage(profile, options, client, view_));
+      input_([this](const QObject& window) { return hasFocusIn(window); }, client) {
+  view_->setPage(new QuietPage(profile, options, client, input_, view_));
 }
 
 WidgetPage::~WidgetPage() { delete view_; }
@@ -26,7 +26,7 @@ bool WidgetPage::hasFocusIn(const QObject& window) const {
 }
 
 void WidgetPage::load(const QUrl& address) {
-  if (view_ && QuietPage::mayNavigateTo(address)) view_->load(address);
+  if (view_ && webkit::mayNavigateTo(address.scheme().toStdString())) view_->load(address);
 }
 
 void WidgetPage::stop() {

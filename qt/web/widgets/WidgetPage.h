@@ -4,7 +4,7 @@
 #include <QWebEngineView>
 
 #include "qt/WebPage.h"
-#include "qt/web/EscapeKey.h"
+#include "qt/web/PageInput.h"
 
 namespace quorix::qt {
 
@@ -28,7 +28,7 @@ class WidgetPage final : public WebPage {
   QPointer<QWebEngineView> view_;
   Client& client_;
   const bool allowsScripts_;
-  EscapeKey escape_;
+  PageInput input_;
 };
 
 }  // namespace quorix::qt
