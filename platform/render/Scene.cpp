@@ -1,6 +1,7 @@
 #include "platform/render/Scene.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace quorix::render {
@@ -23,6 +24,17 @@ const EmbedItem* embedUnder(const std::vector<Item>& items, layout::Point point)
   return nullptr;
 }
 
+/// How far `point` is from `frame` if it lies in the room to tap around it; infinite otherwise.
+double reach(const layout::Rect& frame, layout::Point point) {
+  const auto beside = [](double low, double length, double at) {
+    if (at >= low && at < low + length) return 0.0;
+    const double distance = std::max(low - at, at - (low + length));
+    return distance < (Scene::roomToTap - length) / 2 ? distance : layout::infinity;
+  };
+  return std::hypot(beside(frame.left(), frame.size.width, point.x),
+                    beside(frame.top(), frame.size.height, point.y));
+}
+
 }  // namespace
 
 layout::Rect EmbedItem::room() const {
@@ -35,7 +47,16 @@ const HitArea* Scene::hitTest(layout::Point point) const {
   for (std::size_t i = hitAreas.size(); i > (embed ? embed->hitAreasBelow : 0); --i) {
     if (hitAreas[i - 1].frame.contains(point)) return &hitAreas[i - 1];
   }
-  return nullptr;
+  if (embed) return nullptr;
+  const HitArea* nearest = nullptr;
+  double nearestReach = layout::infinity;
+  for (const HitArea& area : hitAreas) {
+    const double own = reach(area.frame, point);
+    if (own > nearestReach || own == layout::infinity) continue;
+    nearest = &area;
+    nearestReach = own;
+  }
+  return nearest;
 }
 
 void Scene::append(Scene other, layout::Point offset) {

@@ -87,7 +87,12 @@ struct QUORIX_EXPORT Scene {
   std::vector<HitArea> hitAreas;
   std::vector<AccessibilityElement> accessibility;
 
-  /// The top-most area under `point`, or null; null too where an embed's content takes the tap.
+  /// The side of the square around an area's middle that takes its taps, in points: as much as a
+  /// finger needs.
+  static constexpr double roomToTap = 44;
+
+  /// The area that a tap at `point` is for, or null: the top-most one under it, else the nearest
+  /// that has the point in its room to tap. Null too where an embed's content takes the tap.
   const HitArea* hitTest(layout::Point point) const;
   /// Appends `other`, moved by `offset`.
   void append(Scene other, layout::Point offset);

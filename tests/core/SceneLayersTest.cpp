@@ -88,6 +88,28 @@ TEST(Scene, AnEmbedTakesWhatIsBelowItAndLeavesWhatIsAbove) {
   }
 }
 
+TEST(Scene, LeavesEachAreaRoomToTap) {
+  Scene scene;
+  // A line of text, a small button, and two that stand close together.
+  scene.hitAreas = {{{{0, 100}, {300, 16}}, {}},
+                    {{{100, 200}, {10, 10}}, {}},
+                    {{{100, 300}, {12, 12}}, {}},
+                    {{{118, 300}, {12, 12}}, {}}};
+  const struct {
+    layout::Point point;
+    int area;
+  } rows[] = {
+      {{150, 87}, 0},  {{150, 129}, 0}, {{150, 85}, -1}, {{150, 131}, -1}, {{301, 108}, -1},
+      {{84, 205}, 1},  {{126, 221}, 1}, {{82, 205}, -1}, {{105, 228}, -1}, {{114, 306}, 2},
+      {{116, 306}, 3}, {{101, 306}, 2}, {{129, 320}, 3}, {{91, 306}, 2},   {{145, 306}, 3},
+  };
+  for (const auto& row : rows) {
+    const render::HitArea* hit = scene.hitTest(row.point);
+    EXPECT_EQ(hit ? int(hit - scene.hitAreas.data()) : -1, row.area)
+        << row.point.x << "," << row.point.y;
+  }
+}
+
 TEST(SheetGeometry, KeepsWhatFillsThePanelInItsRoundCorners) {
   const Rect panel{{10, 100}, {200, 300}};
   const struct {
