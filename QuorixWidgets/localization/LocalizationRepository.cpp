@@ -16,7 +16,7 @@ LocalizationRepository::LocalizationRepository(MakeOnly, std::string locale)
     : strings(*this, builtInTranslations(locale)), locale_(std::move(locale)) {}
 
 void LocalizationRepository::update() {
-  std::string address(modulesServiceBaseURL);
+  std::string address(modulesServiceBaseURL());
   address += "/translations/score/overlay/";
   address += locale_;
   address += ".json";
