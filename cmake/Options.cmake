@@ -6,7 +6,7 @@ macro(quorix_option name)
   option(${name} ${ARGN})
 endmacro()
 
-set(quorix_options QUORIX_WEB QUORIX_SANITIZE)
+set(quorix_options QUORIX_WEB QUORIX_SANITIZE QUORIX_MODULES_URL QUORIX_WIDGET_URL)
 quorix_option(QUORIX_QT "Build the Qt engine and its surfaces" ON)
 quorix_option(QUORIX_TESTS "Build the tests" OFF)
 quorix_option(QUORIX_BENCHMARKS "Build the benchmarks" OFF)
@@ -18,6 +18,10 @@ quorix_option(QUORIX_HARDENING "Build our libraries and programs with the usual 
 set(QUORIX_WEB AUTO CACHE STRING
   "Build the web engine's components: AUTO where Qt WebEngine is there, ON (needs it) or OFF")
 set_property(CACHE QUORIX_WEB PROPERTY STRINGS AUTO ON OFF)
+set(QUORIX_MODULES_URL https://modules.quorix.example CACHE STRING
+  "The service with the score widget's texts and the info widget's page")
+set(QUORIX_WIDGET_URL https://widget.quorix.example CACHE STRING
+  "The service with a shopper's personal page")
 set(QUORIX_SANITIZE "" CACHE STRING "Sanitizers for the whole tree, e.g. address,undefined")
 
 # A host that has variables of such a name itself is told, and not stopped.
@@ -40,6 +44,14 @@ endif()
 if(NOT QUORIX_WEB MATCHES "^(AUTO|ON|OFF|TRUE|FALSE|YES|NO|1|0)$")
   message(FATAL_ERROR "QUORIX_WEB=${QUORIX_WEB}: AUTO, ON and OFF are known")
 endif()
+# Paths and queries are appended to these two.
+foreach(option QUORIX_MODULES_URL QUORIX_WIDGET_URL)
+  if(NOT ${option} MATCHES "^https://([A-Za-z0-9][A-Za-z0-9.-]*)(:[1-9][0-9]*)?$")
+    message(FATAL_ERROR "${option}=${${option}}: https, a host and perhaps a port are needed, and nothing after them (https://staging.shop.example)")
+  endif()
+  string(REPLACE _URL _host host ${option})
+  set(${host} ${CMAKE_MATCH_1})
+endforeach()
 if(NOT QUORIX_QT)
   if(QUORIX_WEB AND NOT QUORIX_WEB STREQUAL "AUTO")
     message(FATAL_ERROR "QUORIX_WEB=${QUORIX_WEB} needs QUORIX_QT")

@@ -1,5 +1,7 @@
 #include "qt/Transfer.h"
 
+#include <QLoggingCategory>
+#include <QMetaEnum>
 #include <QNetworkRequest>
 #include <optional>
 #include <utility>
@@ -8,6 +10,25 @@ namespace quorix::qt {
 namespace {
 
 using foundation::URLResponse;
+
+/// One line for each request that went over the network. Silent unless the host's developer asks
+/// with QT_LOGGING_RULES="quorix.network=true".
+const QLoggingCategory& networkLog() {
+  static const QLoggingCategory category("quorix.network", QtWarningMsg);
+  return category;
+}
+
+/// Without the query and the user's name, which may hold a token.
+QByteArray loggedAddress(const QUrl& address) {
+  return address.toEncoded(QUrl::RemoveQuery | QUrl::RemoveFragment | QUrl::RemoveUserInfo);
+}
+
+/// The status of an answer, else the error's name: its text may quote the address.
+QByteArray outcome(const URLResponse& response) {
+  if (!response.error) return QByteArray::number(response.status);
+  const auto names = QMetaEnum::fromType<QNetworkReply::NetworkError>();
+  return names.valueToKey(static_cast<int>(response.error->code));
+}
 
 // Qt reports an HTTP status of 400 and above as an error as well. These are the errors that it
 // makes of a status: the content and the server groups whole, and one each for 400 and 407.
@@ -86,6 +107,7 @@ Transfer::~Transfer() { dropReply(); }
 void Transfer::begin(QNetworkAccessManager& network) {
   network_ = &network;
   deadline_.start();
+  begun_.start();
   send(address_);
 }
 
@@ -137,6 +159,8 @@ void Transfer::follow(const QUrl& target) {
 }
 
 void Transfer::end(URLResponse response) {
+  qCInfo(networkLog).noquote() << "GET" << loggedAddress(address_) << outcome(response)
+                               << begun_.elapsed() << "ms" << body_.size() << "bytes";
   deadline_.stop();
   dropReply();
   ended_(*this, std::move(response));

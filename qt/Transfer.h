@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QElapsedTimer>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QObject>
@@ -60,6 +61,7 @@ class Transfer final : public QObject {
   const QUrl address_;
   Ended ended_;
   QTimer deadline_;
+  QElapsedTimer begun_;
   std::vector<Task> tasks_;
   QNetworkAccessManager* network_ = nullptr;
   QNetworkReply* reply_ = nullptr;

@@ -15,12 +15,16 @@ std::shared_ptr<LocalizationRepository> LocalizationRepository::make(std::string
 LocalizationRepository::LocalizationRepository(MakeOnly, std::string locale)
     : strings(*this, builtInTranslations(locale)), locale_(std::move(locale)) {}
 
-void LocalizationRepository::update() {
-  std::string address(modulesServiceBaseURL);
+std::optional<foundation::URL> LocalizationRepository::address(std::string_view locale) {
+  std::string address(modulesServiceBaseURL());
   address += "/translations/score/overlay/";
-  address += locale_;
+  address += locale;
   address += ".json";
-  const auto url = foundation::URL::parse(address);
+  return foundation::URL::parse(address);
+}
+
+void LocalizationRepository::update() {
+  const auto url = address(locale_);
   if (!url) return;
   fetchLocalization(*url, [weak = weak_from_this()](TranslationTableResult result) {
     const auto* table = std::get_if<std::shared_ptr<const TranslationTable>>(&result);

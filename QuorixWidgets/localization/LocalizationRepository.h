@@ -2,7 +2,9 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
+#include <string_view>
 
 #include "QuorixWidgets/localization/Translations.h"
 #include "platform/combine/ObservableObject.h"
@@ -31,6 +33,9 @@ class LocalizationRepository final : public combine::ObservableObject,
   /// Starts one fetch and returns at once. A failed fetch changes nothing; of several fetches the
   /// last to complete counts. A fetch does not keep the repository alive.
   void update();
+
+  /// The address of the texts for `locale`; absent if it is no URL. Any thread.
+  static std::optional<foundation::URL> address(std::string_view locale);
 
  private:
   static void fetchLocalization(const foundation::URL& url,

@@ -2,10 +2,13 @@
 
 #include <string_view>
 
+#include "platform/foundation/Export.h"
+
 namespace quorix {
 
-/// The addresses of the vendor's services: https, without a trailing slash.
-inline constexpr std::string_view modulesServiceBaseURL = "https://modules.quorix.example";
-inline constexpr std::string_view widgetServiceBaseURL = "https://widget.quorix.example";
+/// The addresses of the vendor's services, as the build's options QUORIX_MODULES_URL and
+/// QUORIX_WIDGET_URL set them: https, without a trailing slash. Any thread.
+QUORIX_EXPORT std::string_view modulesServiceBaseURL();
+QUORIX_EXPORT std::string_view widgetServiceBaseURL();
 
 }  // namespace quorix

@@ -16,11 +16,11 @@ Text languageOfPage(const Text& locale) {
 }  // namespace
 
 std::string OverlayAddress::personalPage() {
-  return std::string(widgetServiceBaseURL) + "/users/details/";
+  return std::string(widgetServiceBaseURL()) + "/users/details/";
 }
 
 std::string OverlayAddress::generalPage() {
-  return std::string(modulesServiceBaseURL) + "/html/overlays/info";
+  return std::string(modulesServiceBaseURL()) + "/html/overlays/info";
 }
 
 std::optional<foundation::URL> OverlayAddress::url() const {

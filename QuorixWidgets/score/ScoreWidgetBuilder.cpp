@@ -1,12 +1,16 @@
 #include "QuorixWidgets/score/ScoreWidgetBuilder.h"
 
+#include <chrono>
 #include <memory>
 #include <string>
+#include <variant>
 
 #include "QuorixWidgets/data/TokenData.h"
 #include "QuorixWidgets/localization/LocalizationRepository.h"
+#include "QuorixWidgets/localization/Translations.h"
 #include "QuorixWidgets/score/ScoreWidgetView.h"
 #include "QuorixWidgets/score/ScoreWidgetViewModel.h"
+#include "platform/foundation/URLSession.h"
 #include "platform/swiftui/Elements.h"
 
 namespace quorix {
@@ -24,6 +28,16 @@ swiftui::View ScoreWidgetBuilder::buildSwiftUIScoreWidgetView(std::string_view c
       std::make_shared<ScoreWidgetViewModel>(std::string(clientId), *data, languageCode, style),
       LocalizationRepository::make(languageCode)};
   return swiftui::Conditional(true, std::move(view));
+}
+
+void prefetch(std::string_view locale) {
+  using foundation::URLResponse;
+  const auto url = LocalizationRepository::address(locale);
+  if (!url) return;
+  const auto isTable = [](const URLResponse& response) {
+    return !std::holds_alternative<foundation::Error>(readTranslationTable(response));
+  };
+  foundation::URLSession::shared().prefetch(*url, std::chrono::minutes(5), isTable);
 }
 
 }  // namespace quorix

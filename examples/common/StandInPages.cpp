@@ -59,9 +59,8 @@ void StandInPages::tellEngine() const {
   const QByteArray key =
       QCryptographicHash::hash(certificate.publicKey().toDer(), QCryptographicHash::Sha256);
   qputenv("QTWEBENGINE_CHROMIUM_FLAGS",
-          qgetenv("QTWEBENGINE_CHROMIUM_FLAGS") +
-              " --host-resolver-rules=\"MAP modules.quorix.example" + to +
-              ", MAP widget.quorix.example" + to +
+          qgetenv("QTWEBENGINE_CHROMIUM_FLAGS") + " --host-resolver-rules=\"MAP " MODULES_HOST +
+              to + ", MAP " WIDGET_HOST + to +
               "\" --ignore-certificate-errors-spki-list=" + key.toBase64());
 }
 

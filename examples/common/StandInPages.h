@@ -11,9 +11,9 @@ class QTcpSocket;
 namespace quorix::examples {
 
 /// Stands in for the vendor's page services as long as it lives: an HTTPS server on loopback, which
-/// Qt WebEngine is told to take for https://modules.quorix.example and
-/// https://widget.quorix.example. Make it after the application object and before the first page is
-/// shown; the engine reads what it is told once, and then keeps to it. Main thread.
+/// Qt WebEngine is told to take for the two services' hosts. Make it after the application object
+/// and before the first page is shown; the engine reads what it is told once, and then keeps to it.
+/// Main thread.
 ///
 ///     StandInPages pages;
 ///     pages.serve("/html/overlays/info", {.body = "<h1>Hello</h1>"});

@@ -23,7 +23,7 @@ constexpr std::string_view notFoundPage =
     "<!doctype html>\n<html><head><title>404 Not Found</title></head>"
     "<body><h1>Not Found</h1></body></html>\n";
 
-URL serviceAddress() { return URL::parse(modulesServiceBaseURL).value(); }
+URL serviceAddress() { return URL::parse(modulesServiceBaseURL()).value(); }
 
 /// The language that `path` asks the table of, or nothing when it asks for something else.
 std::optional<std::string_view> languageIn(std::string_view path) {

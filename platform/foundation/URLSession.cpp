@@ -11,6 +11,10 @@
 namespace quorix::foundation {
 namespace {
 
+URLResponse noNetwork(std::string_view reason) {
+  return {Error{"URLSession", -1, std::string(reason)}, {}, 0};
+}
+
 /// The transport before an engine has installed one: registered protocols, no network.
 class NoNetwork final : public URLTransport {
  public:
@@ -19,7 +23,7 @@ class NoNetwork final : public URLTransport {
       if (auto inProcess = URLSession::shared().answerInProcess(url)) {
         completion(*std::move(inProcess));
       } else {
-        completion({Error{"URLSession", -1, "no network transport is installed"}, {}, 0});
+        completion(noNetwork("no network transport is installed"));
       }
     };
     try {
@@ -48,9 +52,25 @@ std::optional<URLResponse> ask(const URLProtocol& protocol, const URL& url) {
 }  // namespace
 
 struct URLSession::State {
-  mutable std::mutex mutex;
+  using Clock = std::chrono::steady_clock;
+
+  struct Prefetched {
+    URL url;
+    std::optional<URLResponse> response;  ///< absent while it is on its way
+    Clock::time_point end = {};           ///< of its lifetime
+  };
+
+  /// Not kept: the answer has outlived its time.
+  auto prefetchedFor(const URL& url) {
+    std::erase_if(prefetched, [](const auto& p) { return p.response && p.end <= Clock::now(); });
+    return std::ranges::find(prefetched, url, &Prefetched::url);
+  }
+
+  std::mutex mutex;
   std::shared_ptr<URLTransport> transport = std::make_shared<NoNetwork>();
   std::vector<std::weak_ptr<URLProtocol>> protocols;
+  std::vector<Prefetched> prefetched;  // the oldest first
+  bool networkEnabled = true;
 };
 
 URLSession::URLSession() : state_(std::make_unique<State>()) {}
@@ -84,17 +104,54 @@ std::shared_ptr<void> URLSession::registerProtocol(URLProtocol protocol) {
   return token;
 }
 
-std::optional<URLResponse> URLSession::answerInProcess(const URL& url) const {
+void URLSession::setNetworkEnabled(bool enabled) {
+  const std::scoped_lock lock(state_->mutex);
+  state_->networkEnabled = enabled;
+}
+
+void URLSession::prefetch(const URL& url, std::chrono::seconds lifetime,
+                          std::function<bool(const URLResponse&)> isUsable) {
+  {
+    const std::scoped_lock lock(state_->mutex);
+    if (state_->prefetchedFor(url) != state_->prefetched.end()) return;
+    if (state_->prefetched.size() >= mostPrefetched) {
+      state_->prefetched.erase(state_->prefetched.begin());
+    }
+    state_->prefetched.push_back({url, {}});
+  }
+  get(url, [this, url, lifetime, isUsable = std::move(isUsable)](URLResponse response) {
+    const bool usable = isUsable(response);
+    const std::scoped_lock lock(state_->mutex);
+    const auto entry = state_->prefetchedFor(url);
+    if (entry == state_->prefetched.end()) return;
+    if (usable) {
+      entry->response = std::move(response);
+      entry->end = State::Clock::now() + lifetime;
+    } else {
+      state_->prefetched.erase(entry);
+    }
+  });
+}
+
+std::optional<URLResponse> URLSession::answerInProcess(const URL& url) {
   std::vector<std::weak_ptr<URLProtocol>> protocols;
   {
     const std::scoped_lock lock(state_->mutex);
     protocols = state_->protocols;
   }
-  for (auto entry = protocols.rbegin(); entry != protocols.rend(); ++entry) {
-    if (const auto protocol = entry->lock()) {
-      if (auto answer = ask(*protocol, url)) return answer;
-    }
+  std::optional<URLResponse> answer;
+  for (auto entry = protocols.rbegin(); entry != protocols.rend() && !answer; ++entry) {
+    if (const auto protocol = entry->lock()) answer = ask(*protocol, url);
   }
+  const std::scoped_lock lock(state_->mutex);
+  const auto kept = state_->prefetchedFor(url);
+  if (answer) {
+    // A protocol may end at any time; its answers must not outlive it.
+    if (kept != state_->prefetched.end()) state_->prefetched.erase(kept);
+    return answer;
+  }
+  if (kept != state_->prefetched.end() && kept->response) return kept->response;
+  if (!state_->networkEnabled) return noNetwork("the network is switched off");
   return std::nullopt;
 }
 

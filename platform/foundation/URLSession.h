@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -45,8 +46,9 @@ class QUORIX_EXPORT URLSession {
  public:
   static URLSession& shared();
 
-  /// Starts a GET of `url`. With no transport installed it completes with an error of domain
-  /// "URLSession", code -1 (on a thread of its own). Any thread.
+  /// Starts a GET of `url`. With no transport installed, or with the network off, it completes with
+  /// an error of domain "URLSession", code -1 (without a transport on a thread of its own). Any
+  /// thread.
   void get(const URL& url, URLTransport::Completion completion);
 
   /// Installs the transport that performs the requests from now on. Main thread.
@@ -56,8 +58,24 @@ class QUORIX_EXPORT URLSession {
   /// as the returned token lives. Any thread; the protocol runs on the session's thread.
   [[nodiscard]] std::shared_ptr<void> registerProtocol(URLProtocol protocol);
 
-  /// The first registered protocol's answer for `url`; for transports, on their own thread.
-  std::optional<URLResponse> answerInProcess(const URL& url) const;
+  /// Turns the network off for the process, or on again. Off, a request that no protocol and no
+  /// prefetched answer serves ends at once with an error; one that is under way ends as it would
+  /// have. The pages of a web view are loaded by the web engine and are not affected. Any thread.
+  ///
+  ///     URLSession::shared().setNetworkEnabled(shopper.hasConsented());
+  void setNetworkEnabled(bool enabled);
+
+  /// Fetches `url` and keeps the answer in memory: for `lifetime` it serves the requests that no
+  /// protocol answers. Kept are answers of the network that `isUsable` accepts (it runs on the
+  /// session's thread), of at most `mostPrefetched` addresses. While an answer is kept or on its
+  /// way the call does nothing. Any thread.
+  void prefetch(const URL& url, std::chrono::seconds lifetime,
+                std::function<bool(const URLResponse&)> isUsable);
+  static constexpr std::size_t mostPrefetched = 8;
+
+  /// The answer for `url` that needs no network: a protocol's, a prefetched one, or with the
+  /// network off an error. For transports, on their own thread, once for each request.
+  std::optional<URLResponse> answerInProcess(const URL& url);
 
  private:
   URLSession();

@@ -43,7 +43,7 @@ TEST(ConcurrentLocalizationRepository, LargeTableNeedsTheMainThreadOnlyToTakeIts
   server.serve("/translations/score/overlay/en.json",
                {httpAnswer(200, R"({"labels":{"hint":")" + std::string(kSize, 'x') + R"("}})")});
   const auto transport = std::make_shared<WatchedTransport>();
-  transport->network.redirectOrigin(modulesServiceBaseURL, server.base());
+  transport->network.redirectOrigin(modulesServiceBaseURL(), server.base());
   foundation::URLSession::shared().install(transport);
   const auto repository = LocalizationRepository::make("en");
   const auto hint = [&] { return repository->strings.get()->text("labels", "hint"); };

@@ -1,7 +1,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QLoggingCategory>
 #include <QNetworkReply>
+#include <QRegularExpression>
 #include <QSslConfiguration>
 #include <QTcpServer>
 #include <atomic>
@@ -17,6 +19,7 @@
 #include "qt/QtURLTransport.h"
 #include "tests/qt/Fetch.h"
 #include "tests/qt/LoopbackServer.h"
+#include "tests/web/LogListener.h"
 
 namespace quorix::testing {
 namespace {
@@ -319,6 +322,50 @@ TEST_F(ConcurrentUrlSession, ProtocolAnswersBeforeTheNetworkOnTheSessionsThread)
   EXPECT_EQ(outside.body, "network");
   EXPECT_EQ(thread, again);  // one thread for all of them
   EXPECT_TRUE(server.requests("/inside").empty());
+}
+
+TEST_F(ConcurrentUrlSession, WithTheNetworkOffOnlyProtocolsAnswer) {
+  server.serve("/x", {httpAnswer(200, "network")});
+  const auto token = foundation::URLSession::shared().registerProtocol(
+      [](const URL& url) -> std::optional<URLResponse> {
+        if (url.path() != "/inside") return std::nullopt;
+        return URLResponse{{}, "protocol", 0};
+      });
+  foundation::URLSession::shared().setNetworkEnabled(false);
+  const auto [inside, thread] = fetch("/inside");
+  const auto [outside, same] = fetch("/x");
+  foundation::URLSession::shared().setNetworkEnabled(true);
+  EXPECT_EQ(inside.body, "protocol");
+  EXPECT_EQ(outside.error ? outside.error->code : 0, -1);
+  EXPECT_EQ(thread, same);
+  EXPECT_TRUE(server.requests("/x").empty());
+  EXPECT_EQ(fetch("/x").response.body, "network");
+}
+
+TEST_F(ConcurrentUrlSession, LogsRequestsIfAskedAndNeverAToken) {
+  server.serve("/here?token=secret", {httpAnswer(200, "four")});
+  server.serve("/cut", {"", SIZE_MAX, true});
+  const std::string user = "http://secret:secret@" + server.base().substr(7);
+  const auto ask = [&] {
+    for (const char* path : {"/here?token=secret#secret", "/nowhere", "/cut"}) {
+      Fetch(transport, user + path).wait();
+    }
+  };
+  const LogListener log;
+  ask();
+  EXPECT_TRUE(LogListener::lines().isEmpty());
+  QLoggingCategory::setFilterRules(QStringLiteral("quorix.network=true"));
+  ask();
+  QLoggingCategory::setFilterRules({});
+  std::vector<std::string> lines;
+  for (QString line : LogListener::lines()) {
+    line.replace(QRegularExpression(QStringLiteral("\\d+ ms")), QStringLiteral("T ms"));
+    lines.push_back(line.toStdString());
+  }
+  const std::string get = "quorix.network: GET " + server.base();
+  EXPECT_THAT(lines, ::testing::ElementsAre(get + "/here 200 T ms 4 bytes",
+                                            get + "/nowhere 404 T ms 0 bytes",
+                                            get + "/cut RemoteHostClosedError T ms 0 bytes"));
 }
 
 }  // namespace

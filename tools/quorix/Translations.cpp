@@ -93,7 +93,7 @@ URLResponse serviceAnswer(const std::optional<std::string>& document) {
 
 bool fetchTranslations(const swiftui::View& view, const std::optional<std::string>& document) {
   std::atomic<bool> asked = false;
-  const auto fence = URL::parse(std::string(modulesServiceBaseURL) + "/fence");
+  const auto fence = URL::parse(std::string(modulesServiceBaseURL()) + "/fence");
   const auto protocol =
       URLSession::shared().registerProtocol([&](const URL& url) -> std::optional<URLResponse> {
         if (url != *fence) asked = true;
