@@ -35,7 +35,7 @@ TEST(SvgExample, DrawsWhatQtDraws) {
   const Tool tool;
   const auto made = tool.shell(QUORIX_SVG
                                " . && TOKEN=$(quorix mint --score 0.82 --currency EUR --base 600 "
-                               "--discounted 300) && quorix score --client-id x --token $TOKEN "
+                               "--discounted 300) && quorix score --client-id x $TOKEN "
                                "--width 343 --scale 2 --out row.png && quorix info "
                                "--form imperative --width 343 --scale 2 --out imperative.png");
   ASSERT_EQ(made.status, 0) << made.err;
