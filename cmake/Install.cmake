@@ -1,5 +1,5 @@
-# What `cmake --install` puts where, by component: core, qt, qml, web, tool and dev. Everything that is
-# installed finds its own by where it stands, so that the folder may be moved.
+# What `cmake --install` puts where, by component: core, qt, qml, web, tool and dev. Installed files find
+# each other by relative paths, so that the folder may be moved.
 
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
@@ -109,6 +109,20 @@ if(TARGET quorix)
   file(RELATIVE_PATH to_libraries /prefix/${CMAKE_INSTALL_BINDIR} /prefix/${CMAKE_INSTALL_LIBDIR})
   set_target_properties(quorix PROPERTIES INSTALL_RPATH "${quorix_here}/${to_libraries}")
   install(TARGETS quorix RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tool)
+  get_target_property(written quorix QUORIX_WRITTEN)
+  if(written)
+    # Debian's zsh looks for what packages bring in a folder of its own.
+    set(zsh_folder site-functions)
+    if(CMAKE_INSTALL_PREFIX STREQUAL "/usr")
+      set(zsh_folder vendor-completions)
+    endif()
+    install(FILES ${written}/quorix.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tool)
+    install(FILES ${written}/quorix
+      DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions COMPONENT tool)
+    install(FILES ${written}/_quorix DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/${zsh_folder} COMPONENT tool)
+    install(FILES ${written}/quorix.fish
+      DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d COMPONENT tool)
+  endif()
 endif()
 
 configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/QuorixWidgetsConfig.cmake.in

@@ -24,7 +24,7 @@ set(QUORIX_WIDGET_URL https://widget.quorix.example CACHE STRING
   "The service with a shopper's personal page")
 set(QUORIX_SANITIZE "" CACHE STRING "Sanitizers for the whole tree, e.g. address,undefined")
 
-# A host that has variables of such a name itself is told, and not stopped.
+# A host may have variables of such a name itself, so it gets a warning.
 set(quorix_unknown WARNING)
 if(PROJECT_IS_TOP_LEVEL)
   set(quorix_unknown FATAL_ERROR)

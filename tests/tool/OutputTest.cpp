@@ -12,16 +12,18 @@
 
 namespace {
 
-const std::string score = "quorix score --token $(quorix mint) ", info = "quorix info ",
+const std::string score = "quorix score $(quorix mint) ", info = "quorix info ",
                   imperative = info + "--form imperative ";
 
 TEST(ToolOutput, IsJSON) {
   const struct {
     std::string command;
     int height, elements;
-  } rows[] = {{score + "--sheet", 750, 6}, {info, 96, 2}, {imperative, 96, 2}};
+  } rows[] = {{score + "--sheet", 750, 6},
+              {info + "--frames --accessibility", 96, 2},
+              {imperative + "--out picture.png", 96, 2}};
   for (const auto& row : rows) {
-    const auto run = Tool().shell(row.command + " --json --frames --accessibility");
+    const auto run = Tool().shell(row.command + " --json");
     const auto document = QJsonDocument::fromJson(QByteArray::fromStdString(run.out)).object();
     EXPECT_EQ(document["frames"]["size"]["height"].toInt(), row.height) << row.command;
     EXPECT_EQ(document["accessibility"].toArray().size(), row.elements) << row.command;

@@ -100,10 +100,23 @@ TEST(PreviewTool, FollowsTranslationsThatAreReplaced) {
   EXPECT_GT(reachOfTitle(preview.shown), 180);
 }
 
+TEST(PreviewTool, SaysInWhichLanguageATableIsWrong) {
+  const Tool folder;
+  const auto made = folder.shell(
+      "cp -r $STRINGS/en.lproj $STRINGS/de.lproj . && "
+      "sed -i 's/%\\.0f/%d/' de.lproj/Localizable.strings");
+  ASSERT_EQ(made.status, 0) << made.err;
+  Preview preview({"--resources", folder.path(".")});
+  ASSERT_TRUE(preview.showsAnother());
+  EXPECT_TRUE(preview.process.readAllStandardError().startsWith(
+      "quorix: preview: note: de.lproj/Localizable.strings: \""));
+}
+
 TEST(PreviewTool, SaysInOneLineWhatItCannotShow) {
   const Tool tool;
-  for (const char* arguments : {"--resources nowhere", "--translations nowhere.json",
-                                "--shopper nobody", "--width 10", "--regular-font nowhere.ttf"}) {
+  for (const char* arguments :
+       {"--resources nowhere", "--translations nowhere.json", "--shopper nobody", "--shopper own",
+        "--width 10", "--regular-font nowhere.ttf"}) {
     const auto run = tool.shell(std::string("quorix preview ") + arguments);
     EXPECT_NE(run.status, 0) << arguments;
     EXPECT_TRUE(isOneErrorLine(run.err)) << arguments << run.err;

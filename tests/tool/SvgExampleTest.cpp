@@ -25,7 +25,7 @@ QImage onPaper(QSize size, const std::function<void(QPainter&)>& draw) {
   QPainter painter(&image);
   draw(painter);
   painter.end();
-  // Text on a screen stands on whole pixels, and in a file where it falls: a hair's breadth apart.
+  // Scaled down, because text on a screen is aligned to whole pixels and text in a file is not.
   return image.scaled(size / 4, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
@@ -35,7 +35,7 @@ TEST(SvgExample, DrawsWhatQtDraws) {
   const Tool tool;
   const auto made = tool.shell(QUORIX_SVG
                                " . && TOKEN=$(quorix mint --score 0.82 --currency EUR --base 600 "
-                               "--discounted 300) && quorix score --client-id x --token $TOKEN "
+                               "--discounted 300) && quorix score --client-id x $TOKEN "
                                "--width 343 --scale 2 --out row.png && quorix info "
                                "--form imperative --width 343 --scale 2 --out imperative.png");
   ASSERT_EQ(made.status, 0) << made.err;

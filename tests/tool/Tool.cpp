@@ -2,6 +2,7 @@
 
 #include <QFileInfo>
 #include <QProcess>
+#include <QRegularExpression>
 #include <algorithm>
 
 Tool::Run Tool::shell(const std::string& line) const {
@@ -19,8 +20,10 @@ Tool::Run Tool::shell(const std::string& line) const {
   process.start("sh", {"-c", QString::fromStdString(line)});
   process.closeWriteChannel();
   if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit) return {};
-  return {process.exitCode(), process.readAllStandardOutput().toStdString(),
-          process.readAllStandardError().toStdString()};
+  // On a busy machine the gallery says how far it is.
+  static const QRegularExpression progress("quorix: gallery: \\d+ of \\d+ screens\n");
+  const QString errors = QString::fromUtf8(process.readAllStandardError()).remove(progress);
+  return {process.exitCode(), process.readAllStandardOutput().toStdString(), errors.toStdString()};
 }
 
 bool isOneErrorLine(const std::string& text) {

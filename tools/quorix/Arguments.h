@@ -12,17 +12,18 @@
 
 namespace quorix::tool {
 
-/// The arguments of one command, sorted into options and operands. Of an option given twice the
+/// The arguments of one command, sorted into options and operand. Of an option given twice the
 /// last counts.
 class Arguments {
  public:
   /// Sorts `words`. Values follow their option as the next word or behind "="; a next word that
   /// begins with "--" is an option, not a value, and everything behind a lone "--" is an operand.
-  /// One operand is wanted where `operand` names it, may be given where the name stands in
-  /// brackets, and none where that is empty.
+  /// One operand is wanted where `operand` has a name, may be given where the name stands in
+  /// brackets, and none where that is empty; where it ends in dots, further words belong to it. A
+  /// value that is not one of its option's names is refused.
   static std::variant<Arguments, Failure> parse(std::span<const std::string> words,
                                                 std::span<const Option> options,
-                                                std::string_view operand);
+                                                const Option& operand);
 
   /// Whether `words` ask for help rather than for the command.
   static bool wantHelp(std::span<const std::string> words);
@@ -30,12 +31,17 @@ class Arguments {
   bool has(std::string_view option) const { return values_.contains(option); }
   /// The option's value, empty for a switch; nothing when it was not given.
   std::optional<std::string> value(std::string_view option) const;
-  /// Empty where none was given.
-  const std::string& operand() const { return operand_; }
+  /// Which of the option's names was given; nothing when the option was not.
+  std::optional<std::size_t> choice(std::string_view option) const;
+  const std::optional<std::string>& operand() const { return operand_; }
 
  private:
+  std::optional<Failure> takeOption(std::span<const std::string>& words);
+  std::optional<Failure> takeOperand(const std::string& word, const Option& operand);
+
+  std::span<const Option> options_;
   std::map<std::string, std::string, std::less<>> values_;
-  std::string operand_;
+  std::optional<std::string> operand_;
 };
 
 }  // namespace quorix::tool

@@ -15,14 +15,13 @@ namespace quorix::tool {
 using Outcome = std::variant<std::string, Failure>;
 
 /// A command of the tool: what its help says, what its command line may hold, and what it does.
+/// Help, the manual page and the shells' completions are made of these tables.
 struct Command {
-  std::string_view name;      ///< one word or two: "score", "strings check"
-  std::string_view synopsis;  ///< what follows the name
-  std::string_view purpose;   ///< two lines, the first of which serves in the list of commands
+  std::string_view name;     ///< one word or two: "score", "strings check"
+  std::string_view purpose;  ///< a line for the list of commands, and then what else to know
   std::span<const Option> options;
-  std::string_view operand;  ///< the one argument it takes besides options: "TOKEN", "[FOLDER]"
-                             ///< where it may be left out, empty for none
-  std::string_view details;  ///< whole lines below the options; may be empty
+  Option operand;            ///< the one argument it takes besides options; without a name none
+  std::string_view details;  ///< a paragraph below the options; may be empty
   std::string_view example;  ///< whole lines that work when pasted into a shell
   Outcome (*run)(const Arguments&);
 };

@@ -19,7 +19,7 @@ std::string json(const TokenData& figures) {
 }
 
 Outcome decode(const Arguments& arguments) {
-  const auto token = tokenText(arguments.operand());
+  const auto token = tokenText(*arguments.operand());
   if (const auto* failure = std::get_if<Failure>(&token)) return *failure;
   const auto reading = readToken(std::get<std::string>(token));
   if (const auto* refusal = std::get_if<TokenRefusal>(&reading)) return refused(*refusal);
@@ -34,15 +34,12 @@ Outcome decode(const Arguments& arguments) {
 
 const Command decodeCommand{
     .name = "decode",
-    .synopsis = "TOKEN",
     .purpose =
         "Prints the figures in a shopper token as JSON.\n"
         "A token that a widget would refuse is refused here, with the reason.",
     .options = {},
-    .operand = "TOKEN",
-    .details =
-        "TOKEN is the token's text, or - to read it from the standard input. Fees are in\n"
-        "hundredths of the currency's unit. The signature is not checked.",
+    .operand = tokenOperand,
+    .details = "Fees are in hundredths of the currency's unit. The signature is not checked.",
     .example = "quorix mint --base 1250 | quorix decode -",
     .run = decode,
 };

@@ -1,16 +1,30 @@
 #pragma once
 
-#include <span>
 #include <string>
 
 #include "tools/quorix/Command.h"
 
 namespace quorix::tool {
 
+/// "quorix help": prints what "quorix --help" or "quorix COMMAND --help" prints.
+extern const Command helpCommand;
+
+inline constexpr std::string_view toolPurpose =
+    "quorix shows the widgets without an app: what a shopper sees, hears and is charged. "
+    "It works without a display and without a network.";
+inline constexpr std::string_view exitStatus =
+    "0 when all went well, 1 for input that was refused, 2 for a wrong command line.";
+
 /// What "quorix --help" prints.
-std::string helpText(std::span<const Command* const> commands);
+std::string helpText();
 
 /// What "quorix COMMAND --help" prints.
 std::string helpText(const Command& command);
+
+/// "score TOKEN [options]".
+std::string usage(const Command& command);
+
+/// What `option` is for, in one paragraph.
+std::string described(const Option& option);
 
 }  // namespace quorix::tool

@@ -54,13 +54,12 @@ Outcome info(const Arguments& arguments) {
 
 const Command infoCommand{
     .name = "info",
-    .synopsis = "[options]",
     .purpose =
         "Shows the info widget: as a picture, a view tree, frames or words.\n"
         "Nothing is fetched: of a sheet, the page stays blank.",
     .options = InfoRequest::options,
     .operand = {},
-    .details = widgetDetails,
+    .details = {},
     .example = "quorix info --form imperative --locale es --width 343 --scale 3 --out info.png",
     .run = info,
 };

@@ -5,10 +5,12 @@
 namespace quorix::tool {
 namespace {
 
+constexpr std::string_view forms[] = {"declarative", "imperative"};
+
 constexpr auto table = withWidgetOptions({
-    {"--form", "NAME", "declarative or imperative (default declarative)."},
+    {"--form", "NAME", "{} (default declarative).", forms},
     {"--background-color", "#RRGGBB",
-     "Behind the texts (default the library's own). The imperative\n"
+     "Behind the texts (default the library's own). The imperative "
      "form does not take one."},
     {"--border", "", "Draws a border. The imperative form has none."},
 });
@@ -20,7 +22,7 @@ const std::span<const Option> InfoRequest::options = table;
 std::variant<InfoRequest, Failure> InfoRequest::read(const Arguments& arguments) {
   OptionReader read(arguments);
   InfoRequest request{WidgetRequest::from(read)};
-  request.imperative = read.choice("--form", {"declarative", "imperative"}) == 1;
+  request.imperative = read.choice("--form") == 1;
   request.backgroundColor = read.color("--background-color");
   request.border = read.has("--border");
   if (request.imperative && (request.backgroundColor || request.border)) {

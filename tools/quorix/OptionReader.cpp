@@ -35,11 +35,6 @@ std::string OptionReader::text(std::string_view option, std::string_view fallbac
   return arguments_.value(option).value_or(std::string(fallback));
 }
 
-std::string OptionReader::required(std::string_view option) {
-  if (!arguments_.has(option)) fail(std::string(option) + " is missing");
-  return text(option, {});
-}
-
 double OptionReader::number(std::string_view option, double fallback, Range range) {
   return optionalNumber(option, range).value_or(fallback);
 }
@@ -62,20 +57,6 @@ std::int64_t OptionReader::integer(std::string_view option, std::int64_t fallbac
   const auto number = parse<std::int64_t>(*given);
   if (!number) fail(wants(option, "a whole number of 64 bits", *given));
   return number.value_or(fallback);
-}
-
-std::optional<std::size_t> OptionReader::choice(std::string_view option,
-                                                std::span<const std::string_view> names) {
-  const auto given = arguments_.value(option);
-  if (!given) return std::nullopt;
-  std::string known;
-  std::size_t index = 0;
-  for (const std::string_view name : names) {
-    if (name == *given) return index;
-    known += (index++ == 0 ? "" : " or ") + std::string(name);
-  }
-  fail(wants(option, known, *given));
-  return std::nullopt;
 }
 
 std::optional<graphics::RGBA> OptionReader::color(std::string_view option) {

@@ -1,9 +1,7 @@
 #pragma once
 
 #include <cstdint>
-#include <initializer_list>
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 
@@ -32,17 +30,13 @@ class OptionReader {
   std::optional<std::string> optionalText(std::string_view option) const {
     return arguments_.value(option);
   }
-  std::string required(std::string_view option);
   double number(std::string_view option, double fallback, Range range);
   std::optional<double> optionalNumber(std::string_view option, Range range);
   /// A signed 64-bit integer.
   std::int64_t integer(std::string_view option, std::int64_t fallback);
-  /// Which of `names` was given; nothing when the option was not.
-  std::optional<std::size_t> choice(std::string_view option,
-                                    std::span<const std::string_view> names);
-  std::optional<std::size_t> choice(std::string_view option,
-                                    std::initializer_list<std::string_view> names) {
-    return choice(option, std::span(names.begin(), names.size()));
+  /// Which of the option's names was given; nothing when the option was not.
+  std::optional<std::size_t> choice(std::string_view option) const {
+    return arguments_.choice(option);
   }
 
   /// "#RRGGBB", as designers write it; opaque.

@@ -9,13 +9,10 @@ namespace {
 constexpr Option options[] = {
     {"--locale", "LANGUAGE", "The page's language, such as en or nb (default none)."},
     {"--name", "TEXT", "The shopper's name; sent with a token only (default none)."},
-    {"--token", "TOKEN",
-     "The shopper's token, or - to read it from the standard input;\n"
-     "without it the overlay is the general page. It is not checked."},
 };
 
 Outcome overlayUrl(const Arguments& arguments) {
-  OverlayAddress address{.token = arguments.value("--token"),
+  OverlayAddress address{.token = arguments.operand(),
                          .userName = arguments.value("--name"),
                          .locale = arguments.value("--locale")};
   if (address.token) {
@@ -32,16 +29,17 @@ Outcome overlayUrl(const Arguments& arguments) {
 
 const Command overlayUrlCommand{
     .name = "overlay-url",
-    .synopsis = "[options]",
     .purpose =
         "Prints the address of the page behind a widget.\n"
         "Nothing is loaded from it.",
     .options = options,
-    .operand = {},
+    .operand = {"[TOKEN]", "",
+                "The shopper's token, or - to read it from the standard input; without it the "
+                "overlay is the general page. It is not checked."},
     .details =
-        "A text that is given but empty counts as given: --token= is a shopper's page without a\n"
-        "token, and no --locale at all is the query's bare name.",
-    .example = "quorix overlay-url --locale nb --name Ann --token \"$(quorix mint)\"",
+        "A text that is given but empty counts as given: '' for TOKEN is a shopper's page without "
+        "a token, and no --locale at all is the query's bare name.",
+    .example = "quorix overlay-url --locale nb --name Ann \"$(quorix mint)\"",
     .run = overlayUrl,
 };
 

@@ -68,16 +68,13 @@ Outcome score(const Arguments& arguments) {
 
 const Command scoreCommand{
     .name = "score",
-    .synopsis = "--token TOKEN [options]",
     .purpose =
         "Shows the score widget of a token: as a picture, a view tree, frames or words.\n"
         "Nothing is fetched: texts are the built-in ones or those of a file.",
     .options = ScoreRequest::options,
-    .operand = {},
-    .details = widgetDetails,
-    .example =
-        "quorix score --token \"$(quorix mint)\" --locale es --width 343 --scale 3 --out "
-        "row.png",
+    .operand = tokenOperand,
+    .details = {},
+    .example = "quorix score \"$(quorix mint)\" --locale es --width 343 --scale 3 --out row.png",
     .run = score,
 };
 

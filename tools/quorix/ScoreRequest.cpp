@@ -7,12 +7,9 @@ namespace quorix::tool {
 namespace {
 
 constexpr auto table = withWidgetOptions({
-    {"--token", "TOKEN", "The shopper's token, or - to read it from the standard input."},
     {"--client-id", "ID", "The retailer's client id (default demo)."},
     {"--translations", "FILE.json",
-     "Replaces the built-in texts, as a fetched table would:\n"
-     "{\"returns\": {\"title\": \"...\", ...}, \"labels\": {...},\n"
-     "\"actions\": {...}}."},
+     "Replaces the built-in texts, as a fetched table would; \"quorix texts\" prints one."},
 });
 
 }  // namespace
@@ -21,12 +18,11 @@ const std::span<const Option> ScoreRequest::options = table;
 
 std::variant<ScoreRequest, Failure> ScoreRequest::read(const Arguments& arguments) {
   OptionReader read(arguments);
-  const std::string token = read.required("--token");
   ScoreRequest request{WidgetRequest::from(read)};
   request.clientId = read.text("--client-id", "demo");
   request.translations = read.optionalText("--translations");
   if (read.failure()) return *read.failure();
-  auto text = tokenText(token);
+  auto text = tokenText(*arguments.operand());
   if (auto* failure = std::get_if<Failure>(&text)) return std::move(*failure);
   request.token = std::get<std::string>(std::move(text));
   return request;

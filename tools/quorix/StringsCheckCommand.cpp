@@ -65,7 +65,7 @@ Outcome checkTranslations(const std::string& path) {
 }
 
 Outcome check(const Arguments& arguments) {
-  const std::string& path = arguments.operand();
+  const std::string path = arguments.operand().value_or("");
   if (path.ends_with(".json")) return checkTranslations(path);
   const Bundle::Ref bundle = path.empty() ? Bundle::embedded() : Bundle::open(path);
   if (!bundle) return Failure::refused("can't read the folder " + path);
@@ -86,21 +86,20 @@ Outcome check(const Arguments& arguments) {
 }  // namespace
 
 const Command stringsCheckCommand{
-    "strings check",
-    "[FOLDER|FILE.json]",
-    "Checks the string tables of every language, or a table as the modules service sends it.\n"
-    "FOLDER holds en.lproj/Localizable.strings and so on; without it, the built-in ones are "
-    "checked.",
-    {},
-    "[FOLDER|FILE.json]",
-    "FILE.json is what \"quorix score --translations\" takes; a label whose key it lacks stays "
-    "empty.\n"
-    "Prints a line for each finding: a mistake in a file and its line, an entry that is missing "
-    "or\n"
-    "never used, a format that does not show its argument, a title that its figure does not part.\n"
-    "Ends with status 1 when it finds anything.",
-    "quorix strings check",
-    check,
+    .name = "strings check",
+    .purpose =
+        "Checks the string tables of every language, or a translations file.\n"
+        "Prints a line for each finding: a mistake in a file and its line, an entry that is "
+        "missing or never used, a format that does not show its argument, a title that its figure "
+        "does not part. Ends with status 1 when it finds anything.",
+    .options = {},
+    .operand = {"[FOLDER|FILE.json]", "",
+                "FOLDER holds en.lproj/Localizable.strings and so on (default the built-in "
+                "tables); FILE.json is what \"quorix texts\" prints and \"quorix score "
+                "--translations\" takes. A label whose key it lacks stays empty."},
+    .details = {},
+    .example = "quorix strings check",
+    .run = check,
 };
 
 }  // namespace quorix::tool

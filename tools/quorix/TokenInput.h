@@ -7,8 +7,13 @@
 
 #include "QuorixWidgets/data/TokenData.h"
 #include "tools/quorix/Failure.h"
+#include "tools/quorix/Option.h"
 
 namespace quorix::tool {
+
+/// How every command takes a token.
+inline constexpr Option tokenOperand{
+    "TOKEN", "", "The shopper's token, or - to read it from the standard input."};
 
 /// The token that `argument` is, or for "-" the one on the standard input, without the blanks and
 /// line ends around it. Input that is longer than any token is a failure.

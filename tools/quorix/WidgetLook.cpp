@@ -14,16 +14,15 @@ WidgetLook WidgetLook::from(OptionReader& read) {
   look.locale = read.text("--locale", look.locale);
   look.regularFont = read.optionalText("--regular-font");
   look.semiBoldFont = read.optionalText("--semi-bold-font");
-  if (read.choice("--appearance", {"light", "dark"}) == 1) {
+  if (read.choice("--appearance") == 1) {
     look.appearance = graphics::Appearance::dark;
   }
-  if (const auto direction = read.choice("--direction", {"ltr", "rtl"})) {
+  if (const auto direction = read.choice("--direction")) {
     look.direction = *direction == 1 ? LayoutDirection::rightToLeft : LayoutDirection::leftToRight;
   }
-  const std::string size = read.text("--text-size", "large");
-  const auto category = swiftui::contentSizeCategoryNamed(size);
-  if (!category) read.fail("--text-size knows no \"" + size + "\"");
-  look.textSize = category.value_or(look.textSize);
+  if (const auto size = read.choice("--text-size")) {
+    look.textSize = static_cast<swiftui::ContentSizeCategory>(*size);
+  }
   return look;
 }
 

@@ -14,12 +14,11 @@ void readOutputs(OptionReader& read, WidgetRequest& request) {
   request.tree = read.has("--tree");
   request.frames = read.has("--frames");
   request.json = read.has("--json");
-  const bool nothingNamed = !request.out && !request.tree && !request.frames;
-  request.accessibility = read.has("--accessibility") || nothingNamed;
+  request.accessibility = read.has("--accessibility");
   if (request.json && request.tree) read.fail("--tree has no JSON form");
-  if (request.json && !request.frames && !request.accessibility) {
-    read.fail("--json wants --frames or --accessibility");
-  }
+  if (request.frames || request.accessibility) return;
+  request.frames = request.json;
+  request.accessibility = request.json || (!request.out && !request.tree);
 }
 
 }  // namespace

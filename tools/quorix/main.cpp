@@ -3,15 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "tools/quorix/DecodeCommand.h"
-#include "tools/quorix/GalleryCommand.h"
+#include "tools/quorix/Commands.h"
 #include "tools/quorix/Help.h"
-#include "tools/quorix/InfoCommand.h"
-#include "tools/quorix/MintCommand.h"
-#include "tools/quorix/OverlayUrlCommand.h"
-#include "tools/quorix/ScoreCommand.h"
-#include "tools/quorix/StringsCheckCommand.h"
-#include "tools/quorix/preview/PreviewCommand.h"
 
 namespace {
 
@@ -19,13 +12,6 @@ using quorix::tool::Arguments;
 using quorix::tool::Command;
 using quorix::tool::Failure;
 using quorix::tool::Outcome;
-
-constexpr const Command* commands[] = {
-    &quorix::tool::mintCommand,       &quorix::tool::decodeCommand,
-    &quorix::tool::scoreCommand,      &quorix::tool::infoCommand,
-    &quorix::tool::galleryCommand,    &quorix::tool::previewCommand,
-    &quorix::tool::overlayUrlCommand, &quorix::tool::stringsCheckCommand,
-};
 
 Outcome run(const Command& command, std::span<const std::string> words) {
   if (Arguments::wantHelp(words)) return helpText(command);
@@ -43,35 +29,17 @@ Failure placed(Failure failure, const std::string& command) {
   return failure;
 }
 
-/// The command that `words` begin with, or null.
-const Command* commandOf(std::span<const std::string> words) {
-  const std::string& first = words[0];
-  const std::string both = words.size() > 1 ? first + ' ' + words[1] : first;
-  const auto found = std::ranges::find_if(commands, [&](const Command* command) {
-    return command->name == first || command->name == both;
-  });
-  return found == std::end(commands) ? nullptr : *found;
-}
-
-/// Why `first` is no command; where it is the first word of one, with that command.
-std::string unknown(const std::string& first) {
-  const auto longer = std::ranges::find_if(
-      commands, [&](const Command* command) { return command->name.starts_with(first + ' '); });
-  const std::string message = "unknown command \"" + first + '"';
-  if (longer == std::end(commands)) return message;
-  return message + "; there is \"" + std::string((*longer)->name) + '"';
-}
-
 Outcome run(std::span<const std::string> words) {
   if (words.empty()) return placed(Failure::usage("no command given"), {});
   const std::string& first = words.front();
   if (first == "--version") return "quorix " QUORIX_VERSION "\n";
-  if (first == "--help" || first == "-h") return quorix::tool::helpText(commands);
-  const Command* const command = commandOf(words);
-  if (command == nullptr) return placed(Failure::usage(unknown(first)), {});
-  Outcome outcome = run(*command, words.subspan(command->name == first ? 1 : 2));
+  if (first == "--help" || first == "-h") return quorix::tool::helpText();
+  const auto found = quorix::tool::findCommand(words);
+  if (const auto* failure = std::get_if<Failure>(&found)) return placed(*failure, {});
+  const Command& command = *std::get<const Command*>(found);
+  Outcome outcome = run(command, words.subspan(command.name == first ? 1 : 2));
   if (auto* failure = std::get_if<Failure>(&outcome)) {
-    *failure = placed(*failure, std::string(command->name));
+    *failure = placed(*failure, std::string(command.name));
   }
   return outcome;
 }

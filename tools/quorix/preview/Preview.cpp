@@ -1,10 +1,12 @@
 #include "tools/quorix/preview/Preview.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QProcess>
 #include <QSaveFile>
 #include <algorithm>
+#include <cstdio>
 #include <vector>
 
 #include "QuorixWidgets/localization/ResourceBundle.h"
@@ -46,6 +48,17 @@ std::optional<std::string> textOf(const std::optional<std::string>& file) {
   return text ? std::optional(std::move(*text)) : std::nullopt;
 }
 
+/// The string tables in `folder`.
+QStringList tables(const QString& folder) {
+  QStringList files;
+  const QDir root(folder);
+  for (const QString& language : root.entryList({QStringLiteral("*.lproj")}, QDir::Dirs)) {
+    const QString file = root.filePath(language + QStringLiteral("/Localizable.strings"));
+    if (QFileInfo::exists(file)) files.append(file);
+  }
+  return files;
+}
+
 /// What is wrong with the string table in `file`; empty when nothing is.
 std::string findings(const std::string& file) {
   const auto bytes = readInputFile(file);
@@ -60,6 +73,14 @@ std::string findingsInTranslations(const std::string& file) {
   const auto document = readTranslations(file);
   if (const auto* failure = std::get_if<Failure>(&document)) return failure->message;
   return Oversights::in(std::get<std::string>(document)).line().value_or("");
+}
+
+/// The name of `file`, with its language if it is a table of one: "de.lproj/Localizable.strings".
+QString titleOf(const QString& file) {
+  const QFileInfo info(file);
+  const QString folder = QFileInfo(info.path()).fileName();
+  return folder.endsWith(QLatin1String(".lproj")) ? folder + QLatin1Char('/') + info.fileName()
+                                                  : info.fileName();
 }
 
 /// Whether a change in `file` shows when the widget is made again.
@@ -96,8 +117,10 @@ void Preview::open() {
     controls_.move(40, 40);
     screen_.move(40 + controls_.width() + 24, 40);
   }
-  for (const QString& root : watched(controls_.choices())) {
-    if (const QString found = remark(root); !found.isEmpty()) controls_.say(found);
+  QStringList files = watched(controls_.choices());
+  if (controls_.choices().resources) files.append(tables(files.last()));
+  for (const QString& file : std::as_const(files)) {
+    if (const QString found = remark(file); !found.isEmpty()) controls_.say(found);
   }
 }
 
@@ -126,7 +149,7 @@ void Preview::filesChanged(const QStringList& files) {
   if (!textsOnly) return startAnew();
   refresh();
   const QString found = remark(files.front());
-  controls_.say(found.isEmpty() ? tr("Read %1.").arg(QFileInfo(files.front()).fileName()) : found);
+  controls_.say(found.isEmpty() ? tr("Read %1.").arg(titleOf(files.front())) : found);
 }
 
 /// What its author would want to know of `file`; empty when all is well.
@@ -135,7 +158,9 @@ QString Preview::remark(const QString& file) const {
   if (file.endsWith(QLatin1String(".strings"))) found = findings(file.toStdString());
   if (file.endsWith(QLatin1String(".json"))) found = findingsInTranslations(file.toStdString());
   if (found.empty()) return {};
-  return QFileInfo(file).fileName() + QStringLiteral(": ") + QString::fromStdString(found);
+  const QString line = titleOf(file) + QStringLiteral(": ") + QString::fromStdString(found);
+  std::fprintf(stderr, "quorix: preview: note: %s\n", qPrintable(line));
+  return line;
 }
 
 void Preview::startAnew() {

@@ -11,22 +11,19 @@
 namespace quorix::tool {
 namespace {
 
+constexpr std::string_view widgetNames[] = {"score", "info", "imperative"};
+constexpr std::string_view shopperNames[] = {"own", "discount", "none",
+                                             "yen", "kronor",   "unreadable"};
+
 constexpr auto table = std::to_array<Option>({
-    {"--widget", "NAME", "score, info or imperative (default score)."},
-    {"--token", "TOKEN",
-     "A shopper of your own beside the ones offered, or - to read it\n"
-     "from the standard input."},
-    {"--shopper", "NAME",
-     "own, discount, none, yen, kronor or unreadable (default own with\n"
-     "--token, else discount)."},
+    {"--widget", "NAME", "{} (default score).", widgetNames},
+    {"--shopper", "NAME", "{} (default own with TOKEN, else discount).", shopperNames},
     localeOption,
     {"--translations", "FILE.json",
-     "Replaces the score widget's texts, as a fetched table would, and\n"
-     "is followed."},
+     "Replaces the score widget's texts, as a fetched table would, and is followed."},
     {"--resources", "FOLDER",
-     "String tables (en.lproj/Localizable.strings), assets and interface\n"
-     "files that replace the library's own, file by file, and are\n"
-     "followed."},
+     "String tables (en.lproj/Localizable.strings), assets and interface files that replace the "
+     "library's own, file by file, and are followed."},
     appearanceOption,
     textSizeOption,
     regularFontOption,
@@ -36,8 +33,6 @@ constexpr auto table = std::to_array<Option>({
     sheetOption,
     {"--out", "FILE.png", "Writes a picture of the screen each time that it changes."},
 });
-
-constexpr const char* widgetNames[] = {"score", "info", "imperative"};
 
 std::vector<PreviewChoices::Shopper> standIns() {
   const std::string whole = examples::mintToken({0.82, "EUR", 600, 300});
@@ -51,9 +46,10 @@ std::vector<PreviewChoices::Shopper> standIns() {
   };
 }
 
-void readShopper(OptionReader& read, PreviewChoices& choices) {
+void readShopper(OptionReader& read, const std::optional<std::string>& token,
+                 PreviewChoices& choices) {
   choices.shoppers = standIns();
-  if (const auto token = read.optionalText("--token")) {
+  if (token) {
     const auto text = tokenText(*token);
     if (const auto* failure = std::get_if<Failure>(&text)) return read.fail(failure->message);
     choices.shoppers.insert(choices.shoppers.begin(),
@@ -61,7 +57,7 @@ void readShopper(OptionReader& read, PreviewChoices& choices) {
   }
   const std::string name = read.text("--shopper", choices.shoppers.front().name);
   const auto found = std::ranges::find(choices.shoppers, name, &PreviewChoices::Shopper::name);
-  if (found == choices.shoppers.end()) return read.fail("--shopper knows no \"" + name + '"');
+  if (found == choices.shoppers.end()) return read.fail("--shopper own wants a TOKEN");
   choices.shopper = static_cast<std::size_t>(found - choices.shoppers.begin());
 }
 
@@ -72,14 +68,13 @@ const std::span<const Option> PreviewChoices::options = table;
 std::variant<PreviewChoices, Failure> PreviewChoices::read(const Arguments& arguments) {
   OptionReader read(arguments);
   PreviewChoices choices{WidgetLook::from(read)};
-  choices.widget = static_cast<Widget>(
-      read.choice("--widget", {widgetNames[0], widgetNames[1], widgetNames[2]}).value_or(0));
+  choices.widget = static_cast<Widget>(read.choice("--widget").value_or(0));
   choices.translations = read.optionalText("--translations");
   choices.resources = read.optionalText("--resources");
   choices.width = static_cast<int>(read.number("--width", choices.width, {narrowest, widest}));
   choices.sheet = read.has("--sheet");
   choices.out = read.optionalText("--out");
-  readShopper(read, choices);
+  readShopper(read, arguments.operand(), choices);
   if (read.failure()) return *read.failure();
   return choices;
 }
@@ -94,7 +89,6 @@ QStringList PreviewChoices::toWords() const {
     if (value) add(option, *value);
   };
   add("--widget", widgetNames[static_cast<int>(widget)]);
-  if (shoppers.front().name == "own") add("--token", shoppers.front().token);
   add("--shopper", shoppers[shopper].name);
   add("--locale", locale);
   addIf("--translations", translations);
@@ -108,6 +102,7 @@ QStringList PreviewChoices::toWords() const {
   add("--width", std::to_string(width));
   if (sheet) words << QStringLiteral("--sheet");
   addIf("--out", out);
+  if (shoppers.front().name == "own") add("--", shoppers.front().token);
   return words;
 }
 

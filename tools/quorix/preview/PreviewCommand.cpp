@@ -7,7 +7,6 @@
 #include "qt/Engine.h"
 #include "tools/quorix/QuietQt.h"
 #include "tools/quorix/Translations.h"
-#include "tools/quorix/WidgetOptions.h"
 #include "tools/quorix/preview/Preview.h"
 #include "tools/quorix/preview/PreviewChoices.h"
 
@@ -52,13 +51,14 @@ Outcome preview(const Arguments& arguments) {
 
 const Command previewCommand{
     .name = "preview",
-    .synopsis = "[options]",
     .purpose =
         "Opens a window on a widget, with controls, and follows files as they change.\n"
         "Texts are not fetched: they are the built-in ones or those of a file.",
     .options = PreviewChoices::options,
-    .operand = {},
-    .details = widgetDetails,
+    .operand = {"[TOKEN]", "",
+                "A shopper of your own beside the ones offered, or - to read it from the standard "
+                "input."},
+    .details = {},
     .example = "quorix preview --locale es --resources QuorixWidgets/resources",
     .run = preview,
 };

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace quorix::tool {
+
+/// "a, b or c".
+std::string listed(std::span<const std::string_view> names);
+
+/// `; did you mean "dark"?` for the one of `names` that a slip of the fingers makes `word`; empty
+/// when none is near.
+std::string didYouMean(std::string_view word, std::span<const std::string_view> names);
+
+}  // namespace quorix::tool
