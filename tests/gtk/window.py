@@ -79,11 +79,14 @@ def until(condition, what):
 
 
 def at_rest():
-    before, now = None, Screen()
-    while before != now.pixels:
-        time.sleep(0.3)
-        before, now = now.pixels, Screen()
-    return now
+    shown = []
+
+    def stands(now):
+        shown.append(now.pixels)
+        time.sleep(0.2)
+        return shown[-1:] == shown[-2:-1]
+
+    return until(stands, "the motion to end")
 
 
 def do(*actions):
