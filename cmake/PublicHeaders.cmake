@@ -47,6 +47,10 @@ quorix_public_headers(QuorixWidgets
   platform/hosting/ViewHost.h
   platform/hosting/SheetPresenter.h
   platform/render/ScenePrinter.h
+  # To draw it: the direction of a text, the files of an image, the address of a page.
+  platform/text/TextAnalysis.h
+  platform/graphics/AssetCatalog.h
+  platform/webkit/WebContent.h
   # The host's own texts and looks.
   QuorixWidgets/localization/ResourceBundle.h
   platform/foundation/Bundle.h

@@ -1,4 +1,4 @@
-#include "examples/svg/Face.h"
+#include "Face.h"
 
 #include <hb-ot.h>
 

@@ -1,4 +1,4 @@
-#include "examples/svg/Faces.h"
+#include "Faces.h"
 
 #include <stdexcept>
 

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "examples/svg/Face.h"
+#include "Face.h"
 
 namespace quorix::examples {
 

@@ -1,4 +1,4 @@
-#include "examples/svg/OutlineTextEngine.h"
+#include "OutlineTextEngine.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "examples/svg/Faces.h"
-#include "examples/svg/Paragraph.h"
+#include "Faces.h"
+#include "Paragraph.h"
 #include "platform/text/TextEngine.h"
 
 namespace quorix::examples {

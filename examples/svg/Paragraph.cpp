@@ -1,4 +1,4 @@
-#include "examples/svg/Paragraph.h"
+#include "Paragraph.h"
 
 #include <hb.h>
 #include <unicode/uchar.h>

@@ -8,7 +8,7 @@
 #include <memory>
 #include <vector>
 
-#include "examples/svg/Faces.h"
+#include "Faces.h"
 #include "platform/text/AttributedText.h"
 
 namespace quorix::examples {

@@ -1,11 +1,10 @@
-#include "examples/svg/SvgPainter.h"
+#include "SvgPainter.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <variant>
 
-#include "platform/foundation/Base64.h"
 #include "platform/graphics/AssetCatalog.h"
 
 namespace quorix::examples {
@@ -32,6 +31,21 @@ std::string fill(graphics::RGBA color, const char* name = "fill") {
   std::string said = attribute(name, std::string(hex));
   if (color.alpha < 255) said += attribute("opacity", color.alpha / 255.0);
   return said;
+}
+
+std::string base64(std::string_view bytes) {
+  constexpr std::string_view digits =
+      "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+  std::string text;
+  for (std::size_t at = 0; at < bytes.size(); at += 3) {
+    const auto byte = [&](std::size_t i) {
+      return at + i < bytes.size() ? static_cast<unsigned char>(bytes[at + i]) : 0U;
+    };
+    const unsigned three = byte(0) << 16U | byte(1) << 8U | byte(2);
+    for (const unsigned shift : {18U, 12U, 6U, 0U}) text += digits[three >> shift & 63U];
+  }
+  const std::size_t missing = (3 - bytes.size() % 3) % 3;
+  return text.replace(text.size() - missing, missing, missing, '=');
 }
 
 std::string place(const layout::Rect& frame) {
@@ -118,8 +132,7 @@ void SvgPainter::draw(const render::ImageItem& item) {
             "/><feComposite operator=\"in\" in2=\"SourceAlpha\"/></filter>\n";
   }
   svg_ += "<image" + place(item.frame) + filter + attribute("preserveAspectRatio", "none") +
-          attribute("href", "data:image/svg+xml;base64," +
-                                foundation::encodeBase64(image->svg(appearance_).text())) +
+          attribute("href", "data:image/svg+xml;base64," + base64(image->svg(appearance_).text())) +
           "/>\n";
 }
 

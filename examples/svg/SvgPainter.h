@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "examples/svg/OutlineTextEngine.h"
+#include "OutlineTextEngine.h"
 #include "platform/render/Scene.h"
 
 namespace quorix::examples {

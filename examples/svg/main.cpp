@@ -10,10 +10,10 @@
 #include <fstream>
 #include <string>
 
+#include "OutlineTextEngine.h"
 #include "QuorixWidgets/info/InfoWidgetBuilder.h"
 #include "QuorixWidgets/score/ScoreWidgetBuilder.h"
-#include "examples/svg/OutlineTextEngine.h"
-#include "examples/svg/SvgPainter.h"
+#include "SvgPainter.h"
 #include "platform/foundation/MainQueue.h"
 #include "platform/hosting/ViewHost.h"
 #include "platform/swiftui/UIViewRepresentable.h"

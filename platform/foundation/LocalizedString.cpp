@@ -52,4 +52,9 @@ std::string localizedString(std::string_view key, const std::vector<std::string>
   return formatted(entry ? *entry : key, {arguments.begin(), arguments.end()});
 }
 
+std::string spokenName(const Bundle& bundle, const std::string& image, std::string_view language) {
+  const auto name = localizedEntry(bundle, image, language);
+  return name ? *name : localizedString(image, {}, language);
+}
+
 }  // namespace quorix::foundation

@@ -27,4 +27,9 @@ std::optional<std::string> localizedEntry(const Bundle& bundle, std::string_view
 std::string localizedString(std::string_view key, const std::vector<std::string>& arguments,
                             std::string_view language);
 
+/// What assistive technology calls an image of `bundle` that has a meaning and no label. Looks up
+/// the image's name in the "Localizable" string table of its bundle, in the user's `language` or
+/// else in English, then in the host's main table; otherwise it is the name itself. Main thread.
+std::string spokenName(const Bundle& bundle, const std::string& image, std::string_view language);
+
 }  // namespace quorix::foundation

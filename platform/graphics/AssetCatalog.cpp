@@ -5,7 +5,6 @@
 #include <mutex>
 
 #include "platform/foundation/Cache.h"
-#include "platform/foundation/LocalizedString.h"
 #include "platform/graphics/AssetContents.h"
 #include "platform/graphics/SvgSize.h"
 
@@ -136,11 +135,6 @@ std::optional<Data> dataSet(const Bundle::Ref& bundle, std::string_view name) {
   const auto found = catalog(source)->contents(*source, name, "dataset");
   const auto file = found ? parseDataSet(found->json) : std::nullopt;
   return file ? source->data(found->folder + *file) : std::nullopt;
-}
-
-std::string spokenName(const Bundle& bundle, const std::string& image, std::string_view language) {
-  const auto name = foundation::localizedEntry(bundle, image, language);
-  return name ? *name : foundation::localizedString(image, {}, language);
 }
 
 }  // namespace quorix::graphics

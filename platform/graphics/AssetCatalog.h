@@ -1,7 +1,6 @@
 #pragma once
 
 #include <optional>
-#include <string>
 #include <string_view>
 
 #include "platform/foundation/Bundle.h"
@@ -35,20 +34,18 @@ struct ImageAsset {
 ///
 ///     auto grey = colorSet(bundle, "Grey1");
 ///     if (grey) paint(grey->resolve(Appearance::dark));
-std::optional<ColorSet> colorSet(const foundation::Bundle::Ref& bundle, std::string_view name);
+QUORIX_EXPORT std::optional<ColorSet> colorSet(const foundation::Bundle::Ref& bundle,
+                                               std::string_view name);
 
-/// The image set `name`: its SVG files.
+/// The image set `name`: its SVG files, to be drawn into the frame of a `render::ImageItem`.
+///
+///     const auto image = imageSet(item.bundle, item.name);
+///     if (image) drawSvg(image->svg(scene.appearance).text(), item.frame);
 QUORIX_EXPORT std::optional<ImageAsset> imageSet(const foundation::Bundle::Ref& bundle,
                                                  std::string_view name);
 
 /// The bytes of the data set `name`.
-std::optional<foundation::Data> dataSet(const foundation::Bundle::Ref& bundle,
-                                        std::string_view name);
-
-/// What assistive technology calls an image of `bundle` that has a meaning and no label. Looks up
-/// the image's name in the "Localizable" string table of its bundle, in the user's `language` or
-/// else in English, then in the host's main table; otherwise it is the name itself. Main thread.
-std::string spokenName(const foundation::Bundle& bundle, const std::string& image,
-                       std::string_view language);
+QUORIX_EXPORT std::optional<foundation::Data> dataSet(const foundation::Bundle::Ref& bundle,
+                                                      std::string_view name);
 
 }  // namespace quorix::graphics

@@ -5,7 +5,7 @@
 #include <string>
 #include <utility>
 
-#include "platform/graphics/AssetCatalog.h"
+#include "platform/foundation/LocalizedString.h"
 #include "platform/swiftui/Descriptions.h"
 #include "platform/swiftui/DisplayListBuilder.h"
 #include "platform/swiftui/Elements.h"
@@ -86,7 +86,7 @@ class ButtonNode final : public Node, public Transparent {
       words += part.label;
     }
     if (words.empty() && image.bundle) {
-      words = graphics::spokenName(*image.bundle, *image.name, to.environment.language);
+      words = foundation::spokenName(*image.bundle, *image.name, to.environment.language);
     }
     to.list.accessibility.resize(first);
     to.list.accessibility.push_back({frame, render::Role::button, std::move(words), {}, action_});

@@ -13,6 +13,8 @@ namespace quorix::text {
 /// its first letter, and left to right without letters, so that "4,00 €" and "18 %" keep their
 /// order on a right-to-left page. On such a page, a text with any letter of a right-to-left script
 /// runs as the page does, even if it begins with a foreign name. Any thread.
+///
+///     shaper.setDirection(baseDirection(item.text));
 QUORIX_EXPORT layout::LayoutDirection baseDirection(const AttributedText& text);
 
 /// A word in a text, in UTF-16 units.

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "platform/foundation/LocalizedString.h"
 #include "platform/graphics/AssetCatalog.h"
 
 namespace quorix::uikit {
@@ -69,7 +70,7 @@ std::optional<render::AccessibilityElement> UIImageView::describe(std::string_vi
   element.role = render::Role::image;
   // An image that can be tapped needs a label: use its name.
   const bool acts = !gestureRecognizers().empty() && image_->bundle();
-  if (acts) element.label = graphics::spokenName(*image_->bundle(), image_->name(), language);
+  if (acts) element.label = foundation::spokenName(*image_->bundle(), image_->name(), language);
   return element;
 }
 

@@ -15,6 +15,10 @@ namespace quorix::webkit {
 /// A web page for a web engine: its address, its settings, and what it asks of the app. `WKWebView`
 /// owns it. The surface attaches an engine, which may come after the first load and may end before
 /// the page. Main thread.
+///
+///     // On a surface without an engine, the page opens outside the app.
+///     const auto* page = dynamic_cast<const webkit::WebContent*>(embedItem.content.get());
+///     if (page && page->url()) uikit::URLOpener::openOutside(*page->url());
 class QUORIX_EXPORT WebContent final : public render::Embed {
  public:
   struct Settings {
