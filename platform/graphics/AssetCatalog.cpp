@@ -6,8 +6,8 @@
 
 #include "platform/foundation/Cache.h"
 #include "platform/foundation/LocalizedString.h"
+#include "platform/foundation/Runtime.h"
 #include "platform/graphics/AssetContents.h"
-#include "platform/graphics/SvgSize.h"
 
 namespace quorix::graphics {
 namespace {
@@ -15,7 +15,6 @@ namespace {
 using foundation::Bundle;
 using foundation::Data;
 
-constexpr std::size_t mostCatalogs = 16;
 constexpr int deepestFolder = 8;  // a link on disk may lead back to an enclosing folder
 
 /// An asset's folder inside its bundle, and the text of its `Contents.json`.
@@ -112,11 +111,19 @@ struct BundleKey {
   }
 };
 
+}  // namespace
+
+struct AssetCatalogs : foundation::Cache<BundleKey, std::shared_ptr<Catalog>> {
+  AssetCatalogs() : Cache(16) {}
+};
+
+namespace {
+
 Bundle::Ref orMain(const Bundle::Ref& bundle) { return bundle ? bundle : Bundle::main(); }
 
 std::shared_ptr<Catalog> catalog(const Bundle::Ref& bundle) {
-  static foundation::Cache<BundleKey, std::shared_ptr<Catalog>> catalogs(mostCatalogs);
-  return catalogs.get({bundle}, [&] { return std::make_shared<Catalog>(*bundle); });
+  return foundation::Runtime::the<AssetCatalogs>().get(
+      {bundle}, [&] { return std::make_shared<Catalog>(*bundle); });
 }
 
 }  // namespace
