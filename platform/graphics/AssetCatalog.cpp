@@ -17,6 +17,8 @@ using foundation::Data;
 
 constexpr int deepestFolder = 8;  // a link on disk may lead back to an enclosing folder
 
+}  // namespace
+
 /// An asset's folder inside its bundle, and the text of its `Contents.json`.
 struct Contents {
   std::string folder;
@@ -110,8 +112,6 @@ struct BundleKey {
     return !bundle.owner_before(other.bundle) && !other.bundle.owner_before(bundle);
   }
 };
-
-}  // namespace
 
 struct AssetCatalogs : foundation::Cache<BundleKey, std::shared_ptr<Catalog>> {
   AssetCatalogs() : Cache(16) {}
