@@ -16,9 +16,6 @@ namespace {
 
 using graphics::FontManager;
 
-// Names come from hosts, without end perhaps; the fonts kept have one.
-constexpr std::size_t maximumFonts = 128;
-
 /// Whether `name` is `squeezed` but for spaces and case. A desktop may have thousands of names to
 /// compare, so none is copied.
 bool squeezesTo(QStringView name, QStringView squeezed) {
@@ -127,42 +124,37 @@ bool QtFonts::systemKnows(std::string_view name) {
 
 bool QtFonts::refresh() {
   const std::size_t generation = FontManager::shared().generation();
-  const bool changed = generation != generation_ || databaseChanged_;
-  if (!changed && fonts_.size() <= maximumFonts) return false;
-  if (changed) installed_.clear();
-  fonts_.clear();
+  if (generation == generation_ && !databaseChanged_) return false;
+  ++changes_;
   generation_ = generation;
   databaseChanged_ = false;
   return true;
 }
 
-const QFont& QtFonts::face(const std::string& name) {
+QFont QtFonts::face(const std::string& name) {
   if (const QFont* registered = RegisteredFaces::shared().find(name)) return *registered;
-  const auto known = installed_.find(name);
-  if (known != installed_.end()) return known->second;
-  const auto found = name.empty() ? std::nullopt : installedFace(QString::fromStdString(name));
-  const QFont font = found ? *found : QFontDatabase::systemFont(QFontDatabase::GeneralFont);
-  return installed_.emplace(name, font).first->second;
+  return installed_.get({changes_, name, {}, 0}, [&] {
+    const auto found = name.empty() ? std::nullopt : installedFace(QString::fromStdString(name));
+    return found ? *found : QFontDatabase::systemFont(QFontDatabase::GeneralFont);
+  });
 }
 
-const ShapingFont& QtFonts::find(const text::ResolvedFont& wanted, int pixels) {
-  const Key key{wanted.name, wanted.weight, pixels};
-  const auto known = fonts_.find(key);
-  if (known != fonts_.end()) return known->second;
+ShapingFont QtFonts::find(const text::ResolvedFont& wanted, int pixels) {
+  const Key key{changes_, wanted.name, wanted.weight, pixels};
+  return fonts_.get(key, [&] { return make(key); });
+}
 
-  QFont font = face(wanted.name);
-  if (font.weight() < qtWeight(wanted.weight)) {
+ShapingFont QtFonts::make(const Key& key) {
+  QFont font = face(key.name);
+  if (font.weight() < qtWeight(key.weight)) {
     RegisteredFaces::shared().loadAll();
-    font = weighted(font, qtWeight(wanted.weight));
+    font = weighted(font, qtWeight(key.weight));
   }
-  font.setPixelSize(pixels);
+  font.setPixelSize(key.pixels);
   font.setHintingPreference(QFont::PreferNoHinting);
   font.setStyleStrategy(QFont::NoSubpixelAntialias);
   const QRawFont raw = QRawFont::fromFont(font);
-  return fonts_
-      .emplace(key,
-               ShapingFont{font, raw.ascent(), raw.descent(), underline(raw), strikethrough(raw)})
-      .first->second;
+  return {font, raw.ascent(), raw.descent(), underline(raw), strikethrough(raw)};
 }
 
 }  // namespace quorix::qt

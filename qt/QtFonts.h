@@ -2,11 +2,10 @@
 
 #include <QObject>
 #include <cstddef>
-#include <functional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 
+#include "platform/foundation/Cache.h"
 #include "platform/foundation/Export.h"
 #include "platform/text/AttributedText.h"
 #include "qt/ShapingFont.h"
@@ -31,28 +30,29 @@ class QtFonts {
   /// application object.
   static bool systemKnows(std::string_view name);
 
-  /// The face of `font` in `pixels`. The reference holds until `refresh` returns true.
-  const ShapingFont& find(const text::ResolvedFont& font, int pixels = ShapingFont::pixels);
+  /// The face of `font` in `pixels`.
+  ShapingFont find(const text::ResolvedFont& font, int pixels = ShapingFont::pixels);
 
-  /// Forgets the fonts found when faces have come or gone since the last call (or the fonts have
-  /// become too many), and says so.
+  /// Whether faces have come or gone since the last call. The fonts found before are forgotten
+  /// then.
   bool refresh();
 
  private:
   struct Key {
+    unsigned faces;  ///< as of that many changes: a change leaves the entries before it unused
     std::string name;
     swiftui::FontWeight weight;
     int pixels;
     bool operator==(const Key&) const = default;
   };
-  struct Hash {
-    std::size_t operator()(const Key& key) const { return std::hash<std::string>{}(key.name); }
-  };
 
-  const QFont& face(const std::string& name);
+  QFont face(const std::string& name);
+  ShapingFont make(const Key& key);
 
-  std::unordered_map<std::string, QFont> installed_;
-  std::unordered_map<Key, ShapingFont, Hash> fonts_;
+  // Names come from hosts, perhaps without end.
+  foundation::Cache<Key, QFont> installed_{128};
+  foundation::Cache<Key, ShapingFont> fonts_{128};
+  unsigned changes_ = 0;
   std::size_t generation_ = 0;
   bool databaseChanged_ = false;
   QMetaObject::Connection connection_;

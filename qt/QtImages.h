@@ -2,16 +2,15 @@
 
 #include <QImage>
 #include <QSize>
-#include <cstddef>
-#include <list>
 #include <string>
 
 #include "platform/foundation/Bundle.h"
+#include "platform/foundation/Cache.h"
 #include "platform/graphics/RGBA.h"
 
 namespace quorix::qt {
 
-/// Pictures of the images in bundles' asset catalogues, at the size they are drawn at. Main thread.
+/// Pictures of the images in bundles' asset catalogs, at the size they are drawn at. Main thread.
 class QtImages {
  public:
   /// What one picture depends on.
@@ -26,21 +25,14 @@ class QtImages {
 
   static QtImages& shared();
 
-  /// The picture, stretched to `pixels`. Null when the catalogue has no such image or the size is
+  /// The picture, stretched to `pixels`. Null when the catalog has no such image or the size is
   /// empty.
   QImage picture(const Request& request);
 
  private:
-  struct Entry {
-    Request request;
-    QImage picture;
-  };
+  static constexpr qsizetype largestKept = 512 * 1024;  // bytes: 360 pixels square
 
-  static QImage render(const Request& request);
-  void trim();
-
-  std::list<Entry> entries_;  ///< the latest used first
-  std::size_t bytes_ = 0;
+  foundation::Cache<Request, QImage> pictures_{32};
 };
 
 }  // namespace quorix::qt

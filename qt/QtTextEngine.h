@@ -32,7 +32,7 @@ class QtTextEngine final : public text::TextEngine {
   /// The lines of `text` in a frame of `width` points. The reference holds until the next call.
   const ShapedText& shape(const text::AttributedText& text, double width);
 
-  const ShapingFont& font(const text::ResolvedFont& font) { return fonts_.find(font); }
+  ShapingFont font(const text::ResolvedFont& font) { return fonts_.find(font); }
 
   /// The pictures of texts in the fonts that there are now.
   TextPictures& pictures();

@@ -1,11 +1,6 @@
 #pragma once
 
-#include <QString>
-#include <QUrl>
 #include <chrono>
-#include <map>
-#include <mutex>
-#include <string_view>
 
 #include "platform/foundation/URLRequest.h"
 #include "platform/foundation/URLSession.h"
@@ -45,18 +40,8 @@ class QtURLTransport final : public foundation::URLTransport {
   /// with the error `OperationCanceledError`.
   void start(const foundation::URL& url, Completion completion) override;
 
-  /// Stand-ins: from now on sends the requests for `origin` ("https://api.shop.example") to the
-  /// server at `base` ("http://127.0.0.1:8080"), keeping path and query, so that a demo or a test
-  /// can serve an origin from loopback. Only the address that was asked for is looked at, not those
-  /// that redirects lead to. An unusable `base` makes those requests fail. Any thread.
-  void redirectOrigin(std::string_view origin, std::string_view base);
-
  private:
-  QUrl addressOf(const foundation::URL& url) const;
-
-  std::chrono::milliseconds timeLimit_;
-  mutable std::mutex mutex_;
-  std::map<QString, QUrl> standIns_;  // by origin
+  const std::chrono::milliseconds timeLimit_;
 };
 
 }  // namespace quorix::qt

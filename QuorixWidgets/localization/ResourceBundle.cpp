@@ -1,7 +1,5 @@
 #include "QuorixWidgets/localization/ResourceBundle.h"
 
-#include <memory>
-#include <mutex>
 #include <utility>
 
 #include "platform/foundation/BundleKinds.h"
@@ -18,29 +16,28 @@ class ResourceBundleClass {};
 /// The bundle of that class: the files that are compiled into the same library.
 Bundle::Ref bundleFor(ResourceBundleClass) { return Bundle::embedded(); }
 
-/// The library's own resources with the theme over them; null without a theme.
-Bundle::Ref& themed() {
-  static Bundle::Ref bundle;
-  return bundle;
+/// The identifier of the library's own resources with the theme over them.
+constexpr std::string_view themedIdentifier = "example.quorix.QuorixWidgets.themed";
+
+/// The bundle with that identifier; `own` if there was none so far.
+Bundle::Ref registered(std::string_view identifier, Bundle::Ref own) {
+  Bundle::registerBundleIfAbsent(identifier, std::move(own));
+  return Bundle::withIdentifier(identifier);
 }
 
 }  // namespace
 
 void setTheme(Bundle::Ref theme) {
   const auto own = bundleFor(ResourceBundleClass());
-  themed() = theme ? std::make_shared<foundation::LayeredBundle>(std::move(theme), own) : nullptr;
-  Bundle::registerBundle(kResourceBundleIdentifier, themed() ? themed() : own);
+  const auto themed = foundation::layered(std::move(theme), own);
+  Bundle::registerBundle(themedIdentifier, themed);
+  Bundle::registerBundle(kResourceBundleIdentifier, themed);
 }
 
-Bundle::Ref libraryBundle() {
-  static std::once_flag once;
-  std::call_once(
-      once, [] { Bundle::registerBundleIfAbsent(kResourceBundleIdentifier, Bundle::embedded()); });
-  return Bundle::withIdentifier(kResourceBundleIdentifier);
-}
+Bundle::Ref libraryBundle() { return registered(kResourceBundleIdentifier, Bundle::embedded()); }
 
 const Bundle::Ref& resourceBundle() {
-  static const Bundle::Ref bundle = themed() ? themed() : bundleFor(ResourceBundleClass());
+  static const Bundle::Ref bundle = registered(themedIdentifier, bundleFor(ResourceBundleClass()));
   return bundle;
 }
 

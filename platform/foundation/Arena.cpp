@@ -2,6 +2,8 @@
 
 #include <vector>
 
+#include "platform/foundation/Runtime.h"
+
 namespace quorix::foundation {
 namespace {
 
@@ -10,13 +12,23 @@ thread_local Arena* currentArena = nullptr;
 
 }  // namespace
 
+/// Holds an `Arena::Pool`, which is private.
+struct ArenaPool {
+  std::shared_ptr<void> pool;
+};
+
 /// Keeps the arenas without a lease, to be leased again.
 struct Arena::Pool {
   std::vector<Arena*> idle;
 
+  ~Pool() {
+    for (const Arena* arena : idle) delete arena;
+  }
+
   static Pool& shared() {
-    static auto& pool = *new Pool;  // never destroyed: static views may outlive it
-    return pool;
+    auto& pool = Runtime::the<ArenaPool>().pool;
+    if (!pool) pool = std::make_shared<Pool>();
+    return *static_cast<Pool*>(pool.get());
   }
 };
 

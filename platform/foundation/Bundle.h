@@ -38,7 +38,7 @@ class QUORIX_EXPORT Bundle {
   /// Registers `bundle` under `identifier`, in place of an earlier one. A null bundle takes the
   /// registration away.
   static void registerBundle(std::string_view identifier, Ref bundle);
-  /// Registers `bundle` unless another bundle has that identifier.
+  /// Registers `bundle` unless a bundle has that identifier, or had it until it was taken away.
   static void registerBundleIfAbsent(std::string_view identifier, Ref bundle);
   /// A null bundle empties the main bundle. To be called before the first view is made: views keep
   /// the texts that they have looked up.

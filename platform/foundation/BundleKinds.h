@@ -3,7 +3,6 @@
 #include <cstddef>
 #include <span>
 #include <string_view>
-#include <utility>
 
 #include "platform/foundation/Bundle.h"
 
@@ -19,21 +18,8 @@ struct EmbeddedFile {
 /// All files of the resource folder, in no particular order. The build writes the definition.
 std::span<const EmbeddedFile> embeddedFiles();
 
-/// Two bundles, one over the other: a file that both have is read from the upper one. Any thread.
-class LayeredBundle final : public Bundle {
- public:
-  /// Neither is null.
-  LayeredBundle(Ref upper, Ref lower) : upper_(std::move(upper)), lower_(std::move(lower)) {}
-
-  std::optional<std::string> pathForResource(std::string_view name,
-                                             std::string_view type) const override;
-  std::optional<Data> data(const std::string& path) const override;
-  Ref folder(const std::string& path) const override;
-  std::vector<std::string> folders(const std::string& path) const override;
-
- private:
-  Ref upper_;
-  Ref lower_;
-};
+/// `upper` over `lower`: a file that both have is read from `upper`. One of them if the other is
+/// null. Any thread.
+Bundle::Ref layered(Bundle::Ref upper, Bundle::Ref lower);
 
 }  // namespace quorix::foundation

@@ -11,6 +11,7 @@
 #include <string_view>
 
 #include "platform/foundation/Cache.h"
+#include "platform/foundation/Runtime.h"
 
 namespace quorix::foundation {
 
@@ -18,10 +19,12 @@ struct CurrencyFormatter::Engine {
   icu::number::LocalizedNumberFormatter formatter;
 };
 
-namespace {
+struct CurrencyFormatters : Cache<Locale, std::shared_ptr<const CurrencyFormatter::Engine>> {
+  // A process shows a handful of locales. The bound is for odd input.
+  CurrencyFormatters() : Cache(32) {}
+};
 
-/// A process shows a handful of locales. The bound is for odd input.
-constexpr std::size_t mostEngines = 32;
+namespace {
 
 /// The size of ICU's own buffers for a locale's name. A longer name is no known language.
 constexpr std::size_t longestLanguage = ULOC_FULLNAME_CAPACITY;
@@ -74,9 +77,8 @@ Locale shortened(const Locale& locale) {
 }  // namespace
 
 std::shared_ptr<const CurrencyFormatter::Engine> CurrencyFormatter::engine(const Locale& wanted) {
-  static Cache<Locale, std::shared_ptr<const Engine>> engines(mostEngines);
   const Locale locale = shortened(wanted);
-  return engines.get(locale, [&] {
+  return Runtime::the<CurrencyFormatters>().get(locale, [&] {
     auto made = std::make_shared<Engine>(Engine{makeFormatter(locale)});
     // ICU compiles a formatter on its third use, so that happens here: afterwards, threads that
     // share it only read.

@@ -27,6 +27,7 @@ class CurrencyFormatter {
   std::optional<std::string> text(std::int64_t wholeUnits) const;
 
  private:
+  friend struct CurrencyFormatters;
   struct Engine;
   static std::shared_ptr<const Engine> engine(const Locale& locale);
   std::shared_ptr<const Engine> engine_;

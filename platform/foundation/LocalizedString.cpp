@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "platform/foundation/Cache.h"
+#include "platform/foundation/Runtime.h"
 #include "platform/foundation/StringFormat.h"
 #include "platform/foundation/StringsFile.h"
 
@@ -15,13 +16,19 @@ std::shared_ptr<const StringTable> readTable(std::string_view bytes) {
   return table == nullptr ? nullptr : std::make_shared<const StringTable>(std::move(*table));
 }
 
+}  // namespace
+
+struct StringTables : ParsedFileCache<StringTable> {
+  StringTables() : ParsedFileCache(readTable) {}
+};
+
+namespace {
+
 /// The entry for `key` in the table at `path` of `bundle`.
 std::optional<std::string> entryIn(const Bundle& bundle, const std::string& path,
                                    std::string_view key) {
-  // Never destroyed: texts may be looked up while the process ends.
-  static auto& cache = *new ParsedFileCache<StringTable>(readTable);
   const auto file = bundle.data(path);
-  const auto entries = file ? cache.read(*file) : nullptr;
+  const auto entries = file ? Runtime::the<StringTables>().read(*file) : nullptr;
   if (!entries) return std::nullopt;
   const auto entry = entries->find(key);
   return entry == entries->end() ? std::nullopt : std::optional(entry->second);

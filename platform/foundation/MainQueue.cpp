@@ -4,25 +4,18 @@
 #include <mutex>
 #include <utility>
 
-namespace quorix::foundation {
-namespace {
+#include "platform/foundation/Runtime.h"
 
-struct Queue {
+namespace quorix::foundation {
+
+struct MainQueueState {
   std::mutex mutex;
   std::deque<MainQueue::Work> waiting;
   MainQueue::Executor executor;
 };
 
-// Never destroyed: other threads may still enqueue while the process ends.
-Queue& queue() {
-  static Queue& instance = *new Queue;
-  return instance;
-}
-
-}  // namespace
-
 void MainQueue::async(Work work) {
-  Queue& q = queue();
+  auto& q = Runtime::the<MainQueueState>();
   std::unique_lock lock(q.mutex);
   if (q.executor) {
     const Executor executor = q.executor;
@@ -34,7 +27,7 @@ void MainQueue::async(Work work) {
 }
 
 void MainQueue::install(Executor executor) {
-  Queue& q = queue();
+  auto& q = Runtime::the<MainQueueState>();
   const std::scoped_lock lock(q.mutex);
   q.executor = std::move(executor);
   if (!q.executor) return;
@@ -43,7 +36,7 @@ void MainQueue::install(Executor executor) {
 }
 
 int MainQueue::drain() {
-  Queue& q = queue();
+  auto& q = Runtime::the<MainQueueState>();
   for (int count = 0;; ++count) {
     std::unique_lock lock(q.mutex);
     if (q.waiting.empty()) return count;

@@ -8,6 +8,8 @@
 #include <thread>
 #include <utility>
 
+#include "platform/foundation/Runtime.h"
+
 namespace quorix::foundation {
 namespace {
 
@@ -76,11 +78,7 @@ struct URLSession::State {
 URLSession::URLSession() : state_(std::make_unique<State>()) {}
 URLSession::~URLSession() = default;
 
-// Never destroyed: requests on other threads may outlive the main function.
-URLSession& URLSession::shared() {
-  static URLSession& session = *new URLSession;
-  return session;
-}
+URLSession& URLSession::shared() { return Runtime::the<URLSession>(); }
 
 void URLSession::get(const URL& url, URLTransport::Completion completion) {
   std::shared_ptr<URLTransport> transport;

@@ -78,6 +78,7 @@ class QUORIX_EXPORT URLSession {
   std::optional<URLResponse> answerInProcess(const URL& url);
 
  private:
+  friend class Runtime;
   URLSession();
   ~URLSession();
   struct QUORIX_HIDDEN State;

@@ -5,8 +5,8 @@
 #include <mutex>
 
 #include "platform/foundation/Cache.h"
+#include "platform/foundation/Runtime.h"
 #include "platform/graphics/AssetContents.h"
-#include "platform/graphics/SvgSize.h"
 
 namespace quorix::graphics {
 namespace {
@@ -14,8 +14,9 @@ namespace {
 using foundation::Bundle;
 using foundation::Data;
 
-constexpr std::size_t mostCatalogs = 16;
 constexpr int deepestFolder = 8;  // a link on disk may lead back to an enclosing folder
+
+}  // namespace
 
 /// An asset's folder inside its bundle, and the text of its `Contents.json`.
 struct Contents {
@@ -111,11 +112,17 @@ struct BundleKey {
   }
 };
 
+struct AssetCatalogs : foundation::Cache<BundleKey, std::shared_ptr<Catalog>> {
+  AssetCatalogs() : Cache(16) {}
+};
+
+namespace {
+
 Bundle::Ref orMain(const Bundle::Ref& bundle) { return bundle ? bundle : Bundle::main(); }
 
 std::shared_ptr<Catalog> catalog(const Bundle::Ref& bundle) {
-  static foundation::Cache<BundleKey, std::shared_ptr<Catalog>> catalogs(mostCatalogs);
-  return catalogs.get({bundle}, [&] { return std::make_shared<Catalog>(*bundle); });
+  return foundation::Runtime::the<AssetCatalogs>().get(
+      {bundle}, [&] { return std::make_shared<Catalog>(*bundle); });
 }
 
 }  // namespace

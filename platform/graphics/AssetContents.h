@@ -34,4 +34,14 @@ enum class ColorSpace : std::uint8_t { sRGB, displayP3 };
 std::optional<RGBA> makeColor(ColorSpace space, std::string_view red, std::string_view green,
                               std::string_view blue, std::string_view alpha);
 
+/// A width and height in points, both above 0.
+struct SvgSize {
+  double width;
+  double height;
+};
+
+/// The natural size of an SVG file: its root's `width` and `height` (plain or "px"), or else the
+/// size of its `viewBox`. Absent without such a root element or a usable size.
+std::optional<SvgSize> readSvgSize(std::string_view svg);
+
 }  // namespace quorix::graphics

@@ -2,12 +2,11 @@
 
 #include <utility>
 
+#include "platform/foundation/Runtime.h"
+
 namespace quorix::graphics {
 
-FontManager& FontManager::shared() {
-  static FontManager manager;
-  return manager;
-}
+FontManager& FontManager::shared() { return foundation::Runtime::the<FontManager>(); }
 
 const GraphicsFont* FontManager::find(std::string_view name) const {
   for (const GraphicsFont& face : faces_) {

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "platform/foundation/Runtime.h"
+
 namespace quorix::hosting {
 namespace {
 
@@ -10,8 +12,7 @@ constexpr std::size_t kKept = 16;
 }  // namespace
 
 RecentEvaluations& RecentEvaluations::shared() {
-  static auto& instance = *new RecentEvaluations;  // never destroyed: some hosts are static too
-  return instance;
+  return foundation::Runtime::the<RecentEvaluations>();
 }
 
 void RecentEvaluations::fill(Slot& slot, std::unique_ptr<swiftui::Evaluation> evaluation) {

@@ -23,7 +23,7 @@ class PixelGrid {
   double floor(double length) const { return std::floor(length * scale_ + noise) / scale_; }
   Size ceil(Size size) const { return {ceil(size.width), ceil(size.height)}; }
 
-  /// Rounds edge by edge, so that neighbours that touch still touch.
+  /// Rounds edge by edge, so that neighbors that touch still touch.
   Rect round(const Rect& rect) const {
     const Point origin = {round(rect.left()), round(rect.top())};
     return {origin, {round(rect.right()) - origin.x, round(rect.bottom()) - origin.y}};

@@ -23,7 +23,7 @@ struct TextItem {
   text::AttributedText text;
 };
 
-/// An image of a bundle's asset catalogue, stretched to the frame. A template image is drawn in
+/// An image of a bundle's asset catalog, stretched to the frame. A template image is drawn in
 /// `tint`, any other in its own colors.
 struct ImageItem {
   layout::Rect frame;

@@ -14,8 +14,8 @@ struct Stretch {
 Stretch stretchToPaint(double length, Stretch seen, double scale) {
   const double most = mostPixels / scale;
   if (length <= most) return {0, length};
-  const double centred = seen.start + (seen.length - most) / 2;
-  const double start = std::clamp(centred, 0.0, length - most);
+  const double centered = seen.start + (seen.length - most) / 2;
+  const double start = std::clamp(centered, 0.0, length - most);
   return {std::floor(start * scale) / scale, most};
 }
 

@@ -9,7 +9,7 @@
 
 namespace quorix::swiftui {
 
-/// The colour set of a name, read once. Without a bundle of its own it follows the host's main
+/// The color set of a name, read once. Without a bundle of its own it follows the host's main
 /// bundle.
 struct Color::Asset {
   Asset(std::string_view colorName, foundation::Bundle::Ref from)

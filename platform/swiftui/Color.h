@@ -12,19 +12,19 @@
 
 namespace quorix::swiftui {
 
-/// A colour: fixed, or named in a bundle's asset catalogue with a value for each appearance.
+/// A color: fixed, or named in a bundle's asset catalog with a value for each appearance.
 /// A cheap value; any thread.
 class QUORIX_EXPORT Color {
  public:
-  /// The colour set `name` in `bundle` (null: the host's main bundle). Looked up when first drawn.
+  /// The color set `name` in `bundle` (null: the host's main bundle). Looked up when first drawn.
   Color(std::string_view name, foundation::Bundle::Ref bundle);
-  /// The colour set that `resource` names.
+  /// The color set that `resource` names.
   Color(const ColorResource& resource);
   static Color fixed(graphics::RGBA value) { return Color(value); }
   static const Color& black();
   static const Color& white();
 
-  /// The value to draw with; nothing when the bundle has no colour set of that name.
+  /// The value to draw with; nothing when the bundle has no color set of that name.
   std::optional<graphics::RGBA> resolve(graphics::Appearance appearance) const;
 
   /// How a printed view tree names it: the asset's name, or "#RRGGBBAA".
@@ -37,7 +37,7 @@ class QUORIX_EXPORT Color {
 
   explicit Color(graphics::RGBA value) : value_(value) {}
 
-  std::shared_ptr<const Asset> asset_;  // null for a fixed colour
+  std::shared_ptr<const Asset> asset_;  // null for a fixed color
   graphics::RGBA value_;
 };
 

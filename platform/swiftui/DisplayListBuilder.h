@@ -61,7 +61,7 @@ class DisplayListBuilder {
   /// Makes `element` do `action` as a button does. The innermost action is the one.
   static void act(render::AccessibilityElement& element, const foundation::Action& action);
 
-  /// An image of a bundle's asset catalogue; null without one.
+  /// An image of a bundle's asset catalog; null without one.
   struct NamedImage {
     const foundation::Bundle* bundle = nullptr;
     const std::string* name = nullptr;

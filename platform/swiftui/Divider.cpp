@@ -15,7 +15,7 @@ struct ShownDivider final : Element {
   Axis axis;  ///< of the stack that it stands in
 };
 
-/// The platform's hairline colour.
+/// The platform's hairline color.
 graphics::RGBA separatorColor(graphics::Appearance appearance) {
   return appearance == graphics::Appearance::dark ? graphics::RGBA{84, 84, 88, 153}
                                                   : graphics::RGBA{60, 60, 67, 74};

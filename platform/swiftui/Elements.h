@@ -39,7 +39,7 @@ View Spacer(std::optional<double> minLength = std::nullopt);
 /// A hairline across its stack.
 View Divider();
 
-/// An image of the bundle's asset catalogue at its natural size; an unknown name shows nothing.
+/// An image of the bundle's asset catalog at its natural size; an unknown name shows nothing.
 View Image(std::string_view name, foundation::Bundle::Ref bundle);
 
 /// Does `action` when it is tapped. To assistive technology it is one element, called what its

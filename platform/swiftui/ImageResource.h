@@ -6,7 +6,7 @@
 
 namespace quorix::swiftui {
 
-/// The name of an image set and the bundle whose catalogue has it (null: the host's main bundle).
+/// The name of an image set and the bundle whose catalog has it (null: the host's main bundle).
 struct ImageResource {
   std::string name;
   foundation::Bundle::Ref bundle;

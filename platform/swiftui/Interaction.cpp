@@ -49,7 +49,7 @@ class TapGesture final : public Decoration {
   Action action_;
 };
 
-/// The platform's colour of what can be tapped.
+/// The platform's color of what can be tapped.
 const Color& accentColor(graphics::Appearance appearance) {
   static const Color light = Color::fixed({0, 122, 255});
   static const Color dark = Color::fixed({10, 132, 255});
@@ -57,7 +57,7 @@ const Color& accentColor(graphics::Appearance appearance) {
 }
 
 /// An element that holds its label.
-class ButtonNode final : public Node, public Transparent {
+class ButtonNode final : public Node, public Transparent<ElementRules> {
  public:
   ButtonNode(Action action, View label) : label_(std::move(label)), action_(std::move(action)) {}
 

@@ -6,7 +6,6 @@
 #include "platform/swiftui/Descriptions.h"
 #include "platform/swiftui/DisplayListBuilder.h"
 #include "platform/swiftui/Evaluator.h"
-#include "platform/swiftui/LayoutPass.h"
 #include "platform/swiftui/Modifier.h"
 #include "platform/swiftui/TreePrinter.h"
 
@@ -15,7 +14,6 @@ namespace {
 
 using layout::EdgeInsets;
 using layout::ProposedSize;
-using layout::Size;
 
 /// Where `frame` reaches the safe area's edge on one of `edges`, it goes on beyond.
 layout::Rect beyondSafeArea(const LayoutPass& in, const layout::Rect& frame, layout::Edges edges) {
@@ -25,21 +23,7 @@ layout::Rect beyondSafeArea(const LayoutPass& in, const layout::Rect& frame, lay
            frame.size.height + more.top + more.bottom}};
 }
 
-/// A modifier that is as large as its content.
-class SizedAsContent : public LayoutModifier {
- public:
-  using LayoutModifier::LayoutModifier;
-
-  Size measure(LayoutPass& in, Element& self, ProposedSize proposal) const final {
-    return in.measure(self.child(), proposal);
-  }
-  void place(LayoutPass& in, Element& self, ProposedSize proposal) const override {
-    in.place(self.child(), self.frame.origin, proposal);
-  }
-  double leastWidth(LayoutPass& in, Element& self) const final {
-    return in.leastWidth(self.child());
-  }
-};
+using SizedAsContent = Transparent<LayoutModifier>;
 
 class EdgesIgnoringSafeArea final : public SizedAsContent {
  public:

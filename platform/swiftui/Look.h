@@ -24,7 +24,7 @@ struct Look {
   bool inRow = false;     ///< the nearest stack is horizontal
   bool inColumn = false;  ///< the nearest stack is vertical
 
-  /// The colour to draw with; a name that the bundle does not know draws nothing.
+  /// The color to draw with; a name that the bundle does not know draws nothing.
   graphics::RGBA drawnColor(const Environment& environment) const;
   /// `text` as it stands in this look.
   text::AttributedText attributed(const Text& text, const Environment& environment) const;

@@ -2,7 +2,6 @@
 
 #include "platform/swiftui/DisplayListBuilder.h"
 #include "platform/swiftui/Evaluator.h"
-#include "platform/swiftui/LayoutPass.h"
 #include "platform/swiftui/TreePrinter.h"
 
 namespace quorix::swiftui {
@@ -34,19 +33,6 @@ void Decoration::evaluate(Evaluator& in, const Look& look, layout::Axis axis,
     wrapper->isText = inner.isText;
     return wrapper;
   });
-}
-
-layout::Size Transparent::measure(LayoutPass& in, Element& self,
-                                  layout::ProposedSize proposal) const {
-  return in.measure(self.child(), proposal);
-}
-
-void Transparent::place(LayoutPass& in, Element& self, layout::ProposedSize proposal) const {
-  in.place(self.child(), self.frame.origin, proposal);
-}
-
-double Transparent::leastWidth(LayoutPass& in, Element& self) const {
-  return in.leastWidth(self.child());
 }
 
 }  // namespace quorix::swiftui

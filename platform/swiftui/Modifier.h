@@ -3,6 +3,7 @@
 #include <string>
 #include <utility>
 
+#include "platform/swiftui/LayoutPass.h"
 #include "platform/swiftui/Node.h"
 #include "platform/swiftui/View.h"
 
@@ -38,24 +39,35 @@ class LayoutModifier : public Modifier, public ElementRules {
   void show(DisplayListBuilder& to, const Element& self) const override;
 };
 
-/// The rules of an element that is laid out as its one child is.
-class Transparent : public ElementRules {
+/// The rules of an element that is laid out as its one child is, for a `Base` of `ElementRules` or
+/// a modifier.
+template <class Base>
+class Transparent : public Base {
  public:
-  layout::Size measure(LayoutPass& in, Element& self, layout::ProposedSize proposal) const final;
-  void place(LayoutPass& in, Element& self, layout::ProposedSize proposal) const final;
-  double leastWidth(LayoutPass& in, Element& self) const final;
+  using Base::Base;
+
+  layout::Size measure(LayoutPass& in, Element& self, layout::ProposedSize proposal) const final {
+    return in.measure(self.child(), proposal);
+  }
+  void place(LayoutPass& in, Element& self, layout::ProposedSize proposal) const override {
+    in.place(self.child(), self.frame.origin, proposal);
+  }
+  double leastWidth(LayoutPass& in, Element& self) const final {
+    return in.leastWidth(self.child());
+  }
 
  protected:
   ~Transparent() = default;
 };
 
 /// A modifier that leaves the layout of its content as it is and adds to how it is shown.
-class Decoration : public Modifier, public Transparent {
+class Decoration : public Transparent<LayoutModifier> {
  public:
-  using Modifier::Modifier;
+  using Transparent::Transparent;
 
   void evaluate(Evaluator& in, const Look& look, layout::Axis axis,
                 ElementList& out) const override;
+  void show(DisplayListBuilder& to, const Element& self) const override = 0;
 };
 
 }  // namespace quorix::swiftui

@@ -20,7 +20,6 @@ class PresentationDetent {
   auto operator<=>(const PresentationDetent&) const = default;
 
  private:
-  friend class PresentationDetents;
   explicit PresentationDetent(std::optional<double> points) : points_(points) {}
 
   std::optional<double> points_;

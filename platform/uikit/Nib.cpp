@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/foundation/Cache.h"
+#include "platform/foundation/Runtime.h"
 #include "platform/uikit/NibDocument.h"
 
 namespace quorix::uikit {
@@ -118,9 +119,17 @@ Nib::Views NibInstance::outermost() const {
 
 using Reading = foundation::Result<NibDocument>;
 
-std::shared_ptr<const Reading> read(std::string_view xml) {
+std::shared_ptr<const Reading> readFile(std::string_view xml) {
   return std::make_shared<const Reading>(readNib(xml));
 }
+
+}  // namespace
+
+struct InterfaceFiles : foundation::ParsedFileCache<Reading> {
+  InterfaceFiles() : ParsedFileCache(readFile) {}
+};
+
+namespace {
 
 /// The views of the file for `owner`, or the error of reading or of connecting.
 foundation::Result<Nib::Views> instantiate(const Reading& reading, std::string_view name,
@@ -145,9 +154,7 @@ foundation::Result<Nib::Views> Nib::load(std::string_view name, const foundation
   if (!file) {
     return foundation::Error{"Nib", 0, "No interface file named '" + std::string(name) + "'"};
   }
-  // Never destroyed: a view may be made while the process ends.
-  static auto& cache = *new foundation::ParsedFileCache<Reading>(read);
-  return instantiate(*cache.read(*file), name, owner, outlets);
+  return instantiate(*foundation::Runtime::the<InterfaceFiles>().read(*file), name, owner, outlets);
 }
 
 foundation::Result<Nib::Views> Nib::parse(std::string_view xml, std::string_view name,

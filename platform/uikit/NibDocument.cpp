@@ -203,7 +203,7 @@ void NibReader::readColor(pugi::xml_node color, View& view) {
     return static_cast<std::uint8_t>(std::lround(value * 255));
   };
   const std::string_view space = color.attribute("customColorSpace").value();
-  if (space != "sRGB") return elements_.refuse(color, "a colour is not in sRGB");
+  if (space != "sRGB") return elements_.refuse(color, "a color is not in sRGB");
   auto value =
       UIColor::fixed({channel("red"), channel("green"), channel("blue"), channel("alpha")});
   if (std::string_view(color.attribute("key").value()) == "backgroundColor") {
@@ -211,7 +211,7 @@ void NibReader::readColor(pugi::xml_node color, View& view) {
   } else if (view.label) {
     view.label->textColor = std::move(value);
   } else {
-    elements_.refuse(color, "only labels have a text colour");
+    elements_.refuse(color, "only labels have a text color");
   }
 }
 

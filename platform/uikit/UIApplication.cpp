@@ -4,14 +4,12 @@
 #include <utility>
 
 #include "platform/foundation/MainQueue.h"
+#include "platform/foundation/Runtime.h"
 #include "platform/uikit/URLOpener.h"
 
 namespace quorix::uikit {
 
-UIApplication& UIApplication::shared() {
-  static UIApplication& application = *new UIApplication;  // never destroyed: surfaces end last
-  return application;
-}
+UIApplication& UIApplication::shared() { return foundation::Runtime::the<UIApplication>(); }
 
 void UIApplication::connect(std::shared_ptr<UIScene> scene) {
   if (!scene || std::find(scenes_.begin(), scenes_.end(), scene) != scenes_.end()) return;

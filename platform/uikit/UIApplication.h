@@ -10,7 +10,13 @@
 #include "platform/foundation/URL.h"
 #include "platform/uikit/UIScene.h"
 
+namespace quorix::foundation {
+class Runtime;
+}  // namespace quorix::foundation
+
 namespace quorix::uikit {
+
+class URLOpener;
 
 /// The running app: its scenes, and how it opens addresses outside. Main thread.
 class QUORIX_EXPORT UIApplication {
@@ -30,11 +36,15 @@ class QUORIX_EXPORT UIApplication {
   void open(const foundation::URL& url, const OpenOptions& options,
             std::function<void(bool)> completion = {});
 
- protected:
+ private:
+  friend class foundation::Runtime;
+  friend class URLOpener;
+  friend class UIWindow;
   UIApplication() = default;
 
- private:
   std::vector<std::shared_ptr<UIScene>> scenes_;
+  UIWindow* keyWindow_ = nullptr;
+  std::shared_ptr<URLOpener> opener_;
 };
 
 }  // namespace quorix::uikit

@@ -19,7 +19,7 @@ struct UIEdgeInsets {
   bool operator==(const UIEdgeInsets&) const = default;
 };
 
-/// An image of an asset catalogue and how to show it: an immutable object, shared by reference.
+/// An image of an asset catalog and how to show it: an immutable object, shared by reference.
 /// Any thread.
 ///
 ///     auto image = UIImage::named("close", bundle)->withAlignmentRectInsets({-8, -8, -8, -8});

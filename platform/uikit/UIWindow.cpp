@@ -2,15 +2,9 @@
 
 #include <utility>
 
+#include "platform/uikit/UIApplication.h"
+
 namespace quorix::uikit {
-namespace {
-
-UIWindow*& keyWindow() {
-  static UIWindow* window = nullptr;
-  return window;
-}
-
-}  // namespace
 
 UIWindow::UIWindow() { setHidden(true); }
 
@@ -37,12 +31,12 @@ std::vector<std::shared_ptr<UIViewController>> UIWindow::presentedControllers() 
   return presented;
 }
 
-bool UIWindow::isKeyWindow() const { return keyWindow() == this; }
+bool UIWindow::isKeyWindow() const { return UIApplication::shared().keyWindow_ == this; }
 
-void UIWindow::makeKey() { keyWindow() = this; }
+void UIWindow::makeKey() { UIApplication::shared().keyWindow_ = this; }
 
 void UIWindow::resignKey() {
-  if (isKeyWindow()) keyWindow() = nullptr;
+  if (isKeyWindow()) UIApplication::shared().keyWindow_ = nullptr;
 }
 
 void UIWindow::makeKeyAndVisible() {

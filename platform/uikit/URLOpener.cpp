@@ -6,6 +6,8 @@
 #include <string_view>
 #include <utility>
 
+#include "platform/uikit/UIApplication.h"
+
 namespace quorix::uikit {
 namespace {
 
@@ -73,19 +75,14 @@ bool opensOutside(const foundation::URL& url) {
   return !isRefused(scheme);
 }
 
-std::shared_ptr<URLOpener>& installed() {
-  static std::shared_ptr<URLOpener> opener;
-  return opener;
-}
-
 }  // namespace
 
 std::shared_ptr<URLOpener> URLOpener::install(std::shared_ptr<URLOpener> opener) {
-  return std::exchange(installed(), std::move(opener));
+  return std::exchange(UIApplication::shared().opener_, std::move(opener));
 }
 
 bool URLOpener::openOutside(const foundation::URL& url) {
-  const auto opener = installed();  // kept: opening may replace it
+  const auto opener = UIApplication::shared().opener_;  // kept: opening may replace it
   if (!opener || !opensOutside(url)) return false;
   opener->open(url);
   return true;

@@ -20,7 +20,6 @@ class FreshProcessDeathTest : public ::testing::Test {
   EXPECT_EXIT(std::exit((condition) ? 0 : 1), ::testing::ExitedWithCode(0), "")
 
 inline void replaceLibraryBundle(foundation::Bundle::Ref bundle) {
-  libraryBundle();
   foundation::Bundle::registerBundle(kResourceBundleIdentifier, std::move(bundle));
 }
 

@@ -10,6 +10,7 @@
 #include "QuorixWidgets/localization/LocalizationRepository.h"
 #include "QuorixWidgets/score/ScoreWidgetBuilder.h"
 #include "platform/foundation/MainQueue.h"
+#include "platform/foundation/Runtime.h"
 #include "platform/foundation/URLSession.h"
 
 namespace quorix {
@@ -34,7 +35,6 @@ struct Server final : foundation::URLTransport {
   }
 };
 
-/// Each test has a language of its own, since answers are kept for the process.
 class Prefetch : public ::testing::Test {
  protected:
   Prefetch() { URLSession::shared().install(server); }
@@ -47,6 +47,7 @@ class Prefetch : public ::testing::Test {
     return std::string(repository->strings.get()->text("returns", "title"));
   }
 
+  const foundation::Runtime::Fresh<URLSession> session_;
   const std::shared_ptr<Server> server = std::make_shared<Server>();
 };
 

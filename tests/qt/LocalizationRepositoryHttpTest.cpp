@@ -9,7 +9,6 @@
 #include <vector>
 
 #include "QuorixWidgets/localization/LocalizationRepository.h"
-#include "QuorixWidgets/localization/ServiceAddresses.h"
 #include "platform/foundation/MainQueue.h"
 #include "platform/foundation/URLSession.h"
 #include "qt/QtMainQueue.h"
@@ -23,17 +22,24 @@ namespace {
 using foundation::URL;
 using qt::QtURLTransport;
 
-/// Tells when its request is over and done with, on whichever thread it ends.
+/// Asks the test's server, and tells when a request is over and done with, on whichever thread it
+/// ends.
 struct WatchedTransport final : foundation::URLTransport {
+  explicit WatchedTransport(std::string server) : server_(std::move(server)) {}
+
   void start(const URL& url, Completion completion) override {
-    network.start(url, [this, completion = std::move(completion)](auto response) {
-      completion(std::move(response));
-      done.release();
-    });
+    network_.start(URL::parse(server_ + url.path()).value(),
+                   [this, completion = std::move(completion)](auto response) {
+                     completion(std::move(response));
+                     done.release();
+                   });
   }
 
   std::binary_semaphore done{0};
-  QtURLTransport network;
+
+ private:
+  const std::string server_;
+  QtURLTransport network_;
 };
 
 TEST(ConcurrentLocalizationRepository, LargeTableNeedsTheMainThreadOnlyToTakeItsPlace) {
@@ -42,8 +48,7 @@ TEST(ConcurrentLocalizationRepository, LargeTableNeedsTheMainThreadOnlyToTakeIts
   LoopbackServer server;
   server.serve("/translations/score/overlay/en.json",
                {httpAnswer(200, R"({"labels":{"hint":")" + std::string(kSize, 'x') + R"("}})")});
-  const auto transport = std::make_shared<WatchedTransport>();
-  transport->network.redirectOrigin(modulesServiceBaseURL(), server.base());
+  const auto transport = std::make_shared<WatchedTransport>(server.base());
   foundation::URLSession::shared().install(transport);
   const auto repository = LocalizationRepository::make("en");
   const auto hint = [&] { return repository->strings.get()->text("labels", "hint"); };
