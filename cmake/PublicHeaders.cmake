@@ -46,6 +46,7 @@ quorix_public_headers(QuorixWidgets
   platform/swiftui/TreePrinter.h
   platform/hosting/ViewHost.h
   platform/hosting/SheetPresenter.h
+  platform/hosting/ViewWindow.h
   platform/render/ScenePrinter.h
   # The host's own texts and looks.
   QuorixWidgets/localization/ResourceBundle.h

@@ -11,6 +11,7 @@ struct Queue {
   std::mutex mutex;
   std::deque<MainQueue::Work> waiting;
   MainQueue::Executor executor;
+  MainQueue::Timer timer;
 };
 
 // Never destroyed: other threads may still enqueue while the process ends.
@@ -33,10 +34,16 @@ void MainQueue::async(Work work) {
   }
 }
 
-void MainQueue::install(Executor executor) {
+void MainQueue::after(std::chrono::milliseconds delay, Work work) {
+  const Timer timer = queue().timer;
+  if (timer) timer(delay, std::move(work));
+}
+
+void MainQueue::install(Executor executor, Timer timer) {
   Queue& q = queue();
   const std::scoped_lock lock(q.mutex);
   q.executor = std::move(executor);
+  q.timer = std::move(timer);
   if (!q.executor) return;
   for (Work& work : q.waiting) q.executor(std::move(work));
   q.waiting.clear();
