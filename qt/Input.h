@@ -19,7 +19,7 @@ inline QRectF toRect(const layout::Rect& rect) {
 }
 
 QUORIX_EXPORT hosting::KeyEvent toKeyEvent(const QKeyEvent& event);
-hosting::ViewFocus::Cause causeOf(Qt::FocusReason reason);
+QUORIX_EXPORT hosting::ViewFocus::Cause causeOf(Qt::FocusReason reason);
 
 /// Passes an event of the pointer on, and accepts it if `responder` takes it. False when it is an
 /// event of another kind. The action may delete the surface.

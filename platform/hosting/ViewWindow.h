@@ -41,8 +41,8 @@ class QUORIX_EXPORT ViewWindow : public WindowSession {
   std::vector<SheetSession*> sheets() const;
 
  private:
-  class View;
-  class Sheet;
+  class QUORIX_HIDDEN View;
+  class QUORIX_HIDDEN Sheet;
 
   /// Something changed: call `frame` and paint.
   virtual void needsFrame() {}
