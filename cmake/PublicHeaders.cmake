@@ -46,6 +46,7 @@ quorix_public_headers(QuorixWidgets
   platform/swiftui/TreePrinter.h
   platform/hosting/ViewHost.h
   platform/hosting/SheetPresenter.h
+  platform/hosting/ViewWindow.h
   platform/render/ScenePrinter.h
   # To draw it: the direction of a text, the files of an image, the address of a page.
   platform/text/TextAnalysis.h

@@ -1,11 +1,10 @@
 #pragma once
 
 #include <QRect>
-#include <optional>
 #include <vector>
 
 #include "platform/foundation/Export.h"
-#include "platform/render/Scene.h"
+#include "platform/hosting/Responder.h"
 
 class QObject;
 class QWindow;
@@ -17,15 +16,10 @@ class QUORIX_EXPORT AccessibleSurface {
  public:
   virtual ~AccessibleSurface() = default;
 
-  /// In reading order; holds until the surface is asked for anything else.
-  virtual const std::vector<render::AccessibilityElement>& accessibilityElements() = 0;
+  virtual hosting::Responder& responder() = 0;
   /// What tells of itself, after the elements: views of other makers.
   virtual std::vector<QObject*> accessibleViews() const { return {}; }
-  virtual void performAccessibilityAction(int index) = 0;
-  virtual std::optional<layout::Rect> focusedFrame() const = 0;
-  /// Leads the keyboard focus inside the surface to an element. False when that does not act.
-  virtual bool focusElement(int index) = 0;
-  /// Takes the keyboard focus, which then is where `focusElement` led it.
+  /// Takes the keyboard focus, which then is where the responder moved it.
   virtual void takeFocus() = 0;
 
   /// A frame of the scene on the screen, in points.

@@ -40,6 +40,11 @@ Desktop::Desktop(QObject* application) : QObject(application) {
 #endif
 }
 
+swiftui::Environment Desktop::environment(double scale) {
+  return {
+      .appearance = appearance(), .direction = direction(), .scale = scale, .language = language()};
+}
+
 graphics::Appearance Desktop::appearance() { return appearanceOf(QGuiApplication::palette()); }
 
 graphics::Appearance Desktop::appearanceOf(const QPalette& palette) {

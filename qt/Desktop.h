@@ -4,8 +4,7 @@
 #include <string>
 
 #include "platform/foundation/Export.h"
-#include "platform/graphics/RGBA.h"
-#include "platform/layout/Geometry.h"
+#include "platform/swiftui/Environment.h"
 
 class QPalette;
 
@@ -22,6 +21,8 @@ class QUORIX_EXPORT Desktop : public QObject {
   /// Null without an application object.
   static Desktop* instance();
 
+  /// What the desktop says, at `scale` device pixels for each point.
+  static swiftui::Environment environment(double scale);
   /// Dark when the palette's window is darker than its text: there is no other word about it that
   /// every supported version passes on.
   static graphics::Appearance appearance();

@@ -28,7 +28,7 @@ QAccessible::Role roleOf(render::Role role) {
 const render::AccessibilityElement* ElementAccessible::element() const {
   AccessibleSurface* surface = AccessibilityBridge::surfaceOf(owner_);
   if (!surface) return nullptr;
-  const auto& elements = surface->accessibilityElements();
+  const auto& elements = surface->responder().elements();
   const auto index = static_cast<std::size_t>(index_);
   return index < elements.size() ? &elements[index] : nullptr;
 }
@@ -75,12 +75,12 @@ QAccessible::State ElementAccessible::state() const {
   }
   const layout::Rect frame = found->frame;
   const bool acts = found->action != nullptr;
-  const AccessibleSurface& surface = *AccessibilityBridge::surfaceOf(owner_);
+  AccessibleSurface& surface = *AccessibilityBridge::surfaceOf(owner_);
   const bool reachable = surface.isShown() && !surface.isCovered();
   state.invisible = !reachable;
   state.readOnly = !acts;
   state.focusable = acts && reachable;
-  state.focused = acts && surface.focusedFrame() == frame;
+  state.focused = acts && surface.responder().focusFrame() == frame;
   return state;
 }
 
@@ -102,8 +102,8 @@ QStringList ElementAccessible::actionNames() const {
 void ElementAccessible::doAction(const QString& name) {
   AccessibleSurface* surface = AccessibilityBridge::surfaceOf(owner_);
   if (!surface || surface->isCovered()) return;
-  if (name == pressAction()) surface->performAccessibilityAction(index_);
-  if (name == setFocusAction() && surface->focusElement(index_)) surface->takeFocus();
+  if (name == pressAction()) surface->responder().activate(index_);
+  if (name == setFocusAction() && surface->responder().focusElement(index_)) surface->takeFocus();
 }
 
 }  // namespace quorix::qt

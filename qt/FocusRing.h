@@ -1,21 +1,21 @@
 #pragma once
 
 #include <QImage>
-#include <QRectF>
 
-#include "platform/foundation/Export.h"
-#include "platform/graphics/RGBA.h"
-#include "platform/layout/Geometry.h"
+#include "platform/hosting/FocusRing.h"
+#include "qt/Input.h"
 
 class QPainter;
 
 namespace quorix::qt {
 
-/// The ring around the element that has the keyboard focus, a little outside of it.
+/// Paints the focus ring.
 namespace FocusRing {
 
-/// What the ring covers, around an element at `element`; points.
-QUORIX_EXPORT QRectF frameAround(const layout::Rect& element);
+/// The ring's frame around an element; points.
+inline QRectF frameAround(const layout::Rect& element) {
+  return toRect(hosting::FocusRing::around(element));
+}
 
 /// Draws the ring within `frame`.
 QUORIX_EXPORT void paint(QPainter& painter, const QRectF& frame, graphics::Appearance appearance);

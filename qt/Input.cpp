@@ -1,26 +1,68 @@
 #include "qt/Input.h"
 
 #include <QKeyEvent>
+#include <QMouseEvent>
+#include <QTouchEvent>
 
 namespace quorix::qt {
+namespace {
 
-KeyMeaning meaningOf(const QKeyEvent& event) {
+using hosting::Key;
+using hosting::PointerEvent;
+using Phase = PointerEvent::Phase;
+
+Key keyOf(const QKeyEvent& event) {
+  const bool alt = event.modifiers() == Qt::AltModifier;
   switch (event.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
     case Qt::Key_Space:
     case Qt::Key_Select:
-      return KeyMeaning::activate;
+      return Key::activate;
     case Qt::Key_Tab:
-      return event.modifiers() & Qt::ShiftModifier ? KeyMeaning::backward : KeyMeaning::forward;
+      return event.modifiers() & Qt::ShiftModifier ? Key::previous : Key::next;
     case Qt::Key_Backtab:
-      return KeyMeaning::backward;
+      return Key::previous;
     case Qt::Key_Escape:
+      return Key::escape;
     case Qt::Key_Back:
-      return KeyMeaning::close;
+      return Key::back;
+    case Qt::Key_Left:
+      return alt ? Key::pageBack : Key::other;
+    case Qt::Key_Right:
+      return alt ? Key::pageForward : Key::other;
+    case Qt::Key_Forward:
+      return Key::pageForward;
     default:
-      return KeyMeaning::none;
+      return Key::other;
   }
+}
+
+void passMouse(QMouseEvent& event, Phase phase, hosting::Responder& responder) {
+  const bool left = phase == Phase::moved || event.button() == Qt::LeftButton;
+  event.setAccepted(left && responder.handle(PointerEvent{phase, toPoint(event.position()),
+                                                          static_cast<double>(event.timestamp())}));
+}
+
+void passTouch(QTouchEvent& event, hosting::Responder& responder) {
+  for (const QEventPoint& point : event.points()) {
+    const bool presses = point.state() == QEventPoint::Pressed;
+    const Phase phase = presses                                  ? Phase::pressed
+                        : point.state() == QEventPoint::Released ? Phase::released
+                                                                 : Phase::moved;
+    const bool taken = responder.handle(PointerEvent{
+        phase, toPoint(point.position()), static_cast<double>(event.timestamp()), point.id()});
+    if (phase == Phase::released && taken) return;  // it may be gone
+    if (!presses || taken) continue;
+    event.ignore();
+    return;
+  }
+}
+
+}  // namespace
+
+hosting::KeyEvent toKeyEvent(const QKeyEvent& event) {
+  return {keyOf(event), event.isAutoRepeat()};
 }
 
 hosting::ViewFocus::Cause causeOf(Qt::FocusReason reason) {
@@ -36,6 +78,31 @@ hosting::ViewFocus::Cause causeOf(Qt::FocusReason reason) {
       return Cause::interruption;
     default:
       return Cause::other;
+  }
+}
+
+bool passPointer(QEvent& event, hosting::Responder& responder) {
+  switch (event.type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+      passMouse(static_cast<QMouseEvent&>(event), Phase::pressed, responder);
+      return true;
+    case QEvent::MouseMove:
+      passMouse(static_cast<QMouseEvent&>(event), Phase::moved, responder);
+      return true;
+    case QEvent::MouseButtonRelease:
+      passMouse(static_cast<QMouseEvent&>(event), Phase::released, responder);
+      return true;
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+      passTouch(static_cast<QTouchEvent&>(event), responder);
+      return true;
+    case QEvent::TouchCancel:
+      responder.pointerLost();
+      return true;
+    default:
+      return false;
   }
 }
 

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QObject>
+#include <QTimer>
 #include <deque>
 #include <memory>
 #include <mutex>
@@ -53,6 +54,11 @@ void enqueue(Work work) {
   if (q.receiver) postTurn(q.receiver.get());
 }
 
+void startTimer(std::chrono::milliseconds delay, Work work) {
+  Queue& q = queue();
+  if (q.receiver) QTimer::singleShot(delay, q.receiver.get(), std::move(work));
+}
+
 void applicationEnds() {
   Queue& q = queue();
   std::unique_ptr<QObject> receiver;
@@ -73,7 +79,7 @@ void applicationBegins() {
 void QtMainQueue::install() {
   static const bool installed = [] {
     qAddPreRoutine(applicationBegins);  // at once when there is an application already
-    foundation::MainQueue::install(enqueue);
+    foundation::MainQueue::install(enqueue, startTimer);
     return true;
   }();
   static_cast<void>(installed);

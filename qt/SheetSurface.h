@@ -1,129 +1,65 @@
 #pragma once
 
+#include <QImage>
 #include <QPointF>
+#include <QString>
 #include <optional>
+#include <vector>
 
-#include "platform/foundation/Export.h"
-#include "platform/hosting/SheetPresenter.h"
-#include "platform/hosting/VelocityTracker.h"
-#include "qt/EmbeddedPages.h"
-#include "qt/EnvironmentSource.h"
-#include "qt/FingerTracker.h"
+#include "platform/hosting/SheetSession.h"
 #include "qt/FrameClock.h"
-#include "qt/PresentedSheet.h"
 
 class QEvent;
-class QKeyEvent;
-class QMouseEvent;
 class QObject;
 
 namespace quorix::qt {
 
-/// What a sheet over a window does in every toolkit: coming and going, settings, motion and input.
-/// A toolkit's sheet derives from this and gives it a place, paint and the focus; it deletes itself
-/// when it has closed. Pages in it open once its first frame has been shown, so that loading the
-/// web engine does not keep the sheet from coming; where there is no engine, their addresses are
-/// opened outside the app and the sheet stays away. A sheet that its content presents stands above
-/// it, in the same way. Main thread.
-class QUORIX_EXPORT SheetSurface : private hosting::SheetPresenter::Client,
-                                   private EmbeddedPage::Owner {
+/// A sheet over a window of either toolkit. Main thread.
+class QUORIX_EXPORT SheetSurface : public hosting::SheetSession {
  public:
-  SheetSurface(const SheetSurface&) = delete;
-  SheetSurface& operator=(const SheetSurface&) = delete;
+  /// A picture of what lies above a page, and where it stands in the panel.
+  struct Layer {
+    QImage picture;
+    QPointF origin;
+  };
 
-  QObject& object() const { return self_; }
-
-  void setSettings(const EnvironmentSource& settings);
-  void present(const swiftui::Presentation& presentation);
-  /// The owner took the sheet back.
-  void retract() { presenter_.retract(); }
-  /// The owner is gone: closes without motion.
-  void abandon();
-  /// Closes without motion, now.
-  void close();
-  bool isClosed() const { return closed_; }
+  using SheetSession::handle;
+  /// Takes an event of the pointer or the keyboard: false when it is another.
+  bool handle(QEvent& event);
 
  protected:
   /// `self` is the derived object, `webComponent` the name of its toolkit's.
-  SheetSurface(QObject& self, const QString& webComponent);
-  ~SheetSurface() override;
+  SheetSurface(QObject& self, hosting::WindowSession& window, QString webComponent);
 
-  hosting::SheetPresenter& presenter() { return presenter_; }
-  const hosting::SheetPresenter& presenter() const { return presenter_; }
-  bool isPresented() const { return presented_; }
+  /// Paints the panel anew if it or the scale changed; empty otherwise. The first layer is the
+  /// panel itself, each further one lies above a page.
+  std::vector<Layer> paintLayers();
+  bool isPainted() const { return paintedRevision_.has_value(); }
+  /// The pictures were lost.
+  void paintAgain();
+  /// Where the focus ring stands, with its picture if that is another one than before.
+  std::optional<Layer> ring();
 
-  /// Takes an event of the pointer or the keyboard: false when it is another. What happens here
-  /// stays here: nothing below the sheet hears of it.
-  bool handle(QEvent& event);
-  void pointerLost();
-  bool takesTapAt(QPointF point);
-  /// Assistive technology leads the focus to an element. False when that does not act.
-  bool focusElement(int index);
-  /// Moves the focus on, inside the sheet.
-  void walk(bool forward);
-
-  /// For each frame: sees to it that what moves goes on moving. May close the sheet.
-  void followMotion();
-  /// For each frame, once the panel stands: pages open, close and move with it.
-  void followPages();
-  /// A frame of the sheet is on the screen.
-  void wasShown();
+  /// The view of a page on show.
+  static QObject* viewOf(const hosting::PageEngine& page);
   /// The views of the pages on show, from the bottom up.
-  std::vector<QObject*> pageViews() const { return pages_.views(); }
-  void pageTookFocus();
-  /// The keyboard leads out of the pages.
-  void leftPages(bool forward);
-  /// The scale changed.
-  void followScale() { setSettings(settings_); }
+  std::vector<QObject*> pageViews() const;
 
  private:
-  /// Device pixels for each point.
-  virtual double scale() const = 0;
-  /// Something moved or changed: a frame is wanted.
-  virtual void needsFrame() = 0;
-  /// Comes up and takes the focus.
-  virtual void takeFocusOver() = 0;
-  virtual void giveFocusBack() = 0;
-  virtual void vanish() = 0;
-  /// A new sheet above this one; null without a window.
-  virtual SheetSurface* makeSheetAbove() = 0;
-
-  /// Page `view` stands at `frame` in the window; `index` counts from the lowest.
-  virtual void placePage(QObject& view, const layout::Rect& frame, int index) = 0;
-  virtual void focusPage(QObject& view, bool forward) = 0;
-  /// Takes the focus from a page, if one has it.
-  virtual void takeFocusFromPages() = 0;
-
-  void sheetNeedsDisplay() override { needsFrame(); }
-  void sheetPresentationChanged() override { above_.follow(); }
-  void sheetDidClose() override { close(); }
-  void pageHangs() override { presenter_.dismiss(); }
-  void pageEnded() override;
-  void leave();
-  void giveUpPages();
-  bool enterPages(bool forward);
-
-  bool handleMouse(const QMouseEvent& event);
-  bool handleKey(QKeyEvent& event);
-  void handleTouch(const QTouchEvent& event);
-  // `at` is the event's time in milliseconds.
-  void pressed(QPointF point, quint64 at);
-  void moved(QPointF point, quint64 at);
-  void released(QPointF point, quint64 at);
+  void startClock() override { clock_.start(); }
+  void stopClock() override { clock_.stop(); }
+  void focusMoved(bool later) override;
+  void coverChanged() override;
+  bool canShowPages() const override;
+  std::unique_ptr<hosting::PageEngine> openPage(const render::EmbedItem& embed,
+                                                hosting::PageEngine::Client& client) override;
 
   QObject& self_;
-  hosting::SheetPresenter presenter_;
-  EnvironmentSource settings_;
-  FingerTracker finger_;
-  hosting::VelocityTracker velocity_;
+  QString webComponent_;
   FrameClock clock_;
-  EmbeddedPages pages_;
-  PresentedSheet above_;
-  std::optional<unsigned> pagesRevision_;
-  bool shown_ = false;
-  bool presented_ = false;
-  bool gaveUpPages_ = false;  ///< of what is presented
-  bool closed_ = false;
+  std::optional<unsigned> paintedRevision_;
+  double paintedScale_ = 0;
+  std::optional<layout::Size> ringSize_;  ///< of the latest picture
 };
 
 }  // namespace quorix::qt

@@ -17,7 +17,7 @@ ViewAccessible* listening(QObject& owner) {
 }  // namespace
 
 ViewAccessible::ViewAccessible(QObject* owner) : QAccessibleObject(owner), sole_(owner, 0) {
-  for (const auto& element : surface()->accessibilityElements()) {
+  for (const auto& element : surface()->responder().elements()) {
     told_.push_back({element.label, element.hint});
   }
   covered_ = surface()->isCovered();
@@ -33,13 +33,13 @@ AccessibleSurface* ViewAccessible::surface() const {
 
 bool ViewAccessible::isSoleElement() const {
   AccessibleSurface* shown = surface();
-  return shown && !shown->isDialog() && shown->accessibilityElements().size() == 1;
+  return shown && !shown->isDialog() && shown->responder().elements().size() == 1;
 }
 
 void ViewAccessible::syncChildren() const {
   AccessibleSurface* shown = surface();
   const std::size_t count =
-      shown && !isSoleElement() ? shown->accessibilityElements().size() : std::size_t{0};
+      shown && !isSoleElement() ? shown->responder().elements().size() : std::size_t{0};
   while (children_.size() > count) {
     QAccessible::deleteAccessibleInterface(children_.back());
     children_.pop_back();
@@ -81,7 +81,7 @@ void ViewAccessible::coverChanged(QObject& owner) {
 
 void ViewAccessible::update() {
   std::vector<Told> now;
-  for (const auto& element : surface()->accessibilityElements()) {
+  for (const auto& element : surface()->responder().elements()) {
     now.push_back({element.label, element.hint});
   }
   const std::vector<Told> before = std::exchange(told_, std::move(now));
@@ -125,7 +125,7 @@ QString ViewAccessible::text(QAccessible::Text kind) const {
   AccessibleSurface* shown = surface();
   if (!shown || !shown->isDialog() || kind != QAccessible::Name) return {};
   // A dialog bears the name of the first text in it, or else of its page.
-  for (const auto& element : shown->accessibilityElements()) {
+  for (const auto& element : shown->responder().elements()) {
     if (!element.action) return QString::fromStdString(element.label);
   }
   const auto pages = views();

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/foundation/Export.h"
-#include "qt/EnvironmentSource.h"
+#include "platform/hosting/Settings.h"
 
 namespace quorix::qt {
 
@@ -31,12 +31,12 @@ class QUORIX_EXPORT ViewSettings {
  protected:
   ViewSettings() = default;
   ~ViewSettings() = default;
-  const EnvironmentSource& settings() const { return settings_; }
+  const hosting::HostSettings& settings() const { return settings_; }
 
  private:
   virtual void settingsChanged() = 0;
 
-  EnvironmentSource settings_;
+  hosting::HostSettings settings_;
 };
 
 }  // namespace quorix::qt

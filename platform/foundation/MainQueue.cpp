@@ -12,6 +12,7 @@ struct MainQueueState {
   std::mutex mutex;
   std::deque<MainQueue::Work> waiting;
   MainQueue::Executor executor;
+  MainQueue::Timer timer;
 };
 
 void MainQueue::async(Work work) {
@@ -26,10 +27,19 @@ void MainQueue::async(Work work) {
   }
 }
 
-void MainQueue::install(Executor executor) {
+void MainQueue::after(std::chrono::milliseconds delay, Work work) {
+  auto& q = Runtime::the<MainQueueState>();
+  std::unique_lock lock(q.mutex);
+  const Timer timer = q.timer;
+  lock.unlock();
+  if (timer) timer(delay, std::move(work));
+}
+
+void MainQueue::install(Executor executor, Timer timer) {
   auto& q = Runtime::the<MainQueueState>();
   const std::scoped_lock lock(q.mutex);
   q.executor = std::move(executor);
+  q.timer = std::move(timer);
   if (!q.executor) return;
   for (Work& work : q.waiting) q.executor(std::move(work));
   q.waiting.clear();

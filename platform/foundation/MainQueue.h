@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 
 #include "platform/foundation/Export.h"
@@ -14,13 +15,16 @@ class QUORIX_EXPORT MainQueue {
  public:
   using Work = std::function<void()>;
   using Executor = std::function<void(Work)>;
+  using Timer = std::function<void(std::chrono::milliseconds, Work)>;
 
   /// Enqueues `work`. Any thread.
   static void async(Work work);
+  /// Runs `work` after `delay`. Without a timer the work is dropped. Main thread.
+  static void after(std::chrono::milliseconds delay, Work work);
 
   /// Sends all later work to `executor`, after the work that waits. With an empty executor, work
   /// waits for `drain` again. Main thread.
-  static void install(Executor executor);
+  static void install(Executor executor, Timer timer = {});
 
   /// Runs the waiting work and the work that this enqueues. Returns the number of pieces.
   /// Main thread; for programs with no installed executor.

@@ -225,13 +225,16 @@ bool ViewHost::pointerPressed(layout::Point point) {
 }
 
 bool ViewHost::pointerReleased(layout::Point point) {
+  const foundation::Action action = endPress(point);
+  if (action) action();
+  return bool(action);
+}
+
+foundation::Action ViewHost::endPress(layout::Point point) {
   const auto pressed = std::exchange(state_->pressed, std::nullopt);
   const render::Scene* scene = pressed ? state_->current() : nullptr;
-  if (!scene) return false;
-  const render::HitArea* area = scene->hitTest(*pressed);
-  if (!area || scene->hitTest(point) != area) return false;
-  area->action();
-  return true;
+  const render::HitArea* area = scene ? scene->hitTest(*pressed) : nullptr;
+  return area && scene->hitTest(point) == area ? area->action : nullptr;
 }
 
 void ViewHost::pointerCancelled() { state_->pressed.reset(); }

@@ -3,6 +3,7 @@
 #include <memory>
 #include <optional>
 
+#include "platform/foundation/Action.h"
 #include "platform/foundation/Export.h"
 #include "platform/layout/Geometry.h"
 #include "platform/render/Scene.h"
@@ -72,6 +73,8 @@ class QUORIX_EXPORT ViewHost {
   /// took the press.
   bool pointerPressed(layout::Point point);
   bool pointerReleased(layout::Point point);
+  /// The same, but leaves the action to the caller. Absent when it is no tap.
+  foundation::Action endPress(layout::Point point);
   void pointerCancelled();
 
   /// Moves the keyboard focus among the elements that act. False after the last one: the focus

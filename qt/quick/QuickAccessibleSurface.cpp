@@ -31,6 +31,11 @@ QQmlAttachedPropertiesFunc attachAccessible() {
 
 }  // namespace
 
+const QQuickItem* QuickAccessibleSurface::itemOf(const hosting::Responder* responder) {
+  const auto* surface = dynamic_cast<const QuickAccessibleSurface*>(responder);
+  return surface ? &surface->item_ : nullptr;
+}
+
 void QuickAccessibleSurface::offer() {
   if (!AccessibilityBridge::isActive()) return;
   if (const QQmlAttachedPropertiesFunc attach = attachAccessible()) {

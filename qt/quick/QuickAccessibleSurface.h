@@ -10,6 +10,8 @@ namespace quorix::qt {
 class QuickAccessibleSurface : public AccessibleSurface {
  public:
   explicit QuickAccessibleSurface(QQuickItem& item) : item_(item) {}
+  /// The item that shows `responder`; null for null.
+  static const QQuickItem* itemOf(const hosting::Responder* responder);
 
   /// Has Qt Quick offer the item to assistive technology. Does nothing while none listens.
   void offer();

@@ -2,6 +2,7 @@
 
 #include <QCursor>
 
+#include "qt/Input.h"
 #include "qt/quick/SheetItem.h"
 
 namespace quorix::qt {
@@ -13,7 +14,7 @@ SheetFront::SheetFront(SheetItem& sheet) : QQuickItem(&sheet), sheet_(sheet) {
   setCursor(Qt::PointingHandCursor);
 }
 
-bool SheetFront::contains(const QPointF& point) const { return sheet_.takesTapAt(point); }
+bool SheetFront::contains(const QPointF& point) const { return sheet_.takesTapAt(toPoint(point)); }
 
 bool SheetFront::event(QEvent* event) { return sheet_.handle(*event) || QQuickItem::event(event); }
 

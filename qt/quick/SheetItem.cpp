@@ -5,10 +5,9 @@
 #include <algorithm>
 
 #include "qt/AccessibilityBridge.h"
-#include "qt/FocusRing.h"
-#include "qt/Picture.h"
+#include "qt/Input.h"
 #include "qt/QtColor.h"
-#include "qt/ViewAccessible.h"
+#include "qt/WindowScene.h"
 #include "qt/quick/PictureNode.h"
 #include "qt/quick/SheetNode.h"
 
@@ -29,15 +28,12 @@ double stackingOver(const QQuickWindow& window, const QQuickItem* opener) {
   return z;
 }
 
-QRectF toRect(const layout::Rect& rect) {
-  return {rect.left(), rect.top(), rect.size.width, rect.size.height};
-}
-
 }  // namespace
 
-SheetItem::SheetItem(QQuickWindow& window, const QQuickItem* opener)
+SheetItem::SheetItem(QQuickWindow& window, hosting::WindowSession& session,
+                     const QQuickItem* opener)
     : QQuickItem(window.contentItem()),
-      SheetSurface(static_cast<QObject&>(*this), QStringLiteral("QuorixWebQuick")),
+      SheetSurface(static_cast<QObject&>(*this), session, QStringLiteral("QuorixWebQuick")),
       QuickAccessibleSurface(static_cast<QQuickItem&>(*this)),
       layers_(*this) {
   setFlag(ItemHasContents);
@@ -60,7 +56,7 @@ SheetItem::SheetItem(QQuickWindow& window, const QQuickItem* opener)
   connect(
       &window, &QQuickWindow::frameSwapped, this,
       [this] {
-        if (paintedRevision_) wasShown();
+        if (isPainted()) wasShown();
       },
       Qt::QueuedConnection);
 }
@@ -68,44 +64,42 @@ SheetItem::SheetItem(QQuickWindow& window, const QQuickItem* opener)
 SheetItem::~SheetItem() { AccessibilityBridge::remove(*this); }
 
 const SheetItem* SheetItem::topmost(const QQuickWindow& window) {
-  const SheetItem* found = nullptr;
-  for (QQuickItem* child : window.contentItem()->childItems()) {
-    const auto* sheet = qobject_cast<SheetItem*>(child);
-    if (sheet && !sheet->isClosed()) found = sheet;
-  }
-  return found;
+  const WindowScene* scene = WindowScene::find(window);
+  return scene ? static_cast<const SheetItem*>(scene->topmost()) : nullptr;
 }
 
 double SheetItem::scale() const { return window() ? window()->effectiveDevicePixelRatio() : 1; }
 
-void SheetItem::takeFocusOver() {
-  focusBefore_ = window()->activeFocusItem();
+void SheetItem::comeUp() {
   if (z() > kStacking) window()->installEventFilter(this);
-  forceActiveFocus(Qt::PopupFocusReason);
   offer();
 }
 
-SheetSurface* SheetItem::makeSheetAbove() {
-  return window() ? new SheetItem(*window(), this) : nullptr;
+SheetItem::FocusReturn SheetItem::focusReturn() {
+  return [this, before = QPointer(window()->activeFocusItem())] {
+    const bool there =
+        before && before->window() == window() && before->isVisible() && before->isEnabled();
+    if (there) before->forceActiveFocus(Qt::PopupFocusReason);
+    return there;
+  };
 }
 
-void SheetItem::giveFocusBack() {
-  if (!hasActiveFocus() || !window()) return;
+void SheetItem::takeFocus() { forceActiveFocus(Qt::PopupFocusReason); }
+
+bool SheetItem::holdsFocus() const {
   // A window on its way out takes its items off itself from the top down: it has no focus to give.
-  if (!parentItem() || !parentItem()->window()) return;
-  const bool there = focusBefore_ && focusBefore_->window() == window() &&
-                     focusBefore_->isVisible() && focusBefore_->isEnabled();
-  if (there) {
-    focusBefore_->forceActiveFocus(Qt::PopupFocusReason);
-  } else {
-    setFocus(false, Qt::PopupFocusReason);
-  }
+  const bool inWindow = window() && parentItem() && parentItem()->window();
+  return inWindow && hasActiveFocus();
 }
 
-/// The host may have led it to what lies below. What lies above, such as a pop-up, keeps it.
+/// What lies above, such as a pop-up, keeps the focus.
 void SheetItem::holdFocus() {
-  if (isClosed() || !isPresented() || !window() || topmost(*window()) != this) return;
-  if (liesOver(window()->activeFocusItem())) forceActiveFocus(Qt::PopupFocusReason);
+  if (window() && liesOver(window()->activeFocusItem())) focusWentBelow();
+}
+
+void SheetItem::vanish() {
+  setVisible(false);
+  deleteLater();  // an event of it may be under way
 }
 
 bool SheetItem::liesOver(const QQuickItem* item) const {
@@ -126,42 +120,24 @@ void SheetItem::geometryChange(const QRectF& now, const QRectF& before) {
 // Frame.
 
 void SheetItem::updatePolish() {
-  if (isClosed() || !isPresented()) return;
+  if (!isOpen()) return;
   updatePictures();
-  followMotion();
-  if (isClosed()) return;
+  if (!followMotion()) return;
   panel_ = toRect(presenter().panelFrame());
   shade_ = toQColor(presenter().shade());
   panelColor_ = toQColor(presenter().panelColor());
   layers_.moveTo(panel_.topLeft());
   followPages();
-  updateRing();
+  layers_.showRing(ring());
   update();
 }
 
 void SheetItem::updatePictures() {
-  const unsigned revision = presenter().panelRevision();
-  const render::Scene& panel = presenter().panel();
-  pictureHeight_ = panel.size.height;
-  if (revision == paintedRevision_ && paintedScale_ == scale()) return;
-  const auto layers = hosting::layersOf(panel, scale());
-  panelPicture_ = paintPicture(layers.front().scene, scale(), {0, 0, 0, 0});
-  layers_.setPictures(layers, scale());
-  paintedRevision_ = revision;
-  paintedScale_ = scale();
-  ringSize_.reset();
-  ViewAccessible::sceneChanged(*this);
-}
-
-void SheetItem::updateRing() {
-  const auto frame = hasActiveFocus() ? presenter().ringFrame() : std::nullopt;
-  if (!frame) return layers_.hideRing();
-  QImage picture;
-  if (ringSize_ != frame->size) {
-    picture = FocusRing::picture(*frame, presenter().panel().appearance, scale());
-    ringSize_ = frame->size;
-  }
-  layers_.showRing(FocusRing::frameAround(*frame).topLeft(), picture);
+  pictureHeight_ = presenter().panel().size.height;
+  auto layers = paintLayers();
+  if (layers.empty()) return;
+  panelPicture_ = std::exchange(layers.front().picture, {});
+  layers_.setPictures(layers);
 }
 
 QSGNode* SheetItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
@@ -172,7 +148,7 @@ QSGNode* SheetItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
   } else if (!node->panel().hasPicture()) {
     // The scene graph was made anew while the window was hidden.
     QMetaObject::invokeMethod(
-        this, [this] { paintedRevision_.reset(), polish(); }, Qt::QueuedConnection);
+        this, [this] { paintAgain(); }, Qt::QueuedConnection);
   }
   node->setShade(boundingRect(), shade_);
   node->panel().setOrigin(panel_.topLeft());
@@ -184,8 +160,8 @@ QSGNode* SheetItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
 
 // Pages.
 
-void SheetItem::placePage(QObject& view, const layout::Rect& frame, int index) {
-  auto* page = qobject_cast<QQuickItem*>(&view);
+void SheetItem::placePage(hosting::PageEngine& engine, const layout::Rect& frame, int index) {
+  auto* page = qobject_cast<QQuickItem*>(viewOf(engine));
   if (!page) return;
   connect(page, &QQuickItem::activeFocusChanged, this, &SheetItem::pageFocusChanged,
           Qt::UniqueConnection);
@@ -196,8 +172,8 @@ void SheetItem::pageFocusChanged(bool focused) {
   if (focused) pageTookFocus();
 }
 
-void SheetItem::focusPage(QObject& view, bool forward) {
-  if (auto* page = qobject_cast<QQuickItem*>(&view)) {
+void SheetItem::focusPage(hosting::PageEngine& engine, bool forward) {
+  if (auto* page = qobject_cast<QQuickItem*>(viewOf(engine))) {
     page->forceActiveFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
   }
 }
@@ -209,7 +185,8 @@ void SheetItem::takeFocusFromPages() {
 // Input.
 
 void SheetItem::hoverMoveEvent(QHoverEvent* event) {
-  const auto shape = takesTapAt(event->position()) ? Qt::PointingHandCursor : Qt::ArrowCursor;
+  const auto shape =
+      takesTapAt(toPoint(event->position())) ? Qt::PointingHandCursor : Qt::ArrowCursor;
   if (cursor().shape() != shape) setCursor(shape);
 }
 
@@ -217,21 +194,10 @@ void SheetItem::hoverMoveEvent(QHoverEvent* event) {
 /// this sheet above it: the window gets the wheel first.
 bool SheetItem::eventFilter(QObject* watched, QEvent* event) {
   const bool wheel = watched == window() && event->type() == QEvent::Wheel;
-  if (!wheel || isClosed() || topmost(*window()) != this) return false;
+  if (!wheel || !isTopmost()) return false;
   watched->event(event);
   return true;
 }
 
 bool SheetItem::event(QEvent* event) { return handle(*event) || QQuickItem::event(event); }
-
-// Accessibility.
-
-const std::vector<render::AccessibilityElement>& SheetItem::accessibilityElements() {
-  return presenter().scene().accessibility;
-}
-
-std::optional<layout::Rect> SheetItem::focusedFrame() const {
-  return hasActiveFocus() ? presenter().focusFrame() : std::nullopt;
-}
-
 }  // namespace quorix::qt

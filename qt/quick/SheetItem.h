@@ -14,12 +14,12 @@ namespace quorix::qt {
 
 /// A sheet over a Qt Quick window: as large as the window, above what opened it with all that this
 /// stands in. Belongs to the window's content, and deletes itself when it has closed. Main thread.
-class SheetItem : public QQuickItem, public SheetSurface, private QuickAccessibleSurface {
+class SheetItem : public QQuickItem, public SheetSurface, public QuickAccessibleSurface {
   Q_OBJECT
 
  public:
   /// `opener` may be null.
-  SheetItem(QQuickWindow& window, const QQuickItem* opener);
+  SheetItem(QQuickWindow& window, hosting::WindowSession& session, const QQuickItem* opener);
   ~SheetItem() override;
 
   /// The sheet of `window` that takes the input, or null.
@@ -45,29 +45,26 @@ class SheetItem : public QQuickItem, public SheetSurface, private QuickAccessibl
 
   double scale() const override;
   void needsFrame() override { polish(); }
-  void takeFocusOver() override;
-  void giveFocusBack() override;
+  void comeUp() override;
+  FocusReturn focusReturn() override;
+  void takeFocus() override;
+  bool hasFocus() const override { return hasActiveFocus(); }
+  bool holdsFocus() const override;
+  void dropFocus() override { setFocus(false, Qt::PopupFocusReason); }
+  void vanish() override;
   void holdFocus();
-  void vanish() override { setVisible(false); }
-  SheetSurface* makeSheetAbove() override;
 
-  void placePage(QObject& view, const layout::Rect& frame, int index) override;
-  void focusPage(QObject& view, bool forward) override;
+  void placePage(hosting::PageEngine& engine, const layout::Rect& frame, int index) override;
+  void focusPage(hosting::PageEngine& engine, bool forward) override;
   void takeFocusFromPages() override;
   void pageFocusChanged(bool focused);
 
-  const std::vector<render::AccessibilityElement>& accessibilityElements() override;
+  hosting::Responder& responder() override { return *this; }
   std::vector<QObject*> accessibleViews() const override { return pageViews(); }
-  void performAccessibilityAction(int index) override { presenter().activate(index); }
-  bool focusElement(int index) override { return SheetSurface::focusElement(index); }
-  std::optional<layout::Rect> focusedFrame() const override;
   bool isShown() const override { return !isClosed() && QuickAccessibleSurface::isShown(); }
   bool isDialog() const override { return true; }
 
   void updatePictures();
-  void updateRing();
-
-  QPointer<QQuickItem> focusBefore_;
 
   // What the scene graph shows next; pictures are here only on their way to it.
   QRectF panel_;
@@ -77,9 +74,6 @@ class SheetItem : public QQuickItem, public SheetSurface, private QuickAccessibl
   QColor panelColor_;
 
   SheetLayers layers_;  ///< above what the item paints itself
-  std::optional<layout::Size> ringSize_;
-  std::optional<unsigned> paintedRevision_;
-  double paintedScale_ = 0;
 };
 
 }  // namespace quorix::qt

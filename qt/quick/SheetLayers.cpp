@@ -1,6 +1,5 @@
 #include "qt/quick/SheetLayers.h"
 
-#include "qt/Picture.h"
 #include "qt/quick/SheetItem.h"
 
 namespace quorix::qt {
@@ -11,7 +10,7 @@ constexpr double kRing = 1001;
 
 }  // namespace
 
-void SheetLayers::setPictures(const std::vector<hosting::SceneLayer>& layers, double scale) {
+void SheetLayers::setPictures(const std::vector<SheetSurface::Layer>& layers) {
   while (layers_.size() + 1 > layers.size()) {
     delete layers_.back().item;
     layers_.pop_back();
@@ -20,8 +19,8 @@ void SheetLayers::setPictures(const std::vector<hosting::SceneLayer>& layers, do
     if (layers_.size() < i) layers_.push_back({new PictureItem(sheet_), {}});
     Layer& layer = layers_[i - 1];
     layer.item->setZ(double(2 * i));
-    layer.origin = {layers[i].origin.x, layers[i].origin.y};
-    layer.item->setPicture(paintPicture(layers[i].scene, scale, {0, 0, 0, 0}));
+    layer.origin = layers[i].origin;
+    layer.item->setPicture(layers[i].picture);
   }
   moveTo(panel_);
 }
@@ -35,8 +34,8 @@ void SheetLayers::makeStops() {
   if (front_) return;
   front_ = new SheetFront(sheet_);
   front_->setZ(kFront);
-  before_ = new FocusStop(sheet_, [this] { sheet_.leftPages(false); });
-  after_ = new FocusStop(sheet_, [this] { sheet_.leftPages(true); });
+  before_ = new FocusStop(sheet_, [this] { sheet_.leavePages(false); });
+  after_ = new FocusStop(sheet_, [this] { sheet_.leavePages(true); });
 }
 
 void SheetLayers::place(QQuickItem& page, const QRectF& frame, int index) {
@@ -50,18 +49,15 @@ void SheetLayers::place(QQuickItem& page, const QRectF& frame, int index) {
   page.setSize(frame.size());
 }
 
-void SheetLayers::showRing(QPointF origin, const QImage& picture) {
-  if (!ring_) {
+void SheetLayers::showRing(const std::optional<SheetSurface::Layer>& ring) {
+  if (!ring_ && ring) {
     ring_ = new PictureItem(sheet_);
     ring_->setZ(kRing);
   }
-  if (!picture.isNull()) ring_->setPicture(picture);
-  ring_->setPosition(origin);
-  ring_->setVisible(true);
-}
-
-void SheetLayers::hideRing() {
-  if (ring_) ring_->setVisible(false);
+  if (ring_) ring_->setVisible(ring.has_value());
+  if (!ring) return;
+  if (!ring->picture.isNull()) ring_->setPicture(ring->picture);
+  ring_->setPosition(ring->origin);
 }
 
 }  // namespace quorix::qt

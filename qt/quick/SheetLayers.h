@@ -4,7 +4,7 @@
 #include <memory>
 #include <vector>
 
-#include "platform/hosting/SceneLayers.h"
+#include "qt/SheetSurface.h"
 #include "qt/quick/FocusStop.h"
 #include "qt/quick/PictureItem.h"
 #include "qt/quick/SheetFront.h"
@@ -19,14 +19,13 @@ class SheetLayers {
   explicit SheetLayers(SheetItem& sheet) : sheet_(sheet) {}
 
   /// The layers but the first, which the sheet paints itself.
-  void setPictures(const std::vector<hosting::SceneLayer>& layers, double scale);
+  void setPictures(const std::vector<SheetSurface::Layer>& layers);
   /// Where the panel's top left is.
   void moveTo(QPointF panel);
   /// Puts a page where it belongs; `index` counts from the lowest.
   void place(QQuickItem& page, const QRectF& frame, int index);
-  /// The ring at `origin`; a null picture leaves the one before.
-  void showRing(QPointF origin, const QImage& picture);
-  void hideRing();
+  /// Hides an absent ring; a null picture leaves the one before.
+  void showRing(const std::optional<SheetSurface::Layer>& ring);
 
  private:
   struct Layer {

@@ -24,7 +24,7 @@ ViewItem::~ViewItem() = default;
 
 void ViewItem::setView(swiftui::View view) { surface_->replaceView(std::move(view)); }
 
-void ViewItem::settingsChanged() { surface_->environmentChanged(); }
+void ViewItem::settingsChanged() { surface_->settingsChanged(); }
 
 void ViewItem::itemChange(ItemChange change, const ItemChangeData& data) {
   QQuickItem::itemChange(change, data);
@@ -39,7 +39,7 @@ void ViewItem::itemChange(ItemChange change, const ItemChangeData& data) {
       surface_->onScreenChanged();
       break;
     case ItemDevicePixelRatioHasChanged:
-      surface_->environmentChanged();
+      surface_->settingsChanged();
       break;
     default:
       break;
@@ -70,7 +70,7 @@ void ViewItem::touchUngrabEvent() { surface_->pointerLost(); }
 void ViewItem::hoverEnterEvent(QHoverEvent* event) { hoverMoveEvent(event); }
 
 void ViewItem::hoverMoveEvent(QHoverEvent* event) {
-  const bool tappable = surface_->takesTapAt(event->position());
+  const bool tappable = surface_->takesTapAt(toPoint(event->position()));
   const auto shape = tappable ? Qt::PointingHandCursor : Qt::ArrowCursor;
   if (cursor().shape() == shape) return;
   if (tappable) {
@@ -81,21 +81,22 @@ void ViewItem::hoverMoveEvent(QHoverEvent* event) {
 }
 
 void ViewItem::keyPressEvent(QKeyEvent* event) {
-  const KeyMeaning meaning = meaningOf(*event);
-  const bool walks = meaning == KeyMeaning::forward || meaning == KeyMeaning::backward;
+  using hosting::Key;
+  const Key key = toKeyEvent(*event).key;
   // Without a further element the window moves the focus on.
-  event->setAccepted(walks && surface_->walk(meaning == KeyMeaning::forward));
+  event->setAccepted((key == Key::next || key == Key::previous) &&
+                     surface_->walk(key == Key::next));
 }
 
 void ViewItem::focusInEvent(QFocusEvent* event) {
   QQuickItem::focusInEvent(event);
-  surface_->focusCame(event->reason());
+  surface_->focusCame(causeOf(event->reason()));
   ViewAccessible::focusChanged(*this);
 }
 
 void ViewItem::focusOutEvent(QFocusEvent* event) {
   QQuickItem::focusOutEvent(event);
-  surface_->focusWent(event->reason());
+  surface_->focusLeft(causeOf(event->reason()));
 }
 
 }  // namespace quorix::qt

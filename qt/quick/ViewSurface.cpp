@@ -6,6 +6,7 @@
 
 #include "platform/render/ScenePart.h"
 #include "qt/AccessibilityBridge.h"
+#include "qt/Desktop.h"
 #include "qt/FocusRing.h"
 #include "qt/Picture.h"
 #include "qt/ViewAccessible.h"
@@ -50,7 +51,14 @@ double ViewSurface::scale() const {
   return item_.window() ? item_.window()->effectiveDevicePixelRatio() : qGuiApp->devicePixelRatio();
 }
 
-EnvironmentSource ViewSurface::settings() const { return item_.settings(); }
+swiftui::Environment ViewSurface::environment() const {
+  return item_.settings().over(Desktop::environment(scale()));
+}
+
+bool ViewSurface::allowsMotion() const {
+  const auto motion = item_.settings().motion;
+  return motion ? *motion : !Desktop::prefersReducedMotion();
+}
 
 bool ViewSurface::hasFocus() const { return item_.hasActiveFocus(); }
 
@@ -71,26 +79,26 @@ void ViewSurface::giveFocusOn() {
 
 void ViewSurface::needsFrame() { item_.polish(); }
 
-WindowScene* ViewSurface::windowScene() {
+hosting::WindowSession* ViewSurface::window() {
   QQuickWindow* window = item_.window();
   if (!window) return nullptr;
-  const auto makeSheet = [window](const QObject& opener) {
-    return new SheetItem(*window, qobject_cast<const QQuickItem*>(&opener));
+  const auto newSheet = [window](WindowScene & scene, const hosting::Responder* opener) -> auto& {
+    return *new SheetItem(*window, scene, QuickAccessibleSurface::itemOf(opener));
   };
-  return &WindowScene::of(*window, {[window] { return window; }, makeSheet});
+  return &WindowScene::of(*window, {[window] { return window; }, newSheet});
 }
 
 // Surroundings.
 
 void ViewSurface::windowChanged() {
-  leaveSheet();
+  leaveWindow();
   parentChanged();
   painted_ = inViewport_ = false;
   pictureStale_ = true;
   offer();
   onScreenChanged();  // before anyone asks for a size: the view is then evaluated once
-  environmentChanged();
-  if (item_.window() && host().presentation()) presentationChanged();
+  settingsChanged();
+  if (item_.window()) enterWindow();
 }
 
 void ViewSurface::parentChanged() {
@@ -264,11 +272,4 @@ QSGNode* ViewSurface::paint(QSGNode* old) {
   if (ring_) node->ring->setOrigin(FocusRing::frameAround(*ring_).topLeft() + offset_);
   return node;
 }
-
-// Accessibility.
-
-const std::vector<render::AccessibilityElement>& ViewSurface::accessibilityElements() {
-  return host().scene(size()).accessibility;
-}
-
 }  // namespace quorix::qt

@@ -17,7 +17,7 @@ class ViewItem;
 /// What a view item keeps and does behind its public face. Main thread, but for `paint`.
 class ViewSurface final : public HostedView,
                           private WindowWatcher::Client,
-                          private QuickAccessibleSurface {
+                          public QuickAccessibleSurface {
  public:
   explicit ViewSurface(ViewItem& item);
   ~ViewSurface() override;
@@ -36,25 +36,23 @@ class ViewSurface final : public HostedView,
 
  private:
   void viewNeedsDisplay() override;
-  EnvironmentSource settings() const override;
+  swiftui::Environment environment() const override;
+  bool allowsMotion() const override;
   layout::Size size() const override;
-  double scale() const override;
+  double scale() const;
   bool hasFocus() const override;
   void takeFocusByPress() override;
   void giveFocusOn() override;
   void needsFrame() override;
-  WindowScene* windowScene() override;
+  hosting::WindowSession* window() override;
 
   void windowVisibilityChanged() override { onScreenChanged(); }
-  void desktopChanged() override { environmentChanged(); }
+  void desktopChanged() override { settingsChanged(); }
   void accessibilityBegan() override;
   QRectF boundsInParent() const override;
   void placeMayHaveChanged() override;
 
-  const std::vector<render::AccessibilityElement>& accessibilityElements() override;
-  void performAccessibilityAction(int index) override { activate(index); }
-  bool focusElement(int index) override { return HostedView::focusElement(index); }
-  std::optional<layout::Rect> focusedFrame() const override { return focusFrame(); }
+  hosting::Responder& responder() override { return *this; }
 
   void updateIdealSize();
   void updateImplicitSize();

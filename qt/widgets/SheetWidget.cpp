@@ -7,16 +7,15 @@
 #include <utility>
 
 #include "qt/AccessibilityBridge.h"
-#include "qt/FocusRing.h"
-#include "qt/Picture.h"
+#include "qt/Input.h"
 #include "qt/QtColor.h"
-#include "qt/ViewAccessible.h"
+#include "qt/WindowScene.h"
 
 namespace quorix::qt {
 
-SheetWidget::SheetWidget(QWidget& window)
+SheetWidget::SheetWidget(QWidget& window, hosting::WindowSession& session)
     : QWidget(&window),
-      SheetSurface(static_cast<QObject&>(*this), QStringLiteral("QuorixWebWidgets")),
+      SheetSurface(static_cast<QObject&>(*this), session, QStringLiteral("QuorixWebWidgets")),
       WidgetAccessibleSurface(static_cast<QWidget&>(*this)) {
   setAttribute(Qt::WA_AcceptTouchEvents);
   setAttribute(Qt::WA_Hover);
@@ -34,45 +33,41 @@ SheetWidget::SheetWidget(QWidget& window)
 SheetWidget::~SheetWidget() { AccessibilityBridge::remove(*this); }
 
 const SheetWidget* SheetWidget::topmost(const QWidget& window) {
-  const SheetWidget* found = nullptr;
-  for (QObject* child : window.children()) {
-    const auto* sheet = qobject_cast<SheetWidget*>(child);
-    if (sheet && sheet->isPresented() && !sheet->isClosed()) found = sheet;
-  }
-  return found;
+  const WindowScene* scene = WindowScene::find(window);
+  return scene ? static_cast<const SheetWidget*>(scene->topmost()) : nullptr;
 }
 
 // Focus.
 
-void SheetWidget::takeFocusOver() {
-  focusBefore_ = window()->focusWidget();
+void SheetWidget::comeUp() {
   show();
   raise();
-  setFocus(Qt::PopupFocusReason);
 }
 
-void SheetWidget::giveFocusBack() {
-  const QWidget* focused = window()->focusWidget();
-  if (!focused || (focused != this && !isAncestorOf(focused))) return;
-  const bool there = focusBefore_ && focusBefore_->window() == window() &&
-                     focusBefore_->isVisible() && focusBefore_->isEnabled();
-  if (there) {
-    focusBefore_->setFocus(Qt::PopupFocusReason);
-  } else {
-    window()->focusWidget()->clearFocus();
-  }
+SheetWidget::FocusReturn SheetWidget::focusReturn() {
+  return [this, before = QPointer(window()->focusWidget())] {
+    const bool there =
+        before && before->window() == window() && before->isVisible() && before->isEnabled();
+    if (there) before->setFocus(Qt::PopupFocusReason);
+    return there;
+  };
+}
+
+void SheetWidget::vanish() {
+  hide();
+  deleteLater();  // an event of it may be under way
 }
 
 void SheetWidget::holdFocus(QWidget* now) {
   if (now && hasPageFocus()) pageTookFocus();
   // A shortcut of the host's may lead to what lies below.
   const bool below = now && now != this && now->window() == window() && !isAncestorOf(now);
-  if (below && topmost(*window()) == this) setFocus(Qt::PopupFocusReason);
+  if (below) focusWentBelow();
 }
 
 bool SheetWidget::focusNextPrevChild(bool next) {
   if (isClosed()) return QWidget::focusNextPrevChild(next);
-  hasPageFocus() ? leftPages(next) : walk(next);
+  hasPageFocus() ? leavePages(next) : walk(next);
   return true;
 }
 
@@ -85,10 +80,9 @@ void SheetWidget::needsFrame() {
 }
 
 void SheetWidget::settle() {
-  if (isClosed() || !isPresented()) return;
+  if (!isOpen()) return;
   updateLayers();
-  followMotion();
-  if (isClosed()) return;
+  if (!followMotion()) return;
   stack_.clear();
   followPages();
   updateFront();
@@ -98,36 +92,32 @@ void SheetWidget::settle() {
 
 /// The panel's own picture: also when the window system asks for it before anything settled.
 void SheetWidget::updatePanel() {
-  const unsigned revision = presenter().panelRevision();
-  const render::Scene& panel = presenter().panel();
-  if (paintedRevision_ == revision && picture_.devicePixelRatio() == scale()) return;
-  picture_ = paintPicture(hosting::layersOf(panel, scale()).front().scene, scale(), {0, 0, 0, 0});
-  paintedRevision_ = revision;
+  auto layers = paintLayers();
+  if (layers.empty()) return;
+  picture_ = layers.front().picture;
+  repainted_ = std::move(layers);
 }
 
 void SheetWidget::updateLayers() {
-  const render::Scene& panel = presenter().panel();
-  if (layersRevision_ == presenter().panelRevision()) return;
-  layersRevision_ = presenter().panelRevision();
-  const auto layers = hosting::layersOf(panel, scale());
-  while (layers_.size() + 1 > layers.size()) {
+  updatePanel();
+  if (repainted_.empty()) return;
+  while (layers_.size() + 1 > repainted_.size()) {
     delete layers_.back().picture;
     layers_.pop_back();
   }
-  for (std::size_t i = 1; i < layers.size(); ++i) {
+  for (std::size_t i = 1; i < repainted_.size(); ++i) {
     if (layers_.size() < i) layers_.push_back({new PictureWidget(*this), {}});
-    layers_[i - 1].origin = {layers[i].origin.x, layers[i].origin.y};
-    layers_[i - 1].picture->setPicture(paintPicture(layers[i].scene, scale(), {0, 0, 0, 0}));
+    layers_[i - 1].origin = repainted_[i].origin;
+    layers_[i - 1].picture->setPicture(repainted_[i].picture);
   }
-  ringSize_.reset();
-  ViewAccessible::sceneChanged(*this);
+  repainted_.clear();
 }
 
 /// Puts what lies over the pages there. Without a page the pictures lie on the panel alone.
 void SheetWidget::updateFront() {
   const layout::Point corner = presenter().panelFrame().origin;
-  for (const Layer& layer : layers_) {
-    layer.picture->move((QPointF(corner.x, corner.y) + layer.origin).toPoint());
+  for (const ShownLayer& layer : layers_) {
+    layer.picture->move((toPoint(corner) + layer.origin).toPoint());
     if (!stack_.contains(layer.picture)) stack_.append(layer.picture);
   }
   if (pageViews().empty()) return;
@@ -143,21 +133,18 @@ void SheetWidget::updateFront() {
 }
 
 void SheetWidget::updateRing() {
-  const auto frame = hasFocus() ? presenter().ringFrame() : std::nullopt;
-  if (!ring_ && frame) ring_ = new PictureWidget(*this);
+  const auto around = ring();
+  if (!ring_ && around) ring_ = new PictureWidget(*this);
   if (!ring_) return;
-  ring_->setVisible(frame.has_value());
-  if (!frame) return;
-  if (ringSize_ != frame->size) {
-    ring_->setPicture(FocusRing::picture(*frame, presenter().panel().appearance, scale()));
-    ringSize_ = frame->size;
-  }
-  ring_->move(FocusRing::frameAround(*frame).topLeft().toPoint());
+  if (around && !around->picture.isNull()) ring_->setPicture(around->picture);
+  ring_->setVisible(around.has_value());
+  if (!around) return;
+  ring_->move(around->origin.toPoint());
   if (children().constLast() != ring_) ring_->raise();
 }
 
 void SheetWidget::paintEvent(QPaintEvent*) {
-  if (isClosed() || !isPresented()) return;
+  if (!isOpen()) return;
   updatePanel();
   const layout::Rect frame = presenter().panelFrame();
   const double bottom = frame.top() + presenter().panel().size.height;
@@ -174,18 +161,17 @@ void SheetWidget::paintEvent(QPaintEvent*) {
 
 // Pages.
 
-void SheetWidget::placePage(QObject& view, const layout::Rect& frame, int index) {
-  auto* page = qobject_cast<QWidget*>(&view);
+void SheetWidget::placePage(hosting::PageEngine& engine, const layout::Rect& frame, int index) {
+  auto* page = qobject_cast<QWidget*>(viewOf(engine));
   if (!page) return;
-  page->setGeometry(
-      QRectF(frame.left(), frame.top(), frame.size.width, frame.size.height).toAlignedRect());
+  page->setGeometry(toRect(frame).toAlignedRect());
   page->show();
   stack_.append(page);
   if (std::size_t(index) < layers_.size()) stack_.append(layers_[std::size_t(index)].picture);
 }
 
-void SheetWidget::focusPage(QObject& view, bool forward) {
-  if (auto* page = qobject_cast<QWidget*>(&view)) {
+void SheetWidget::focusPage(hosting::PageEngine& engine, bool forward) {
+  if (auto* page = qobject_cast<QWidget*>(viewOf(engine))) {
     page->setFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
   }
 }
@@ -232,7 +218,7 @@ bool SheetWidget::event(QEvent* event) {
 bool SheetWidget::eventFilter(QObject* watched, QEvent* event) {
   if (watched == parentWidget() && !isClosed()) {
     if (event->type() == QEvent::Resize) setGeometry(parentWidget()->rect());
-    if (event->type() == QEvent::ChildAdded && topmost(*parentWidget()) == this) raiseAll();
+    if (event->type() == QEvent::ChildAdded && isTopmost()) raiseAll();
   }
   return QWidget::eventFilter(watched, event);
 }
@@ -241,23 +227,12 @@ bool SheetWidget::eventFilter(QObject* watched, QEvent* event) {
 void SheetWidget::raiseAll() {
   const auto sheets = parentWidget()->findChildren<SheetWidget*>(Qt::FindDirectChildrenOnly);
   for (SheetWidget* sheet : sheets) {
-    if (sheet->isPresented()) sheet->raise();
+    if (sheet->isOpen()) sheet->raise();
   }
 }
 
 void SheetWidget::pointAt(QPointF point) {
-  const auto shape = takesTapAt(point) ? Qt::PointingHandCursor : Qt::ArrowCursor;
+  const auto shape = takesTapAt(toPoint(point)) ? Qt::PointingHandCursor : Qt::ArrowCursor;
   if (cursor().shape() != shape) setCursor(shape);
 }
-
-// Accessibility.
-
-const std::vector<render::AccessibilityElement>& SheetWidget::accessibilityElements() {
-  return presenter().scene().accessibility;
-}
-
-std::optional<layout::Rect> SheetWidget::focusedFrame() const {
-  return hasFocus() ? presenter().focusFrame() : std::nullopt;
-}
-
 }  // namespace quorix::qt

@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "platform/foundation/Export.h"
-#include "platform/hosting/SceneLayers.h"
 #include "qt/SheetSurface.h"
 #include "qt/widgets/PictureWidget.h"
 #include "qt/widgets/SheetWidgetFront.h"
@@ -17,11 +16,11 @@ namespace quorix::qt {
 
 /// A sheet over a window of widgets: on top of everything in it and as large as the window. Belongs
 /// to the window, and deletes itself when it has closed. Main thread.
-class SheetWidget : public QWidget, public SheetSurface, private WidgetAccessibleSurface {
+class SheetWidget : public QWidget, public SheetSurface, public WidgetAccessibleSurface {
   Q_OBJECT
 
  public:
-  explicit SheetWidget(QWidget& window);
+  SheetWidget(QWidget& window, hosting::WindowSession& session);
   ~SheetWidget() override;
 
   /// The sheet of `window` that takes the input, or null.
@@ -37,29 +36,29 @@ class SheetWidget : public QWidget, public SheetSurface, private WidgetAccessibl
  private:
   friend class SheetWidgetFront;
 
-  /// A picture of what lies above a page.
-  struct Layer {
+  /// What shows a layer above a page.
+  struct ShownLayer {
     PictureWidget* picture;
     QPointF origin;  ///< in the panel
   };
 
   double scale() const override { return devicePixelRatioF(); }
   void needsFrame() override;
-  void takeFocusOver() override;
-  void giveFocusBack() override;
-  void vanish() override { hide(); }
-  SheetSurface* makeSheetAbove() override { return new SheetWidget(*parentWidget()); }
+  void comeUp() override;
+  FocusReturn focusReturn() override;
+  void takeFocus() override { setFocus(Qt::PopupFocusReason); }
+  bool hasFocus() const override { return QWidget::hasFocus(); }
+  bool holdsFocus() const override { return window()->focusWidget() == this || hasPageFocus(); }
+  void dropFocus() override { window()->focusWidget()->clearFocus(); }
+  void vanish() override;
 
-  void placePage(QObject& view, const layout::Rect& frame, int index) override;
-  void focusPage(QObject& view, bool forward) override;
+  void placePage(hosting::PageEngine& engine, const layout::Rect& frame, int index) override;
+  void focusPage(hosting::PageEngine& engine, bool forward) override;
   void takeFocusFromPages() override;
   bool hasPageFocus() const;
 
-  const std::vector<render::AccessibilityElement>& accessibilityElements() override;
+  hosting::Responder& responder() override { return *this; }
   std::vector<QObject*> accessibleViews() const override { return pageViews(); }
-  void performAccessibilityAction(int index) override { presenter().activate(index); }
-  bool focusElement(int index) override { return SheetSurface::focusElement(index); }
-  std::optional<layout::Rect> focusedFrame() const override;
   bool isShown() const override { return !isClosed() && WidgetAccessibleSurface::isShown(); }
   bool isDialog() const override { return true; }
 
@@ -73,15 +72,12 @@ class SheetWidget : public QWidget, public SheetSurface, private WidgetAccessibl
   void holdFocus(QWidget* now);
   void pointAt(QPointF point);
 
-  QPointer<QWidget> focusBefore_;
-  QImage picture_;  ///< of the panel at rest, which motion only moves
-  std::vector<Layer> layers_;
+  QImage picture_;                ///< of the panel at rest, which motion only moves
+  std::vector<Layer> repainted_;  ///< on their way to `layers_`
+  std::vector<ShownLayer> layers_;
   QList<QWidget*> stack_;              ///< what lies over the painted panel, from the bottom up
   SheetWidgetFront* front_ = nullptr;  ///< made with the first page
   PictureWidget* ring_ = nullptr;
-  std::optional<layout::Size> ringSize_;
-  std::optional<unsigned> layersRevision_;
-  std::optional<unsigned> paintedRevision_;
   bool settleQueued_ = false;
 };
 

@@ -3,17 +3,10 @@
 #include <QEvent>
 #include <QRegion>
 
+#include "qt/Input.h"
 #include "qt/widgets/SheetWidget.h"
 
 namespace quorix::qt {
-namespace {
-
-QRect toRect(const layout::Rect& frame) {
-  return QRectF(frame.left(), frame.top(), frame.size.width, frame.size.height).toAlignedRect();
-}
-
-}  // namespace
-
 SheetWidgetFront::SheetWidgetFront(SheetWidget& sheet) : QWidget(&sheet), sheet_(sheet) {
   setAttribute(Qt::WA_AcceptTouchEvents);
   setFocusPolicy(Qt::NoFocus);
@@ -23,10 +16,10 @@ SheetWidgetFront::SheetWidgetFront(SheetWidget& sheet) : QWidget(&sheet), sheet_
 void SheetWidgetFront::follow(const render::Scene& scene) {
   QRegion acting;
   for (std::size_t i = 0; i < scene.hitAreas.size(); ++i) {
-    QRegion area = toRect(scene.hitAreas[i].frame);
+    QRegion area = toRect(scene.hitAreas[i].frame).toAlignedRect();
     for (const render::Item& item : scene.items) {
       const auto* embed = std::get_if<render::EmbedItem>(&item);
-      if (embed && i < embed->hitAreasBelow) area -= toRect(embed->room());
+      if (embed && i < embed->hitAreasBelow) area -= toRect(embed->room()).toAlignedRect();
     }
     acting += area;
   }

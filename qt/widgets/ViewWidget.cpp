@@ -6,6 +6,7 @@
 #include <QPainter>
 
 #include "qt/Engine.h"
+#include "qt/Input.h"
 #include "qt/ViewAccessible.h"
 #include "qt/widgets/WidgetSurface.h"
 
@@ -22,14 +23,14 @@ ViewWidget::ViewWidget(swiftui::View view, QWidget* parent)
   policy.setHeightForWidth(true);
   setSizePolicy(policy);
   surface_->host().setRoot(std::move(view));
-  surface_->environmentChanged();
+  surface_->settingsChanged();
 }
 
 ViewWidget::~ViewWidget() = default;
 
 void ViewWidget::setView(swiftui::View view) { surface_->replaceView(std::move(view)); }
 
-void ViewWidget::settingsChanged() { surface_->environmentChanged(); }
+void ViewWidget::settingsChanged() { surface_->settingsChanged(); }
 
 QSize ViewWidget::sizeHint() const { return surface_->idealSize(); }
 
@@ -49,7 +50,7 @@ bool ViewWidget::event(QEvent* event) {
       surface_->placeChanged();
       break;
     case QEvent::ScreenChangeInternal:
-      surface_->environmentChanged();
+      surface_->settingsChanged();
       break;
     default:
       break;
@@ -59,7 +60,7 @@ bool ViewWidget::event(QEvent* event) {
 }
 
 void ViewWidget::pointAt(QPointF point) {
-  const bool tappable = isEnabled() && surface_->takesTapAt(point);
+  const bool tappable = isEnabled() && surface_->takesTapAt(toPoint(point));
   if (tappable == (cursor().shape() == Qt::PointingHandCursor)) return;
   if (tappable) {
     setCursor(Qt::PointingHandCursor);
@@ -76,7 +77,7 @@ void ViewWidget::changeEvent(QEvent* event) {
     case QEvent::LayoutDirectionChange:
     case QEvent::LanguageChange:
     case QEvent::LocaleChange:
-      return surface_->environmentChanged();
+      return surface_->settingsChanged();
     default:
       return;
   }
@@ -99,7 +100,7 @@ void ViewWidget::hideEvent(QHideEvent*) {
 // Not QWidget's: it would paint the widget anew.
 
 void ViewWidget::focusInEvent(QFocusEvent* event) {
-  surface_->focusCame(event->reason());
+  surface_->focusCame(causeOf(event->reason()));
   // Later: Qt has yet to say that the widget has the focus, which is not the whole of it.
   QMetaObject::invokeMethod(
       this,
@@ -109,7 +110,9 @@ void ViewWidget::focusInEvent(QFocusEvent* event) {
       Qt::QueuedConnection);
 }
 
-void ViewWidget::focusOutEvent(QFocusEvent* event) { surface_->focusWent(event->reason()); }
+void ViewWidget::focusOutEvent(QFocusEvent* event) {
+  surface_->focusLeft(causeOf(event->reason()));
+}
 
 bool ViewWidget::focusNextPrevChild(bool next) {
   // A widget that is on its way out has its focus moved on from outside.

@@ -51,11 +51,16 @@ layout::Size WidgetSurface::size() const {
 
 double WidgetSurface::scale() const { return widget_.devicePixelRatioF(); }
 
-EnvironmentSource WidgetSurface::settings() const {
-  EnvironmentSource now = widget_.settings();
-  if (!now.appearance) now.appearance = Desktop::appearanceOf(widget_.palette());
-  if (!now.direction) now.direction = Desktop::directionOf(widget_.layoutDirection());
-  return now;
+swiftui::Environment WidgetSurface::environment() const {
+  swiftui::Environment around = Desktop::environment(scale());
+  around.appearance = Desktop::appearanceOf(widget_.palette());
+  around.direction = Desktop::directionOf(widget_.layoutDirection());
+  return widget_.settings().over(around);
+}
+
+bool WidgetSurface::allowsMotion() const {
+  const auto motion = widget_.settings().motion;
+  return motion ? *motion : !Desktop::prefersReducedMotion();
 }
 
 bool WidgetSurface::hasFocus() const { return widget_.hasFocus(); }
@@ -70,10 +75,12 @@ void WidgetSurface::giveFocusOn() {
   if (widget && !widget->hasFocus()) widget->setFocusPolicy(Qt::NoFocus);
 }
 
-WindowScene* WidgetSurface::windowScene() {
+hosting::WindowSession* WidgetSurface::window() {
   QWidget* window = widget_.window();
-  return &WindowScene::of(*window, {[window] { return window->windowHandle(); },
-                                    [window](auto&) { return new SheetWidget(*window); }});
+  const auto newSheet = [window](WindowScene & scene, auto*) -> auto& {
+    return *new SheetWidget(*window, scene);
+  };
+  return &WindowScene::of(*window, {[window] { return window->windowHandle(); }, newSheet});
 }
 
 // Place.
@@ -82,15 +89,15 @@ void WidgetSurface::placeChanged() {
   QWidget* window = widget_.window();
   const bool moved = window != window_;
   if (moved) {
-    leaveSheet();
+    leaveWindow();
     QObject::disconnect(windowState_);
     windowState_ = QObject::connect(&WindowStateWatcher::of(*window), &WindowStateWatcher::changed,
                                     &widget_, [this] { onScreenChanged(); });
     window_ = window;
   }
   onScreenChanged();  // before anyone asks for a size: the view is then evaluated once
-  environmentChanged();
-  if (moved && host().presentation()) presentationChanged();
+  settingsChanged();
+  if (moved) enterWindow();
 }
 
 void WidgetSurface::onScreenChanged() {
@@ -191,14 +198,7 @@ void WidgetSurface::dropRing() {
 
 void WidgetSurface::paint(QPainter& painter) {
   // Qt tells a widget late, and not everywhere, that its window came to another screen.
-  if (scale() != host().environment().scale) environmentChanged();
+  if (scale() != host().environment().scale) settingsChanged();
   paintAsPicture(painter, host().scene(size()));
 }
-
-// Accessibility.
-
-const std::vector<render::AccessibilityElement>& WidgetSurface::accessibilityElements() {
-  return host().scene(size()).accessibility;
-}
-
 }  // namespace quorix::qt

@@ -36,19 +36,17 @@ class WidgetSurface final : public HostedView, private WidgetAccessibleSurface {
 
  private:
   void viewNeedsDisplay() override;
-  EnvironmentSource settings() const override;
+  swiftui::Environment environment() const override;
+  bool allowsMotion() const override;
   layout::Size size() const override;
-  double scale() const override;
+  double scale() const;
   bool hasFocus() const override;
   void takeFocusByPress() override;
   void giveFocusOn() override;
   void needsFrame() override;
-  WindowScene* windowScene() override;
+  hosting::WindowSession* window() override;
 
-  const std::vector<render::AccessibilityElement>& accessibilityElements() override;
-  void performAccessibilityAction(int index) override { activate(index); }
-  bool focusElement(int index) override { return HostedView::focusElement(index); }
-  std::optional<layout::Rect> focusedFrame() const override { return focusFrame(); }
+  hosting::Responder& responder() override { return *this; }
 
   /// What layouts were told; only when that no longer holds do they lay out anew.
   struct Told {

@@ -114,9 +114,9 @@ TEST(InfoWidgetView, OpensItsPageFromAnywhereOnIt) {
   for (const layout::Point place : places) {
     window.tap(place);
     window.settle();
-    ASSERT_TRUE(window.sheet);
+    ASSERT_TRUE(window.sheet());
     window.act("Close");
-    ASSERT_FALSE(window.sheet);
+    ASSERT_FALSE(window.sheet());
   }
 }
 
@@ -124,14 +124,14 @@ TEST(InfoWidgetView, ASecondTapBeforeTheSheetIsUpTakesTheFirstBack) {
   TestWindow window(InfoWidgetView{infoModel()});
   window.tap(link);
   window.act(link);
-  EXPECT_FALSE(window.sheet);
+  EXPECT_FALSE(window.sheet());
   window.act(link);
-  ASSERT_TRUE(window.sheet);
-  window.sheet->dismiss();
+  ASSERT_TRUE(window.sheet());
+  window.sheet()->dismiss();
   window.settle();
-  EXPECT_FALSE(window.sheet) << "the user closed it";
+  EXPECT_FALSE(window.sheet()) << "the user closed it";
   window.act(link);
-  EXPECT_TRUE(window.sheet) << "and the flag knows";
+  EXPECT_TRUE(window.sheet()) << "and the flag knows";
 }
 
 TEST(InfoWidgetView, IsReadAsItsTextsEachOfWhichOpensIt) {
@@ -140,8 +140,8 @@ TEST(InfoWidgetView, IsReadAsItsTextsEachOfWhichOpensIt) {
   for (const int text : {0, 1}) {
     EXPECT_TRUE(window.host->activate(text));
     window.settle();
-    ASSERT_TRUE(window.sheet);
-    window.sheet->dismiss();
+    ASSERT_TRUE(window.sheet());
+    window.sheet()->dismiss();
     window.settle();
   }
 }

@@ -143,8 +143,8 @@ TEST(ScoreWidgetBuilder, EachCallMakesAWidgetOfItsOwnForAnyLocale) {
   network->held[1]({foundation::Error{"offline", 1, {}}, {}, 0});
   one.settle();
   one.act("Fee  €2.00,  €4.00");
-  EXPECT_TRUE(one.sheet);
-  EXPECT_FALSE(other.sheet);
+  EXPECT_TRUE(one.sheet());
+  EXPECT_FALSE(other.sheet());
   EXPECT_NO_THROW(other.element("Your return fee Discounted €\u00A02.00, Original €\u00A04.00"));
 }
 

@@ -22,27 +22,23 @@ class ScoreSheet : public ::testing::Test {
   ScoreSheet() { testing::HeldTransport::install(); }
 
   TestWindow& open(bool motion = false) {
-    window.motion = motion;
+    window.setMotion(motion);
     window.act(row);
     return window;
   }
-  double panelHeight() { return window.size.height - window.sheet->panelFrame().top(); }
+  double panelHeight() { return window.size.height - window.sheet()->panelFrame().top(); }
 
   std::shared_ptr<LocalizationRepository> strings = LocalizationRepository::make("en");
   TestWindow window{ScoreWidgetView{testing::scoreModel(false), strings}};
 };
 
-TEST_F(ScoreSheet, IsOfMediumHeightUntilItsContentIsMeasured) {
+TEST_F(ScoreSheet, IsAsHighAsItsContent) {
   window.tap(row);
   MainQueue::drain();
-  EXPECT_EQ(panelHeight(), 320);
-  window.sheet->scene();
-  EXPECT_EQ(panelHeight(), 320);
-  MainQueue::drain();
   EXPECT_EQ(panelHeight(), 305) << "without motion it is there at once";
-  EXPECT_FALSE(window.sheet->isMoving());
+  EXPECT_FALSE(window.sheet()->isMoving());
   window.act("Close");
-  ASSERT_FALSE(window.sheet);
+  ASSERT_FALSE(window.sheet());
   window.tap(row);
   MainQueue::drain();
   EXPECT_EQ(panelHeight(), 305) << "kept over closing and opening";
@@ -61,14 +57,14 @@ TEST_F(ScoreSheet, FollowsItsContentAndTheWindow) {
   };
   for (const auto& expected : rows) {
     window.resize(expected.window);
-    EXPECT_EQ(window.sheet->panelFrame(), expected.panel) << expected.window.width;
+    EXPECT_EQ(window.sheet()->panelFrame(), expected.panel) << expected.window.width;
   }
   strings->strings = TranslationTable::make(
       {{"returns", "disclaimer", std::string(36 * 7, 'x')}, {"actions", "close", "Shut"}});
   window.settle();
   EXPECT_EQ(panelHeight(), 305 + 3 * 20);
   window.act("Shut");
-  EXPECT_FALSE(window.sheet);
+  EXPECT_FALSE(window.sheet());
 }
 
 TEST_F(ScoreSheet, GoesWhenSwipedFarOrFastOrTappedOutside) {
@@ -91,30 +87,30 @@ TEST_F(ScoreSheet, GoesWhenSwipedFarOrFastOrTappedOutside) {
   };
   for (const auto& drag : rows) {
     open();
-    window.press(drag.press);
-    window.sheet->pointerMoved(drag.release);
-    EXPECT_EQ(window.sheet->panelFrame().top(), drag.panelTop) << drag.release.y;
-    window.release(drag.release, drag.velocity);
+    window.sheet()->pointerPressed(drag.press);
+    window.sheet()->pointerMoved(drag.release);
+    EXPECT_EQ(window.sheet()->panelFrame().top(), drag.panelTop) << drag.release.y;
+    window.sheet()->pointerReleased(drag.release, drag.velocity);
     window.settle();
-    EXPECT_EQ(!window.sheet, drag.closes) << drag.release.y << " at " << drag.velocity;
-    if (!window.sheet) continue;
+    EXPECT_EQ(!window.sheet(), drag.closes) << drag.release.y << " at " << drag.velocity;
+    if (!window.sheet()) continue;
     EXPECT_EQ(panelHeight(), 305);
-    window.sheet->dismiss();
+    window.sheet()->dismiss();
     window.settle();
   }
 }
 
 TEST_F(ScoreSheet, RisesAndFallsAndThenNothingMoves) {
-  window.motion = true;
+  window.setMotion(true);
   window.tap(row);
   MainQueue::drain();
   double height = panelHeight();
   EXPECT_LT(height, 1);
   int frames = 0;
   for (bool moving = true; moving; ++frames) {
-    window.sheet->scene();
+    window.sheet()->scene();
     MainQueue::drain();
-    moving = window.sheet->advance(1.0 / 60);
+    moving = window.sheet()->advance(1.0 / 60);
     EXPECT_GE(panelHeight(), height);
     height = panelHeight();
     ASSERT_LT(frames, 90);
@@ -122,14 +118,14 @@ TEST_F(ScoreSheet, RisesAndFallsAndThenNothingMoves) {
   EXPECT_GT(frames, 10);
   EXPECT_EQ(height, 305);
   EXPECT_EQ(MainQueue::drain(), 0);
-  EXPECT_FALSE(window.sheet->advance(1) || window.sheet->isMoving());
+  EXPECT_FALSE(window.sheet()->advance(1) || window.sheet()->isMoving());
   window.tap("Close");
   MainQueue::drain();
-  for (frames = 0; window.sheet; ++frames) {
+  for (frames = 0; window.sheet(); ++frames) {
     EXPECT_LE(panelHeight(), height);
     height = panelHeight();
-    EXPECT_NEAR(window.sheet->shade().alpha / 102.0, height / 305, 0.02);
-    window.sheet->advance(1.0 / 60);
+    EXPECT_NEAR(window.sheet()->shade().alpha / 102.0, height / 305, 0.02);
+    window.sheet()->advance(1.0 / 60);
     ASSERT_LT(frames, 90);
   }
 }
@@ -140,13 +136,13 @@ TEST_F(ScoreSheet, OnItsWayOutItTakesNoTapButMayBeCalledBack) {
   for (int i = 0; i < 2; ++i) {
     window.tap(TestWindow::middle(close));
     MainQueue::drain();
-    EXPECT_FALSE(window.sheet->activate(1));
+    EXPECT_FALSE(window.sheet()->activate(1));
     EXPECT_FALSE(window.host->presentation());
   }
-  window.sheet->advance(1.0 / 60);
+  window.sheet()->advance(1.0 / 60);
   window.host->activate(0);
   window.settle();
-  ASSERT_TRUE(window.sheet);
+  ASSERT_TRUE(window.sheet());
   EXPECT_EQ(panelHeight(), 305);
 }
 
@@ -155,13 +151,12 @@ TEST(SheetPresenter, StandsOnTheWindowsSafeBottom) {
                            .frame(50, 100)
                            .presentationDetents({swiftui::PresentationDetent::height(100),
                                                  swiftui::PresentationDetent::medium()});
-  TestWindow window({});
-  auto& sheet = window.sheet.emplace(window.text, window);
-  sheet.setMotion(false);
-  sheet.setWindow(window.size, {40, 0, 30, 0});
-  sheet.present({swiftui::State<bool>{true}.binding(), content});
+  testing::TestSheet alone({swiftui::State<bool>{true}.binding(), content}, {320, 640},
+                           {40, 0, 30, 0});
+  auto& sheet = alone.sheet;
   EXPECT_EQ(sheet.panelFrame(), (layout::Rect{{0, 510}, {320, 130}}));
-  EXPECT_EQ(window.element("x").frame.top(), 510 + 39);  // 22 high in the middle of 100
+  const auto& text = sheet.scene().accessibility.at(0);
+  EXPECT_EQ(text.frame.top(), 510 + 39);  // 22 high in the middle of 100
   sheet.setWindow({320, 140}, {40, 0, 30, 0});
   EXPECT_EQ(sheet.panelFrame().top(), 60) << "half of what the safe area leaves at the top";
 }

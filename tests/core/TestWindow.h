@@ -2,14 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include <optional>
 #include <sstream>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 #include "platform/foundation/MainQueue.h"
-#include "platform/hosting/SheetPresenter.h"
-#include "platform/hosting/ViewHost.h"
+#include "platform/hosting/ViewWindow.h"
 #include "platform/render/ScenePrinter.h"
 #include "tests/core/FixedWidthText.h"
 
@@ -26,48 +25,59 @@ inline std::string printedItems(const render::Scene& scene) {
   return result;
 }
 
-/// A window that one view fills, as an engine's surface shows it, with the sheet that the view asks
-/// for. What a user does is found by its accessibility label.
-class TestWindow final : public hosting::ViewHost::Client, public hosting::SheetPresenter::Client {
+/// A sheet that stands alone.
+struct TestSheet final : hosting::SheetPresenter::Client {
+  explicit TestSheet(const swiftui::Presentation& presentation, layout::Size window,
+                     layout::EdgeInsets safeArea) {
+    sheet.setMotion(false);
+    sheet.setWindow(window, safeArea);
+    sheet.present(presentation);
+  }
+  void sheetNeedsDisplay() override {}
+  void sheetDidClose() override {}
+
+  FixedWidthText text;
+  hosting::SheetPresenter sheet{text, *this};
+};
+
+struct TestText {
+  FixedWidthText text;
+  ~TestText() { foundation::MainQueue::drain(); }  // leaves nothing to the next test
+};
+
+/// A window that one view fills. What a user does is found by its accessibility label.
+class TestWindow final : public TestText, public hosting::ViewWindow {
  public:
   explicit TestWindow(swiftui::View root, swiftui::Environment settings = {},
                       layout::Size windowSize = {320, 640})
-      : host(std::in_place, text, *this), size(windowSize), environment(settings) {
-    host->setEnvironment(environment);
-    host->setRoot(std::move(root));
-    host->setOnScreen(true);
+      : ViewWindow(text, {settings, false}, std::move(root), windowSize),
+        host(&view().host()),
+        size(windowSize),
+        environment(settings) {
     host->scene(size);
   }
-  ~TestWindow() override {
-    sheet.reset();
-    host.reset();
-    foundation::MainQueue::drain();  // leaves nothing to the next test
-  }
-  TestWindow(const TestWindow&) = delete;
-  TestWindow& operator=(const TestWindow&) = delete;
 
-  FixedWidthText text;
-  std::optional<hosting::ViewHost> host;
-  std::optional<hosting::SheetPresenter> sheet;
+  hosting::ViewHost* host;
   layout::Size size;
   swiftui::Environment environment;
-  bool motion = false;
   int displays = 0;  ///< requests to show the view again
+
+  /// The top-most sheet; null while none is open.
+  hosting::SheetPresenter* sheet() { return topmost() ? &topmost()->presenter() : nullptr; }
+  void setMotion(bool motion) { setSettings({environment, motion}); }
 
   /// A turn of the main queue and a frame, until nothing is left to do.
   void settle() {
-    do {
-      if (host) host->scene(size);
-      if (sheet) sheet->scene(), sheet->advance(1.0 / 60);
-    } while (foundation::MainQueue::drain() > 0 || (sheet && sheet->isMoving()));
+    while (frame(1.0 / 60) || foundation::MainQueue::drain() > 0) {
+    }
   }
   void resize(layout::Size to) {
     size = to;
-    if (sheet) sheet->setWindow(size, {});
+    ViewWindow::resize(to, to);
     settle();
   }
 
-  const render::Scene& shown() { return sheet ? sheet->scene() : host->scene(size); }
+  const render::Scene& shown() { return sheet() ? sheet()->scene() : host->scene(size); }
   const render::AccessibilityElement& element(const std::string& label) {
     for (const auto& element : shown().accessibility) {
       if (element.label == label) return element;
@@ -86,12 +96,12 @@ class TestWindow final : public hosting::ViewHost::Client, public hosting::Sheet
     return {frame.left() + frame.size.width / 2, frame.top() + frame.size.height / 2};
   }
 
-  void press(layout::Point point) {
-    sheet ? sheet->pointerPressed(point) : void(host->pointerPressed(point));
+  bool press(layout::Point point) { return pointer(hosting::PointerEvent::Phase::pressed, point); }
+  bool move(layout::Point point) { return pointer(hosting::PointerEvent::Phase::moved, point); }
+  bool release(layout::Point point) {
+    return pointer(hosting::PointerEvent::Phase::released, point);
   }
-  void release(layout::Point point, double velocity = 0) {
-    sheet ? sheet->pointerReleased(point, velocity) : void(host->pointerReleased(point));
-  }
+  bool key(hosting::Key key) { return handle({key}); }
   void tap(layout::Point point) {
     press(point);
     release(point);
@@ -104,24 +114,12 @@ class TestWindow final : public hosting::ViewHost::Client, public hosting::Sheet
   }
 
  private:
-  void viewNeedsDisplay() override { ++displays; }
-  void presentationChanged() override {
-    const swiftui::Presentation* presentation = host->presentation();
-    if (!presentation) {
-      if (sheet) sheet->retract();
-      return;
-    }
-    if (!sheet) {
-      sheet.emplace(text, *this);
-      sheet->setMotion(motion);
-      sheet->setEnvironment(environment);
-      sheet->setWindow(size, {});
-    }
-    sheet->present(*presentation);
+  bool pointer(hosting::PointerEvent::Phase phase, layout::Point at) {
+    return front().handle({phase, at, milliseconds_ += 16});
   }
-  void sheetNeedsDisplay() override {}
-  void sheetPresentationChanged() override {}
-  void sheetDidClose() override { sheet.reset(); }
+  void viewChanged() override { ++displays; }
+
+  double milliseconds_ = 0;
 };
 
 }  // namespace quorix::testing

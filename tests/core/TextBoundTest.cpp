@@ -116,7 +116,7 @@ TEST(TextBound, NoTextReachesShapingOrAReaderWhole) {
     ASSERT_FALSE(row.empty());
     window.tap(TestWindow::middle(row.front().frame));
     window.settle();
-    EXPECT_EQ(window.sheet.has_value(), &source == sources);  // the row's own
+    EXPECT_EQ((window.sheet() != nullptr), &source == sources);  // the row's own
     EXPECT_FALSE(window.text.calls.empty());
     for (const auto& call : window.text.calls) {
       EXPECT_LE(characters(call.words), text::mostOfText);
@@ -165,7 +165,7 @@ TEST(TextBound, HoldsForAllTheTextSizesThatASheetTriesTogether) {
     window.text.calls.clear();
     window.tap(TestWindow::middle(window.shown().accessibility.front().frame));
     window.settle();
-    ASSERT_TRUE(window.sheet);
+    ASSERT_TRUE(window.sheet());
     std::size_t measured = 0;
     for (const auto& call : window.text.calls) measured += characters(call.words);
     EXPECT_LE(measured, 48'000);

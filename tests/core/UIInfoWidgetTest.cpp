@@ -164,16 +164,22 @@ TEST(UIInfoWidget, ShowsTitlesOneByOne) {
 
 TEST(UIInfoWidget, PresentsTheOverlayOverTheTopmostScreen) {
   TestWindow window(swiftui::hosting(widget({}, "Ann")));
-  window.tap("Read more");  // into nowhere: there is no window
+  // Not as a user, who works in this window: it would be the one that is found.
+  const auto tap = [&](layout::Point point) {
+    window.host->pointerPressed(point);
+    window.host->pointerReleased(point);
+  };
+  const auto read = [&] { tap(TestWindow::middle(window.element("Read more").frame)); };
+  read();  // into nowhere: there is no window
   App app({{State::foregroundActive, {plain}}});
-  window.tap("Read more");  // nor a screen
+  read();  // nor a screen
   const auto root = std::make_shared<uikit::UIViewController>();
   const auto alert = std::make_shared<uikit::UIViewController>();
   app.scenes[0]->windows()[0]->setRootViewController(root);
   root->present(alert, true);
-  window.tap(layout::Point{100, 20});  // the title
+  tap({100, 20});  // the title
   EXPECT_EQ(alert->presentedViewController(), nullptr);
-  window.tap("Read more");
+  read();
   const auto overlay =
       std::dynamic_pointer_cast<WebViewController>(alert->presentedViewController());
   ASSERT_NE(overlay, nullptr);
@@ -181,7 +187,7 @@ TEST(UIInfoWidget, PresentsTheOverlayOverTheTopmostScreen) {
   EXPECT_EQ(overlay->locale, "en");
   EXPECT_EQ(overlay->token, std::nullopt);
   EXPECT_TRUE(overlay->showCloseButton);
-  window.tap("Read more");  // once more: nothing remembers the first
+  read();  // once more: nothing remembers the first
   EXPECT_NE(overlay->presentedViewController(), nullptr);
 }
 

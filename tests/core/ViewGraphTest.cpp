@@ -95,7 +95,7 @@ TEST(ViewGraph, EveryPlaceHasItsOwnState) {
 
 TEST(ViewGraph, AnotherTypeInAPlaceStartsAfresh) {
   TestWindow window(column({Counter{"a"}}));
-  window.tap("a 0");
+  window.act("a 0");
   window.host->updateRoot(column({Counter{"b"}}));
   EXPECT_EQ(window.labels(), "b 1") << "the same type is the same view";
   window.host->updateRoot(column({Switched{Text::verbatim("on")}}));
@@ -118,7 +118,7 @@ TEST(ViewGraph, ChangesAreEvaluatedTogetherOnTheNextTurn) {
   observer.model->value = 1;
   observer.model->value = 2;
   EXPECT_EQ(*switched.evaluations, before);
-  EXPECT_EQ(MainQueue::drain(), 1);
+  EXPECT_EQ(MainQueue::drain(), 2 + 1) << "both taps, and one evaluation";
   EXPECT_EQ(*switched.evaluations, before + 1);
   EXPECT_EQ(window.displays, displays + 1);
   EXPECT_NO_THROW(window.element("2"));
@@ -192,6 +192,8 @@ TEST(ViewGraph, AnActionMayDestroyItsOwnHost) {
   const View view = View(Text::verbatim("close")).onTapGesture(close);
   window.emplace(view);
   window->tap("close");
+  EXPECT_TRUE(window) << "the toolkit is still at work with it";
+  MainQueue::drain();
   EXPECT_FALSE(window);
   window.emplace(view);
   window->host->activate(0);

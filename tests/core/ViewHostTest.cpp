@@ -71,13 +71,15 @@ TEST(ViewHostInput, ATapIsAPressAndAReleaseOnOneArea) {
     log.clear();
     window.press(row.press);
     window.release(row.release);
+    window.settle();
     EXPECT_EQ(log, row.taps) << row.press.x << " to " << row.release.x;
   }
   log.clear();
   window.press({5, 5});
-  window.host->pointerCancelled();
+  window.front().pointerLost();
   window.release({5, 5});
   window.release({5, 5});
+  window.settle();
   EXPECT_EQ(log, "");
 }
 
@@ -91,7 +93,7 @@ TEST(ViewHostInput, ATapOutlivesAnUpdateBetweenItsHalves) {
   foundation::MainQueue::drain();
   window.release(TestWindow::middle(frame));  // before the next frame
   window.settle();
-  EXPECT_TRUE(window.sheet);
+  EXPECT_TRUE(window.sheet());
 }
 
 TEST(ViewHostInput, FocusWalksOverWhatActsAndLeavesAtTheEnds) {

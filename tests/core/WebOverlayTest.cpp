@@ -41,11 +41,9 @@ TEST(WebView, StandsUnderItsHeadingAndRunsOnUnderTheBottomOfTheDevice) {
 
 TEST(WebView, FillsItsSheetToTheRoundCornersAndTheBottom) {
   const State<bool> shown{true};
-  TestWindow window({});
-  hosting::SheetPresenter sheet(window.text, window);
-  sheet.setMotion(false);
-  sheet.setWindow({320, 640}, {40, 0, 30, 0});
-  sheet.present({shown.binding(), overlay(shown, std::nullopt, "en")});
+  testing::TestSheet alone({shown.binding(), overlay(shown, std::nullopt, "en")}, {320, 640},
+                           {40, 0, 30, 0});
+  auto& sheet = alone.sheet;
   const layout::Rect panel{{0, 50}, {320, 590}};
   EXPECT_EQ(shownPage(sheet.scene()).frame, panel);
   EXPECT_EQ(shownPage(sheet.scene()).topCornerRadius, 12);
@@ -68,7 +66,7 @@ TEST(WebView, ClosesByTheCrossInItsTrailingCorner) {
     EXPECT_EQ(button.frame, (layout::Rect{{mirrored ? 0.0 : 272.0, 0}, {48, 56}}));
     EXPECT_EQ(button.role, render::Role::button);
     for (const bool open : {false, true}) {
-      window.tap("Schließen");
+      window.act("Schließen");
       EXPECT_EQ(shown.get(), open) << "a toggle";
     }
   }

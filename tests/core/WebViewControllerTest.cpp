@@ -43,6 +43,7 @@ TEST(WebViewController, ShowsItsPageAndCloseControl) {
   const auto root = std::make_shared<uikit::UIViewController>();
   root->present(overlay, true);
   window.tap(layout::Point{272, 10});  // the control's very corner
+  window.settle();
   EXPECT_EQ(root->presentedViewController(), nullptr);
 }
 

@@ -69,11 +69,11 @@ bool PreviewScreen::hasSheet() const { return qt::SheetWidget::topmost(*this) !=
 /// As a screen reader would: acts on the first of the widget's elements that does anything.
 void PreviewScreen::openSheet() {
   qt::AccessibleSurface* surface = qt::AccessibilityBridge::surfaceOf(widget_);
-  const auto& elements = surface->accessibilityElements();
+  const auto& elements = surface->responder().elements();
   const auto acting =
       std::ranges::find_if(elements, [](const auto& element) { return bool(element.action); });
   if (acting == elements.end()) return;
-  surface->performAccessibilityAction(static_cast<int>(acting - elements.begin()));
+  surface->responder().activate(static_cast<int>(acting - elements.begin()));
 }
 
 void PreviewScreen::closeEvent(QCloseEvent* event) {

@@ -1,0 +1,177 @@
+#include "platform/hosting/EmbeddedPages.h"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+#include "platform/foundation/MainQueue.h"
+#include "platform/uikit/URLOpener.h"
+
+namespace quorix::hosting {
+namespace {
+
+using foundation::MainQueue;
+using std::chrono::milliseconds;
+using webkit::WebContent;
+
+/// A page that has not answered by then hangs. With the sheet's fall, closing takes under a second.
+constexpr milliseconds patience{400};
+
+milliseconds toMilliseconds(foundation::URLRequest::Seconds seconds) {
+  constexpr double longest = std::numeric_limits<int>::max();
+  return milliseconds(static_cast<int>(std::clamp(seconds.count() * 1000, 0.0, longest)));
+}
+
+const WebContent* pageOf(const render::Item& item) {
+  const auto* embed = std::get_if<render::EmbedItem>(&item);
+  return embed ? dynamic_cast<const WebContent*>(embed->content.get()) : nullptr;
+}
+
+}  // namespace
+
+std::unique_ptr<EmbeddedPage> EmbeddedPage::open(const render::EmbedItem& embed, Owner& owner) {
+  auto content = std::dynamic_pointer_cast<WebContent>(embed.content);
+  std::unique_ptr<EmbeddedPage> page(new EmbeddedPage(content, owner));
+  page->engine_ = owner.openPage(embed, *page);
+  if (!page->engine_) return nullptr;
+  content->attach([made = page.get()](const foundation::URLRequest& request) {
+    made->patience_ = toMilliseconds(request.timeoutInterval);
+    made->engine_->load(request.url);
+  });
+  return page;
+}
+
+EmbeddedPage::~EmbeddedPage() {
+  if (engine_) content_->detach();
+}
+
+void EmbeddedPage::start(Limit& limit, milliseconds after, std::function<void()> work) {
+  limit = std::make_shared<std::function<void()>>(std::move(work));
+  MainQueue::after(after, [weak = std::weak_ptr(limit)] {
+    if (const auto ran = weak.lock()) (*ran)();
+  });
+}
+
+void EmbeddedPage::later(std::function<void()> work) {
+  MainQueue::async([self = std::weak_ptr(alive_), work = std::move(work)] {
+    if (!self.expired()) work();
+  });
+}
+
+// What the page does.
+
+void EmbeddedPage::loading(int percent) {
+  came_ = percent > 0;
+  start(standstill_, patience_, [this] {
+    engine_->stopLoad(patience_);
+    if (!came_) loadFailed();
+  });
+}
+
+void EmbeddedPage::loadFailed() {
+  later([this, kept = content_] {
+    owner_.pageEnded();
+    kept->loadFailed();
+  });
+}
+
+void EmbeddedPage::windowAsked(const std::optional<foundation::URL>& address, bool byUser) {
+  later([kept = content_, address, byUser] { kept->askForWindow(address, byUser); });
+}
+
+void EmbeddedPage::processEnded() {
+  standstill_.reset();
+  silence_.reset();
+  later([this, kept = content_] {
+    owner_.pageEnded();
+    kept->processEnded();
+  });
+}
+
+// Keys.
+
+/// Asks the page whether it is alive, and then does `then`.
+void EmbeddedPage::expectAnswer(std::function<void()> then) {
+  onAnswer_ = std::move(then);
+  if (!silence_) start(silence_, patience, [this] { silence_.reset(), owner_.pageHangs(); });
+  engine_->ask();
+}
+
+void EmbeddedPage::answered() {
+  silence_.reset();
+  if (const auto then = std::exchange(onAnswer_, {})) then();
+}
+
+bool EmbeddedPage::takes(Key key, bool tries) {
+  if (!content_->settings.allowsBackForwardNavigationGestures) return false;
+  const bool leads =
+      key == Key::pageForward || key == Key::pageBack || (key == Key::back && engine_->canGoBack());
+  if (!leads || tries) return leads;
+  if (key == Key::pageForward) {
+    engine_->goForward();
+  } else if (key == Key::back) {
+    expectAnswer([this] { engine_->goBack(); });  // a page that hangs goes nowhere
+  } else {
+    engine_->goBack();
+  }
+  return true;
+}
+
+// All pages.
+
+bool EmbeddedPages::hasPages(const render::Scene& scene) {
+  return std::any_of(scene.items.begin(), scene.items.end(), pageOf);
+}
+
+bool EmbeddedPages::follow(const render::Scene& scene) {
+  std::vector<std::unique_ptr<EmbeddedPage>> now;
+  bool all = true;
+  for (const render::Item& item : scene.items) {
+    const WebContent* content = pageOf(item);
+    if (!content) continue;
+    const auto known = std::find_if(pages_.begin(), pages_.end(), [&](const auto& page) {
+      return page && page->content() == content;
+    });
+    auto page = known != pages_.end()
+                    ? std::move(*known)
+                    : EmbeddedPage::open(std::get<render::EmbedItem>(item), owner_);
+    all = all && page;
+    if (page) now.push_back(std::move(page));
+  }
+  pages_ = std::move(now);
+  return all;
+}
+
+void EmbeddedPages::place(const render::Scene& scene,
+                          const std::function<void(PageEngine&, const layout::Rect&)>& at) const {
+  for (const auto& page : pages_) {
+    if (!page->engine().isShown()) continue;
+    for (const render::Item& item : scene.items) {
+      if (pageOf(item) != page->content()) continue;
+      at(page->engine(), std::get<render::EmbedItem>(item).room());
+      break;
+    }
+  }
+}
+
+void EmbeddedPages::sendOutside(const render::Scene& scene) {
+  for (const render::Item& item : scene.items) {
+    const WebContent* content = pageOf(item);
+    if (content && content->url()) uikit::URLOpener::openOutside(*content->url());
+  }
+}
+
+bool EmbeddedPages::takes(Key key, bool tries) {
+  return std::any_of(pages_.begin(), pages_.end(),
+                     [&](const auto& page) { return page->takes(key, tries); });
+}
+
+std::vector<PageEngine*> EmbeddedPages::shown() const {
+  std::vector<PageEngine*> all;
+  for (const auto& page : pages_) {
+    if (page->engine().isShown()) all.push_back(&page->engine());
+  }
+  return all;
+}
+
+}  // namespace quorix::hosting

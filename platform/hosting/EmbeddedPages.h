@@ -1,0 +1,103 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "platform/foundation/Export.h"
+#include "platform/hosting/Input.h"
+#include "platform/hosting/PageEngine.h"
+#include "platform/render/Scene.h"
+#include "platform/webkit/WebContent.h"
+
+namespace quorix::hosting {
+
+/// The web content of an embed with the engine that shows it: loads what the content loads, passes
+/// on what the page asks for, and limits the time of both. Main thread.
+class EmbeddedPage final : private PageEngine::Client {
+ public:
+  /// Shows the page. Both are called outside the engine's own calls.
+  class Owner {
+   public:
+    /// Null where no engine can show a page.
+    virtual std::unique_ptr<PageEngine> openPage(const render::EmbedItem& embed,
+                                                 PageEngine::Client& client) = 0;
+    /// A key that closes was left to a page that hangs.
+    virtual void pageHangs() = 0;
+    /// The page shows nothing any more, and takes no keys.
+    virtual void pageEnded() = 0;
+
+   protected:
+    ~Owner() = default;
+  };
+
+  /// Null where the engine cannot show it. `owner` outlives the page.
+  static std::unique_ptr<EmbeddedPage> open(const render::EmbedItem& embed, Owner& owner);
+  ~EmbeddedPage();
+  EmbeddedPage(const EmbeddedPage&) = delete;
+  EmbeddedPage& operator=(const EmbeddedPage&) = delete;
+
+  const render::Embed* content() const { return content_.get(); }
+  PageEngine& engine() const { return *engine_; }
+
+  /// Takes a key that the page left over and that leads back or forward. False when it is another,
+  /// or leads nowhere. `tries` only asks.
+  bool takes(Key key, bool tries);
+
+ private:
+  /// Runs out when it is not stopped in time.
+  using Limit = std::shared_ptr<std::function<void()>>;
+
+  EmbeddedPage(std::shared_ptr<webkit::WebContent> content, Owner& owner)
+      : content_(std::move(content)), owner_(owner) {}
+
+  static void start(Limit& limit, std::chrono::milliseconds after, std::function<void()> work);
+  void later(std::function<void()> work);
+  void expectAnswer(std::function<void()> then);
+
+  void windowAsked(const std::optional<foundation::URL>& address, bool byUser) override;
+  void loading(int percent) override;
+  void loadEnded() override { standstill_.reset(); }
+  void loadFailed() override;
+  void processEnded() override;
+  void closingKeyGiven() override { expectAnswer({}); }
+  void answered() override;
+
+  std::shared_ptr<webkit::WebContent> content_;
+  Owner& owner_;
+  std::shared_ptr<EmbeddedPage*> alive_ = std::make_shared<EmbeddedPage*>(this);
+  std::chrono::milliseconds patience_ = foundation::URLRequest::defaultTimeout;  ///< of a load
+  Limit standstill_;   ///< since the load last moved on
+  bool came_ = false;  ///< something of the load
+  Limit silence_;      ///< since the page was asked
+  std::function<void()> onAnswer_;
+  std::unique_ptr<PageEngine> engine_;
+};
+
+/// The live pages of one scene. Main thread.
+class EmbeddedPages {
+ public:
+  explicit EmbeddedPages(EmbeddedPage::Owner& owner) : owner_(owner) {}
+
+  static bool hasPages(const render::Scene& scene);
+  /// Opens what is new in `scene` and closes what is no longer there. False when a page did not
+  /// come up.
+  bool follow(const render::Scene& scene);
+  /// Tells where each page stands in `scene`, from the bottom up, which is also the order of the
+  /// keyboard focus.
+  void place(const render::Scene& scene,
+             const std::function<void(PageEngine&, const layout::Rect&)>& at) const;
+  /// Opens the addresses of the pages in `scene` outside the app.
+  static void sendOutside(const render::Scene& scene);
+
+  bool takes(Key key, bool tries = false);
+  /// From the bottom up.
+  std::vector<PageEngine*> shown() const;
+
+ private:
+  EmbeddedPage::Owner& owner_;
+  std::vector<std::unique_ptr<EmbeddedPage>> pages_;
+};
+
+}  // namespace quorix::hosting

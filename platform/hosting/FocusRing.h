@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/graphics/RGBA.h"
+#include "platform/layout/Geometry.h"
+
+namespace quorix::hosting {
+
+/// The ring around the element that has the keyboard focus. Points.
+struct FocusRing {
+  static constexpr double gap = 2;  ///< between the element and the ring
+  static constexpr double width = 2;
+  static constexpr double radius = 5;  ///< of the middle of its line
+
+  /// The ring's frame: its line is just inside.
+  static layout::Rect around(const layout::Rect& element) {
+    constexpr double outset = gap + width;
+    return {{element.left() - outset, element.top() - outset},
+            {element.size.width + 2 * outset, element.size.height + 2 * outset}};
+  }
+
+  /// Contrasts by more than 5:1 with a white page, or a black one; the usual demand is 3:1.
+  static constexpr graphics::RGBA color(graphics::Appearance appearance) {
+    return appearance == graphics::Appearance::dark ? graphics::RGBA{0x8a, 0xb4, 0xf8, 255}
+                                                    : graphics::RGBA{0x0b, 0x57, 0xd0, 255};
+  }
+};
+
+}  // namespace quorix::hosting

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstdint>
+
+#include "platform/layout/Geometry.h"
+
+namespace quorix::hosting {
+
+/// What a pointer did on a surface.
+struct PointerEvent {
+  enum class Phase : std::uint8_t { pressed, moved, released };
+  static constexpr int mouse = -1;
+
+  Phase phase;
+  layout::Point point;  ///< from the surface's top left
+  double time = 0;      ///< milliseconds; only differences count
+  int pointer = mouse;  ///< the mouse, or the number of a finger
+};
+
+/// A key by what it means to a view, a sheet or a page.
+enum class Key : std::uint8_t {
+  other,
+  activate,     ///< Enter, Space: a tap on the focused element
+  next,         ///< Tab
+  previous,     ///< Shift and Tab
+  escape,       ///< closes a sheet
+  back,         ///< a phone's Back key: the page's way back, or else closes a sheet
+  pageBack,     ///< Alt and Left
+  pageForward,  ///< Alt and Right
+};
+
+struct KeyEvent {
+  Key key;
+  bool repeated = false;  ///< the key is held down
+};
+
+}  // namespace quorix::hosting

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <optional>
+
+#include "platform/swiftui/Environment.h"
+
+namespace quorix::hosting {
+
+/// The settings of a view, as its sheet takes them over.
+struct Settings {
+  swiftui::Environment environment;
+  bool motion = true;  ///< sheets rise and fall
+};
+
+/// What the host chose for one view. Absent values follow the desktop.
+struct HostSettings {
+  std::optional<graphics::Appearance> appearance;
+  std::optional<layout::LayoutDirection> direction;
+  std::optional<bool> motion;
+  swiftui::ContentSizeCategory textSize = swiftui::ContentSizeCategory::large;
+
+  swiftui::Environment over(swiftui::Environment desktop) const {
+    desktop.appearance = appearance.value_or(desktop.appearance);
+    desktop.direction = direction.value_or(desktop.direction);
+    desktop.textSize = textSize;
+    return desktop;
+  }
+};
+
+}  // namespace quorix::hosting

@@ -1,0 +1,225 @@
+#include "platform/hosting/SheetSession.h"
+
+#include <utility>
+
+#include "platform/hosting/WindowSession.h"
+
+namespace quorix::hosting {
+
+SheetSession::SheetSession(WindowSession& window, text::TextEngine& engine)
+    : window_(&window), presenter_(engine, *this) {
+  window.sheets_.push_back(this);
+}
+
+SheetSession::~SheetSession() { leaveWindow(); }
+
+bool SheetSession::isTopmost() const { return window_ && window_->topmost() == this; }
+
+void SheetSession::setSettings(const Settings& settings) {
+  settings_ = settings;
+  followScale();
+  presenter_.setMotion(settings_.motion);
+  if (SheetSession* above = sheet()) above->setSettings(settings_);
+}
+
+void SheetSession::followScale() {
+  settings_.environment.scale = scale();
+  presenter_.setEnvironment(settings_.environment);
+}
+
+// Coming and going.
+
+void SheetSession::present(const swiftui::Presentation& presentation) {
+  gaveUpPages_ = false;
+  presenter_.present(presentation);
+  if (std::exchange(presented_, true)) return;
+  coverChanged();
+  focusReturn_ = focusReturn();
+  comeUp();
+  takeFocus();
+  focusMoved(false);
+  if (EmbeddedPages::hasPages(presenter_.panel()) && !canShowPages()) giveUpPages();
+}
+
+SheetSession* SheetSession::makeSheet() {
+  return window_ ? &window_->makeSheet(this, settings_) : nullptr;
+}
+
+void SheetSession::close() {
+  if (leaveWindow()) leave();
+}
+
+/// Leaves on a later turn: the window may be on its way out, which permits no change of focus.
+void SheetSession::abandon() {
+  if (!leaveWindow()) return;
+  abandonSheet();
+  stopClock();
+  later([this] { leave(); });
+}
+
+/// False when it was closed before.
+bool SheetSession::leaveWindow() {
+  if (window_) std::erase(window_->sheets_, this);
+  window_ = nullptr;
+  return !std::exchange(closed_, true);
+}
+
+void SheetSession::leave() {
+  stopClock();
+  closeSheet();  // first, since it returns the focus to this one
+  coverChanged();
+  if (holdsFocus() && !(focusReturn_ && focusReturn_())) dropFocus();
+  vanish();
+}
+
+bool SheetSession::followMotion() {
+  if (presenter_.isMoving()) {
+    if (settings_.motion) {
+      startClock();
+    } else {
+      presenter_.advance(0);
+    }
+  }
+  return !closed_;
+}
+
+void SheetSession::focusWentBelow() {
+  if (presented_ && isTopmost()) takeFocus();
+}
+
+// Pages.
+
+void SheetSession::wasShown() {
+  if (std::exchange(shown_, true) || closed_) return;
+  needsFrame();
+}
+
+void SheetSession::followPages() {
+  if (!shown_ || closed_ || gaveUpPages_) return;
+  if (pagesRevision_ != presenter_.panelRevision()) {
+    pagesRevision_ = presenter_.panelRevision();
+    if (!pages_.follow(presenter_.panel())) return giveUpPages();
+  }
+  const layout::Point corner = presenter_.panelFrame().origin;
+  int index = 0;
+  pages_.place(presenter_.panel(), [&](PageEngine& page, const layout::Rect& room) {
+    placePage(page, room.translated(corner), index++);
+  });
+}
+
+/// At most once for each presentation: the sheet may still be falling when its next frame comes.
+void SheetSession::giveUpPages() {
+  gaveUpPages_ = true;
+  EmbeddedPages::sendOutside(presenter_.panel());
+  presenter_.dismiss();
+}
+
+void SheetSession::pageTookFocus() {
+  presenter_.dropFocus();
+  focusMoved(false);
+}
+
+void SheetSession::pageEnded() {
+  takeFocusFromPages();
+  focusMoved(false);
+}
+
+void SheetSession::leavePages(bool forward) {
+  takeFocusFromPages();
+  walk(forward);
+}
+
+std::vector<PageEngine*> SheetSession::pages() const { return pages_.shown(); }
+
+/// Moves the focus to the first page, or backward to the last. False when there is none.
+bool SheetSession::enterPages(bool forward) {
+  const auto shown = pages();
+  if (shown.empty()) return false;
+  focusPage(forward ? *shown.front() : *shown.back(), forward);
+  return true;
+}
+
+// Pointer.
+
+void SheetSession::track(const PointerEvent& event) {
+  velocity_.add(event.point.y, event.time * 1e-3);
+}
+
+bool SheetSession::pointerPressed(const PointerEvent& event) {
+  takeFocusFromPages();
+  velocity_.reset();
+  track(event);
+  presenter_.pointerPressed(event.point);
+  return true;
+}
+
+bool SheetSession::pointerMoved(const PointerEvent& event) {
+  track(event);
+  presenter_.pointerMoved(event.point);
+  return true;
+}
+
+void SheetSession::pointerReleased(const PointerEvent& event) {
+  track(event);
+  presenter_.pointerReleased(event.point, velocity_.velocity());
+}
+
+bool SheetSession::takesTapAt(layout::Point point) {
+  return presenter_.scene().hitTest(point) != nullptr;
+}
+
+// Keyboard.
+
+bool SheetSession::takes(Key key) {
+  if (pages_.takes(key, true)) return true;
+  return key != Key::other && key != Key::pageBack && key != Key::pageForward;
+}
+
+bool SheetSession::handle(const KeyEvent& event) {
+  if (pages_.takes(event.key)) return true;
+  switch (event.key) {
+    case Key::escape:
+    case Key::back:
+      presenter_.dismiss();
+      return true;
+    case Key::next:
+    case Key::previous:
+      walk(event.key == Key::next);
+      return true;
+    case Key::activate:
+      if (!event.repeated) presenter_.activateFocus();
+      return true;
+    case Key::pageBack:
+    case Key::pageForward:
+    case Key::other:
+      return false;
+  }
+  return false;
+}
+
+void SheetSession::walk(bool forward) {
+  // After the last element come the pages; without a page yet, the first element again.
+  if (!presenter_.moveFocus(forward) && !enterPages(forward)) presenter_.moveFocus(forward);
+  focusMoved(false);
+}
+
+// Accessibility.
+
+const std::vector<render::AccessibilityElement>& SheetSession::elements() {
+  return presenter_.scene().accessibility;
+}
+
+bool SheetSession::focusElement(int index) {
+  focusMoved(true);
+  return presenter_.focus(index);
+}
+
+std::optional<layout::Rect> SheetSession::focusFrame() const {
+  return hasFocus() ? presenter_.focusFrame() : std::nullopt;
+}
+
+std::optional<layout::Rect> SheetSession::ringFrame() const {
+  return hasFocus() ? presenter_.ringFrame() : std::nullopt;
+}
+
+}  // namespace quorix::hosting

@@ -1,0 +1,124 @@
+#include "platform/hosting/ViewSession.h"
+
+#include <utility>
+
+#include "platform/hosting/SheetSession.h"
+#include "platform/hosting/WindowSession.h"
+
+namespace quorix::hosting {
+
+void ViewSession::replaceView(swiftui::View view) {
+  const bool focused = focusFrame().has_value();
+  host_.setRoot(std::move(view));
+  contentChanged();
+  if (!focused) return;
+  host_.scene(size());  // makes the new elements
+  focus_.renewed();
+}
+
+void ViewSession::settingsChanged() {
+  host_.setEnvironment(environment());
+  if (SheetSession* open = sheet()) open->setSettings(settings());
+  contentChanged();
+}
+
+void ViewSession::enterWindow() {
+  if (host_.presentation()) followSheet();
+}
+
+SheetSession* ViewSession::makeSheet() {
+  WindowSession* in = window();
+  return in ? &in->makeSheet(this, settings()) : nullptr;
+}
+
+/// Controllers that the view presents from now on belong over this window.
+void ViewSession::used() {
+  if (WindowSession* in = window()) in->used(*this, settings());
+}
+
+// Pointer.
+
+bool ViewSession::pointerPressed(const PointerEvent& event) {
+  if (!host_.pointerPressed(event.point)) return false;
+  used();
+  if (event.pointer != PointerEvent::mouse) return true;
+  takeFocusByPress();
+  focus_.hideRing();
+  needsFrame();
+  return true;
+}
+
+/// Acts on a later turn: the toolkit may still work with the surface that it told of the release,
+/// and the action may delete it.
+void ViewSession::pointerReleased(const PointerEvent& event) {
+  if (const auto action = host_.endPress(event.point)) later([action] { action(); });
+}
+
+bool ViewSession::takesTapAt(layout::Point point) {
+  return host_.scene(size()).hitTest(point) != nullptr;
+}
+
+// Keyboard.
+
+bool ViewSession::handle(const KeyEvent& event) {
+  if (event.key != Key::activate || !host_.focusFrame()) return false;
+  if (event.repeated) return true;
+  used();
+  host_.activateFocus();
+  return true;
+}
+
+bool ViewSession::walk(bool forward) {
+  const bool inside = focus_.walk(forward);
+  needsFrame();
+  if (inside) focusMoved(false);
+  return inside;
+}
+
+void ViewSession::focusCame(ViewFocus::Cause cause) {
+  host_.scene(size());  // makes the elements to focus
+  focus_.came(cause);
+  // A closing sheet may return the focus to a view that became empty.
+  if (cause == ViewFocus::Cause::interruption && host_.actingElements() == 0) leaveFocus();
+  needsFrame();
+  if (host_.focusFrame()) focusMoved(true);
+}
+
+void ViewSession::focusLeft(ViewFocus::Cause cause) {
+  focus_.left(cause);
+  needsFrame();
+}
+
+void ViewSession::leaveFocus() {
+  later([this] {
+    if (hasFocus() && host_.actingElements() == 0) giveFocusOn();
+  });
+}
+
+// Accessibility.
+
+const std::vector<render::AccessibilityElement>& ViewSession::elements() {
+  return host_.scene(size()).accessibility;
+}
+
+void ViewSession::activate(int index) {
+  used();
+  host_.activate(index);
+}
+
+bool ViewSession::focusElement(int index) {
+  host_.scene(size());  // makes the elements that the index counts
+  needsFrame();
+  if (hasFocus()) focusMoved(true);
+  return host_.focus(index);
+}
+
+std::optional<layout::Rect> ViewSession::focusFrame() const {
+  return hasFocus() ? host_.focusFrame() : std::nullopt;
+}
+
+std::optional<layout::Rect> ViewSession::ringFrame() const {
+  return hasFocus() ? focus_.ring() : std::nullopt;
+}
+
+}  // namespace quorix::hosting

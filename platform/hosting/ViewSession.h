@@ -1,0 +1,82 @@
+#pragma once
+
+#include "platform/foundation/Export.h"
+#include "platform/hosting/Responder.h"
+#include "platform/hosting/ViewFocus.h"
+#include "platform/hosting/ViewHost.h"
+
+namespace quorix::hosting {
+
+class WindowSession;
+
+/// A view in a window: settings, input, focus and its sheet. A toolkit's surface derives from this
+/// and gives it a size, a place and paint. Main thread.
+class QUORIX_EXPORT ViewSession : public Responder, private ViewHost::Client {
+ public:
+  ViewHost& host() { return host_; }
+
+  /// Shows another view, which starts with fresh states. The focus moves to its first element.
+  void replaceView(swiftui::View view);
+  /// The settings, the desktop's or the window's scale changed.
+  void settingsChanged();
+
+  bool handle(const KeyEvent& event) override;
+  using Responder::handle;
+  bool takesTapAt(layout::Point point) override;
+
+  void focusCame(ViewFocus::Cause cause);
+  void focusLeft(ViewFocus::Cause cause);
+  /// Moves the focus by keyboard. False after the last element: the focus leaves the view.
+  bool walk(bool forward);
+
+  const std::vector<render::AccessibilityElement>& elements() override;
+  void activate(int index) override;
+  bool focusElement(int index) override;
+  std::optional<layout::Rect> focusFrame() const override;
+  std::optional<layout::Rect> ringFrame() const override;
+
+ protected:
+  explicit ViewSession(text::TextEngine& engine) : host_(engine, *this), focus_(host_) {}
+
+  /// The view came to another window, or to none: its sheet leaves the one before.
+  void leaveWindow() { abandonSheet(); }
+  /// The view is in a window, which can show its sheet.
+  void enterWindow();
+  /// If no element acts any more, the focus leaves the view on a later turn.
+  void leaveFocus();
+
+ private:
+  virtual swiftui::Environment environment() const = 0;
+  virtual bool allowsMotion() const = 0;
+  virtual layout::Size size() const = 0;
+  virtual bool hasFocus() const = 0;
+  /// An element took a press.
+  virtual void takeFocusByPress() = 0;
+  /// Moves the focus to the next in the tab order. May delete the surface.
+  virtual void giveFocusOn() = 0;
+  /// The focus or its ring moved: paint a frame.
+  virtual void needsFrame() = 0;
+  /// The view or its settings changed: its size may have, too.
+  virtual void contentChanged() = 0;
+  /// The focused element changed: tell assistive technology, now or once the toolkit has told of
+  /// the view as a whole.
+  virtual void focusMoved(bool later) = 0;
+  /// Null without a window.
+  virtual WindowSession* window() = 0;
+
+  void presentationChanged() override { followSheet(); }
+  void settleContent() override { host_.settle(); }
+  const swiftui::Presentation* presentation() override { return host_.presentation(); }
+  SheetSession* makeSheet() override;
+
+  bool pointerPressed(const PointerEvent& event) override;
+  void pointerReleased(const PointerEvent& event) override;
+  void pointerCancelled() override { host_.pointerCancelled(); }
+  void used();
+  Settings settings() const { return {environment(), allowsMotion()}; }
+
+  ViewHost host_;
+  ViewFocus focus_;
+};
+
+}  // namespace quorix::hosting

@@ -1,0 +1,108 @@
+#include "platform/hosting/WindowSession.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/foundation/MainQueue.h"
+#include "platform/hosting/ControllerPresentation.h"
+#include "platform/hosting/SheetSession.h"
+#include "platform/uikit/UIApplication.h"
+
+namespace quorix::hosting {
+namespace {
+
+using ActivationState = uikit::UIScene::ActivationState;
+using Controller = std::shared_ptr<uikit::UIViewController>;
+
+std::vector<WindowSession*>& sessions() {
+  static std::vector<WindowSession*> all;
+  return all;
+}
+
+}  // namespace
+
+WindowSession::WindowSession() {
+  window_->setRootViewController(std::make_shared<uikit::UIViewController>());
+  window_->setClient(this);
+  window_->setHidden(false);
+  scene_->addWindow(window_);
+  uikit::UIApplication::shared().connect(scene_);
+  sessions().push_back(this);
+}
+
+WindowSession::~WindowSession() {
+  for (SheetSession* sheet : sheets_) sheet->window_ = nullptr;
+  std::erase(sessions(), this);
+  window_->setClient(nullptr);
+  window_->resignKey();
+  uikit::UIApplication::shared().disconnect(scene_);
+}
+
+SheetSession& WindowSession::makeSheet(const Responder* opener, const Settings& settings) {
+  SheetSession& sheet = newSheet(opener);
+  sheet.setSettings(settings);
+  return sheet;
+}
+
+// Activation: of several windows in sight, the one that the user works in is active.
+
+void WindowSession::used(Responder& responder, const Settings& settings) {
+  used_ = responder.weak();
+  settings_ = settings;
+  becameKey();  // also where no window manager gives the focus to any window
+}
+
+void WindowSession::becameKey() {
+  window_->makeKey();
+  for (WindowSession* session : sessions()) session->updateActivation();
+}
+
+void WindowSession::visibilityChanged() { updateActivation(); }
+
+void WindowSession::updateActivation() {
+  const auto inSight = window_->isKeyWindow() ? ActivationState::foregroundActive
+                                              : ActivationState::foregroundInactive;
+  scene_->setActivationState(isVisible() ? inSight : ActivationState::background);
+}
+
+// Presented controllers.
+
+/// Shows them on a later turn, since the caller may be at work.
+void WindowSession::presentedControllersChanged(uikit::UIWindow&, bool animated) {
+  animated_ = animated;
+  if (showQueued_) return;
+  showQueued_ = std::make_shared<WindowSession*>(this);
+  foundation::MainQueue::async([self = std::weak_ptr(showQueued_)] {
+    if (const auto queued = self.lock()) (*queued)->showPresented();
+  });
+}
+
+void WindowSession::showPresented() {
+  showQueued_.reset();
+  const auto presented = window_->presentedControllers();
+  std::vector<Shown> before = std::exchange(shown_, {});
+  for (const Controller& controller : presented) {
+    const auto known = std::find_if(before.begin(), before.end(), [&](const Shown& shown) {
+      return shown.controller == controller && !shown.sheet.expired();
+    });
+    if (known == before.end()) {
+      show(controller);
+    } else {
+      shown_.push_back(std::exchange(*known, {}));
+    }
+  }
+  for (auto gone = before.rbegin(); gone != before.rend(); ++gone) {
+    if (const auto sheet = gone->sheet.lock()) static_cast<SheetSession*>(*sheet)->retract();
+  }
+}
+
+void WindowSession::show(const Controller& controller) {
+  const auto opener = used_.lock();
+  Settings settings = settings_;
+  settings.motion = settings.motion && animated_;
+  SheetSession& sheet = makeSheet(opener ? *opener : nullptr, settings);
+  sheet.present(controllerPresentation(controller));
+  shown_.push_back({controller, sheet.weak()});
+}
+
+}  // namespace quorix::hosting

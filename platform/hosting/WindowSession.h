@@ -1,0 +1,63 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "platform/foundation/Export.h"
+#include "platform/hosting/Responder.h"
+#include "platform/uikit/UIScene.h"
+#include "platform/uikit/UIWindow.h"
+
+namespace quorix::hosting {
+
+/// A window of a toolkit with the sheets over it. For imperative views it is a scene with one
+/// window, whose root controller stands for the host's own screen; controllers that are presented
+/// over it are shown as sheets. Main thread.
+class QUORIX_EXPORT WindowSession : private uikit::UIWindow::Client {
+ public:
+  WindowSession();
+  ~WindowSession() override;
+  WindowSession(const WindowSession&) = delete;
+  WindowSession& operator=(const WindowSession&) = delete;
+
+  /// The user works with `responder`, which has these settings.
+  void used(Responder& responder, const Settings& settings);
+  /// The window got the keyboard focus.
+  void becameKey();
+  /// The window came into sight or went out of it.
+  void visibilityChanged();
+
+  /// A new sheet above `opener` (null: above the window) and over the whole window.
+  SheetSession& makeSheet(const Responder* opener, const Settings& settings);
+  /// The sheet that takes the input; null without one.
+  SheetSession* topmost() const { return sheets_.empty() ? nullptr : sheets_.back(); }
+
+ private:
+  friend class SheetSession;
+
+  virtual bool isVisible() const = 0;
+  /// Makes the toolkit's sheet, which deletes itself after `vanish`.
+  virtual SheetSession& newSheet(const Responder* opener) = 0;
+
+  /// A controller on its sheet.
+  struct Shown {
+    std::shared_ptr<uikit::UIViewController> controller;
+    std::weak_ptr<Responder*> sheet;
+  };
+
+  void presentedControllersChanged(uikit::UIWindow& window, bool animated) override;
+  void showPresented();
+  void show(const std::shared_ptr<uikit::UIViewController>& controller);
+  void updateActivation();
+
+  std::shared_ptr<uikit::UIWindow> window_ = std::make_shared<uikit::UIWindow>();
+  std::shared_ptr<uikit::UIWindowScene> scene_ = std::make_shared<uikit::UIWindowScene>();
+  std::weak_ptr<Responder*> used_;
+  Settings settings_;                  ///< of the latest responder in use
+  std::vector<SheetSession*> sheets_;  ///< those presented and open, from the bottom up
+  std::vector<Shown> shown_;           ///< from the bottom up
+  bool animated_ = true;
+  std::shared_ptr<WindowSession*> showQueued_;  ///< while a turn is on its way
+};
+
+}  // namespace quorix::hosting
