@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "platform/foundation/Export.h"
+#include "platform/graphics/RGBA.h"
 #include "platform/render/Scene.h"
 #include "platform/swiftui/Environment.h"
 #include "platform/swiftui/View.h"
@@ -22,6 +23,8 @@ struct StillOptions {
   /// Opens the sheet behind the view's first element that acts, and shows it risen over the window,
   /// at whose top the view stands.
   bool sheet = false;
+  /// Behind the view. Without it white in the light appearance and black in the dark one.
+  std::optional<graphics::RGBA> background;
 };
 
 /// A view laid out once, without a window: what a picture shows, and what a screen reader reads

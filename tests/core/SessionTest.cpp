@@ -169,6 +169,7 @@ class PageWindow final : public testing::TestText, public hosting::ViewWindow {
       : ViewWindow(text, {{}, false}, testing::PageRow{[this] { return content; }}, {320, 640}) {
     content->settings.allowsBackForwardNavigationGestures = true;
     content->onProcessEnded = [this] { ++ends; };
+    content->onLoadFailed = [this] { ++failures; };
     content->load({foundation::URL::parse("https://modules.quorix.example/page").value()});
     MainQueue::install({}, [this](auto, MainQueue::Work work) { timers.push_back(work); });
   }
@@ -199,6 +200,7 @@ class PageWindow final : public testing::TestText, public hosting::ViewWindow {
   FakeEngine* engine = nullptr;
   bool hasEngine = true;
   int ends = 0;
+  int failures = 0;
 
  private:
   bool showsPages() const override { return true; }
@@ -247,10 +249,19 @@ TEST(SessionPage, HasLimitedTime) {
   for (const bool ends : {true, false}) {
     PageWindow window;
     window.open();
-    for (const bool goesOn : {true, true, !ends}) window.engine->client.loading(goesOn);
+    window.engine->client.loading(0);
+    window.engine->client.loading(30);
+    if (ends) window.engine->client.loadEnded();
     window.wait();
     EXPECT_EQ(window.engine->log, ends ? "load " : "load stop ");
+    EXPECT_EQ(window.failures, 0) << "what has come stays";
   }
+  PageWindow window;
+  window.open();
+  window.engine->client.loading(0);
+  window.wait();
+  window.settle();
+  EXPECT_EQ(window.failures, 1);
 }
 
 TEST(SessionPage, ThatEndsTellsItsContentOutsideTheEnginesCall) {
