@@ -7,7 +7,7 @@ else()
   target_compile_options(quorix_warnings INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wconversion
     -Wno-sign-conversion
-    # The files that share a compiler run know each other's local names.
+    # Files that are compiled as one see each other's local names.
     $<$<BOOL:${CMAKE_UNITY_BUILD}>:-Wno-shadow>
     # GCC 12 reports these two inside the standard library's own variant and string.
     $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>

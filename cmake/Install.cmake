@@ -1,5 +1,5 @@
-# What `cmake --install` puts where, by component: core, qt, qml, web, tool and dev. Everything that is
-# installed finds its own by where it stands, so that the folder may be moved.
+# What `cmake --install` puts where, by component: core, qt, qml, web, tool and dev. Installed files find
+# each other by relative paths, so that the folder may be moved.
 
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)

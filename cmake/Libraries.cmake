@@ -38,7 +38,7 @@ function(quorix_library target name)
   if(NOT BUILD_SHARED_LIBS)
     target_compile_definitions(${target} PUBLIC QUORIX_STATIC)
   elseif(UNIX AND NOT APPLE AND NOT QUORIX_SANITIZE)
-    # Templates of the standard library are visible by its own word; the script keeps them in.
+    # The standard library marks its templates visible; the linker script hides them.
     set(script ${PROJECT_SOURCE_DIR}/cmake/symbols.map)
     target_link_options(${target} PRIVATE LINKER:--no-undefined LINKER:--version-script=${script})
     set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${script})

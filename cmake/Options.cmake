@@ -20,7 +20,7 @@ set(QUORIX_WEB AUTO CACHE STRING
 set_property(CACHE QUORIX_WEB PROPERTY STRINGS AUTO ON OFF)
 set(QUORIX_SANITIZE "" CACHE STRING "Sanitizers for the whole tree, e.g. address,undefined")
 
-# A host that has variables of such a name itself is told, and not stopped.
+# A host may have variables of such a name itself, so it gets a warning.
 set(quorix_unknown WARNING)
 if(PROJECT_IS_TOP_LEVEL)
   set(quorix_unknown FATAL_ERROR)

@@ -3,7 +3,7 @@
 # may set it, and the preset "demo" does; other presets compile each file alone, which shows an include
 # that is missing.
 
-# Files whose local names another file has, too.
+# Files with local names that another file has as well.
 set(quorix_compiled_alone
   examples/shop/pictures/WidgetPictures.cpp
   examples/shop/pictures/WindowPictures.cpp

@@ -1,6 +1,6 @@
 # The web engine, for each toolkit a library of its own that is loaded when the first page is to be
-# shown. They are installed into a folder "quorix" beside the other libraries; what else may hold them is
-# said at WebComponentLoader.
+# shown. They are installed into a folder "quorix" beside the other libraries; WebComponentLoader.h lists
+# the other folders.
 if(NOT QUORIX_WEB)
   message(STATUS "QUORIX_WEB is off: overlays open their pages outside the app")
   return()

@@ -21,6 +21,9 @@ namespace quorix::qt {
 /// result is null when the size is empty, not finite, or more than an image can hold. With `sheet`,
 /// a view without a sheet is drawn as it stands.
 ///
+///     #include <QuorixWidgets/score/ScoreWidgetBuilder.h>
+///     auto row = quorix::ScoreWidgetBuilder::buildSwiftUIScoreWidgetView(
+///         "my-shop", "en", shopperToken, {std::nullopt, std::nullopt});
 ///     quorix::qt::PictureOptions options;
 ///     options.width = 343;
 ///     options.environment.scale = 3;

@@ -13,7 +13,7 @@ namespace quorix {
 
 /// A shopper's return statistics from the widget service.
 ///
-///     auto reading = UserDetails::decode(body);
+///     const auto reading = UserDetails::decode(answer);
 ///     if (auto* details = std::get_if<UserDetails>(&reading)) details->returnPercentile;
 struct QUORIX_EXPORT UserDetails {
   double returnRate;        ///< A fraction.
@@ -37,7 +37,11 @@ struct QUORIX_EXPORT UserDetails {
   static Reading decode(std::string_view bytes);
   /// The same from the object `container`, which may be any part of a document.
   ///
-  ///     if (const auto shopper = answer.member("shopper")) UserDetails::decode(*shopper);
+  ///     foundation::JSONDocument document;
+  ///     const auto read = document.parse(answer);
+  ///     const auto* whole = std::get_if<foundation::JSONValue>(&read);
+  ///     const auto shopper = whole ? whole->member("shopper") : std::nullopt;
+  ///     if (shopper) UserDetails::decode(*shopper);
   static Reading decode(const foundation::JSONValue& container);
 
   bool operator==(const UserDetails&) const = default;

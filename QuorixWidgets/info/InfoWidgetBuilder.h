@@ -20,9 +20,10 @@ struct QUORIX_EXPORT InfoWidgetBuilder {
 
   /// The declarative widget. A tap anywhere on it opens the page in a sheet.
   ///
+  ///     #include <qt/quick/ViewItem.h>
   ///     auto view = InfoWidgetBuilder::buildSwiftUIInfoWidgetView(
   ///         "en", {std::nullopt, std::nullopt, std::nullopt, true});
-  ///     item->setView(view);  // a quorix::qt::ViewItem, or any other surface
+  ///     new qt::ViewItem(view, productPage);  // or any other surface
   static swiftui::View buildSwiftUIInfoWidgetView(std::string_view locale,
                                                   const InfoWidgetStyle& style);
 
@@ -30,10 +31,12 @@ struct QUORIX_EXPORT InfoWidgetBuilder {
   /// uses the faces of `style` only: its background is the library's own and it has no border.
   /// Never null.
   ///
+  ///     #include <platform/swiftui/UIViewRepresentable.h>
   ///     auto widget = InfoWidgetBuilder::buildUIKitInfoWidgetView(
   ///         "en", {"OpenSans-Regular", "OpenSans-SemiBold", std::nullopt, false});
-  ///     parent->addSubview(widget);                // in a view of the imperative toolkit, or
-  ///     item->setView(swiftui::hosting(widget));  // on any surface
+  ///     new qt::ViewItem(swiftui::hosting(widget), productPage);  // or any other surface, or
+  ///     auto parent = std::make_shared<uikit::UIView>();
+  ///     parent->addSubview(widget);  // in a view of the imperative toolkit
   static std::shared_ptr<uikit::UIView> buildUIKitInfoWidgetView(std::string_view locale,
                                                                  const InfoWidgetStyle& style);
 };

@@ -17,6 +17,7 @@ namespace quorix {
 /// has registered itself is used instead of the library's. If the library was built without the
 /// face, the process stops with "Failed to register font: ...". Any thread.
 ///
+///     #include <QuorixWidgets/localization/Font.h>
 ///     auto title = Font::Quorix::relative(QuorixFont::medium(), 16, swiftui::TextStyle::headline);
 class QUORIX_EXPORT QuorixFont {
  public:

@@ -14,7 +14,8 @@ inline constexpr std::string_view kResourceBundleIdentifier = "example.quorix.Qu
 /// faces replace the library's. Null removes the theme. Main thread, before the first widget is
 /// made: colors, faces and symbols that have been read are kept.
 ///
-///     setTheme(Bundle::open("/usr/share/shop/theme"));  // holds Assets.xcassets/Grey1.colorset
+///     // The folder holds Assets.xcassets/Grey1.colorset, for example.
+///     setTheme(foundation::Bundle::open("/usr/share/shop/theme"));
 QUORIX_EXPORT void setTheme(foundation::Bundle::Ref theme);
 
 /// The library's resource bundle by its identifier, looked up at each call; null if the host has

@@ -10,8 +10,9 @@ namespace quorix {
 /// A handle on a face of the Tova brand's family, for a host's own styles. Registered as described
 /// for `QuorixFont`; Qt finds it as `QFont("Tova Sans Latin")`. Any thread.
 ///
-///     style.regularFont = TovaFont::regular().name();
-///     style.semiBoldFont = "TovaSansLatin-SemiBold";  // registered along with the regular face
+///     #include <QuorixWidgets/score/ScoreWidgetStyle.h>
+///     // The semi-bold face is registered along with the regular one.
+///     ScoreWidgetStyle style{TovaFont::regular().name(), "TovaSansLatin-SemiBold"};
 class QUORIX_EXPORT TovaFont {
  public:
   /// "TovaSansLatin-Regular". Also registers "TovaSansLatin-SemiBold", which is used by its name.

@@ -12,6 +12,8 @@ namespace quorix {
 /// The library's faces as fonts of the imperative toolkit. Sizes are in points and do not scale.
 /// Never null: reading the handle has registered its face. Any thread.
 ///
+///     #include <platform/uikit/UILabel.h>
+///     auto label = std::make_shared<uikit::UILabel>();
 ///     label->setFont(UIFont::Quorix::fixed(QuorixFont::regular(), 13));
 struct UIFont : uikit::UIFont {
   UIFont() = delete;

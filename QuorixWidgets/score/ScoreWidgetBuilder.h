@@ -21,7 +21,7 @@ struct QUORIX_EXPORT ScoreWidgetBuilder {
   /// not fit 64 bits (a score of 1e18). No error is reported.
   ///
   ///     auto row = ScoreWidgetBuilder::buildSwiftUIScoreWidgetView(
-  ///         "my-shop", "en", token, {std::nullopt, std::nullopt});
+  ///         "my-shop", "en", shopperToken, {std::nullopt, std::nullopt});
   static swiftui::View buildSwiftUIScoreWidgetView(std::string_view clientId,
                                                    std::string_view locale, std::string_view token,
                                                    const ScoreWidgetStyle& style);

@@ -16,8 +16,8 @@
 
 namespace quorix::examples {
 
-/// The shop without a face: what the demo bar offers and is set to, what follows from that, which
-/// page is open and what is in the bag. The faces show it and write to it, so that two of them
+/// The shop's model: what the demo bar offers and is set to, what follows from that, which page is
+/// open and what is in the bag. The user interfaces show it and write to it, so that two of them
 /// agree. Main thread; needs the application object.
 class Shop : public QObject {
   Q_OBJECT
@@ -32,7 +32,7 @@ class Shop : public QObject {
   Q_PROPERTY(int appearance READ appearanceIndex WRITE chooseAppearance NOTIFY changed)
   Q_PROPERTY(int face READ faceIndex WRITE chooseFace NOTIFY changed)
 
-  // What the choices come to.
+  // What follows from the choices.
   Q_PROPERTY(QString clientId READ clientId CONSTANT)
   Q_PROPERTY(QString token READ token NOTIFY changed)
   Q_PROPERTY(QString locale READ locale NOTIFY changed)
@@ -47,7 +47,7 @@ class Shop : public QObject {
 
   Q_PROPERTY(QString size READ size WRITE chooseSize NOTIFY changed)
   Q_PROPERTY(bool bagOpen READ bagOpen WRITE openBag NOTIFY changed)
-  /// What the demo has to say for itself, for a while.
+  /// A note of the demo's own, shown for a while.
   Q_PROPERTY(QString note READ note NOTIFY changed)
   Q_PROPERTY(int bagCount READ bagCount NOTIFY changed)
   /// { size, count, price } each.
@@ -102,7 +102,7 @@ class Shop : public QObject {
   void openBag(bool open);
 
   QString note() const { return note_; }
-  /// `address` was opened outside the app. Nobody is there: the demo says so.
+  /// Shows a note that `address` was opened outside the app: no server answers there.
   void leaveFor(const QString& address);
 
   const Bag& bag() const { return bag_; }
@@ -113,7 +113,7 @@ class Shop : public QObject {
   /// Puts a piece of the chosen size into the bag and says so.
   Q_INVOKABLE void addToBag();
   Q_INVOKABLE void takeOut(const QString& size);
-  /// Fills the bag, which says nothing.
+  /// Fills the bag without a confirmation.
   void fillBag(const Bag& bag);
 
  signals:

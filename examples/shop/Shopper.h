@@ -16,7 +16,7 @@ struct Shopper {
   /// What `count` pieces cost.
   QString priceOf(int count) const;
 
-  /// Everybody whom the demo knows, each with a token as the widget service would issue it.
+  /// The demo's shoppers, each with a token as the widget service would issue it.
   static const std::vector<Shopper>& all();
 };
 

@@ -57,8 +57,8 @@ StandInServices::StandInServices(std::chrono::milliseconds delay)
           })) {}
 
 void StandInServices::whenAnswered(std::function<void()> then) {
-  // The session answers in order and so does the main queue: what comes back from one more request
-  // comes after everything that was asked before. The last turn lets views take in the answers.
+  // The session and the main queue answer in order: when one more request completes, so have all
+  // before it. The last turn lets views read the answers.
   MainQueue::async([then = std::move(then)] {
     URLSession::shared().get(serviceAddress(), [then](const URLResponse&) {
       MainQueue::async([then] { MainQueue::async(then); });

@@ -16,8 +16,8 @@ class StandInServices {
   /// Each answer takes `delay`.
   explicit StandInServices(std::chrono::milliseconds delay);
 
-  /// Runs `then` on the main thread once whatever is on its way to the service, or about to be
-  /// sent on the main queue's next turn, has been answered and the answers were taken in.
+  /// Runs `then` on the main thread after all requests that are under way, or start on the main
+  /// queue's next turn, have been answered and the views have read the answers.
   static void whenAnswered(std::function<void()> then);
 
  private:

@@ -44,7 +44,7 @@ void prepare() {
   quorix::qt::installEngine();
 }
 
-/// What the web engine wants to find before there is an application object.
+/// Settings that the web engine reads before the application object is made.
 void makeReadyForPages() {
   QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
 #ifdef Q_OS_LINUX
@@ -62,7 +62,7 @@ int writePictures(int argc, char** argv, const std::string& folder) {
   return Pictures(QString::fromStdString(folder)).write() ? 0 : 1;
 }
 
-/// The shop with all that answers for it, and its window.
+/// The shop, its stand-in services and its window.
 struct OpenShop {
   explicit OpenShop(const ShopOptions& options) { shop.chooseLanguage(options.language); }
 
@@ -81,7 +81,7 @@ int openQuick(int argc, char** argv, const ShopOptions& options) {
   return QGuiApplication::exec();
 }
 
-/// Both faces beside each other, showing one shop.
+/// The windows of both toolkits beside each other, showing one shop.
 int openBoth(int argc, char** argv, const ShopOptions& options) {
   const QApplication app(argc, argv);
   prepare();

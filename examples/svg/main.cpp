@@ -31,7 +31,7 @@ constexpr std::string_view kToken =
     "_CgKMvOVq5BAg43l_78kN7nb0vBMVh5Z2jyzaAXW2cQ";
 constexpr graphics::RGBA kPaper{255, 255, 255, 255};
 
-/// A picture is made once, so nobody waits for notices.
+/// The picture is made once, so notices of changes are ignored.
 struct StillSurface final : hosting::ViewHost::Client {
   void viewNeedsDisplay() override {}
   void presentationChanged() override {}

@@ -12,7 +12,8 @@ namespace quorix::foundation {
 /// A callable that its copies share: copying allocates no memory. Runs on the thread that calls
 /// it.
 ///
-///     const Action close = [binding] { binding.set(false); };
+///     auto open = std::make_shared<bool>(true);
+///     const Action close = [open] { *open = false; };
 ///     if (close) close();
 class Action {
  public:

@@ -19,7 +19,7 @@ namespace quorix::foundation {
 ///
 ///     Bundle::registerBundle("com.example.shop", Bundle::open("/path/to/resources"));
 ///     auto table =
-///     Bundle::withIdentifier("com.example.shop")->data("en.lproj/Localizable.strings");
+///         Bundle::withIdentifier("com.example.shop")->data("en.lproj/Localizable.strings");
 class QUORIX_EXPORT Bundle {
  public:
   using Ref = std::shared_ptr<const Bundle>;
@@ -49,6 +49,7 @@ class QUORIX_EXPORT Bundle {
   /// A bundle of `files` by their paths, such as files that are compiled into the host's program
   /// or that it generates.
   ///
+  ///     static constexpr std::string_view table = "\"%@ %@\" = \"%2$@ is your %1$@\";";
   ///     Bundle::setMain(Bundle::of({{"en.lproj/Localizable.strings", Data::permanent(table)}}));
   static Ref of(std::map<std::string, Data> files);
   /// The folder at `path` (UTF-8) on disk, or null when there is none. Each access reads the file

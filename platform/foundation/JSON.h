@@ -47,7 +47,7 @@ class QUORIX_EXPORT JSONValue {
 /// a small text without allocating. One thread at a time.
 ///
 ///     JSONDocument document;
-///     const auto read = document.parse(bytes);
+///     const auto read = document.parse(answer);
 ///     if (const auto* value = std::get_if<JSONValue>(&read)) value->member("name");
 class QUORIX_EXPORT JSONDocument {
  public:

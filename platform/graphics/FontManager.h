@@ -16,7 +16,7 @@ namespace quorix::graphics {
 
 /// The faces that the process has added to those of the system, until it ends. Any thread.
 ///
-///     auto font = GraphicsFont::fromData(data);
+///     auto font = GraphicsFont::fromData(foundation::Data(fontFile));
 ///     bool added = font && FontManager::shared().registerGraphicsFont(*font);
 class QUORIX_EXPORT FontManager {
  public:

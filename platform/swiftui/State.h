@@ -46,6 +46,7 @@ class Binding {
 /// View-local storage with an identity that survives re-evaluation of the body. The view names its
 /// states in `states()`, so that the graph can hand each its storage before it asks for the body:
 ///
+///     #include <platform/swiftui/View.h>
 ///     struct Counter {
 ///       State<int> count{0};
 ///       auto states() const { return std::tie(count); }

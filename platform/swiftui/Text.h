@@ -14,13 +14,13 @@ namespace quorix::swiftui {
 /// the host's main bundle (`Bundle::setMain`), in the user's language, and formatted with its
 /// arguments. A key with no entry is its own format.
 ///
-///     Text::localized("%@ %@", {title, fee})  // reads "Your return fee €4.00"
+///     Text row = Text::localized("%@ %@", {"Your return fee", "€4.00"});
 ///
 /// A text carries looks of its own, which win over those that reach down to it, and of several for
 /// the same thing the first one written wins. Texts add up to one, whose parts keep their looks:
 ///
-///     Text::verbatim("Return within ") + Text::verbatim("30
-///     days").fontWeight(FontWeight::semibold)
+///     Text terms = Text::verbatim("Return within ") +
+///                  Text::verbatim("30 days").fontWeight(FontWeight::semibold);
 class QUORIX_EXPORT Text {
  public:
   static Text verbatim(std::string_view text) { return Text(std::string(text), {}, false); }

@@ -13,10 +13,12 @@ namespace quorix::swiftui {
 /// A value that makes a view of the imperative toolkit for one place in a tree. With
 /// `updateUIView(view)` it also hands later values on: that runs at each evaluation.
 ///
-///     struct Gauge {
-///       static constexpr std::string_view typeName = "Gauge";
-///       std::shared_ptr<GaugeView> makeUIView() const;
-///       void updateUIView(GaugeView& view) const;
+///     #include <platform/uikit/UILabel.h>
+///     struct Days {
+///       static constexpr std::string_view typeName = "Days";
+///       int count;
+///       auto makeUIView() const { return std::make_shared<uikit::UILabel>(); }
+///       void updateUIView(uikit::UILabel& label) const { label.setText(std::to_string(count)); }
 ///     };
 template <class R>
 concept UIViewRepresentable = requires(const R& value) {
@@ -45,7 +47,7 @@ View represent(R value) {
 /// Shows `view` itself, so that every surface that shows a declarative view can show an imperative
 /// one. In one place at a time. A null view shows nothing.
 ///
-///     item->setView(swiftui::hosting(InfoWidgetBuilder::buildUIKitInfoWidgetView("en", style)));
+///     View label = hosting(std::make_shared<uikit::UILabel>());
 QUORIX_EXPORT View hosting(std::shared_ptr<uikit::UIView> view);
 
 }  // namespace quorix::swiftui

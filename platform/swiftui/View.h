@@ -38,8 +38,9 @@ concept ViewModifier = requires(const M& modifier, View content) {
 /// the view and return the wrapped one; of modifiers that reach down (font, color, text case,
 /// underline, strikethrough) the innermost wins. Main thread.
 ///
+///     #include <platform/swiftui/Elements.h>
 ///     View row = HStack(layout::VerticalAlignment::center, 12,
-///                       {Text::verbatim("Fee"), Spacer(), Text::verbatim(fee)});
+///                       {Text::verbatim("Fee"), Spacer(), Text::verbatim("€4.00")});
 ///     View padded = row.padding(16);
 class QUORIX_EXPORT View {
  public:

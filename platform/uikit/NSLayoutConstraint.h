@@ -49,8 +49,11 @@ struct QUORIX_EXPORT NSLayoutConstraint {
 
 /// One edge or length of a view, from which constraints are made.
 ///
-///     NSLayoutConstraint::activate({label->topAnchor().equalTo(view->topAnchor(), 16),
-///                                   image->widthAnchor().equalTo(48)});
+///     #include <platform/uikit/UIView.h>
+///     auto box = std::make_shared<UIView>(), inner = std::make_shared<UIView>();
+///     box->addSubview(inner);
+///     NSLayoutConstraint::activate({inner->topAnchor().equalTo(box->topAnchor(), 16),
+///                                   inner->widthAnchor().equalTo(48)});
 class NSLayoutAnchor {
  public:
   NSLayoutAnchor(std::weak_ptr<UIView> view, LayoutAttribute attribute)

@@ -8,8 +8,11 @@ namespace quorix::uikit {
 /// Calls a target when the view that it was added to is tapped. Holds the target weakly and does
 /// not call it once it is gone. Main thread.
 ///
-///     label->addGestureRecognizer(std::make_shared<UITapGestureRecognizer>(
-///         widget, [](Widget& widget, UITapGestureRecognizer&) { widget.open(); }));
+///     #include <platform/uikit/UIView.h>
+///     auto box = std::make_shared<UIView>();
+///     auto open = std::make_shared<bool>(false);
+///     box->addGestureRecognizer(std::make_shared<UITapGestureRecognizer>(
+///         open, [](bool& open, UITapGestureRecognizer&) { open = true; }));
 class UITapGestureRecognizer {
  public:
   template <class Target, class Action>

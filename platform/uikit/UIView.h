@@ -27,7 +27,7 @@ enum class UIAccessibilityTraits : std::uint8_t { none, button, link, header };
 ///
 ///     auto box = std::make_shared<UIView>();
 ///     box->setBackgroundColor(UIColor::fixed({255, 255, 255, 255}));
-///     box->addSubview(label);
+///     box->addSubview(std::make_shared<UIView>(layout::Rect{{8, 8}, {40, 40}}));
 class QUORIX_EXPORT UIView : public std::enable_shared_from_this<UIView> {
  public:
   explicit UIView(layout::Rect frame = {});

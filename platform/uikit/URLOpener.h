@@ -10,8 +10,11 @@ namespace quorix::uikit {
 /// The port to the system's handler of addresses: the browser for a page, the telephone for a
 /// number. The engine installs one; a host or a test may install another after it. Main thread.
 ///
-///     URLOpener::install(std::make_shared<MyOpener>());
-///     const bool handedOver = URLOpener::openOutside(url);
+///     struct Browser final : URLOpener {
+///       void open(const foundation::URL& url) override { puts(url.absoluteString().c_str()); }
+///     };
+///     URLOpener::install(std::make_shared<Browser>());
+///     URLOpener::openOutside(*foundation::URL::parse("https://shop.example/"));
 class QUORIX_EXPORT URLOpener {
  public:
   virtual ~URLOpener() = default;

@@ -18,8 +18,11 @@ class ViewSurface;
 /// a text. It is painted only where it can be seen and only when something changed. Sheets of the
 /// view open over the window that the item is in. Main thread.
 ///
-///     auto* row = new qt::ViewItem(ScoreWidgetBuilder::buildSwiftUIScoreWidgetView(...), page);
-///     row->setWidth(page->width());
+///     #include <QuorixWidgets/score/ScoreWidgetBuilder.h>
+///     auto view = quorix::ScoreWidgetBuilder::buildSwiftUIScoreWidgetView(
+///         "my-shop", "en", shopperToken, {std::nullopt, std::nullopt});
+///     auto* row = new quorix::qt::ViewItem(view, productPage);
+///     row->setWidth(productPage->width());
 class QUORIX_EXPORT ViewItem : public QQuickItem, public ViewSettings {
   Q_OBJECT
 

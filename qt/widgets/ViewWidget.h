@@ -19,8 +19,10 @@ class WidgetSurface;
 /// It has no background, and is painted only when something changed. Sheets of the view open over
 /// the whole window that the widget is in. Main thread.
 ///
-///     auto* row = new qt::ViewWidget(ScoreWidgetBuilder::buildSwiftUIScoreWidgetView(...));
-///     page->layout()->addWidget(row);
+///     #include <QuorixWidgets/score/ScoreWidgetBuilder.h>
+///     auto view = quorix::ScoreWidgetBuilder::buildSwiftUIScoreWidgetView(
+///         "my-shop", "en", shopperToken, {std::nullopt, std::nullopt});
+///     page->layout()->addWidget(new quorix::qt::ViewWidget(view));
 class QUORIX_EXPORT ViewWidget : public QWidget, public ViewSettings {
   Q_OBJECT
 

@@ -22,7 +22,7 @@ constexpr auto kMalformed = static_cast<std::int64_t>(JSONDocument::ErrorCode::m
 constexpr auto kTooDeep = static_cast<std::int64_t>(JSONDocument::ErrorCode::tooDeep);
 
 TEST(JSON, RefusesWhatIsMalformed) {
-  // Each stands where nobody looks at it: as an element of an array and as a member of an object.
+  // Each is in a place that the reader skips: an element of an array and a member of an object.
   for (const std::string& value : readLines("json/values")) {
     EXPECT_EQ(errorCode("[0," + value + ",2]"), kMalformed) << value;
     EXPECT_EQ(errorCode(R"({"a":0,"b":)" + value + R"(,"c":{}})"), kMalformed) << value;

@@ -76,7 +76,7 @@ TEST(LocalizableTables, AreCompleteInEveryLanguage) {
                                        "it", "ja", "nb", "nl", "nn", "pl", "pt", "sv"}));
 }
 
-/// The neighbours of the link are joined without a blank of anybody's own.
+/// The texts beside the link are joined without an additional blank.
 TEST(LocalizableTables, ThePersonalLineIsSpacedByItsTexts) {
   const auto line = [](const char* locale) {
     return localized("widget-title-start", locale) +

@@ -206,7 +206,7 @@ TEST(UIApplication, FindsTheKeyWindow) {
       {"none active, background", {{background, {key}}}, Place{0, 0}},
       {"none active, no key", {{background, {plain}}, {unattached, {high}}}, {}},
   };
-  // A scene of another kind is passed over wherever it stands.
+  // Scenes of another kind are skipped, at any place in the list.
   const auto other = std::make_shared<uikit::UIScene>();
   other->setActivationState(active);
   uikit::UIApplication::shared().connect(other);

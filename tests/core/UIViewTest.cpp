@@ -149,7 +149,7 @@ TEST(Representable, IsMadeOnceAndToldOfLaterValues) {
   window.host->updateRoot(swiftui::represent(Counter{2, &made}));
   EXPECT_EQ(window.element("2").label, "2");
   ASSERT_EQ(made.size(), 1u);
-  // A change from outside shows too, without another evaluation's help.
+  // A change from outside shows without another evaluation.
   const int before = window.displays;
   std::static_pointer_cast<UILabel>(made.front().lock())->setAccessibilityLabel("two");
   EXPECT_EQ(window.displays, before + 1);

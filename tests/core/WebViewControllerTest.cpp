@@ -73,7 +73,7 @@ TEST(WebViewController, NewWindowsLeaveTheApp) {
   page->askForWindow(std::nullopt, true);
   EXPECT_EQ(opened.list(), std::vector<std::string>{"https://shop.example/terms"});
 
-  // The page may outlive its controller in an engine, and asks nobody then.
+  // The engine may keep the page after its controller is destroyed; its requests then do nothing.
   const std::weak_ptr<WebViewController> watched = overlay;
   overlay.reset();
   EXPECT_TRUE(watched.expired()) << "the web view keeps nobody";

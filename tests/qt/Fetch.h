@@ -18,8 +18,8 @@ struct Outcome {
   std::thread::id thread;  ///< on which it completed
 };
 
-/// One request. The main thread stands still while it waits: nothing may need its event loop. A
-/// second completion would end the process: the promise is kept already.
+/// One request. The main thread blocks while it waits, so nothing may need its event loop. A second
+/// completion would end the process, because the promise is set already.
 class Fetch {
  public:
   Fetch(foundation::URLTransport& transport, const std::string& address) {

@@ -15,7 +15,7 @@ class QEventLoop;
 
 namespace quorix::testing {
 
-/// What goes over the wire in answer to one request, and how badly.
+/// The bytes that answer one request, and how the server misbehaves while it sends them.
 struct Answer {
   std::string bytes;             ///< from the status line on
   std::size_t piece = SIZE_MAX;  ///< so many bytes at a time, about a millisecond apart
@@ -26,7 +26,7 @@ struct Answer {
 /// A well-formed answer. `headers` are whole lines; the length is added.
 std::string httpAnswer(int status, std::string_view body, std::string_view headers = {});
 
-/// Not a byte, and no end either.
+/// Sends nothing and never closes the connection.
 inline Answer silence() { return {}; }
 
 /// An HTTP server on 127.0.0.1, on a thread of its own, that answers as it is told. Any thread may

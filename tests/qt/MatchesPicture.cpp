@@ -8,9 +8,9 @@
 namespace quorix::testing {
 namespace {
 
-/// Of 255: a smaller difference of a channel is none.
+/// Smaller differences of a channel, of 255, are ignored.
 constexpr int kChannelTolerance = 24;
-/// Of the pixels: so many may differ.
+/// The share of the pixels that may differ.
 constexpr double kShareTolerance = 0.0015;
 
 /// Marks what differs in `difference` and counts it.

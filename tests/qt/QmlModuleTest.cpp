@@ -96,7 +96,7 @@ TEST_F(QmlModule, IsMadeOnceForAllThatChangesInOneGo) {
   row->setProperty("textSize", qml::WidgetItem::Small);
   screen.settle();
   EXPECT_EQ(made(), 0);
-  // What shows nothing and is hidden for it comes back by itself.
+  // An item that is hidden because it shows nothing appears once it has something to show.
   for (const bool shown : {false, true}) {
     row->setProperty("token", shown ? tokenOf(100) : "unreadable");
     screen.settle();

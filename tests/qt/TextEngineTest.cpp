@@ -61,8 +61,8 @@ TEST(TextEngine, NarrowerIsNeverLowerAndBreaksTheSameWhenPainted) {
       const bool holdsAnyLetter = width > 60;
       if (!holdsAnyLetter) continue;
       EXPECT_LE(metrics.size.width, width);
-      // What is painted in a frame of the measured width has the lines that were measured. An
-      // engine of its own answers, so that nothing comes out of the first one's memory.
+      // What is painted in a frame of the measured width has the lines that were measured. A second
+      // engine answers, so that no result comes from the first one's cache.
       QtTextEngine painting;
       const auto& painted = painting.shape(text, metrics.size.width);
       EXPECT_EQ(painted.metrics, metrics) << width;

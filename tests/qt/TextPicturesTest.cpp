@@ -98,8 +98,7 @@ TEST(TextPictures, LookAsTheTextDrawnAnew) {
   }
 }
 
-/// The most that is kept is not passed on: texts without end neither grow it nor get each other's
-/// pictures.
+/// The cache keeps to its bound: any number of texts neither exceeds it nor gets a wrong picture.
 TEST(TextPictures, KeepTheLatestOnly) {
   TextPictures pictures;
   int made = 0;

@@ -83,7 +83,7 @@ TEST(ConcurrentUrlSessionDeathTest, EndsWithTheApplicationAndBeginsAnewWithTheNe
   std::exit(passed ? 0 : 1);
 }
 
-// A protocol that never returns in time: it is left behind, and stays out of what comes after.
+// A protocol that does not return in time is abandoned, and its late answer is ignored.
 TEST(ConcurrentUrlSessionDeathTest, EndsInSpiteOfAProtocolThatBlocks) {
   GTEST_FLAG_SET(death_test_style, "threadsafe");
   EXPECT_EXIT(endWithABlockedProtocol(), ::testing::ExitedWithCode(0), "");

@@ -166,7 +166,7 @@ TEST_F(ConcurrentUrlSession, KeepsToASecureConnection) {
   server.serve("/table", {httpAnswer(200, kTable)});
   server.serve("/enter", redirect(secure.base() + "/table"));
 
-  // Of another server, because Qt keeps to what it once found of one.
+  // Uses another server, because Qt remembers what a server supports.
   const LoopbackServer untrusted(LoopbackServer::Scheme::https);
   EXPECT_EQ(errorOf(untrusted.base() + "/table"), QNetworkReply::SslHandshakeFailedError);
   const auto before = QSslConfiguration::defaultConfiguration();

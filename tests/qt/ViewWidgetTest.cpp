@@ -160,7 +160,7 @@ TEST(ViewWidget, WorksOncePerChangeAndOnlyWhileItsWindowShowsIt) {
 TEST(ViewWidgetScale, LooksOnItsPageAsThePictureAtThatScale) {
   WidgetScreen screen;
   screen.host().setPalette(Qt::white);
-  // A light face, whose letters Qt draws otherwise on a page than on nothing.
+  // A light face: Qt draws its letters differently on an opaque page than on a clear one.
   const View row =
       View(Text::verbatim("Return fee")).font(Font::Quorix::fixed(QuorixFont::regular(), 14));
   // An odd place falls between two device pixels at one and a half.

@@ -25,7 +25,7 @@ QImage onPaper(QSize size, const std::function<void(QPainter&)>& draw) {
   QPainter painter(&image);
   draw(painter);
   painter.end();
-  // Text on a screen stands on whole pixels, and in a file where it falls: a hair's breadth apart.
+  // Scaled down, because text on a screen is aligned to whole pixels and text in a file is not.
   return image.scaled(size / 4, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 

@@ -23,5 +23,5 @@ class Tool {
   QTemporaryDir folder_;
 };
 
-/// Whether `text` is one line that says who speaks.
+/// Whether `text` is one line that begins with the tool's name.
 bool isOneErrorLine(const std::string& text);

@@ -5,7 +5,7 @@
 
 namespace quorix::testing {
 
-/// Notes what anybody logs, and keeps it from the log.
+/// Records every message and keeps it out of the log.
 class LogListener {
  public:
   LogListener() : before_(qInstallMessageHandler(note)) { lines().clear(); }

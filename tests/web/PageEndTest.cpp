@@ -18,7 +18,7 @@ namespace {
 
 template <class Screen>
 struct PageEnd : PageTest<Screen> {
-  /// Leads the keyboard's focus into a page that hangs from now on.
+  /// Moves the keyboard's focus into a page, which hangs from then on.
   void openHanging() {
     this->openBlue("<input onfocus=\"tell('in'); setTimeout(() => { while (true); }, 50)\">");
     pages().forgetRequests("/report");

@@ -102,7 +102,7 @@ std::vector<Request> requests() {
   };
 }
 
-/// Notes what the engine hands to the desktop behind our back.
+/// Records the addresses that the engine passes to the desktop without asking us.
 class Desktop : public QObject {
   Q_OBJECT
 

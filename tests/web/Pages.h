@@ -7,7 +7,7 @@ namespace quorix::testing {
 constexpr const char* kModules = "https://modules.quorix.example";
 constexpr const char* kWidget = "https://widget.quorix.example";
 
-/// The process's one server: the engine keeps to the first that it was told of.
+/// One server for the whole process: the engine reads its address once.
 examples::StandInPages& pages();
 
 /// A page of one colour that says that it is painted by asking for /here. `script` runs before. It

@@ -113,11 +113,11 @@ std::string zshCase(const Command& command) {
   for (const Option& option : command.options) {
     std::string help = described(option);
     std::erase_if(help, [](char c) { return c == '[' || c == ']'; });
-    std::string spec(option.name);
-    if (!option.value.empty()) spec += '=';
-    spec += '[' + help + ']';
-    if (!option.value.empty()) spec += zshValue(option.value, option);
-    text += " \\\n        " + quoted(spec);
+    std::string entry(option.name);
+    if (!option.value.empty()) entry += '=';
+    entry += '[' + help + ']';
+    if (!option.value.empty()) entry += zshValue(option.value, option);
+    text += " \\\n        " + quoted(entry);
   }
   if (!command.operand.name.empty()) {
     text += " \\\n        " + quoted('1' + zshValue("argument", command.operand));
@@ -169,7 +169,7 @@ std::string fish() {
 Outcome completion(const Arguments& arguments) {
   const std::string& shell = *arguments.operand();
   const std::string head = "# How a shell completes the command lines of quorix.\n";
-  // The first line of zsh's has a meaning.
+  // zsh reads the first line, so no comment goes above it.
   if (shell == "zsh") return zsh();
   return head + (shell == "bash" ? bash() : fish());
 }

@@ -26,7 +26,7 @@ std::variant<std::string, Failure> registeredFile(const std::string& path) {
   if (!font) return Failure::refused(path + " is not a font file with one named face");
   const std::string& name = font->postScriptName();
   if (FontManager::shared().registerGraphicsFont(*font)) return name;
-  // Given for both faces, a file meets itself.
+  // The same file may be given for both faces.
   if (FontManager::shared().data(name) == font->data()) return name;
   return Failure::refused(path + ": there is a face named \"" + name +
                           "\" already; give that name to use it");
@@ -36,7 +36,7 @@ std::variant<std::string, Failure> registeredFile(const std::string& path) {
 
 std::variant<std::string, Failure> usableFace(const std::string& nameOrFile) {
   qt::QtFonts::installSystemLookup();
-  // The library's own faces come first, lest a file be drawn in their place.
+  // Registers the library's own faces first, so that no file takes their names.
   QuorixFont::regular();
   QuorixFont::medium();
   if (looksLikeFile(QString::fromStdString(nameOrFile))) return registeredFile(nameOrFile);

@@ -6,7 +6,7 @@
 namespace quorix::tool {
 
 /// Why a command did not do what was asked: one line for the standard error stream, the status that
-/// the process ends with, and what stands on the standard output all the same.
+/// the process ends with, and what is printed on the standard output nevertheless.
 struct Failure {
   static constexpr int refusedStatus = 1;
   static constexpr int usageStatus = 2;

@@ -43,7 +43,7 @@ std::string listed(std::span<const std::string_view> names) {
 std::string didYouMean(std::string_view word, std::span<const std::string_view> names) {
   constexpr std::size_t shortestBeginning = 3;
   std::string_view nearest;
-  // Of two letters, any two codes are alike.
+  // Codes of two letters are too similar to suggest one for another.
   std::size_t least =
       word.size() < shortestBeginning ? 1 : std::max<std::size_t>(1, word.size() / 3) + 1;
   for (const std::string_view name : names) {

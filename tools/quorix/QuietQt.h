@@ -3,7 +3,7 @@
 namespace quorix::tool {
 
 /// Keeps Qt's own remarks off the terminal; what stops Qt (a platform plug-in that is not there)
-/// ends the tool in its own manner, in one line. Before the application object is made.
+/// ends the tool with one line. Before the application object is made.
 void keepQtQuiet();
 
 }  // namespace quorix::tool

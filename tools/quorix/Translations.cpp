@@ -21,7 +21,8 @@ using foundation::URL;
 using foundation::URLResponse;
 using foundation::URLSession;
 
-/// The library's reader has refused the document and knows no lines; Qt's finds where.
+/// Where the error is: the library's reader refused the document and counts no lines, so Qt's reads
+/// it again.
 std::string lineOfError(const std::string& document) {
   QJsonParseError error;
   QJsonDocument::fromJson(QByteArray::fromStdString(document), &error);
@@ -105,8 +106,8 @@ bool fetchTranslations(const swiftui::View& view, const std::optional<std::strin
   host.setOnScreen(true);
   host.sizeThatFits({});  // evaluates the view, which hands its task to the main queue
 
-  // The session answers in order and so does the main queue: when a second request that was made
-  // behind the view's own has come all the way back, so has the first.
+  // The session and the main queue answer in order: when a second request completes, so has the
+  // view's own.
   QEventLoop loop;
   MainQueue::async([&] {
     URLSession::shared().get(*fence,

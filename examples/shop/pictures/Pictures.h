@@ -5,8 +5,8 @@
 
 namespace quorix::examples {
 
-/// The demo's scenes as PNG files: widgets and sheets on their own, and the shop in both its faces
-/// with them in place. Main thread; needs the application object, the engine and the services.
+/// The demo's scenes as PNG files: widgets and sheets on their own, and in the shop, in both
+/// toolkits. Main thread; needs the application object, the engine and the services.
 class Pictures {
  public:
   explicit Pictures(QString folder) : folder_(std::move(folder)) {}

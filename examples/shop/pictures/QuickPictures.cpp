@@ -57,8 +57,7 @@ void press(QQuickWindow& window, Qt::Key key) {
   }
 }
 
-/// A first frame finds out what is to be seen and how large it is; what follows from that is in
-/// the next one.
+/// The first frame measures what is visible; what depends on that is in the second.
 QImage frameOf(QQuickWindow& window) {
   settle();
   window.grabWindow();

@@ -10,7 +10,7 @@ namespace quorix::examples {
 
 struct ShopScene;
 
-/// Pictures of the shop's Qt Quick face. Main thread.
+/// Pictures of the shop in Qt Quick. Main thread.
 class QuickPictures {
  public:
   /// `shop` lives longer.

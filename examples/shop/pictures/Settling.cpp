@@ -10,7 +10,7 @@
 namespace quorix::examples {
 namespace {
 
-/// Whether the lower half shows more than a ground.
+/// Whether the lower half shows more than a plain background.
 bool hasContent(const QImage& frame) {
   const QImage half = frame.copy(0, frame.height() / 2, frame.width(), frame.height() / 2 - 2);
   QImage plain(half.size(), half.format());

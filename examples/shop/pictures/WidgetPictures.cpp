@@ -77,7 +77,7 @@ swiftui::View widgetOf(const Scene& scene) {
   }
 }
 
-/// A widget fetches its language's words while it is on screen. Afterwards it has them.
+/// A widget fetches its language's texts while it is on screen, and keeps them.
 void letSpeak(const swiftui::View& widget) {
   QQuickWindow screen;
   new qt::ViewItem(widget, screen.contentItem());

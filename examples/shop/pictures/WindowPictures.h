@@ -10,7 +10,7 @@ namespace quorix::examples {
 
 struct ShopScene;
 
-/// Pictures of the shop's Qt Widgets face. Main thread.
+/// Pictures of the shop in Qt Widgets. Main thread.
 class WindowPictures {
  public:
   /// `shop` lives longer.

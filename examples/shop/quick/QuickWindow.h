@@ -7,7 +7,7 @@ namespace quorix::examples {
 
 class Shop;
 
-/// The shop's Qt Quick face. Main thread; needs the application object.
+/// The shop in Qt Quick. Main thread; needs the application object.
 class QuickWindow {
  public:
   /// Shows `shop`, which lives longer.

@@ -6,7 +6,7 @@
 namespace quorix::examples {
 namespace {
 
-/// A drawing that has a name is a picture to who does not see it; one without is silent.
+/// A screen reader announces a drawing with a name as an image, and skips one without.
 QAccessibleInterface* describe(const QString&, QObject* object) {
   auto* art = qobject_cast<Art*>(object);
   if (!art || art->accessibleName().isEmpty()) return nullptr;

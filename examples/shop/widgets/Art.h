@@ -5,7 +5,7 @@
 
 namespace quorix::examples {
 
-/// A drawing on the ground that goods stand on, as large as fits.
+/// A drawing on the goods' background, as large as fits.
 class Art : public QWidget {
   Q_OBJECT
 

@@ -42,7 +42,7 @@ ChoiceBox::ChoiceBox(const QString& caption, const QStringList& values, QWidget*
 
 void ChoiceBox::hidePopup() {
   QComboBox::hidePopup();
-  // The list swallows the news that the pointer is elsewhere now.
+  // The open list keeps back the event that the pointer has left.
   setAttribute(Qt::WA_UnderMouse, rect().contains(mapFromGlobal(QCursor::pos())));
   update();
 }
@@ -65,7 +65,7 @@ void ChoiceBox::paintEvent(QPaintEvent*) {
   painter.drawText(QRect(10, 18, room, 19), Qt::AlignLeft | Qt::AlignVCenter, value);
 }
 
-// Turning the wheel over the bar would switch shoppers in passing.
+// Ignored: scrolling over the bar would switch shoppers.
 void ChoiceBox::wheelEvent(QWheelEvent* event) { event->ignore(); }
 
 }  // namespace quorix::examples

@@ -30,7 +30,7 @@ DemoBar::DemoBar(Shop& shop, QWidget* parent) : QWidget(parent) {
     connect(&shop, &Shop::changed, choice,
             [choice, &shop, chosen] { choice->setCurrentIndex((shop.*chosen)()); });
     grid->addWidget(choice, row, column);
-    // Who does not see the choice hears this before its value. It shows in the choice itself.
+    // A screen reader says this before the value. On screen it is part of the choice.
     auto* label = new QLabel(QLatin1String(caption), this);
     label->setBuddy(choice);
     label->hide();

@@ -6,9 +6,8 @@ namespace quorix::examples {
 
 class Shop;
 
-/// What the demo has to say for itself: the address that a page or a widget opened outside the
-/// app, where a real one would have gone to the browser. It floats over its parent and whatever
-/// is open there.
+/// A note of the demo's own: the address that a page or a widget opened outside the app, where a
+/// real one would have gone to the browser. It floats over its parent and all that is open there.
 class DemoNote : public QLabel {
   Q_OBJECT
 

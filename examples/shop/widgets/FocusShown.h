@@ -4,7 +4,7 @@
 
 namespace quorix::examples {
 
-/// Whether `widget` has the focus of somebody who uses the keyboard, and so wants to see it.
+/// Whether `widget` has the focus by keyboard, so that its ring is drawn.
 inline bool isFocusShown(const QWidget& widget) {
   return widget.hasFocus() && widget.window()->testAttribute(Qt::WA_KeyboardFocusChange);
 }

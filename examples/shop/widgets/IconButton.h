@@ -7,8 +7,8 @@ class QPainter;
 
 namespace quorix::examples {
 
-/// A drawing from the shop's art that acts, with a number at its corner when there is one. It has
-/// a variant for light grounds and one for dark ones. Its text is for those who don't see it.
+/// A drawing from the shop's art that acts, with a number at its corner when there is one. It has a
+/// variant for light backgrounds and one for dark ones. Its text is for screen readers.
 class IconButton : public QAbstractButton {
   Q_OBJECT
 

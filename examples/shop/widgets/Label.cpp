@@ -42,7 +42,7 @@ void Label::changeEvent(QEvent* event) {
   if (event->type() == QEvent::LayoutDirectionChange) align();
 }
 
-// By the page, not by the words: a price has none that are from right to left.
+// Follows the page's direction, not the text's: a price has no right-to-left letters.
 void Label::align() {
   setAlignment(Qt::AlignAbsolute | Qt::AlignVCenter |
                (isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft));

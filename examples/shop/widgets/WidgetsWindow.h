@@ -6,7 +6,7 @@ namespace quorix::examples {
 
 class Shop;
 
-/// The shop's Qt Widgets face. Main thread; needs a QApplication.
+/// The shop in Qt Widgets. Main thread; needs a QApplication.
 class WidgetsWindow : public QMainWindow {
   Q_OBJECT
 

@@ -25,7 +25,7 @@ struct Choice {
 
 enum class Widget : std::uint8_t { row, sheet, info, imperativeInfo, overlay };
 
-/// A language with a shopper who has long sums in it.
+/// A language, with a shopper whose fees are long in it.
 struct Language {
   layout::LayoutDirection direction;
   std::string_view currency;
@@ -112,7 +112,7 @@ struct Selection {
 /// The cells of `selection`: by language, then widget, and within them the rest in table order.
 std::vector<Cell> cells(const Selection& selection = {});
 
-/// A handful that shows the range, for those who look only once.
+/// A handful that shows the range.
 std::vector<Cell> showcase();
 
 }  // namespace quorix::gallery
