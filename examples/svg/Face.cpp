@@ -96,7 +96,11 @@ Face::Stroke Face::stroke(unsigned offset, unsigned thickness, Stroke otherwise)
 
 std::string Face::outline(hb_codepoint_t glyph) const {
   std::string path;
+#if HB_VERSION_ATLEAST(7, 0, 0)
+  hb_font_draw_glyph(shaper_.get(), glyph, pathWriter(), &path);
+#else
   hb_font_get_glyph_shape(shaper_.get(), glyph, pathWriter(), &path);
+#endif
   return path;
 }
 

@@ -48,9 +48,7 @@ Error describe(simdjson::error_code failure) {
 
 /// A scalar's token reaches to the next one; its own text ends before the white space.
 std::string_view trimmed(std::string_view token) {
-  const auto isSpace = [](char c) { return c == ' ' || c == '\n' || c == '\r' || c == '\t'; };
-  while (!token.empty() && isSpace(token.back())) token.remove_suffix(1);
-  return token;
+  return token.substr(0, token.find_last_not_of(" \n\r\t") + 1);
 }
 
 }  // namespace
@@ -129,7 +127,10 @@ simdjson::error_code JSONDocument::State::addObject(simdjson::ondemand::value& v
 }
 
 simdjson::error_code JSONDocument::State::read(std::string_view bytes) {
-  if (bytes.starts_with("\xEF\xBB\xBF")) bytes.remove_prefix(3);
+  constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+  if (bytes.starts_with(byteOrderMark)) bytes.remove_prefix(byteOrderMark.size());
+  // Newer versions of simdjson skip a mark themselves and would skip a second one.
+  if (bytes.starts_with(byteOrderMark)) return simdjson::TAPE_ERROR;
   nodes.clear();
   buffer.assign(bytes);
   buffer.append(simdjson::SIMDJSON_PADDING, '\0');
@@ -138,7 +139,11 @@ simdjson::error_code JSONDocument::State::read(std::string_view bytes) {
   const simdjson::padded_string_view padded(buffer.data(), bytes.size(), buffer.size());
   if (const auto failure = parser.iterate(padded).get(document)) return failure;
   if (const auto failure = document.get_value().get(root)) return failure;
-  if (const auto failure = add(root, {}, 0)) return failure;
+  if (const auto failure = add(root, {}, 0)) {
+    // A document that is not closed is malformed, however deep: older versions of simdjson read on.
+    const char closing = nodes.front().kind == Kind::array ? ']' : '}';
+    return trimmed(bytes).back() == closing ? failure : simdjson::INCOMPLETE_ARRAY_OR_OBJECT;
+  }
   return document.current_location().error() == simdjson::OUT_OF_BOUNDS
              ? simdjson::SUCCESS
              : simdjson::TRAILING_CONTENT;

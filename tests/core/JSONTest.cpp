@@ -38,7 +38,8 @@ TEST(JSON, BoundsNesting) {
   };
   EXPECT_EQ(errorCode(nested(600)), 0);
   EXPECT_EQ(errorCode(nested(601)), kTooDeep);
-  EXPECT_EQ(errorCode(std::string(1'000'000, '[')), kTooDeep);
+  EXPECT_EQ(errorCode(nested(1'000'000)), kTooDeep);
+  EXPECT_EQ(errorCode(std::string(1'000'000, '[')), kMalformed);
 }
 
 TEST(JSON, ReadsValues) {

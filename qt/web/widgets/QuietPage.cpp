@@ -7,10 +7,12 @@
 #include <QWebEngineFullScreenRequest>
 #include <QWebEngineLoadingInfo>
 #include <QWebEngineNewWindowRequest>
-#include <QWebEngineQuotaRequest>
 #include <QWebEngineRegisterProtocolHandlerRequest>
 #include <QWebEngineSettings>
 
+#if QT_VERSION < QT_VERSION_CHECK(6, 5, 0)
+#include <QWebEngineQuotaRequest>
+#endif
 #if QT_VERSION >= QT_VERSION_CHECK(6, 7, 0)
 #include <QWebEngineDesktopMediaRequest>
 #include <QWebEngineWebAuthUxRequest>
@@ -78,8 +80,6 @@ void QuietPage::refuseRequests() {
           [](QWebEngineFileSystemAccessRequest request) { request.reject(); });
   connect(this, &QWebEnginePage::fullScreenRequested, this,
           [](QWebEngineFullScreenRequest request) { request.reject(); });
-  connect(this, &QWebEnginePage::quotaRequested, this,
-          [](QWebEngineQuotaRequest request) { request.reject(); });
   connect(this, &QWebEnginePage::registerProtocolHandlerRequested, this,
           [](QWebEngineRegisterProtocolHandlerRequest request) { request.reject(); });
   connect(this, &QWebEnginePage::selectClientCertificate, this,
@@ -87,6 +87,10 @@ void QuietPage::refuseRequests() {
   const auto withoutName = [](auto&&, QAuthenticator* authenticator) { *authenticator = {}; };
   connect(this, &QWebEnginePage::authenticationRequired, this, withoutName);
   connect(this, &QWebEnginePage::proxyAuthenticationRequired, this, withoutName);
+#if QT_VERSION < QT_VERSION_CHECK(6, 5, 0)  // later versions refuse by themselves
+  connect(this, &QWebEnginePage::quotaRequested, this,
+          [](QWebEngineQuotaRequest request) { request.reject(); });
+#endif
 #if QT_VERSION >= QT_VERSION_CHECK(6, 7, 0)
   connect(this, &QWebEnginePage::desktopMediaRequested, this,
           [](const QWebEngineDesktopMediaRequest& request) { request.cancel(); });
