@@ -10,10 +10,14 @@
 
 namespace quorix::testing {
 
-/// What is made once in a process is tried in processes of their own.
+/// What is made once in a process is tried in processes of their own. Under an emulator a test
+/// cannot start its program anew; the environment then asks for a fork, and CTest starts each test
+/// by itself.
 class FreshProcessDeathTest : public ::testing::Test {
  protected:
-  FreshProcessDeathTest() { GTEST_FLAG_SET(death_test_style, "threadsafe"); }
+  FreshProcessDeathTest() {
+    if (!std::getenv("GTEST_DEATH_TEST_STYLE")) GTEST_FLAG_SET(death_test_style, "threadsafe");
+  }
 };
 
 #define EXPECT_IN_FRESH_PROCESS(condition) \

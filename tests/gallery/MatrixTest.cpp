@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <unicode/uvernum.h>
 
 #include <algorithm>
 
@@ -116,10 +117,11 @@ INSTANTIATE_TEST_SUITE_P(Matrix, EveryScreen, ::testing::Values("en", "es", "de"
                          [](const auto& tested) { return std::string(tested.param); });
 
 /// A few rows as they were looked at: what no rule above can say, such as which side of a price its
-/// currency stands on.
+/// currency stands on. Newer locale data writes Arabic prices in Latin digits.
 TEST(MatrixPicture, LooksAsItDid) {
   const CellRenderer renderer;
-  for (const char* language : {"es", "ar"}) {
+  for (const std::string language : {"es", "ar"}) {
+    const char* data = language == "ar" && U_ICU_VERSION_MAJOR_NUM >= 76 ? "-icu76" : "";
     for (const char* textSize : {"default", "accessibility"}) {
       const Selection rows{.widget = "row",
                            .language = language,
@@ -128,7 +130,7 @@ TEST(MatrixPicture, LooksAsItDid) {
                            .screen = "320"};
       for (const Cell& cell : cells(rows)) {
         const QImage image = picture(renderer.render(cell, 1), 1);
-        EXPECT_TRUE(testing::matchesPicture(image, QString::fromStdString(cell.id())));
+        EXPECT_TRUE(testing::matchesPicture(image, QString::fromStdString(cell.id() + data)));
       }
     }
   }

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <memory>
 #include <string>
 
 #include "platform/foundation/URLSession.h"
@@ -10,6 +11,13 @@
 #include "tests/qt/MatchesPicture.h"
 
 namespace quorix::testing {
+
+/// While it lives no request gets an answer.
+inline std::shared_ptr<void> offline() {
+  return foundation::URLSession::shared().registerProtocol([](const auto&) {
+    return foundation::URLResponse{foundation::Error{"Test", 1, "offline"}, {}, 0};
+  });
+}
 
 /// A test of pictures, each known by the name of its reference, which says in words what is on it:
 /// "sheet-discount-dark-3x".
@@ -21,9 +29,7 @@ class NamedPicture : public ::testing::TestWithParam<const char*> {
 
   /// Of `view`, which asks no network, in the looks that the name tells.
   static void expectLooksAsItDid(const swiftui::View& view) {
-    const auto offline = foundation::URLSession::shared().registerProtocol([](const auto&) {
-      return foundation::URLResponse{foundation::Error{"Test", 1, "offline"}, {}, 0};
-    });
+    const auto requests = offline();
     qt::PictureOptions options;
     options.width = 343;
     options.sheet = says("sheet");

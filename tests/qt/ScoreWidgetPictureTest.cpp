@@ -1,12 +1,21 @@
+#include <QPainter>
 #include <memory>
 #include <string>
 
 #include "QuorixWidgets/localization/TovaFont.h"
 #include "QuorixWidgets/score/ScoreWidgetView.h"
 #include "tests/qt/NamedPicture.h"
+#include "tests/qt/Pixels.h"
+#include "tests/qt/Screens.h"
 
 namespace quorix {
 namespace {
+
+swiftui::View row(const std::string& locale, const ScoreWidgetStyle& style, double score) {
+  const TokenData token{score, "EUR", 499, 299};
+  return ScoreWidgetView{std::make_shared<ScoreWidgetViewModel>("shop", token, locale, style),
+                         LocalizationRepository::make(locale)};
+}
 
 class ScoreWidgetPicture : public testing::NamedPicture {};
 
@@ -16,10 +25,23 @@ TEST_P(ScoreWidgetPicture, LooksAsItDid) {
   const ScoreWidgetStyle style =
       says("large") ? ScoreWidgetStyle{TovaFont::regular().name(), "TovaSansLatin-SemiBold"}
                     : ScoreWidgetStyle{std::nullopt, std::nullopt};
-  const TokenData token{says("discount") ? 0.82 : 0.05, "EUR", 499, 299};
-  expectLooksAsItDid(
-      ScoreWidgetView{std::make_shared<ScoreWidgetViewModel>("shop", token, locale, style),
-                      LocalizationRepository::make(locale)});
+  expectLooksAsItDid(row(locale, style, says("discount") ? 0.82 : 0.05));
+}
+
+template <class>
+struct WindowPicture : ::testing::Test {};
+TYPED_TEST_SUITE(WindowPicture, testing::Screens, testing::ScreenName);
+
+TYPED_TEST(WindowPicture, ShowsTheRowAsAStillDoes) {
+  const auto requests = testing::offline();
+  TypeParam screen;
+  screen.add(row("en", {std::nullopt, std::nullopt}, 0.82), {0, 0, 343, 0});
+  const QImage window = screen.grab();
+  const QImage still(TEST_DATA "/pictures/row-discount.png");
+  QImage expected(still.size(), QImage::Format_RGB32);
+  expected.fill(window.pixel(350, 300));
+  QPainter(&expected).drawImage(0, 0, still);
+  EXPECT_EQ(testing::differing(window.copy(expected.rect()), expected, 24), QRect());
 }
 
 INSTANTIATE_TEST_SUITE_P(RowsAndSheets, ScoreWidgetPicture,

@@ -87,7 +87,7 @@ void QuietPage::refuseRequests() {
   const auto withoutName = [](auto&&, QAuthenticator* authenticator) { *authenticator = {}; };
   connect(this, &QWebEnginePage::authenticationRequired, this, withoutName);
   connect(this, &QWebEnginePage::proxyAuthenticationRequired, this, withoutName);
-#if QT_VERSION < QT_VERSION_CHECK(6, 5, 0)  // later versions refuse by themselves
+#if QT_VERSION < QT_VERSION_CHECK(6, 5, 0)  // later versions do not ask
   connect(this, &QWebEnginePage::quotaRequested, this,
           [](QWebEngineQuotaRequest request) { request.reject(); });
 #endif
