@@ -62,7 +62,7 @@ class QUORIX_EXPORT URLSession {
   /// prefetched answer serves ends at once with an error; one that is under way ends as it would
   /// have. The pages of a web view are loaded by the web engine and are not affected. Any thread.
   ///
-  ///     URLSession::shared().setNetworkEnabled(shopper.hasConsented());
+  ///     URLSession::shared().setNetworkEnabled(false);  // until the shopper consents
   void setNetworkEnabled(bool enabled);
 
   /// Fetches `url` and keeps the answer in memory: for `lifetime` it serves the requests that no

@@ -32,15 +32,17 @@ struct ImageAsset {
 
 /// The color set `name`. A set without a dark value has the light one in both appearances.
 ///
-///     auto grey = colorSet(bundle, "Grey1");
-///     if (grey) paint(grey->resolve(Appearance::dark));
+///     RGBA darkGrey(const foundation::Bundle::Ref& bundle) {
+///       return colorSet(bundle, "Grey1").value().resolve(Appearance::dark);
+///     }
 QUORIX_EXPORT std::optional<ColorSet> colorSet(const foundation::Bundle::Ref& bundle,
                                                std::string_view name);
 
 /// The image set `name`: its SVG files, to be drawn into the frame of a `render::ImageItem`.
 ///
-///     const auto image = imageSet(item.bundle, item.name);
-///     if (image) drawSvg(image->svg(scene.appearance).text(), item.frame);
+///     foundation::Data crossOf(const foundation::Bundle::Ref& bundle) {
+///       return imageSet(bundle, "close").value().svg(Appearance::light);
+///     }
 QUORIX_EXPORT std::optional<ImageAsset> imageSet(const foundation::Bundle::Ref& bundle,
                                                  std::string_view name);
 

@@ -13,10 +13,11 @@ namespace quorix::hosting {
 /// one area and passes on the area's input. Pictures and tests use it without a toolkit. Main
 /// thread.
 ///
-///     ViewWindow window(engine, {environment, true}, row, {320, 640});
-///     const bool moves = window.frame(1.0 / 60);
-///     paint(window.view().host().scene({320, 640}));
-///     for (SheetSession* sheet : window.sheets()) paint(sheet->presenter().scene());
+///     void show(ViewWindow& window, const std::function<void(const render::Scene&)>& paint) {
+///       window.frame(1.0 / 60);
+///       paint(window.view().host().scene({320, 640}));
+///       for (SheetSession* sheet : window.sheets()) paint(sheet->presenter().scene());
+///     }
 class QUORIX_EXPORT ViewWindow : public WindowSession {
  public:
   /// `root` comes on screen and fills the window.

@@ -14,7 +14,9 @@ namespace quorix::text {
 /// order on a right-to-left page. On such a page, a text with any letter of a right-to-left script
 /// runs as the page does, even if it begins with a foreign name. Any thread.
 ///
-///     shaper.setDirection(baseDirection(item.text));
+///     bool runsFromTheRight(const AttributedText& text) {
+///       return baseDirection(text) == layout::LayoutDirection::rightToLeft;
+///     }
 QUORIX_EXPORT layout::LayoutDirection baseDirection(const AttributedText& text);
 
 /// A word in a text, in UTF-16 units.

@@ -19,9 +19,11 @@ class UIWindow;
 /// std::make_shared. Main thread.
 ///
 ///     struct Page : UIViewController {
-///       void viewDidLoad() override { view()->addSubview(label); }
+///       void viewDidLoad() override { view()->addSubview(std::make_shared<UIView>()); }
 ///     };
-///     top->present(std::make_shared<Page>(), true);
+///     void show(UIViewController& top) {
+///       top.present(std::make_shared<Page>(), true);
+///     }
 class QUORIX_EXPORT UIViewController : public std::enable_shared_from_this<UIViewController> {
  public:
   UIViewController() = default;

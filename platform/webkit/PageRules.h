@@ -22,8 +22,9 @@ constexpr bool mayNavigateTo(std::string_view scheme) {
 /// at least `pause` must have passed since the latest opening. One object for each page; main
 /// thread.
 ///
-///     NewWindowLimit limit;
-///     if (limit.allows(url, byUser, NewWindowLimit::Clock::now())) open(url);
+///     bool mayLeaveUnasked(NewWindowLimit& limit, const foundation::URL& url) {
+///       return limit.allows(url, false, NewWindowLimit::Clock::now());
+///     }
 class NewWindowLimit {
  public:
   using Clock = std::chrono::steady_clock;

@@ -17,8 +17,11 @@ namespace quorix::webkit {
 /// the page. Main thread.
 ///
 ///     // On a surface without an engine, the page opens outside the app.
-///     const auto* page = dynamic_cast<const webkit::WebContent*>(embedItem.content.get());
-///     if (page && page->url()) uikit::URLOpener::openOutside(*page->url());
+///     #include <platform/uikit/URLOpener.h>
+///     void leave(const render::Embed& content) {
+///       const auto* page = dynamic_cast<const WebContent*>(&content);
+///       if (page && page->url()) uikit::URLOpener::openOutside(*page->url());
+///     }
 class QUORIX_EXPORT WebContent final : public render::Embed {
  public:
   struct Settings {
