@@ -4,7 +4,7 @@
 
 namespace quorix::bench {
 
-/// How often this process has allocated memory so far, by whichever library (glibc only).
+/// How often this process has allocated memory so far, by all its libraries together (glibc only).
 std::size_t allocations();
 
 }  // namespace quorix::bench

@@ -19,7 +19,7 @@ namespace {
 
 const TokenData kFigures{0.82, "EUR", 499, 299};
 
-/// What the widget service puts into a token for nobody but us.
+/// Members that the service adds to a token and the widget ignores.
 std::string smallToken() { return examples::mintToken(kFigures); }
 
 /// The same figures among the claims that tokens usually carry.

@@ -1,5 +1,5 @@
-# How every library of ours is made: static or shared as BUILD_SHARED_LIBS says, its symbols hidden
-# but for what QUORIX_EXPORT names, and found beside its own libraries wherever the folder stands.
+# How every library of ours is made: static or shared as BUILD_SHARED_LIBS says, with only the
+# symbols that QUORIX_EXPORT marks. It looks for its own libraries in its own folder, which can be moved.
 
 if(WIN32 AND BUILD_SHARED_LIBS)
   message(STATUS "On Windows the libraries are static")

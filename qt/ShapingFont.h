@@ -7,7 +7,7 @@ namespace quorix::qt {
 /// A face as texts are shaped in it, and where its decorations go.
 ///
 /// Qt rounds every font to whole pixels, at which a size of 15.7 points would lose its fraction.
-/// Text is therefore shaped in one pixel size whatever its own, and scaled when it is drawn:
+/// All sizes of text are therefore shaped in one pixel size, and scaled when they are drawn:
 /// without hinting a face has the same shape at every size. So measures are exact and do not depend
 /// on the screen, and all sizes of a face share one font.
 struct ShapingFont {

@@ -5,15 +5,17 @@
 
 #include "platform/hosting/SceneLayers.h"
 #include "qt/AccessibilityBridge.h"
-#include "qt/EnginePage.h"
 #include "qt/FocusRing.h"
 #include "qt/Input.h"
 #include "qt/Picture.h"
+#include "qt/QtColor.h"
 #include "qt/QtTextEngine.h"
 #include "qt/ViewAccessible.h"
+#include "qt/WebComponent.h"
 #include "qt/WebComponentLoader.h"
 
 namespace quorix::qt {
+
 SheetSurface::SheetSurface(QObject& self, hosting::WindowSession& window, QString webComponent)
     : SheetSession(window, QtTextEngine::shared()),
       self_(self),
@@ -31,7 +33,7 @@ bool SheetSurface::handle(QEvent& event) {
     case QEvent::KeyPress:
       return handle(toKeyEvent(static_cast<QKeyEvent&>(event)));
     case QEvent::KeyRelease: {
-      // A phone closes the window when nobody takes the release of its Back key.
+      // A phone closes the window unless the release of its Back key is taken.
       const auto key = toKeyEvent(static_cast<QKeyEvent&>(event)).key;
       event.setAccepted(key == hosting::Key::escape || key == hosting::Key::back);
       return true;
@@ -90,11 +92,14 @@ bool SheetSurface::canShowPages() const { return WebComponentLoader::isThere(web
 
 std::unique_ptr<hosting::PageEngine> SheetSurface::openPage(const render::EmbedItem& embed,
                                                             hosting::PageEngine::Client& client) {
-  return EnginePage::open(webComponent_, embed, self_, client);
+  const auto& content = dynamic_cast<const webkit::WebContent&>(*embed.content);
+  WebComponent* component = WebComponentLoader::load(webComponent_);
+  if (!component) return nullptr;
+  return component->open(self_, {content.settings, toQColor(embed.background)}, client);
 }
 
 QObject* SheetSurface::viewOf(const hosting::PageEngine& page) {
-  return static_cast<const EnginePage&>(page).view();
+  return static_cast<const WebPage&>(page).view();
 }
 
 std::vector<QObject*> SheetSurface::pageViews() const {

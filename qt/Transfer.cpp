@@ -59,7 +59,7 @@ bool hasNoBody(int status) { return status == 204 || status == 304; }
 
 // Qt takes a connection that closes too early for the end of the answer when the close and the last
 // bytes arrive in one go. (An answer in chunks, which have no length to compare, then passes for
-// whole; whoever parses it has to notice.)
+// whole, and its reader finds out.)
 bool isCutShort(const QNetworkReply& reply, qsizetype received) {
   return !isEncoded(reply) &&
          received < reply.header(QNetworkRequest::ContentLengthHeader).toLongLong();

@@ -5,7 +5,7 @@
 
 namespace quorix::qt {
 
-/// What a host can settle for a view, whatever shows it. Main thread.
+/// The settings that a host can choose for a view on any surface. Main thread.
 class QUORIX_EXPORT ViewSettings {
  public:
   /// Light or dark; nothing follows the desktop, which is what holds until this is called.

@@ -20,8 +20,8 @@ class WebComponent {
   ~WebComponent() = default;  // lives with the application
 };
 
-/// Another number whenever `WebComponent` or `WebPage` is another.
-constexpr int webComponentVersion = 2;
+/// Another number whenever `WebComponent`, `WebPage` or `hosting::PageEngine` is another.
+constexpr int webComponentVersion = 3;
 constexpr char webComponentSymbol[] = "quorixWebComponent";
 
 /// The component, or null when it is built for another version than `version`.

@@ -22,14 +22,14 @@ class WebComponent;
 /// 4. for a host that builds the library as part of its own build: that build's folder.
 ///
 /// The current folder, the dynamic linker's search and Qt's plugin paths (QT_PLUGIN_PATH, qt.conf)
-/// are not searched: whoever can write there must not run code in the host.
+/// are not searched: others may write there, and their code must not run in the host.
 ///
-/// Qt WebEngine wants its host to say, before the application object is made,
+/// Qt WebEngine needs this call before the application object is made:
 ///
 ///     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
 ///
-/// Without it a page still comes up wherever the window is not drawn with OpenGL; where it is, its
-/// address is opened outside the app instead.
+/// Without it a window that is drawn with OpenGL shows no page: the address is opened outside the
+/// app instead.
 namespace WebComponentLoader {
 
 /// Whether there is a library of this name to load. Cheap: nothing is loaded.

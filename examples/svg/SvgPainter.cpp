@@ -10,7 +10,7 @@
 namespace quorix::examples {
 namespace {
 
-/// Plain decimals, whatever the locale of the process.
+/// Plain decimals: independent of the locale of the process.
 std::string number(double value) {
   const auto thousandths = static_cast<long long>(std::llround(value * 1000));
   std::string digits = std::to_string(std::abs(thousandths));

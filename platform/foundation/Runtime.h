@@ -18,6 +18,7 @@ struct InterfaceFiles;
 }  // namespace quorix::uikit
 namespace quorix::hosting {
 class RecentEvaluations;
+struct WindowSessions;
 }  // namespace quorix::hosting
 
 namespace quorix::foundation {
@@ -50,6 +51,7 @@ class Runtime {
                             URLSession*,                   // protocols, and the engine's transport
                             uikit::InterfaceFiles*,        // parsed, the latest few
                             uikit::UIApplication*,         // scenes, and the engine's opener
+                            hosting::WindowSessions*,      // of all windows
                             hosting::RecentEvaluations*>;  // of views that are being placed
 
   /// The process's piece of type `T`.

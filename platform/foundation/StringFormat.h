@@ -12,7 +12,7 @@ using FormatArgument = std::variant<double, std::string>;
 
 /// `format` with its conversions replaced by `arguments`, as the platform's printf does it:
 ///
-///  - "%@" shows a text, whole, whatever its width and precision;
+///  - "%@" shows a text, and ignores width and precision;
 ///  - "%f %F %e %E %g %G %a %A" show a number with flags, width and precision, "%d %i %u %o %x %X"
 ///    (and their capitals) its whole part; the decimal separator is always ".";
 ///  - "%1$@" names its argument, "*" takes a width or precision from one, "%%" is a percent sign.

@@ -12,7 +12,7 @@ namespace quorix::foundation {
 struct URLRequest {
   /// What may answer in place of the server; the values are the platform's.
   enum class CachePolicy {
-    useProtocolCachePolicy = 0,  ///< Whatever HTTP allows.
+    useProtocolCachePolicy = 0,  ///< What HTTP allows.
   };
 
   using Seconds = std::chrono::duration<double>;

@@ -36,7 +36,7 @@ std::unique_ptr<EmbeddedPage> EmbeddedPage::open(const render::EmbedItem& embed,
   if (!page->engine_) return nullptr;
   content->attach([made = page.get()](const foundation::URLRequest& request) {
     made->patience_ = toMilliseconds(request.timeoutInterval);
-    made->engine_->load(request.url);
+    if (webkit::mayNavigateTo(request.url.scheme())) made->engine_->load(request.url);
   });
   return page;
 }
@@ -75,8 +75,9 @@ void EmbeddedPage::loadFailed() {
   });
 }
 
-void EmbeddedPage::windowAsked(const std::optional<foundation::URL>& address, bool byUser) {
-  later([kept = content_, address, byUser] { kept->askForWindow(address, byUser); });
+void EmbeddedPage::windowAsked(std::string_view address, bool byUser) {
+  const auto url = foundation::URL::parse(address);
+  later([kept = content_, url, byUser] { kept->askForWindow(url, byUser); });
 }
 
 void EmbeddedPage::processEnded() {

@@ -56,7 +56,7 @@ class EmbeddedPage final : private PageEngine::Client {
   void later(std::function<void()> work);
   void expectAnswer(std::function<void()> then);
 
-  void windowAsked(const std::optional<foundation::URL>& address, bool byUser) override;
+  void windowAsked(std::string_view address, bool byUser) override;
   void loading(int percent) override;
   void loadEnded() override { standstill_.reset(); }
   void loadFailed() override;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <chrono>
-#include <optional>
+#include <string_view>
 
 #include "platform/foundation/Export.h"
 #include "platform/foundation/URL.h"
@@ -15,9 +15,9 @@ class QUORIX_EXPORT PageEngine {
   /// Told of the page, often within the engine's own call: do not destroy the page in it.
   class Client {
    public:
-    /// The page asks for a new window with this address, which may be absent, or for an address
+    /// The page asks for a new window with this address, which may be empty, or for an address
     /// that no page may load. It gets neither. `byUser`: the user's gesture caused it.
-    virtual void windowAsked(const std::optional<foundation::URL>& address, bool byUser) = 0;
+    virtual void windowAsked(std::string_view address, bool byUser) = 0;
     /// A load began (0) or moved on. It is above 0 once something of the page has come.
     virtual void loading(int percent) = 0;
     virtual void loadEnded() = 0;

@@ -53,6 +53,7 @@ class QUORIX_EXPORT Responder {
  protected:
   /// Runs `work` on a later turn of the main queue, unless this is deleted by then.
   void later(std::function<void()> work);
+
   // The sheet above.
 
   /// The presentation changed: follows on a later turn, since the caller may be at work.

@@ -210,8 +210,9 @@ const std::vector<render::AccessibilityElement>& SheetSession::elements() {
 }
 
 bool SheetSession::focusElement(int index) {
+  if (!presenter_.focus(index)) return false;
   focusMoved(true);
-  return presenter_.focus(index);
+  return true;
 }
 
 std::optional<layout::Rect> SheetSession::focusFrame() const {

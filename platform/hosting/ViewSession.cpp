@@ -108,9 +108,10 @@ void ViewSession::activate(int index) {
 
 bool ViewSession::focusElement(int index) {
   host_.scene(size());  // makes the elements that the index counts
+  if (!host_.focus(index)) return false;
   needsFrame();
   if (hasFocus()) focusMoved(true);
-  return host_.focus(index);
+  return true;
 }
 
 std::optional<layout::Rect> ViewSession::focusFrame() const {

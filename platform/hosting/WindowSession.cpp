@@ -4,20 +4,23 @@
 #include <utility>
 
 #include "platform/foundation/MainQueue.h"
+#include "platform/foundation/Runtime.h"
 #include "platform/hosting/ControllerPresentation.h"
 #include "platform/hosting/SheetSession.h"
 #include "platform/uikit/UIApplication.h"
 
 namespace quorix::hosting {
-namespace {
 
 using ActivationState = uikit::UIScene::ActivationState;
 using Controller = std::shared_ptr<uikit::UIViewController>;
 
-std::vector<WindowSession*>& sessions() {
-  static std::vector<WindowSession*> all;
-  return all;
-}
+struct WindowSessions {
+  std::vector<WindowSession*> all;
+};
+
+namespace {
+
+std::vector<WindowSession*>& sessions() { return foundation::Runtime::the<WindowSessions>().all; }
 
 }  // namespace
 

@@ -73,7 +73,7 @@ class MaxWidthFrame final : public LayoutModifier {
   layout::Alignment alignment_;
 };
 
-/// Its content's ideal length, whatever is offered.
+/// Its content's ideal length; the proposal has no effect.
 class FixedSize final : public LayoutModifier {
  public:
   FixedSize(View content, bool horizontal, bool vertical)

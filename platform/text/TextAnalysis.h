@@ -9,8 +9,8 @@
 
 namespace quorix::text {
 
-/// The direction that the words of `text` run in, whichever side its lines are aligned to: that of
-/// its first letter, and left to right without letters, so that "4,00 €" and "18 %" keep their
+/// The direction that the words of `text` run in, not the side that its lines are aligned to: that
+/// of its first letter, and left to right without letters, so that "4,00 €" and "18 %" keep their
 /// order on a right-to-left page. On such a page, a text with any letter of a right-to-left script
 /// runs as the page does, even if it begins with a foreign name. Any thread.
 ///

@@ -27,7 +27,7 @@ PageInput::PageInput(std::function<bool(const QObject& window)> isForPage, WebPa
 bool PageInput::mayNavigate(const QUrl& address, bool mainFrame) {
   if (webkit::mayNavigateTo(address.scheme().toStdString())) return true;
   const bool byUser = takeGesture();
-  if (byUser || mainFrame) client_.windowAsked(address, byUser);
+  if (byUser || mainFrame) client_.windowAsked(toText(address), byUser);
   return false;
 }
 

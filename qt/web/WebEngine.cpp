@@ -41,4 +41,12 @@ bool WebEngine::start() {
   return started;
 }
 
+void WebEngine::loadFailed(WebPage::Client& client, const QUrl& address, const QString& why,
+                           int code) {
+  logNotLoaded(address, why);
+  // From here down they are the network's, the server's certificate's and HTTP's own.
+  constexpr int broughtNothing = -100;
+  if (code <= broughtNothing) client.loadFailed();
+}
+
 }  // namespace quorix::qt

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "qt/WebPage.h"
+
 namespace quorix::qt {
 
 /// What Qt WebEngine wants before its first view, in either toolkit. The library leaves the
@@ -9,9 +11,9 @@ namespace WebEngine {
 /// Readies the engine on first call. False, with a word on the log, where it would end the process.
 bool start();
 
-/// Whether a load that failed with this code of the engine's brought nothing: its codes from -100
-/// down are the network's, the server's certificate's and HTTP's own.
-constexpr bool broughtNothing(int errorCode) { return errorCode <= -100; }
+/// A load failed: says so on the log, and tells the client if nothing of it came. `code` is the
+/// engine's.
+void loadFailed(WebPage::Client& client, const QUrl& address, const QString& why, int code);
 
 }  // namespace WebEngine
 }  // namespace quorix::qt

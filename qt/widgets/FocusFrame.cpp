@@ -10,7 +10,7 @@ namespace {
 
 constexpr int kMargin = 4;  // what the ring takes beyond the widget
 
-/// Room for the ring, and a place above whatever the widget stands in.
+/// Room for the ring, above the other widgets in the parent.
 class FrameStyle : public QProxyStyle {
  public:
   int pixelMetric(PixelMetric metric, const QStyleOption* option,

@@ -14,10 +14,10 @@ class WidgetSurface;
 /// Shows a view among Qt Widgets. A size in points is a size in widgets' pixels.
 ///
 /// Layouts place it like a label with word wrap: its size hint is what the view wants, its height
-/// follows its width. What nobody settles follows the widget: its palette tells light from dark,
-/// and its layout direction is the view's; both are the desktop's unless the host says otherwise.
-/// It has no background, and is painted only when something changed. Sheets of the view open over
-/// the whole window that the widget is in. Main thread.
+/// follows its width. Settings that the host leaves open follow the widget: its palette decides
+/// light or dark, and its layout direction is the view's; both are the desktop's unless the host
+/// says otherwise. It has no background, and is painted only when something changed. Sheets of the
+/// view open over the whole window that the widget is in. Main thread.
 ///
 ///     #include <QuorixWidgets/score/ScoreWidgetBuilder.h>
 ///     auto view = quorix::ScoreWidgetBuilder::buildSwiftUIScoreWidgetView(

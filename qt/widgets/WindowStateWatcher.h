@@ -6,8 +6,8 @@ class QWidget;
 
 namespace quorix::qt {
 
-/// Tells the view widgets of one window when it is minimized or comes back, which Qt tells nobody
-/// but the window. Belongs to the window; main thread.
+/// Tells the view widgets of one window when it is minimized or comes back; Qt tells only the
+/// window. Belongs to the window; main thread.
 class WindowStateWatcher : public QObject {
   Q_OBJECT
 

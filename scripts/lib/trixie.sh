@@ -1,4 +1,4 @@
-# Sourced by scripts/test: a Debian 13 in a folder, whatever release this machine runs. It stands outside
+# Sourced by scripts/test: a Debian 13 in a folder, also on other releases. It stands outside
 # the tree and serves all clones on the machine; a clone's own build is in build/trixie.
 
 trixie_cache=${XDG_CACHE_HOME:-$HOME/.cache}/quorix

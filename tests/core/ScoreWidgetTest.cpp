@@ -23,7 +23,7 @@ using testing::TestWindow;
 
 TEST(ScoreWidgetViewModel, ShowsWholeUnitsOfTheCurrency) {
   forEachRow("fees", [](simdjson::dom::element row) {
-    // The two fees are written alike, whichever of them is the larger.
+    // Both fees have the same format, also if the discounted one is larger.
     const std::int64_t fee = row["hundredths"];
     const auto modelOf = [&](std::int64_t base, std::int64_t reduced) {
       const TokenData token{0.5, ::text(row, "currency"), base, reduced};

@@ -1,4 +1,4 @@
-// The demo shop as somebody without a display runs it.
+// The demo shop without a display.
 
 #include <gtest/gtest.h>
 

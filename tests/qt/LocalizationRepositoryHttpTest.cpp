@@ -22,8 +22,7 @@ namespace {
 using foundation::URL;
 using qt::QtURLTransport;
 
-/// Asks the test's server, and tells when a request is over and done with, on whichever thread it
-/// ends.
+/// Asks the test's server, and tells when a request and its completion have ended, on any thread.
 struct WatchedTransport final : foundation::URLTransport {
   explicit WatchedTransport(std::string server) : server_(std::move(server)) {}
 

@@ -8,8 +8,8 @@
 
 namespace quorix::testing {
 
-/// A window as a user meets it, whatever toolkit fills it: things are found by what assistive
-/// technology says of them, and pointed at where they are.
+/// A window of either toolkit as its user meets it: elements are found by their accessibility
+/// labels and pressed where they are.
 class Screen {
  public:
   virtual ~Screen() = default;

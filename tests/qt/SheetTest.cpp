@@ -208,7 +208,7 @@ TYPED_TEST(Sheet, MayEndItsRowFromInside) {
   EXPECT_FALSE(screen.shows("Terms"));
 }
 
-/// A view may end in its own tap, by whatever means.
+/// A tap may delete its own view, in each of these ways.
 TYPED_TEST(Sheet, ItsRowMayEndItself) {
   const Closing means[] = {
       {"a click", [](Screen& screen) { screen.click("Leave"); }},

@@ -33,7 +33,7 @@ struct Page : uikit::UIViewController {
   std::string title;
 };
 
-/// Presents a page of that title over whatever the user sees in the window that they use.
+/// Presents a page of that title over the top-most screen of the window in use.
 void presentPage(const std::string& title) {
   const auto window = UIApplication::getKeyWindow();
   ASSERT_TRUE(window);

@@ -58,7 +58,7 @@ int tellMaps() {
   return 0;
 }
 
-/// A page that keeps whatever it can keep, and tells what was there.
+/// A page that uses every storage there is, and tells what it found there.
 int tellKept() {
   pages().serve("/page", page("#0000ff", {}, R"(
     tell('kept ' + document.cookie + (localStorage.kept || ''));

@@ -9,7 +9,7 @@
 namespace quorix::testing {
 namespace {
 
-/// The engine's processes, whoever started them, each with its parent.
+/// All processes of the engine, each with its parent.
 std::map<pid_t, pid_t> parents() {
   std::map<pid_t, pid_t> all;
   for (const QString& id : QDir(QStringLiteral("/proc")).entryList({"[0-9]*"}, QDir::Dirs)) {

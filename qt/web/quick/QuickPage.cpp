@@ -5,9 +5,7 @@
 #include <QQuickWebEngineProfile>
 #include <QQuickWindow>
 
-#include "platform/webkit/PageRules.h"
 #include "qt/WebLog.h"
-#include "qt/web/WebEngine.h"
 
 namespace quorix::qt {
 
@@ -41,14 +39,14 @@ std::unique_ptr<QuickPage> QuickPage::make(QQmlComponent& source, QQuickWebEngin
 
 QuickPage::~QuickPage() { delete view_; }
 
-void QuickPage::load(const QUrl& address) {
-  if (view_ && webkit::mayNavigateTo(address.scheme().toStdString())) {
-    view_->setProperty("url", address);
-  }
+void QuickPage::load(const foundation::URL& address) {
+  if (view_) view_->setProperty("url", toQUrl(address));
 }
 
-void QuickPage::stop() {
-  if (view_) QMetaObject::invokeMethod(view_, "stop");
+void QuickPage::stopLoad(std::chrono::milliseconds limit) {
+  if (!view_) return;
+  logNothingCame(address(), limit);
+  QMetaObject::invokeMethod(view_, "stop");
 }
 
 void QuickPage::ask() {
@@ -66,14 +64,11 @@ void QuickPage::goForward() {
   if (view_) QMetaObject::invokeMethod(view_, "goForward");
 }
 
-void QuickPage::windowAsked(const QUrl& address, bool byUser) {
-  client_.windowAsked(address, byUser);
-}
+QUrl QuickPage::address() const { return view_ ? view_->property("url").toUrl() : QUrl(); }
 
-void QuickPage::loadFailed(const QUrl& address, const QString& why, int code) {
-  qCWarning(webLog, "%s was not loaded: %s",
-            qUtf8Printable(address.toDisplayString(QUrl::RemoveQuery)), qUtf8Printable(why));
-  if (WebEngine::broughtNothing(code)) client_.loadFailed();
+void QuickPage::processEnded() {
+  logEnded(address());
+  client_.processEnded();
 }
 
 }  // namespace quorix::qt

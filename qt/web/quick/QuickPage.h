@@ -6,6 +6,7 @@
 
 #include "qt/WebPage.h"
 #include "qt/web/PageInput.h"
+#include "qt/web/WebEngine.h"
 
 class QQmlComponent;
 class QQuickWebEngineProfile;
@@ -26,8 +27,8 @@ class QuickPage : public QObject, public WebPage {
   ~QuickPage() override;
 
   QObject* view() const override { return view_; }
-  void load(const QUrl& address) override;
-  void stop() override;
+  void load(const foundation::URL& address) override;
+  void stopLoad(std::chrono::milliseconds limit) override;
   void ask() override;
   bool canGoBack() const override;
   void goBack() override;
@@ -41,15 +42,20 @@ class QuickPage : public QObject, public WebPage {
   Q_INVOKABLE bool mayNavigate(const QUrl& address, bool mainFrame) {
     return input_.mayNavigate(address, mainFrame);
   }
-  Q_INVOKABLE void windowAsked(const QUrl& address, bool byUser);
+  Q_INVOKABLE void windowAsked(const QUrl& address, bool byUser) {
+    client_.windowAsked(toText(address), byUser);
+  }
   Q_INVOKABLE void loading(int percent) { client_.loading(percent); }
   Q_INVOKABLE void loadEnded() { client_.loadEnded(); }
-  Q_INVOKABLE void loadFailed(const QUrl& address, const QString& why, int code);
-  Q_INVOKABLE void processEnded() { client_.processEnded(); }
+  Q_INVOKABLE void loadFailed(const QUrl& address, const QString& why, int code) {
+    WebEngine::loadFailed(client_, address, why, code);
+  }
+  Q_INVOKABLE void processEnded();
   Q_INVOKABLE void answered() { client_.answered(); }
 
  private:
   QuickPage(const Options& options, Client& client);
+  QUrl address() const;
 
   Options options_;
   Client& client_;

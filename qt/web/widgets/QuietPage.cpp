@@ -60,17 +60,16 @@ void QuietPage::tell(WebPage::Client& client) {
             if (info.status() == QWebEngineLoadingInfo::LoadStartedStatus) return client.loading(0);
             client.loadEnded();
             if (info.status() != QWebEngineLoadingInfo::LoadFailedStatus) return;
-            qCWarning(webLog, "%s was not loaded: %s",
-                      qUtf8Printable(info.url().toDisplayString(QUrl::RemoveQuery)),
-                      qUtf8Printable(info.errorString()));
-            if (WebEngine::broughtNothing(info.errorCode())) client.loadFailed();
+            WebEngine::loadFailed(client, info.url(), info.errorString(), info.errorCode());
           });
   connect(this, &QWebEnginePage::newWindowRequested, this,
           [&client](const QWebEngineNewWindowRequest& request) {
-            client.windowAsked(request.requestedUrl(), request.isUserInitiated());
+            client.windowAsked(toText(request.requestedUrl()), request.isUserInitiated());
           });
-  connect(this, &QWebEnginePage::renderProcessTerminated, this,
-          [&client] { client.processEnded(); });
+  connect(this, &QWebEnginePage::renderProcessTerminated, this, [this, &client] {
+    logEnded(url());
+    client.processEnded();
+  });
 }
 
 void QuietPage::refuseRequests() {

@@ -7,9 +7,9 @@
 
 namespace quorix::qt {
 
-/// A page that stands in an app: it shows itself and nothing else, and is refused quietly whatever
-/// a browser would ask its user for. The Qt Quick page is WebPage.qml; both keep to one table of
-/// requests, tests/web/PageRequestsTest.cpp.
+/// A page inside an app. All that a browser would ask its user for is refused without a dialog or a
+/// word on the log. The Qt Quick page is WebPage.qml; one table in
+/// tests/web/PageRequestsTest.cpp tests both.
 class QuietPage : public QWebEnginePage {
   Q_OBJECT
 

@@ -3,7 +3,7 @@
 #include <QWebEngineHistory>
 #include <QWindow>
 
-#include "platform/webkit/PageRules.h"
+#include "qt/WebLog.h"
 #include "qt/web/widgets/QuietPage.h"
 #include "qt/web/widgets/QuietView.h"
 
@@ -25,12 +25,14 @@ bool WidgetPage::hasFocusIn(const QObject& window) const {
   return focused && view_->isAncestorOf(focused) && view_->window()->windowHandle() == &window;
 }
 
-void WidgetPage::load(const QUrl& address) {
-  if (view_ && webkit::mayNavigateTo(address.scheme().toStdString())) view_->load(address);
+void WidgetPage::load(const foundation::URL& address) {
+  if (view_) view_->load(toQUrl(address));
 }
 
-void WidgetPage::stop() {
-  if (view_) view_->stop();
+void WidgetPage::stopLoad(std::chrono::milliseconds limit) {
+  if (!view_) return;
+  logNothingCame(view_->url(), limit);
+  view_->stop();
 }
 
 void WidgetPage::ask() {

@@ -15,8 +15,8 @@ class WidgetPage final : public WebPage {
   ~WidgetPage() override;
 
   QObject* view() const override { return view_; }
-  void load(const QUrl& address) override;
-  void stop() override;
+  void load(const foundation::URL& address) override;
+  void stopLoad(std::chrono::milliseconds limit) override;
   void ask() override;
   bool canGoBack() const override;
   void goBack() override;
