@@ -7,6 +7,8 @@
 #include <time.h>
 
 #include <QQuickItem>
+#include <QQuickWindow>
+#include <QSGImageNode>
 #include <QWidget>
 #include <cstdlib>
 #include <memory>
@@ -116,6 +118,40 @@ void oursInWindow(benchmark::State& state, Series& series) {
   });
 }
 
+/// Shows a finished image: the least that an item with a picture costs.
+class BareImageItem final : public QQuickItem {
+ public:
+  BareImageItem(const QImage& image, QQuickItem* parent) : QQuickItem(parent), image_(image) {
+    setFlag(ItemHasContents);
+    setSize(image.size());
+  }
+
+ protected:
+  QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData*) override {
+    auto* node = static_cast<QSGImageNode*>(old);
+    if (!node) node = window()->createImageNode();
+    node->setTexture(window()->createTextureFromImage(image_));
+    node->setOwnsTexture(true);
+    node->setRect(boundingRect());
+    return node;
+  }
+
+ private:
+  const QImage image_;
+};
+
+void bareImage(benchmark::State& state, Series& series) {
+  qt::PictureOptions options;
+  options.width = series.size.width();
+  options.height = series.size.height();
+  options.background = graphics::RGBA{0, 0, 0, 0};
+  const QImage image = qt::picture(series.next().ours(), options);
+  inWindow(state, series, [&](const Subject&, QQuickItem* root) {
+    // As the surface, which paints an image of its own each time.
+    return new BareImageItem(image.copy(), root);
+  });
+}
+
 void qml(benchmark::State& state, Series& series, const QString& file) {
   QmlPeer peer(file);
   inWindow(state, series, [&](const Subject& subject, QQuickItem* root) {
@@ -173,6 +209,7 @@ int main(int argc, char** argv) {
        {std::pair<const char*, Series&>{"same", same}, {"different", different}}) {
     addOurs(name, series);
     addPeers(name, series, {"ScoreRow", "LeanScoreRow"});
+    add(std::string("bareImage/") + name, series, bareImage);
   }
   Series declarative = info(InfoSubject::Form::declarative);
   Series imperative = info(InfoSubject::Form::imperative);

@@ -43,8 +43,10 @@ class Table:
 
     def add(self, what, ours, peer, peer_name, aim, text):
         """`aim`: how many times less than the peer's ours is to be; None where there is none."""
-        met = "" if aim is None else f"{aim}" if peer / ours >= aim else f"{aim}, missed"
-        self.rows.append((what, text(ours), f"{text(peer)}, {peer_name}", f"{peer / ours:.1f}", met))
+        ratio = peer / ours
+        met = "" if aim is None else f"{aim:.2g}" if ratio >= aim else f"{aim:.2g}, missed"
+        self.rows.append((what, text(ours), f"{text(peer)}, {peer_name}",
+                          f"{ratio:.1f}" if ratio >= 1 else f"{ratio:.2f}", met))
 
     def note(self, what, ours, met=""):
         self.rows.append((what, ours, "", "", met))
@@ -75,7 +77,7 @@ def tokens(table, build, quick):
 
 def painting(table, build, quick):
     times = build.google_benchmark("paint_benchmark", "real_time", statistics.median,
-                                   "ours|labels|LeanScoreRow|InfoWidget", 5 if quick else 15)
+                                   "ours|labels|LeanScoreRow|InfoWidget|bareImage", 5 if quick else 15)
     row, info = "builder to painted row", "builder to painted info widget"
     qml, labels = ("QML", 10), ("labels in a layout", 5)
     for what, ours, peer, (name, aim) in (
@@ -84,7 +86,9 @@ def painting(table, build, quick):
             ("… each row another shopper's", "oursInPicture/different", "LeanScoreRow/different", qml),
             ("the same", "oursInPicture/different", "labels/different", labels),
             (f"{row}, a window's frame", "oursInWindow/same", "LeanScoreRow/same", qml),
+            ("the same", "oursInWindow/same", "bareImage/same", ("an image item alone", 1 / 3.5)),
             ("… each row another shopper's", "oursInWindow/different", "LeanScoreRow/different", qml),
+            ("the same", "oursInWindow/different", "bareImage/different", ("an image item alone", 1 / 8)),
             (f"{info}, a picture", "oursInPicture/declarative", "InfoWidget/info", qml),
             ("the same", "oursInPicture/declarative", "labels/info", labels),
             ("… the imperative one", "oursInPicture/imperative", "InfoWidget/info", qml),

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "platform/render/ScenePart.h"
+#include "platform/render/Scene.h"
 #include "qt/QtColor.h"
 #include "qt/ScenePainter.h"
 #include "qt/StillScene.h"

@@ -11,7 +11,6 @@
 #include "qt/Paragraph.h"
 #include "qt/QtFonts.h"
 #include "qt/ShapedText.h"
-#include "qt/TextIdentity.h"
 #include "qt/TextPictures.h"
 
 namespace quorix::qt {

@@ -2,7 +2,7 @@
 
 #include <chrono>
 
-#include "platform/foundation/URLRequest.h"
+#include "platform/foundation/URL.h"
 #include "platform/foundation/URLSession.h"
 
 namespace quorix::qt {

@@ -90,9 +90,10 @@ bool ScenePainter::drawPicture(const render::TextItem& item) {
   if (picture->image.isNull()) return true;
   const QRect ink(corner.toPoint() + picture->offset, picture->image.size());
   if (ground_->under(ink) != ground) return false;
-  painter_.setTransform(fromDevice_ * base_);
+  const bool inPixels = toDevice_.isIdentity();
+  if (!inPixels) painter_.setTransform(fromDevice_ * base_);
   painter_.drawImage(ink.topLeft(), picture->image);
-  painter_.setTransform(base_);
+  if (!inPixels) painter_.setTransform(base_);
   ground_->inked(ink);
   return true;
 }

@@ -4,10 +4,9 @@
 #include <optional>
 #include <string_view>
 
-#include "platform/foundation/DecodingError.h"
+#include "platform/foundation/Error.h"
 #include "platform/foundation/Export.h"
 #include "platform/foundation/JSON.h"
-#include "platform/foundation/Result.h"
 
 namespace quorix {
 

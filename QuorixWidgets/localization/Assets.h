@@ -1,8 +1,7 @@
 #pragma once
 
 #include "platform/swiftui/Color.h"
-#include "platform/swiftui/ColorResource.h"
-#include "platform/swiftui/ImageResource.h"
+#include "platform/swiftui/Resource.h"
 #include "platform/uikit/UIColor.h"
 
 namespace quorix {

@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/foundation/Error.h"
 #include "platform/foundation/Export.h"
-#include "platform/foundation/Result.h"
 #include "platform/foundation/URLSession.h"
 
 namespace quorix {

@@ -1,7 +1,7 @@
 #include "QuorixWidgets/overlay/OverlayAddress.h"
 
 #include "QuorixWidgets/localization/ServiceAddresses.h"
-#include "platform/foundation/URLComponents.h"
+#include "platform/foundation/URL.h"
 
 namespace quorix {
 namespace {

@@ -5,7 +5,7 @@
 #include "QuorixWidgets/localization/Strings.h"
 #include "QuorixWidgets/overlay/WebViewController.h"
 #include "platform/swiftui/Elements.h"
-#include "platform/swiftui/UIViewControllerRepresentable.h"
+#include "platform/swiftui/UIViewRepresentable.h"
 
 namespace quorix {
 namespace {

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/graphics/GraphicsFont.h"
+#include "platform/graphics/FontManager.h"
 
 namespace quorix::examples {
 

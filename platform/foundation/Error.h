@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <variant>
 
 namespace quorix::foundation {
 
@@ -10,6 +11,25 @@ struct Error {
   std::string domain;
   std::int64_t code = 0;
   std::string description;
+};
+
+/// A value, or the error that prevented it.
+template <class T, class E = Error>
+using Result = std::variant<T, E>;
+
+/// Why a value could not be decoded from a document, and at which key.
+struct DecodingError {
+  enum class Kind {
+    keyNotFound,    ///< The object has no such key.
+    typeMismatch,   ///< There is a value, of another type.
+    valueNotFound,  ///< The value is null.
+    dataCorrupted,  ///< The bytes are no document.
+  };
+
+  Kind kind;
+  std::string key;  ///< Empty for the document itself.
+
+  bool operator==(const DecodingError&) const = default;
 };
 
 }  // namespace quorix::foundation

@@ -7,8 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/foundation/Error.h"
 #include "platform/foundation/Export.h"
-#include "platform/foundation/Result.h"
 
 namespace quorix::foundation {
 

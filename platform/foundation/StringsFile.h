@@ -7,8 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/foundation/Error.h"
 #include "platform/foundation/Export.h"
-#include "platform/foundation/Result.h"
 
 namespace quorix::foundation {
 

@@ -5,7 +5,6 @@
 #include <algorithm>
 
 #include "platform/foundation/Numbers.h"
-#include "platform/foundation/URLComponents.h"
 
 namespace quorix::foundation {
 namespace {

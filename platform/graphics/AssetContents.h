@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/graphics/ColorSet.h"
+#include "platform/graphics/RGBA.h"
 
 namespace quorix::graphics {
 

@@ -1,10 +1,69 @@
 #include "platform/graphics/FontManager.h"
 
+#include <ft2build.h>
+#include FT_FREETYPE_H
+
+#include <cstdint>
+#include <memory>
+#include <string_view>
 #include <utility>
 
 #include "platform/foundation/Runtime.h"
 
 namespace quorix::graphics {
+namespace {
+
+std::uint32_t number(std::string_view bytes, std::size_t at, std::size_t length) {
+  std::uint32_t value = 0;
+  for (std::size_t i = 0; i < length; ++i) {
+    value = value << 8 | static_cast<unsigned char>(bytes[at + i]);
+  }
+  return value;
+}
+
+/// Whether every table of the file's directory lies inside the file. The font library does not
+/// check this and would draw from a truncated file.
+bool isComplete(std::string_view font) {
+  constexpr std::size_t header = 12, record = 16;
+  if (font.size() < header) return false;
+  const std::uint32_t kind = number(font, 0, 4);
+  if (kind != 0x00010000 && kind != 0x4F54544F) return false;  // TrueType; "OTTO", OpenType
+  const std::size_t tables = number(font, 4, 2);
+  if (font.size() < header + tables * record) return false;
+  for (std::size_t i = 0; i < tables; ++i) {
+    const std::size_t offset = number(font, header + i * record + 8, 4);
+    const std::size_t length = number(font, header + i * record + 12, 4);
+    if (offset > font.size() || length > font.size() - offset) return false;
+  }
+  return true;
+}
+
+struct Closer {
+  void operator()(FT_Library library) const { FT_Done_FreeType(library); }
+  void operator()(FT_Face face) const { FT_Done_Face(face); }
+};
+
+}  // namespace
+
+std::optional<GraphicsFont> GraphicsFont::fromData(foundation::Data data) {
+  const std::string_view bytes = data.text();
+  if (!isComplete(bytes) || !std::in_range<FT_Long>(bytes.size())) return std::nullopt;
+  // A library instance belongs to one thread; fonts are made too rarely to keep one for each.
+  FT_Library library = nullptr;
+  if (FT_Init_FreeType(&library) != 0) return std::nullopt;
+  const std::unique_ptr<FT_LibraryRec_, Closer> libraryCloser(library);
+  FT_Face face = nullptr;
+  if (FT_New_Memory_Face(library, reinterpret_cast<const FT_Byte*>(bytes.data()),
+                         static_cast<FT_Long>(bytes.size()), 0, &face) != 0) {
+    return std::nullopt;
+  }
+  const std::unique_ptr<FT_FaceRec_, Closer> faceCloser(face);
+  const char* name = FT_Get_Postscript_Name(face);
+  if (name == nullptr || *name == 0 || !FT_IS_SCALABLE(face) || face->charmap == nullptr) {
+    return std::nullopt;
+  }
+  return GraphicsFont(name, std::move(data));
+}
 
 FontManager& FontManager::shared() { return foundation::Runtime::the<FontManager>(); }
 

@@ -17,4 +17,16 @@ struct RGBA {
 /// Whether the surface shows dark content on light or light content on dark.
 enum class Appearance : std::uint8_t { light, dark };
 
+/// The value of a named color in each appearance.
+struct ColorSet {
+  RGBA light;
+  RGBA dark;
+
+  RGBA resolve(Appearance appearance) const {
+    return appearance == Appearance::dark ? dark : light;
+  }
+
+  bool operator==(const ColorSet&) const = default;
+};
+
 }  // namespace quorix::graphics

@@ -1,6 +1,6 @@
 #include "platform/hosting/ControllerPresentation.h"
 
-#include "platform/swiftui/UIViewControllerRepresentable.h"
+#include "platform/swiftui/UIViewRepresentable.h"
 
 namespace quorix::hosting {
 

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "platform/hosting/RecentEvaluations.h"
-#include "platform/layout/Alignment.h"
+#include "platform/layout/Geometry.h"
 #include "platform/swiftui/DisplayListBuilder.h"
 #include "platform/swiftui/LayoutPass.h"
 #include "platform/swiftui/ViewGraph.h"

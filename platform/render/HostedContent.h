@@ -4,16 +4,20 @@
 #include <utility>
 
 #include "platform/foundation/Export.h"
-#include "platform/layout/SelfSizing.h"
-#include "platform/render/Display.h"
 #include "platform/render/Scene.h"
+#include "platform/text/TextEngine.h"
 
 namespace quorix::render {
 
 /// Content of another toolkit in a view tree: sizes itself and makes its own display list. In one
 /// place of one tree at a time; main thread.
-class QUORIX_EXPORT HostedContent : public layout::SelfSizing {
+class QUORIX_EXPORT HostedContent {
  public:
+  virtual ~HostedContent() = default;
+
+  /// The size that it chooses when offered `proposal`. Points.
+  virtual layout::Size sizeThatFits(layout::ProposedSize proposal, text::TextEngine& engine,
+                                    double scale) = 0;
   /// The content laid out in an area of `size`, with its origin at zero.
   virtual Scene scene(layout::Size size, const Display& display, text::TextEngine& engine) = 0;
 

@@ -12,10 +12,16 @@
 #include "platform/foundation/Export.h"
 #include "platform/graphics/RGBA.h"
 #include "platform/layout/Geometry.h"
-#include "platform/render/Embed.h"
 #include "platform/text/AttributedText.h"
 
 namespace quorix::render {
+
+/// Content that paints itself (a web page). The display list only leaves room for it: the surface
+/// places it there, above the items before it and below those after it.
+class QUORIX_EXPORT Embed {
+ public:
+  virtual ~Embed() = default;
+};
 
 /// A text at its place. The frame's width is the width to break at; its height holds every line.
 struct TextItem {
@@ -96,6 +102,27 @@ struct QUORIX_EXPORT Scene {
   const HitArea* hitTest(layout::Point point) const;
   /// Appends `other`, moved by `offset`.
   void append(Scene other, layout::Point offset);
+};
+
+/// The largest side of a picture of a view, in device pixels: graphics cards support textures of
+/// this size.
+inline constexpr double mostPixels = 8192;
+
+/// The part to paint of a view of `size` points, at `scale` device pixels a point, while `seen` is
+/// visible. A side longer than `mostPixels` is cut to that length with `seen` in the middle, so
+/// that the view can scroll a while before it is painted again. The part begins on a whole device
+/// pixel. Any thread.
+QUORIX_EXPORT layout::Rect partToPaint(layout::Size size, const layout::Rect& seen, double scale);
+
+/// The display list of `part`, with the part's origin at zero. Any thread.
+QUORIX_EXPORT Scene partOf(const Scene& scene, const layout::Rect& part);
+
+/// The settings that a display list is made for.
+struct Display {
+  graphics::Appearance appearance = graphics::Appearance::light;
+  layout::LayoutDirection direction = layout::LayoutDirection::leftToRight;
+  double scale = 1;           ///< device pixels for each point
+  std::string language = {};  ///< of labels without a text of their own; a code such as "tr"
 };
 
 }  // namespace quorix::render

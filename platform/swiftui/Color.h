@@ -8,7 +8,7 @@
 #include "platform/foundation/Bundle.h"
 #include "platform/foundation/Export.h"
 #include "platform/graphics/RGBA.h"
-#include "platform/swiftui/ColorResource.h"
+#include "platform/swiftui/Resource.h"
 
 namespace quorix::swiftui {
 

@@ -9,7 +9,7 @@
 
 #include "platform/foundation/Bundle.h"
 #include "platform/layout/Geometry.h"
-#include "platform/swiftui/ImageResource.h"
+#include "platform/swiftui/Resource.h"
 #include "platform/swiftui/View.h"
 
 namespace quorix::swiftui {

@@ -14,7 +14,6 @@
 #include "platform/swiftui/Presentation.h"
 #include "platform/swiftui/PresentationDetent.h"
 #include "platform/swiftui/StateStore.h"
-#include "platform/swiftui/TreePath.h"
 #include "platform/swiftui/View.h"
 
 namespace quorix::swiftui {

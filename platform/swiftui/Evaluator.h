@@ -11,7 +11,6 @@
 #include "platform/swiftui/Node.h"
 #include "platform/swiftui/Stack.h"
 #include "platform/swiftui/StateStore.h"
-#include "platform/swiftui/TreePath.h"
 
 namespace quorix::swiftui {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <utility>
 
-#include "platform/layout/Alignment.h"
+#include "platform/layout/Geometry.h"
 #include "platform/swiftui/Descriptions.h"
 #include "platform/swiftui/LayoutPass.h"
 #include "platform/swiftui/Modifier.h"

@@ -1,6 +1,6 @@
 #include "platform/swiftui/LayoutPass.h"
 
-#include "platform/layout/Alignment.h"
+#include "platform/layout/Geometry.h"
 
 namespace quorix::swiftui {
 

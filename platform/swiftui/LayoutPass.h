@@ -3,7 +3,6 @@
 #include "platform/foundation/Arena.h"
 #include "platform/layout/Geometry.h"
 #include "platform/layout/PixelGrid.h"
-#include "platform/layout/SafeArea.h"
 #include "platform/swiftui/Node.h"
 #include "platform/text/TextEngine.h"
 

@@ -4,7 +4,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/layout/Alignment.h"
+#include "platform/layout/Geometry.h"
 #include "platform/layout/StackDistribution.h"
 #include "platform/swiftui/Descriptions.h"
 #include "platform/swiftui/DisplayListBuilder.h"

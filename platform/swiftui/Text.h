@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "platform/foundation/Export.h"
-#include "platform/swiftui/TextLook.h"
+#include "platform/swiftui/Look.h"
 
 namespace quorix::swiftui {
 

@@ -1,14 +1,27 @@
 #pragma once
 
 #include <concepts>
+#include <functional>
 #include <memory>
 #include <string_view>
 
 #include "platform/foundation/Export.h"
-#include "platform/swiftui/Represented.h"
+#include "platform/render/HostedContent.h"
+#include "platform/swiftui/View.h"
 #include "platform/uikit/UIViewContent.h"
+#include "platform/uikit/UIViewController.h"
 
 namespace quorix::swiftui {
+
+/// Content of another toolkit in a view tree.
+struct Represented {
+  std::string_view name;
+  std::function<std::shared_ptr<render::HostedContent>()> make;  ///< once for each place in a tree
+  /// At each evaluation, the first included; may be empty.
+  std::function<void(render::HostedContent&)> update = {};
+};
+
+QUORIX_EXPORT View represented(Represented content);
 
 /// A value that makes a view of the imperative toolkit for one place in a tree. With
 /// `updateUIView(view)` it also hands later values on: that runs at each evaluation.
@@ -49,5 +62,43 @@ View represent(R value) {
 ///
 ///     View label = hosting(std::make_shared<uikit::UILabel>());
 QUORIX_EXPORT View hosting(std::shared_ptr<uikit::UIView> view);
+
+/// A value that makes a controller for one place in a tree. `updateUIViewController(controller)`
+/// runs at each evaluation, to hand later values on.
+///
+///     struct Page {
+///       static constexpr std::string_view typeName = "Page";
+///       bool hidden;
+///       auto makeUIViewController() const { return std::make_shared<uikit::UIViewController>(); }
+///       void updateUIViewController(uikit::UIViewController& controller) const {
+///         controller.view()->setHidden(hidden);
+///       }
+///     };
+template <class R>
+concept UIViewControllerRepresentable = requires(const R& value) {
+  { R::typeName } -> std::convertible_to<std::string_view>;
+  { value.makeUIViewController() } -> std::convertible_to<std::shared_ptr<uikit::UIViewController>>;
+  value.updateUIViewController(*value.makeUIViewController());
+};
+
+/// The controller that `value` makes, once for each place in a tree, taking all the room that it is
+/// offered; it is let go when it leaves the tree.
+template <UIViewControllerRepresentable R>
+View represent(R value) {
+  using Made = typename decltype(value.makeUIViewController())::element_type;
+  return represented(
+      {R::typeName,
+       [value] {
+         return std::make_shared<uikit::UIViewControllerContent>(value.makeUIViewController());
+       },
+       [value](render::HostedContent& hosted) {
+         auto& content = static_cast<uikit::UIViewControllerContent&>(hosted);
+         content.updateQuietly(
+             [&] { value.updateUIViewController(static_cast<Made&>(*content.controller())); });
+       }});
+}
+
+/// Shows `controller` itself. In one place at a time.
+QUORIX_EXPORT View hosting(std::shared_ptr<uikit::UIViewController> controller);
 
 }  // namespace quorix::swiftui

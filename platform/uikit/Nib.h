@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "platform/foundation/Bundle.h"
-#include "platform/foundation/Result.h"
+#include "platform/foundation/Error.h"
 #include "platform/uikit/UILabel.h"
 #include "platform/uikit/UIView.h"
 

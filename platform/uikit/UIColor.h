@@ -7,7 +7,7 @@
 
 #include "platform/foundation/Bundle.h"
 #include "platform/foundation/Export.h"
-#include "platform/graphics/ColorSet.h"
+#include "platform/graphics/RGBA.h"
 
 namespace quorix::uikit {
 

@@ -11,13 +11,40 @@
 #include "platform/foundation/Export.h"
 #include "platform/layout/Geometry.h"
 #include "platform/render/Scene.h"
-#include "platform/uikit/CALayer.h"
-#include "platform/uikit/LayoutContext.h"
+#include "platform/text/TextEngine.h"
 #include "platform/uikit/NSLayoutConstraint.h"
 #include "platform/uikit/UIColor.h"
 #include "platform/uikit/UITapGestureRecognizer.h"
 
 namespace quorix::uikit {
+
+class UIView;
+
+/// The border of a view. Part of the view.
+class QUORIX_EXPORT CALayer {
+ public:
+  explicit CALayer(UIView& view) : view_(view) {}
+  CALayer(const CALayer&) = delete;
+  CALayer& operator=(const CALayer&) = delete;
+
+  /// Points, inside the view's edges and above its subviews; 0 for none.
+  double borderWidth() const { return borderWidth_; }
+  void setBorderWidth(double width);
+  /// Null is black.
+  const UIColor::Ref& borderColor() const { return borderColor_; }
+  void setBorderColor(UIColor::Ref color);
+
+ private:
+  UIView& view_;
+  double borderWidth_ = 0;
+  UIColor::Ref borderColor_;
+};
+
+/// The input of layout and drawing besides the views.
+struct LayoutContext {
+  text::TextEngine& engine;
+  render::Display display;
+};
 
 /// The role that assistive technology reads out; `none` is the content's own.
 enum class UIAccessibilityTraits : std::uint8_t { none, button, link, header };

@@ -4,7 +4,7 @@
 #include <optional>
 #include <utility>
 
-#include "platform/foundation/URLRequest.h"
+#include "platform/foundation/URL.h"
 #include "platform/uikit/UIView.h"
 #include "platform/webkit/WebContent.h"
 

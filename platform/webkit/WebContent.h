@@ -6,8 +6,8 @@
 
 #include "platform/foundation/Action.h"
 #include "platform/foundation/Export.h"
-#include "platform/foundation/URLRequest.h"
-#include "platform/render/Embed.h"
+#include "platform/foundation/URL.h"
+#include "platform/render/Scene.h"
 #include "platform/webkit/PageRules.h"
 
 namespace quorix::webkit {

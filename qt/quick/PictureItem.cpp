@@ -1,10 +1,38 @@
 #include "qt/quick/PictureItem.h"
 
+#include <QQuickWindow>
+#include <QSGImageNode>
+#include <QSGTexture>
 #include <utility>
 
-#include "qt/quick/PictureNode.h"
-
 namespace quorix::qt {
+
+void PictureNode::setPicture(QQuickWindow& window, const QImage& image) {
+  if (image.isNull()) {
+    delete image_;  // leaves its parent and takes its texture with it
+    image_ = nullptr;
+    return;
+  }
+  const bool isNew = !image_;
+  if (isNew) {
+    image_ = window.createImageNode();
+    image_->setOwnsTexture(true);
+    // A pixel of the picture is a pixel of the window: interpolating could only blur it.
+    image_->setFiltering(QSGTexture::Nearest);
+  }
+  QSGTexture* texture = window.createTextureFromImage(image, QQuickWindow::TextureCanUseAtlas);
+  image_->setTexture(texture);
+  image_->setSourceRect(QRectF(QPointF(), texture->textureSize()));
+  image_->setRect(QRectF(QPointF(), image.deviceIndependentSize()));
+  // Not before: the software renderer looks at the texture as soon as the node is in the graph.
+  if (isNew) appendChildNode(image_);
+}
+
+void PictureNode::setOrigin(QPointF origin) {
+  QMatrix4x4 moved;
+  moved.translate(static_cast<float>(origin.x()), static_cast<float>(origin.y()));
+  if (moved != matrix()) setMatrix(moved);
+}
 
 PictureItem::PictureItem(QQuickItem& parent) : QQuickItem(&parent) { setFlag(ItemHasContents); }
 

@@ -1,9 +1,28 @@
 #pragma once
 
 #include <QImage>
+#include <QPointF>
 #include <QQuickItem>
+#include <QSGNode>
+
+class QSGImageNode;
 
 namespace quorix::qt {
+
+/// A picture in the scene graph whose pixels are the window's. Shows nothing until it is given one.
+/// The software renderer takes a node's place from the nearest ancestor only when that is a
+/// transform node, so pictures come and go only under such. Render thread, during synchronization.
+class PictureNode : public QSGTransformNode {
+ public:
+  /// Uploads `image`; a null image takes the texture away.
+  void setPicture(QQuickWindow& window, const QImage& image);
+  /// Where its top left stands, in the item's points.
+  void setOrigin(QPointF origin);
+  bool hasPicture() const { return image_ != nullptr; }
+
+ private:
+  QSGImageNode* image_ = nullptr;
+};
 
 /// Shows a picture at its place and takes no input. Main thread.
 class PictureItem : public QQuickItem {

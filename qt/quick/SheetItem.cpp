@@ -8,7 +8,7 @@
 #include "qt/Input.h"
 #include "qt/QtColor.h"
 #include "qt/WindowScene.h"
-#include "qt/quick/PictureNode.h"
+#include "qt/quick/PictureItem.h"
 #include "qt/quick/SheetNode.h"
 
 namespace quorix::qt {

@@ -3,7 +3,7 @@
 #include <QQuickWindow>
 #include <QSGRectangleNode>
 
-#include "qt/quick/PictureNode.h"
+#include "qt/quick/PictureItem.h"
 
 namespace quorix::qt {
 

@@ -4,14 +4,14 @@
 #include <QQuickWindow>
 #include <cmath>
 
-#include "platform/render/ScenePart.h"
+#include "platform/render/Scene.h"
 #include "qt/AccessibilityBridge.h"
 #include "qt/Desktop.h"
 #include "qt/FocusRing.h"
 #include "qt/Picture.h"
 #include "qt/ViewAccessible.h"
 #include "qt/WindowScene.h"
-#include "qt/quick/PictureNode.h"
+#include "qt/quick/PictureItem.h"
 #include "qt/quick/SheetItem.h"
 #include "qt/quick/ViewItem.h"
 

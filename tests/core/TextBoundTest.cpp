@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "QuorixWidgets/info/InfoTitle.h"
-#include "platform/render/ScenePart.h"
+#include "platform/render/Scene.h"
 #include "platform/swiftui/Elements.h"
 #include "platform/swiftui/UIViewRepresentable.h"
 #include "platform/uikit/UILabel.h"

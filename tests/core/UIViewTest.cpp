@@ -5,7 +5,6 @@
 #include "platform/render/ScenePrinter.h"
 #include "platform/swiftui/Elements.h"
 #include "platform/swiftui/TreePrinter.h"
-#include "platform/swiftui/UIViewControllerRepresentable.h"
 #include "platform/swiftui/UIViewRepresentable.h"
 #include "platform/uikit/UILabel.h"
 #include "platform/uikit/ViewPrinter.h"

@@ -1,4 +1,4 @@
-#include "platform/foundation/URLComponents.h"
+#include "platform/foundation/URL.h"
 
 #include "QuorixWidgets/overlay/OverlayAddress.h"
 #include "Vectors.h"

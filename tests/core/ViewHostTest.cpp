@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "platform/swiftui/Elements.h"
-#include "platform/swiftui/Represented.h"
+#include "platform/swiftui/UIViewRepresentable.h"
 #include "tests/core/MemoryBundle.h"
 #include "tests/core/ScoreWidgets.h"
 #include "tests/core/TestWindow.h"

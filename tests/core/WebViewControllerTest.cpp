@@ -7,7 +7,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "platform/swiftui/UIViewControllerRepresentable.h"
+#include "platform/swiftui/UIViewRepresentable.h"
 #include "tests/core/OpenedAddresses.h"
 #include "tests/core/ShownPage.h"
 #include "tests/core/TestWindow.h"

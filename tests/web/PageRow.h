@@ -7,7 +7,7 @@
 
 #include "platform/render/HostedContent.h"
 #include "platform/swiftui/Elements.h"
-#include "platform/swiftui/Represented.h"
+#include "platform/swiftui/UIViewRepresentable.h"
 #include "platform/swiftui/View.h"
 #include "platform/webkit/WebContent.h"
 

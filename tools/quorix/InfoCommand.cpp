@@ -2,7 +2,6 @@
 
 #include "QuorixWidgets/info/InfoWidgetBuilder.h"
 #include "platform/swiftui/TreePrinter.h"
-#include "platform/swiftui/UIViewControllerRepresentable.h"
 #include "platform/swiftui/UIViewRepresentable.h"
 #include "platform/uikit/ViewPrinter.h"
 #include "tools/quorix/InfoRequest.h"

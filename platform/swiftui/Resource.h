@@ -14,4 +14,12 @@ struct ColorResource {
   bool operator==(const ColorResource&) const = default;
 };
 
+/// The name of an image set and the bundle whose catalog has it (null: the host's main bundle).
+struct ImageResource {
+  std::string name;
+  foundation::Bundle::Ref bundle;
+
+  bool operator==(const ImageResource&) const = default;
+};
+
 }  // namespace quorix::swiftui

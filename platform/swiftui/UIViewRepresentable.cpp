@@ -1,4 +1,3 @@
-#include "platform/swiftui/Represented.h"
 
 #include <typeinfo>
 #include <utility>
@@ -7,7 +6,6 @@
 #include "platform/swiftui/Evaluator.h"
 #include "platform/swiftui/LayoutPass.h"
 #include "platform/swiftui/TreePrinter.h"
-#include "platform/swiftui/UIViewControllerRepresentable.h"
 #include "platform/swiftui/UIViewRepresentable.h"
 
 namespace quorix::swiftui {

@@ -1,4 +1,4 @@
-#include "platform/layout/Alignment.h"
+#include "platform/layout/Geometry.h"
 
 namespace quorix::layout {
 
