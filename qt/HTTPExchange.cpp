@@ -10,8 +10,9 @@
 namespace quorix::qt {
 namespace {
 
+using foundation::HTTPResponseReader;
 using foundation::URLResponse;
-using State = foundation::HTTPResponseReader::State;
+using State = HTTPResponseReader::State;
 
 constexpr qint64 kPiece = 16 * 1024;  // read at a time
 
@@ -58,8 +59,7 @@ std::optional<QNetworkProxy> proxyFor(const QUrl& address, bool secure) {
   return std::nullopt;
 }
 
-/// Is sent requests for http with their whole address. (Many such proxies tunnel https only.)
-bool forwards(const QNetworkProxy& proxy) {
+bool speaksHTTP(const QNetworkProxy& proxy) {
   return proxy.type() == QNetworkProxy::HttpProxy ||
          proxy.type() == QNetworkProxy::HttpCachingProxy;
 }
@@ -71,10 +71,15 @@ URLResponse transportError(QNetworkReply::NetworkError code, const QString& text
 }
 
 HTTPExchange::HTTPExchange(QUrl address, Ended ended)
-    : address_(std::move(address)), ended_(std::move(ended)), forwarder_(QNetworkProxy::NoProxy) {}
+    : address_(std::move(address)), ended_(std::move(ended)) {}
 
 HTTPExchange::~HTTPExchange() {
   if (socket_) socket_->disconnect(this);
+}
+
+// The proxy forwards plain requests, but only transports what goes through its tunnel.
+bool HTTPExchange::isAskingProxy() const {
+  return isThroughHTTPProxy() && (!isSecure() || step_ <= Step::openingTunnel);
 }
 
 bool HTTPExchange::isSecure() const { return address_.scheme() == QLatin1String("https"); }
@@ -83,21 +88,21 @@ void HTTPExchange::begin() {
   auto proxy = proxyFor(address_, isSecure());
   QString host = address_.host();
   int port = address_.port(isSecure() ? 443 : 80);
-  if (proxy && !isSecure() && forwards(*proxy)) {
-    forwarder_ = std::exchange(*proxy, QNetworkProxy::NoProxy);
-    host = forwarder_.hostName();
-    port = forwarder_.port();
+  if (proxy && speaksHTTP(*proxy)) {
+    proxy_ = std::exchange(*proxy, QNetworkProxy::NoProxy);
+    host = proxy_.hostName();
+    port = proxy_.port();
   }
+  const auto ended = [this](ConnectionRace::Socket socket, auto error, const QString& text) {
+    race_.release()->deleteLater();  // it is the caller
+    if (socket) {
+      connected(std::move(socket));
+    } else {
+      fail(networkError(error), text);
+    }
+  };
   race_ = std::make_unique<ConnectionRace>(host, static_cast<quint16>(port), isSecure(),
-                                           proxy.value_or(QNetworkProxy::NoProxy),
-                                           [this](auto socket, auto error, const QString& text) {
-                                             race_.release()->deleteLater();  // it is the caller
-                                             if (socket) {
-                                               connected(std::move(socket));
-                                             } else {
-                                               fail(networkError(error), text);
-                                             }
-                                           });
+                                           proxy.value_or(QNetworkProxy::NoProxy), ended);
   race_->begin();
 }
 
@@ -107,46 +112,66 @@ void HTTPExchange::connected(ConnectionRace::Socket socket) {
   connect(socket_.get(), &QTcpSocket::readyRead, this, [this] { receive(); });
   connect(socket_.get(), &QTcpSocket::errorOccurred, this, [this] { socketFailed(); });
   if (!isSecure()) {
-    socket_->write(request());
-    return;
+    sendRequest();
+  } else if (isThroughHTTPProxy()) {
+    openTunnel();
+  } else {
+    encrypt();
   }
+}
+
+void HTTPExchange::openTunnel() {
+  step_ = Step::openingTunnel;
+  reader_.emplace(HTTPResponseReader::Body::none);
+  QUrl server = address_.adjusted(QUrl::RemoveUserInfo);
+  server.setPort(address_.port(443));
+  const QByteArray authority = server.authority(QUrl::FullyEncoded).toLatin1();
+  socket_->write("CONNECT " + authority + " HTTP/1.1\r\nHost: " + authority + "\r\n" +
+                 proxyCredentials() + "\r\n");
+}
+
+void HTTPExchange::encrypt() {
+  step_ = Step::encrypting;
+  reader_.reset();
   auto& secure = static_cast<QSslSocket&>(*socket_);
-  connect(&secure, &QSslSocket::encrypted, this, [this] { socket_->write(request()); });
-  secure.setPeerVerifyName(address_.host());  // it was connected by its address
+  connect(&secure, &QSslSocket::encrypted, this, [this] { sendRequest(); });
+  secure.setPeerVerifyName(address_.host());  // it was connected by an address
   secure.startClientEncryption();
 }
 
-QByteArray HTTPExchange::request() const {
+void HTTPExchange::sendRequest() {
+  step_ = Step::requesting;
+  reader_.emplace();
   QUrl shown = address_.adjusted(QUrl::RemoveUserInfo | QUrl::RemoveFragment);
   if (shown.path().isEmpty()) shown.setPath(QStringLiteral("/"));
   QByteArray target = shown.path(QUrl::FullyEncoded).toLatin1();
   if (shown.hasQuery()) target += '?' + shown.query(QUrl::FullyEncoded).toLatin1();
-  QByteArray credentials;
-  if (forwarder_.type() != QNetworkProxy::NoProxy) {
-    target = shown.toEncoded();
-    const QString user = forwarder_.user();
-    if (!user.isEmpty()) {
-      credentials = "Proxy-Authorization: Basic " +
-                    (user + ':' + forwarder_.password()).toUtf8().toBase64() + "\r\n";
-    }
-  }
-  return "GET " + target + " HTTP/1.1\r\nHost: " + shown.authority(QUrl::FullyEncoded).toLatin1() +
-         "\r\nUser-Agent: QuorixWidgets\r\nAccept: */*\r\nAccept-Encoding: gzip, deflate\r\n" +
-         credentials + "Connection: close\r\n\r\n";
+  if (isAskingProxy()) target = shown.toEncoded();
+  socket_->write("GET " + target +
+                 " HTTP/1.1\r\nHost: " + shown.authority(QUrl::FullyEncoded).toLatin1() +
+                 "\r\nUser-Agent: QuorixWidgets\r\nAccept: */*\r\nAccept-Encoding: gzip, "
+                 "deflate\r\nConnection: close\r\n" +
+                 (isAskingProxy() ? proxyCredentials() : QByteArray()) + "\r\n");
+}
+
+QByteArray HTTPExchange::proxyCredentials() const {
+  if (proxy_.user().isEmpty()) return {};
+  const QString credentials = proxy_.user() + ':' + proxy_.password();
+  return "Proxy-Authorization: Basic " + credentials.toUtf8().toBase64() + "\r\n";
 }
 
 void HTTPExchange::receive() {
-  while (socket_ && socket_->bytesAvailable() > 0) {
+  while (socket_ && reader_ && socket_->bytesAvailable() > 0) {
     const QByteArray bytes = socket_->read(kPiece);
-    advance(reader_.read({bytes.data(), static_cast<std::size_t>(bytes.size())}));
+    advance(reader_->read({bytes.data(), static_cast<std::size_t>(bytes.size())}));
   }
 }
 
 void HTTPExchange::socketFailed() {
   receive();
   if (!socket_) return;
-  if (socket_->error() == QAbstractSocket::RemoteHostClosedError) {
-    advance(reader_.readEnd());
+  if (socket_->error() == QAbstractSocket::RemoteHostClosedError && reader_) {
+    advance(reader_->readEnd());
   } else {
     fail(networkError(socket_->error()), socket_->errorString());
   }
@@ -157,11 +182,7 @@ void HTTPExchange::advance(State state) {
     case State::incomplete:
       return;
     case State::complete:
-      if (reader_.status() == 407 && forwarder_.type() != QNetworkProxy::NoProxy) {
-        return fail(QNetworkReply::ProxyAuthenticationRequiredError,
-                    QStringLiteral("the proxy asks for credentials"));
-      }
-      return end({{}, reader_.body(), reader_.status()}, reader_.location());
+      return answered();
     case State::cutShort:
       return fail(QNetworkReply::RemoteHostClosedError, QStringLiteral("the connection closed"));
     case State::malformed:
@@ -174,7 +195,28 @@ void HTTPExchange::advance(State state) {
   }
 }
 
+void HTTPExchange::answered() {
+  const int status = reader_->status();
+  if (isAskingProxy() && status == 407) {
+    fail(QNetworkReply::ProxyAuthenticationRequiredError,
+         QStringLiteral("the proxy asks for credentials"));
+  } else if (step_ == Step::requesting) {
+    end({{}, reader_->body(), status}, reader_->location());
+  } else if (status / 100 == 2) {
+    encrypt();
+  } else {
+    fail(QNetworkReply::ProxyConnectionRefusedError,
+         QStringLiteral("the proxy opens no tunnel: status %1").arg(status));
+  }
+}
+
 void HTTPExchange::fail(QNetworkReply::NetworkError code, const QString& text) {
+  if (isAskingProxy() && code <= QNetworkReply::TimeoutError) {
+    // A proxy's codes are in the order of a server's.
+    constexpr int kShift =
+        QNetworkReply::ProxyConnectionRefusedError - QNetworkReply::ConnectionRefusedError;
+    code = static_cast<QNetworkReply::NetworkError>(code + kShift);
+  }
   end(transportError(code, text));
 }
 

@@ -7,6 +7,7 @@
 #include <QUrl>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "platform/foundation/HTTPResponseReader.h"
@@ -19,7 +20,7 @@ namespace quorix::qt {
 foundation::URLResponse transportError(QNetworkReply::NetworkError code, const QString& text);
 
 /// One GET on a connection of its own, and its answer. Follows no redirect and sends no cookies or
-/// credentials. Uses the application's proxy and its default SSL configuration.
+/// credentials for the server. Uses the application's proxy and its default SSL configuration.
 class HTTPExchange final : public QObject {
  public:
   /// `location` is where the answer redirects, empty if it names no place.
@@ -36,21 +37,30 @@ class HTTPExchange final : public QObject {
   void begin();
 
  private:
+  enum class Step { connecting, openingTunnel, encrypting, requesting };
+
   bool isSecure() const;
+  bool isThroughHTTPProxy() const { return proxy_.type() != QNetworkProxy::NoProxy; }
+  bool isAskingProxy() const;
   void connected(ConnectionRace::Socket socket);
-  QByteArray request() const;
+  void openTunnel();
+  void encrypt();
+  void sendRequest();
+  QByteArray proxyCredentials() const;
   void receive();
   void socketFailed();
   void advance(foundation::HTTPResponseReader::State state);
+  void answered();
   void fail(QNetworkReply::NetworkError code, const QString& text);
   void end(foundation::URLResponse response, const std::string& location = {});
 
   const QUrl address_;
   Ended ended_;
-  QNetworkProxy forwarder_;  // a proxy that is sent the request instead of the server
+  QNetworkProxy proxy_{QNetworkProxy::NoProxy};  // by HTTP; other kinds are the socket's matter
+  Step step_ = Step::connecting;
   std::unique_ptr<ConnectionRace> race_;
   ConnectionRace::Socket socket_;
-  foundation::HTTPResponseReader reader_;
+  std::optional<foundation::HTTPResponseReader> reader_;  // while an answer is expected
 };
 
 }  // namespace quorix::qt

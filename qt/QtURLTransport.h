@@ -10,8 +10,8 @@ namespace quorix::qt {
 /// The HTTP session's requests over Qt's sockets, on the process's `NetworkThread`.
 ///
 /// Plain GETs by HTTP/1.1, each on a connection of its own, which is closed after the answer: no
-/// cache, cookies or credentials. The application's proxies (`QNetworkProxyFactory`) and its
-/// default SSL configuration apply. An answer with any HTTP status is an answer, 404 and 500 too;
+/// cache, cookies or credentials. The application's proxies (`QNetworkProxyFactory`; of HTTP ones
+/// those without credentials or with Basic ones) and its default SSL configuration apply. An answer with any HTTP status is an answer, 404 and 500 too;
 /// only what kept an answer from arriving whole is an error (domain "URLSession", code
 /// `QNetworkReply::NetworkError`). The body is absent for a status that has none (204, 304) and
 /// empty for any other answer without content. Addresses other than http and https are refused,

@@ -31,7 +31,10 @@ class QUORIX_EXPORT HTTPResponseReader {
   /// A body in chunks of one byte takes six times its size.
   static constexpr std::size_t byteLimit = 2 * 1024 * 1024;
 
-  HTTPResponseReader();
+  /// Whether the answer may have a body. That to a CONNECT has none, whatever its headers say.
+  enum class Body { allowed, none };
+
+  explicit HTTPResponseReader(Body body = Body::allowed);
   ~HTTPResponseReader();
 
   /// Takes the next bytes. Once the state is another than `incomplete`, it stays.
@@ -44,7 +47,7 @@ class QUORIX_EXPORT HTTPResponseReader {
   int status() const;
   /// The value of `Location`; empty if there is none.
   std::string location() const;
-  /// Absent for a status that has none (204, 304).
+  /// Absent where there is none: with the status 204 or 304, or after a CONNECT.
   const std::optional<std::string>& body() const;
 
  private:
@@ -53,6 +56,7 @@ class QUORIX_EXPORT HTTPResponseReader {
   State parse();
   State parsed();
 
+  const Body allowed_;
   std::unique_ptr<Message> message_;
   State state_ = State::incomplete;
   std::string pending_;        // not parsed yet
