@@ -13,8 +13,8 @@ namespace quorix::foundation {
 /// Reads the answer to one GET from the bytes of its connection. Interim answers (1xx) are skipped,
 /// a compressed body is unpacked, what follows the answer is ignored.
 ///
-/// Bounded whatever a server sends: no more than `byteLimit` bytes are taken in all, of which the
-/// headers may have `headLimit` and the body `bodyLimit`, unpacked.
+/// Bounded for any server: no more than `byteLimit` bytes are taken in all, of which the headers
+/// may have `headLimit` and the body `bodyLimit`, unpacked.
 class QUORIX_EXPORT HTTPResponseReader {
  public:
   enum class State {
@@ -31,7 +31,7 @@ class QUORIX_EXPORT HTTPResponseReader {
   /// A body in chunks of one byte takes six times its size.
   static constexpr std::size_t byteLimit = 2 * 1024 * 1024;
 
-  /// Whether the answer may have a body. That to a CONNECT has none, whatever its headers say.
+  /// The answer to a CONNECT has no body, even if its headers announce one.
   enum class Body { allowed, none };
 
   explicit HTTPResponseReader(Body body = Body::allowed);
