@@ -11,11 +11,13 @@ namespace quorix::qt {
 ///
 /// Plain GETs by HTTP/1.1, each on a connection of its own, which is closed after the answer: no
 /// cache, cookies or credentials. The application's proxies (`QNetworkProxyFactory`; of HTTP ones
-/// those without credentials or with Basic ones) and its default SSL configuration apply. An answer with any HTTP status is an answer, 404 and 500 too;
-/// only what kept an answer from arriving whole is an error (domain "URLSession", code
-/// `QNetworkReply::NetworkError`). The body is absent for a status that has none (204, 304) and
-/// empty for any other answer without content. Addresses other than http and https are refused,
-/// unless a protocol registered with the session answers for them.
+/// those without credentials or with Basic ones) and its default SSL configuration apply.
+///
+/// An answer with any HTTP status is an answer, 404 and 500 too; only what kept an answer from
+/// arriving whole is an error (domain "URLSession", code `QNetworkReply::NetworkError`). The body
+/// is absent for a status that has none (204, 304) and empty for any other answer without content.
+/// Addresses other than http and https are refused, unless a protocol registered with the session
+/// answers for them.
 ///
 /// Redirects (301, 302, 303, 307, 308) are followed, up to 20, unless they lead from https to http;
 /// one without a usable `Location` is an answer like any other.
