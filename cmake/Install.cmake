@@ -62,7 +62,7 @@ endfunction()
 
 quorix_install_library(QuorixWidgets QuorixWidgets core)
 quorix_install_pkgconfig(quorixwidgets QuorixWidgets "Return standing widgets, without a surface"
-  "" "icu-i18n icu-uc simdjson freetype2 pugixml")
+  "" "icu-i18n icu-uc simdjson freetype2 pugixml zlib")
 install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${quorix_licences_folder} COMPONENT core)
 file(GLOB quorix_font_licences
   ${PROJECT_SOURCE_DIR}/QuorixWidgets/resources/Assets.xcassets/Fonts/OFL-*.txt)

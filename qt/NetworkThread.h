@@ -11,10 +11,9 @@ namespace quorix::qt {
 /// The one thread that performs the process's HTTP requests.
 ///
 /// It starts with the first request and sleeps in its event loop between requests; a program that
-/// never asks for anything never has it. (Qt Network keeps one more thread beneath it for the
-/// sockets, and an idle connection for two minutes.) It ends with Qt's application object, which
-/// waits for it: what is still in flight ends with an error first. The next application object's
-/// first request starts it anew.
+/// never asks for anything never has it. (Qt looks up names on another thread, which ends half a
+/// minute later.) It ends with Qt's application object, which waits for it: what is still in flight
+/// ends with an error first. The next application object's first request starts it anew.
 ///
 /// A protocol or a completion that blocks does not keep the application: after
 /// `NetworkWorker::kPatience` the thread is left behind. It does nothing more, even if the protocol

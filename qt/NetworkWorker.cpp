@@ -92,7 +92,6 @@ void NetworkWorker::share(Task task, const Request& request) {
 }
 
 void NetworkWorker::beginTransfers() {
-  if (!network_) network_ = std::make_unique<QNetworkAccessManager>();
   QHash<QString, int> running;
   for (const auto& transfer : transfers_) {
     if (transfer->hasBegun()) ++running[transfer->address().authority()];
@@ -102,7 +101,7 @@ void NetworkWorker::beginTransfers() {
     int& count = running[transfer->address().authority()];
     if (count >= kTransfersPerHost) continue;
     ++count;
-    transfer->begin(*network_);
+    transfer->begin();
   }
 }
 
@@ -140,7 +139,6 @@ void NetworkWorker::cancelAll() {
     }
     complete(task, cancelled());
   }
-  network_.reset();
   {
     const std::scoped_lock lock(mutex_);
     finishing_ = !leftBehind_;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QNetworkAccessManager>
 #include <QObject>
 #include <QThread>
 #include <QUrl>
@@ -35,8 +34,8 @@ class NetworkWorker final : public QObject {
     std::chrono::milliseconds timeLimit;
   };
 
-  /// How many transfers run at a time for one host and port. The others wait here rather than in
-  /// Qt, so that their time limits do not run meanwhile.
+  /// How many transfers run at a time for one host and port. The time limits of the others, which
+  /// wait, do not run meanwhile.
   static constexpr int kTransfersPerHost = 6;
 
   /// How long `end` waits for a protocol or a completion that blocks.
@@ -82,7 +81,6 @@ class NetworkWorker final : public QObject {
   bool leftBehind_ = false;
 
   // The thread's own.
-  std::unique_ptr<QNetworkAccessManager> network_;
   std::vector<std::unique_ptr<Transfer>> transfers_;
 };
 

@@ -7,14 +7,17 @@
 
 namespace quorix::qt {
 
-/// The HTTP session's requests over Qt Network, on the process's `NetworkThread`.
+/// The HTTP session's requests over Qt's sockets, on the process's `NetworkThread`.
 ///
-/// Plain GETs with Qt's own headers and no cache. An answer with any HTTP status is an answer, 404
-/// and 500 too; only what kept an answer from arriving whole is an error (domain "URLSession", code
-/// `QNetworkReply::NetworkError`). The body is absent for a status that has none (204, 304) and
-/// empty for any other answer without content. An answer in chunks that breaks off may pass for
-/// whole: Qt does not always notice. Addresses other than http and https are refused, unless a
-/// protocol registered with the session answers for them.
+/// Plain GETs by HTTP/1.1, each on a connection of its own, which is closed after the answer: no
+/// cache, cookies or credentials. The application's proxies (`QNetworkProxyFactory`; of HTTP ones
+/// those without credentials or with Basic ones) and its default SSL configuration apply.
+///
+/// An answer with any HTTP status is an answer, 404 and 500 too; only what kept an answer from
+/// arriving whole is an error (domain "URLSession", code `QNetworkReply::NetworkError`). The body
+/// is absent for a status that has none (204, 304) and empty for any other answer without content.
+/// Addresses other than http and https are refused, unless a protocol registered with the session
+/// answers for them.
 ///
 /// Redirects (301, 302, 303, 307, 308) are followed, up to 20, unless they lead from https to http;
 /// one without a usable `Location` is an answer like any other.
@@ -23,10 +26,10 @@ namespace quorix::qt {
 /// body, and each request completes with a copy of what comes of it. A request that comes after the
 /// answer fetches again. Up to six fetches run at a time for one host and port; the others wait.
 ///
-/// What a server can take is bounded: a body of more than 256 kB (decompressed) ends with
-/// `UnknownContentError`, a fetch that is not over after the time limit with `TimeoutError`, and
-/// its connection is closed. Waiting for its turn does not count. Not bounded are the
-/// headers and the body of a 401 or 407: Qt hands them over when they are complete.
+/// What a server can take is bounded, whatever the status: an answer with a body of more than 256
+/// kB (decompressed) or headers of more than 64 kB ends with `UnknownContentError`, a fetch that is
+/// not over after the time limit with `TimeoutError`, and its connection is closed. Waiting for its
+/// turn does not count.
 ///
 ///     URLSession::shared().install(std::make_shared<QtURLTransport>());
 class QtURLTransport final : public foundation::URLTransport {

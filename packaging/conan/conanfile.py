@@ -54,6 +54,8 @@ class QuorixWidgetsRecipe(ConanFile):
         self.requires("simdjson/[>=3.0.1 <4]")
         self.requires("freetype/[>=2.12 <3]")
         self.requires("pugixml/[>=1.13 <2]")
+        self.requires("zlib/[>=1.2.11 <2]")
+        self.requires("boost/[>=1.74 <2]", options={"header_only": True}, visible=False)
         if self.options.qt and not self.options.system_qt:
             self.requires("qt/[>=6.4 <7]", transitive_headers=True, transitive_libs=True,
                           options={"qtdeclarative": True, "qtsvg": True, "qtshadertools": True,

@@ -2,6 +2,7 @@
 
 #include <QEventLoop>
 #include <QFile>
+#include <QNetworkProxy>
 #include <QSslConfiguration>
 #include <QSslKey>
 #include <QSslServer>
@@ -54,6 +55,10 @@ class LoopbackServer::Connection : public QObject {
 
  private:
   void read() {
+    if (tunnel_) {
+      tunnel_->write(socket_->readAll());
+      return;
+    }
     head_ += socket_->readAll().toStdString();
     if (head_.find("\r\n\r\n") == std::string::npos) return;
     const auto from = head_.find(' ') + 1;
@@ -77,15 +82,25 @@ class LoopbackServer::Connection : public QObject {
     }
     if (sent_ < answer_.bytes.size()) {
       QTimer::singleShot(1, this, [this] { send(); });
+    } else if (answer_.tunnelTo) {
+      openTunnel();
     } else if (answer_.hangUp) {
       socket_->disconnectFromHost();
     }
+  }
+
+  void openTunnel() {
+    tunnel_ = new QTcpSocket(this);
+    tunnel_->setProxy(QNetworkProxy::NoProxy);
+    connect(tunnel_, &QTcpSocket::readyRead, this, [this] { socket_->write(tunnel_->readAll()); });
+    tunnel_->connectToHost(QHostAddress::LocalHost, answer_.tunnelTo);
   }
 
   static constexpr qint64 kBacklog = 1 << 20;  // for a client that does not read
 
   LoopbackServer& server_;
   QTcpSocket* socket_;
+  QTcpSocket* tunnel_ = nullptr;
   std::string head_;
   Answer answer_;
   std::size_t sent_ = 0;

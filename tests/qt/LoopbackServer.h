@@ -21,6 +21,7 @@ struct Answer {
   std::size_t piece = SIZE_MAX;  ///< so many bytes at a time, about a millisecond apart
   bool hangUp = false;           ///< closes the connection after the last byte
   std::string filler = {};       ///< follows the bytes over and over, as fast or as slowly as they
+  std::uint16_t tunnelTo = 0;    ///< a port here that the client speaks with afterwards
 };
 
 /// A well-formed answer. `headers` are whole lines; the length is added.
@@ -41,6 +42,7 @@ class LoopbackServer {
   LoopbackServer& operator=(const LoopbackServer&) = delete;
 
   std::string base() const;  ///< "http://127.0.0.1:4711"
+  std::uint16_t port() const { return port_; }
 
   /// The certificate that a client has to trust for https.
   static QSslCertificate certificate();
