@@ -24,9 +24,9 @@ class WordWriter {
       text_ += ' ' + points(length);
     }
   }
-  void main(std::string_view, std::string_view text) { text_ += ' ' + quoted(text); }
+  void main(std::string_view, std::string_view text) { text_ += ' ' + inQuotes(text); }
   void text(std::string_view name, std::string_view text) {
-    text_ += ' ' + std::string(name) + ' ' + quoted(text);
+    text_ += ' ' + std::string(name) + ' ' + inQuotes(text);
   }
   void value(std::string_view, const std::string& word) {
     if (!word.empty()) text_ += ' ' + word;
@@ -49,26 +49,26 @@ class ObjectWriter {
  public:
   void begin(std::string_view kind, const Rect& frame) {
     text_ += text_.empty() ? "{" : "},\n {";
-    text_ += "\"kind\": " + quoted(kind) + ", \"frame\": {\"x\": " + points(frame.left()) +
+    text_ += "\"kind\": " + inQuotes(kind) + ", \"frame\": {\"x\": " + points(frame.left()) +
              ", \"y\": " + points(frame.top()) + ", \"width\": " + points(frame.size.width) +
              ", \"height\": " + points(frame.size.height) + "}";
   }
-  void main(std::string_view name, std::string_view text) { member(name, quoted(text)); }
-  void text(std::string_view name, std::string_view text) { member(name, quoted(text)); }
-  void value(std::string_view name, const std::string& word) { member(name, quoted(word)); }
+  void main(std::string_view name, std::string_view text) { member(name, inQuotes(text)); }
+  void text(std::string_view name, std::string_view text) { member(name, inQuotes(text)); }
+  void value(std::string_view name, const std::string& word) { member(name, inQuotes(word)); }
   void value(std::string_view name, double value) { member(name, points(value)); }
   void flag(std::string_view name, bool on) { member(name, on ? "true" : "false"); }
   void beginRuns() { text_ += ", \"runs\": ["; }
   void beginRun(std::string_view words) {
     text_ += text_.back() == '[' ? "{" : "}, {";
-    text_ += "\"text\": " + quoted(words);
+    text_ += "\"text\": " + inQuotes(words);
   }
   void endRuns() { text_ += text_.back() == '[' ? "]" : "}]"; }
   std::string end() { return text_.empty() ? "[]" : "[" + text_ + "}]"; }
 
  private:
   void member(std::string_view name, std::string_view value) {
-    text_ += ", " + quoted(name) + ": ";
+    text_ += ", " + inQuotes(name) + ": ";
     text_ += value;
   }
   std::string text_;

@@ -20,7 +20,7 @@ std::string points(double length) {
   return number(std::round(length * 1000) / 1000 + 0.0);  // no "-0"
 }
 
-std::string quoted(std::string_view text) {
+std::string inQuotes(std::string_view text) {
   std::string result = "\"";
   for (const char c : text) {
     if (c == '"' || c == '\\') {

@@ -14,7 +14,7 @@ std::string number(double value);
 /// A length, rounded to three decimals.
 std::string points(double length);
 /// A JSON string, control characters escaped.
-std::string quoted(std::string_view text);
+std::string inQuotes(std::string_view text);
 /// "#1A1A1CFF".
 std::string hex(graphics::RGBA color);
 

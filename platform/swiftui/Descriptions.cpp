@@ -34,17 +34,17 @@ std::string nameOf(layout::Alignment alignment) {
 
 std::string describe(const Font& font) {
   if (font.name().empty()) return "system";
-  const std::string name = quoted(font.name());
+  const std::string name = inQuotes(font.name());
   if (!font.scales()) return name + ", fixedSize: " + number(font.size());
   return name + ", size: " + number(font.size()) +
          ", relativeTo: " + std::string(textStyleName(font.textStyle()));
 }
 
 std::string describe(const Text& text) {
-  if (!text.parts().empty()) return quoted(text.resolved());
-  if (!text.isLocalized()) return quoted(text.key());
-  std::string result = "key: " + quoted(text.key());
-  for (const std::string& argument : text.arguments()) result += ", " + quoted(argument);
+  if (!text.parts().empty()) return inQuotes(text.resolved());
+  if (!text.isLocalized()) return inQuotes(text.key());
+  std::string result = "key: " + inQuotes(text.key());
+  for (const std::string& argument : text.arguments()) result += ", " + inQuotes(argument);
   return result;
 }
 

@@ -13,8 +13,8 @@ namespace quorix::swiftui {
 
 // How a printed tree words the values in it.
 
+using render::inQuotes;
 using render::number;
-using render::quoted;
 std::string_view nameOf(layout::HorizontalAlignment alignment);
 std::string_view nameOf(layout::VerticalAlignment alignment);
 std::string nameOf(layout::Alignment alignment);

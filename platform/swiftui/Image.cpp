@@ -28,7 +28,7 @@ class ImageNode final : public Node, public ElementRules {
       : name_(name), bundle_(std::move(bundle)) {}
 
   void print(TreePrinter& to, int depth) const override {
-    to.line(depth, "Image(" + quoted(name_) + ")");
+    to.line(depth, "Image(" + inQuotes(name_) + ")");
   }
 
   void evaluate(Evaluator& in, const Look& look, layout::Axis, ElementList& out) const override {

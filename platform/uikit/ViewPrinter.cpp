@@ -9,12 +9,12 @@
 namespace quorix::uikit {
 namespace {
 
+using render::inQuotes;
 using render::points;
-using render::quoted;
 
 std::string describe(const UIColor& color) {
   return color.name().empty() ? render::hex(color.resolve(graphics::Appearance::light))
-                              : quoted(color.name());
+                              : inQuotes(color.name());
 }
 
 /// The class; of a subview also its index, because several may have one class.
@@ -51,9 +51,9 @@ std::string looks(const UIView& view) {
   std::string text;
   const auto content = view.describe({});
   if (view.accessibilityLabel()) {
-    text += ' ' + quoted(*view.accessibilityLabel());
+    text += ' ' + inQuotes(*view.accessibilityLabel());
   } else if (content) {
-    text += ' ' + quoted(content->label);
+    text += ' ' + inQuotes(content->label);
   }
   constexpr std::string_view traits[] = {"", " button", " link", " header"};
   text += traits[static_cast<int>(view.accessibilityTraits())];

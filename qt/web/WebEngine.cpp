@@ -41,6 +41,22 @@ bool WebEngine::start() {
   return started;
 }
 
+QWebEngineScript WebEngine::refusals() {
+  QWebEngineScript script;
+  script.setSourceCode(QStringLiteral(R"(
+    if (window.CredentialsContainer) {
+      delete window.PublicKeyCredential;
+      for (const asked of ['create', 'get']) {
+        CredentialsContainer.prototype[asked] =
+            () => Promise.reject(new DOMException('', 'NotAllowedError'));
+      }
+    })"));
+  script.setInjectionPoint(QWebEngineScript::DocumentCreation);
+  script.setWorldId(QWebEngineScript::MainWorld);
+  script.setRunsOnSubFrames(true);
+  return script;
+}
+
 void WebEngine::loadFailed(WebPage::Client& client, const QUrl& address, const QString& why,
                            int code) {
   logNotLoaded(address, why);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QWebEngineScript>
+
 #include "qt/WebPage.h"
 
 namespace quorix::qt {
@@ -10,6 +12,10 @@ namespace WebEngine {
 
 /// Readies the engine on first call. False, with a word on the log, where it would end the process.
 bool start();
+
+/// For a page, to run before its own scripts: refuses passkeys. Newer engines wait for a key
+/// without asking us, and without an end.
+QWebEngineScript refusals();
 
 /// A load failed: says so on the log, and tells the client if nothing of it came. `code` is the
 /// engine's.

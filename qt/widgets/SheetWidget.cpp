@@ -67,7 +67,13 @@ void SheetWidget::holdFocus(QWidget* now) {
 
 bool SheetWidget::focusNextPrevChild(bool next) {
   if (isClosed()) return QWidget::focusNextPrevChild(next);
-  hasPageFocus() ? leavePages(next) : walk(next);
+  if (!hasPageFocus()) {
+    walk(next);
+  } else if (window()->focusWidget()->isVisible()) {
+    leavePages(next);
+  } else {
+    takeFocusFromPages();  // Qt asks, and not the user: it hides the page, whose process ended
+  }
   return true;
 }
 

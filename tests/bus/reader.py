@@ -47,18 +47,26 @@ def shown(element):
         return False
 
 
+def role(element):
+    """Its role in words. Newer libraries say "button"."""
+    return "push button" if element.get_role() == Atspi.Role.PUSH_BUTTON else element.get_role_name()
+
+
 def walk(element):
     """What is on the screen, in reading order. A page keeps its inside to itself."""
     if not shown(element):
         return
     yield element
-    if element.get_role_name() not in WEB:
+    if role(element) not in WEB:
         for child in children(element):
             yield from walk(child)
 
 
 def words(element):
-    """What it is called, by itself or by its label, and what else is said of it."""
+    """What it is called, by itself or by its label, and what else is said of it. The title of a page
+    is not ours to say, and older engines don't."""
+    if role(element) in WEB:
+        return []
     label = [relation.get_target(0).get_name() for relation in element.get_relation_set()
              if relation.get_relation_type() == Atspi.RelationType.LABELLED_BY]
     return list(dict.fromkeys(label + [element.get_name(), element.get_description()]))
@@ -66,7 +74,7 @@ def words(element):
 
 def line(element):
     states = element.get_state_set()
-    said = [element.get_role_name()] + [f'"{text}"' for text in words(element) if text]
+    said = [role(element)] + [f'"{text}"' for text in words(element) if text]
     said += [state.value_nick for state in STATES if states.contains(state)]
     if not states.contains(State.ENABLED):
         said.append("disabled")
@@ -88,7 +96,7 @@ def read(element):
 
 
 def speaks(element):
-    return element.get_role_name() not in SILENT or any(words(element))
+    return role(element) not in SILENT or any(words(element))
 
 
 def press(element):
@@ -148,8 +156,8 @@ class Window:
             pass
         self.events.clear()
 
-    def all(self, role, *names):
-        return (each for each in walk(self.root) if each.get_role_name() == role
+    def all(self, kind, *names):
+        return (each for each in walk(self.root) if role(each) == kind
                 and (not names or each.get_name() in names))
 
     def find(self, start, description=""):

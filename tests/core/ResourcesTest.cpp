@@ -62,7 +62,7 @@ TEST_F(ResourcesDeathTest, AMissingColourStopsTheImperativeFormOnly) {
       (replaceLibraryBundle(empty), !Color::widgetBackground().resolve(Appearance::light)));
   EXPECT_DEATH((replaceLibraryBundle(empty), UIColor::widgetBackground()),
                "^QuorixWidgets/Colors: Fatal error: No color named 'Background' in the asset "
-               "catalog\n$");
+               "catalog\n");
 }
 
 TEST_F(ResourcesDeathTest, WithoutALibraryBundleTheHostsMainBundleAnswers) {

@@ -174,8 +174,9 @@ TYPED_TEST(Sheet, ItsContentPresentsFurtherSheetsAboveIt) {
   screen.key(Qt::Key_Escape);
   EXPECT_FALSE(screen.shows("Row 4 €"));
   EXPECT_TRUE(sheets[0]->state().modal);
-  screen.clickAt({180, 150});  // beside
+  QTest::mouseClick(&screen.window(), Qt::LeftButton, {}, {180, 150});  // beside
   EXPECT_EQ(eventsBelow(), before);
+  screen.settle();  // with the next frame the pointer may enter what lay below
   EXPECT_TRUE(screen.hasFocus(row));
   EXPECT_TRUE(screen.shows("More"));
 }

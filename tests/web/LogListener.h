@@ -18,8 +18,9 @@ class LogListener {
  private:
   static void note(QtMsgType, const QMessageLogContext& context, const QString& line) {
     static QMutex mutex;
-    if (line.contains(QLatin1String("propagateSizeHints")))
-      return;  // the platform without a display
+    // The platform without a display.
+    if (line.contains(QLatin1String("propagateSizeHints"))) return;
+    if (line.contains(QLatin1String("apturing is not available"))) return;
     const QMutexLocker lock(&mutex);
     lines().append(QString::fromUtf8(context.category) + ": " + line);
   }

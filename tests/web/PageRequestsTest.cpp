@@ -40,6 +40,8 @@ std::vector<Request> requests() {
   };
   const QByteArray frame =
       "const f = document.createElement('iframe'); f.src = 'tel:1'; document.body.append(f); ";
+  // Later engines ask nobody, and keep to a limit of their own.
+  const bool asksForRoom = QT_VERSION < QT_VERSION_CHECK(6, 5, 0);
   return {
       // Permissions.
       {"a place",
@@ -71,7 +73,7 @@ std::vector<Request> requests() {
        "navigator.webkitPersistentStorage ? "
        "navigator.webkitPersistentStorage.requestQuota(1e9, b => tell(b > 0 ? "
        "'granted' : 'refused'), () => tell('refused')) : tell('refused')",
-       false, "refused"},
+       false, asksForRoom ? "refused" : "granted"},
       // Dialogs.
       {"a warning", "alert('x'); tell('done')", false},
       {"a yes", "tell(confirm('x') ? 'granted' : 'refused')", false, "refused"},

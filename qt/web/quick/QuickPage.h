@@ -17,6 +17,7 @@ namespace quorix::qt {
 class QuickPage : public QObject, public WebPage {
   Q_OBJECT
   Q_PROPERTY(QColor background READ background CONSTANT)
+  Q_PROPERTY(QWebEngineScript refusals READ refusals CONSTANT)
   Q_PROPERTY(bool allowsScripts READ allowsScripts CONSTANT)
   Q_PROPERTY(bool opensWindowsUnasked READ opensWindowsUnasked CONSTANT)
 
@@ -35,6 +36,7 @@ class QuickPage : public QObject, public WebPage {
   void goForward() override;
 
   QColor background() const { return options_.background; }
+  QWebEngineScript refusals() const { return WebEngine::refusals(); }
   bool allowsScripts() const { return options_.settings.allowsContentJavaScript; }
   bool opensWindowsUnasked() const {
     return options_.settings.javaScriptCanOpenWindowsAutomatically;

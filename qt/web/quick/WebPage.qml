@@ -30,6 +30,8 @@ WebEngineView {
         unknownUrlSchemePolicy: WebEngineSettings.AllowAllUnknownUrlSchemes // so that we are asked
     }
 
+    Component.onCompleted: userScripts.insert(page.refusals)
+
     onLoadProgressChanged: if (loading) page.loading(loadProgress)
     onLoadingChanged: info => {
         if (info.status === WebEngineView.LoadStartedStatus) page.loading(0);

@@ -8,6 +8,7 @@
 #include <QWebEngineLoadingInfo>
 #include <QWebEngineNewWindowRequest>
 #include <QWebEngineRegisterProtocolHandlerRequest>
+#include <QWebEngineScriptCollection>
 #include <QWebEngineSettings>
 
 #if QT_VERSION < QT_VERSION_CHECK(6, 5, 0)
@@ -99,6 +100,7 @@ void QuietPage::refuseRequests() {
 }
 
 void QuietPage::refusePermissions() {
+  scripts().insert(WebEngine::refusals());
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
   connect(this, &QWebEnginePage::permissionRequested, this,
           [](const QWebEnginePermission& permission) { permission.deny(); });
