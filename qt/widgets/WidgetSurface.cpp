@@ -83,6 +83,14 @@ hosting::WindowSession* WidgetSurface::window() {
   return &WindowScene::of(*window, {[window] { return window->windowHandle(); }, newSheet});
 }
 
+void WidgetSurface::activated() { emit widget_.activated(); }
+
+void WidgetSurface::sheetOpened() { emit widget_.sheetOpened(); }
+
+void WidgetSurface::sheetClosed(hosting::SheetCloseReason reason) {
+  emit widget_.sheetClosed(static_cast<SheetCloseReason>(reason));
+}
+
 // Place.
 
 void WidgetSurface::placeChanged() {
