@@ -37,6 +37,7 @@ bool isInView(const QWidget& widget) {
 WidgetSurface::WidgetSurface(ViewWidget& widget)
     : HostedView(widget), WidgetAccessibleSurface(widget), widget_(widget) {
   AccessibilityBridge::instance()->add(widget, *this);
+  QObject::connect(Desktop::instance(), &Desktop::changed, &widget, [this] { settingsChanged(); });
 }
 
 WidgetSurface::~WidgetSurface() {
