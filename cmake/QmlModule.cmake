@@ -20,7 +20,9 @@ foreach(file ${qml_module_files})
   configure_file(${PROJECT_SOURCE_DIR}/qt/qml/${file} ${qml_module_folder}/${file} COPYONLY)
 endforeach()
 
-qt_extract_metatypes(QuorixQuick)  # from which the types learn that a ViewItem is an item
+# From which the types learn that a ViewItem is an item, and what its signals pass.
+qt_extract_metatypes(QuorixQuick)
+qt_extract_metatypes(QuorixQt)
 qt_add_plugin(QuorixQmlPlugin SHARED CLASS_NAME QuorixWidgetsPlugin)
 quorix_harden(QuorixQmlPlugin)
 qt_add_qml_module(QuorixQml

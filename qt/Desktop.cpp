@@ -41,8 +41,11 @@ Desktop::Desktop(QObject* application) : QObject(application) {
 }
 
 swiftui::Environment Desktop::environment(double scale) {
-  return {
-      .appearance = appearance(), .direction = direction(), .scale = scale, .language = language()};
+  return {.appearance = appearance(),
+          .direction = direction(),
+          .textSize = textSize(),
+          .scale = scale,
+          .language = language()};
 }
 
 graphics::Appearance Desktop::appearance() { return appearanceOf(QGuiApplication::palette()); }
@@ -60,6 +63,17 @@ layout::LayoutDirection Desktop::direction() {
 layout::LayoutDirection Desktop::directionOf(Qt::LayoutDirection direction) {
   return direction == Qt::RightToLeft ? layout::LayoutDirection::rightToLeft
                                       : layout::LayoutDirection::leftToRight;
+}
+
+swiftui::ContentSizeCategory Desktop::textSize() {
+  double factor = 1;
+#ifdef QUORIX_DBUS
+  // On X11 desktops put it into the DPI as well, by which Qt enlarges every window.
+  const Desktop* desktop = instance();
+  const bool enlarged = QGuiApplication::platformName() == QLatin1String("xcb");
+  if (desktop && !enlarged) factor = desktop->portal_->textScale();
+#endif
+  return swiftui::contentSizeCategoryFor(factor);
 }
 
 std::string Desktop::language() {

@@ -12,8 +12,8 @@ namespace quorix::qt {
 
 class DesktopPortal;
 
-/// What the desktop says for every surface of the process: light or dark, reading direction,
-/// motion. Lives as long as the application object; main thread.
+/// What the desktop says for every surface of the process: light or dark, reading direction, text
+/// size, motion. Lives as long as the application object; main thread.
 class QUORIX_EXPORT Desktop : public QObject {
   Q_OBJECT
 
@@ -29,6 +29,8 @@ class QUORIX_EXPORT Desktop : public QObject {
   static graphics::Appearance appearanceOf(const QPalette& palette);
   static layout::LayoutDirection direction();
   static layout::LayoutDirection directionOf(Qt::LayoutDirection direction);
+  /// The user's text size, as far as Qt has not enlarged everything by it.
+  static swiftui::ContentSizeCategory textSize();
   /// The application's language, as a code such as "tr".
   static std::string language();
   /// The user asked for less motion: the latest word of the desktop's settings.

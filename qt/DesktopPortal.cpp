@@ -4,6 +4,8 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <cmath>
+#include <utility>
 
 namespace quorix::qt {
 namespace {
@@ -14,6 +16,7 @@ const QString kInterface = QStringLiteral("org.freedesktop.portal.Settings");
 const QString kAppearance = QStringLiteral("org.freedesktop.appearance");
 const QString kReducedMotion = QStringLiteral("reduced-motion");
 const QString kGnome = QStringLiteral("org.gnome.desktop.interface");
+const QString kTextScale = QStringLiteral("text-scaling-factor");
 const QString kAnimations = QStringLiteral("enable-animations");
 
 /// An answer is wrapped once or twice, by the service's age.
@@ -27,10 +30,12 @@ QVariant unwrapped(const QDBusVariant& value) {
 DesktopPortal::DesktopPortal(QObject* parent) : QObject(parent) {
   QDBusConnection bus = QDBusConnection::sessionBus();
   if (!bus.isConnected()) return;
+  qRegisterMetaType<QDBusVariant>();  // Qt looks up the slot's types by name
   bus.connect(kService, kPath, kInterface, QStringLiteral("SettingChanged"), this,
               SLOT(take(QString, QString, QDBusVariant)));
   ask(kAppearance, kReducedMotion);
   ask(kGnome, kAnimations);
+  ask(kGnome, kTextScale);
 }
 
 void DesktopPortal::ask(const QString& group, const QString& key) {
@@ -48,10 +53,14 @@ void DesktopPortal::ask(const QString& group, const QString& key) {
 }
 
 void DesktopPortal::take(const QString& group, const QString& key, const QDBusVariant& value) {
-  const bool before = prefersReducedMotion();
+  const auto before = std::pair(prefersReducedMotion(), textScale_);
   if (group == kAppearance && key == kReducedMotion) reducedMotion_ = unwrapped(value).toUInt();
   if (group == kGnome && key == kAnimations) animations_ = unwrapped(value).toBool();
-  if (prefersReducedMotion() != before) emit changed();
+  if (group == kGnome && key == kTextScale) {
+    const double scale = unwrapped(value).toDouble();
+    textScale_ = std::isfinite(scale) && scale > 0 ? scale : 1;
+  }
+  if (std::pair(prefersReducedMotion(), textScale_) != before) emit changed();
 }
 
 }  // namespace quorix::qt

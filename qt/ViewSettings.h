@@ -18,7 +18,8 @@ class QUORIX_EXPORT ViewSettings {
     settings_.direction = direction;
     settingsChanged();
   }
-  void setTextSize(swiftui::ContentSizeCategory category) {
+  /// The user's text size; nothing follows the desktop's where it tells it.
+  void setTextSize(std::optional<swiftui::ContentSizeCategory> category) {
     settings_.textSize = category;
     settingsChanged();
   }

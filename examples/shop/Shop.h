@@ -86,7 +86,8 @@ class Shop : public QObject {
   bool rightToLeft() const { return language().rightToLeft; }
   QString regularFont() const { return face().regular; }
   QString semiBoldFont() const { return face().semiBold; }
-  int textSize() const { return static_cast<int>(face().textSize); }
+  /// As QML's `ScoreWidget.TextSize`.
+  int textSize() const { return face().textSize ? static_cast<int>(*face().textSize) : -1; }
   bool dark() const;
   ShopColors colors() const { return dark() ? ShopColors::dark() : ShopColors::light(); }
   const ShopWords& words() const { return words_; }

@@ -10,8 +10,8 @@ const std::vector<TextFace>& TextFace::all() {
   static const auto regular = QString::fromStdString(TovaFont::regular().name());
   static const auto semiBold = QStringLiteral("TovaSansLatin-SemiBold");
   static const std::vector<TextFace> faces = {
-      {QStringLiteral("Widget's own face"), {}, {}, ContentSizeCategory::large},
-      {QStringLiteral("Shop's face"), regular, semiBold, ContentSizeCategory::large},
+      {QStringLiteral("Widget's own face"), {}, {}, {}},
+      {QStringLiteral("Shop's face"), regular, semiBold, {}},
       {QStringLiteral("Shop's face, larger"), regular, semiBold,
        ContentSizeCategory::extraExtraExtraLarge},
       {QStringLiteral("Shop's face, largest"), regular, semiBold,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 #include <vector>
 
 #include "platform/swiftui/ContentSizeCategory.h"
@@ -12,7 +13,7 @@ struct TextFace {
   QString name;      ///< for the demo bar
   QString regular;   ///< a face of the shop's own, empty for the widgets'
   QString semiBold;  ///< likewise
-  swiftui::ContentSizeCategory textSize;
+  std::optional<swiftui::ContentSizeCategory> textSize;  ///< nothing: the user's
 
   static const std::vector<TextFace>& all();
 };

@@ -8,8 +8,8 @@ swiftui::Presentation controllerPresentation(
     const std::shared_ptr<uikit::UIViewController>& controller) {
   auto isPresented = std::make_shared<swiftui::StateBox<bool>>();
   isPresented->value = true;
-  isPresented->onChange = [presented = std::weak_ptr(controller)] {
-    const auto closed = presented.lock();
+  isPresented->onChange = [presented = std::weak_ptr(controller), box = isPresented.get()] {
+    const auto closed = box->value ? nullptr : presented.lock();
     const auto presenter = closed ? closed->presentingViewController() : nullptr;
     if (presenter) presenter->dismiss(true);
   };

@@ -34,4 +34,13 @@ struct KeyEvent {
   bool repeated = false;  ///< the key is held down
 };
 
+/// What closed a sheet.
+enum class SheetCloseReason : std::uint8_t {
+  button,   ///< an element of the sheet itself, such as its cross
+  swipe,    ///< a swipe down
+  outside,  ///< a tap beside the sheet
+  key,      ///< Escape, the Back key
+  host,     ///< anything else: the user did not close it
+};
+
 }  // namespace quorix::hosting

@@ -72,6 +72,11 @@ class QUORIX_EXPORT Responder {
   virtual void pointerReleased(const PointerEvent& event) = 0;
   virtual void pointerCancelled() = 0;
 
+  friend class SheetSession;
+  /// A sheet that this opened is up, or left. Called while the sheet is at work.
+  virtual void sheetCameUp() {}
+  virtual void sheetLeft(SheetCloseReason) {}
+
   virtual void settleContent() = 0;
   /// Null while the content presents no sheet.
   virtual const swiftui::Presentation* presentation() = 0;

@@ -17,12 +17,12 @@ struct HostSettings {
   std::optional<graphics::Appearance> appearance;
   std::optional<layout::LayoutDirection> direction;
   std::optional<bool> motion;
-  swiftui::ContentSizeCategory textSize = swiftui::ContentSizeCategory::large;
+  std::optional<swiftui::ContentSizeCategory> textSize;
 
   swiftui::Environment over(swiftui::Environment desktop) const {
     desktop.appearance = appearance.value_or(desktop.appearance);
     desktop.direction = direction.value_or(desktop.direction);
-    desktop.textSize = textSize;
+    desktop.textSize = textSize.value_or(desktop.textSize);
     return desktop;
   }
 };

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <utility>
 
 #include "platform/hosting/SceneLayers.h"
@@ -81,6 +82,7 @@ struct SheetPresenter::State final : ViewHost::Client {
   std::optional<layout::Rect> inWindow(const std::optional<layout::Rect>& frame) const {
     return frame ? std::optional(frame->translated(panel().origin)) : std::nullopt;
   }
+  bool perform(SheetCloseReason reason, const std::function<bool()>& action);
   void close();
 
   SheetPresenter::Client& client;
@@ -89,6 +91,8 @@ struct SheetPresenter::State final : ViewHost::Client {
   ViewFocus focus;
   SheetGeometry geometry;
   std::optional<swiftui::Presentation> presentation;
+  std::shared_ptr<SheetCloseReason> closeReason =
+      std::make_shared<SheetCloseReason>(SheetCloseReason::host);
   std::optional<render::Scene> overlay;
   std::optional<render::Scene> panelAtRest;
   unsigned panelRevision = 0;
@@ -106,6 +110,17 @@ void SheetPresenter::State::close() {
   if (std::exchange(closed, true)) return;
   content.setOnScreen(false);
   client.sheetDidClose();
+}
+
+/// Performs `action`, which may destroy this, and notes `reason` if that closes the sheet.
+bool SheetPresenter::State::perform(SheetCloseReason reason, const std::function<bool()>& action) {
+  if (!presentation) return false;
+  const auto isPresented = presentation->isPresented;
+  const auto noted = closeReason;
+  const bool before = isPresented.get();
+  const bool performed = action();
+  if (before && !isPresented.get()) *noted = reason;
+  return performed;
 }
 
 /// Adds the panel with its content. Items that cover the top corners get the panel's radius.
@@ -153,6 +168,7 @@ void SheetPresenter::setMotion(bool enabled) {
 }
 
 void SheetPresenter::present(const swiftui::Presentation& presentation) {
+  if (presentation.isPresented.get()) *state_->closeReason = SheetCloseReason::host;
   state_->presentation = presentation;
   state_->closing = false;
   state_->closed = false;
@@ -171,9 +187,11 @@ const swiftui::Presentation* SheetPresenter::presentation() {
   return state_->closing ? nullptr : state_->content.presentation();
 }
 
-void SheetPresenter::dismiss() {
-  if (state_->presentation) state_->presentation->isPresented.set(false);
+void SheetPresenter::dismiss(SheetCloseReason reason) {
+  state_->perform(reason, [this] { return state_->presentation->isPresented.set(false), true; });
 }
+
+SheetCloseReason SheetPresenter::closeReason() const { return *state_->closeReason; }
 
 bool SheetPresenter::isMoving() const { return state_->isMoving(); }
 
@@ -247,10 +265,11 @@ void SheetPresenter::pointerReleased(layout::Point point, double velocity) {
   state_->endDrag();
   state_->moved();
   if (outside || swiped) {
-    dismiss();
+    dismiss(outside ? SheetCloseReason::outside : SheetCloseReason::swipe);
   } else if (tapped) {
     // Last, since an action may destroy this presenter.
-    state_->content.pointerReleased(state_->inContent(point));
+    state_->perform(SheetCloseReason::button,
+                    [&] { return state_->content.pointerReleased(state_->inContent(point)); });
   }
 }
 
@@ -285,10 +304,14 @@ std::optional<layout::Rect> SheetPresenter::ringFrame() const {
   return state_->inWindow(state_->focus.ring());
 }
 
-bool SheetPresenter::activateFocus() { return !state_->closing && state_->content.activateFocus(); }
+bool SheetPresenter::activateFocus() {
+  return !state_->closing && state_->perform(SheetCloseReason::button,
+                                             [this] { return state_->content.activateFocus(); });
+}
 
 bool SheetPresenter::activate(int index) {
-  return !state_->closing && state_->content.activate(index);
+  return !state_->closing &&
+         state_->perform(SheetCloseReason::button, [&] { return state_->content.activate(index); });
 }
 
 void SheetPresenter::settle() {

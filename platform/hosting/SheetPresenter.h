@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "platform/foundation/Export.h"
+#include "platform/hosting/Input.h"
 #include "platform/hosting/ViewHost.h"
 
 namespace quorix::hosting {
@@ -40,9 +41,10 @@ class QUORIX_EXPORT SheetPresenter {
   void present(const swiftui::Presentation& presentation);
   /// Closes the sheet on its owner's behalf: it falls, then the client is told.
   void retract();
-  /// Closes the sheet on the user's behalf (Escape, the Back key, assistive technology): writes
-  /// false through the binding.
-  void dismiss();
+  /// Closes the sheet on the user's behalf: writes false through the binding.
+  void dismiss(SheetCloseReason reason = SheetCloseReason::key);
+  /// What made the binding false; `host` unless the user did, in the sheet or by `dismiss`.
+  SheetCloseReason closeReason() const;
 
   /// The sheet that the content itself presents. Show it above this one, with a presenter of its
   /// own. Null without one, and while this sheet closes.

@@ -38,6 +38,7 @@ void SheetSession::present(const swiftui::Presentation& presentation) {
   comeUp();
   takeFocus();
   focusMoved(false);
+  if (const auto opener = opener_.lock()) (*opener)->sheetCameUp();
   if (EmbeddedPages::hasPages(presenter_.panel()) && !canShowPages()) giveUpPages();
 }
 
@@ -61,7 +62,10 @@ void SheetSession::abandon() {
 bool SheetSession::leaveWindow() {
   if (window_) std::erase(window_->sheets_, this);
   window_ = nullptr;
-  return !std::exchange(closed_, true);
+  if (std::exchange(closed_, true)) return false;
+  const auto opener = presented_ ? opener_.lock() : nullptr;
+  if (opener) (*opener)->sheetLeft(presenter_.closeReason());
+  return true;
 }
 
 void SheetSession::leave() {
@@ -111,7 +115,7 @@ void SheetSession::followPages() {
 void SheetSession::giveUpPages() {
   gaveUpPages_ = true;
   EmbeddedPages::sendOutside(presenter_.panel());
-  presenter_.dismiss();
+  presenter_.dismiss(SheetCloseReason::host);
 }
 
 void SheetSession::pageTookFocus() {
@@ -180,7 +184,7 @@ bool SheetSession::handle(const KeyEvent& event) {
   switch (event.key) {
     case Key::escape:
     case Key::back:
-      presenter_.dismiss();
+      presenter_.dismiss(SheetCloseReason::key);
       return true;
     case Key::next:
     case Key::previous:

@@ -127,7 +127,7 @@ class QUORIX_EXPORT SheetSession : public Responder,
   void sheetNeedsDisplay() override { needsFrame(); }
   void sheetPresentationChanged() override { followSheet(); }
   void sheetDidClose() override { close(); }
-  void pageHangs() override { presenter_.dismiss(); }
+  void pageHangs() override { presenter_.dismiss(SheetCloseReason::key); }
   void pageEnded() override;
 
   bool pointerPressed(const PointerEvent& event) override;
@@ -141,7 +141,8 @@ class QUORIX_EXPORT SheetSession : public Responder,
   void giveUpPages();
   bool enterPages(bool forward);
 
-  WindowSession* window_;  ///< null once closed
+  WindowSession* window_;             ///< null once closed
+  std::weak_ptr<Responder*> opener_;  ///< which is told of the sheet
   SheetPresenter presenter_;
   Settings settings_;
   VelocityTracker velocity_;

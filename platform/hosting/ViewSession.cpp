@@ -31,6 +31,29 @@ SheetSession* ViewSession::makeSheet() {
   return in ? &in->makeSheet(this, settings()) : nullptr;
 }
 
+void ViewSession::end() {
+  leaveWindow();
+  if (std::exchange(sheets_, 0) > 0) closeReason_ = SheetCloseReason::host;
+  tellOfSheets();
+}
+
+void ViewSession::sheetCameUp() {
+  ++sheets_;
+  later([this] { tellOfSheets(); });
+}
+
+void ViewSession::sheetLeft(SheetCloseReason reason) {
+  --sheets_;
+  closeReason_ = reason;
+  later([this] { tellOfSheets(); });
+}
+
+void ViewSession::tellOfSheets() {
+  const bool open = sheets_ > 0;
+  if (std::exchange(toldOpen_, open) == open) return;
+  open ? sheetOpened() : sheetClosed(closeReason_);
+}
+
 /// Controllers that the view presents from now on belong over this window.
 void ViewSession::used() {
   if (WindowSession* in = window()) in->used(*this, settings());
@@ -51,7 +74,14 @@ bool ViewSession::pointerPressed(const PointerEvent& event) {
 /// Acts on a later turn: the toolkit may still work with the surface that it told of the release,
 /// and the action may delete it.
 void ViewSession::pointerReleased(const PointerEvent& event) {
-  if (const auto action = host_.endPress(event.point)) later([action] { action(); });
+  const auto action = host_.endPress(event.point);
+  if (action) later([this, action] { perform([&] { return action(), true; }); });
+}
+
+/// Tells of an action that acted. It may delete this.
+void ViewSession::perform(const std::function<bool()>& action) {
+  const auto self = weak();
+  if (action() && !self.expired()) activated();
 }
 
 bool ViewSession::takesTapAt(layout::Point point) {
@@ -64,7 +94,7 @@ bool ViewSession::handle(const KeyEvent& event) {
   if (event.key != Key::activate || !host_.focusFrame()) return false;
   if (event.repeated) return true;
   used();
-  host_.activateFocus();
+  perform([this] { return host_.activateFocus(); });
   return true;
 }
 
@@ -103,7 +133,7 @@ const std::vector<render::AccessibilityElement>& ViewSession::elements() {
 
 void ViewSession::activate(int index) {
   used();
-  host_.activate(index);
+  perform([&] { return host_.activate(index); });
 }
 
 bool ViewSession::focusElement(int index) {

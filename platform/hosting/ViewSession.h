@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "platform/foundation/Export.h"
 #include "platform/hosting/Responder.h"
 #include "platform/hosting/ViewFocus.h"
@@ -23,6 +25,9 @@ class QUORIX_EXPORT ViewSession : public Responder, private ViewHost::Client {
   bool handle(const KeyEvent& event) override;
   using Responder::handle;
   bool takesTapAt(layout::Point point) override;
+
+  /// The surface is about to go: its sheet goes as well, and is told of now.
+  void end();
 
   void focusCame(ViewFocus::Cause cause);
   void focusLeft(ViewFocus::Cause cause);
@@ -64,11 +69,23 @@ class QUORIX_EXPORT ViewSession : public Responder, private ViewHost::Client {
   /// Null without a window.
   virtual WindowSession* window() = 0;
 
+  // What happened. Each may delete the surface.
+  /// The user tapped something that acts: by pointer, key or assistive technology.
+  virtual void activated() {}
+  /// A sheet of the view is up. Told on a later turn, and once for what stands on each other.
+  virtual void sheetOpened() {}
+  /// It left, likewise: one call for each of `sheetOpened`.
+  virtual void sheetClosed(SheetCloseReason) {}
+
   void presentationChanged() override { followSheet(); }
   void settleContent() override { host_.settle(); }
   const swiftui::Presentation* presentation() override { return host_.presentation(); }
   SheetSession* makeSheet() override;
+  void sheetCameUp() override;
+  void sheetLeft(SheetCloseReason reason) override;
+  void tellOfSheets();
 
+  void perform(const std::function<bool()>& action);
   bool pointerPressed(const PointerEvent& event) override;
   void pointerReleased(const PointerEvent& event) override;
   void pointerCancelled() override { host_.pointerCancelled(); }
@@ -77,6 +94,9 @@ class QUORIX_EXPORT ViewSession : public Responder, private ViewHost::Client {
 
   ViewHost host_;
   ViewFocus focus_;
+  int sheets_ = 0;                                         ///< how many are up that this opened
+  bool toldOpen_ = false;                                  ///< that some are
+  SheetCloseReason closeReason_ = SheetCloseReason::host;  ///< the latest
 };
 
 }  // namespace quorix::hosting

@@ -20,6 +20,9 @@ class ViewWindow::View final : public ViewSession {
   void focusMoved(bool) override {}
   WindowSession* window() override { return &window_; }
   void viewNeedsDisplay() override { window_.viewChanged(); }
+  void activated() override { window_.activated(); }
+  void sheetOpened() override { window_.sheetOpened(); }
+  void sheetClosed(SheetCloseReason reason) override { window_.sheetClosed(reason); }
 
   ViewWindow& window_;
 };

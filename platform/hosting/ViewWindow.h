@@ -49,6 +49,10 @@ class QUORIX_EXPORT ViewWindow : public WindowSession {
   virtual void needsFrame() {}
   /// The view's size or display list may have changed.
   virtual void viewChanged() { needsFrame(); }
+  // As in `ViewSession`.
+  virtual void activated() {}
+  virtual void sheetOpened() {}
+  virtual void sheetClosed(SheetCloseReason) {}
   /// Without an engine, a page's room shows its background.
   virtual std::unique_ptr<PageEngine> openPage(const render::EmbedItem&, PageEngine::Client&);
   virtual bool showsPages() const { return false; }

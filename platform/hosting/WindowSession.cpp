@@ -41,8 +41,9 @@ WindowSession::~WindowSession() {
   uikit::UIApplication::shared().disconnect(scene_);
 }
 
-SheetSession& WindowSession::makeSheet(const Responder* opener, const Settings& settings) {
+SheetSession& WindowSession::makeSheet(Responder* opener, const Settings& settings) {
   SheetSession& sheet = newSheet(opener);
+  if (opener) sheet.opener_ = opener->weak();
   sheet.setSettings(settings);
   return sheet;
 }
@@ -73,6 +74,10 @@ void WindowSession::updateActivation() {
 /// Shows them on a later turn, since the caller may be at work.
 void WindowSession::presentedControllersChanged(uikit::UIWindow&, bool animated) {
   animated_ = animated;
+  for (const Shown& shown : shown_) {
+    // At once, while the sheet knows what the user did.
+    shown.isPresented.set(shown.controller->presentingViewController() != nullptr);
+  }
   if (showQueued_) return;
   showQueued_ = std::make_shared<WindowSession*>(this);
   foundation::MainQueue::async([self = std::weak_ptr(showQueued_)] {
@@ -91,7 +96,8 @@ void WindowSession::showPresented() {
     if (known == before.end()) {
       show(controller);
     } else {
-      shown_.push_back(std::exchange(*known, {}));
+      shown_.push_back(*known);
+      before.erase(known);
     }
   }
   for (auto gone = before.rbegin(); gone != before.rend(); ++gone) {
@@ -104,8 +110,9 @@ void WindowSession::show(const Controller& controller) {
   Settings settings = settings_;
   settings.motion = settings.motion && animated_;
   SheetSession& sheet = makeSheet(opener ? *opener : nullptr, settings);
-  sheet.present(controllerPresentation(controller));
-  shown_.push_back({controller, sheet.weak()});
+  const swiftui::Presentation presentation = controllerPresentation(controller);
+  sheet.present(presentation);
+  shown_.push_back({controller, sheet.weak(), presentation.isPresented});
 }
 
 }  // namespace quorix::hosting

@@ -28,7 +28,7 @@ class QUORIX_EXPORT WindowSession : private uikit::UIWindow::Client {
   void visibilityChanged();
 
   /// A new sheet above `opener` (null: above the window) and over the whole window.
-  SheetSession& makeSheet(const Responder* opener, const Settings& settings);
+  SheetSession& makeSheet(Responder* opener, const Settings& settings);
   /// The sheet that takes the input; null without one.
   SheetSession* topmost() const { return sheets_.empty() ? nullptr : sheets_.back(); }
 
@@ -43,6 +43,7 @@ class QUORIX_EXPORT WindowSession : private uikit::UIWindow::Client {
   struct Shown {
     std::shared_ptr<uikit::UIViewController> controller;
     std::weak_ptr<Responder*> sheet;
+    swiftui::Binding<bool> isPresented;
   };
 
   void presentedControllersChanged(uikit::UIWindow& window, bool animated) override;

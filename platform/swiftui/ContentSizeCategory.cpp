@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstddef>
 
 namespace quorix::swiftui {
@@ -47,6 +48,14 @@ std::optional<ContentSizeCategory> contentSizeCategoryNamed(std::string_view nam
 
 std::string_view nameOf(ContentSizeCategory category) {
   return names[static_cast<std::size_t>(category)];
+}
+
+ContentSizeCategory contentSizeCategoryFor(double factor) {
+  const auto& body = points[static_cast<std::size_t>(TextStyle::body)];
+  const double wanted = factor * body[static_cast<std::size_t>(ContentSizeCategory::large)];
+  const auto* nearest =
+      std::ranges::min_element(body, {}, [&](double size) { return std::abs(size - wanted); });
+  return static_cast<ContentSizeCategory>(nearest - body);
 }
 
 double scaleFactor(TextStyle style, ContentSizeCategory category) {

@@ -29,6 +29,10 @@ enum class ContentSizeCategory : std::uint8_t {
 QUORIX_EXPORT std::optional<ContentSizeCategory> contentSizeCategoryNamed(std::string_view name);
 QUORIX_EXPORT std::string_view nameOf(ContentSizeCategory category);
 
+/// The category whose body text is nearest to `factor` times the usual size: 1.25 is
+/// `extraExtraLarge`.
+QUORIX_EXPORT ContentSizeCategory contentSizeCategoryFor(double factor);
+
 /// What a size of `style` at the default category is multiplied by at `category`.
 QUORIX_EXPORT double scaleFactor(TextStyle style, ContentSizeCategory category);
 

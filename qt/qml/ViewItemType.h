@@ -13,4 +13,11 @@ struct ViewItemType {
   QML_ANONYMOUS
 };
 
+/// `SheetCloseReason.Swipe` and the others.
+namespace SheetCloseReasons {
+Q_NAMESPACE
+QML_FOREIGN_NAMESPACE(quorix::qt)
+QML_NAMED_ELEMENT(SheetCloseReason)
+}  // namespace SheetCloseReasons
+
 }  // namespace quorix::qml

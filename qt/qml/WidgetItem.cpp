@@ -116,12 +116,16 @@ void WidgetItem::setLayoutDirection(Qt::LayoutDirection direction) {
 }
 
 WidgetItem::TextSize WidgetItem::textSize() const {
-  return static_cast<TextSize>(settings().textSize);
+  const auto own = settings().textSize;
+  return own ? static_cast<TextSize>(*own) : SystemTextSize;
 }
 
 void WidgetItem::setTextSize(TextSize size) {
-  if (size == textSize() || size < ExtraSmall || size > AccessibilityExtraExtraExtraLarge) return;
-  ViewItem::setTextSize(static_cast<ContentSizeCategory>(size));
+  const bool known = size >= SystemTextSize && size <= AccessibilityExtraExtraExtraLarge;
+  if (size == textSize() || !known) return;
+  ViewItem::setTextSize(size == SystemTextSize
+                            ? std::nullopt
+                            : std::optional(static_cast<ContentSizeCategory>(size)));
   emit textSizeChanged();
 }
 

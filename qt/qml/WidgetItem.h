@@ -39,7 +39,7 @@ class WidgetItem : public quorix::qt::ViewItem {
   /// `Qt.LayoutDirectionAuto`, which it is at first, is the application's.
   Q_PROPERTY(Qt::LayoutDirection layoutDirection READ layoutDirection WRITE setLayoutDirection RESET
                  resetLayoutDirection NOTIFY layoutDirectionChanged FINAL)
-  /// The user's text size.
+  /// The user's text size, which faces of the app's own follow.
   Q_PROPERTY(TextSize textSize READ textSize WRITE setTextSize RESET resetTextSize NOTIFY
                  textSizeChanged FINAL)
   /// Whether sheets move where the user has nothing against it.
@@ -50,7 +50,9 @@ class WidgetItem : public quorix::qt::ViewItem {
   enum Appearance { System, Light, Dark };
   Q_ENUM(Appearance)
 
+  /// `SystemTextSize` follows the desktop where it tells the user's text size.
   enum TextSize {
+    SystemTextSize = -1,
     ExtraSmall,
     Small,
     Medium,
@@ -86,7 +88,7 @@ class WidgetItem : public quorix::qt::ViewItem {
   void resetLayoutDirection() { setLayoutDirection(Qt::LayoutDirectionAuto); }
   TextSize textSize() const;
   void setTextSize(TextSize size);
-  void resetTextSize() { setTextSize(Large); }
+  void resetTextSize() { setTextSize(SystemTextSize); }
   bool animated() const;
   void setAnimated(bool animated);
 

@@ -20,7 +20,7 @@ ViewItem::ViewItem(swiftui::View view, QQuickItem* parent)
   surface_->windowChanged();
 }
 
-ViewItem::~ViewItem() = default;
+ViewItem::~ViewItem() { surface_->end(); }
 
 void ViewItem::setView(swiftui::View view) { surface_->replaceView(std::move(view)); }
 
@@ -59,6 +59,12 @@ QSGNode* ViewItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
 }
 
 bool ViewItem::event(QEvent* event) {
+  if (event->type() == QEvent::DeferredDelete) {
+    // Now, since QML cuts off an item's handlers before its destructor.
+    const QPointer<ViewItem> item = this;
+    surface_->end();
+    if (!item) return true;
+  }
   // The action may delete this item: nothing is touched after it.
   return surface_->handle(*event) || QQuickItem::event(event);
 }

@@ -5,6 +5,7 @@
 
 #include "platform/foundation/Export.h"
 #include "platform/swiftui/View.h"
+#include "qt/SheetCloseReason.h"
 #include "qt/ViewSettings.h"
 
 namespace quorix::qt {
@@ -33,6 +34,17 @@ class QUORIX_EXPORT ViewItem : public QQuickItem, public ViewSettings {
 
   /// Shows another view, which begins afresh; a sheet of the one before goes.
   void setView(swiftui::View view);
+
+ signals:
+  // What the user did, for analytics. A slot may delete the item, save where noted.
+
+  /// A row or a link of the view was tapped, by pointer, key or assistive technology.
+  void activated();
+  /// A sheet of the view came up, also one with a web page.
+  void sheetOpened();
+  /// It left: emitted once for each `sheetOpened`. If the item is deleted while its sheet is up, it
+  /// says `Host` from its destructor: a slot deletes it only for another reason.
+  void sheetClosed(quorix::qt::SheetCloseReason reason);
 
  protected:
   bool event(QEvent* event) override;

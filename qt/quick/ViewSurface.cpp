@@ -88,6 +88,14 @@ hosting::WindowSession* ViewSurface::window() {
   return &WindowScene::of(*window, {[window] { return window; }, newSheet});
 }
 
+void ViewSurface::activated() { emit item_.activated(); }
+
+void ViewSurface::sheetOpened() { emit item_.sheetOpened(); }
+
+void ViewSurface::sheetClosed(hosting::SheetCloseReason reason) {
+  emit item_.sheetClosed(static_cast<SheetCloseReason>(reason));
+}
+
 // Surroundings.
 
 void ViewSurface::windowChanged() {

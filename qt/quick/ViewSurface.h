@@ -45,6 +45,9 @@ class ViewSurface final : public HostedView,
   void giveFocusOn() override;
   void needsFrame() override;
   hosting::WindowSession* window() override;
+  void activated() override;
+  void sheetOpened() override;
+  void sheetClosed(hosting::SheetCloseReason reason) override;
 
   void windowVisibilityChanged() override { onScreenChanged(); }
   void desktopChanged() override { settingsChanged(); }

@@ -26,7 +26,7 @@ ViewWidget::ViewWidget(swiftui::View view, QWidget* parent)
   surface_->settingsChanged();
 }
 
-ViewWidget::~ViewWidget() = default;
+ViewWidget::~ViewWidget() { surface_->end(); }
 
 void ViewWidget::setView(swiftui::View view) { surface_->replaceView(std::move(view)); }
 

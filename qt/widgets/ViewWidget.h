@@ -5,6 +5,7 @@
 
 #include "platform/foundation/Export.h"
 #include "platform/swiftui/View.h"
+#include "qt/SheetCloseReason.h"
 #include "qt/ViewSettings.h"
 
 namespace quorix::qt {
@@ -42,6 +43,17 @@ class QUORIX_EXPORT ViewWidget : public QWidget, public ViewSettings {
   QSize minimumSizeHint() const override;
   bool hasHeightForWidth() const override { return true; }
   int heightForWidth(int width) const override;
+
+ signals:
+  // What the user did, for analytics. A slot may delete the widget, save where noted.
+
+  /// A row or a link of the view was tapped, by pointer, key or assistive technology.
+  void activated();
+  /// A sheet of the view came up, also one with a web page.
+  void sheetOpened();
+  /// It left: emitted once for each `sheetOpened`. If the widget is deleted while its sheet is up,
+  /// it says `Host` from its destructor: a slot deletes it only for another reason.
+  void sheetClosed(quorix::qt::SheetCloseReason reason);
 
  protected:
   bool event(QEvent* event) override;

@@ -37,6 +37,7 @@ bool isInView(const QWidget& widget) {
 WidgetSurface::WidgetSurface(ViewWidget& widget)
     : HostedView(widget), WidgetAccessibleSurface(widget), widget_(widget) {
   AccessibilityBridge::instance()->add(widget, *this);
+  QObject::connect(Desktop::instance(), &Desktop::changed, &widget, [this] { settingsChanged(); });
 }
 
 WidgetSurface::~WidgetSurface() {
@@ -81,6 +82,14 @@ hosting::WindowSession* WidgetSurface::window() {
     return *new SheetWidget(*window, scene);
   };
   return &WindowScene::of(*window, {[window] { return window->windowHandle(); }, newSheet});
+}
+
+void WidgetSurface::activated() { emit widget_.activated(); }
+
+void WidgetSurface::sheetOpened() { emit widget_.sheetOpened(); }
+
+void WidgetSurface::sheetClosed(hosting::SheetCloseReason reason) {
+  emit widget_.sheetClosed(static_cast<SheetCloseReason>(reason));
 }
 
 // Place.

@@ -45,6 +45,9 @@ class WidgetSurface final : public HostedView, private WidgetAccessibleSurface {
   void giveFocusOn() override;
   void needsFrame() override;
   hosting::WindowSession* window() override;
+  void activated() override;
+  void sheetOpened() override;
+  void sheetClosed(hosting::SheetCloseReason reason) override;
 
   hosting::Responder& responder() override { return *this; }
 

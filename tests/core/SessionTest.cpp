@@ -26,6 +26,7 @@ using Phase = PointerEvent::Phase;
 
 TEST(Session, ASheetClosesByEachOfItsWays) {
   TestWindow window(testing::FeeRow("4 €"));
+  constexpr layout::Point beside{160, 20};
   const auto drag = [&](int pointer, double to, double milliseconds) {
     window.front().handle({Phase::pressed, {160, 500}, 0, pointer});
     window.front().handle({Phase::moved, {160, to}, milliseconds, pointer});
@@ -34,37 +35,41 @@ TEST(Session, ASheetClosesByEachOfItsWays) {
   const struct {
     const char* by;
     std::function<void()> perform;
-    bool closes = true;
+    std::string reason = {};  ///< none: it stays open
   } rows[] = {
-      {"its button", [&] { window.tap("Close 4 €"); }},
-      {"Escape", [&] { window.key(Key::escape); }},
-      {"the Back key", [&] { window.key(Key::back); }},
-      {"Enter on the first element", [&] { window.key(Key::next), window.key(Key::activate); }},
-      {"a tap beside",
-       [&] {
-         window.tap(layout::Point{160, 20});
-       }},
-      {"a swipe", [&] { drag(3, 540, 20); }},
-      {"the same with the mouse", [&] { drag(PointerEvent::mouse, 540, 20); }},
-      {"a slow one", [&] { drag(3, 540, 500); }, false},
+      {"its button", [&] { window.tap("Close 4 €"); }, "button"},
+      {"a screen reader on it", [&] { window.front().activate(1); }, "button"},
+      {"Escape", [&] { window.key(Key::escape); }, "key"},
+      {"the Back key", [&] { window.key(Key::back), window.tap(beside); }, "key"},
+      {"Enter on the first element", [&] { window.key(Key::next), window.key(Key::activate); },
+       "button"},
+      {"a tap beside", [&] { window.tap(beside); }, "outside"},
+      {"a swipe", [&] { drag(3, 540, 20); }, "swipe"},
+      {"the same with the mouse", [&] { drag(PointerEvent::mouse, 540, 20); }, "swipe"},
+      {"the host, after a tap that closes nothing",
+       [&] { window.act("Terms"), window.view().replaceView(testing::FeeRow("4 €")); }, "host"},
+      {"a slow one", [&] { drag(3, 540, 500); }},
       {"a second finger",
        [&] {
          window.front().handle({Phase::pressed, {160, 500}, 0, 3});
-         window.front().handle({Phase::pressed, {160, 20}, 5, 4});
-         window.front().handle({Phase::released, {160, 20}, 9, 4});
+         window.front().handle({Phase::pressed, beside, 5, 4});
+         window.front().handle({Phase::released, beside, 9, 4});
          window.front().pointerLost();
-         window.front().handle({Phase::released, {160, 20}, 9, 3});
-       },
-       false},
-      {"another key", [&] { EXPECT_FALSE(window.key(Key::pageBack)); }, false},
+         window.front().handle({Phase::released, beside, 9, 3});
+       }},
+      {"another key", [&] { EXPECT_FALSE(window.key(Key::pageBack)); }},
   };
   for (const auto& way : rows) {
+    window.told.clear();
     window.act("Row 4 €");
     ASSERT_TRUE(window.sheet()) << way.by;
     EXPECT_EQ(&window.front(), window.topmost());
+    EXPECT_EQ(window.told, "activated opened ") << way.by;
+    window.told.clear();
     way.perform();
     window.settle();
-    EXPECT_EQ(window.sheet() == nullptr, way.closes) << way.by;
+    EXPECT_EQ(window.sheet() == nullptr, !way.reason.empty()) << way.by;
+    EXPECT_EQ(window.told, way.reason.empty() ? "" : "closed:" + way.reason + " ") << way.by;
     window.key(Key::escape);
     window.settle();
   }
@@ -104,6 +109,7 @@ TEST(Session, SheetsStandOnEachOtherAndCloseFromTheTop) {
   window.host->setRoot(View());
   window.settle();
   EXPECT_TRUE(window.sheets().empty()) << "the lower one takes the upper one along";
+  EXPECT_EQ(window.told, "opened closed:host ") << "of the lower one alone";
 }
 
 TEST(Session, AWindowPresentsControllersOverItself) {
@@ -132,6 +138,7 @@ TEST(Session, AWindowPresentsControllersOverItself) {
   one.key(Key::escape);
   one.settle();
   const auto lower = page("lower");
+  one.told.clear();
   root->present(lower, true);
   lower->present(page("upper"), true);
   one.settle();
@@ -142,7 +149,15 @@ TEST(Session, AWindowPresentsControllersOverItself) {
   EXPECT_EQ(lower->presentedViewController(), nullptr) << "the user closed it";
   root->dismiss(true);
   one.settle();
+  root->present(lower, true);
+  one.settle();
+  root->dismiss(true);
+  root->present(lower, true);  // at once, which leaves it up
+  one.settle();
+  one.key(Key::escape);
+  one.settle();
   EXPECT_FALSE(one.sheet());
+  EXPECT_EQ(one.told, "opened closed:host opened closed:key ");
 }
 
 // Pages.

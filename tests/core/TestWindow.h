@@ -61,6 +61,7 @@ class TestWindow final : public TestText, public hosting::ViewWindow {
   layout::Size size;
   swiftui::Environment environment;
   int displays = 0;  ///< requests to show the view again
+  std::string told;  ///< what happened: "activated opened closed:key "
 
   /// The top-most sheet; null while none is open.
   hosting::SheetPresenter* sheet() { return topmost() ? &topmost()->presenter() : nullptr; }
@@ -118,6 +119,12 @@ class TestWindow final : public TestText, public hosting::ViewWindow {
     return front().handle({phase, at, milliseconds_ += 16});
   }
   void viewChanged() override { ++displays; }
+  void activated() override { told += "activated "; }
+  void sheetOpened() override { told += "opened "; }
+  void sheetClosed(hosting::SheetCloseReason reason) override {
+    constexpr const char* names[] = {"button", "swipe", "outside", "key", "host"};
+    told += std::string("closed:") + names[static_cast<int>(reason)] + " ";
+  }
 
   double milliseconds_ = 0;
 };

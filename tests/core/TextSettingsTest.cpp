@@ -40,6 +40,20 @@ TEST(ContentSizeCategory, ReachesScalingFontsOnly) {
   }
 }
 
+TEST(ContentSizeCategory, IsTheOneNearestToADesktopsFactor) {
+  const std::pair<double, std::string_view> rows[] = {{0.5, "extraSmall"},
+                                                      {0.9, "small"},
+                                                      {1, "large"},
+                                                      {1.25, "extraExtraLarge"},
+                                                      {2, "accessibilityLarge"},
+                                                      {2.9, "accessibilityExtraExtraLarge"},
+                                                      {3, "accessibilityExtraExtraExtraLarge"},
+                                                      {100, "accessibilityExtraExtraExtraLarge"}};
+  for (const auto& [factor, name] : rows) {
+    EXPECT_EQ(nameOf(swiftui::contentSizeCategoryFor(factor)), name) << factor;
+  }
+}
+
 /// The runs of a text as they reach the text engine.
 TEST(Text, ItsOwnLooksWinTheFirstOneWrittenFirst) {
   const auto face = [](const char* name) { return Font::custom(name, Font::FixedSize{10}); };

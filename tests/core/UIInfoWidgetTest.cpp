@@ -191,6 +191,15 @@ TEST(UIInfoWidget, PresentsTheOverlayOverTheTopmostScreen) {
   EXPECT_NE(overlay->presentedViewController(), nullptr);
 }
 
+TEST(UIInfoWidget, TellsOfItsOverlayAndNotOfATapOnItsTitle) {
+  TestWindow window(swiftui::hosting(widget()));
+  window.tap(layout::Point{100, 20});
+  window.act("Read more");
+  window.settle();
+  window.act(window.labels());  // its cross is all that it has
+  EXPECT_EQ(window.told, "activated opened closed:button ");
+}
+
 TEST(UIApplication, FindsTheKeyWindow) {
   constexpr auto active = State::foregroundActive, inactive = State::foregroundInactive,
                  background = State::background, unattached = State::unattached;

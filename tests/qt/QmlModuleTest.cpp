@@ -144,6 +144,35 @@ TEST_F(QmlModule, ATokenThatWasSignedAnewLeavesTheSheetOpen) {
   EXPECT_FALSE(screen.shows("Close"));
 }
 
+TEST_F(QmlModule, TellsWhatHappenedUntilItsEnd) {
+  QQuickItem* page = add(R"(
+      import QuorixWidgets
+      Item {
+        id: page
+        property string told
+        property Item row: Score {
+          parent: page; y: 40; width: 300; clientId: "shop"; token: "TOKEN"; locale: "en"
+          animated: false
+          onActivated: page.told += "activated "
+          onSheetOpened: page.told += "opened "
+          onSheetClosed: (reason) => {
+            page.told += ["Key", "Host"].find((name) => SheetCloseReason[name] === reason) + " "
+          }
+        }
+        function end() { row.destroy() }
+      })");
+  for (const bool ends : {false, true}) {
+    page->setProperty("told", "");
+    page->property("row").value<QQuickItem*>()->forceActiveFocus();
+    screen.key(Qt::Key_Space);
+    ASSERT_TRUE(screen.shows("Close"));
+    ends ? void(QMetaObject::invokeMethod(page, "end")) : screen.key(Qt::Key_Escape);
+    screen.settle();
+    EXPECT_EQ(page->property("told").toString(),
+              ends ? "activated opened Host " : "activated opened Key ");
+  }
+}
+
 TEST_F(QmlModule, AListMakesARowOnceForEachPlaceItTakes) {
   QQuickItem* list = add(R"(
       ListView {

@@ -19,7 +19,9 @@ TYPED_TEST_SUITE(Sheet, Screens, ScreenName);
 struct Closing {
   const char* by;
   std::function<void(Screen& screen)> perform;
+  qt::SheetCloseReason reason = qt::SheetCloseReason::Host;
 };
+using enum qt::SheetCloseReason;
 
 std::function<void(Screen&)> pull(QPoint to, int milliseconds, bool byTouch) {
   return [=](Screen& screen) { screen.drag({180, 420}, to, milliseconds, byTouch); };
@@ -31,17 +33,18 @@ std::function<void(Screen&)> keys(QList<Qt::Key> pressed) {
 }
 
 const Closing kWays[] = {
-    {"the close element", [](Screen& screen) { screen.click("Close 4 €"); }},
+    {"the close element", [](Screen& screen) { screen.click("Close 4 €"); }, Button},
     {"a tap outside",
      [](Screen& screen) {
        screen.clickAt({180, 150});
-     }},
-    {"Escape", keys({Qt::Key_Escape})},
-    {"the Back key", keys({Qt::Key_Back})},
-    {"the keyboard on the close element", keys({Qt::Key_Tab, Qt::Key_Return})},
-    {"a flick of the mouse", pull({180, 500}, 60, false)},
-    {"a flick of a finger", pull({180, 500}, 60, true)},
-    {"a slow pull beyond its middle", pull({180, 590}, 900, false)},
+     },
+     Outside},
+    {"Escape", keys({Qt::Key_Escape}), Key},
+    {"the Back key", keys({Qt::Key_Back}), Key},
+    {"the keyboard on the close element", keys({Qt::Key_Tab, Qt::Key_Return}), Button},
+    {"a flick of the mouse", pull({180, 500}, 60, false), Swipe},
+    {"a flick of a finger", pull({180, 500}, 60, true), Swipe},
+    {"a slow pull beyond its middle", pull({180, 590}, 900, false), Swipe},
 };
 
 TYPED_TEST(Sheet, EveryWayClosesItAndGivesTheFocusBack) {
@@ -49,6 +52,7 @@ TYPED_TEST(Sheet, EveryWayClosesItAndGivesTheFocusBack) {
     TypeParam screen;
     auto* field = screen.addFocusable();
     auto* row = screen.add(FeeRow("4 €"), kPlace);
+    const Told told(*row);
     const QImage before = screen.grab();
     screen.key(Qt::Key_Tab);
     screen.key(Qt::Key_Space);
@@ -56,6 +60,7 @@ TYPED_TEST(Sheet, EveryWayClosesItAndGivesTheFocusBack) {
     EXPECT_FALSE(screen.hasFocus(row)) << way.by;
     way.perform(screen);
     EXPECT_FALSE(screen.shows("Fee 4 €")) << way.by;
+    EXPECT_EQ(*told, (QVariantList{"activated", "opened", int(way.reason)})) << way.by;
     EXPECT_TRUE(screen.hasFocus(row)) << way.by;
     screen.focus(field);
     screen.settle();
@@ -118,8 +123,10 @@ TYPED_TEST(Sheet, GoesWithItsRow) {
   TypeParam screen;
   auto* field = screen.addFocusable();
   auto* row = screen.add(FeeRow("4 €"), kPlace);
+  const Told told(*row);
   screen.click("Row 4 €");
   delete row;
+  EXPECT_EQ(*told, (QVariantList{"activated", "opened", int(Host)}));
   EXPECT_FALSE(screen.shows("Fee 4 €"));
   screen.settle();
   screen.key(Qt::Key_Tab);
@@ -207,6 +214,22 @@ TYPED_TEST(Sheet, MayEndItsRowFromInside) {
   screen.click("Row 4 €");
   screen.click("Terms");
   EXPECT_FALSE(screen.shows("Terms"));
+}
+
+TYPED_TEST(Sheet, ASlotThatHearsOfItMayEndItsRow) {
+  using Row = std::remove_pointer_t<decltype(TypeParam().add({}, kPlace))>;
+  for (const int at : {0, 1, 2}) {
+    TypeParam screen;
+    auto* row = screen.add(FeeRow("4 €"), kPlace);
+    const auto end = [&] { delete std::exchange(row, nullptr); };
+    if (at == 0) QObject::connect(row, &Row::activated, end);
+    if (at == 1) QObject::connect(row, &Row::sheetOpened, end);
+    if (at == 2) QObject::connect(row, &Row::sheetClosed, end);
+    screen.click("Row 4 €");
+    screen.key(Qt::Key_Escape);
+    EXPECT_FALSE(row) << at;
+    EXPECT_FALSE(screen.shows("Fee 4 €")) << at;
+  }
 }
 
 /// A tap may delete its own view, in each of these ways.

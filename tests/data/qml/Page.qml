@@ -13,6 +13,7 @@ ColumnLayout {
         clientId: "my-shop"
         appearance: ScoreWidget.Dark
         onTokenChanged: info.showBorder = false
+        onSheetClosed: reason => info.showBorder = reason === SheetCloseReason.Button
     }
     InfoWidget {
         id: info
