@@ -266,5 +266,79 @@ TYPED_TEST(Sheet, RisesOverSeveralFramesThenRestsAndGoesWithItsWindowInMidMotion
   QTest::qWait(50);
 }
 
+/// Opens a sheet of 1000 points with a button at its top and one at its end.
+swiftui::View tall() {
+  const auto text = [](const char* name) { return swiftui::View(swiftui::Text::verbatim(name)); };
+  return Opener{swiftui::VStack(
+      layout::HorizontalAlignment::center, 0,
+      {text("Top").frame(300, 100).onTapGesture([] {}), text("Middle").frame(300, 800),
+       text("End").frame(300, 100).onTapGesture([] {})})};
+}
+
+void turnWheel(Screen& screen, QPoint pixels, QPoint angle, Qt::ScrollPhase phase) {
+  const QPoint at(180, 400);
+  QWheelEvent wheel(at, at, pixels, angle, Qt::NoButton, {}, phase, false);
+  QCoreApplication::sendEvent(&screen.window(), &wheel);
+  screen.settle();
+}
+
+TYPED_TEST(Sheet, ScrollsByWhateverTheUserHas) {
+  const struct {
+    const char* by;
+    std::function<void(Screen& screen)> perform;
+    int to;
+  } rows[] = {
+      {"a notch of the wheel",
+       [](Screen& screen) {
+         turnWheel(screen, {}, {0, -120}, Qt::NoScrollPhase);
+       },
+       60},
+      {"two fingers",
+       [](Screen& screen) {
+         turnWheel(screen, {0, -33}, {0, -90}, Qt::ScrollUpdate);
+       },
+       33},
+      {"the mouse",
+       [](Screen& screen) {
+         screen.drag({180, 400}, {180, 300}, 900, false);
+       },
+       100},
+      {"a finger",
+       [](Screen& screen) {
+         screen.drag({180, 400}, {180, 300}, 60, true);
+       },
+       100},
+      {"an arrow", keys({Qt::Key_Down}), 40},
+      {"a page", keys({Qt::Key_PageDown}), 410},
+      {"the end", keys({Qt::Key_End}), 410},
+      {"Tab", keys({Qt::Key_Tab, Qt::Key_Tab}), 396},
+      {"a screen reader",
+       [](Screen& screen) {
+         screen.find("End")->actionInterface()->doAction(
+             QAccessibleActionInterface::setFocusAction());
+         screen.settle();
+       },
+       396},
+  };
+  TypeParam screen;
+  const auto eventsBelow = screen.listenBelow();
+  screen.add(tall(), kPlace);
+  screen.click("More");
+  ASSERT_TRUE(screen.find("End")->state().offscreen);
+  const int top = screen.find("Top")->rect().top();
+  const int below = eventsBelow();
+  for (const auto& row : rows) {
+    const QImage before = screen.grab();
+    row.perform(screen);
+    EXPECT_EQ(top - screen.find("Top")->rect().top(), row.to) << row.by;
+    EXPECT_NE(screen.grab(), before) << row.by;
+    screen.key(Qt::Key_Home);
+    EXPECT_EQ(screen.find("Top")->rect().top(), top) << row.by;
+  }
+  EXPECT_EQ(eventsBelow(), below);
+  screen.drag({180, 300}, {180, 380}, 60, true);
+  EXPECT_FALSE(screen.shows("Top")) << "a flick at the top closes";
+}
+
 }  // namespace
 }  // namespace quorix::testing
