@@ -10,7 +10,7 @@ namespace {
 constexpr double approach = 14;        // a second: how fast the content closes in on its target
 constexpr double friction = 2;         // a second: how fast a fling loses its speed
 constexpr double resistance = 0.2;     // what is left of a drag beyond the end
-constexpr double settledWithin = 0.5;  // points
+constexpr double arrivesWithin = 0.5;  // points
 constexpr double stillMoving = 8;      // points; a press stops what has more to go
 constexpr double indicatorStays = 1;   // seconds
 constexpr double indicatorFades = 0.25;
@@ -24,7 +24,7 @@ constexpr double shortestIndicator = 36;
 double SheetScroll::bounded(double offset) const { return std::clamp(offset, 0.0, range_); }
 
 void SheetScroll::setRange(double range) {
-  if (range < settledWithin) range = 0;
+  if (range < arrivesWithin) range = 0;
   if (range == range_) return;
   flashes_ = range > 0 && (flashes_ || range_ == 0);
   range_ = range;
@@ -55,7 +55,7 @@ double SheetScroll::drag(double down) {
   return pull;
 }
 
-bool SheetScroll::isPulledFromTop() const { return heldAt_ < settledWithin && offset_ == 0; }
+bool SheetScroll::isPulledFromTop() const { return heldAt_ < arrivesWithin && offset_ == 0; }
 
 void SheetScroll::release(double speed) {
   held_ = false;
@@ -101,7 +101,7 @@ bool SheetScroll::advance(double seconds) {
     const double end = bounded(target_);
     const double next = offset_ + (target_ - offset_) * (1 - std::exp(-rate_ * seconds));
     const bool passes = (end - next) * (end - offset_) <= 0;
-    const bool arrives = !motion_ || passes || std::abs(end - next) < settledWithin;
+    const bool arrives = !motion_ || passes || std::abs(end - next) < arrivesWithin;
     offset_ = arrives ? end : next;
     if (arrives) target_ = end;
   }
