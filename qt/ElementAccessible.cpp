@@ -78,6 +78,7 @@ QAccessible::State ElementAccessible::state() const {
   AccessibleSurface& surface = *AccessibilityBridge::surfaceOf(owner_);
   const bool reachable = surface.isShown() && !surface.isCovered();
   state.invisible = !reachable;
+  state.offscreen = surface.responder().isScrolledAway(frame);
   state.readOnly = !acts;
   state.focusable = acts && reachable;
   state.focused = acts && surface.responder().focusFrame() == frame;

@@ -1,8 +1,11 @@
 #include "qt/Input.h"
 
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QStyleHints>
 #include <QTouchEvent>
+#include <QWheelEvent>
 
 namespace quorix::qt {
 namespace {
@@ -10,6 +13,25 @@ namespace {
 using hosting::Key;
 using hosting::PointerEvent;
 using Phase = PointerEvent::Phase;
+
+Key scrollKeyOf(int key) {
+  switch (key) {
+    case Qt::Key_Up:
+      return Key::up;
+    case Qt::Key_Down:
+      return Key::down;
+    case Qt::Key_PageUp:
+      return Key::pageUp;
+    case Qt::Key_PageDown:
+      return Key::pageDown;
+    case Qt::Key_Home:
+      return Key::home;
+    case Qt::Key_End:
+      return Key::end;
+    default:
+      return Key::other;
+  }
+}
 
 Key keyOf(const QKeyEvent& event) {
   const bool alt = event.modifiers() == Qt::AltModifier;
@@ -34,7 +56,8 @@ Key keyOf(const QKeyEvent& event) {
     case Qt::Key_Forward:
       return Key::pageForward;
     default:
-      return Key::other;
+      // With another modifier, such a key is a shortcut of the host's.
+      return event.modifiers() & ~Qt::KeypadModifier ? Key::other : scrollKeyOf(event.key());
   }
 }
 
@@ -63,6 +86,14 @@ void passTouch(QTouchEvent& event, hosting::Responder& responder) {
 
 hosting::KeyEvent toKeyEvent(const QKeyEvent& event) {
   return {keyOf(event), event.isAutoRepeat()};
+}
+
+hosting::ScrollEvent toScrollEvent(const QWheelEvent& event) {
+  const bool follows = event.phase() != Qt::NoScrollPhase && !event.pixelDelta().isNull();
+  if (follows) return {-double(event.pixelDelta().y()), true};
+  const double notches = event.angleDelta().y() / double(QWheelEvent::DefaultDeltasPerStep);
+  const int lines = QGuiApplication::styleHints()->wheelScrollLines();
+  return {-notches * lines * hosting::ScrollEvent::line, false};
 }
 
 hosting::ViewFocus::Cause causeOf(Qt::FocusReason reason) {

@@ -9,6 +9,7 @@
 
 class QEvent;
 class QKeyEvent;
+class QWheelEvent;
 
 namespace quorix::qt {
 
@@ -19,6 +20,7 @@ inline QRectF toRect(const layout::Rect& rect) {
 }
 
 QUORIX_EXPORT hosting::KeyEvent toKeyEvent(const QKeyEvent& event);
+hosting::ScrollEvent toScrollEvent(const QWheelEvent& event);
 QUORIX_EXPORT hosting::ViewFocus::Cause causeOf(Qt::FocusReason reason);
 
 /// Passes an event of the pointer on, and accepts it if `responder` takes it. False when it is an

@@ -20,14 +20,20 @@ QRectF rounded(const QRectF& rect) {
   return {topLeft, QPointF(std::round(rect.right()), std::round(rect.bottom()))};
 }
 
-QPainterPath withRoundedTop(const QRectF& rect, double radius) {
-  const double r = std::min({radius, rect.width() / 2, rect.height()});
-  QPainterPath path(rect.bottomLeft());
-  path.lineTo(rect.left(), rect.top() + r);
-  path.arcTo(rect.left(), rect.top(), 2 * r, 2 * r, 180, -90);
-  path.lineTo(rect.right() - r, rect.top());
-  path.arcTo(rect.right() - 2 * r, rect.top(), 2 * r, 2 * r, 90, -90);
-  path.lineTo(rect.bottomRight());
+QPainterPath rounded(const QRectF& rect, double topRadius, double bottomRadius) {
+  const double top = std::min({topRadius, rect.width() / 2, rect.height()});
+  const double bottom = std::min({bottomRadius, rect.width() / 2, rect.height() - top});
+  const auto corner = [](QPointF middle, double radius) {
+    return QRectF(middle - QPointF(radius, radius), QSizeF(2 * radius, 2 * radius));
+  };
+  QPainterPath path(QPointF(rect.left(), rect.top() + top));
+  path.arcTo(corner(rect.topLeft() + QPointF(top, top), top), 180, -90);
+  path.lineTo(rect.right() - top, rect.top());
+  path.arcTo(corner(rect.topRight() + QPointF(-top, top), top), 90, -90);
+  path.lineTo(rect.right(), rect.bottom() - bottom);
+  path.arcTo(corner(rect.bottomRight() - QPointF(bottom, bottom), bottom), 0, -90);
+  path.lineTo(rect.left() + bottom, rect.bottom());
+  path.arcTo(corner(rect.bottomLeft() + QPointF(bottom, -bottom), bottom), 270, -90);
   path.closeSubpath();
   return path;
 }
@@ -49,6 +55,7 @@ void ScenePainter::paint(const render::Scene& scene) {
   for (const render::Item& item : scene.items) {
     std::visit([this](const auto& what) { draw(what); }, item);
   }
+  for (; clips_ > 0; --clips_) painter_.restore();
 }
 
 QPointF ScenePainter::onPixels(QPointF point) const {
@@ -169,7 +176,7 @@ void ScenePainter::draw(const render::ImageItem& item) {
 
 void ScenePainter::draw(const render::FillItem& item) {
   const QRectF device = deviceRect(item.frame);
-  if (item.topCornerRadius <= 0) {
+  if (item.topCornerRadius <= 0 && item.bottomCornerRadius <= 0) {
     if (ground_) ground_->filled(device.toAlignedRect(), item.color);
     return fill(device, item.color);
   }
@@ -177,9 +184,15 @@ void ScenePainter::draw(const render::FillItem& item) {
   if (ground_) ground_->painted(device.toAlignedRect().adjusted(-1, -1, 1, 1));
   const bool antialiased = painter_.testRenderHint(QPainter::Antialiasing);
   painter_.setRenderHint(QPainter::Antialiasing);
-  painter_.fillPath(withRoundedTop(toQRectF(item.frame), item.topCornerRadius),
+  painter_.fillPath(rounded(toQRectF(item.frame), item.topCornerRadius, item.bottomCornerRadius),
                     toQColor(item.color));
   painter_.setRenderHint(QPainter::Antialiasing, antialiased);
+}
+
+void ScenePainter::draw(const render::ClipItem& item) {
+  painter_.save();
+  ++clips_;
+  painter_.setClipRect(fromDevice_.mapRect(deviceRect(item.frame)), Qt::IntersectClip);
 }
 
 void ScenePainter::draw(const render::StrokeItem& item) {

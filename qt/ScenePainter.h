@@ -35,6 +35,7 @@ class ScenePainter {
   void draw(const render::ImageItem& item);
   void draw(const render::FillItem& item);
   void draw(const render::StrokeItem& item);
+  void draw(const render::ClipItem& item);
   void draw(const render::EmbedItem& item) {
     draw(render::FillItem{item.frame, item.background, item.topCornerRadius});
   }
@@ -58,6 +59,7 @@ class ScenePainter {
   const bool upright_;
   std::optional<KnownGround> ground_;
   graphics::Appearance appearance_ = graphics::Appearance::light;
+  int clips_ = 0;  ///< begun by the scene's own items
 };
 
 }  // namespace quorix::qt

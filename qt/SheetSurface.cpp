@@ -1,6 +1,7 @@
 #include "qt/SheetSurface.h"
 
 #include <QKeyEvent>
+#include <QWheelEvent>
 #include <utility>
 
 #include "platform/hosting/SceneLayers.h"
@@ -26,7 +27,7 @@ bool SheetSurface::handle(QEvent& event) {
   switch (event.type()) {
     case QEvent::Wheel:
       event.accept();
-      return true;
+      return handle(toScrollEvent(static_cast<QWheelEvent&>(event)));
     case QEvent::ShortcutOverride:
       event.setAccepted(takes(toKeyEvent(static_cast<QKeyEvent&>(event)).key));
       return true;

@@ -91,7 +91,9 @@ struct Painter {
 
   void paint(const render::Scene& scene) {
     appearance = scene.appearance;
+    cairo_save(to);
     for (const auto& item : scene.items) std::visit([this](const auto& it) { draw(it); }, item);
+    cairo_restore(to);
   }
 
   void draw(const render::TextItem& item) {
@@ -100,14 +102,20 @@ struct Painter {
   }
 
   void draw(const render::FillItem& item) {
-    const auto& [frame, color, r] = item;
+    const auto& [frame, color, r, b] = item;
     cairo_new_path(to);
     cairo_arc(to, frame.left() + r, frame.top() + r, r, G_PI, 1.5 * G_PI);
     cairo_arc(to, frame.right() - r, frame.top() + r, r, 1.5 * G_PI, 2 * G_PI);
-    cairo_line_to(to, frame.right(), frame.bottom());
-    cairo_line_to(to, frame.left(), frame.bottom());
+    cairo_arc(to, frame.right() - b, frame.bottom() - b, b, 0, 0.5 * G_PI);
+    cairo_arc(to, frame.left() + b, frame.bottom() - b, b, 0.5 * G_PI, G_PI);
     use(color);
     cairo_fill(to);
+  }
+
+  void draw(const render::ClipItem& item) {
+    const auto& [origin, size] = item.frame;
+    cairo_rectangle(to, origin.x, origin.y, size.width, size.height);
+    cairo_clip(to);
   }
 
   void draw(const render::StrokeItem& item) {

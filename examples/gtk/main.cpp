@@ -2,43 +2,48 @@
 
 #include <gtk/gtk.h>
 
-#include <optional>
+#include <map>
 
 #include "Drawing.h"
 #include "QuorixWidgets/info/InfoWidgetBuilder.h"
 #include "QuorixWidgets/score/ScoreWidgetBuilder.h"
 #include "platform/foundation/MainQueue.h"
-#include "platform/hosting/SheetPresenter.h"
-#include "platform/hosting/ViewHost.h"
+#include "platform/hosting/ViewWindow.h"
 #include "platform/uikit/URLOpener.h"
-#include "platform/webkit/WebContent.h"
 
 using namespace quorix;
 
-/// A widget that shows a view and, above it, the view's sheet.
-struct Surface final : hosting::ViewHost::Client, hosting::SheetPresenter::Client {
+/// A drawing area with a view and the sheets over it.
+struct Surface final : hosting::ViewWindow {
+  using Phase = hosting::PointerEvent::Phase;
+
   GtkWidget* const area = gtk_drawing_area_new();
 
-  explicit Surface(swiftui::View view) {
-    host_.setRoot(std::move(view));
+  Surface(examples::PangoText& texts, swiftui::View view)
+      : ViewWindow(texts, {}, std::move(view), {}), texts_(texts) {
     gtk_widget_set_focusable(area, TRUE);
     const auto draw = [](GtkDrawingArea*, cairo_t* to, int width, int height, gpointer self) {
       static_cast<Surface*>(self)->draw(to, {double(width), double(height)});
     };
     gtk_drawing_area_set_draw_func(GTK_DRAWING_AREA(area), draw, this, nullptr);
-    on(area, "map", [](Surface* self) { self->host_.setOnScreen(true); });
-    on(area, "unmap", [](Surface* self) { self->host_.setOnScreen(false); });
     GtkEventController* keys = gtk_event_controller_key_new();
     on(keys, "key-pressed", [](Surface* self, guint key) { return gboolean(self->type(key)); });
     gtk_widget_add_controller(area, keys);
+    GtkEventController* wheel =
+        gtk_event_controller_scroll_new(GTK_EVENT_CONTROLLER_SCROLL_VERTICAL);
+    on(wheel, "scroll", [](Surface* self, double, double notches) {
+      return gboolean(self->front().handle(hosting::ScrollEvent{60 * notches}));
+    });
+    gtk_widget_add_controller(area, wheel);
     GtkGesture* drag = gtk_gesture_drag_new();
     on(drag, "drag-begin", [](Surface* self, double x, double y) {
       self->pressed_ = {x, y};
-      self->sheet_ ? self->sheet_->pointerPressed({x, y})
-                   : void(self->host_.pointerPressed({x, y}));
+      self->point(Phase::pressed, 0, 0);
     });
-    on(drag, "drag-update", [](Surface* self, double x, double y) { self->move(x, y, false); });
-    on(drag, "drag-end", [](Surface* self, double x, double y) { self->move(x, y, true); });
+    on(drag, "drag-update",
+       [](Surface* self, double x, double y) { self->point(Phase::moved, x, y); });
+    on(drag, "drag-end",
+       [](Surface* self, double x, double y) { self->point(Phase::released, x, y); });
     gtk_widget_add_controller(area, GTK_EVENT_CONTROLLER(drag));
   }
 
@@ -46,20 +51,22 @@ struct Surface final : hosting::ViewHost::Client, hosting::SheetPresenter::Clien
     g_signal_connect_swapped(source, signal, G_CALLBACK(+handler), this);
   }
 
-  void move(double right, double down, bool ends) {
-    const layout::Point at = {pressed_.x + right, pressed_.y + down};
-    if (!sheet_) return void(ends && host_.pointerReleased(at));
-    ends ? sheet_->pointerReleased(at, 0) : sheet_->pointerMoved(at);
+  void point(Phase phase, double right, double down) {
+    const double now = double(g_get_monotonic_time()) * 1e-3;
+    front().handle({phase, {pressed_.x + right, pressed_.y + down}, now});
   }
 
-  bool type(guint key) {
-    const bool tab = key == GDK_KEY_Tab, back = key == GDK_KEY_ISO_Left_Tab;
-    const bool acts = key == GDK_KEY_Return || key == GDK_KEY_space;
-    gtk_widget_queue_draw(area);
-    if (tab || back) return sheet_ ? sheet_->moveFocus(tab) : host_.moveFocus(tab);
-    if (acts) return sheet_ ? sheet_->activateFocus() : host_.activateFocus();
-    if (key == GDK_KEY_Escape && sheet_) sheet_->dismiss();
-    return sheet_.has_value();
+  bool type(guint pressed) {
+    using enum hosting::Key;
+    static const std::map<guint, hosting::Key> keys = {
+        {GDK_KEY_Tab, next},        {GDK_KEY_ISO_Left_Tab, previous},
+        {GDK_KEY_Return, activate}, {GDK_KEY_space, activate},
+        {GDK_KEY_Escape, escape},   {GDK_KEY_Up, up},
+        {GDK_KEY_Down, down},       {GDK_KEY_Page_Up, pageUp},
+        {GDK_KEY_Home, home},       {GDK_KEY_Page_Down, pageDown},
+        {GDK_KEY_End, end}};
+    const auto key = keys.find(pressed);
+    return handle({key == keys.end() ? other : key->second});
   }
 
   swiftui::Environment environment() const {
@@ -75,53 +82,30 @@ struct Surface final : hosting::ViewHost::Client, hosting::SheetPresenter::Clien
   }
 
   void draw(cairo_t* to, layout::Size size) {
+    const hosting::Settings settings = {environment(), true};
+    if (settings.environment != std::exchange(shown_, settings.environment)) setSettings(settings);
+    if (size != std::exchange(size_, size)) resize(size, size);
+    const gint64 now = g_get_monotonic_time(), rested = now - std::exchange(drawn_, now);
+    if (frame(MIN(double(rested) * 1e-6, 0.04))) needsFrame();
     examples::Painter painter{to, texts_};
-    host_.setEnvironment(environment());
-    painter.paint(host_.scene(size));
-    auto ring = host_.focusFrame();
-    if (sheet_) {
-      sheet_->setEnvironment(environment());
-      if (size != std::exchange(size_, size)) sheet_->setWindow(size, {});
-      painter.paint(sheet_->scene());
-      ring = sheet_->ringFrame();
-      if (sheet_->isMoving()) foundation::MainQueue::async([this] { advance(); });
-    }
+    painter.paint(view().host().scene(size));
+    for (hosting::SheetSession* sheet : sheets()) painter.paint(sheet->presenter().scene());
+    const auto ring = front().ringFrame();
     if (ring) painter.draw(render::StrokeItem{*ring, {53, 132, 228, 255}, 2});
   }
 
-  /// Moves the sheet on to where it is in the next frame.
-  void advance() {
-    const gint64 now = g_get_monotonic_time(), rested = now - std::exchange(advanced_, now);
-    if (sheet_) sheet_->advance(MIN(double(rested) * 1e-6, 0.04));
+  /// On a later turn: a frame may be on its way.
+  void needsFrame() override {
+    foundation::MainQueue::async([this] { gtk_widget_queue_draw(area); });
   }
+  /// There is no web engine: pages open in the browser.
+  bool showsPages() const override { return true; }
 
-  void viewNeedsDisplay() override { gtk_widget_queue_draw(area); }
-  void sheetNeedsDisplay() override { gtk_widget_queue_draw(area); }
-  void sheetDidClose() override { sheet_.reset(); }
-  void presentationChanged() override {
-    foundation::MainQueue::async([this] { follow(host_.presentation()); });
-  }
-
-  void follow(const swiftui::Presentation* presentation) {
-    if (!presentation) return sheet_ ? sheet_->retract() : void();
-    if (sheet_) return sheet_->present(*presentation);
-    sheet_.emplace(texts_, *this);
-    sheet_->setEnvironment(environment());
-    sheet_->setWindow(size_, {});
-    sheet_->present(*presentation);
-    for (const render::Item& item : sheet_->panel().items) {
-      const auto* room = std::get_if<render::EmbedItem>(&item);
-      const auto* page = room ? dynamic_cast<webkit::WebContent*>(room->content.get()) : nullptr;
-      if (page && uikit::URLOpener::openOutside(page->url().value())) return sheet_->dismiss();
-    }
-  }
-
-  examples::PangoText texts_;
-  hosting::ViewHost host_{texts_, *this};
-  std::optional<hosting::SheetPresenter> sheet_;
+  examples::PangoText& texts_;
+  swiftui::Environment shown_;
   layout::Size size_;
   layout::Point pressed_;
-  gint64 advanced_ = 0;  ///< microseconds
+  gint64 drawn_ = 0;  ///< microseconds
 };
 
 struct Browser final : uikit::URLOpener {
@@ -142,7 +126,8 @@ int main(int argc, char** argv) {
   });
   auto row = ScoreWidgetBuilder::buildSwiftUIScoreWidgetView("gtk", language, token, {{}, {}});
   auto info = InfoWidgetBuilder::buildSwiftUIInfoWidgetView(language, {{}, {}, {}, true});
-  Surface surface(row.padding({16, 16, 160, 16}).overlay({}, info.padding(16)));
+  examples::PangoText texts;
+  Surface surface(texts, row.padding({16, 16, 160, 16}).overlay({}, info.padding(16)));
   GtkWidget* window = gtk_window_new();
   gtk_window_set_default_size(GTK_WINDOW(window), 375, 667);
   gtk_window_set_child(GTK_WINDOW(window), surface.area);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <utility>
 #include <variant>
 
 #include "platform/graphics/AssetCatalog.h"
@@ -80,7 +81,7 @@ std::string SvgPainter::paint(const render::Scene& scene, graphics::RGBA ground)
   for (const render::Item& item : scene.items) {
     std::visit([this](const auto& what) { draw(what); }, item);
   }
-  return std::move(svg_) + "</svg>\n";
+  return std::move(svg_) + std::exchange(unclip_, {}) + "</svg>\n";
 }
 
 void SvgPainter::draw(const render::TextItem& item) {
@@ -138,18 +139,29 @@ void SvgPainter::draw(const render::ImageItem& item) {
 
 void SvgPainter::draw(const render::FillItem& item) {
   const layout::Rect& frame = item.frame;
-  if (item.topCornerRadius <= 0) {
+  if (item.topCornerRadius <= 0 && item.bottomCornerRadius <= 0) {
     svg_ += "<rect" + place(frame) + fill(item.color) + "/>\n";
     return;
   }
   const double r = std::min({item.topCornerRadius, frame.size.width / 2, frame.size.height});
-  const std::string corner = 'a' + number(r) + ' ' + number(r) + " 0 0 1 ";
+  const double b = std::min({item.bottomCornerRadius, frame.size.width / 2, frame.size.height - r});
+  const auto corner = [](double radius, double right, double down) {
+    return 'a' + number(radius) + ' ' + number(radius) + " 0 0 1 " + number(right) + ' ' +
+           number(down);
+  };
   svg_ += "<path" +
-          attribute("d", 'M' + number(frame.left()) + ' ' + number(frame.bottom()) + 'V' +
-                             number(frame.top() + r) + corner + number(r) + ' ' + number(-r) + 'H' +
-                             number(frame.right() - r) + corner + number(r) + ' ' + number(r) +
-                             'V' + number(frame.bottom()) + 'Z') +
+          attribute("d", 'M' + number(frame.left()) + ' ' + number(frame.top() + r) +
+                             corner(r, r, -r) + 'H' + number(frame.right() - r) + corner(r, r, r) +
+                             'V' + number(frame.bottom() - b) + corner(b, -b, b) + 'H' +
+                             number(frame.left() + b) + corner(b, -b, -b) + 'Z') +
           fill(item.color) + "/>\n";
+}
+
+void SvgPainter::draw(const render::ClipItem& item) {
+  const std::string id = "clip" + std::to_string(svg_.size());
+  svg_ += "<clipPath" + attribute("id", id) + "><rect" + place(item.frame) + "/></clipPath><g" +
+          attribute("clip-path", "url(#" + id + ")") + ">\n";
+  unclip_ += "</g>";
 }
 
 void SvgPainter::draw(const render::StrokeItem& item) {

@@ -21,6 +21,7 @@ class SvgPainter {
   void draw(const render::ImageItem& item);
   void draw(const render::FillItem& item);
   void draw(const render::StrokeItem& item);
+  void draw(const render::ClipItem& item);
   void draw(const render::EmbedItem& item);
   void drawLine(const Paragraph::Line& line, const text::AttributedText& text, double left,
                 double baseline);
@@ -28,6 +29,7 @@ class SvgPainter {
   OutlineTextEngine& engine_;
   graphics::Appearance appearance_ = graphics::Appearance::light;
   std::string svg_;
+  std::string unclip_;  ///< ends what the clips began
 };
 
 }  // namespace quorix::examples

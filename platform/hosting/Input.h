@@ -17,6 +17,14 @@ struct PointerEvent {
   int pointer = mouse;  ///< the mouse, or the number of a finger
 };
 
+/// A wheel or two fingers on a trackpad scroll.
+struct ScrollEvent {
+  static constexpr double line = 20;  ///< points that a wheel counts as a line of text
+
+  double distance;       ///< points towards the content's end
+  bool follows = false;  ///< a trackpad's: the content follows at once, instead of gliding
+};
+
 /// A key by what it means to a view, a sheet or a page.
 enum class Key : std::uint8_t {
   other,
@@ -27,6 +35,12 @@ enum class Key : std::uint8_t {
   back,         ///< a phone's Back key: the page's way back, or else closes a sheet
   pageBack,     ///< Alt and Left
   pageForward,  ///< Alt and Right
+  up,           ///< this and the next ones scroll
+  down,
+  pageUp,
+  pageDown,
+  home,
+  end,
 };
 
 struct KeyEvent {

@@ -27,6 +27,8 @@ class QUORIX_EXPORT Responder {
   /// Follows the mouse, or the first finger of a touch. False when the event is for what lies
   /// below. An action may delete the surface: do not touch it afterwards.
   bool handle(const PointerEvent& event);
+  /// The same for a wheel or a trackpad.
+  virtual bool handle(const ScrollEvent&) { return false; }
   /// The same for a key.
   virtual bool handle(const KeyEvent& event) = 0;
   /// The toolkit gave the pointer to something else.
@@ -35,6 +37,8 @@ class QUORIX_EXPORT Responder {
 
   /// In reading order. Valid until the next call.
   virtual const std::vector<render::AccessibilityElement>& elements() = 0;
+  /// Whether an element with this frame is scrolled out of sight.
+  virtual bool isScrolledAway(const layout::Rect&) const { return false; }
   virtual void activate(int index) = 0;
   /// Moves the keyboard focus to an element. False when that does not act.
   virtual bool focusElement(int index) = 0;

@@ -49,8 +49,20 @@ void round(render::EmbedItem& embed, const layout::Rect& panel) {
 void round(render::TextItem&, const layout::Rect&) {}
 void round(render::ImageItem&, const layout::Rect&) {}
 void round(render::StrokeItem&, const layout::Rect&) {}
+void round(render::ClipItem&, const layout::Rect&) {}
 
 }  // namespace
+
+void SheetGeometry::cut(render::Scene& scene, const layout::Rect& inSight) {
+  for (render::Item& item : scene.items) {
+    auto* fill = std::get_if<render::FillItem>(&item);
+    if (fill) fill->frame = layout::intersection(fill->frame, inSight);
+  }
+  for (render::HitArea& area : scene.hitAreas) {
+    area.frame = layout::intersection(area.frame, inSight);
+  }
+  std::erase_if(scene.hitAreas, [](const render::HitArea& area) { return area.frame.isEmpty(); });
+}
 
 void SheetGeometry::roundTop(render::Scene& scene, const layout::Rect& panel) {
   for (render::Item& item : scene.items) {

@@ -26,6 +26,8 @@ struct SheetGeometry {
   /// The panel's frame after `revealed` points of it have risen.
   layout::Rect panel(double revealed) const;
 
+  /// Cuts fills and hit areas of `scene` to what is in sight; a painter clips the rest.
+  static void cut(render::Scene& scene, const layout::Rect& inSight);
   /// Rounds the items of `scene` that cover the top corners of `panel`.
   static void roundTop(render::Scene& scene, const layout::Rect& panel);
 };

@@ -6,10 +6,7 @@
 #include <utility>
 
 #include "platform/hosting/SceneLayers.h"
-#include "platform/hosting/SheetGeometry.h"
-#include "platform/hosting/TextFit.h"
-#include "platform/hosting/ViewFocus.h"
-#include "platform/layout/PixelGrid.h"
+#include "platform/hosting/SheetPanel.h"
 
 namespace quorix::hosting {
 namespace {
@@ -18,78 +15,56 @@ constexpr double dimming = 0.4;           // of black, behind a sheet at rest
 constexpr double approachPerSecond = 14;  // how fast the panel closes in on where it belongs
 constexpr double dragSlop = 8;            // points before a press becomes a drag
 constexpr double flickSpeed = 600;        // points a second
-constexpr double upwardResistance = 0.2;  // of a drag above the sheet's height
 constexpr double settledWithin = 0.5;     // points
-
-graphics::RGBA colorOfPanel(graphics::Appearance appearance) {
-  return appearance == graphics::Appearance::dark ? graphics::RGBA{28, 28, 30, 255}
-                                                  : graphics::RGBA{255, 255, 255, 255};
-}
 
 }  // namespace
 
 struct SheetPresenter::State final : ViewHost::Client {
   State(text::TextEngine& engine, SheetPresenter::Client& surface)
-      : client(surface), content(engine, *this), textFit(content), focus(content) {}
+      : client(surface), panel(engine, *this) {}
 
   void viewNeedsDisplay() override {
-    if (textFit.isTrying()) return;
     contentChanged();
     moved();
   }
   void contentChanged() {
     overlay.reset();
     panelAtRest.reset();
-    textFit.contentChanged();
     ++panelRevision;
   }
   void presentationChanged() override { client.sheetPresentationChanged(); }
 
-  double restingHeight() {
-    return geometry.contentHeight(content.detents()) + geometry.bottomInset();
-  }
-  bool isMoving() { return presentation && !closed && (closing || revealed != target()); }
+  bool panelMoves() { return presentation && !closed && (closing || revealed != target()); }
+  bool isMoving() { return panelMoves() || (!closed && scroll.isMoving()); }
   bool advance(double seconds);
   /// The panel moved, or its target did.
   void moved() {
     client.sheetNeedsDisplay();
     if (!motion) advance(0);
   }
-  double target() { return closing ? 0 : restingHeight() - drag; }
+  double target() { return closing ? 0 : panel.restingHeight() - drag; }
   void reveal(double points) {
     if (revealed == points) return;
     revealed = points;
     overlay.reset();
     client.sheetNeedsDisplay();
   }
-  layout::Rect panel() const {
-    return layout::PixelGrid(content.environment().scale).round(geometry.panel(revealed));
-  }
-  layout::Point inContent(layout::Point point) const {
-    const layout::Point origin = panel().origin;
-    return {point.x - origin.x, point.y - origin.y};
-  }
+  layout::Rect frame() const { return panel.frame(revealed); }
   void endDrag() {
     press.reset();
     dragging = false;
     drag = 0;
+    scroll.release(0);
   }
-  const render::Scene& contentScene() {
-    return textFit.scene({geometry.panelWidth(), restingHeight()},
-                         {.bottom = geometry.bottomInset()}, geometry.largest());
-  }
-  void addPanel(render::Scene& to, const layout::Rect& frame);
-  std::optional<layout::Rect> inWindow(const std::optional<layout::Rect>& frame) const {
-    return frame ? std::optional(frame->translated(panel().origin)) : std::nullopt;
-  }
+  void scrollBy(const std::function<void()>& change);
   bool perform(SheetCloseReason reason, const std::function<bool()>& action);
   void close();
 
   SheetPresenter::Client& client;
-  ViewHost content;
-  TextFit textFit;
-  ViewFocus focus;
-  SheetGeometry geometry;
+  SheetPanel panel;
+  ViewHost& content = panel.content;
+  ViewFocus& focus = panel.focus;
+  SheetScroll& scroll = panel.scroll;
   std::optional<swiftui::Presentation> presentation;
   std::shared_ptr<SheetCloseReason> closeReason =
       std::make_shared<SheetCloseReason>(SheetCloseReason::host);
@@ -123,18 +98,21 @@ bool SheetPresenter::State::perform(SheetCloseReason reason, const std::function
   return performed;
 }
 
-/// Adds the panel with its content. Items that cover the top corners get the panel's radius.
-void SheetPresenter::State::addPanel(render::Scene& to, const layout::Rect& frame) {
-  to.appearance = contentScene().appearance;
-  const graphics::RGBA color = colorOfPanel(to.appearance);
-  to.items.emplace_back(std::in_place_type<render::FillItem>,
-                        render::FillItem{frame, color, SheetGeometry::cornerRadius});
-  to.append(contentScene(), frame.origin);
-  SheetGeometry::roundTop(to, frame);
+/// `change` scrolls, at once or by motion.
+void SheetPresenter::State::scrollBy(const std::function<void()>& change) {
+  panel.lay();
+  const double before = scroll.offset();
+  change();
+  if (scroll.offset() != before) contentChanged();
+  moved();
 }
 
 bool SheetPresenter::State::advance(double seconds) {
   if (!isMoving()) return false;
+  if (scroll.advance(panelMoves() ? 0 : seconds)) {
+    contentChanged();
+    client.sheetNeedsDisplay();
+  }
   const double left = target() - revealed;
   const double step = left * (1 - std::exp(-approachPerSecond * seconds));
   const bool arrives = !motion || dragging || std::abs(left - step) < settledWithin;
@@ -150,13 +128,12 @@ SheetPresenter::SheetPresenter(text::TextEngine& engine, Client& client)
 SheetPresenter::~SheetPresenter() = default;
 
 void SheetPresenter::setEnvironment(const swiftui::Environment& environment) {
-  state_->textFit.setEnvironment(environment);
+  state_->content.setEnvironment(environment);
 }
 
 void SheetPresenter::setWindow(layout::Size size, layout::EdgeInsets safeArea) {
-  const bool atRest = !isMoving();
-  const layout::Size before = std::exchange(state_->geometry, {size, safeArea}).window;
-  if (before != size) state_->textFit.reset();
+  const bool atRest = !state_->panelMoves();
+  state_->panel.geometry = {size, safeArea};
   state_->contentChanged();
   if (atRest && state_->presentation) state_->revealed = state_->target();
   state_->client.sheetNeedsDisplay();
@@ -164,6 +141,7 @@ void SheetPresenter::setWindow(layout::Size size, layout::EdgeInsets safeArea) {
 
 void SheetPresenter::setMotion(bool enabled) {
   state_->motion = enabled;
+  state_->scroll.setMotion(enabled);
   state_->moved();
 }
 
@@ -198,49 +176,42 @@ bool SheetPresenter::isMoving() const { return state_->isMoving(); }
 bool SheetPresenter::advance(double seconds) { return state_->advance(seconds); }
 
 const render::Scene& SheetPresenter::scene() {
-  State& state = *state_;
-  if (state.overlay) return *state.overlay;
-
-  state.contentScene();  // finds the text size, on which the height depends
+  if (state_->overlay) return *state_->overlay;
   render::Scene overlay;
-  overlay.size = state.geometry.window;
+  overlay.size = state_->panel.geometry.window;
   overlay.items.emplace_back(std::in_place_type<render::FillItem>,
-                             render::FillItem{{{}, overlay.size}, shade(), 0});
-  state.addPanel(overlay, state.panel());
-  state.overlay = std::move(overlay);
-  return *state.overlay;
+                             render::FillItem{{{}, overlay.size}, shade()});
+  state_->panel.addTo(overlay, state_->frame());
+  return state_->overlay.emplace(std::move(overlay));
 }
 
 graphics::RGBA SheetPresenter::shade() {
-  const double resting = state_->restingHeight();
+  const double resting = state_->panel.restingHeight();
   const double risen = resting > 0 ? std::clamp(state_->revealed / resting, 0.0, 1.0) : 0;
   return {0, 0, 0, static_cast<std::uint8_t>(std::lround(255 * dimming * risen))};
 }
 
 const render::Scene& SheetPresenter::panel() {
-  State& state = *state_;
-  if (state.panelAtRest) return *state.panelAtRest;
-  render::Scene panel;
-  panel.size = state.contentScene().size;
-  state.addPanel(panel, {{}, panel.size});
-  state.panelAtRest = std::move(panel);
-  return *state.panelAtRest;
+  auto& atRest = state_->panelAtRest;
+  if (!atRest) atRest = state_->panel.atRest();
+  return *atRest;
 }
 
-graphics::RGBA SheetPresenter::panelColor() const {
-  return colorOfPanel(state_->content.environment().appearance);
-}
+graphics::RGBA SheetPresenter::panelColor() const { return state_->panel.color(); }
 
 unsigned SheetPresenter::panelRevision() const { return state_->panelRevision; }
 
-layout::Rect SheetPresenter::panelFrame() const { return state_->panel(); }
+layout::Rect SheetPresenter::panelFrame() const { return state_->frame(); }
 
 void SheetPresenter::pointerPressed(layout::Point point) {
   if (state_->closing) return;  // a second tap on what closes it must not open it again
   state_->focus.hideRing();
+  state_->content.pointerCancelled();
   state_->press = point;
-  state_->pressedOutside = !state_->panel().contains(point);
-  if (!state_->pressedOutside) state_->content.pointerPressed(state_->inContent(point));
+  state_->pressedOutside = !state_->frame().contains(point);
+  if (!state_->pressedOutside && !state_->scroll.hold() && scene().hitTest(point)) {
+    state_->content.pointerPressed(state_->panel.inContent(point, panelFrame().origin));
+  }
   state_->client.sheetNeedsDisplay();
 }
 
@@ -252,24 +223,28 @@ void SheetPresenter::pointerMoved(layout::Point point) {
     state_->content.pointerCancelled();
   }
   if (!state_->dragging) return;
-  state_->drag = down >= 0 ? down : down * upwardResistance;
+  state_->scrollBy([&] { state_->drag = state_->scroll.drag(down); });
   state_->reveal(state_->target());
 }
 
 void SheetPresenter::pointerReleased(layout::Point point, double velocity) {
   if (!state_->press) return;
-  const bool outside = state_->pressedOutside && !state_->panel().contains(point);
+  const bool outside = state_->pressedOutside && !state_->frame().contains(point);
+  const bool flicked = velocity > flickSpeed && state_->scroll.isPulledFromTop();
   const bool swiped =
-      state_->dragging && (velocity > flickSpeed || state_->drag > state_->restingHeight() / 2);
+      state_->dragging && (flicked || state_->drag > state_->panel.restingHeight() / 2);
   const bool tapped = !state_->pressedOutside && !state_->dragging;
+  const double fling = state_->dragging && !swiped ? velocity : 0;
   state_->endDrag();
+  state_->scroll.release(fling);
   state_->moved();
   if (outside || swiped) {
     dismiss(outside ? SheetCloseReason::outside : SheetCloseReason::swipe);
   } else if (tapped) {
     // Last, since an action may destroy this presenter.
+    const layout::Point inContent = state_->panel.inContent(point, panelFrame().origin);
     state_->perform(SheetCloseReason::button,
-                    [&] { return state_->content.pointerReleased(state_->inContent(point)); });
+                    [&] { return state_->content.pointerReleased(inContent); });
   }
 }
 
@@ -279,16 +254,34 @@ void SheetPresenter::pointerCancelled() {
   state_->moved();
 }
 
+void SheetPresenter::scroll(const ScrollEvent& event) {
+  if (state_->closing) return;
+  state_->scrollBy([&] {
+    event.follows ? state_->scroll.follow(event.distance) : state_->scroll.moveBy(event.distance);
+  });
+}
+
+bool SheetPresenter::scroll(Key key) {
+  const auto distance = state_->panel.distanceOf(key);
+  if (distance) scroll(ScrollEvent{*distance});
+  return distance.has_value();
+}
+
+bool SheetPresenter::isScrolledAway(const layout::Rect& frame) const {
+  return state_->panel.isScrolledAway(frame, panelFrame().origin);
+}
+
 bool SheetPresenter::moveFocus(bool forward) {
   const bool moved =
       state_->focus.walk(forward) || (!hasEmbeds(panel()) && state_->focus.walk(forward));
-  state_->client.sheetNeedsDisplay();
+  state_->scrollBy([this] { state_->panel.scrollToFocus(); });
   return moved;
 }
 
 bool SheetPresenter::focus(int index) {
-  state_->client.sheetNeedsDisplay();
-  return state_->content.focus(index);
+  const bool moved = state_->content.focus(index);
+  state_->scrollBy([this] { state_->panel.scrollToFocus(); });
+  return moved;
 }
 
 void SheetPresenter::dropFocus() {
@@ -297,11 +290,11 @@ void SheetPresenter::dropFocus() {
 }
 
 std::optional<layout::Rect> SheetPresenter::focusFrame() const {
-  return state_->inWindow(state_->content.focusFrame());
+  return state_->panel.inWindow(state_->content.focusFrame(), panelFrame().origin);
 }
 
 std::optional<layout::Rect> SheetPresenter::ringFrame() const {
-  return state_->inWindow(state_->focus.ring());
+  return state_->panel.ring(panelFrame().origin);
 }
 
 bool SheetPresenter::activateFocus() {
@@ -318,6 +311,8 @@ void SheetPresenter::settle() {
   state_->content.settle();
   scene();
   state_->content.settle();
+  scene();  // finds how far the content scrolls
+  if (state_->scroll.settle()) state_->contentChanged();
   if (isMoving()) {
     state_->reveal(state_->target());
     if (state_->closing) state_->close();

@@ -10,8 +10,9 @@
 namespace quorix::hosting {
 
 /// Shows one sheet over a window: the dimmed background, the rounded panel that rises from the
-/// bottom, its heights, the drag that closes it and the motion between. Every coordinate is the
-/// window's, in points. A surface makes one for each sheet that it shows; main thread.
+/// bottom, its heights, its scrolling content, the drag that closes it and the motion between. A
+/// sheet with an embedded page does not scroll; the page does. Every coordinate is the window's, in
+/// points. A surface makes one for each sheet that it shows; main thread.
 class QUORIX_EXPORT SheetPresenter {
  public:
   class Client {
@@ -74,10 +75,15 @@ class QUORIX_EXPORT SheetPresenter {
   /// `velocity` is the finger's downward speed in points a second.
   void pointerReleased(layout::Point point, double velocity);
   void pointerCancelled();
+  void scroll(const ScrollEvent& event);
+  /// False when it is none of the keys that scroll.
+  bool scroll(Key key);
+  /// Whether a frame of `scene` is scrolled out of sight.
+  bool isScrolledAway(const layout::Rect& frame) const;
 
   /// Moves the focus inside the sheet, from the last element to the first: it never leaves an open
-  /// sheet. False when the focus should move to the embedded page, which comes after the last
-  /// element.
+  /// sheet, and scrolls to it. False when the focus should move to the embedded page, which comes
+  /// after the last element.
   bool moveFocus(bool forward);
   /// Moves it to accessibility element `index` of `scene`. False when that does not act.
   bool focus(int index);
@@ -90,7 +96,8 @@ class QUORIX_EXPORT SheetPresenter {
   bool activateFocus();
   bool activate(int index);
 
-  /// Runs what is queued for the next turn and ends all motion. For pictures and tests.
+  /// Runs what is queued for the next turn, ends all motion and hides the scroll indicator. For
+  /// pictures and tests.
   void settle();
 
  private:

@@ -77,13 +77,8 @@ void SheetSession::leave() {
 }
 
 bool SheetSession::followMotion() {
-  if (presenter_.isMoving()) {
-    if (settings_.motion) {
-      startClock();
-    } else {
-      presenter_.advance(0);
-    }
-  }
+  if (!settings_.motion) presenter_.advance(0);
+  if (presenter_.isMoving()) startClock();  // without motion, for the scroll indicator's time
   return !closed_;
 }
 
@@ -172,6 +167,11 @@ bool SheetSession::takesTapAt(layout::Point point) {
   return presenter_.scene().hitTest(point) != nullptr;
 }
 
+bool SheetSession::handle(const ScrollEvent& event) {
+  presenter_.scroll(event);
+  return true;
+}
+
 // Keyboard.
 
 bool SheetSession::takes(Key key) {
@@ -193,12 +193,9 @@ bool SheetSession::handle(const KeyEvent& event) {
     case Key::activate:
       if (!event.repeated) presenter_.activateFocus();
       return true;
-    case Key::pageBack:
-    case Key::pageForward:
-    case Key::other:
-      return false;
+    default:
+      return presenter_.scroll(event.key);
   }
-  return false;
 }
 
 void SheetSession::walk(bool forward) {

@@ -44,11 +44,15 @@ class QUORIX_EXPORT SheetSession : public Responder,
 
   using Responder::handle;
   bool handle(const KeyEvent& event) override;
+  bool handle(const ScrollEvent& event) override;
   /// Whether `handle` takes this key, which no shortcut of the host may get then.
   bool takes(Key key);
   bool takesTapAt(layout::Point point) override;
 
   const std::vector<render::AccessibilityElement>& elements() override;
+  bool isScrolledAway(const layout::Rect& frame) const override {
+    return presenter_.isScrolledAway(frame);
+  }
   void activate(int index) override { presenter_.activate(index); }
   bool focusElement(int index) override;
   std::optional<layout::Rect> focusFrame() const override;

@@ -41,7 +41,8 @@ struct ImageItem {
 struct FillItem {
   layout::Rect frame;
   graphics::RGBA color;
-  double topCornerRadius = 0;  ///< of the two upper corners
+  double topCornerRadius = 0;     ///< of the two upper corners
+  double bottomCornerRadius = 0;  ///< of the two lower ones
 };
 
 /// A stroke of `width` points just inside the frame.
@@ -49,6 +50,11 @@ struct StrokeItem {
   layout::Rect frame;
   graphics::RGBA color;
   double width = 1;
+};
+
+/// All later items of the list are drawn inside the frame only.
+struct ClipItem {
+  layout::Rect frame;
 };
 
 /// Room for content that paints itself.
@@ -63,7 +69,7 @@ struct QUORIX_EXPORT EmbedItem {
   layout::Rect room() const;
 };
 
-using Item = std::variant<TextItem, ImageItem, FillItem, StrokeItem, EmbedItem>;
+using Item = std::variant<TextItem, ImageItem, FillItem, StrokeItem, EmbedItem, ClipItem>;
 
 /// An area that reacts to taps. Later areas lie on top of earlier ones.
 struct HitArea {

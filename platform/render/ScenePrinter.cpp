@@ -115,6 +115,7 @@ void write(const FillItem& item, Writer& to) {
   to.begin("fill", item.frame);
   to.value("color", hex(item.color));
   if (item.topCornerRadius > 0) to.value("topCornerRadius", item.topCornerRadius);
+  if (item.bottomCornerRadius > 0) to.value("bottomCornerRadius", item.bottomCornerRadius);
 }
 
 template <class Writer>
@@ -129,6 +130,11 @@ void write(const EmbedItem& item, Writer& to) {
   to.begin("embed", item.frame);
   to.value("background", hex(item.background));
   if (item.topCornerRadius > 0) to.value("topCornerRadius", item.topCornerRadius);
+}
+
+template <class Writer>
+void write(const ClipItem& item, Writer& to) {
+  to.begin("clip", item.frame);
 }
 
 template <class Writer>

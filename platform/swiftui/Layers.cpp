@@ -1,5 +1,6 @@
 // The modifiers that put something over or behind their content, and the safe area that both may
 // ignore.
+#include <algorithm>
 #include <string>
 #include <utility>
 
@@ -14,6 +15,7 @@ namespace {
 
 using layout::EdgeInsets;
 using layout::ProposedSize;
+using layout::Size;
 
 /// Where `frame` reaches the safe area's edge on one of `edges`, it goes on beyond.
 layout::Rect beyondSafeArea(const LayoutPass& in, const layout::Rect& frame, layout::Edges edges) {
@@ -115,7 +117,24 @@ class Border final : public SizedAsContent {
   double width_;
 };
 
-/// Its second child lies over the first, in the first one's frame.
+struct OverlaidElement final : Element {
+  using Element::Element;
+
+  bool makesWay = false;  ///< the user asks for a large text
+};
+
+bool hasTextUnder(const layout::Rect& cover, const Element& element) {
+  constexpr double touching = 0.5;  // points
+  const layout::Size common = layout::intersection(element.frame, cover).size;
+  if (element.isText) return common.width > touching && common.height > touching;
+  for (const Element* child = element.children.first; child; child = child->next) {
+    if (hasTextUnder(cover, *child)) return true;
+  }
+  return false;
+}
+
+/// Its second child lies over the first, in the first one's frame. Large text that would come to
+/// lie under a button at the top begins below it.
 class Overlay final : public SizedAsContent {
  public:
   Overlay(View content, layout::Alignment alignment, View above)
@@ -124,7 +143,14 @@ class Overlay final : public SizedAsContent {
   void evaluate(Evaluator& in, const Look& look, layout::Axis axis,
                 ElementList& out) const override {
     ElementList wrapped;
-    in.at(steps::modified, [&] { SizedAsContent::evaluate(in, look, axis, wrapped); });
+    in.at(steps::modified, [&] {
+      in.wrapEach(content(), look, axis, wrapped, [&](Element& inner) {
+        auto* self = in.make<OverlaidElement>(static_cast<const ElementRules&>(*this));
+        self->makesWay = in.environment.textSize > ContentSizeCategory::large;
+        in.adopt(*self, &inner);
+        return self;
+      });
+    });
     char32_t step = steps::firstOverlay;
     for (Element* element = wrapped.first; element; element = element->next) {
       in.at(step++, [&] { in.adopt(*element, in.single(above_, look, axis)); });
@@ -134,7 +160,14 @@ class Overlay final : public SizedAsContent {
 
   void place(LayoutPass& in, Element& self, ProposedSize proposal) const override {
     SizedAsContent::place(in, self, proposal);
-    in.placeAligned(*self.children.last, self.frame, alignment_, exactly(self.frame.size));
+    Element& above = *self.children.last;
+    in.placeAligned(above, self.frame, alignment_, exactly(self.frame.size));
+    const bool makesWay = static_cast<OverlaidElement&>(self).makesWay &&
+                          alignment_.vertical == layout::VerticalAlignment::top;
+    if (!makesWay || !hasTextUnder(above.frame, self.child())) return;
+    const double down = above.frame.bottom() - self.frame.top();
+    const Size left = {self.frame.size.width, std::max(0.0, self.frame.size.height - down)};
+    in.place(self.child(), {self.frame.left(), above.frame.bottom()}, exactly(left));
   }
 
  private:

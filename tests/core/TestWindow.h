@@ -26,7 +26,7 @@ inline std::string printedItems(const render::Scene& scene) {
 }
 
 /// A sheet that stands alone.
-struct TestSheet final : hosting::SheetPresenter::Client {
+struct TestSheet : hosting::SheetPresenter::Client {
   explicit TestSheet(const swiftui::Presentation& presentation, layout::Size window,
                      layout::EdgeInsets safeArea) {
     sheet.setMotion(false);

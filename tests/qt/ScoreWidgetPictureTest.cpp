@@ -1,9 +1,11 @@
 #include <QPainter>
+#include <QTest>
 #include <memory>
 #include <string>
 
 #include "QuorixWidgets/localization/TovaFont.h"
 #include "QuorixWidgets/score/ScoreWidgetView.h"
+#include "tests/qt/MatchesPicture.h"
 #include "tests/qt/NamedPicture.h"
 #include "tests/qt/Pixels.h"
 #include "tests/qt/Screens.h"
@@ -42,6 +44,20 @@ TYPED_TEST(WindowPicture, ShowsTheRowAsAStillDoes) {
   expected.fill(window.pixel(350, 300));
   QPainter(&expected).drawImage(0, 0, still);
   EXPECT_EQ(testing::differing(window.copy(expected.rect()), expected, 24), QRect());
+}
+
+/// At the largest text size, scrolled on by a page.
+TYPED_TEST(WindowPicture, ShowsAScrolledSheet) {
+  const auto requests = testing::offline();
+  TypeParam screen;
+  auto* shown = screen.add(row("en", {TovaFont::regular().name(), "TovaSansLatin-SemiBold"}, 0.82),
+                           {20, 20, 320, 0});
+  shown->setTextSize(swiftui::ContentSizeCategory::accessibilityExtraExtraExtraLarge);
+  screen.settle();
+  screen.clickAt({180, 30});
+  screen.key(Qt::Key_PageDown);
+  QTest::qWait(1400);  // the scroll indicator is gone
+  EXPECT_TRUE(testing::matchesPicture(screen.grab(), "sheet-scrolled"));
 }
 
 INSTANTIATE_TEST_SUITE_P(RowsAndSheets, ScoreWidgetPicture,
