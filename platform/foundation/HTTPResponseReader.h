@@ -53,8 +53,8 @@ class QUORIX_EXPORT HTTPResponseReader {
  private:
   struct QUORIX_HIDDEN Message;
 
-  State parse();
-  State parsed();
+  QUORIX_HIDDEN State parse();
+  QUORIX_HIDDEN State parsed();
 
   const Body allowed_;
   std::unique_ptr<Message> message_;
