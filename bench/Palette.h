@@ -4,7 +4,7 @@
 
 namespace quorix::bench {
 
-// The colours of our widgets in the light appearance, for the peers.
+// The colors of our widgets in the light appearance, for the peers.
 
 QColor inkColor();
 QColor fadedColor();

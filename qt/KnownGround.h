@@ -12,7 +12,7 @@ namespace quorix::qt {
 /// empty. Rects are in device pixels.
 class KnownGround {
  public:
-  /// The one colour that all of `pixels` have: opaque, or transparent where nothing was painted.
+  /// The one color that all of `pixels` have: opaque, or transparent where nothing was painted.
   /// Absent where that is not known.
   std::optional<graphics::RGBA> under(const QRect& pixels) const;
 

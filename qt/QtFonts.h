@@ -23,7 +23,7 @@ struct ShapingFont {
   /// 1/64 of a pixel not to add up.
   static constexpr int pixels = 64;
 
-  /// A decoration's centre above (negative) or below the baseline, and its thickness. Ems.
+  /// A decoration's center above (negative) or below the baseline, and its thickness. Ems.
   struct Stroke {
     double offset = 0;
     double thickness = 0;

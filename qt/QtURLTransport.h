@@ -26,7 +26,7 @@ namespace quorix::qt {
 /// body, and each request completes with a copy of what comes of it. A request that comes after the
 /// answer fetches again. Up to six fetches run at a time for one host and port; the others wait.
 ///
-/// What a server can take is bounded, whatever the status: an answer with a body of more than 256
+/// What a server can take is bounded for every status: an answer with a body of more than 256
 /// kB (decompressed) or headers of more than 64 kB ends with `UnknownContentError`, a fetch that is
 /// not over after the time limit with `TimeoutError`, and its connection is closed. Waiting for its
 /// turn does not count.

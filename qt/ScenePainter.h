@@ -20,7 +20,7 @@ namespace quorix::qt {
 class ScenePainter {
  public:
   /// What lies under the scene. On an empty image in premultiplied ARGB, a text that was painted
-  /// before on the same ground, nothing or one opaque colour, is painted from its picture, with the
+  /// before on the same ground, nothing or one opaque color, is painted from its picture, with the
   /// same pixels; over other things text is blended by their brightness.
   enum class Ground { unknown, nothing };
 

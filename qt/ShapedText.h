@@ -8,7 +8,7 @@
 
 namespace quorix::qt {
 
-/// A text broken into lines, ready to draw. It holds no colour: texts that differ only in colour or
+/// A text broken into lines, ready to draw. It holds no color: texts that differ only in color or
 /// decoration share it.
 struct ShapedText {
   /// Glyphs of one run, in pixels of the shaping font from the line's left end, on the baseline.

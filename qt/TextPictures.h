@@ -12,13 +12,13 @@
 namespace quorix::qt {
 
 /// Compares and hashes texts by what shaping depends on: characters, fonts and direction, not
-/// colours and decorations.
+/// colors and decorations.
 struct TextIdentity {
   std::size_t operator()(const text::AttributedText* text) const;
   bool operator()(const text::AttributedText* one, const text::AttributedText* other) const;
 };
 
-/// Texts as they look on nothing or on one colour, for those that are painted over and over: a
+/// Texts as they look on nothing or on one color, for those that are painted over and over: a
 /// row's words are the same on every row. Main thread.
 class TextPictures {
  public:

@@ -13,7 +13,7 @@ class Shop;
 /// Main thread.
 ///
 /// The pages are light or dark as the shop is when they are asked for. By themselves they would
-/// follow the reader's colour scheme, which the engine learns once and for the whole process; this
+/// follow the reader's color scheme, which the engine learns once and for the whole process; this
 /// shop changes its appearance while it runs.
 class OverlayPages {
  public:

@@ -5,7 +5,7 @@
 
 namespace quorix::examples {
 
-/// The shop's own colours for one appearance, for either toolkit.
+/// The shop's own colors for one appearance, for either toolkit.
 struct ShopColors {
   Q_GADGET
   Q_PROPERTY(QColor page MEMBER page)

@@ -121,7 +121,7 @@ void SvgPainter::drawLine(const Paragraph::Line& line, const text::AttributedTex
   }
 }
 
-/// A template image gives its shape, and the tint its colour.
+/// A template image gives its shape, and the tint its color.
 void SvgPainter::draw(const render::ImageItem& item) {
   const auto image = graphics::imageSet(item.bundle, item.name);
   if (!image) return;

@@ -12,7 +12,7 @@
 namespace quorix::hosting {
 namespace {
 
-/// More than a surface's layout asks about in turn.
+/// A surface's layout asks for fewer sizes than this, one after the other.
 constexpr std::size_t manyProposals = 4;
 
 /// What a view is placed in.
@@ -245,16 +245,13 @@ bool ViewHost::moveFocus(bool forward) {
   const auto& elements = scene->accessibility;
   const int count = static_cast<int>(elements.size());
   const int step = forward ? 1 : -1;
-  int next = state_->focused < 0 && !forward ? count - 1 : state_->focused + step;
-  while (next >= 0 && next < count && !elements[static_cast<std::size_t>(next)].action) {
+  int next = state_->focused < 0 && !forward ? count : state_->focused;
+  do {
     next += step;
-  }
-  if (next < 0 || next >= count) {
-    state_->focused = -1;
-    return false;
-  }
-  state_->focused = next;
-  return true;
+  } while (next >= 0 && next < count && !elements[static_cast<std::size_t>(next)].action);
+  const bool found = next >= 0 && next < count;
+  state_->focused = found ? next : -1;
+  return found;
 }
 
 /// Element `index` of the latest scene, or null when it is none that acts.
@@ -277,9 +274,7 @@ void ViewHost::clearFocus() { state_->focused = -1; }
 int ViewHost::actingElements() const {
   const render::Scene* scene = state_->current();
   if (!scene) return 0;
-  const auto acts = [](const render::AccessibilityElement& element) {
-    return bool(element.action);
-  };
+  const auto acts = [](const auto& element) { return bool(element.action); };
   const auto& elements = scene->accessibility;
   return static_cast<int>(std::count_if(elements.begin(), elements.end(), acts));
 }

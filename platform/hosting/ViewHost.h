@@ -47,7 +47,7 @@ class QUORIX_EXPORT ViewHost {
   /// The size that the view chooses when offered `proposal`.
   layout::Size sizeThatFits(layout::ProposedSize proposal);
 
-  /// The display list of the view in an area of `size` less `safeArea`, centred if it is smaller.
+  /// The display list of the view in an area of `size` less `safeArea`, centered if it is smaller.
   /// Elements that ignore the safe area extend into the insets. The reference is valid until the
   /// next call of this host.
   const render::Scene& scene(layout::Size size, const layout::EdgeInsets& safeArea = {});

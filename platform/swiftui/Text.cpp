@@ -95,8 +95,8 @@ class TextNode final : public Node, public ElementRules {
   Size measure(LayoutPass& in, Element& element, ProposedSize proposal) const override {
     auto& self = static_cast<ShownText&>(element);
     const double width = proposal.width.value_or(infinity);
-    // Whatever is proposed for the height, a text keeps all its lines; and from its ideal width on,
-    // more width changes nothing.
+    // A text keeps all its lines, so a proposed height changes nothing; nor does a width beyond
+    // its ideal one.
     for (const MeasuredSize* known = self.measured; known; known = known->next) {
       const double earlier = known->proposal.width.value_or(infinity);
       if (earlier == width || (earlier == infinity && known->size.width <= width))

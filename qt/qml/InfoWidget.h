@@ -16,7 +16,7 @@ class InfoWidget : public quorix::qml::WidgetItem {
   /// The library's own until it is set, and again after `undefined`.
   Q_PROPERTY(QColor backgroundColor READ backgroundColor WRITE setBackgroundColor RESET
                  resetBackgroundColor NOTIFY backgroundColorChanged FINAL)
-  /// A line of one point in the colour of the text.
+  /// A line of one point in the color of the text.
   Q_PROPERTY(bool showBorder READ showBorder WRITE setShowBorder NOTIFY showBorderChanged FINAL)
 
  public:

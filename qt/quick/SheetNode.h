@@ -11,7 +11,7 @@ namespace quorix::qt {
 
 class PictureNode;
 
-/// A sheet in the scene graph: the shade, the panel's picture, and its colour on to the window's
+/// A sheet in the scene graph: the shade, the panel's picture, and its color on to the window's
 /// bottom. Motion moves these and paints nothing. Render thread.
 class SheetNode : public QSGTransformNode {
  public:

@@ -244,7 +244,7 @@ void ViewSurface::updatePicture() {
   const bool whole = part_.size == scene.size;
   picture_ = paintPicture(whole ? scene : render::partOf(scene, part_), scale(), {0, 0, 0, 0});
   painted_ = !picture_.isNull();
-  ring_.reset();  // its colour and scale go with the picture's
+  ring_.reset();  // its color and scale go with the picture's
   item_.update();
 }
 

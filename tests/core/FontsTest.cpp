@@ -83,7 +83,7 @@ TEST_F(FontsDeathTest, TheToolkitIsToldOfEachFaceOnce) {
   }()));
 }
 
-// Whatever else the process has shown: a row of its own for each.
+// A row of its own for each, so that no earlier one has registered the face.
 TEST_F(FontsDeathTest, AnInfoWidgetReadsTheSemiBoldFaceWhereItsTextNeedsIt) {
   const Names both{"Saans-Regular", "Saans-Medium"};
   const struct {

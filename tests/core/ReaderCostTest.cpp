@@ -120,7 +120,7 @@ TEST(ReaderCost, IsInProportionToTheBytes) {
                     interfaceView + testing::labelElement("a", "x") + "</subviews><constraints>",
                 testing::constraintElement("a", "top", "", "box", "top", 1) + '\n',
                 "</constraints></view></objects></document>")},
-      {"colours", readColors,
+      {"colors", readColors,
        repeated(R"({"colors": [{"idiom": "universal", "color": {"components": {"red": "1",
                 "green": "1", "blue": "1", "alpha": "1"}}})",
                 R"(, {"idiom": "tv#", "color": {}})", "]}")},

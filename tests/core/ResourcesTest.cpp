@@ -56,7 +56,7 @@ TEST(Palette, TextIsLegibleOnEveryBackground) {
 
 using ResourcesDeathTest = testing::FreshProcessDeathTest;
 
-TEST_F(ResourcesDeathTest, AMissingColourStopsTheImperativeFormOnly) {
+TEST_F(ResourcesDeathTest, AMissingColorStopsTheImperativeFormOnly) {
   const auto empty = testing::memoryBundle({});
   EXPECT_IN_FRESH_PROCESS(
       (replaceLibraryBundle(empty), !Color::widgetBackground().resolve(Appearance::light)));

@@ -66,7 +66,7 @@ FormatArgument argument(simdjson::dom::element value) {
   return value.is_object() ? number(value, "double") : double(value);
 }
 
-/// Whatever a table holds, what is shown is an argument, the table's own text, or nothing.
+/// For every table, what is shown is an argument, the table's own text, or nothing.
 TEST(StringFormat, IsSafeWithAnyFormat) {
   forEachRow("formats_own", [](simdjson::dom::element row) {
     std::vector<FormatArgument> arguments;

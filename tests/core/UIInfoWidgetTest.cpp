@@ -241,7 +241,7 @@ TEST(UIInfoWidgetDeath, StopsOnWhatItCannotBe) {
   EXPECT_DEATH(UIInfoWidget::initWithFrame({}), "unimplemented initializer 'init\\(frame:\\)'");
   const auto model =
       std::make_shared<UIInfoWidgetViewModel>(std::nullopt, "en", UIKitStyleConfiguration{});
-  UIInfoWidget::make(model);  // colours and faces are there before their files go
+  UIInfoWidget::make(model);  // colors and faces are there before their files go
   const std::string file(foundation::Bundle::embedded()->data("UIInfoWidget.xib")->text());
   const auto without = [&](const std::string& outlet) {
     const auto start = file.find("<outlet property=\"" + outlet);

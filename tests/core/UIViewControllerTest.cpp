@@ -70,6 +70,6 @@ TEST(UIViewController, ASheetThatClosesDismissesIt) {
   EXPECT_TRUE(sheet.isPresented.get());
   sheet.isPresented.set(false);
   EXPECT_EQ(root->presentedViewController(), nullptr);
-  sheet.isPresented.set(true);  // nobody can present it again that way
+  sheet.isPresented.set(true);  // presenting it again takes a controller
   EXPECT_EQ(root->presentedViewController(), nullptr);
 }

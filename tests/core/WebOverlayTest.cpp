@@ -61,7 +61,7 @@ TEST(WebView, ClosesByTheCrossInItsTrailingCorner) {
     environment.direction = direction;
     environment.language = "de";
     TestWindow window(overlay(shown, "Ann", "en"), environment);
-    const auto& button = window.element("Schließen");  // to the user, whatever the page speaks
+    const auto& button = window.element("Schließen");  // the user's language, not the page's
     const bool mirrored = direction == layout::LayoutDirection::rightToLeft;
     EXPECT_EQ(button.frame, (layout::Rect{{mirrored ? 0.0 : 272.0, 0}, {48, 56}}));
     EXPECT_EQ(button.role, render::Role::button);

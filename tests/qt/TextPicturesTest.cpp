@@ -54,8 +54,8 @@ TEST(TextPictures, LookAsTheTextDrawnAnew) {
   text::AttributedText struck = plainText("€1,234.00");
   struck.runs.front().strikethrough = true;
   struck.runs.front().color = {107, 107, 112, 128};
-  text::AttributedText recoloured = struck;
-  recoloured.runs.front().color = {200, 0, 0, 255};
+  text::AttributedText recolored = struck;
+  recolored.runs.front().color = {200, 0, 0, 255};
   const auto arabic = plainText("رسوم الإرجاع", 14, LayoutDirection::rightToLeft);
   const auto shaped = [](const text::AttributedText& text, double width = layout::infinity) {
     return sceneWith(text, width, {30, 30});
@@ -67,7 +67,7 @@ TEST(TextPictures, LookAsTheTextDrawnAnew) {
     render::Scene scene;
   } rows[] = {
       {"struck through and translucent", shaped(struck)},
-      {"in another colour", shaped(recoloured)},
+      {"in another color", shaped(recolored)},
       {"two runs, wrapped", wrapped},
       {"from the right", shaped(arabic, 120)},
       {"ink outside of its lines", marked},

@@ -112,7 +112,7 @@ TEST_F(ConcurrentUrlSession, AnswersAreAnswersWhateverTheirStatusAndBrokenOnesAr
     EXPECT_EQ(response.error ? response.error->domain : "", table[i].status ? "" : "URLSession");
     EXPECT_NE(thread, std::this_thread::get_id());
   }
-  fetch("/0");  // whatever else the first requests had to say would have come before this
+  fetch("/0");  // all that the first requests had to say would have come before this
 }
 
 TEST_F(ConcurrentUrlSession, SendsAPlainGetOfTheAddress) {

@@ -90,7 +90,7 @@ TEST(ToolOutput, IsInTheLibrarysFacesWhateverIsInstalled) {
   }
 }
 
-TEST(ToolOutput, PicturesHaveTheColoursAskedFor) {
+TEST(ToolOutput, PicturesHaveTheColorsAskedFor) {
   const QImage own = picture(info + "--background-color '#FAF7F0' --border");
   EXPECT_EQ(own.pixelColor(5, 5).name().toStdString(), "#faf7f0");
   EXPECT_NE(own.pixelColor(0, 5), own.pixelColor(5, 5));

@@ -40,7 +40,7 @@ std::vector<Request> requests() {
   };
   const QByteArray frame =
       "const f = document.createElement('iframe'); f.src = 'tel:1'; document.body.append(f); ";
-  // Later engines ask nobody, and keep to a limit of their own.
+  // Later engines do not ask; they have a limit of their own.
   const bool asksForRoom = QT_VERSION < QT_VERSION_CHECK(6, 5, 0);
   return {
       // Permissions.
@@ -78,7 +78,7 @@ std::vector<Request> requests() {
       {"a warning", "alert('x'); tell('done')", false},
       {"a yes", "tell(confirm('x') ? 'granted' : 'refused')", false, "refused"},
       {"a word", "tell(prompt('x', 'y') === null ? 'refused' : 'granted')", false, "refused"},
-      {"a colour", input("color"), true},
+      {"a color", input("color"), true},
       {"a file", input("file"), true},
       {"a file to write",
        promise("(window.showSaveFilePicker ? showSaveFilePicker() : Promise.reject())"), true,

@@ -45,11 +45,11 @@ class PageTest : public ::testing::Test {
   }
 
   QColor at(QPoint point) { return screen.grab().pixelColor(point); }
-  /// Whether the page ever gets this colour.
+  /// Whether the page ever gets this color.
   bool shows(QColor color, QPoint where = kInPage) {
     return waitUntil([&] { return at(where) == color; });
   }
-  /// Whether a page of this colour comes up and takes input. The next call is about the next page.
+  /// Whether a page of this color comes up and takes input. The next call is about the next page.
   bool isPainted(QColor color) {
     const bool here = waitUntil([] { return !pages().requests("/here").empty(); });
     pages().forgetRequests("/here");

@@ -10,7 +10,7 @@ constexpr const char* kWidget = "https://widget.quorix.example";
 /// One server for the whole process: the engine reads its address once.
 examples::StandInPages& pages();
 
-/// A page of one colour that says that it is painted by asking for /here. `script` runs before. It
+/// A page of one color that says that it is painted by asking for /here. `script` runs before. It
 /// has some text: the engine keeps input from a page that shows nothing yet.
 examples::StandInPages::Answer page(const QByteArray& color, const QByteArray& content = {},
                                     const QByteArray& script = {});

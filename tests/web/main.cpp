@@ -8,7 +8,7 @@
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  // Colours are compared: they must not depend on a graphics driver.
+  // Colors are compared: they must not depend on a graphics driver.
   if (qEnvironmentVariableIsEmpty("QT_QUICK_BACKEND")) qputenv("QT_QUICK_BACKEND", "software");
   // The engine has no sandbox for root, which is what tests in a container run as.
   const bool keepsSandbox = qEnvironmentVariableIsSet("WEB_TESTS_KEEP_SANDBOX");

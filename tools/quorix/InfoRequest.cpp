@@ -26,7 +26,7 @@ std::variant<InfoRequest, Failure> InfoRequest::read(const Arguments& arguments)
   request.backgroundColor = read.color("--background-color");
   request.border = read.has("--border");
   if (request.imperative && (request.backgroundColor || request.border)) {
-    read.fail("the imperative form takes neither a background colour nor a border");
+    read.fail("the imperative form takes neither a background color nor a border");
   }
   if (read.failure()) return *read.failure();
   return request;

@@ -68,7 +68,7 @@ std::optional<graphics::RGBA> OptionReader::color(std::string_view option) {
     const auto byte = [&](int shift) { return static_cast<std::uint8_t>(*digits >> shift); };
     return graphics::RGBA{byte(16), byte(8), byte(0), 255};
   }
-  fail(wants(option, "a colour such as #FAF7F0", *given));
+  fail(wants(option, "a color such as #FAF7F0", *given));
   return std::nullopt;
 }
 

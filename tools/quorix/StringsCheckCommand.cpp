@@ -14,7 +14,7 @@ namespace {
 
 using foundation::Bundle;
 
-/// `line` with what would break it, or colour a terminal, taken out.
+/// `line` with what would break it, or color a terminal, taken out.
 std::string oneLine(std::string line) {
   const auto isControl = [](unsigned char c) { return c < 0x20 || c == 0x7F; };
   std::ranges::replace_if(line, isControl, ' ');

@@ -52,7 +52,7 @@ bool print(const std::string& output) {
 int report(const Failure& failure) {
   print(failure.output);
   std::string line = "quorix: " + failure.message;
-  // Whatever a file or an argument put into the message, it stays one line.
+  // One line, although a file or an argument may have put line breaks into the message.
   std::ranges::replace_if(
       line, [](char c) { return c == '\n' || c == '\r'; }, ' ');
   std::fprintf(stderr, "%s\n", line.c_str());

@@ -4,7 +4,7 @@
 
 namespace quorix::examples {
 
-/// A button of the shop's. It takes its colours from the palette.
+/// A button of the shop's. It takes its colors from the palette.
 class ShopButton : public QAbstractButton {
   Q_OBJECT
 

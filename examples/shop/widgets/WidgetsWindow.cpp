@@ -13,7 +13,7 @@
 namespace quorix::examples {
 namespace {
 
-/// The shop's colours by what they are for, so that Qt's widgets, the shop's own and the library's
+/// The shop's colors by what they are for, so that Qt's widgets, the shop's own and the library's
 /// all follow one palette.
 QPalette paletteOf(const ShopColors& colors) {
   QPalette palette(colors.page, colors.page);  // shades that the style derives

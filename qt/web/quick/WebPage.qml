@@ -1,8 +1,8 @@
 import QtQuick
 import QtWebEngine
 
-// A page that stands in an app: it shows itself and nothing else, and whatever a browser would ask its
-// user for is refused. `page` is a QuickPage. The widgets' page is QuietPage; both keep to one table of
+// A page inside an app. All that a browser would ask its user for is refused without a dialog or a word
+// on the log. `page` is a QuickPage. The widgets' page is QuietPage; both keep to one table of
 // requests, tests/web/PageRequestsTest.cpp.
 WebEngineView {
     id: view

@@ -5,7 +5,7 @@
 namespace quorix::qt {
 
 /// Shows a `QuietPage`, and keeps from the screen what the engine opens over it by itself: the
-/// colour dialog, for which the page has no way to refuse, menus and tooltips. Main thread.
+/// color dialog, for which the page has no way to refuse, menus and tooltips. Main thread.
 class QuietView : public QWebEngineView {
   Q_OBJECT
 

@@ -31,7 +31,7 @@ bool webEngineIsLoaded() {
   return maps.open(QIODevice::ReadOnly) && maps.readAll().contains("libQuorixWebQuick.so");
 }
 
-/// Whether the picture has more than one colour.
+/// Whether the picture has more than one color.
 bool showsSomething(const QImage& picture) {
   for (int y = 0; y < picture.height(); ++y) {
     for (int x = 0; x < picture.width(); ++x) {

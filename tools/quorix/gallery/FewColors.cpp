@@ -14,7 +14,7 @@ int distance(QRgb one, QRgb other) {
          std::abs(qBlue(one) - qBlue(other));
 }
 
-/// All colours of `image`, the most frequent first.
+/// All colors of `image`, the most frequent first.
 QList<QRgb> colorsByFrequency(const QImage& image) {
   QHash<QRgb, int> counts;
   for (int y = 0; y < image.height(); ++y) {
