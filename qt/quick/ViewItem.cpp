@@ -2,6 +2,7 @@
 
 #include <QCursor>
 
+#include "qt/Conversions.h"
 #include "qt/Engine.h"
 #include "qt/Input.h"
 #include "qt/ViewAccessible.h"
