@@ -34,6 +34,10 @@ def milliseconds(value):
     return f"{value:.1f} ms" if value < 100 else f"{value:.0f} ms"
 
 
+def millions(value):
+    return f"{value / 1e6:.1f} million"
+
+
 def kilobytes(value):
     return f"{value / 1000:.1f} kB" if value < 100_000 else f"{value / 1000:.0f} kB"
 
@@ -136,6 +140,10 @@ def starts(table, build, quick):
               milliseconds)
     table.add("… the row's share, without an empty window and Qt's list of fonts", ours - bare, qml - bare,
               "QML", None, milliseconds)
+    if shutil.which("valgrind"):
+        row, texts = (build.instructions(program) for program in ("start_ours", "start_texts"))
+        table.add("… its instructions, from process start", row, texts, "the three texts by Qt alone", 1 / 1.15,
+                  millions)
 
 
 def turns(count, runs):

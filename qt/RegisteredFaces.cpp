@@ -7,7 +7,6 @@
 #include <QThread>
 #include <utility>
 
-#include "platform/graphics/FontManager.h"
 #include "qt/ApplicationLifetime.h"
 
 namespace quorix::qt {
@@ -64,9 +63,9 @@ RegisteredFaces& RegisteredFaces::shared() { return applicationLifetime<Register
 const QFont* RegisteredFaces::find(const std::string& name) {
   const auto known = faces_.find(name);
   if (known != faces_.end()) return &known->second;
-  const auto data = FontManager::shared().data(name);
-  if (!data) return nullptr;
-  const auto font = load(*data);
+  const auto face = FontManager::shared().face(name);
+  if (!face) return nullptr;
+  const auto font = load(*face);
   if (!font) return nullptr;
   // Qt finds faces by family; this lets a host use the PostScript name.
   QFont::insertSubstitution(QString::fromStdString(name), font->family());
@@ -79,22 +78,26 @@ void RegisteredFaces::loadAll() {
 
 /// Adds a font file to Qt. If the host has added a face of that name, uses the host's: its own
 /// texts must not change.
-std::optional<QFont> RegisteredFaces::load(std::string_view data) {
+std::optional<QFont> RegisteredFaces::load(const GraphicsFont& face) {
+  const std::string_view data = face.data().text();
   const QByteArray bytes(data.data(), static_cast<qsizetype>(data.size()));
-  const QRawFont file(bytes, anySize);
-  const QString family = file.familyName(), style = file.styleName();
+  const QString family = QString::fromStdString(face.familyName());
+  const QString style = QString::fromStdString(face.styleName());
   if (isOfHost(family, style)) return QFontDatabase::font(family, style, anySize);
   if (QFontDatabase::styles(family).isEmpty()) ownFamilies_ += family;
+  int id = -1;
   {
     // A constant may be in the making, and a slot of the host's may read it: see `announce`.
     const QSignalBlocker quiet(qGuiApp);
-    const int id = QFontDatabase::addApplicationFontFromData(bytes);
+    id = QFontDatabase::addApplicationFontFromData(bytes);
     if (id < 0) return std::nullopt;
     ids_.insert(id);
   }
   announce();
-  if (ownFamilies_.contains(family)) return QFontDatabase::font(family, style, anySize);
-  return nameOf(file);
+  const bool isOwn =
+      ownFamilies_.contains(family) && QFontDatabase::applicationFontFamilies(id).contains(family);
+  if (isOwn) return QFontDatabase::font(family, style, anySize);
+  return nameOf(QRawFont(bytes, anySize));
 }
 
 /// Whether the host has added such a face to Qt's application fonts.

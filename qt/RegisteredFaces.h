@@ -5,8 +5,9 @@
 #include <optional>
 #include <set>
 #include <string>
-#include <string_view>
 #include <unordered_map>
+
+#include "platform/graphics/FontManager.h"
 
 namespace quorix::qt {
 
@@ -31,7 +32,7 @@ class RegisteredFaces {
   bool isAnnouncing() const { return announcing_; }
 
  private:
-  std::optional<QFont> load(std::string_view data);
+  std::optional<QFont> load(const graphics::GraphicsFont& face);
   bool isOfHost(const QString& family, const QString& style) const;
   void announce();
 

@@ -62,7 +62,12 @@ std::optional<GraphicsFont> GraphicsFont::fromData(foundation::Data data) {
   if (name == nullptr || *name == 0 || !FT_IS_SCALABLE(face) || face->charmap == nullptr) {
     return std::nullopt;
   }
-  return GraphicsFont(name, std::move(data));
+  GraphicsFont font;
+  font.name_ = name;
+  if (face->family_name) font.family_ = face->family_name;
+  if (face->style_name) font.style_ = face->style_name;
+  font.data_ = std::move(data);
+  return font;
 }
 
 FontManager& FontManager::shared() { return foundation::Runtime::the<FontManager>(); }
@@ -107,11 +112,17 @@ bool FontManager::knows(std::string_view name) const {
   return data(name).has_value() || systemKnows(name);
 }
 
-std::optional<foundation::Data> FontManager::data(std::string_view name) const {
+std::optional<GraphicsFont> FontManager::face(std::string_view name) const {
   const std::scoped_lock lock(mutex_);
   const GraphicsFont* face = find(name);
   if (face == nullptr) return std::nullopt;
-  return face->data();
+  return *face;
+}
+
+std::optional<foundation::Data> FontManager::data(std::string_view name) const {
+  const auto found = face(name);
+  if (!found) return std::nullopt;
+  return found->data();
 }
 
 std::vector<GraphicsFont> FontManager::faces(std::size_t first) const {

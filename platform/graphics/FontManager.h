@@ -23,13 +23,17 @@ class QUORIX_EXPORT GraphicsFont {
   static std::optional<GraphicsFont> fromData(foundation::Data data);
 
   const std::string& postScriptName() const { return name_; }
+  /// What menus of faces call it: "Saans" and "Medium". May be empty.
+  const std::string& familyName() const { return family_; }
+  const std::string& styleName() const { return style_; }
   const foundation::Data& data() const { return data_; }
 
  private:
-  GraphicsFont(std::string name, foundation::Data data)
-      : name_(std::move(name)), data_(std::move(data)) {}
+  GraphicsFont() = default;
 
   std::string name_;
+  std::string family_;
+  std::string style_;
   foundation::Data data_;
 };
 
@@ -63,7 +67,9 @@ class QUORIX_EXPORT FontManager {
   /// Whether text in the face `name` would be drawn in that face.
   bool knows(std::string_view name) const;
 
-  /// The font file registered under `name`; absent for the system's own faces.
+  /// The face registered under `name`; absent for the system's own faces.
+  std::optional<GraphicsFont> face(std::string_view name) const;
+  /// Its font file.
   std::optional<foundation::Data> data(std::string_view name) const;
 
   /// How many faces are registered. An engine that has loaded fewer loads `faces(loaded)`.
