@@ -1,11 +1,11 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <functional>
 
 #include "platform/hosting/WindowSession.h"
-
-class QWindow;
+#include "qt/SafeAreaWatcher.h"
 
 namespace quorix::qt {
 
@@ -25,15 +25,17 @@ class QUORIX_EXPORT WindowScene : public QObject, public hosting::WindowSession 
   /// Null when none has begun.
   static WindowScene* find(const QObject& window);
 
+  ~WindowScene() override { delete safeArea_; }
+
  private:
   WindowScene(QObject& window, const Toolkit& toolkit);
   bool isVisible() const override;
-  hosting::SheetSession& newSheet(const hosting::Responder* opener) override {
-    return toolkit_.newSheet(*this, opener);
-  }
+  hosting::SheetSession& newSheet(const hosting::Responder* opener) override;
   void focusWindowChanged(QWindow* focused);
+  void followSafeArea();
 
   Toolkit toolkit_;
+  QPointer<SafeAreaWatcher> safeArea_;  ///< since the first sheet
 };
 
 }  // namespace quorix::qt
