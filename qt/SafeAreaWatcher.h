@@ -5,13 +5,11 @@
 #include <functional>
 #include <utility>
 
-#include "platform/foundation/Export.h"
-
 namespace quorix::qt {
 
 /// Follows what the device covers of a window: what the host said, or else what Qt says from 6.9
 /// on. Belongs to the window; main thread.
-class QUORIX_EXPORT SafeAreaWatcher : public QObject {
+class SafeAreaWatcher : public QObject {
  public:
   template <class Window>
   SafeAreaWatcher(Window& window, std::function<void()> changed)

@@ -3,6 +3,8 @@
 #include <QGuiApplication>
 #include <QWindow>
 
+#include "qt/SafeAreaWatcher.h"
+
 namespace quorix::qt {
 
 WindowScene* WindowScene::find(const QObject& window) {
@@ -19,6 +21,8 @@ WindowScene::WindowScene(QObject& window, const Toolkit& toolkit)
   connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &WindowScene::focusWindowChanged);
   focusWindowChanged(QGuiApplication::focusWindow());
 }
+
+WindowScene::~WindowScene() { delete safeArea_; }
 
 bool WindowScene::isVisible() const {
   const QWindow* window = toolkit_.window();

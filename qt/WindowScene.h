@@ -5,9 +5,12 @@
 #include <functional>
 
 #include "platform/hosting/WindowSession.h"
-#include "qt/SafeAreaWatcher.h"
+
+class QWindow;
 
 namespace quorix::qt {
+
+class SafeAreaWatcher;
 
 /// The session of a toolkit's window, which it belongs to. Main thread.
 class QUORIX_EXPORT WindowScene : public QObject, public hosting::WindowSession {
@@ -25,7 +28,7 @@ class QUORIX_EXPORT WindowScene : public QObject, public hosting::WindowSession 
   /// Null when none has begun.
   static WindowScene* find(const QObject& window);
 
-  ~WindowScene() override { delete safeArea_; }
+  ~WindowScene() override;
 
  private:
   WindowScene(QObject& window, const Toolkit& toolkit);

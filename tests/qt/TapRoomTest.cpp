@@ -10,10 +10,10 @@
 namespace quorix::testing {
 namespace {
 
-/// What a finger at `point` opens: "4 €", "3 €" or nothing.
+/// What a finger at `point` opens: "4 €", another row's or nothing.
 QString tap(Screen& screen, QPoint point) {
   screen.drag(point, point, 0, true);
-  for (const char* fee : {"4 €", "3 €"}) {
+  for (const char* fee : {"4 €", "3 €", "2 €"}) {
     if (!screen.shows("Fee " + QString(fee))) continue;
     screen.key(Qt::Key_Escape);
     return fee;
@@ -44,31 +44,28 @@ std::function<int()> addButton(WidgetScreen& screen, QRect place) {
 
 TYPED_TEST(TapRoom, ReachesAroundARowAndNoFurtherThanHalfwayToTheNext) {
   TypeParam screen;
-  const QRect first = screen.placeOf(screen.add(FeeRow("4 €"), {20, 100, 300, 0}));
-  screen.add(FeeRow("3 €"), {20, double(first.bottom() + 21), 300, 0});
+  screen.add(FeeRow("3 €"), {20, 134, 300, 20});
+  screen.add(FeeRow("4 €"), {20, 100, 300, 20});
+  screen.add(FeeRow("2 €"), {20, 200, 300, 44});
   const struct {
     QPoint point;
     QString opens;
   } rows[] = {
-      {first.center(), "4 €"},
-      {{100, first.top() - 9}, "4 €"},
-      {{100, first.top() - 16}, ""},
-      {{100, first.bottom() + 8}, "4 €"},
-      {{100, first.bottom() + 13}, "3 €"},
-      {{4, first.center().y()}, ""},  // the row is wide enough
+      {{100, 110}, "4 €"}, {{100, 91}, "4 €"},  {{100, 85}, ""},
+      {{100, 124}, "4 €"}, {{100, 129}, "3 €"}, {{8, 110}, ""},    // it is wide enough
+      {{100, 201}, "2 €"}, {{100, 242}, "2 €"}, {{100, 247}, ""},  // its item is high enough
   };
   for (const auto& row : rows) EXPECT_EQ(tap(screen, row.point), row.opens) << row.point.y();
 }
 
 TYPED_TEST(TapRoom, IsTheHostsWhereTheHostTakesTaps) {
   TypeParam screen;
-  const QRect row = screen.placeOf(screen.add(FeeRow("4 €"), {20, 100, 300, 0}));
-  const auto above = addButton(screen, {20, row.top() - 30, 300, 30});
-  const auto below = addButton(screen, {20, row.bottom() + 1, 300, 30});
-  EXPECT_EQ(tap(screen, {100, row.top() - 5}) + tap(screen, {100, row.bottom() + 5}), "");
+  const auto above = addButton(screen, {20, 70, 300, 30});
+  screen.add(FeeRow("4 €"), {20, 100, 300, 20});
+  const auto below = addButton(screen, {20, 120, 300, 30});
+  EXPECT_EQ(tap(screen, {100, 95}) + tap(screen, {100, 125}), "");
   EXPECT_EQ(above(), 1);
   EXPECT_EQ(below(), 1);
-  EXPECT_EQ(tap(screen, {10, row.top() - 5}), "") << "beside both";
 }
 
 TEST(TapRoomInQuick, APageThatScrollsIsNoButton) {
