@@ -29,7 +29,8 @@ bool takesPresses(const QQuickItem& item) {
 }
 
 QPointF nearestIn(const QQuickItem& item, QPointF point) {
-  return {std::clamp(point.x(), 0.0, item.width()), std::clamp(point.y(), 0.0, item.height())};
+  const auto nearest = [](double at, double length) { return std::min(std::max(at, 0.0), length); };
+  return {nearest(point.x(), item.width()), nearest(point.y(), item.height())};
 }
 
 double distanceOf(const QQuickItem& item, QPointF point) {

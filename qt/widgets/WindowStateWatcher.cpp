@@ -5,6 +5,7 @@
 #include <QWidget>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "platform/render/Scene.h"
 #include "qt/widgets/ViewWidget.h"
@@ -14,12 +15,24 @@ namespace {
 
 /// How far `point` of the window is from `widget`; infinite where that does not count.
 double distanceOf(const ViewWidget& widget, QPointF inWindow) {
+  if (!widget.isEnabled() || widget.size().isEmpty()) return layout::infinity;
   const QPointF point = widget.mapFrom(widget.window(), inWindow);
   const QPointF nearest(std::clamp(point.x(), 0.0, widget.width() - 1.0),
                         std::clamp(point.y(), 0.0, widget.height() - 1.0));
-  const bool seen = widget.isEnabled() && widget.visibleRegion().contains(nearest.toPoint());
+  const bool seen = widget.visibleRegion().contains(nearest.toPoint());
   const double far = std::hypot(point.x() - nearest.x(), point.y() - nearest.y());
   return seen && far > 0 && far < render::Scene::roomToTap / 2 ? far : layout::infinity;
+}
+
+/// Returns whether `widget` takes the event.
+bool pass(ViewWidget& widget, QMouseEvent& event) {
+  QMouseEvent own(event.type(), widget.mapFrom(widget.window(), event.position()),
+                  event.scenePosition(), event.globalPosition(), event.button(), event.buttons(),
+                  event.modifiers(), event.pointingDevice());
+  own.setTimestamp(event.timestamp());
+  static_cast<QObject&>(widget).event(&own);
+  event.setAccepted(own.isAccepted());
+  return own.isAccepted();
 }
 
 }  // namespace
@@ -42,8 +55,11 @@ bool WindowStateWatcher::eventFilter(QObject*, QEvent* event) {
     case QEvent::MouseButtonDblClick:
       return takesPress(static_cast<QMouseEvent&>(*event));
     case QEvent::MouseMove:
-    case QEvent::MouseButtonRelease:
-      return pressed_ && pass(static_cast<QMouseEvent&>(*event));
+      return pressed_ && pass(*pressed_, static_cast<QMouseEvent&>(*event));
+    case QEvent::MouseButtonRelease: {
+      const QPointer<ViewWidget> pressed = std::exchange(pressed_, nullptr);
+      return pressed && pass(*pressed, static_cast<QMouseEvent&>(*event));
+    }
     default:
       return false;
   }
@@ -66,18 +82,8 @@ bool WindowStateWatcher::takesPress(QMouseEvent& press) {
   const QPointer<WindowStateWatcher> self = this;
   static_cast<QObject&>(window_).event(&press);
   if (!self) return true;
-  if (press.isAccepted() || !pressed_ || !pass(press)) pressed_ = nullptr;
+  if (press.isAccepted() || !pressed_ || !pass(*pressed_, press)) pressed_ = nullptr;
   return true;
-}
-
-bool WindowStateWatcher::pass(QMouseEvent& event) {
-  QMouseEvent own(event.type(), pressed_->mapFrom(&window_, event.position()),
-                  event.scenePosition(), event.globalPosition(), event.button(), event.buttons(),
-                  event.modifiers(), event.pointingDevice());
-  own.setTimestamp(event.timestamp());
-  static_cast<QObject&>(*pressed_).event(&own);
-  event.setAccepted(own.isAccepted());
-  return own.isAccepted();
 }
 
 }  // namespace quorix::qt

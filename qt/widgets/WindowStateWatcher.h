@@ -28,7 +28,6 @@ class WindowStateWatcher : public QObject {
  private:
   explicit WindowStateWatcher(QWidget& window);
   bool takesPress(QMouseEvent& press);
-  bool pass(QMouseEvent& event);
 
   QWidget& window_;
   QPointer<ViewWidget> pressed_;  ///< by a finger beside it
