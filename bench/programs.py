@@ -14,6 +14,8 @@ COMPONENTS = {"core": "libQuorixWidgets.a", "engine": "libQuorixQt.a", "quick": 
               "widgets": "libQuorixQtWidgets.a", "qml": "libQuorixQml.a",
               "web quick": "quorix/libQuorixWebQuick.so", "web widgets": "quorix/libQuorixWebWidgets.so"}
 
+ON_DISPLAY = pathlib.Path(__file__).resolve().parent.parent / "tests/qt/on_display.sh"
+
 # The programs that do one thing again and again, to be counted.
 COUNTED = {"the core's pass over a row": ("core_pass",),
            "builder to a row's picture": ("counted_picture", "same"),
@@ -52,6 +54,14 @@ class Build:
     def sheet(self, made, motion):
         """Openings "cold" and "warm", each with the "first" frame and the "work" in milliseconds."""
         return json.loads(self.run("sheet_open", made, motion))
+
+    def frames(self, rows):
+        """A list of rows "ours", "peer" or "empty", scrolled: its "frames", those "over" 8 ms, and "requests"."""
+        shown = {**os.environ, "QT_QPA_PLATFORM": "xcb", "QT_QUICK_BACKEND": "rhi", "QSG_RENDER_LOOP": "threaded",
+                 "LIBGL_ALWAYS_SOFTWARE": "1"}
+        return json.loads(subprocess.run([ON_DISPLAY, "./list_frames", rows], cwd=self.folder / "bench", check=True,
+                                         env=shown, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
+                                         text=True).stdout)
 
     def start(self, program):
         """Milliseconds from the start of the process to its first frame, and of processor time."""

@@ -7,6 +7,7 @@ bench/report.py BUILD [--table | --readme] [--quick]
 import json
 import pathlib
 import re
+import shutil
 import statistics
 import subprocess
 import sys
@@ -157,6 +158,21 @@ def sheets(table, build, quick):
                       None, milliseconds)
 
 
+def lists(table, build, quick):
+    """500 rows scrolled from end to end on a display, by a GPU's renderer (here in software) on a thread of its own."""
+    if not shutil.which("Xvfb"):
+        table.note("a list of 500, scrolled", "no display here")
+        return
+    median = turns(1 if quick else 5, {
+        rows: lambda rows=rows: {"list": build.frames(rows)} for rows in ("ours", "peer", "empty")})
+    ours, peer, empty = (median(rows, "list", "over") for rows in ("ours", "peer", "empty"))
+    table.note(f"a list of 500 scrolled, its {median('ours', 'list', 'frames')} frames: over 8 ms",
+               f"{ours}; an empty list {empty}; QML {peer}", "the empty list's" if ours <= empty else
+               "the empty list's, missed")
+    requests = median("ours", "list", "requests")
+    table.note("… requests in all, after `prefetch`", f"{requests}", "1" if requests == 1 else "1, missed")
+
+
 def overlays(table, build, quick):
     """The first overlay beside a bare web view. Without the engine there is nothing to compare."""
     try:
@@ -210,6 +226,7 @@ def main():
     memory(table, build, quick)
     starts(table, build, quick)
     sheets(table, build, quick)
+    lists(table, build, quick)
     overlays(table, build, quick)
     sizes(table, build)
     if "--readme" in sys.argv:

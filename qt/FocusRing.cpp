@@ -3,7 +3,7 @@
 #include <QPainter>
 #include <cmath>
 
-#include "qt/QtColor.h"
+#include "qt/Conversions.h"
 
 namespace quorix::qt {
 void FocusRing::paint(QPainter& painter, const QRectF& frame, graphics::Appearance appearance) {

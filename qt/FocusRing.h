@@ -3,7 +3,7 @@
 #include <QImage>
 
 #include "platform/hosting/FocusRing.h"
-#include "qt/Input.h"
+#include "qt/Conversions.h"
 
 class QPainter;
 

@@ -1,4 +1,5 @@
 #include "qt/Input.h"
+#include "qt/Conversions.h"
 
 #include <QGuiApplication>
 #include <QKeyEvent>

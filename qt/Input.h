@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QtCore/qnamespace.h>
-#include <QRectF>
 
 #include "platform/foundation/Export.h"
 #include "platform/hosting/Responder.h"
@@ -12,12 +11,6 @@ class QKeyEvent;
 class QWheelEvent;
 
 namespace quorix::qt {
-
-inline layout::Point toPoint(QPointF point) { return {point.x(), point.y()}; }
-inline QPointF toPoint(layout::Point point) { return {point.x, point.y}; }
-inline QRectF toRect(const layout::Rect& rect) {
-  return {rect.left(), rect.top(), rect.size.width, rect.size.height};
-}
 
 QUORIX_EXPORT hosting::KeyEvent toKeyEvent(const QKeyEvent& event);
 hosting::ScrollEvent toScrollEvent(const QWheelEvent& event);

@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "platform/render/Scene.h"
-#include "qt/QtColor.h"
+#include "qt/Conversions.h"
 #include "qt/ScenePainter.h"
 #include "qt/StillScene.h"
 

@@ -5,7 +5,7 @@
 
 #include "platform/graphics/AssetCatalog.h"
 #include "qt/ApplicationLifetime.h"
-#include "qt/QtColor.h"
+#include "qt/Conversions.h"
 
 namespace quorix::qt {
 namespace {

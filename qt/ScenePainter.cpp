@@ -5,15 +5,11 @@
 #include <cmath>
 #include <variant>
 
-#include "qt/QtColor.h"
+#include "qt/Conversions.h"
 #include "qt/QtImages.h"
 
 namespace quorix::qt {
 namespace {
-
-QRectF toQRectF(const layout::Rect& frame) {
-  return {frame.left(), frame.top(), frame.size.width, frame.size.height};
-}
 
 QRectF rounded(const QRectF& rect) {
   const QPointF topLeft(std::round(rect.left()), std::round(rect.top()));
@@ -65,7 +61,7 @@ QPointF ScenePainter::onPixels(QPointF point) const {
 }
 
 QRectF ScenePainter::deviceRect(const layout::Rect& frame) const {
-  return rounded(toDevice_.mapRect(toQRectF(frame)));
+  return rounded(toDevice_.mapRect(toRect(frame)));
 }
 
 void ScenePainter::fill(const QRectF& device, graphics::RGBA color) {
@@ -76,7 +72,7 @@ void ScenePainter::draw(const render::TextItem& item) {
   if (ground_ && drawPicture(item)) return;
   drawText(item);
   if (!ground_) return;
-  const QRectF frame = toDevice_.mapRect(toQRectF(item.frame));
+  const QRectF frame = toDevice_.mapRect(toRect(item.frame));
   const int room = static_cast<int>(std::ceil(frame.height()));
   ground_->inked(frame.toAlignedRect().adjusted(-room, -room, room, room));
 }
@@ -89,7 +85,7 @@ bool ScenePainter::drawPicture(const render::TextItem& item) {
   const bool fits = scale > 0 && toDevice_.m22() == scale && corner == QPointF(corner.toPoint()) &&
                     item.frame.size.height * scale < 128;
   if (!fits) return false;
-  const auto ground = ground_->under(toDevice_.mapRect(toQRectF(item.frame)).toAlignedRect());
+  const auto ground = ground_->under(toDevice_.mapRect(toRect(item.frame)).toAlignedRect());
   if (!ground) return false;
   const auto* picture =
       engine_.pictures().find(item, scale, *ground, [&] { return pictureOf(item, *ground); });
@@ -159,7 +155,7 @@ void ScenePainter::drawDecoration(const ShapedText::Span& span, QPointF origin,
   const double top = (stroke.offset - stroke.thickness / 2) * run.font.points;
   const layout::Rect exact{{origin.x() + span.left, origin.y() + top},
                            {span.right - span.left, stroke.thickness * run.font.points}};
-  QRectF device = toDevice_.mapRect(toQRectF(exact));
+  QRectF device = toDevice_.mapRect(toRect(exact));
   const double thickness = std::max(1.0, std::round(device.height()));
   device.setTop(std::round(device.center().y() - thickness / 2));
   device.setHeight(thickness);
@@ -184,7 +180,7 @@ void ScenePainter::draw(const render::FillItem& item) {
   if (ground_) ground_->painted(device.toAlignedRect().adjusted(-1, -1, 1, 1));
   const bool antialiased = painter_.testRenderHint(QPainter::Antialiasing);
   painter_.setRenderHint(QPainter::Antialiasing);
-  painter_.fillPath(rounded(toQRectF(item.frame), item.topCornerRadius, item.bottomCornerRadius),
+  painter_.fillPath(rounded(toRect(item.frame), item.topCornerRadius, item.bottomCornerRadius),
                     toQColor(item.color));
   painter_.setRenderHint(QPainter::Antialiasing, antialiased);
 }

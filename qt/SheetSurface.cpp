@@ -6,10 +6,10 @@
 
 #include "platform/hosting/SceneLayers.h"
 #include "qt/AccessibilityBridge.h"
+#include "qt/Conversions.h"
 #include "qt/FocusRing.h"
 #include "qt/Input.h"
 #include "qt/Picture.h"
-#include "qt/QtColor.h"
 #include "qt/QtTextEngine.h"
 #include "qt/ViewAccessible.h"
 #include "qt/WebComponent.h"

@@ -6,7 +6,7 @@
 #include <string>
 #include <utility>
 
-#include "qt/QtColor.h"
+#include "qt/Conversions.h"
 
 namespace quorix::qt {
 namespace {

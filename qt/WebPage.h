@@ -1,8 +1,6 @@
 #pragma once
 
 #include <QColor>
-#include <QUrl>
-#include <string>
 
 #include "platform/hosting/PageEngine.h"
 #include "platform/webkit/WebContent.h"
@@ -24,11 +22,5 @@ class WebPage : public hosting::PageEngine {
   virtual QObject* view() const = 0;
   bool isShown() const final { return view() != nullptr; }
 };
-
-inline QUrl toQUrl(const foundation::URL& url) {
-  return QUrl::fromEncoded(QByteArray::fromStdString(url.absoluteString()), QUrl::StrictMode);
-}
-
-inline std::string toText(const QUrl& address) { return address.toEncoded().toStdString(); }
 
 }  // namespace quorix::qt

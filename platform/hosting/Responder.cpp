@@ -67,16 +67,23 @@ void Responder::showSheet() {
     if (open) open->retract();
     return;
   }
-  if (!open) {
+  const bool rises = !open;
+  if (rises) {
     open = makeSheet();
     if (!open) return;
     sheet_ = open->weak();
   }
+  const auto self = weak();
   open->present(*presented);
+  if (!rises || self.expired()) return;
+  // A sheet that measures its content asks for another height: before its first frame, not after.
+  settleContent();
+  if (sheetQueued_) showSheet();
 }
 
 bool Responder::settle() {
   settleContent();
+  endMotion();
   const bool follows = sheetQueued_;
   if (follows) showSheet();
   SheetSession* open = sheet();

@@ -81,7 +81,9 @@ class QUORIX_EXPORT Responder {
   virtual void sheetCameUp() {}
   virtual void sheetLeft(SheetCloseReason) {}
 
+  /// Runs what the content has queued for its next turn.
   virtual void settleContent() = 0;
+  virtual void endMotion() {}
   /// Null while the content presents no sheet.
   virtual const swiftui::Presentation* presentation() = 0;
   /// A new sheet above this with its settings; null without a window.

@@ -10,6 +10,7 @@
 namespace quorix::hosting {
 namespace {
 
+constexpr double dimming = 0.4;     // of black, behind a sheet at rest
 constexpr double keyStep = 40;      // points that an arrow key scrolls
 constexpr double roomAtFocus = 24;  // points between the focus and the panel's edge
 
@@ -21,8 +22,15 @@ double SheetPanel::restingHeight() {
 
 double SheetPanel::room() { return restingHeight() - geometry.safeArea.bottom; }
 
-layout::Rect SheetPanel::frame(double revealed) const {
-  return layout::PixelGrid(content.environment().scale).round(geometry.panel(revealed));
+bool SheetPanel::reveal(double points) {
+  if (revealed_ == points) return false;
+  revealed_ = points;
+  overlay_.reset();
+  return true;
+}
+
+layout::Rect SheetPanel::frame() const {
+  return layout::PixelGrid(content.environment().scale).round(geometry.panel(revealed_));
 }
 
 graphics::RGBA SheetPanel::color() const {
@@ -42,33 +50,57 @@ const render::Scene& SheetPanel::lay() {
   return scene;
 }
 
-/// Where the content's top is, on a whole pixel.
 layout::Point SheetPanel::origin(layout::Point corner) const {
-  const layout::PixelGrid grid(content.environment().scale);
+  const layout::PixelGrid grid(content.environment().scale);  // for sharp text
   return {corner.x, corner.y - grid.round(scroll.offset())};
 }
 
-layout::Point SheetPanel::inContent(layout::Point point, layout::Point corner) const {
-  const layout::Point from = origin(corner);
-  return {point.x - from.x, point.y - from.y};
+layout::Point SheetPanel::inContent(layout::Point inWindow) const {
+  const layout::Point from = origin(frame().origin);
+  return {inWindow.x - from.x, inWindow.y - from.y};
 }
 
-std::optional<layout::Rect> SheetPanel::inWindow(const std::optional<layout::Rect>& inContent,
-                                                 layout::Point corner) const {
-  return inContent ? std::optional(inContent->translated(origin(corner))) : std::nullopt;
+std::optional<layout::Rect> SheetPanel::inWindow(
+    const std::optional<layout::Rect>& inContent) const {
+  if (!inContent) return std::nullopt;
+  return inContent->translated(origin(frame().origin));
 }
 
-std::optional<layout::Rect> SheetPanel::ring(layout::Point corner) const {
-  const auto frame = inWindow(focus.ring(), corner);
-  return frame && scroll.offset() > 0 && frame->top() < corner.y ? std::nullopt : frame;
+std::optional<layout::Rect> SheetPanel::ring() const {
+  const auto around = inWindow(focus.ring());
+  const bool standsOut = around && scroll.offset() > 0 && around->top() < frame().top();
+  return standsOut ? std::nullopt : around;
 }
 
-bool SheetPanel::isScrolledAway(const layout::Rect& inWindow, layout::Point corner) {
+bool SheetPanel::isScrolledAway(const layout::Rect& inWindow) {
+  const double top = frame().top();
   return scroll.range() > 0 &&
-         (inWindow.bottom() <= corner.y || inWindow.top() >= corner.y + restingHeight());
+         (inWindow.bottom() <= top || inWindow.top() >= top + restingHeight());
 }
 
-// Display list.
+// Display lists.
+
+void SheetPanel::changed() {
+  overlay_.reset();
+  atRest_.reset();
+  ++revision_;
+}
+
+graphics::RGBA SheetPanel::shade() {
+  const double resting = restingHeight();
+  const double risen = resting > 0 ? std::clamp(revealed_ / resting, 0.0, 1.0) : 0;
+  return {0, 0, 0, static_cast<std::uint8_t>(std::lround(255 * dimming * risen))};
+}
+
+const render::Scene& SheetPanel::overlay() {
+  if (overlay_) return *overlay_;
+  render::Scene whole;
+  whole.size = geometry.window;
+  whole.items.emplace_back(std::in_place_type<render::FillItem>,
+                           render::FillItem{{{}, whole.size}, shade()});
+  addTo(whole, frame());
+  return overlay_.emplace(std::move(whole));
+}
 
 void SheetPanel::addTo(render::Scene& to, const layout::Rect& frame) {
   render::Scene shown = lay();
@@ -87,11 +119,12 @@ void SheetPanel::addTo(render::Scene& to, const layout::Rect& frame) {
   addIndicator(to, frame);
 }
 
-render::Scene SheetPanel::atRest() {
+const render::Scene& SheetPanel::atRest() {
+  if (atRest_) return *atRest_;
   render::Scene alone;
   alone.size = {geometry.panelWidth(), restingHeight()};
   addTo(alone, {{}, alone.size});
-  return alone;
+  return atRest_.emplace(std::move(alone));
 }
 
 void SheetPanel::addIndicator(render::Scene& to, const layout::Rect& frame) {

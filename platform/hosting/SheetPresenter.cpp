@@ -11,7 +11,6 @@
 namespace quorix::hosting {
 namespace {
 
-constexpr double dimming = 0.4;           // of black, behind a sheet at rest
 constexpr double approachPerSecond = 14;  // how fast the panel closes in on where it belongs
 constexpr double dragSlop = 8;            // points before a press becomes a drag
 constexpr double flickSpeed = 600;        // points a second
@@ -24,17 +23,12 @@ struct SheetPresenter::State final : ViewHost::Client {
       : client(surface), panel(engine, *this) {}
 
   void viewNeedsDisplay() override {
-    contentChanged();
+    panel.changed();
     moved();
-  }
-  void contentChanged() {
-    overlay.reset();
-    panelAtRest.reset();
-    ++panelRevision;
   }
   void presentationChanged() override { client.sheetPresentationChanged(); }
 
-  bool panelMoves() { return presentation && !closed && (closing || revealed != target()); }
+  bool panelMoves() { return presentation && !closed && (closing || panel.revealed() != target()); }
   bool isMoving() { return panelMoves() || (!closed && scroll.isMoving()); }
   bool advance(double seconds);
   /// The panel moved, or its target did.
@@ -44,12 +38,8 @@ struct SheetPresenter::State final : ViewHost::Client {
   }
   double target() { return closing ? 0 : panel.restingHeight() - drag; }
   void reveal(double points) {
-    if (revealed == points) return;
-    revealed = points;
-    overlay.reset();
-    client.sheetNeedsDisplay();
+    if (panel.reveal(points)) client.sheetNeedsDisplay();
   }
-  layout::Rect frame() const { return panel.frame(revealed); }
   void endDrag() {
     press.reset();
     dragging = false;
@@ -68,11 +58,7 @@ struct SheetPresenter::State final : ViewHost::Client {
   std::optional<swiftui::Presentation> presentation;
   std::shared_ptr<SheetCloseReason> closeReason =
       std::make_shared<SheetCloseReason>(SheetCloseReason::host);
-  std::optional<render::Scene> overlay;
-  std::optional<render::Scene> panelAtRest;
-  unsigned panelRevision = 0;
-  double revealed = 0;  ///< points of the panel that have risen
-  double drag = 0;      ///< points that the finger holds it down
+  double drag = 0;  ///< points that the finger holds it down
   std::optional<layout::Point> press;
   bool pressedOutside = false;
   bool dragging = false;
@@ -103,20 +89,20 @@ void SheetPresenter::State::scrollBy(const std::function<void()>& change) {
   panel.lay();
   const double before = scroll.offset();
   change();
-  if (scroll.offset() != before) contentChanged();
+  if (scroll.offset() != before) panel.changed();
   moved();
 }
 
 bool SheetPresenter::State::advance(double seconds) {
   if (!isMoving()) return false;
   if (scroll.advance(panelMoves() ? 0 : seconds)) {
-    contentChanged();
+    panel.changed();
     client.sheetNeedsDisplay();
   }
-  const double left = target() - revealed;
+  const double left = target() - panel.revealed();
   const double step = left * (1 - std::exp(-approachPerSecond * seconds));
   const bool arrives = !motion || dragging || std::abs(left - step) < settledWithin;
-  reveal(arrives ? target() : revealed + step);
+  reveal(arrives ? target() : panel.revealed() + step);
   if (!arrives || !closing) return isMoving();
   close();
   return false;
@@ -136,8 +122,8 @@ void SheetPresenter::setWindow(layout::Size size, layout::EdgeInsets safeArea) {
   if (state_->panel.geometry == geometry) return;
   const bool atRest = !state_->panelMoves();
   state_->panel.geometry = geometry;
-  state_->contentChanged();
-  if (atRest && state_->presentation) state_->revealed = state_->target();
+  state_->panel.changed();
+  if (atRest && state_->presentation) state_->panel.reveal(state_->target());
   state_->client.sheetNeedsDisplay();
 }
 
@@ -177,42 +163,26 @@ bool SheetPresenter::isMoving() const { return state_->isMoving(); }
 
 bool SheetPresenter::advance(double seconds) { return state_->advance(seconds); }
 
-const render::Scene& SheetPresenter::scene() {
-  if (state_->overlay) return *state_->overlay;
-  render::Scene overlay;
-  overlay.size = state_->panel.geometry.window;
-  overlay.items.emplace_back(std::in_place_type<render::FillItem>,
-                             render::FillItem{{{}, overlay.size}, shade()});
-  state_->panel.addTo(overlay, state_->frame());
-  return state_->overlay.emplace(std::move(overlay));
-}
+const render::Scene& SheetPresenter::scene() { return state_->panel.overlay(); }
 
-graphics::RGBA SheetPresenter::shade() {
-  const double resting = state_->panel.restingHeight();
-  const double risen = resting > 0 ? std::clamp(state_->revealed / resting, 0.0, 1.0) : 0;
-  return {0, 0, 0, static_cast<std::uint8_t>(std::lround(255 * dimming * risen))};
-}
+graphics::RGBA SheetPresenter::shade() { return state_->panel.shade(); }
 
-const render::Scene& SheetPresenter::panel() {
-  auto& atRest = state_->panelAtRest;
-  if (!atRest) atRest = state_->panel.atRest();
-  return *atRest;
-}
+const render::Scene& SheetPresenter::panel() { return state_->panel.atRest(); }
 
 graphics::RGBA SheetPresenter::panelColor() const { return state_->panel.color(); }
 
-unsigned SheetPresenter::panelRevision() const { return state_->panelRevision; }
+unsigned SheetPresenter::panelRevision() const { return state_->panel.revision(); }
 
-layout::Rect SheetPresenter::panelFrame() const { return state_->frame(); }
+layout::Rect SheetPresenter::panelFrame() const { return state_->panel.frame(); }
 
 void SheetPresenter::pointerPressed(layout::Point point) {
   if (state_->closing) return;  // a second tap on what closes it must not open it again
   state_->focus.hideRing();
   state_->content.pointerCancelled();
   state_->press = point;
-  state_->pressedOutside = !state_->frame().contains(point);
+  state_->pressedOutside = !state_->panel.frame().contains(point);
   if (!state_->pressedOutside && !state_->scroll.hold() && scene().hitTest(point)) {
-    state_->content.pointerPressed(state_->panel.inContent(point, panelFrame().origin));
+    state_->content.pointerPressed(state_->panel.inContent(point));
   }
   state_->client.sheetNeedsDisplay();
 }
@@ -231,7 +201,7 @@ void SheetPresenter::pointerMoved(layout::Point point) {
 
 void SheetPresenter::pointerReleased(layout::Point point, double velocity) {
   if (!state_->press) return;
-  const bool outside = state_->pressedOutside && !state_->frame().contains(point);
+  const bool outside = state_->pressedOutside && !state_->panel.frame().contains(point);
   const bool flicked = velocity > flickSpeed && state_->scroll.isPulledFromTop();
   const bool swiped =
       state_->dragging && (flicked || state_->drag > state_->panel.restingHeight() / 2);
@@ -244,7 +214,7 @@ void SheetPresenter::pointerReleased(layout::Point point, double velocity) {
     dismiss(outside ? SheetCloseReason::outside : SheetCloseReason::swipe);
   } else if (tapped) {
     // Last, since an action may destroy this presenter.
-    const layout::Point inContent = state_->panel.inContent(point, panelFrame().origin);
+    const layout::Point inContent = state_->panel.inContent(point);
     state_->perform(SheetCloseReason::button,
                     [&] { return state_->content.pointerReleased(inContent); });
   }
@@ -270,7 +240,7 @@ bool SheetPresenter::scroll(Key key) {
 }
 
 bool SheetPresenter::isScrolledAway(const layout::Rect& frame) const {
-  return state_->panel.isScrolledAway(frame, panelFrame().origin);
+  return state_->panel.isScrolledAway(frame);
 }
 
 bool SheetPresenter::moveFocus(bool forward) {
@@ -292,12 +262,10 @@ void SheetPresenter::dropFocus() {
 }
 
 std::optional<layout::Rect> SheetPresenter::focusFrame() const {
-  return state_->panel.inWindow(state_->content.focusFrame(), panelFrame().origin);
+  return state_->panel.inWindow(state_->content.focusFrame());
 }
 
-std::optional<layout::Rect> SheetPresenter::ringFrame() const {
-  return state_->panel.ring(panelFrame().origin);
-}
+std::optional<layout::Rect> SheetPresenter::ringFrame() const { return state_->panel.ring(); }
 
 bool SheetPresenter::activateFocus() {
   return !state_->closing && state_->perform(SheetCloseReason::button,
@@ -309,12 +277,14 @@ bool SheetPresenter::activate(int index) {
          state_->perform(SheetCloseReason::button, [&] { return state_->content.activate(index); });
 }
 
+void SheetPresenter::settleContent() { state_->content.settle(); }
+
 void SheetPresenter::settle() {
-  state_->content.settle();
+  settleContent();
   scene();
-  state_->content.settle();
+  settleContent();
   scene();  // finds how far the content scrolls
-  if (state_->scroll.settle()) state_->contentChanged();
+  if (state_->scroll.settle()) state_->panel.changed();
   if (isMoving()) {
     state_->reveal(state_->target());
     if (state_->closing) state_->close();

@@ -97,7 +97,9 @@ class QUORIX_EXPORT SheetPresenter {
   bool activateFocus();
   bool activate(int index);
 
-  /// Runs what is queued for the next turn, ends all motion and hides the scroll indicator. For
+  /// Runs what the content has queued for its next turn.
+  void settleContent();
+  /// The same, ends all motion and hides the scroll indicator. For
   /// pictures and tests.
   void settle();
 

@@ -127,7 +127,8 @@ class QUORIX_EXPORT SheetSession : public Responder,
   /// Takes the focus from a page, if one has it.
   virtual void takeFocusFromPages() {}
 
-  void settleContent() override { presenter_.settle(); }
+  void settleContent() override { presenter_.settleContent(); }
+  void endMotion() override { presenter_.settle(); }
   const swiftui::Presentation* presentation() override { return presenter_.presentation(); }
   SheetSession* makeSheet() override;
   void sheetNeedsDisplay() override { needsFrame(); }

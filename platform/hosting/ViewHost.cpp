@@ -105,9 +105,9 @@ void ViewHost::State::layOut(const Area& within) {
   swiftui::LayoutPass pass(latest.arena(), engine, environment.scale, safe);
   const layout::ProposedSize proposal = {safe.frame.size.width, safe.frame.size.height};
   const layout::Size chosen = pass.measure(*latest.root, proposal);
-  const layout::Point centred = layout::alignedOffset({}, safe.frame.size, chosen);
-  const layout::Point origin = {safe.frame.left() + std::max(0.0, centred.x),
-                                safe.frame.top() + std::max(0.0, centred.y)};
+  const layout::Point centered = layout::alignedOffset({}, safe.frame.size, chosen);
+  const layout::Point origin = {safe.frame.left() + std::max(0.0, centered.x),
+                                safe.frame.top() + std::max(0.0, centered.y)};
   pass.place(*latest.root, origin, proposal);
   if (environment.direction == layout::LayoutDirection::rightToLeft) {
     swiftui::mirror(*latest.root, within.size.width);

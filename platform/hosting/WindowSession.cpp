@@ -56,6 +56,18 @@ void WindowSession::used(Responder& responder, const Settings& settings) {
   becameKey();  // also where no window manager gives the focus to any window
 }
 
+void WindowSession::settingsChanged(const Responder& responder, const Settings& settings) {
+  for (WindowSession* session : sessions()) {
+    const auto used = session->used_.lock();
+    if (!used || *used != &responder) continue;
+    session->settings_ = settings;
+    for (const Shown& shown : session->shown_) {
+      const auto sheet = shown.sheet.lock();
+      if (sheet) static_cast<SheetSession*>(*sheet)->setSettings(session->sheetSettings());
+    }
+  }
+}
+
 void WindowSession::becameKey() {
   window_->makeKey();
   for (WindowSession* session : sessions()) session->updateActivation();
@@ -112,12 +124,16 @@ void WindowSession::showPresented() {
 
 void WindowSession::show(const Controller& controller) {
   const auto opener = used_.lock();
-  Settings settings = settings_;
-  settings.motion = settings.motion && animated_;
-  SheetSession& sheet = makeSheet(opener ? *opener : nullptr, settings);
+  SheetSession& sheet = makeSheet(opener ? *opener : nullptr, sheetSettings());
   const swiftui::Presentation presentation = controllerPresentation(controller);
   sheet.present(presentation);
   shown_.push_back({controller, sheet.weak(), presentation.isPresented});
+}
+
+Settings WindowSession::sheetSettings() const {
+  Settings settings = settings_;
+  settings.motion = settings.motion && animated_;
+  return settings;
 }
 
 }  // namespace quorix::hosting

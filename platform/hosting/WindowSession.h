@@ -22,6 +22,8 @@ class QUORIX_EXPORT WindowSession : private uikit::UIWindow::Client {
 
   /// The user works with `responder`, which has these settings.
   void used(Responder& responder, const Settings& settings);
+  /// The settings of `responder` changed: sheets of controllers follow those of the latest in use.
+  static void settingsChanged(const Responder& responder, const Settings& settings);
   /// The window got the keyboard focus.
   void becameKey();
   /// The window came into sight or went out of it.
@@ -54,6 +56,7 @@ class QUORIX_EXPORT WindowSession : private uikit::UIWindow::Client {
   void showPresented();
   void show(const std::shared_ptr<uikit::UIViewController>& controller);
   void updateActivation();
+  Settings sheetSettings() const;
 
   std::shared_ptr<uikit::UIWindow> window_ = std::make_shared<uikit::UIWindow>();
   std::shared_ptr<uikit::UIWindowScene> scene_ = std::make_shared<uikit::UIWindowScene>();

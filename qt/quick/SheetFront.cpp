@@ -2,7 +2,7 @@
 
 #include <QCursor>
 
-#include "qt/Input.h"
+#include "qt/Conversions.h"
 #include "qt/quick/SheetItem.h"
 
 namespace quorix::qt {

@@ -5,8 +5,7 @@
 #include <algorithm>
 
 #include "qt/AccessibilityBridge.h"
-#include "qt/Input.h"
-#include "qt/QtColor.h"
+#include "qt/Conversions.h"
 #include "qt/WindowScene.h"
 #include "qt/quick/PictureItem.h"
 #include "qt/quick/SheetNode.h"

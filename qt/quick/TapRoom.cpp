@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "qt/Input.h"
+#include "qt/Conversions.h"
 #include "qt/quick/ViewItem.h"
 #include "qt/quick/ViewSurface.h"
 

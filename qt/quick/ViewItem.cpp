@@ -3,6 +3,7 @@
 #include <QCursor>
 
 #include "platform/render/Scene.h"
+#include "qt/Conversions.h"
 #include "qt/Engine.h"
 #include "qt/Input.h"
 #include "qt/ViewAccessible.h"

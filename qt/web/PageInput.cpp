@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/webkit/PageRules.h"
+#include "qt/Conversions.h"
 
 namespace quorix::qt {
 namespace {

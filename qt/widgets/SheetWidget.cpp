@@ -7,8 +7,7 @@
 #include <utility>
 
 #include "qt/AccessibilityBridge.h"
-#include "qt/Input.h"
-#include "qt/QtColor.h"
+#include "qt/Conversions.h"
 #include "qt/WindowScene.h"
 
 namespace quorix::qt {

@@ -3,7 +3,7 @@
 #include <QEvent>
 #include <QRegion>
 
-#include "qt/Input.h"
+#include "qt/Conversions.h"
 #include "qt/widgets/SheetWidget.h"
 
 namespace quorix::qt {

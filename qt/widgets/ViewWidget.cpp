@@ -5,6 +5,7 @@
 #include <QHoverEvent>
 #include <QPainter>
 
+#include "qt/Conversions.h"
 #include "qt/Engine.h"
 #include "qt/Input.h"
 #include "qt/ViewAccessible.h"

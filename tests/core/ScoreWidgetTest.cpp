@@ -104,6 +104,21 @@ TEST(ScoreWidgetView, IsAsDesigned) {
   }
 }
 
+TEST(ScoreWidgetView, ItsSheetHasItsHeightBeforeTheFirstFrame) {
+  TestWindow window(testing::scoreView(true));
+  std::vector<double> heights;
+  std::function<void()> watch = [&] {
+    if (window.sheet()) heights.push_back(window.sheet()->panelFrame().size.height);
+    if (heights.size() < 4) foundation::MainQueue::async(watch);
+  };
+  window.tap(window.labels());
+  watch();
+  foundation::MainQueue::drain();
+  const double natural = window.sheet()->panel().size.height;
+  EXPECT_LT(natural, window.size.height / 2) << "the height that a sheet has unasked";
+  EXPECT_EQ(heights, std::vector<double>(4, natural));
+}
+
 // Builder.
 
 constexpr const char* token =

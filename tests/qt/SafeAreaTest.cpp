@@ -41,7 +41,7 @@ TYPED_TEST(SafeArea, ASheetKeepsClearOfItAlsoWhenTheWindowTurns) {
     qt::setSafeArea(screen.window(), row.covered);
     screen.settle();
     const QPoint middle(row.window.width() / 2, row.window.height());
-    const QPoint fee = screen.centreOf("Fee 4 €") - middle;
+    const QPoint fee = screen.centerOf("Fee 4 €") - middle;
     if (!row.covered) without = fee;
     EXPECT_EQ(fee - without, row.fee) << row.window.width();
   }

@@ -51,13 +51,13 @@ QAccessibleInterface* Screen::find(const QString& name) {
   return findIn(QAccessible::queryAccessibleInterface(&accessibleRoot()), name);
 }
 
-QPoint Screen::centreOf(const QString& name) {
+QPoint Screen::centerOf(const QString& name) {
   QAccessibleInterface* found = find(name);
   if (!found) qFatal("Nothing on screen is called %s", qUtf8Printable(name));
   return window().mapFromGlobal(found->rect().center());
 }
 
-void Screen::click(const QString& name) { clickAt(centreOf(name)); }
+void Screen::click(const QString& name) { clickAt(centerOf(name)); }
 
 void Screen::clickAt(QPoint point) {
   QTest::mouseClick(&window(), Qt::LeftButton, {}, point);

@@ -27,7 +27,7 @@ class Screen {
   /// What is called `name` and can be reached, or null.
   QAccessibleInterface* find(const QString& name);
   bool shows(const QString& name) { return find(name) != nullptr; }
-  QPoint centreOf(const QString& name);
+  QPoint centerOf(const QString& name);
   void click(const QString& name);
   void clickAt(QPoint point);
   void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {});

@@ -238,7 +238,7 @@ TYPED_TEST(Sheet, ItsRowMayEndItself) {
       {"a click", [](Screen& screen) { screen.click("Leave"); }},
       {"a finger",
        [](Screen& screen) {
-         screen.drag(screen.centreOf("Leave"), screen.centreOf("Leave"), 20, true);
+         screen.drag(screen.centerOf("Leave"), screen.centerOf("Leave"), 20, true);
        }},
       {"a key", keys({Qt::Key_Tab, Qt::Key_Return})},
       {"a screen reader",

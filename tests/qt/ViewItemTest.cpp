@@ -184,7 +184,7 @@ TEST(ViewItem, AFingerThatScrollsTapsNothing) {
   row->setParentItem(flickable->property("contentItem").value<QQuickItem*>());
   screen.settle();
   for (const bool byTouch : {false, true}) {
-    const QPoint from = screen.centreOf("Row 4 €");
+    const QPoint from = screen.centerOf("Row 4 €");
     screen.drag(from, from - QPoint(0, 60), 200, byTouch);
     QTest::qWait(300);
     EXPECT_GT(flickable->property("contentY").toDouble(), 0) << byTouch;
@@ -192,7 +192,7 @@ TEST(ViewItem, AFingerThatScrollsTapsNothing) {
     flickable->setProperty("contentY", 0);
     screen.settle();
   }
-  screen.drag(screen.centreOf("Row 4 €"), screen.centreOf("Row 4 €"), 50, true);
+  screen.drag(screen.centerOf("Row 4 €"), screen.centerOf("Row 4 €"), 50, true);
   EXPECT_TRUE(screen.shows("Fee 4 €"));
 }
 

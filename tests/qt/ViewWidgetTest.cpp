@@ -205,7 +205,7 @@ TEST(ViewWidget, PointsAtWhatActsAndLetsTheRestThrough) {
   widget->setParent(screen.host().findChild<QWidget*>());
   widget->show();
   screen.settle();
-  const QPoint inside = screen.centreOf("Press");
+  const QPoint inside = screen.centerOf("Press");
   const QPoint outside(inside.x(), widget->geometry().bottom() - 5);
   QTest::mouseMove(&screen.window(), inside);
   EXPECT_EQ(widget->cursor().shape(), Qt::PointingHandCursor);

@@ -30,7 +30,9 @@ void settle() {
   QEventLoop turns;
   StandInServices::whenAnswered([&turns] { turns.quit(); });
   turns.exec();
-  QCoreApplication::processEvents();
+  // Work that a turn queues waits for the next one: a tap takes a few until its sheet stands.
+  constexpr int turnsOfATap = 20;
+  for (int turn = 0; turn < turnsOfATap; ++turn) QCoreApplication::processEvents();
 }
 
 QImage frameWithPage(const std::function<QImage()>& grab) {

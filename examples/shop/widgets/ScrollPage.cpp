@@ -24,14 +24,14 @@ ScrollPage::ScrollPage(QWidget* parent) : QScrollArea(parent) {
   column_ = new QVBoxLayout(middle);
   column_->setContentsMargins(margin, 18, margin, 24);
   column_->setSpacing(0);
-  auto* centred = new QHBoxLayout;
-  centred->addStretch(1);
-  centred->addWidget(middle, 1000);
-  centred->addStretch(1);
+  auto* centered = new QHBoxLayout;
+  centered->addStretch(1);
+  centered->addWidget(middle, 1000);
+  centered->addStretch(1);
   page_ = new QVBoxLayout(body);
   page_->setContentsMargins(0, 0, 0, 0);
   page_->setSpacing(0);
-  page_->addLayout(centred);
+  page_->addLayout(centered);
   page_->addStretch(1);
   setWidget(body);
 }

@@ -5,6 +5,7 @@
 #include <QQuickWebEngineProfile>
 #include <QQuickWindow>
 
+#include "qt/Conversions.h"
 #include "qt/WebLog.h"
 
 namespace quorix::qt {

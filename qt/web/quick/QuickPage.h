@@ -4,6 +4,7 @@
 #include <QPointer>
 #include <QQuickItem>
 
+#include "qt/Conversions.h"
 #include "qt/WebPage.h"
 #include "qt/web/PageInput.h"
 #include "qt/web/WebEngine.h"

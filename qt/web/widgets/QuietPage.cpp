@@ -22,6 +22,7 @@
 #include <QWebEnginePermission>
 #endif
 
+#include "qt/Conversions.h"
 #include "qt/WebLog.h"
 #include "qt/web/WebEngine.h"
 

@@ -3,6 +3,7 @@
 #include <QWebEngineHistory>
 #include <QWindow>
 
+#include "qt/Conversions.h"
 #include "qt/WebLog.h"
 #include "qt/web/widgets/QuietPage.h"
 #include "qt/web/widgets/QuietView.h"

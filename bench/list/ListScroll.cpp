@@ -3,12 +3,9 @@
 //
 //   list_scroll
 
-#include <QQmlComponent>
-#include <QQmlEngine>
 #include <QQuickItem>
 #include <algorithm>
 #include <cstdio>
-#include <cstdlib>
 #include <ctime>
 #include <functional>
 #include <memory>
@@ -17,6 +14,7 @@
 #include "bench/BenchApplication.h"
 #include "bench/QuickStage.h"
 #include "bench/Shopper.h"
+#include "bench/list/RowList.h"
 #include "qt/quick/ViewItem.h"
 
 namespace quorix::bench {
@@ -29,25 +27,6 @@ constexpr int kTurns = 15;
 constexpr char kRow[] = R"(
     import QuorixWidgets
     ScoreWidget { clientId: "my-shop"; locale: "en" })";
-constexpr char kList[] = R"(
-    import QtQuick
-    import QuorixBench
-    import QuorixWidgets
-    ListView {
-      property int taken: 0
-      width: 343; height: 720; spacing: 8; cacheBuffer: 0
-      delegate: %1 {
-        required property var modelData
-        width: ListView.view.width
-        Component.onCompleted: ++ListView.view.taken
-        ListView.onReused: ++ListView.view.taken
-      }
-    })";
-constexpr char kOurs[] = R"(ScoreWidget {
-        clientId: "my-shop"; locale: "en"; token: modelData.token)";
-constexpr char kPeer[] = R"(LeanScoreRow {
-        title: modelData.title; fee: modelData.fee; baseFee: modelData.baseFee
-        label: modelData.label; hint: modelData.hint; ink: modelData.ink; faded: modelData.faded)";
 
 /// The thread's processor time: other work on the machine does not show.
 double microseconds() {
@@ -60,9 +39,6 @@ class Measurement {
  public:
   Measurement() {
     row_.setData(kRow, {});
-    engine_.addImportPath("qrc:/");
-    ours_.setData(QByteArray(kList).replace("%1 {", kOurs), {});
-    peer_.setData(QByteArray(kList).replace("%1 {", kPeer), {});
     for (std::size_t i = 0; i < kRows; ++i) shoppers_.emplace_back(i);
   }
 
@@ -83,16 +59,8 @@ class Measurement {
   }
 
   /// For each row that came into sight, the frames in which none did counted in.
-  double scrolled(bool ours, bool reuse) {
-    QVariantList model;
-    for (const Shopper& shopper : shoppers_) {
-      QVariantMap row = shopper.properties();
-      row.insert("token", QString::fromStdString(shopper.token));
-      model.append(row);
-    }
-    const std::unique_ptr<QQuickItem> list(create(
-        ours ? ours_ : peer_,
-        {{"parent", QVariant::fromValue(stage_.root())}, {"reuseItems", reuse}, {"model", model}}));
+  double scrolled(RowList& rows, bool reuse) {
+    const auto list = rows.make(*stage_.root(), shoppers_, reuse);
     stage_.frame();
     const double end = list->property("contentHeight").toDouble() - kWindow.height();
     list->setProperty("taken", 0);
@@ -103,6 +71,9 @@ class Measurement {
     }
     return (microseconds() - start) / list->property("taken").toDouble();
   }
+
+  RowList ours{RowList::Rows::ours};
+  RowList peer{RowList::Rows::peer};
 
  private:
   template <class Make>
@@ -115,18 +86,9 @@ class Measurement {
     return (microseconds() - start) / kRows;
   }
 
-  static QQuickItem* create(QQmlComponent& component, const QVariantMap& properties) {
-    auto* item = qobject_cast<QQuickItem*>(component.createWithInitialProperties(properties));
-    if (item) return item;
-    qCritical("%s", qPrintable(component.errorString()));
-    std::abort();
-  }
-
   QuickStage stage_{kWindow};
   QQmlEngine engine_;
   QQmlComponent row_{&engine_};
-  QQmlComponent ours_{&engine_};
-  QQmlComponent peer_{&engine_};
   std::vector<Shopper> shoppers_;
 };
 
@@ -143,10 +105,11 @@ void report() {
   } measured[] = {
       {"made and painted, from C++", [&] { return measurement.fromCpp(); }},
       {"made and painted, from QML", [&] { return measurement.fromQml(); }},
-      {"scrolled into sight, made anew", [&] { return measurement.scrolled(true, false); }},
-      {"... a peer in QML", [&] { return measurement.scrolled(false, false); }},
-      {"scrolled into sight, reused", [&] { return measurement.scrolled(true, true); }},
-      {"... a peer in QML", [&] { return measurement.scrolled(false, true); }},
+      {"scrolled into sight, made anew",
+       [&] { return measurement.scrolled(measurement.ours, false); }},
+      {"... a peer in QML", [&] { return measurement.scrolled(measurement.peer, false); }},
+      {"scrolled into sight, reused", [&] { return measurement.scrolled(measurement.ours, true); }},
+      {"... a peer in QML", [&] { return measurement.scrolled(measurement.peer, true); }},
   };
   std::vector<std::vector<double>> values(std::size(measured));
   for (int turn = -1; turn < kTurns; ++turn) {

@@ -1,0 +1,113 @@
+// A list of 500 rows in a window, scrolled from end to end with a GPU's renderer, a frame at a
+// time. Prints how many frames took over 8 milliseconds, and how many requests were made.
+//
+//   list_frames ours|peer|empty
+
+#include <QEventLoop>
+#include <QGuiApplication>
+#include <QQuickWindow>
+#include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <cstdio>
+#include <string_view>
+#include <thread>
+#include <utility>
+#include <vector>
+
+#include "QuorixWidgets/score/ScoreWidgetBuilder.h"
+#include "bench/BenchApplication.h"
+#include "bench/list/RowList.h"
+#include "platform/foundation/URLSession.h"
+#include "qt/Engine.h"
+#include "qt/Picture.h"
+
+namespace quorix::bench {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr int kRows = 500;
+constexpr double kStep = 25;  // points a frame, which is 1500 a second at 60 Hz
+constexpr std::chrono::milliseconds kBudget{8};
+
+/// A network that has the texts, and counts who asks for them.
+class Network final : public foundation::URLTransport {
+ public:
+  void start(const foundation::URL& url, Completion completion) override {
+    std::thread([this, url, completion = std::move(completion)] {
+      if (auto kept = foundation::URLSession::shared().answerInProcess(url)) {
+        return completion(*std::move(kept));
+      }
+      ++requests;
+      completion({{}, R"({"returns": {"title": "Your return fee"}})", 200});
+    }).detach();
+  }
+  std::atomic<int> requests = 0;
+};
+
+/// When each frame was out, while `list` was scrolled to its end.
+std::vector<Clock::time_point> scroll(QQuickWindow& window, QQuickItem& list) {
+  const double end = list.property("contentHeight").toDouble() - window.height();
+  std::vector<Clock::time_point> frames;
+  frames.reserve(static_cast<std::size_t>(end / kStep) + 8);
+  QEventLoop loop;
+  // The loop may draw on a thread of its own, which waits while the next frame is got ready.
+  QObject::connect(
+      &window, &QQuickWindow::frameSwapped, &window, [&] { frames.push_back(Clock::now()); },
+      Qt::DirectConnection);
+  QObject::connect(&window, &QQuickWindow::afterAnimating, &window, [&] {
+    const double y = list.property("contentY").toDouble() + kStep;
+    if (y > end) return loop.quit();
+    list.setProperty("contentY", y);
+    window.update();
+  });
+  window.update();
+  loop.exec();
+  window.disconnect(&window);
+  return frames;
+}
+
+void report(RowList::Rows rows) {
+  const auto network = std::make_shared<Network>();
+  foundation::URLSession::shared().install(network);
+  prefetch("en");
+  BenchApplication::settle();
+  std::vector<Shopper> shoppers;
+  for (std::size_t i = 0; i < kRows; ++i) shoppers.emplace_back(i);
+  qt::picture(shoppers.front().ours());  // makes the faces known to Qt, which the peer uses
+  QQuickWindow window;
+  window.resize(343, 720);
+  RowList source(rows);
+  const auto list = source.make(*window.contentItem(), shoppers, true);
+  window.show();
+  BenchApplication::settle();
+  const auto frames = scroll(window, *list);
+  long over = 0;
+  std::vector<double> taken;
+  for (std::size_t i = 1; i < frames.size(); ++i) {
+    const auto time = frames[i] - frames[i - 1];
+    if (time > kBudget) ++over;
+    taken.push_back(std::chrono::duration<double, std::milli>(time).count());
+  }
+  std::nth_element(taken.begin(), taken.begin() + std::ptrdiff_t(taken.size() / 2), taken.end());
+  std::printf(R"({"frames": %zu, "over": %ld, "median": %.3f, "rows": %d, "requests": %d})"
+              "\n",
+              taken.size(), over, taken[taken.size() / 2], list->property("taken").toInt(),
+              network->requests.load());
+}
+
+}  // namespace
+}  // namespace quorix::bench
+
+int main(int argc, char** argv) {
+  using quorix::bench::RowList;
+  QQuickWindow::setGraphicsApi(QSGRendererInterface::OpenGL);
+  const QGuiApplication application(argc, argv);
+  quorix::qt::installEngine();
+  const std::string_view rows = argc > 1 ? argv[1] : "";
+  quorix::bench::report(rows == "ours"   ? RowList::Rows::ours
+                        : rows == "peer" ? RowList::Rows::peer
+                                         : RowList::Rows::empty);
+  return 0;
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+#include "bench/Shopper.h"
+
+namespace quorix::bench {
+
+/// A list in QML with a row for each of some shoppers. `taken` counts those that came into sight.
+class RowList {
+ public:
+  enum class Rows { ours, peer, empty };
+
+  explicit RowList(Rows rows);
+  std::unique_ptr<QQuickItem> make(QQuickItem& parent, const std::vector<Shopper>& shoppers,
+                                   bool reuse);
+
+ private:
+  QQmlEngine engine_;
+  QQmlComponent component_{&engine_};
+};
+
+/// Makes an item, or ends the process.
+QQuickItem* create(QQmlComponent& component, const QVariantMap& properties);
+
+}  // namespace quorix::bench

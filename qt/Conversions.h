@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QColor>
+#include <QRectF>
+#include <QUrl>
+#include <string>
+
+#include "platform/foundation/URL.h"
+#include "platform/graphics/RGBA.h"
+#include "platform/layout/Geometry.h"
+
+namespace quorix::qt {
+
+inline QColor toQColor(graphics::RGBA color) {
+  return {color.red, color.green, color.blue, color.alpha};
+}
+
+inline layout::Point toPoint(QPointF point) { return {point.x(), point.y()}; }
+inline QPointF toPoint(layout::Point point) { return {point.x, point.y}; }
+inline QRectF toRect(const layout::Rect& rect) {
+  return {rect.left(), rect.top(), rect.size.width, rect.size.height};
+}
+
+/// Strict, so that Qt's guesses cannot turn it into another address than the one let through. Not
+/// valid when Qt does not understand it.
+inline QUrl toQUrl(const foundation::URL& url) {
+  return QUrl::fromEncoded(QByteArray::fromStdString(url.absoluteString()), QUrl::StrictMode);
+}
+inline std::string toText(const QUrl& address) { return address.toEncoded().toStdString(); }
+
+}  // namespace quorix::qt
