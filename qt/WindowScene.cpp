@@ -3,6 +3,8 @@
 #include <QGuiApplication>
 #include <QWindow>
 
+#include "qt/SafeAreaWatcher.h"
+
 namespace quorix::qt {
 
 WindowScene* WindowScene::find(const QObject& window) {
@@ -20,9 +22,30 @@ WindowScene::WindowScene(QObject& window, const Toolkit& toolkit)
   focusWindowChanged(QGuiApplication::focusWindow());
 }
 
+WindowScene::~WindowScene() { delete safeArea_; }
+
 bool WindowScene::isVisible() const {
   const QWindow* window = toolkit_.window();
   return window && window->isVisible();
+}
+
+hosting::SheetSession& WindowScene::newSheet(const hosting::Responder* opener) {
+  followSafeArea();
+  return toolkit_.newSheet(*this, opener);
+}
+
+/// A widget's window may have been made anew since the sheet before.
+void WindowScene::followSafeArea() {
+  QWindow* window = toolkit_.window();
+  if (!window || (safeArea_ && safeArea_->parent() == window)) return;
+  delete safeArea_;
+  const auto follow = [this] {
+    const QMargins covered = safeArea_->covered();
+    setSafeArea({double(covered.top()), double(covered.left()), double(covered.bottom()),
+                 double(covered.right())});
+  };
+  safeArea_ = new SafeAreaWatcher(*window, follow);
+  follow();
 }
 
 void WindowScene::focusWindowChanged(QWindow* focused) {

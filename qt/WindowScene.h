@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <functional>
 
 #include "platform/hosting/WindowSession.h"
@@ -8,6 +9,8 @@
 class QWindow;
 
 namespace quorix::qt {
+
+class SafeAreaWatcher;
 
 /// The session of a toolkit's window, which it belongs to. Main thread.
 class QUORIX_EXPORT WindowScene : public QObject, public hosting::WindowSession {
@@ -25,15 +28,17 @@ class QUORIX_EXPORT WindowScene : public QObject, public hosting::WindowSession 
   /// Null when none has begun.
   static WindowScene* find(const QObject& window);
 
+  ~WindowScene() override;
+
  private:
   WindowScene(QObject& window, const Toolkit& toolkit);
   bool isVisible() const override;
-  hosting::SheetSession& newSheet(const hosting::Responder* opener) override {
-    return toolkit_.newSheet(*this, opener);
-  }
+  hosting::SheetSession& newSheet(const hosting::Responder* opener) override;
   void focusWindowChanged(QWindow* focused);
+  void followSafeArea();
 
   Toolkit toolkit_;
+  QPointer<SafeAreaWatcher> safeArea_;  ///< since the first sheet
 };
 
 }  // namespace quorix::qt

@@ -13,7 +13,9 @@ swiftui::Presentation controllerPresentation(
     const auto presenter = closed ? closed->presentingViewController() : nullptr;
     if (presenter) presenter->dismiss(true);
   };
-  return {swiftui::Binding<bool>(std::move(isPresented)), swiftui::hosting(controller)};
+  // A controller's view fills its screen, under what the device covers as well.
+  return {swiftui::Binding<bool>(std::move(isPresented)),
+          swiftui::hosting(controller).edgesIgnoringSafeArea(layout::Edges::all())};
 }
 
 }  // namespace quorix::hosting

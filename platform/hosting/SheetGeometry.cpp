@@ -6,6 +6,13 @@ namespace quorix::hosting {
 
 double SheetGeometry::panelWidth() const { return std::min(window.width, widest); }
 
+layout::EdgeInsets SheetGeometry::panelInsets() const {
+  const double beside = (window.width - panelWidth()) / 2;
+  return {.leading = std::max(0.0, safeArea.leading - beside),
+          .bottom = safeArea.bottom,
+          .trailing = std::max(0.0, safeArea.trailing - beside)};
+}
+
 double SheetGeometry::largest() const {
   return std::max(0.0, window.height - safeArea.top - topGap - safeArea.bottom);
 }

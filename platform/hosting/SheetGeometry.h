@@ -13,7 +13,8 @@ struct SheetGeometry {
   static constexpr double topGap = 10;   ///< between the largest sheet and the window's top
 
   layout::Size window;
-  layout::EdgeInsets safeArea;
+  layout::EdgeInsets safeArea;  ///< what the device covers of the window
+  bool operator==(const SheetGeometry&) const = default;
 
   double panelWidth() const;
   /// The height of the content area of the largest sheet.
@@ -21,8 +22,8 @@ struct SheetGeometry {
   /// The height of the panel's content area at rest: the smallest of `detents`, limited by the
   /// largest sheet; the largest when there are none.
   double contentHeight(const swiftui::PresentationDetents& detents) const;
-  /// The height of the safe area below the content.
-  double bottomInset() const { return safeArea.bottom; }
+  /// What the device covers of the panel, which may be narrower than the window.
+  layout::EdgeInsets panelInsets() const;
   /// The panel's frame after `revealed` points of it have risen.
   layout::Rect panel(double revealed) const;
 

@@ -17,10 +17,10 @@ constexpr double roomAtFocus = 24;  // points between the focus and the panel's 
 }  // namespace
 
 double SheetPanel::restingHeight() {
-  return geometry.contentHeight(content.detents()) + geometry.bottomInset();
+  return geometry.contentHeight(content.detents()) + geometry.safeArea.bottom;
 }
 
-double SheetPanel::room() { return restingHeight() - geometry.bottomInset(); }
+double SheetPanel::room() { return restingHeight() - geometry.safeArea.bottom; }
 
 bool SheetPanel::reveal(double points) {
   if (revealed_ == points) return false;
@@ -40,11 +40,12 @@ graphics::RGBA SheetPanel::color() const {
 
 const render::Scene& SheetPanel::lay() {
   const double width = geometry.panelWidth();
-  const double inset = geometry.bottomInset();
-  const double ideal = content.sizeThatFits({width, std::nullopt}).height;
+  const layout::EdgeInsets insets = geometry.panelInsets();
+  const double free = std::max(0.0, width - insets.leading - insets.trailing);
+  const double ideal = content.sizeThatFits({free, std::nullopt}).height;
   const double beyond = ideal - room();
   const render::Scene& scene =
-      content.scene({width, restingHeight() + std::max(0.0, beyond)}, {.bottom = inset});
+      content.scene({width, restingHeight() + std::max(0.0, beyond)}, insets);
   scroll.setRange(hasEmbeds(scene) ? 0 : beyond);
   return scene;
 }
@@ -131,11 +132,12 @@ void SheetPanel::addIndicator(render::Scene& to, const layout::Rect& frame) {
   if (opacity == 0) return;
   constexpr double corner = SheetGeometry::cornerRadius;
   const swiftui::Environment& settings = content.environment();
+  const bool mirrored = settings.direction == layout::LayoutDirection::rightToLeft;
+  const double covered = geometry.panelInsets().trailing;
+  const layout::Rect beside = {{frame.left() + (mirrored ? covered : 0), frame.top() + corner},
+                               {frame.size.width - covered, room() - corner}};
   const layout::Rect bar =
-      layout::PixelGrid(settings.scale)
-          .round(scroll.indicator(
-              {{frame.left(), frame.top() + corner}, {frame.size.width, room() - corner}},
-              settings.direction == layout::LayoutDirection::rightToLeft));
+      layout::PixelGrid(settings.scale).round(scroll.indicator(beside, mirrored));
   // At 3.9:1 with a white panel and more with a dark one; the usual demand is 3:1.
   const std::uint8_t shade = settings.appearance == graphics::Appearance::dark ? 255 : 0;
   const auto alpha = static_cast<std::uint8_t>(std::lround(opacity * 128));

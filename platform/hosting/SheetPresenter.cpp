@@ -118,8 +118,10 @@ void SheetPresenter::setEnvironment(const swiftui::Environment& environment) {
 }
 
 void SheetPresenter::setWindow(layout::Size size, layout::EdgeInsets safeArea) {
+  const SheetGeometry geometry = {size, safeArea};
+  if (state_->panel.geometry == geometry) return;
   const bool atRest = !state_->panelMoves();
-  state_->panel.geometry = {size, safeArea};
+  state_->panel.geometry = geometry;
   state_->panel.changed();
   if (atRest && state_->presentation) state_->panel.reveal(state_->target());
   state_->client.sheetNeedsDisplay();

@@ -34,6 +34,7 @@ class QUORIX_EXPORT SheetPresenter {
   SheetPresenter& operator=(const SheetPresenter&) = delete;
 
   void setEnvironment(const swiftui::Environment& environment);
+  /// `safeArea` is what the device covers at the window's edges. The content keeps clear of it.
   void setWindow(layout::Size size, layout::EdgeInsets safeArea);
   /// Without motion, changes happen at once.
   void setMotion(bool enabled);

@@ -18,6 +18,7 @@ bool SheetSession::isTopmost() const { return window_ && window_->topmost() == t
 void SheetSession::setSettings(const Settings& settings) {
   settings_ = settings;
   followScale();
+  followWindow();
   presenter_.setMotion(settings_.motion);
   if (SheetSession* above = sheet()) above->setSettings(settings_);
 }
@@ -25,6 +26,17 @@ void SheetSession::setSettings(const Settings& settings) {
 void SheetSession::followScale() {
   settings_.environment.scale = scale();
   presenter_.setEnvironment(settings_.environment);
+}
+
+void SheetSession::windowResized(layout::Size size) {
+  windowSize_ = size;
+  followWindow();
+}
+
+/// The window's size or safe area, or the direction of reading may have changed.
+void SheetSession::followWindow() {
+  if (!window_) return;
+  presenter_.setWindow(windowSize_, window_->safeArea().in(settings_.environment.direction));
 }
 
 // Coming and going.

@@ -75,6 +75,8 @@ class QUORIX_EXPORT SheetSession : public Responder,
   bool isOpen() const { return presented_ && !closed_; }
   /// `scale` changed.
   void followScale();
+  /// The window has this size now.
+  void windowResized(layout::Size size);
   /// The frame clock ticked. Returns whether it goes on.
   bool advance(double seconds) { return presenter_.advance(seconds); }
   /// Before each frame: keeps a moving sheet moving. False when this closed it.
@@ -140,6 +142,7 @@ class QUORIX_EXPORT SheetSession : public Responder,
   void pointerReleased(const PointerEvent& event) override;
   void pointerCancelled() override { presenter_.pointerCancelled(); }
 
+  void followWindow();
   void track(const PointerEvent& event);
   bool leaveWindow();
   void leave();
@@ -150,6 +153,7 @@ class QUORIX_EXPORT SheetSession : public Responder,
   std::weak_ptr<Responder*> opener_;  ///< which is told of the sheet
   SheetPresenter presenter_;
   Settings settings_;
+  layout::Size windowSize_;
   VelocityTracker velocity_;
   EmbeddedPages pages_{*this};
   FocusReturn focusReturn_;

@@ -59,6 +59,7 @@ StillScene stillScene(text::TextEngine& engine, const swiftui::View& view,
   }
   const layout::Size size = {options.width, options.height.value_or(2 * options.width)};
   ViewWindow window(engine, {options.environment, false}, view, size);
+  window.setSafeArea(options.safeArea);
   ViewHost& host = window.view().host();
   const layout::Size ideal = {options.width,
                               host.sizeThatFits({options.width, std::nullopt}).height};

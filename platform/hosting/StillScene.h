@@ -25,6 +25,8 @@ struct StillOptions {
   bool sheet = false;
   /// Behind the view. Without it white in the light appearance and black in the dark one.
   std::optional<graphics::RGBA> background;
+  /// What the device covers at the edges of the window that a sheet opens in.
+  layout::SideInsets safeArea = {};
 };
 
 /// A view laid out once, without a window: what a picture shows, and what a screen reader reads

@@ -32,6 +32,7 @@ class ViewWindow::Sheet final : public SheetSession {
   explicit Sheet(ViewWindow& window) : SheetSession(window, window.engine_), window_(window) {}
 
   using SheetSession::isOpen;
+  using SheetSession::windowResized;
   void frame(double seconds) {
     if (!isOpen()) return;
     presenter().scene();
@@ -101,7 +102,7 @@ void ViewWindow::setSettings(const Settings& settings) {
 void ViewWindow::resize(layout::Size view, layout::Size window) {
   viewSize_ = view;
   size_ = window;
-  for (const auto& sheet : made_) sheet->presenter().setWindow(size_, {});
+  for (const auto& sheet : made_) sheet->windowResized(size_);
 }
 
 bool ViewWindow::frame(double seconds) {
@@ -135,7 +136,7 @@ std::unique_ptr<PageEngine> ViewWindow::openPage(const render::EmbedItem&, PageE
 
 SheetSession& ViewWindow::newSheet(const Responder*) {
   made_.push_back(std::make_unique<Sheet>(*this));
-  made_.back()->presenter().setWindow(size_, {});
+  made_.back()->windowResized(size_);
   return *made_.back();
 }
 

@@ -81,6 +81,11 @@ void WindowSession::updateActivation() {
   scene_->setActivationState(isVisible() ? inSight : ActivationState::background);
 }
 
+void WindowSession::setSafeArea(const layout::SideInsets& safeArea) {
+  safeArea_ = safeArea;
+  for (SheetSession* sheet : sheets_) sheet->followWindow();
+}
+
 // Presented controllers.
 
 /// Shows them on a later turn, since the caller may be at work.

@@ -29,6 +29,10 @@ class QUORIX_EXPORT WindowSession : private uikit::UIWindow::Client {
   /// The window came into sight or went out of it.
   void visibilityChanged();
 
+  /// What the device covers at the window's edges. Its sheets keep clear of it, open ones too.
+  void setSafeArea(const layout::SideInsets& safeArea);
+  const layout::SideInsets& safeArea() const { return safeArea_; }
+
   /// A new sheet above `opener` (null: above the window) and over the whole window.
   SheetSession& makeSheet(Responder* opener, const Settings& settings);
   /// The sheet that takes the input; null without one.
@@ -57,6 +61,7 @@ class QUORIX_EXPORT WindowSession : private uikit::UIWindow::Client {
   std::shared_ptr<uikit::UIWindow> window_ = std::make_shared<uikit::UIWindow>();
   std::shared_ptr<uikit::UIWindowScene> scene_ = std::make_shared<uikit::UIWindowScene>();
   std::weak_ptr<Responder*> used_;
+  layout::SideInsets safeArea_;
   Settings settings_;                  ///< of the latest responder in use
   std::vector<SheetSession*> sheets_;  ///< those presented and open, from the bottom up
   std::vector<Shown> shown_;           ///< from the bottom up

@@ -55,6 +55,8 @@ inline Rect united(const Rect& a, const Rect& b) {
           {std::max(a.right(), b.right()) - origin.x, std::max(a.bottom(), b.bottom()) - origin.y}};
 }
 
+enum class LayoutDirection : std::uint8_t { leftToRight, rightToLeft };
+
 /// Insets by reading direction: `leading` is left in left-to-right text.
 struct EdgeInsets {
   double top = 0;
@@ -62,6 +64,20 @@ struct EdgeInsets {
   double bottom = 0;
   double trailing = 0;
   bool operator==(const EdgeInsets&) const = default;
+};
+
+/// Insets by side, independent of the reading direction.
+struct SideInsets {
+  double top = 0;
+  double left = 0;
+  double bottom = 0;
+  double right = 0;
+  bool operator==(const SideInsets&) const = default;
+
+  EdgeInsets in(LayoutDirection direction) const {
+    return direction == LayoutDirection::rightToLeft ? EdgeInsets{top, right, bottom, left}
+                                                     : EdgeInsets{top, left, bottom, right};
+  }
 };
 
 /// Some of a rectangle's edges, by reading direction.
@@ -94,8 +110,6 @@ struct Alignment {
   VerticalAlignment vertical = VerticalAlignment::center;
   bool operator==(const Alignment&) const = default;
 };
-
-enum class LayoutDirection : std::uint8_t { leftToRight, rightToLeft };
 
 /// Where an extent of `inner` starts inside one of `outer` when aligned.
 double alignedOffset(HorizontalAlignment alignment, double outer, double inner);

@@ -10,14 +10,8 @@
 
 namespace quorix::uikit {
 
-/// Insets by side, in points, independent of the reading direction. Negative ones lead outwards.
-struct UIEdgeInsets {
-  double top = 0;
-  double left = 0;
-  double bottom = 0;
-  double right = 0;
-  bool operator==(const UIEdgeInsets&) const = default;
-};
+/// Points. Negative ones lead outwards.
+using UIEdgeInsets = layout::SideInsets;
 
 /// An image of an asset catalog and how to show it: an immutable object, shared by reference.
 /// Any thread.

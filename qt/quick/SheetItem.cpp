@@ -113,7 +113,7 @@ void SheetItem::itemChange(ItemChange change, const ItemChangeData& data) {
 
 void SheetItem::geometryChange(const QRectF& now, const QRectF& before) {
   QQuickItem::geometryChange(now, before);
-  presenter().setWindow({now.width(), now.height()}, {});
+  windowResized({now.width(), now.height()});
 }
 
 // Frame.

@@ -2,10 +2,12 @@
 
 #include <QCursor>
 
+#include "platform/render/Scene.h"
 #include "qt/Conversions.h"
 #include "qt/Engine.h"
 #include "qt/Input.h"
 #include "qt/ViewAccessible.h"
+#include "qt/quick/TapRoom.h"
 #include "qt/quick/ViewSurface.h"
 
 namespace quorix::qt {
@@ -24,6 +26,14 @@ ViewItem::ViewItem(swiftui::View view, QQuickItem* parent)
 ViewItem::~ViewItem() { surface_->end(); }
 
 void ViewItem::setView(swiftui::View view) { surface_->replaceView(std::move(view)); }
+
+bool ViewItem::contains(const QPointF& point) const {
+  if (QQuickItem::contains(point)) return true;
+  constexpr double room = render::Scene::roomToTap / 2;
+  const QRectF around = QRectF(0, 0, width(), height()).adjusted(-room, -room, room, room);
+  return around.contains(point) && surface_->takesTapAt(toPoint(point)) &&
+         TapRoom::isFree(*this, point);
+}
 
 void ViewItem::settingsChanged() { surface_->settingsChanged(); }
 

@@ -35,6 +35,10 @@ class QUORIX_EXPORT ViewItem : public QQuickItem, public ViewSettings {
   /// Shows another view, which begins afresh; a sheet of the one before goes.
   void setView(swiftui::View view);
 
+  /// Also around a row that is smaller than a finger needs, up to 44 points, where nothing else
+  /// takes the tap.
+  bool contains(const QPointF& point) const override;
+
  signals:
   // What the user did, for analytics. A slot may delete the item, save where noted.
 
@@ -63,6 +67,7 @@ class QUORIX_EXPORT ViewItem : public QQuickItem, public ViewSettings {
 
  private:
   friend class ViewSurface;
+  friend struct TapRoom;
   void settingsChanged() override;
 
   std::unique_ptr<ViewSurface> surface_;

@@ -26,7 +26,7 @@ SheetWidget::SheetWidget(QWidget& window, hosting::WindowSession& session)
   connect(qApp, &QApplication::focusChanged, this,
           [this](QWidget*, QWidget* now) { holdFocus(now); });
   setGeometry(window.rect());
-  windowResized();
+  followSize();
 }
 
 SheetWidget::~SheetWidget() { AccessibilityBridge::remove(*this); }
@@ -191,11 +191,9 @@ void SheetWidget::takeFocusFromPages() {
   if (hasPageFocus() || !window()->focusWidget()) setFocus(Qt::OtherFocusReason);
 }
 
-void SheetWidget::resizeEvent(QResizeEvent*) { windowResized(); }
+void SheetWidget::resizeEvent(QResizeEvent*) { followSize(); }
 
-void SheetWidget::windowResized() {
-  presenter().setWindow({double(width()), double(height())}, {});
-}
+void SheetWidget::followSize() { windowResized({double(width()), double(height())}); }
 
 // Events. What happens here stays here: nothing below the sheet hears of it.
 

@@ -62,7 +62,7 @@ class SheetWidget : public QWidget, public SheetSurface, public WidgetAccessible
   bool isShown() const override { return !isClosed() && WidgetAccessibleSurface::isShown(); }
   bool isDialog() const override { return true; }
 
-  void windowResized();
+  void followSize();
   void raiseAll();
   void settle();
   void updatePanel();

@@ -1,13 +1,18 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 
+class QMouseEvent;
 class QWidget;
 
 namespace quorix::qt {
 
-/// Tells the view widgets of one window when it is minimized or comes back; Qt tells only the
-/// window. Belongs to the window; main thread.
+class ViewWidget;
+
+/// What the view widgets of one window hear of it: that it is minimized or comes back, which Qt
+/// tells only the window, and a finger's tap just beside a widget that is smaller than a finger
+/// needs, where nothing of the host's takes it. Belongs to the window; main thread.
 class WindowStateWatcher : public QObject {
   Q_OBJECT
 
@@ -22,6 +27,10 @@ class WindowStateWatcher : public QObject {
 
  private:
   explicit WindowStateWatcher(QWidget& window);
+  bool takesPress(QMouseEvent& press);
+
+  QWidget& window_;
+  QPointer<ViewWidget> pressed_;  ///< by a finger beside it
 };
 
 }  // namespace quorix::qt

@@ -67,6 +67,33 @@ TEST_F(ScoreSheet, FollowsItsContentAndTheWindow) {
   EXPECT_FALSE(window.sheet());
 }
 
+TEST_F(ScoreSheet, KeepsClearOfWhatTheDeviceCovers) {
+  using enum layout::LayoutDirection;
+  open();
+  const std::string fee = window.sheet()->scene().accessibility.at(2).label;
+  const struct {
+    layout::LayoutDirection direction;
+    layout::Size window;
+    layout::SideInsets covered;
+    layout::Rect panel, fee;
+  } rows[] = {
+      {leftToRight, {320, 640}, {47, 0, 34, 0}, {{0, 301}, {320, 339}}, {{16, 367}, {288, 24}}},
+      {leftToRight, {640, 320}, {0, 47, 21, 20}, {{0, 34}, {640, 286}}, {{63, 100}, {541, 24}}},
+      {rightToLeft, {640, 320}, {0, 47, 21, 20}, {{0, 34}, {640, 286}}, {{63, 100}, {541, 24}}},
+      {leftToRight, {700, 320}, {0, 47, 21, 20}, {{30, 34}, {640, 286}}, {{63, 100}, {591, 24}}},
+      {leftToRight, {320, 200}, {47, 0, 34, 0}, {{0, 57}, {320, 143}}, {{16, 123}, {288, 24}}},
+      {leftToRight, {320, 640}, {}, {{0, 335}, {320, 305}}, {{16, 401}, {288, 24}}},
+  };
+  for (const auto& expected : rows) {
+    window.environment.direction = expected.direction;
+    window.setMotion(false);
+    window.setSafeArea(expected.covered);
+    window.resize(expected.window);
+    EXPECT_EQ(window.sheet()->panelFrame(), expected.panel) << expected.window.width;
+    EXPECT_EQ(window.element(fee).frame, expected.fee) << expected.window.width;
+  }
+}
+
 TEST_F(ScoreSheet, GoesWhenSwipedFarOrFastOrTappedOutside) {
   constexpr layout::Point outside{160, 20}, inside{160, 400};
   const struct {

@@ -7,6 +7,7 @@
 #include <stdexcept>
 #include <string>
 
+#include "platform/hosting/ControllerPresentation.h"
 #include "platform/swiftui/UIViewRepresentable.h"
 #include "tests/core/OpenedAddresses.h"
 #include "tests/core/ShownPage.h"
@@ -45,6 +46,14 @@ TEST(WebViewController, ShowsItsPageAndCloseControl) {
   window.tap(layout::Point{272, 10});  // the control's very corner
   window.settle();
   EXPECT_EQ(root->presentedViewController(), nullptr);
+}
+
+TEST(WebViewController, ItsPageRunsUnderWhatTheDeviceCovers) {
+  const auto overlay = std::make_shared<WebViewController>();
+  quorix::testing::TestSheet alone(hosting::controllerPresentation(overlay), {320, 640},
+                                   {40, 5, 30, 10});
+  EXPECT_EQ(quorix::testing::shownPage(alone.sheet.scene()).frame,
+            (layout::Rect{{0, 50}, {320, 590}}));
 }
 
 TEST(WebViewController, IsMadeInThreeWays) {
