@@ -133,6 +133,9 @@ class QUORIX_EXPORT SheetSession : public Responder,
   void sheetDidClose() override { close(); }
   void pageHangs() override { presenter_.dismiss(SheetCloseReason::key); }
   void pageEnded() override;
+  bool isRightToLeft() const override {
+    return settings_.environment.direction == layout::LayoutDirection::rightToLeft;
+  }
 
   bool pointerPressed(const PointerEvent& event) override;
   bool pointerMoved(const PointerEvent& event) override;

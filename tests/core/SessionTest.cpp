@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <deque>
 #include <functional>
 #include <memory>
 #include <string>
@@ -8,15 +7,12 @@
 #include <vector>
 
 #include "platform/uikit/UIApplication.h"
-#include "tests/core/OpenedAddresses.h"
 #include "tests/core/TestWindow.h"
 #include "tests/qt/FeeRow.h"
-#include "tests/web/PageRow.h"
 
 namespace quorix {
 namespace {
 
-using foundation::MainQueue;
 using hosting::Key;
 using hosting::PointerEvent;
 using swiftui::Text;
@@ -158,144 +154,6 @@ TEST(Session, AWindowPresentsControllersOverItself) {
   one.settle();
   EXPECT_FALSE(one.sheet());
   EXPECT_EQ(one.told, "opened closed:host opened closed:key ");
-}
-
-// Pages.
-
-/// An engine that answers when the test wants.
-struct FakeEngine final : hosting::PageEngine {
-  explicit FakeEngine(Client& page) : client(page) {}
-  bool isShown() const override { return true; }
-  void load(const foundation::URL&) override { log += "load "; }
-  void stopLoad(std::chrono::milliseconds) override { log += "stop "; }
-  void ask() override { log += "ask "; }
-  bool canGoBack() const override { return hasHistory; }
-  void goBack() override { log += "back "; }
-  void goForward() override { log += "forward "; }
-
-  Client& client;
-  std::string log;
-  bool hasHistory = false;
-};
-
-class PageWindow final : public testing::TestText, public hosting::ViewWindow {
- public:
-  PageWindow()
-      : ViewWindow(text, {{}, false}, testing::PageRow{[this] { return content; }}, {320, 640}) {
-    content->settings.allowsBackForwardNavigationGestures = true;
-    content->onProcessEnded = [this] { ++ends; };
-    content->onLoadFailed = [this] { ++failures; };
-    content->load({foundation::URL::parse("https://modules.quorix.example/page").value()});
-    MainQueue::install({}, [this](auto, MainQueue::Work work) { timers.push_back(work); });
-  }
-  ~PageWindow() override { MainQueue::install({}); }
-
-  void settle() {
-    while (frame(0) || MainQueue::drain() > 0) {
-    }
-    frame(0);  // pages open in the frame after the first
-  }
-  void open() {
-    settle();
-    view().activate(0);
-    settle();
-  }
-  void key(Key key) {
-    front().handle(hosting::KeyEvent{key});
-    settle();
-  }
-  /// All time limits run out.
-  void wait() {
-    for (const auto& work : std::exchange(timers, {})) work();
-    settle();
-  }
-
-  std::shared_ptr<webkit::WebContent> content = std::make_shared<webkit::WebContent>();
-  std::deque<MainQueue::Work> timers;
-  FakeEngine* engine = nullptr;
-  bool hasEngine = true;
-  int ends = 0;
-  int failures = 0;
-
- private:
-  bool showsPages() const override { return true; }
-  std::unique_ptr<hosting::PageEngine> openPage(const render::EmbedItem&,
-                                                hosting::PageEngine::Client& client) override {
-    auto made = hasEngine ? std::make_unique<FakeEngine>(client) : nullptr;
-    engine = made.get();
-    return made;
-  }
-};
-
-TEST(SessionPage, KeysLeadBackAndForwardOrCloseTheSheet) {
-  const struct {
-    Key key;
-    bool hasHistory;
-    const char* log;
-    bool stays;
-  } rows[] = {
-      {Key::pageBack, true, "load back ", true}, {Key::pageForward, false, "load forward ", true},
-      {Key::back, true, "load ask back ", true}, {Key::back, false, "load ", false},
-      {Key::escape, true, "load ", false},
-  };
-  for (const auto& row : rows) {
-    PageWindow window;
-    window.open();
-    ASSERT_TRUE(window.engine);
-    window.engine->hasHistory = row.hasHistory;
-    window.front().handle(hosting::KeyEvent{row.key});
-    const std::string asked = window.engine->log;
-    window.engine->client.answered();
-    EXPECT_EQ(window.engine->log, row.log) << static_cast<int>(row.key) << asked;
-    window.settle();
-    EXPECT_EQ(!window.sheets().empty(), row.stays) << static_cast<int>(row.key);
-  }
-}
-
-TEST(SessionPage, HasLimitedTime) {
-  for (const bool answers : {true, false}) {
-    PageWindow window;
-    window.open();
-    window.engine->client.closingKeyGiven();
-    if (answers) window.engine->client.answered();
-    window.wait();
-    EXPECT_EQ(!window.sheets().empty(), answers) << "a page that hangs cannot keep its sheet open";
-  }
-  for (const bool ends : {true, false}) {
-    PageWindow window;
-    window.open();
-    window.engine->client.loading(0);
-    window.engine->client.loading(30);
-    if (ends) window.engine->client.loadEnded();
-    window.wait();
-    EXPECT_EQ(window.engine->log, ends ? "load " : "load stop ");
-    EXPECT_EQ(window.failures, 0) << "what has come stays";
-  }
-  PageWindow window;
-  window.open();
-  window.engine->client.loading(0);
-  window.wait();
-  window.settle();
-  EXPECT_EQ(window.failures, 1);
-}
-
-TEST(SessionPage, ThatEndsTellsItsContentOutsideTheEnginesCall) {
-  PageWindow window;
-  window.open();
-  window.engine->client.processEnded();
-  EXPECT_EQ(window.ends, 0);
-  window.settle();
-  EXPECT_EQ(window.ends, 1);
-}
-
-TEST(SessionPage, WithoutAnEngineOpensOutsideAndTheSheetCloses) {
-  const testing::OpenedAddresses opened;
-  PageWindow window;
-  window.hasEngine = false;
-  window.open();
-  window.settle();
-  EXPECT_TRUE(window.sheets().empty());
-  EXPECT_EQ(opened.list(), std::vector<std::string>{"https://modules.quorix.example/page"});
 }
 
 }  // namespace
