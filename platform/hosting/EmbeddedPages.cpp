@@ -143,6 +143,7 @@ bool EmbeddedPage::touched(const TouchEvent& event) {
 }
 
 void EmbeddedPage::scrolled(const TrackpadEvent& event) {
+  if (event.begins) askedFor_.reset();  // an answer is lost with the page that was asked
   const auto direction = trackpadSwipe_.follow(event);
   if (!direction || askedFor_ || !leadsSomewhere(*direction)) return;
   askedFor_ = direction;

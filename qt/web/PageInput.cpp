@@ -90,6 +90,7 @@ bool PageInput::takesTouch(QObject& receiver, const QTouchEvent& event) {
                                       static_cast<int>(event.points().size()),
                                       receiver.property("width").toDouble()});
   hasFingers_ = had || takes;
+  if (hasFingers_) gesture_.invalidate();  // the page did not get it
   if (hasFingers_ && !had) {
     QTouchEvent cancel(QEvent::TouchCancel, event.pointingDevice(), event.modifiers());
     QCoreApplication::sendEvent(&receiver, &cancel);
