@@ -3,7 +3,6 @@
 #include <cstdint>
 #include <optional>
 
-#include "platform/foundation/Export.h"
 #include "platform/hosting/Input.h"
 
 namespace quorix::hosting {
@@ -12,7 +11,7 @@ namespace quorix::hosting {
 enum class SwipeDirection : std::uint8_t { right, left };
 
 /// Recognizes the swipe of a finger from a side of a page towards its middle. Main thread.
-class QUORIX_EXPORT EdgeSwipe {
+class EdgeSwipe {
  public:
   struct Swipe {
     SwipeDirection direction;
@@ -33,7 +32,7 @@ class QUORIX_EXPORT EdgeSwipe {
 };
 
 /// Recognizes the sideways swipe of two fingers on a trackpad. Main thread.
-class QUORIX_EXPORT TrackpadSwipe {
+class TrackpadSwipe {
  public:
   /// Absent until the fingers have come far enough sideways, and once they left the trackpad.
   std::optional<SwipeDirection> follow(const TrackpadEvent& event);
