@@ -91,6 +91,8 @@ std::optional<SheetSurface::Layer> SheetSurface::ring() {
 
 bool SheetSurface::canShowPages() const { return WebComponentLoader::isThere(webComponent_); }
 
+bool SheetSurface::opensPagesAtOnce() const { return WebComponentLoader::isLoaded(webComponent_); }
+
 std::unique_ptr<hosting::PageEngine> SheetSurface::openPage(const render::EmbedItem& embed,
                                                             hosting::PageEngine::Client& client) {
   const auto& content = dynamic_cast<const webkit::WebContent&>(*embed.content);

@@ -51,6 +51,7 @@ class QUORIX_EXPORT SheetSurface : public hosting::SheetSession {
   void focusMoved(bool later) override;
   void coverChanged() override;
   bool canShowPages() const override;
+  bool opensPagesAtOnce() const override;
   std::unique_ptr<hosting::PageEngine> openPage(const render::EmbedItem& embed,
                                                 hosting::PageEngine::Client& client) override;
 

@@ -21,7 +21,7 @@ class WebComponent {
 };
 
 /// Another number whenever `WebComponent`, `WebPage` or `hosting::PageEngine` is another.
-constexpr int webComponentVersion = 3;
+constexpr int webComponentVersion = 4;
 constexpr char webComponentSymbol[] = "quorixWebComponent";
 
 /// The component, or null when it is built for another version than `version`.

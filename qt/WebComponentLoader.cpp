@@ -56,6 +56,11 @@ QString fileOf(const QString& name) {
   return {};
 }
 
+QHash<QString, WebComponent*>& known() {
+  static QHash<QString, WebComponent*> components;
+  return components;
+}
+
 WebComponent* loaded(const QString& name) {
   const QString file = fileOf(name);
   if (file.isEmpty()) return nullptr;
@@ -89,12 +94,13 @@ QStringList WebComponentLoader::folders() {
 
 bool WebComponentLoader::isThere(const QString& name) { return !fileOf(name).isEmpty(); }
 
+bool WebComponentLoader::isLoaded(const QString& name) { return known().value(name) != nullptr; }
+
 WebComponent* WebComponentLoader::load(const QString& name) {
-  static QHash<QString, WebComponent*> known;
-  const auto found = known.constFind(name);
-  if (found != known.constEnd()) return *found;
+  const auto found = known().constFind(name);
+  if (found != known().constEnd()) return *found;
   WebComponent* component = loaded(name);
-  known.insert(name, component);
+  known().insert(name, component);
   return component;
 }
 

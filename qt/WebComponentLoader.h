@@ -34,6 +34,8 @@ namespace WebComponentLoader {
 
 /// Whether there is a library of this name to load. Cheap: nothing is loaded.
 QUORIX_EXPORT bool isThere(const QString& name);
+/// Whether `load` found one before.
+bool isLoaded(const QString& name);
 /// The component, or null when it is missing, does not load or is of another version.
 WebComponent* load(const QString& name);
 

@@ -118,6 +118,45 @@ bool EmbeddedPage::takes(Key key, bool tries) {
   return true;
 }
 
+// Swipes.
+
+bool EmbeddedPage::leadsBack(SwipeDirection direction) const {
+  return (direction == SwipeDirection::right) != owner_.isRightToLeft();
+}
+
+bool EmbeddedPage::leadsSomewhere(SwipeDirection direction) const {
+  if (!content_->settings.allowsBackForwardNavigationGestures) return false;
+  return leadsBack(direction) ? engine_->canGoBack() : engine_->canGoForward();
+}
+
+void EmbeddedPage::go(SwipeDirection direction) {
+  if (!leadsSomewhere(direction)) return;
+  leadsBack(direction) ? engine_->goBack() : engine_->goForward();
+}
+
+bool EmbeddedPage::touched(const TouchEvent& event) {
+  const auto swipe = edgeSwipe_.follow(event);
+  if (!swipe || !leadsSomewhere(swipe->direction)) return false;
+  const bool ends = event.phase == PointerEvent::Phase::released;
+  if (ends && swipe->isFar) go(swipe->direction);
+  return true;
+}
+
+void EmbeddedPage::scrolled(const TrackpadEvent& event) {
+  if (event.begins) askedFor_.reset();  // an answer is lost with the page that was asked
+  const auto direction = trackpadSwipe_.follow(event);
+  if (!direction || askedFor_ || !leadsSomewhere(*direction)) return;
+  askedFor_ = direction;
+  engine_->askForScroll(trackpadSwipe_.began());
+}
+
+void EmbeddedPage::scrollAnswered(bool used) {
+  const auto direction = std::exchange(askedFor_, {});
+  if (used || !direction) return;
+  trackpadSwipe_.spend();
+  go(*direction);
+}
+
 // All pages.
 
 bool EmbeddedPages::hasPages(const render::Scene& scene) {

@@ -8,6 +8,7 @@
 #include "platform/foundation/Export.h"
 #include "platform/hosting/Input.h"
 #include "platform/hosting/PageEngine.h"
+#include "platform/hosting/PageSwipe.h"
 #include "platform/render/Scene.h"
 #include "platform/webkit/WebContent.h"
 
@@ -27,6 +28,8 @@ class EmbeddedPage final : private PageEngine::Client {
     virtual void pageHangs() = 0;
     /// The page shows nothing any more, and takes no keys.
     virtual void pageEnded() = 0;
+    /// Swipes are mirrored.
+    virtual bool isRightToLeft() const = 0;
 
    protected:
     ~Owner() = default;
@@ -55,6 +58,9 @@ class EmbeddedPage final : private PageEngine::Client {
   static void start(Limit& limit, std::chrono::milliseconds after, std::function<void()> work);
   void later(std::function<void()> work);
   void expectAnswer(std::function<void()> then);
+  bool leadsBack(SwipeDirection direction) const;
+  bool leadsSomewhere(SwipeDirection direction) const;
+  void go(SwipeDirection direction);
 
   void windowAsked(std::string_view address, bool byUser) override;
   void loading(int percent) override;
@@ -63,6 +69,9 @@ class EmbeddedPage final : private PageEngine::Client {
   void processEnded() override;
   void closingKeyGiven() override { expectAnswer({}); }
   void answered() override;
+  bool touched(const TouchEvent& event) override;
+  void scrolled(const TrackpadEvent& event) override;
+  void scrollAnswered(bool used) override;
 
   std::shared_ptr<webkit::WebContent> content_;
   Owner& owner_;
@@ -72,6 +81,9 @@ class EmbeddedPage final : private PageEngine::Client {
   bool came_ = false;  ///< something of the load
   Limit silence_;      ///< since the page was asked
   std::function<void()> onAnswer_;
+  EdgeSwipe edgeSwipe_;
+  TrackpadSwipe trackpadSwipe_;
+  std::optional<SwipeDirection> askedFor_;  ///< until the page says whether it used the scrolling
   std::unique_ptr<PageEngine> engine_;
 };
 

@@ -25,6 +25,22 @@ struct ScrollEvent {
   bool follows = false;  ///< a trackpad's: the content follows at once, instead of gliding
 };
 
+/// Fingers on a page.
+struct TouchEvent {
+  PointerEvent::Phase phase;  ///< pressed: the first finger, released: the last one
+  layout::Point point;        ///< the first finger, from the page's top left
+  int fingers = 1;
+  double pageWidth = 0;
+};
+
+/// Two fingers on a trackpad scroll a page.
+struct TrackpadEvent {
+  bool begins;     ///< the fingers were put down
+  bool byFingers;  ///< false: they left the trackpad, or what they threw still moves
+  double x, y;     ///< points that the content moves to the right and down
+  double time;     ///< milliseconds since 1970, for comparison with the page's own clock
+};
+
 /// A key by what it means to a view, a sheet or a page.
 enum class Key : std::uint8_t {
   other,

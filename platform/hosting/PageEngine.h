@@ -5,6 +5,7 @@
 
 #include "platform/foundation/Export.h"
 #include "platform/foundation/URL.h"
+#include "platform/hosting/Input.h"
 
 namespace quorix::hosting {
 
@@ -30,6 +31,11 @@ class QUORIX_EXPORT PageEngine {
     virtual void closingKeyGiven() = 0;
     /// The answer to `ask`.
     virtual void answered() = 0;
+    /// Fingers touch the page. True from when the page must not get them any more.
+    virtual bool touched(const TouchEvent& event) = 0;
+    virtual void scrolled(const TrackpadEvent& event) = 0;
+    /// The answer to `askForScroll`.
+    virtual void scrollAnswered(bool used) = 0;
 
    protected:
     ~Client() = default;
@@ -44,7 +50,12 @@ class QUORIX_EXPORT PageEngine {
   virtual void stopLoad(std::chrono::milliseconds limit) = 0;
   /// Asks the page's process whether it is alive. A page that hangs never answers.
   virtual void ask() = 0;
+  /// Asks whether the page used any of the sideways scrolling since `time`, a
+  /// `TrackpadEvent::time`: it scrolled, or a script took the scrolling. A page that hangs never
+  /// answers.
+  virtual void askForScroll(double time) = 0;
   virtual bool canGoBack() const = 0;
+  virtual bool canGoForward() const = 0;
   virtual void goBack() = 0;
   virtual void goForward() = 0;
 };

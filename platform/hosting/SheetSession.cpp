@@ -106,7 +106,7 @@ void SheetSession::wasShown() {
 }
 
 void SheetSession::followPages() {
-  if (!shown_ || closed_ || gaveUpPages_) return;
+  if (closed_ || gaveUpPages_ || !(shown_ || opensPagesAtOnce())) return;
   if (pagesRevision_ != presenter_.panelRevision()) {
     pagesRevision_ = presenter_.panelRevision();
     if (!pages_.follow(presenter_.panel())) return giveUpPages();

@@ -18,9 +18,9 @@ class WindowSession;
 /// A sheet over a window: coming and going, settings, motion, input, focus and pages. A toolkit's
 /// sheet derives from this, gives it a place above the window, paint and the focus, and deletes
 /// itself after `vanish`. It takes every event that reaches it, so that what lies below gets none.
-/// Pages open once the first frame has been shown, so that loading the web engine does not delay
-/// the sheet; without an engine their addresses open outside the app and the sheet closes. Main
-/// thread.
+/// The first page of a process opens once the first frame has been shown, so that loading the web
+/// engine does not delay the sheet; later pages come with that frame. Without an engine their
+/// addresses open outside the app and the sheet closes. Main thread.
 class QUORIX_EXPORT SheetSession : public Responder,
                                    private SheetPresenter::Client,
                                    private EmbeddedPage::Owner {
@@ -118,6 +118,8 @@ class QUORIX_EXPORT SheetSession : public Responder,
   // Pages, for a toolkit with a web engine.
   /// Whether a page can be expected to show. Cheap: loads no engine.
   virtual bool canShowPages() const { return false; }
+  /// The web engine is loaded: opening a page takes no time to speak of.
+  virtual bool opensPagesAtOnce() const { return false; }
   std::unique_ptr<PageEngine> openPage(const render::EmbedItem&, PageEngine::Client&) override {
     return nullptr;
   }
@@ -136,6 +138,9 @@ class QUORIX_EXPORT SheetSession : public Responder,
   void sheetDidClose() override { close(); }
   void pageHangs() override { presenter_.dismiss(SheetCloseReason::key); }
   void pageEnded() override;
+  bool isRightToLeft() const override {
+    return settings_.environment.direction == layout::LayoutDirection::rightToLeft;
+  }
 
   bool pointerPressed(const PointerEvent& event) override;
   bool pointerMoved(const PointerEvent& event) override;

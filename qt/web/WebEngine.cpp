@@ -57,6 +57,38 @@ QWebEngineScript WebEngine::refusals() {
   return script;
 }
 
+QWebEngineScript WebEngine::scrollNotes() {
+  QWebEngineScript script;
+  script.setSourceCode(QStringLiteral(R"(
+    (() => {
+      let seen = 0, used = 0;
+      const scrolls = (element, x) => {
+        const style = getComputedStyle(element);
+        const whole = element === document.scrollingElement;
+        if (whole ? style.overflowX === 'hidden' : !/auto|scroll/.test(style.overflowX)) return false;
+        if (style.overscrollBehaviorX !== 'auto') return true;
+        const room = element.scrollWidth - element.clientWidth;
+        const left = element.scrollLeft + (style.direction === 'rtl' ? room : 0);
+        return x < 0 ? left >= 1 : left <= room - 1;
+      };
+      addEventListener('wheel', event => {
+        if (!event.deltaX) return;
+        seen = Date.now();
+        const uses = event.defaultPrevented || event.composedPath().some(
+            element => element instanceof Element && scrolls(element, event.deltaX));
+        if (uses) used = seen;
+      }, {passive: true});
+      globalThis.quorixUsedScroll = since => seen < since ? null : used >= since;
+    })())"));
+  script.setInjectionPoint(QWebEngineScript::DocumentCreation);
+  script.setWorldId(QWebEngineScript::ApplicationWorld);
+  return script;
+}
+
+QString WebEngine::scrollAnswer(double time) {
+  return QStringLiteral("quorixUsedScroll(%1)").arg(time, 0, 'f', 0);
+}
+
 void WebEngine::loadFailed(WebPage::Client& client, const QUrl& address, const QString& why,
                            int code) {
   logNotLoaded(address, why);

@@ -17,6 +17,12 @@ bool start();
 /// without asking us, and without an end.
 QWebEngineScript refusals();
 
+/// For a page, in a world of its own and only with the page's own scripts: notes which sideways
+/// scrolling the page uses. `scrollAnswer` asks it about the time since `time`, in milliseconds
+/// since 1970: whether the page used any, or nothing if it saw none.
+QWebEngineScript scrollNotes();
+QString scrollAnswer(double time);
+
 /// A load failed: says so on the log, and tells the client if nothing of it came. `code` is the
 /// engine's.
 void loadFailed(WebPage::Client& client, const QUrl& address, const QString& why, int code);

@@ -30,6 +30,18 @@ TYPED_TEST(PageSheet, StandsBetweenWhatLiesBelowAndAbove) {
   EXPECT_TRUE(this->latest.expired());
 }
 
+TYPED_TEST(PageSheet, HasItsPageInTheFirstFrameOnceTheEngineIsLoaded) {
+  this->openBlue();
+  this->screen.key(Qt::Key_Escape);
+  ASSERT_FALSE(this->isOpen());
+  const int frames = this->screen.frames();
+  QTest::mouseClick(&this->screen.window(), Qt::LeftButton, {}, this->screen.centreOf("Open page"));
+  ASSERT_TRUE(waitUntil([&] { return this->screen.frames() > frames; }));
+  QAccessibleInterface* control = this->screen.find("Close page");
+  ASSERT_TRUE(control);
+  EXPECT_EQ(control->parent()->childCount(), 2);
+}
+
 TYPED_TEST(PageSheet, MovesAsOne) {
   this->opener->setMotion(true);
   this->openBlue();

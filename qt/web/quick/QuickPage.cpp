@@ -13,11 +13,7 @@ namespace quorix::qt {
 QuickPage::QuickPage(const Options& options, Client& client)
     : options_(options),
       client_(client),
-      input_(
-          [this](const QObject& window) {
-            return view_ && view_->hasActiveFocus() && view_->window() == &window;
-          },
-          client) {}
+      input_([this](const QObject& receiver) { return isReceiver(receiver); }, client) {}
 
 std::unique_ptr<QuickPage> QuickPage::make(QQmlComponent& source, QQuickWebEngineProfile& profile,
                                            QQuickItem& place, const Options& options,
@@ -40,6 +36,13 @@ std::unique_ptr<QuickPage> QuickPage::make(QQmlComponent& source, QQuickWebEngin
 
 QuickPage::~QuickPage() { delete view_; }
 
+bool QuickPage::isReceiver(const QObject& receiver) const {
+  if (!view_) return false;
+  const auto* item = qobject_cast<const QQuickItem*>(&receiver);
+  if (item) return view_->isAncestorOf(item);
+  return view_->hasActiveFocus() && view_->window() == &receiver;
+}
+
 void QuickPage::load(const foundation::URL& address) {
   if (view_) view_->setProperty("url", toQUrl(address));
 }
@@ -54,6 +57,13 @@ void QuickPage::ask() {
   if (!allowsScripts()) return client_.answered();  // nothing can keep it busy for long
   if (view_) QMetaObject::invokeMethod(view_, "ask");
 }
+
+void QuickPage::askForScroll(double time) {
+  if (!view_) return;
+  QMetaObject::invokeMethod(view_, "askForScroll", Q_ARG(QString, WebEngine::scrollAnswer(time)));
+}
+
+bool QuickPage::canGoForward() const { return view_ && view_->property("canGoForward").toBool(); }
 
 bool QuickPage::canGoBack() const { return view_ && view_->property("canGoBack").toBool(); }
 

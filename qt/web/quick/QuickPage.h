@@ -19,6 +19,7 @@ class QuickPage : public QObject, public WebPage {
   Q_OBJECT
   Q_PROPERTY(QColor background READ background CONSTANT)
   Q_PROPERTY(QWebEngineScript refusals READ refusals CONSTANT)
+  Q_PROPERTY(QWebEngineScript scrollNotes READ scrollNotes CONSTANT)
   Q_PROPERTY(bool allowsScripts READ allowsScripts CONSTANT)
   Q_PROPERTY(bool opensWindowsUnasked READ opensWindowsUnasked CONSTANT)
 
@@ -32,12 +33,15 @@ class QuickPage : public QObject, public WebPage {
   void load(const foundation::URL& address) override;
   void stopLoad(std::chrono::milliseconds limit) override;
   void ask() override;
+  void askForScroll(double time) override;
   bool canGoBack() const override;
+  bool canGoForward() const override;
   void goBack() override;
   void goForward() override;
 
   QColor background() const { return options_.background; }
   QWebEngineScript refusals() const { return WebEngine::refusals(); }
+  QWebEngineScript scrollNotes() const { return WebEngine::scrollNotes(); }
   bool allowsScripts() const { return options_.settings.allowsContentJavaScript; }
   bool opensWindowsUnasked() const {
     return options_.settings.javaScriptCanOpenWindowsAutomatically;
@@ -55,9 +59,11 @@ class QuickPage : public QObject, public WebPage {
   }
   Q_INVOKABLE void processEnded();
   Q_INVOKABLE void answered() { client_.answered(); }
+  Q_INVOKABLE void scrollAnswered(bool used) { client_.scrollAnswered(used); }
 
  private:
   QuickPage(const Options& options, Client& client);
+  bool isReceiver(const QObject& receiver) const;
   QUrl address() const;
 
   Options options_;

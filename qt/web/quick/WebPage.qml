@@ -14,6 +14,11 @@ WebEngineView {
         runJavaScript("0", () => page.answered());
     }
 
+    // Asks the page's scroll notes. If they do not know, the page counts as having used the scrolling.
+    function askForScroll(question: string) {
+        runJavaScript(question, WebEngineScript.ApplicationWorld, used => page.scrollAnswered(used !== false));
+    }
+
     backgroundColor: page.background
     settings {
         allowWindowActivationFromJavaScript: false
@@ -30,7 +35,7 @@ WebEngineView {
         unknownUrlSchemePolicy: WebEngineSettings.AllowAllUnknownUrlSchemes // so that we are asked
     }
 
-    Component.onCompleted: userScripts.insert(page.refusals)
+    Component.onCompleted: userScripts.insert([page.refusals, page.scrollNotes])
 
     onLoadProgressChanged: if (loading) page.loading(loadProgress)
     onLoadingChanged: info => {

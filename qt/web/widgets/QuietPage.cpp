@@ -101,7 +101,7 @@ void QuietPage::refuseRequests() {
 }
 
 void QuietPage::refusePermissions() {
-  scripts().insert(WebEngine::refusals());
+  scripts().insert({WebEngine::refusals(), WebEngine::scrollNotes()});
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
   connect(this, &QWebEnginePage::permissionRequested, this,
           [](const QWebEnginePermission& permission) { permission.deny(); });

@@ -5,6 +5,7 @@
 
 #include "qt/Conversions.h"
 #include "qt/WebLog.h"
+#include "qt/web/WebEngine.h"
 #include "qt/web/widgets/QuietPage.h"
 #include "qt/web/widgets/QuietView.h"
 
@@ -15,15 +16,18 @@ WidgetPage::WidgetPage(QWebEngineProfile& profile, QWidget& place, const Options
     : view_(new QuietView(&place)),
       client_(client),
       allowsScripts_(options.settings.allowsContentJavaScript),
-      input_([this](const QObject& window) { return hasFocusIn(window); }, client) {
+      input_([this](const QObject& receiver) { return isReceiver(receiver); }, client) {
   view_->setPage(new QuietPage(profile, options, client, input_, view_));
 }
 
 WidgetPage::~WidgetPage() { delete view_; }
 
-bool WidgetPage::hasFocusIn(const QObject& window) const {
-  const QWidget* focused = view_ ? view_->window()->focusWidget() : nullptr;
-  return focused && view_->isAncestorOf(focused) && view_->window()->windowHandle() == &window;
+bool WidgetPage::isReceiver(const QObject& receiver) const {
+  if (!view_) return false;
+  const auto* widget = qobject_cast<const QWidget*>(&receiver);
+  if (widget) return view_->isAncestorOf(widget);
+  const QWidget* focused = view_->window()->focusWidget();
+  return focused && view_->isAncestorOf(focused) && view_->window()->windowHandle() == &receiver;
 }
 
 void WidgetPage::load(const foundation::URL& address) {
@@ -44,6 +48,19 @@ void WidgetPage::ask() {
     if (asked && answer.isValid()) client_.answered();
   });
 }
+
+void WidgetPage::askForScroll(double time) {
+  if (!view_) return;
+  view_->page()->runJavaScript(WebEngine::scrollAnswer(time), QWebEngineScript::ApplicationWorld,
+                               [this, asked = view_](const QVariant& used) {
+                                 if (!asked) return;
+                                 const bool unused =
+                                     used.typeId() == QMetaType::Bool && !used.toBool();
+                                 client_.scrollAnswered(!unused);
+                               });
+}
+
+bool WidgetPage::canGoForward() const { return view_ && view_->history()->canGoForward(); }
 
 bool WidgetPage::canGoBack() const { return view_ && view_->history()->canGoBack(); }
 

@@ -18,12 +18,14 @@ class WidgetPage final : public WebPage {
   void load(const foundation::URL& address) override;
   void stopLoad(std::chrono::milliseconds limit) override;
   void ask() override;
+  void askForScroll(double time) override;
   bool canGoBack() const override;
+  bool canGoForward() const override;
   void goBack() override;
   void goForward() override;
 
  private:
-  bool hasFocusIn(const QObject& window) const;
+  bool isReceiver(const QObject& receiver) const;
 
   QPointer<QWebEngineView> view_;
   Client& client_;
