@@ -16,7 +16,7 @@
 
 #include "bench/BenchApplication.h"
 #include "bench/QuickStage.h"
-#include "bench/Shopper.h"
+#include "bench/Subjects.h"
 #include "qt/quick/ViewItem.h"
 
 namespace quorix::bench {

@@ -1,5 +1,9 @@
 #include "qt/Engine.h"
 
+#include <QByteArray>
+#include <QDesktopServices>
+#include <QGuiApplication>
+#include <QUrl>
 #include <memory>
 #include <mutex>
 
@@ -8,10 +12,26 @@
 #include "qt/Desktop.h"
 #include "qt/QtFonts.h"
 #include "qt/QtMainQueue.h"
-#include "qt/QtURLOpener.h"
 #include "qt/QtURLTransport.h"
 
 namespace quorix::qt {
+namespace {
+
+/// Opens addresses as Qt does: with the handler that the host has set for the scheme
+/// (`QDesktopServices::setUrlHandler`), else with the desktop's or the phone's. Does nothing
+/// without a `QGuiApplication`. Main thread.
+class QtURLOpener final : public uikit::URLOpener {
+ public:
+  void open(const foundation::URL& url) override {
+    if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance())) return;
+    // Strict, so that Qt's guesses cannot turn it into another address than the one let through.
+    const QUrl address =
+        QUrl::fromEncoded(QByteArray::fromStdString(url.absoluteString()), QUrl::StrictMode);
+    if (address.isValid()) QDesktopServices::openUrl(address);
+  }
+};
+
+}  // namespace
 
 void installEngine() {
   static std::once_flag once;

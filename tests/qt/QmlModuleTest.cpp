@@ -8,8 +8,7 @@
 #include "examples/common/TokenMint.h"
 #include "platform/foundation/URLSession.h"
 #include "platform/swiftui/TreePrinter.h"
-#include "qt/qml/InfoWidget.h"
-#include "qt/qml/ScoreWidget.h"
+#include "qt/qml/Widgets.h"
 #include "tests/qt/QuickScreen.h"
 
 namespace quorix::testing {
