@@ -5,7 +5,7 @@
 #include <QTimer>
 #include <cstdlib>
 
-#include "bench/Shopper.h"
+#include "bench/Subjects.h"
 #include "platform/foundation/URLSession.h"
 #include "qt/Engine.h"
 #include "qt/Picture.h"

@@ -12,7 +12,7 @@
 
 #include "bench/Allocations.h"
 #include "bench/BenchApplication.h"
-#include "bench/Shopper.h"
+#include "bench/Subjects.h"
 #include "qt/Picture.h"
 
 int main(int argc, char** argv) {

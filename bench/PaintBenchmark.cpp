@@ -15,10 +15,8 @@
 #include <vector>
 
 #include "bench/BenchApplication.h"
-#include "bench/InfoSubject.h"
-#include "bench/QmlPeer.h"
 #include "bench/QuickStage.h"
-#include "bench/Shopper.h"
+#include "bench/Subjects.h"
 #include "qt/Picture.h"
 #include "qt/quick/ViewItem.h"
 

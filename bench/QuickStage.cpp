@@ -1,7 +1,11 @@
 #include "bench/QuickStage.h"
 
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QQuickItem>
 #include <QQuickRenderTarget>
+#include <cstdlib>
 
 namespace quorix::bench {
 
@@ -21,6 +25,38 @@ void QuickStage::frame() {
   control_.sync();
   control_.render();
   control_.endFrame();
+}
+
+QmlPeer::QmlPeer(const QString& file)
+    : component_(&engine_, QUrl(QStringLiteral("qrc:/QuorixBench/%1.qml").arg(file))) {
+  if (component_.isReady()) return;
+  qCritical("%s", qPrintable(component_.errorString()));
+  std::abort();
+}
+
+QQuickItem* QmlPeer::make(const Subject& subject, QQuickItem* parent, double width) {
+  QVariantMap properties = subject.properties();
+  properties.insert(QStringLiteral("parent"), QVariant::fromValue(parent));
+  properties.insert(QStringLiteral("width"), width);
+  auto* item = qobject_cast<QQuickItem*>(component_.createWithInitialProperties(properties));
+  if (!item) std::abort();
+  return item;
+}
+
+void sendTap(QQuickWindow& window, QPointF at) {
+  for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+    QMouseEvent event(type, at, window.mapToGlobal(at), Qt::LeftButton,
+                      type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton,
+                      Qt::NoModifier);
+    QCoreApplication::sendEvent(&window, &event);
+  }
+}
+
+void sendEscape(QQuickWindow& window) {
+  for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+    QKeyEvent event(type, Qt::Key_Escape, Qt::NoModifier);
+    QCoreApplication::sendEvent(&window, &event);
+  }
 }
 
 }  // namespace quorix::bench

@@ -1,8 +1,14 @@
 #pragma once
 
 #include <QImage>
+#include <QQmlComponent>
+#include <QQmlEngine>
 #include <QQuickRenderControl>
 #include <QQuickWindow>
+
+#include "bench/Subjects.h"
+
+class QQuickItem;
 
 namespace quorix::bench {
 
@@ -26,5 +32,23 @@ class QuickStage {
   QQuickWindow window_{&control_};
   QImage image_;
 };
+
+/// Makes widgets in QML: one engine and one component, compiled ahead of time and loaded once.
+class QmlPeer {
+ public:
+  /// `file` is that of one of the peers: "ScoreRow", "LeanScoreRow", "InfoWidget".
+  explicit QmlPeer(const QString& file);
+
+  /// One of `width` points in `parent`, which does not own it.
+  QQuickItem* make(const Subject& subject, QQuickItem* parent, double width);
+
+ private:
+  QQmlEngine engine_;
+  QQmlComponent component_;
+};
+
+/// A finger's short tap.
+void sendTap(QQuickWindow& window, QPointF at);
+void sendEscape(QQuickWindow& window);
 
 }  // namespace quorix::bench

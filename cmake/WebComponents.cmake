@@ -1,5 +1,5 @@
 # The web engine, for each toolkit a library of its own that is loaded when the first page is to be
-# shown. They are installed into a folder "quorix" beside the other libraries; WebComponentLoader.h lists
+# shown. They are installed into a folder "quorix" beside the other libraries; WebComponent.h lists
 # the other folders.
 if(NOT QUORIX_WEB)
   message(STATUS "QUORIX_WEB is off: overlays open their pages outside the app")
@@ -41,7 +41,7 @@ endif()
 # of the machine that built it.
 include(GNUInstallDirs)
 file(RELATIVE_PATH from_program /prefix/${CMAKE_INSTALL_BINDIR} /prefix/${CMAKE_INSTALL_LIBDIR}/quorix)
-set_property(SOURCE ${PROJECT_SOURCE_DIR}/qt/WebComponentLoader.cpp APPEND PROPERTY
+set_property(SOURCE ${PROJECT_SOURCE_DIR}/qt/WebComponent.cpp APPEND PROPERTY
   COMPILE_DEFINITIONS QUORIX_WEB_FROM_PROGRAM="${from_program}"
   $<$<NOT:$<BOOL:${QUORIX_INSTALL}>>:QUORIX_WEB_BUILD_FOLDER="${PROJECT_BINARY_DIR}/quorix">)
 if(QUORIX_INSTALL)

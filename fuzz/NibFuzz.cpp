@@ -12,7 +12,7 @@ namespace {
 /// Half a point for each byte, on one line.
 struct PlainText final : text::TextEngine {
   text::TextMetrics measure(const text::AttributedText& text, double) override {
-    return {{leastWidth(text), 10}, 8, 8, 1};
+    return {{leastWidth(text), 10}};
   }
   double leastWidth(const text::AttributedText& text) override {
     double width = 0;

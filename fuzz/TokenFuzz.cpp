@@ -8,6 +8,7 @@
 #include "fuzz/Expect.h"
 #include "platform/foundation/Base64.h"
 #include "platform/hosting/ViewHost.h"
+#include "tests/core/EncodeBase64.h"
 #include "tests/core/FixedWidthText.h"
 
 using namespace quorix;
@@ -34,7 +35,7 @@ std::string minted(const TokenData& data) {
   char score[32] = {};
   std::to_chars(score, score + sizeof score, data.score);
   return "h." +
-         foundation::encodeBase64(
+         testing::encodeBase64(
              "{\"data\":{\"score\":" + std::string(score) + ",\"fee_currency\":" +
              quoted(data.currency) + ",\"base_fee_amount\":" + std::to_string(data.returnsFee) +
              ",\"discounted_fee_amount\":" + std::to_string(data.discountedReturnsFee) + "}}") +
@@ -77,9 +78,9 @@ void check(std::string_view token) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
   const std::string_view input(reinterpret_cast<const char*>(bytes), size);
   check(input);
-  check("h." + foundation::encodeBase64(input));
+  check("h." + testing::encodeBase64(input));
   if (const auto decoded = foundation::decodeBase64(std::string(input))) {
-    expect(foundation::encodeBase64(*decoded).size() == size, "base64 keeps its length");
+    expect(testing::encodeBase64(*decoded).size() == size, "base64 keeps its length");
   }
   return 0;
 }

@@ -41,23 +41,17 @@ Desktop::Desktop(QObject* application) : QObject(application) {
 }
 
 swiftui::Environment Desktop::environment(double scale) {
-  return {.appearance = appearance(),
-          .direction = direction(),
+  return {.appearance = appearanceOf(QGuiApplication::palette()),
+          .direction = directionOf(QGuiApplication::layoutDirection()),
           .textSize = textSize(),
           .scale = scale,
-          .language = language()};
+          .language = QLocale::languageToCode(QLocale().language()).toStdString()};
 }
-
-graphics::Appearance Desktop::appearance() { return appearanceOf(QGuiApplication::palette()); }
 
 graphics::Appearance Desktop::appearanceOf(const QPalette& palette) {
   const bool dark = palette.color(QPalette::Window).lightnessF() <
                     palette.color(QPalette::WindowText).lightnessF();
   return dark ? graphics::Appearance::dark : graphics::Appearance::light;
-}
-
-layout::LayoutDirection Desktop::direction() {
-  return directionOf(QGuiApplication::layoutDirection());
 }
 
 layout::LayoutDirection Desktop::directionOf(Qt::LayoutDirection direction) {
@@ -74,10 +68,6 @@ swiftui::ContentSizeCategory Desktop::textSize() {
   if (desktop && !enlarged) factor = desktop->portal_->textScale();
 #endif
   return swiftui::contentSizeCategoryFor(factor);
-}
-
-std::string Desktop::language() {
-  return QLocale::languageToCode(QLocale().language()).toStdString();
 }
 
 bool Desktop::prefersReducedMotion() {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QObject>
-#include <string>
 
 #include "platform/foundation/Export.h"
 #include "platform/swiftui/Environment.h"
@@ -25,14 +24,8 @@ class QUORIX_EXPORT Desktop : public QObject {
   static swiftui::Environment environment(double scale);
   /// Dark when the palette's window is darker than its text: there is no other word about it that
   /// every supported version passes on.
-  static graphics::Appearance appearance();
   static graphics::Appearance appearanceOf(const QPalette& palette);
-  static layout::LayoutDirection direction();
   static layout::LayoutDirection directionOf(Qt::LayoutDirection direction);
-  /// The user's text size, as far as Qt has not enlarged everything by it.
-  static swiftui::ContentSizeCategory textSize();
-  /// The application's language, as a code such as "tr".
-  static std::string language();
   /// The user asked for less motion: the latest word of the desktop's settings.
   static bool prefersReducedMotion();
 
@@ -44,6 +37,8 @@ class QUORIX_EXPORT Desktop : public QObject {
 
  private:
   explicit Desktop(QObject* application);
+  /// The user's, as far as Qt has not enlarged everything by it.
+  static swiftui::ContentSizeCategory textSize();
 
   DesktopPortal* portal_ = nullptr;  ///< where there is D-Bus
 };

@@ -3,7 +3,7 @@
 #include <QAccessibleInterface>
 #include <QPointer>
 
-#include "qt/AccessibleSurface.h"
+#include "qt/AccessibilityBridge.h"
 
 namespace quorix::qt {
 

@@ -1,17 +1,34 @@
 #include "qt/Engine.h"
 
+#include <QDesktopServices>
+#include <QGuiApplication>
 #include <memory>
 #include <mutex>
 
 #include "platform/foundation/URLSession.h"
 #include "platform/uikit/URLOpener.h"
+#include "qt/Conversions.h"
 #include "qt/Desktop.h"
 #include "qt/QtFonts.h"
 #include "qt/QtMainQueue.h"
-#include "qt/QtURLOpener.h"
 #include "qt/QtURLTransport.h"
 
 namespace quorix::qt {
+namespace {
+
+/// Opens addresses as Qt does: with the handler that the host has set for the scheme
+/// (`QDesktopServices::setUrlHandler`), else with the desktop's or the phone's. Does nothing
+/// without a `QGuiApplication`. Main thread.
+class QtURLOpener final : public uikit::URLOpener {
+ public:
+  void open(const foundation::URL& url) override {
+    if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance())) return;
+    const QUrl address = toQUrl(url);
+    if (address.isValid()) QDesktopServices::openUrl(address);
+  }
+};
+
+}  // namespace
 
 void installEngine() {
   static std::once_flag once;

@@ -15,12 +15,21 @@ class QUORIX_EXPORT FrameClock : private QAbstractAnimation {
   explicit FrameClock(std::function<bool(double)> tick) : tick_(std::move(tick)) {}
 
   /// Runs from now on, if it does not yet.
-  void start();
+  void start() {
+    if (state() == Running) return;
+    sinceTick_.start();
+    QAbstractAnimation::start();
+  }
   void stop() { QAbstractAnimation::stop(); }
 
  private:
   int duration() const override { return -1; }  // until it is stopped
-  void updateCurrentTime(int) override;
+  void updateCurrentTime(int) override {
+    if (state() != Running) return;
+    const double seconds = static_cast<double>(sinceTick_.nsecsElapsed()) * 1e-9;
+    sinceTick_.start();
+    if (!tick_(seconds)) stop();
+  }
 
   std::function<bool(double)> tick_;
   QElapsedTimer sinceTick_;

@@ -1,20 +1,62 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QThread>
+#include <QTimer>
 #include <QUrl>
 #include <chrono>
-#include <deque>
+#include <cstdint>
+#include <functional>
 #include <map>
 #include <memory>
 #include <mutex>
-#include <optional>
+#include <string>
 #include <vector>
 
 #include "platform/foundation/URLSession.h"
-#include "qt/Transfer.h"
+#include "qt/HTTPExchange.h"
 
 namespace quorix::qt {
+
+/// One GET over the wire, redirects included, whose answer goes to every task that has joined.
+///
+/// Bounded in size and in time: each answer has the limits of `HTTPResponseReader`, and the whole
+/// fails after `kRedirectLimit` redirects or its time limit. Lives on the network thread.
+class Transfer final : public QObject {
+ public:
+  using Ended = std::function<void(Transfer&, foundation::URLResponse)>;
+  using Task = std::uint64_t;
+
+  static constexpr int kRedirectLimit = 20;
+
+  /// Calls `ended` once, unless it is destroyed first. `ended` may `deleteLater` the transfer.
+  Transfer(QUrl address, std::chrono::milliseconds timeLimit, Ended ended);
+
+  const QUrl& address() const { return address_; }
+  std::chrono::milliseconds timeLimit() const { return deadline_.intervalAsDuration(); }
+
+  void join(Task task) { tasks_.push_back(task); }
+  const std::vector<Task>& tasks() const { return tasks_; }
+
+  /// Sends the request. The time limit counts from here.
+  void begin();
+  bool hasBegun() const { return begun_.isValid(); }
+
+ private:
+  void send(const QUrl& url);
+  void answered(foundation::URLResponse response, const std::string& location);
+  void follow(const QUrl& from, const QUrl& target);
+  void end(foundation::URLResponse response);
+
+  const QUrl address_;
+  Ended ended_;
+  QTimer deadline_;
+  QElapsedTimer begun_;
+  std::vector<Task> tasks_;
+  std::unique_ptr<HTTPExchange> exchange_;
+  int redirects_ = 0;
+};
 
 /// How every request ends that the application object's end overtakes.
 foundation::URLResponse cancelled();
@@ -55,14 +97,7 @@ class NetworkWorker final : public QObject {
   bool isCurrentThread() const { return QThread::currentThread() == &thread_; }
 
  private:
-  struct Waiting {
-    Task task;
-    Request request;
-  };
-
-  std::optional<Waiting> takeNext();
-  void performAll();
-  void performOne(Waiting waiting);
+  void begin(Task task, const Request& request);
   void share(Task task, const Request& request);
   void beginTransfers();
   void transferEnded(Transfer& transfer, const foundation::URLResponse& response);
@@ -74,7 +109,6 @@ class NetworkWorker final : public QObject {
   QThread thread_;
   std::mutex mutex_;
   Task lastTask_ = 0;
-  std::deque<Waiting> waiting_;             // for their turn to ask the protocols
   std::map<Task, Completion> completions_;  // of all tasks that have not completed
   bool ending_ = false;
   bool finishing_ = false;  // nothing of a host's runs on the thread any more

@@ -162,9 +162,6 @@ ShapedText Paragraph::breakLines(double width, bool glyphs) {
     line.setLineWidth(std::max(width, 0.0) / unit_);
     line.setPosition({0, -line.ascent()});
     const double baseline = top + line.ascent() * unit_;
-    if (number == 0) shaped.metrics.firstBaseline = baseline;
-    shaped.metrics.lastBaseline = baseline;
-    shaped.metrics.lines = number + 1;
     natural = std::max(natural, line.naturalTextWidth() * unit_);
     needed = std::max(needed, widthNeeded(line) * unit_);
     top += (line.ascent() + line.descent() + std::max(line.leading(), 0.0)) * unit_;

@@ -3,13 +3,16 @@
 #include <QImage>
 
 #include "platform/foundation/Export.h"
+#include "platform/hosting/StillScene.h"
 #include "platform/render/Scene.h"
 #include "platform/swiftui/View.h"
-#include "qt/PictureOptions.h"
 
 class QPainter;
 
 namespace quorix::qt {
+
+/// What a picture of a view is to look like.
+using PictureOptions = hosting::StillOptions;
 
 /// Draws `view` once, without a window: for tools, tests and anything that shows a still picture.
 /// The image has `environment.scale` pixels for each point, rounded up to whole pixels, and carries

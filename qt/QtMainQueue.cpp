@@ -3,7 +3,6 @@
 #include <QCoreApplication>
 #include <QObject>
 #include <QTimer>
-#include <deque>
 #include <memory>
 #include <mutex>
 #include <utility>
@@ -13,73 +12,54 @@
 namespace quorix::qt {
 namespace {
 
-using Work = foundation::MainQueue::Work;
+using foundation::MainQueue;
 
-// The work is kept here and Qt is only told to take a turn: an event dies with its receiver, and
-// work must not.
-struct Queue {
+/// Takes the turns, for as long as there is an application object. Turns that it has not taken then
+/// are lost with it; their work waits in the queue for the next one.
+struct Receiver {
   std::mutex mutex;
-  std::deque<Work> waiting;
-  std::unique_ptr<QObject> receiver;  // of the turns; as long as there is an application object
+  std::unique_ptr<QObject> object;
 };
 
 // Never destroyed: other threads may still enqueue while the process ends.
-Queue& queue() {
-  static Queue& instance = *new Queue;
+Receiver& receiver() {
+  static Receiver& instance = *new Receiver;
   return instance;
 }
 
-void runNext() {
-  Queue& q = queue();
-  Work work;
-  {
-    const std::scoped_lock lock(q.mutex);
-    if (q.waiting.empty()) return;
-    work = std::move(q.waiting.front());
-    q.waiting.pop_front();
-  }
-  work();
-}
-
-void postTurn(QObject* receiver) {
-  QMetaObject::invokeMethod(
-      receiver, [] { runNext(); }, Qt::QueuedConnection);
-}
-
-void enqueue(Work work) {
-  Queue& q = queue();
+void post(MainQueue::Work turn) {
   // The lock is held while posting, so that the receiver cannot go away in between.
-  const std::scoped_lock lock(q.mutex);
-  q.waiting.push_back(std::move(work));
-  if (q.receiver) postTurn(q.receiver.get());
+  const std::scoped_lock lock(receiver().mutex);
+  QObject* const object = receiver().object.get();
+  if (object) QMetaObject::invokeMethod(object, std::move(turn), Qt::QueuedConnection);
 }
 
-void startTimer(std::chrono::milliseconds delay, Work work) {
-  Queue& q = queue();
-  if (q.receiver) QTimer::singleShot(delay, q.receiver.get(), std::move(work));
+void startTimer(std::chrono::milliseconds delay, MainQueue::Work work) {
+  QObject* const object = receiver().object.get();
+  if (object) QTimer::singleShot(delay, object, std::move(work));
 }
 
 void applicationEnds() {
-  Queue& q = queue();
-  std::unique_ptr<QObject> receiver;
-  const std::scoped_lock lock(q.mutex);
-  receiver = std::move(q.receiver);
+  std::unique_ptr<QObject> object;
+  const std::scoped_lock lock(receiver().mutex);
+  object = std::move(receiver().object);
 }
 
 void applicationBegins() {
   qAddPostRoutine(applicationEnds);  // Qt forgets its post routines with each application
-  Queue& q = queue();
-  const std::scoped_lock lock(q.mutex);
-  q.receiver = std::make_unique<QObject>();
-  for (std::size_t turn = 0; turn < q.waiting.size(); ++turn) postTurn(q.receiver.get());
+  {
+    const std::scoped_lock lock(receiver().mutex);
+    receiver().object = std::make_unique<QObject>();
+  }
+  MainQueue::install(post, startTimer);  // again: a turn for each piece that waits
 }
 
 }  // namespace
 
 void QtMainQueue::install() {
   static const bool installed = [] {
+    MainQueue::install(post, startTimer);
     qAddPreRoutine(applicationBegins);  // at once when there is an application already
-    foundation::MainQueue::install(enqueue, startTimer);
     return true;
   }();
   static_cast<void>(installed);

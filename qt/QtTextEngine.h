@@ -10,7 +10,6 @@
 #include "platform/text/TextEngine.h"
 #include "qt/Paragraph.h"
 #include "qt/QtFonts.h"
-#include "qt/ShapedText.h"
 #include "qt/TextPictures.h"
 
 namespace quorix::qt {

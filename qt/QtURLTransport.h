@@ -7,7 +7,7 @@
 
 namespace quorix::qt {
 
-/// The HTTP session's requests over Qt's sockets, on the process's `NetworkThread`.
+/// The HTTP session's requests over Qt's sockets, on one thread for the process.
 ///
 /// Plain GETs by HTTP/1.1, each on a connection of its own, which is closed after the answer: no
 /// cache, cookies or credentials. The application's proxies (`QNetworkProxyFactory`; of HTTP ones

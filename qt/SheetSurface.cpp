@@ -13,7 +13,6 @@
 #include "qt/QtTextEngine.h"
 #include "qt/ViewAccessible.h"
 #include "qt/WebComponent.h"
-#include "qt/WebComponentLoader.h"
 
 namespace quorix::qt {
 

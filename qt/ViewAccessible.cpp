@@ -16,15 +16,14 @@ ViewAccessible* listening(QObject& owner) {
 
 }  // namespace
 
-ViewAccessible::ViewAccessible(QObject* owner) : QAccessibleObject(owner), sole_(owner, 0) {
-  for (const auto& element : surface()->responder().elements()) {
-    told_.push_back({element.label, element.hint});
-  }
-  covered_ = surface()->isCovered();
-}
+ViewAccessible::ViewAccessible(QObject* owner)
+    : QAccessibleObject(owner),
+      sole_(owner, 0),
+      told_(toTell()),
+      covered_(surface()->isCovered()) {}
 
 ViewAccessible::~ViewAccessible() {
-  for (const QAccessible::Id id : children_) QAccessible::deleteAccessibleInterface(id);
+  for (const QAccessible::Id id : elements_) QAccessible::deleteAccessibleInterface(id);
 }
 
 AccessibleSurface* ViewAccessible::surface() const {
@@ -40,13 +39,13 @@ void ViewAccessible::syncChildren() const {
   AccessibleSurface* shown = surface();
   const std::size_t count =
       shown && !isSoleElement() ? shown->responder().elements().size() : std::size_t{0};
-  while (children_.size() > count) {
-    QAccessible::deleteAccessibleInterface(children_.back());
-    children_.pop_back();
+  while (elements_.size() > count) {
+    QAccessible::deleteAccessibleInterface(elements_.back());
+    elements_.pop_back();
   }
-  while (children_.size() < count) {
-    children_.push_back(QAccessible::registerAccessibleInterface(
-        new ElementAccessible(object(), static_cast<int>(children_.size()))));
+  while (elements_.size() < count) {
+    elements_.push_back(QAccessible::registerAccessibleInterface(
+        new ElementAccessible(object(), static_cast<int>(elements_.size()))));
   }
 }
 
@@ -79,12 +78,16 @@ void ViewAccessible::coverChanged(QObject& owner) {
   for (std::size_t i = 0; i < self->told_.size(); ++i) self->tell(event, i);
 }
 
-void ViewAccessible::update() {
+std::vector<ViewAccessible::Told> ViewAccessible::toTell() const {
   std::vector<Told> now;
   for (const auto& element : surface()->responder().elements()) {
     now.push_back({element.label, element.hint});
   }
-  const std::vector<Told> before = std::exchange(told_, std::move(now));
+  return now;
+}
+
+void ViewAccessible::update() {
+  const std::vector<Told> before = std::exchange(told_, toTell());
   const std::size_t common = std::min(before.size(), told_.size());
   for (std::size_t i = told_.size(); i < before.size(); ++i) tell(QAccessible::ObjectHide, i);
   const bool wasSole = before.size() == 1;
@@ -103,8 +106,8 @@ void ViewAccessible::update() {
 void ViewAccessible::tell(QAccessible::Event event, std::size_t index) const {
   QAccessibleInterface* about = const_cast<ViewAccessible*>(this);
   if (!isSoleElement()) {
-    if (index >= children_.size()) return;
-    about = QAccessible::accessibleInterface(children_[index]);
+    if (index >= elements_.size()) return;
+    about = QAccessible::accessibleInterface(elements_[index]);
   }
   QAccessibleEvent said(about, event);
   QAccessible::updateAccessibility(&said);
@@ -153,13 +156,9 @@ QAccessible::State ViewAccessible::state() const {
 }
 
 QAccessibleInterface* ViewAccessible::focusChild() const {
-  AccessibleSurface* shown = surface();
-  if (!shown || isSoleElement()) return nullptr;
-  for (int i = 0; i < childCount(); ++i) {
-    QAccessibleInterface* element = child(i);
-    if (element->state().focused) return element;
-  }
-  return nullptr;
+  const auto all = children();
+  const auto focused = std::ranges::find_if(all, [](auto* one) { return one->state().focused; });
+  return isSoleElement() || focused == all.end() ? nullptr : *focused;
 }
 
 QAccessibleInterface* ViewAccessible::parent() const {
@@ -180,30 +179,26 @@ std::vector<QAccessibleInterface*> ViewAccessible::views() const {
   return all;
 }
 
-QAccessibleInterface* ViewAccessible::child(int index) const {
+std::vector<QAccessibleInterface*> ViewAccessible::children() const {
   syncChildren();
-  const auto at = static_cast<std::size_t>(index);
-  if (at < children_.size()) return QAccessible::accessibleInterface(children_[at]);
-  const auto others = views();
-  return at - children_.size() < others.size() ? others[at - children_.size()] : nullptr;
+  std::vector<QAccessibleInterface*> all;
+  for (const auto id : elements_) all.push_back(QAccessible::accessibleInterface(id));
+  for (auto* view : views()) all.push_back(view);
+  return all;
 }
 
-int ViewAccessible::childCount() const {
-  syncChildren();
-  return static_cast<int>(children_.size() + views().size());
+QAccessibleInterface* ViewAccessible::child(int index) const {
+  const auto all = children();
+  const auto at = static_cast<std::size_t>(index);
+  return at < all.size() ? all[at] : nullptr;
 }
+
+int ViewAccessible::childCount() const { return static_cast<int>(children().size()); }
 
 int ViewAccessible::indexOfChild(const QAccessibleInterface* child) const {
-  syncChildren();
-  for (std::size_t i = 0; i < children_.size(); ++i) {
-    if (QAccessible::accessibleInterface(children_[i]) == child) return static_cast<int>(i);
-  }
-  const auto others = views();
-  const auto found = std::find(others.begin(), others.end(), child);
-  if (found != others.end()) {
-    return static_cast<int>(children_.size()) + static_cast<int>(found - others.begin());
-  }
-  return -1;
+  const auto all = children();
+  const auto found = std::ranges::find(all, child);
+  return found == all.end() ? -1 : static_cast<int>(found - all.begin());
 }
 
 void* ViewAccessible::interface_cast(QAccessible::InterfaceType type) {

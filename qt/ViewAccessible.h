@@ -50,15 +50,18 @@ class ViewAccessible : public QAccessibleObject, public QAccessibleActionInterfa
   };
 
   AccessibleSurface* surface() const;
+  std::vector<Told> toTell() const;
   bool isSoleElement() const;
   void syncChildren() const;
   /// What tells of itself among the children.
   std::vector<QAccessibleInterface*> views() const;
+  /// The elements, and then those.
+  std::vector<QAccessibleInterface*> children() const;
   void update();
   void tell(QAccessible::Event event, std::size_t index) const;
 
   ElementAccessible sole_;
-  mutable std::vector<QAccessible::Id> children_;
+  mutable std::vector<QAccessible::Id> elements_;
   std::vector<Told> told_;
   bool covered_;  ///< as told last
 };

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <QString>
+#include <QStringList>
 #include <memory>
 
+#include "platform/foundation/Export.h"
 #include "qt/WebPage.h"
 
 namespace quorix::qt {
@@ -26,5 +29,40 @@ constexpr char webComponentSymbol[] = "quorixWebComponent";
 
 /// The component, or null when it is built for another version than `version`.
 using WebComponentEntry = WebComponent* (*)(int version);
+
+/// Finds the libraries that hold the web engine ("QuorixWebQuick", "QuorixWebWidgets") and loads
+/// each on first use, for the rest of the process. Main thread.
+///
+/// Only folders of the program and of this library are searched, by absolute paths and in this
+/// order:
+///
+/// 1. the program's folder, and "quorix" in it;
+/// 2. where this code is in a shared library: the library's folder, and "quorix" in it. A library
+///    that was loaded by a relative path counts as nowhere;
+/// 3. where the libraries are installed, as seen from a program under the same prefix;
+/// 4. for a host that builds the library as part of its own build: that build's folder.
+///
+/// The current folder, the dynamic linker's search and Qt's plugin paths (QT_PLUGIN_PATH, qt.conf)
+/// are not searched: others may write there, and their code must not run in the host.
+///
+/// Qt WebEngine needs this call before the application object is made:
+///
+///     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+///
+/// Without it a window that is drawn with OpenGL shows no page: the address is opened outside the
+/// app instead.
+namespace WebComponentLoader {
+
+/// Whether there is a library of this name to load. Cheap: nothing is loaded.
+QUORIX_EXPORT bool isThere(const QString& name);
+/// Whether `load` found one before.
+bool isLoaded(const QString& name);
+/// The component, or null when it is missing, does not load or is of another version.
+WebComponent* load(const QString& name);
+
+/// Where they are looked for, in order.
+QStringList folders();
+
+}  // namespace WebComponentLoader
 
 }  // namespace quorix::qt

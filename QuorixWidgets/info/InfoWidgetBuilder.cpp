@@ -5,7 +5,6 @@
 #include "QuorixWidgets/info/InfoWidgetView.h"
 #include "QuorixWidgets/info/InfoWidgetViewModel.h"
 #include "QuorixWidgets/info/UIInfoWidget.h"
-#include "QuorixWidgets/info/UIInfoWidgetViewModel.h"
 
 namespace quorix {
 

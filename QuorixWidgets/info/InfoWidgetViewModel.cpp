@@ -1,11 +1,43 @@
 #include "QuorixWidgets/info/InfoWidgetViewModel.h"
 
 #include <string_view>
+#include <utility>
 
-#include "QuorixWidgets/info/InfoTitle.h"
 #include "QuorixWidgets/localization/Strings.h"
+#include "QuorixWidgets/localization/UIFont.h"
+#include "platform/foundation/Error.h"
+#include "platform/foundation/UnicodeText.h"
+#include "platform/text/TextBound.h"
 
 namespace quorix {
+namespace {
+
+std::vector<InfoTitlePart> partsOf(std::string_view locale) {
+  // Only this much is shown, and comparing all characters of an endless title would take long.
+  const auto words = [&](std::string_view key) { return text::bounded(localized(key, locale)); };
+  return splitInfoTitle(words("info-widget-title"), words("info-widget-title-number"));
+}
+
+}  // namespace
+
+std::vector<InfoTitlePart> splitInfoTitle(std::string_view title, std::string_view number) {
+  auto pieces = foundation::components(title, number);
+  std::erase_if(pieces, [](std::string_view piece) { return piece.empty(); });
+  if (pieces.empty()) return {};
+  const auto text = [](std::string_view piece) { return InfoTitlePart{std::string(piece), false}; };
+  InfoTitlePart figure{std::string(number), true};
+  if (pieces.size() == 1) return {std::move(figure), text(pieces[0])};
+  return {text(pieces[0]), std::move(figure), text(pieces[1])};
+}
+
+bool hasInfoTitle(std::string_view locale) { return !partsOf(locale).empty(); }
+
+std::vector<InfoTitlePart> infoTitle(std::string_view locale) {
+  auto parts = partsOf(locale);
+  if (parts.empty()) foundation::fatalError("Index out of range", "QuorixWidgets/InfoTitle");
+  return parts;
+}
+
 namespace {
 
 using swiftui::Text;
@@ -46,6 +78,47 @@ std::optional<Text> InfoWidgetViewModel::getTitle() const {
                           : rate("widget-title-return-rate-high", 100 - percentile);
   return Text::verbatim(boldStart()).bold() + figure + text("widget-read-more").underline() +
          text("widget-title-end");
+}
+
+namespace {
+
+constexpr double fontSize = 13;
+
+const uikit::UIFont::Ref& cached(uikit::UIFont::Ref& cache,
+                                 const std::optional<std::string>& styleFace,
+                                 const QuorixFont& (*ownFace)()) {
+  if (!cache && styleFace) cache = uikit::UIFont::named(*styleFace, fontSize);
+  if (!cache) cache = UIFont::Quorix::fixed(ownFace(), fontSize);
+  return cache;
+}
+
+}  // namespace
+
+UIInfoWidgetViewModel::UIInfoWidgetViewModel(std::optional<std::string> shopper,
+                                             std::string languageCode,
+                                             UIKitStyleConfiguration style)
+    : name(std::move(shopper)),
+      locale(std::move(languageCode)),
+      titleText(*this, {}),
+      styleConfiguration(std::move(style)) {
+  titleText = getInfoTitle();
+}
+
+const uikit::UIFont::Ref& UIInfoWidgetViewModel::regularFont() const {
+  return cached(regularFont_, styleConfiguration.regularFont, QuorixFont::regular);
+}
+
+const uikit::UIFont::Ref& UIInfoWidgetViewModel::semiBoldFont() const {
+  return cached(semiBoldFont_, styleConfiguration.semiBoldFont, QuorixFont::medium);
+}
+
+uikit::NSAttributedString UIInfoWidgetViewModel::getInfoTitle() const {
+  uikit::NSMutableAttributedString title;
+  for (const InfoTitlePart& part : infoTitle(locale)) {
+    const auto& font = part.isNumber ? semiBoldFont() : regularFont();
+    title.append(uikit::NSAttributedString(part.text, {.font = font}));
+  }
+  return title;
 }
 
 }  // namespace quorix

@@ -2,15 +2,41 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
 #include "QuorixWidgets/data/UserDetails.h"
 #include "QuorixWidgets/localization/StyleConfiguration.h"
 #include "platform/combine/ObservableObject.h"
+#include "platform/foundation/Export.h"
 #include "platform/swiftui/Text.h"
+#include "platform/uikit/NSAttributedString.h"
+#include "platform/uikit/UIFont.h"
 
 namespace quorix {
+
+/// A part of the info widget's general title.
+struct InfoTitlePart {
+  std::string text;
+  bool isNumber = false;  ///< the figure, which is set in semi-bold
+  bool operator==(const InfoTitlePart&) const = default;
+};
+
+/// Splits `title` at `number`: the text before it, the number, and the text up to the next
+/// occurrence. If only one piece of text remains, the number comes first. Empty if none remains.
+/// Any thread.
+///
+///     splitInfoTitle("A 20% B", "20%")  // "A ", "20%" (the number), " B"
+std::vector<InfoTitlePart> splitInfoTitle(std::string_view title, std::string_view number);
+
+/// Whether the string table of `locale` has a general title. The library's own tables have one;
+/// check tables that are being edited, as a preview shows. Any thread.
+QUORIX_EXPORT bool hasInfoTitle(std::string_view locale);
+
+/// The general title in the string table of `locale`. A table whose title is empty, or only the
+/// number, stops the process: the widget cannot be shown. Any thread.
+std::vector<InfoTitlePart> infoTitle(std::string_view locale);
 
 /// The texts and fonts of a declarative info widget. Texts are looked up at each call; the model
 /// publishes no changes. Main thread.
@@ -40,6 +66,35 @@ class InfoWidgetViewModel final : public combine::ObservableObject {
   std::optional<swiftui::Text> getTitle() const;
   /// The text that `getTitle` begins with in bold; may be empty.
   std::string boldStart() const;
+};
+
+/// The title of the imperative info widget as attributed text, made once, and its fonts. Main
+/// thread.
+class UIInfoWidgetViewModel final : public combine::ObservableObject {
+ public:
+  const std::optional<std::string> name;  ///< the shopper's, for the web overlay
+  const std::string locale;               ///< a language code
+
+  // 13 points. The style's face if the font manager knows it, else the library's own, without
+  // which the process stops. Resolved on first read and kept.
+  const uikit::UIFont::Ref& regularFont() const;
+  const uikit::UIFont::Ref& semiBoldFont() const;
+
+  /// The runs have fonts and no color.
+  combine::Published<uikit::NSAttributedString> titleText;
+  const UIKitStyleConfiguration styleConfiguration;
+  std::vector<combine::Cancellable> cancellables;  ///< end with the model; the library makes none
+  std::optional<UserDetails> userDetails;
+
+  /// `locale` is the language code of every text. A string table without a title stops the process.
+  UIInfoWidgetViewModel(std::optional<std::string> name, std::string locale,
+                        UIKitStyleConfiguration styleConfiguration);
+
+ private:
+  uikit::NSAttributedString getInfoTitle() const;
+
+  mutable uikit::UIFont::Ref regularFont_;
+  mutable uikit::UIFont::Ref semiBoldFont_;
 };
 
 }  // namespace quorix

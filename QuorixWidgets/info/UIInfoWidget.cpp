@@ -7,7 +7,7 @@
 #include "QuorixWidgets/localization/ResourceBundle.h"
 #include "QuorixWidgets/localization/Strings.h"
 #include "QuorixWidgets/overlay/WebViewController.h"
-#include "platform/foundation/FatalError.h"
+#include "platform/foundation/Error.h"
 #include "platform/foundation/MainQueue.h"
 #include "platform/uikit/Nib.h"
 #include "platform/uikit/UIApplication.h"

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "QuorixWidgets/info/UIInfoWidgetViewModel.h"
+#include "QuorixWidgets/info/InfoWidgetViewModel.h"
 #include "platform/uikit/UILabel.h"
 #include "platform/uikit/UIView.h"
 #include "platform/uikit/UIViewController.h"

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "QuorixWidgets/localization/ResourceBundle.h"
-#include "platform/foundation/FatalError.h"
+#include "platform/foundation/Error.h"
 
 namespace quorix {
 namespace {

@@ -7,7 +7,7 @@
 #include "QuorixWidgets/localization/ResourceBundle.h"
 #include "QuorixWidgets/localization/TovaFont.h"
 #include "QuorixWidgets/localization/UIFont.h"
-#include "platform/foundation/FatalError.h"
+#include "platform/foundation/Error.h"
 #include "platform/graphics/AssetCatalog.h"
 #include "platform/graphics/FontManager.h"
 

@@ -4,7 +4,7 @@
 
 #include "QuorixWidgets/localization/Assets.h"
 #include "QuorixWidgets/overlay/PageNotice.h"
-#include "platform/foundation/FatalError.h"
+#include "platform/foundation/Error.h"
 #include "platform/uikit/UIApplication.h"
 
 namespace quorix {

@@ -2,7 +2,7 @@
 
 #include "QuorixWidgets/localization/Assets.h"
 #include "QuorixWidgets/score/ScoreWidgetSheet.h"
-#include "QuorixWidgets/score/ScoreWidgetTexts.h"
+#include "QuorixWidgets/score/ScoreWidgetViewModel.h"
 #include "platform/swiftui/Elements.h"
 
 namespace quorix {

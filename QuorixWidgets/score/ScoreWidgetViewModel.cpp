@@ -3,7 +3,7 @@
 #include <cmath>
 #include <utility>
 
-#include "platform/foundation/FatalError.h"
+#include "platform/foundation/Error.h"
 
 namespace quorix {
 namespace {
@@ -57,6 +57,27 @@ void ScoreWidgetViewModel::getReducedReturnFee(std::int64_t fee) {
 /// The hundredths are dropped, never rounded.
 std::optional<std::string> ScoreWidgetViewModel::feeText(std::int64_t hundredths) const {
   return numberFormatter_.text(hundredths / hundredthsInUnit);
+}
+
+using swiftui::Text;
+
+Text ScoreWidgetTexts::rowLabel() const {
+  const std::string title(text("returns", "title"));
+  if (!model_.hasDiscount) return Text::localized("%@ %@", {title, model_.baseReturnFee});
+  return Text::localized("%@ %@ %@, %@ %@",
+                         {title, std::string(text("labels", "discounted")), model_.reducedReturnFee,
+                          std::string(text("labels", "original")), model_.baseReturnFee});
+}
+
+Text ScoreWidgetTexts::feeLabel() const {
+  if (!model_.hasDiscount) return rowLabel();
+  return Text::localized("%@ %@, %@ %@",
+                         {std::string(text("labels", "discounted")), model_.reducedReturnFee,
+                          std::string(text("labels", "original")), model_.baseReturnFee});
+}
+
+Text ScoreWidgetTexts::rateLabel() const {
+  return Text::localized("%@ %@", {std::string(text("returns", "rate")), model_.returnRate});
 }
 
 }  // namespace quorix

@@ -3,14 +3,17 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "QuorixWidgets/data/TokenData.h"
+#include "QuorixWidgets/localization/LocalizationRepository.h"
 #include "QuorixWidgets/localization/StyleConfiguration.h"
 #include "QuorixWidgets/score/ScoreWidgetStyle.h"
 #include "platform/combine/ObservableObject.h"
 #include "platform/foundation/CurrencyFormatter.h"
 #include "platform/foundation/Export.h"
 #include "platform/swiftui/Font.h"
+#include "platform/swiftui/Text.h"
 
 namespace quorix {
 
@@ -51,6 +54,29 @@ class ScoreWidgetViewModel final : public combine::ObservableObject {
   double score_;
   foundation::Locale locale_;
   foundation::CurrencyFormatter numberFormatter_;
+};
+
+/// The words of the score row and its sheet: the table's texts, and the accessibility labels that
+/// are composed of them and the figures. A missing text is empty.
+class ScoreWidgetTexts {
+ public:
+  ScoreWidgetTexts(const ScoreWidgetViewModel& model, const LocalizationRepository& localization)
+      : model_(model), table_(*localization.strings.get()) {}
+
+  std::string_view text(std::string_view section, std::string_view key) const {
+    return table_.text(section, key);
+  }
+  swiftui::Text verbatim(std::string_view section, std::string_view key) const {
+    return swiftui::Text::verbatim(text(section, key));
+  }
+
+  swiftui::Text rowLabel() const;
+  swiftui::Text feeLabel() const;
+  swiftui::Text rateLabel() const;
+
+ private:
+  const ScoreWidgetViewModel& model_;
+  const TranslationTable& table_;
 };
 
 }  // namespace quorix

@@ -30,7 +30,7 @@ class FixedWidths final : public text::TextEngine {
     for (const text::Run& run : text.runs) {
       width += static_cast<double>(run.text.size()) * run.font.points / 2;
     }
-    return {{width, 17}, 13, 13, 1};
+    return {{width, 17}};
   }
   double leastWidth(const text::AttributedText& text) override {
     return measure(text, 0).size.width;

@@ -13,7 +13,7 @@
 
 #include "bench/BenchApplication.h"
 #include "bench/QuickStage.h"
-#include "bench/Shopper.h"
+#include "bench/Subjects.h"
 #include "bench/list/RowList.h"
 #include "qt/quick/ViewItem.h"
 

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "bench/Shopper.h"
+#include "bench/Subjects.h"
 
 namespace quorix::bench {
 

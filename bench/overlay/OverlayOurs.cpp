@@ -3,8 +3,8 @@
 // milliseconds the sheet and the page were to be seen.
 
 #include "bench/BenchApplication.h"
-#include "bench/InfoSubject.h"
-#include "bench/Input.h"
+#include "bench/QuickStage.h"
+#include "bench/Subjects.h"
 #include "bench/overlay/OverlayClock.h"
 #include "platform/uikit/URLOpener.h"
 #include "qt/quick/ViewItem.h"

@@ -1,25 +1,164 @@
+#include <QEventLoop>
+#include <QImage>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QTimer>
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
+#include <functional>
+#include <memory>
+#include <string_view>
+
+#include "QuorixWidgets/data/TokenData.h"
+#include "QuorixWidgets/localization/LocalizationRepository.h"
+#include "QuorixWidgets/score/ScoreWidgetViewModel.h"
+#include "bench/BenchApplication.h"
+#include "bench/QuickStage.h"
+#include "bench/Subjects.h"
+#include "qt/quick/ViewItem.h"
+
 // A tap on a score row opens its sheet, the first time in the process and later. Prints after how
 // many milliseconds the sheet's first frame was on its way, and how much work that was. Without
 // motion that frame shows the sheet at rest.
 //
 //   sheet_open ours|qml motion|still
 
-#include <algorithm>
-#include <array>
-#include <cstdio>
-#include <cstdlib>
-#include <memory>
-#include <string_view>
-
-#include "bench/BenchApplication.h"
-#include "bench/Input.h"
-#include "bench/QmlPeer.h"
-#include "bench/sheet/SheetClock.h"
-#include "bench/sheet/SheetSubject.h"
-#include "qt/quick/ViewItem.h"
-
 namespace quorix::bench {
 namespace {
+
+/// A score row with the sheet behind it, which the one in QML gets the texts of.
+class SheetSubject final : public Subject {
+ public:
+  SheetSubject();
+
+  swiftui::View ours() const override { return shopper_.ours(); }
+  QVariantMap properties() const override { return properties_; }
+  QWidget* labels(QWidget* parent) const override { return shopper_.labels(parent); }
+
+ private:
+  Shopper shopper_{0};
+  QVariantMap properties_;
+};
+
+SheetSubject::SheetSubject() : properties_(shopper_.properties()) {
+  const auto figures = parseTokenData(shopper_.token);
+  if (!figures) std::abort();
+  const ScoreWidgetViewModel model("my-shop", *figures, "en", {std::nullopt, std::nullopt});
+  const auto localization = LocalizationRepository::make("en");
+  const ScoreWidgetTexts texts(model, *localization);
+  const auto add = [&](const char* name, std::string_view text) {
+    properties_.insert(QLatin1String(name),
+                       QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+  };
+  add("feeName", texts.text("returns", "fee"));
+  add("rateName", texts.text("returns", "rate"));
+  add("rate", model.returnRate.get());
+  add("disclaimer", texts.text("returns", "disclaimer"));
+  add("closeName", texts.text("actions", "close"));
+}
+
+/// Watches a window from a tap on.
+class SheetClock {
+ public:
+  /// Milliseconds since the tap.
+  struct Moments {
+    double first = 0;  ///< the first frame with the sheet is on its way
+    double work = 0;   ///< until then, of the thread's processor time
+  };
+
+  /// `isSheet` knows the sheet's item.
+  SheetClock(QQuickWindow& window, std::function<bool(const QQuickItem&)> isSheet);
+
+  /// `tap` opens the sheet. One that does not come ends the process.
+  Moments open(const std::function<void()>& tap);
+  /// Whether the sheet's first frame is as its last. Times nothing.
+  bool restsAtOnce(const std::function<void()>& tap);
+  /// `close` closes it; one that stays ends the process.
+  void close(const std::function<void()>& close);
+
+ private:
+  void frameIsOut();
+  bool isUp() const;
+  void untilRest();
+
+  QQuickWindow& window_;
+  std::function<bool(const QQuickItem&)> isSheet_;
+  Moments start_;
+  Moments moments_;
+  bool moved_ = false;
+  bool looking_ = false;
+  QImage seen_;
+};
+
+/// Milliseconds without a frame that make a rest: motion wants the next one within 16.
+constexpr int kRest = 100;
+
+double milliseconds(clockid_t clock) {
+  timespec now{};
+  clock_gettime(clock, &now);
+  return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
+}
+
+bool contains(const QQuickItem& item, const std::function<bool(const QQuickItem&)>& matches) {
+  const auto children = item.childItems();
+  return std::any_of(children.begin(), children.end(), [&](const QQuickItem* child) {
+    return child->isVisible() && (matches(*child) || contains(*child, matches));
+  });
+}
+
+SheetClock::SheetClock(QQuickWindow& window, std::function<bool(const QQuickItem&)> isSheet)
+    : window_(window), isSheet_(std::move(isSheet)) {
+  QObject::connect(&window, &QQuickWindow::frameSwapped, &window, [this] { frameIsOut(); });
+}
+
+bool SheetClock::isUp() const { return contains(*window_.contentItem(), isSheet_); }
+
+void SheetClock::frameIsOut() {
+  moved_ = true;
+  if (!isUp()) return;
+  if (moments_.first == 0) {
+    moments_.first = milliseconds(CLOCK_MONOTONIC) - start_.first;
+    moments_.work = milliseconds(CLOCK_THREAD_CPUTIME_ID) - start_.work;
+    if (looking_) seen_ = window_.grabWindow();
+  }
+}
+
+SheetClock::Moments SheetClock::open(const std::function<void()>& tap) {
+  moments_ = {};
+  start_ = {milliseconds(CLOCK_MONOTONIC), milliseconds(CLOCK_THREAD_CPUTIME_ID)};
+  tap();
+  untilRest();
+  if (moments_.first > 0) return moments_;
+  std::fputs("the sheet did not come\n", stderr);
+  std::_Exit(1);
+}
+
+bool SheetClock::restsAtOnce(const std::function<void()>& tap) {
+  looking_ = true;
+  open(tap);
+  looking_ = false;
+  return seen_ == window_.grabWindow();
+}
+
+void SheetClock::close(const std::function<void()>& close) {
+  close();
+  untilRest();
+  if (!isUp()) return;
+  std::fputs("the sheet did not go\n", stderr);
+  std::_Exit(1);
+}
+
+void SheetClock::untilRest() {
+  do {
+    moved_ = false;
+    QEventLoop loop;
+    QTimer::singleShot(kRest, &loop, &QEventLoop::quit);
+    loop.exec();
+  } while (moved_);
+}
 
 constexpr std::size_t kLaterTimes = 5;
 

@@ -9,10 +9,8 @@
 #include "examples/shop/Bag.h"
 #include "examples/shop/Choices.h"
 #include "examples/shop/ShopColors.h"
-#include "examples/shop/ShopLanguage.h"
 #include "examples/shop/ShopWords.h"
 #include "examples/shop/Shopper.h"
-#include "examples/shop/TextFace.h"
 
 namespace quorix::examples {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
-#include "examples/shop/ShopLanguage.h"
+#include "examples/shop/Choices.h"
 
 namespace quorix::examples {
 

@@ -5,7 +5,7 @@
 #include <QJsonObject>
 #include <string>
 
-#include "platform/foundation/FatalError.h"
+#include "platform/foundation/Error.h"
 
 namespace quorix::examples {
 

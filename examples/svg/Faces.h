@@ -1,12 +1,54 @@
 #pragma once
 
+#include <hb.h>
 #include <memory>
+#include <string>
 #include <string_view>
 #include <vector>
 
-#include "Face.h"
+#include "platform/graphics/FontManager.h"
 
 namespace quorix::examples {
+
+/// A face of the font manager's, as HarfBuzz has it. All lengths are for a size of 1 point.
+class Face {
+ public:
+  explicit Face(graphics::GraphicsFont font);
+
+  const std::string& name() const { return font_.postScriptName(); }
+  hb_font_t* shaper() const { return shaper_.get(); }
+  double ascent() const { return ascent_; }
+  double descent() const { return descent_; }
+  double lineGap() const { return lineGap_; }
+
+  /// Points for each unit of the face.
+  double unit() const { return unit_; }
+
+  /// A decoration: how far its middle stands below the baseline, and how thick it is.
+  struct Stroke {
+    double offset;
+    double thickness;
+  };
+  Stroke underline() const;
+  Stroke strikethrough() const;
+
+  /// The glyph's outline as the data of an SVG path, in the face's units, y upwards.
+  std::string outline(hb_codepoint_t glyph) const;
+
+ private:
+  struct Release {
+    void operator()(hb_font_t* font) const { hb_font_destroy(font); }
+  };
+
+  Stroke stroke(unsigned offset, unsigned thickness, Stroke otherwise) const;
+
+  graphics::GraphicsFont font_;  // keeps the bytes
+  std::unique_ptr<hb_font_t, Release> shaper_;
+  double unit_ = 0;
+  double ascent_ = 0;
+  double descent_ = 0;
+  double lineGap_ = 0;
+};
 
 /// The faces that texts are drawn in: those of the font manager. This renderer knows no system's
 /// faces, so a name that is not registered gets the first that is.

@@ -1,10 +1,68 @@
 #pragma once
 
+#include <unicode/brkiter.h>
+#include <unicode/ubidi.h>
+#include <unicode/unistr.h>
+#include <cstdint>
+#include <memory>
+#include <vector>
+
 #include "Faces.h"
-#include "Paragraph.h"
+#include "platform/text/AttributedText.h"
 #include "platform/text/TextEngine.h"
 
 namespace quorix::examples {
+
+/// One text, shaped by HarfBuzz and broken by ICU. Points.
+class Paragraph {
+ public:
+  struct Glyph {
+    hb_codepoint_t id;
+    double x, y;  ///< from the line's left end, on its baseline; y downwards
+  };
+  /// Glyphs of one run that follow each other.
+  struct Piece {
+    std::size_t run;
+    const Face* face;
+    double left, right;
+    std::vector<Glyph> glyphs;
+  };
+  struct Line {
+    double width = 0;
+    std::vector<Piece> pieces;  ///< from left to right
+  };
+
+  Paragraph(const text::AttributedText& text, Faces& faces);
+
+  /// Lines no wider than `width`, broken between words, and inside a word that alone is wider.
+  std::vector<Line> lines(double width);
+
+  /// The width of the widest stretch between two places where a line may end.
+  double longestWord();
+
+ private:
+  struct Stretch {
+    std::int32_t end;  ///< in UTF-16 units
+    const Face* face;
+    double points;
+  };
+
+  struct CloseBidi {
+    void operator()(UBiDi* bidi) const { ubidi_close(bidi); }
+  };
+
+  Line shape(std::int32_t from, std::int32_t to) const;
+  void shapeAlong(Line& line, std::int32_t from, std::int32_t to, bool rightToLeft) const;
+  void shapePiece(Line& line, std::size_t run, std::int32_t from, std::int32_t to,
+                  bool rightToLeft) const;
+  std::int32_t lineEnd(std::int32_t from, double width);
+  std::int32_t lastThatFits(icu::BreakIterator& places, std::int32_t from, double width) const;
+
+  icu::UnicodeString text_;
+  std::vector<Stretch> runs_;
+  std::unique_ptr<UBiDi, CloseBidi> bidi_;
+  std::unique_ptr<icu::BreakIterator> words_, characters_;
+};
 
 /// The port between the library's layout and this renderer's fonts.
 class OutlineTextEngine final : public text::TextEngine {

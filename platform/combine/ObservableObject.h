@@ -48,10 +48,15 @@ class QUORIX_EXPORT ObservableObject {
 
   /// Calls `observer` before each change for as long as the returned token lives. An observer may
   /// end its own or another subscription while it runs.
-  [[nodiscard]] Cancellable onWillChange(std::function<void()> observer);
+  [[nodiscard]] Cancellable onWillChange(std::function<void()> observer) {
+    if (!observers_) observers_ = std::make_unique<Observers<>>();
+    return observers_->add(std::move(observer));
+  }
 
   /// Notifies every observer. For published values.
-  void sendWillChange();
+  void sendWillChange() {
+    if (observers_) observers_->call();
+  }
 
  private:
   std::unique_ptr<Observers<>> observers_;  // most objects are never observed

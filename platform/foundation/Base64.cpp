@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <string_view>
 
 namespace quorix::foundation {
 namespace {
@@ -55,22 +56,6 @@ std::optional<std::string> decodeBase64(std::string text) {
   }
   if (invalid & invalidBit) return std::nullopt;
   text.resize(text.size() / 4 * 3 - padding);
-  return text;
-}
-
-std::string encodeBase64(std::string_view bytes) {
-  std::string text;
-  text.reserve((bytes.size() + 2) / 3 * 4);
-  for (std::size_t i = 0; i < bytes.size(); i += 3) {
-    const auto byte = [&](std::size_t k) -> std::uint32_t {
-      return i + k < bytes.size() ? static_cast<unsigned char>(bytes[i + k]) : 0;
-    };
-    const std::uint32_t bits = byte(0) << 16 | byte(1) << 8 | byte(2);
-    text += base64Alphabet[bits >> 18];
-    text += base64Alphabet[bits >> 12 & 63];
-    text += i + 1 < bytes.size() ? base64Alphabet[bits >> 6 & 63] : '=';
-    text += i + 2 < bytes.size() ? base64Alphabet[bits & 63] : '=';
-  }
   return text;
 }
 

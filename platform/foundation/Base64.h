@@ -2,7 +2,6 @@
 
 #include <optional>
 #include <string>
-#include <string_view>
 
 namespace quorix::foundation {
 
@@ -12,8 +11,5 @@ namespace quorix::foundation {
 ///
 ///     decodeBase64("AAE=")  // the bytes 0 and 1
 std::optional<std::string> decodeBase64(std::string text);
-
-/// `bytes` in standard base64 with padding. Any thread.
-std::string encodeBase64(std::string_view bytes);
 
 }  // namespace quorix::foundation

@@ -1,5 +1,6 @@
 #include "platform/foundation/MainQueue.h"
 
+#include <cstddef>
 #include <deque>
 #include <mutex>
 #include <utility>
@@ -15,16 +16,29 @@ struct MainQueueState {
   MainQueue::Timer timer;
 };
 
+namespace {
+
+/// Runs the next piece of work; false when there is none.
+bool runNext() {
+  auto& q = Runtime::the<MainQueueState>();
+  std::unique_lock lock(q.mutex);
+  if (q.waiting.empty()) return false;
+  const MainQueue::Work work = std::move(q.waiting.front());
+  q.waiting.pop_front();
+  lock.unlock();
+  work();
+  return true;
+}
+
+}  // namespace
+
 void MainQueue::async(Work work) {
   auto& q = Runtime::the<MainQueueState>();
   std::unique_lock lock(q.mutex);
-  if (q.executor) {
-    const Executor executor = q.executor;
-    lock.unlock();
-    executor(std::move(work));
-  } else {
-    q.waiting.push_back(std::move(work));
-  }
+  q.waiting.push_back(std::move(work));
+  const Executor executor = q.executor;
+  lock.unlock();
+  if (executor) executor(runNext);
 }
 
 void MainQueue::after(std::chrono::milliseconds delay, Work work) {
@@ -37,24 +51,18 @@ void MainQueue::after(std::chrono::milliseconds delay, Work work) {
 
 void MainQueue::install(Executor executor, Timer timer) {
   auto& q = Runtime::the<MainQueueState>();
-  const std::scoped_lock lock(q.mutex);
-  q.executor = std::move(executor);
+  std::unique_lock lock(q.mutex);
+  q.executor = executor;
   q.timer = std::move(timer);
-  if (!q.executor) return;
-  for (Work& work : q.waiting) q.executor(std::move(work));
-  q.waiting.clear();
+  const std::size_t waiting = q.waiting.size();
+  lock.unlock();
+  for (std::size_t turn = 0; executor && turn < waiting; ++turn) executor(runNext);
 }
 
 int MainQueue::drain() {
-  auto& q = Runtime::the<MainQueueState>();
-  for (int count = 0;; ++count) {
-    std::unique_lock lock(q.mutex);
-    if (q.waiting.empty()) return count;
-    const Work work = std::move(q.waiting.front());
-    q.waiting.pop_front();
-    lock.unlock();
-    work();
-  }
+  int count = 0;
+  while (runNext()) ++count;
+  return count;
 }
 
 }  // namespace quorix::foundation

@@ -22,8 +22,9 @@ class QUORIX_EXPORT MainQueue {
   /// Runs `work` after `delay`. Without a timer the work is dropped. Main thread.
   static void after(std::chrono::milliseconds delay, Work work);
 
-  /// Sends all later work to `executor`, after the work that waits. With an empty executor, work
-  /// waits for `drain` again. Main thread.
+  /// Has `executor` run the work: it gets a turn for each piece, also for those that wait already.
+  /// A turn that it drops leaves its piece to the next one. With an empty executor, work waits for
+  /// `drain` again. Main thread.
   static void install(Executor executor, Timer timer = {});
 
   /// Runs the waiting work and the work that this enqueues. Returns the number of pieces.

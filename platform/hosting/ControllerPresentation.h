@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "platform/foundation/Export.h"
-#include "platform/swiftui/Presentation.h"
+#include "platform/swiftui/View.h"
 #include "platform/uikit/UIViewController.h"
 
 namespace quorix::hosting {

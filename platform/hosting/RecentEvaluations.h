@@ -3,7 +3,7 @@
 #include <memory>
 #include <vector>
 
-#include "platform/swiftui/Evaluation.h"
+#include "platform/swiftui/Evaluator.h"
 
 namespace quorix::hosting {
 

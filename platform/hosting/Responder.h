@@ -9,7 +9,7 @@
 #include "platform/hosting/Input.h"
 #include "platform/hosting/Settings.h"
 #include "platform/render/Scene.h"
-#include "platform/swiftui/Presentation.h"
+#include "platform/swiftui/View.h"
 
 namespace quorix::hosting {
 

@@ -8,7 +8,6 @@
 #include "platform/layout/Geometry.h"
 #include "platform/render/Scene.h"
 #include "platform/swiftui/Environment.h"
-#include "platform/swiftui/Presentation.h"
 #include "platform/swiftui/View.h"
 #include "platform/text/TextEngine.h"
 

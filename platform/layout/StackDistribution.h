@@ -31,8 +31,8 @@ struct StackChildren {
 };
 
 /// Fills `asked`: the least flexible first, spacers last. Sets what is kept for each child: its
-/// least length or, where all of these are more than there is, for all the same part of what they
-/// could give. Returns the sum of what is kept.
+/// least length; if these exceed `available` together, each child gives up the same part of what it
+/// can. Returns the sum of what is kept.
 double prepareDistribution(StackChildren children, double available);
 
 /// Divides `available` (what is left after the spacing; may be infinite) among `children`: each is

@@ -10,7 +10,7 @@
 #include "platform/combine/ObservableObject.h"
 #include "platform/foundation/Export.h"
 #include "platform/swiftui/Node.h"
-#include "platform/swiftui/StateStore.h"
+#include "platform/swiftui/State.h"
 #include "platform/swiftui/View.h"
 
 namespace quorix::swiftui {

@@ -40,12 +40,6 @@ constexpr double points[11][12] = {
 
 }  // namespace
 
-std::optional<ContentSizeCategory> contentSizeCategoryNamed(std::string_view name) {
-  const auto found = std::find(names.begin(), names.end(), name);
-  if (found == names.end()) return std::nullopt;
-  return static_cast<ContentSizeCategory>(found - names.begin());
-}
-
 std::string_view nameOf(ContentSizeCategory category) {
   return names[static_cast<std::size_t>(category)];
 }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <string_view>
 
 #include "platform/foundation/Export.h"
@@ -25,8 +24,7 @@ enum class ContentSizeCategory : std::uint8_t {
   accessibilityExtraExtraExtraLarge,
 };
 
-/// The category of that name ("extraLarge"), or nothing.
-QUORIX_EXPORT std::optional<ContentSizeCategory> contentSizeCategoryNamed(std::string_view name);
+/// Its name: "extraLarge".
 QUORIX_EXPORT std::string_view nameOf(ContentSizeCategory category);
 
 /// The category whose body text is nearest to `factor` times the usual size: 1.25 is

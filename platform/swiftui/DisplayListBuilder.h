@@ -11,7 +11,7 @@
 #include "platform/render/HostedContent.h"
 #include "platform/render/Scene.h"
 #include "platform/swiftui/Environment.h"
-#include "platform/swiftui/Evaluation.h"
+#include "platform/swiftui/Evaluator.h"
 
 namespace quorix::swiftui {
 

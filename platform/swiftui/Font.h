@@ -50,13 +50,6 @@ class Font {
   double size() const { return size_; }
   bool scales() const { return scales_; }
   TextStyle textStyle() const { return style_; }
-  FontWeight weight() const { return weight_; }
-
-  Font withWeight(FontWeight weight) const {
-    Font copy = *this;
-    copy.weight_ = weight;
-    return copy;
-  }
 
   bool operator==(const Font&) const = default;
 
@@ -68,7 +61,6 @@ class Font {
   double size_ = 17;
   TextStyle style_ = TextStyle::body;
   bool scales_ = true;
-  FontWeight weight_ = FontWeight::regular;
 };
 
 }  // namespace quorix::swiftui

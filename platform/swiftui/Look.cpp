@@ -21,7 +21,7 @@ text::ResolvedFont resolvedFont(const Look& look, const Environment& environment
   static const Font systemFont;
   const Font& font = look.font ? *look.font : systemFont;
   const double scaling = font.scales() ? scaleFactor(font.textStyle(), environment.textSize) : 1;
-  return {font.name(), font.size() * scaling, look.weight.value_or(font.weight())};
+  return {font.name(), font.size() * scaling, look.weight.value_or(FontWeight::regular)};
 }
 
 std::string cased(std::string words, std::optional<TextCase> textCase,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <variant>
@@ -8,10 +9,14 @@
 #include "platform/swiftui/Color.h"
 #include "platform/swiftui/Environment.h"
 #include "platform/swiftui/Font.h"
-#include "platform/swiftui/Traits.h"
 #include "platform/text/AttributedText.h"
 
 namespace quorix::swiftui {
+
+enum class TextCase : std::uint8_t { uppercase };
+enum class AccessibilityChildren : std::uint8_t { ignore };
+enum class AccessibilityTrait : std::uint8_t { isButton, isHeader };
+enum class TaskPriority : std::uint8_t { userInitiated };
 
 class Text;
 struct Look;

@@ -1,9 +1,14 @@
 #pragma once
 
 #include <memory>
+#include <memory_resource>
+#include <string>
+#include <typeindex>
 #include <utility>
+#include <vector>
 
 #include "platform/foundation/Action.h"
+#include "platform/foundation/Export.h"
 
 namespace quorix::swiftui {
 
@@ -69,6 +74,58 @@ class State {
  private:
   T initial_;
   mutable std::shared_ptr<StateBox<T>> box_;
+};
+
+/// A place in a view tree: the steps from the root, through components by their type. The same
+/// place in the next evaluation is the same view. Copies are on the heap.
+using TreePath = std::pmr::u32string;
+
+namespace steps {
+
+constexpr char32_t chosen = 1;
+constexpr char32_t notChosen = 2;
+constexpr char32_t modified = 3;  ///< into a modifier that needs a place of its own
+// Each of these goes on with its next ones.
+constexpr char32_t firstChild = 1U << 8;
+constexpr char32_t firstOverlay = 1U << 30;  ///< one for each element of a group
+constexpr char32_t firstType = 1U << 31;
+
+/// Into the body of a component, or to content of another toolkit by the type of its maker. Another
+/// type in its place is another view, with states of its own. Main thread.
+QUORIX_EXPORT char32_t into(std::type_index type);
+
+}  // namespace steps
+
+/// What is kept for one place in a tree: the storage of a component's states, in the order in which
+/// it names them.
+struct StateSlots {
+  std::shared_ptr<Kept> first;
+  foundation::Action onChange;
+};
+
+/// The states of a view tree's components, by place. What an evaluation does not visit any more has
+/// left the tree and loses its states.
+class StateStore {
+ public:
+  explicit StateStore(foundation::Action onChange) : onChange_(std::move(onChange)) {}
+
+  /// Valid until the next call.
+  StateSlots& states(const TreePath& path);
+  void clear() { entries_.clear(); }
+
+  void beginEvaluation();
+  void endEvaluation();
+
+ private:
+  struct Entry {
+    TreePath path;
+    StateSlots states;
+    bool visited = true;
+  };
+  std::vector<Entry> entries_;
+  std::size_t next_ =
+      0;  ///< after the latest that was asked for: an evaluation asks in the same order each time
+  foundation::Action onChange_;
 };
 
 }  // namespace quorix::swiftui

@@ -12,11 +12,11 @@
 #include "platform/layout/Geometry.h"
 #include "platform/swiftui/Color.h"
 #include "platform/swiftui/Font.h"
+#include "platform/swiftui/Look.h"
 #include "platform/swiftui/Node.h"
 #include "platform/swiftui/PresentationDetent.h"
 #include "platform/swiftui/State.h"
 #include "platform/swiftui/Text.h"
-#include "platform/swiftui/Traits.h"
 
 namespace quorix::swiftui {
 
@@ -104,6 +104,12 @@ class QUORIX_EXPORT View {
 
  private:
   std::shared_ptr<const Node> node_;
+};
+
+/// A sheet that a view asks for. Dismissal by the user writes false through the binding.
+struct Presentation {
+  Binding<bool> isPresented;
+  View content;
 };
 
 /// The view of a node of type `Kind`, in the arena of the evaluation under way.

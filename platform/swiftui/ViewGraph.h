@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "platform/combine/ObservableObject.h"
-#include "platform/swiftui/Evaluation.h"
+#include "platform/swiftui/Evaluator.h"
 
 namespace quorix::swiftui {
 

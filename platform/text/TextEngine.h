@@ -6,12 +6,9 @@
 
 namespace quorix::text {
 
-/// Measures of a text broken to a width. Points; the baselines count from the top.
+/// Measures of a text broken to a width. Points.
 struct TextMetrics {
   layout::Size size;  ///< of the inked lines: the width of the widest one, the height of all
-  double firstBaseline = 0;
-  double lastBaseline = 0;
-  int lines = 0;
   bool operator==(const TextMetrics&) const = default;
 };
 

@@ -1,6 +1,6 @@
 #include "platform/uikit/NSLayoutConstraint.h"
 
-#include "platform/foundation/FatalError.h"
+#include "platform/foundation/Error.h"
 #include "platform/uikit/UIView.h"
 
 namespace quorix::uikit {

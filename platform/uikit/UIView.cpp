@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/foundation/FatalError.h"
+#include "platform/foundation/Error.h"
 
 namespace quorix::uikit {
 namespace {

@@ -79,17 +79,8 @@ WidgetItem::Appearance WidgetItem::appearance() const {
 
 void WidgetItem::setAppearance(Appearance appearance) {
   if (appearance == this->appearance()) return;
-  switch (appearance) {
-    case System:
-      ViewItem::setAppearance(std::nullopt);
-      break;
-    case Light:
-      ViewItem::setAppearance(graphics::Appearance::light);
-      break;
-    case Dark:
-      ViewItem::setAppearance(graphics::Appearance::dark);
-      break;
-  }
+  const auto own = appearance == Dark ? graphics::Appearance::dark : graphics::Appearance::light;
+  ViewItem::setAppearance(appearance == System ? std::nullopt : std::optional(own));
   emit appearanceChanged();
 }
 
@@ -101,17 +92,10 @@ Qt::LayoutDirection WidgetItem::layoutDirection() const {
 
 void WidgetItem::setLayoutDirection(Qt::LayoutDirection direction) {
   if (direction == layoutDirection()) return;
-  switch (direction) {
-    case Qt::LayoutDirectionAuto:
-      ViewItem::setLayoutDirection(std::nullopt);
-      break;
-    case Qt::LeftToRight:
-      ViewItem::setLayoutDirection(layout::LayoutDirection::leftToRight);
-      break;
-    case Qt::RightToLeft:
-      ViewItem::setLayoutDirection(layout::LayoutDirection::rightToLeft);
-      break;
-  }
+  const auto own = direction == Qt::RightToLeft ? layout::LayoutDirection::rightToLeft
+                                                : layout::LayoutDirection::leftToRight;
+  ViewItem::setLayoutDirection(direction == Qt::LayoutDirectionAuto ? std::nullopt
+                                                                    : std::optional(own));
   emit layoutDirectionChanged();
 }
 

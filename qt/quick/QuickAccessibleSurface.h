@@ -1,6 +1,6 @@
 #pragma once
 
-#include "qt/AccessibleSurface.h"
+#include "qt/AccessibilityBridge.h"
 
 class QQuickItem;
 

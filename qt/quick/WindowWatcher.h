@@ -15,9 +15,9 @@ namespace quorix::qt {
 /// What the view items of one window share: one set of connections for all, and one look at each
 /// frame for what scrolled into sight. Belongs to the window; main thread.
 ///
-/// Qt Quick tells an item nothing when an ancestor moves. Items are therefore kept by parent: only
-/// where a parent moved are its items compared, as plain rectangles. A few more are looked at anew
-/// in every frame, in turn, for what moves an item that no parent and no geometry tells of.
+/// Qt Quick does not signal that an ancestor moved. Items are therefore kept by parent: only where
+/// a parent moved are its items compared, as plain rectangles. A few more are checked in each
+/// frame, in turn, for transforms that Qt does not signal.
 class WindowWatcher : public QObject {
   Q_OBJECT
 

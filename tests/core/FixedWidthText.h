@@ -33,10 +33,7 @@ class FixedWidthText final : public text::TextEngine {
       lines.add(characters(words.substr(start, end - start)));
       start = end + 1;
     }
-    return {{lines.widest * advance, lines.count * lineHeight},
-            run.font.points,
-            (lines.count - 1) * lineHeight + run.font.points,
-            lines.count};
+    return {{lines.widest * advance, lines.count * lineHeight}};
   }
 
   double leastWidth(const text::AttributedText& text) override {

@@ -59,6 +59,12 @@ TEST_F(Prefetch, ServesRowsFromMemoryEvenWithoutANetwork) {
   URLSession::shared().setNetworkEnabled(false);
   EXPECT_EQ(titleIn("fr"), "remote");
   EXPECT_EQ(titleIn("it"), "Your return fee");
+  {
+    const auto fake = URLSession::shared().registerProtocol([](const URL&) {
+      return URLResponse{{}, R"({"returns":{"title":"fake"}})", 200};
+    });
+    EXPECT_EQ(titleIn("it"), "fake");
+  }
   URLSession::shared().setNetworkEnabled(true);
   EXPECT_EQ(titleIn("it"), "remote");
   EXPECT_EQ(server->asked, (std::vector<std::string>{"/translations/score/overlay/fr.json",

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "QuorixWidgets/info/InfoTitle.h"
+#include "QuorixWidgets/info/InfoWidgetViewModel.h"
 #include "platform/render/Scene.h"
 #include "platform/swiftui/Elements.h"
 #include "platform/swiftui/UIViewRepresentable.h"
@@ -136,40 +136,6 @@ TEST(TextBound, AnEndlessTitleIsCutBeforeItIsSplit) {
   std::size_t shown = 0;
   for (const InfoTitlePart& part : infoTitle("en")) shown += characters(part.text);
   EXPECT_LE(shown, text::mostOfText + std::string("20%").size());
-}
-
-/// A sheet's texts are shaped anew in each text size that is tried for it.
-TEST(TextBound, HoldsForAllTheTextSizesThatASheetTriesTogether) {
-  const struct {
-    const char* what;
-    std::string text;
-    layout::Size window = {320, 640};
-  } rows[] = {
-      {"fits in none", repeated("a\n", 50'000)},
-      {"fits in a smaller one", repeated("fee ", 25'000), {700, 900}},
-      {"one word", repeated("f", 100'000)},
-  };
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.what);
-    const auto strings = LocalizationRepository::make("en");
-    const std::string text = row.text;
-    strings->strings = TranslationTable::make({{"returns", "title", "Fee"},
-                                               {"returns", "fee", text},
-                                               {"returns", "rate", text},
-                                               {"returns", "disclaimer", text}});
-    const auto model = std::make_shared<ScoreWidgetViewModel>(
-        "shop", TokenData{0.82, "EUR", 499, 299}, "en", ScoreWidgetStyle{"Shop", "Shop"});
-    swiftui::Environment largest;
-    largest.textSize = swiftui::ContentSizeCategory::accessibilityExtraExtraExtraLarge;
-    TestWindow window(ScoreWidgetView{model, strings}, largest, row.window);
-    window.text.calls.clear();
-    window.tap(TestWindow::middle(window.shown().accessibility.front().frame));
-    window.settle();
-    ASSERT_TRUE(window.sheet());
-    std::size_t measured = 0;
-    for (const auto& call : window.text.calls) measured += characters(call.words);
-    EXPECT_LE(measured, 48'000);
-  }
 }
 
 TEST(ScenePart, IsWhatOnePictureHoldsAroundWhatIsSeen) {

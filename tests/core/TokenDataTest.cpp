@@ -1,6 +1,6 @@
 #include "QuorixWidgets/data/TokenData.h"
 #include "Vectors.h"
-#include "platform/foundation/Base64.h"
+#include "tests/core/EncodeBase64.h"
 
 using quorix::parseTokenData;
 using quorix::TokenData;
@@ -9,7 +9,7 @@ using quorix::TokenRefusal;
 namespace {
 
 std::string tokenWith(std::string_view payload) {
-  return "h." + quorix::foundation::encodeBase64(payload) + ".s";
+  return "h." + quorix::testing::encodeBase64(payload) + ".s";
 }
 
 void expectFigures(const std::optional<TokenData>& data, simdjson::dom::element expected) {

@@ -6,8 +6,8 @@
 #include <map>
 #include <utility>
 
-#include "QuorixWidgets/info/InfoTitle.h"
 #include "QuorixWidgets/info/InfoWidgetBuilder.h"
+#include "QuorixWidgets/info/InfoWidgetViewModel.h"
 #include "QuorixWidgets/overlay/WebViewController.h"
 #include "platform/swiftui/UIViewRepresentable.h"
 #include "platform/uikit/UIApplication.h"

@@ -75,7 +75,7 @@ void expectWhole(const render::TextItem& text, const layout::Rect& area, bool la
 
 void expectFigure(const render::TextItem& text) {
   SCOPED_TRACE(words(text));
-  EXPECT_EQ(engine().measure(text.text, text.frame.size.width + noise).lines, 1);
+  EXPECT_EQ(engine().shape(text.text, text.frame.size.width + noise).lines.size(), 1);
   EXPECT_GE(text.text.runs[0].font.points, 9) << "too small to read";
   EXPECT_EQ(glyphs(text.text, leftToRight), glyphs(text.text, rightToLeft)) << "reordered";
 }

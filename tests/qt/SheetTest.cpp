@@ -119,20 +119,6 @@ TYPED_TEST(Sheet, RowsOfOneWindowHaveTheirOwn) {
   }
 }
 
-TYPED_TEST(Sheet, GoesWithItsRow) {
-  TypeParam screen;
-  auto* field = screen.addFocusable();
-  auto* row = screen.add(FeeRow("4 €"), kPlace);
-  const Told told(*row);
-  screen.click("Row 4 €");
-  delete row;
-  EXPECT_EQ(*told, (QVariantList{"activated", "opened", int(Host)}));
-  EXPECT_FALSE(screen.shows("Fee 4 €"));
-  screen.settle();
-  screen.key(Qt::Key_Tab);
-  EXPECT_TRUE(screen.hasFocus(field));
-}
-
 /// A button that presents something.
 struct Opener {
   static constexpr std::string_view typeName = "Opener";
@@ -188,16 +174,18 @@ TYPED_TEST(Sheet, ItsContentPresentsFurtherSheetsAboveIt) {
   EXPECT_TRUE(screen.shows("More"));
 }
 
-TYPED_TEST(Sheet, FurtherSheetsGoWithTheLowest) {
+TYPED_TEST(Sheet, GoesWithItsRowAndTakesFurtherOnesAlong) {
   for (const bool deleted : {false, true}) {
     TypeParam screen;
     auto* field = screen.addFocusable();
     auto* row = screen.add(nested(), kPlace);
+    const Told told(*row);
     screen.focus(field);
     for (const char* name : {"More", "More", "Row 4 €"}) screen.click(name);
     ASSERT_TRUE(screen.shows("Fee 4 €"));
     deleted ? delete row : row->setView(swiftui::Text::verbatim("Other"));
     screen.settle();
+    EXPECT_EQ(*told, (QVariantList{"activated", "opened", int(Host)}));
     EXPECT_FALSE(screen.shows("Fee 4 €"));
     EXPECT_EQ(screen.shows("Other"), !deleted);
     screen.key(Qt::Key_Tab);

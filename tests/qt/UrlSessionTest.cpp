@@ -50,47 +50,25 @@ struct Case {
 };
 
 std::vector<Case> cases() {
-  const auto cut = [](int status) {
-    std::string bytes = httpAnswer(status, kTable);
-    bytes.resize(bytes.size() - 3);
-    return Answer{bytes, SIZE_MAX, true};
-  };
   const std::string challenge = "WWW-Authenticate: Basic realm=\"r\"\r\n";
-  const std::string chunked = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n";
   const std::string gzip = "Content-Encoding: gzip\r\n";
-  const std::string binary("\0\xff\n", 3);
   return {
       {"found", {httpAnswer(200, kTable)}, 200, kTable},
       {"not found", {httpAnswer(404, kTable)}, 404, kTable},
       {"locked", {httpAnswer(401, kTable, challenge)}, 401, kTable},
-      {"locked by a proxy", {httpAnswer(407, kTable)}, 407, kTable},
-      {"error page", {httpAnswer(500, "<html>500</html>")}, 500, "<html>500</html>"},
-      {"choices", {httpAnswer(300, kTable)}, 300, kTable},
-      {"dribbled", {httpAnswer(200, kTable), 1}, 200, kTable},
       {"empty", {httpAnswer(200, "")}, 200, ""},
       {"reset", {httpAnswer(205, kTable)}, 205, kTable},
-      {"reset, empty", {httpAnswer(205, "")}, 205, ""},
       {"moved to nowhere", {httpAnswer(301, kTable)}, 301, kTable},
-      {"found nowhere", {httpAnswer(302, kTable, "Location: \r\n")}, 302, kTable},
       {"by a proxy", {httpAnswer(305, kTable, "Location: /0\r\n")}, 305, kTable},
-      {"for now nowhere", {httpAnswer(307, kTable)}, 307, kTable},
       {"largest", {httpAnswer(200, std::string(kLimit, 'x'))}, 200, std::string(kLimit, 'x')},
       {"largest, packed", {deflated(200, text(kLimit))}, 200, text(kLimit)},
       {"too large", {httpAnswer(200, std::string(kLimit + 1, 'x'))}},
       {"too large, packed", {deflated(200, text(kLimit + 1))}},
-      {"too large an error", {httpAnswer(404, std::string(kLimit + 1, 'x'))}},
-      {"unpacks to 50 MB", {deflated(200, std::string(50 << 20, ' '))}},
-      {"error unpacks to 50 MB", {deflated(404, std::string(50 << 20, ' '))}},
       {"no content", {"HTTP/1.1 204 No Content\r\n\r\n"}, 204},
       {"not modified", {"HTTP/1.1 304 Same\r\nContent-Length: 9\r\n\r\n"}, 304},
       {"until the end", {"HTTP/1.1 200 OK\r\n\r\n" + kTable, SIZE_MAX, true}, 200, kTable},
-      {"chunked", {chunked + "5\r\n{\"a\":\r\n3\r\n{}}\r\n0\r\n\r\n", 7}, 200, R"({"a":{}})"},
       {"gzip", {httpAnswer(200, kPacked, gzip), 9}, 200, R"({"labels":{"hint":"packed"}})"},
-      {"no text", {httpAnswer(200, binary)}, 200, binary},
-      {"cut in the body", cut(200)},
-      {"cut in an error's body", cut(404)},
-      {"cut between chunks", {chunked + "5\r\n{\"a\":\r\n", SIZE_MAX, true}},
-      {"cut in the head", {"HTTP/1.1 200 OK\r\nContent-", SIZE_MAX, true}},
+      {"cut in the body", {"HTTP/1.1 200 OK\r\nContent-Length: 9\r\n\r\nhalf", SIZE_MAX, true}},
       {"broken gzip", {httpAnswer(200, "plain", gzip)}},
       {"no HTTP at all", {"SSH-2.0-server\r\n\r\n", SIZE_MAX, true}},
   };
@@ -145,12 +123,8 @@ TEST_F(ConcurrentUrlSession, EndsAnAnswerThatHasNoEnd) {
     std::string head, filler;
   } table[] = {
       {"headers", head, headers},
-      {"body", head + "\r\n", filler},
-      {"100 MB", head + "Content-Length: 104857600\r\n\r\n", filler},
       {"packed body", head + "Content-Encoding: gzip\r\n\r\n", packed},
       {"redirect's body", "HTTP/1.1 302 Found\r\nLocation: /x\r\n\r\n", filler},
-      {"locked", "HTTP/1.1 401 No\r\n\r\n", filler},
-      {"locked by a proxy", "HTTP/1.1 407 No\r\n\r\n", filler},
   };
   for (const auto& [name, start, rest] : table) {
     LoopbackServer endless;
@@ -241,24 +215,6 @@ TEST_F(ConcurrentUrlSession, ProtocolAnswersBeforeTheNetworkOnTheSessionsThread)
   EXPECT_EQ(outside.body, "network");
   EXPECT_EQ(thread, again);  // one thread for all of them
   EXPECT_TRUE(server.requests("/inside").empty());
-}
-
-TEST_F(ConcurrentUrlSession, WithTheNetworkOffOnlyProtocolsAnswer) {
-  server.serve("/x", {httpAnswer(200, "network")});
-  const auto token = foundation::URLSession::shared().registerProtocol(
-      [](const URL& url) -> std::optional<URLResponse> {
-        if (url.path() != "/inside") return std::nullopt;
-        return URLResponse{{}, "protocol", 0};
-      });
-  foundation::URLSession::shared().setNetworkEnabled(false);
-  const auto [inside, thread] = fetch("/inside");
-  const auto [outside, same] = fetch("/x");
-  foundation::URLSession::shared().setNetworkEnabled(true);
-  EXPECT_EQ(inside.body, "protocol");
-  EXPECT_EQ(outside.error ? outside.error->code : 0, -1);
-  EXPECT_EQ(thread, same);
-  EXPECT_TRUE(server.requests("/x").empty());
-  EXPECT_EQ(fetch("/x").response.body, "network");
 }
 
 TEST_F(ConcurrentUrlSession, LogsRequestsIfAskedAndNeverAToken) {

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "qt/WebComponentLoader.h"
+#include "qt/WebComponent.h"
 
 namespace quorix::testing {
 namespace {

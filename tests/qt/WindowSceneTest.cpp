@@ -6,7 +6,7 @@
 #include "platform/swiftui/UIViewRepresentable.h"
 #include "platform/uikit/UIApplication.h"
 #include "platform/uikit/UILabel.h"
-#include "platform/uikit/UITapGestureRecognizer.h"
+#include "platform/uikit/UIView.h"
 #include "platform/uikit/UIViewController.h"
 #include "tests/qt/Screens.h"
 
@@ -68,23 +68,6 @@ TYPED_TEST(WindowScene, PresentsOverTheWindowInUseAndEndsWithIt) {
   EXPECT_EQ(scenes(), before + 2);
   two.closeWindow();
   EXPECT_EQ(scenes(), before + 1);
-}
-
-TYPED_TEST(WindowScene, StacksPagesAndTakesThemAwayOneByOne) {
-  TypeParam screen;
-  screen.add(opener("lower"), kPlace);
-  screen.click("Open lower");
-  presentPage("upper");
-  screen.settle();
-  EXPECT_TRUE(screen.shows("upper"));
-  screen.key(Qt::Key_Escape);
-  EXPECT_FALSE(screen.shows("upper"));
-  EXPECT_TRUE(screen.shows("lower"));
-  screen.click("lower");
-  EXPECT_FALSE(screen.shows("lower"));
-  EXPECT_FALSE(UIApplication::getKeyWindow()->rootViewController()->presentedViewController());
-  screen.click("Open lower");
-  EXPECT_TRUE(screen.shows("lower"));
 }
 
 }  // namespace

@@ -35,7 +35,7 @@ TYPED_TEST(PageSheet, HasItsPageInTheFirstFrameOnceTheEngineIsLoaded) {
   this->screen.key(Qt::Key_Escape);
   ASSERT_FALSE(this->isOpen());
   const int frames = this->screen.frames();
-  QTest::mouseClick(&this->screen.window(), Qt::LeftButton, {}, this->screen.centreOf("Open page"));
+  QTest::mouseClick(&this->screen.window(), Qt::LeftButton, {}, this->screen.centerOf("Open page"));
   ASSERT_TRUE(waitUntil([&] { return this->screen.frames() > frames; }));
   QAccessibleInterface* control = this->screen.find("Close page");
   ASSERT_TRUE(control);

@@ -7,7 +7,6 @@
 
 #include "tools/quorix/Arguments.h"
 #include "tools/quorix/Failure.h"
-#include "tools/quorix/Option.h"
 
 namespace quorix::tool {
 

@@ -2,19 +2,8 @@
 
 #include <algorithm>
 
-#include "tools/quorix/CompletionCommand.h"
-#include "tools/quorix/DecodeCommand.h"
-#include "tools/quorix/GalleryCommand.h"
 #include "tools/quorix/Help.h"
-#include "tools/quorix/InfoCommand.h"
-#include "tools/quorix/ManCommand.h"
-#include "tools/quorix/MintCommand.h"
 #include "tools/quorix/Names.h"
-#include "tools/quorix/OverlayUrlCommand.h"
-#include "tools/quorix/ScoreCommand.h"
-#include "tools/quorix/StringsCheckCommand.h"
-#include "tools/quorix/TextsCommand.h"
-#include "tools/quorix/preview/PreviewCommand.h"
 
 namespace quorix::tool {
 

@@ -1,6 +1,5 @@
-#include "tools/quorix/CompletionCommand.h"
-
 #include "tools/quorix/Commands.h"
+
 #include "tools/quorix/Help.h"
 
 namespace quorix::tool {

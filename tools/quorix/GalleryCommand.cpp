@@ -1,13 +1,13 @@
-#include "tools/quorix/GalleryCommand.h"
+#include "tools/quorix/Commands.h"
 
 #include <array>
 #include <string_view>
 #include <utility>
 
 #include "platform/render/ScenePrinter.h"
+#include "tools/quorix/Application.h"
+#include "tools/quorix/Files.h"
 #include "tools/quorix/OptionReader.h"
-#include "tools/quorix/OutputFile.h"
-#include "tools/quorix/PictureApplication.h"
 #include "tools/quorix/Progress.h"
 #include "tools/quorix/gallery/CellRenderer.h"
 #include "tools/quorix/gallery/ContactSheet.h"

@@ -1,17 +1,109 @@
-#include "tools/quorix/InfoCommand.h"
+#include "tools/quorix/Commands.h"
+
+#include <memory>
+#include <optional>
+#include <span>
+#include <variant>
 
 #include "QuorixWidgets/info/InfoWidgetBuilder.h"
+#include "platform/graphics/RGBA.h"
 #include "platform/swiftui/TreePrinter.h"
 #include "platform/swiftui/UIViewRepresentable.h"
+#include "platform/uikit/UIApplication.h"
+#include "platform/uikit/UIScene.h"
+#include "platform/uikit/UIViewController.h"
+#include "platform/uikit/UIWindow.h"
 #include "platform/uikit/ViewPrinter.h"
-#include "tools/quorix/InfoRequest.h"
-#include "tools/quorix/PictureApplication.h"
-#include "tools/quorix/StandInScreen.h"
+#include "tools/quorix/Application.h"
+#include "tools/quorix/Arguments.h"
 #include "tools/quorix/WidgetOptions.h"
 #include "tools/quorix/WidgetOutput.h"
+#include "tools/quorix/WidgetRequest.h"
 
 namespace quorix::tool {
 namespace {
+
+/// What "quorix info" was asked for.
+struct InfoRequest : WidgetRequest {
+  bool imperative = false;
+  std::optional<graphics::RGBA> backgroundColor = {};
+  bool border = false;
+
+  static const std::span<const Option> options;
+
+  /// The request that `arguments` make, or what is wrong with them.
+  static std::variant<InfoRequest, Failure> read(const Arguments& arguments);
+};
+
+constexpr std::string_view forms[] = {"declarative", "imperative"};
+
+constexpr auto table = withWidgetOptions({
+    {"--form", "NAME", "{} (default declarative).", forms},
+    {"--background-color", "#RRGGBB",
+     "Behind the texts (default the library's own). The imperative "
+     "form does not take one."},
+    {"--border", "", "Draws a border. The imperative form has none."},
+});
+
+const std::span<const Option> InfoRequest::options = table;
+
+std::variant<InfoRequest, Failure> InfoRequest::read(const Arguments& arguments) {
+  OptionReader read(arguments);
+  InfoRequest request{WidgetRequest::from(read)};
+  request.imperative = read.choice("--form") == 1;
+  request.backgroundColor = read.color("--background-color");
+  request.border = read.has("--border");
+  if (request.imperative && (request.backgroundColor || request.border)) {
+    read.fail("the imperative form takes neither a background color nor a border");
+  }
+  if (read.failure()) return *read.failure();
+  return request;
+}
+
+/// The app's one screen, as far as imperative views can tell: what they present over it, it keeps.
+/// Main thread.
+class StandInScreen {
+ public:
+  StandInScreen();
+  ~StandInScreen();
+  StandInScreen(const StandInScreen&) = delete;
+  StandInScreen& operator=(const StandInScreen&) = delete;
+
+  /// Taps the first view in `root` that takes taps, and returns what that presents; null when it
+  /// presents nothing.
+  std::shared_ptr<uikit::UIViewController> presentedByTap(const uikit::UIView& root) const;
+
+ private:
+  std::shared_ptr<uikit::UIWindow> window_ = std::make_shared<uikit::UIWindow>();
+  std::shared_ptr<uikit::UIWindowScene> scene_ = std::make_shared<uikit::UIWindowScene>();
+};
+
+bool tapFirst(const uikit::UIView& view) {
+  if (!view.gestureRecognizers().empty()) {
+    view.gestureRecognizers().front()->recognize();
+    return true;
+  }
+  for (const auto& subview : view.subviews()) {
+    if (tapFirst(*subview)) return true;
+  }
+  return false;
+}
+
+StandInScreen::StandInScreen() {
+  window_->setRootViewController(std::make_shared<uikit::UIViewController>());
+  window_->makeKeyAndVisible();
+  scene_->addWindow(window_);
+  scene_->setActivationState(uikit::UIScene::ActivationState::foregroundActive);
+  uikit::UIApplication::shared().connect(scene_);
+}
+
+StandInScreen::~StandInScreen() { uikit::UIApplication::shared().disconnect(scene_); }
+
+std::shared_ptr<uikit::UIViewController> StandInScreen::presentedByTap(
+    const uikit::UIView& root) const {
+  tapFirst(root);
+  return window_->rootViewController()->presentedViewController();
+}
 
 Outcome showDeclarative(const InfoRequest& request, const InfoWidgetStyle& style) {
   const auto view = InfoWidgetBuilder::buildSwiftUIInfoWidgetView(request.locale, style);

@@ -1,4 +1,4 @@
-#include "tools/quorix/MintCommand.h"
+#include "tools/quorix/Commands.h"
 
 #include <unicode/ucurr.h>
 

@@ -1,4 +1,4 @@
-#include "tools/quorix/OverlayUrlCommand.h"
+#include "tools/quorix/Commands.h"
 
 #include "QuorixWidgets/overlay/OverlayAddress.h"
 #include "tools/quorix/TokenInput.h"

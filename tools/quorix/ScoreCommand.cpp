@@ -1,18 +1,56 @@
-#include "tools/quorix/ScoreCommand.h"
+#include "tools/quorix/Commands.h"
 
 #include <cstdio>
+#include <optional>
+#include <span>
+#include <string>
+#include <variant>
 
 #include "QuorixWidgets/score/ScoreWidgetBuilder.h"
 #include "platform/swiftui/TreePrinter.h"
-#include "tools/quorix/PictureApplication.h"
-#include "tools/quorix/ScoreRequest.h"
+#include "tools/quorix/Application.h"
+#include "tools/quorix/Arguments.h"
 #include "tools/quorix/TokenInput.h"
 #include "tools/quorix/Translations.h"
 #include "tools/quorix/WidgetOptions.h"
 #include "tools/quorix/WidgetOutput.h"
+#include "tools/quorix/WidgetRequest.h"
 
 namespace quorix::tool {
 namespace {
+
+/// What "quorix score" was asked for.
+struct ScoreRequest : WidgetRequest {
+  std::string clientId = {};
+  std::string token = {};
+  std::optional<std::string> translations = {};  ///< a file
+
+  static const std::span<const Option> options;
+
+  /// The request that `arguments` make, with "-" for the token read from the standard input; or
+  /// what is wrong with them.
+  static std::variant<ScoreRequest, Failure> read(const Arguments& arguments);
+};
+
+constexpr auto table = withWidgetOptions({
+    {"--client-id", "ID", "The retailer's client id (default demo)."},
+    {"--translations", "FILE.json",
+     "Replaces the built-in texts, as a fetched table would; \"quorix texts\" prints one."},
+});
+
+const std::span<const Option> ScoreRequest::options = table;
+
+std::variant<ScoreRequest, Failure> ScoreRequest::read(const Arguments& arguments) {
+  OptionReader read(arguments);
+  ScoreRequest request{WidgetRequest::from(read)};
+  request.clientId = read.text("--client-id", "demo");
+  request.translations = read.optionalText("--translations");
+  if (read.failure()) return *read.failure();
+  auto text = tokenText(*arguments.operand());
+  if (auto* failure = std::get_if<Failure>(&text)) return std::move(*failure);
+  request.token = std::get<std::string>(std::move(text));
+  return request;
+}
 
 /// Why the builder would give an empty view for `request`, or a view that can't be shown.
 std::optional<Failure> emptiness(const ScoreRequest& request) {

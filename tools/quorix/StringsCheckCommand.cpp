@@ -1,4 +1,4 @@
-#include "tools/quorix/StringsCheckCommand.h"
+#include "tools/quorix/Commands.h"
 
 #include <algorithm>
 #include <iterator>

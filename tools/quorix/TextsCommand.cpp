@@ -1,4 +1,4 @@
-#include "tools/quorix/TextsCommand.h"
+#include "tools/quorix/Commands.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>

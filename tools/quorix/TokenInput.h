@@ -6,8 +6,8 @@
 #include <variant>
 
 #include "QuorixWidgets/data/TokenData.h"
+#include "tools/quorix/Arguments.h"
 #include "tools/quorix/Failure.h"
-#include "tools/quorix/Option.h"
 
 namespace quorix::tool {
 

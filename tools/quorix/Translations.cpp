@@ -11,7 +11,7 @@
 #include "platform/foundation/URLSession.h"
 #include "platform/hosting/ViewHost.h"
 #include "qt/QtTextEngine.h"
-#include "tools/quorix/InputFile.h"
+#include "tools/quorix/Files.h"
 
 namespace quorix::tool {
 namespace {

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "platform/swiftui/ContentSizeCategory.h"
-#include "tools/quorix/Option.h"
+#include "tools/quorix/Arguments.h"
 
 namespace quorix::tool {
 

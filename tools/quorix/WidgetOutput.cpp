@@ -1,11 +1,41 @@
 #include "tools/quorix/WidgetOutput.h"
 
+#include <cmath>
+#include <optional>
+#include <string>
+
+#include "platform/render/Scene.h"
 #include "platform/render/ScenePrinter.h"
+#include "qt/Picture.h"
 #include "qt/StillScene.h"
-#include "tools/quorix/PictureFile.h"
+#include "tools/quorix/Failure.h"
+#include "tools/quorix/Files.h"
 
 namespace quorix::tool {
 namespace {
+
+// A hundred million pixels take 400 megabytes while they are painted.
+constexpr double mostPixels = 1e8;
+
+std::string pixels(double width, double height) {
+  const auto whole = [](double length) {
+    return std::to_string(static_cast<long long>(std::ceil(length)));
+  };
+  return whole(width) + " x " + whole(height) + " pixels";
+}
+
+/// Paints `scene` into a PNG file at `path`; a file that was there stays when that fails.
+std::optional<Failure> writePicture(const render::Scene& scene, const qt::PictureOptions& options,
+                                    const std::string& path) {
+  const double width = scene.size.width * options.environment.scale;
+  const double height = scene.size.height * options.environment.scale;
+  const bool tooLarge = width * height > mostPixels;
+  const QImage image = tooLarge ? QImage() : qt::paintPicture(scene, options);
+  if (image.isNull()) {
+    return Failure::refused("a picture of " + pixels(width, height) + " is too large");
+  }
+  return tool::writePicture(image, path);
+}
 
 std::string json(const WidgetRequest& request, const qt::StillScene& still) {
   std::string members;

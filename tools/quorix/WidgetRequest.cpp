@@ -1,6 +1,91 @@
 #include "tools/quorix/WidgetRequest.h"
 
+#include <QFileInfo>
+#include <QLocale>
+#include <string>
+#include <utility>
+#include <variant>
+
+#include "QuorixWidgets/localization/QuorixFont.h"
+#include "platform/graphics/FontManager.h"
+#include "qt/QtFonts.h"
+#include "tools/quorix/Failure.h"
+#include "tools/quorix/Files.h"
+
 namespace quorix::tool {
+namespace {
+
+using graphics::FontManager;
+using graphics::GraphicsFont;
+using layout::LayoutDirection;
+
+bool looksLikeFile(const QString& text) {
+  return text.contains(QLatin1Char('/')) || text.endsWith(QLatin1String(".ttf")) ||
+         text.endsWith(QLatin1String(".otf")) || QFileInfo(text).isFile();
+}
+
+std::variant<std::string, Failure> registeredFile(const std::string& path) {
+  auto bytes = readInputFile(path);
+  if (auto* failure = std::get_if<Failure>(&bytes)) return *failure;
+  const auto font =
+      GraphicsFont::fromData(foundation::Data(std::move(std::get<std::string>(bytes))));
+  if (!font) return Failure::refused(path + " is not a font file with one named face");
+  const std::string& name = font->postScriptName();
+  if (FontManager::shared().registerGraphicsFont(*font)) return name;
+  // The same file may be given for both faces.
+  if (FontManager::shared().data(name) == font->data()) return name;
+  return Failure::refused(path + ": there is a face named \"" + name +
+                          "\" already; give that name to use it");
+}
+
+/// The name to draw with for `nameOrFile`: the name of a face that is there, or a font file, whose
+/// face is registered. Needs an application object.
+std::variant<std::string, Failure> usableFace(const std::string& nameOrFile) {
+  qt::QtFonts::installSystemLookup();
+  // Registers the library's own faces first, so that no file takes their names.
+  QuorixFont::regular();
+  QuorixFont::medium();
+  if (looksLikeFile(QString::fromStdString(nameOrFile))) return registeredFile(nameOrFile);
+  if (FontManager::shared().knows(nameOrFile)) return nameOrFile;
+  return Failure::refused("there is no face named \"" + nameOrFile + '"');
+}
+
+}  // namespace
+
+WidgetLook WidgetLook::from(OptionReader& read) {
+  WidgetLook look;
+  look.locale = read.text("--locale", look.locale);
+  look.regularFont = read.optionalText("--regular-font");
+  look.semiBoldFont = read.optionalText("--semi-bold-font");
+  if (read.choice("--appearance") == 1) {
+    look.appearance = graphics::Appearance::dark;
+  }
+  if (const auto direction = read.choice("--direction")) {
+    look.direction = *direction == 1 ? LayoutDirection::rightToLeft : LayoutDirection::leftToRight;
+  }
+  if (const auto size = read.choice("--text-size")) {
+    look.textSize = static_cast<swiftui::ContentSizeCategory>(*size);
+  }
+  return look;
+}
+
+LayoutDirection WidgetLook::readingDirection() const {
+  if (direction) return *direction;
+  const QLocale language(QString::fromStdString(locale));
+  return language.textDirection() == Qt::RightToLeft ? LayoutDirection::rightToLeft
+                                                     : LayoutDirection::leftToRight;
+}
+
+std::optional<Failure> WidgetLook::findFaces() {
+  for (auto* face : {&regularFont, &semiBoldFont}) {
+    if (!*face) continue;
+    auto found = usableFace(**face);
+    if (auto* failure = std::get_if<Failure>(&found)) return *failure;
+    *face = std::get<std::string>(std::move(found));
+  }
+  return std::nullopt;
+}
+
 namespace {
 
 constexpr OptionReader::Range lengths{1, 10000};  // points

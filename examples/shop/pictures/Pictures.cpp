@@ -6,9 +6,6 @@
 
 #include "examples/shop/OverlayPages.h"
 #include "examples/shop/Shop.h"
-#include "examples/shop/pictures/QuickPictures.h"
-#include "examples/shop/pictures/WidgetPictures.h"
-#include "examples/shop/pictures/WindowPictures.h"
 
 namespace quorix::examples {
 

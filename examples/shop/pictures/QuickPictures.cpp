@@ -1,17 +1,14 @@
-#include "examples/shop/pictures/QuickPictures.h"
+#include "examples/shop/pictures/Pictures.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QMouseEvent>
 #include <algorithm>
 
-#include "examples/shop/pictures/Cast.h"
-#include "examples/shop/pictures/Settling.h"
 #include "examples/shop/pictures/ShopScene.h"
-#include "platform/foundation/FatalError.h"
-#include "qt/WebComponentLoader.h"
-#include "qt/qml/InfoWidget.h"
-#include "qt/qml/ScoreWidget.h"
+#include "platform/foundation/Error.h"
+#include "qt/WebComponent.h"
+#include "qt/qml/Widgets.h"
 
 namespace quorix::examples {
 namespace {

@@ -1,6 +1,12 @@
 #include "examples/shop/pictures/ShopScene.h"
 
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QTimer>
+
 #include "examples/shop/Shop.h"
+#include "examples/shop/StandInServices.h"
 
 namespace quorix::examples {
 
@@ -13,6 +19,47 @@ void ShopScene::set(Shop& shop) const {
   }
   shop.fillBag(bag);
   shop.openBag(page != Page::product);
+}
+
+namespace {
+
+/// Whether the lower half shows more than a plain background.
+bool hasContent(const QImage& frame) {
+  const QImage half = frame.copy(0, frame.height() / 2, frame.width(), frame.height() / 2 - 2);
+  QImage plain(half.size(), half.format());
+  plain.fill(half.pixelColor(half.width() / 2, half.height() - 1));
+  return half != plain;
+}
+
+void wait(int milliseconds) {
+  QEventLoop turns;
+  QTimer::singleShot(milliseconds, &turns, &QEventLoop::quit);
+  turns.exec();
+}
+
+}  // namespace
+
+void settle() {
+  QEventLoop turns;
+  StandInServices::whenAnswered([&turns] { turns.quit(); });
+  turns.exec();
+  // Work that a turn queues waits for the next one: a tap takes a few until its sheet stands.
+  constexpr int turnsOfATap = 20;
+  for (int turn = 0; turn < turnsOfATap; ++turn) QCoreApplication::processEvents();
+}
+
+QImage frameWithPage(const std::function<QImage()>& grab) {
+  constexpr int patience = 20'000;  // milliseconds
+  QElapsedTimer elapsed;
+  elapsed.start();
+  QImage frame = grab();
+  while (!elapsed.hasExpired(patience)) {
+    wait(150);
+    const QImage next = grab();
+    if (hasContent(next) && next == frame) break;
+    frame = next;
+  }
+  return frame;
 }
 
 }  // namespace quorix::examples

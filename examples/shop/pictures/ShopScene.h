@@ -1,10 +1,19 @@
 #pragma once
 
+#include <QImage>
 #include <cstdint>
+#include <functional>
 
 #include "examples/shop/Choices.h"
 
 namespace quorix::examples {
+
+// Indexes into the shop's lists, for scenes that name them.
+
+enum Who { ana, ben, chie, dana, eli };
+enum Language { english, spanish, german, arabic, french, japanese };
+enum Appearance { desktop, light, dark };
+enum Face { widgetsOwn, shops, shopsLarger, shopsLargest };
 
 class Shop;
 
@@ -21,5 +30,12 @@ struct ShopScene {
   /// Brings `shop` to that moment, but for what a tap opens.
   void set(Shop& shop) const;
 };
+
+/// Lets everything that is under way come to rest. Main thread.
+void settle();
+
+/// The frame that `grab` gives once a page of the web fills its lower half and no longer changes,
+/// or what it gives when that takes too long.
+QImage frameWithPage(const std::function<QImage()>& grab);
 
 }  // namespace quorix::examples

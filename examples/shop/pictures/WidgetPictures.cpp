@@ -1,4 +1,4 @@
-#include "examples/shop/pictures/WidgetPictures.h"
+#include "examples/shop/pictures/Pictures.h"
 
 #include <QQuickWindow>
 #include <algorithm>
@@ -6,8 +6,7 @@
 #include "QuorixWidgets/info/InfoWidgetBuilder.h"
 #include "QuorixWidgets/score/ScoreWidgetBuilder.h"
 #include "examples/shop/Shop.h"
-#include "examples/shop/pictures/Cast.h"
-#include "examples/shop/pictures/Settling.h"
+#include "examples/shop/pictures/ShopScene.h"
 #include "platform/swiftui/UIViewRepresentable.h"
 #include "qt/Picture.h"
 #include "qt/quick/ViewItem.h"

@@ -1,15 +1,13 @@
-#include "examples/shop/pictures/WindowPictures.h"
+#include "examples/shop/pictures/Pictures.h"
 
 #include <QApplication>
 #include <QMouseEvent>
 #include <algorithm>
 
-#include "examples/shop/pictures/Cast.h"
-#include "examples/shop/pictures/Settling.h"
 #include "examples/shop/pictures/ShopScene.h"
 #include "examples/shop/widgets/WidgetPanel.h"
-#include "platform/foundation/FatalError.h"
-#include "qt/WebComponentLoader.h"
+#include "platform/foundation/Error.h"
+#include "qt/WebComponent.h"
 
 namespace quorix::examples {
 namespace {

@@ -5,7 +5,7 @@
 
 #include "examples/shop/Shop.h"
 #include "examples/shop/quick/UIInfoBox.h"
-#include "platform/foundation/FatalError.h"
+#include "platform/foundation/Error.h"
 
 namespace quorix::examples {
 

@@ -1,8 +1,21 @@
 #pragma once
 
+#include <QWidget>
+
+#include "examples/shop/Bag.h"
 #include "examples/shop/widgets/ScrollPage.h"
 
 namespace quorix::examples {
+
+class Shop;
+
+/// The pieces of one size in the bag, as they are now.
+class BagLine : public QWidget {
+  Q_OBJECT
+
+ public:
+  BagLine(const Bag::Line& line, Shop& shop, QWidget* parent = nullptr);
+};
 
 class Label;
 class Shop;

@@ -1,8 +1,31 @@
 #pragma once
 
+#include <QComboBox>
+#include <QSvgRenderer>
 #include <QWidget>
 
 namespace quorix::examples {
+
+/// One choice of the demo bar: a caption over the value, and the list that drops from it.
+class ChoiceBox : public QComboBox {
+  Q_OBJECT
+
+ public:
+  ChoiceBox(const QString& caption, const QStringList& values, QWidget* parent = nullptr);
+
+  QSize sizeHint() const override { return {170, 42}; }
+  QSize minimumSizeHint() const override { return {110, 42}; }
+
+  void hidePopup() override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+
+ private:
+  QString caption_;
+  QSvgRenderer arrow_;
+};
 
 class Shop;
 

@@ -1,8 +1,21 @@
 #pragma once
 
 #include <QLabel>
+#include <QWidget>
 
 namespace quorix::examples {
+
+/// A thin line across.
+class Hairline : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit Hairline(QWidget* parent = nullptr) : QWidget(parent) {
+    setFixedHeight(1);
+    setAutoFillBackground(true);
+    setBackgroundRole(QPalette::Mid);
+  }
+};
 
 /// A text of the shop's, at the leading edge and in as many lines as it needs.
 class Label : public QLabel {

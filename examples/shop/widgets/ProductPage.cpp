@@ -1,13 +1,51 @@
 #include "examples/shop/widgets/ProductPage.h"
 
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
 #include "examples/shop/Shop.h"
 #include "examples/shop/widgets/Art.h"
+#include "examples/shop/widgets/Buttons.h"
 #include "examples/shop/widgets/Label.h"
-#include "examples/shop/widgets/ScoreSection.h"
-#include "examples/shop/widgets/SizePicker.h"
 #include "examples/shop/widgets/WidgetPanel.h"
 
 namespace quorix::examples {
+
+SizePicker::SizePicker(Shop& shop, QWidget* parent) : QWidget(parent) {
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(8);
+  for (const QString& size : shop.sizes()) {
+    auto* chip = new ShopButton(ShopButton::Look::chip, this);
+    chip->setText(size);
+    chip->setFixedSize(chip->sizeHint());
+    const auto follow = [chip, size, &shop] {
+      chip->setChecked(shop.size() == size);
+      chip->setAccessibleName(shop.words()["sizeOf"].arg(size));
+    };
+    connect(chip, &ShopButton::clicked, &shop, [size, follow, &shop] {
+      shop.chooseSize(size);
+      follow();  // the chosen one stays so when pressed again
+    });
+    connect(&shop, &Shop::changed, chip, follow);
+    follow();
+    row->addWidget(chip);
+  }
+  row->addStretch(1);
+}
+
+ScoreSection::ScoreSection(Shop& shop, QWidget* parent) : QWidget(parent) {
+  auto* row = new WidgetPanel(WidgetPanel::Kind::scoreRow, shop, this);
+  auto* lines = new QVBoxLayout(this);
+  lines->setContentsMargins(0, 18, 0, 0);
+  lines->setSpacing(16);
+  lines->addWidget(new Hairline(this));
+  lines->addWidget(row);
+  lines->addWidget(new Hairline(this));
+  const auto fit = [this, row] { setVisible(!row->isEmpty()); };
+  connect(&shop, &Shop::changed, this, fit);  // after the row, which came first
+  fit();
+}
 
 ProductPage::ProductPage(Shop& shop, QWidget* parent) : ScrollPage(parent) {
   auto* picture = new Art(QStringLiteral("overshirt"), 14, 0, this);

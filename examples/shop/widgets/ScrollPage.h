@@ -1,9 +1,29 @@
 #pragma once
 
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
+class QAbstractScrollArea;
+
 namespace quorix::examples {
+
+/// A slim scroll bar over the edge of a scroll area, which takes no room from it.
+class OverlayScrollBar : public QScrollBar {
+  Q_OBJECT
+
+ public:
+  explicit OverlayScrollBar(QAbstractScrollArea& area);
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  void follow();
+
+  QAbstractScrollArea& area_;
+};
 
 /// A page of the shop, which scrolls when it is longer than the window. Its column keeps to a
 /// width that is good to read.

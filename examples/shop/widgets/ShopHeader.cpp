@@ -4,7 +4,7 @@
 #include <QPainter>
 
 #include "examples/shop/Shop.h"
-#include "examples/shop/widgets/IconButton.h"
+#include "examples/shop/widgets/Buttons.h"
 #include "examples/shop/widgets/Label.h"
 
 namespace quorix::examples {

@@ -5,10 +5,10 @@
 
 #include "examples/shop/Shop.h"
 #include "examples/shop/widgets/BagPage.h"
-#include "examples/shop/widgets/Hairline.h"
+#include "examples/shop/widgets/Buttons.h"
+#include "examples/shop/widgets/Label.h"
 #include "examples/shop/widgets/Notice.h"
 #include "examples/shop/widgets/ProductPage.h"
-#include "examples/shop/widgets/ShopButton.h"
 #include "examples/shop/widgets/ShopHeader.h"
 
 namespace quorix::examples {

@@ -29,7 +29,7 @@ bool hasFonts() {
 /// Ten points for each byte of a text.
 struct PlainText final : quorix::text::TextEngine {
   quorix::text::TextMetrics measure(const quorix::text::AttributedText& text, double) override {
-    return {{leastWidth(text), 20}, 15, 15, 1};
+    return {{leastWidth(text), 20}};
   }
   double leastWidth(const quorix::text::AttributedText& text) override {
     double width = 0;

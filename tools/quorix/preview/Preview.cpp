@@ -13,7 +13,7 @@
 #include "QuorixWidgets/localization/Strings.h"
 #include "platform/foundation/StringsFile.h"
 #include "platform/foundation/URLSession.h"
-#include "tools/quorix/InputFile.h"
+#include "tools/quorix/Files.h"
 #include "tools/quorix/Translations.h"
 
 #ifdef Q_OS_UNIX

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "tools/quorix/Arguments.h"
-#include "tools/quorix/WidgetLook.h"
+#include "tools/quorix/WidgetRequest.h"
 
 namespace quorix::tool {
 

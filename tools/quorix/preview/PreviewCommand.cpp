@@ -1,11 +1,11 @@
-#include "tools/quorix/preview/PreviewCommand.h"
+#include "tools/quorix/Commands.h"
 
 #include <QApplication>
 #include <utility>
 
 #include "QuorixWidgets/localization/ResourceBundle.h"
 #include "qt/Engine.h"
-#include "tools/quorix/QuietQt.h"
+#include "tools/quorix/Application.h"
 #include "tools/quorix/Translations.h"
 #include "tools/quorix/preview/Preview.h"
 #include "tools/quorix/preview/PreviewChoices.h"

@@ -3,12 +3,11 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "QuorixWidgets/info/InfoTitle.h"
 #include "QuorixWidgets/info/InfoWidgetBuilder.h"
+#include "QuorixWidgets/info/InfoWidgetViewModel.h"
 #include "QuorixWidgets/score/ScoreWidgetBuilder.h"
 #include "platform/swiftui/UIViewRepresentable.h"
 #include "qt/AccessibilityBridge.h"
-#include "qt/AccessibleSurface.h"
 #include "qt/widgets/SheetWidget.h"
 
 namespace quorix::tool {

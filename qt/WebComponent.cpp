@@ -1,0 +1,106 @@
+#include "qt/WebComponent.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QHash>
+#include <QLibrary>
+#include <QtGlobal>
+
+#include "qt/WebLog.h"
+
+#ifdef Q_OS_UNIX
+#include <dlfcn.h>
+#ifdef __GLIBC__
+#include <link.h>
+#endif
+#endif
+
+namespace quorix::qt {
+namespace {
+
+/// The folder of the library that this code stands in, or nothing when that is not known for
+/// certain. A program that holds this code itself is named as it was called, be it by a whole path,
+/// which says nothing of where it is, and neither does a library that was loaded by a relative
+/// path.
+QString ownFolder() {
+#ifdef Q_OS_UNIX
+  Dl_info info;
+  static const char here = 0;
+#ifdef __GLIBC__
+  void* map = nullptr;
+  if (dladdr1(&here, &info, &map, RTLD_DL_LINKMAP) == 0 || !map) return {};
+  if (*static_cast<const link_map*>(map)->l_name == '\0') return {};  // the program itself
+#else
+  if (dladdr(&here, &info) == 0) return {};
+#endif
+  const QFileInfo file(QString::fromLocal8Bit(info.dli_fname));
+  if (file.isAbsolute()) return file.absolutePath();
+#endif
+  return {};
+}
+
+QString fileOf(const QString& name) {
+#if defined(Q_OS_WIN)
+  const QString file = name + QStringLiteral(".dll");
+#else
+  const QString file = QStringLiteral("lib") + name + QStringLiteral(".so");
+#endif
+  const QStringList folders = WebComponentLoader::folders();
+  for (const QString& folder : folders) {
+    const QFileInfo found(folder + QLatin1Char('/') + file);
+    if (found.isFile()) return found.absoluteFilePath();
+  }
+  qCWarning(webLog, "there is no %s in %s", qUtf8Printable(file),
+            qUtf8Printable(folders.join(QStringLiteral(", "))));
+  return {};
+}
+
+QHash<QString, WebComponent*>& known() {
+  static QHash<QString, WebComponent*> components;
+  return components;
+}
+
+WebComponent* loaded(const QString& name) {
+  const QString file = fileOf(name);
+  if (file.isEmpty()) return nullptr;
+  QLibrary library(file);
+  const auto entry = reinterpret_cast<WebComponentEntry>(library.resolve(webComponentSymbol));
+  if (!entry) {
+    qCWarning(webLog, "no web engine in %s: %s", qUtf8Printable(file),
+              qUtf8Printable(library.errorString()));
+    return nullptr;
+  }
+  WebComponent* component = entry(webComponentVersion);
+  if (!component) qCWarning(webLog, "%s is of another version", qUtf8Printable(file));
+  return component;
+}
+
+}  // namespace
+
+QStringList WebComponentLoader::folders() {
+  const QString program = QCoreApplication::applicationDirPath();
+  QStringList all = {program, program + QStringLiteral("/quorix")};
+  const QString own = ownFolder();
+  if (!own.isEmpty()) all << own << own + QStringLiteral("/quorix");
+#ifdef QUORIX_WEB_FROM_PROGRAM
+  all.append(program + QStringLiteral("/" QUORIX_WEB_FROM_PROGRAM));
+#endif
+#ifdef QUORIX_WEB_BUILD_FOLDER
+  all.append(QStringLiteral(QUORIX_WEB_BUILD_FOLDER));
+#endif
+  return all;
+}
+
+bool WebComponentLoader::isThere(const QString& name) { return !fileOf(name).isEmpty(); }
+
+bool WebComponentLoader::isLoaded(const QString& name) { return known().value(name) != nullptr; }
+
+WebComponent* WebComponentLoader::load(const QString& name) {
+  const auto found = known().constFind(name);
+  if (found != known().constEnd()) return *found;
+  WebComponent* component = loaded(name);
+  known().insert(name, component);
+  return component;
+}
+
+}  // namespace quorix::qt

@@ -1,0 +1,46 @@
+#include <QEventLoop>
+#include <QString>
+#include <cstdio>
+#include <cstdlib>
+
+#include "platform/foundation/MainQueue.h"
+#include "qt/Engine.h"
+#include "tools/quorix/Application.h"
+#include "tools/quorix/Failure.h"
+
+namespace quorix::tool {
+namespace {
+
+void keepQuiet(QtMsgType type, const QMessageLogContext&, const QString& message) {
+  if (type != QtFatalMsg) return;
+  const QByteArray line = message.section(QLatin1Char('\n'), 0, 0).toLocal8Bit();
+  std::fprintf(stderr, "quorix: %s\n", line.constData());
+  std::_Exit(Failure::refusedStatus);
+}
+
+}  // namespace
+
+void keepQtQuiet() { qInstallMessageHandler(keepQuiet); }
+
+namespace {
+
+/// Before the application object is made, which reads it.
+int& prepared(int& argc) {
+  keepQtQuiet();
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  return argc;
+}
+
+}  // namespace
+
+PictureApplication::PictureApplication() : application_(prepared(argc_), argv_) {
+  qt::installEngine();
+}
+
+void PictureApplication::takeTurn() const {
+  QEventLoop loop;
+  foundation::MainQueue::async([&] { loop.quit(); });
+  loop.exec();
+}
+
+}  // namespace quorix::tool
