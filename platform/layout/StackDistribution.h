@@ -35,9 +35,9 @@ struct StackChildren {
 /// can. Returns the sum of what is kept.
 double prepareDistribution(StackChildren children, double available);
 
-/// Divides `available` (what is left after the spacing; may be infinite) among `children`: each is
-/// asked in turn with an equal share of what remains, with the spacers' least lengths kept for
-/// them. No child is offered less than `least`, and no offer may push another child below its own.
+/// Divides `available` (what is left after the spacing; may be infinite) among `children`: one
+/// after the other is asked with an equal share of what remains, the spacers' least lengths kept
+/// for them. No child is offered less than `least`, and no offer may push another child below its own.
 /// `ask(index, offer)` returns the length that the child chooses.
 template <class Ask>
 void distribute(StackChildren children, double available, Ask ask) {

@@ -16,8 +16,8 @@ namespace quorix::qt {
 /// frame for what scrolled into sight. Belongs to the window; main thread.
 ///
 /// Qt Quick does not signal that an ancestor moved. Items are therefore kept by parent: only where
-/// a parent moved are its items compared, as plain rectangles. A few more are checked in each
-/// frame, in turn, for transforms that Qt does not signal.
+/// a parent moved are its items compared, as plain rectangles. In each frame a
+/// few others are checked as well, for transforms that Qt does not signal.
 class WindowWatcher : public QObject {
   Q_OBJECT
 
