@@ -212,7 +212,8 @@ const swiftui::PresentationDetents& ViewHost::detents() {
 }
 
 void ViewHost::settle() {
-  while (state_->graph.settle()) {
+  // A view that changes with each turn must not stop the host: the rest stays in the main queue.
+  for (int turn = 0; turn < 8 && state_->graph.settle(); ++turn) {
   }
 }
 

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -50,6 +52,23 @@ TEST(ViewHost, ContentMayChangeWhileItIsShown) {
   const auto& fill = std::get<render::FillItem>(window.shown().items.at(0));
   EXPECT_EQ(fill.color.alpha, 2);  // what came of the change
   EXPECT_EQ(window.shown().hitAreas.size(), 1);
+}
+
+struct Restless {
+  static constexpr std::string_view typeName = "Restless";
+  swiftui::State<int> turns{0};
+  auto states() const { return std::tie(turns); }
+  View body() const {
+    const int turn = turns.get();
+    if (turn < 100) turns.binding().set(turn + 1);
+    return Text::verbatim(std::to_string(turn));
+  }
+};
+
+TEST(ViewHost, AViewThatNeverRestsDoesNotStopTheHost) {
+  TestWindow window(Restless{}, {}, {100, 20});
+  window.host->settle();
+  EXPECT_LT(std::stoi(window.labels()), 100);
 }
 
 TEST(ViewHostInput, ATapIsAPressAndAReleaseOnOneArea) {
