@@ -19,7 +19,7 @@ void ViewSession::replaceView(swiftui::View view) {
 void ViewSession::settingsChanged() {
   host_.setEnvironment(environment());
   if (SheetSession* open = sheet()) open->setSettings(settings());
-  WindowSession::settingsChanged(*this, settings());
+  WindowSession::settingsChanged(*this, [this] { return settings(); });
   contentChanged();
 }
 

@@ -56,11 +56,12 @@ void WindowSession::used(Responder& responder, const Settings& settings) {
   becameKey();  // also where no window manager gives the focus to any window
 }
 
-void WindowSession::settingsChanged(const Responder& responder, const Settings& settings) {
+void WindowSession::settingsChanged(const Responder& responder,
+                                    const std::function<Settings()>& settings) {
   for (WindowSession* session : sessions()) {
     const auto used = session->used_.lock();
     if (!used || *used != &responder) continue;
-    session->settings_ = settings;
+    session->settings_ = settings();
     for (const Shown& shown : session->shown_) {
       const auto sheet = shown.sheet.lock();
       if (sheet) static_cast<SheetSession*>(*sheet)->setSettings(session->sheetSettings());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -23,7 +24,8 @@ class QUORIX_EXPORT WindowSession : private uikit::UIWindow::Client {
   /// The user works with `responder`, which has these settings.
   void used(Responder& responder, const Settings& settings);
   /// The settings of `responder` changed: sheets of controllers follow those of the latest in use.
-  static void settingsChanged(const Responder& responder, const Settings& settings);
+  static void settingsChanged(const Responder& responder,
+                              const std::function<Settings()>& settings);
   /// The window got the keyboard focus.
   void becameKey();
   /// The window came into sight or went out of it.
