@@ -51,6 +51,9 @@ class QUORIX_EXPORT Responder {
   /// whether there was a sheet to follow: call again then. For pictures and tests.
   bool settle();
 
+  /// What a sheet above this follows.
+  virtual Settings settings() const = 0;
+
   /// Locks to null once this is deleted.
   std::weak_ptr<Responder*> weak();
 
@@ -86,7 +89,7 @@ class QUORIX_EXPORT Responder {
   virtual void endMotion() {}
   /// Null while the content presents no sheet.
   virtual const swiftui::Presentation* presentation() = 0;
-  /// A new sheet above this with its settings; null without a window.
+  /// A new sheet above this; null without a window.
   virtual SheetSession* makeSheet() = 0;
 
   void showSheet();

@@ -15,12 +15,13 @@ SheetSession::~SheetSession() { leaveWindow(); }
 
 bool SheetSession::isTopmost() const { return window_ && window_->topmost() == this; }
 
-void SheetSession::setSettings(const Settings& settings) {
-  settings_ = settings;
+void SheetSession::followOpener() {
+  if (const auto opener = opener_.lock()) settings_ = (*opener)->settings();
+  settings_.motion = settings_.motion && animated_;
   followScale();
   followWindow();
   presenter_.setMotion(settings_.motion);
-  if (SheetSession* above = sheet()) above->setSettings(settings_);
+  if (window_) window_->settingsChanged(*this);
 }
 
 void SheetSession::followScale() {
@@ -54,9 +55,7 @@ void SheetSession::present(const swiftui::Presentation& presentation) {
   if (EmbeddedPages::hasPages(presenter_.panel()) && !canShowPages()) giveUpPages();
 }
 
-SheetSession* SheetSession::makeSheet() {
-  return window_ ? &window_->makeSheet(this, settings_) : nullptr;
-}
+SheetSession* SheetSession::makeSheet() { return window_ ? &window_->makeSheet(this) : nullptr; }
 
 void SheetSession::close() {
   if (leaveWindow()) leave();

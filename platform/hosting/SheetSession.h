@@ -27,7 +27,6 @@ class QUORIX_EXPORT SheetSession : public Responder,
  public:
   ~SheetSession() override;
 
-  void setSettings(const Settings& settings);
   void present(const swiftui::Presentation& presentation);
   /// The owner took the sheet back: it falls.
   void retract() { presenter_.retract(); }
@@ -49,6 +48,7 @@ class QUORIX_EXPORT SheetSession : public Responder,
   bool takes(Key key);
   bool takesTapAt(layout::Point point) override;
 
+  Settings settings() const override { return settings_; }
   const std::vector<render::AccessibilityElement>& elements() override;
   bool isScrolledAway(const layout::Rect& frame) const override {
     return presenter_.isScrolledAway(frame);
@@ -147,6 +147,7 @@ class QUORIX_EXPORT SheetSession : public Responder,
   void pointerReleased(const PointerEvent& event) override;
   void pointerCancelled() override { presenter_.pointerCancelled(); }
 
+  void followOpener();
   void followWindow();
   void track(const PointerEvent& event);
   bool leaveWindow();
@@ -155,7 +156,7 @@ class QUORIX_EXPORT SheetSession : public Responder,
   bool enterPages(bool forward);
 
   WindowSession* window_;             ///< null once closed
-  std::weak_ptr<Responder*> opener_;  ///< which is told of the sheet
+  std::weak_ptr<Responder*> opener_;  ///< which is told of the sheet, and whose settings it has
   SheetPresenter presenter_;
   Settings settings_;
   layout::Size windowSize_;
@@ -163,6 +164,7 @@ class QUORIX_EXPORT SheetSession : public Responder,
   EmbeddedPages pages_{*this};
   FocusReturn focusReturn_;
   std::optional<unsigned> pagesRevision_;
+  bool animated_ = true;
   bool shown_ = false;
   bool presented_ = false;
   bool gaveUpPages_ = false;  ///< of the latest presentation

@@ -18,8 +18,7 @@ void ViewSession::replaceView(swiftui::View view) {
 
 void ViewSession::settingsChanged() {
   host_.setEnvironment(environment());
-  if (SheetSession* open = sheet()) open->setSettings(settings());
-  WindowSession::settingsChanged(*this, [this] { return settings(); });
+  if (WindowSession* in = sheets_ > 0 ? window() : nullptr) in->settingsChanged(*this);
   contentChanged();
 }
 
@@ -29,7 +28,7 @@ void ViewSession::enterWindow() {
 
 SheetSession* ViewSession::makeSheet() {
   WindowSession* in = window();
-  return in ? &in->makeSheet(this, settings()) : nullptr;
+  return in ? &in->makeSheet(this) : nullptr;
 }
 
 void ViewSession::end() {
@@ -57,7 +56,7 @@ void ViewSession::tellOfSheets() {
 
 /// Controllers that the view presents from now on belong over this window.
 void ViewSession::used() {
-  if (WindowSession* in = window()) in->used(*this, settings());
+  if (WindowSession* in = window()) in->used(*this);
 }
 
 // Pointer.

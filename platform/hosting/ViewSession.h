@@ -34,6 +34,7 @@ class QUORIX_EXPORT ViewSession : public Responder, private ViewHost::Client {
   /// Moves the focus by keyboard. False after the last element: the focus leaves the view.
   bool walk(bool forward);
 
+  Settings settings() const override { return {environment(), allowsMotion()}; }
   const std::vector<render::AccessibilityElement>& elements() override;
   void activate(int index) override;
   bool focusElement(int index) override;
@@ -90,7 +91,6 @@ class QUORIX_EXPORT ViewSession : public Responder, private ViewHost::Client {
   void pointerReleased(const PointerEvent& event) override;
   void pointerCancelled() override { host_.pointerCancelled(); }
   void used();
-  Settings settings() const { return {environment(), allowsMotion()}; }
 
   ViewHost host_;
   ViewFocus focus_;

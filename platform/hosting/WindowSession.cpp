@@ -1,6 +1,7 @@
 #include "platform/hosting/WindowSession.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <utility>
 
 #include "platform/foundation/MainQueue.h"
@@ -41,31 +42,28 @@ WindowSession::~WindowSession() {
   uikit::UIApplication::shared().disconnect(scene_);
 }
 
-SheetSession& WindowSession::makeSheet(Responder* opener, const Settings& settings) {
+SheetSession& WindowSession::makeSheet(Responder* opener, bool animated) {
   SheetSession& sheet = newSheet(opener);
   if (opener) sheet.opener_ = opener->weak();
-  sheet.setSettings(settings);
+  sheet.animated_ = animated;
+  sheet.followOpener();
   return sheet;
 }
 
 // Activation: of several windows in sight, the one that the user works in is active.
 
-void WindowSession::used(Responder& responder, const Settings& settings) {
+void WindowSession::used(Responder& responder) {
   used_ = responder.weak();
-  settings_ = settings;
   becameKey();  // also where no window manager gives the focus to any window
 }
 
-void WindowSession::settingsChanged(const Responder& responder,
-                                    const std::function<Settings()>& settings) {
-  for (WindowSession* session : sessions()) {
-    const auto used = session->used_.lock();
-    if (!used || *used != &responder) continue;
-    session->settings_ = settings();
-    for (const Shown& shown : session->shown_) {
-      const auto sheet = shown.sheet.lock();
-      if (sheet) static_cast<SheetSession*>(*sheet)->setSettings(session->sheetSettings());
-    }
+void WindowSession::settingsChanged(const Responder& opener) {
+  // From the top: a sheet that loses its motion may be at its end and leave the list, with those
+  // above it.
+  for (std::size_t i = sheets_.size(); i-- > 0;) {
+    if (i >= sheets_.size()) continue;
+    const auto its = sheets_[i]->opener_.lock();
+    if (its && *its == &opener) sheets_[i]->followOpener();
   }
 }
 
@@ -125,16 +123,10 @@ void WindowSession::showPresented() {
 
 void WindowSession::show(const Controller& controller) {
   const auto opener = used_.lock();
-  SheetSession& sheet = makeSheet(opener ? *opener : nullptr, sheetSettings());
+  SheetSession& sheet = makeSheet(opener ? *opener : nullptr, animated_);
   const swiftui::Presentation presentation = controllerPresentation(controller);
   sheet.present(presentation);
   shown_.push_back({controller, sheet.weak(), presentation.isPresented});
-}
-
-Settings WindowSession::sheetSettings() const {
-  Settings settings = settings_;
-  settings.motion = settings.motion && animated_;
-  return settings;
 }
 
 }  // namespace quorix::hosting

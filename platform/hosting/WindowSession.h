@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <vector>
 
@@ -21,11 +20,10 @@ class QUORIX_EXPORT WindowSession : private uikit::UIWindow::Client {
   WindowSession(const WindowSession&) = delete;
   WindowSession& operator=(const WindowSession&) = delete;
 
-  /// The user works with `responder`, which has these settings.
-  void used(Responder& responder, const Settings& settings);
-  /// The settings of `responder` changed: sheets of controllers follow those of the latest in use.
-  static void settingsChanged(const Responder& responder,
-                              const std::function<Settings()>& settings);
+  /// The user works with `responder`: controllers that are presented now are its sheets.
+  void used(Responder& responder);
+  /// The settings of `opener` changed: the sheets above it follow.
+  void settingsChanged(const Responder& opener);
   /// The window got the keyboard focus.
   void becameKey();
   /// The window came into sight or went out of it.
@@ -35,8 +33,9 @@ class QUORIX_EXPORT WindowSession : private uikit::UIWindow::Client {
   void setSafeArea(const layout::SideInsets& safeArea);
   const layout::SideInsets& safeArea() const { return safeArea_; }
 
-  /// A new sheet above `opener` (null: above the window) and over the whole window.
-  SheetSession& makeSheet(Responder* opener, const Settings& settings);
+  /// A new sheet above `opener` (null: above the window) and over the whole window. It moves if
+  /// `animated`, and the settings of the opener allow it.
+  SheetSession& makeSheet(Responder* opener, bool animated = true);
   /// The sheet that takes the input; null without one.
   SheetSession* topmost() const { return sheets_.empty() ? nullptr : sheets_.back(); }
 
@@ -58,13 +57,11 @@ class QUORIX_EXPORT WindowSession : private uikit::UIWindow::Client {
   void showPresented();
   void show(const std::shared_ptr<uikit::UIViewController>& controller);
   void updateActivation();
-  Settings sheetSettings() const;
 
   std::shared_ptr<uikit::UIWindow> window_ = std::make_shared<uikit::UIWindow>();
   std::shared_ptr<uikit::UIWindowScene> scene_ = std::make_shared<uikit::UIWindowScene>();
   std::weak_ptr<Responder*> used_;
   layout::SideInsets safeArea_;
-  Settings settings_;                  ///< of the latest responder in use
   std::vector<SheetSession*> sheets_;  ///< those presented and open, from the bottom up
   std::vector<Shown> shown_;           ///< from the bottom up
   bool animated_ = true;
