@@ -212,8 +212,7 @@ const swiftui::PresentationDetents& ViewHost::detents() {
 }
 
 void ViewHost::settle() {
-  // A view that changes with each turn must not stop the host: the rest stays in the main queue.
-  for (int turn = 0; turn < 8 && state_->graph.settle(); ++turn) {
+  for (int turn = 0; turn < mostTurns && state_->graph.settle(); ++turn) {
   }
 }
 

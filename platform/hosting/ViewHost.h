@@ -63,8 +63,10 @@ class QUORIX_EXPORT ViewHost {
   /// The detents that the view asks of the sheet it is shown in; empty when it asks for none.
   const swiftui::PresentationDetents& detents();
 
-  /// Runs what is queued for the next turn of the main queue. For pictures and tests.
+  /// Runs what waits for the next turn of the main queue, for at most `mostTurns`: a view that
+  /// changes in each of them must not stop the host.
   void settle();
+  static constexpr int mostTurns = 8;
 
   // Input, in the coordinates of the latest scene.
 

@@ -117,8 +117,7 @@ bool ViewWindow::frame(double seconds) {
 
 void ViewWindow::settle() {
   // A sheet that measures its content asks for another height, and is then presented anew.
-  constexpr int mostTurns = 8;
-  for (int turn = 0; turn < mostTurns && view_->settle(); ++turn) {
+  for (int turn = 0; turn < ViewHost::mostTurns && view_->settle(); ++turn) {
   }
 }
 

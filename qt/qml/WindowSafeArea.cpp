@@ -13,8 +13,11 @@ WindowSafeArea::WindowSafeArea(QObject* window) : QObject(window) {
     qmlWarning(window) << "WindowSafeArea has to be attached to a window";
     return;
   }
-  connect(this, &WindowSafeArea::changed, this,
-          [this, attachee] { qt::setSafeArea(*attachee, QMargins(left_, top_, right_, bottom_)); });
+  const auto say = [this, attachee] {
+    qt::setSafeArea(*attachee, QMargins(left_, top_, right_, bottom_));
+  };
+  connect(this, &WindowSafeArea::changed, this, say);
+  say();  // an edge of 0 is no change
 }
 
 }  // namespace quorix::qml

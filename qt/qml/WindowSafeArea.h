@@ -5,8 +5,9 @@
 
 namespace quorix::qml {
 
-/// What the device covers at the edges of a window, in points, as `qt::setSafeArea` says it. Holds
-/// from the first edge that is not 0; before that, what Qt knows. Main thread.
+/// What the device covers at the edges of a window, in points, as `qt::setSafeArea` says it. A window
+/// for which QML names an edge has its four edges from here (0 unless named), and none from Qt. Main
+/// thread.
 ///
 ///     Window { WindowSafeArea.top: 47; WindowSafeArea.bottom: 34 }
 class WindowSafeArea : public QObject {

@@ -72,17 +72,25 @@ TEST(SafeAreaWatcher, FollowsQtUnlessTheHostSaysOtherwise) {
 }
 
 TEST(SafeAreaWatcher, FollowsAHostInQml) {
-  QQmlEngine engine;
-  QQmlComponent component(&engine);
-  component.setData(R"(
-      import QtQuick; import QuorixWidgets
-      Window { WindowSafeArea.top: 47; WindowSafeArea.bottom: 34; WindowSafeArea.left: height })",
-                    {});
-  const std::unique_ptr<QObject> made(component.create());
-  auto* window = qobject_cast<QWindow*>(made.get());
-  ASSERT_TRUE(window) << component.errorString().toStdString();
-  window->setHeight(8);
-  EXPECT_EQ(qt::SafeAreaWatcher(*window, [] {}).covered(), QMargins(8, 47, 0, 34));
+  qmlRegisterType<DeviceWindow>("Device", 1, 0, "DeviceWindow");
+  const struct {
+    QByteArray edges;
+    QMargins covered;
+  } rows[] = {
+      {"", {0, 47, 0, 34}},
+      {"WindowSafeArea.top: 0", {}},
+      {"WindowSafeArea.top: 40; WindowSafeArea.left: height", {8, 40, 0, 0}},
+  };
+  for (const auto& row : rows) {
+    QQmlEngine engine;
+    QQmlComponent component(&engine);
+    component.setData("import Device; import QuorixWidgets\nDeviceWindow {" + row.edges + "}", {});
+    const std::unique_ptr<QObject> made(component.create());
+    auto* window = qobject_cast<DeviceWindow*>(made.get());
+    ASSERT_TRUE(window) << component.errorString().toStdString();
+    window->setHeight(8);
+    EXPECT_EQ(qt::SafeAreaWatcher(*window, [] {}).covered(), row.covered) << row.edges.data();
+  }
 }
 
 }  // namespace
