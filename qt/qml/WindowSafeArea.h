@@ -5,9 +5,9 @@
 
 namespace quorix::qml {
 
-/// What the device covers at the edges of a window, in points, as `qt::setSafeArea` says it. A window
-/// for which QML names an edge has its four edges from here (0 unless named), and none from Qt. Main
-/// thread.
+/// What the device covers at the edges of a window, in points, as `qt::setSafeArea` says it. A
+/// window for which QML names an edge has its four edges from here (0 unless named), and none from
+/// Qt. Main thread.
 ///
 ///     Window { WindowSafeArea.top: 47; WindowSafeArea.bottom: 34 }
 class WindowSafeArea : public QObject {
