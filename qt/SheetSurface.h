@@ -34,7 +34,6 @@ class QUORIX_EXPORT SheetSurface : public hosting::SheetSession {
   /// Paints the panel anew if it or the scale changed; empty otherwise. The first layer is the
   /// panel itself, each further one lies above a page.
   std::vector<Layer> paintLayers();
-  bool isPainted() const { return paintedRevision_.has_value(); }
   /// The pictures were lost.
   void paintAgain();
   /// Where the focus ring stands, with its picture if that is another one than before.

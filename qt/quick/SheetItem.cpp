@@ -55,7 +55,7 @@ SheetItem::SheetItem(QQuickWindow& window, hosting::WindowSession& session,
   connect(
       &window, &QQuickWindow::frameSwapped, this,
       [this] {
-        if (isPainted()) wasShown();
+        if (inSceneGraph_) wasShown();
       },
       Qt::QueuedConnection);
 }
@@ -72,6 +72,9 @@ double SheetItem::scale() const { return window() ? window()->effectiveDevicePix
 void SheetItem::comeUp() {
   if (z() > kStacking) window()->installEventFilter(this);
   offer();
+  // Qt waits some milliseconds before it asks for a frame.
+  QMetaObject::invokeMethod(
+      this, [this] { ensurePolished(); }, Qt::QueuedConnection);
 }
 
 SheetItem::FocusReturn SheetItem::focusReturn() {
@@ -142,6 +145,7 @@ void SheetItem::updatePictures() {
 QSGNode* SheetItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
   auto* node = static_cast<SheetNode*>(old);
   if (!node) node = new SheetNode(*window());
+  inSceneGraph_ = true;
   if (!panelPicture_.isNull()) {
     node->panel().setPicture(*window(), std::exchange(panelPicture_, {}));
   } else if (!node->panel().hasPicture()) {

@@ -72,6 +72,7 @@ class SheetItem : public QQuickItem, public SheetSurface, public QuickAccessible
   double pictureHeight_ = 0;
   QColor shade_;
   QColor panelColor_;
+  bool inSceneGraph_ = false;
 
   SheetLayers layers_;  ///< above what the item paints itself
 };
