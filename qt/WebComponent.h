@@ -24,7 +24,7 @@ class WebComponent {
 };
 
 /// Another number whenever `WebComponent`, `WebPage` or `hosting::PageEngine` is another.
-constexpr int webComponentVersion = 4;
+constexpr int webComponentVersion = 5;
 constexpr char webComponentSymbol[] = "quorixWebComponent";
 
 /// The component, or null when it is built for another version than `version`.

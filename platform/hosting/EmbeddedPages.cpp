@@ -5,6 +5,8 @@
 #include <utility>
 
 #include "platform/foundation/MainQueue.h"
+#include "platform/hosting/SheetGeometry.h"
+#include "platform/layout/PixelGrid.h"
 #include "platform/uikit/URLOpener.h"
 
 namespace quorix::hosting {
@@ -159,6 +161,22 @@ void EmbeddedPage::scrollAnswered(bool used) {
 
 // All pages.
 
+PagePlace PagePlace::of(const render::EmbedItem& embed, const render::Scene& panel, double scale,
+                        bool clips) {
+  const layout::Rect room = embed.room();
+  const layout::PixelGrid grid(scale);
+  const double top = grid.ceil(room.top());
+  PagePlace place{{{room.left(), top}, {room.size.width, std::max(0.0, room.bottom() - top)}}};
+  if (!clips) return place;
+  place.radius = std::min(room.top() - embed.frame.top(), SheetGeometry::cornerRadius);
+  if (place.radius <= 0) return place;
+  place.strip = top - (room.top() - place.radius);
+  const double slack = grid.pixel() / 2;  // both are on whole pixels, but for rounding noise
+  place.isAtTop = room.top() - place.radius < slack && room.left() < slack &&
+                  room.right() > panel.size.width - slack && embed.background.alpha == 255;
+  return place;
+}
+
 bool EmbeddedPages::hasPages(const render::Scene& scene) {
   return std::any_of(scene.items.begin(), scene.items.end(), pageOf);
 }
@@ -182,13 +200,13 @@ bool EmbeddedPages::follow(const render::Scene& scene) {
   return all;
 }
 
-void EmbeddedPages::place(const render::Scene& scene,
-                          const std::function<void(PageEngine&, const layout::Rect&)>& at) const {
+void EmbeddedPages::place(const render::Scene& panel, double scale, bool clips,
+                          const std::function<void(PageEngine&, const PagePlace&)>& at) const {
   for (const auto& page : pages_) {
     if (!page->engine().isShown()) continue;
-    for (const render::Item& item : scene.items) {
+    for (const render::Item& item : panel.items) {
       if (pageOf(item) != page->content()) continue;
-      at(page->engine(), std::get<render::EmbedItem>(item).room());
+      at(page->engine(), PagePlace::of(std::get<render::EmbedItem>(item), panel, scale, clips));
       break;
     }
   }

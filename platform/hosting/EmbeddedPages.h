@@ -87,6 +87,19 @@ class EmbeddedPage final : private PageEngine::Client {
   std::unique_ptr<PageEngine> engine_;
 };
 
+/// Where a page stands in a sheet's panel, in points. The top of its room is on a whole device
+/// pixel.
+struct PagePlace {
+  layout::Rect room;     ///< where it takes input: below the panel's rounded corners
+  double strip = 0;      ///< the height of the part above the room, which only shows
+  double radius = 0;     ///< of the strip's upper corners
+  bool isAtTop = false;  ///< the strip covers the panel's top, with both corners
+
+  /// `clips`: the toolkit can cut a page to rounded corners. Otherwise the page has no strip.
+  static PagePlace of(const render::EmbedItem& embed, const render::Scene& panel, double scale,
+                      bool clips);
+};
+
 /// The live pages of one scene. Main thread.
 class EmbeddedPages {
  public:
@@ -96,10 +109,10 @@ class EmbeddedPages {
   /// Opens what is new in `scene` and closes what is no longer there. False when a page did not
   /// come up.
   bool follow(const render::Scene& scene);
-  /// Tells where each page stands in `scene`, from the bottom up, which is also the order of the
+  /// Tells where each page stands in `panel`, from the bottom up, which is also the order of the
   /// keyboard focus.
-  void place(const render::Scene& scene,
-             const std::function<void(PageEngine&, const layout::Rect&)>& at) const;
+  void place(const render::Scene& panel, double scale, bool clips,
+             const std::function<void(PageEngine&, const PagePlace&)>& at) const;
   /// Opens the addresses of the pages in `scene` outside the app.
   static void sendOutside(const render::Scene& scene);
 

@@ -112,8 +112,9 @@ void SheetSession::followPages() {
   }
   const layout::Point corner = presenter_.panelFrame().origin;
   int index = 0;
-  pages_.place(presenter_.panel(), [&](PageEngine& page, const layout::Rect& room) {
-    placePage(page, room.translated(corner), index++);
+  pages_.place(presenter_.panel(), scale(), clipsPages(), [&](PageEngine& page, PagePlace place) {
+    place.room = place.room.translated(corner);
+    placePage(page, place, index++);
   });
 }
 

@@ -123,8 +123,10 @@ class QUORIX_EXPORT SheetSession : public Responder,
   std::unique_ptr<PageEngine> openPage(const render::EmbedItem&, PageEngine::Client&) override {
     return nullptr;
   }
-  /// The page stands at `frame` in the window; `index` counts from the lowest.
-  virtual void placePage(PageEngine&, const layout::Rect& /*frame*/, int /*index*/) {}
+  /// Whether the renderer can cut a live page to rounded corners.
+  virtual bool clipsPages() const { return false; }
+  /// The page stands there in the window; `index` counts from the lowest.
+  virtual void placePage(PageEngine&, const PagePlace&, int /*index*/) {}
   virtual void focusPage(PageEngine&, bool /*forward*/) {}
   /// Takes the focus from a page, if one has it.
   virtual void takeFocusFromPages() {}

@@ -22,10 +22,19 @@ void PictureNode::setPicture(QQuickWindow& window, const QImage& image) {
   }
   QSGTexture* texture = window.createTextureFromImage(image, QQuickWindow::TextureCanUseAtlas);
   image_->setTexture(texture);
-  image_->setSourceRect(QRectF(QPointF(), texture->textureSize()));
-  image_->setRect(QRectF(QPointF(), image.deviceIndependentSize()));
+  size_ = image.deviceIndependentSize();
+  hideTop(hidden_);
   // Not before: the software renderer looks at the texture as soon as the node is in the graph.
   if (isNew) appendChildNode(image_);
+}
+
+void PictureNode::hideTop(double points) {
+  hidden_ = points;
+  if (!image_) return;
+  const QSizeF texture = image_->texture()->textureSize();
+  const double pixels = hidden_ * texture.height() / size_.height();
+  image_->setSourceRect(QRectF(QPointF(), texture).adjusted(0, pixels, 0, 0));
+  image_->setRect(QRectF(QPointF(), size_).adjusted(0, hidden_, 0, 0));
 }
 
 void PictureNode::setOrigin(QPointF origin) {

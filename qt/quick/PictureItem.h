@@ -18,10 +18,14 @@ class PictureNode : public QSGTransformNode {
   void setPicture(QQuickWindow& window, const QImage& image);
   /// Where its top left stands, in the item's points.
   void setOrigin(QPointF origin);
+  /// Does not draw the uppermost `points` of the picture.
+  void hideTop(double points);
   bool hasPicture() const { return image_ != nullptr; }
 
  private:
   QSGImageNode* image_ = nullptr;
+  QSizeF size_;
+  double hidden_ = 0;
 };
 
 /// Shows a picture at its place and takes no input. Main thread.

@@ -2,10 +2,12 @@
 
 #include <QCursor>
 #include <QQuickWindow>
+#include <QSGRendererInterface>
 #include <algorithm>
 
 #include "qt/AccessibilityBridge.h"
 #include "qt/Conversions.h"
+#include "qt/WebPage.h"
 #include "qt/WindowScene.h"
 #include "qt/quick/PictureItem.h"
 #include "qt/quick/SheetNode.h"
@@ -129,6 +131,7 @@ void SheetItem::updatePolish() {
   shade_ = toQColor(presenter().shade());
   panelColor_ = toQColor(presenter().panelColor());
   layers_.moveTo(panel_.topLeft());
+  hiddenTop_ = 0;
   followPages();
   layers_.showRing(ring());
   update();
@@ -155,6 +158,7 @@ QSGNode* SheetItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
   }
   node->setShade(boundingRect(), shade_);
   node->panel().setOrigin(panel_.topLeft());
+  node->panel().hideTop(hiddenTop_);
   QRectF below = panel_;
   below.setTop(std::min(panel_.top() + pictureHeight_, height()));
   node->setBelow(below, panelColor_);
@@ -163,12 +167,19 @@ QSGNode* SheetItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
 
 // Pages.
 
-void SheetItem::placePage(hosting::PageEngine& engine, const layout::Rect& frame, int index) {
+bool SheetItem::clipsPages() const {
+  const auto api = window()->rendererInterface()->graphicsApi();
+  return QSGRendererInterface::isApiRhiBased(api) && api != QSGRendererInterface::Null;
+}
+
+void SheetItem::placePage(hosting::PageEngine& engine, const hosting::PagePlace& place, int index) {
   auto* page = qobject_cast<QQuickItem*>(viewOf(engine));
   if (!page) return;
   connect(page, &QQuickItem::activeFocusChanged, this, &SheetItem::pageFocusChanged,
           Qt::UniqueConnection);
-  layers_.place(*page, toRect(frame), index);
+  layers_.place(*page, toRect(place.room).adjusted(0, -place.strip, 0, 0), index);
+  static_cast<WebPage&>(engine).roundTop({place.strip, place.radius, scale()});
+  if (place.isAtTop) hiddenTop_ = place.strip;
 }
 
 void SheetItem::pageFocusChanged(bool focused) {

@@ -54,7 +54,8 @@ class SheetItem : public QQuickItem, public SheetSurface, public QuickAccessible
   void vanish() override;
   void holdFocus();
 
-  void placePage(hosting::PageEngine& engine, const layout::Rect& frame, int index) override;
+  bool clipsPages() const override;
+  void placePage(hosting::PageEngine& engine, const hosting::PagePlace& place, int index) override;
   void focusPage(hosting::PageEngine& engine, bool forward) override;
   void takeFocusFromPages() override;
   void pageFocusChanged(bool focused);
@@ -70,6 +71,7 @@ class SheetItem : public QQuickItem, public SheetSurface, public QuickAccessible
   QRectF panel_;
   QImage panelPicture_;
   double pictureHeight_ = 0;
+  double hiddenTop_ = 0;  ///< points of the panel's picture that a page covers
   QColor shade_;
   QColor panelColor_;
   bool inSceneGraph_ = false;

@@ -166,10 +166,11 @@ void SheetWidget::paintEvent(QPaintEvent*) {
 
 // Pages.
 
-void SheetWidget::placePage(hosting::PageEngine& engine, const layout::Rect& frame, int index) {
+void SheetWidget::placePage(hosting::PageEngine& engine, const hosting::PagePlace& place,
+                            int index) {
   auto* page = qobject_cast<QWidget*>(viewOf(engine));
   if (!page) return;
-  page->setGeometry(toRect(frame).toAlignedRect());
+  page->setGeometry(toRect(place.room).toAlignedRect());
   page->show();
   stack_.append(page);
   if (std::size_t(index) < layers_.size()) stack_.append(layers_[std::size_t(index)].picture);

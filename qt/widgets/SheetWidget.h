@@ -52,7 +52,7 @@ class SheetWidget : public QWidget, public SheetSurface, public WidgetAccessible
   void dropFocus() override { window()->focusWidget()->clearFocus(); }
   void vanish() override;
 
-  void placePage(hosting::PageEngine& engine, const layout::Rect& frame, int index) override;
+  void placePage(hosting::PageEngine& engine, const hosting::PagePlace& place, int index) override;
   void focusPage(hosting::PageEngine& engine, bool forward) override;
   void takeFocusFromPages() override;
   bool hasPageFocus() const;

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/hosting/SheetGeometry.h"
 #include "platform/hosting/ViewWindow.h"
 #include "tests/core/OpenedAddresses.h"
 #include "tests/core/TestWindow.h"
@@ -84,6 +85,42 @@ class PageWindow final : public testing::TestText, public hosting::ViewWindow {
     return made;
   }
 };
+
+TEST(PagePlace, ReachesTheTopOnlyBetweenTheCornersAndWhereThePageCanBeCut) {
+  const layout::Rect panel{{}, {360, 400}};
+  const struct {
+    const char* what;
+    layout::Rect frame;
+    double top, strip, radius;  ///< `top` of the room
+    bool isAtTop;
+    bool clips = true;
+    double scale = 2;
+    std::uint8_t opacity = 255;
+  } rows[] = {
+      {"all of the panel", panel, 12, 12, 12, true},
+      {"a renderer that cannot cut", panel, 12, 0, 0, false, false},
+      {"below a heading", {{0, 60}, {360, 340}}, 60, 0, 0, false},
+      {"into the corners", {{0, 4}, {360, 396}}, 12, 8, 8, false},
+      {"out of the panel", {{-5, -30}, {370, 430}}, 12, 12, 12, true},
+      {"beside a part that the device covers", {{6, 0}, {354, 400}}, 12, 12, 12, false},
+      {"on a translucent ground", panel, 12, 12, 12, false, true, 2, 128},
+      {"a radius of 31.5 pixels", panel, 32 / 2.625, 32 / 2.625, 12, true, true, 2.625},
+      {"the same, not cut", panel, 32 / 2.625, 0, 0, false, false, 2.625},
+  };
+  for (const auto& row : rows) {
+    render::Scene scene;
+    scene.size = panel.size;
+    scene.items = {render::EmbedItem{row.frame, {}, {0, 0, 0, row.opacity}}};
+    hosting::SheetGeometry::roundTop(scene, panel);
+    const auto place = hosting::PagePlace::of(std::get<render::EmbedItem>(scene.items.front()),
+                                              scene, row.scale, row.clips);
+    EXPECT_DOUBLE_EQ(place.room.top(), row.top) << row.what;
+    EXPECT_DOUBLE_EQ(place.room.bottom(), 400) << row.what;
+    EXPECT_DOUBLE_EQ(place.strip, row.strip) << row.what;
+    EXPECT_EQ(place.radius, row.radius) << row.what;
+    EXPECT_EQ(place.isAtTop, row.isAtTop) << row.what;
+  }
+}
 
 TEST(SessionPage, KeysLeadBackAndForwardOrCloseTheSheet) {
   const struct {

@@ -17,7 +17,7 @@ constexpr graphics::RGBA kPageGround{10, 200, 30, 255};
 constexpr graphics::RGBA kControl{200, 10, 220, 255};
 
 /// Another toolkit's view: a page as large as it is offered, a filled square that closes it on top,
-/// and, below the page, an area that takes taps where the page does not.
+/// and, below the page's left part, an area that takes taps where the page does not.
 class PageContent final : public render::HostedContent {
  public:
   PageContent(std::shared_ptr<webkit::WebContent> page, std::function<void()> close)
@@ -31,7 +31,7 @@ class PageContent final : public render::HostedContent {
     render::Scene scene;
     scene.size = size;
     const layout::Rect control{{size.width - 48, 40}, {48, 48}};
-    scene.hitAreas.push_back({{{}, size}, close_});
+    scene.hitAreas.push_back({{{}, {200, size.height}}, close_});
     scene.hitAreas.push_back({control, close_});
     scene.items.push_back(render::EmbedItem{{{}, size}, page_, kPageGround, 0, 1});
     scene.items.push_back(render::FillItem{control, kControl});

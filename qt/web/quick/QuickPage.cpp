@@ -36,6 +36,16 @@ std::unique_ptr<QuickPage> QuickPage::make(QQmlComponent& source, QQuickWebEngin
 
 QuickPage::~QuickPage() { delete view_; }
 
+void QuickPage::roundTop(const Top& top) {
+  if (top_ == top) return;
+  top_ = top;
+  emit topChanged();
+}
+
+bool QuickPage::contains(const QPointF& point) const {
+  return view_ && QRectF({}, view_->size()).adjusted(0, top_.height, 0, 0).contains(point);
+}
+
 bool QuickPage::isReceiver(const QObject& receiver) const {
   if (!view_) return false;
   const auto* item = qobject_cast<const QQuickItem*>(&receiver);

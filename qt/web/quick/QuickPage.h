@@ -22,6 +22,9 @@ class QuickPage : public QObject, public WebPage {
   Q_PROPERTY(QWebEngineScript scrollNotes READ scrollNotes CONSTANT)
   Q_PROPERTY(bool allowsScripts READ allowsScripts CONSTANT)
   Q_PROPERTY(bool opensWindowsUnasked READ opensWindowsUnasked CONSTANT)
+  Q_PROPERTY(double topHeight READ topHeight NOTIFY topChanged)
+  Q_PROPERTY(double topRadius READ topRadius NOTIFY topChanged)
+  Q_PROPERTY(double pixelRatio READ pixelRatio NOTIFY topChanged)
 
  public:
   /// Null, with the reason on the log, when QML cannot make the view.
@@ -30,6 +33,7 @@ class QuickPage : public QObject, public WebPage {
   ~QuickPage() override;
 
   QObject* view() const override { return view_; }
+  void roundTop(const Top& top) override;
   void load(const foundation::URL& address) override;
   void stopLoad(std::chrono::milliseconds limit) override;
   void ask() override;
@@ -46,6 +50,11 @@ class QuickPage : public QObject, public WebPage {
   bool opensWindowsUnasked() const {
     return options_.settings.javaScriptCanOpenWindowsAutomatically;
   }
+  double topHeight() const { return top_.height; }
+  double topRadius() const { return top_.radius; }
+  double pixelRatio() const { return top_.pixelRatio; }
+  /// The view's shape for input.
+  Q_INVOKABLE bool contains(const QPointF& point) const;
   Q_INVOKABLE bool mayNavigate(const QUrl& address, bool mainFrame) {
     return input_.mayNavigate(address, mainFrame);
   }
@@ -61,6 +70,9 @@ class QuickPage : public QObject, public WebPage {
   Q_INVOKABLE void answered() { client_.answered(); }
   Q_INVOKABLE void scrollAnswered(bool used) { client_.scrollAnswered(used); }
 
+ signals:
+  void topChanged();
+
  private:
   QuickPage(const Options& options, Client& client);
   bool isReceiver(const QObject& receiver) const;
@@ -69,6 +81,7 @@ class QuickPage : public QObject, public WebPage {
   Options options_;
   Client& client_;
   QPointer<QQuickItem> view_;
+  Top top_;
   PageInput input_;
 };
 

@@ -9,6 +9,7 @@
 #include "qt/WebLog.h"
 #include "qt/web/WebEngine.h"
 #include "qt/web/quick/QuickPage.h"
+#include "qt/web/quick/RoundedTop.h"
 
 namespace quorix::qt {
 namespace {
@@ -41,6 +42,7 @@ std::unique_ptr<WebPage> QuickWebComponent::open(QObject& place, const WebPage::
   }
   if (!profile_) profile_ = std::make_unique<QQuickWebEngineProfile>();  // off the record
   if (!source_) {
+    qmlRegisterType<RoundedTop>("Quorix.Web", 1, 0, "RoundedTop");
     source_ = std::make_unique<QQmlComponent>(
         &engine_, QUrl(QStringLiteral("qrc:/quorix/web/quick/WebPage.qml")));
   }

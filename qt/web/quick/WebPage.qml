@@ -1,5 +1,6 @@
 import QtQuick
 import QtWebEngine
+import Quorix.Web
 
 // A page inside an app. All that a browser would ask its user for is refused without a dialog or a word
 // on the log. `page` is a QuickPage. The widgets' page is QuietPage; both keep to one table of
@@ -17,6 +18,24 @@ WebEngineView {
     // Asks the page's scroll notes. If they do not know, the page counts as having used the scrolling.
     function askForScroll(question: string) {
         runJavaScript(question, WebEngineScript.ApplicationWorld, used => page.scrollAnswered(used !== false));
+    }
+
+    // In a sheet with rounded corners the page is drawn as a picture, which is cut to them. The strip
+    // beside them takes no input.
+    clip: page.topHeight > 0
+    containmentMask: clip ? page : null
+    layer {
+        enabled: page.topHeight > 0
+        effect: RoundedTop {
+            pixelRatio: view.page.pixelRatio
+            radius: view.page.topRadius
+        }
+    }
+    Rectangle { // shows until the page has painted
+        color: view.page.background
+        height: view.page.topHeight
+        width: view.width
+        z: -1
     }
 
     backgroundColor: page.background
