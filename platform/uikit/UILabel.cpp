@@ -31,8 +31,7 @@ void UILabel::setText(std::string text) {
 }
 
 void UILabel::setAttributedText(const NSAttributedString& text) {
-  text_ = {};
-  text_.append(text);
+  text_ = NSMutableAttributedString(text);
   contentChanged();
 }
 
