@@ -140,7 +140,7 @@ void UIInfoWidget::followTitle() {
       if (shown) require(shown->titleLabel_.lock()).setAttributedText(title);
     });
   };
-  cancellables_.push_back(viewModel_->titleText.sink(deliver));
+  title_ = viewModel_->titleText.sink(deliver);
 }
 
 void UIInfoWidget::styleLink() {

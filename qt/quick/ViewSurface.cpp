@@ -36,7 +36,7 @@ bool covers(const layout::Rect& whole, const layout::Rect& part) {
 }  // namespace
 
 ViewSurface::ViewSurface(ViewItem& item)
-    : HostedView(item), QuickAccessibleSurface(item), item_(item), layoutPlace_(item) {
+    : HostedView(item), QuickAccessibleSurface(item), item_(item) {
   AccessibilityBridge::instance()->add(item, *this);
 }
 
@@ -114,7 +114,7 @@ void ViewSurface::parentChanged() {
   QQuickWindow* window = item_.parentItem() ? item_.window() : nullptr;
   watcher_ = window ? &WindowWatcher::of(*window) : nullptr;
   if (watcher_) watcher_->add(*this, *item_.parentItem());
-  if (!idealStale_) layoutPlace_.follow(ideal_ == layout::Size{});
+  if (!idealStale_) followLayoutPlace();
 }
 
 void ViewSurface::onScreenChanged() {
@@ -149,10 +149,16 @@ void ViewSurface::updateImplicitSize() {
   const bool hasWidth = item_.widthValid() && item_.width() > 0;
   const double height =
       hasWidth ? host().sizeThatFits({item_.width(), std::nullopt}).height : ideal_.height;
-  layoutPlace_.follow(ideal_ == layout::Size{});
+  followLayoutPlace();
   fitting_ = true;
   item_.setImplicitSize(ideal_.width, height);
   fitting_ = false;
+}
+
+void ViewSurface::followLayoutPlace() {
+  const bool empty = ideal_ == layout::Size{};
+  if (empty && !layoutPlace_) layoutPlace_ = std::make_unique<LayoutPlace>(item_);
+  if (layoutPlace_) layoutPlace_->follow(empty);
 }
 
 void ViewSurface::sizeChanged(bool width) {
@@ -221,7 +227,9 @@ void ViewSurface::polish() {
     picture_ = {};
     item_.update();
   }
-  if (!seen && !item_.hasActiveFocus() && !AccessibilityBridge::isActive()) host().rest();
+  if (!seen && !item_.hasActiveFocus() && !AccessibilityBridge::isActive()) {
+    host().rest(false);  // the item has its implicit size
+  }
 }
 
 void ViewSurface::refreshScene() {
@@ -250,9 +258,12 @@ void ViewSurface::updatePicture() {
 
 void ViewSurface::updateRing() {
   const auto frame = ringFrame();
-  if (frame == ring_) return;
-  ring_ = frame;
-  if (frame) ringPicture_ = FocusRing::picture(*frame, host().environment().appearance, scale());
+  if (frame ? ring_ && ring_->around == *frame : !ring_) return;
+  ring_.reset();
+  if (frame) {
+    ring_ = std::make_unique<Ring>(
+        Ring{*frame, FocusRing::picture(*frame, host().environment().appearance, scale())});
+  }
   item_.update();
 }
 
@@ -274,10 +285,10 @@ QSGNode* ViewSurface::paint(QSGNode* old) {
   node->picture->setOrigin(offset_ + QPointF(part_.left(), part_.top()));
   if (!ring_) {
     node->ring->setPicture(window, {});
-  } else if (!ringPicture_.isNull()) {
-    node->ring->setPicture(window, std::exchange(ringPicture_, {}));
+  } else if (!ring_->picture.isNull()) {
+    node->ring->setPicture(window, std::exchange(ring_->picture, {}));
   }
-  if (ring_) node->ring->setOrigin(FocusRing::frameAround(*ring_).topLeft() + offset_);
+  if (ring_) node->ring->setOrigin(FocusRing::frameAround(ring_->around).topLeft() + offset_);
   return node;
 }
 }  // namespace quorix::qt
