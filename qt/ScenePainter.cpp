@@ -3,6 +3,7 @@
 #include <QPainterPath>
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <variant>
 
 #include "qt/Conversions.h"
@@ -36,14 +37,26 @@ QPainterPath rounded(const QRectF& rect, double topRadius, double bottomRadius) 
 
 }  // namespace
 
-ScenePainter::ScenePainter(QPainter& painter, Ground ground, QtTextEngine& engine)
-    : painter_(painter),
+ScenePainter::ScenePainter(QPainter& painter, QtTextEngine& engine)
+    : painter_(&painter),
       engine_(engine),
       base_(painter.transform()),
       toDevice_(painter.deviceTransform()),
       fromDevice_(toDevice_.inverted()),
-      upright_(toDevice_.type() <= QTransform::TxScale) {
-  if (ground == Ground::nothing && upright_) ground_.emplace();
+      upright_(toDevice_.type() <= QTransform::TxScale) {}
+
+ScenePainter::ScenePainter(QImage& empty, QtTextEngine& engine)
+    : image_(&empty),
+      engine_(engine),
+      toDevice_(QTransform::fromScale(empty.devicePixelRatio(), empty.devicePixelRatio())),
+      fromDevice_(toDevice_.inverted()),
+      upright_(true),
+      ground_(KnownGround()) {}
+
+/// A picture of known texts alone needs none, and to begin one is dear.
+QPainter& ScenePainter::painter() {
+  if (!painter_) painter_ = &own_.emplace(image_);
+  return *painter_;
 }
 
 void ScenePainter::paint(const render::Scene& scene) {
@@ -51,7 +64,7 @@ void ScenePainter::paint(const render::Scene& scene) {
   for (const render::Item& item : scene.items) {
     std::visit([this](const auto& what) { draw(what); }, item);
   }
-  for (; clips_ > 0; --clips_) painter_.restore();
+  for (; clips_ > 0; --clips_) painter().restore();
 }
 
 QPointF ScenePainter::onPixels(QPointF point) const {
@@ -65,7 +78,7 @@ QRectF ScenePainter::deviceRect(const layout::Rect& frame) const {
 }
 
 void ScenePainter::fill(const QRectF& device, graphics::RGBA color) {
-  painter_.fillRect(fromDevice_.mapRect(device), toQColor(color));
+  painter().fillRect(fromDevice_.mapRect(device), toQColor(color));
 }
 
 void ScenePainter::draw(const render::TextItem& item) {
@@ -93,11 +106,23 @@ bool ScenePainter::drawPicture(const render::TextItem& item) {
   if (picture->image.isNull()) return true;
   const QRect ink(corner.toPoint() + picture->offset, picture->image.size());
   if (ground_->under(ink) != ground) return false;
+  if (copyPicture(picture->image, ink)) return true;
   const bool inPixels = toDevice_.isIdentity();
-  if (!inPixels) painter_.setTransform(fromDevice_ * base_);
-  painter_.drawImage(ink.topLeft(), picture->image);
-  if (!inPixels) painter_.setTransform(base_);
+  if (!inPixels) painter().setTransform(fromDevice_ * base_);
+  painter().drawImage(ink.topLeft(), picture->image);
+  if (!inPixels) painter().setTransform(base_);
   ground_->inked(ink);
+  return true;
+}
+
+/// Blending on clear pixels is copying. False where some are not, or are no pixels of the image.
+bool ScenePainter::copyPicture(const QImage& picture, const QRect& to) {
+  if (painter_ || copied_.intersects(to) || !image_->rect().contains(to)) return false;
+  copied_ |= to;
+  auto* row = image_->scanLine(to.top()) + to.left() * sizeof(QRgb);
+  for (int y = 0; y < to.height(); ++y, row += image_->bytesPerLine()) {
+    std::memcpy(row, picture.constScanLine(y), to.width() * sizeof(QRgb));
+  }
   return true;
 }
 
@@ -112,7 +137,7 @@ TextPictures::Picture ScenePainter::pictureOf(const render::TextItem& item,
   QPainter painter(&image);
   painter.translate(room, room);
   painter.scale(scale, scale);
-  ScenePainter(painter, Ground::unknown, engine_).drawText({{{}, item.frame.size}, item.text});
+  ScenePainter(painter, engine_).drawText({{{}, item.frame.size}, item.text});
   painter.end();
   return {image, {-room, -room}};
 }
@@ -137,12 +162,12 @@ void ScenePainter::drawLine(const ShapedText::Line& line, double unit,
     if (run.thickUnderline) stroke.thickness *= 2;
     drawDecoration(span, origin, stroke, run);
   }
-  painter_.setTransform(QTransform(unit, 0, 0, unit, origin.x(), origin.y()) * base_);
+  painter().setTransform(QTransform(unit, 0, 0, unit, origin.x(), origin.y()) * base_);
   for (const ShapedText::Piece& piece : line.pieces) {
-    painter_.setPen(toQColor(text.runs[piece.run].color));
-    painter_.drawGlyphRun({}, piece.glyphs);
+    painter().setPen(toQColor(text.runs[piece.run].color));
+    painter().drawGlyphRun({}, piece.glyphs);
   }
-  painter_.setTransform(base_);
+  painter().setTransform(base_);
   for (const ShapedText::Span& span : line.spans) {
     const text::Run& run = text.runs[span.run];
     if (!run.strikethrough) continue;
@@ -166,7 +191,7 @@ void ScenePainter::draw(const render::ImageItem& item) {
   const QRectF device = deviceRect(item.frame);
   const QImage picture = QtImages::shared().picture(
       {item.bundle, item.name, device.size().toSize(), appearance_, item.tint});
-  if (!picture.isNull()) painter_.drawImage(fromDevice_.mapRect(device), picture);
+  if (!picture.isNull()) painter().drawImage(fromDevice_.mapRect(device), picture);
   if (ground_) ground_->painted(device.toAlignedRect());
 }
 
@@ -178,17 +203,17 @@ void ScenePainter::draw(const render::FillItem& item) {
   }
   // Its edges need not be on whole pixels.
   if (ground_) ground_->painted(device.toAlignedRect().adjusted(-1, -1, 1, 1));
-  const bool antialiased = painter_.testRenderHint(QPainter::Antialiasing);
-  painter_.setRenderHint(QPainter::Antialiasing);
-  painter_.fillPath(rounded(toRect(item.frame), item.topCornerRadius, item.bottomCornerRadius),
-                    toQColor(item.color));
-  painter_.setRenderHint(QPainter::Antialiasing, antialiased);
+  const bool antialiased = painter().testRenderHint(QPainter::Antialiasing);
+  painter().setRenderHint(QPainter::Antialiasing);
+  painter().fillPath(rounded(toRect(item.frame), item.topCornerRadius, item.bottomCornerRadius),
+                     toQColor(item.color));
+  painter().setRenderHint(QPainter::Antialiasing, antialiased);
 }
 
 void ScenePainter::draw(const render::ClipItem& item) {
-  painter_.save();
+  painter().save();
   ++clips_;
-  painter_.setClipRect(fromDevice_.mapRect(deviceRect(item.frame)), Qt::IntersectClip);
+  painter().setClipRect(fromDevice_.mapRect(deviceRect(item.frame)), Qt::IntersectClip);
 }
 
 void ScenePainter::draw(const render::StrokeItem& item) {

@@ -179,6 +179,7 @@ QRectF ViewSurface::boundsInParent() const {
 }
 
 void ViewSurface::placeMayHaveChanged() {
+  if (sceneStale_) return;  // the frame looks, before it makes the scene
   if (item_.isVisible() && place()) item_.polish();
 }
 
@@ -249,8 +250,10 @@ void ViewSurface::updatePicture() {
   pictureStale_ = false;
   part_ = partToPaint();
   const render::Scene& scene = host().scene(size());
-  const bool whole = part_.size == scene.size;
-  picture_ = paintPicture(whole ? scene : render::partOf(scene, part_), scale(), {0, 0, 0, 0});
+  const auto paint = [&](const render::Scene& part) {
+    return paintPicture(part, scale(), {0, 0, 0, 0});
+  };
+  picture_ = part_.size == scene.size ? paint(scene) : paint(render::partOf(scene, part_));
   painted_ = !picture_.isNull();
   ring_.reset();  // its color and scale go with the picture's
   item_.update();
