@@ -3,10 +3,10 @@
 #include <QPainterPath>
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 #include <variant>
 
 #include "qt/Conversions.h"
+#include "qt/Pixels.h"
 #include "qt/QtImages.h"
 
 namespace quorix::qt {
@@ -78,6 +78,11 @@ QRectF ScenePainter::deviceRect(const layout::Rect& frame) const {
 }
 
 void ScenePainter::fill(const QRectF& device, graphics::RGBA color) {
+  const QRect covered = device.toRect();
+  if (!painter_ && color.alpha == 255 && image_->rect().contains(covered)) {
+    copied_ |= covered;
+    return pixels::fill(*image_, covered, toQColor(color).rgb());
+  }
   painter().fillRect(fromDevice_.mapRect(device), toQColor(color));
 }
 
@@ -106,23 +111,27 @@ bool ScenePainter::drawPicture(const render::TextItem& item) {
   if (picture->image.isNull()) return true;
   const QRect ink(corner.toPoint() + picture->offset, picture->image.size());
   if (ground_->under(ink) != ground) return false;
-  if (copyPicture(picture->image, ink)) return true;
-  const bool inPixels = toDevice_.isIdentity();
-  if (!inPixels) painter().setTransform(fromDevice_ * base_);
-  painter().drawImage(ink.topLeft(), picture->image);
-  if (!inPixels) painter().setTransform(base_);
+  if (!copyPicture(picture->image, ink, *ground)) {
+    const bool inPixels = toDevice_.isIdentity();
+    if (!inPixels) painter().setTransform(fromDevice_ * base_);
+    painter().drawImage(ink.topLeft(), picture->image);
+    if (!inPixels) painter().setTransform(base_);
+  }
   ground_->inked(ink);
   return true;
 }
 
-/// Blending on clear pixels is copying. False where some are not, or are no pixels of the image.
-bool ScenePainter::copyPicture(const QImage& picture, const QRect& to) {
-  if (painter_ || copied_.intersects(to) || !image_->rect().contains(to)) return false;
+/// Whether `pixels` are of the image, nothing was painted there, and there is no painter yet.
+bool ScenePainter::isClear(const QRect& pixels) const {
+  return !painter_ && image_->rect().contains(pixels) && !copied_.intersects(pixels);
+}
+
+/// Blending on clear pixels is copying, and a picture on its own ground covers it.
+bool ScenePainter::copyPicture(const QImage& picture, const QRect& to, graphics::RGBA ground) {
+  const bool covers = ground.alpha == 255 && !painter_ && image_->rect().contains(to);
+  if (!covers && !isClear(to)) return false;
   copied_ |= to;
-  auto* row = image_->scanLine(to.top()) + to.left() * sizeof(QRgb);
-  for (int y = 0; y < to.height(); ++y, row += image_->bytesPerLine()) {
-    std::memcpy(row, picture.constScanLine(y), to.width() * sizeof(QRgb));
-  }
+  pixels::copy(picture, *image_, to.topLeft());
   return true;
 }
 
@@ -162,17 +171,56 @@ void ScenePainter::drawLine(const ShapedText::Line& line, double unit,
     if (run.thickUnderline) stroke.thickness *= 2;
     drawDecoration(span, origin, stroke, run);
   }
-  painter().setTransform(QTransform(unit, 0, 0, unit, origin.x(), origin.y()) * base_);
   for (const ShapedText::Piece& piece : line.pieces) {
-    painter().setPen(toQColor(text.runs[piece.run].color));
+    const graphics::RGBA color = text.runs[piece.run].color;
+    // Words alone are painted again, and then from their own picture.
+    const bool figure = text.runs[piece.run].text.find_first_of("0123456789") != std::string::npos;
+    if (figure && copyGlyphs(piece.glyphs, unit, color, origin)) continue;
+    painter().setTransform(QTransform(unit, 0, 0, unit, origin.x(), origin.y()) * base_);
+    painter().setPen(toQColor(color));
     painter().drawGlyphRun({}, piece.glyphs);
+    painter().setTransform(base_);
   }
-  painter().setTransform(base_);
   for (const ShapedText::Span& span : line.spans) {
     const text::Run& run = text.runs[span.run];
     if (!run.strikethrough) continue;
     drawDecoration(span, origin, engine_.font(run.font).strikethrough, run);
   }
+}
+
+/// Blends the glyphs as Qt does, from their pictures: false where it would not, as it draws large
+/// ones by their outlines, or where something other than texts was painted.
+bool ScenePainter::copyGlyphs(const QGlyphRun& glyphs, double unit, graphics::RGBA color,
+                              QPointF origin) {
+  const QRawFont font = glyphs.rawFont();
+  const double inPixels = unit * toDevice_.m11();
+  if (painter_ || inPixels * font.pixelSize() >= 48) return false;
+  GlyphPictures& known = engine_.glyphs();
+  const std::size_t number = known.fontNumber(font);
+  const QList<quint32> indexes = glyphs.glyphIndexes();
+  const QList<QPointF> positions = glyphs.positions();
+  const QPointF from = toDevice_.map(origin);
+  copies_.clear();
+  for (qsizetype i = 0; i < indexes.size(); ++i) {
+    // In the 64ths of a pixel that Qt counts in.
+    const QPointF at = (from + positions[i] * inPixels) * 64;
+    if (!QRectF(image_->rect()).contains(at / 64)) return false;
+    const QPoint fixed(static_cast<int>(at.x()), static_cast<int>(at.y()));
+    const auto& picture =
+        known.find({number, indexes[i], toQColor(color).rgba(), inPixels, fixed.x() % 64});
+    if (picture.image.isNull()) continue;
+    const QRect to(QPoint(fixed.x() / 64, fixed.y() / 64) + picture.offset, picture.image.size());
+    if (fixed.y() % 64 != 0 || !isClear(to)) return false;
+    copies_.push_back({&picture.image, to});
+  }
+  const bool whole = std::ranges::all_of(copies_, [this](const Copy& copy) {
+    return pixels::blend(*copy.picture, *image_, copy.to.topLeft());
+  });
+  for (const Copy& copy : copies_) {
+    copied_ |= copy.to;
+    if (!whole) pixels::fill(*image_, copy.to, 0);
+  }
+  return whole;
 }
 
 void ScenePainter::drawDecoration(const ShapedText::Span& span, QPointF origin,

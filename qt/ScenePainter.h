@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QTransform>
 #include <optional>
+#include <vector>
 
 #include "platform/render/Scene.h"
 #include "qt/KnownGround.h"
@@ -40,7 +41,9 @@ class ScenePainter {
 
   void drawText(const render::TextItem& item);
   bool drawPicture(const render::TextItem& item);
-  bool copyPicture(const QImage& picture, const QRect& to);
+  bool copyPicture(const QImage& picture, const QRect& to, graphics::RGBA ground);
+  bool isClear(const QRect& pixels) const;
+  bool copyGlyphs(const QGlyphRun& glyphs, double unit, graphics::RGBA color, QPointF origin);
   TextPictures::Picture pictureOf(const render::TextItem& item, graphics::RGBA ground) const;
   void drawLine(const ShapedText::Line& line, double unit, const text::AttributedText& text,
                 QPointF origin);
@@ -56,6 +59,11 @@ class ScenePainter {
   QImage* image_ = nullptr;      ///< to make a painter for when something needs one
   std::optional<QPainter> own_;  ///< that painter
   QRect copied_;                 ///< holds all that was painted without one
+  struct Copy {
+    const QImage* picture;
+    QRect to;
+  };
+  std::vector<Copy> copies_;  ///< of one run, to be made when all of it is known
   QtTextEngine& engine_;
   const QTransform base_;
   const QTransform toDevice_;

@@ -74,6 +74,7 @@ TEST(TextPictures, LookAsTheTextDrawnAnew) {
       {"from the right", shaped(arabic, 120)},
       {"ink outside of its lines", marked},
       {"nothing to see", shaped(plainText("  "))},
+      {"figures", shaped(plainText("€ 1,234,567.89 £ 0.25 −98,765.43 % 6,071,829.30"))},
       {"over another on nothing", twice},
       {"partly outside of the picture", sceneWith(words, layout::infinity, {90, -5})},
       {"underlined", grounded(shaped(link), {}, light)},
