@@ -4,7 +4,6 @@
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
-#include <functional>
 
 namespace quorix::qt {
 namespace {
@@ -41,8 +40,7 @@ void GlyphPictures::clear() {
 
 std::size_t GlyphPictures::Hash::operator()(const Key& key) const {
   const std::size_t place = key.font << 6 | static_cast<std::size_t>(key.place);
-  return (std::size_t{key.glyph} << 10 | place) ^ std::size_t{key.color} << 32 ^
-         std::hash<double>{}(key.unit);
+  return (std::size_t{key.glyph} << 10 | place) ^ std::size_t{key.color} << 32;
 }
 
 TextPictures::Picture GlyphPictures::paint(const Key& key) const {

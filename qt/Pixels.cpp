@@ -10,7 +10,8 @@ namespace {
 template <class Row>
 void eachRow(QImage& image, const QRect& part, Row row) {
   uchar* first = image.scanLine(part.top()) + part.left() * qsizetype{sizeof(QRgb)};
-  for (int y = 0; y < part.height(); ++y, first += image.bytesPerLine()) {
+  const qsizetype step = image.bytesPerLine();
+  for (int y = 0; y < part.height(); ++y, first += step) {
     row(reinterpret_cast<QRgb*>(first), y);
   }
 }
@@ -32,9 +33,10 @@ void fill(QImage& image, const QRect& part, QRgb color) {
 
 void copy(const QImage& picture, QImage& onto, QPoint at) {
   const uchar* from = picture.constBits();
+  const qsizetype step = picture.bytesPerLine();
   const auto bytes = static_cast<std::size_t>(picture.width()) * sizeof(QRgb);
   eachRow(onto, {at, picture.size()},
-          [&](QRgb* row, int y) { std::memcpy(row, from + y * picture.bytesPerLine(), bytes); });
+          [&](QRgb* row, int y) { std::memcpy(row, from + y * step, bytes); });
 }
 
 bool blend(const QImage& picture, QImage& onto, QPoint at) {

@@ -20,12 +20,9 @@ namespace {
 
 /// A view in the scene graph: its picture, and the ring around what has the focus.
 struct ViewNode : QSGTransformNode {
-  ViewNode() {
-    appendChildNode(picture);
-    appendChildNode(ring);
-  }
+  ViewNode() { appendChildNode(picture); }
   PictureNode* picture = new PictureNode;
-  PictureNode* ring = new PictureNode;
+  PictureNode* ring = nullptr;  ///< once there was one
 };
 
 bool covers(const layout::Rect& whole, const layout::Rect& part) {
@@ -286,12 +283,15 @@ QSGNode* ViewSurface::paint(QSGNode* old) {
         &item_, [this] { pictureStale_ = true, item_.polish(); }, Qt::QueuedConnection);
   }
   node->picture->setOrigin(offset_ + QPointF(part_.left(), part_.top()));
+  if (ring_ && !node->ring) node->appendChildNode(node->ring = new PictureNode);
   if (!ring_) {
-    node->ring->setPicture(window, {});
-  } else if (!ring_->picture.isNull()) {
+    if (node->ring) node->ring->setPicture(window, {});
+    return node;
+  }
+  if (!ring_->picture.isNull()) {
     node->ring->setPicture(window, std::exchange(ring_->picture, {}));
   }
-  if (ring_) node->ring->setOrigin(FocusRing::frameAround(ring_->around).topLeft() + offset_);
+  node->ring->setOrigin(FocusRing::frameAround(ring_->around).topLeft() + offset_);
   return node;
 }
 }  // namespace quorix::qt
