@@ -33,12 +33,12 @@ QImage paintPicture(const render::Scene& scene, double scale, graphics::RGBA bac
   if (image.isNull()) return {};
   image.setDevicePixelRatio(scale);
   image.fill(Qt::transparent);
-  QPainter painter(&image);
-  ScenePainter(painter, ScenePainter::Ground::nothing).paint(scene);
+  ScenePainter(image).paint(scene);
   if (background.alpha == 0) return image;
   // Last, though it lies below: Qt blends some faces' letters otherwise (and four times as slowly)
   // on an opaque image, and a picture is to look as the view does on a surface, which is
   // transparent.
+  QPainter painter(&image);
   painter.setCompositionMode(QPainter::CompositionMode_DestinationOver);
   painter.fillRect(QRectF({}, image.deviceIndependentSize()), toQColor(background));
   return image;

@@ -107,6 +107,7 @@ void QtTextEngine::clear() {
   index_.clear();
   entries_.clear();
   pictures_.clear();
+  glyphs_.clear();
   inParagraph_ = nullptr;
 }
 

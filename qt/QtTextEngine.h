@@ -8,6 +8,7 @@
 
 #include "platform/foundation/Export.h"
 #include "platform/text/TextEngine.h"
+#include "qt/GlyphPictures.h"
 #include "qt/Paragraph.h"
 #include "qt/QtFonts.h"
 #include "qt/TextPictures.h"
@@ -34,6 +35,7 @@ class QtTextEngine final : public text::TextEngine {
 
   /// The pictures of texts in the fonts that there are now.
   TextPictures& pictures();
+  GlyphPictures& glyphs() { return glyphs_; }
 
   /// How often text has been broken into lines so far. For tests.
   int breaks() const { return breaks_; }
@@ -67,6 +69,7 @@ class QtTextEngine final : public text::TextEngine {
                      TextIdentity>
       index_;
   TextPictures pictures_;
+  GlyphPictures glyphs_;
   int breaks_ = 0;
 };
 

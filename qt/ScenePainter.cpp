@@ -6,6 +6,7 @@
 #include <variant>
 
 #include "qt/Conversions.h"
+#include "qt/Pixels.h"
 #include "qt/QtImages.h"
 
 namespace quorix::qt {
@@ -36,14 +37,26 @@ QPainterPath rounded(const QRectF& rect, double topRadius, double bottomRadius) 
 
 }  // namespace
 
-ScenePainter::ScenePainter(QPainter& painter, Ground ground, QtTextEngine& engine)
-    : painter_(painter),
+ScenePainter::ScenePainter(QPainter& painter, QtTextEngine& engine)
+    : painter_(&painter),
       engine_(engine),
       base_(painter.transform()),
       toDevice_(painter.deviceTransform()),
       fromDevice_(toDevice_.inverted()),
-      upright_(toDevice_.type() <= QTransform::TxScale) {
-  if (ground == Ground::nothing && upright_) ground_.emplace();
+      upright_(toDevice_.type() <= QTransform::TxScale) {}
+
+ScenePainter::ScenePainter(QImage& empty, QtTextEngine& engine)
+    : image_(&empty),
+      engine_(engine),
+      toDevice_(QTransform::fromScale(empty.devicePixelRatio(), empty.devicePixelRatio())),
+      fromDevice_(toDevice_.inverted()),
+      upright_(true),
+      ground_(KnownGround()) {}
+
+/// A picture of known texts alone needs none, and to begin one is dear.
+QPainter& ScenePainter::painter() {
+  if (!painter_) painter_ = &own_.emplace(image_);
+  return *painter_;
 }
 
 void ScenePainter::paint(const render::Scene& scene) {
@@ -51,7 +64,7 @@ void ScenePainter::paint(const render::Scene& scene) {
   for (const render::Item& item : scene.items) {
     std::visit([this](const auto& what) { draw(what); }, item);
   }
-  for (; clips_ > 0; --clips_) painter_.restore();
+  for (; clips_ > 0; --clips_) painter().restore();
 }
 
 QPointF ScenePainter::onPixels(QPointF point) const {
@@ -65,7 +78,12 @@ QRectF ScenePainter::deviceRect(const layout::Rect& frame) const {
 }
 
 void ScenePainter::fill(const QRectF& device, graphics::RGBA color) {
-  painter_.fillRect(fromDevice_.mapRect(device), toQColor(color));
+  const QRect covered = device.toRect();
+  if (!painter_ && color.alpha == 255 && image_->rect().contains(covered)) {
+    copied_ |= covered;
+    return pixels::fill(*image_, covered, toQColor(color).rgb());
+  }
+  painter().fillRect(fromDevice_.mapRect(device), toQColor(color));
 }
 
 void ScenePainter::draw(const render::TextItem& item) {
@@ -93,11 +111,27 @@ bool ScenePainter::drawPicture(const render::TextItem& item) {
   if (picture->image.isNull()) return true;
   const QRect ink(corner.toPoint() + picture->offset, picture->image.size());
   if (ground_->under(ink) != ground) return false;
-  const bool inPixels = toDevice_.isIdentity();
-  if (!inPixels) painter_.setTransform(fromDevice_ * base_);
-  painter_.drawImage(ink.topLeft(), picture->image);
-  if (!inPixels) painter_.setTransform(base_);
+  if (!copyPicture(picture->image, ink, *ground)) {
+    const bool inPixels = toDevice_.isIdentity();
+    if (!inPixels) painter().setTransform(fromDevice_ * base_);
+    painter().drawImage(ink.topLeft(), picture->image);
+    if (!inPixels) painter().setTransform(base_);
+  }
   ground_->inked(ink);
+  return true;
+}
+
+/// Whether `pixels` are of the image, nothing was painted there, and there is no painter yet.
+bool ScenePainter::isClear(const QRect& pixels) const {
+  return !painter_ && image_->rect().contains(pixels) && !copied_.intersects(pixels);
+}
+
+/// Blending on clear pixels is copying, and a picture on its own ground covers it.
+bool ScenePainter::copyPicture(const QImage& picture, const QRect& to, graphics::RGBA ground) {
+  const bool covers = ground.alpha == 255 && !painter_ && image_->rect().contains(to);
+  if (!covers && !isClear(to)) return false;
+  copied_ |= to;
+  pixels::copy(picture, *image_, to.topLeft());
   return true;
 }
 
@@ -112,7 +146,7 @@ TextPictures::Picture ScenePainter::pictureOf(const render::TextItem& item,
   QPainter painter(&image);
   painter.translate(room, room);
   painter.scale(scale, scale);
-  ScenePainter(painter, Ground::unknown, engine_).drawText({{{}, item.frame.size}, item.text});
+  ScenePainter(painter, engine_).drawText({{{}, item.frame.size}, item.text});
   painter.end();
   return {image, {-room, -room}};
 }
@@ -137,17 +171,56 @@ void ScenePainter::drawLine(const ShapedText::Line& line, double unit,
     if (run.thickUnderline) stroke.thickness *= 2;
     drawDecoration(span, origin, stroke, run);
   }
-  painter_.setTransform(QTransform(unit, 0, 0, unit, origin.x(), origin.y()) * base_);
   for (const ShapedText::Piece& piece : line.pieces) {
-    painter_.setPen(toQColor(text.runs[piece.run].color));
-    painter_.drawGlyphRun({}, piece.glyphs);
+    const graphics::RGBA color = text.runs[piece.run].color;
+    // Words alone are painted again, and then from their own picture.
+    const bool figure = text.runs[piece.run].text.find_first_of("0123456789") != std::string::npos;
+    if (figure && copyGlyphs(piece.glyphs, unit, color, origin)) continue;
+    painter().setTransform(QTransform(unit, 0, 0, unit, origin.x(), origin.y()) * base_);
+    painter().setPen(toQColor(color));
+    painter().drawGlyphRun({}, piece.glyphs);
+    painter().setTransform(base_);
   }
-  painter_.setTransform(base_);
   for (const ShapedText::Span& span : line.spans) {
     const text::Run& run = text.runs[span.run];
     if (!run.strikethrough) continue;
     drawDecoration(span, origin, engine_.font(run.font).strikethrough, run);
   }
+}
+
+/// Blends the glyphs as Qt does, from their pictures: false where it would not, as it draws large
+/// ones by their outlines, or where something other than texts was painted.
+bool ScenePainter::copyGlyphs(const QGlyphRun& glyphs, double unit, graphics::RGBA color,
+                              QPointF origin) {
+  const QRawFont font = glyphs.rawFont();
+  const double inPixels = unit * toDevice_.m11();
+  if (painter_ || inPixels * font.pixelSize() >= 48) return false;
+  GlyphPictures& known = engine_.glyphs();
+  const std::size_t number = known.fontNumber(font);
+  const QList<quint32> indexes = glyphs.glyphIndexes();
+  const QList<QPointF> positions = glyphs.positions();
+  const QPointF from = toDevice_.map(origin);
+  copies_.clear();
+  for (qsizetype i = 0; i < indexes.size(); ++i) {
+    // In the 64ths of a pixel that Qt counts in.
+    const QPointF at = (from + positions[i] * inPixels) * 64;
+    if (!QRectF(image_->rect()).contains(at / 64)) return false;
+    const QPoint fixed(static_cast<int>(at.x()), static_cast<int>(at.y()));
+    const auto& picture =
+        known.find({number, indexes[i], toQColor(color).rgba(), inPixels, fixed.x() % 64});
+    if (picture.image.isNull()) continue;
+    const QRect to(QPoint(fixed.x() / 64, fixed.y() / 64) + picture.offset, picture.image.size());
+    if (fixed.y() % 64 != 0 || !isClear(to)) return false;
+    copies_.push_back({&picture.image, to});
+  }
+  const bool whole = std::ranges::all_of(copies_, [this](const Copy& copy) {
+    return pixels::blend(*copy.picture, *image_, copy.to.topLeft());
+  });
+  for (const Copy& copy : copies_) {
+    copied_ |= copy.to;
+    if (!whole) pixels::fill(*image_, copy.to, 0);
+  }
+  return whole;
 }
 
 void ScenePainter::drawDecoration(const ShapedText::Span& span, QPointF origin,
@@ -166,7 +239,7 @@ void ScenePainter::draw(const render::ImageItem& item) {
   const QRectF device = deviceRect(item.frame);
   const QImage picture = QtImages::shared().picture(
       {item.bundle, item.name, device.size().toSize(), appearance_, item.tint});
-  if (!picture.isNull()) painter_.drawImage(fromDevice_.mapRect(device), picture);
+  if (!picture.isNull()) painter().drawImage(fromDevice_.mapRect(device), picture);
   if (ground_) ground_->painted(device.toAlignedRect());
 }
 
@@ -178,17 +251,17 @@ void ScenePainter::draw(const render::FillItem& item) {
   }
   // Its edges need not be on whole pixels.
   if (ground_) ground_->painted(device.toAlignedRect().adjusted(-1, -1, 1, 1));
-  const bool antialiased = painter_.testRenderHint(QPainter::Antialiasing);
-  painter_.setRenderHint(QPainter::Antialiasing);
-  painter_.fillPath(rounded(toRect(item.frame), item.topCornerRadius, item.bottomCornerRadius),
-                    toQColor(item.color));
-  painter_.setRenderHint(QPainter::Antialiasing, antialiased);
+  const bool antialiased = painter().testRenderHint(QPainter::Antialiasing);
+  painter().setRenderHint(QPainter::Antialiasing);
+  painter().fillPath(rounded(toRect(item.frame), item.topCornerRadius, item.bottomCornerRadius),
+                     toQColor(item.color));
+  painter().setRenderHint(QPainter::Antialiasing, antialiased);
 }
 
 void ScenePainter::draw(const render::ClipItem& item) {
-  painter_.save();
+  painter().save();
   ++clips_;
-  painter_.setClipRect(fromDevice_.mapRect(deviceRect(item.frame)), Qt::IntersectClip);
+  painter().setClipRect(fromDevice_.mapRect(deviceRect(item.frame)), Qt::IntersectClip);
 }
 
 void ScenePainter::draw(const render::StrokeItem& item) {

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QTransform>
 #include <optional>
+#include <vector>
 
 #include "platform/render/Scene.h"
 #include "qt/KnownGround.h"
@@ -19,15 +20,13 @@ namespace quorix::qt {
 ///     ScenePainter(painter).paint(host.scene(size));
 class ScenePainter {
  public:
-  /// What lies under the scene. On an empty image in premultiplied ARGB, a text that was painted
-  /// before on the same ground, nothing or one opaque color, is painted from its picture, with the
-  /// same pixels; over other things text is blended by their brightness.
-  enum class Ground { unknown, nothing };
+  explicit ScenePainter(QPainter& painter, QtTextEngine& engine = QtTextEngine::shared());
+  /// On an empty image in premultiplied ARGB, a point on as many pixels as its ratio says. A text
+  /// that was painted before on the same ground, nothing or one opaque color, is painted from its
+  /// picture, with the same pixels; over other things text is blended by their brightness.
+  explicit ScenePainter(QImage& empty, QtTextEngine& engine = QtTextEngine::shared());
 
-  explicit ScenePainter(QPainter& painter, Ground ground = Ground::unknown,
-                        QtTextEngine& engine = QtTextEngine::shared());
-
-  /// Paints every item in order and leaves the painter as it was, but for its pen.
+  /// Paints every item in order and leaves the given painter as it was, but for its pen.
   void paint(const render::Scene& scene);
 
  private:
@@ -42,6 +41,9 @@ class ScenePainter {
 
   void drawText(const render::TextItem& item);
   bool drawPicture(const render::TextItem& item);
+  bool copyPicture(const QImage& picture, const QRect& to, graphics::RGBA ground);
+  bool isClear(const QRect& pixels) const;
+  bool copyGlyphs(const QGlyphRun& glyphs, double unit, graphics::RGBA color, QPointF origin);
   TextPictures::Picture pictureOf(const render::TextItem& item, graphics::RGBA ground) const;
   void drawLine(const ShapedText::Line& line, double unit, const text::AttributedText& text,
                 QPointF origin);
@@ -51,7 +53,17 @@ class ScenePainter {
   QPointF onPixels(QPointF point) const;
   QRectF deviceRect(const layout::Rect& frame) const;
 
-  QPainter& painter_;
+  QPainter& painter();
+
+  QPainter* painter_ = nullptr;
+  QImage* image_ = nullptr;      ///< to make a painter for when something needs one
+  std::optional<QPainter> own_;  ///< that painter
+  QRect copied_;                 ///< holds all that was painted without one
+  struct Copy {
+    const QImage* picture;
+    QRect to;
+  };
+  std::vector<Copy> copies_;  ///< of one run, to be made when all of it is known
   QtTextEngine& engine_;
   const QTransform base_;
   const QTransform toDevice_;

@@ -40,8 +40,9 @@ namespace {
 constexpr std::size_t maximumBytes = std::size_t{2} << 20;
 constexpr std::size_t maximumEntries = 128;
 
-/// `picture` without the borders that show its ground alone.
-TextPictures::Picture cropped(const TextPictures::Picture& picture, graphics::RGBA ground) {
+}  // namespace
+
+TextPictures::Picture TextPictures::cropped(const Picture& picture, graphics::RGBA ground) {
   const bool opaque = ground.alpha == 255;
   const QRgb bare = opaque ? toQColor(ground).rgb() : 0;
   const QImage& image = picture.image;
@@ -65,8 +66,6 @@ TextPictures::Picture cropped(const TextPictures::Picture& picture, graphics::RG
   if (opaque) cut.reinterpretAsFormat(QImage::Format_RGB32);
   return {std::move(cut), picture.offset + ink.topLeft()};
 }
-
-}  // namespace
 
 TextPictures::Entry* TextPictures::known(const render::TextItem& item, double scale,
                                          graphics::RGBA ground) {

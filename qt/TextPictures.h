@@ -42,6 +42,9 @@ class TextPictures {
 
   void clear();
 
+  /// `picture` without the borders that show its ground alone.
+  static Picture cropped(const Picture& picture, graphics::RGBA ground);
+
  private:
   struct Entry {
     text::AttributedText text;

@@ -84,11 +84,18 @@ namespace {
 
 constexpr double fontSize = 13;
 
+/// The library's own face: one font for all widgets.
+template <const QuorixFont& (*face)()>
+const uikit::UIFont::Ref& ownFont() {
+  static const auto font = UIFont::Quorix::fixed(face(), fontSize);
+  return font;
+}
+
 const uikit::UIFont::Ref& cached(uikit::UIFont::Ref& cache,
                                  const std::optional<std::string>& styleFace,
-                                 const QuorixFont& (*ownFace)()) {
+                                 const uikit::UIFont::Ref& (*own)()) {
   if (!cache && styleFace) cache = uikit::UIFont::named(*styleFace, fontSize);
-  if (!cache) cache = UIFont::Quorix::fixed(ownFace(), fontSize);
+  if (!cache) cache = own();
   return cache;
 }
 
@@ -105,11 +112,11 @@ UIInfoWidgetViewModel::UIInfoWidgetViewModel(std::optional<std::string> shopper,
 }
 
 const uikit::UIFont::Ref& UIInfoWidgetViewModel::regularFont() const {
-  return cached(regularFont_, styleConfiguration.regularFont, QuorixFont::regular);
+  return cached(regularFont_, styleConfiguration.regularFont, ownFont<QuorixFont::regular>);
 }
 
 const uikit::UIFont::Ref& UIInfoWidgetViewModel::semiBoldFont() const {
-  return cached(semiBoldFont_, styleConfiguration.semiBoldFont, QuorixFont::medium);
+  return cached(semiBoldFont_, styleConfiguration.semiBoldFont, ownFont<QuorixFont::medium>);
 }
 
 uikit::NSAttributedString UIInfoWidgetViewModel::getInfoTitle() const {
@@ -118,7 +125,7 @@ uikit::NSAttributedString UIInfoWidgetViewModel::getInfoTitle() const {
     const auto& font = part.isNumber ? semiBoldFont() : regularFont();
     title.append(uikit::NSAttributedString(part.text, {.font = font}));
   }
-  return title;
+  return title.shared();
 }
 
 }  // namespace quorix

@@ -140,16 +140,17 @@ void UIInfoWidget::followTitle() {
       if (shown) require(shown->titleLabel_.lock()).setAttributedText(title);
     });
   };
-  cancellables_.push_back(viewModel_->titleText.sink(deliver));
+  title_ = viewModel_->titleText.sink(deliver);
 }
 
 void UIInfoWidget::styleLink() {
   uikit::UILabel& link = require(linkLabel_.lock());
+  const uikit::NSAttributes look{viewModel_->regularFont(), UIColor::defaultFontColor(),
+                                 uikit::NSUnderlineStyle::thick};
   link.setAttributedText(
-      uikit::NSAttributedString(localized("widget-read-more", viewModel_->locale),
-                                {.underlineStyle = uikit::NSUnderlineStyle::thick}));
-  link.setFont(viewModel_->regularFont());
-  link.setTextColor(UIColor::defaultFontColor());
+      uikit::NSAttributedString(localized("widget-read-more", viewModel_->locale), look).shared());
+  link.setFont(look.font);
+  link.setTextColor(look.foregroundColor);
   link.setNumberOfLines(0);
   link.setUserInteractionEnabled(true);
   link.addGestureRecognizer(std::make_shared<uikit::UITapGestureRecognizer>(

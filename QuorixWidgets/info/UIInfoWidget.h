@@ -2,7 +2,6 @@
 
 #include <memory>
 #include <string_view>
-#include <vector>
 
 #include "QuorixWidgets/info/InfoWidgetViewModel.h"
 #include "platform/uikit/UILabel.h"
@@ -51,7 +50,7 @@ class UIInfoWidget final : public uikit::UIView {
 
   static constexpr std::string_view classXibName = "UIInfoWidget";
   std::shared_ptr<UIInfoWidgetViewModel> viewModel_;
-  std::vector<combine::Cancellable> cancellables_;
+  combine::Cancellable title_;  ///< the subscription to the model's
   std::shared_ptr<uikit::UIView> contentView_;
   std::weak_ptr<uikit::UILabel> titleLabel_;
   std::weak_ptr<uikit::UILabel> linkLabel_;

@@ -15,6 +15,7 @@ class FontManager;
 namespace quorix::uikit {
 class UIApplication;
 struct InterfaceFiles;
+struct SharedTexts;
 }  // namespace quorix::uikit
 namespace quorix::hosting {
 class RecentEvaluations;
@@ -50,6 +51,7 @@ class Runtime {
                             graphics::FontManager*,        // added faces, and the engine's look-up
                             URLSession*,                   // protocols, and the engine's transport
                             uikit::InterfaceFiles*,        // parsed, the latest few
+                            uikit::SharedTexts*,           // attributed, the latest few
                             uikit::UIApplication*,         // scenes, and the engine's opener
                             hosting::WindowSessions*,      // of all windows
                             hosting::RecentEvaluations*>;  // of views that are being placed

@@ -43,7 +43,6 @@ struct ViewHost::State {
 
   text::TextEngine& engine;
   Client& client;
-  std::shared_ptr<State*> alive;  ///< made for contents, which may outlive the host
   swiftui::Environment environment;
   swiftui::ViewGraph graph;
   // Between an evaluation and the scene made of it; a view at rest keeps the scene alone.
@@ -69,9 +68,9 @@ void ViewHost::State::evaluateAgain() {
   RecentEvaluations::shared().fill(evaluation, graph.evaluate(environment));
   detents = evaluation->detents;
   for (const auto& content : evaluation->hosted) {
-    if (!alive) alive = std::make_shared<State*>(this);
-    content->onChange([self = std::weak_ptr(alive)] {
-      if (self.lock()) (*self.lock())->changed();
+    // A content may outlive the host.
+    content->onChange([this, life = graph.life()] {
+      if (!life.expired()) changed();
     });
   }
   const bool had = presentation.has_value();
@@ -196,8 +195,9 @@ render::Scene ViewHost::takeScene(layout::Size size) {
   return *std::exchange(state_->scene, std::nullopt);
 }
 
-void ViewHost::rest() {
+void ViewHost::rest(bool keepsSizes) {
   state_->scene.reset();
+  if (!keepsSizes) state_->fitted = decltype(state_->fitted)();
   state_->forget();
 }
 

@@ -15,7 +15,8 @@ char32_t steps::into(std::type_index type) {
 }
 
 void Component::print(TreePrinter& to, int depth) const {
-  StateSlots states;
+  const foundation::Action none;
+  StateSlots states{{}, &none};
   const View shown = body(states);
   if (!isModifier()) to.line(depth, name());
   to.print(shown, isModifier() ? depth : depth + 1);

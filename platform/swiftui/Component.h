@@ -50,7 +50,7 @@ void bindStates(const V& value, StateSlots& states) {
     std::apply(
         [&](const auto&... state) {
           std::shared_ptr<Kept>* slot = &states.first;
-          ((slot = &bindState(state, *slot, states.onChange)), ...);
+          ((slot = &bindState(state, *slot, *states.onChange)), ...);
         },
         value.states());
   }

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <initializer_list>
+#include <limits>
 #include <optional>
 
 namespace quorix::swiftui {
@@ -11,18 +12,22 @@ namespace quorix::swiftui {
 /// A height at which a sheet may rest: half of what is available, or a number of points.
 class PresentationDetent {
  public:
-  static PresentationDetent medium() { return PresentationDetent(std::nullopt); }
+  static PresentationDetent medium() { return PresentationDetent(half); }
   static PresentationDetent height(double points) { return PresentationDetent(points); }
 
   /// The height of a height detent.
-  std::optional<double> points() const { return points_; }
+  std::optional<double> points() const {
+    return points_ == half ? std::nullopt : std::optional(points_);
+  }
 
   auto operator<=>(const PresentationDetent&) const = default;
 
  private:
-  explicit PresentationDetent(std::optional<double> points) : points_(points) {}
+  static constexpr double half = -std::numeric_limits<double>::infinity();
 
-  std::optional<double> points_;
+  explicit PresentationDetent(double points) : points_(points) {}
+
+  double points_;
 };
 
 /// A set of detents, medium first, then heights from the lowest. A sheet rests at its lowest

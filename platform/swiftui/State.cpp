@@ -10,14 +10,14 @@ constexpr std::size_t kUsual = 2;  // a widget and the modifier that presents it
 }  // namespace
 
 StateSlots& StateStore::states(const TreePath& path) {
-  const auto isIt = [&](const Entry& entry) { return entry.path == path; };
+  const auto isIt = [&](const Entry& entry) { return std::u32string_view(entry.path) == path; };
   const auto next = entries_.begin() + static_cast<std::ptrdiff_t>(next_);
   auto found = std::find_if(next, entries_.end(), isIt);
   if (found == entries_.end()) {
     found = std::find_if(entries_.begin(), next, isIt);
     if (found == next) {
       if (entries_.empty()) entries_.reserve(kUsual);
-      entries_.push_back({path, {{}, onChange_}});
+      entries_.push_back({std::u32string(path), {{}, &onChange_}});
       found = entries_.end() - 1;
     }
   }

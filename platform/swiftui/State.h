@@ -100,7 +100,7 @@ QUORIX_EXPORT char32_t into(std::type_index type);
 /// it names them.
 struct StateSlots {
   std::shared_ptr<Kept> first;
-  foundation::Action onChange;
+  const foundation::Action* onChange;
 };
 
 /// The states of a view tree's components, by place. What an evaluation does not visit any more has
@@ -108,6 +108,8 @@ struct StateSlots {
 class StateStore {
  public:
   explicit StateStore(foundation::Action onChange) : onChange_(std::move(onChange)) {}
+  StateStore(const StateStore&) = delete;
+  StateStore& operator=(const StateStore&) = delete;
 
   /// Valid until the next call.
   StateSlots& states(const TreePath& path);
@@ -118,7 +120,7 @@ class StateStore {
 
  private:
   struct Entry {
-    TreePath path;
+    std::u32string path;
     StateSlots states;
     bool visited = true;
   };

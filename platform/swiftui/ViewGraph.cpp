@@ -1,5 +1,6 @@
 #include "platform/swiftui/ViewGraph.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "platform/foundation/MainQueue.h"
@@ -58,18 +59,20 @@ void ViewGraph::invalidate() {
 }
 
 void ViewGraph::startTasks(std::span<const TaskRequest> requests) {
-  std::map<TreePath, std::shared_ptr<void>> running;
+  RunningTasks running;
+  running.reserve(requests.size());
   for (const TaskRequest& request : requests) {
-    const auto found = runningTasks_.find(request.path);
+    const auto found =
+        std::ranges::find(runningTasks_, request.path, &RunningTasks::value_type::first);
     if (found != runningTasks_.end()) {
-      running.insert(*found);
+      running.push_back(std::move(*found));
       continue;
     }
     auto token = std::make_shared<bool>();
     foundation::MainQueue::async([alive = std::weak_ptr(token), action = request.action] {
       if (alive.lock()) action();
     });
-    running.emplace(request.path, std::move(token));
+    running.emplace_back(request.path, std::move(token));
   }
   runningTasks_ = std::move(running);
 }

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <functional>
-#include <map>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "platform/combine/ObservableObject.h"
@@ -32,10 +32,15 @@ class ViewGraph {
 
   std::unique_ptr<Evaluation> evaluate(const Environment& environment);
 
+  /// Expires with the graph.
+  std::weak_ptr<const void> life() const { return self_; }
+
   /// Runs a pending turn at once. Returns whether there was one.
   bool settle();
 
  private:
+  using RunningTasks = std::vector<std::pair<TreePath, std::shared_ptr<void>>>;
+
   void invalidate();
   void startTasks(std::span<const TaskRequest> requests);
 
@@ -44,7 +49,7 @@ class ViewGraph {
   StateStore store_;
   std::function<void()> onInvalidate_;
   std::vector<combine::Cancellable> subscriptions_;
-  std::map<TreePath, std::shared_ptr<void>> runningTasks_;
+  RunningTasks runningTasks_;
   bool onScreen_ = false;
   bool turnPending_ = false;
 };

@@ -1,10 +1,14 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "platform/foundation/Export.h"
 #include "platform/uikit/UIColor.h"
 #include "platform/uikit/UIFont.h"
 
@@ -21,7 +25,8 @@ struct NSAttributes {
   bool operator==(const NSAttributes&) const = default;
 };
 
-/// A text in runs, each with its own look. A value.
+/// A text in runs, each with its own look. A value: copies share the runs until one is changed.
+/// Main thread.
 class NSAttributedString {
  public:
   struct Run {
@@ -32,22 +37,36 @@ class NSAttributedString {
 
   NSAttributedString() = default;
   explicit NSAttributedString(std::string text, NSAttributes attributes = {}) {
-    if (!text.empty()) runs_.push_back({std::move(text), std::move(attributes)});
+    if (!text.empty()) ownRuns().push_back({std::move(text), std::move(attributes)});
   }
 
   /// The text of all runs.
   std::string string() const {
     std::string words;
-    for (const Run& run : runs_) words += run.text;
+    for (const Run& run : runs()) words += run.text;
     return words;
   }
   /// In reading order, none of them empty.
-  const std::vector<Run>& runs() const { return runs_; }
+  const std::vector<Run>& runs() const {
+    static const std::vector<Run> none;
+    return runs_ ? *runs_ : none;
+  }
 
-  bool operator==(const NSAttributedString&) const = default;
+  /// An equal text. The latest few texts that this was called for share their runs with it: for
+  /// texts that many views show.
+  QUORIX_EXPORT NSAttributedString shared() const;
+
+  bool operator==(const NSAttributedString& other) const { return runs() == other.runs(); }
 
  protected:
-  std::vector<Run> runs_;
+  /// To be changed.
+  std::vector<Run>& ownRuns() {
+    if (!runs_ || runs_.use_count() > 1) runs_ = std::make_shared<std::vector<Run>>(runs());
+    return *runs_;
+  }
+
+ private:
+  std::shared_ptr<std::vector<Run>> runs_;  ///< null: none
 };
 
 /// An attributed text that can be extended.
@@ -57,17 +76,26 @@ class NSAttributedString {
 class NSMutableAttributedString : public NSAttributedString {
  public:
   using NSAttributedString::NSAttributedString;
+  explicit NSMutableAttributedString(NSAttributedString text)
+      : NSAttributedString(std::move(text)) {}
 
   void append(const NSAttributedString& other) {
-    const auto added = other.runs();  // a copy: `other` may be this object
-    runs_.insert(runs_.end(), added.begin(), added.end());
+    const NSAttributedString kept = other;  // may be this object
+    auto& runs = ownRuns();
+    runs.insert(runs.end(), kept.runs().begin(), kept.runs().end());
   }
   /// Of every run.
-  void setFont(const UIFont::Ref& font) {
-    for (Run& run : runs_) run.attributes.font = font;
-  }
+  void setFont(const UIFont::Ref& font) { setOfAll(&NSAttributes::font, font); }
   void setForegroundColor(const UIColor::Ref& color) {
-    for (Run& run : runs_) run.attributes.foregroundColor = color;
+    setOfAll(&NSAttributes::foregroundColor, color);
+  }
+
+ private:
+  template <class Value>
+  void setOfAll(Value NSAttributes::*member, const Value& value) {
+    const auto has = [&](const Run& run) { return run.attributes.*member == value; };
+    if (std::all_of(runs().begin(), runs().end(), has)) return;
+    for (Run& run : ownRuns()) run.attributes.*member = value;
   }
 };
 

@@ -31,7 +31,10 @@ void NSLayoutConstraint::activate(const std::vector<NSLayoutConstraint>& constra
           "subviews of one view",
           "NSLayoutConstraint");
     }
-    holder->constraints_.push_back(constraint);
+    holder->constraints_.push_back(
+        {constraint.firstItem.lock().get(), constraint.secondItem.lock().get(), constraint.constant,
+         constraint.firstAttribute, constraint.secondAttribute.value_or(LayoutAttribute::left),
+         constraint.relation});
     holder->setNeedsLayout();
   }
 }

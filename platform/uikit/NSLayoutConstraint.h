@@ -47,6 +47,17 @@ struct QUORIX_EXPORT NSLayoutConstraint {
   UIView* holder() const;
 };
 
+/// An active constraint, as the view that stores it has it: it joins that view and its subviews,
+/// which live as long.
+struct ActiveLayoutConstraint {
+  UIView* firstItem;
+  UIView* secondItem;  ///< null: the constant alone
+  double constant;
+  LayoutAttribute firstAttribute;
+  LayoutAttribute secondAttribute;  ///< with a second item
+  LayoutRelation relation;
+};
+
 /// One edge or length of a view, from which constraints are made.
 ///
 ///     #include <platform/uikit/UIView.h>

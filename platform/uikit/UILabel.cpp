@@ -31,8 +31,7 @@ void UILabel::setText(std::string text) {
 }
 
 void UILabel::setAttributedText(const NSAttributedString& text) {
-  text_ = {};
-  text_.append(text);
+  text_ = NSMutableAttributedString(text);
   contentChanged();
 }
 
@@ -106,6 +105,8 @@ void UILabel::draw(const layout::Rect& frame, const LayoutContext& context,
   const double left = rightToLeft ? frame.right() - width : frame.left();
   const double top = frame.top() + (frame.size.height - size.height) / 2;
   items.push_back(render::TextItem{{{left, top}, {width, size.height}}, resolved(context.display)});
+  measured_ =
+      std::vector<Measured>();  // the layout is over, and most labels are at rest from now on
 }
 
 std::optional<render::AccessibilityElement> UILabel::describe(std::string_view) const {

@@ -54,7 +54,7 @@ class UILabel final : public UIView {
   UIFont::Ref font_;
   UIColor::Ref textColor_;
   int numberOfLines_ = 1;
-  mutable std::vector<Measured> measured_;  // cleared when the text changes
+  mutable std::vector<Measured> measured_;  // of one layout
 };
 
 }  // namespace quorix::uikit

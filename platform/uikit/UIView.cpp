@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "platform/foundation/Error.h"
+#include "platform/uikit/UIViewContent.h"
 
 namespace quorix::uikit {
 namespace {
@@ -64,9 +65,8 @@ void UIView::removeFromSuperview() {
 }
 
 void UIView::dropConstraintsInto(const UIView& leaving) {
-  std::erase_if(constraints_, [&](const NSLayoutConstraint& constraint) {
-    return constraint.firstItem.lock().get() == &leaving ||
-           constraint.secondItem.lock().get() == &leaving;
+  std::erase_if(constraints_, [&](const ActiveLayoutConstraint& constraint) {
+    return constraint.firstItem == &leaving || constraint.secondItem == &leaving;
   });
 }
 
@@ -95,12 +95,14 @@ void UIView::setUserInteractionEnabled(bool enabled) {
 }
 
 void UIView::addGestureRecognizer(std::shared_ptr<UITapGestureRecognizer> recognizer) {
-  gestureRecognizers_.push_back(std::move(recognizer));
+  ownExtras().gestureRecognizers.push_back(std::move(recognizer));
   setNeedsLayout();
 }
 
 void UIView::setAccessibilityLabel(std::optional<std::string> label) {
-  if (store(accessibilityLabel_, std::move(label))) setNeedsLayout();
+  if (label == accessibilityLabel()) return;
+  ownExtras().accessibilityLabel = std::move(label);
+  setNeedsLayout();
 }
 
 void UIView::setAccessibilityTraits(UIAccessibilityTraits traits) {
@@ -124,17 +126,18 @@ std::optional<render::AccessibilityElement> UIView::describe(std::string_view) c
 
 void UIView::setNeedsLayout() const {
   for (const UIView* view = this; view != nullptr; view = view->superview_) {
-    if (view->changed_) view->changed_();
+    if (view->shownBy_) view->shownBy_->viewChanged();
   }
 }
 
-void UIView::setShownBy(const void* owner, std::function<void()> changed) {
-  shownBy_ = owner;
-  changed_ = std::move(changed);
+const UIView::Extras& UIView::extras() const {
+  static const Extras& none = *new Extras(*new UIView);
+  return extras_ ? *extras_ : none;
 }
 
-void UIView::endShownBy(const void* owner) {
-  if (shownBy_ == owner) setShownBy(nullptr, {});
+UIView::Extras& UIView::ownExtras() {
+  if (!extras_) extras_ = std::make_unique<Extras>(*this);
+  return *extras_;
 }
 
 void CALayer::setBorderWidth(double width) {

@@ -45,6 +45,7 @@ class UITapGestureRecognizer {
 };
 
 class UIView;
+class UIViewContent;
 
 /// The border of a view. Part of the view.
 class QUORIX_EXPORT CALayer {
@@ -122,7 +123,7 @@ class QUORIX_EXPORT UIView : public std::enable_shared_from_this<UIView> {
   NSLayoutAnchor widthAnchor() { return anchor(LayoutAttribute::width); }
   NSLayoutAnchor heightAnchor() { return anchor(LayoutAttribute::height); }
   /// The active ones between this view and its subviews or among them.
-  const std::vector<NSLayoutConstraint>& constraints() const { return constraints_; }
+  const std::vector<ActiveLayoutConstraint>& constraints() const { return constraints_; }
 
   // Appearance.
 
@@ -134,8 +135,8 @@ class QUORIX_EXPORT UIView : public std::enable_shared_from_this<UIView> {
   /// Whether the view covers its frame completely.
   bool isOpaque() const { return opaque_; }
   void setOpaque(bool opaque);
-  CALayer& layer() { return layer_; }
-  const CALayer& layer() const { return layer_; }
+  CALayer& layer() { return ownExtras().layer; }
+  const CALayer& layer() const { return extras().layer; }
 
   // Touch.
 
@@ -144,13 +145,15 @@ class QUORIX_EXPORT UIView : public std::enable_shared_from_this<UIView> {
   void setUserInteractionEnabled(bool enabled);
   void addGestureRecognizer(std::shared_ptr<UITapGestureRecognizer> recognizer);
   const std::vector<std::shared_ptr<UITapGestureRecognizer>>& gestureRecognizers() const {
-    return gestureRecognizers_;
+    return extras().gestureRecognizers;
   }
 
   // Assistive technology.
 
   /// Absent: the content's label.
-  const std::optional<std::string>& accessibilityLabel() const { return accessibilityLabel_; }
+  const std::optional<std::string>& accessibilityLabel() const {
+    return extras().accessibilityLabel;
+  }
   void setAccessibilityLabel(std::optional<std::string> label);
   UIAccessibilityTraits accessibilityTraits() const { return accessibilityTraits_; }
   void setAccessibilityTraits(UIAccessibilityTraits traits);
@@ -173,13 +176,14 @@ class QUORIX_EXPORT UIView : public std::enable_shared_from_this<UIView> {
   /// Sets the frame of a layout, without a notice of change.
   void layOutAt(const layout::Rect& frame) { frame_ = frame; }
 
-  /// Notifies the owner set by `setShownBy` that the size or appearance may have changed.
+  /// Notifies the content set by `setShownBy` that the size or appearance may have changed.
   void setNeedsLayout() const;
-  /// Makes `owner` the one that shows this view, in place of an earlier one; changes call
-  /// `changed`.
-  void setShownBy(const void* owner, std::function<void()> changed);
-  /// No effect when another owner shows the view by now.
-  void endShownBy(const void* owner);
+  /// Makes `content` the one that shows this view, in place of an earlier one.
+  void setShownBy(UIViewContent* content) { shownBy_ = content; }
+  /// No effect when another content shows the view by now.
+  void endShownBy(const UIViewContent* content) {
+    if (shownBy_ == content) shownBy_ = nullptr;
+  }
 
  protected:
   /// For constructors of views that take no touches by default.
@@ -187,24 +191,33 @@ class QUORIX_EXPORT UIView : public std::enable_shared_from_this<UIView> {
 
  private:
   friend struct NSLayoutConstraint;
+
+  /// What only few views have.
+  struct Extras {
+    explicit Extras(UIView& view) : layer(view) {}
+    CALayer layer;
+    std::vector<std::shared_ptr<UITapGestureRecognizer>> gestureRecognizers;
+    std::optional<std::string> accessibilityLabel;
+  };
+  const Extras& extras() const;
+  /// To be changed.
+  Extras& ownExtras();
+
   NSLayoutAnchor anchor(LayoutAttribute attribute) { return {weak_from_this(), attribute}; }
   void dropConstraintsInto(const UIView& leaving);
 
   UIView* superview_ = nullptr;  // cleared by the superview's destructor
   std::vector<std::shared_ptr<UIView>> subviews_;
-  std::vector<NSLayoutConstraint> constraints_;
-  std::vector<std::shared_ptr<UITapGestureRecognizer>> gestureRecognizers_;
+  std::vector<ActiveLayoutConstraint> constraints_;
+  std::unique_ptr<Extras> extras_;  // null until one is set
   layout::Rect frame_;
   UIColor::Ref backgroundColor_;
-  CALayer layer_{*this};
-  std::optional<std::string> accessibilityLabel_;
+  UIViewContent* shownBy_ = nullptr;
   UIAccessibilityTraits accessibilityTraits_ = UIAccessibilityTraits::none;
   bool translatesMask_ = true;
   bool hidden_ = false;
   bool opaque_ = true;
   bool userInteractionEnabled_ = true;
-  const void* shownBy_ = nullptr;
-  std::function<void()> changed_;
 };
 
 }  // namespace quorix::uikit

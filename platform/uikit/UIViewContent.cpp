@@ -21,7 +21,7 @@ Rect onPixels(const layout::PixelGrid& grid, const render::TextItem& item) {
 Rect onPixels(const layout::PixelGrid& grid, const auto& item) { return grid.round(item.frame); }
 
 /// Runs the recognizers of `view`, while it exists.
-foundation::Action tapOn(UIView& view) {
+foundation::Action tapOn(const UIView& view) {
   return [view = view.weak_from_this()] {
     const auto tapped = view.lock();
     if (!tapped) return;
@@ -36,7 +36,7 @@ class ViewScene {
   explicit ViewScene(const LayoutContext& context)
       : context_(context), grid_(context.display.scale) {}
 
-  render::Scene build(UIView& root);
+  render::Scene build(const UIView& root);
 
  private:
   /// Inherited from the views around a view.
@@ -48,9 +48,9 @@ class ViewScene {
     std::size_t areasBelow = 0;  ///< the number of hit areas up to the one of that view
   };
 
-  void add(UIView& view, Surroundings around);
+  void add(const UIView& view, Surroundings around);
   void paint(const UIView& view, const Rect& frame);
-  void takeTouches(UIView& view, Surroundings& around);
+  void takeTouches(const UIView& view, Surroundings& around);
   void describe(const UIView& view, const Rect& frame, const Surroundings& around);
 
   const LayoutContext& context_;
@@ -58,7 +58,7 @@ class ViewScene {
   render::Scene scene_;
 };
 
-render::Scene ViewScene::build(UIView& root) {
+render::Scene ViewScene::build(const UIView& root) {
   scene_.size = root.frame().size;
   scene_.appearance = context_.display.appearance;
   Surroundings around;
@@ -67,7 +67,7 @@ render::Scene ViewScene::build(UIView& root) {
   return std::move(scene_);
 }
 
-void ViewScene::add(UIView& view, Surroundings around) {
+void ViewScene::add(const UIView& view, Surroundings around) {
   if (view.isHidden()) return;
   const Rect exact = view.frame().translated(around.origin);
   const Rect frame = grid_.round(exact);
@@ -95,7 +95,7 @@ void ViewScene::paint(const UIView& view, const Rect& frame) {
 
 /// Adds the hit area of `view`. A view that takes touches and has no recognizer of its own runs the
 /// action of the views around it, and covers the hit areas of its siblings below it.
-void ViewScene::takeTouches(UIView& view, Surroundings& around) {
+void ViewScene::takeTouches(const UIView& view, Surroundings& around) {
   if (!around.touched || around.visible.isEmpty()) return;
   auto& areas = scene_.hitAreas;
   if (!view.gestureRecognizers().empty()) {
@@ -152,9 +152,7 @@ void UIViewContent::show(std::shared_ptr<UIView> view) {
   if (view == view_) return;
   if (view_) view_->endShownBy(this);
   view_ = std::move(view);
-  if (view_) {
-    view_->setShownBy(this, [this] { tellChanged(); });
-  }
+  if (view_) view_->setShownBy(this);
   tellChanged();
 }
 

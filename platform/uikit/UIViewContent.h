@@ -23,6 +23,8 @@ class QUORIX_EXPORT UIViewContent : public render::HostedContent {
   const std::shared_ptr<UIView>& view() const { return view_; }
   /// Shows another view.
   void show(std::shared_ptr<UIView> view);
+  /// The view, or one in it, may have another size or appearance.
+  void viewChanged() const { tellChanged(); }
 
   /// The size that constraints and content ask for, within the proposal. A length that they leave
   /// open is the proposed one.

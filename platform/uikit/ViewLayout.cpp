@@ -46,29 +46,27 @@ class RuleReader {
  public:
   RuleReader(const UIView& view, Axis axis, LayoutDirection direction)
       : view_(view), axis_(axis), direction_(direction) {
-    for (const NSLayoutConstraint& constraint : view.constraints()) add(constraint);
+    for (const ActiveLayoutConstraint& constraint : view.constraints()) add(constraint);
     for (const auto& subview : view.subviews()) {
-      for (const NSLayoutConstraint& constraint : subview->constraints()) {
-        if (!constraint.secondAttribute) add(constraint);  // its own size
+      for (const ActiveLayoutConstraint& constraint : subview->constraints()) {
+        if (!constraint.secondItem) add(constraint);  // its own size
       }
     }
   }
   std::vector<AxisRule> rules;
 
  private:
-  void add(const NSLayoutConstraint& constraint) {
+  void add(const ActiveLayoutConstraint& constraint) {
     const auto attribute = constraint.firstAttribute;
-    const int first = indexOf(constraint.firstItem.lock().get());
-    const bool alone = !constraint.secondAttribute;
-    const int second = alone ? AxisRule::none : indexOf(constraint.secondItem.lock().get());
-    const bool gone = first == AxisRule::none || (!alone && second == AxisRule::none);
-    if (gone || !isAlong(axis_, attribute)) return;
+    if (!isAlong(axis_, attribute)) return;
+    const bool alone = !constraint.secondItem;
     const bool reads =
         attribute == LayoutAttribute::leading || attribute == LayoutAttribute::trailing;
     const bool mirrored = reads && direction_ == LayoutDirection::rightToLeft;
-    rules.push_back({first, edgeOf(attribute, mirrored),
-                     mirrored ? flipped(constraint.relation) : constraint.relation, second,
-                     alone ? Edge::length : edgeOf(*constraint.secondAttribute, mirrored),
+    rules.push_back({indexOf(constraint.firstItem), edgeOf(attribute, mirrored),
+                     mirrored ? flipped(constraint.relation) : constraint.relation,
+                     alone ? AxisRule::none : indexOf(constraint.secondItem),
+                     alone ? Edge::length : edgeOf(constraint.secondAttribute, mirrored),
                      mirrored ? -constraint.constant : constraint.constant});
   }
 
@@ -77,7 +75,7 @@ class RuleReader {
     const auto& views = view_.subviews();
     const auto found = std::find_if(views.begin(), views.end(),
                                     [item](const auto& view) { return view.get() == item; });
-    return found == views.end() ? AxisRule::none : 1 + static_cast<int>(found - views.begin());
+    return 1 + static_cast<int>(found - views.begin());
   }
 
   const UIView& view_;
@@ -87,8 +85,8 @@ class RuleReader {
 
 /// The length that the view's own constraint sets, regardless of its content.
 std::optional<double> fixedLength(const UIView& view, LayoutAttribute attribute) {
-  for (const NSLayoutConstraint& constraint : view.constraints()) {
-    const bool own = !constraint.secondAttribute && constraint.firstItem.lock().get() == &view;
+  for (const ActiveLayoutConstraint& constraint : view.constraints()) {
+    const bool own = !constraint.secondItem && constraint.firstItem == &view;
     if (own && constraint.firstAttribute == attribute &&
         constraint.relation == LayoutRelation::equal) {
       return constraint.constant;

@@ -32,17 +32,13 @@ std::string end(const UIView& holder, const UIView& item, LayoutAttribute attrib
   return nameIn(holder, item) + '.' + std::string(names[static_cast<int>(attribute)]);
 }
 
-/// Empty when a view of the constraint no longer exists.
-std::string describe(const UIView& holder, const NSLayoutConstraint& constraint) {
+std::string describe(const UIView& holder, const ActiveLayoutConstraint& constraint) {
   constexpr std::string_view relations[] = {" = ", " <= ", " >= "};
-  const auto first = constraint.firstItem.lock();
-  const auto second = constraint.secondItem.lock();
-  if (!first || (constraint.secondAttribute && !second)) return {};
-  std::string text = end(holder, *first, constraint.firstAttribute);
+  std::string text = end(holder, *constraint.firstItem, constraint.firstAttribute);
   text += relations[static_cast<int>(constraint.relation)];
   const double constant = constraint.constant;
-  if (!constraint.secondAttribute) return text + points(constant);
-  text += end(holder, *second, *constraint.secondAttribute);
+  if (!constraint.secondItem) return text + points(constant);
+  text += end(holder, *constraint.secondItem, constraint.secondAttribute);
   if (constant == 0) return text;
   return text + (constant < 0 ? " - " : " + ") + points(std::abs(constant));
 }
@@ -79,9 +75,8 @@ void print(const UIView& view, std::size_t depth, std::string& to) {
     head += ' ' + points(length);
   }
   line(depth, head + looks(view));
-  for (const NSLayoutConstraint& constraint : view.constraints()) {
-    const std::string text = describe(view, constraint);
-    if (!text.empty()) line(depth + 2, ".constraint(" + text + ')');
+  for (const ActiveLayoutConstraint& constraint : view.constraints()) {
+    line(depth + 2, ".constraint(" + describe(view, constraint) + ')');
   }
   for (const auto& subview : view.subviews()) print(*subview, depth + 1, to);
 }

@@ -20,12 +20,9 @@ namespace {
 
 /// A view in the scene graph: its picture, and the ring around what has the focus.
 struct ViewNode : QSGTransformNode {
-  ViewNode() {
-    appendChildNode(picture);
-    appendChildNode(ring);
-  }
+  ViewNode() { appendChildNode(picture); }
   PictureNode* picture = new PictureNode;
-  PictureNode* ring = new PictureNode;
+  PictureNode* ring = nullptr;  ///< once there was one
 };
 
 bool covers(const layout::Rect& whole, const layout::Rect& part) {
@@ -36,7 +33,7 @@ bool covers(const layout::Rect& whole, const layout::Rect& part) {
 }  // namespace
 
 ViewSurface::ViewSurface(ViewItem& item)
-    : HostedView(item), QuickAccessibleSurface(item), item_(item), layoutPlace_(item) {
+    : HostedView(item), QuickAccessibleSurface(item), item_(item) {
   AccessibilityBridge::instance()->add(item, *this);
 }
 
@@ -114,7 +111,7 @@ void ViewSurface::parentChanged() {
   QQuickWindow* window = item_.parentItem() ? item_.window() : nullptr;
   watcher_ = window ? &WindowWatcher::of(*window) : nullptr;
   if (watcher_) watcher_->add(*this, *item_.parentItem());
-  if (!idealStale_) layoutPlace_.follow(ideal_ == layout::Size{});
+  if (!idealStale_) followLayoutPlace();
 }
 
 void ViewSurface::onScreenChanged() {
@@ -149,10 +146,16 @@ void ViewSurface::updateImplicitSize() {
   const bool hasWidth = item_.widthValid() && item_.width() > 0;
   const double height =
       hasWidth ? host().sizeThatFits({item_.width(), std::nullopt}).height : ideal_.height;
-  layoutPlace_.follow(ideal_ == layout::Size{});
+  followLayoutPlace();
   fitting_ = true;
   item_.setImplicitSize(ideal_.width, height);
   fitting_ = false;
+}
+
+void ViewSurface::followLayoutPlace() {
+  const bool empty = ideal_ == layout::Size{};
+  if (empty && !layoutPlace_) layoutPlace_ = std::make_unique<LayoutPlace>(item_);
+  if (layoutPlace_) layoutPlace_->follow(empty);
 }
 
 void ViewSurface::sizeChanged(bool width) {
@@ -173,6 +176,7 @@ QRectF ViewSurface::boundsInParent() const {
 }
 
 void ViewSurface::placeMayHaveChanged() {
+  if (sceneStale_) return;  // the frame looks, before it makes the scene
   if (item_.isVisible() && place()) item_.polish();
 }
 
@@ -221,7 +225,9 @@ void ViewSurface::polish() {
     picture_ = {};
     item_.update();
   }
-  if (!seen && !item_.hasActiveFocus() && !AccessibilityBridge::isActive()) host().rest();
+  if (!seen && !item_.hasActiveFocus() && !AccessibilityBridge::isActive()) {
+    host().rest(false);  // the item has its implicit size
+  }
 }
 
 void ViewSurface::refreshScene() {
@@ -241,8 +247,10 @@ void ViewSurface::updatePicture() {
   pictureStale_ = false;
   part_ = partToPaint();
   const render::Scene& scene = host().scene(size());
-  const bool whole = part_.size == scene.size;
-  picture_ = paintPicture(whole ? scene : render::partOf(scene, part_), scale(), {0, 0, 0, 0});
+  const auto paint = [&](const render::Scene& part) {
+    return paintPicture(part, scale(), {0, 0, 0, 0});
+  };
+  picture_ = part_.size == scene.size ? paint(scene) : paint(render::partOf(scene, part_));
   painted_ = !picture_.isNull();
   ring_.reset();  // its color and scale go with the picture's
   item_.update();
@@ -250,9 +258,12 @@ void ViewSurface::updatePicture() {
 
 void ViewSurface::updateRing() {
   const auto frame = ringFrame();
-  if (frame == ring_) return;
-  ring_ = frame;
-  if (frame) ringPicture_ = FocusRing::picture(*frame, host().environment().appearance, scale());
+  if (frame ? ring_ && ring_->around == *frame : !ring_) return;
+  ring_.reset();
+  if (frame) {
+    ring_ = std::make_unique<Ring>(
+        Ring{*frame, FocusRing::picture(*frame, host().environment().appearance, scale())});
+  }
   item_.update();
 }
 
@@ -272,12 +283,15 @@ QSGNode* ViewSurface::paint(QSGNode* old) {
         &item_, [this] { pictureStale_ = true, item_.polish(); }, Qt::QueuedConnection);
   }
   node->picture->setOrigin(offset_ + QPointF(part_.left(), part_.top()));
+  if (ring_ && !node->ring) node->appendChildNode(node->ring = new PictureNode);
   if (!ring_) {
-    node->ring->setPicture(window, {});
-  } else if (!ringPicture_.isNull()) {
-    node->ring->setPicture(window, std::exchange(ringPicture_, {}));
+    if (node->ring) node->ring->setPicture(window, {});
+    return node;
   }
-  if (ring_) node->ring->setOrigin(FocusRing::frameAround(*ring_).topLeft() + offset_);
+  if (!ring_->picture.isNull()) {
+    node->ring->setPicture(window, std::exchange(ring_->picture, {}));
+  }
+  node->ring->setOrigin(FocusRing::frameAround(ring_->around).topLeft() + offset_);
   return node;
 }
 }  // namespace quorix::qt

@@ -2,6 +2,7 @@
 
 #include <QImage>
 #include <QRectF>
+#include <memory>
 
 #include "qt/HostedView.h"
 #include "qt/quick/LayoutPlace.h"
@@ -59,6 +60,7 @@ class ViewSurface final : public HostedView,
 
   void updateIdealSize();
   void updateImplicitSize();
+  void followLayoutPlace();
   void refreshScene();
   bool place();
   layout::Rect partToPaint() const;
@@ -67,15 +69,18 @@ class ViewSurface final : public HostedView,
 
   ViewItem& item_;
   WindowWatcher* watcher_ = nullptr;
-  LayoutPlace layoutPlace_;
+  std::unique_ptr<LayoutPlace> layoutPlace_;  ///< once the view was empty
 
   layout::Size ideal_;
   QPointF offset_;     ///< from the item's corner to the whole device pixel next to it
   layout::Rect seen_;  ///< the part of the item in the viewport
   layout::Rect part_;  ///< the part of the item that its picture shows
   QImage picture_;     ///< only on its way to the scene graph
-  QImage ringPicture_;
-  std::optional<layout::Rect> ring_;
+  struct Ring {
+    layout::Rect around;
+    QImage picture;  ///< likewise
+  };
+  std::unique_ptr<Ring> ring_;
 
   bool idealStale_ = true;
   bool sceneStale_ = true;

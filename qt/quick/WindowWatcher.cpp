@@ -107,6 +107,7 @@ bool WindowWatcher::update(Group& group, const QQuickItem& parent) {
 }
 
 void WindowWatcher::frame() {
+  if (entries_.size() <= kLooks) return lookAtSome();  // which are all
   bool anyMoved = false;
   for (auto& [parent, group] : groups_) anyMoved |= update(group, *parent);
   if (anyMoved) {

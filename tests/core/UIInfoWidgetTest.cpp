@@ -162,6 +162,23 @@ TEST(UIInfoWidget, ShowsTitlesOneByOne) {
   EXPECT_EQ(seen, (std::vector<std::string>{"the model's", "First", "Second"}));
 }
 
+TEST(UIInfoWidget, SharesTextsThatAHostChangesInOneWidgetAlone) {
+  const auto one = widget(), other = widget();
+  MainQueue::drain();
+  const auto label = [](const auto& shown, std::size_t index) {
+    return std::static_pointer_cast<uikit::UILabel>(shown->subviews()[0]->subviews()[index]);
+  };
+  for (const std::size_t index : {0, 1}) label(one, index)->setFont(uikit::UIFont::system(40));
+  quorix::testing::FixedWidthText engine;
+  const auto drawn = [&](const auto& shown) {
+    return texts(uikit::UIViewContent(shown).scene({343, 96}, {}, engine));
+  };
+  for (const std::size_t index : {0, 1}) {
+    EXPECT_EQ(drawn(one)[index].text.runs.front().font.points, 40);
+    EXPECT_EQ(drawn(other)[index].text.runs.front().font.points, 13);
+  }
+}
+
 TEST(UIInfoWidget, PresentsTheOverlayOverTheTopmostScreen) {
   TestWindow window(swiftui::hosting(widget({}, "Ann")));
   // Not as a user, who works in this window: it would be the one that is found.

@@ -61,6 +61,8 @@ TEST(TextPictures, LookAsTheTextDrawnAnew) {
     return sceneWith(text, width, {30, 30});
   };
   const render::Scene wrapped = shaped(words, 90), marked = shaped(plainText("Å̂̂̂ȷ̣̣̣", 20));
+  render::Scene twice = shaped(words);
+  twice.items.push_back(sceneWith(link, layout::infinity, {31, 33}).items.front());
   const render::FillItem half{{{0, 0}, {55, 40}}, light};
   const struct {
     const char* name;
@@ -72,6 +74,9 @@ TEST(TextPictures, LookAsTheTextDrawnAnew) {
       {"from the right", shaped(arabic, 120)},
       {"ink outside of its lines", marked},
       {"nothing to see", shaped(plainText("  "))},
+      {"figures", shaped(plainText("€ 1,234,567.89 £ 0.25 −98,765.43 % 6,071,829.30"))},
+      {"over another on nothing", twice},
+      {"partly outside of the picture", sceneWith(words, layout::infinity, {90, -5})},
       {"underlined", grounded(shaped(link), {}, light)},
       {"two runs, wrapped, light", grounded(wrapped, {}, light)},
       {"two runs, wrapped, dark", grounded(wrapped, {}, dark)},

@@ -1,0 +1,17 @@
+#include "platform/uikit/NSAttributedString.h"
+
+#include "platform/foundation/Cache.h"
+#include "platform/foundation/Runtime.h"
+
+namespace quorix::uikit {
+
+/// By their value.
+struct SharedTexts : foundation::Cache<NSAttributedString, NSAttributedString> {
+  SharedTexts() : Cache(8) {}  // a screen shows two, in one language or two
+};
+
+NSAttributedString NSAttributedString::shared() const {
+  return foundation::Runtime::the<SharedTexts>().get(*this, [this] { return *this; });
+}
+
+}  // namespace quorix::uikit
