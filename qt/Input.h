@@ -4,7 +4,7 @@
 
 #include "platform/foundation/Export.h"
 #include "platform/hosting/Responder.h"
-#include "platform/hosting/ViewFocus.h"
+#include "platform/hosting/ViewSession.h"
 
 class QEvent;
 class QKeyEvent;

@@ -1,18 +1,48 @@
 #pragma once
 
+#include <QAbstractAnimation>
+#include <QElapsedTimer>
 #include <QImage>
 #include <QPointF>
 #include <QString>
+#include <functional>
 #include <optional>
 #include <vector>
 
+#include "platform/foundation/Export.h"
 #include "platform/hosting/SheetSession.h"
-#include "qt/FrameClock.h"
 
 class QEvent;
 class QObject;
 
 namespace quorix::qt {
+
+/// Ticks once for each frame while it runs, in step with the window that is drawn. Main thread.
+class QUORIX_EXPORT FrameClock : private QAbstractAnimation {
+ public:
+  /// Told of the seconds since the last tick; the clock stops when it answers false.
+  explicit FrameClock(std::function<bool(double)> tick) : tick_(std::move(tick)) {}
+
+  /// Runs from now on, if it does not yet.
+  void start() {
+    if (state() == Running) return;
+    sinceTick_.start();
+    QAbstractAnimation::start();
+  }
+  void stop() { QAbstractAnimation::stop(); }
+
+ private:
+  int duration() const override { return -1; }  // until it is stopped
+  void updateCurrentTime(int) override {
+    if (state() != Running) return;
+    const double seconds = static_cast<double>(sinceTick_.nsecsElapsed()) * 1e-9;
+    sinceTick_.start();
+    if (!tick_(seconds)) stop();
+  }
+
+  std::function<bool(double)> tick_;
+  QElapsedTimer sinceTick_;
+};
 
 /// A sheet over a window of either toolkit. Main thread.
 class QUORIX_EXPORT SheetSurface : public hosting::SheetSession {

@@ -11,7 +11,6 @@
 #include "platform/foundation/MainQueue.h"
 #include "platform/uikit/Nib.h"
 #include "platform/uikit/UIApplication.h"
-#include "platform/uikit/UIScene.h"
 
 namespace quorix {
 

@@ -4,7 +4,7 @@
 #include <optional>
 #include <vector>
 
-#include "platform/swiftui/ContentSizeCategory.h"
+#include "platform/swiftui/Environment.h"
 
 namespace quorix::examples {
 

@@ -1,18 +1,60 @@
 #pragma once
 
 #include <chrono>
+#include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "platform/foundation/Export.h"
 #include "platform/hosting/Input.h"
 #include "platform/hosting/PageEngine.h"
-#include "platform/hosting/PageSwipe.h"
 #include "platform/render/Scene.h"
 #include "platform/webkit/WebContent.h"
 
 namespace quorix::hosting {
+
+/// Where a swipe moves a page.
+enum class SwipeDirection : std::uint8_t { right, left };
+
+/// Recognizes the swipe of a finger from a side of a page towards its middle. Main thread.
+class EdgeSwipe {
+ public:
+  struct Swipe {
+    SwipeDirection direction;
+    bool isFar;  ///< to count when the finger is lifted
+  };
+
+  /// Absent until the finger certainly swipes, so that taps and vertical drags are the page's. From
+  /// then on the page must not get the finger.
+  std::optional<Swipe> follow(const TouchEvent& event);
+
+ private:
+  struct Finger {
+    layout::Point start;
+    SwipeDirection direction;
+    bool swipes = false;
+  };
+  std::optional<Finger> finger_;
+};
+
+/// Recognizes the sideways swipe of two fingers on a trackpad. Main thread.
+class TrackpadSwipe {
+ public:
+  /// Absent until the fingers have come far enough sideways, and once they left the trackpad.
+  std::optional<SwipeDirection> follow(const TrackpadEvent& event);
+  /// When the fingers began, as a `TrackpadEvent::time`.
+  double began() const { return began_; }
+  /// The swipe counted: recognizes the next one only after the fingers left the trackpad.
+  void spend() { spent_ = true; }
+
+ private:
+  bool moves_ = false;
+  bool spent_ = false;
+  double began_ = 0;
+  layout::Point way_{};
+};
 
 /// The web content of an embed with the engine that shows it: loads what the content loads, passes
 /// on what the page asks for, and limits the time of both. Main thread.

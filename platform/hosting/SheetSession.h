@@ -7,9 +7,9 @@
 
 #include "platform/foundation/Export.h"
 #include "platform/hosting/EmbeddedPages.h"
+#include "platform/hosting/Input.h"
 #include "platform/hosting/Responder.h"
 #include "platform/hosting/SheetPresenter.h"
-#include "platform/hosting/VelocityTracker.h"
 
 namespace quorix::hosting {
 

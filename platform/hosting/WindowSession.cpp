@@ -6,8 +6,8 @@
 
 #include "platform/foundation/MainQueue.h"
 #include "platform/foundation/Runtime.h"
-#include "platform/hosting/ControllerPresentation.h"
 #include "platform/hosting/SheetSession.h"
+#include "platform/swiftui/UIViewRepresentable.h"
 #include "platform/uikit/UIApplication.h"
 
 namespace quorix::hosting {
@@ -127,6 +127,20 @@ void WindowSession::show(const Controller& controller) {
   const swiftui::Presentation presentation = controllerPresentation(controller);
   sheet.present(presentation);
   shown_.push_back({controller, sheet.weak(), presentation.isPresented});
+}
+
+swiftui::Presentation controllerPresentation(
+    const std::shared_ptr<uikit::UIViewController>& controller) {
+  auto isPresented = std::make_shared<swiftui::StateBox<bool>>();
+  isPresented->value = true;
+  isPresented->onChange = [presented = std::weak_ptr(controller), box = isPresented.get()] {
+    const auto closed = box->value ? nullptr : presented.lock();
+    const auto presenter = closed ? closed->presentingViewController() : nullptr;
+    if (presenter) presenter->dismiss(true);
+  };
+  // A controller's view fills its screen, under what the device covers as well.
+  return {swiftui::Binding<bool>(std::move(isPresented)),
+          swiftui::hosting(controller).edgesIgnoringSafeArea(layout::Edges::all())};
 }
 
 }  // namespace quorix::hosting

@@ -5,7 +5,9 @@
 
 #include "platform/foundation/Export.h"
 #include "platform/hosting/Responder.h"
-#include "platform/uikit/UIScene.h"
+#include "platform/swiftui/View.h"
+#include "platform/uikit/UIApplication.h"
+#include "platform/uikit/UIViewController.h"
 #include "platform/uikit/UIWindow.h"
 
 namespace quorix::hosting {
@@ -67,5 +69,10 @@ class QUORIX_EXPORT WindowSession : private uikit::UIWindow::Client {
   bool animated_ = true;
   std::shared_ptr<WindowSession*> showQueued_;  ///< while a turn is on its way
 };
+
+/// The sheet that shows the presented `controller`: closing it dismisses the controller. Main
+/// thread.
+QUORIX_EXPORT swiftui::Presentation controllerPresentation(
+    const std::shared_ptr<uikit::UIViewController>& controller);
 
 }  // namespace quorix::hosting

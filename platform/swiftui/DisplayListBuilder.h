@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/layout/PixelGrid.h"
+#include "platform/layout/Geometry.h"
 #include "platform/render/HostedContent.h"
 #include "platform/render/Scene.h"
 #include "platform/swiftui/Environment.h"

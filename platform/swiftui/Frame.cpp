@@ -5,9 +5,9 @@
 #include <utility>
 
 #include "platform/layout/Geometry.h"
-#include "platform/swiftui/Descriptions.h"
 #include "platform/swiftui/LayoutPass.h"
 #include "platform/swiftui/Modifier.h"
+#include "platform/swiftui/TreePrinter.h"
 
 namespace quorix::swiftui {
 namespace {

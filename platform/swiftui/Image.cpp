@@ -2,7 +2,6 @@
 #include <utility>
 
 #include "platform/graphics/AssetCatalog.h"
-#include "platform/swiftui/Descriptions.h"
 #include "platform/swiftui/DisplayListBuilder.h"
 #include "platform/swiftui/Elements.h"
 #include "platform/swiftui/Evaluator.h"

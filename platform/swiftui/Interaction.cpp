@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "platform/foundation/LocalizedString.h"
-#include "platform/swiftui/Descriptions.h"
 #include "platform/swiftui/DisplayListBuilder.h"
 #include "platform/swiftui/Elements.h"
 #include "platform/swiftui/Evaluator.h"

@@ -4,7 +4,6 @@
 #include <string>
 #include <utility>
 
-#include "platform/swiftui/Descriptions.h"
 #include "platform/swiftui/DisplayListBuilder.h"
 #include "platform/swiftui/Evaluator.h"
 #include "platform/swiftui/Modifier.h"

@@ -2,7 +2,6 @@
 
 #include "platform/foundation/Arena.h"
 #include "platform/layout/Geometry.h"
-#include "platform/layout/PixelGrid.h"
 #include "platform/swiftui/Node.h"
 #include "platform/text/TextEngine.h"
 

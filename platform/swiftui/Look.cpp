@@ -7,9 +7,9 @@
 #include <variant>
 
 #include "platform/foundation/UnicodeText.h"
-#include "platform/swiftui/Descriptions.h"
 #include "platform/swiftui/Evaluator.h"
 #include "platform/swiftui/Modifier.h"
+#include "platform/swiftui/TreePrinter.h"
 #include "platform/text/TextBound.h"
 
 namespace quorix::swiftui {

@@ -3,9 +3,9 @@
 #include <string>
 #include <utility>
 
-#include "platform/swiftui/Descriptions.h"
 #include "platform/swiftui/LayoutPass.h"
 #include "platform/swiftui/Modifier.h"
+#include "platform/swiftui/TreePrinter.h"
 
 namespace quorix::swiftui {
 namespace {

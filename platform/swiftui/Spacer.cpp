@@ -2,7 +2,6 @@
 #include <optional>
 
 #include "platform/layout/StackDistribution.h"
-#include "platform/swiftui/Descriptions.h"
 #include "platform/swiftui/Elements.h"
 #include "platform/swiftui/Evaluator.h"
 #include "platform/swiftui/LayoutPass.h"

@@ -6,7 +6,6 @@
 
 #include "platform/layout/Geometry.h"
 #include "platform/layout/StackDistribution.h"
-#include "platform/swiftui/Descriptions.h"
 #include "platform/swiftui/DisplayListBuilder.h"
 #include "platform/swiftui/Elements.h"
 #include "platform/swiftui/Evaluator.h"

@@ -5,7 +5,6 @@
 #include <utility>
 #include <vector>
 
-#include "platform/swiftui/Descriptions.h"
 #include "platform/swiftui/Elements.h"
 #include "platform/swiftui/Evaluator.h"
 #include "platform/swiftui/TreePrinter.h"

@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "platform/foundation/LocalizedString.h"
-#include "platform/swiftui/Descriptions.h"
 #include "platform/swiftui/DisplayListBuilder.h"
 #include "platform/swiftui/Evaluator.h"
 #include "platform/swiftui/LayoutPass.h"

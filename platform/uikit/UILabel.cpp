@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/layout/PixelGrid.h"
+#include "platform/layout/Geometry.h"
 #include "platform/text/TextBound.h"
 
 namespace quorix::uikit {

@@ -4,7 +4,7 @@
 #include <utility>
 #include <variant>
 
-#include "platform/layout/PixelGrid.h"
+#include "platform/layout/Geometry.h"
 #include "platform/uikit/UIViewController.h"
 #include "platform/uikit/ViewLayout.h"
 

@@ -2,6 +2,7 @@
 
 #include <QQuickWindow>
 #include <QSGImageNode>
+#include <QSGRectangleNode>
 #include <QSGTexture>
 #include <utility>
 
@@ -57,6 +58,25 @@ QSGNode* PictureItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
   if (isNew) node = new PictureNode;
   if (std::exchange(fresh_, false) || isNew) node->setPicture(*window(), picture_);
   return node;
+}
+
+SheetNode::SheetNode(QQuickWindow& window)
+    : shade_(window.createRectangleNode()),
+      below_(window.createRectangleNode()),
+      panel_(new PictureNode) {
+  appendChildNode(shade_);
+  appendChildNode(below_);
+  appendChildNode(panel_);
+}
+
+void SheetNode::setShade(const QRectF& window, const QColor& color) {
+  shade_->setRect(window);
+  shade_->setColor(color);
+}
+
+void SheetNode::setBelow(const QRectF& rect, const QColor& color) {
+  below_->setRect(rect);
+  below_->setColor(color);
 }
 
 }  // namespace quorix::qt

@@ -7,10 +7,9 @@
 
 #include "qt/AccessibilityBridge.h"
 #include "qt/Conversions.h"
-#include "qt/WebPage.h"
+#include "qt/WebComponent.h"
 #include "qt/WindowScene.h"
 #include "qt/quick/PictureItem.h"
-#include "qt/quick/SheetNode.h"
 
 namespace quorix::qt {
 namespace {

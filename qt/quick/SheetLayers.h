@@ -1,15 +1,52 @@
 #pragma once
 
 #include <QPointer>
+#include <QQuickItem>
+#include <functional>
 #include <memory>
 #include <vector>
 
 #include "qt/SheetSurface.h"
-#include "qt/quick/FocusStop.h"
 #include "qt/quick/PictureItem.h"
-#include "qt/quick/SheetFront.h"
 
 namespace quorix::qt {
+
+class SheetItem;
+
+/// What lies over the pages of a sheet and takes taps: as large as the sheet, but there only where
+/// something acts. What comes to it goes to the sheet.
+class SheetFront : public QQuickItem {
+ public:
+  explicit SheetFront(SheetItem& sheet);
+
+  bool contains(const QPointF& point) const override;
+
+ protected:
+  bool event(QEvent* event) override;
+  void mouseUngrabEvent() override;
+  void touchUngrabEvent() override;
+
+ private:
+  SheetItem& sheet_;
+};
+
+/// Stands before or after an item in the focus chain and says when the keyboard comes by.
+class FocusStop : public QQuickItem {
+ public:
+  FocusStop(QQuickItem& parent, std::function<void()> passed)
+      : QQuickItem(&parent), passed_(std::move(passed)) {
+    setActiveFocusOnTab(true);
+  }
+
+ protected:
+  void focusInEvent(QFocusEvent*) override {
+    // Not while the focus is still moving.
+    QMetaObject::invokeMethod(this, passed_, Qt::QueuedConnection);
+  }
+
+ private:
+  std::function<void()> passed_;
+};
 
 /// What stands in and over a sheet with pages, from the bottom up: each page, then the picture of
 /// what lies above it; at last what takes taps, and the focus ring. All are children of the sheet.

@@ -4,7 +4,7 @@
 #include <QObject>
 #include <functional>
 
-#include "qt/WebPage.h"
+#include "qt/WebComponent.h"
 
 class QKeyEvent;
 class QTouchEvent;

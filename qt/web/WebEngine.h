@@ -2,7 +2,7 @@
 
 #include <QWebEngineScript>
 
-#include "qt/WebPage.h"
+#include "qt/WebComponent.h"
 
 namespace quorix::qt {
 

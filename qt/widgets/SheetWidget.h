@@ -8,8 +8,7 @@
 
 #include "platform/foundation/Export.h"
 #include "qt/SheetSurface.h"
-#include "qt/widgets/PictureWidget.h"
-#include "qt/widgets/SheetWidgetFront.h"
+#include "qt/widgets/SheetWidgetLayers.h"
 #include "qt/widgets/WidgetAccessibleSurface.h"
 
 namespace quorix::qt {

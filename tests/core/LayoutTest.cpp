@@ -2,7 +2,7 @@
 
 #include <sstream>
 
-#include "platform/layout/PixelGrid.h"
+#include "platform/layout/Geometry.h"
 #include "tests/core/LayoutCase.h"
 #include "tests/core/TestWindow.h"
 

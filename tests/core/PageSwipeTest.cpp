@@ -1,4 +1,4 @@
-#include "platform/hosting/PageSwipe.h"
+#include "platform/hosting/EmbeddedPages.h"
 
 #include <gtest/gtest.h>
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "platform/hosting/SceneLayers.h"
-#include "platform/hosting/SheetGeometry.h"
+#include "platform/hosting/SheetPanel.h"
 
 namespace quorix::hosting {
 namespace {

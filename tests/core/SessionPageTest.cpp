@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/hosting/SheetGeometry.h"
+#include "platform/hosting/SheetPanel.h"
 #include "platform/hosting/ViewWindow.h"
 #include "tests/core/OpenedAddresses.h"
 #include "tests/core/TestWindow.h"

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "platform/swiftui/ContentSizeCategory.h"
+#include "platform/swiftui/Environment.h"
 #include "tests/core/TestWindow.h"
 #include "tests/core/Vectors.h"
 

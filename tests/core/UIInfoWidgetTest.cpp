@@ -11,7 +11,6 @@
 #include "QuorixWidgets/overlay/WebViewController.h"
 #include "platform/swiftui/UIViewRepresentable.h"
 #include "platform/uikit/UIApplication.h"
-#include "platform/uikit/UIScene.h"
 #include "platform/uikit/UIWindow.h"
 #include "platform/uikit/ViewPrinter.h"
 #include "tests/core/OtherResources.h"

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/foundation/MainQueue.h"
-#include "platform/hosting/ControllerPresentation.h"
+#include "platform/hosting/WindowSession.h"
 #include "platform/uikit/UIWindow.h"
 
 using namespace quorix::uikit;

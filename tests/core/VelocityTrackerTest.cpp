@@ -1,4 +1,4 @@
-#include "platform/hosting/VelocityTracker.h"
+#include "platform/hosting/Input.h"
 
 #include <gtest/gtest.h>
 

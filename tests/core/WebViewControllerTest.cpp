@@ -7,7 +7,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "platform/hosting/ControllerPresentation.h"
+#include "platform/hosting/WindowSession.h"
 #include "platform/swiftui/UIViewRepresentable.h"
 #include "tests/core/OpenedAddresses.h"
 #include "tests/core/ShownPage.h"

@@ -10,7 +10,6 @@
 #include "platform/swiftui/TreePrinter.h"
 #include "platform/swiftui/UIViewRepresentable.h"
 #include "platform/uikit/UIApplication.h"
-#include "platform/uikit/UIScene.h"
 #include "platform/uikit/UIViewController.h"
 #include "platform/uikit/UIWindow.h"
 #include "platform/uikit/ViewPrinter.h"

@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <string_view>
 
-#include "platform/swiftui/ContentSizeCategory.h"
+#include "platform/swiftui/Environment.h"
 #include "tools/quorix/Arguments.h"
 
 namespace quorix::tool {

@@ -5,7 +5,7 @@
 
 #include "platform/graphics/RGBA.h"
 #include "platform/layout/Geometry.h"
-#include "platform/swiftui/ContentSizeCategory.h"
+#include "platform/swiftui/Environment.h"
 #include "qt/Picture.h"
 #include "tools/quorix/OptionReader.h"
 

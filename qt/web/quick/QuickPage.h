@@ -2,14 +2,19 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QQmlComponent>
+#include <QQmlEngine>
 #include <QQuickItem>
+#include <memory>
 
 #include "qt/Conversions.h"
-#include "qt/WebPage.h"
+#include "qt/WebComponent.h"
 #include "qt/web/PageInput.h"
 #include "qt/web/WebEngine.h"
 
 class QQmlComponent;
+class QQuickWebEngineProfile;
+
 class QQuickWebEngineProfile;
 
 namespace quorix::qt {
@@ -83,6 +88,21 @@ class QuickPage : public QObject, public WebPage {
   QPointer<QQuickItem> view_;
   Top top_;
   PageInput input_;
+};
+
+/// Pages for Qt Quick windows, all in one profile off the record. Lives as long as the application.
+class QuickWebComponent final : public WebComponent {
+ public:
+  QuickWebComponent();
+  ~QuickWebComponent();
+
+  std::unique_ptr<WebPage> open(QObject& place, const WebPage::Options& options,
+                                WebPage::Client& client) override;
+
+ private:
+  std::unique_ptr<QQuickWebEngineProfile> profile_;
+  QQmlEngine engine_;
+  std::unique_ptr<QQmlComponent> source_;
 };
 
 }  // namespace quorix::qt

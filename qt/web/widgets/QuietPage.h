@@ -1,8 +1,9 @@
 #pragma once
 
 #include <QWebEnginePage>
+#include <QWebEngineView>
 
-#include "qt/WebPage.h"
+#include "qt/WebComponent.h"
 #include "qt/web/PageInput.h"
 
 namespace quorix::qt {
@@ -41,6 +42,19 @@ class QuietPage : public QWebEnginePage {
   void refusePermissions();
 
   PageInput& input_;
+};
+
+/// Shows a `QuietPage`, and keeps from the screen what the engine opens over it by itself: the
+/// color dialog, for which the page has no way to refuse, menus and tooltips. Main thread.
+class QuietView : public QWebEngineView {
+  Q_OBJECT
+
+ public:
+  explicit QuietView(QWidget* parent);
+
+ protected:
+  bool event(QEvent* event) override;
+  void childEvent(QChildEvent* event) override;
 };
 
 }  // namespace quorix::qt

@@ -3,7 +3,7 @@
 #include <QPointer>
 #include <QWebEngineView>
 
-#include "qt/WebPage.h"
+#include "qt/WebComponent.h"
 #include "qt/web/PageInput.h"
 
 namespace quorix::qt {

@@ -9,7 +9,7 @@
 
 #include "platform/graphics/RGBA.h"
 #include "platform/layout/Geometry.h"
-#include "platform/swiftui/ContentSizeCategory.h"
+#include "platform/swiftui/Environment.h"
 
 // Every screen that the widgets must look right on: one table for each thing that varies. The
 // gallery shows their product and the tests hold it; a new row here is shown and held at once.

@@ -1,10 +1,24 @@
 #pragma once
 
+#include <QImage>
 #include <QWidget>
 
 #include "platform/render/Scene.h"
 
 namespace quorix::qt {
+
+/// Shows a picture at its place, through which the pointer reaches what lies below. Main thread.
+class PictureWidget : public QWidget {
+ public:
+  explicit PictureWidget(QWidget& parent);
+  void setPicture(const QImage& picture);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QImage picture_;
+};
 
 class SheetWidget;
 

@@ -1,4 +1,4 @@
-#include "platform/swiftui/ContentSizeCategory.h"
+#include "platform/swiftui/Environment.h"
 
 #include <algorithm>
 #include <array>

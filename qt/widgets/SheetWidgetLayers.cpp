@@ -1,12 +1,28 @@
-#include "qt/widgets/SheetWidgetFront.h"
+#include "qt/widgets/SheetWidgetLayers.h"
 
 #include <QEvent>
+#include <QPainter>
 #include <QRegion>
 
 #include "qt/Conversions.h"
 #include "qt/widgets/SheetWidget.h"
 
 namespace quorix::qt {
+
+PictureWidget::PictureWidget(QWidget& parent) : QWidget(&parent) {
+  setAttribute(Qt::WA_TransparentForMouseEvents);
+  setFocusPolicy(Qt::NoFocus);
+}
+
+void PictureWidget::setPicture(const QImage& picture) {
+  picture_ = picture;
+  resize(picture.deviceIndependentSize().toSize());
+  setVisible(!picture.isNull());
+  update();
+}
+
+void PictureWidget::paintEvent(QPaintEvent*) { QPainter(this).drawImage(0, 0, picture_); }
+
 SheetWidgetFront::SheetWidgetFront(SheetWidget& sheet) : QWidget(&sheet), sheet_(sheet) {
   setAttribute(Qt::WA_AcceptTouchEvents);
   setFocusPolicy(Qt::NoFocus);
