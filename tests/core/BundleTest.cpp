@@ -8,7 +8,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "tests/core/MemoryBundle.h"
+#include "tests/core/Resources.h"
 
 namespace quorix::foundation {
 namespace {

@@ -4,9 +4,8 @@
 #include "platform/graphics/AssetCatalog.h"
 #include "platform/graphics/FontManager.h"
 #include "platform/swiftui/TreePrinter.h"
-#include "tests/core/FreshProcess.h"
 #include "tests/core/InfoWidgets.h"
-#include "tests/core/MemoryBundle.h"
+#include "tests/core/Resources.h"
 
 namespace quorix {
 namespace {

@@ -6,7 +6,7 @@
 #include "QuorixWidgets/localization/Assets.h"
 #include "platform/swiftui/TreePrinter.h"
 #include "tests/core/InfoWidgets.h"
-#include "tests/core/OtherResources.h"
+#include "tests/core/Resources.h"
 #include "tests/core/TestWindow.h"
 #include "tests/core/Vectors.h"
 

@@ -9,8 +9,7 @@
 #include "QuorixWidgets/localization/Font.h"
 #include "platform/graphics/AssetCatalog.h"
 #include "platform/graphics/FontManager.h"
-#include "tests/core/FreshProcess.h"
-#include "tests/core/MemoryBundle.h"
+#include "tests/core/Resources.h"
 
 namespace quorix {
 namespace {

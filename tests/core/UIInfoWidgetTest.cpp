@@ -14,7 +14,7 @@
 #include "platform/uikit/UIScene.h"
 #include "platform/uikit/UIWindow.h"
 #include "platform/uikit/ViewPrinter.h"
-#include "tests/core/OtherResources.h"
+#include "tests/core/Resources.h"
 #include "tests/core/TestWindow.h"
 #include "tests/core/Vectors.h"
 

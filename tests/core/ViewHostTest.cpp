@@ -8,7 +8,7 @@
 
 #include "platform/swiftui/Elements.h"
 #include "platform/swiftui/UIViewRepresentable.h"
-#include "tests/core/MemoryBundle.h"
+#include "tests/core/Resources.h"
 #include "tests/core/ScoreWidgets.h"
 #include "tests/core/TestWindow.h"
 

@@ -1,5 +1,3 @@
-#include "platform/text/TextBound.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -11,8 +9,10 @@
 #include "platform/render/Scene.h"
 #include "platform/swiftui/Elements.h"
 #include "platform/swiftui/UIViewRepresentable.h"
+#include "platform/text/TextAnalysis.h"
+#include "platform/text/TextBound.h"
 #include "platform/uikit/UILabel.h"
-#include "tests/core/OtherResources.h"
+#include "tests/core/Resources.h"
 #include "tests/core/ScoreWidgets.h"
 #include "tests/core/TestWindow.h"
 
@@ -138,25 +138,41 @@ TEST(TextBound, AnEndlessTitleIsCutBeforeItIsSplit) {
   EXPECT_LE(shown, text::mostOfText + std::string("20%").size());
 }
 
-TEST(ScenePart, IsWhatOnePictureHoldsAroundWhatIsSeen) {
+constexpr auto ltr = layout::LayoutDirection::leftToRight;
+constexpr auto rtl = layout::LayoutDirection::rightToLeft;
+
+TEST(BaseDirection, FollowsTheLettersAndNotThePage) {
   const struct {
-    const char* what;
-    layout::Size size;
-    layout::Rect seen;
-    double scale;
-    layout::Rect part;
+    const char* words;
+    layout::LayoutDirection onLeftToRightPage, onRightToLeftPage;
   } rows[] = {
-      {"a row", {375, 60}, {{0, 30}, {375, 30}}, 2, {{0, 0}, {375, 60}}},
-      {"just held", {375, 4096}, {{0, 4000}, {375, 96}}, 2, {{0, 0}, {375, 4096}}},
-      {"at its top", {375, 20000}, {{0, 0}, {375, 600}}, 2, {{0, 0}, {375, 4096}}},
-      {"in its middle", {375, 20000}, {{0, 10000}, {375, 600}}, 2, {{0, 8252}, {375, 4096}}},
-      {"at its end", {375, 20000}, {{0, 19400}, {375, 600}}, 2, {{0, 15904}, {375, 4096}}},
-      {"wide", {9000, 10}, {{5000.25, 0}, {100, 10}}, 1, {{808, 0}, {8192, 10}}},
-      {"unseen", {375, 20000}, {}, 4, {{0, 0}, {375, 2048}}},
+      {"", ltr, ltr},
+      {"1.234,00\u00A0€", ltr, ltr},
+      {"18 %", ltr, ltr},
+      {"Su tarifa (18 %).", ltr, ltr},
+      {"\u200F١٬٢٣٤٫٠٠\u00A0€", rtl, rtl},  // a mark says so
+      {"18 رسوم", rtl, rtl},
+      {"Quorix رسوم", ltr, rtl},
+      {"רסום Quorix", rtl, rtl},
+      {"\xFF\xFE", ltr, ltr},  // not UTF-8
   };
   for (const auto& row : rows) {
-    EXPECT_EQ(render::partToPaint(row.size, row.seen, row.scale), row.part) << row.what;
+    const std::vector<text::Run> runs = {{row.words, {}, {}}};
+    EXPECT_EQ(text::baseDirection({runs, ltr}), row.onLeftToRightPage) << row.words;
+    EXPECT_EQ(text::baseDirection({runs, rtl}), row.onRightToLeftPage) << row.words;
   }
+}
+
+TEST(UnspacedWords, AreThoseOfScriptsWithoutBlanks) {
+  std::u16string found;
+  const std::u16string_view text = u"Quorix 返品手数料 €9";
+  for (const text::WordRange& word : text::unspacedWords(text)) {
+    found +=
+        text.substr(static_cast<std::size_t>(word.start), static_cast<std::size_t>(word.length));
+    found += u'|';
+  }
+  EXPECT_EQ(found, u"返品|手数料|");
+  EXPECT_TRUE(text::unspacedWords(u"Rücksendegebühr 1.234,00\u00A0€").empty());
 }
 
 }  // namespace
