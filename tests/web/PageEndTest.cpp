@@ -6,7 +6,6 @@
 #include <QTcpSocket>
 #include <QTest>
 #include <csignal>
-#include <functional>
 
 #include "QuorixWidgets/info/InfoWidgetBuilder.h"
 #include "tests/web/EngineProcesses.h"
@@ -32,25 +31,22 @@ TYPED_TEST_SUITE(PageEnd, Screens, ScreenName);
 
 TYPED_TEST(PageEnd, AHangingPageIsClosedByEveryWayWithinASecond) {
   this->opener->setMotion(true);
+  const QPoint outside(180, 4), down(0, 400);
   const struct {
     const char* what;
-    std::function<void()> closes;
+    Act perform;
   } ways[] = {
-      {"Escape", [&] { this->screen.key(Qt::Key_Escape); }},
-      {"Back", [&] { this->screen.key(Qt::Key_Back); }},
-      {"the button", [&] { this->screen.clickAt(this->kAtControl); }},
-      {"a tap outside",
-       [&] {
-         this->screen.clickAt({180, 4});
-       }},
-      {"a swipe",
-       [&] { this->screen.drag(this->kAtControl, this->kAtControl + QPoint(0, 400), 100, false); }},
+      {"Escape", pressing({Qt::Key_Escape})},
+      {"Back", pressing({Qt::Key_Back})},
+      {"the button", dragging(this->kAtControl, this->kAtControl, 0, false)},
+      {"a tap outside", dragging(outside, outside, 0, false)},
+      {"a swipe", dragging(this->kAtControl, this->kAtControl + down, 100, false)},
   };
   for (const auto& way : ways) {
     this->openHanging();
     QElapsedTimer since;
     since.start();
-    way.closes();
+    way.perform(this->screen);
     EXPECT_TRUE(waitUntil([&] { return !this->isOpen(); }, std::chrono::seconds(3))) << way.what;
     EXPECT_LT(since.elapsed(), 1000) << way.what;
     EXPECT_TRUE(waitUntil([&] { return TypeParam::hasFocus(this->opener); })) << way.what;

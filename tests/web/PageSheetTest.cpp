@@ -1,6 +1,5 @@
 #include <QFile>
 #include <QTest>
-#include <QWheelEvent>
 
 #include "tests/web/EngineProcesses.h"
 #include "tests/web/PageTest.h"
@@ -61,9 +60,7 @@ TYPED_TEST(PageSheet, MovesAsOne) {
 
 TYPED_TEST(PageSheet, ScrollsThePageAndNotTheSheet) {
   this->openBlue("<div style='height:3000px'></div>", "onscroll = () => tell('scrolled')");
-  QWheelEvent wheel(this->kInPage, this->screen.window().mapToGlobal(this->kInPage), {0, -60},
-                    {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase, false);
-  QCoreApplication::sendEvent(&this->screen.window(), &wheel);
+  this->screen.wheel(this->kInPage, {0, -60}, {0, -120});
   EXPECT_TRUE(this->reported("scrolled"));
   this->screen.drag(this->kInPage, this->kInPage + QPoint(0, 150), 60, false);
   this->screen.drag(this->kInPage, this->kInPage + QPoint(0, 150), 60, true);

@@ -1,5 +1,4 @@
 #include <QTest>
-#include <QWheelEvent>
 
 #include "tests/web/PageTest.h"
 
@@ -32,9 +31,7 @@ struct PageSwipe : PageTest<Screen> {
   /// Two fingers on a trackpad move what is at `at` by ten times `step`.
   void scroll(QPoint at, QPoint step) {
     const auto send = [&](QPoint by, Qt::ScrollPhase phase) {
-      QWheelEvent event(at, this->screen.window().mapToGlobal(at), by, by, Qt::NoButton, {}, phase,
-                        false);
-      QCoreApplication::sendEvent(&this->screen.window(), &event);
+      this->screen.wheel(at, by, by, phase);
       QTest::qWait(20);
     };
     send({}, Qt::ScrollBegin);
