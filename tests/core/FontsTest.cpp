@@ -4,8 +4,8 @@
 #include "platform/graphics/AssetCatalog.h"
 #include "platform/graphics/FontManager.h"
 #include "platform/swiftui/TreePrinter.h"
-#include "tests/core/InfoWidgets.h"
 #include "tests/core/Resources.h"
+#include "tests/core/Widgets.h"
 
 namespace quorix {
 namespace {

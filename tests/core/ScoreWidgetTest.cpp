@@ -8,9 +8,9 @@
 #include "QuorixWidgets/score/ScoreWidgetBuilder.h"
 #include "QuorixWidgets/score/ScoreWidgetSheet.h"
 #include "platform/swiftui/TreePrinter.h"
-#include "tests/core/ScoreWidgets.h"
 #include "tests/core/TestWindow.h"
 #include "tests/core/Vectors.h"
+#include "tests/core/Widgets.h"
 
 namespace quorix {
 namespace {
@@ -126,21 +126,6 @@ TEST(ScoreWidgetView, IsAsDesigned) {
     EXPECT_EQ(printed(view, row.size), contentsOf("score/" + std::string(row.file) + ".txt"))
         << row.file;
   }
-}
-
-TEST(ScoreWidgetView, ItsSheetHasItsHeightBeforeTheFirstFrame) {
-  TestWindow window(testing::scoreView(true));
-  std::vector<double> heights;
-  std::function<void()> watch = [&] {
-    if (window.sheet()) heights.push_back(window.sheet()->panelFrame().size.height);
-    if (heights.size() < 4) foundation::MainQueue::async(watch);
-  };
-  window.tap(window.labels());
-  watch();
-  foundation::MainQueue::drain();
-  const double natural = window.sheet()->panel().size.height;
-  EXPECT_LT(natural, window.size.height / 2) << "the height that a sheet has unasked";
-  EXPECT_EQ(heights, std::vector<double>(4, natural));
 }
 
 // Builder.

@@ -83,18 +83,9 @@ TEST(Session, TheViewMayGoWhileItsSheetIsUp) {
   EXPECT_EQ(window.labels(), "Fee 9 €, Close 9 €, Terms");
 }
 
-struct Terms {
-  static constexpr std::string_view typeName = "Terms";
-  swiftui::State<bool> shown{true};
-  auto states() const { return std::tie(shown); }
-  View body() const {
-    return View(Text::verbatim("Offer")).sheet(shown.binding(), testing::FeeRow("above"));
-  }
-};
-
 TEST(Session, SheetsStandOnEachOtherAndCloseFromTheTop) {
-  TestWindow window(Terms{});
-  window.settle();
+  TestWindow window(testing::Opener{testing::FeeRow("above")});
+  window.act("More");
   window.act("Row above");
   ASSERT_EQ(window.sheets().size(), 2U);
   EXPECT_EQ(window.labels(), "Fee above, Close above, Terms");
@@ -105,7 +96,7 @@ TEST(Session, SheetsStandOnEachOtherAndCloseFromTheTop) {
   window.host->setRoot(View());
   window.settle();
   EXPECT_TRUE(window.sheets().empty()) << "the lower one takes the upper one along";
-  EXPECT_EQ(window.told, "opened closed:host ") << "of the lower one alone";
+  EXPECT_EQ(window.told, "activated opened closed:host ") << "of the lower one alone";
 }
 
 TEST(Session, AWindowPresentsControllersOverItself) {

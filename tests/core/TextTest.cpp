@@ -13,8 +13,8 @@
 #include "platform/text/TextBound.h"
 #include "platform/uikit/UILabel.h"
 #include "tests/core/Resources.h"
-#include "tests/core/ScoreWidgets.h"
 #include "tests/core/TestWindow.h"
+#include "tests/core/Widgets.h"
 
 namespace quorix {
 namespace {

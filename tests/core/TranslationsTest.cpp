@@ -5,8 +5,8 @@
 #include "QuorixWidgets/score/ScoreWidgetBuilder.h"
 #include "platform/foundation/MainQueue.h"
 #include "platform/foundation/Runtime.h"
-#include "tests/core/ScoreWidgets.h"
 #include "tests/core/Vectors.h"
+#include "tests/core/Widgets.h"
 
 namespace quorix {
 namespace {

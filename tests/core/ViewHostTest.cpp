@@ -9,8 +9,8 @@
 #include "platform/swiftui/Elements.h"
 #include "platform/swiftui/UIViewRepresentable.h"
 #include "tests/core/Resources.h"
-#include "tests/core/ScoreWidgets.h"
 #include "tests/core/TestWindow.h"
+#include "tests/core/Widgets.h"
 
 namespace quorix {
 namespace {
