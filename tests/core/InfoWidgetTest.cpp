@@ -106,10 +106,10 @@ TEST(InfoWidgetView, OpensItsPageFromAnywhereOnItAndFromEachTextThatIsRead) {
   EXPECT_EQ(area.size.width, 320) << "border and padding are part of it";
   const std::function<void()> ways[] = {
       [&] {
-        window.tap({area.left() + 1, area.top() + 1});
+        window.tap(layout::Point{area.left() + 1, area.top() + 1});
       },
       [&] {
-        window.tap({area.right() - 1, area.bottom() - 1});
+        window.tap(layout::Point{area.right() - 1, area.bottom() - 1});
       },
       [&] { window.tap(link); },
       [&] { EXPECT_TRUE(window.host->activate(0)); },
