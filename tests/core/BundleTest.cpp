@@ -1,7 +1,6 @@
 #include "platform/foundation/Bundle.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <unistd.h>
 

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "QuorixWidgets/localization/Font.h"
 #include "platform/graphics/AssetCatalog.h"
 #include "platform/graphics/FontManager.h"

@@ -1,7 +1,3 @@
-#include <gtest/gtest.h>
-
-#include <string>
-
 #include "QuorixWidgets/info/InfoWidgetBuilder.h"
 #include "QuorixWidgets/localization/Assets.h"
 #include "platform/swiftui/TreePrinter.h"

@@ -1,9 +1,6 @@
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cmath>
 #include <thread>
-#include <vector>
 
 #include "QuorixWidgets/localization/Assets.h"
 #include "QuorixWidgets/localization/Font.h"

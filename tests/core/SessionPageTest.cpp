@@ -1,10 +1,4 @@
-#include <gtest/gtest.h>
-
 #include <deque>
-#include <memory>
-#include <string>
-#include <utility>
-#include <vector>
 
 #include "platform/hosting/ViewWindow.h"
 #include "platform/webkit/PageRules.h"

@@ -1,11 +1,3 @@
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <memory>
-#include <string>
-#include <utility>
-#include <vector>
-
 #include "platform/uikit/UIApplication.h"
 #include "tests/core/TestWindow.h"
 #include "tests/qt/FeeRow.h"

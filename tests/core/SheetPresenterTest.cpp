@@ -1,8 +1,3 @@
-#include <gtest/gtest.h>
-
-#include <optional>
-#include <string>
-
 #include "tests/core/TestWindow.h"
 #include "tests/core/Widgets.h"
 

@@ -1,10 +1,3 @@
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <optional>
-#include <string>
-#include <utility>
-
 #include "platform/swiftui/Elements.h"
 #include "tests/core/TestWindow.h"
 

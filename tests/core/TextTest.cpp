@@ -1,9 +1,4 @@
-#include <gtest/gtest.h>
-
 #include <algorithm>
-#include <memory>
-#include <string>
-#include <vector>
 
 #include "QuorixWidgets/info/InfoWidgetViewModel.h"
 #include "platform/render/Scene.h"

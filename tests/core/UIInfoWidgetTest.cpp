@@ -1,10 +1,7 @@
 #include "QuorixWidgets/info/UIInfoWidget.h"
 
-#include <gtest/gtest.h>
-
 #include <deque>
 #include <map>
-#include <utility>
 
 #include "QuorixWidgets/info/InfoWidgetBuilder.h"
 #include "QuorixWidgets/info/InfoWidgetViewModel.h"

@@ -1,7 +1,5 @@
 #include "platform/uikit/UIView.h"
 
-#include <gtest/gtest.h>
-
 #include "platform/hosting/ControllerPresentation.h"
 #include "platform/render/ScenePrinter.h"
 #include "platform/swiftui/Elements.h"

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <QTest>
 
 #include "tests/qt/FeeRow.h"

@@ -1,10 +1,7 @@
 #include "qt/SafeArea.h"
 
-#include <gtest/gtest.h>
-
 #include <QQmlComponent>
 #include <QQmlEngine>
-#include <vector>
 
 #include "qt/SafeAreaWatcher.h"
 #include "tests/qt/FeeRow.h"

@@ -1,16 +1,12 @@
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <QLoggingCategory>
 #include <QRegularExpression>
 #include <atomic>
 #include <chrono>
 #include <future>
-#include <optional>
 #include <stdexcept>
-#include <string>
 #include <thread>
-#include <vector>
 
 #include "platform/foundation/URLSession.h"
 #include "tests/qt/UrlSession.h"

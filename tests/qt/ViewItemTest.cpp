@@ -4,7 +4,6 @@
 
 #include <QTest>
 #include <algorithm>
-#include <utility>
 
 #include "tests/qt/FeeRow.h"
 #include "tests/qt/QuickScreen.h"

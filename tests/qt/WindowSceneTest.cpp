@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "QuorixWidgets/info/UIInfoWidget.h"
 #include "platform/swiftui/Elements.h"
 #include "platform/uikit/UIApplication.h"
