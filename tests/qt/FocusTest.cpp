@@ -69,8 +69,6 @@ TYPED_TEST(Focus, WalksThroughTheElementsThatActAndOn) {
 }
 
 TYPED_TEST(Focus, LeavesAViewInWhichNothingActsAnyMore) {
-  const auto empty = [](auto* row) { row->setView(View()); };
-  const auto text = [](auto* row) { row->setView(Text::verbatim("Text")); };
   for (const bool behindASheet : {false, true}) {
     for (const bool all : {true, false}) {
       TypeParam screen;
@@ -81,7 +79,7 @@ TYPED_TEST(Focus, LeavesAViewInWhichNothingActsAnyMore) {
       if (behindASheet) screen.key(Qt::Key_Return);
       ASSERT_EQ(screen.hasFocus(row), !behindASheet);
       const LogListener log;
-      all ? empty(row) : text(row);
+      row->setView(all ? View() : View(Text::verbatim("Text")));
       screen.settle();
       EXPECT_TRUE(screen.hasFocus(next)) << behindASheet << all;
       screen.key(Qt::Key_Tab);

@@ -6,7 +6,7 @@
 #include <algorithm>
 
 #include "tests/qt/FeeRow.h"
-#include "tests/qt/QuickScreen.h"
+#include "tests/qt/Screens.h"
 
 namespace quorix::testing {
 namespace {

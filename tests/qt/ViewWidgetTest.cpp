@@ -11,7 +11,7 @@
 #include "qt/Picture.h"
 #include "tests/qt/FeeRow.h"
 #include "tests/qt/Pixels.h"
-#include "tests/qt/WidgetScreen.h"
+#include "tests/qt/Screens.h"
 
 namespace quorix::testing {
 namespace {
@@ -21,7 +21,6 @@ using layout::LayoutDirection;
 using swiftui::Text;
 using swiftui::View;
 
-constexpr QRectF kPlace(20, 40, 300, 0);
 View paragraph() {
   return Text::verbatim("A sentence that needs two lines or more when the room is narrow");
 }
