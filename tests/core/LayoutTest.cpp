@@ -170,26 +170,20 @@ std::optional<double> readLength(const std::string& word) {
   return word == "inf" ? layout::infinity : std::stod(word);
 }
 
-std::string printed(double length) {
-  std::ostringstream text;
-  text << length;
-  return text.str();
-}
-
 /// The answers to the proposals that `expected` names.
 std::string printedAnswers(TestWindow& window, const std::string& expected) {
   std::istringstream lines(expected);
-  std::string result;
+  std::ostringstream result;
   for (std::string line; std::getline(lines, line);) {
     std::istringstream words(line);
     std::string fits, width, by, height;
     words >> fits >> width >> by >> height;
     if (fits != "fits") continue;
     const auto size = window.host->sizeThatFits({readLength(width), readLength(height)});
-    result += "fits " + width + " x " + height + " -> " + printed(size.width) + " x " +
-              printed(size.height) + "\n";
+    result << "fits " << width << " x " << height << " -> " << size.width << " x " << size.height
+           << '\n';
   }
-  return result;
+  return result.str();
 }
 
 TEST(Layout, GivesTheFramesOfTheTables) {

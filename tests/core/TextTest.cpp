@@ -75,13 +75,8 @@ TEST(TextBound, CountsAllRunsOfATextTogether) {
   }
 }
 
-/// A megabyte in one of the ways in which texts reach a widget.
-struct Source {
-  const char* name;
-  View view;
-};
-
 TEST(TextBound, NoTextReachesShapingOrAReaderWhole) {
+  // A megabyte in each of the ways in which texts reach a widget.
   const std::string endless = repeated("fee ", 250'000);
   const auto strings = LocalizationRepository::make("en");
   strings->strings = TranslationTable::make({{"returns", "title", endless},
@@ -95,7 +90,10 @@ TEST(TextBound, NoTextReachesShapingOrAReaderWhole) {
   const Text plain = Text::verbatim(endless);
   const auto label = std::make_shared<uikit::UILabel>();
   label->setAttributedText(uikit::NSAttributedString(endless));
-  const Source sources[] = {
+  const struct {
+    const char* name;
+    View view;
+  } sources[] = {
       {"translations", ScoreWidgetView{testing::scoreModel(true), strings}},
       {"parts", plain + plain + plain},
       {"cased",
@@ -104,7 +102,7 @@ TEST(TextBound, NoTextReachesShapingOrAReaderWhole) {
       {"button", swiftui::Button([] {}, View(plain))},
       {"label", swiftui::hosting(label)},
   };
-  for (const Source& source : sources) {
+  for (const auto& source : sources) {
     SCOPED_TRACE(source.name);
     TestWindow window(source.view);
     const auto& row = window.shown().accessibility;

@@ -88,18 +88,10 @@ TEST(Popup, TheSheetOfARowInItOpensAboveItAndLeavesItOpen) {
 }
 
 TEST(Popup, TheWheelIsForTheSheetAboveIt) {
-  struct Wheels : QObject {
-    int count = 0;
-    bool eventFilter(QObject*, QEvent* event) override {
-      count += event->type() == QEvent::Wheel;
-      return false;
-    }
-  };
   for (const char* type : kPopups) {
     PopupPage page(type);
     page.screen.click("Row 4 €");
-    Wheels wheels;
-    QGuiApplication::focusObject()->installEventFilter(&wheels);
+    const EventCount wheels(*QGuiApplication::focusObject(), QEvent::Wheel);
     page.screen.wheel({180, 580}, {0, 20}, {0, 120});
     EXPECT_EQ(wheels.count, 1) << type << ": a page in the sheet may scroll";
   }

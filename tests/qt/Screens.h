@@ -101,6 +101,18 @@ struct Told {
   std::shared_ptr<QVariantList> said = std::make_shared<QVariantList>();
 };
 
+/// Counts the events of one kind that an object gets.
+struct EventCount : QObject {
+  EventCount(QObject& watched, QEvent::Type counted) : type(counted) {
+    watched.installEventFilter(this);
+  }
+  bool eventFilter(QObject*, QEvent* event) override {
+    return count += event->type() == type, false;
+  }
+  const QEvent::Type type;
+  int count = 0;
+};
+
 struct ScreenName {
   template <class Screen>
   static std::string GetName(int) {

@@ -73,14 +73,7 @@ TEST(ViewWidget, StandsInLayoutsAsALabelWithWordWrapAndTellsThemOfNewSizesOnly) 
   screen.settle();
   EXPECT_EQ(first->height(), first->heightForWidth(first->width()));
   EXPECT_GE(first->height(), 2 * ideal.height());
-  struct Requests : QObject {
-    int count = 0;
-    bool eventFilter(QObject*, QEvent* event) override {
-      count += event->type() == QEvent::LayoutRequest;
-      return false;
-    }
-  } requests;
-  screen.host().installEventFilter(&requests);
+  const EventCount requests(screen.host(), QEvent::LayoutRequest);
   model.model->fee = "5 €";
   screen.settle();
   EXPECT_EQ(requests.count, 0);
