@@ -4,22 +4,11 @@
 #include "fuzz/Expect.h"
 #include "platform/uikit/Nib.h"
 #include "platform/uikit/ViewLayout.h"
+#include "tests/core/FixedWidthText.h"
 
 using namespace quorix;
 
 namespace {
-
-/// Half a point for each byte, on one line.
-struct PlainText final : text::TextEngine {
-  text::TextMetrics measure(const text::AttributedText& text, double) override {
-    return {{leastWidth(text), 10}};
-  }
-  double leastWidth(const text::AttributedText& text) override {
-    double width = 0;
-    for (const text::Run& run : text.runs) width += 0.5 * static_cast<double>(run.text.size());
-    return width;
-  }
-};
 
 void expectFinite(const uikit::UIView& view) {
   const layout::Rect& frame = view.frame();
@@ -41,7 +30,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     expect(!content && title.expired() && link.expired(), "a refused file connects nothing");
     return 0;
   }
-  PlainText text;
+  testing::FixedWidthText text;
   const uikit::LayoutContext context{text, {}};
   const uikit::ViewLayout layout(context);
   for (const auto& view : std::get<uikit::Nib::Views>(read)) {

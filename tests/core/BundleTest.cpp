@@ -1,14 +1,13 @@
 #include "platform/foundation/Bundle.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
 
-#include "tests/core/MemoryBundle.h"
+#include "tests/core/Resources.h"
 
 namespace quorix::foundation {
 namespace {

@@ -21,31 +21,16 @@ class FixedWidthText final : public text::TextEngine {
   std::vector<Call> calls;
 
   text::TextMetrics measure(const text::AttributedText& text, double width) override {
-    const text::Run& run = text.runs.front();
-    std::string words;
-    for (const text::Run& part : text.runs) words += part.text;
-    calls.push_back({words, width});
-    const double advance = run.font.points / 2;
-    const double lineHeight = run.font.points * 1.25;
+    calls.push_back({joined(text), width});
+    const double advance = text.runs.front().font.points / 2;
+    const double lineHeight = text.runs.front().font.points * 1.25;
     Lines lines{std::max(1.0, std::floor(width / advance + 1e-9))};
-    for (std::size_t start = 0; start <= words.size();) {
-      const std::size_t end = std::min(words.find(' ', start), words.size());
-      lines.add(characters(words.substr(start, end - start)));
-      start = end + 1;
-    }
+    for (const double word : words(text)) lines.add(word);
     return {{lines.widest * advance, lines.count * lineHeight}};
   }
 
   double leastWidth(const text::AttributedText& text) override {
-    std::string words;
-    for (const text::Run& part : text.runs) words += part.text;
-    double longest = 0;
-    for (std::size_t start = 0; start <= words.size();) {
-      const std::size_t end = std::min(words.find(' ', start), words.size());
-      longest = std::max(longest, characters(words.substr(start, end - start)));
-      start = end + 1;
-    }
-    return longest * text.runs.front().font.points / 2;
+    return std::ranges::max(words(text)) * text.runs.front().font.points / 2;
   }
 
  private:
@@ -68,9 +53,21 @@ class FixedWidthText final : public text::TextEngine {
     void next() { ++count, used = 0; }
   };
 
-  static double characters(const std::string& utf8) {
-    return static_cast<double>(
-        std::count_if(utf8.begin(), utf8.end(), [](char c) { return (c & 0xC0) != 0x80; }));
+  static std::string joined(const text::AttributedText& text) {
+    std::string all;
+    for (const text::Run& part : text.runs) all += part.text;
+    return all;
+  }
+  /// The number of characters in each word; there is one at least.
+  static std::vector<double> words(const text::AttributedText& text) {
+    std::vector<double> counts(1);
+    for (const char c : joined(text)) {
+      if (c == ' ')
+        counts.push_back(0);
+      else if ((c & 0xC0) != 0x80)
+        ++counts.back();
+    }
+    return counts;
   }
 };
 

@@ -1,12 +1,9 @@
-#include <gtest/gtest.h>
-
 #include "QuorixWidgets/localization/Font.h"
 #include "platform/graphics/AssetCatalog.h"
 #include "platform/graphics/FontManager.h"
 #include "platform/swiftui/TreePrinter.h"
-#include "tests/core/FreshProcess.h"
-#include "tests/core/InfoWidgets.h"
-#include "tests/core/MemoryBundle.h"
+#include "tests/core/Resources.h"
+#include "tests/core/Widgets.h"
 
 namespace quorix {
 namespace {

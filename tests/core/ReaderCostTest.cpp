@@ -67,10 +67,12 @@ double secondsFor(void (*read)(const std::string&), const std::string& text) {
   return least;
 }
 
-const std::string interfaceStart =
-    "<document type='com.apple.InterfaceBuilder3.CocoaTouch.XIB'><objects>\n"
-    "<placeholder placeholderIdentifier='IBFilesOwner' id='-1' customClass='Card'>\n<connections>";
-const std::string interfaceView = "</connections></placeholder>\n<view id='box'><subviews>";
+/// An interface file with one label, and `piece` repeated before `end`.
+Make interfaceWith(const std::string& piece, const std::string& end) {
+  const std::string file = testing::interfaceFile(testing::labelElement("a", "x"), "");
+  const std::size_t at = file.find(end);
+  return repeated(file.substr(0, at), piece, file.substr(at));
+}
 
 TEST(ReaderCost, IsInProportionToTheBytes) {
   const struct {
@@ -109,17 +111,11 @@ TEST(ReaderCost, IsInProportionToTheBytes) {
       {"XML elements in elements", readStrings,
        nested("<plist><dict><key>k</key>", "<array>", "</array>", "</dict></plist>")},
       {"outlets", readInterface,
-       repeated(interfaceStart, "<outlet property='box' destination='box' id='o#'/>\n",
-                interfaceView + "</subviews></view></objects></document>")},
-      {"labels", readInterface,
-       repeated(
-           interfaceStart + "<outlet property='box' destination='box' id='o'/>" + interfaceView,
-           "<label id='l#' text='x'/>\n", "</subviews></view></objects></document>")},
+       interfaceWith("<outlet property='box' destination='box' id='o#'/>\n", "</connections>")},
+      {"labels", readInterface, interfaceWith("<label id='l#' text='x'/>\n", "</subviews>")},
       {"constraints", readInterface,
-       repeated(interfaceStart + "<outlet property='box' destination='box' id='o'/>" +
-                    interfaceView + testing::labelElement("a", "x") + "</subviews><constraints>",
-                testing::constraintElement("a", "top", "", "box", "top", 1) + '\n',
-                "</constraints></view></objects></document>")},
+       interfaceWith(testing::constraintElement("a", "top", "", "box", "top", 1) + '\n',
+                     "</constraints>")},
       {"colors", readColors,
        repeated(R"({"colors": [{"idiom": "universal", "color": {"components": {"red": "1",
                 "green": "1", "blue": "1", "alpha": "1"}}})",

@@ -1,16 +1,12 @@
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cmath>
 #include <thread>
-#include <vector>
 
 #include "QuorixWidgets/localization/Assets.h"
 #include "QuorixWidgets/localization/Font.h"
 #include "platform/graphics/AssetCatalog.h"
 #include "platform/graphics/FontManager.h"
-#include "tests/core/FreshProcess.h"
-#include "tests/core/MemoryBundle.h"
+#include "tests/core/Resources.h"
 
 namespace quorix {
 namespace {

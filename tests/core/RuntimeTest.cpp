@@ -10,7 +10,6 @@
 #include "platform/uikit/UIApplication.h"
 #include "platform/uikit/UIWindow.h"
 #include "platform/uikit/URLOpener.h"
-#include "tests/core/FreshRuntime.h"
 
 namespace quorix {
 namespace {
@@ -25,8 +24,13 @@ struct NoOpener final : URLOpener {
   void open(const foundation::URL&) override {}
 };
 
+template <class... T>
+std::tuple<foundation::Runtime::Fresh<T>...> freshPieces(std::tuple<T*...>);
+/// The process's state as at its start, until the end of the block.
+using FreshRuntime = decltype(freshPieces(foundation::Runtime::Pieces()));
+
 TEST(Runtime, ATestCanReplaceEachPieceForAWhile) {
-  const testing::FreshRuntime around;
+  const FreshRuntime around;
   const auto host = Bundle::of({});
   const auto opener = std::make_shared<NoOpener>();
   const auto url = foundation::URL::parse("https://shop.example/").value();
@@ -41,7 +45,7 @@ TEST(Runtime, ATestCanReplaceEachPieceForAWhile) {
   uikit::UIWindow window;
   window.makeKey();
   {
-    const testing::FreshRuntime fresh;
+    const FreshRuntime fresh;
     EXPECT_EQ(MainQueue::drain(), 0);
     EXPECT_FALSE(Bundle::hasMain());
     EXPECT_EQ(libraryBundle(), Bundle::embedded());

@@ -110,6 +110,27 @@ TEST(Scene, LeavesEachAreaRoomToTap) {
   }
 }
 
+TEST(ScenePart, IsWhatOnePictureHoldsAroundWhatIsSeen) {
+  const struct {
+    const char* what;
+    layout::Size size;
+    layout::Rect seen;
+    double scale;
+    layout::Rect part;
+  } rows[] = {
+      {"a row", {375, 60}, {{0, 30}, {375, 30}}, 2, {{0, 0}, {375, 60}}},
+      {"just held", {375, 4096}, {{0, 4000}, {375, 96}}, 2, {{0, 0}, {375, 4096}}},
+      {"at its top", {375, 20000}, {{0, 0}, {375, 600}}, 2, {{0, 0}, {375, 4096}}},
+      {"in its middle", {375, 20000}, {{0, 10000}, {375, 600}}, 2, {{0, 8252}, {375, 4096}}},
+      {"at its end", {375, 20000}, {{0, 19400}, {375, 600}}, 2, {{0, 15904}, {375, 4096}}},
+      {"wide", {9000, 10}, {{5000.25, 0}, {100, 10}}, 1, {{808, 0}, {8192, 10}}},
+      {"unseen", {375, 20000}, {}, 4, {{0, 0}, {375, 2048}}},
+  };
+  for (const auto& row : rows) {
+    EXPECT_EQ(render::partToPaint(row.size, row.seen, row.scale), row.part) << row.what;
+  }
+}
+
 TEST(SheetGeometry, KeepsWhatFillsThePanelInItsRoundCorners) {
   const Rect panel{{10, 100}, {200, 300}};
   const struct {

@@ -1,15 +1,14 @@
-#include <gtest/gtest.h>
-
 #include <algorithm>
+#include <limits>
 #include <map>
 #include <sstream>
 
 #include "QuorixWidgets/score/ScoreWidgetBuilder.h"
 #include "QuorixWidgets/score/ScoreWidgetSheet.h"
 #include "platform/swiftui/TreePrinter.h"
-#include "tests/core/ScoreWidgets.h"
 #include "tests/core/TestWindow.h"
 #include "tests/core/Vectors.h"
+#include "tests/core/Widgets.h"
 
 namespace quorix {
 namespace {
@@ -53,6 +52,29 @@ TEST(ScoreWidgetViewModel, TellsOfEachChangeBeforeItIsStored) {
   model->getReducedReturnFee(1200);
   EXPECT_EQ(seen, (std::vector<std::string>{"€2.00 18%", "€12.00 18%"}));
   EXPECT_EQ(model->baseReturnFee.get(), "€4.00");
+}
+
+TEST(ReturnRate, RoundsHalvesAwayFromZero) {
+  forEachRow("rates", [](simdjson::dom::element row) {
+    EXPECT_EQ(returnRateText(bitsOfDouble(row, "score_bits")), ::text(row, "rate"));
+  });
+}
+
+TEST(ReturnRate, ReachesToTheEndsOf64Bits) {
+  const double highest = 0x1p63 / 100, lowest = -0x1.fffffffffffffp62 / 100;
+  EXPECT_TRUE(hasReturnRate(highest));
+  EXPECT_EQ(returnRateText(highest), "-9223372036854775808%");
+  EXPECT_TRUE(hasReturnRate(lowest));
+  EXPECT_EQ(returnRateText(lowest), "9223372036854774784%");
+}
+
+TEST(ReturnRateDeathTest, StopsTheProcessBeyond64Bits) {
+  using Limits = std::numeric_limits<double>;
+  for (const double score : {-0x1p63 / 100, 0x1.0000000000001p63 / 100, Limits::max(),
+                             Limits::infinity(), -Limits::infinity(), Limits::quiet_NaN()}) {
+    EXPECT_FALSE(hasReturnRate(score)) << score;
+    EXPECT_DEATH(returnRateText(score), "Fatal error: .*return rate") << score;
+  }
 }
 
 // What is made, shown, read out and measured.
@@ -102,21 +124,6 @@ TEST(ScoreWidgetView, IsAsDesigned) {
     EXPECT_EQ(printed(view, row.size), contentsOf("score/" + std::string(row.file) + ".txt"))
         << row.file;
   }
-}
-
-TEST(ScoreWidgetView, ItsSheetHasItsHeightBeforeTheFirstFrame) {
-  TestWindow window(testing::scoreView(true));
-  std::vector<double> heights;
-  std::function<void()> watch = [&] {
-    if (window.sheet()) heights.push_back(window.sheet()->panelFrame().size.height);
-    if (heights.size() < 4) foundation::MainQueue::async(watch);
-  };
-  window.tap(window.labels());
-  watch();
-  foundation::MainQueue::drain();
-  const double natural = window.sheet()->panel().size.height;
-  EXPECT_LT(natural, window.size.height / 2) << "the height that a sheet has unasked";
-  EXPECT_EQ(heights, std::vector<double>(4, natural));
 }
 
 // Builder.

@@ -1,11 +1,3 @@
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <memory>
-#include <string>
-#include <utility>
-#include <vector>
-
 #include "platform/uikit/UIApplication.h"
 #include "tests/core/TestWindow.h"
 #include "tests/qt/FeeRow.h"
@@ -62,8 +54,10 @@ TEST(Session, ASheetClosesByEachOfItsWays) {
     EXPECT_EQ(&window.front(), window.topmost());
     EXPECT_EQ(window.told, "activated opened ") << way.by;
     window.told.clear();
+    const auto sheet = window.topmost()->weak();
     way.perform();
     window.settle();
+    EXPECT_EQ(sheet.expired(), !way.reason.empty()) << way.by;
     EXPECT_EQ(window.sheet() == nullptr, !way.reason.empty()) << way.by;
     EXPECT_EQ(window.told, way.reason.empty() ? "" : "closed:" + way.reason + " ") << way.by;
     window.key(Key::escape);
@@ -71,30 +65,9 @@ TEST(Session, ASheetClosesByEachOfItsWays) {
   }
 }
 
-TEST(Session, TheViewMayGoWhileItsSheetIsUp) {
-  TestWindow window(testing::FeeRow("4 €"));
-  window.act("Row 4 €");
-  const auto sheet = window.topmost()->weak();
-  window.view().replaceView(testing::FeeRow("9 €"));
-  window.settle();
-  EXPECT_FALSE(window.sheet());
-  EXPECT_TRUE(sheet.expired());
-  window.act("Row 9 €");
-  EXPECT_EQ(window.labels(), "Fee 9 €, Close 9 €, Terms");
-}
-
-struct Terms {
-  static constexpr std::string_view typeName = "Terms";
-  swiftui::State<bool> shown{true};
-  auto states() const { return std::tie(shown); }
-  View body() const {
-    return View(Text::verbatim("Offer")).sheet(shown.binding(), testing::FeeRow("above"));
-  }
-};
-
 TEST(Session, SheetsStandOnEachOtherAndCloseFromTheTop) {
-  TestWindow window(Terms{});
-  window.settle();
+  TestWindow window(testing::Opener{testing::FeeRow("above")});
+  window.act("More");
   window.act("Row above");
   ASSERT_EQ(window.sheets().size(), 2U);
   EXPECT_EQ(window.labels(), "Fee above, Close above, Terms");
@@ -105,7 +78,7 @@ TEST(Session, SheetsStandOnEachOtherAndCloseFromTheTop) {
   window.host->setRoot(View());
   window.settle();
   EXPECT_TRUE(window.sheets().empty()) << "the lower one takes the upper one along";
-  EXPECT_EQ(window.told, "opened closed:host ") << "of the lower one alone";
+  EXPECT_EQ(window.told, "activated opened closed:host ") << "of the lower one alone";
 }
 
 TEST(Session, AWindowPresentsControllersOverItself) {

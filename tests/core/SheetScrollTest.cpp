@@ -1,10 +1,3 @@
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <optional>
-#include <string>
-#include <utility>
-
 #include "platform/swiftui/Elements.h"
 #include "tests/core/TestWindow.h"
 
@@ -44,10 +37,13 @@ struct LongSheet : Shown, testing::TestSheet {
   double offset() {
     return sheet.panelFrame().top() + 639 - sheet.scene().accessibility.back().frame.top();
   }
-  void drag(double by) {
+  /// A finger goes that far and, with a velocity, lets go.
+  void drag(double by, std::optional<double> velocity = std::nullopt) {
     sheet.pointerPressed({160, 480});
     sheet.pointerMoved({160, 480 + by});
+    if (velocity) sheet.pointerReleased({160, 480 + by}, *velocity);
   }
+  void twoFingers(double by) { sheet.scroll({by, true}); }
   void tap(double y) {
     sheet.pointerPressed({160, y});
     sheet.pointerReleased({160, y}, 0);
@@ -79,49 +75,21 @@ TEST(SheetScroll, ScrollsContentThatIsTallerThanThePanel) {
       {"the end", [](auto& in) { in.sheet.scroll(Key::end); }, 10, 400},
       {"a wheel", [](auto& in) { in.sheet.scroll({60}); }, 30, 90},
       {"a wheel at the top", [](auto& in) { in.sheet.scroll({-60}); }, 0, 0},
-      {"two fingers",
-       [](auto& in) {
-         in.sheet.scroll({-25, true});
-       },
-       30, 5},
+      {"two fingers", [](auto& in) { in.twoFingers(-25); }, 30, 5},
       {"Tab", [](auto& in) { in.sheet.moveFocus(false); }, 0, 385},
       {"a screen reader", [](auto& in) { in.sheet.focus(0); }, 400, 15},
       {"a drag", [](auto& in) { in.drag(-100); }, 50, 150},
       {"a drag beyond the end", [](auto& in) { in.drag(-100); }, 350, 410},
-      {"the same, let go",
-       [](auto& in) {
-         in.drag(-100), in.sheet.pointerReleased({160, 380}, 0);
-       },
-       350, 400},
-      {"a fast one, without motion",
-       [](auto& in) {
-         in.drag(-100), in.sheet.pointerReleased({160, 380}, -900);
-       },
-       0, 100},
-      {"a drag that ends at the top",
-       [](auto& in) {
-         in.drag(150), in.sheet.pointerReleased({160, 630}, 900);
-       },
-       50, 0},
-      {"a drag on, far down",
-       [](auto& in) {
-         in.drag(201), in.sheet.pointerReleased({160, 681}, 0);
-       },
-       50, 0, true},
-      {"a flick at the top",
-       [](auto& in) {
-         in.drag(20), in.sheet.pointerReleased({160, 500}, 601);
-       },
-       0, 0, true},
-      {"a flick back from further down",
-       [](auto& in) {
-         in.drag(-100), in.sheet.pointerReleased({160, 380}, 601);
-       },
-       0, 100},
+      {"the same, let go", [](auto& in) { in.drag(-100, 0); }, 350, 400},
+      {"a fast one, without motion", [](auto& in) { in.drag(-100, -900); }, 0, 100},
+      {"a drag that ends at the top", [](auto& in) { in.drag(150, 900); }, 50, 0},
+      {"a drag on, far down", [](auto& in) { in.drag(201, 0); }, 50, 0, true},
+      {"a flick at the top", [](auto& in) { in.drag(20, 601); }, 0, 0, true},
+      {"a flick back from further down", [](auto& in) { in.drag(-100, 601); }, 0, 100},
   };
   for (const auto& row : rows) {
     LongSheet in;
-    in.sheet.scroll({row.from, true});
+    in.twoFingers(row.from);
     row.perform(in);
     EXPECT_EQ(in.offset(), row.to) << row.by;
     EXPECT_EQ(in.shown.binding().get(), !row.closes) << row.by;
@@ -130,7 +98,7 @@ TEST(SheetScroll, ScrollsContentThatIsTallerThanThePanel) {
 
 TEST(SheetScroll, HandsADragAtTheTopOverToThePanelAndBack) {
   LongSheet in;
-  in.sheet.scroll({50, true});
+  in.twoFingers(50);
   const struct {
     double by, offset, panelTop;
   } rows[] = {{30, 20, 340}, {50, 0, 340}, {90, 0, 380}, {-10, 60, 340}};
@@ -144,14 +112,14 @@ TEST(SheetScroll, HandsADragAtTheTopOverToThePanelAndBack) {
 
 TEST(SheetScroll, TapsOnlyWhatIsInSight) {
   LongSheet in;
-  in.sheet.scroll({65, true});  // the button ends 4 points above the panel
+  in.twoFingers(65);  // the button ends 4 points above the panel
   in.tap(345);
   EXPECT_EQ(in.acted, "");
   EXPECT_TRUE(in.sheet.isScrolledAway(in.sheet.scene().accessibility.front().frame));
-  in.sheet.scroll({-20, true});
+  in.twoFingers(-20);
   EXPECT_FALSE(in.sheet.isScrolledAway(in.sheet.scene().accessibility.front().frame));
   in.tap(345);
-  in.sheet.scroll({355, true});
+  in.twoFingers(355);
   in.tap(590);
   in.sheet.activate(0);
   EXPECT_EQ(in.acted, "TopEndTop");
@@ -160,11 +128,7 @@ TEST(SheetScroll, TapsOnlyWhatIsInSight) {
 TEST(SheetScroll, AFlingSlowsDownAndAPressStopsIt) {
   LongSheet in;
   in.sheet.setMotion(true);
-  const auto fling = [&](double speed) {
-    in.drag(-20);
-    in.sheet.pointerReleased({160, 460}, speed);
-  };
-  fling(-600);
+  in.drag(-20, -600);
   double before = in.offset();
   double step = layout::infinity;
   for (int frame = 0; frame < 30; ++frame) {
@@ -177,7 +141,7 @@ TEST(SheetScroll, AFlingSlowsDownAndAPressStopsIt) {
   EXPECT_NEAR(in.offset(), before, 1);
   in.rest();
   EXPECT_NEAR(in.offset(), before, 1);
-  fling(-5000);
+  in.drag(-20, -5000);
   in.rest();
   EXPECT_EQ(in.offset(), 400);
   in.sheet.scroll(hosting::Key::home);
@@ -197,7 +161,7 @@ TEST(SheetScroll, ShowsItsScrollIndicatorForASecond) {
       in.sheet.scroll(hosting::Key::end);
       EXPECT_GT(in.rest(), 50);
       EXPECT_FALSE(in.indicator());
-      in.sheet.scroll({-200, true});
+      in.twoFingers(-200);
       ASSERT_TRUE(in.indicator());
       EXPECT_EQ(in.indicator()->left(), rightToLeft ? 3 : 314);
       EXPECT_EQ(in.indicator()->size.width, 3);

@@ -1,7 +1,5 @@
 #include "platform/foundation/StringFormat.h"
 
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <cstdio>
 #include <limits>

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "platform/swiftui/Environment.h"
 #include "tests/core/TestWindow.h"
 #include "tests/core/Vectors.h"

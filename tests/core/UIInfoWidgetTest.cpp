@@ -1,10 +1,7 @@
 #include "QuorixWidgets/info/UIInfoWidget.h"
 
-#include <gtest/gtest.h>
-
 #include <deque>
 #include <map>
-#include <utility>
 
 #include "QuorixWidgets/info/InfoWidgetBuilder.h"
 #include "QuorixWidgets/info/InfoWidgetViewModel.h"
@@ -13,7 +10,7 @@
 #include "platform/uikit/UIApplication.h"
 #include "platform/uikit/UIWindow.h"
 #include "platform/uikit/ViewPrinter.h"
-#include "tests/core/OtherResources.h"
+#include "tests/core/Resources.h"
 #include "tests/core/TestWindow.h"
 #include "tests/core/Vectors.h"
 

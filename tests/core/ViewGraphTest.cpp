@@ -1,11 +1,3 @@
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <memory>
-#include <string>
-#include <tuple>
-#include <vector>
-
 #include "platform/swiftui/Elements.h"
 #include "tests/core/TestWindow.h"
 

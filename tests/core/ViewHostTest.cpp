@@ -1,16 +1,8 @@
-#include <gtest/gtest.h>
-
-#include <memory>
-#include <string>
-#include <tuple>
-#include <utility>
-#include <vector>
-
 #include "platform/swiftui/Elements.h"
 #include "platform/swiftui/UIViewRepresentable.h"
-#include "tests/core/MemoryBundle.h"
-#include "tests/core/ScoreWidgets.h"
+#include "tests/core/Resources.h"
 #include "tests/core/TestWindow.h"
+#include "tests/core/Widgets.h"
 
 namespace quorix {
 namespace {
@@ -187,9 +179,6 @@ TEST(ScoreWidgetAccessibility, TheHostsStringTableIsAskedFirst) {
 }
 
 TEST(HostsStringTable, IsTheOneOfTheUsersLanguage) {
-  struct Row {
-    const char *language, *label;
-  };
   const auto heard = [](const std::string& language) {
     swiftui::Environment settings;
     settings.language = language;
@@ -200,8 +189,8 @@ TEST(HostsStringTable, IsTheOneOfTheUsersLanguage) {
                     {"pt.lproj/Localizable.strings", "\"%@ %@\" = \"pt %2$@ %1$@\";"},
                     {"es.lproj/Localizable.strings", "other = x;"},
                     {"en.lproj/Localizable.strings", "\"%@ %@\" = \"en %2$@ %1$@\";"}}));
-  for (const auto& [language, label] : {Row{"pt-BR", "br 4 fee"}, Row{"pt-PT", "pt 4 fee"},
-                                        Row{"es", "en 4 fee"}, Row{"", "en 4 fee"}}) {
+  for (const auto& [language, label] : std::map<std::string, std::string>{
+           {"pt-BR", "br 4 fee"}, {"pt-PT", "pt 4 fee"}, {"es", "en 4 fee"}, {"", "en 4 fee"}}) {
     EXPECT_EQ(heard(language), label);
   }
   foundation::Bundle::setMain(

@@ -53,4 +53,18 @@ struct FeeRow {
   }
 };
 
+/// A button that presents something.
+struct Opener {
+  static constexpr std::string_view typeName = "Opener";
+  swiftui::View content;
+  swiftui::State<bool> shown{false};
+
+  auto states() const { return std::tie(shown); }
+  swiftui::View body() const {
+    return swiftui::View(swiftui::Text::verbatim("More"))
+        .onTapGesture([binding = shown.binding()] { binding.toggle(); })
+        .sheet(shown.binding(), content);
+  }
+};
+
 }  // namespace quorix::testing

@@ -1,10 +1,9 @@
-#include <gtest/gtest.h>
-
 #include <QTest>
 
 #include "tests/qt/FeeRow.h"
 #include "tests/qt/Pixels.h"
 #include "tests/qt/Screens.h"
+#include "tests/web/LogListener.h"
 
 namespace quorix::testing {
 namespace {
@@ -69,19 +68,7 @@ TYPED_TEST(Focus, WalksThroughTheElementsThatActAndOn) {
   EXPECT_EQ(taps, "ABBA");
 }
 
-/// Counts what is logged while it lives.
-struct Log {
-  Log() {
-    count = 0, before = qInstallMessageHandler([](auto, auto&, const QString&) { ++count; });
-  }
-  ~Log() { qInstallMessageHandler(before); }
-  static inline int count = 0;
-  QtMessageHandler before;
-};
-
 TYPED_TEST(Focus, LeavesAViewInWhichNothingActsAnyMore) {
-  const auto empty = [](auto* row) { row->setView(View()); };
-  const auto text = [](auto* row) { row->setView(Text::verbatim("Text")); };
   for (const bool behindASheet : {false, true}) {
     for (const bool all : {true, false}) {
       TypeParam screen;
@@ -91,13 +78,13 @@ TYPED_TEST(Focus, LeavesAViewInWhichNothingActsAnyMore) {
       screen.focus(row);
       if (behindASheet) screen.key(Qt::Key_Return);
       ASSERT_EQ(screen.hasFocus(row), !behindASheet);
-      Log log;
-      all ? empty(row) : text(row);
+      const LogListener log;
+      row->setView(all ? View() : View(Text::verbatim("Text")));
       screen.settle();
       EXPECT_TRUE(screen.hasFocus(next)) << behindASheet << all;
       screen.key(Qt::Key_Tab);
       EXPECT_TRUE(screen.hasFocus(first)) << behindASheet << all;
-      EXPECT_EQ(log.count, 0);
+      EXPECT_TRUE(LogListener::lines().isEmpty());
     }
   }
 }
@@ -107,7 +94,7 @@ TYPED_TEST(Focus, GoesNowhereWhereNothingElseTakesIt) {
   auto* row = screen.add(FeeRow("4 €"), kPlace);
   screen.key(Qt::Key_Tab);
   ASSERT_TRUE(screen.hasFocus(row));
-  Log log;
+  const LogListener log;
   row->setView(View());
   screen.settle();
   EXPECT_FALSE(screen.hasFocus(row));
@@ -115,7 +102,7 @@ TYPED_TEST(Focus, GoesNowhereWhereNothingElseTakesIt) {
   screen.settle();
   screen.key(Qt::Key_Tab);
   EXPECT_TRUE(screen.hasFocus(row));
-  EXPECT_EQ(log.count, 0);
+  EXPECT_TRUE(LogListener::lines().isEmpty());
 }
 
 }  // namespace

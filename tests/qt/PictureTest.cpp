@@ -4,8 +4,12 @@
 
 #include <limits>
 
+#include "QuorixWidgets/localization/ResourceBundle.h"
 #include "platform/swiftui/Elements.h"
+#include "qt/ScenePainter.h"
 #include "qt/StillScene.h"
+#include "tests/qt/Pixels.h"
+#include "tests/qt/Texts.h"
 
 namespace quorix::qt {
 namespace {
@@ -55,6 +59,32 @@ TEST(StillScene, ShowsTheSheetsThatASheetPresents) {
   std::string words;
   for (const auto& element : still.sheet->accessibility) words += element.label + " ";
   EXPECT_EQ(words, "Below Top ");
+}
+
+constexpr layout::Rect frame{{10, 0}, {180, 60}};
+
+/// The pixels of a picture of 200 by 60 points that are not clear.
+QRect inked(render::Item item) {
+  render::Scene scene;
+  scene.size = {200, 60};
+  scene.items.push_back(std::move(item));
+  const QImage image = paintPicture(scene, 1, {0, 0, 0, 0});
+  QImage clear = image;
+  clear.fill(Qt::transparent);
+  return testing::differing(image, clear, 40);
+}
+
+TEST(ScenePainter, RightToLeftTextStartsAtTheRight) {
+  for (const char* words :
+       {"رسوم الإرجاع", "HIH", "رسوم الإرجاع الخاصة بك تعتمد على معدل الإرجاع"}) {
+    const auto text = testing::plainText(words, 14, layout::LayoutDirection::rightToLeft);
+    EXPECT_NEAR(inked(render::TextItem{frame, text}).right(), 190, 3) << words;
+  }
+}
+
+TEST(ScenePainter, AMissingImageDrawsNothing) {
+  EXPECT_TRUE(inked(render::ImageItem{frame, "nowhere", libraryBundle(), {}}).isNull());
+  EXPECT_TRUE(inked(render::ImageItem{{{0, 0}, {46, 0}}, "logo", libraryBundle(), {}}).isNull());
 }
 
 }  // namespace

@@ -1,15 +1,11 @@
-#include <gtest/gtest.h>
-
 #include <QDialog>
 #include <QMenu>
 #include <QTest>
-#include <QWheelEvent>
 #include <QWidgetAction>
 
 #include "qt/widgets/SheetWidget.h"
 #include "tests/qt/FeeRow.h"
-#include "tests/qt/QuickScreen.h"
-#include "tests/qt/WidgetScreen.h"
+#include "tests/qt/Screens.h"
 
 namespace quorix::testing {
 namespace {
@@ -60,23 +56,14 @@ const char* kPopups[] = {
 /// Each closes the sheet and nothing else.
 const struct {
   const char* by;
-  std::function<void(Screen&)> perform;
+  Act perform;
 } kWays[] = {
-    {"the cross", [](Screen& screen) { screen.click("Close 4 €"); }},
-    {"a click beside",
-     [](Screen& screen) {
-       screen.clickAt({340, 380});
-     }},
-    {"a tap beside",
-     [](Screen& screen) {
-       screen.drag({340, 380}, {340, 380}, 20, true);
-     }},
-    {"Escape", [](Screen& screen) { screen.key(Qt::Key_Escape); }},
-    {"the Back key", [](Screen& screen) { screen.key(Qt::Key_Back); }},
-    {"a pull",
-     [](Screen& screen) {
-       screen.drag({180, 420}, {180, 590}, 60, true);
-     }},
+    {"the cross", clicking("Close 4 €")},
+    {"a click beside", dragging({340, 380}, {340, 380}, 0, false)},
+    {"a tap beside", dragging({340, 380}, {340, 380}, 20, true)},
+    {"Escape", pressing({Qt::Key_Escape})},
+    {"the Back key", pressing({Qt::Key_Back})},
+    {"a pull", dragging({180, 420}, {180, 590}, 60, true)},
 };
 
 TEST(Popup, TheSheetOfARowInItOpensAboveItAndLeavesItOpen) {
@@ -101,22 +88,11 @@ TEST(Popup, TheSheetOfARowInItOpensAboveItAndLeavesItOpen) {
 }
 
 TEST(Popup, TheWheelIsForTheSheetAboveIt) {
-  struct Wheels : QObject {
-    int count = 0;
-    bool eventFilter(QObject*, QEvent* event) override {
-      count += event->type() == QEvent::Wheel;
-      return false;
-    }
-  };
   for (const char* type : kPopups) {
     PopupPage page(type);
     page.screen.click("Row 4 €");
-    Wheels wheels;
-    QGuiApplication::focusObject()->installEventFilter(&wheels);
-    const QPointF onPanel(180, 580);
-    QWheelEvent wheel(onPanel, onPanel, {0, 20}, {0, 120}, Qt::NoButton, {}, Qt::NoScrollPhase,
-                      false);
-    QCoreApplication::sendEvent(&page.screen.window(), &wheel);
+    const EventCount wheels(*QGuiApplication::focusObject(), QEvent::Wheel);
+    page.screen.wheel({180, 580}, {0, 20}, {0, 120});
     EXPECT_EQ(wheels.count, 1) << type << ": a page in the sheet may scroll";
   }
 }

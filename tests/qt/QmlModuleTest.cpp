@@ -9,7 +9,7 @@
 #include "platform/foundation/URLSession.h"
 #include "platform/swiftui/TreePrinter.h"
 #include "qt/qml/Widgets.h"
-#include "tests/qt/QuickScreen.h"
+#include "tests/qt/Screens.h"
 
 namespace quorix::testing {
 namespace {

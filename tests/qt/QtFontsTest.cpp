@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QFile>
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QFontMetricsF>
@@ -93,16 +92,10 @@ TEST_F(HostFontsDeathTest, AreToldOfAFaceOnceItsConstantIsThere) {
   }()));
 }
 
-QByteArray contents(const char* path) {
-  QFile file(QString::fromUtf8(path));
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 // A host that ships the family itself, in full perhaps, keeps it; and so do the widgets beside it.
 TEST_F(HostFontsDeathTest, StayTheHostsOwn) {
   EXPECT_IN_FRESH_PROCESS(([] {
-    const QByteArray own =
-        testing::wideFace(contents(FONTS "/Saans-Regular.dataset/Saans-Regular.otf"), "HOST");
+    const QByteArray own = testing::wideFace("Saans-Regular", "HOST");
     if (QFontDatabase::addApplicationFontFromData(own) < 0) return false;
     const double wide = QFontMetricsF(QFont("Saans", 100)).horizontalAdvance("iiii");
     const std::string name = QuorixFont::regular().name();

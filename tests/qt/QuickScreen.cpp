@@ -1,4 +1,4 @@
-#include "tests/qt/QuickScreen.h"
+#include "tests/qt/Screens.h"
 
 #include <QQmlComponent>
 

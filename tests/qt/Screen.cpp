@@ -2,6 +2,7 @@
 
 #include <QPointingDevice>
 #include <QTest>
+#include <QWheelEvent>
 
 #include "qt/AccessibilityBridge.h"
 #include "qt/Engine.h"
@@ -67,6 +68,11 @@ void Screen::clickAt(QPoint point) {
 void Screen::key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
   QTest::keyClick(&window(), key, modifiers);
   settle();
+}
+
+void Screen::wheel(QPoint at, QPoint pixels, QPoint angle, Qt::ScrollPhase phase) {
+  QWheelEvent event(at, window().mapToGlobal(at), pixels, angle, Qt::NoButton, {}, phase, false);
+  QCoreApplication::sendEvent(&window(), &event);
 }
 
 void Screen::drag(QPoint from, QPoint to, int milliseconds, bool byTouch) {

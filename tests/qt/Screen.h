@@ -31,6 +31,8 @@ class Screen {
   void click(const QString& name);
   void clickAt(QPoint point);
   void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
+  /// Turns the wheel or, with a phase, moves two fingers on a trackpad.
+  void wheel(QPoint at, QPoint pixels, QPoint angle, Qt::ScrollPhase phase = Qt::NoScrollPhase);
 
   /// Moves a pressed mouse or finger from one point to the other within `milliseconds`. A finger is
   /// always fast: the test library numbers its events instead of timing them.
@@ -50,5 +52,20 @@ class Screen {
 
   int frames_ = 0;
 };
+
+/// What a user does, as a row of a table.
+using Act = std::function<void(Screen&)>;
+
+inline Act clicking(const char* name) {
+  return [=](Screen& screen) { screen.click(name); };
+}
+inline Act dragging(QPoint from, QPoint to, int milliseconds, bool byTouch) {
+  return [=](Screen& screen) { screen.drag(from, to, milliseconds, byTouch); };
+}
+inline Act pressing(QList<Qt::Key> keys) {
+  return [=](Screen& screen) {
+    for (const Qt::Key key : keys) screen.key(key);
+  };
+}
 
 }  // namespace quorix::testing

@@ -2,16 +2,83 @@
 
 #include <gtest/gtest.h>
 
-#include <QRectF>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
 #include <QVariantList>
+#include <QWidget>
 #include <memory>
 #include <string>
 #include <type_traits>
 
-#include "tests/qt/QuickScreen.h"
-#include "tests/qt/WidgetScreen.h"
+#include "platform/swiftui/View.h"
+#include "qt/quick/ViewItem.h"
+#include "qt/widgets/ViewWidget.h"
+#include "tests/qt/Screen.h"
 
 namespace quorix::testing {
+
+class QuickScreen : public Screen {
+ public:
+  QuickScreen();
+
+  QQuickWindow& window() override { return *window_; }
+  void closeWindow() { window_.reset(); }
+  QImage grab() override { return window_->grabWindow(); }
+  std::function<int()> listenBelow() override;
+
+  /// A view at `place`, without motion; its height is what it wants where `place` has none.
+  qt::ViewItem* add(swiftui::View view, QRectF place);
+  /// Takes `item` over from another screen.
+  void adopt(qt::ViewItem* item);
+  /// Something of the host's that can have the focus.
+  QQuickItem* addFocusable();
+  /// What `source` says in QML, in which the view items are called "Row".
+  QQuickItem* addQml(const QByteArray& source);
+  static void focus(QQuickItem* item) { item->forceActiveFocus(); }
+  static bool hasFocus(const QQuickItem* item) { return item->hasActiveFocus(); }
+  static QRect placeOf(const QQuickItem* item) { return {at(item), item->size().toSize()}; }
+
+ private:
+  static QPoint at(const QQuickItem* item) { return item->mapToScene({}).toPoint(); }
+  QObject& accessibleRoot() override { return *window_; }
+
+  QQmlEngine engine_;
+  std::unique_ptr<QQuickWindow> window_;
+};
+
+class WidgetScreen : public QObject, public Screen {
+ public:
+  WidgetScreen();
+  ~WidgetScreen() override;
+
+  QWindow& window() override { return *host_->windowHandle(); }
+  /// The top-level widget.
+  QWidget& host() { return *host_; }
+  void closeWindow() { host_.reset(); }
+  QImage grab() override { return host_->grab().toImage(); }
+  std::function<int()> listenBelow() override;
+
+  /// A view at `place`, without motion; its height is what it wants where `place` has none.
+  qt::ViewWidget* add(swiftui::View view, QRectF place);
+  /// Takes `widget` over from another screen.
+  void adopt(qt::ViewWidget* widget);
+  /// Something of the host's that can have the focus.
+  QWidget* addFocusable();
+  static void focus(QWidget* widget) { widget->setFocus(); }
+  static bool hasFocus(const QWidget* widget) { return widget->hasFocus(); }
+  static QRect placeOf(const QWidget* widget) { return widget->geometry(); }
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  QObject& accessibleRoot() override { return *host_; }
+
+  std::unique_ptr<QWidget> host_;
+  QWidget* below_ = nullptr;
+  std::ptrdiff_t eventsBelow_ = 0;
+};
 
 /// Every toolkit's, for what holds in all.
 ///
@@ -32,6 +99,18 @@ struct Told {
   }
   const QVariantList& operator*() const { return *said; }
   std::shared_ptr<QVariantList> said = std::make_shared<QVariantList>();
+};
+
+/// Counts the events of one kind that an object gets.
+struct EventCount : QObject {
+  EventCount(QObject& watched, QEvent::Type counted) : type(counted) {
+    watched.installEventFilter(this);
+  }
+  bool eventFilter(QObject*, QEvent* event) override {
+    return count += event->type() == type, false;
+  }
+  const QEvent::Type type;
+  int count = 0;
 };
 
 struct ScreenName {

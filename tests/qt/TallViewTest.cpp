@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <QRect>
 
 #include "platform/swiftui/Elements.h"

@@ -1,8 +1,5 @@
-#include <gtest/gtest.h>
-
 #include <QPushButton>
 #include <QScrollArea>
-#include <functional>
 
 #include "tests/qt/FeeRow.h"
 #include "tests/qt/Screens.h"

@@ -15,11 +15,6 @@ using testing::plainText;
 using text::AttributedText;
 using text::TextMetrics;
 
-struct Sample {
-  const char* name;
-  AttributedText text;
-};
-
 /// Letters that reach over their right end, in the machine's own face.
 AttributedText overhanging() {
   AttributedText text =
@@ -28,10 +23,13 @@ AttributedText overhanging() {
   return text;
 }
 
-std::vector<Sample> samples() {
+TEST(TextEngine, NarrowerIsNeverLowerAndBreaksTheSameWhenPainted) {
   const std::string words =
       "Your fee is based on how often you return, and falls as you keep more.";
-  return {
+  const struct {
+    const char* name;
+    AttributedText text;
+  } samples[] = {
       {"fractional_size", plainText(words, 15.68)},
       {"long_word",
        plainText("An uncharacteristically-hyphenated Donaudampfschifffahrtsgesellschaft!")},
@@ -44,10 +42,7 @@ std::vector<Sample> samples() {
       {"overhanging", overhanging()},
       {"two_runs", linkedText("Fees follow your habits. ", "Read more about returns")},
   };
-}
-
-TEST(TextEngine, NarrowerIsNeverLowerAndBreaksTheSameWhenPainted) {
-  for (const auto& [name, text] : samples()) {
+  for (const auto& [name, text] : samples) {
     SCOPED_TRACE(name);
     QtTextEngine engine;
     TextMetrics wider = engine.measure(text, layout::infinity);

@@ -3,13 +3,50 @@
 #include <gtest/gtest.h>
 
 #include <QNetworkReply>
+#include <chrono>
+#include <future>
+#include <memory>
 #include <string>
+#include <thread>
+#include <utility>
 
 #include "qt/QtURLTransport.h"
-#include "tests/qt/Fetch.h"
 #include "tests/qt/LoopbackServer.h"
 
 namespace quorix::testing {
+
+struct Outcome {
+  foundation::URLResponse response;
+  std::thread::id thread;  ///< on which it completed
+};
+
+/// One request. The main thread blocks while it waits, so nothing may need its event loop. A second
+/// completion would end the process, because the promise is set already.
+class Fetch {
+ public:
+  Fetch(foundation::URLTransport& transport, const std::string& address) {
+    transport.start(foundation::URL::parse(address).value(),
+                    [promise = promise_](foundation::URLResponse response) {
+                      promise->set_value({std::move(response), std::this_thread::get_id()});
+                    });
+  }
+
+  bool isDone() const { return isDoneWithin(std::chrono::seconds(0)); }
+
+  Outcome wait() {
+    if (isDoneWithin(std::chrono::seconds(30))) return outcome_.get();
+    ADD_FAILURE() << "the request never completed";
+    return {};
+  }
+
+ private:
+  bool isDoneWithin(std::chrono::seconds limit) const {
+    return outcome_.wait_for(limit) == std::future_status::ready;
+  }
+
+  std::shared_ptr<std::promise<Outcome>> promise_ = std::make_shared<std::promise<Outcome>>();
+  std::future<Outcome> outcome_ = promise_->get_future();
+};
 
 class ConcurrentUrlSession : public ::testing::Test {
  protected:

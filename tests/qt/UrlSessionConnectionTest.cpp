@@ -1,13 +1,15 @@
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
+#include <QCoreApplication>
 #include <QNetworkProxy>
-#include <QNetworkReply>
 #include <QSslConfiguration>
 #include <QTcpServer>
-#include <string>
+#include <cstdlib>
+#include <semaphore>
 
+#include "qt/ConnectionRace.h"
 #include "tests/qt/UrlSession.h"
+#include "tests/qt/WaitUntil.h"
 
 namespace quorix::testing {
 namespace {
@@ -110,6 +112,85 @@ TEST_F(ConcurrentUrlSession, AsksTheApplicationsProxy) {
   for (const auto& [address, error] : refused) EXPECT_EQ(errorOf(address), error) << address;
   QNetworkProxy::setApplicationProxy(before);
   QSslConfiguration::setDefaultConfiguration(trustingNobody);
+}
+
+TEST(ConnectionRace, AnAddressThatDoesNotAnswerCostsLittleTime) {
+  const QHostAddress live("127.0.0.1"), dead("127.0.0.2");
+  QTcpServer answering, silent;
+  ASSERT_TRUE(answering.listen(live));
+  silent.setListenBacklogSize(0);
+  ASSERT_TRUE(silent.listen(dead, answering.serverPort()));
+  silent.pauseAccepting();
+  QTcpSocket first, second;  // fill its queue, so that it drops what comes after
+  for (QTcpSocket* socket : {&first, &second}) {
+    socket->setProxy(QNetworkProxy::NoProxy);
+    socket->connectToHost(dead, answering.serverPort());
+  }
+  ASSERT_TRUE(waitUntil([&] { return first.state() == QAbstractSocket::ConnectedState; }));
+
+  qt::ConnectionRace::Socket winner;
+  qt::ConnectionRace race(QString(), answering.serverPort(), false, QNetworkProxy::NoProxy,
+                          [&](auto socket, auto, const auto&) { winner = std::move(socket); });
+  QElapsedTimer timer;
+  timer.start();
+  race.begin({dead, live});
+  ASSERT_TRUE(waitUntil([&] { return winner != nullptr; }));
+  EXPECT_EQ(winner->peerAddress(), live);
+  EXPECT_GE(timer.elapsed(), 200);  // the first address had its head start
+  EXPECT_LT(timer.elapsed(), 5000);
+}
+
+/// A protocol that does not return in time is abandoned, and its late answer is ignored.
+[[noreturn]] void endTheApplication(bool aProtocolBlocks) {
+  std::binary_semaphore blocked(0), release(0), returns(0);
+  const auto protocol = foundation::URLSession::shared().registerProtocol(
+      [&](const foundation::URL& url) -> std::optional<foundation::URLResponse> {
+        if (url.absoluteString().find("/block") == std::string::npos) return std::nullopt;
+        blocked.release();
+        release.acquire();
+        returns.release();
+        return foundation::URLResponse{{}, "too late", 200};
+      });
+  qt::QtURLTransport transport;
+  LoopbackServer server;
+  server.serve("/still", silence());
+  std::vector<Fetch> pending;
+  pending.emplace_back(transport, server.base() + "/still");
+  bool passed = waitUntil([&] { return !server.requests("/still").empty(); });
+  if (aProtocolBlocks) {
+    pending.emplace_back(transport, server.base() + "/block");
+    blocked.acquire();
+    pending.emplace_back(transport, server.base() + "/behind");
+  }
+  delete QCoreApplication::instance();
+  for (const Fetch& fetch : pending) passed = passed && fetch.isDone();
+  pending.emplace_back(transport, server.base() + "/without");
+  for (Fetch& fetch : pending) {
+    const auto error = fetch.wait().response.error;
+    passed = passed && error && error->code == QNetworkReply::OperationCanceledError;
+  }
+
+  int argc = 0;
+  QCoreApplication next(argc, nullptr);
+  LoopbackServer nextServer;
+  nextServer.serve("/x", {httpAnswer(200, "answer")});
+  Fetch again(transport, nextServer.base() + "/x");
+  passed = passed && again.wait().response.body == "answer";
+  if (aProtocolBlocks) {
+    release.release();
+    returns.acquire();
+  }
+  nextServer.serve("/still", silence());
+  const Fetch atTheEnd(transport, nextServer.base() + "/still");
+  passed = passed && waitUntil([&] { return !nextServer.requests("/still").empty(); });
+  std::exit(passed ? 0 : 1);
+}
+
+// The application's end needs a process of its own, which here exits with a request in flight.
+TEST(ConcurrentUrlSessionDeathTest, EndsWithTheApplicationAndBeginsAnewWithTheNext) {
+  GTEST_FLAG_SET(death_test_style, "threadsafe");
+  EXPECT_EXIT(endTheApplication(false), ::testing::ExitedWithCode(0), "");
+  EXPECT_EXIT(endTheApplication(true), ::testing::ExitedWithCode(0), "");
 }
 
 }  // namespace

@@ -1,16 +1,12 @@
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <QLoggingCategory>
 #include <QRegularExpression>
 #include <atomic>
 #include <chrono>
 #include <future>
-#include <optional>
 #include <stdexcept>
-#include <string>
 #include <thread>
-#include <vector>
 
 #include "platform/foundation/URLSession.h"
 #include "tests/qt/UrlSession.h"
@@ -42,17 +38,15 @@ std::string deflated(int status, const std::string& body) {
   return httpAnswer(status, packed.toStdString(), "Content-Encoding: deflate\r\n");
 }
 
-struct Case {
-  std::string name;
-  Answer answer;
-  int status = 0;  // and no body for one that ends with an error
-  std::optional<std::string> body = {};
-};
-
-std::vector<Case> cases() {
+TEST_F(ConcurrentUrlSession, AnswersAreAnswersWhateverTheirStatusAndBrokenOnesAreErrors) {
   const std::string challenge = "WWW-Authenticate: Basic realm=\"r\"\r\n";
   const std::string gzip = "Content-Encoding: gzip\r\n";
-  return {
+  const struct {
+    const char* name;
+    Answer answer;
+    int status = 0;  // and no body for one that ends with an error
+    std::optional<std::string> body = {};
+  } table[] = {
       {"found", {httpAnswer(200, kTable)}, 200, kTable},
       {"not found", {httpAnswer(404, kTable)}, 404, kTable},
       {"locked", {httpAnswer(401, kTable, challenge)}, 401, kTable},
@@ -72,17 +66,13 @@ std::vector<Case> cases() {
       {"broken gzip", {httpAnswer(200, "plain", gzip)}},
       {"no HTTP at all", {"SSH-2.0-server\r\n\r\n", SIZE_MAX, true}},
   };
-}
-
-TEST_F(ConcurrentUrlSession, AnswersAreAnswersWhateverTheirStatusAndBrokenOnesAreErrors) {
-  const auto table = cases();
   std::vector<Fetch> fetches;
-  for (std::size_t i = 0; i < table.size(); ++i) {
+  for (std::size_t i = 0; i < std::size(table); ++i) {
     const std::string path = "/" + std::to_string(i);
     server.serve(path, table[i].answer);
     fetches.emplace_back(transport, server.base() + path);
   }
-  for (std::size_t i = 0; i < table.size(); ++i) {
+  for (std::size_t i = 0; i < std::size(table); ++i) {
     SCOPED_TRACE(table[i].name);
     const auto [response, thread] = fetches[i].wait();
     EXPECT_EQ(response.status, table[i].status);

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <QAccessible>
 
 #include "tests/qt/FeeRow.h"

@@ -4,10 +4,9 @@
 
 #include <QTest>
 #include <algorithm>
-#include <utility>
 
 #include "tests/qt/FeeRow.h"
-#include "tests/qt/QuickScreen.h"
+#include "tests/qt/Screens.h"
 
 namespace quorix::testing {
 namespace {
@@ -77,48 +76,43 @@ TEST(ViewItem, StandsInPositionersAndLayouts) {
 
 TEST(ViewItem, WithNothingToShowItTakesNoRoomInAnyLayout) {
   // What stands after the row, and where when the row is empty.
+  const QByteArray after = "Item { objectName: 'after'; width: 9; implicitHeight: 9; ";
   const struct {
-    const char* layout;
+    QByteArray layout;
     QPointF after;
   } cases[] = {
-      {"ColumnLayout { spacing: 3; Row { } Item { objectName: 'after'; implicitHeight: 9 } }",
-       {0, 3}},
+      {"ColumnLayout { spacing: 3; Row { } " + after + "} }", {0, 3}},
       {"ColumnLayout { spacing: 3; width: 300; height: 500; Row { Layout.fillWidth: true; "
-       "Layout.fillHeight: true } Item { objectName: 'after'; Layout.fillHeight: true } }",
+       "Layout.fillHeight: true } " +
+           after + "Layout.fillHeight: true } }",
        {0, 3}},
-      {"ColumnLayout { spacing: 3; Row { Layout.maximumHeight: 40; Layout.preferredHeight: 30 } "
-       "Item { objectName: 'after'; implicitHeight: 9 } }",
+      {"ColumnLayout { spacing: 3; Row { Layout.maximumHeight: 40; Layout.preferredHeight: 30 } " +
+           after + "} }",
        {0, 3}},
-      {"RowLayout { spacing: 3; width: 300; Row { Layout.fillWidth: true } "
-       "Item { objectName: 'after'; implicitHeight: 9; Layout.fillWidth: true } }",
+      {"RowLayout { spacing: 3; width: 300; Row { Layout.fillWidth: true } " + after +
+           "Layout.fillWidth: true } }",
        {3, 0}},
-      {"GridLayout { columns: 1; rowSpacing: 3; Row { } "
-       "Item { objectName: 'after'; implicitHeight: 9 } }",
-       {0, 3}},
-      {"GridLayout { columns: 2; columnSpacing: 3; Row { } "
-       "Item { objectName: 'after'; implicitHeight: 9 } }",
-       {3, 0}},
-      {"Column { spacing: 5; Row { width: 100 } Item { objectName: 'after'; width: 9; height: 9 } "
-       "}",
-       {0, 0}},
+      {"GridLayout { columns: 1; rowSpacing: 3; Row { } " + after + "} }", {0, 3}},
+      {"GridLayout { columns: 2; columnSpacing: 3; Row { } " + after + "} }", {3, 0}},
+      {"Column { spacing: 5; Row { width: 100 } " + after + "} }", {0, 0}},
   };
   QuickScreen screen;
   for (const auto& tested : cases) {
     const std::unique_ptr<QQuickItem> layout(screen.addQml(tested.layout));
     auto* row = layout->findChild<qt::ViewItem*>();
-    auto* after = layout->findChild<QQuickItem*>("after");
+    auto* item = layout->findChild<QQuickItem*>("after");
     screen.settle();
-    EXPECT_EQ(after->position(), tested.after) << tested.layout << " at first";
+    EXPECT_EQ(item->position(), tested.after) << tested.layout.constData() << " at first";
     row->setView(paragraph());
     screen.settle();
-    const QPointF filled = after->position();
-    EXPECT_GT(filled.x() + filled.y(), 15) << tested.layout;
+    const QPointF filled = item->position();
+    EXPECT_GT(filled.x() + filled.y(), 15) << tested.layout.constData();
     row->setView(View());
     screen.settle();
-    EXPECT_EQ(after->position(), tested.after) << tested.layout;
+    EXPECT_EQ(item->position(), tested.after) << tested.layout.constData();
     row->setView(paragraph());
     screen.settle();
-    EXPECT_EQ(after->position(), filled) << tested.layout;
+    EXPECT_EQ(item->position(), filled) << tested.layout.constData();
   }
 }
 

@@ -11,7 +11,7 @@
 #include "qt/Picture.h"
 #include "tests/qt/FeeRow.h"
 #include "tests/qt/Pixels.h"
-#include "tests/qt/WidgetScreen.h"
+#include "tests/qt/Screens.h"
 
 namespace quorix::testing {
 namespace {
@@ -21,7 +21,6 @@ using layout::LayoutDirection;
 using swiftui::Text;
 using swiftui::View;
 
-constexpr QRectF kPlace(20, 40, 300, 0);
 View paragraph() {
   return Text::verbatim("A sentence that needs two lines or more when the room is narrow");
 }
@@ -74,14 +73,7 @@ TEST(ViewWidget, StandsInLayoutsAsALabelWithWordWrapAndTellsThemOfNewSizesOnly) 
   screen.settle();
   EXPECT_EQ(first->height(), first->heightForWidth(first->width()));
   EXPECT_GE(first->height(), 2 * ideal.height());
-  struct Requests : QObject {
-    int count = 0;
-    bool eventFilter(QObject*, QEvent* event) override {
-      count += event->type() == QEvent::LayoutRequest;
-      return false;
-    }
-  } requests;
-  screen.host().installEventFilter(&requests);
+  const EventCount requests(screen.host(), QEvent::LayoutRequest);
   model.model->fee = "5 €";
   screen.settle();
   EXPECT_EQ(requests.count, 0);

@@ -1,13 +1,17 @@
 #pragma once
 
 #include <QByteArray>
+#include <QFile>
 #include <QtEndian>
 
 namespace quorix::testing {
 
-/// `font`, a font file, as another foundry might have drawn it: with the same names, and every
+/// The library's face `name` as another foundry might have drawn it: with the same names, and every
 /// letter three units of its grid wider than the em.
-inline QByteArray wideFace(QByteArray font, const char* foundry) {
+inline QByteArray wideFace(const QString& name, const char* foundry) {
+  QFile file(QStringLiteral(FONTS "/%1.dataset/%1.otf").arg(name));
+  if (!file.open(QIODevice::ReadOnly)) return {};
+  QByteArray font = file.readAll();
   const auto number = [&](qsizetype at) { return qFromBigEndian<quint16>(font.constData() + at); };
   const auto table = [&](const char* tag) -> qsizetype {
     for (int i = 0; i < number(4); ++i) {

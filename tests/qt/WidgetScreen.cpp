@@ -1,4 +1,4 @@
-#include "tests/qt/WidgetScreen.h"
+#include "tests/qt/Screens.h"
 
 #include <QApplication>
 #include <QEvent>

@@ -1,37 +1,11 @@
-#include <gtest/gtest.h>
-
-#include <memory>
-
 #include "QuorixWidgets/info/UIInfoWidget.h"
-#include "platform/swiftui/UIViewRepresentable.h"
+#include "platform/swiftui/Elements.h"
 #include "platform/uikit/UIApplication.h"
-#include "platform/uikit/UILabel.h"
-#include "platform/uikit/UIView.h"
 #include "platform/uikit/UIViewController.h"
 #include "tests/qt/Screens.h"
 
 namespace quorix::testing {
 namespace {
-
-/// A text that does something when it is tapped.
-std::shared_ptr<uikit::UILabel> button(const std::string& text, std::function<void()> action) {
-  auto label = std::make_shared<uikit::UILabel>();
-  label->setText(text);
-  label->setFrame({{20, 20}, {200, 20}});
-  label->setUserInteractionEnabled(true);
-  label->addGestureRecognizer(std::make_shared<uikit::UITapGestureRecognizer>(
-      label, [action](uikit::UILabel&, uikit::UITapGestureRecognizer&) { action(); }));
-  return label;
-}
-
-struct Page : uikit::UIViewController {
-  explicit Page(std::string text) : title(std::move(text)) {}
-  void viewDidLoad() override {
-    const auto close = [this] { dismiss(true); };
-    view()->addSubview(button(title, close));
-  }
-  std::string title;
-};
 
 /// Presents a page of that title over the top-most screen of the window in use.
 void presentPage(const std::string& title) {
@@ -39,11 +13,15 @@ void presentPage(const std::string& title) {
   ASSERT_TRUE(window);
   auto top = window->rootViewController();
   while (top->presentedViewController()) top = top->presentedViewController();
-  top->present(std::make_shared<Page>(title), true);
+  const auto page = std::make_shared<uikit::UIViewController>();
+  page->view()->setAccessibilityLabel(title);
+  top->present(page, true);
 }
 
 swiftui::View opener(const std::string& page) {
-  return swiftui::hosting(button("Open " + page, [page] { presentPage(page); }));
+  return swiftui::View(swiftui::Text::verbatim("Open " + page)).onTapGesture([page] {
+    presentPage(page);
+  });
 }
 
 template <class>

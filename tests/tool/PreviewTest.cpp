@@ -111,14 +111,3 @@ TEST(PreviewTool, SaysInWhichLanguageATableIsWrong) {
   EXPECT_TRUE(preview.process.readAllStandardError().startsWith(
       "quorix: preview: note: de.lproj/Localizable.strings: \""));
 }
-
-TEST(PreviewTool, SaysInOneLineWhatItCannotShow) {
-  const Tool tool;
-  for (const char* arguments :
-       {"--resources nowhere", "--translations nowhere.json", "--shopper nobody", "--shopper own",
-        "--width 10", "--regular-font nowhere.ttf"}) {
-    const auto run = tool.shell(std::string("quorix preview ") + arguments);
-    EXPECT_NE(run.status, 0) << arguments;
-    EXPECT_TRUE(isOneErrorLine(run.err)) << arguments << run.err;
-  }
-}

@@ -3,7 +3,6 @@
 #include <QFileInfo>
 #include <QProcess>
 #include <QRegularExpression>
-#include <algorithm>
 
 Tool::Run Tool::shell(const std::string& line) const {
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -24,9 +23,4 @@ Tool::Run Tool::shell(const std::string& line) const {
   static const QRegularExpression progress("quorix: gallery: \\d+ of \\d+ screens\n");
   const QString errors = QString::fromUtf8(process.readAllStandardError()).remove(progress);
   return {process.exitCode(), process.readAllStandardOutput().toStdString(), errors.toStdString()};
-}
-
-bool isOneErrorLine(const std::string& text) {
-  return text.starts_with("quorix: ") && text.ends_with('\n') &&
-         std::ranges::count(text, '\n') == 1;
 }

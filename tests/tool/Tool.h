@@ -22,6 +22,3 @@ class Tool {
  private:
   QTemporaryDir folder_;
 };
-
-/// Whether `text` is one line that begins with the tool's name.
-bool isOneErrorLine(const std::string& text);

@@ -5,17 +5,22 @@
 #include <QProcess>
 #include <cstdio>
 
+#include "tests/core/OpenedAddresses.h"
 #include "tests/qt/FeeRow.h"
 #include "tests/web/PageTest.h"
 
 namespace quorix::testing {
 namespace {
 
-/// Remembers what is opened outside.
-struct Outside final : uikit::URLOpener {
-  void open(const foundation::URL& url) override { addresses.push_back(url.absoluteString()); }
-  std::vector<std::string> addresses;
-};
+/// Opens the stand-in service's page.
+PageRow pageRow() {
+  return {[] {
+    auto content = std::make_shared<webkit::WebContent>();
+    content->settings.allowsContentJavaScript = true;
+    content->load({foundation::URL::parse(std::string(kModules) + "/page").value()});
+    return content;
+  }};
+}
 
 bool maps(const char* library) {
   QFile file(QStringLiteral("/proc/self/maps"));
@@ -33,27 +38,18 @@ int tellMaps() {
   pages().serve("/page", page("#0000ff"));
   Screen screen;
   screen.add(FeeRow("4 €"), {20, 40, 300, 0});
-  auto* row =
-      screen.add(PageRow{[] {
-                   auto content = std::make_shared<webkit::WebContent>();
-                   content->settings.allowsContentJavaScript = true;
-                   content->load({foundation::URL::parse(std::string(kModules) + "/page").value()});
-                   return content;
-                 }},
-                 {20, 100, 300, 0});
+  auto* row = screen.add(pageRow(), {20, 100, 300, 0});
   row->setMotion(true);
   screen.click("Row 4 €");
   screen.key(Qt::Key_Escape);
   say("before");
-  const auto outside = std::make_shared<Outside>();
-  uikit::URLOpener::install(outside);
+  const OpenedAddresses outside;
   screen.click("Open page");
   const bool came =
-      waitUntil([&] { return !pages().requests("/here").empty() || !outside->addresses.empty(); });
+      waitUntil([&] { return !pages().requests("/here").empty() || !outside.list().empty(); });
   screen.settle();
   say(came ? "after" : "never");
-  for (const std::string& address : outside->addresses)
-    std::printf("outside: %s\n", address.c_str());
+  for (const std::string& address : outside.list()) std::printf("outside: %s\n", address.c_str());
   std::printf("sheet: %d\n", screen.shows("Close page"));
   return 0;
 }
@@ -64,12 +60,7 @@ int tellKept() {
     tell('kept ' + document.cookie + (localStorage.kept || ''));
     document.cookie = 'kept=1; max-age=100000'; localStorage.kept = 'too'; )"));
   QuickScreen screen;
-  screen.add(PageRow{[] {
-               auto content = std::make_shared<webkit::WebContent>();
-               content->load({foundation::URL::parse(std::string(kModules) + "/page").value()});
-               return content;
-             }},
-             {20, 100, 300, 0});
+  screen.add(pageRow(), {20, 100, 300, 0});
   screen.click("Open page");
   const bool told = waitUntil([] { return !pages().requests("/here").empty(); });
   std::printf("%s\n", qPrintable(told ? reports().join(' ') : QStringLiteral("never")));

@@ -1,5 +1,4 @@
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 #include <unistd.h>
 
 #include <QCoreApplication>
@@ -8,6 +7,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include "qt/WebComponent.h"
 #include "tests/web/ChildProcess.h"
 
 namespace quorix::testing {
@@ -72,6 +72,11 @@ TEST(EngineLoading, RunsNoCodeFromTheCurrentFolderAndOpensTheBrowserOnce) {
           << qPrintable(place.calledAs);
     }
   }
+}
+
+TEST(EngineLoading, FindsAComponentOnlyWhereItIsInstalled) {
+  EXPECT_FALSE(qt::WebComponentLoader::isThere(QStringLiteral("QuorixWebElsewhere")));
+  EXPECT_FALSE(qt::WebComponentLoader::load(QStringLiteral("QuorixWebElsewhere")));
 }
 
 TEST(EngineLoading, NothingIsKeptForTheNextProcess) {

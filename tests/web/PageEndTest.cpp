@@ -6,11 +6,10 @@
 #include <QTcpSocket>
 #include <QTest>
 #include <csignal>
-#include <functional>
 
+#include "QuorixWidgets/info/InfoWidgetBuilder.h"
 #include "tests/web/EngineProcesses.h"
 #include "tests/web/LogListener.h"
-#include "tests/web/OverlayRow.h"
 #include "tests/web/PageTest.h"
 
 namespace quorix::testing {
@@ -32,40 +31,26 @@ TYPED_TEST_SUITE(PageEnd, Screens, ScreenName);
 
 TYPED_TEST(PageEnd, AHangingPageIsClosedByEveryWayWithinASecond) {
   this->opener->setMotion(true);
+  const QPoint outside(180, 4), down(0, 400);
   const struct {
     const char* what;
-    std::function<void()> closes;
+    Act perform;
   } ways[] = {
-      {"Escape", [&] { this->screen.key(Qt::Key_Escape); }},
-      {"Back", [&] { this->screen.key(Qt::Key_Back); }},
-      {"the button", [&] { this->screen.clickAt(this->kAtControl); }},
-      {"a tap outside",
-       [&] {
-         this->screen.clickAt({180, 4});
-       }},
-      {"a swipe",
-       [&] { this->screen.drag(this->kAtControl, this->kAtControl + QPoint(0, 400), 100, false); }},
+      {"Escape", pressing({Qt::Key_Escape})},
+      {"Back", pressing({Qt::Key_Back})},
+      {"the button", dragging(this->kAtControl, this->kAtControl, 0, false)},
+      {"a tap outside", dragging(outside, outside, 0, false)},
+      {"a swipe", dragging(this->kAtControl, this->kAtControl + down, 100, false)},
   };
   for (const auto& way : ways) {
     this->openHanging();
     QElapsedTimer since;
     since.start();
-    way.closes();
+    way.perform(this->screen);
     EXPECT_TRUE(waitUntil([&] { return !this->isOpen(); }, std::chrono::seconds(3))) << way.what;
     EXPECT_LT(since.elapsed(), 1000) << way.what;
     EXPECT_TRUE(waitUntil([&] { return TypeParam::hasFocus(this->opener); })) << way.what;
   }
-}
-
-TYPED_TEST(PageEnd, ABusyPageThatAnswersKeepsItsKeys) {
-  pages().serve("/next", page("#ff0000"));
-  this->openBlue("<a style='display:block;height:2000px' href='/next'>x</a>");
-  QTest::mouseClick(&this->screen.window(), Qt::LeftButton, {}, this->kInPage);
-  ASSERT_TRUE(this->isPainted(Qt::red));
-  this->screen.key(Qt::Key_Back);
-  EXPECT_TRUE(this->isPainted(Qt::blue));
-  QTest::qWait(600);
-  EXPECT_TRUE(this->isOpen());
 }
 
 TYPED_TEST(PageEnd, AKilledPageIsToldOfAndGivesTheFocusBack) {
@@ -90,34 +75,31 @@ TYPED_TEST(PageEnd, AKilledPageIsToldOfAndGivesTheFocusBack) {
   EXPECT_TRUE(waitUntil([&] { return TypeParam::hasFocus(this->opener); }));
 }
 
-TYPED_TEST(PageEnd, TheOverlaySaysThatItsPageDiedAndShowsItAgain) {
-  pages().serve("/html/overlays/info", page("#0000ff"));
-  auto* row = this->screen.add(OverlayRow{"sv"}, {20, 100, 300, 0});
-  this->screen.click("Open overlay");
-  ASSERT_TRUE(this->isPainted(Qt::blue));
-  for (const pid_t renderer : engineRenderers()) kill(renderer, SIGKILL);
-  ASSERT_TRUE(waitUntil([&] { return this->screen.shows("Sidan kan inte visas just nu."); }));
-  this->screen.settle();
-  EXPECT_NE(this->at(this->kInPage), QColor(Qt::blue));
-  this->screen.key(Qt::Key_Tab);
-  this->screen.key(Qt::Key_Return);
-  EXPECT_TRUE(this->isPainted(Qt::blue));
-  EXPECT_FALSE(this->screen.shows("Sidan kan inte visas just nu."));
-  this->screen.key(Qt::Key_Escape);
-  EXPECT_TRUE(waitUntil([&] { return TypeParam::hasFocus(row); }));
-}
-
-TYPED_TEST(PageEnd, TheOverlaySaysThatItsPageCannotBeLoadedAndTriesAgain) {
-  pages().serve("/html/overlays/info", {302, "", "Location: https://nowhere.quorix.example/\r\n"});
-  this->screen.add(OverlayRow{"de"}, {20, 100, 300, 0});
-  this->screen.click("Open overlay");
-  const char* sentence = "Diese Seite kann gerade nicht angezeigt werden.";
-  ASSERT_TRUE(waitUntil([&] { return this->screen.shows(sentence); }));
-  pages().serve("/html/overlays/info", page("#0000ff"));
-  this->screen.key(Qt::Key_Tab);
-  this->screen.key(Qt::Key_Return);
-  EXPECT_TRUE(this->isPainted(Qt::blue));
-  EXPECT_FALSE(this->screen.shows(sentence));
+TYPED_TEST(PageEnd, TheInfoWidgetSaysThatItsPageIsGoneAndShowsItAgain) {
+  const char *address = "/html/overlays/info", *sentence = "Sidan kan inte visas just nu.";
+  const examples::StandInPages::Answer blue = page("#0000ff"),
+                                       away{302, "", "Location: https://nowhere.example/\r\n"};
+  auto* row = this->screen.add(
+      InfoWidgetBuilder::buildSwiftUIInfoWidgetView("sv", {{}, {}, {}, false}), {20, 100, 300, 0});
+  for (const bool died : {true, false}) {
+    SCOPED_TRACE(died);
+    pages().serve(address, died ? blue : away);
+    this->screen.click("Läs mer");
+    if (died) {
+      ASSERT_TRUE(this->isPainted(Qt::blue));
+      for (const pid_t renderer : engineRenderers()) kill(renderer, SIGKILL);
+    }
+    ASSERT_TRUE(waitUntil([&] { return this->screen.shows(sentence); }));
+    this->screen.settle();
+    EXPECT_NE(this->at(this->kInPage), QColor(Qt::blue));
+    pages().serve(address, blue);
+    this->screen.key(Qt::Key_Tab);
+    this->screen.key(Qt::Key_Return);
+    EXPECT_TRUE(this->isPainted(Qt::blue));
+    EXPECT_FALSE(this->screen.shows(sentence));
+    this->screen.key(Qt::Key_Escape);
+    EXPECT_TRUE(waitUntil([&] { return TypeParam::hasFocus(row); }));
+  }
 }
 
 TYPED_TEST(PageEnd, ALoadThatStandsStillIsStopped) {

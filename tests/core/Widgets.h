@@ -1,10 +1,12 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "QuorixWidgets/info/InfoWidgetView.h"
 #include "QuorixWidgets/localization/LocalizationRepository.h"
 #include "QuorixWidgets/score/ScoreWidgetView.h"
 #include "QuorixWidgets/score/ScoreWidgetViewModel.h"
@@ -23,6 +25,15 @@ inline std::shared_ptr<ScoreWidgetViewModel> scoreModel(bool discount,
 
 inline swiftui::View scoreView(bool discount) {
   return ScoreWidgetView{scoreModel(discount), LocalizationRepository::make("en")};
+}
+
+inline std::shared_ptr<InfoWidgetViewModel> infoModel(
+    const std::string& locale = "en", SwiftUIStyleConfiguration style = {},
+    std::optional<double> percentile = std::nullopt,
+    std::optional<std::string> name = std::nullopt) {
+  const auto model = std::make_shared<InfoWidgetViewModel>(name, locale, std::move(style));
+  if (percentile) model->userDetails = UserDetails{0, 0, *percentile};
+  return model;
 }
 
 /// Stands in for the network and answers when the test says so.

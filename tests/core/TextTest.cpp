@@ -1,20 +1,15 @@
-#include "platform/text/TextBound.h"
-
-#include <gtest/gtest.h>
-
 #include <algorithm>
-#include <memory>
-#include <string>
-#include <vector>
 
 #include "QuorixWidgets/info/InfoWidgetViewModel.h"
 #include "platform/render/Scene.h"
 #include "platform/swiftui/Elements.h"
 #include "platform/swiftui/UIViewRepresentable.h"
+#include "platform/text/TextAnalysis.h"
+#include "platform/text/TextBound.h"
 #include "platform/uikit/UILabel.h"
-#include "tests/core/OtherResources.h"
-#include "tests/core/ScoreWidgets.h"
+#include "tests/core/Resources.h"
 #include "tests/core/TestWindow.h"
+#include "tests/core/Widgets.h"
 
 namespace quorix {
 namespace {
@@ -80,13 +75,8 @@ TEST(TextBound, CountsAllRunsOfATextTogether) {
   }
 }
 
-/// A megabyte in one of the ways in which texts reach a widget.
-struct Source {
-  const char* name;
-  View view;
-};
-
 TEST(TextBound, NoTextReachesShapingOrAReaderWhole) {
+  // A megabyte in each of the ways in which texts reach a widget.
   const std::string endless = repeated("fee ", 250'000);
   const auto strings = LocalizationRepository::make("en");
   strings->strings = TranslationTable::make({{"returns", "title", endless},
@@ -100,7 +90,10 @@ TEST(TextBound, NoTextReachesShapingOrAReaderWhole) {
   const Text plain = Text::verbatim(endless);
   const auto label = std::make_shared<uikit::UILabel>();
   label->setAttributedText(uikit::NSAttributedString(endless));
-  const Source sources[] = {
+  const struct {
+    const char* name;
+    View view;
+  } sources[] = {
       {"translations", ScoreWidgetView{testing::scoreModel(true), strings}},
       {"parts", plain + plain + plain},
       {"cased",
@@ -109,7 +102,7 @@ TEST(TextBound, NoTextReachesShapingOrAReaderWhole) {
       {"button", swiftui::Button([] {}, View(plain))},
       {"label", swiftui::hosting(label)},
   };
-  for (const Source& source : sources) {
+  for (const auto& source : sources) {
     SCOPED_TRACE(source.name);
     TestWindow window(source.view);
     const auto& row = window.shown().accessibility;
@@ -138,25 +131,41 @@ TEST(TextBound, AnEndlessTitleIsCutBeforeItIsSplit) {
   EXPECT_LE(shown, text::mostOfText + std::string("20%").size());
 }
 
-TEST(ScenePart, IsWhatOnePictureHoldsAroundWhatIsSeen) {
+constexpr auto ltr = layout::LayoutDirection::leftToRight;
+constexpr auto rtl = layout::LayoutDirection::rightToLeft;
+
+TEST(BaseDirection, FollowsTheLettersAndNotThePage) {
   const struct {
-    const char* what;
-    layout::Size size;
-    layout::Rect seen;
-    double scale;
-    layout::Rect part;
+    const char* words;
+    layout::LayoutDirection onLeftToRightPage, onRightToLeftPage;
   } rows[] = {
-      {"a row", {375, 60}, {{0, 30}, {375, 30}}, 2, {{0, 0}, {375, 60}}},
-      {"just held", {375, 4096}, {{0, 4000}, {375, 96}}, 2, {{0, 0}, {375, 4096}}},
-      {"at its top", {375, 20000}, {{0, 0}, {375, 600}}, 2, {{0, 0}, {375, 4096}}},
-      {"in its middle", {375, 20000}, {{0, 10000}, {375, 600}}, 2, {{0, 8252}, {375, 4096}}},
-      {"at its end", {375, 20000}, {{0, 19400}, {375, 600}}, 2, {{0, 15904}, {375, 4096}}},
-      {"wide", {9000, 10}, {{5000.25, 0}, {100, 10}}, 1, {{808, 0}, {8192, 10}}},
-      {"unseen", {375, 20000}, {}, 4, {{0, 0}, {375, 2048}}},
+      {"", ltr, ltr},
+      {"1.234,00\u00A0€", ltr, ltr},
+      {"18 %", ltr, ltr},
+      {"Su tarifa (18 %).", ltr, ltr},
+      {"\u200F١٬٢٣٤٫٠٠\u00A0€", rtl, rtl},  // a mark says so
+      {"18 رسوم", rtl, rtl},
+      {"Quorix رسوم", ltr, rtl},
+      {"רסום Quorix", rtl, rtl},
+      {"\xFF\xFE", ltr, ltr},  // not UTF-8
   };
   for (const auto& row : rows) {
-    EXPECT_EQ(render::partToPaint(row.size, row.seen, row.scale), row.part) << row.what;
+    const std::vector<text::Run> runs = {{row.words, {}, {}}};
+    EXPECT_EQ(text::baseDirection({runs, ltr}), row.onLeftToRightPage) << row.words;
+    EXPECT_EQ(text::baseDirection({runs, rtl}), row.onRightToLeftPage) << row.words;
   }
+}
+
+TEST(UnspacedWords, AreThoseOfScriptsWithoutBlanks) {
+  std::u16string found;
+  const std::u16string_view text = u"Quorix 返品手数料 €9";
+  for (const text::WordRange& word : text::unspacedWords(text)) {
+    found +=
+        text.substr(static_cast<std::size_t>(word.start), static_cast<std::size_t>(word.length));
+    found += u'|';
+  }
+  EXPECT_EQ(found, u"返品|手数料|");
+  EXPECT_TRUE(text::unspacedWords(u"Rücksendegebühr 1.234,00\u00A0€").empty());
 }
 
 }  // namespace

@@ -1,23 +1,57 @@
 #include "QuorixWidgets/localization/Strings.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <unistd.h>
-
-#include <filesystem>
-#include <fstream>
 
 #include "platform/foundation/StringsFile.h"
-#include "tests/core/OtherResources.h"
+#include "tests/core/Resources.h"
 #include "tests/core/Vectors.h"
 
 namespace quorix {
 namespace {
 
 using foundation::Bundle;
+using foundation::Error;
+using foundation::readStringsFile;
+using foundation::StringsFileErrorCode;
 using foundation::StringTable;
 using testing::OtherResources;
+
+std::string outcome(const foundation::Result<StringTable>& result) {
+  const auto* error = std::get_if<Error>(&result);
+  if (error == nullptr) return "table";
+  return error->code == static_cast<std::int64_t>(StringsFileErrorCode::notATable) ? "other"
+                                                                                   : "error";
+}
+
+void expectReading(simdjson::dom::element row) {
+  const bool isText = row["bytes"].error() != simdjson::SUCCESS;
+  const auto result = readStringsFile(isText ? ::text(row, "file") : fromHex(::text(row, "bytes")));
+  ASSERT_EQ(outcome(result), ::text(row, "outcome"));
+  if (const auto* table = std::get_if<StringTable>(&result)) {
+    StringTable expected;
+    for (const auto entry : row["table"].get_object()) {
+      expected.emplace(entry.key, std::string_view(entry.value));
+    }
+    EXPECT_EQ(*table, expected);
+    return;
+  }
+  const std::string& description = std::get<Error>(result).description;
+  EXPECT_TRUE(description.starts_with("line ")) << description;
+  if (row["says"].error() == simdjson::SUCCESS) {
+    EXPECT_THAT(description, ::testing::HasSubstr(::text(row, "says")));
+  }
+}
+
+TEST(StringsFile, IsReadAsPhonesReadItAndSaysInWhichLineItGoesWrong) {
+  forEachRow("strings_files", expectReading);
+  forEachRow("strings_files_own", expectReading);
+}
+
+TEST(StringsFile, MayBeNestedWithoutEnd) {
+  const std::string deep(200'000, '(');
+  EXPECT_EQ(outcome(readStringsFile("a = " + deep)), "error");
+  EXPECT_EQ(outcome(readStringsFile("a = " + deep + std::string(deep.size(), ')') + ';')), "other");
+}
 
 TEST(LocalizedString, IsFoundByTheExactLocaleOrElseInEnglish) {
   const OtherResources resources({
@@ -28,7 +62,7 @@ TEST(LocalizedString, IsFoundByTheExactLocaleOrElseInEnglish) {
       {"it.lproj/Localizable.strings", "k = (italian);"},
   });
   forEachRow("string_locales", [](simdjson::dom::element row) {
-    EXPECT_EQ(localized(text(row, "key"), text(row, "locale")), text(row, "text"));
+    EXPECT_EQ(localized(::text(row, "key"), ::text(row, "locale")), ::text(row, "text"));
   });
   EXPECT_EQ(localized("f", "en", {2.25, "Ann"}), "2.2 of Ann");
   EXPECT_EQ(localized("%@?", "es", {"Ann"}), "Ann?") << "a key without an entry is the format";
@@ -44,19 +78,6 @@ TEST(LocalizedString, IsEmptyWithoutABundle) {
   }
 }
 
-TEST(LocalizedString, FollowsAFileThatIsEdited) {
-  const auto folder =
-      std::filesystem::path(::testing::TempDir()) / ("strings-" + std::to_string(::getpid()));
-  std::filesystem::create_directories(folder / "en.lproj");
-  const OtherResources resources(Bundle::open(folder.string()));
-  for (const std::string text : {"one", "two", "one", "six"}) {
-    std::ofstream(folder / "en.lproj/Localizable.strings") << "k = " << text << ';';
-    EXPECT_EQ(localized("k", "en"), text);
-  }
-  std::filesystem::remove_all(folder);
-  EXPECT_EQ(localized("k", "en"), "");
-}
-
 TEST(LocalizableTables, AreCompleteInEveryLanguage) {
   std::vector<std::string> languages;
   for (const std::string& folder : Bundle::embedded()->folders("")) {
@@ -64,9 +85,9 @@ TEST(LocalizableTables, AreCompleteInEveryLanguage) {
     languages.push_back(folder.substr(0, folder.find('.')));
     const auto file = Bundle::embedded()->data(folder + "/Localizable.strings");
     ASSERT_TRUE(file) << folder;
-    const auto reading = foundation::readStringsFile(*file);
+    const auto reading = readStringsFile(*file);
     const auto* table = std::get_if<StringTable>(&reading);
-    ASSERT_TRUE(table) << folder << ": " << std::get<foundation::Error>(reading).description;
+    ASSERT_TRUE(table) << folder << ": " << std::get<Error>(reading).description;
     for (const auto& problem : problems(*table)) {
       ADD_FAILURE() << folder << ": " << problem.key << ' ' << problem.what;
     }
@@ -92,16 +113,15 @@ TEST(LocalizableTables, ThePersonalLineIsSpacedByItsTexts) {
 }
 
 TEST(LocalizableTables, MistakesAreNamed) {
-  const auto reading =
-      foundation::readStringsFile(*Bundle::embedded()->data("en.lproj/Localizable.strings"));
+  const auto reading = readStringsFile(*Bundle::embedded()->data("en.lproj/Localizable.strings"));
   const StringTable& good = std::get<StringTable>(reading);
   forEachRow("string_mistakes", [&](simdjson::dom::element row) {
     StringTable table = good;
-    table[text(row, "key")] = text(row, "text");
+    table[::text(row, "key")] = ::text(row, "text");
     const auto found = problems(table);
     ASSERT_FALSE(found.empty());
-    EXPECT_EQ(found.front().key, text(row, "key"));
-    EXPECT_THAT(found.front().what, ::testing::HasSubstr(text(row, "says")));
+    EXPECT_EQ(found.front().key, ::text(row, "key"));
+    EXPECT_THAT(found.front().what, ::testing::HasSubstr(::text(row, "says")));
   });
   EXPECT_EQ(problems({}).size(), good.size());
 }

@@ -1,4 +1,4 @@
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <algorithm>
 #include <map>
@@ -10,13 +10,45 @@
 #include "tests/core/InterfaceFile.h"
 #include "tests/core/Vectors.h"
 
-using namespace quorix;
-using namespace quorix::uikit;
-using quorix::testing::constraintElement;
-using quorix::testing::interfaceFile;
-using quorix::testing::labelElement;
-
+namespace quorix::uikit {
 namespace {
+
+using testing::constraintElement;
+using testing::interfaceFile;
+using testing::labelElement;
+
+/// The refusal of `xml`, or what it connected.
+std::string outcome(const std::string& xml) {
+  std::shared_ptr<UIView> box;
+  std::weak_ptr<UILabel> label;
+  const auto read = Nib::parse(xml, "Card", "Card", {{{"box", &box}}, {{"label", &label}}});
+  if (const auto* error = std::get_if<foundation::Error>(&read)) {
+    EXPECT_EQ(box, nullptr) << "a refused file connects nothing";
+    return error->description;
+  }
+  return box ? "read" : "nothing connected";
+}
+
+TEST(Nib, RefusesWhatItDoesNotShow) {
+  const std::string good =
+      interfaceFile(labelElement("a", "x"), constraintElement("a", "top", "", "box", "top", 1));
+  EXPECT_EQ(outcome(good), "read");
+  EXPECT_THAT(outcome(""), ::testing::HasSubstr("No document element found"));
+  EXPECT_THAT(outcome("<view"), ::testing::HasSubstr("Card.xib:1: "));
+  EXPECT_THAT(outcome("<nib/>"), ::testing::HasSubstr("not an interface file"));
+  forEachRow("interface_mistakes", [&](simdjson::dom::element row) {
+    std::string xml = good;
+    const auto at = xml.find(::text(row, "from"));
+    ASSERT_NE(at, std::string::npos);
+    xml.replace(at, ::text(row, "from").size(), ::text(row, "to"));
+    EXPECT_THAT(outcome(xml), ::testing::HasSubstr(::text(row, "says")));
+  });
+  std::string deep = "<view id='x0'/>";
+  for (int i = 1; i < 40; ++i) {
+    deep = "<view id='x" + std::to_string(i) + "'><subviews>" + deep + "</subviews></view>";
+  }
+  EXPECT_THAT(outcome(interfaceFile(deep, "")), ::testing::HasSubstr("nested too deep"));
+}
 
 std::string printed(const layout::Rect& frame) {
   const auto number = [](double value) { return std::to_string(static_cast<int>(value)); };
@@ -61,8 +93,6 @@ std::map<std::string, std::string> cards() {
           {"sized", interfaceFile(aLabel, size)}};
 }
 
-}  // namespace
-
 TEST(ViewLayout, FollowsConstraintsAndContent) {
   const auto files = cards();
   forEachRow("layout/constraints", [&](simdjson::dom::element row) {
@@ -74,7 +104,7 @@ TEST(ViewLayout, FollowsConstraintsAndContent) {
     std::optional<double> width;  // offered
     if (!row["width"].is_null()) width = double(row["width"]);
     using Direction = layout::LayoutDirection;
-    quorix::testing::FixedWidthText engine;
+    testing::FixedWidthText engine;
     const LayoutContext context{
         engine, {.direction = bool(row["rtl"]) ? Direction::rightToLeft : Direction::leftToRight}};
     const ViewLayout layout(context);
@@ -103,3 +133,6 @@ TEST(ViewLayout, PicturesStandInTheirLayoutRectangle) {
     EXPECT_EQ(printed(UIImageView::pictureFrame(square, row.insets, {24, 24})), row.drawn);
   }
 }
+
+}  // namespace
+}  // namespace quorix::uikit

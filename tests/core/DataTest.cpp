@@ -1,0 +1,133 @@
+#include "QuorixWidgets/data/TokenData.h"
+#include "QuorixWidgets/data/UserDetails.h"
+#include "platform/foundation/Base64.h"
+#include "tests/core/EncodeBase64.h"
+#include "tests/core/Vectors.h"
+
+namespace quorix {
+namespace {
+
+using foundation::decodeBase64;
+using foundation::DecodingError;
+using Keys = UserDetails::CodingKeys;
+using Kind = DecodingError::Kind;
+
+TEST(Base64, DecodesWhatIsWellFormedAndNothingElse) {
+  forEachRow("b64", [](simdjson::dom::element row) {
+    const auto bytes = decodeBase64(::text(row, "text"));
+    ASSERT_EQ(bytes.has_value(), !row["hex"].is_null());
+    if (bytes) {
+      EXPECT_EQ(*bytes, fromHex(::text(row, "hex")));
+    }
+  });
+  // Surplus padding, which lenient decoders accept.
+  forEachRow("b64_open", [](simdjson::dom::element row) {
+    EXPECT_EQ(decodeBase64(::text(row, "text")), std::nullopt);
+  });
+  EXPECT_EQ(decodeBase64("-_8=+/8"), std::nullopt);
+  EXPECT_EQ(decodeBase64("-/8="), "\xFB\xFF") << "the alphabet for addresses, too";
+  EXPECT_EQ(decodeBase64("+_8="), "\xFB\xFF");
+}
+
+std::string tokenWith(std::string_view payload) {
+  return "h." + testing::encodeBase64(payload) + ".s";
+}
+
+void expectFigures(const std::optional<TokenData>& data, simdjson::dom::element expected) {
+  ASSERT_EQ(data.has_value(), !expected.is_null());
+  if (!data) return;
+  EXPECT_EQ(std::bit_cast<std::uint64_t>(data->score),
+            std::bit_cast<std::uint64_t>(bitsOfDouble(expected, "score_bits")));
+  EXPECT_EQ(data->currency, ::text(expected, "currency"));
+  EXPECT_EQ(std::to_string(data->returnsFee), ::text(expected, "base"));
+  EXPECT_EQ(std::to_string(data->discountedReturnsFee), ::text(expected, "discounted"));
+}
+
+TEST(TokenData, ReadsTokens) {
+  forEachRow("tokens", [](simdjson::dom::element row) {
+    expectFigures(parseTokenData(::text(row, "token")), row["result"]);
+  });
+}
+
+TEST(TokenData, IsStrictWhereOtherReadersSlip) {
+  forEachRow("tokens_open", [](simdjson::dom::element row) {
+    // A byte order mark is harmless and skipped, as it is in translation tables.
+    const bool skipped = ::text(row, "name") == "document bom";
+    expectFigures(parseTokenData(::text(row, "token")), row[skipped ? "result" : "strict"]);
+  });
+}
+
+TEST(TokenData, TellsTheStepThatRefused) {
+  forEachRow("token_refusals", [](simdjson::dom::element row) {
+    simdjson::dom::element payload;
+    const bool isWhole = row["payload"].get(payload) != simdjson::SUCCESS;
+    const std::string token =
+        isWhole ? ::text(row, "token") : tokenWith(simdjson::to_string(payload));
+    const auto reading = readToken(token);
+    ASSERT_TRUE(std::holds_alternative<TokenRefusal>(reading));
+    EXPECT_EQ(describe(std::get<TokenRefusal>(reading)), ::text(row, "refusal"));
+    EXPECT_EQ(parseTokenData(token), std::nullopt);
+  });
+}
+
+TEST(TokenData, HasABoundOnATokensLength) {
+  const std::string payload =
+      "{\"data\":{\"score\":1,\"fee_currency\":\"EUR\",\"base_fee_amount\":1,"
+      "\"discounted_fee_amount\":0,\"x\":\"" +
+      std::string(40'000, 'x') + "\"}}";
+  std::string token = tokenWith(payload);
+  token.resize(longestToken, 's');  // the signature
+  EXPECT_EQ(parseTokenData(token), (TokenData{1, "EUR", 1, 0}));
+  const TokenReading tooLong = TokenRefusal::tooLong;
+  EXPECT_EQ(readToken(token + 's'), tooLong);
+  // Nor is a byte of it looked at: there are no more than two.
+  const char* volatile text = "h.";
+  EXPECT_EQ(readToken({text, std::size_t{1} << 40}), tooLong);
+}
+
+std::string nameOf(Kind kind) {
+  const char* names[] = {"keyNotFound", "typeMismatch", "valueNotFound", "dataCorrupted"};
+  return names[static_cast<std::size_t>(kind)];
+}
+
+void expectReading(simdjson::dom::element row) {
+  const auto reading = UserDetails::decode(::text(row, "body"));
+  if (const auto* details = std::get_if<UserDetails>(&reading)) {
+    EXPECT_EQ(*details,
+              (UserDetails{number(row, "rate"), number(row, "trend"), number(row, "percentile")}));
+  } else {
+    const auto& error = std::get<DecodingError>(reading);
+    EXPECT_EQ(nameOf(error.kind), ::text(row, "error"));
+    EXPECT_EQ(error.key, ::text(row, "key"));
+  }
+}
+
+TEST(UserDetails, DecodesAsPhonesDoAndNamesTheFirstReadThatFails) {
+  forEachRow("users", expectReading);
+  forEachRow("users_own", expectReading);
+}
+
+TEST(UserDetails, DecodesFromARecordInsideADocument) {
+  foundation::JSONDocument document;
+  const auto read = document.parse(
+      R"({"shoppers": [7, {"item_return_rate": 0.2, "item_return_percentile": 35,
+                           "return_rate_trend": -0.05}], "item_return_rate": 1})");
+  const auto& top = std::get<foundation::JSONValue>(read);
+  const auto shoppers = top.member("shoppers")->elements();
+  EXPECT_EQ(std::get<UserDetails>(UserDetails::decode(shoppers[1])), (UserDetails{0.2, -0.05, 35}));
+  EXPECT_EQ(std::get<DecodingError>(UserDetails::decode(shoppers[0])),
+            (DecodingError{Kind::typeMismatch, ""}));
+  EXPECT_EQ(std::get<DecodingError>(UserDetails::decode(top)),
+            (DecodingError{Kind::keyNotFound, "item_return_percentile"}));
+}
+
+TEST(UserDetails, KeysAreTheirTextsExactly) {
+  for (const Keys key : {Keys::returnRate, Keys::returnPercentile, Keys::returnRateTrend}) {
+    const std::string name(UserDetails::stringValue(key));
+    EXPECT_EQ(UserDetails::codingKey(name), key);
+    EXPECT_EQ(UserDetails::codingKey(name + ' '), std::nullopt);
+  }
+}
+
+}  // namespace
+}  // namespace quorix

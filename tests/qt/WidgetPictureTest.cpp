@@ -1,0 +1,113 @@
+#include <QPainter>
+#include <QTest>
+
+#include "QuorixWidgets/info/InfoWidgetView.h"
+#include "QuorixWidgets/localization/TovaFont.h"
+#include "QuorixWidgets/score/ScoreWidgetView.h"
+#include "platform/foundation/URLSession.h"
+#include "qt/Picture.h"
+#include "tests/qt/MatchesPicture.h"
+#include "tests/qt/Pixels.h"
+#include "tests/qt/Screens.h"
+
+namespace quorix {
+namespace {
+
+/// While it lives no request gets an answer.
+std::shared_ptr<void> offline() {
+  return foundation::URLSession::shared().registerProtocol([](const auto&) {
+    return foundation::URLResponse{foundation::Error{"Test", 1, "offline"}, {}, 0};
+  });
+}
+
+swiftui::View row(const std::string& locale, const ScoreWidgetStyle& style, double score) {
+  const TokenData token{score, "EUR", 499, 299};
+  return ScoreWidgetView{std::make_shared<ScoreWidgetViewModel>("shop", token, locale, style),
+                         LocalizationRepository::make(locale)};
+}
+
+/// The library's own faces keep their size, so large text is shown in a host's.
+ScoreWidgetStyle hostsFaces() { return {TovaFont::regular().name(), "TovaSansLatin-SemiBold"}; }
+
+/// Each picture is known by the name of its reference, which says in words what is on it:
+/// "sheet-discount-dark-3x".
+class WidgetPicture : public ::testing::TestWithParam<const char*> {
+ protected:
+  static bool says(const std::string& word) {
+    return ("-" + std::string(GetParam()) + "-").find("-" + word + "-") != std::string::npos;
+  }
+
+  static swiftui::View widget() {
+    const std::string locale = says("de") ? "de" : says("ar") ? "ar" : says("es") ? "es" : "en";
+    const auto [regular, bold] = says("large") ? hostsFaces() : ScoreWidgetStyle{{}, {}};
+    if (!says("info")) return row(locale, {regular, bold}, says("discount") ? 0.82 : 0.05);
+    const auto name = says("named") ? std::optional<std::string>("Ann") : std::nullopt;
+    const SwiftUIStyleConfiguration style{regular, bold, {}, says("border")};
+    const auto model = std::make_shared<InfoWidgetViewModel>(name, locale, style);
+    if (says("personal")) model->userDetails = UserDetails{0, 0, 12};
+    return InfoWidgetView{model};
+  }
+};
+
+TEST_P(WidgetPicture, LooksAsItDid) {
+  const auto requests = offline();
+  qt::PictureOptions options;
+  options.width = 343;
+  options.sheet = says("sheet");
+  swiftui::Environment& environment = options.environment;
+  environment.language = "en";
+  if (says("dark")) environment.appearance = graphics::Appearance::dark;
+  if (says("rtl") || says("ar")) environment.direction = layout::LayoutDirection::rightToLeft;
+  if (says("large")) environment.textSize = swiftui::ContentSizeCategory::extraExtraExtraLarge;
+  if (says("2x")) environment.scale = 2;
+  if (says("3x")) environment.scale = 3;
+  EXPECT_TRUE(testing::matchesPicture(qt::picture(widget(), options), GetParam()));
+}
+
+INSTANTIATE_TEST_SUITE_P(Widgets, WidgetPicture,
+                         ::testing::Values("row-discount", "row-discount-dark", "row-discount-3x",
+                                           "row-discount-rtl", "row-discount-large-text",
+                                           "row-plain-es", "row-plain-dark-3x", "sheet-discount",
+                                           "sheet-discount-dark-3x", "sheet-plain-es",
+                                           "sheet-discount-es-dark", "sheet-discount-rtl",
+                                           "sheet-discount-large-text", "info", "info-dark-3x",
+                                           "info-de-2x", "info-ar-2x", "info-border",
+                                           "info-personal-2x", "info-border-large-text",
+                                           "info-sheet", "info-sheet-named-rtl-dark"),
+                         [](const auto& tested) {
+                           std::string name = tested.param;
+                           std::replace(name.begin(), name.end(), '-', '_');
+                           return name;
+                         });
+
+template <class>
+struct WindowPicture : ::testing::Test {};
+TYPED_TEST_SUITE(WindowPicture, testing::Screens, testing::ScreenName);
+
+TYPED_TEST(WindowPicture, ShowsTheRowAsAStillDoes) {
+  const auto requests = offline();
+  TypeParam screen;
+  screen.add(row("en", {std::nullopt, std::nullopt}, 0.82), {0, 0, 343, 0});
+  const QImage window = screen.grab();
+  const QImage still(TEST_DATA "/pictures/row-discount.png");
+  QImage expected(still.size(), QImage::Format_RGB32);
+  expected.fill(window.pixel(350, 300));
+  QPainter(&expected).drawImage(0, 0, still);
+  EXPECT_EQ(testing::differing(window.copy(expected.rect()), expected, 24), QRect());
+}
+
+/// At the largest text size, scrolled on by a page.
+TYPED_TEST(WindowPicture, ShowsAScrolledSheet) {
+  const auto requests = offline();
+  TypeParam screen;
+  auto* shown = screen.add(row("en", hostsFaces(), 0.82), {20, 20, 320, 0});
+  shown->setTextSize(swiftui::ContentSizeCategory::accessibilityExtraExtraExtraLarge);
+  screen.settle();
+  screen.clickAt({180, 30});
+  screen.key(Qt::Key_PageDown);
+  QTest::qWait(1400);  // the scroll indicator is gone
+  EXPECT_TRUE(testing::matchesPicture(screen.grab(), "sheet-scrolled"));
+}
+
+}  // namespace
+}  // namespace quorix
