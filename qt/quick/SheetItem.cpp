@@ -176,7 +176,8 @@ void SheetItem::placePage(hosting::PageEngine& engine, const hosting::PagePlace&
   if (!page) return;
   connect(page, &QQuickItem::activeFocusChanged, this, &SheetItem::pageFocusChanged,
           Qt::UniqueConnection);
-  layers_.place(*page, toRect(place.room).adjusted(0, -place.strip, 0, 0), index);
+  const QRectF frame = toRect(place.room).adjusted(0, -place.strip, 0, 0);
+  layers_.place(*page, frame, place.strip, index);
   static_cast<WebPage&>(engine).roundTop({place.strip, place.radius, scale()});
   if (place.isAtTop) hiddenTop_ = place.strip;
 }
@@ -197,9 +198,12 @@ void SheetItem::takeFocusFromPages() {
 
 // Input.
 
+Qt::CursorShape SheetItem::cursorAt(QPointF point) {
+  return takesTapAt(toPoint(point)) ? Qt::PointingHandCursor : Qt::ArrowCursor;
+}
+
 void SheetItem::hoverMoveEvent(QHoverEvent* event) {
-  const auto shape =
-      takesTapAt(toPoint(event->position())) ? Qt::PointingHandCursor : Qt::ArrowCursor;
+  const auto shape = cursorAt(event->position());
   if (cursor().shape() != shape) setCursor(shape);
 }
 

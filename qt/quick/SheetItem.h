@@ -65,6 +65,7 @@ class SheetItem : public QQuickItem, public SheetSurface, public QuickAccessible
   bool isShown() const override { return !isClosed() && QuickAccessibleSurface::isShown(); }
   bool isDialog() const override { return true; }
 
+  Qt::CursorShape cursorAt(QPointF point);
   void updatePictures();
 
   // What the scene graph shows next; pictures are here only on their way to it.

@@ -11,12 +11,17 @@ SheetFront::SheetFront(SheetItem& sheet) : QQuickItem(&sheet), sheet_(sheet) {
   setAcceptedMouseButtons(Qt::AllButtons);
   setAcceptTouchEvents(true);
   setAcceptHoverEvents(true);
-  setCursor(Qt::PointingHandCursor);
 }
 
-bool SheetFront::contains(const QPointF& point) const { return sheet_.takesTapAt(toPoint(point)); }
+bool SheetFront::contains(const QPointF& point) const {
+  return strip_.contains(point) || sheet_.takesTapAt(toPoint(point));
+}
 
 bool SheetFront::event(QEvent* event) { return sheet_.handle(*event) || QQuickItem::event(event); }
+
+void SheetFront::hoverMoveEvent(QHoverEvent* event) {
+  setCursor(sheet_.cursorAt(event->position()));
+}
 
 void SheetFront::mouseUngrabEvent() { sheet_.pointerLost(); }
 
@@ -57,9 +62,10 @@ void SheetLayers::makeStops() {
   after_ = new FocusStop(sheet_, [this] { sheet_.leavePages(true); });
 }
 
-void SheetLayers::place(QQuickItem& page, const QRectF& frame, int index) {
+void SheetLayers::place(QQuickItem& page, const QRectF& frame, double strip, int index) {
   makeStops();
   front_->setSize(sheet_.size());
+  if (strip > 0 || index == 0) front_->setStrip({frame.topLeft(), QSizeF(frame.width(), strip)});
   const auto chain = sheet_.childItems();
   if (chain.constFirst() != before_) before_->stackBefore(chain.constFirst());
   if (chain.constLast() != after_) after_->stackAfter(chain.constLast());

@@ -14,20 +14,24 @@ namespace quorix::qt {
 class SheetItem;
 
 /// What lies over the pages of a sheet and takes taps: as large as the sheet, but there only where
-/// something acts. What comes to it goes to the sheet.
+/// something acts, and beside the rounded corners. What comes to it goes to the sheet.
 class SheetFront : public QQuickItem {
  public:
   explicit SheetFront(SheetItem& sheet);
 
+  /// Where a page is seen but takes no input.
+  void setStrip(const QRectF& strip) { strip_ = strip; }
   bool contains(const QPointF& point) const override;
 
  protected:
   bool event(QEvent* event) override;
+  void hoverMoveEvent(QHoverEvent* event) override;
   void mouseUngrabEvent() override;
   void touchUngrabEvent() override;
 
  private:
   SheetItem& sheet_;
+  QRectF strip_;
 };
 
 /// Stands before or after an item in the focus chain and says when the keyboard comes by.
@@ -59,8 +63,9 @@ class SheetLayers {
   void setPictures(const std::vector<SheetSurface::Layer>& layers);
   /// Where the panel's top left is.
   void moveTo(QPointF panel);
-  /// Puts a page where it belongs; `index` counts from the lowest.
-  void place(QQuickItem& page, const QRectF& frame, int index);
+  /// Puts a page where it belongs, the top `strip` of it for the eye alone; `index` counts from the
+  /// lowest.
+  void place(QQuickItem& page, const QRectF& frame, double strip, int index);
   /// Hides an absent ring; a null picture leaves the one before.
   void showRing(const std::optional<SheetSurface::Layer>& ring);
 

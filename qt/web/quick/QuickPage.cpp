@@ -47,10 +47,6 @@ void QuickPage::roundTop(const Top& top) {
   emit topChanged();
 }
 
-bool QuickPage::contains(const QPointF& point) const {
-  return view_ && QRectF({}, view_->size()).adjusted(0, top_.height, 0, 0).contains(point);
-}
-
 bool QuickPage::isReceiver(const QObject& receiver) const {
   if (!view_) return false;
   const auto* item = qobject_cast<const QQuickItem*>(&receiver);

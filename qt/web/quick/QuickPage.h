@@ -58,8 +58,6 @@ class QuickPage : public QObject, public WebPage {
   double topHeight() const { return top_.height; }
   double topRadius() const { return top_.radius; }
   double pixelRatio() const { return top_.pixelRatio; }
-  /// The view's shape for input.
-  Q_INVOKABLE bool contains(const QPointF& point) const;
   Q_INVOKABLE bool mayNavigate(const QUrl& address, bool mainFrame) {
     return input_.mayNavigate(address, mainFrame);
   }

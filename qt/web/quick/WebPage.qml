@@ -20,10 +20,7 @@ WebEngineView {
         runJavaScript(question, WebEngineScript.ApplicationWorld, used => page.scrollAnswered(used !== false));
     }
 
-    // In a sheet with rounded corners the page is drawn as a picture, which is cut to them. The strip
-    // beside them takes no input.
-    clip: page.topHeight > 0
-    containmentMask: clip ? page : null
+    // In a sheet with rounded corners the page is drawn as a picture, which is cut to them.
     layer {
         enabled: page.topHeight > 0
         effect: RoundedTop {
