@@ -24,7 +24,7 @@ class WebPage : public hosting::PageEngine {
 
   /// The upper part of a page, between the rounded corners of a sheet.
   struct Top {
-    double height = 0;      ///< where the page takes no input; 0 for a page below the corners
+    double height = 0;      ///< which only shows, under what takes input; 0 below the corners
     double radius = 0;      ///< of the corners
     double pixelRatio = 1;  ///< device pixels for each point
     bool operator==(const Top&) const = default;

@@ -48,7 +48,7 @@ class NSAttributedString {
   }
   /// In reading order, none of them empty.
   const std::vector<Run>& runs() const {
-    static const std::vector<Run> none;
+    static const auto& none = *new std::vector<Run>;  // static views may outlive `main`
     return runs_ ? *runs_ : none;
   }
 

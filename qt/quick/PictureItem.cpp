@@ -2,7 +2,6 @@
 
 #include <QQuickWindow>
 #include <QSGImageNode>
-#include <QSGRectangleNode>
 #include <QSGTexture>
 #include <utility>
 
@@ -24,14 +23,16 @@ void PictureNode::setPicture(QQuickWindow& window, const QImage& image) {
   QSGTexture* texture = window.createTextureFromImage(image, QQuickWindow::TextureCanUseAtlas);
   image_->setTexture(texture);
   size_ = image.deviceIndependentSize();
-  hideTop(hidden_);
+  layOut();
   // Not before: the software renderer looks at the texture as soon as the node is in the graph.
   if (isNew) appendChildNode(image_);
 }
 
 void PictureNode::hideTop(double points) {
-  hidden_ = points;
-  if (!image_) return;
+  if (std::exchange(hidden_, points) != points && image_) layOut();
+}
+
+void PictureNode::layOut() {
   const QSizeF texture = image_->texture()->textureSize();
   const double pixels = hidden_ * texture.height() / size_.height();
   image_->setSourceRect(QRectF(QPointF(), texture).adjusted(0, pixels, 0, 0));
@@ -58,25 +59,6 @@ QSGNode* PictureItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
   if (isNew) node = new PictureNode;
   if (std::exchange(fresh_, false) || isNew) node->setPicture(*window(), picture_);
   return node;
-}
-
-SheetNode::SheetNode(QQuickWindow& window)
-    : shade_(window.createRectangleNode()),
-      below_(window.createRectangleNode()),
-      panel_(new PictureNode) {
-  appendChildNode(shade_);
-  appendChildNode(below_);
-  appendChildNode(panel_);
-}
-
-void SheetNode::setShade(const QRectF& window, const QColor& color) {
-  shade_->setRect(window);
-  shade_->setColor(color);
-}
-
-void SheetNode::setBelow(const QRectF& rect, const QColor& color) {
-  below_->setRect(rect);
-  below_->setColor(color);
 }
 
 }  // namespace quorix::qt

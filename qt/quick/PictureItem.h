@@ -1,16 +1,12 @@
 #pragma once
 
-#include <QColor>
 #include <QImage>
 #include <QPointF>
 #include <QQuickItem>
-#include <QRectF>
 #include <QSGNode>
 
-class QSGImageNode;
-
 class QQuickWindow;
-class QSGRectangleNode;
+class QSGImageNode;
 
 namespace quorix::qt {
 
@@ -28,6 +24,8 @@ class PictureNode : public QSGTransformNode {
   bool hasPicture() const { return image_ != nullptr; }
 
  private:
+  void layOut();
+
   QSGImageNode* image_ = nullptr;
   QSizeF size_;
   double hidden_ = 0;
@@ -45,25 +43,6 @@ class PictureItem : public QQuickItem {
  private:
   QImage picture_;  ///< kept: the scene graph may be made anew
   bool fresh_ = false;
-};
-
-class PictureNode;
-
-/// A sheet in the scene graph: the shade, the panel's picture, and its color on to the window's
-/// bottom. Motion moves these and paints nothing. Render thread.
-class SheetNode : public QSGTransformNode {
- public:
-  explicit SheetNode(QQuickWindow& window);
-
-  PictureNode& panel() { return *panel_; }
-
-  void setShade(const QRectF& window, const QColor& color);
-  void setBelow(const QRectF& rect, const QColor& color);
-
- private:
-  QSGRectangleNode* shade_;
-  QSGRectangleNode* below_;
-  PictureNode* panel_;
 };
 
 }  // namespace quorix::qt

@@ -9,7 +9,6 @@
 #include "qt/Conversions.h"
 #include "qt/WebComponent.h"
 #include "qt/WindowScene.h"
-#include "qt/quick/PictureItem.h"
 
 namespace quorix::qt {
 namespace {

@@ -1,11 +1,32 @@
 #include "qt/quick/SheetLayers.h"
 
 #include <QCursor>
+#include <QQuickWindow>
+#include <QSGRectangleNode>
 
 #include "qt/Conversions.h"
 #include "qt/quick/SheetItem.h"
 
 namespace quorix::qt {
+
+SheetNode::SheetNode(QQuickWindow& window)
+    : shade_(window.createRectangleNode()),
+      below_(window.createRectangleNode()),
+      panel_(new PictureNode) {
+  appendChildNode(shade_);
+  appendChildNode(below_);
+  appendChildNode(panel_);
+}
+
+void SheetNode::setShade(const QRectF& window, const QColor& color) {
+  shade_->setRect(window);
+  shade_->setColor(color);
+}
+
+void SheetNode::setBelow(const QRectF& rect, const QColor& color) {
+  below_->setRect(rect);
+  below_->setColor(color);
+}
 
 SheetFront::SheetFront(SheetItem& sheet) : QQuickItem(&sheet), sheet_(sheet) {
   setAcceptedMouseButtons(Qt::AllButtons);

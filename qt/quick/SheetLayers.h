@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QPointer>
+#include <QColor>
 #include <QQuickItem>
 #include <functional>
 #include <memory>
@@ -9,9 +9,28 @@
 #include "qt/SheetSurface.h"
 #include "qt/quick/PictureItem.h"
 
+class QSGRectangleNode;
+
 namespace quorix::qt {
 
 class SheetItem;
+
+/// A sheet in the scene graph: the shade, the panel's picture, and its color on to the window's
+/// bottom. Motion moves these and paints nothing. Render thread.
+class SheetNode : public QSGTransformNode {
+ public:
+  explicit SheetNode(QQuickWindow& window);
+
+  PictureNode& panel() { return *panel_; }
+
+  void setShade(const QRectF& window, const QColor& color);
+  void setBelow(const QRectF& rect, const QColor& color);
+
+ private:
+  QSGRectangleNode* shade_;
+  QSGRectangleNode* below_;
+  PictureNode* panel_;
+};
 
 /// What lies over the pages of a sheet and takes taps: as large as the sheet, but there only where
 /// something acts, and beside the rounded corners. What comes to it goes to the sheet.
@@ -25,6 +44,7 @@ class SheetFront : public QQuickItem {
 
  protected:
   bool event(QEvent* event) override;
+  void hoverEnterEvent(QHoverEvent* event) override { hoverMoveEvent(event); }
   void hoverMoveEvent(QHoverEvent* event) override;
   void mouseUngrabEvent() override;
   void touchUngrabEvent() override;

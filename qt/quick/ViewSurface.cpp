@@ -258,7 +258,7 @@ void ViewSurface::updatePicture() {
 
 void ViewSurface::updateRing() {
   const auto frame = ringFrame();
-  if (frame ? ring_ && ring_->around == *frame : !ring_) return;
+  if (frame == (ring_ ? std::optional(ring_->around) : std::nullopt)) return;
   ring_.reset();
   if (frame) {
     ring_ = std::make_unique<Ring>(
