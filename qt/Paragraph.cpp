@@ -9,12 +9,11 @@
 namespace quorix::qt {
 namespace {
 
-constexpr double smallestSize = 1.0 / 64;  // a size of nothing would leave nothing to scale
-
 /// Qt breaks lines at U+2028 alone.
 QString lineSeparated(const std::string& utf8) {
   QString text = QString::fromStdString(utf8);
-  text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+  if (utf8.find('\r') != std::string::npos)
+    text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
   for (QChar& character : text) {
     if (character == QLatin1Char('\n') || character == QLatin1Char('\r') ||
         character == QChar::ParagraphSeparator) {
@@ -22,14 +21,6 @@ QString lineSeparated(const std::string& utf8) {
     }
   }
   return text;
-}
-
-/// Qt would end a line after the "1." of a text that begins with "1.234".
-void keepFirstNumberWhole(QString& text) {
-  constexpr QChar wordJoiner(0x2060);
-  const bool splits =
-      text.size() > 2 && text[0].isDigit() && text[1].isPunct() && text[2].isDigit();
-  if (splits) text.insert(2, wordJoiner);
 }
 
 QTextOption option(layout::LayoutDirection direction) {
@@ -41,14 +32,6 @@ QTextOption option(layout::LayoutDirection direction) {
   // Lines are placed by the painter, which knows the frame.
   option.setAlignment(Qt::AlignLeft | Qt::AlignAbsolute);
   return option;
-}
-
-/// Rounded up, so that the text breaks the same way when it is given back its own width. What is
-/// `needed` is an upper bound: text of a `natural` width that fits never asks for more than it was
-/// offered.
-double measuredWidth(double natural, double needed, double offered) {
-  const double width = std::ceil(needed * 64) / 64;
-  return natural <= offered ? std::min(width, offered) : width;
 }
 
 /// How far the ink of a line's last glyph reaches out of it, in pixels at the most. Qt wants room
@@ -85,6 +68,18 @@ void addSpan(std::vector<ShapedText::Span>& spans, const ShapedText::Span& added
 
 }  // namespace
 
+void keepFirstNumberWhole(QString& text) {
+  constexpr QChar wordJoiner(0x2060);
+  const bool splits =
+      text.size() > 2 && text[0].isDigit() && text[1].isPunct() && text[2].isDigit();
+  if (splits) text.insert(2, wordJoiner);
+}
+
+double measuredWidth(double natural, double needed, double offered) {
+  const double width = std::ceil(needed * 64) / 64;
+  return natural <= offered ? std::min(width, offered) : width;
+}
+
 void Paragraph::set(const text::AttributedText& text, QtFonts& fonts) {
   QString characters;
   runs_.clear();
@@ -106,7 +101,7 @@ void Paragraph::setText(const QString& text, const text::AttributedText& attribu
                         QtFonts& fonts) {
   const text::ResolvedFont first =
       attributed.runs.empty() ? text::ResolvedFont{} : attributed.runs.front().font;
-  unit_ = std::max(first.points, smallestSize) / ShapingFont::pixels;
+  unit_ = ShapingFont::unit(first.points);
   layout_.setText(text);
   const ShapingFont& face = fonts.find(first);
   ascent_ = face.ascent;

@@ -40,6 +40,14 @@ struct ShapedText {
   std::vector<Line> lines;  ///< empty when only the metrics were asked for
 };
 
+/// Qt would end a line after the "1." of a text that begins with "1.234".
+void keepFirstNumberWhole(QString& text);
+
+/// Rounded up, so that the text breaks the same way when it is given back its own width. What is
+/// `needed` is an upper bound: text of a `natural` width that fits never asks for more than it was
+/// offered. Points.
+double measuredWidth(double natural, double needed, double offered);
+
 /// Breaks one text after another into lines with one QTextLayout.
 class Paragraph {
  public:

@@ -3,6 +3,7 @@
 #include <QFont>
 #include <QObject>
 #include <QStringList>
+#include <algorithm>
 #include <cstddef>
 #include <optional>
 #include <set>
@@ -59,6 +60,10 @@ struct ShapingFont {
   /// Small enough for Qt to cache advances (it does up to some 120 pixels), large enough for its
   /// 1/64 of a pixel not to add up.
   static constexpr int pixels = 64;
+
+  /// The points for each of those pixels in text of `points`. A size of nothing would leave nothing
+  /// to scale.
+  static double unit(double points) { return std::max(points, 1.0 / 64) / pixels; }
 
   /// A decoration's center above (negative) or below the baseline, and its thickness. Ems.
   struct Stroke {

@@ -98,6 +98,9 @@ void QtTextEngine::takeUp(const Entry& entry) {
 }
 
 ShapedText QtTextEngine::breakLines(const Entry& entry, double width, bool glyphs) {
+  if (width == layout::infinity) {
+    if (auto figures = figures_.shape(entry.text, fonts_)) return *std::move(figures);
+  }
   takeUp(entry);
   ++breaks_;
   return paragraph_.breakLines(width, glyphs);
@@ -108,6 +111,7 @@ void QtTextEngine::clear() {
   entries_.clear();
   pictures_.clear();
   glyphs_.clear();
+  figures_.clear();
   inParagraph_ = nullptr;
 }
 

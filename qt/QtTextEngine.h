@@ -8,6 +8,7 @@
 
 #include "platform/foundation/Export.h"
 #include "platform/text/TextEngine.h"
+#include "qt/Figures.h"
 #include "qt/GlyphPictures.h"
 #include "qt/Paragraph.h"
 #include "qt/QtFonts.h"
@@ -70,6 +71,7 @@ class QtTextEngine final : public text::TextEngine {
       index_;
   TextPictures pictures_;
   GlyphPictures glyphs_;
+  Figures figures_;
   int breaks_ = 0;
 };
 

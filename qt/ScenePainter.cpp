@@ -200,27 +200,33 @@ bool ScenePainter::copyGlyphs(const QGlyphRun& glyphs, double unit, graphics::RG
   const QList<quint32> indexes = glyphs.glyphIndexes();
   const QList<QPointF> positions = glyphs.positions();
   const QPointF from = toDevice_.map(origin);
+  const QRectF all = image_->rect();
+  const QRgb ink = toQColor(color).rgba();
   copies_.clear();
+  copies_.reserve(static_cast<std::size_t>(indexes.size()));
   for (qsizetype i = 0; i < indexes.size(); ++i) {
     // In the 64ths of a pixel that Qt counts in.
     const QPointF at = (from + positions[i] * inPixels) * 64;
-    if (!QRectF(image_->rect()).contains(at / 64)) return false;
+    if (!all.contains(at / 64)) return false;
     const QPoint fixed(static_cast<int>(at.x()), static_cast<int>(at.y()));
-    const auto& picture =
-        known.find({number, indexes[i], toQColor(color).rgba(), inPixels, fixed.x() % 64});
+    const auto& picture = known.find({number, indexes[i], ink, inPixels, fixed.x() % 64});
     if (picture.image.isNull()) continue;
     const QRect to(QPoint(fixed.x() / 64, fixed.y() / 64) + picture.offset, picture.image.size());
     if (fixed.y() % 64 != 0 || !isClear(to)) return false;
     copies_.push_back({&picture.image, to});
   }
-  const bool whole = std::ranges::all_of(copies_, [this](const Copy& copy) {
-    return pixels::blend(*copy.picture, *image_, copy.to.topLeft());
+  QRect inked;
+  const bool whole = std::ranges::all_of(copies_, [&](const Copy& copy) {
+    const bool apart = !inked.intersects(copy.to);
+    inked |= copy.to;
+    if (!apart) return pixels::blend(*copy.picture, *image_, copy.to.topLeft());
+    pixels::copy(*copy.picture, *image_, copy.to.topLeft());
+    return true;
   });
-  for (const Copy& copy : copies_) {
-    copied_ |= copy.to;
-    if (!whole) pixels::fill(*image_, copy.to, 0);
-  }
-  return whole;
+  copied_ |= inked;
+  if (whole) return true;
+  for (const Copy& copy : copies_) pixels::fill(*image_, copy.to, 0);
+  return false;
 }
 
 void ScenePainter::drawDecoration(const ShapedText::Span& span, QPointF origin,

@@ -18,10 +18,8 @@
 namespace quorix::qt {
 namespace {
 
-/// A view in the scene graph: its picture, and the ring around what has the focus.
-struct ViewNode : QSGTransformNode {
-  ViewNode() { appendChildNode(picture); }
-  PictureNode* picture = new PictureNode;
+/// A view's picture in the scene graph, and over it the ring around what has the focus.
+struct ViewNode : PictureNode {
   PictureNode* ring = nullptr;  ///< once there was one
 };
 
@@ -276,13 +274,14 @@ QSGNode* ViewSurface::paint(QSGNode* old) {
   if (!node) node = new ViewNode;
   QQuickWindow& window = *item_.window();
   if (!picture_.isNull()) {
-    node->picture->setPicture(window, std::exchange(picture_, {}));
-  } else if (!node->picture->hasPicture()) {
+    node->setPicture(window, std::exchange(picture_, {}));
+  } else if (!node->hasPicture()) {
     // The scene graph was made anew while the window was hidden.
     QMetaObject::invokeMethod(
         &item_, [this] { pictureStale_ = true, item_.polish(); }, Qt::QueuedConnection);
   }
-  node->picture->setOrigin(offset_ + QPointF(part_.left(), part_.top()));
+  const QPointF corner(part_.left(), part_.top());
+  node->setOrigin(offset_ + corner);
   if (ring_ && !node->ring) node->appendChildNode(node->ring = new PictureNode);
   if (!ring_) {
     if (node->ring) node->ring->setPicture(window, {});
@@ -291,7 +290,7 @@ QSGNode* ViewSurface::paint(QSGNode* old) {
   if (!ring_->picture.isNull()) {
     node->ring->setPicture(window, std::exchange(ring_->picture, {}));
   }
-  node->ring->setOrigin(FocusRing::frameAround(ring_->around).topLeft() + offset_);
+  node->ring->setOrigin(FocusRing::frameAround(ring_->around).topLeft() - corner);
   return node;
 }
 }  // namespace quorix::qt

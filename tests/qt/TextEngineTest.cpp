@@ -97,5 +97,43 @@ TEST(TextEngine, PaintsWhatItMeasuredWithoutShapingAgain) {
   EXPECT_EQ(engine.breaks(), 2);
 }
 
+/// A face that has had some prices is known: what is set from that is what Qt makes of it.
+TEST(TextEngine, SetsPricesAsQtShapesThem) {
+  const std::string own = plainText("").runs[0].font.name;
+  // The first sets pairs of digits closer, the last has ink that leaves its line.
+  const std::string faces[] = {own, "DejaVu Sans", "DejaVu Sans Mono", "NotoSansDisplay-Italic"};
+  const char* const prices[] = {"€7.00", "$1,607,117.71", "£0.47", "12,56\u00A0€", "1.2"};
+  for (const std::string& face : faces) {
+    const auto text = [&](const std::string& price, double points) {
+      AttributedText made = plainText(price, points);
+      made.runs[0].font.name = face;
+      return made;
+    };
+    QtTextEngine learned;
+    for (int price = 0; price < 16; ++price) {
+      learned.measure(text(std::to_string(price), 14), layout::infinity);
+    }
+    const int breaks = learned.breaks();
+    for (const std::string price : prices) {
+      for (const double points : {11.0, 15.68}) {
+        SCOPED_TRACE(price + " in " + face);
+        QtTextEngine shaping;
+        const ShapedText& wanted = shaping.shape(text(price, points), layout::infinity);
+        const ShapedText& set = learned.shape(text(price, points), layout::infinity);
+        EXPECT_EQ(set.metrics, wanted.metrics);
+        EXPECT_EQ(set.lines[0].baseline, wanted.lines[0].baseline);
+        EXPECT_EQ(set.lines[0].advance, wanted.lines[0].advance);
+        const QGlyphRun &glyphs = set.lines[0].pieces[0].glyphs,
+                        qts = wanted.lines[0].pieces[0].glyphs;
+        EXPECT_EQ(glyphs.glyphIndexes(), qts.glyphIndexes());
+        EXPECT_EQ(glyphs.positions(), qts.positions());
+        EXPECT_EQ(glyphs.rawFont(), qts.rawFont());
+      }
+    }
+    // The last price, with the joiner that keeps it whole, is left to Qt.
+    EXPECT_TRUE(face != own || learned.breaks() == breaks + 2);
+  }
+}
+
 }  // namespace
 }  // namespace quorix::qt
