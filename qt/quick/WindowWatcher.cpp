@@ -69,7 +69,7 @@ void WindowWatcher::add(Client& client, QQuickItem& parent) {
   ++group.count;
   client.watcher_ = this;
   client.index_ = entries_.size();
-  entries_.push_back({&client, &parent, &group, client.boundsInParent()});
+  entries_.push_back({&client, &parent, &group, {}});
 }
 
 void WindowWatcher::remove(Client& client) {
@@ -83,10 +83,9 @@ void WindowWatcher::remove(Client& client) {
 }
 
 void WindowWatcher::moved(Client& client) {
-  if (client.watcher_) {
-    client.watcher_->entries_[client.index_].bounds = client.boundsInParent();
-    client.placeMayHaveChanged();
-  }
+  if (!client.watcher_) return;
+  client.watcher_->entries_[client.index_].isBoundsStale = true;
+  client.placeMayHaveChanged();
 }
 
 bool WindowWatcher::isWindowVisible() const {
@@ -111,8 +110,9 @@ void WindowWatcher::frame() {
   bool anyMoved = false;
   for (auto& [parent, group] : groups_) anyMoved |= update(group, *parent);
   if (anyMoved) {
-    for (const Entry& entry : entries_) {
+    for (Entry& entry : entries_) {
       if (!entry.group->moved) continue;
+      if (std::exchange(entry.isBoundsStale, false)) entry.bounds = entry.client->boundsInParent();
       const bool concerned = entry.group->visible.intersects(entry.bounds) ||
                              entry.group->visibleBefore.intersects(entry.bounds);
       if (concerned) entry.client->placeMayHaveChanged();
@@ -125,7 +125,7 @@ void WindowWatcher::lookAtSome() {
   for (std::size_t i = 0; i < std::min(kLooks, entries_.size()); ++i) {
     if (next_ >= entries_.size()) next_ = 0;
     Entry& entry = entries_[next_++];
-    entry.bounds = entry.client->boundsInParent();
+    entry.isBoundsStale = true;
     entry.client->placeMayHaveChanged();
   }
 }

@@ -74,6 +74,7 @@ class WindowWatcher : public QObject {
     QQuickItem* parent;
     Group* group;
     QRectF bounds;  ///< in the parent's coordinates
+    bool isBoundsStale = true;
   };
   static bool update(Group& group, const QQuickItem& parent);
 
