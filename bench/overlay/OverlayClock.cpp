@@ -11,6 +11,7 @@
 namespace quorix::bench {
 namespace {
 
+constexpr const char* kFlags = "QTWEBENGINE_CHROMIUM_FLAGS";
 constexpr int kPatience = 60'000;  // milliseconds
 
 bool contains(const QQuickItem& item, const std::function<bool(const QQuickItem&)>& matches) {
@@ -39,6 +40,10 @@ void waitFor(Condition condition) {
 
 OverlayClock::OverlayClock(QQuickWindow& window, std::function<bool(const QQuickItem&)> isOverlay)
     : window_(window), isOverlay_(std::move(isOverlay)) {
+  silentProxy_.listen(QHostAddress::LocalHost);
+  silentProxy_.pauseAccepting();
+  qputenv(kFlags, qgetenv(kFlags) + " --proxy-server=http://127.0.0.1:" +
+                      QByteArray::number(silentProxy_.serverPort()));
   QObject::connect(&window, &QQuickWindow::frameSwapped, &window, [this] { frameIsOut(); });
 }
 

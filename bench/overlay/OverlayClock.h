@@ -2,13 +2,16 @@
 
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <QTcpServer>
 #include <chrono>
 #include <functional>
 
 namespace quorix::bench {
 
 /// Watches a window from a tap on: after how many milliseconds its first frame with an overlay is
-/// on its way, and after how many the first one with the engine's view in it.
+/// on its way, and after how many the first one with the engine's view in it. Made before the
+/// engine starts, whose pages neither come nor fail: an overlay that learns of a failure before its
+/// first frame shows a sentence instead of the page.
 class OverlayClock {
  public:
   struct Moments {
@@ -32,6 +35,7 @@ class OverlayClock {
   void frameIsOut();
 
   QQuickWindow& window_;
+  QTcpServer silentProxy_;
   std::function<bool(const QQuickItem&)> isOverlay_;
   Clock::time_point tapped_;
   Moments moments_;
