@@ -9,7 +9,7 @@ namespace quorix::qt {
 namespace {
 
 constexpr std::size_t maximumFaces = 8;
-// Learning costs as much as shaping some sixty prices: too much for a page with a row or two.
+// Learning costs as much as shaping some fifty prices: too much for a page with a row or two.
 constexpr int pricesToLearn = 16;
 
 /// Each of `characters` before and after each of them.
