@@ -25,7 +25,8 @@ void PictureNode::setPicture(QQuickWindow& window, const QImage& image) {
   size_ = image.deviceIndependentSize();
   layOut();
   // Not before: the software renderer looks at the texture as soon as the node is in the graph.
-  if (isNew) appendChildNode(image_);
+  // Below what else the node has.
+  if (isNew) prependChildNode(image_);
 }
 
 void PictureNode::hideTop(double points) {
