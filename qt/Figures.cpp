@@ -27,7 +27,7 @@ QString pairs(const QString& characters) {
 
 bool mayBePrice(const text::AttributedText& text) {
   return text.runs.size() == 1 && text.direction == layout::LayoutDirection::leftToRight &&
-         text.runs[0].text.find_first_of("0123456789") != std::string::npos;
+         Figures::areIn(text.runs[0]);
 }
 
 /// Keeps `value`, if it is the first or the one before.
@@ -84,10 +84,8 @@ Figures::Face& Figures::face(const text::ResolvedFont& font) {
   });
   if (known != faces_.end()) return *known;
   if (faces_.size() == maximumFaces) faces_.erase(faces_.begin());
-  Face added;
-  added.name = font.name;
-  added.weight = font.weight;
-  return faces_.emplace_back(std::move(added));
+  faces_.push_back({font.name, font.weight});
+  return faces_.back();
 }
 
 /// From two texts, in which each pair has other neighbors.

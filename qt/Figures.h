@@ -25,6 +25,11 @@ class Figures {
 
   void clear() { faces_.clear(); }
 
+  /// Whether `run` has digits, and so may be another text in each row.
+  static bool areIn(const text::Run& run) {
+    return run.text.find_first_of("0123456789") != std::string::npos;
+  }
+
  private:
   static constexpr QStringView characters = u"0123456789.,\u00A0€$£";
   static constexpr auto count = static_cast<std::size_t>(characters.size());
@@ -39,10 +44,10 @@ class Figures {
     swiftui::FontWeight weight;
     int prices = 0;  ///< that it has had
     bool isLearned = false;
-    QRawFont font;
+    QRawFont font{};
     double baseline = 0;  ///< pixels of the shaping font
     double height = 0;    ///< likewise
-    std::array<Glyph, count> glyphs;
+    std::array<Glyph, count> glyphs{};
   };
 
   Face& face(const text::ResolvedFont& font);

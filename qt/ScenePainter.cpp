@@ -6,6 +6,7 @@
 #include <variant>
 
 #include "qt/Conversions.h"
+#include "qt/Figures.h"
 #include "qt/Pixels.h"
 #include "qt/QtImages.h"
 
@@ -174,8 +175,8 @@ void ScenePainter::drawLine(const ShapedText::Line& line, double unit,
   for (const ShapedText::Piece& piece : line.pieces) {
     const graphics::RGBA color = text.runs[piece.run].color;
     // Words alone are painted again, and then from their own picture.
-    const bool figure = text.runs[piece.run].text.find_first_of("0123456789") != std::string::npos;
-    if (figure && copyGlyphs(piece.glyphs, unit, color, origin)) continue;
+    const bool hasFigures = Figures::areIn(text.runs[piece.run]);
+    if (hasFigures && copyGlyphs(piece.glyphs, unit, color, origin)) continue;
     painter().setTransform(QTransform(unit, 0, 0, unit, origin.x(), origin.y()) * base_);
     painter().setPen(toQColor(color));
     painter().drawGlyphRun({}, piece.glyphs);

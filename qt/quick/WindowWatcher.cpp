@@ -84,7 +84,7 @@ void WindowWatcher::remove(Client& client) {
 
 void WindowWatcher::moved(Client& client) {
   if (!client.watcher_) return;
-  client.watcher_->entries_[client.index_].isBoundsStale = true;
+  client.watcher_->entries_[client.index_].bounds.reset();
   client.placeMayHaveChanged();
 }
 
@@ -112,9 +112,9 @@ void WindowWatcher::frame() {
   if (anyMoved) {
     for (Entry& entry : entries_) {
       if (!entry.group->moved) continue;
-      if (std::exchange(entry.isBoundsStale, false)) entry.bounds = entry.client->boundsInParent();
-      const bool concerned = entry.group->visible.intersects(entry.bounds) ||
-                             entry.group->visibleBefore.intersects(entry.bounds);
+      if (!entry.bounds) entry.bounds = entry.client->boundsInParent();
+      const bool concerned = entry.group->visible.intersects(*entry.bounds) ||
+                             entry.group->visibleBefore.intersects(*entry.bounds);
       if (concerned) entry.client->placeMayHaveChanged();
     }
   }
@@ -125,7 +125,7 @@ void WindowWatcher::lookAtSome() {
   for (std::size_t i = 0; i < std::min(kLooks, entries_.size()); ++i) {
     if (next_ >= entries_.size()) next_ = 0;
     Entry& entry = entries_[next_++];
-    entry.isBoundsStale = true;
+    entry.bounds.reset();
     entry.client->placeMayHaveChanged();
   }
 }

@@ -4,6 +4,7 @@
 #include <QRectF>
 #include <QTransform>
 #include <cstddef>
+#include <optional>
 #include <unordered_map>
 #include <vector>
 
@@ -73,8 +74,7 @@ class WindowWatcher : public QObject {
     Client* client;
     QQuickItem* parent;
     Group* group;
-    QRectF bounds;  ///< in the parent's coordinates
-    bool isBoundsStale = true;
+    std::optional<QRectF> bounds;  ///< in the parent's coordinates; to be asked for if absent
   };
   static bool update(Group& group, const QQuickItem& parent);
 
