@@ -62,7 +62,7 @@ std::vector<SheetSurface::Layer> SheetSurface::paintLayers() {
   paintedScale_ = scale();
   ringSize_.reset();
   std::vector<Layer> layers;
-  for (const hosting::SceneLayer& layer : hosting::layersOf(panel, paintedScale_)) {
+  for (const auto& layer : hosting::layersOf(panel, presenter().panelColor(), paintedScale_)) {
     layers.push_back(
         {paintPicture(layer.scene, paintedScale_, {0, 0, 0, 0}), toPoint(layer.origin)});
   }

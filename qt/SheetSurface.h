@@ -62,7 +62,7 @@ class QUORIX_EXPORT SheetSurface : public hosting::SheetSession {
   SheetSurface(QObject& self, hosting::WindowSession& window, QString webComponent);
 
   /// Paints the panel anew if it or the scale changed; empty otherwise. The first layer is the
-  /// panel itself, each further one lies above a page.
+  /// panel itself, to where only its color is left; each further one lies above a page.
   std::vector<Layer> paintLayers();
   /// The pictures were lost.
   void paintAgain();

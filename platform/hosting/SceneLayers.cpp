@@ -20,6 +20,24 @@ Rect inked(const render::Item& item) {
           {frame.size.width + 2 * reach, frame.size.height + 2 * reach}};
 }
 
+/// How far down `item` can be told from `ground`.
+double bottomOfInk(const render::Item& item, graphics::RGBA ground) {
+  if (std::holds_alternative<render::ClipItem>(item)) return 0;
+  const auto* fill = std::get_if<render::FillItem>(&item);
+  if (fill && fill->color == ground && fill->bottomCornerRadius == 0) {
+    return fill->frame.top() + fill->topCornerRadius;
+  }
+  const auto* page = std::get_if<EmbedItem>(&item);
+  if (page && page->background == ground) return page->room().top();
+  return inked(item).bottom();
+}
+
+void cutGround(render::Scene& panel, graphics::RGBA ground, double scale) {
+  double ink = 0;
+  for (const render::Item& item : panel.items) ink = std::max(ink, bottomOfInk(item, ground));
+  panel.size.height = std::min(panel.size.height, layout::PixelGrid(scale).ceil(ink));
+}
+
 /// Cuts `rect` to the area of `size`. Unlike an intersection, the result never begins outside it.
 Rect within(const Rect& rect, layout::Size size) {
   const layout::Point origin = {std::clamp(rect.left(), 0.0, size.width),
@@ -52,7 +70,7 @@ void crop(SceneLayer& layer, double scale) {
 
 }  // namespace
 
-std::vector<SceneLayer> layersOf(const render::Scene& scene, double scale) {
+std::vector<SceneLayer> layersOf(const render::Scene& scene, graphics::RGBA ground, double scale) {
   std::vector<SceneLayer> layers;
   const auto begin = [&] {
     layers.emplace_back();
@@ -67,6 +85,7 @@ std::vector<SceneLayer> layersOf(const render::Scene& scene, double scale) {
     layers.back().embed = embed;
     begin();
   }
+  cutGround(layers.front().scene, ground, scale);
   for (std::size_t i = 1; i < layers.size(); ++i) crop(layers[i], scale);
   return layers;
 }

@@ -65,7 +65,7 @@ class QUORIX_EXPORT SheetPresenter {
   /// The color over the window behind the panel.
   graphics::RGBA shade();
   /// The panel at rest, with its top left corner as origin. Motion changes only `panelFrame`. Fill
-  /// the gap between the panel and the window's bottom with `panelColor`.
+  /// what is left down to the window's bottom with `panelColor`.
   const render::Scene& panel();
   graphics::RGBA panelColor() const;
   /// Changes when `panel` may have changed.

@@ -31,7 +31,7 @@ QQmlAttachedPropertiesFunc attachAccessible() {
 
 }  // namespace
 
-const QQuickItem* QuickAccessibleSurface::itemOf(const hosting::Responder* responder) {
+QQuickItem* QuickAccessibleSurface::itemOf(const hosting::Responder* responder) {
   const auto* surface = dynamic_cast<const QuickAccessibleSurface*>(responder);
   return surface ? &surface->item_ : nullptr;
 }

@@ -11,7 +11,7 @@ class QuickAccessibleSurface : public AccessibleSurface {
  public:
   explicit QuickAccessibleSurface(QQuickItem& item) : item_(item) {}
   /// The item that shows `responder`; null for null.
-  static const QQuickItem* itemOf(const hosting::Responder* responder);
+  static QQuickItem* itemOf(const hosting::Responder* responder);
 
   /// Has Qt Quick offer the item to assistive technology. Does nothing while none listens.
   void offer();

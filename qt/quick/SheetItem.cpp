@@ -29,8 +29,7 @@ double stackingOver(const QQuickWindow& window, const QQuickItem* opener) {
 
 }  // namespace
 
-SheetItem::SheetItem(QQuickWindow& window, hosting::WindowSession& session,
-                     const QQuickItem* opener)
+SheetItem::SheetItem(QQuickWindow& window, hosting::WindowSession& session, QQuickItem* opener)
     : QQuickItem(window.contentItem()),
       SheetSurface(static_cast<QObject&>(*this), session, QStringLiteral("QuorixWebQuick")),
       QuickAccessibleSurface(static_cast<QQuickItem&>(*this)),
@@ -58,6 +57,14 @@ SheetItem::SheetItem(QQuickWindow& window, hosting::WindowSession& session,
         if (inSceneGraph_) wasShown();
       },
       Qt::QueuedConnection);
+  // Qt waits some milliseconds before it asks for a frame: what that one shows is made in these.
+  QMetaObject::invokeMethod(
+      this,
+      [this, opener = QPointer(opener)] {
+        if (opener) opener->ensurePolished();
+        ensurePolished();
+      },
+      Qt::QueuedConnection);
 }
 
 SheetItem::~SheetItem() { AccessibilityBridge::remove(*this); }
@@ -72,9 +79,6 @@ double SheetItem::scale() const { return window() ? window()->effectiveDevicePix
 void SheetItem::comeUp() {
   if (z() > kStacking) window()->installEventFilter(this);
   offer();
-  // Qt waits some milliseconds before it asks for a frame.
-  QMetaObject::invokeMethod(
-      this, [this] { ensurePolished(); }, Qt::QueuedConnection);
 }
 
 SheetItem::FocusReturn SheetItem::focusReturn() {
@@ -136,10 +140,10 @@ void SheetItem::updatePolish() {
 }
 
 void SheetItem::updatePictures() {
-  pictureHeight_ = presenter().panel().size.height;
   auto layers = paintLayers();
   if (layers.empty()) return;
   panelPicture_ = std::exchange(layers.front().picture, {});
+  pictureHeight_ = panelPicture_.deviceIndependentSize().height();
   layers_.setPictures(layers);
 }
 
@@ -154,7 +158,7 @@ QSGNode* SheetItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
     QMetaObject::invokeMethod(
         this, [this] { paintAgain(); }, Qt::QueuedConnection);
   }
-  node->setShade(boundingRect(), shade_);
+  node->setShade(shade_.alpha() > 0 ? boundingRect() : QRectF(), shade_);
   node->panel().setOrigin(panel_.topLeft());
   node->panel().hideTop(hiddenTop_);
   QRectF below = panel_;

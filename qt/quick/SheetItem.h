@@ -19,7 +19,7 @@ class SheetItem : public QQuickItem, public SheetSurface, public QuickAccessible
 
  public:
   /// `opener` may be null.
-  SheetItem(QQuickWindow& window, hosting::WindowSession& session, const QQuickItem* opener);
+  SheetItem(QQuickWindow& window, hosting::WindowSession& session, QQuickItem* opener);
   ~SheetItem() override;
 
   /// The sheet of `window` that takes the input, or null.

@@ -152,7 +152,7 @@ void SheetWidget::paintEvent(QPaintEvent*) {
   if (!isOpen()) return;
   updatePanel();
   const layout::Rect frame = presenter().panelFrame();
-  const double bottom = frame.top() + presenter().panel().size.height;
+  const double bottom = frame.top() + picture_.deviceIndependentSize().height();
   QPainter painter(this);
   painter.fillRect(rect(), toQColor(presenter().shade()));
   painter.drawImage(QPointF(frame.left(), frame.top()), picture_);

@@ -17,6 +17,8 @@ using render::Scene;
 
 struct Content final : render::Embed {};
 
+constexpr graphics::RGBA ground{255, 255, 255, 255};
+
 EmbedItem embed(Rect frame) { return {frame, std::make_shared<Content>(), {1, 2, 3, 255}}; }
 FillItem fill(Rect frame) { return {frame, {9, 9, 9, 255}}; }
 render::TextItem text(Rect frame) { return {frame, {}}; }
@@ -24,7 +26,7 @@ render::TextItem text(Rect frame) { return {frame, {}}; }
 /// Each layer as the number of its items, its corner and size, and whether an embed follows.
 std::string told(const Scene& scene, double scale) {
   std::ostringstream all;
-  for (const SceneLayer& layer : layersOf(scene, scale)) {
+  for (const SceneLayer& layer : layersOf(scene, ground, scale)) {
     all << layer.scene.items.size() << " at " << layer.origin.x << "," << layer.origin.y << " "
         << layer.scene.size.width << "x" << layer.scene.size.height << (layer.embed ? " | " : "");
   }
@@ -35,12 +37,15 @@ TEST(SceneLayers, AreCutWhereSomethingPaintsItself) {
   const Rect whole{{}, {100, 200}};
   EmbedItem empty = embed(whole);
   empty.content = nullptr;
+  const FillItem panel{whole, ground, 12};
+  EmbedItem page = embed(whole);
+  page.background = ground;
+  page.topCornerRadius = 12;
   const struct {
     std::vector<render::Item> items;
     const char* layers;
     double scale = 1;
   } rows[] = {
-      {{}, "0 at 0,0 100x200"},
       {{fill(whole), fill(whole)}, "2 at 0,0 100x200"},
       {{empty, fill(whole)}, "2 at 0,0 100x200"},
       {{fill(whole), embed(whole)}, "2 at 0,0 100x200 | 0 at 0,0 0x0"},
@@ -54,6 +59,12 @@ TEST(SceneLayers, AreCutWhereSomethingPaintsItself) {
       {{embed(whole), text({{40, 40.2}, {20, 10.3}})}, "1 at 0,0 100x200 | 1 at 29.5,30 41x31", 2},
       {{embed(whole), fill({{1, 1}, {2, 2}}), embed(whole), fill({{5, 5}, {1, 1}})},
        "1 at 0,0 100x200 | 2 at 0,0 100x200 | 1 at 5,5 1x1"},
+      // What is the panel's color to the bottom needs no picture.
+      {{panel, text({{10, 20}, {50, 10}})}, "2 at 0,0 100x40"},
+      {{panel, fill({{10, 50.2}, {50, 10}})}, "2 at 0,0 100x61"},
+      {{panel, page}, "2 at 0,0 100x12 | 0 at 0,0 0x0"},
+      {{panel, render::ClipItem{whole}, embed({{0, 50}, {100, 40}})},
+       "3 at 0,0 100x90 | 0 at 0,0 0x0"},
   };
   for (const auto& row : rows) {
     Scene scene;

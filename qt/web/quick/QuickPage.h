@@ -12,9 +12,6 @@
 #include "qt/web/PageInput.h"
 #include "qt/web/WebEngine.h"
 
-class QQmlComponent;
-class QQuickWebEngineProfile;
-
 class QQuickWebEngineProfile;
 
 namespace quorix::qt {
