@@ -9,7 +9,6 @@
 #include "platform/foundation/Export.h"
 #include "platform/text/TextEngine.h"
 #include "qt/Figures.h"
-#include "qt/GlyphPictures.h"
 #include "qt/Paragraph.h"
 #include "qt/QtFonts.h"
 #include "qt/TextPictures.h"

@@ -1,8 +1,12 @@
-#include "qt/qml/Widgets.h"
+#include "qt/qml/Types.h"
+
+#include <QQmlInfo>
+#include <QWindow>
 
 #include "QuorixWidgets/data/TokenData.h"
 #include "QuorixWidgets/info/InfoWidgetBuilder.h"
 #include "QuorixWidgets/score/ScoreWidgetBuilder.h"
+#include "qt/SafeArea.h"
 
 namespace quorix::qml {
 namespace {
@@ -49,6 +53,19 @@ void ScoreWidget::setToken(const QString& token) {
 swiftui::View ScoreWidget::widget() const {
   return ScoreWidgetBuilder::buildSwiftUIScoreWidgetView(
       clientId_.toStdString(), language(), token_.toStdString(), {regularFace(), semiBoldFace()});
+}
+
+WindowSafeArea::WindowSafeArea(QObject* window) : QObject(window) {
+  auto* attachee = qobject_cast<QWindow*>(window);
+  if (!attachee) {
+    qmlWarning(window) << "WindowSafeArea has to be attached to a window";
+    return;
+  }
+  const auto say = [this, attachee] {
+    qt::setSafeArea(*attachee, QMargins(left_, top_, right_, bottom_));
+  };
+  connect(this, &WindowSafeArea::changed, this, say);
+  say();  // an edge of 0 is no change
 }
 
 }  // namespace quorix::qml
