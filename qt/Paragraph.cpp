@@ -69,7 +69,6 @@ void addSpan(std::vector<ShapedText::Span>& spans, const ShapedText::Span& added
 }  // namespace
 
 void keepFirstNumberWhole(QString& text) {
-  constexpr QChar wordJoiner(0x2060);
   const bool splits =
       text.size() > 2 && text[0].isDigit() && text[1].isPunct() && text[2].isDigit();
   if (splits) text.insert(2, wordJoiner);
@@ -109,14 +108,18 @@ void Paragraph::setText(const QString& text, const text::AttributedText& attribu
   layout_.setFont(face.font);
   layout_.setTextOption(option(text::baseDirection(attributed)));
   QList<QTextLayout::FormatRange> formats;
+  const auto use = [&](const text::ResolvedFont& font, long pixels, const Run& part) {
+    QTextCharFormat format;
+    format.setFont(fonts.find(font, static_cast<int>(std::max(1L, pixels))).font);
+    formats.push_back({part.start, part.length, format});
+  };
   for (std::size_t i = 0; i < runs_.size(); ++i) {
     const text::ResolvedFont& font = attributed.runs[i].font;
-    if (font == first || runs_[i].length == 0) continue;
-    const long pixels = std::max(1L, std::lround(font.points / unit_));
-    QTextCharFormat format;
-    format.setFont(fonts.find(font, static_cast<int>(pixels)).font);
-    formats.push_back({runs_[i].start, runs_[i].length, format});
+    if (font != first && runs_[i].length > 0) use(font, std::lround(font.points / unit_), runs_[i]);
   }
+  const auto joiner = static_cast<int>(face.hasWordJoiner ? -1 : text.indexOf(wordJoiner));
+  // Another face's joiner: so small that it makes no line higher.
+  if (joiner >= 0 && joiner < runs_.front().length) use(first, 1, {joiner, 1});
   if (!formats.isEmpty()) layout_.setFormats(formats);
 }
 

@@ -269,7 +269,8 @@ ShapingFont QtFonts::make(const Key& key) {
   font.setHintingPreference(QFont::PreferNoHinting);
   font.setStyleStrategy(QFont::NoSubpixelAntialias);
   const QRawFont raw = QRawFont::fromFont(font);
-  return {font, raw.ascent(), raw.descent(), underline(raw), strikethrough(raw)};
+  return {font,           raw.ascent(),       raw.descent(),
+          underline(raw), strikethrough(raw), raw.supportsCharacter(wordJoiner)};
 }
 
 }  // namespace quorix::qt

@@ -76,7 +76,11 @@ struct ShapingFont {
   double descent = 0;  ///< likewise
   Stroke underline;
   Stroke strikethrough;
+  bool hasWordJoiner = true;  ///< of its own; other faces' may be higher than this face
 };
+
+/// Lets no line end where it stands, and shows nothing.
+inline constexpr QChar wordJoiner(0x2060);
 
 /// Finds Qt's fonts for the names that texts carry: a face of the font manager, a family, a
 /// PostScript name such as "OpenSans-SemiBold", and the system's font for any other. Main thread.
