@@ -9,7 +9,7 @@
 #include "qt/Conversions.h"
 #include "qt/Engine.h"
 #include "qt/Input.h"
-#include "qt/ViewAccessible.h"
+#include "qt/accessibility/ViewAccessible.h"
 #include "qt/quick/ViewSurface.h"
 
 namespace quorix::qt {

@@ -6,12 +6,12 @@
 #include <algorithm>
 #include <cmath>
 
-#include "qt/AccessibilityBridge.h"
 #include "qt/Desktop.h"
-#include "qt/FocusRing.h"
 #include "qt/Picture.h"
-#include "qt/ViewAccessible.h"
 #include "qt/WindowScene.h"
+#include "qt/accessibility/AccessibilityBridge.h"
+#include "qt/accessibility/ViewAccessible.h"
+#include "qt/painting/FocusRing.h"
 #include "qt/widgets/SheetWidget.h"
 #include "qt/widgets/ViewWidget.h"
 #include "qt/widgets/WindowStateWatcher.h"

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "qt/QtTextEngine.h"
+#include "qt/text/QtTextEngine.h"
 #include "tests/qt/Texts.h"
 
 namespace quorix::qt {

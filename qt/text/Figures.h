@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "platform/text/AttributedText.h"
-#include "qt/Paragraph.h"
-#include "qt/QtFonts.h"
+#include "qt/text/Paragraph.h"
+#include "qt/text/QtFonts.h"
 
 namespace quorix::qt {
 

@@ -1,4 +1,4 @@
-#include "qt/ScenePainter.h"
+#include "qt/painting/ScenePainter.h"
 
 #include <QPainterPath>
 #include <algorithm>
@@ -6,9 +6,9 @@
 #include <variant>
 
 #include "qt/Conversions.h"
-#include "qt/Figures.h"
-#include "qt/Pixels.h"
-#include "qt/QtImages.h"
+#include "qt/painting/Pixels.h"
+#include "qt/painting/QtImages.h"
+#include "qt/text/Figures.h"
 
 namespace quorix::qt {
 namespace {

@@ -12,7 +12,7 @@
 
 #include "platform/foundation/HTTPResponseReader.h"
 #include "platform/foundation/URLSession.h"
-#include "qt/ConnectionRace.h"
+#include "qt/network/ConnectionRace.h"
 
 namespace quorix::qt {
 

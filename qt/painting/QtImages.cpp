@@ -1,4 +1,4 @@
-#include "qt/QtImages.h"
+#include "qt/painting/QtImages.h"
 
 #include <QPainter>
 #include <QSvgRenderer>

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "platform/foundation/Export.h"
-#include "qt/ElementAccessible.h"
+#include "qt/accessibility/ElementAccessible.h"
 
 namespace quorix::qt {
 

@@ -1,4 +1,4 @@
-#include "qt/Pixels.h"
+#include "qt/painting/Pixels.h"
 
 #include <algorithm>
 #include <cstring>

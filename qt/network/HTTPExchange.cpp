@@ -1,4 +1,4 @@
-#include "qt/HTTPExchange.h"
+#include "qt/network/HTTPExchange.h"
 
 #include <QNetworkProxyFactory>
 #include <QNetworkProxyQuery>

@@ -15,7 +15,7 @@
 #include <vector>
 
 #include "platform/foundation/URLSession.h"
-#include "qt/HTTPExchange.h"
+#include "qt/network/HTTPExchange.h"
 
 namespace quorix::qt {
 

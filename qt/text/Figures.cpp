@@ -1,4 +1,4 @@
-#include "qt/Figures.h"
+#include "qt/text/Figures.h"
 
 #include <QGlyphRun>
 #include <algorithm>

@@ -1,4 +1,4 @@
-#include "qt/QtTextEngine.h"
+#include "qt/text/QtTextEngine.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,4 +1,4 @@
-#include "qt/Paragraph.h"
+#include "qt/text/Paragraph.h"
 
 #include <QTextOption>
 #include <algorithm>

@@ -9,7 +9,7 @@
 
 #include "platform/graphics/RGBA.h"
 #include "platform/render/Scene.h"
-#include "qt/QtTextEngine.h"
+#include "qt/text/QtTextEngine.h"
 
 namespace quorix::qt {
 

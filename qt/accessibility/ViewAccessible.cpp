@@ -1,9 +1,9 @@
-#include "qt/ViewAccessible.h"
+#include "qt/accessibility/ViewAccessible.h"
 
 #include <QWindow>
 #include <algorithm>
 
-#include "qt/AccessibilityBridge.h"
+#include "qt/accessibility/AccessibilityBridge.h"
 
 namespace quorix::qt {
 namespace {

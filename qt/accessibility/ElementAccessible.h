@@ -3,7 +3,7 @@
 #include <QAccessibleInterface>
 #include <QPointer>
 
-#include "qt/AccessibilityBridge.h"
+#include "qt/accessibility/AccessibilityBridge.h"
 
 namespace quorix::qt {
 

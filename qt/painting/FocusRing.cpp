@@ -1,4 +1,4 @@
-#include "qt/FocusRing.h"
+#include "qt/painting/FocusRing.h"
 
 #include <QPainter>
 #include <cmath>

@@ -8,10 +8,10 @@
 
 #include "platform/foundation/Export.h"
 #include "platform/text/TextEngine.h"
-#include "qt/Figures.h"
-#include "qt/Paragraph.h"
-#include "qt/QtFonts.h"
-#include "qt/TextPictures.h"
+#include "qt/text/Figures.h"
+#include "qt/text/Paragraph.h"
+#include "qt/text/QtFonts.h"
+#include "qt/text/TextPictures.h"
 
 namespace quorix::qt {
 

@@ -1,4 +1,4 @@
-#include "qt/NetworkWorker.h"
+#include "qt/network/NetworkWorker.h"
 
 #include <QDeadlineTimer>
 #include <QHash>

@@ -1,10 +1,10 @@
-#include "qt/AccessibilityBridge.h"
+#include "qt/accessibility/AccessibilityBridge.h"
 
 #include <QGuiApplication>
 #include <QHash>
 #include <QPointer>
 
-#include "qt/ViewAccessible.h"
+#include "qt/accessibility/ViewAccessible.h"
 
 namespace quorix::qt {
 namespace {

@@ -1,8 +1,8 @@
-#include "qt/ElementAccessible.h"
+#include "qt/accessibility/ElementAccessible.h"
 
 #include <QWindow>
 
-#include "qt/AccessibilityBridge.h"
+#include "qt/accessibility/AccessibilityBridge.h"
 
 namespace quorix::qt {
 namespace {

@@ -1,4 +1,4 @@
-#include "qt/ConnectionRace.h"
+#include "qt/network/ConnectionRace.h"
 
 #include <QHostInfo>
 #include <QSslSocket>

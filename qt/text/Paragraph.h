@@ -8,7 +8,7 @@
 
 #include "platform/text/AttributedText.h"
 #include "platform/text/TextEngine.h"
-#include "qt/QtFonts.h"
+#include "qt/text/QtFonts.h"
 
 namespace quorix::qt {
 

@@ -1,4 +1,4 @@
-#include "qt/TextPictures.h"
+#include "qt/text/TextPictures.h"
 
 #include <QGlyphRun>
 #include <QPainter>

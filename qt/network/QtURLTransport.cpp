@@ -1,4 +1,4 @@
-#include "qt/QtURLTransport.h"
+#include "qt/network/QtURLTransport.h"
 
 #include <QCoreApplication>
 #include <cstdlib>
@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "qt/NetworkWorker.h"
+#include "qt/network/NetworkWorker.h"
 
 namespace quorix::qt {
 namespace {
