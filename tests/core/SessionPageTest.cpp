@@ -1,5 +1,3 @@
-#include <deque>
-
 #include "platform/hosting/SheetPanel.h"
 #include "platform/hosting/ViewWindow.h"
 #include "platform/webkit/PageRules.h"
@@ -11,7 +9,6 @@ namespace quorix {
 namespace {
 
 using foundation::MainQueue;
-using hosting::Key;
 using Phase = hosting::PointerEvent::Phase;
 
 /// An engine that answers when the test wants.
@@ -22,27 +19,22 @@ struct FakeEngine final : hosting::PageEngine {
   void stopLoad(std::chrono::milliseconds) override { log += "stop "; }
   void ask() override { log += "ask "; }
   void askForScroll(double) override { log += "ask "; }
-  bool canGoBack() const override { return hasHistory; }
-  bool canGoForward() const override { return hasHistory; }
+  bool canGoBack() const override { return true; }
+  bool canGoForward() const override { return true; }
   void goBack() override { log += "back "; }
   void goForward() override { log += "forward "; }
 
   Client& client;
   std::string log;
-  bool hasHistory = false;
 };
 
 class PageWindow final : public testing::TestText, public hosting::ViewWindow {
  public:
   PageWindow()
       : ViewWindow(text, {{}, false}, testing::PageRow{[this] { return content; }}, {320, 640}) {
-    content->settings.allowsBackForwardNavigationGestures = true;
     content->onProcessEnded = [this] { ++ends; };
-    content->onLoadFailed = [this] { ++failures; };
     content->load({foundation::URL::parse("https://modules.quorix.example/page").value()});
-    MainQueue::install({}, [this](auto, MainQueue::Work work) { timers.push_back(work); });
   }
-  ~PageWindow() override { MainQueue::install({}); }
 
   void settle() {
     while (frame(0) || MainQueue::drain() > 0) {
@@ -54,22 +46,11 @@ class PageWindow final : public testing::TestText, public hosting::ViewWindow {
     view().activate(0);
     settle();
   }
-  void key(Key key) {
-    front().handle(hosting::KeyEvent{key});
-    settle();
-  }
-  /// All time limits run out.
-  void wait() {
-    for (const auto& work : std::exchange(timers, {})) work();
-    settle();
-  }
 
   std::shared_ptr<webkit::WebContent> content = std::make_shared<webkit::WebContent>();
-  std::deque<MainQueue::Work> timers;
   FakeEngine* engine = nullptr;
   bool hasEngine = true;
   int ends = 0;
-  int failures = 0;
 
  private:
   bool showsPages() const override { return true; }
@@ -117,42 +98,15 @@ TEST(PagePlace, ReachesTheTopOnlyBetweenTheCornersAndWhereThePageCanBeCut) {
   }
 }
 
-TEST(SessionPage, KeysLeadBackAndForwardOrCloseTheSheet) {
+TEST(SessionPage, SwipesFollowTheLayoutsDirectionAndItsSettings) {
   const struct {
-    Key key;
-    bool hasHistory;
-    const char* log;
-    bool stays;
-  } rows[] = {
-      {Key::pageBack, true, "load back ", true}, {Key::pageForward, false, "load forward ", true},
-      {Key::back, true, "load ask back ", true}, {Key::back, false, "load ", false},
-      {Key::escape, true, "load ", false},
-  };
-  for (const auto& row : rows) {
-    PageWindow window;
-    window.open();
-    ASSERT_TRUE(window.engine);
-    window.engine->hasHistory = row.hasHistory;
-    window.front().handle(hosting::KeyEvent{row.key});
-    window.engine->client.answered();
-    EXPECT_EQ(window.engine->log, row.log) << static_cast<int>(row.key);
-    window.settle();
-    EXPECT_EQ(!window.sheets().empty(), row.stays) << static_cast<int>(row.key);
-  }
-}
-
-TEST(SessionPage, SwipesLeadBackAndForward) {
-  constexpr hosting::TrackpadEvent right{true, true, 100, 0, 0};
-  const struct {
-    bool hasHistory, allowed, mirrored, used;
+    bool allowed, mirrored;
     const char* byFinger;
     const char* byTrackpad;
   } rows[] = {
-      {true, true, false, false, "load back ", "load ask back "},
-      {true, true, true, false, "load forward ", "load ask forward "},
-      {true, true, false, true, "load back ", "load ask "},
-      {false, true, false, false, "load ", "load "},
-      {true, false, false, false, "load ", "load "},
+      {true, false, "load back ", "load ask back "},
+      {true, true, "load forward ", "load ask forward "},
+      {false, false, "load ", "load "},
   };
   for (const auto& row : rows) {
     for (const bool byFinger : {true, false}) {
@@ -162,46 +116,18 @@ TEST(SessionPage, SwipesLeadBackAndForward) {
       if (row.mirrored) settings.environment.direction = layout::LayoutDirection::rightToLeft;
       window.setSettings(settings);
       window.open();
-      window.engine->hasHistory = row.hasHistory;
       auto& client = window.engine->client;
       if (byFinger) {
         client.touched({Phase::pressed, {5, 100}, 1, 320});
-        EXPECT_EQ(client.touched({Phase::moved, {90, 100}, 1, 320}), row.hasHistory && row.allowed);
+        EXPECT_EQ(client.touched({Phase::moved, {90, 100}, 1, 320}), row.allowed);
         client.touched({Phase::released, {90, 100}, 1, 320});
       } else {
-        client.scrolled(right);
-        client.scrollAnswered(row.used);
+        client.scrolled({true, true, 100, 0, 0});
+        client.scrollAnswered(false);
       }
       EXPECT_EQ(window.engine->log, byFinger ? row.byFinger : row.byTrackpad);
     }
   }
-}
-
-TEST(SessionPage, HasLimitedTime) {
-  for (const bool answers : {true, false}) {
-    PageWindow window;
-    window.open();
-    window.engine->client.closingKeyGiven();
-    if (answers) window.engine->client.answered();
-    window.wait();
-    EXPECT_EQ(!window.sheets().empty(), answers) << "a page that hangs cannot keep its sheet open";
-  }
-  for (const bool ends : {true, false}) {
-    PageWindow window;
-    window.open();
-    window.engine->client.loading(0);
-    window.engine->client.loading(30);
-    if (ends) window.engine->client.loadEnded();
-    window.wait();
-    EXPECT_EQ(window.engine->log, ends ? "load " : "load stop ");
-    EXPECT_EQ(window.failures, 0) << "what has come stays";
-  }
-  PageWindow window;
-  window.open();
-  window.engine->client.loading(0);
-  window.wait();
-  window.settle();
-  EXPECT_EQ(window.failures, 1);
 }
 
 TEST(SessionPage, ThatEndsTellsItsContentOutsideTheEnginesCall) {
