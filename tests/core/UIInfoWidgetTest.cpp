@@ -69,17 +69,6 @@ struct App {
 
 }  // namespace
 
-TEST(InfoTitle, StandsAroundTheFirstNumber) {
-  using Parts = std::vector<InfoTitlePart>;
-  const InfoTitlePart number{"20%", true};
-  EXPECT_EQ(splitInfoTitle("Return rate of 20% applies", "20%"),
-            (Parts{{"Return rate of "}, number, {" applies"}}));
-  EXPECT_EQ(splitInfoTitle("20% is your rate", "20%"), (Parts{number, {" is your rate"}}));
-  EXPECT_EQ(splitInfoTitle("Your rate is 20%", "20%"), (Parts{number, {"Your rate is "}}));
-  EXPECT_EQ(splitInfoTitle("A 20% B 20% C", "20%"), (Parts{{"A "}, number, {" B "}}));
-  EXPECT_EQ(splitInfoTitle("20%20%", "20%"), Parts{});
-}
-
 TEST(UIInfoWidget, IsAsDesigned) {
   const graphics::RGBA red{255, 0, 0, 255};
   const auto view = widget({std::nullopt, "No-Such-Face", uikit::UIColor::fixed(red), true});
@@ -202,15 +191,6 @@ TEST(UIInfoWidget, PresentsTheOverlayOverTheTopmostScreen) {
   EXPECT_TRUE(overlay->showCloseButton);
   read();  // once more: nothing remembers the first
   EXPECT_NE(overlay->presentedViewController(), nullptr);
-}
-
-TEST(UIInfoWidget, TellsOfItsOverlayAndNotOfATapOnItsTitle) {
-  TestWindow window(swiftui::hosting(widget()));
-  window.tap(layout::Point{100, 20});
-  window.act("Read more");
-  window.settle();
-  window.act(window.labels());  // its cross is all that it has
-  EXPECT_EQ(window.told, "activated opened closed:button ");
 }
 
 TEST(UIApplication, FindsTheKeyWindow) {

@@ -1,6 +1,5 @@
 #include "platform/uikit/UIView.h"
 
-#include "platform/hosting/WindowSession.h"
 #include "platform/render/ScenePrinter.h"
 #include "platform/swiftui/Elements.h"
 #include "platform/swiftui/TreePrinter.h"
@@ -219,17 +218,6 @@ TEST(UIViewController, PresentsAChainAndTellsItsWindow) {
     root->present(first, true);
   }
   EXPECT_EQ(first->window(), nullptr) << "the window is gone, the screens are not";
-}
-
-TEST(UIViewController, ASheetThatClosesDismissesIt) {
-  const auto root = screen(), page = screen();
-  root->present(page, true);
-  const auto sheet = hosting::controllerPresentation(page);
-  EXPECT_TRUE(sheet.isPresented.get());
-  sheet.isPresented.set(false);
-  EXPECT_EQ(root->presentedViewController(), nullptr);
-  sheet.isPresented.set(true);  // presenting it again takes a controller
-  EXPECT_EQ(root->presentedViewController(), nullptr);
 }
 
 }  // namespace
