@@ -51,6 +51,7 @@ TEST(WebView, ClosesByACrossInTheUsersLanguageAndNotThePages) {
   environment.language = "de";
   TestWindow window(overlay(shown, "Ann", "en"), environment);
   EXPECT_EQ(window.element("Schließen").role, render::Role::button);
+  EXPECT_EQ(window.element("Schließen").frame, (layout::Rect{{272, 0}, {48, 56}}));
   for (const bool open : {false, true}) {
     window.act("Schließen");
     EXPECT_EQ(shown.get(), open) << "a toggle";

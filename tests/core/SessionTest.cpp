@@ -40,7 +40,7 @@ TEST(Session, ASheetClosesByEachOfItsWays) {
          window.front().handle({Phase::released, beside, 9, 3});
        }},
       {"another key", [&] { EXPECT_FALSE(window.key(Key::pageBack)); }},
-      {"a screen reader on a text", [&] { EXPECT_FALSE(window.front().activate(0)); }},
+      {"a screen reader on a text", [&] { window.front().activate(0); }},
   };
   for (const auto& way : rows) {
     window.told.clear();

@@ -79,14 +79,9 @@ TEST(TextBound, NoTextReachesShapingOrAReaderWhole) {
   // A megabyte in each of the ways in which texts reach a widget.
   const std::string endless = repeated("fee ", 250'000);
   const auto strings = LocalizationRepository::make("en");
-  strings->strings = TranslationTable::make({{"returns", "title", endless},
-                                             {"returns", "fee", endless},
-                                             {"returns", "rate", endless},
-                                             {"returns", "disclaimer", endless},
-                                             {"labels", "hint", endless},
-                                             {"labels", "original", endless},
-                                             {"labels", "discounted", endless},
-                                             {"actions", "close", endless}});
+  auto entries = strings->strings.get()->entries();
+  for (auto& entry : entries) entry.text = endless;
+  strings->strings = TranslationTable::make(entries);
   const Text plain = Text::verbatim(endless);
   const auto label = std::make_shared<uikit::UILabel>();
   label->setAttributedText(uikit::NSAttributedString(endless));

@@ -1,8 +1,8 @@
 #include "platform/uikit/UIView.h"
 
 #include "platform/render/ScenePrinter.h"
+#include "platform/render/Wording.h"
 #include "platform/swiftui/Elements.h"
-#include "platform/swiftui/TreePrinter.h"
 #include "platform/swiftui/UIViewRepresentable.h"
 #include "platform/uikit/UILabel.h"
 #include "platform/uikit/ViewPrinter.h"
@@ -81,16 +81,10 @@ TEST(UIView, SaysWhatItIsToAssistiveTechnology) {
   EXPECT_EQ(shown(), "link 0 0 50 20 \"Read more\"\n");
 }
 
-TEST(UIView, IsPrintedLikeTreesAndFrames) {
-  const std::string spoken = "More\n\"now\"", printed = R"("More\n\"now\"")";
-  const auto label = std::make_shared<UILabel>(layout::Rect{{0.12345, 0}, {50, 20}});
-  label->setText(spoken);
-  EXPECT_EQ(printViews(*label), "UILabel 0.123 0 50 20 " + printed + '\n');
-  const swiftui::View text = swiftui::View(swiftui::Text::verbatim(spoken)).padding(0.12345);
-  EXPECT_EQ(swiftui::printTree(text), "Text(" + printed + ")\n    .padding(0.12345)\n");
-  FixedWidthText engine;
-  EXPECT_EQ(render::printAccessibility(UIViewContent(label).scene({50, 20}, {}, engine)),
-            "text 0 0 50 20 " + printed + '\n');
+TEST(Wording, EscapesTextsAndRoundsLengths) {
+  EXPECT_EQ(render::inQuotes("More\n\"now\"\\\x1B"), R"("More\n\"now\"\\\u001b")");
+  EXPECT_EQ(render::points(0.12345), "0.123");
+  EXPECT_EQ(render::points(-0.0001), "0");
 }
 
 TEST(UIView, LeavesItsPlaceWithItsConstraints) {
