@@ -13,8 +13,6 @@ namespace quorix::foundation {
 namespace {
 
 namespace fs = std::filesystem;
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 const std::map<std::string, std::string>& files() {
   static const std::map<std::string, std::string> table = {
@@ -64,7 +62,7 @@ TEST_P(BundleTest, FindsAndReadsFilesAndFolders) {
   EXPECT_EQ(english->data("Main.strings").value(), Data("english"));
   EXPECT_EQ(english->data("top.txt"), std::nullopt);
 
-  EXPECT_THAT(bundle_->folders("a"), ElementsAre("b", "c"));
+  EXPECT_THAT(bundle_->folders("a"), ::testing::ElementsAre("b", "c"));
 }
 
 TEST_P(BundleTest, NothingOutsideIsReached) {
@@ -80,7 +78,7 @@ TEST_P(BundleTest, NothingOutsideIsReached) {
     EXPECT_EQ(bundle_->pathForResource(path, ""), std::nullopt) << path;
     EXPECT_EQ(bundle_->folder(path), nullptr) << path;
   }
-  EXPECT_THAT(bundle_->folders("../inside2"), IsEmpty());
+  EXPECT_THAT(bundle_->folders("../inside2"), ::testing::IsEmpty());
 }
 
 TEST(BundleOfFiles, AFolderOutlivesIt) {

@@ -14,11 +14,8 @@ using swiftui::State;
 using testing::TestWindow;
 
 /// The page in `scene` as the surface would show it.
-const render::EmbedItem& shownPage(const render::Scene& scene) {
-  for (const render::Item& item : scene.items) {
-    if (const auto* embed = std::get_if<render::EmbedItem>(&item)) return *embed;
-  }
-  throw std::out_of_range("no page");
+render::EmbedItem shownPage(const render::Scene& scene) {
+  return testing::itemsOf<render::EmbedItem>(scene).at(0);
 }
 
 const webkit::WebContent& shownContent(const render::Scene& scene) {
@@ -38,9 +35,8 @@ TEST(WebView, FillsItsSheetToTheRoundCornersAndTheBottom) {
   EXPECT_EQ(shownPage(sheet.scene()).frame, (layout::Rect{{5, 50}, {305, 590}}));
   EXPECT_EQ(shownPage(sheet.scene()).topCornerRadius, 12);
   int fills = 0;
-  for (const render::Item& item : sheet.scene().items) {
-    const auto* fill = std::get_if<render::FillItem>(&item);
-    fills += fill && fill->frame == panel && fill->topCornerRadius == 12;
+  for (const auto& fill : testing::itemsOf<render::FillItem>(sheet.scene())) {
+    fills += fill.frame == panel && fill.topCornerRadius == 12;
   }
   EXPECT_EQ(fills, 2) << "the panel's and the overlay's, which ignores what the device covers";
 }

@@ -13,9 +13,7 @@
 namespace quorix {
 namespace {
 
-using testing::HeldTransport;
 using testing::scoreModel;
-using testing::scoreView;
 using testing::TestWindow;
 
 // View model.
@@ -149,7 +147,7 @@ TEST(ScoreWidgetBuilder, GivesTheEmptyBranchForWhatItCannotUse) {
 }
 
 TEST(ScoreWidgetBuilder, EachCallMakesAWidgetOfItsOwnForAnyLocale) {
-  const auto network = HeldTransport::install();
+  const auto network = testing::HeldTransport::install();
   TestWindow one(build("shop", "en", token));
   TestWindow other(build("shop", "", token));
   one.settle();

@@ -8,7 +8,6 @@
 namespace quorix {
 namespace {
 
-using foundation::MainQueue;
 using Phase = hosting::PointerEvent::Phase;
 
 /// An engine that answers when the test wants.
@@ -37,7 +36,7 @@ class PageWindow final : public testing::TestText, public hosting::ViewWindow {
   }
 
   void settle() {
-    while (frame(0) || MainQueue::drain() > 0) {
+    while (frame(0) || foundation::MainQueue::drain() > 0) {
     }
     frame(0);  // pages open in the frame after the first
   }

@@ -6,11 +6,8 @@ namespace quorix {
 namespace {
 
 using hosting::Key;
-using hosting::PointerEvent;
-using swiftui::Text;
-using swiftui::View;
 using testing::TestWindow;
-using Phase = PointerEvent::Phase;
+using Phase = hosting::PointerEvent::Phase;
 
 TEST(Session, ASheetClosesByEachOfItsWays) {
   TestWindow window(testing::FeeRow("4 €"));

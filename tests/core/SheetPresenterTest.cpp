@@ -5,7 +5,6 @@ namespace quorix {
 namespace {
 
 using foundation::MainQueue;
-using swiftui::Text;
 using swiftui::View;
 using testing::TestWindow;
 
@@ -175,8 +174,8 @@ TEST_F(ScoreSheet, OnItsWayOutItTakesNoTapButMayBeCalledBack) {
 }
 
 TEST(SheetPresenter, TakesHalfOfWhatTheSafeAreaLeavesAtTheTop) {
-  const View content =
-      View(Text::verbatim("x")).presentationDetents({swiftui::PresentationDetent::medium()});
+  const View content = View(swiftui::Text::verbatim("x"))
+                           .presentationDetents({swiftui::PresentationDetent::medium()});
   testing::TestSheet alone({swiftui::State<bool>{true}.binding(), content}, {320, 140},
                            {40, 0, 30, 0});
   EXPECT_EQ(alone.sheet.panelFrame().top(), 60);

@@ -6,7 +6,6 @@ namespace {
 
 using swiftui::Text;
 using swiftui::View;
-using swiftui::VStack;
 
 struct Shown {
   swiftui::State<bool> shown{true};
@@ -29,8 +28,9 @@ struct LongSheet : Shown, testing::TestSheet {
           .onTapGesture([this, name] { acted += name; })
           .frame(320, 100);
     };
-    return View(VStack(layout::HorizontalAlignment::center, 0,
-                       {button("Top"), View(Text::verbatim("")).frame(320, 500), button("End")}))
+    return View(swiftui::VStack(
+                    layout::HorizontalAlignment::center, 0,
+                    {button("Top"), View(Text::verbatim("")).frame(320, 500), button("End")}))
         .presentationDetents({swiftui::PresentationDetent::height(300)});
   }
   /// How far the words of the button at the end have come up.

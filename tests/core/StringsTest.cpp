@@ -12,15 +12,15 @@ namespace {
 using foundation::Bundle;
 using foundation::Error;
 using foundation::readStringsFile;
-using foundation::StringsFileErrorCode;
 using foundation::StringTable;
 using testing::OtherResources;
 
 std::string outcome(const foundation::Result<StringTable>& result) {
   const auto* error = std::get_if<Error>(&result);
   if (error == nullptr) return "table";
-  return error->code == static_cast<std::int64_t>(StringsFileErrorCode::notATable) ? "other"
-                                                                                   : "error";
+  return error->code == static_cast<std::int64_t>(foundation::StringsFileErrorCode::notATable)
+             ? "other"
+             : "error";
 }
 
 void expectReading(simdjson::dom::element row) {

@@ -16,6 +16,7 @@
 
 using namespace quorix;
 using foundation::MainQueue;
+using quorix::testing::itemsOf;
 using quorix::testing::OtherResources;
 using quorix::testing::TestWindow;
 using State = uikit::UIScene::ActivationState;
@@ -25,14 +26,6 @@ namespace {
 std::shared_ptr<UIInfoWidget> widget(const UIKitStyleConfiguration& style = {},
                                      std::optional<std::string> name = std::nullopt) {
   return UIInfoWidget::make(std::make_shared<UIInfoWidgetViewModel>(std::move(name), "en", style));
-}
-
-std::vector<render::TextItem> texts(const render::Scene& scene) {
-  std::vector<render::TextItem> found;
-  for (const auto& item : scene.items) {
-    if (const auto* text = std::get_if<render::TextItem>(&item)) found.push_back(*text);
-  }
-  return found;
 }
 
 struct WindowKind {
@@ -95,7 +88,8 @@ TEST(InfoWidgetBuilder, BothFormsSetTheirTextsAlike) {
     TestWindow imperative(
         swiftui::hosting(InfoWidgetBuilder::buildUIKitInfoWidgetView(locale, style)), environment);
     imperative.settle();
-    const auto expected = texts(declarative.shown()), shown = texts(imperative.shown());
+    const auto expected = itemsOf<render::TextItem>(declarative.shown()),
+               shown = itemsOf<render::TextItem>(imperative.shown());
     ASSERT_EQ(expected.size(), 2u);
     ASSERT_EQ(shown.size(), 2u);
     for (std::size_t i = 0; i < 2; ++i) {
@@ -156,7 +150,7 @@ TEST(UIInfoWidget, SharesTextsThatAHostChangesInOneWidgetAlone) {
   for (const std::size_t index : {0, 1}) label(one, index)->setFont(uikit::UIFont::system(40));
   quorix::testing::FixedWidthText engine;
   const auto drawn = [&](const auto& shown) {
-    return texts(uikit::UIViewContent(shown).scene({343, 96}, {}, engine));
+    return itemsOf<render::TextItem>(uikit::UIViewContent(shown).scene({343, 96}, {}, engine));
   };
   for (const std::size_t index : {0, 1}) {
     EXPECT_EQ(drawn(one)[index].text.runs.front().font.points, 40);

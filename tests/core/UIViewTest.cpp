@@ -62,25 +62,6 @@ TEST(UIView, TapsFindTheTopmostTouchedView) {
   }
 }
 
-TEST(UIView, SaysWhatItIsToAssistiveTechnology) {
-  const auto label = std::make_shared<UILabel>();
-  label->setText("More");
-  const auto shown = [&] {
-    FixedWidthText text;
-    return render::printAccessibility(UIViewContent(label).scene({50, 20}, {}, text));
-  };
-  EXPECT_EQ(shown(), "text 0 0 50 20 \"More\"\n");
-  label->setUserInteractionEnabled(true);
-  label->addGestureRecognizer(
-      std::make_shared<UITapGestureRecognizer>(label, [](UILabel&, UITapGestureRecognizer&) {}));
-  EXPECT_EQ(shown(), "button 0 0 50 20 \"More\" acts\n");
-  label->setAccessibilityTraits(UIAccessibilityTraits::link);
-  label->setAccessibilityLabel("Read more");
-  EXPECT_EQ(shown(), "link 0 0 50 20 \"Read more\" acts\n");
-  label->setUserInteractionEnabled(false);
-  EXPECT_EQ(shown(), "link 0 0 50 20 \"Read more\"\n");
-}
-
 TEST(Wording, EscapesTextsAndRoundsLengths) {
   EXPECT_EQ(render::inQuotes("More\n\"now\"\\\x1B"), R"("More\n\"now\"\\\u001b")");
   EXPECT_EQ(render::points(0.12345), "0.123");

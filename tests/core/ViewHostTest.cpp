@@ -11,7 +11,6 @@ using swiftui::Text;
 using swiftui::View;
 using testing::memoryBundle;
 using testing::scoreModel;
-using testing::scoreView;
 using testing::TestWindow;
 
 /// A letter of `size` points that adds itself to `log` when tapped.
@@ -152,7 +151,7 @@ TEST(ScoreWidgetAccessibility, TheHostsStringTableIsAskedFirst) {
   const std::string entry =
       "\"%@ %@ %@, %@ %@\" = \"%5$@ %-10y%4$10.2@; %3$@ %2$@ (%1$@) 100%%%6$@\";";
   foundation::Bundle::setMain(memoryBundle({{"en.lproj/Localizable.strings", entry}}));
-  TestWindow discounted(scoreView(true)), plain(scoreView(false));
+  TestWindow discounted(testing::scoreView(true)), plain(testing::scoreView(false));
   EXPECT_EQ(discounted.labels(), "€4.00 Original; €2.00 Discounted (Your return fee) 100%(null)");
   EXPECT_EQ(plain.labels(), "Your return fee €4.00");
   foundation::Bundle::setMain(nullptr);
