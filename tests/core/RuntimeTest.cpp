@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/foundation/Cache.h"
 #include "platform/foundation/MainQueue.h"
 #include "platform/foundation/URLSession.h"
 #include "platform/graphics/AssetCatalog.h"
@@ -47,6 +48,31 @@ TEST(Runtime, ATestCanReplaceEachPieceForAWhile) {
   EXPECT_EQ(UIApplication::shared().connectedScenes().size(), 1u);
   EXPECT_TRUE(URLSession::shared().answerInProcess(url));
   EXPECT_FALSE(graphics::FontManager::shared().knows("Saans-Regular"));
+}
+
+TEST(Cache, KeepsTheKeysThatWereUsedLast) {
+  foundation::Cache<int, int> doubles(2);
+  std::vector<int> made;
+  const auto get = [&](int key) {
+    return doubles.get(key, [&] {
+      made.push_back(key);
+      return 2 * key;
+    });
+  };
+  for (const int key : {1, 2, 1, 3, 1, 3, 2, 3}) EXPECT_EQ(get(key), 2 * key);
+  EXPECT_EQ(made, (std::vector<int>{1, 2, 3, 2}));
+}
+
+TEST(Cache, ParsesAChangedFileAgain) {
+  static int parsed = 0;
+  foundation::ParsedFileCache<std::string> cache([](std::string_view bytes) {
+    ++parsed;
+    return std::make_shared<const std::string>(bytes);
+  });
+  for (const char* bytes : {"a", "a", "b"}) EXPECT_EQ(*cache.read(foundation::Data(bytes)), bytes);
+  EXPECT_EQ(parsed, 2);
+  const foundation::Data large(std::string(65'537, 'x'));
+  EXPECT_EQ(cache.read(large).use_count(), 1) << "a large file is not kept";
 }
 
 }  // namespace

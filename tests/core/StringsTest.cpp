@@ -78,25 +78,6 @@ TEST(LocalizedString, IsEmptyWithoutABundle) {
   }
 }
 
-TEST(LocalizableTables, AreCompleteInEveryLanguage) {
-  std::vector<std::string> languages;
-  for (const std::string& folder : Bundle::embedded()->folders("")) {
-    if (!folder.ends_with(".lproj")) continue;
-    languages.push_back(folder.substr(0, folder.find('.')));
-    const auto file = Bundle::embedded()->data(folder + "/Localizable.strings");
-    ASSERT_TRUE(file) << folder;
-    const auto reading = readStringsFile(*file);
-    const auto* table = std::get_if<StringTable>(&reading);
-    ASSERT_TRUE(table) << folder << ": " << std::get<Error>(reading).description;
-    for (const auto& problem : problems(*table)) {
-      ADD_FAILURE() << folder << ": " << problem.key << ' ' << problem.what;
-    }
-  }
-  EXPECT_THAT(languages,
-              ::testing::IsSupersetOf({"ar", "bg", "cs", "da", "de", "el", "en", "es", "fi", "fr",
-                                       "it", "ja", "nb", "nl", "nn", "pl", "pt", "sv"}));
-}
-
 /// The texts beside the link are joined without an additional blank.
 TEST(LocalizableTables, ThePersonalLineIsSpacedByItsTexts) {
   const auto line = [](const char* locale) {

@@ -112,10 +112,6 @@ TEST(URLOpener, OpensOnlyWhatLeavesTheMachineAndRunsNoScript) {
   }
   EXPECT_FALSE(opened.empty());
   EXPECT_EQ(asked.list(), opened);
-}
-
-TEST(URLOpener, OpensNothingWithoutAnOpener) {
-  const OpenedAddresses asked;  // which puts things right afterwards
   URLOpener::install(nullptr);
   EXPECT_FALSE(URLOpener::openOutside(*URL::parse("https://shop.example")));
 }
