@@ -14,25 +14,22 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const std::map<std::string, std::string>& files() {
-  static const std::map<std::string, std::string> table = {
-      {"en.lproj/Main.strings", "english"}, {"en.lproj-old/x", "x"}, {"a/b/deep.txt", "deep"},
-      {"a/c/Contents.json", "{}"},          {"top.txt", ""},
-  };
-  return table;
-}
+const std::map<std::string, std::string> kFiles = {
+    {"en.lproj/Main.strings", "english"}, {"en.lproj-old/x", "x"}, {"a/b/deep.txt", "deep"},
+    {"a/c/Contents.json", "{}"},          {"top.txt", ""},
+};
 
 /// The same files as a bundle in memory and as a folder beside which a secret lies.
 class BundleTest : public ::testing::TestWithParam<bool> {
  protected:
   void SetUp() override {
     if (!GetParam()) {
-      bundle_ = testing::memoryBundle(files());
+      bundle_ = testing::memoryBundle(kFiles);
       return;
     }
     base_ = fs::path(::testing::TempDir()) / ("bundle-" + std::to_string(::getpid()));
     const fs::path root = base_ / "inside";
-    for (const auto& [path, text] : files()) {
+    for (const auto& [path, text] : kFiles) {
       fs::create_directories((root / path).parent_path());
       std::ofstream(root / path) << text;
     }

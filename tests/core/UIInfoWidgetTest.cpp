@@ -245,6 +245,4 @@ TEST(UIInfoWidgetDeath, StopsOnWhatItCannotBe) {
     const OtherResources broken(files);
     EXPECT_DEATH(UIInfoWidget::make(model), message);
   }
-  const auto untitled = OtherResources::english("\"info-widget-title\" = \"\";");
-  EXPECT_DEATH(UIInfoWidgetViewModel(std::nullopt, "en", {}), "Index out of range");
 }
