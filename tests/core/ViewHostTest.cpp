@@ -147,16 +147,6 @@ TEST(ViewHosts, AreEvaluatedOnceOnAScreenAndSparinglyInLongLists) {
   }
 }
 
-TEST(ScoreWidgetAccessibility, TheHostsStringTableIsAskedFirst) {
-  const std::string entry =
-      "\"%@ %@ %@, %@ %@\" = \"%5$@ %-10y%4$10.2@; %3$@ %2$@ (%1$@) 100%%%6$@\";";
-  foundation::Bundle::setMain(memoryBundle({{"en.lproj/Localizable.strings", entry}}));
-  TestWindow discounted(testing::scoreView(true)), plain(testing::scoreView(false));
-  EXPECT_EQ(discounted.labels(), "€4.00 Original; €2.00 Discounted (Your return fee) 100%(null)");
-  EXPECT_EQ(plain.labels(), "Your return fee €4.00");
-  foundation::Bundle::setMain(nullptr);
-}
-
 TEST(HostsStringTable, IsTheOneOfTheUsersLanguage) {
   const auto heard = [](const std::string& language) {
     swiftui::Environment settings;
