@@ -28,6 +28,8 @@ TEST(Session, ASheetClosesByEachOfItsWays) {
   } rows[] = {
       {"a screen reader on it", [&] { window.front().activate(1); }, "button"},
       {"the Back key", [&] { window.key(Key::back), window.tap(beside); }, "key"},
+      {"Enter on the first element", [&] { window.key(Key::next), window.key(Key::activate); },
+       "button"},
       {"a swipe", [&] { drag(20); }, "swipe"},
       {"the host, after a tap that closes nothing",
        [&] { window.act("Terms"), window.view().replaceView(testing::FeeRow("4 €")); }, "host"},
