@@ -1,5 +1,4 @@
 #include <bit>
-#include <charconv>
 #include <cstdint>
 #include <string>
 
@@ -8,6 +7,7 @@
 #include "fuzz/Expect.h"
 #include "platform/foundation/Base64.h"
 #include "platform/hosting/ViewHost.h"
+#include "platform/render/Wording.h"
 #include "tests/core/EncodeBase64.h"
 #include "tests/core/FixedWidthText.h"
 
@@ -15,29 +15,12 @@ using namespace quorix;
 
 namespace {
 
-std::string quoted(std::string_view text) {
-  std::string json = "\"";
-  for (const char c : text) {
-    if (c == '"' || c == '\\') {
-      json += '\\';
-      json += c;
-    } else if (static_cast<unsigned char>(c) < 0x20) {
-      json += c < 0x10 ? "\\u000" : "\\u001";
-      json += "0123456789abcdef"[c & 15];
-    } else {
-      json += c;
-    }
-  }
-  return json + '"';
-}
-
 std::string minted(const TokenData& data) {
-  char score[32] = {};
-  std::to_chars(score, score + sizeof score, data.score);
   return "h." +
          testing::encodeBase64(
-             "{\"data\":{\"score\":" + std::string(score) + ",\"fee_currency\":" +
-             quoted(data.currency) + ",\"base_fee_amount\":" + std::to_string(data.returnsFee) +
+             "{\"data\":{\"score\":" + render::number(data.score) +
+             ",\"fee_currency\":" + render::inQuotes(data.currency) +
+             ",\"base_fee_amount\":" + std::to_string(data.returnsFee) +
              ",\"discounted_fee_amount\":" + std::to_string(data.discountedReturnsFee) + "}}") +
          ".s";
 }

@@ -13,28 +13,23 @@ namespace quorix::foundation {
 namespace {
 
 namespace fs = std::filesystem;
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
-const std::map<std::string, std::string>& files() {
-  static const std::map<std::string, std::string> table = {
-      {"en.lproj/Main.strings", "english"}, {"en.lproj-old/x", "x"}, {"a/b/deep.txt", "deep"},
-      {"a/c/Contents.json", "{}"},          {"top.txt", ""},
-  };
-  return table;
-}
+const std::map<std::string, std::string> kFiles = {
+    {"en.lproj/Main.strings", "english"}, {"en.lproj-old/x", "x"}, {"a/b/deep.txt", "deep"},
+    {"a/c/Contents.json", "{}"},          {"top.txt", ""},
+};
 
 /// The same files as a bundle in memory and as a folder beside which a secret lies.
 class BundleTest : public ::testing::TestWithParam<bool> {
  protected:
   void SetUp() override {
     if (!GetParam()) {
-      bundle_ = testing::memoryBundle(files());
+      bundle_ = testing::memoryBundle(kFiles);
       return;
     }
     base_ = fs::path(::testing::TempDir()) / ("bundle-" + std::to_string(::getpid()));
     const fs::path root = base_ / "inside";
-    for (const auto& [path, text] : files()) {
+    for (const auto& [path, text] : kFiles) {
       fs::create_directories((root / path).parent_path());
       std::ofstream(root / path) << text;
     }
@@ -64,7 +59,7 @@ TEST_P(BundleTest, FindsAndReadsFilesAndFolders) {
   EXPECT_EQ(english->data("Main.strings").value(), Data("english"));
   EXPECT_EQ(english->data("top.txt"), std::nullopt);
 
-  EXPECT_THAT(bundle_->folders("a"), ElementsAre("b", "c"));
+  EXPECT_THAT(bundle_->folders("a"), ::testing::ElementsAre("b", "c"));
 }
 
 TEST_P(BundleTest, NothingOutsideIsReached) {
@@ -80,7 +75,7 @@ TEST_P(BundleTest, NothingOutsideIsReached) {
     EXPECT_EQ(bundle_->pathForResource(path, ""), std::nullopt) << path;
     EXPECT_EQ(bundle_->folder(path), nullptr) << path;
   }
-  EXPECT_THAT(bundle_->folders("../inside2"), IsEmpty());
+  EXPECT_THAT(bundle_->folders("../inside2"), ::testing::IsEmpty());
 }
 
 TEST(BundleOfFiles, AFolderOutlivesIt) {

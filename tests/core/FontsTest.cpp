@@ -25,14 +25,11 @@ std::vector<std::string> registered() {
 using FontsDeathTest = testing::FreshProcessDeathTest;
 using Names = std::vector<std::string>;
 
-TEST_F(FontsDeathTest, AHandleRegistersItsFaceAloneAndOnce) {
+TEST_F(FontsDeathTest, AHandleRegistersItsFaceAloneAndOnceAndTheBrandsItsFamily) {
   EXPECT_IN_FRESH_PROCESS(
       QuorixFont::medium().name() == "Saans-Medium" && registered() == Names{"Saans-Medium"} &&
       QuorixFont::medium().name() == "Saans-Medium" && registered() == Names{"Saans-Medium"} &&
       QuorixFont::regular().name() == "Saans-Regular" && registered().size() == 2);
-}
-
-TEST_F(FontsDeathTest, TheBrandFamilyComesAsAWhole) {
   EXPECT_IN_FRESH_PROCESS(
       TovaFont::regular().name() == "TovaSansLatin-Regular" &&
       (registered() == Names{"TovaSansLatin-Regular", "TovaSansLatin-SemiBold"}));

@@ -90,7 +90,6 @@ TEST(VelocityTracker, MeasuresTheLastTenthOfASecond) {
     std::vector<std::pair<double, double>> samples;  // points, seconds
     double velocity;
   } rows[] = {
-      {"nothing", {}, 0},
       {"a tap", {{10, 1}}, 0},
       {"press and release at one instant", {{10, 1}, {60, 1}}, 0},
       {"steady", {{0, 0}, {10, 0.02}, {20, 0.04}, {30, 0.06}}, 500},

@@ -75,9 +75,7 @@ TEST(InfoWidgetView, WithoutItsLogoOrItsTextsItStillStands) {
   infoModel()->getInfoTitle();  // the faces are there before their files go
   const auto nothing = OtherResources::english("");
   TestWindow window(InfoWidgetView{infoModel()}, {}, {420, 100});
-  for (const auto& item : window.shown().items) {
-    EXPECT_FALSE(std::holds_alternative<render::ImageItem>(item));
-  }
+  EXPECT_TRUE(testing::itemsOf<render::ImageItem>(window.shown()).empty());
   EXPECT_NO_THROW(window.element("info-widget-title-numberinfo-widget-title"));
   EXPECT_NO_THROW(window.element("widget-read-more"));
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <sstream>
 #include <string>
 
 namespace quorix::testing {
@@ -23,17 +24,29 @@ inline std::string labelElement(const std::string& id, const std::string& text,
          "<fontDescription key='fontDescription' type='system' pointSize='10'/></label>";
 }
 
-/// "a.top = b.bottom + 8", where "box" may go unnamed and the right side may be a number.
-inline std::string constraintElement(const std::string& first, const std::string& firstAttribute,
-                                     const std::string& relation, const std::string& second,
-                                     const std::string& secondAttribute, int constant) {
-  const auto attribute = [](const std::string& name, const std::string& value) {
-    return value.empty() ? "" : " " + name + "='" + value + "'";
-  };
-  return "<constraint" + attribute("firstItem", first) +
-         attribute("firstAttribute", firstAttribute) + attribute("relation", relation) +
-         attribute("secondItem", second) + attribute("secondAttribute", secondAttribute) +
-         attribute("constant", std::to_string(constant)) + "/>";
+/// Constraints such as "a.top b.bottom 8, .trailing >= b.trailing 24, .width 48"; a side without a
+/// view is the one that holds them.
+inline std::string constraintElements(const std::string& rules) {
+  std::string elements, rule;
+  for (std::istringstream all(rules); std::getline(all, rule, ',');) {
+    elements += "<constraint";
+    std::string side = "first";
+    std::istringstream words(rule);
+    for (std::string word; words >> word;) {
+      const auto dot = word.find('.');
+      if (word == ">=") {
+        elements += " relation='greaterThanOrEqual'";
+      } else if (dot == std::string::npos) {
+        elements += " constant='" + word + "'";
+      } else {
+        if (dot > 0) elements += " " + side + "Item='" + word.substr(0, dot) + "'";
+        elements += " " + side + "Attribute='" + word.substr(dot + 1) + "'";
+        side = "second";
+      }
+    }
+    elements += "/>";
+  }
+  return elements;
 }
 
 }  // namespace quorix::testing

@@ -13,7 +13,7 @@
 namespace quorix::uikit {
 namespace {
 
-using testing::constraintElement;
+using testing::constraintElements;
 using testing::interfaceFile;
 using testing::labelElement;
 
@@ -31,7 +31,7 @@ std::string outcome(const std::string& xml) {
 
 TEST(Nib, RefusesWhatItDoesNotShow) {
   const std::string good =
-      interfaceFile(labelElement("a", "x"), constraintElement("a", "top", "", "box", "top", 1));
+      interfaceFile(labelElement("a", "x"), constraintElements("a.top box.top 1"));
   EXPECT_EQ(outcome(good), "read");
   EXPECT_THAT(outcome(""), ::testing::HasSubstr("No document element found"));
   EXPECT_THAT(outcome("<view"), ::testing::HasSubstr("Card.xib:1: "));
@@ -59,38 +59,25 @@ std::string printed(const layout::Rect& frame) {
 // Ten-point text: a character is 5 points wide, a line 12.5 high, rounded up to 13.
 std::map<std::string, std::string> cards() {
   const std::string aLabel = labelElement("a", "ten  chars"), bLabel = labelElement("b", "four");
-  const std::string inset = constraintElement("a", "top", "", "box", "top", 16) +
-                            constraintElement("a", "leading", "", "box", "leading", 16) +
-                            constraintElement("", "trailing", "", "a", "trailing", 24);
-  const std::string below = constraintElement("b", "top", "", "a", "bottom", 8) +
-                            constraintElement("", "bottom", "", "b", "bottom", 4);
-  const std::string linkSides =
-      constraintElement("b", "leading", "", "box", "leading", 16) +
-      constraintElement("", "trailing", "greaterThanOrEqual", "b", "trailing", 24);
-  const std::string row = constraintElement("a", "leading", "", "box", "leading", 0) +
-                          constraintElement("b", "leading", "", "a", "trailing", 8) +
-                          constraintElement("b", "trailing", "", "box", "trailing", 0) +
-                          constraintElement("a", "top", "", "box", "top", 0) +
-                          constraintElement("b", "top", "", "a", "top", 0) +
-                          constraintElement("", "bottom", "", "a", "bottom", 0);
-  const std::string corner = constraintElement("a", "right", "", "box", "right", 0) +
-                             constraintElement("a", "top", "", "box", "top", 10);
+  const auto card = [](const std::string& subviews, const std::string& rules) {
+    return interfaceFile(subviews, constraintElements(rules));
+  };
   std::string square = aLabel;  // which keeps its size itself
   square.insert(square.rfind("</label>"),
-                "<constraints>" + constraintElement("", "width", "", "", "", 48) +
-                    constraintElement("", "height", "", "", "", 48) + "</constraints>");
-  const std::string filling = constraintElement("a", "left", "", "box", "left", 0) +
-                              constraintElement("a", "top", "", "box", "top", 0) +
-                              constraintElement("a", "right", "", "box", "right", 0) +
-                              constraintElement("a", "bottom", "", "box", "bottom", 0);
-  const std::string size = constraintElement("", "width", "", "", "", 40) +
-                           constraintElement("", "height", "", "", "", 30);
-  return {{"stacked", interfaceFile(aLabel + bLabel, inset + below + linkSides)},
-          {"row", interfaceFile(aLabel + bLabel, row)},
-          {"corner", interfaceFile(square, corner)},
-          {"filled", interfaceFile(labelElement("a", "ten  chars", "1"), filling)},
-          {"loose", interfaceFile(aLabel, "")},
-          {"sized", interfaceFile(aLabel, size)}};
+                "<constraints>" + constraintElements(".width 48, .height 48") + "</constraints>");
+  return {{"stacked", card(aLabel + bLabel,
+                           "a.top box.top 16, a.leading box.leading 16, .trailing a.trailing 24,"
+                           "b.top a.bottom 8, .bottom b.bottom 4,"
+                           "b.leading box.leading 16, .trailing >= b.trailing 24")},
+          {"row", card(aLabel + bLabel,
+                       "a.leading box.leading 0, b.leading a.trailing 8, b.trailing box.trailing 0,"
+                       "a.top box.top 0, b.top a.top 0, .bottom a.bottom 0")},
+          {"corner", card(square, "a.right box.right 0, a.top box.top 10")},
+          {"filled",
+           card(labelElement("a", "ten  chars", "1"),
+                "a.left box.left 0, a.top box.top 0, a.right box.right 0, a.bottom box.bottom 0")},
+          {"loose", card(aLabel, "")},
+          {"sized", card(aLabel, ".width 40, .height 30")}};
 }
 
 TEST(ViewLayout, FollowsConstraintsAndContent) {

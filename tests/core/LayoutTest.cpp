@@ -1,4 +1,4 @@
-#include <fstream>
+#include <algorithm>
 #include <map>
 #include <sstream>
 #include <stdexcept>
@@ -7,77 +7,45 @@
 #include "platform/layout/Geometry.h"
 #include "platform/swiftui/Elements.h"
 #include "tests/core/TestWindow.h"
+#include "tests/core/Vectors.h"
 
 namespace quorix {
 namespace {
 
 using testing::TestWindow;
 
-/// A case of a layout table: what a view of plain elements looks like in a window.
-///
-///     == what the case shows
-///     in 200 x 40 scale 2 rtl safe 0 10 0 10
-///                                      scale, direction and the safe area's insets (top, leading,
-///                                      bottom, trailing) may be left out
-///     row spacing=10                   children are indented by two
-///       text "aaaa bb"                 16 points: 8 wide a character, 20 high a line
-///       spacer
-///     expect
-///     text 0 10 56 20 "aaaa bb"        the items painted, in order
-///     fits none x inf -> inf x 20      what the view answers when offered that
-struct LayoutCase {
-  std::string name;
-  layout::Size window;
-  swiftui::Environment environment;
-  layout::EdgeInsets safeArea;
-  swiftui::View view;
-  std::string expected;
-};
-
-/// A line of a case's view: a word, its arguments and what is indented below it.
+/// A line of a layout table: a word, its arguments and what is indented below it.
 struct LayoutLine {
   std::string word;
   std::string text;
   std::map<std::string, std::string> arguments;
   std::vector<LayoutLine> children;
 
+  bool has(const std::string& key) const { return arguments.count(key) > 0; }
   std::optional<double> number(const std::string& key) const {
-    const auto found = arguments.find(key);
-    return found == arguments.end() ? std::nullopt : std::optional(std::stod(found->second));
+    return has(key) ? std::optional(std::stod(arguments.at(key))) : std::nullopt;
   }
   double length(const std::string& key) const { return number(key).value_or(0); }
+  layout::EdgeInsets insets() const {
+    return {length("top"), length("leading"), length("bottom"), length("trailing")};
+  }
+  layout::Edges edges() const {
+    return {has("top"), has("leading"), has("bottom"), has("trailing")};
+  }
 
   layout::Alignment alignment() const {
     using H = layout::HorizontalAlignment;
     using V = layout::VerticalAlignment;
-    const auto found = arguments.find("align");
-    const std::string name = found == arguments.end() ? "" : found->second;
-    const auto has = [&](const char* part) { return name.find(part) != std::string::npos; };
-    return {has("leading")    ? H::leading
-            : has("trailing") ? H::trailing
-                              : H::center,
-            has("top")      ? V::top
-            : has("bottom") ? V::bottom
-                            : V::center};
+    const std::string name = has("align") ? arguments.at("align") : "";
+    return {name.ends_with("leading")    ? H::leading
+            : name.ends_with("trailing") ? H::trailing
+                                         : H::center,
+            name.starts_with("top")      ? V::top
+            : name.starts_with("bottom") ? V::bottom
+                                         : V::center};
   }
 
-  layout::Edges edges() const {
-    const auto has = [&](const char* name) { return arguments.count(name) > 0; };
-    return {has("top"), has("leading"), has("bottom"), has("trailing")};
-  }
-
-  /// The lines from `at` on that are indented by `depth` or more, as a tree.
-  static std::vector<LayoutLine> readTree(const std::vector<std::string>& lines, std::size_t& at,
-                                          std::size_t depth) {
-    std::vector<LayoutLine> result;
-    while (at < lines.size() && lines[at].find_first_not_of(' ') == depth) {
-      result.push_back(readLine(lines[at++].substr(depth)));
-      result.back().children = readTree(lines, at, depth + 2);
-    }
-    return result;
-  }
-
-  static LayoutLine readLine(std::string line) {
+  static LayoutLine parse(std::string line) {
     LayoutLine result;
     if (const auto quote = line.find('"'); quote != std::string::npos) {
       const auto end = line.find('"', quote + 1);
@@ -87,9 +55,18 @@ struct LayoutLine {
     std::istringstream words(line);
     words >> result.word;
     for (std::string word; words >> word;) {
-      const auto equals = word.find('=');
-      result.arguments[word.substr(0, equals)] =
-          equals == std::string::npos ? "" : word.substr(equals + 1);
+      const auto equals = std::min(word.find('='), word.size());
+      result.arguments[word.substr(0, equals)] = word.substr(std::min(equals + 1, word.size()));
+    }
+    return result;
+  }
+
+  /// The line at `at`, and as its children those below it that are indented by two more.
+  static LayoutLine readTree(const std::vector<std::string>& lines, std::size_t& at,
+                             std::size_t depth = 0) {
+    LayoutLine result = parse(lines.at(at++).substr(depth));
+    while (lines.at(at).find_first_not_of(' ') == depth + 2) {
+      result.children.push_back(readTree(lines, at, depth + 2));
     }
     return result;
   }
@@ -117,53 +94,51 @@ struct LayoutLine {
     if (word == "frame") return content.frame(number("width"), number("height"), alignment());
     if (word == "widest") return content.frameMaxWidthInfinity(alignment());
     if (word == "overlay") return content.overlay(alignment(), views.at(1));
-    if (word == "fixed") return content.fixedSize(arguments.count("h"), arguments.count("v"));
+    if (word == "fixed") return content.fixedSize(has("h"), has("v"));
     if (word == "padding") {
-      if (number("all")) return content.padding(length("all"));
-      return content.padding(
-          {length("top"), length("leading"), length("bottom"), length("trailing")});
+      return has("all") ? content.padding(length("all")) : content.padding(insets());
     }
     throw std::invalid_argument("no element is called " + word);
   }
 };
 
-std::vector<LayoutCase> readCases(const std::string& path) {
-  std::ifstream file(path);
-  if (!file) throw std::runtime_error("cannot read " + path);
-  std::vector<LayoutCase> cases;
-  std::vector<std::string> lines;
-  bool expecting = false;
-  for (std::string line; std::getline(file, line);) {
-    if (line.rfind("==", 0) == 0) {
-      cases.emplace_back().name = line.substr(3);
-      lines.clear();
-      expecting = false;
-    } else if (line.rfind("in ", 0) == 0) {
-      std::istringstream words(line.substr(3));
-      std::string word;
-      words >> cases.back().window.width >> word >> cases.back().window.height;
-      while (words >> word) {
-        if (word == "scale") words >> cases.back().environment.scale;
-        if (word == "safe") {
-          auto& [top, leading, bottom, trailing] = cases.back().safeArea;
-          words >> top >> leading >> bottom >> trailing;
-        }
-        if (word == "rtl") {
-          cases.back().environment.direction = layout::LayoutDirection::rightToLeft;
-        }
-      }
-    } else if (line == "expect") {
-      std::size_t at = 0;
-      const auto tree = LayoutLine::readTree(lines, at, 0);
-      if (tree.size() != 1 || at != lines.size()) throw std::invalid_argument(cases.back().name);
-      cases.back().view = tree.front().view();
-      expecting = true;
-    } else if (!line.empty() && line[0] != '#') {
-      expecting ? void(cases.back().expected += line + "\n") : lines.push_back(line);
+/// A case of a layout table: what a view of plain elements looks like in a window.
+///
+///     == what the case shows
+///     in 200 x 40 scale=2 rtl top=10   scale, direction and the safe area's insets (top, leading,
+///                                      bottom, trailing) may be left out
+///     row spacing=10                   children are indented by two
+///       text "aaaa bb"                 16 points: 8 wide a character, 20 high a line
+///       spacer
+///     expect
+///     text 0 10 56 20 "aaaa bb"        the items painted, in order
+///     fits none x inf -> inf x 20      what the view answers when offered that
+struct LayoutCase {
+  std::string name;
+  layout::Size window;
+  LayoutLine settings;
+  swiftui::View view;
+  std::string expected;
+
+  LayoutCase(const std::vector<std::string>& lines, std::size_t& at) : name(lines.at(at++)) {
+    std::string by;
+    std::istringstream(lines.at(at).substr(3)) >> window.width >> by >> window.height;
+    settings = LayoutLine::parse(lines.at(at++));
+    view = LayoutLine::readTree(lines, at).view();
+    EXPECT_EQ(lines.at(at++), "expect") << name;
+    for (; at < lines.size() && !lines[at].starts_with("=="); ++at) {
+      if (!lines[at].empty()) expected += lines[at] + "\n";
     }
   }
-  return cases;
-}
+
+  swiftui::Environment environment() const {
+    using Direction = layout::LayoutDirection;
+    swiftui::Environment result;
+    result.scale = settings.number("scale").value_or(1);
+    result.direction = settings.has("rtl") ? Direction::rightToLeft : Direction::leftToRight;
+    return result;
+  }
+};
 
 std::optional<double> readLength(const std::string& word) {
   if (word == "none") return std::nullopt;
@@ -187,13 +162,14 @@ std::string printedAnswers(TestWindow& window, const std::string& expected) {
 }
 
 TEST(Layout, GivesTheFramesOfTheTables) {
-  for (const char* table :
+  for (const std::string table :
        {"stacks", "frames", "texts", "pixels", "directions", "words", "grounds"}) {
-    const auto cases = readCases(TEST_DATA "/layout/" + std::string(table) + ".txt");
-    EXPECT_FALSE(cases.empty()) << table;
-    for (const LayoutCase& row : cases) {
-      TestWindow window(row.view, row.environment, row.window);
-      const render::Scene& scene = window.host->scene(row.window, row.safeArea);
+    const auto lines = readLines("layout/" + table);
+    EXPECT_FALSE(lines.empty()) << table;
+    for (std::size_t at = 0; at < lines.size();) {
+      const LayoutCase row(lines, at);
+      TestWindow window(row.view, row.environment(), row.window);
+      const render::Scene& scene = window.host->scene(row.window, row.settings.insets());
       EXPECT_EQ(testing::printedItems(scene) + printedAnswers(window, row.expected), row.expected)
           << row.name;
     }

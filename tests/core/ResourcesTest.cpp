@@ -5,8 +5,10 @@
 #include "QuorixWidgets/localization/Assets.h"
 #include "QuorixWidgets/localization/Font.h"
 #include "platform/graphics/AssetCatalog.h"
+#include "platform/graphics/AssetContents.h"
 #include "platform/graphics/FontManager.h"
 #include "tests/core/Resources.h"
+#include "tests/core/Vectors.h"
 
 namespace quorix {
 namespace {
@@ -15,6 +17,54 @@ using foundation::Bundle;
 using graphics::Appearance;
 using graphics::RGBA;
 using testing::replaceLibraryBundle;
+
+TEST(AssetContents, ReadsColorsInEverySpellingAndNothingElse) {
+  forEachRow("color_components", [](simdjson::dom::element row) {
+    const auto color = graphics::makeColor(graphics::ColorSpace::sRGB, ::text(row, "red"), "0", "0",
+                                           ::text(row, "alpha"));
+    ASSERT_EQ(color.has_value(), !row["color"].is_null());
+    if (!color) return;
+    EXPECT_EQ(color->red, std::int64_t(row["color"].at(0)));
+    EXPECT_EQ(color->alpha, std::int64_t(row["color"].at(3)));
+  });
+}
+
+TEST(AssetContents, ChoosesTheEntryForEachAppearance) {
+  forEachRow("color_sets", [](simdjson::dom::element row) {
+    const auto set = graphics::parseColorSet(simdjson::to_string(row["contents"]));
+    ASSERT_EQ(set.has_value(), !row["light"].is_null());
+    if (!set) return;
+    EXPECT_EQ(set->resolve(Appearance::light).green, std::int64_t(row["light"]));
+    EXPECT_EQ(set->resolve(Appearance::dark).green, std::int64_t(row["dark"]));
+  });
+  EXPECT_EQ(graphics::parseColorSet("{"), std::nullopt);
+}
+
+const Bundle::Ref catalog = Bundle::open(TEST_DATA "/catalog");
+
+TEST(AssetCatalog, NamesFollowTheNamespacesOfFolders) {
+  EXPECT_EQ(graphics::dataSet(catalog, "Fonts/A").value(), foundation::Data("in namespace\n"));
+  EXPECT_EQ(graphics::dataSet(catalog, "B").value(), foundation::Data("in group\n"));
+  EXPECT_EQ(graphics::dataSet(catalog, "A"), std::nullopt);
+  EXPECT_EQ(graphics::dataSet(catalog, "Group/B"), std::nullopt);
+  EXPECT_EQ(graphics::dataSet(catalog, "C"), std::nullopt) << "a file name is not a path";
+  EXPECT_EQ(graphics::colorSet(catalog, "B"), std::nullopt) << "another kind of asset";
+}
+
+TEST(AssetCatalog, ImagesNeedAReadableLightFile) {
+  const auto both = graphics::imageSet(catalog, "both");
+  ASSERT_TRUE(both);
+  EXPECT_TRUE(both->isTemplate);
+  EXPECT_EQ(std::pair(both->width, both->height), std::pair(4.0, 3.0));
+  EXPECT_NE(both->svg(Appearance::dark), both->svg(Appearance::light));
+  const auto noDark = graphics::imageSet(catalog, "noDark");
+  ASSERT_TRUE(noDark);
+  EXPECT_FALSE(noDark->isTemplate);
+  EXPECT_EQ(noDark->svg(Appearance::dark), both->svg(Appearance::light));
+  for (const char* name : {"noFile", "broken", "unknown"}) {
+    EXPECT_FALSE(graphics::imageSet(catalog, name)) << name;
+  }
+}
 
 constexpr Appearance kAppearances[] = {Appearance::light, Appearance::dark};
 

@@ -74,6 +74,19 @@ TEST(SceneLayers, AreCutWhereSomethingPaintsItself) {
   }
 }
 
+struct Tap {
+  layout::Point point;
+  int area;  ///< -1: none, or an embed takes the tap
+};
+
+void expectHits(const Scene& scene, const std::vector<Tap>& taps) {
+  for (const Tap& tap : taps) {
+    const render::HitArea* hit = scene.hitTest(tap.point);
+    EXPECT_EQ(hit ? int(hit - scene.hitAreas.data()) : -1, tap.area)
+        << tap.point.x << "," << tap.point.y;
+  }
+}
+
 TEST(Scene, AnEmbedTakesWhatIsBelowItAndLeavesWhatIsAbove) {
   Scene inner;
   inner.size = {100, 100};
@@ -85,18 +98,11 @@ TEST(Scene, AnEmbedTakesWhatIsBelowItAndLeavesWhatIsAbove) {
   Scene scene;
   scene.hitAreas = {{{{}, {300, 300}}, {}}};
   scene.append(inner, {50, 50});
-  const struct {
-    layout::Point point;
-    int area;  // -1: none, or the embed takes the tap
-  } rows[] = {
+  const std::vector<Tap> taps = {
       {{10, 10}, 0},  {{60, 55}, 1},   {{60, 62}, 1},   {{60, 66}, -1},
       {{140, 66}, 2}, {{140, 75}, -1}, {{60, 119}, -1}, {{60, 121}, 1},
   };
-  for (const auto& row : rows) {
-    const render::HitArea* hit = scene.hitTest(row.point);
-    EXPECT_EQ(hit ? int(hit - scene.hitAreas.data()) : -1, row.area)
-        << row.point.x << "," << row.point.y;
-  }
+  expectHits(scene, taps);
 }
 
 TEST(Scene, LeavesEachAreaRoomToTap) {
@@ -106,19 +112,12 @@ TEST(Scene, LeavesEachAreaRoomToTap) {
                     {{{100, 200}, {10, 10}}, {}},
                     {{{100, 300}, {12, 12}}, {}},
                     {{{118, 300}, {12, 12}}, {}}};
-  const struct {
-    layout::Point point;
-    int area;
-  } rows[] = {
+  const std::vector<Tap> taps = {
       {{150, 87}, 0},  {{150, 129}, 0}, {{150, 85}, -1}, {{150, 131}, -1}, {{301, 108}, -1},
       {{84, 205}, 1},  {{126, 221}, 1}, {{82, 205}, -1}, {{105, 228}, -1}, {{114, 306}, 2},
       {{116, 306}, 3}, {{101, 306}, 2}, {{129, 320}, 3}, {{91, 306}, 2},   {{145, 306}, 3},
   };
-  for (const auto& row : rows) {
-    const render::HitArea* hit = scene.hitTest(row.point);
-    EXPECT_EQ(hit ? int(hit - scene.hitAreas.data()) : -1, row.area)
-        << row.point.x << "," << row.point.y;
-  }
+  expectHits(scene, taps);
 }
 
 TEST(ScenePart, IsWhatOnePictureHoldsAroundWhatIsSeen) {

@@ -2,7 +2,13 @@
 
 #include <gmock/gmock.h>
 
+#include <cmath>
+#include <cstdio>
+#include <limits>
+
+#include "platform/foundation/StringFormat.h"
 #include "platform/foundation/StringsFile.h"
+#include "platform/foundation/UnicodeText.h"
 #include "tests/core/Resources.h"
 #include "tests/core/Vectors.h"
 
@@ -10,17 +16,119 @@ namespace quorix {
 namespace {
 
 using foundation::Bundle;
+using foundation::components;
 using foundation::Error;
+using foundation::FormatArgument;
+using foundation::formatted;
 using foundation::readStringsFile;
-using foundation::StringsFileErrorCode;
 using foundation::StringTable;
+using foundation::uppercased;
 using testing::OtherResources;
+
+using Limits = std::numeric_limits<double>;
+
+TEST(StringFormat, ShowsWhatPhonesShow) {
+  forEachRow("formats", [](simdjson::dom::element row) {
+    const bool isText = row["string"].error() == simdjson::SUCCESS;
+    const FormatArgument argument =
+        isText ? FormatArgument(::text(row, "string")) : FormatArgument(number(row, "double"));
+    EXPECT_EQ(formatted(::text(row, "format"), {argument}), ::text(row, "text"));
+  });
+}
+
+/// The C library is asked in the "C" locale, which is the one a test runs in.
+template <class Number>
+void expectAsInC(const std::string& format, const std::string& inC, Number value) {
+  char expected[1024];
+  std::snprintf(expected, sizeof expected, inC.c_str(), value);
+  EXPECT_EQ(formatted(format, {static_cast<double>(value)}), expected) << format;
+}
+
+TEST(StringFormat, ShowsNumbersAsTheCLibraryDoes) {
+  const std::vector<double> numbers = {
+      0.0,  -0.0,  1.0,     -1.5,   0.1,       9.9999,        1e-5,     123456.5,
+      1e15, 1e300, -2.5e-7, 5e-324, 0x1p-1022, Limits::max(), HUGE_VAL, -HUGE_VAL};
+  for (const std::string flags : {"", "-", "+", " ", "#", "0", "+0", "#0", "-#+", "' "}) {
+    for (const char* size : {"", "1", "12", ".", ".0", ".1", "20.9", "40.17", ".340"}) {
+      const std::string start = "%" + flags + size;
+      for (const char letter : std::string_view("fFeEgGaA")) {
+        for (const double value : numbers) {
+          // How many digits a subnormal number has before its point is left to each library.
+          const bool hex = letter == 'a' || letter == 'A';
+          if (hex && value != 0 && std::fabs(value) < Limits::min()) continue;
+          expectAsInC(start + letter, start + letter, value);
+        }
+      }
+      if (flags == "' ") continue;  // which mean nothing here
+      for (const char letter : std::string_view("diuoxX")) {
+        for (const long long value : {0LL, 7LL, -42LL, 1LL << 53}) {
+          expectAsInC(start + letter, start + "ll" + letter, value);
+          expectAsInC(start + "ll" + letter, start + "ll" + letter, value);
+        }
+      }
+    }
+  }
+}
+
+FormatArgument argument(simdjson::dom::element value) {
+  if (value.is_string()) return std::string(std::string_view(value));
+  return value.is_object() ? number(value, "double") : double(value);
+}
+
+/// For every table, what is shown is an argument, the table's own text, or nothing.
+TEST(StringFormat, IsSafeWithAnyFormat) {
+  forEachRow("formats_own", [](simdjson::dom::element row) {
+    std::vector<FormatArgument> arguments;
+    for (const auto value : row["arguments"].get_array()) arguments.push_back(argument(value));
+    EXPECT_EQ(formatted(::text(row, "format"), arguments), ::text(row, "text"));
+  });
+}
+
+TEST(StringFormat, BoundsItsFields) {
+  const std::string blanks(511, ' ');
+  EXPECT_EQ(formatted("%999999999999999999999.0f|", {1.0}), blanks + "1|");
+  EXPECT_EQ(formatted("%-99999999999999999999.0f|", {1.0}), "1" + blanks + "|");
+  EXPECT_EQ(formatted("%*.0f|", {1e300, 1.0}), blanks + "1|");
+  EXPECT_EQ(formatted("%.99999f", {1.0}).size(), 2u + 512);
+  EXPECT_EQ(formatted("%.99999f", {Limits::max()}).size(), 309u + 1 + 512);
+}
+
+using Pieces = std::vector<std::string_view>;
+
+void expectPieces(const std::string& table, bool withEmptyOnes) {
+  forEachRow(table, [&](simdjson::dom::element row) {
+    const std::string title = ::text(row, "title");
+    auto pieces = components(title, ::text(row, "number"));
+    if (!withEmptyOnes) std::erase(pieces, "");
+    Pieces expected;
+    for (const simdjson::dom::element piece : row["parts"]) expected.emplace_back(piece);
+    EXPECT_EQ(pieces, expected);
+  });
+}
+
+TEST(UnicodeText, SplitsAsPhonesDo) {
+  expectPieces("titles", false);
+  expectPieces("titles_own", true);
+  expectPieces("graphemes", false);
+  // Not UTF-8: there is no mark to combine with.
+  EXPECT_EQ(components("\xFFx\xC3", "x"), (Pieces{"\xFF", "\xC3"}));
+  EXPECT_EQ(components("\xCC.\x81", "."), (Pieces{"\xCC", "\x81"}));
+  EXPECT_EQ(components("a.\xCC", "."), (Pieces{"a", "\xCC"}));
+}
+
+TEST(UnicodeText, CapitalsFollowTheLanguage) {
+  forEachRow("casing", [](simdjson::dom::element row) {
+    EXPECT_EQ(uppercased(::text(row, "text"), ::text(row, "language")), ::text(row, "upper"));
+  });
+  EXPECT_EQ(uppercased("a\xFFz", "xx"), "A\uFFFDZ");
+}
 
 std::string outcome(const foundation::Result<StringTable>& result) {
   const auto* error = std::get_if<Error>(&result);
   if (error == nullptr) return "table";
-  return error->code == static_cast<std::int64_t>(StringsFileErrorCode::notATable) ? "other"
-                                                                                   : "error";
+  return error->code == static_cast<std::int64_t>(foundation::StringsFileErrorCode::notATable)
+             ? "other"
+             : "error";
 }
 
 void expectReading(simdjson::dom::element row) {
@@ -76,25 +184,6 @@ TEST(LocalizedString, IsEmptyWithoutABundle) {
     EXPECT_EQ(localized("%@", "en", {"Ann"}), "");
     EXPECT_EQ(localized("k", "es"), bundle == spanishAlone ? "v" : "");
   }
-}
-
-TEST(LocalizableTables, AreCompleteInEveryLanguage) {
-  std::vector<std::string> languages;
-  for (const std::string& folder : Bundle::embedded()->folders("")) {
-    if (!folder.ends_with(".lproj")) continue;
-    languages.push_back(folder.substr(0, folder.find('.')));
-    const auto file = Bundle::embedded()->data(folder + "/Localizable.strings");
-    ASSERT_TRUE(file) << folder;
-    const auto reading = readStringsFile(*file);
-    const auto* table = std::get_if<StringTable>(&reading);
-    ASSERT_TRUE(table) << folder << ": " << std::get<Error>(reading).description;
-    for (const auto& problem : problems(*table)) {
-      ADD_FAILURE() << folder << ": " << problem.key << ' ' << problem.what;
-    }
-  }
-  EXPECT_THAT(languages,
-              ::testing::IsSupersetOf({"ar", "bg", "cs", "da", "de", "el", "en", "es", "fi", "fr",
-                                       "it", "ja", "nb", "nl", "nn", "pl", "pt", "sv"}));
 }
 
 /// The texts beside the link are joined without an additional blank.

@@ -25,6 +25,16 @@ inline std::string printedItems(const render::Scene& scene) {
   return result;
 }
 
+/// The painted items of one kind.
+template <class Item>
+std::vector<Item> itemsOf(const render::Scene& scene) {
+  std::vector<Item> found;
+  for (const render::Item& item : scene.items) {
+    if (const auto* one = std::get_if<Item>(&item)) found.push_back(*one);
+  }
+  return found;
+}
+
 /// A sheet that stands alone.
 struct TestSheet : hosting::SheetPresenter::Client {
   explicit TestSheet(const swiftui::Presentation& presentation, layout::Size window,
@@ -98,7 +108,6 @@ class TestWindow final : public TestText, public hosting::ViewWindow {
   }
 
   bool press(layout::Point point) { return pointer(hosting::PointerEvent::Phase::pressed, point); }
-  bool move(layout::Point point) { return pointer(hosting::PointerEvent::Phase::moved, point); }
   bool release(layout::Point point) {
     return pointer(hosting::PointerEvent::Phase::released, point);
   }

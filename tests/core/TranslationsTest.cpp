@@ -46,21 +46,6 @@ TEST(TranslationTable, IsReadFromObjectsOfObjectsOfTextsOrRefusedWhole) {
   forEachRow("tables_own", expectOutcome);
 }
 
-TEST(BuiltInTranslations, AreChosenByTheExactLocale) {
-  const auto english = builtInTranslations("en");
-  const auto spanish = builtInTranslations("es");
-  EXPECT_EQ(english->text("labels", "hint"), "Tap to learn more");
-  EXPECT_EQ(spanish->text("labels", "hint"), "Toque para saber más");
-  for (const char* locale : {"en", "", "fr", "ES", "es-MX", " es", "es "}) {
-    EXPECT_EQ(builtInTranslations(locale), english) << locale;
-  }
-  ASSERT_EQ(english->entries().size(), 9u);
-  ASSERT_EQ(spanish->entries().size(), 9u);
-  for (const auto& entry : english->entries()) {
-    EXPECT_FALSE(spanish->text(entry.section, entry.key).empty()) << entry.key;
-  }
-}
-
 URLResponse answer(const std::string& body, int status = 200) { return {{}, body, status}; }
 
 /// The network holds every request until a test answers it.

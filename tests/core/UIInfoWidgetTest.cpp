@@ -16,6 +16,7 @@
 
 using namespace quorix;
 using foundation::MainQueue;
+using quorix::testing::itemsOf;
 using quorix::testing::OtherResources;
 using quorix::testing::TestWindow;
 using State = uikit::UIScene::ActivationState;
@@ -25,14 +26,6 @@ namespace {
 std::shared_ptr<UIInfoWidget> widget(const UIKitStyleConfiguration& style = {},
                                      std::optional<std::string> name = std::nullopt) {
   return UIInfoWidget::make(std::make_shared<UIInfoWidgetViewModel>(std::move(name), "en", style));
-}
-
-std::vector<render::TextItem> texts(const render::Scene& scene) {
-  std::vector<render::TextItem> found;
-  for (const auto& item : scene.items) {
-    if (const auto* text = std::get_if<render::TextItem>(&item)) found.push_back(*text);
-  }
-  return found;
 }
 
 struct WindowKind {
@@ -69,17 +62,6 @@ struct App {
 
 }  // namespace
 
-TEST(InfoTitle, StandsAroundTheFirstNumber) {
-  using Parts = std::vector<InfoTitlePart>;
-  const InfoTitlePart number{"20%", true};
-  EXPECT_EQ(splitInfoTitle("Return rate of 20% applies", "20%"),
-            (Parts{{"Return rate of "}, number, {" applies"}}));
-  EXPECT_EQ(splitInfoTitle("20% is your rate", "20%"), (Parts{number, {" is your rate"}}));
-  EXPECT_EQ(splitInfoTitle("Your rate is 20%", "20%"), (Parts{number, {"Your rate is "}}));
-  EXPECT_EQ(splitInfoTitle("A 20% B 20% C", "20%"), (Parts{{"A "}, number, {" B "}}));
-  EXPECT_EQ(splitInfoTitle("20%20%", "20%"), Parts{});
-}
-
 TEST(UIInfoWidget, IsAsDesigned) {
   const graphics::RGBA red{255, 0, 0, 255};
   const auto view = widget({std::nullopt, "No-Such-Face", uikit::UIColor::fixed(red), true});
@@ -106,7 +88,8 @@ TEST(InfoWidgetBuilder, BothFormsSetTheirTextsAlike) {
     TestWindow imperative(
         swiftui::hosting(InfoWidgetBuilder::buildUIKitInfoWidgetView(locale, style)), environment);
     imperative.settle();
-    const auto expected = texts(declarative.shown()), shown = texts(imperative.shown());
+    const auto expected = itemsOf<render::TextItem>(declarative.shown()),
+               shown = itemsOf<render::TextItem>(imperative.shown());
     ASSERT_EQ(expected.size(), 2u);
     ASSERT_EQ(shown.size(), 2u);
     for (std::size_t i = 0; i < 2; ++i) {
@@ -167,7 +150,7 @@ TEST(UIInfoWidget, SharesTextsThatAHostChangesInOneWidgetAlone) {
   for (const std::size_t index : {0, 1}) label(one, index)->setFont(uikit::UIFont::system(40));
   quorix::testing::FixedWidthText engine;
   const auto drawn = [&](const auto& shown) {
-    return texts(uikit::UIViewContent(shown).scene({343, 96}, {}, engine));
+    return itemsOf<render::TextItem>(uikit::UIViewContent(shown).scene({343, 96}, {}, engine));
   };
   for (const std::size_t index : {0, 1}) {
     EXPECT_EQ(drawn(one)[index].text.runs.front().font.points, 40);
@@ -202,15 +185,6 @@ TEST(UIInfoWidget, PresentsTheOverlayOverTheTopmostScreen) {
   EXPECT_TRUE(overlay->showCloseButton);
   read();  // once more: nothing remembers the first
   EXPECT_NE(overlay->presentedViewController(), nullptr);
-}
-
-TEST(UIInfoWidget, TellsOfItsOverlayAndNotOfATapOnItsTitle) {
-  TestWindow window(swiftui::hosting(widget()));
-  window.tap(layout::Point{100, 20});
-  window.act("Read more");
-  window.settle();
-  window.act(window.labels());  // its cross is all that it has
-  EXPECT_EQ(window.told, "activated opened closed:button ");
 }
 
 TEST(UIApplication, FindsTheKeyWindow) {
@@ -271,6 +245,4 @@ TEST(UIInfoWidgetDeath, StopsOnWhatItCannotBe) {
     const OtherResources broken(files);
     EXPECT_DEATH(UIInfoWidget::make(model), message);
   }
-  const auto untitled = OtherResources::english("\"info-widget-title\" = \"\";");
-  EXPECT_DEATH(UIInfoWidgetViewModel(std::nullopt, "en", {}), "Index out of range");
 }

@@ -1,9 +1,8 @@
 #include "platform/uikit/UIView.h"
 
-#include "platform/hosting/WindowSession.h"
 #include "platform/render/ScenePrinter.h"
+#include "platform/render/Wording.h"
 #include "platform/swiftui/Elements.h"
-#include "platform/swiftui/TreePrinter.h"
 #include "platform/swiftui/UIViewRepresentable.h"
 #include "platform/uikit/UILabel.h"
 #include "platform/uikit/ViewPrinter.h"
@@ -63,35 +62,10 @@ TEST(UIView, TapsFindTheTopmostTouchedView) {
   }
 }
 
-TEST(UIView, SaysWhatItIsToAssistiveTechnology) {
-  const auto label = std::make_shared<UILabel>();
-  label->setText("More");
-  const auto shown = [&] {
-    FixedWidthText text;
-    return render::printAccessibility(UIViewContent(label).scene({50, 20}, {}, text));
-  };
-  EXPECT_EQ(shown(), "text 0 0 50 20 \"More\"\n");
-  label->setUserInteractionEnabled(true);
-  label->addGestureRecognizer(
-      std::make_shared<UITapGestureRecognizer>(label, [](UILabel&, UITapGestureRecognizer&) {}));
-  EXPECT_EQ(shown(), "button 0 0 50 20 \"More\" acts\n");
-  label->setAccessibilityTraits(UIAccessibilityTraits::link);
-  label->setAccessibilityLabel("Read more");
-  EXPECT_EQ(shown(), "link 0 0 50 20 \"Read more\" acts\n");
-  label->setUserInteractionEnabled(false);
-  EXPECT_EQ(shown(), "link 0 0 50 20 \"Read more\"\n");
-}
-
-TEST(UIView, IsPrintedLikeTreesAndFrames) {
-  const std::string spoken = "More\n\"now\"", printed = R"("More\n\"now\"")";
-  const auto label = std::make_shared<UILabel>(layout::Rect{{0.12345, 0}, {50, 20}});
-  label->setText(spoken);
-  EXPECT_EQ(printViews(*label), "UILabel 0.123 0 50 20 " + printed + '\n');
-  const swiftui::View text = swiftui::View(swiftui::Text::verbatim(spoken)).padding(0.12345);
-  EXPECT_EQ(swiftui::printTree(text), "Text(" + printed + ")\n    .padding(0.12345)\n");
-  FixedWidthText engine;
-  EXPECT_EQ(render::printAccessibility(UIViewContent(label).scene({50, 20}, {}, engine)),
-            "text 0 0 50 20 " + printed + '\n');
+TEST(Wording, EscapesTextsAndRoundsLengths) {
+  EXPECT_EQ(render::inQuotes("More\n\"now\"\\\x1B"), R"("More\n\"now\"\\\u001b")");
+  EXPECT_EQ(render::points(0.12345), "0.123");
+  EXPECT_EQ(render::points(-0.0001), "0");
 }
 
 TEST(UIView, LeavesItsPlaceWithItsConstraints) {
@@ -219,17 +193,6 @@ TEST(UIViewController, PresentsAChainAndTellsItsWindow) {
     root->present(first, true);
   }
   EXPECT_EQ(first->window(), nullptr) << "the window is gone, the screens are not";
-}
-
-TEST(UIViewController, ASheetThatClosesDismissesIt) {
-  const auto root = screen(), page = screen();
-  root->present(page, true);
-  const auto sheet = hosting::controllerPresentation(page);
-  EXPECT_TRUE(sheet.isPresented.get());
-  sheet.isPresented.set(false);
-  EXPECT_EQ(root->presentedViewController(), nullptr);
-  sheet.isPresented.set(true);  // presenting it again takes a controller
-  EXPECT_EQ(root->presentedViewController(), nullptr);
 }
 
 }  // namespace

@@ -7,7 +7,6 @@
 using quorix::OverlayAddress;
 using quorix::foundation::URL;
 using quorix::foundation::URLComponents;
-using quorix::foundation::URLQueryItem;
 using quorix::testing::OpenedAddresses;
 using quorix::uikit::URLOpener;
 
@@ -57,7 +56,7 @@ TEST(URLComponents, EncodesQueryItemsAsPhonesDo) {
 TEST(URLComponents, WritesTheQueryBetweenPathAndFragment) {
   const struct {
     std::string_view base;
-    std::vector<URLQueryItem> items;
+    std::vector<quorix::foundation::URLQueryItem> items;
     std::string_view replaced, appended;  // the latter with "x y" after what the base holds
   } rows[] = {
       {"https://a", {}, "https://a?", "https://a?x%20y"},
@@ -113,10 +112,6 @@ TEST(URLOpener, OpensOnlyWhatLeavesTheMachineAndRunsNoScript) {
   }
   EXPECT_FALSE(opened.empty());
   EXPECT_EQ(asked.list(), opened);
-}
-
-TEST(URLOpener, OpensNothingWithoutAnOpener) {
-  const OpenedAddresses asked;  // which puts things right afterwards
   URLOpener::install(nullptr);
   EXPECT_FALSE(URLOpener::openOutside(*URL::parse("https://shop.example")));
 }

@@ -11,7 +11,6 @@ using swiftui::Text;
 using swiftui::View;
 using testing::memoryBundle;
 using testing::scoreModel;
-using testing::scoreView;
 using testing::TestWindow;
 
 /// A letter of `size` points that adds itself to `log` when tapped.
@@ -91,6 +90,7 @@ TEST(ViewHostInput, ATapIsAPressAndAReleaseOnOneArea) {
   window.release({5, 5});
   window.release({5, 5});
   window.settle();
+  for (const int index : {-1, 3}) EXPECT_FALSE(window.host->activate(index)) << index;
   EXPECT_EQ(log, "");
 }
 
@@ -105,27 +105,6 @@ TEST(ViewHostInput, ATapOutlivesAnUpdateBetweenItsHalves) {
   window.release(TestWindow::middle(frame));  // before the next frame
   window.settle();
   EXPECT_TRUE(window.sheet());
-}
-
-TEST(ViewHostInput, FocusWalksOverWhatActsAndLeavesAtTheEnds) {
-  std::string log;
-  const View keys = swiftui::HStack(layout::VerticalAlignment::top, 0,
-                                    {key(log, "a", 50), Text::verbatim("x"), key(log, "b", 50)});
-  TestWindow window(keys, {}, {200, 50});
-  auto& host = *window.host;
-  EXPECT_FALSE(host.activateFocus());
-  for (const bool forward : {true, false}) {
-    EXPECT_TRUE(host.moveFocus(forward) && host.activateFocus());
-    EXPECT_EQ(host.focusFrame(), window.element(log.substr(log.size() - 1)).frame);
-    EXPECT_TRUE(host.moveFocus(forward) && host.activateFocus());
-    EXPECT_FALSE(host.moveFocus(forward));
-    EXPECT_FALSE(host.focusFrame());
-  }
-  EXPECT_EQ(log, "abba");
-  host.moveFocus(true);
-  host.clearFocus();
-  EXPECT_FALSE(host.activateFocus());
-  for (const int index : {-1, 1, 3}) EXPECT_FALSE(host.activate(index)) << index;
 }
 
 /// A view whose body counts how often it is asked for.
@@ -166,16 +145,6 @@ TEST(ViewHosts, AreEvaluatedOnceOnAScreenAndSparinglyInLongLists) {
     }
     EXPECT_LE(bodies, count == 10 ? count : 2 * count);
   }
-}
-
-TEST(ScoreWidgetAccessibility, TheHostsStringTableIsAskedFirst) {
-  const std::string entry =
-      "\"%@ %@ %@, %@ %@\" = \"%5$@ %-10y%4$10.2@; %3$@ %2$@ (%1$@) 100%%%6$@\";";
-  foundation::Bundle::setMain(memoryBundle({{"en.lproj/Localizable.strings", entry}}));
-  TestWindow discounted(scoreView(true)), plain(scoreView(false));
-  EXPECT_EQ(discounted.labels(), "€4.00 Original; €2.00 Discounted (Your return fee) 100%(null)");
-  EXPECT_EQ(plain.labels(), "Your return fee €4.00");
-  foundation::Bundle::setMain(nullptr);
 }
 
 TEST(HostsStringTable, IsTheOneOfTheUsersLanguage) {

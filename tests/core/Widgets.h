@@ -23,10 +23,6 @@ inline std::shared_ptr<ScoreWidgetViewModel> scoreModel(bool discount,
       "shop", TokenData{discount ? 0.82 : 0.05, "EUR", 499, 299}, language, ownFaces);
 }
 
-inline swiftui::View scoreView(bool discount) {
-  return ScoreWidgetView{scoreModel(discount), LocalizationRepository::make("en")};
-}
-
 inline std::shared_ptr<InfoWidgetViewModel> infoModel(
     const std::string& locale = "en", SwiftUIStyleConfiguration style = {},
     std::optional<double> percentile = std::nullopt,
