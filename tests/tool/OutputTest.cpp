@@ -3,9 +3,6 @@
 #include <QDir>
 #include <QFile>
 #include <QImage>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 
 #include "../qt/WideFace.h"
 #include "Tool.h"
@@ -14,22 +11,6 @@ namespace {
 
 const std::string score = "quorix score $(quorix mint) ", info = "quorix info ",
                   imperative = info + "--form imperative ";
-
-TEST(ToolOutput, IsJSON) {
-  const struct {
-    std::string command;
-    int height, elements;
-  } rows[] = {{score + "--sheet", 750, 6},
-              {info + "--frames --accessibility", 96, 2},
-              {imperative + "--out picture.png", 96, 2}};
-  for (const auto& row : rows) {
-    const auto run = Tool().shell(row.command + " --json");
-    const auto document = QJsonDocument::fromJson(QByteArray::fromStdString(run.out)).object();
-    EXPECT_EQ(document["frames"]["size"]["height"].toInt(), row.height) << row.command;
-    EXPECT_EQ(document["accessibility"].toArray().size(), row.elements) << row.command;
-    EXPECT_NE(document["accessibility"][0]["label"].toString(), "") << row.command;
-  }
-}
 
 QImage picture(const std::string& command) {
   const Tool tool;
