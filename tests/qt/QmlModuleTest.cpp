@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QLocale>
-#include <QQmlComponent>
 
 #include "QuorixWidgets/info/InfoWidgetBuilder.h"
 #include "QuorixWidgets/score/ScoreWidgetBuilder.h"
@@ -178,19 +177,6 @@ TEST_F(QmlModule, AListMakesARowOnceForEachPlaceItTakes) {
   }
   EXPECT_GT(list->property("taken").toInt(), 100);
   EXPECT_EQ(made(), list->property("taken").toInt());
-}
-
-TEST_F(QmlModule, IsThereForAFileThatKnowsNothingElse) {
-  QQmlEngine engine;
-  QQmlComponent component(&engine, QUrl::fromLocalFile(TEST_DATA "/qml/Page.qml"));
-  const std::unique_ptr<QObject> page(component.create());
-  ASSERT_TRUE(page) << component.errorString().toStdString();
-  auto& item = dynamic_cast<QQuickItem&>(*page);
-  const double wide = item.implicitHeight();
-  item.setParentItem(screen.window().contentItem());
-  item.setWidth(200);
-  screen.settle();
-  EXPECT_GT(item.implicitHeight(), wide);
 }
 
 }  // namespace

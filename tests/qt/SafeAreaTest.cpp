@@ -10,9 +10,7 @@
 namespace quorix::testing {
 namespace {
 
-template <class>
-struct SafeArea : ::testing::Test {};
-TYPED_TEST_SUITE(SafeArea, Screens, ScreenName);
+SCREENS_TEST_SUITE(SafeArea);
 
 TYPED_TEST(SafeArea, ASheetKeepsClearOfItAlsoWhenTheWindowTurns) {
   TypeParam screen;

@@ -6,9 +6,7 @@
 namespace quorix::testing {
 namespace {
 
-template <class>
-struct ScrollingSheet : ::testing::Test {};
-TYPED_TEST_SUITE(ScrollingSheet, Screens, ScreenName);
+SCREENS_TEST_SUITE(ScrollingSheet);
 
 /// Opens a sheet of 1000 points with a button at its top and one at its end.
 swiftui::View tallOpener() {
@@ -42,12 +40,7 @@ TYPED_TEST(ScrollingSheet, ScrollsByWhateverTheUserHas) {
       {"a page", pressing({Qt::Key_PageDown}), 410},
       {"the end", pressing({Qt::Key_End}), 410},
       {"Tab", pressing({Qt::Key_Tab, Qt::Key_Tab}), 396},
-      {"a screen reader",
-       [](Screen& screen) {
-         screen.find("End")->actionInterface()->doAction(
-             QAccessibleActionInterface::setFocusAction());
-       },
-       396},
+      {"a screen reader", acting("End", QAccessibleActionInterface::setFocusAction()), 396},
   };
   TypeParam screen;
   const auto eventsBelow = screen.listenBelow();

@@ -1,5 +1,6 @@
 #include <QPushButton>
 #include <QScrollArea>
+#include <QTest>
 
 #include "tests/qt/FeeRow.h"
 #include "tests/qt/Screens.h"
@@ -19,9 +20,7 @@ QString tap(Screen& screen, QPoint point) {
 }
 
 /// A row is 20 points high or so, and takes taps in 44.
-template <class>
-struct TapRoom : ::testing::Test {};
-TYPED_TEST_SUITE(TapRoom, Screens, ScreenName);
+SCREENS_TEST_SUITE(TapRoom);
 
 std::function<int()> addButton(QuickScreen& screen, QRect place) {
   QQuickItem* button = screen.addQml("MouseArea { property int taps; onClicked: ++taps }");
@@ -81,9 +80,18 @@ TEST(TapRoomInQuick, APageThatScrollsIsNoButton) {
   row->setView(FeeRow("4 €"));
   row->setMotion(false);
   screen.settle();
-  screen.drag({100, 295}, {100, 195}, 100, true);
-  EXPECT_FALSE(screen.shows("Fee 4 €"));
-  EXPECT_GT(flickable->property("contentY").toDouble(), 50);
+  const struct {
+    int from;  ///< on the row, or in the room above it
+    bool byTouch;
+  } drags[] = {{310, false}, {310, true}, {295, true}};
+  for (const auto& [from, byTouch] : drags) {
+    screen.drag({100, from}, {100, from - 100}, 200, byTouch);
+    QTest::qWait(300);
+    EXPECT_FALSE(screen.shows("Fee 4 €")) << from << byTouch;
+    EXPECT_GT(flickable->property("contentY").toDouble(), 50) << from << byTouch;
+    flickable->setProperty("contentY", 0);
+    screen.settle();
+  }
   EXPECT_EQ(tap(screen, {100, screen.placeOf(row).top() - 5}), "4 €");
   flickable->setProperty("contentY", 300 + row->height() + 2);
   screen.settle();

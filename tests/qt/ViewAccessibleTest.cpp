@@ -9,9 +9,7 @@ namespace {
 using swiftui::Text;
 using swiftui::View;
 
-template <class>
-struct Accessible : ::testing::Test {};
-TYPED_TEST_SUITE(Accessible, Screens, ScreenName);
+SCREENS_TEST_SUITE(Accessible);
 
 /// An element and what it holds: role, name and description, whether keys reach it and have.
 std::string printed(QAccessibleInterface* element, const std::string& indent = {}) {
@@ -30,11 +28,6 @@ std::string printed(QAccessibleInterface* element, const std::string& indent = {
   return text;
 }
 
-void pressThrough(Screen& screen, QAccessibleInterface* element) {
-  element->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-  screen.settle();
-}
-
 TYPED_TEST(Accessible, ARowIsExactlyOneButtonOfItsWindow) {
   TypeParam screen;
   auto* row = screen.add(FeeRow("4 €"), kPlace);
@@ -47,7 +40,7 @@ TYPED_TEST(Accessible, ARowIsExactlyOneButtonOfItsWindow) {
   EXPECT_EQ(everything.find("Row 4 €"), everything.rfind("Row 4 €")) << everything;
   const QRect place = screen.placeOf(row);
   EXPECT_EQ(button->rect(), QRect(screen.window().mapToGlobal(place.topLeft()), place.size()));
-  pressThrough(screen, button);
+  screen.act("Row 4 €", QAccessibleActionInterface::pressAction());
   EXPECT_TRUE(screen.shows("Fee 4 €"));
 }
 
@@ -74,7 +67,7 @@ TYPED_TEST(Accessible, SeveralElementsStandInAGroupInReadingOrder) {
     EXPECT_EQ(group->childAt(middle.x(), middle.y()), group->child(i));
   }
   EXPECT_EQ(group->focusChild(), group->child(2));
-  pressThrough(screen, group->child(2));
+  screen.act("Press", QAccessibleActionInterface::pressAction());
   EXPECT_EQ(taps, 1);
 }
 

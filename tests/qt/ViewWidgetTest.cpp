@@ -2,15 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QTest>
 #include <QVBoxLayout>
 
-#include "QuorixWidgets/localization/Font.h"
-#include "QuorixWidgets/localization/QuorixFont.h"
-#include "qt/Picture.h"
 #include "tests/qt/FeeRow.h"
-#include "tests/qt/Pixels.h"
 #include "tests/qt/Screens.h"
 
 namespace quorix::testing {
@@ -47,9 +42,7 @@ struct CountingWidget : qt::ViewWidget {
 
 /// The widget alone, without what is behind it.
 QImage grabbed(QWidget& widget) {
-  const double scale = widget.devicePixelRatioF();
-  QImage image((QSizeF(widget.size()) * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
-  image.setDevicePixelRatio(scale);
+  QImage image(widget.size(), QImage::Format_ARGB32_Premultiplied);
   image.fill(Qt::transparent);
   widget.render(&image, {}, {}, QWidget::DrawChildren);
   return image;
@@ -148,24 +141,6 @@ TEST(ViewWidget, WorksOncePerChangeAndOnlyWhileItsWindowShowsIt) {
   EXPECT_EQ(workForAChange(), Work(1, 1));
 }
 
-/// CMake runs this at other scales, too.
-TEST(ViewWidgetScale, LooksOnItsPageAsThePictureAtThatScale) {
-  WidgetScreen screen;
-  screen.host().setPalette(Qt::white);
-  // A light face: Qt draws its letters differently on an opaque page than on a clear one.
-  const View row =
-      View(Text::verbatim("Return fee")).font(Font::Quorix::fixed(QuorixFont::regular(), 14));
-  // An odd place falls between two device pixels at one and a half.
-  const QPoint corner(21, 41);
-  qt::ViewWidget* widget = screen.add(row, QRectF(corner, QSizeF(300, 30)));
-  const double scale = widget->devicePixelRatioF();
-  qt::PictureOptions options{300, 30, {}, false, graphics::RGBA{255, 255, 255, 255}};
-  options.environment.scale = scale;
-  const QImage wanted = qt::picture(row, options);
-  const QImage shown = screen.grab().copy({(QPointF(corner) * scale).toPoint(), wanted.size()});
-  EXPECT_EQ(differing(shown, wanted, 2), QRect());
-}
-
 TEST(ViewWidget, FollowsPaletteAndDirectionUnlessToldOtherwise) {
   WidgetScreen screen;
   const FeeRow row("4 €");
@@ -208,22 +183,6 @@ TEST(ViewWidget, PointsAtWhatActsAndLetsTheRestThrough) {
   EXPECT_EQ(eventsBelow(), before);
   screen.clickAt(outside);
   EXPECT_EQ(eventsBelow(), before + 2);  // the press, and the release that belongs to it
-}
-
-TEST(SheetWidget, StaysOverTheWholeWindowAndHoldsTheFocus) {
-  WidgetScreen screen;
-  screen.add(FeeRow("4 €"), kPlace);
-  screen.click("Row 4 €");
-  screen.host().resize(500, 700);
-  QWidget* late = screen.addFocusable();
-  screen.settle();
-  EXPECT_FALSE(late->hasFocus());
-  auto* sheet = qobject_cast<QWidget*>(QGuiApplication::focusObject());
-  ASSERT_TRUE(sheet);
-  EXPECT_EQ(sheet->geometry(), screen.host().rect());
-  EXPECT_EQ(screen.host().childAt(5, 5), sheet);
-  screen.key(Qt::Key_Escape);
-  EXPECT_EQ(screen.host().childAt(5, 5), late);
 }
 
 }  // namespace
