@@ -110,8 +110,9 @@ TYPED_TEST(Sheet, ItsContentPresentsFurtherSheetsAboveIt) {
   }
   EXPECT_TRUE(screen.shows("Fee 4 €"));
   EXPECT_FALSE(screen.shows("More"));
-  screen.addFocusable();  // in the window's corner, which comes to lie below all three
+  auto* late = screen.addFocusable();  // in the window's corner, below all three
   screen.settle();
+  EXPECT_FALSE(screen.hasFocus(late));
   const int before = eventsBelow();
   screen.click("Close 4 €");
   EXPECT_FALSE(screen.shows("Fee 4 €"));
