@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <QLocale>
 
 #include "QuorixWidgets/info/InfoWidgetBuilder.h"
@@ -55,10 +53,7 @@ TEST_F(QmlModule, MakesWhatTheBuildersMake) {
   };
   const auto info = &InfoWidgetBuilder::buildSwiftUIInfoWidgetView;
   const auto cream = swiftui::Color::fixed({250, 247, 240, 128});
-  const struct {
-    const char* source;
-    swiftui::View expected;
-  } cases[] = {
+  const std::pair<const char*, swiftui::View> cases[] = {
       {"Score { clientId: 'shop'; token: 'TOKEN'; locale: 'es'; regularFont: '' }",
        score("shop", "es", {absent, absent})},
       {"Score { clientId: 'shop'; token: 'TOKEN'; regularFont: 'A'; semiBoldFont: 'B' }",
@@ -70,12 +65,12 @@ TEST_F(QmlModule, MakesWhatTheBuildersMake) {
       {"Info { locale: 'nb'; backgroundColor: '#80faf7f0'; showBorder: true }",
        info("nb", {absent, absent, cream, true})},
   };
-  for (const auto& tested : cases) {
-    const QQuickItem* item = add(tested.source);
+  for (const auto& [source, expected] : cases) {
+    const QQuickItem* item = add(source);
     const auto* asInfo = dynamic_cast<const Info*>(item);
     const auto view = asInfo ? asInfo->widget() : static_cast<const Score*>(item)->widget();
-    EXPECT_EQ(printTree(view), printTree(tested.expected)) << tested.source;
-    const qt::ViewItem plain(tested.expected);
+    EXPECT_EQ(printTree(view), printTree(expected)) << source;
+    const qt::ViewItem plain(expected);
     EXPECT_EQ(item->size(), QSizeF(plain.implicitWidth(), plain.implicitHeight()));
   }
   QLocale::setDefault(QLocale::c());

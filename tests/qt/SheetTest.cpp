@@ -1,5 +1,3 @@
-#include <QAccessible>
-#include <QGuiApplication>
 #include <QTest>
 
 #include "tests/qt/FeeRow.h"

@@ -43,15 +43,12 @@ TYPED_TEST(TapRoom, ReachesAroundARowAndNoFurtherThanHalfwayToTheNext) {
   screen.add(FeeRow("3 €"), {20, 134, 300, 20});
   screen.add(FeeRow("4 €"), {20, 100, 300, 20});
   screen.add(FeeRow("2 €"), {20, 200, 300, 44});
-  const struct {
-    QPoint point;
-    QString opens;
-  } rows[] = {
+  const std::pair<QPoint, QString> rows[] = {
       {{100, 110}, "4 €"}, {{100, 91}, "4 €"},  {{100, 85}, ""},
       {{100, 124}, "4 €"}, {{100, 129}, "3 €"}, {{8, 110}, ""},    // it is wide enough
       {{100, 201}, "2 €"}, {{100, 242}, "2 €"}, {{100, 247}, ""},  // its item is high enough
   };
-  for (const auto& row : rows) EXPECT_EQ(tap(screen, row.point), row.opens) << row.point.y();
+  for (const auto& [point, opens] : rows) EXPECT_EQ(tap(screen, point), opens) << point.y();
 }
 
 TYPED_TEST(TapRoom, IsTheHostsWhereTheHostTakesTaps) {
@@ -80,11 +77,8 @@ TEST(TapRoomInQuick, APageThatScrollsIsNoButton) {
   row->setView(FeeRow("4 €"));
   row->setMotion(false);
   screen.settle();
-  const struct {
-    int from;  ///< on the row, or in the room above it
-    bool byTouch;
-  } drags[] = {{310, false}, {310, true}, {295, true}};
-  for (const auto& [from, byTouch] : drags) {
+  // From the row, and from the room above it.
+  for (const auto& [from, byTouch] : {std::pair(310, false), {310, true}, {295, true}}) {
     screen.drag({100, from}, {100, from - 100}, 200, byTouch);
     QTest::qWait(300);
     EXPECT_FALSE(screen.shows("Fee 4 €")) << from << byTouch;

@@ -26,10 +26,7 @@ AttributedText overhanging() {
 TEST(TextEngine, NarrowerIsNeverLowerAndBreaksTheSameWhenPainted) {
   const std::string words =
       "Your fee is based on how often you return, and falls as you keep more.";
-  const struct {
-    const char* name;
-    AttributedText text;
-  } samples[] = {
+  const std::pair<const char*, AttributedText> samples[] = {
       {"fractional_size", plainText(words, 15.68)},
       {"long_word",
        plainText("An uncharacteristically-hyphenated Donaudampfschifffahrtsgesellschaft!")},

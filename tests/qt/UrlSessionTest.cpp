@@ -84,9 +84,7 @@ TEST_F(ConcurrentUrlSession, AnswersAreAnswersWhateverTheirStatusAndBrokenOnesAr
 }
 
 TEST_F(ConcurrentUrlSession, SendsAPlainGetOfTheAddress) {
-  const struct {
-    std::string address, target;
-  } table[] = {
+  const std::pair<std::string, std::string> table[] = {
       {"/es-MX.json", "/es-MX.json"},
       {"/a b.json?x=%26&y=1+2", "/a%20b.json?x=%26&y=1+2"},
       {"/100%.json", "/100%25.json"},

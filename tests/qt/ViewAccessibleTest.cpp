@@ -1,5 +1,3 @@
-#include <QAccessible>
-
 #include "tests/qt/FeeRow.h"
 #include "tests/qt/Screens.h"
 

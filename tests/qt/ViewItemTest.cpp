@@ -1,7 +1,5 @@
 #include "qt/quick/ViewItem.h"
 
-#include <gtest/gtest.h>
-
 #include <QTest>
 #include <algorithm>
 
@@ -41,10 +39,7 @@ struct CountingItem : qt::ViewItem {
 TEST(ViewItem, TakesTheRoomOfWhatItShowsInAnyLayout) {
   // What stands after the row, and where when the row is empty.
   const QByteArray after = "Item { objectName: 'after'; width: 9; implicitHeight: 9; ";
-  const struct {
-    QByteArray layout;
-    QPointF after;
-  } cases[] = {
+  const std::pair<QByteArray, QPointF> cases[] = {
       {"ColumnLayout { spacing: 3; Row { } " + after + "} }", {0, 3}},
       {"ColumnLayout { spacing: 3; width: 300; height: 500; Row { Layout.fillWidth: true; "
        "Layout.fillHeight: true } " +
@@ -62,26 +57,26 @@ TEST(ViewItem, TakesTheRoomOfWhatItShowsInAnyLayout) {
       {"Item { Row { id: row; width: 150 } " + after + "anchors.top: row.bottom } }", {0, 0}},
   };
   QuickScreen screen;
-  for (const auto& tested : cases) {
-    const std::unique_ptr<QQuickItem> layout(screen.addQml(tested.layout));
+  for (const auto& [source, whenEmpty] : cases) {
+    const std::unique_ptr<QQuickItem> layout(screen.addQml(source));
     auto* row = layout->findChild<qt::ViewItem*>();
     auto* item = layout->findChild<QQuickItem*>("after");
     screen.settle();
-    EXPECT_EQ(item->position(), tested.after) << tested.layout.constData() << " at first";
+    EXPECT_EQ(item->position(), whenEmpty) << source.constData() << " at first";
     row->setView(paragraph());
     screen.settle();
     const QPointF filled = item->position();
-    EXPECT_GT(filled.x() + filled.y(), 15) << tested.layout.constData();
+    EXPECT_GT(filled.x() + filled.y(), 15) << source.constData();
     EXPECT_TRUE(item->x() >= row->width() || item->y() >= row->height());
     EXPECT_GT(row->implicitWidth(), 200);
     EXPECT_GE(row->height(), row->implicitHeight());
     EXPECT_EQ(row->implicitHeight() > 30, row->width() < row->implicitWidth()) << "wraps";
     row->setView(View());
     screen.settle();
-    EXPECT_EQ(item->position(), tested.after) << tested.layout.constData();
+    EXPECT_EQ(item->position(), whenEmpty) << source.constData();
     row->setView(paragraph());
     screen.settle();
-    EXPECT_EQ(item->position(), filled) << tested.layout.constData();
+    EXPECT_EQ(item->position(), filled) << source.constData();
   }
 }
 

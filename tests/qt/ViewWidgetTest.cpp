@@ -1,7 +1,5 @@
 #include "qt/widgets/ViewWidget.h"
 
-#include <gtest/gtest.h>
-
 #include <QTest>
 #include <QVBoxLayout>
 

@@ -49,10 +49,8 @@ TEST(ToolOutput, IsInTheLibrarysFacesWhateverIsInstalled) {
   const std::string command = score + "--frames";
   const auto without = Tool().shell(command);
   ASSERT_EQ(without.status, 0) << without.err;
-  const struct {
-    const char* foundry;
-    bool inCapitals;
-  } rows[] = {{"NONE", false}, {"ABCD", false}, {"ABCD", true}};  // the first is that of our own
+  const std::pair<const char*, bool> rows[] = {
+      {"NONE", false}, {"ABCD", false}, {"ABCD", true}};  // the first is that of our own
   for (const auto& [foundry, inCapitals] : rows) {
     const Tool tool;
     ASSERT_TRUE(QDir().mkpath(tool.path("data/fonts")));
