@@ -154,25 +154,5 @@ TEST_F(QmlModule, TellsWhatHappenedUntilItsEnd) {
   }
 }
 
-TEST_F(QmlModule, AListMakesARowOnceForEachPlaceItTakes) {
-  QQuickItem* list = add(R"(
-      ListView {
-        property int taken
-        width: 320; height: 400; model: 200; reuseItems: true
-        delegate: Score {
-          required property int index
-          clientId: "shop" + index; token: "TOKEN"; locale: index % 2 ? "en" : "es"
-          Component.onCompleted: ++ListView.view.taken
-          ListView.onReused: ++ListView.view.taken
-        }
-      })");
-  for (int y = 0; y < 3000; y += 330) {
-    list->setProperty("contentY", y);
-    screen.settle();
-  }
-  EXPECT_GT(list->property("taken").toInt(), 100);
-  EXPECT_EQ(made(), list->property("taken").toInt());
-}
-
 }  // namespace
 }  // namespace quorix::testing

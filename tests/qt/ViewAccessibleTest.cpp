@@ -1,4 +1,4 @@
-#include "tests/qt/FeeRow.h"
+#include "platform/swiftui/Elements.h"
 #include "tests/qt/Screens.h"
 
 namespace quorix::testing {
@@ -26,27 +26,12 @@ std::string printed(QAccessibleInterface* element, const std::string& indent = {
   return text;
 }
 
-TYPED_TEST(Accessible, ARowIsExactlyOneButtonOfItsWindow) {
-  TypeParam screen;
-  auto* row = screen.add(FeeRow("4 €"), kPlace);
-  QAccessibleInterface* button = screen.find("Row 4 €");
-  ASSERT_TRUE(button);
-  EXPECT_EQ(printed(button), "Button \"Row 4 €\" \"Opens details\" focusable acts\n");
-  QAccessibleInterface* window = button->parent();
-  EXPECT_EQ(window->rect().size(), screen.window().size());
-  const std::string everything = printed(window);
-  EXPECT_EQ(everything.find("Row 4 €"), everything.rfind("Row 4 €")) << everything;
-  const QRect place = screen.placeOf(row);
-  EXPECT_EQ(button->rect(), QRect(screen.window().mapToGlobal(place.topLeft()), place.size()));
-  screen.act("Row 4 €", QAccessibleActionInterface::pressAction());
-  EXPECT_TRUE(screen.shows("Fee 4 €"));
-}
-
 TYPED_TEST(Accessible, SeveralElementsStandInAGroupInReadingOrder) {
   TypeParam screen;
   int taps = 0;
-  const View heading =
-      View(Text::verbatim("Title")).accessibilityAddTraits(swiftui::AccessibilityTrait::isHeader);
+  const View heading = View(Text::verbatim("Title"))
+                           .accessibilityAddTraits(swiftui::AccessibilityTrait::isHeader)
+                           .accessibilityHint(Text::verbatim("Hint"));
   auto* item =
       screen.add(swiftui::VStack(layout::HorizontalAlignment::leading, 4,
                                  {heading, Text::verbatim("Text"),
@@ -57,7 +42,7 @@ TYPED_TEST(Accessible, SeveralElementsStandInAGroupInReadingOrder) {
   screen.key(Qt::Key_Tab);
   EXPECT_EQ(printed(group),
             "Grouping\n"
-            "  Heading \"Title\"\n"
+            "  Heading \"Title\" \"Hint\"\n"
             "  StaticText \"Text\"\n"
             "  Button \"Press\" focusable focused acts\n");
   for (int i = 0; i < group->childCount(); ++i) {
