@@ -16,6 +16,8 @@
 
 namespace quorix::testing {
 
+inline const QColor kGround(kPageGround.red, kPageGround.green, kPageGround.blue);
+
 /// A window with a row that opens a sheet with a page, and the server that the page comes from.
 template <class Screen>
 class PageTest : public ::testing::Test {

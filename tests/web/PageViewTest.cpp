@@ -12,8 +12,6 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
-const QColor kGround(kPageGround.red, kPageGround.green, kPageGround.blue);
-
 template <class Screen>
 struct PageView : PageTest<Screen> {};
 TYPED_TEST_SUITE(PageView, Screens, ScreenName);
