@@ -19,24 +19,6 @@ QImage picture(const std::string& command) {
   return QImage(tool.path("picture.png"));
 }
 
-TEST(ToolOutput, PicturesHaveThePixelsAskedFor) {
-  const struct {
-    std::string command;
-    int width, height;  // a height of 0 is what the row needs
-  } rows[] = {
-      {score + "--width 320 --scale 3", 960, 0},
-      {score + "--width 100.5 --scale 2 --height 20.25", 201, 41},
-      {score + "--sheet --width 200", 200, 400},
-      {score + "--sheet --width 200 --height 90 --scale 0.5", 100, 45},
-      {info + "--width 300 --scale 2", 600, 0},
-  };
-  for (const auto& row : rows) {
-    const QImage image = picture(row.command);
-    EXPECT_EQ(image.width(), row.width) << row.command;
-    EXPECT_EQ(image.height(), row.height ? row.height : image.height()) << row.command;
-  }
-}
-
 /// A name as font files hold it: two bytes for a letter, the higher first.
 QByteArray utf16(const char* name) {
   QByteArray bytes;

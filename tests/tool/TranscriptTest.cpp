@@ -64,8 +64,8 @@ TEST_P(ToolTranscript, HoldsLineByLine) {
 
 INSTANTIATE_TEST_SUITE_P(Transcripts, ToolTranscript,
                          testing::Values("command_line", "help", "tokens", "score", "info",
-                                         "translations", "overlay_url", "gallery", "json",
-                                         "preview", "strings_check"),
+                                         "translations", "overlay_url", "pictures", "gallery",
+                                         "json", "preview", "strings_check"),
                          [](const auto& file) { return std::string(file.param); });
 
 }  // namespace
