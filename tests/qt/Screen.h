@@ -68,6 +68,9 @@ inline Act clicking(const char* name) {
 inline Act dragging(QPoint from, QPoint to, int milliseconds, bool byTouch) {
   return [=](Screen& screen) { screen.drag(from, to, milliseconds, byTouch); };
 }
+inline Act turning(QPoint at, QPoint pixels, QPoint angle, Qt::ScrollPhase phase = {}) {
+  return [=](Screen& screen) { screen.wheel(at, pixels, angle, phase); };
+}
 inline Act pressing(QList<Qt::Key> keys) {
   return [=](Screen& screen) {
     for (const Qt::Key key : keys) screen.key(key);

@@ -22,16 +22,8 @@ TYPED_TEST(ScrollingSheet, ScrollsByWhateverTheUserHas) {
     Act perform;
     int to;
   } rows[] = {
-      {"a notch of the wheel",
-       [&](Screen& screen) {
-         screen.wheel(at, {}, {0, -120});
-       },
-       60},
-      {"two fingers",
-       [&](Screen& screen) {
-         screen.wheel(at, {0, -33}, {0, -90}, Qt::ScrollUpdate);
-       },
-       33},
+      {"a notch of the wheel", turning(at, {}, {0, -120}), 60},
+      {"two fingers", turning(at, {0, -33}, {0, -90}, Qt::ScrollUpdate), 33},
       {"the mouse", dragging(at, up, 900, false), 100},
       {"a finger", dragging(at, up, 60, true), 100},
       {"an arrow", pressing({Qt::Key_Down}), 40},

@@ -4,7 +4,6 @@
 #include <QRegularExpression>
 #include <atomic>
 #include <chrono>
-#include <future>
 #include <stdexcept>
 #include <thread>
 

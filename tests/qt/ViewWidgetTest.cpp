@@ -27,25 +27,6 @@ struct Watched {
   View body() const { return ++*bodies, Text::verbatim(std::string(model->fee)); }
 };
 
-struct CountingWidget : qt::ViewWidget {
-  using ViewWidget::ViewWidget;
-  int paints = 0;
-
- protected:
-  void paintEvent(QPaintEvent* event) override {
-    ++paints;
-    ViewWidget::paintEvent(event);
-  }
-};
-
-/// The widget alone, without what is behind it.
-QImage grabbed(QWidget& widget) {
-  QImage image(widget.size(), QImage::Format_ARGB32_Premultiplied);
-  image.fill(Qt::transparent);
-  widget.render(&image, {}, {}, QWidget::DrawChildren);
-  return image;
-}
-
 TEST(ViewWidget, TellsLayoutsOfNewSizesOnly) {
   WidgetScreen screen;
   auto* column = new QVBoxLayout(&screen.host());
@@ -103,22 +84,23 @@ TEST(ViewWidget, TakesTheRoomOfALabelWithWordWrapInAnyLayout) {
 TEST(ViewWidget, WorksOncePerChangeAndOnlyWhileItsWindowShowsIt) {
   WidgetScreen screen;
   const Watched view;
-  auto* widget = new CountingWidget(view, &screen.host());
+  auto* widget = new qt::ViewWidget(view, &screen.host());
+  const EventCount paints(*widget, QEvent::Paint);
   widget->setGeometry(20, 40, 300, 30);
   widget->show();
   screen.settle();
-  EXPECT_EQ(widget->paints, 1);
+  EXPECT_EQ(paints.count, 1);
   QTest::mouseMove(&screen.window(), {30, 50});
   QTest::mouseMove(&screen.window(), {30, 200});
   QTest::qWait(100);
-  EXPECT_EQ(widget->paints, 1);
+  EXPECT_EQ(paints.count, 1);
   using Work = std::pair<int, int>;  // evaluations and paintings
   const auto workForAChange = [&]() -> Work {
     screen.settle();
-    const Work before(*view.bodies, widget->paints);
+    const Work before(*view.bodies, paints.count);
     view.model->fee = std::to_string(before.first);
     screen.settle();
-    return {*view.bodies - before.first, widget->paints - before.second};
+    return {*view.bodies - before.first, paints.count - before.second};
   };
   EXPECT_EQ(workForAChange(), Work(1, 1));
   widget->hide();
@@ -138,7 +120,13 @@ TEST(ViewWidget, FollowsPaletteAndDirectionUnlessToldOtherwise) {
   WidgetScreen screen;
   const FeeRow row("4 €");
   qt::ViewWidget* widget = screen.add(row, kPlace);
-  const auto looks = [&] { return screen.settle(), grabbed(*widget); };
+  const auto looks = [&] {  // the widget alone, without what is behind it
+    screen.settle();
+    QImage image(widget->size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    widget->render(&image, {}, {}, QWidget::DrawChildren);
+    return image;
+  };
   const QImage asItIs = looks();  // light, from left to right
   QPalette palette;
   palette.setColor(QPalette::Window, Qt::black);

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QUrl>
 #include <memory>
 #include <optional>
 #include <string>
