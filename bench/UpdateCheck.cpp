@@ -15,8 +15,8 @@
 #include "QuorixWidgets/score/ScoreWidgetViewModel.h"
 #include "bench/BenchApplication.h"
 #include "platform/hosting/ViewHost.h"
-#include "qt/QtTextEngine.h"
 #include "qt/quick/ViewItem.h"
+#include "qt/text/QtTextEngine.h"
 
 namespace quorix::bench {
 namespace {

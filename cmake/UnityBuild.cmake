@@ -11,8 +11,8 @@ set(quorix_compiled_alone
   platform/foundation/HTTPResponseReader.cpp
   platform/hosting/ViewHost.cpp
   platform/swiftui/TreePrinter.cpp
-  qt/QtTextEngine.cpp
-  qt/TextPictures.cpp)
+  qt/text/QtTextEngine.cpp
+  qt/text/TextPictures.cpp)
 
 function(quorix_unity target)
   if(NOT CMAKE_UNITY_BUILD)
@@ -29,6 +29,8 @@ function(quorix_unity target)
         set(group platform_data)
       elseif(folder MATCHES "^(platform|examples/shop|qt/web)(/|$)")
         set(group ${CMAKE_MATCH_1})
+      elseif(folder MATCHES "^qt/(accessibility|network|painting|text)$")
+        set(group qt)
       else()
         set(group ${folder})
       endif()

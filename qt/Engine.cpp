@@ -9,9 +9,9 @@
 #include "platform/uikit/URLOpener.h"
 #include "qt/Conversions.h"
 #include "qt/Desktop.h"
-#include "qt/QtFonts.h"
 #include "qt/QtMainQueue.h"
-#include "qt/QtURLTransport.h"
+#include "qt/network/QtURLTransport.h"
+#include "qt/text/QtFonts.h"
 
 namespace quorix::qt {
 namespace {

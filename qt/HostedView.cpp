@@ -3,8 +3,8 @@
 #include <QKeyEvent>
 
 #include "qt/Input.h"
-#include "qt/QtTextEngine.h"
-#include "qt/ViewAccessible.h"
+#include "qt/accessibility/ViewAccessible.h"
+#include "qt/text/QtTextEngine.h"
 
 namespace quorix::qt {
 

@@ -6,8 +6,8 @@
 
 #include "platform/render/Scene.h"
 #include "qt/Conversions.h"
-#include "qt/ScenePainter.h"
 #include "qt/StillScene.h"
+#include "qt/painting/ScenePainter.h"
 
 namespace quorix::qt {
 namespace {

@@ -5,14 +5,14 @@
 #include <utility>
 
 #include "platform/hosting/SceneLayers.h"
-#include "qt/AccessibilityBridge.h"
 #include "qt/Conversions.h"
-#include "qt/FocusRing.h"
 #include "qt/Input.h"
 #include "qt/Picture.h"
-#include "qt/QtTextEngine.h"
-#include "qt/ViewAccessible.h"
 #include "qt/WebComponent.h"
+#include "qt/accessibility/AccessibilityBridge.h"
+#include "qt/accessibility/ViewAccessible.h"
+#include "qt/painting/FocusRing.h"
+#include "qt/text/QtTextEngine.h"
 
 namespace quorix::qt {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/hosting/StillScene.h"
-#include "qt/QtTextEngine.h"
+#include "qt/text/QtTextEngine.h"
 
 namespace quorix::qt {
 

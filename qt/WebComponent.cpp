@@ -6,8 +6,6 @@
 #include <QLibrary>
 #include <QtGlobal>
 
-#include "qt/WebLog.h"
-
 #ifdef Q_OS_UNIX
 #include <dlfcn.h>
 #ifdef __GLIBC__

@@ -3,9 +3,11 @@
 #include <utility>
 
 #include "QuorixWidgets/localization/Assets.h"
-#include "QuorixWidgets/overlay/PageNotice.h"
+#include "QuorixWidgets/localization/Strings.h"
+#include "QuorixWidgets/localization/UIFont.h"
 #include "platform/foundation/Error.h"
 #include "platform/uikit/UIApplication.h"
+#include "platform/uikit/UILabel.h"
 
 namespace quorix {
 namespace {
@@ -21,6 +23,63 @@ void fill(uikit::UIView& outer, uikit::UIView& inner) {
                                        inner.bottomAnchor().equalTo(outer.bottomAnchor()),
                                        inner.leftAnchor().equalTo(outer.leftAnchor()),
                                        inner.rightAnchor().equalTo(outer.rightAnchor())});
+}
+
+// The notice, in points.
+constexpr double noticeTop = 72;  // the overlay's crosses end at 58
+constexpr double noticeMargin = 24;
+constexpr double noticeGap = 24;
+constexpr double noticeFontSize = 16;
+constexpr double buttonPaddingAcross = 20;
+constexpr double buttonPaddingDown = 14;  // 48 high with one line
+
+std::shared_ptr<uikit::UILabel> makeLabel(const std::string& text, const QuorixFont& font) {
+  auto label = std::make_shared<uikit::UILabel>();
+  label->setFont(UIFont::Quorix::fixed(font, noticeFontSize));
+  label->setTextColor(UIColor::defaultFontColor());
+  label->setNumberOfLines(0);
+  label->setText(text);
+  label->setTranslatesAutoresizingMaskIntoConstraints(false);
+  return label;
+}
+
+std::shared_ptr<uikit::UIView> makeButton(const std::string& text,
+                                          std::shared_ptr<uikit::UITapGestureRecognizer> tap) {
+  auto button = std::make_shared<uikit::UIView>();
+  const auto label = makeLabel(text, QuorixFont::medium());
+  label->setUserInteractionEnabled(true);
+  button->addSubview(label);
+  uikit::NSLayoutConstraint::activate(
+      {label->topAnchor().equalTo(button->topAnchor(), buttonPaddingDown),
+       label->bottomAnchor().equalTo(button->bottomAnchor(), -buttonPaddingDown),
+       label->leadingAnchor().equalTo(button->leadingAnchor(), buttonPaddingAcross),
+       label->trailingAnchor().equalTo(button->trailingAnchor(), -buttonPaddingAcross)});
+  button->setTranslatesAutoresizingMaskIntoConstraints(false);
+  button->layer().setBorderWidth(1);
+  button->layer().setBorderColor(UIColor::defaultFontColor());
+  button->addGestureRecognizer(std::move(tap));
+  return button;
+}
+
+/// A view for the place of a page that was not loaded or has stopped: one sentence in the language
+/// `locale` and below it a button for another try, with the recognizer `tap`. It starts below the
+/// overlay's cross. Main thread.
+std::shared_ptr<uikit::UIView> makePageNotice(std::string_view locale,
+                                              std::shared_ptr<uikit::UITapGestureRecognizer> tap) {
+  auto notice = std::make_shared<uikit::UIView>();
+  notice->setBackgroundColor(UIColor::overlayBackgrounColor());
+  const auto sentence = makeLabel(localized("webview-page-stopped", locale), QuorixFont::regular());
+  const auto button = makeButton(localized("webview-try-again", locale), std::move(tap));
+  notice->addSubview(sentence);
+  notice->addSubview(button);
+  uikit::NSLayoutConstraint::activate(
+      {sentence->topAnchor().equalTo(notice->topAnchor(), noticeTop),
+       sentence->leadingAnchor().equalTo(notice->leadingAnchor(), noticeMargin),
+       sentence->trailingAnchor().equalTo(notice->trailingAnchor(), -noticeMargin),
+       button->topAnchor().equalTo(sentence->bottomAnchor(), noticeGap),
+       button->leadingAnchor().equalTo(notice->leadingAnchor(), noticeMargin),
+       button->trailingAnchor().lessThanOrEqualTo(notice->trailingAnchor(), -noticeMargin)});
+  return notice;
 }
 
 }  // namespace

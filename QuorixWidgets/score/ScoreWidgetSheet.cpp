@@ -1,4 +1,4 @@
-#include "QuorixWidgets/score/ScoreWidgetSheet.h"
+#include "QuorixWidgets/score/ScoreWidgetView.h"
 
 #include "QuorixWidgets/localization/Assets.h"
 #include "QuorixWidgets/localization/ResourceBundle.h"

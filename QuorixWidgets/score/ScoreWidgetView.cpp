@@ -1,7 +1,6 @@
 #include "QuorixWidgets/score/ScoreWidgetView.h"
 
 #include "QuorixWidgets/localization/Assets.h"
-#include "QuorixWidgets/score/ScoreWidgetSheet.h"
 #include "QuorixWidgets/score/ScoreWidgetViewModel.h"
 #include "platform/swiftui/Elements.h"
 

@@ -7,6 +7,7 @@
 #include "QuorixWidgets/localization/LocalizationRepository.h"
 #include "QuorixWidgets/score/ScoreWidgetViewModel.h"
 #include "platform/foundation/Export.h"
+#include "platform/swiftui/PresentationDetent.h"
 #include "platform/swiftui/State.h"
 #include "platform/swiftui/View.h"
 
@@ -23,6 +24,24 @@ struct ScoreWidgetView {
   auto states() const { return std::tie(showSheet); }
   auto observed() const { return std::tie(viewModel, localization); }
   QUORIX_EXPORT swiftui::View body() const;
+};
+
+/// The content of the detail sheet: the figures in larger type, with an explanation.
+swiftui::View scoreWidgetSheet(const ScoreWidgetViewModel& model,
+                               const LocalizationRepository& localization,
+                               const swiftui::Binding<bool>& showSheet);
+
+/// Presents a bottom sheet that is exactly as tall as its content: at the platform's medium height
+/// until the content has been laid out, then at the measured height.
+struct AdaptiveSheetModifier {
+  static constexpr std::string_view typeName = "AdaptiveSheetModifier";
+
+  swiftui::Binding<bool> isPresented;
+  swiftui::State<swiftui::PresentationDetents> presentationDetents;
+  swiftui::View sheetContent;
+
+  auto states() const { return std::tie(presentationDetents); }
+  swiftui::View body(const swiftui::View& content) const;
 };
 
 }  // namespace quorix

@@ -20,7 +20,7 @@
 #include "platform/foundation/URLSession.h"
 #include "qt/Engine.h"
 #include "qt/Picture.h"
-#include "qt/QtURLTransport.h"
+#include "qt/network/QtURLTransport.h"
 
 namespace quorix::bench {
 namespace {

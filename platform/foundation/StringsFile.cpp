@@ -8,8 +8,6 @@
 #include <optional>
 #include <pugixml.hpp>
 
-#include "platform/foundation/TextPropertyList.h"
-
 namespace quorix::foundation {
 namespace {
 

@@ -30,6 +30,10 @@ enum class StringsFileErrorCode : std::int64_t {
 ///     const auto table = readStringsFile("/* Title */ \"title\" = \"Caf\\U00e9\";");
 QUORIX_EXPORT Result<StringTable> readStringsFile(std::string_view bytes);
 
+/// The table in a property list of the old text form, with or without its outermost braces. `text`
+/// is UTF-8. Errors are those of `readStringsFile`. Nested lists do not grow the call stack.
+Result<StringTable> readTextPropertyList(std::string_view text);
+
 // The errors of the readers, with the line of `offset` in `text`: "line 3: what".
 Error malformedStringsFile(std::string_view text, std::size_t offset, const std::string& what);
 Error notAStringTable(std::string_view text, std::size_t offset, const std::string& what);

@@ -1,4 +1,4 @@
-#include "platform/foundation/TextPropertyList.h"
+#include "platform/foundation/StringsFile.h"
 
 #include <cstddef>
 #include <cstdint>

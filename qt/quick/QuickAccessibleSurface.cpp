@@ -6,7 +6,7 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 
-#include "qt/AccessibilityBridge.h"
+#include "qt/accessibility/AccessibilityBridge.h"
 #include "qt/quick/SheetItem.h"
 
 namespace quorix::qt {

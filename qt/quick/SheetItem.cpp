@@ -5,10 +5,10 @@
 #include <QSGRendererInterface>
 #include <algorithm>
 
-#include "qt/AccessibilityBridge.h"
 #include "qt/Conversions.h"
 #include "qt/WebComponent.h"
 #include "qt/WindowScene.h"
+#include "qt/accessibility/AccessibilityBridge.h"
 
 namespace quorix::qt {
 namespace {

@@ -1,16 +1,91 @@
 #include "qt/quick/ViewItem.h"
 
 #include <QCursor>
+#include <QQuickWindow>
+#include <algorithm>
+#include <cmath>
 
 #include "platform/render/Scene.h"
 #include "qt/Conversions.h"
 #include "qt/Engine.h"
 #include "qt/Input.h"
-#include "qt/ViewAccessible.h"
-#include "qt/quick/TapRoom.h"
+#include "qt/accessibility/ViewAccessible.h"
 #include "qt/quick/ViewSurface.h"
 
 namespace quorix::qt {
+
+/// A press beside a row that is smaller than a finger needs.
+struct TapRoom {
+  const ViewItem& item;
+  QPointF press;    ///< in the scene
+  double distance;  ///< from the item
+
+  /// Whether a press at `point`, beside `item` and in its units, may be for it: nothing of the
+  /// host's takes the press there, and no other view is nearer. Looks at every item of the window.
+  static bool isFree(const ViewItem& item, QPointF point);
+  /// Whether `other` or something in it takes the press before the item may.
+  bool isTakenBy(const QQuickItem& other) const;
+};
+
+namespace {
+
+/// What a page stands on. It takes presses too, to scroll or to keep them from what lies below.
+bool isGround(const QQuickItem& item) {
+  constexpr const char* kTypes[] = {"QQuickFlickable", "QQuickPane", "QQuickPopupItem",
+                                    "QQuickOverlay"};
+  return std::ranges::any_of(kTypes, [&](const char* type) { return item.inherits(type); });
+}
+
+bool isPressHandler(const QObject* child) {
+  return child->inherits("QQuickPointerHandler") && !child->inherits("QQuickHoverHandler") &&
+         !child->inherits("QQuickWheelHandler");
+}
+
+bool takesPresses(const QQuickItem& item) {
+  return item.acceptedMouseButtons().testFlag(Qt::LeftButton) || item.acceptTouchEvents() ||
+         std::ranges::any_of(item.children(), isPressHandler);
+}
+
+QPointF nearestIn(const QQuickItem& item, QPointF point) {
+  const auto nearest = [](double at, double length) { return std::min(std::max(at, 0.0), length); };
+  return {nearest(point.x(), item.width()), nearest(point.y(), item.height())};
+}
+
+double distanceOf(const QQuickItem& item, QPointF point) {
+  const QPointF way = point - nearestIn(item, point);
+  return std::hypot(way.x(), way.y());
+}
+
+/// Whether `point` of `item` is scrolled out of sight.
+bool isClipped(const QQuickItem& item, QPointF point) {
+  for (const QQuickItem* in = item.parentItem(); in; in = in->parentItem()) {
+    if (in->clip() && !in->clipRect().contains(in->mapFromItem(&item, point))) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+bool TapRoom::isTakenBy(const QQuickItem& other) const {
+  if (!other.isVisible() || !other.isEnabled()) return false;
+  const QPointF point = other.mapFromScene(press);
+  if (other.clip() && !other.clipRect().contains(point)) return false;
+  const auto children = other.childItems();
+  if (std::ranges::any_of(children, [&](auto* child) { return isTakenBy(*child); })) return true;
+  if (&other == &item) return false;
+  if (const auto* view = qobject_cast<const ViewItem*>(&other)) {
+    return distanceOf(other, point) < distance && view->surface_->takesTapAt(toPoint(point));
+  }
+  if (!takesPresses(other) || !other.contains(point)) return false;
+  return !isGround(other) || !other.isAncestorOf(&item);
+}
+
+bool TapRoom::isFree(const ViewItem& item, QPointF point) {
+  if (!item.window() || isClipped(item, nearestIn(item, point))) return false;
+  const TapRoom room{item, item.mapToScene(point), distanceOf(item, point)};
+  return !room.isTakenBy(*item.window()->contentItem());
+}
+
 ViewItem::ViewItem(QQuickItem* parent) : ViewItem(swiftui::View(), parent) {}
 
 ViewItem::ViewItem(swiftui::View view, QQuickItem* parent)

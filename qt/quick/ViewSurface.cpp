@@ -5,12 +5,12 @@
 #include <cmath>
 
 #include "platform/render/Scene.h"
-#include "qt/AccessibilityBridge.h"
 #include "qt/Desktop.h"
-#include "qt/FocusRing.h"
 #include "qt/Picture.h"
-#include "qt/ViewAccessible.h"
 #include "qt/WindowScene.h"
+#include "qt/accessibility/AccessibilityBridge.h"
+#include "qt/accessibility/ViewAccessible.h"
+#include "qt/painting/FocusRing.h"
 #include "qt/quick/PictureItem.h"
 #include "qt/quick/SheetItem.h"
 #include "qt/quick/ViewItem.h"

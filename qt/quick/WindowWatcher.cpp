@@ -6,8 +6,8 @@
 #include <utility>
 #include <vector>
 
-#include "qt/AccessibilityBridge.h"
 #include "qt/Desktop.h"
+#include "qt/accessibility/AccessibilityBridge.h"
 
 namespace quorix::qt {
 namespace {

@@ -5,8 +5,6 @@
 #include <QtGlobal>
 #include <QtWebEngineQuick>
 
-#include "qt/WebLog.h"
-
 #ifdef Q_OS_LINUX
 #include <unistd.h>
 #endif

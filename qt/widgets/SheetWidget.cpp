@@ -6,9 +6,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "qt/AccessibilityBridge.h"
 #include "qt/Conversions.h"
 #include "qt/WindowScene.h"
+#include "qt/accessibility/AccessibilityBridge.h"
 
 namespace quorix::qt {
 

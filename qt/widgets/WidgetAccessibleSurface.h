@@ -1,6 +1,6 @@
 #pragma once
 
-#include "qt/AccessibilityBridge.h"
+#include "qt/accessibility/AccessibilityBridge.h"
 
 class QWidget;
 

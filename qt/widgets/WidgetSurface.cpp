@@ -1,19 +1,81 @@
 #include "qt/widgets/WidgetSurface.h"
 
+#include <QFocusFrame>
+#include <QPainter>
+#include <QProxyStyle>
 #include <algorithm>
 #include <cmath>
 
-#include "qt/AccessibilityBridge.h"
 #include "qt/Desktop.h"
 #include "qt/Picture.h"
-#include "qt/ViewAccessible.h"
 #include "qt/WindowScene.h"
-#include "qt/widgets/FocusFrame.h"
+#include "qt/accessibility/AccessibilityBridge.h"
+#include "qt/accessibility/ViewAccessible.h"
+#include "qt/painting/FocusRing.h"
 #include "qt/widgets/SheetWidget.h"
 #include "qt/widgets/ViewWidget.h"
 #include "qt/widgets/WindowStateWatcher.h"
 
 namespace quorix::qt {
+
+/// The focus ring of a view widget. It reaches beyond the widget, as nothing that the widget itself
+/// paints can, and goes where the widget goes. Belongs to the widget's surroundings; main thread.
+class FocusFrame : public QFocusFrame {
+ public:
+  explicit FocusFrame(QWidget& widget);
+
+  /// Goes around the element at `element` in the widget.
+  void goAround(const layout::Rect& element, graphics::Appearance appearance);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  layout::Rect element_;
+  graphics::Appearance appearance_ = graphics::Appearance::light;
+};
+
+namespace {
+
+constexpr int kMargin = 4;  // what the ring takes beyond the widget
+
+/// Room for the ring, above the other widgets in the parent.
+class FrameStyle : public QProxyStyle {
+ public:
+  int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                  const QWidget* widget) const override {
+    const bool margin = metric == PM_FocusFrameHMargin || metric == PM_FocusFrameVMargin;
+    return margin ? kMargin : QProxyStyle::pixelMetric(metric, option, widget);
+  }
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* result) const override {
+    if (hint == SH_FocusFrame_AboveWidget) return 1;
+    if (hint == SH_FocusFrame_Mask) return 0;
+    return QProxyStyle::styleHint(hint, option, widget, result);
+  }
+};
+
+}  // namespace
+
+FocusFrame::FocusFrame(QWidget& widget) : QFocusFrame(&widget) {
+  auto* style = new FrameStyle;
+  style->setParent(this);
+  setStyle(style);
+  setWidget(&widget);
+}
+
+void FocusFrame::goAround(const layout::Rect& element, graphics::Appearance appearance) {
+  element_ = element;
+  appearance_ = appearance;
+  update();
+}
+
+void FocusFrame::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  const QRectF around = FocusRing::frameAround(element_).translated(kMargin, kMargin);
+  FocusRing::paint(painter, around.intersected(rect()), appearance_);
+}
+
 namespace {
 
 /// Whole pixels that hold `points`, but for bits that were lost in additions.

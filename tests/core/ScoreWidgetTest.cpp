@@ -4,7 +4,7 @@
 #include <sstream>
 
 #include "QuorixWidgets/score/ScoreWidgetBuilder.h"
-#include "QuorixWidgets/score/ScoreWidgetSheet.h"
+#include "QuorixWidgets/score/ScoreWidgetView.h"
 #include "platform/swiftui/TreePrinter.h"
 #include "tests/core/TestWindow.h"
 #include "tests/core/Vectors.h"

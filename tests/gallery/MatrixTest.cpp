@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "QuorixWidgets/score/ScoreWidgetViewModel.h"
-#include "qt/QtTextEngine.h"
+#include "qt/text/QtTextEngine.h"
 #include "tests/qt/MatchesPicture.h"
 #include "tools/quorix/gallery/CellRenderer.h"
 

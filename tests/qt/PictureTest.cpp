@@ -6,8 +6,8 @@
 
 #include "QuorixWidgets/localization/ResourceBundle.h"
 #include "platform/swiftui/Elements.h"
-#include "qt/ScenePainter.h"
 #include "qt/StillScene.h"
+#include "qt/painting/ScenePainter.h"
 #include "tests/qt/FeeRow.h"
 
 namespace quorix::qt {

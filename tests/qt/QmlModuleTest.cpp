@@ -5,7 +5,7 @@
 #include "examples/common/TokenMint.h"
 #include "platform/foundation/URLSession.h"
 #include "platform/swiftui/TreePrinter.h"
-#include "qt/qml/Widgets.h"
+#include "qt/qml/Types.h"
 #include "tests/qt/Screens.h"
 
 namespace quorix::testing {

@@ -1,4 +1,4 @@
-#include "qt/QtFonts.h"
+#include "qt/text/QtFonts.h"
 
 #include <gtest/gtest.h>
 

@@ -4,8 +4,8 @@
 #include <QTest>
 #include <QWheelEvent>
 
-#include "qt/AccessibilityBridge.h"
 #include "qt/Engine.h"
+#include "qt/accessibility/AccessibilityBridge.h"
 
 namespace quorix::testing {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "qt/QtTextEngine.h"
+#include "qt/text/QtTextEngine.h"
 #include "tests/qt/Texts.h"
 
 namespace quorix::qt {
@@ -76,6 +76,19 @@ TEST(TextEngine, AnEmptyTextHasALineAndNoWidth) {
     EXPECT_EQ(engine.measure(plainText(""), width).size, (layout::Size{0, line.size.height}));
   }
   EXPECT_GT(engine.measure({}, 100).size.height, 0);
+}
+
+/// Qt keeps "7,00" whole by a character that this face lacks. Another face's must not show.
+TEST(TextEngine, APriceIsAsHighAsItsFace) {
+  QtTextEngine engine;
+  const auto shaped = [&](const char* characters) {
+    AttributedText text = plainText(characters);
+    text.runs[0].font.name = "Noto Sans Devanagari";
+    return engine.shape(text, layout::infinity);
+  };
+  const ShapedText price = shaped("7,00"), number = shaped("700");
+  EXPECT_EQ(price.metrics.size.height, number.metrics.size.height);
+  EXPECT_EQ(price.lines[0].baseline, number.lines[0].baseline);
 }
 
 TEST(TextEngine, PaintsWhatItMeasuredWithoutShapingAgain) {

@@ -1,4 +1,4 @@
-#include "qt/TextPictures.h"
+#include "qt/text/TextPictures.h"
 
 #include <gtest/gtest.h>
 
@@ -6,8 +6,8 @@
 #include <QPainter>
 
 #include "qt/Picture.h"
-#include "qt/QtTextEngine.h"
-#include "qt/ScenePainter.h"
+#include "qt/painting/ScenePainter.h"
+#include "qt/text/QtTextEngine.h"
 #include "tests/qt/Texts.h"
 
 namespace quorix::qt {

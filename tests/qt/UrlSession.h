@@ -10,7 +10,7 @@
 #include <thread>
 #include <utility>
 
-#include "qt/QtURLTransport.h"
+#include "qt/network/QtURLTransport.h"
 #include "tests/qt/LoopbackServer.h"
 
 namespace quorix::testing {

@@ -7,7 +7,7 @@
 #include <cstdlib>
 #include <semaphore>
 
-#include "qt/ConnectionRace.h"
+#include "qt/network/ConnectionRace.h"
 #include "tests/qt/UrlSession.h"
 #include "tests/qt/WaitUntil.h"
 

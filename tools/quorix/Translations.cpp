@@ -10,7 +10,7 @@
 #include "platform/foundation/MainQueue.h"
 #include "platform/foundation/URLSession.h"
 #include "platform/hosting/ViewHost.h"
-#include "qt/QtTextEngine.h"
+#include "qt/text/QtTextEngine.h"
 #include "tools/quorix/Files.h"
 
 namespace quorix::tool {

@@ -8,7 +8,7 @@
 
 #include "QuorixWidgets/localization/QuorixFont.h"
 #include "platform/graphics/FontManager.h"
-#include "qt/QtFonts.h"
+#include "qt/text/QtFonts.h"
 #include "tools/quorix/Failure.h"
 #include "tools/quorix/Files.h"
 

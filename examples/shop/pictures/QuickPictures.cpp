@@ -8,7 +8,7 @@
 #include "examples/shop/pictures/ShopScene.h"
 #include "platform/foundation/Error.h"
 #include "qt/WebComponent.h"
-#include "qt/qml/Widgets.h"
+#include "qt/qml/Types.h"
 
 namespace quorix::examples {
 namespace {

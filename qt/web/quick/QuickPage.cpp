@@ -9,7 +9,6 @@
 
 #include "qt/ApplicationLifetime.h"
 #include "qt/Conversions.h"
-#include "qt/WebLog.h"
 #include "qt/web/WebEngine.h"
 #include "qt/web/quick/RoundedTop.h"
 

@@ -15,7 +15,6 @@
 #include <QWebEngineSettings>
 
 #include "qt/Conversions.h"
-#include "qt/WebLog.h"
 #include "qt/web/WebEngine.h"
 
 #if QT_VERSION < QT_VERSION_CHECK(6, 5, 0)

@@ -9,7 +9,6 @@
 #include "qt/ApplicationLifetime.h"
 #include "qt/Conversions.h"
 #include "qt/WebComponent.h"
-#include "qt/WebLog.h"
 #include "qt/web/WebEngine.h"
 #include "qt/web/widgets/QuietPage.h"
 

@@ -7,7 +7,7 @@
 #include "QuorixWidgets/info/InfoWidgetViewModel.h"
 #include "QuorixWidgets/score/ScoreWidgetBuilder.h"
 #include "platform/swiftui/UIViewRepresentable.h"
-#include "qt/AccessibilityBridge.h"
+#include "qt/accessibility/AccessibilityBridge.h"
 #include "qt/widgets/SheetWidget.h"
 
 namespace quorix::tool {

@@ -1,0 +1,217 @@
+#include "qt/accessibility/ViewAccessible.h"
+
+#include <QWindow>
+#include <algorithm>
+
+#include "qt/accessibility/AccessibilityBridge.h"
+
+namespace quorix::qt {
+namespace {
+
+/// The interface of `owner`, made when it is asked for the first time, if anybody listens.
+ViewAccessible* listening(QObject& owner) {
+  if (!AccessibilityBridge::isActive()) return nullptr;
+  return dynamic_cast<ViewAccessible*>(QAccessible::queryAccessibleInterface(&owner));
+}
+
+}  // namespace
+
+ViewAccessible::ViewAccessible(QObject* owner)
+    : QAccessibleObject(owner),
+      sole_(owner, 0),
+      told_(toTell()),
+      covered_(surface()->isCovered()) {}
+
+ViewAccessible::~ViewAccessible() {
+  for (const QAccessible::Id id : elements_) QAccessible::deleteAccessibleInterface(id);
+}
+
+AccessibleSurface* ViewAccessible::surface() const {
+  return AccessibilityBridge::surfaceOf(object());
+}
+
+bool ViewAccessible::isSoleElement() const {
+  AccessibleSurface* shown = surface();
+  return shown && !shown->isDialog() && shown->responder().elements().size() == 1;
+}
+
+void ViewAccessible::syncChildren() const {
+  AccessibleSurface* shown = surface();
+  const std::size_t count =
+      shown && !isSoleElement() ? shown->responder().elements().size() : std::size_t{0};
+  while (elements_.size() > count) {
+    QAccessible::deleteAccessibleInterface(elements_.back());
+    elements_.pop_back();
+  }
+  while (elements_.size() < count) {
+    elements_.push_back(QAccessible::registerAccessibleInterface(
+        new ElementAccessible(object(), static_cast<int>(elements_.size()))));
+  }
+}
+
+void ViewAccessible::sceneChanged(QObject& owner) {
+  if (ViewAccessible* self = listening(owner)) self->update();
+}
+
+void ViewAccessible::focusChanged(QObject& owner, Qt::ConnectionType when) {
+  if (!AccessibilityBridge::isActive()) return;
+  const auto say = [&owner] {
+    ViewAccessible* self = listening(owner);
+    if (!self) return;
+    QAccessibleInterface* focused = self->focusChild();
+    QAccessibleEvent event(focused ? focused : self, QAccessible::Focus);
+    QAccessible::updateAccessibility(&event);
+  };
+  QMetaObject::invokeMethod(&owner, say, when);
+}
+
+// A reader keeps what it was told: it would go on reading what lies behind a sheet.
+void ViewAccessible::coverChanged(QObject& owner) {
+  ViewAccessible* self = listening(owner);
+  const AccessibleSurface* shown = self ? self->surface() : nullptr;
+  if (!shown || std::exchange(self->covered_, shown->isCovered()) == self->covered_) return;
+  if (!shown->isShown()) return;
+  const auto event = self->covered_ ? QAccessible::ObjectHide : QAccessible::ObjectShow;
+  QAccessibleEvent said(self, event);
+  QAccessible::updateAccessibility(&said);
+  if (self->isSoleElement()) return;
+  for (std::size_t i = 0; i < self->told_.size(); ++i) self->tell(event, i);
+}
+
+std::vector<ViewAccessible::Told> ViewAccessible::toTell() const {
+  std::vector<Told> now;
+  for (const auto& element : surface()->responder().elements()) {
+    now.push_back({element.label, element.hint});
+  }
+  return now;
+}
+
+void ViewAccessible::update() {
+  const std::vector<Told> before = std::exchange(told_, toTell());
+  const std::size_t common = std::min(before.size(), told_.size());
+  for (std::size_t i = told_.size(); i < before.size(); ++i) tell(QAccessible::ObjectHide, i);
+  const bool wasSole = before.size() == 1;
+  if (wasSole != isSoleElement()) {
+    QAccessibleEvent event(this, QAccessible::ObjectReorder);
+    QAccessible::updateAccessibility(&event);
+  }
+  syncChildren();
+  for (std::size_t i = common; i < told_.size(); ++i) tell(QAccessible::ObjectShow, i);
+  for (std::size_t i = 0; i < common; ++i) {
+    if (before[i].label != told_[i].label) tell(QAccessible::NameChanged, i);
+    if (before[i].hint != told_[i].hint) tell(QAccessible::DescriptionChanged, i);
+  }
+}
+
+void ViewAccessible::tell(QAccessible::Event event, std::size_t index) const {
+  QAccessibleInterface* about = const_cast<ViewAccessible*>(this);
+  if (!isSoleElement()) {
+    if (index >= elements_.size()) return;
+    about = QAccessible::accessibleInterface(elements_[index]);
+  }
+  QAccessibleEvent said(about, event);
+  QAccessible::updateAccessibility(&said);
+}
+
+QWindow* ViewAccessible::window() const {
+  AccessibleSurface* shown = surface();
+  return shown ? shown->accessibleWindow() : nullptr;
+}
+
+QRect ViewAccessible::rect() const {
+  AccessibleSurface* shown = surface();
+  return shown ? shown->onScreen() : QRect();
+}
+
+QString ViewAccessible::text(QAccessible::Text kind) const {
+  if (isSoleElement()) return sole_.text(kind);
+  AccessibleSurface* shown = surface();
+  if (!shown || !shown->isDialog() || kind != QAccessible::Name) return {};
+  // A dialog bears the name of the first text in it, or else of its page.
+  for (const auto& element : shown->responder().elements()) {
+    if (!element.action) return QString::fromStdString(element.label);
+  }
+  const auto pages = views();
+  return pages.empty() ? QString() : pages.front()->text(kind);
+}
+
+QAccessible::Role ViewAccessible::role() const {
+  if (isSoleElement()) return sole_.role();
+  AccessibleSurface* shown = surface();
+  return shown && shown->isDialog() ? QAccessible::Dialog : QAccessible::Grouping;
+}
+
+QAccessible::State ViewAccessible::state() const {
+  if (isSoleElement()) return sole_.state();
+  QAccessible::State state;
+  AccessibleSurface* shown = surface();
+  if (!shown) {
+    state.invalid = true;
+    return state;
+  }
+  state.invisible = !shown->isShown() || shown->isCovered();
+  state.modal = shown->isDialog() && !shown->isCovered();
+  state.active = state.modal && shown->isShown();
+  return state;
+}
+
+QAccessibleInterface* ViewAccessible::focusChild() const {
+  const auto all = children();
+  const auto focused = std::ranges::find_if(all, [](auto* one) { return one->state().focused; });
+  return isSoleElement() || focused == all.end() ? nullptr : *focused;
+}
+
+QAccessibleInterface* ViewAccessible::parent() const {
+  AccessibleSurface* shown = surface();
+  QObject* above = shown ? shown->accessibleParent() : nullptr;
+  return above ? QAccessible::queryAccessibleInterface(above) : nullptr;
+}
+
+std::vector<QAccessibleInterface*> ViewAccessible::views() const {
+  std::vector<QAccessibleInterface*> all;
+  AccessibleSurface* shown = surface();
+  if (!shown) return all;
+  for (QObject* view : shown->accessibleViews()) {
+    if (QAccessibleInterface* known = QAccessible::queryAccessibleInterface(view)) {
+      all.push_back(known);
+    }
+  }
+  return all;
+}
+
+std::vector<QAccessibleInterface*> ViewAccessible::children() const {
+  syncChildren();
+  std::vector<QAccessibleInterface*> all;
+  for (const auto id : elements_) all.push_back(QAccessible::accessibleInterface(id));
+  for (auto* view : views()) all.push_back(view);
+  return all;
+}
+
+QAccessibleInterface* ViewAccessible::child(int index) const {
+  const auto all = children();
+  const auto at = static_cast<std::size_t>(index);
+  return at < all.size() ? all[at] : nullptr;
+}
+
+int ViewAccessible::childCount() const { return static_cast<int>(children().size()); }
+
+int ViewAccessible::indexOfChild(const QAccessibleInterface* child) const {
+  const auto all = children();
+  const auto found = std::ranges::find(all, child);
+  return found == all.end() ? -1 : static_cast<int>(found - all.begin());
+}
+
+void* ViewAccessible::interface_cast(QAccessible::InterfaceType type) {
+  if (type != QAccessible::ActionInterface || !isSoleElement()) return nullptr;
+  return static_cast<QAccessibleActionInterface*>(this);
+}
+
+QStringList ViewAccessible::actionNames() const {
+  return isSoleElement() ? sole_.actionNames() : QStringList();
+}
+
+void ViewAccessible::doAction(const QString& name) {
+  if (isSoleElement()) sole_.doAction(name);
+}
+
+}  // namespace quorix::qt

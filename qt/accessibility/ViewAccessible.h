@@ -1,0 +1,69 @@
+#pragma once
+
+#include <QAccessibleObject>
+#include <string>
+#include <vector>
+
+#include "platform/foundation/Export.h"
+#include "qt/accessibility/ElementAccessible.h"
+
+namespace quorix::qt {
+
+/// A surface as assistive technology meets it: a group of its scene's elements, a dialog when it is
+/// a sheet, or, where the whole view is one element, that element itself.
+class ViewAccessible : public QAccessibleObject, public QAccessibleActionInterface {
+ public:
+  explicit ViewAccessible(QObject* owner);
+  ~ViewAccessible() override;
+
+  /// Tells assistive technology, if it listens, what differs from the scene that it was told of
+  /// last.
+  QUORIX_EXPORT static void sceneChanged(QObject& owner);
+  /// Tells where the focus is: now, or on a later turn.
+  QUORIX_EXPORT static void focusChanged(QObject& owner,
+                                         Qt::ConnectionType when = Qt::DirectConnection);
+  /// Tells when something modal came over it, or went.
+  QUORIX_EXPORT static void coverChanged(QObject& owner);
+
+  QWindow* window() const override;
+  QRect rect() const override;
+  QString text(QAccessible::Text kind) const override;
+  QAccessible::Role role() const override;
+  QAccessible::State state() const override;
+  QAccessibleInterface* focusChild() const override;
+
+  QAccessibleInterface* parent() const override;
+  QAccessibleInterface* child(int index) const override;
+  int childCount() const override;
+  int indexOfChild(const QAccessibleInterface* child) const override;
+
+  void* interface_cast(QAccessible::InterfaceType type) override;
+  QStringList actionNames() const override;
+  void doAction(const QString& name) override;
+  QStringList keyBindingsForAction(const QString&) const override { return {}; }
+
+ private:
+  /// What assistive technology was last told of an element.
+  struct Told {
+    std::string label;
+    std::string hint;
+  };
+
+  AccessibleSurface* surface() const;
+  std::vector<Told> toTell() const;
+  bool isSoleElement() const;
+  void syncChildren() const;
+  /// What tells of itself among the children.
+  std::vector<QAccessibleInterface*> views() const;
+  /// The elements, and then those.
+  std::vector<QAccessibleInterface*> children() const;
+  void update();
+  void tell(QAccessible::Event event, std::size_t index) const;
+
+  ElementAccessible sole_;
+  mutable std::vector<QAccessible::Id> elements_;
+  std::vector<Told> told_;
+  bool covered_;  ///< as told last
+};
+
+}  // namespace quorix::qt

@@ -1,0 +1,71 @@
+#include "qt/qml/Types.h"
+
+#include <QQmlInfo>
+#include <QWindow>
+
+#include "QuorixWidgets/data/TokenData.h"
+#include "QuorixWidgets/info/InfoWidgetBuilder.h"
+#include "QuorixWidgets/score/ScoreWidgetBuilder.h"
+#include "qt/SafeArea.h"
+
+namespace quorix::qml {
+namespace {
+
+std::optional<swiftui::Color> fixedColor(const QColor& color) {
+  if (!color.isValid()) return std::nullopt;
+  const QRgb value = color.rgba();
+  const auto channel = [](int part) { return static_cast<std::uint8_t>(part); };
+  return swiftui::Color::fixed({channel(qRed(value)), channel(qGreen(value)), channel(qBlue(value)),
+                                channel(qAlpha(value))});
+}
+
+}  // namespace
+
+void InfoWidget::setBackgroundColor(const QColor& color) {
+  if (replace(backgroundColor_, color)) emit backgroundColorChanged();
+}
+
+void InfoWidget::setShowBorder(bool show) {
+  if (replace(showBorder_, show)) emit showBorderChanged();
+}
+
+swiftui::View InfoWidget::widget() const {
+  return InfoWidgetBuilder::buildSwiftUIInfoWidgetView(
+      language(), {regularFace(), semiBoldFace(), fixedColor(backgroundColor_), showBorder_});
+}
+
+void ScoreWidget::setClientId(const QString& clientId) {
+  if (replace(clientId_, clientId)) emit clientIdChanged();
+}
+
+void ScoreWidget::setToken(const QString& token) {
+  if (token_ == token) return;
+  // Signed anew, the same figures are the same widget: an open sheet stays open.
+  const auto figures = [](const QString& text) { return parseTokenData(text.toStdString()); };
+  if (isComponentComplete() && figures(token_) == figures(token)) {
+    token_ = token;
+  } else {
+    replace(token_, token);
+  }
+  emit tokenChanged();
+}
+
+swiftui::View ScoreWidget::widget() const {
+  return ScoreWidgetBuilder::buildSwiftUIScoreWidgetView(
+      clientId_.toStdString(), language(), token_.toStdString(), {regularFace(), semiBoldFace()});
+}
+
+WindowSafeArea::WindowSafeArea(QObject* window) : QObject(window) {
+  auto* attachee = qobject_cast<QWindow*>(window);
+  if (!attachee) {
+    qmlWarning(window) << "WindowSafeArea has to be attached to a window";
+    return;
+  }
+  const auto say = [this, attachee] {
+    qt::setSafeArea(*attachee, QMargins(left_, top_, right_, bottom_));
+  };
+  connect(this, &WindowSafeArea::changed, this, say);
+  say();  // an edge of 0 is no change
+}
+
+}  // namespace quorix::qml

@@ -1,0 +1,130 @@
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <QColor>
+#include <QObject>
+
+#include "qt/qml/WidgetItem.h"
+#include "qt/quick/ViewItem.h"
+
+namespace quorix::qml {
+
+/// Tells the tools of QML that a `qt::ViewItem` is an item, which makes the widgets items as well.
+struct ViewItemType {
+  Q_GADGET
+  QML_FOREIGN(quorix::qt::ViewItem)
+  QML_ANONYMOUS
+};
+
+/// `SheetCloseReason.Swipe` and the others.
+namespace SheetCloseReasons {
+Q_NAMESPACE
+QML_FOREIGN_NAMESPACE(quorix::qt)
+QML_NAMED_ELEMENT(SheetCloseReason)
+}  // namespace SheetCloseReasons
+
+/// One sentence on how returns count; a tap opens a page that says more, over the window.
+///
+///     InfoWidget { width: parent.width; locale: "es"; showBorder: true }
+class InfoWidget : public quorix::qml::WidgetItem {
+  Q_OBJECT
+  QML_ELEMENT
+
+  /// The library's own until it is set, and again after `undefined`.
+  Q_PROPERTY(QColor backgroundColor READ backgroundColor WRITE setBackgroundColor RESET
+                 resetBackgroundColor NOTIFY backgroundColorChanged FINAL)
+  /// A line of one point in the color of the text.
+  Q_PROPERTY(bool showBorder READ showBorder WRITE setShowBorder NOTIFY showBorderChanged FINAL)
+
+ public:
+  using WidgetItem::WidgetItem;
+
+  QColor backgroundColor() const { return backgroundColor_; }
+  void setBackgroundColor(const QColor& color);
+  void resetBackgroundColor() { setBackgroundColor({}); }
+  bool showBorder() const { return showBorder_; }
+  void setShowBorder(bool show);
+
+ signals:
+  void backgroundColorChanged();
+  void showBorderChanged();
+
+ protected:
+  swiftui::View widget() const override;
+
+ private:
+  QColor backgroundColor_;  ///< invalid: the library's own
+  bool showBorder_ = false;
+};
+
+/// The score row of one shopper; a tap opens its detail sheet over the window. A token that cannot
+/// be read, an empty token and an empty client id show nothing and take no height.
+///
+///     ScoreWidget { width: parent.width; clientId: "my-shop"; locale: "es"; token: shopper.token }
+class ScoreWidget : public quorix::qml::WidgetItem {
+  Q_OBJECT
+  QML_ELEMENT
+
+  /// The retailer's.
+  Q_PROPERTY(QString clientId READ clientId WRITE setClientId RESET resetClientId NOTIFY
+                 clientIdChanged FINAL)
+  /// The shopper's, as the widget service issued it. Another token with the same figures leaves the
+  /// widget as it is, and its sheet open.
+  Q_PROPERTY(QString token READ token WRITE setToken RESET resetToken NOTIFY tokenChanged FINAL)
+
+ public:
+  using WidgetItem::WidgetItem;
+
+  QString clientId() const { return clientId_; }
+  void setClientId(const QString& clientId);
+  void resetClientId() { setClientId({}); }
+  QString token() const { return token_; }
+  void setToken(const QString& token);
+  void resetToken() { setToken({}); }
+
+ signals:
+  void clientIdChanged();
+  void tokenChanged();
+
+ protected:
+  swiftui::View widget() const override;
+
+ private:
+  QString clientId_;
+  QString token_;
+};
+
+/// What the device covers at the edges of a window, in points, as `qt::setSafeArea` says it. A
+/// window for which QML names an edge has its four edges from here (0 unless named), and none from
+/// Qt. Main thread.
+///
+///     Window { WindowSafeArea.top: 47; WindowSafeArea.bottom: 34 }
+class WindowSafeArea : public QObject {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_UNCREATABLE("Attach it to a window")
+  QML_ATTACHED(quorix::qml::WindowSafeArea)
+
+  Q_PROPERTY(int top MEMBER top_ NOTIFY changed FINAL)
+  Q_PROPERTY(int left MEMBER left_ NOTIFY changed FINAL)
+  Q_PROPERTY(int bottom MEMBER bottom_ NOTIFY changed FINAL)
+  Q_PROPERTY(int right MEMBER right_ NOTIFY changed FINAL)
+
+ public:
+  explicit WindowSafeArea(QObject* window);
+
+  static WindowSafeArea* qmlAttachedProperties(QObject* window) {
+    return new WindowSafeArea(window);
+  }
+
+ signals:
+  void changed();
+
+ private:
+  int top_ = 0;
+  int left_ = 0;
+  int bottom_ = 0;
+  int right_ = 0;
+};
+
+}  // namespace quorix::qml

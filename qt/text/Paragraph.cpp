@@ -1,0 +1,230 @@
+#include "qt/text/Paragraph.h"
+
+#include <QTextOption>
+#include <algorithm>
+#include <cmath>
+
+#include "platform/text/TextAnalysis.h"
+
+namespace quorix::qt {
+namespace {
+
+/// Qt breaks lines at U+2028 alone.
+QString lineSeparated(const std::string& utf8) {
+  QString text = QString::fromStdString(utf8);
+  if (utf8.find('\r') != std::string::npos)
+    text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+  for (QChar& character : text) {
+    if (character == QLatin1Char('\n') || character == QLatin1Char('\r') ||
+        character == QChar::ParagraphSeparator) {
+      character = QChar::LineSeparator;
+    }
+  }
+  return text;
+}
+
+QTextOption option(layout::LayoutDirection direction) {
+  QTextOption option;
+  option.setUseDesignMetrics(true);
+  option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+  option.setTextDirection(direction == layout::LayoutDirection::rightToLeft ? Qt::RightToLeft
+                                                                            : Qt::LeftToRight);
+  // Lines are placed by the painter, which knows the frame.
+  option.setAlignment(Qt::AlignLeft | Qt::AlignAbsolute);
+  return option;
+}
+
+/// How far the ink of a line's last glyph reaches out of it, in pixels at the most. Qt wants room
+/// for that where it breaks a line, but does not always count it into the line's width.
+double overhang(const QTextLine& line, const QString& text) {
+  int last = line.textStart() + line.textLength() - 1;
+  while (last > line.textStart() && text[last].isSpace()) --last;
+  double reach = 0;
+  const QList<QGlyphRun> runs = line.glyphRuns(last, 1);
+  for (const QGlyphRun& run : runs) {
+    const QRawFont font = run.rawFont();
+    const QList<quint32> glyphs = run.glyphIndexes();
+    const QList<QPointF> advances = font.advancesForGlyphIndexes(glyphs);
+    for (qsizetype i = 0; i < glyphs.size(); ++i) {
+      const double ink = font.boundingRect(glyphs[i]).right();
+      reach = std::max(reach, std::ceil(ink - std::floor(advances[i].x())));
+    }
+  }
+  return reach;
+}
+
+/// Pieces of one run that touch become one span: a decoration is one stroke through them all.
+void addSpan(std::vector<ShapedText::Span>& spans, const ShapedText::Span& added) {
+  constexpr double touching = 1.0 / 16;
+  for (ShapedText::Span& span : spans) {
+    const bool apart = added.left > span.right + touching || added.right < span.left - touching;
+    if (span.run != added.run || apart) continue;
+    span.left = std::min(span.left, added.left);
+    span.right = std::max(span.right, added.right);
+    return;
+  }
+  spans.push_back(added);
+}
+
+}  // namespace
+
+void keepFirstNumberWhole(QString& text) {
+  const bool splits =
+      text.size() > 2 && text[0].isDigit() && text[1].isPunct() && text[2].isDigit();
+  if (splits) text.insert(2, wordJoiner);
+}
+
+double measuredWidth(double natural, double needed, double offered) {
+  const double width = std::ceil(needed * 64) / 64;
+  return natural <= offered ? std::min(width, offered) : width;
+}
+
+void Paragraph::set(const text::AttributedText& text, QtFonts& fonts) {
+  QString characters;
+  runs_.clear();
+  for (const text::Run& run : text.runs) {
+    QString part = lineSeparated(run.text);
+    if (characters.isEmpty()) keepFirstNumberWhole(part);
+    runs_.push_back({static_cast<int>(characters.size()), static_cast<int>(part.size())});
+    characters += part;
+  }
+  if (open_) layout_.endLayout();
+  open_ = false;
+  layout_.clearFormats();
+  setText(characters, text, fonts);
+}
+
+/// The first run's size sets the scale. Other sizes are rounded to whole pixels beside it, as Qt
+/// has it.
+void Paragraph::setText(const QString& text, const text::AttributedText& attributed,
+                        QtFonts& fonts) {
+  const text::ResolvedFont first =
+      attributed.runs.empty() ? text::ResolvedFont{} : attributed.runs.front().font;
+  unit_ = ShapingFont::unit(first.points);
+  layout_.setText(text);
+  const ShapingFont& face = fonts.find(first);
+  ascent_ = face.ascent;
+  descent_ = face.descent;
+  layout_.setFont(face.font);
+  layout_.setTextOption(option(text::baseDirection(attributed)));
+  QList<QTextLayout::FormatRange> formats;
+  const auto use = [&](const text::ResolvedFont& font, long pixels, const Run& part) {
+    QTextCharFormat format;
+    format.setFont(fonts.find(font, static_cast<int>(std::max(1L, pixels))).font);
+    formats.push_back({part.start, part.length, format});
+  };
+  for (std::size_t i = 0; i < runs_.size(); ++i) {
+    const text::ResolvedFont& font = attributed.runs[i].font;
+    if (font != first && runs_[i].length > 0) use(font, std::lround(font.points / unit_), runs_[i]);
+  }
+  const auto joiner = static_cast<int>(face.hasWordJoiner ? -1 : text.indexOf(wordJoiner));
+  // Another face's joiner: so small that it makes no line higher.
+  if (joiner >= 0 && joiner < runs_.front().length) use(first, 1, {joiner, 1});
+  if (!formats.isEmpty()) layout_.setFormats(formats);
+}
+
+/// Shaping is the dear part and lasts as long as the session. A session whose only line holds the
+/// whole text can be broken again without it, but a line that Qt lays out anew keeps the height
+/// that it had: so only where no line is higher than the face.
+bool Paragraph::canBreakAgain() const {
+  if (!open_ || layout_.lineCount() != 1) return false;
+  const QTextLine line = layout_.lineAt(0);
+  return line.ascent() == ascent_ && line.descent() == descent_;
+}
+
+void Paragraph::openSession() {
+  if (canBreakAgain()) return;
+  if (open_) layout_.endLayout();
+  layout_.beginLayout();
+  open_ = true;
+}
+
+double Paragraph::widthNeeded(const QTextLine& line) const {
+  const double natural = line.naturalTextWidth();
+  const bool tooWide = natural > line.width();
+  const bool whole = layout_.lineCount() == 1 && line.textLength() == layout_.text().size();
+  if (whole || tooWide) return natural;
+  return std::max(natural, line.horizontalAdvance() + overhang(line, layout_.text()));
+}
+
+ShapedText Paragraph::breakLines(double width, bool glyphs) {
+  openSession();
+  ShapedText shaped;
+  shaped.unit = unit_;
+  double top = 0;
+  double natural = 0;
+  double needed = 0;
+  for (int number = 0;; ++number) {
+    QTextLine line = number < layout_.lineCount() ? layout_.lineAt(number) : layout_.createLine();
+    if (!line.isValid()) break;
+    line.setLineWidth(std::max(width, 0.0) / unit_);
+    line.setPosition({0, -line.ascent()});
+    const double baseline = top + line.ascent() * unit_;
+    natural = std::max(natural, line.naturalTextWidth() * unit_);
+    needed = std::max(needed, widthNeeded(line) * unit_);
+    top += (line.ascent() + line.descent() + std::max(line.leading(), 0.0)) * unit_;
+    if (!glyphs) continue;
+    shaped.lines.push_back(collect(line));
+    shaped.lines.back().baseline = baseline;
+  }
+  shaped.metrics.size = {measuredWidth(natural, needed, width), top};
+  return shaped;
+}
+
+/// Of a word in which a line may end, as far as scripts go.
+double Paragraph::longestUnspacedWord() {
+  const QString& text = layout_.text();
+  const auto words = text::unspacedWords(
+      {reinterpret_cast<const char16_t*>(text.utf16()), static_cast<std::size_t>(text.size())});
+  if (words.empty()) return 0;
+  layout_.beginLayout();
+  QTextLine line = layout_.createLine();
+  line.setLineWidth(layout::infinity);
+  double longest = 0;
+  for (const text::WordRange& word : words) {
+    const double width = line.cursorToX(word.start + word.length) - line.cursorToX(word.start);
+    longest = std::max(longest, std::abs(width) * unit_);
+  }
+  layout_.endLayout();
+  return longest;
+}
+
+double Paragraph::leastWidth() {
+  if (open_) layout_.endLayout();
+  open_ = false;
+  const QTextOption usual = layout_.textOption();
+  QTextOption wordByWord = usual;
+  wordByWord.setWrapMode(QTextOption::WordWrap);
+  layout_.setTextOption(wordByWord);
+  double least = 0;
+  layout_.beginLayout();
+  for (QTextLine line = layout_.createLine(); line.isValid(); line = layout_.createLine()) {
+    line.setLineWidth(0);
+    const double needed = line.horizontalAdvance() + overhang(line, layout_.text());
+    least = std::max({least, line.naturalTextWidth() * unit_, needed * unit_});
+  }
+  layout_.endLayout();
+  layout_.setTextOption(usual);
+  least = std::max(least, longestUnspacedWord());
+  return measuredWidth(least, least, 0);
+}
+
+ShapedText::Line Paragraph::collect(const QTextLine& line) const {
+  ShapedText::Line collected;
+  collected.advance = line.horizontalAdvance() * unit_;
+  for (std::size_t run = 0; run < runs_.size(); ++run) {
+    const int from = std::max(runs_[run].start, line.textStart());
+    const int to =
+        std::min(runs_[run].start + runs_[run].length, line.textStart() + line.textLength());
+    if (from >= to) continue;
+    const QList<QGlyphRun> glyphs = line.glyphRuns(from, to - from);
+    for (const QGlyphRun& piece : glyphs) {
+      const QRectF bounds = piece.boundingRect();
+      collected.pieces.push_back({piece, run});
+      addSpan(collected.spans, {run, bounds.left() * unit_, bounds.right() * unit_});
+    }
+  }
+  return collected;
+}
+
+}  // namespace quorix::qt

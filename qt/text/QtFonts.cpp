@@ -1,0 +1,276 @@
+#include "qt/text/QtFonts.h"
+
+#include <QFontDatabase>
+#include <QGuiApplication>
+#include <QRawFont>
+#include <QSignalBlocker>
+#include <QThread>
+#include <QtEndian>
+#include <cstdlib>
+#include <optional>
+#include <utility>
+
+#include "platform/graphics/FontManager.h"
+#include "qt/ApplicationLifetime.h"
+
+namespace quorix::qt {
+namespace {
+
+using graphics::FontManager;
+using graphics::GraphicsFont;
+
+constexpr int anySize = 12;
+
+bool hasGuiApplication() {
+  return qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr;
+}
+
+/// Runs on the thread that registers `face`; Qt's font database is used on the main thread only.
+void handToQt(const GraphicsFont& face) {
+  if (!hasGuiApplication()) return;  // `follow` does it later
+  const auto load = [name = face.postScriptName()] { RegisteredFaces::shared().find(name); };
+  if (QThread::currentThread() == qGuiApp->thread()) return load();
+  QMetaObject::invokeMethod(qGuiApp, load, Qt::QueuedConnection);
+}
+
+/// Runs when an application object is made.
+void follow() {
+  FontManager::shared().setRegistrationObserver(&handToQt);
+  if (hasGuiApplication() && FontManager::shared().generation() > 0) {
+    RegisteredFaces::shared().loadAll();
+  }
+}
+Q_COREAPP_STARTUP_FUNCTION(follow)
+
+/// The font with which Qt draws `file`. Where a face of the same family and style is installed from
+/// another foundry, Qt tells the two apart by "Family [Foundry]".
+QFont nameOf(const QRawFont& file) {
+  const auto draws = [&](const QFont& font) {  // "head" holds the file's checksum
+    return QRawFont::fromFont(font).fontTable("head") == file.fontTable("head");
+  };
+  const QFont plain = QFontDatabase::font(file.familyName(), file.styleName(), anySize);
+  if (draws(plain)) return plain;
+  const QString prefix = file.familyName() + QLatin1String(" [");
+  const QStringList families = QFontDatabase::families();
+  for (const QString& family : families) {
+    if (!family.startsWith(prefix, Qt::CaseInsensitive)) continue;  // nor does Qt tell cases apart
+    const QFont font = QFontDatabase::font(family, file.styleName(), anySize);
+    if (draws(font)) return font;
+  }
+  return plain;
+}
+
+}  // namespace
+
+RegisteredFaces& RegisteredFaces::shared() { return applicationLifetime<RegisteredFaces>(); }
+
+const QFont* RegisteredFaces::find(const std::string& name) {
+  const auto known = faces_.find(name);
+  if (known != faces_.end()) return &known->second;
+  const auto face = FontManager::shared().face(name);
+  if (!face) return nullptr;
+  const auto font = load(*face);
+  if (!font) return nullptr;
+  // Qt finds faces by family; this lets a host use the PostScript name.
+  QFont::insertSubstitution(QString::fromStdString(name), font->family());
+  return &faces_.emplace(name, *font).first->second;
+}
+
+void RegisteredFaces::loadAll() {
+  for (const GraphicsFont& face : FontManager::shared().faces()) find(face.postScriptName());
+}
+
+/// Adds a font file to Qt. If the host has added a face of that name, uses the host's: its own
+/// texts must not change.
+std::optional<QFont> RegisteredFaces::load(const GraphicsFont& face) {
+  const std::string_view data = face.data().text();
+  const QByteArray bytes(data.data(), static_cast<qsizetype>(data.size()));
+  const QString family = QString::fromStdString(face.familyName());
+  const QString style = QString::fromStdString(face.styleName());
+  if (isOfHost(family, style)) return QFontDatabase::font(family, style, anySize);
+  if (QFontDatabase::styles(family).isEmpty()) ownFamilies_ += family;
+  int id = -1;
+  {
+    // A constant may be in the making, and a slot of the host's may read it: see `announce`.
+    const QSignalBlocker quiet(qGuiApp);
+    id = QFontDatabase::addApplicationFontFromData(bytes);
+    if (id < 0) return std::nullopt;
+    ids_.insert(id);
+  }
+  announce();
+  const bool isOwn =
+      ownFamilies_.contains(family) && QFontDatabase::applicationFontFamilies(id).contains(family);
+  if (isOwn) return QFontDatabase::font(family, style, anySize);
+  return nameOf(QRawFont(bytes, anySize));
+}
+
+/// Whether the host has added such a face to Qt's application fonts.
+bool RegisteredFaces::isOfHost(const QString& family, const QString& style) const {
+  constexpr int idsToTry = 256;  // Qt numbers them from 0 and has no count of them
+  for (int id = 0; id < idsToTry; ++id) {
+    if (ids_.contains(id) || !QFontDatabase::applicationFontFamilies(id).contains(family)) continue;
+    return QFontDatabase::styles(family).contains(style);
+  }
+  return false;
+}
+
+/// Sends Qt's notice about new faces, once for all of them, with the next turn of the event loop.
+void RegisteredFaces::announce() {
+  if (!std::exchange(announced_, false)) return;
+  QMetaObject::invokeMethod(
+      qGuiApp,
+      [this] {
+        announced_ = announcing_ = true;
+        emit qGuiApp->fontDatabaseChanged();
+        announcing_ = false;
+      },
+      Qt::QueuedConnection);
+}
+
+namespace {
+
+using graphics::FontManager;
+
+/// Whether `name` is `squeezed` but for spaces and case. A desktop may have thousands of names to
+/// compare, so none is copied.
+bool squeezesTo(QStringView name, QStringView squeezed) {
+  for (const QChar character : name) {
+    if (character == QLatin1Char(' ')) continue;
+    if (squeezed.isEmpty() || character.toLower() != squeezed.front().toLower()) return false;
+    squeezed = squeezed.sliced(1);
+  }
+  return squeezed.isEmpty();
+}
+
+/// The face with that PostScript name by its usual form, family and style without their spaces.
+std::optional<QFont> postScriptFace(QString name) {
+  name.remove(QLatin1Char(' '));
+  const QString family = name.section(QLatin1Char('-'), 0, 0);
+  const QString style = name.section(QLatin1Char('-'), 1);
+  const QStringList families = QFontDatabase::families();
+  for (const QString& candidate : families) {
+    if (squeezesTo(candidate, name)) return QFont(candidate);
+    if (!squeezesTo(candidate, family)) continue;
+    const QStringList styles = QFontDatabase::styles(candidate);
+    for (const QString& known : styles) {
+      if (squeezesTo(known, style)) return QFontDatabase::font(candidate, known, 12);
+    }
+  }
+  return std::nullopt;
+}
+
+/// The face that Qt has on its own under `name`.
+std::optional<QFont> installedFace(const QString& name) {
+  if (QFontDatabase::hasFamily(name)) return QFont(name);
+  return postScriptFace(name);
+}
+
+QFont::Weight qtWeight(swiftui::FontWeight weight) {
+  switch (weight) {
+    case swiftui::FontWeight::regular:
+      return QFont::Normal;
+    case swiftui::FontWeight::medium:
+      return QFont::Medium;
+    case swiftui::FontWeight::semibold:
+      return QFont::DemiBold;
+    case swiftui::FontWeight::bold:
+      return QFont::Bold;
+  }
+  return QFont::Normal;
+}
+
+/// `named` in at least `weight`: the nearest face of its family that is no lighter, so that a face
+/// that its designer calls semi-bold stays what it is. What the family does not have is not faked.
+QFont weighted(const QFont& named, int weight) {
+  const QString family = named.family();
+  QFont nearest = named;
+  const QStringList styles = QFontDatabase::styles(family);
+  for (const QString& style : styles) {
+    const int has = QFontDatabase::weight(family, style);
+    const bool nearer = std::abs(has - weight) < std::abs(nearest.weight() - weight);
+    if (!nearer || has < named.weight() || QFontDatabase::italic(family, style)) continue;
+    nearest = QFontDatabase::font(family, style, 12);
+  }
+  return nearest;
+}
+
+/// The strikethrough that the font's designer drew, or the middle of its small letters.
+ShapingFont::Stroke strikethrough(const QRawFont& font) {
+  constexpr qsizetype sizeAt = 26, positionAt = 28;
+  const QByteArray os2 = font.fontTable("OS/2");
+  if (os2.size() >= positionAt + 2) {
+    const double size = qFromBigEndian<qint16>(os2.constData() + sizeAt) / font.unitsPerEm();
+    const double top = qFromBigEndian<qint16>(os2.constData() + positionAt) / font.unitsPerEm();
+    if (size > 0 && top > 0) return {size / 2 - top, size};
+  }
+  const double em = font.pixelSize();
+  return {-font.xHeight() / 2 / em, font.lineThickness() / em};
+}
+
+ShapingFont::Stroke underline(const QRawFont& font) {
+  const double em = font.pixelSize();
+  return {font.underlinePosition() / em, font.lineThickness() / em};
+}
+
+}  // namespace
+
+QtFonts& QtFonts::shared() { return applicationLifetime<QtFonts>(); }
+
+QtFonts::QtFonts() {
+  installSystemLookup();
+  generation_ = FontManager::shared().generation();
+  connection_ = QObject::connect(qGuiApp, &QGuiApplication::fontDatabaseChanged, [this] {
+    // New faces of ours are counted by `generation_`.
+    if (!RegisteredFaces::shared().isAnnouncing()) databaseChanged_ = true;
+  });
+}
+
+QtFonts::~QtFonts() { QObject::disconnect(connection_); }
+
+void QtFonts::installSystemLookup() { FontManager::shared().setSystemLookup(&systemKnows); }
+
+bool QtFonts::systemKnows(std::string_view name) {
+  if (qGuiApp == nullptr || name.empty()) return false;
+  // Not `hasFamily`, which first asks the system what else the name might stand for: that takes
+  // milliseconds and finds no face of that name.
+  return postScriptFace(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())))
+      .has_value();
+}
+
+bool QtFonts::refresh() {
+  const std::size_t generation = FontManager::shared().generation();
+  if (generation == generation_ && !databaseChanged_) return false;
+  ++changes_;
+  generation_ = generation;
+  databaseChanged_ = false;
+  return true;
+}
+
+QFont QtFonts::face(const std::string& name) {
+  if (const QFont* registered = RegisteredFaces::shared().find(name)) return *registered;
+  return installed_.get({changes_, name, {}, 0}, [&] {
+    const auto found = name.empty() ? std::nullopt : installedFace(QString::fromStdString(name));
+    return found ? *found : QFontDatabase::systemFont(QFontDatabase::GeneralFont);
+  });
+}
+
+ShapingFont QtFonts::find(const text::ResolvedFont& wanted, int pixels) {
+  const Key key{changes_, wanted.name, wanted.weight, pixels};
+  return fonts_.get(key, [&] { return make(key); });
+}
+
+ShapingFont QtFonts::make(const Key& key) {
+  QFont font = face(key.name);
+  if (font.weight() < qtWeight(key.weight)) {
+    RegisteredFaces::shared().loadAll();
+    font = weighted(font, qtWeight(key.weight));
+  }
+  font.setPixelSize(key.pixels);
+  font.setHintingPreference(QFont::PreferNoHinting);
+  font.setStyleStrategy(QFont::NoSubpixelAntialias);
+  const QRawFont raw = QRawFont::fromFont(font);
+  return {font,           raw.ascent(),       raw.descent(),
+          underline(raw), strikethrough(raw), raw.supportsCharacter(wordJoiner)};
+}
+
+}  // namespace quorix::qt
