@@ -22,8 +22,8 @@ std::string words(const render::TextItem& item) {
 }
 
 bool overlap(const layout::Rect& one, const layout::Rect& other) {
-  return std::min(one.right(), other.right()) - std::max(one.left(), other.left()) > touching &&
-         std::min(one.bottom(), other.bottom()) - std::max(one.top(), other.top()) > touching;
+  const layout::Size both = intersection(one, other).size;
+  return both.width > touching && both.height > touching;
 }
 
 /// What shows of the cell's widget: a sheet's panel, or the whole view.

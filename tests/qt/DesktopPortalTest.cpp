@@ -48,9 +48,7 @@ Portal& portal() {
   return *portal;
 }
 
-template <class>
-struct DesktopPortal : ::testing::Test {};
-TYPED_TEST_SUITE(DesktopPortal, Screens, ScreenName);
+SCREENS_TEST_SUITE(DesktopPortal);
 
 TYPED_TEST(DesktopPortal, TellsTheTextSizeWhichAHostMayOverride) {
   if (!portal().isThere()) GTEST_SKIP() << "needs a session bus";

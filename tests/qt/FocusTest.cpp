@@ -11,9 +11,7 @@ namespace {
 using swiftui::Text;
 using swiftui::View;
 
-template <class>
-struct Focus : ::testing::Test {};
-TYPED_TEST_SUITE(Focus, Screens, ScreenName);
+SCREENS_TEST_SUITE(Focus);
 
 TYPED_TEST(Focus, TabReachesTheRowShowsARingAroundItAndLeaves) {
   TypeParam screen;

@@ -1,7 +1,4 @@
-#include <gtest/gtest.h>
-
 #include <QLocale>
-#include <QQmlComponent>
 
 #include "QuorixWidgets/info/InfoWidgetBuilder.h"
 #include "QuorixWidgets/score/ScoreWidgetBuilder.h"
@@ -56,10 +53,7 @@ TEST_F(QmlModule, MakesWhatTheBuildersMake) {
   };
   const auto info = &InfoWidgetBuilder::buildSwiftUIInfoWidgetView;
   const auto cream = swiftui::Color::fixed({250, 247, 240, 128});
-  const struct {
-    const char* source;
-    swiftui::View expected;
-  } cases[] = {
+  const std::pair<const char*, swiftui::View> cases[] = {
       {"Score { clientId: 'shop'; token: 'TOKEN'; locale: 'es'; regularFont: '' }",
        score("shop", "es", {absent, absent})},
       {"Score { clientId: 'shop'; token: 'TOKEN'; regularFont: 'A'; semiBoldFont: 'B' }",
@@ -71,12 +65,12 @@ TEST_F(QmlModule, MakesWhatTheBuildersMake) {
       {"Info { locale: 'nb'; backgroundColor: '#80faf7f0'; showBorder: true }",
        info("nb", {absent, absent, cream, true})},
   };
-  for (const auto& tested : cases) {
-    const QQuickItem* item = add(tested.source);
+  for (const auto& [source, expected] : cases) {
+    const QQuickItem* item = add(source);
     const auto* asInfo = dynamic_cast<const Info*>(item);
     const auto view = asInfo ? asInfo->widget() : static_cast<const Score*>(item)->widget();
-    EXPECT_EQ(printTree(view), printTree(tested.expected)) << tested.source;
-    const qt::ViewItem plain(tested.expected);
+    EXPECT_EQ(printTree(view), printTree(expected)) << source;
+    const qt::ViewItem plain(expected);
     EXPECT_EQ(item->size(), QSizeF(plain.implicitWidth(), plain.implicitHeight()));
   }
   QLocale::setDefault(QLocale::c());
@@ -158,39 +152,6 @@ TEST_F(QmlModule, TellsWhatHappenedUntilItsEnd) {
     EXPECT_EQ(page->property("told").toString(),
               ends ? "activated opened Host " : "activated opened Key ");
   }
-}
-
-TEST_F(QmlModule, AListMakesARowOnceForEachPlaceItTakes) {
-  QQuickItem* list = add(R"(
-      ListView {
-        property int taken
-        width: 320; height: 400; model: 200; reuseItems: true
-        delegate: Score {
-          required property int index
-          clientId: "shop" + index; token: "TOKEN"; locale: index % 2 ? "en" : "es"
-          Component.onCompleted: ++ListView.view.taken
-          ListView.onReused: ++ListView.view.taken
-        }
-      })");
-  for (int y = 0; y < 3000; y += 330) {
-    list->setProperty("contentY", y);
-    screen.settle();
-  }
-  EXPECT_GT(list->property("taken").toInt(), 100);
-  EXPECT_EQ(made(), list->property("taken").toInt());
-}
-
-TEST_F(QmlModule, IsThereForAFileThatKnowsNothingElse) {
-  QQmlEngine engine;
-  QQmlComponent component(&engine, QUrl::fromLocalFile(TEST_DATA "/qml/Page.qml"));
-  const std::unique_ptr<QObject> page(component.create());
-  ASSERT_TRUE(page) << component.errorString().toStdString();
-  auto& item = dynamic_cast<QQuickItem&>(*page);
-  const double wide = item.implicitHeight();
-  item.setParentItem(screen.window().contentItem());
-  item.setWidth(200);
-  screen.settle();
-  EXPECT_GT(item.implicitHeight(), wide);
 }
 
 }  // namespace

@@ -45,12 +45,8 @@ TEST(QtFonts, AWeightPicksTheNearestFaceOfTheFamilyThatIsNoLighter) {
 
 // What a host's own texts find. Constants are made once: each case has a process of its own.
 
-class HostFontsDeathTest : public ::testing::Test {
- protected:
-  HostFontsDeathTest() { GTEST_FLAG_SET(death_test_style, "threadsafe"); }
-};
-
-#define EXPECT_IN_FRESH_PROCESS(condition) \
+#define EXPECT_IN_FRESH_PROCESS(condition)        \
+  GTEST_FLAG_SET(death_test_style, "threadsafe"); \
   EXPECT_EXIT(std::_Exit((condition) ? 0 : 1), ::testing::ExitedWithCode(0), "")
 
 bool hostFinds(const char* name, const char* style = "Regular") {
@@ -58,7 +54,7 @@ bool hostFinds(const char* name, const char* style = "Regular") {
   return found.family() == QLatin1String("Saans") && found.styleName() == QLatin1String(style);
 }
 
-TEST_F(HostFontsDeathTest, FindAFaceFromTheMomentItsConstantIsRead) {
+TEST(HostFontsDeathTest, FindAFaceFromTheMomentItsConstantIsRead) {
   EXPECT_IN_FRESH_PROCESS(!hostFinds("Saans") && !hostFinds("Saans-Regular") &&
                           (QuorixFont::regular(), hostFinds("Saans")) &&
                           hostFinds("Saans-Regular"));
@@ -80,7 +76,7 @@ TEST_F(HostFontsDeathTest, FindAFaceFromTheMomentItsConstantIsRead) {
   }()));
 }
 
-TEST_F(HostFontsDeathTest, AreToldOfAFaceOnceItsConstantIsThere) {
+TEST(HostFontsDeathTest, AreToldOfAFaceOnceItsConstantIsThere) {
   EXPECT_IN_FRESH_PROCESS(([] {
     int told = 0;
     QObject::connect(qGuiApp, &QGuiApplication::fontDatabaseChanged,
@@ -93,7 +89,7 @@ TEST_F(HostFontsDeathTest, AreToldOfAFaceOnceItsConstantIsThere) {
 }
 
 // A host that ships the family itself, in full perhaps, keeps it; and so do the widgets beside it.
-TEST_F(HostFontsDeathTest, StayTheHostsOwn) {
+TEST(HostFontsDeathTest, StayTheHostsOwn) {
   EXPECT_IN_FRESH_PROCESS(([] {
     const QByteArray own = testing::wideFace("Saans-Regular", "HOST");
     if (QFontDatabase::addApplicationFontFromData(own) < 0) return false;

@@ -10,9 +10,7 @@
 namespace quorix::testing {
 namespace {
 
-template <class>
-struct SafeArea : ::testing::Test {};
-TYPED_TEST_SUITE(SafeArea, Screens, ScreenName);
+SCREENS_TEST_SUITE(SafeArea);
 
 TYPED_TEST(SafeArea, ASheetKeepsClearOfItAlsoWhenTheWindowTurns) {
   TypeParam screen;
@@ -58,23 +56,20 @@ TEST(SafeAreaWatcher, FollowsQtUnlessTheHostSaysOtherwise) {
 
 TEST(SafeAreaWatcher, FollowsAHostInQml) {
   qmlRegisterType<DeviceWindow>("Device", 1, 0, "DeviceWindow");
-  const struct {
-    QByteArray edges;
-    QMargins covered;
-  } rows[] = {
+  const std::pair<QByteArray, QMargins> rows[] = {
       {"", {0, 47, 0, 34}},
       {"WindowSafeArea.top: 0", {}},
       {"WindowSafeArea.top: 40; WindowSafeArea.left: height", {8, 40, 0, 0}},
   };
-  for (const auto& row : rows) {
+  for (const auto& [edges, covered] : rows) {
     QQmlEngine engine;
     QQmlComponent component(&engine);
-    component.setData("import Device; import QuorixWidgets\nDeviceWindow {" + row.edges + "}", {});
+    component.setData("import Device; import QuorixWidgets\nDeviceWindow {" + edges + "}", {});
     const std::unique_ptr<QObject> made(component.create());
     auto* window = qobject_cast<DeviceWindow*>(made.get());
     ASSERT_TRUE(window) << component.errorString().toStdString();
     window->setHeight(8);
-    EXPECT_EQ(qt::SafeAreaWatcher(*window, [] {}).covered(), row.covered) << row.edges.data();
+    EXPECT_EQ(qt::SafeAreaWatcher(*window, [] {}).covered(), covered) << edges.data();
   }
 }
 

@@ -70,6 +70,11 @@ void Screen::key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
   settle();
 }
 
+void Screen::act(const QString& name, const QString& action) {
+  find(name)->actionInterface()->doAction(action);
+  settle();
+}
+
 void Screen::wheel(QPoint at, QPoint pixels, QPoint angle, Qt::ScrollPhase phase) {
   QWheelEvent event(at, window().mapToGlobal(at), pixels, angle, Qt::NoButton, {}, phase, false);
   QCoreApplication::sendEvent(&window(), &event);

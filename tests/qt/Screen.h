@@ -31,6 +31,8 @@ class Screen {
   void click(const QString& name);
   void clickAt(QPoint point);
   void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
+  /// Does what assistive technology can do with an element, such as to press it.
+  void act(const QString& name, const QString& action);
   /// Turns the wheel or, with a phase, moves two fingers on a trackpad.
   void wheel(QPoint at, QPoint pixels, QPoint angle, Qt::ScrollPhase phase = Qt::NoScrollPhase);
 
@@ -55,6 +57,10 @@ class Screen {
 
 /// What a user does, as a row of a table.
 using Act = std::function<void(Screen&)>;
+struct Way {
+  const char* by;
+  Act perform;
+};
 
 inline Act clicking(const char* name) {
   return [=](Screen& screen) { screen.click(name); };
@@ -62,10 +68,17 @@ inline Act clicking(const char* name) {
 inline Act dragging(QPoint from, QPoint to, int milliseconds, bool byTouch) {
   return [=](Screen& screen) { screen.drag(from, to, milliseconds, byTouch); };
 }
+inline Act turning(QPoint at, QPoint pixels, QPoint angle, Qt::ScrollPhase phase = {}) {
+  return [=](Screen& screen) { screen.wheel(at, pixels, angle, phase); };
+}
 inline Act pressing(QList<Qt::Key> keys) {
   return [=](Screen& screen) {
     for (const Qt::Key key : keys) screen.key(key);
   };
+}
+
+inline Act acting(const char* name, const QString& action) {
+  return [=](Screen& screen) { screen.act(name, action); };
 }
 
 }  // namespace quorix::testing

@@ -81,10 +81,16 @@ class WidgetScreen : public QObject, public Screen {
 };
 
 /// Every toolkit's, for what holds in all.
-///
-///     template <class> struct Sheet : ::testing::Test {};
-///     TYPED_TEST_SUITE(Sheet, Screens, ScreenName);
 using Screens = ::testing::Types<QuickScreen, WidgetScreen>;
+
+/// A suite whose tests run in each of them:
+///
+///     SCREENS_TEST_SUITE(Sheet);
+///     TYPED_TEST(Sheet, Opens) { TypeParam screen; }
+#define SCREENS_TEST_SUITE(suite)    \
+  template <class>                   \
+  struct suite : ::testing::Test {}; \
+  TYPED_TEST_SUITE(suite, ::quorix::testing::Screens, ::quorix::testing::ScreenName)
 
 /// Where a test's view stands, as high as it wants to be.
 constexpr QRectF kPlace(20, 40, 300, 0);

@@ -1,14 +1,10 @@
-#include <QAccessible>
-
 #include "tests/qt/FeeRow.h"
 #include "tests/qt/Screens.h"
 
 namespace quorix::testing {
 namespace {
 
-template <class>
-struct ScrollingSheet : ::testing::Test {};
-TYPED_TEST_SUITE(ScrollingSheet, Screens, ScreenName);
+SCREENS_TEST_SUITE(ScrollingSheet);
 
 /// Opens a sheet of 1000 points with a button at its top and one at its end.
 swiftui::View tallOpener() {
@@ -26,28 +22,15 @@ TYPED_TEST(ScrollingSheet, ScrollsByWhateverTheUserHas) {
     Act perform;
     int to;
   } rows[] = {
-      {"a notch of the wheel",
-       [&](Screen& screen) {
-         screen.wheel(at, {}, {0, -120});
-       },
-       60},
-      {"two fingers",
-       [&](Screen& screen) {
-         screen.wheel(at, {0, -33}, {0, -90}, Qt::ScrollUpdate);
-       },
-       33},
+      {"a notch of the wheel", turning(at, {}, {0, -120}), 60},
+      {"two fingers", turning(at, {0, -33}, {0, -90}, Qt::ScrollUpdate), 33},
       {"the mouse", dragging(at, up, 900, false), 100},
       {"a finger", dragging(at, up, 60, true), 100},
       {"an arrow", pressing({Qt::Key_Down}), 40},
       {"a page", pressing({Qt::Key_PageDown}), 410},
       {"the end", pressing({Qt::Key_End}), 410},
       {"Tab", pressing({Qt::Key_Tab, Qt::Key_Tab}), 396},
-      {"a screen reader",
-       [](Screen& screen) {
-         screen.find("End")->actionInterface()->doAction(
-             QAccessibleActionInterface::setFocusAction());
-       },
-       396},
+      {"a screen reader", acting("End", QAccessibleActionInterface::setFocusAction()), 396},
   };
   TypeParam screen;
   const auto eventsBelow = screen.listenBelow();

@@ -1,5 +1,3 @@
-#include <QAccessible>
-#include <QGuiApplication>
 #include <QTest>
 
 #include "tests/qt/FeeRow.h"
@@ -8,9 +6,7 @@
 namespace quorix::testing {
 namespace {
 
-template <class>
-struct Sheet : ::testing::Test {};
-TYPED_TEST_SUITE(Sheet, Screens, ScreenName);
+SCREENS_TEST_SUITE(Sheet);
 
 using enum qt::SheetCloseReason;
 
@@ -112,8 +108,9 @@ TYPED_TEST(Sheet, ItsContentPresentsFurtherSheetsAboveIt) {
   }
   EXPECT_TRUE(screen.shows("Fee 4 €"));
   EXPECT_FALSE(screen.shows("More"));
-  screen.addFocusable();  // which comes to lie below all three
+  auto* late = screen.addFocusable();  // in the window's corner, below all three
   screen.settle();
+  EXPECT_FALSE(screen.hasFocus(late));
   const int before = eventsBelow();
   screen.click("Close 4 €");
   EXPECT_FALSE(screen.shows("Fee 4 €"));
@@ -121,7 +118,7 @@ TYPED_TEST(Sheet, ItsContentPresentsFurtherSheetsAboveIt) {
   screen.key(Qt::Key_Escape);
   EXPECT_FALSE(screen.shows("Row 4 €"));
   EXPECT_TRUE(sheets[0]->state().modal);
-  QTest::mouseClick(&screen.window(), Qt::LeftButton, {}, {180, 150});  // beside
+  QTest::mouseClick(&screen.window(), Qt::LeftButton, {}, {5, 5});  // beside
   EXPECT_EQ(eventsBelow(), before);
   screen.settle();  // with the next frame the pointer may enter what lay below
   EXPECT_TRUE(screen.hasFocus(row));
@@ -168,22 +165,14 @@ TYPED_TEST(Sheet, WhatHearsOfItMayEndItsRow) {
 
 /// A tap may delete its own view, in each of these ways.
 TYPED_TEST(Sheet, ItsRowMayEndItself) {
-  const struct {
-    const char* by;
-    Act perform;
-  } means[] = {
+  const Way means[] = {
       {"a click", clicking("Leave")},
       {"a finger",
        [](Screen& screen) {
          screen.drag(screen.centerOf("Leave"), screen.centerOf("Leave"), 20, true);
        }},
       {"a key", pressing({Qt::Key_Tab, Qt::Key_Return})},
-      {"a screen reader",
-       [](Screen& screen) {
-         screen.find("Leave")->actionInterface()->doAction(
-             QAccessibleActionInterface::pressAction());
-         screen.settle();
-       }},
+      {"a screen reader", acting("Leave", QAccessibleActionInterface::pressAction())},
   };
   for (const auto& way : means) {
     SCOPED_TRACE(way.by);

@@ -40,19 +40,18 @@ View tower(double height) {
 TYPED_TEST(TallView, ShowsWhatIsInSightOfIt) {
   constexpr int height = 60'000;
   const auto tall = this->screen.add(tower(height), QRectF(0, 0, 100, height));
-  const struct {
-    int top;
-    bool ink;
-  } places[] = {{0, true},
-                {-300, false},
-                {300 - height / 2, true},
-                {-height / 4, false},
-                {600 - height, true},
-                {0, true},
-                {-300, false}};
-  for (const auto& place : places) {
-    moveTo(*tall, place.top);
-    EXPECT_EQ(this->showsInk(), place.ink) << place.top;
+  const std::pair<int, bool> places[] = {
+      {0, true},
+      {-300, false},
+      {300 - height / 2, true},
+      {-height / 4, false},
+      {600 - height, true},
+      {0, true},
+      {-300, false},
+  };
+  for (const auto& [top, ink] : places) {
+    moveTo(*tall, top);
+    EXPECT_EQ(this->showsInk(), ink) << top;
   }
 }
 

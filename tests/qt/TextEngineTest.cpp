@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <vector>
 
 #include "qt/text/QtTextEngine.h"
 #include "tests/qt/Texts.h"
@@ -26,10 +25,7 @@ AttributedText overhanging() {
 TEST(TextEngine, NarrowerIsNeverLowerAndBreaksTheSameWhenPainted) {
   const std::string words =
       "Your fee is based on how often you return, and falls as you keep more.";
-  const struct {
-    const char* name;
-    AttributedText text;
-  } samples[] = {
+  const std::pair<const char*, AttributedText> samples[] = {
       {"fractional_size", plainText(words, 15.68)},
       {"long_word",
        plainText("An uncharacteristically-hyphenated Donaudampfschifffahrtsgesellschaft!")},

@@ -64,10 +64,7 @@ TEST(TextPictures, LookAsTheTextDrawnAnew) {
   render::Scene twice = shaped(words);
   twice.items.push_back(sceneWith(link, layout::infinity, {31, 33}).items.front());
   const render::FillItem half{{{0, 0}, {55, 40}}, light};
-  const struct {
-    const char* name;
-    render::Scene scene;
-  } rows[] = {
+  const std::pair<const char*, render::Scene> rows[] = {
       {"struck through and translucent", shaped(struck)},
       {"in another color", shaped(recolored)},
       {"two runs, wrapped", wrapped},
@@ -95,9 +92,9 @@ TEST(TextPictures, LookAsTheTextDrawnAnew) {
     // Only once all have been seen, so that one may be taken for another: the second painting makes
     // a text's picture, the third copies it.
     for (int time = 0; time < 3; ++time) {
-      for (const auto& row : rows) {
-        EXPECT_EQ(paintPicture(row.scene, scale, {0, 0, 0, 0}), drawnAnew(row.scene, scale))
-            << row.name << " at " << scale << ", time " << time;
+      for (const auto& [name, scene] : rows) {
+        EXPECT_EQ(paintPicture(scene, scale, {0, 0, 0, 0}), drawnAnew(scene, scale))
+            << name << " at " << scale << ", time " << time;
       }
     }
   }

@@ -60,6 +60,11 @@ class ConcurrentUrlSession : public ::testing::Test {
     return static_cast<QNetworkReply::NetworkError>(code);
   }
 
+  using Expected = std::pair<std::string, QNetworkReply::NetworkError>;
+  void expectErrors(std::initializer_list<Expected> table) {
+    for (const auto& [address, error] : table) EXPECT_EQ(errorOf(address), error) << address;
+  }
+
   LoopbackServer server;
   qt::QtURLTransport transport;
 };

@@ -1,6 +1,4 @@
-#include <QAccessible>
-
-#include "tests/qt/FeeRow.h"
+#include "platform/swiftui/Elements.h"
 #include "tests/qt/Screens.h"
 
 namespace quorix::testing {
@@ -9,9 +7,7 @@ namespace {
 using swiftui::Text;
 using swiftui::View;
 
-template <class>
-struct Accessible : ::testing::Test {};
-TYPED_TEST_SUITE(Accessible, Screens, ScreenName);
+SCREENS_TEST_SUITE(Accessible);
 
 /// An element and what it holds: role, name and description, whether keys reach it and have.
 std::string printed(QAccessibleInterface* element, const std::string& indent = {}) {
@@ -30,32 +26,12 @@ std::string printed(QAccessibleInterface* element, const std::string& indent = {
   return text;
 }
 
-void pressThrough(Screen& screen, QAccessibleInterface* element) {
-  element->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-  screen.settle();
-}
-
-TYPED_TEST(Accessible, ARowIsExactlyOneButtonOfItsWindow) {
-  TypeParam screen;
-  auto* row = screen.add(FeeRow("4 €"), kPlace);
-  QAccessibleInterface* button = screen.find("Row 4 €");
-  ASSERT_TRUE(button);
-  EXPECT_EQ(printed(button), "Button \"Row 4 €\" \"Opens details\" focusable acts\n");
-  QAccessibleInterface* window = button->parent();
-  EXPECT_EQ(window->rect().size(), screen.window().size());
-  const std::string everything = printed(window);
-  EXPECT_EQ(everything.find("Row 4 €"), everything.rfind("Row 4 €")) << everything;
-  const QRect place = screen.placeOf(row);
-  EXPECT_EQ(button->rect(), QRect(screen.window().mapToGlobal(place.topLeft()), place.size()));
-  pressThrough(screen, button);
-  EXPECT_TRUE(screen.shows("Fee 4 €"));
-}
-
 TYPED_TEST(Accessible, SeveralElementsStandInAGroupInReadingOrder) {
   TypeParam screen;
   int taps = 0;
-  const View heading =
-      View(Text::verbatim("Title")).accessibilityAddTraits(swiftui::AccessibilityTrait::isHeader);
+  const View heading = View(Text::verbatim("Title"))
+                           .accessibilityAddTraits(swiftui::AccessibilityTrait::isHeader)
+                           .accessibilityHint(Text::verbatim("Hint"));
   auto* item =
       screen.add(swiftui::VStack(layout::HorizontalAlignment::leading, 4,
                                  {heading, Text::verbatim("Text"),
@@ -66,7 +42,7 @@ TYPED_TEST(Accessible, SeveralElementsStandInAGroupInReadingOrder) {
   screen.key(Qt::Key_Tab);
   EXPECT_EQ(printed(group),
             "Grouping\n"
-            "  Heading \"Title\"\n"
+            "  Heading \"Title\" \"Hint\"\n"
             "  StaticText \"Text\"\n"
             "  Button \"Press\" focusable focused acts\n");
   for (int i = 0; i < group->childCount(); ++i) {
@@ -74,7 +50,7 @@ TYPED_TEST(Accessible, SeveralElementsStandInAGroupInReadingOrder) {
     EXPECT_EQ(group->childAt(middle.x(), middle.y()), group->child(i));
   }
   EXPECT_EQ(group->focusChild(), group->child(2));
-  pressThrough(screen, group->child(2));
+  screen.act("Press", QAccessibleActionInterface::pressAction());
   EXPECT_EQ(taps, 1);
 }
 

@@ -1,7 +1,5 @@
 #include "qt/quick/ViewItem.h"
 
-#include <gtest/gtest.h>
-
 #include <QTest>
 #include <algorithm>
 
@@ -38,49 +36,10 @@ struct CountingItem : qt::ViewItem {
   }
 };
 
-TEST(ViewItem, IsAsWideAsItsViewWishesUnlessToldOtherwise) {
-  qt::ViewItem item(paragraph());
-  const double ideal = item.implicitWidth();
-  EXPECT_GT(ideal, 200);
-  EXPECT_EQ(item.width(), ideal);
-  item.setWidth(150);
-  EXPECT_EQ(item.implicitWidth(), ideal);
-  item.resetWidth();
-  EXPECT_EQ(item.width(), ideal);
-  EXPECT_EQ(item.height(), item.implicitHeight());
-  item.setView(Text::verbatim("Short"));
-  EXPECT_LT(item.implicitWidth(), ideal);
-}
-
-TEST(ViewItem, StandsInPositionersAndLayouts) {
-  const char* containers[] = {
-      "Column { width: 150; Row { width: 150 } Row { width: 150 } }",
-      "ColumnLayout { width: 150; Row { Layout.fillWidth: true } Row { Layout.fillWidth: true } }",
-      "Item { width: 150; Row { id: a; width: 150 } Row { width: 150; anchors.top: a.bottom } }",
-  };
-  QuickScreen screen;
-  for (const char* container : containers) {
-    const std::unique_ptr<QQuickItem> column(screen.addQml(container));
-    const auto rows = column->findChildren<qt::ViewItem*>();
-    ASSERT_EQ(rows.size(), 2);
-    for (qt::ViewItem* row : rows) row->setView(paragraph());
-    screen.settle();
-    EXPECT_GT(rows[0]->implicitHeight(), 30) << container;
-    EXPECT_EQ(rows[0]->height(), rows[0]->implicitHeight()) << container;
-    EXPECT_GE(rows[1]->y(), rows[0]->height()) << container;
-    rows[0]->setView(Text::verbatim("Short"));
-    screen.settle();
-    EXPECT_LT(rows[1]->y(), 30) << container;
-  }
-}
-
-TEST(ViewItem, WithNothingToShowItTakesNoRoomInAnyLayout) {
+TEST(ViewItem, TakesTheRoomOfWhatItShowsInAnyLayout) {
   // What stands after the row, and where when the row is empty.
   const QByteArray after = "Item { objectName: 'after'; width: 9; implicitHeight: 9; ";
-  const struct {
-    QByteArray layout;
-    QPointF after;
-  } cases[] = {
+  const std::pair<QByteArray, QPointF> cases[] = {
       {"ColumnLayout { spacing: 3; Row { } " + after + "} }", {0, 3}},
       {"ColumnLayout { spacing: 3; width: 300; height: 500; Row { Layout.fillWidth: true; "
        "Layout.fillHeight: true } " +
@@ -95,24 +54,29 @@ TEST(ViewItem, WithNothingToShowItTakesNoRoomInAnyLayout) {
       {"GridLayout { columns: 1; rowSpacing: 3; Row { } " + after + "} }", {0, 3}},
       {"GridLayout { columns: 2; columnSpacing: 3; Row { } " + after + "} }", {3, 0}},
       {"Column { spacing: 5; Row { width: 100 } " + after + "} }", {0, 0}},
+      {"Item { Row { id: row; width: 150 } " + after + "anchors.top: row.bottom } }", {0, 0}},
   };
   QuickScreen screen;
-  for (const auto& tested : cases) {
-    const std::unique_ptr<QQuickItem> layout(screen.addQml(tested.layout));
+  for (const auto& [source, whenEmpty] : cases) {
+    const std::unique_ptr<QQuickItem> layout(screen.addQml(source));
     auto* row = layout->findChild<qt::ViewItem*>();
     auto* item = layout->findChild<QQuickItem*>("after");
     screen.settle();
-    EXPECT_EQ(item->position(), tested.after) << tested.layout.constData() << " at first";
+    EXPECT_EQ(item->position(), whenEmpty) << source.constData() << " at first";
     row->setView(paragraph());
     screen.settle();
     const QPointF filled = item->position();
-    EXPECT_GT(filled.x() + filled.y(), 15) << tested.layout.constData();
+    EXPECT_GT(filled.x() + filled.y(), 15) << source.constData();
+    EXPECT_TRUE(item->x() >= row->width() || item->y() >= row->height());
+    EXPECT_GT(row->implicitWidth(), 200);
+    EXPECT_GE(row->height(), row->implicitHeight());
+    EXPECT_EQ(row->implicitHeight() > 30, row->width() < row->implicitWidth()) << "wraps";
     row->setView(View());
     screen.settle();
-    EXPECT_EQ(item->position(), tested.after) << tested.layout.constData();
+    EXPECT_EQ(item->position(), whenEmpty) << source.constData();
     row->setView(paragraph());
     screen.settle();
-    EXPECT_EQ(item->position(), filled) << tested.layout.constData();
+    EXPECT_EQ(item->position(), filled) << source.constData();
   }
 }
 
@@ -168,26 +132,6 @@ TEST(ViewItem, HasAPictureOnlyInAndNearTheViewport) {
   flickable->setProperty("contentY", 2000);
   screen.settle();
   EXPECT_EQ(pictured(), Range(46, 61));
-}
-
-TEST(ViewItem, AFingerThatScrollsTapsNothing) {
-  QuickScreen screen;
-  QQuickItem* flickable =
-      screen.addQml("Flickable { width: 360; height: 500; contentHeight: 2000 }");
-  qt::ViewItem* row = screen.add(FeeRow("4 €"), {20, 300, 300, 150});
-  row->setParentItem(flickable->property("contentItem").value<QQuickItem*>());
-  screen.settle();
-  for (const bool byTouch : {false, true}) {
-    const QPoint from = screen.centerOf("Row 4 €");
-    screen.drag(from, from - QPoint(0, 60), 200, byTouch);
-    QTest::qWait(300);
-    EXPECT_GT(flickable->property("contentY").toDouble(), 0) << byTouch;
-    EXPECT_FALSE(screen.shows("Fee 4 €")) << byTouch;
-    flickable->setProperty("contentY", 0);
-    screen.settle();
-  }
-  screen.drag(screen.centerOf("Row 4 €"), screen.centerOf("Row 4 €"), 50, true);
-  EXPECT_TRUE(screen.shows("Fee 4 €"));
 }
 
 }  // namespace

@@ -4,7 +4,6 @@
 #include <QEventLoop>
 #include <QTimer>
 #include <chrono>
-#include <utility>
 
 namespace quorix::testing {
 

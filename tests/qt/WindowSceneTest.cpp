@@ -24,9 +24,7 @@ swiftui::View opener(const std::string& page) {
   });
 }
 
-template <class>
-struct WindowScene : ::testing::Test {};
-TYPED_TEST_SUITE(WindowScene, Screens, ScreenName);
+SCREENS_TEST_SUITE(WindowScene);
 
 TYPED_TEST(WindowScene, PresentsOverTheWindowInUseAndEndsWithIt) {
   const auto scenes = [] { return uikit::UIApplication::shared().connectedScenes().size(); };

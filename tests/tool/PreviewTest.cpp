@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QDeadlineTimer>
-#include <QFile>
 #include <QImage>
 #include <QProcess>
 #include <algorithm>
@@ -9,12 +8,6 @@
 #include "Tool.h"
 
 namespace {
-
-void write(const QString& path, const QByteArray& bytes) {
-  QFile file(path);
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << path.toStdString();
-  file.write(bytes);
-}
 
 /// A preview that writes what it shows into a file, without a display.
 struct Preview {
@@ -61,15 +54,17 @@ int reachOfTitle(const QImage& screen) {
 
 }  // namespace
 
-TEST(PreviewTool, FollowsTextsAndAssets) {
+TEST(PreviewTool, FollowsTextsAndAssetsAndSaysInWhichLanguageATableIsWrong) {
   const Tool folder;
   const auto made = folder.shell(
-      "mkdir -p en.lproj && cp $STRINGS/en.lproj/Localizable.strings en.lproj && "
-      "cp -r $STRINGS/Assets.xcassets/Background.colorset . && mkdir Assets.xcassets && "
-      "mv Background.colorset Assets.xcassets");
+      "cp -r $STRINGS/en.lproj $STRINGS/de.lproj . && "
+      "sed -i 's/%\\.0f/%d/' de.lproj/Localizable.strings && mkdir Assets.xcassets && "
+      "cp -r $STRINGS/Assets.xcassets/Background.colorset Assets.xcassets");
   ASSERT_EQ(made.status, 0) << made.err;
   Preview preview({"--widget", "info", "--resources", folder.path(".")});
   ASSERT_TRUE(preview.showsAnother());
+  EXPECT_TRUE(preview.process.readAllStandardError().startsWith(
+      "quorix: preview: note: de.lproj/Localizable.strings: \""));
   const char* rows[] = {
       "sed -i 's/\"widget-read-more\".*/\"widget-read-more\" = \"Onwards\";/' "
       "en.lproj/Localizable.strings",
@@ -88,26 +83,16 @@ TEST(PreviewTool, FollowsTextsAndAssets) {
 
 TEST(PreviewTool, FollowsTranslationsThatAreReplaced) {
   const Tool folder;
-  write(folder.path("texts.json"), R"({"returns": {"title": "i"}})");
+  ASSERT_EQ(folder.shell(R"(echo '{"returns": {"title": "i"}}' > texts.json)").status, 0);
   Preview preview({"--translations", folder.path("texts.json")});
   while (preview.showsAnother() && reachOfTitle(preview.shown) > 30) {
   }
   ASSERT_LT(reachOfTitle(preview.shown), 30);
   // As editors do: a new file under the old name.
-  write(folder.path("new.json"), R"({"returns": {"title": "a title that is far longer"}})");
-  ASSERT_EQ(folder.shell("mv new.json texts.json").status, 0);
+  const auto replaced =
+      folder.shell(R"(echo '{"returns": {"title": "a title that is far longer"}}' > new.json)"
+                   "&& mv new.json texts.json");
+  ASSERT_EQ(replaced.status, 0) << replaced.err;
   EXPECT_TRUE(preview.showsAnother());
   EXPECT_GT(reachOfTitle(preview.shown), 180);
-}
-
-TEST(PreviewTool, SaysInWhichLanguageATableIsWrong) {
-  const Tool folder;
-  const auto made = folder.shell(
-      "cp -r $STRINGS/en.lproj $STRINGS/de.lproj . && "
-      "sed -i 's/%\\.0f/%d/' de.lproj/Localizable.strings");
-  ASSERT_EQ(made.status, 0) << made.err;
-  Preview preview({"--resources", folder.path(".")});
-  ASSERT_TRUE(preview.showsAnother());
-  EXPECT_TRUE(preview.process.readAllStandardError().startsWith(
-      "quorix: preview: note: de.lproj/Localizable.strings: \""));
 }

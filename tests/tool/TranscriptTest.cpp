@@ -63,8 +63,9 @@ TEST_P(ToolTranscript, HoldsLineByLine) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Transcripts, ToolTranscript,
-                         testing::Values("command_line", "tokens", "score", "info", "translations",
-                                         "overlay_url", "gallery", "preview", "strings_check"),
+                         testing::Values("command_line", "help", "tokens", "score", "info",
+                                         "translations", "overlay_url", "pictures", "gallery",
+                                         "json", "preview", "strings_check"),
                          [](const auto& file) { return std::string(file.param); });
 
 }  // namespace

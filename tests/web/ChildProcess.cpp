@@ -76,27 +76,15 @@ int runAsChild(const QString& task) {
   return 2;
 }
 
-ChildResult runChild(const QString& task, const QStringList& environment, const Place& place) {
+ChildResult runChild(const QString& line, const QString& folder) {
   auto variables = QProcessEnvironment::systemEnvironment();
   variables.remove(QStringLiteral("QTWEBENGINE_CHROMIUM_FLAGS"));  // this process's own server
-  for (const QString& entry : environment) {
-    const qsizetype equals = entry.indexOf(QLatin1Char('='));
-    if (equals < 0) variables.remove(entry);
-    if (equals >= 0) variables.insert(entry.left(equals), entry.mid(equals + 1));
-  }
+  variables.insert(QStringLiteral("SELF"), QCoreApplication::applicationFilePath());
   QProcess child;
   child.setProcessEnvironment(variables);
   child.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-  child.setWorkingDirectory(place.workingFolder);
-  if (place.programFolder.isEmpty()) {
-    child.start(QCoreApplication::applicationFilePath(), {task});
-  } else {
-    // By its bare name, as a shell finds it.
-    child.start(QStringLiteral("/bin/bash"),
-                {QStringLiteral("-c"), QStringLiteral("PATH=\"$0\"; exec -a \"$3\" \"$1\" \"$2\""),
-                 place.programFolder, place.program, task,
-                 place.calledAs.isEmpty() ? place.program : place.calledAs});
-  }
+  child.setWorkingDirectory(folder);
+  child.start(QStringLiteral("/bin/bash"), {QStringLiteral("-c"), line});
   if (!child.waitForFinished(60000)) {
     child.kill();
     child.waitForFinished();

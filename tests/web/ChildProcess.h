@@ -2,7 +2,6 @@
 
 #include <QByteArray>
 #include <QString>
-#include <QStringList>
 
 namespace quorix::testing {
 
@@ -14,17 +13,7 @@ struct ChildResult {
   QByteArray output;
 };
 
-/// A copy of this program, called in a folder by its bare name or under another one.
-struct Place {
-  QString programFolder;  ///< empty: this program itself
-  QString program;
-  QString workingFolder;  ///< empty: the current one
-  QString calledAs{};     ///< what it is told that its name is; empty: its own
-};
-
-/// Runs this program as a process of its own for `task`, with these additional "NAME=VALUE"; a
-/// "NAME" alone is taken away.
-ChildResult runChild(const QString& task, const QStringList& environment = {},
-                     const Place& place = {});
+/// Runs a line of a shell, to which $SELF is this program, in `folder` or in the current one.
+ChildResult runChild(const QString& line, const QString& folder = {});
 
 }  // namespace quorix::testing

@@ -32,10 +32,7 @@ TYPED_TEST_SUITE(PageEnd, Screens, ScreenName);
 TYPED_TEST(PageEnd, AHangingPageIsClosedByEveryWayWithinASecond) {
   this->opener->setMotion(true);
   const QPoint outside(180, 4), down(0, 400);
-  const struct {
-    const char* what;
-    Act perform;
-  } ways[] = {
+  const Way ways[] = {
       {"Escape", pressing({Qt::Key_Escape})},
       {"Back", pressing({Qt::Key_Back})},
       {"the button", dragging(this->kAtControl, this->kAtControl, 0, false)},
@@ -47,9 +44,9 @@ TYPED_TEST(PageEnd, AHangingPageIsClosedByEveryWayWithinASecond) {
     QElapsedTimer since;
     since.start();
     way.perform(this->screen);
-    EXPECT_TRUE(waitUntil([&] { return !this->isOpen(); }, std::chrono::seconds(3))) << way.what;
-    EXPECT_LT(since.elapsed(), 1000) << way.what;
-    EXPECT_TRUE(waitUntil([&] { return TypeParam::hasFocus(this->opener); })) << way.what;
+    EXPECT_TRUE(waitUntil([&] { return !this->isOpen(); }, std::chrono::seconds(3))) << way.by;
+    EXPECT_LT(since.elapsed(), 1000) << way.by;
+    EXPECT_TRUE(waitUntil([&] { return TypeParam::hasFocus(this->opener); })) << way.by;
   }
 }
 
@@ -122,7 +119,7 @@ TYPED_TEST(PageEnd, ALoadThatStandsStillIsStopped) {
   EXPECT_TRUE(waitUntil([&] { return this->failures == 1; })) << "nothing came";
   EXPECT_GT(since.elapsed(), 400);
   EXPECT_TRUE(this->isOpen());
-  EXPECT_EQ(this->at(this->kInPage), QColor(kPageGround.red, kPageGround.green, kPageGround.blue));
+  EXPECT_EQ(this->at(this->kInPage), kGround);
 
   this->screen.key(Qt::Key_Escape);
   pages().serve("/never", {.comes = false});

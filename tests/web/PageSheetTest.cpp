@@ -19,8 +19,7 @@ TYPED_TEST(PageSheet, StandsBetweenWhatLiesBelowAndAbove) {
   const QImage shown = this->screen.grab();
   EXPECT_EQ(shown.pixelColor(180, 9), shown.pixelColor(0, 10)) << "the corners are round";
   EXPECT_EQ(shown.pixelColor(359, 9), shown.pixelColor(359, 10));
-  EXPECT_EQ(shown.pixelColor(180, 10),
-            QColor(kPageGround.red, kPageGround.green, kPageGround.blue));
+  EXPECT_EQ(shown.pixelColor(180, 10), kGround);
   QTest::mouseClick(&this->screen.window(), Qt::LeftButton, {}, this->kInPage);
   EXPECT_TRUE(this->reported("clicked"));
   EXPECT_TRUE(this->isOpen()) << "the page lies over what would close it";

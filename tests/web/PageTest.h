@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QUrl>
 #include <memory>
 #include <optional>
 #include <string>
@@ -15,6 +14,8 @@
 #include "tests/web/Pages.h"
 
 namespace quorix::testing {
+
+inline const QColor kGround(kPageGround.red, kPageGround.green, kPageGround.blue);
 
 /// A window with a row that opens a sheet with a page, and the server that the page comes from.
 template <class Screen>

@@ -12,26 +12,21 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
-const QColor kGround(kPageGround.red, kPageGround.green, kPageGround.blue);
-
 template <class Screen>
 struct PageView : PageTest<Screen> {};
 TYPED_TEST_SUITE(PageView, Screens, ScreenName);
 
 TYPED_TEST(PageView, AsksForExactlyItsAddress) {
-  const struct {
-    const char* service;
-    const char* target;
-  } rows[] = {
+  const std::pair<std::string, std::string> rows[] = {
       {kModules, "/html/overlays/info?lang"},
       {kWidget, "/users/details/?lang=no&name=A%20%26%20B%C3%A5+c&token=a/b?c%2541~"},
   };
-  for (const auto& expected : rows) {
-    this->open(std::string(expected.service) + expected.target);
+  for (const auto& [service, target] : rows) {
+    this->open(service + target);
     ASSERT_TRUE(waitUntil([] { return !pages().requests().empty(); }));
     const auto& request = pages().requests().front();
-    EXPECT_EQ(request.line.toStdString(), std::string("GET ") + expected.target + " HTTP/1.1");
-    EXPECT_EQ("https://" + request.host.toStdString(), expected.service);
+    EXPECT_EQ(request.line.toStdString(), "GET " + target + " HTTP/1.1");
+    EXPECT_EQ("https://" + request.host.toStdString(), service);
     EXPECT_THAT(request.head.toStdString(), HasSubstr("QtWebEngine/"));
     this->screen.key(Qt::Key_Escape);
     pages().forgetRequests();
@@ -42,10 +37,7 @@ TYPED_TEST(PageView, ShowsItsGroundUntilThePageHasPaintedAndWhenItFails) {
   pages().serve("/never", {.comes = false});
   pages().serve("/empty", {.status = 404, .body = ""});
   const LoopbackServer untrusted(LoopbackServer::Scheme::https);
-  const struct {
-    std::string address;
-    bool fails;  ///< and brings nothing
-  } rows[] = {
+  const std::pair<std::string, bool> rows[] = {
       {std::string(kModules) + "/never", false},
       {std::string(kModules) + "/empty", false},
       {"https://127.0.0.1:1/", true},
@@ -169,8 +161,7 @@ TYPED_TEST(PageView, ReachesNoFiles) {
     EXPECT_TRUE(this->reported("refused")) << script.toStdString();
     this->screen.settle();
     EXPECT_EQ(this->at(this->kInPage), QColor(Qt::blue)) << script.toStdString();
-    for (const QString& report : reports())
-      EXPECT_THAT(report.toStdString(), Not(HasSubstr("read")));
+    EXPECT_THAT(reports().join('\n').toStdString(), Not(HasSubstr("read")));
     this->screen.key(Qt::Key_Escape);
     pages().forgetRequests();
   }
@@ -209,18 +200,15 @@ TYPED_TEST(PageView, KeepsTheHostResponsiveUnderHostilePages) {
   pages().serve("/round", [](const auto&) {
     return examples::StandInPages::Answer{302, "", "Location: /round\r\n"};
   });
-  const struct {
-    const char* path;
-    QByteArray script;
-  } rows[] = {
+  const std::pair<std::string, QByteArray> rows[] = {
       {"/page", "setTimeout(() => { for (;;); }, 50)"},
       {"/page", "setInterval(() => { for (let i = 0; i < 50; ++i) open('/other') }, 20)"},
       {"/page", "setInterval(() => { history.pushState(0, 0, '#' + Math.random()) }, 1)"},
       {"/round", {}},
   };
-  for (const auto& row : rows) {
-    pages().serve("/page", page("#0000ff", {}, row.script));
-    this->open(std::string(kModules) + row.path);
+  for (const auto& [path, script] : rows) {
+    pages().serve("/page", page("#0000ff", {}, script));
+    this->open(kModules + path);
     ASSERT_TRUE(waitUntil([] { return pages().requests().size() > 1; }));
     QElapsedTimer turn;
     qint64 longest = 0;
@@ -229,9 +217,9 @@ TYPED_TEST(PageView, KeepsTheHostResponsiveUnderHostilePages) {
       QTest::qWait(10);
       longest = std::max(longest, turn.elapsed());
     }
-    EXPECT_LT(longest, 250) << row.path << row.script.toStdString();
+    EXPECT_LT(longest, 250) << path << script.toStdString();
     this->screen.clickAt(this->kAtControl);
-    EXPECT_FALSE(this->isOpen()) << row.path << row.script.toStdString();
+    EXPECT_FALSE(this->isOpen()) << path << script.toStdString();
     pages().forgetRequests();
   }
 }

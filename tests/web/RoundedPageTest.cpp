@@ -8,7 +8,6 @@ namespace {
 
 constexpr int kRadius = 12;
 const QPoint kInStrip(280, 18);
-const QColor kGround(kPageGround.red, kPageGround.green, kPageGround.blue);
 
 /// With a GPU's renderer, at any scale.
 class RoundedPage : public PageTest<QuickScreen> {
