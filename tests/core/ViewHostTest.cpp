@@ -107,6 +107,27 @@ TEST(ViewHostInput, ATapOutlivesAnUpdateBetweenItsHalves) {
   EXPECT_TRUE(window.sheet());
 }
 
+TEST(ViewHostInput, FocusWalksOverWhatActsAndLeavesAtTheEnds) {
+  std::string log;
+  const View keys = swiftui::HStack(layout::VerticalAlignment::top, 0,
+                                    {key(log, "a", 50), Text::verbatim("x"), key(log, "b", 50)});
+  TestWindow window(keys, {}, {200, 50});
+  auto& host = *window.host;
+  EXPECT_FALSE(host.activateFocus());
+  for (const bool forward : {true, false}) {
+    EXPECT_TRUE(host.moveFocus(forward) && host.activateFocus());
+    EXPECT_EQ(host.focusFrame(), window.element(log.substr(log.size() - 1)).frame);
+    EXPECT_TRUE(host.moveFocus(forward) && host.activateFocus());
+    EXPECT_FALSE(host.moveFocus(forward));
+    EXPECT_FALSE(host.focusFrame());
+  }
+  EXPECT_EQ(log, "abba");
+  host.moveFocus(true);
+  host.clearFocus();
+  EXPECT_FALSE(host.activateFocus());
+  for (const int index : {-1, 1, 3}) EXPECT_FALSE(host.activate(index)) << index;
+}
+
 /// A view whose body counts how often it is asked for.
 struct CountedView {
   static constexpr std::string_view typeName = "CountedView";
