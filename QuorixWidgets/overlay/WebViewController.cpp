@@ -63,7 +63,7 @@ std::shared_ptr<uikit::UIView> makeButton(const std::string& text,
 
 /// A view for the place of a page that was not loaded or has stopped: one sentence in the language
 /// `locale` and below it a button for another try, with the recognizer `tap`. It starts below the
-/// overlay's cross. Main thread.
+/// overlay's cross.
 std::shared_ptr<uikit::UIView> makePageNotice(std::string_view locale,
                                               std::shared_ptr<uikit::UITapGestureRecognizer> tap) {
   auto notice = std::make_shared<uikit::UIView>();

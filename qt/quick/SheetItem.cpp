@@ -158,7 +158,7 @@ QSGNode* SheetItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
     QMetaObject::invokeMethod(
         this, [this] { paintAgain(); }, Qt::QueuedConnection);
   }
-  node->setShade(shade_.alpha() > 0 ? boundingRect() : QRectF(), shade_);
+  node->setShade(boundingRect(), shade_);
   node->panel().setOrigin(panel_.topLeft());
   node->panel().hideTop(hiddenTop_);
   QRectF below = panel_;

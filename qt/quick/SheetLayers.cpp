@@ -19,7 +19,8 @@ SheetNode::SheetNode(QQuickWindow& window)
 }
 
 void SheetNode::setShade(const QRectF& window, const QColor& color) {
-  shade_->setRect(window);
+  // At the motion's ends it has no opacity: a frame of the whole window's blending less.
+  shade_->setRect(color.alpha() > 0 ? window : QRectF());
   shade_->setColor(color);
 }
 
