@@ -7,6 +7,8 @@
 #include <QPointer>
 #include <QSettings>
 #include <QStandardPaths>
+#include <string>
+#include <utility>
 
 #ifdef QUORIX_DBUS
 #include "qt/DesktopPortal.h"
@@ -20,6 +22,17 @@ QVariant configured(const QString& name, const QString& key, const QVariant& oth
   const QString path = QStandardPaths::locate(QStandardPaths::GenericConfigLocation, name);
   if (path.isEmpty()) return otherwise;
   return QSettings(path, QSettings::IniFormat).value(key, otherwise);
+}
+
+/// The code of Qt's default language, which every view of a list asks for.
+const std::string& languageCode() {
+  static QLocale::Language known = QLocale::AnyLanguage;
+  static std::string code;
+  const QLocale::Language language = QLocale().language();
+  if (std::exchange(known, language) != language) {
+    code = QLocale::languageToCode(language).toStdString();
+  }
+  return code;
 }
 
 }  // namespace
@@ -45,7 +58,7 @@ swiftui::Environment Desktop::environment(double scale) {
           .direction = directionOf(QGuiApplication::layoutDirection()),
           .textSize = textSize(),
           .scale = scale,
-          .language = QLocale::languageToCode(QLocale().language()).toStdString()};
+          .language = languageCode()};
 }
 
 graphics::Appearance Desktop::appearanceOf(const QPalette& palette) {

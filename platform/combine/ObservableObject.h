@@ -49,17 +49,14 @@ class QUORIX_EXPORT ObservableObject {
   /// Calls `observer` before each change for as long as the returned token lives. An observer may
   /// end its own or another subscription while it runs.
   [[nodiscard]] Cancellable onWillChange(std::function<void()> observer) {
-    if (!observers_) observers_ = std::make_unique<Observers<>>();
-    return observers_->add(std::move(observer));
+    return observers_.add(std::move(observer));
   }
 
   /// Notifies every observer. For published values.
-  void sendWillChange() {
-    if (observers_) observers_->call();
-  }
+  void sendWillChange() { observers_.call(); }
 
  private:
-  std::unique_ptr<Observers<>> observers_;  // most objects are never observed
+  Observers<> observers_;
 };
 
 /// A value. Each assignment notifies the owner's observers, passes the new value to the

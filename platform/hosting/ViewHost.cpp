@@ -107,7 +107,7 @@ void ViewHost::State::layOut(const Area& within) {
   const layout::Point centered = layout::alignedOffset({}, safe.frame.size, chosen);
   const layout::Point origin = {safe.frame.left() + std::max(0.0, centered.x),
                                 safe.frame.top() + std::max(0.0, centered.y)};
-  pass.place(*latest.root, origin, proposal);
+  pass.setFrame(*latest.root, {origin, chosen}, proposal);
   if (environment.direction == layout::LayoutDirection::rightToLeft) {
     swiftui::mirror(*latest.root, within.size.width);
   }

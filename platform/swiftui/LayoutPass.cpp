@@ -9,12 +9,19 @@ layout::Size LayoutPass::measure(Element& element, layout::ProposedSize proposal
     if (known->proposal == proposal) return known->size;
   }
   const layout::Size size = element.rules->measure(*this, element, proposal);
-  element.measured = arena.make<MeasuredSize>(proposal, size, element.measured);
+  if (!element.rules->isTransparent()) {
+    element.measured = arena.make<MeasuredSize>(proposal, size, element.measured);
+  }
   return size;
 }
 
 void LayoutPass::place(Element& element, layout::Point origin, layout::ProposedSize proposal) {
-  element.frame = {origin, measure(element, proposal)};
+  setFrame(element, {origin, measure(element, proposal)}, proposal);
+}
+
+void LayoutPass::setFrame(Element& element, const layout::Rect& frame,
+                          layout::ProposedSize proposal) {
+  element.frame = frame;
   element.rules->place(*this, element, proposal);
 }
 
@@ -22,7 +29,7 @@ void LayoutPass::placeAligned(Element& element, const layout::Rect& within,
                               layout::Alignment alignment, layout::ProposedSize proposal) {
   const layout::Size size = measure(element, proposal);
   const layout::Point offset = layout::alignedOffset(alignment, within.size, size);
-  place(element, {within.left() + offset.x, within.top() + offset.y}, proposal);
+  setFrame(element, {{within.left() + offset.x, within.top() + offset.y}, size}, proposal);
 }
 
 void mirror(Element& element, double width) {

@@ -44,13 +44,16 @@ class LayoutModifier : public Modifier, public ElementRules {
 template <class Base>
 class Transparent : public Base {
  public:
-  using Base::Base;
+  template <class... Arguments>
+  explicit Transparent(Arguments&&... arguments) : Base(std::forward<Arguments>(arguments)...) {
+    this->transparent_ = true;
+  }
 
   layout::Size measure(LayoutPass& in, Element& self, layout::ProposedSize proposal) const final {
     return in.measure(self.child(), proposal);
   }
   void place(LayoutPass& in, Element& self, layout::ProposedSize proposal) const override {
-    in.place(self.child(), self.frame.origin, proposal);
+    in.setFrame(self.child(), self.frame, proposal);
   }
   double leastWidth(LayoutPass& in, Element& self) const final {
     return in.leastWidth(self.child());

@@ -31,6 +31,9 @@ class QUORIX_EXPORT Node {
 /// How one kind of element is sized, placed and shown. `self` is the element of one evaluation.
 class ElementRules {
  public:
+  /// Whether it is laid out as its one child is. The child alone then keeps the sizes.
+  bool isTransparent() const { return transparent_; }
+
   /// The size that it chooses when offered `proposal`.
   virtual layout::Size measure(LayoutPass& in, Element& self,
                                layout::ProposedSize proposal) const = 0;
@@ -43,6 +46,8 @@ class ElementRules {
 
  protected:
   ~ElementRules() = default;
+
+  bool transparent_ = false;
 };
 
 /// The elements beside each other in one place, in order.

@@ -125,7 +125,8 @@ void Stack::place(LayoutPass& in, Element& self, ProposedSize proposal) const {
     const layout::Point cross = layout::alignedOffset(alignment_, self.frame.size, size);
     const layout::Point offset = axis_ == Axis::horizontal ? layout::Point{position, cross.y}
                                                            : layout::Point{cross.x, position};
-    in.place(*child, {self.frame.left() + offset.x, self.frame.top() + offset.y}, offered);
+    const layout::Point origin = {self.frame.left() + offset.x, self.frame.top() + offset.y};
+    in.setFrame(*child, {origin, size}, offered);
     position += along(axis_, size) + spacing_;
   }
 }
@@ -144,7 +145,9 @@ void Stack::show(DisplayListBuilder& to, const Element& self) const { to.showChi
 Stack::Offers Stack::divide(LayoutPass& in, Element& element, ProposedSize proposal) const {
   auto& self = static_cast<StackElement&>(element);
   const std::size_t count = self.children.count;
-  if (self.offers.size() == count && self.dividedFor == proposal) return self.offers;
+  const bool alike =
+      self.anyHeight ? self.dividedFor.width == proposal.width : self.dividedFor == proposal;
+  if (alike && self.offers.size() == count) return self.offers;
 
   const std::span offers(in.arena.array<std::optional<double>>(count), count);
   self.dividedFor = proposal;
@@ -161,9 +164,11 @@ Stack::Offers Stack::divide(LayoutPass& in, Element& element, ProposedSize propo
   };
 
   const std::span children(in.arena.array<StackChild>(count), count);
+  self.anyHeight = axis_ == Axis::horizontal;
   for (std::size_t i = 0; i < count; ++i) {
-    // A text's minimum width counts as 0, so shaping is skipped.
     const bool gives = axis_ == Axis::horizontal && elements[i]->isText;
+    self.anyHeight = self.anyHeight && (gives || elements[i]->isSpacer);
+    // A text's minimum width counts as 0, so shaping is skipped.
     children[i].atZero = gives ? 0 : ask(i, 0);
     children[i].atInfinity = ask(i, layout::infinity);
     children[i].isSpacer = elements[i]->isSpacer;

@@ -42,6 +42,7 @@ struct StackElement final : Element {
   // How it was divided last: measuring and placing ask for the same.
   layout::ProposedSize dividedFor;
   std::span<const std::optional<double>> offers;
+  bool anyHeight = false;  ///< a row of texts, which are as wide at every height
 };
 
 }  // namespace quorix::swiftui
