@@ -1,16 +1,12 @@
 #include "QuorixWidgets/score/ScoreWidgetBuilder.h"
 
-#include <chrono>
 #include <memory>
 #include <string>
-#include <variant>
 
 #include "QuorixWidgets/data/TokenData.h"
 #include "QuorixWidgets/localization/LocalizationRepository.h"
-#include "QuorixWidgets/localization/Translations.h"
 #include "QuorixWidgets/score/ScoreWidgetView.h"
 #include "QuorixWidgets/score/ScoreWidgetViewModel.h"
-#include "platform/foundation/URLSession.h"
 #include "platform/swiftui/Elements.h"
 
 namespace quorix {
@@ -30,14 +26,6 @@ swiftui::View ScoreWidgetBuilder::buildSwiftUIScoreWidgetView(std::string_view c
   return swiftui::Conditional(true, std::move(view));
 }
 
-void prefetch(std::string_view locale) {
-  using foundation::URLResponse;
-  const auto url = LocalizationRepository::address(locale);
-  if (!url) return;
-  const auto isTable = [](const URLResponse& response) {
-    return !std::holds_alternative<foundation::Error>(readTranslationTable(response));
-  };
-  foundation::URLSession::shared().prefetch(*url, std::chrono::minutes(5), isTable);
-}
+void prefetch(std::string_view locale) { LocalizationRepository::prefetch(locale); }
 
 }  // namespace quorix

@@ -28,9 +28,8 @@ struct QUORIX_EXPORT ScoreWidgetBuilder {
 };
 
 /// Fetches the server's texts of score widgets for `locale`, as long as none are kept. For five
-/// minutes a row that comes on screen gets them from memory, a turn of the main queue later,
-/// instead of from the server. A failure is not reported: rows then fetch for themselves. Any
-/// thread.
+/// minutes rows have them from memory, and from their first frame on, instead of from the server.
+/// A failure is not reported: rows then fetch for themselves. Any thread.
 ///
 ///     prefetch("fr");  // as soon as the shop knows its shopper's language
 QUORIX_EXPORT void prefetch(std::string_view locale);

@@ -58,14 +58,21 @@ struct URLSession::State {
 
   struct Prefetched {
     URL url;
-    std::optional<URLResponse> response;  ///< absent while it is on its way
-    Clock::time_point end = {};           ///< of its lifetime
+    std::optional<URLResponse> response;    ///< absent while it is on its way
+    std::shared_ptr<const void> made = {};  ///< of the response
+    Clock::time_point end = {};             ///< of its lifetime
   };
 
   /// Not kept: the answer has outlived its time.
-  auto prefetchedFor(const URL& url) {
+  auto prefetchedFor(std::string_view address) {
     std::erase_if(prefetched, [](const auto& p) { return p.response && p.end <= Clock::now(); });
-    return std::ranges::find(prefetched, url, &Prefetched::url);
+    return std::ranges::find_if(prefetched,
+                                [&](const auto& p) { return p.url.absoluteString() == address; });
+  }
+  auto prefetchedFor(const URL& url) { return prefetchedFor(url.absoluteString()); }
+
+  void dropEndedProtocols() {
+    std::erase_if(protocols, [](const auto& entry) { return entry.expired(); });
   }
 
   std::mutex mutex;
@@ -97,7 +104,7 @@ void URLSession::install(std::shared_ptr<URLTransport> transport) {
 std::shared_ptr<void> URLSession::registerProtocol(URLProtocol protocol) {
   auto token = std::make_shared<URLProtocol>(std::move(protocol));
   const std::scoped_lock lock(state_->mutex);
-  std::erase_if(state_->protocols, [](const auto& entry) { return entry.expired(); });
+  state_->dropEndedProtocols();
   state_->protocols.push_back(token);
   return token;
 }
@@ -107,8 +114,7 @@ void URLSession::setNetworkEnabled(bool enabled) {
   state_->networkEnabled = enabled;
 }
 
-void URLSession::prefetch(const URL& url, std::chrono::seconds lifetime,
-                          std::function<bool(const URLResponse&)> isUsable) {
+void URLSession::prefetch(const URL& url, std::chrono::seconds lifetime, Reader read) {
   {
     const std::scoped_lock lock(state_->mutex);
     if (state_->prefetchedFor(url) != state_->prefetched.end()) return;
@@ -117,18 +123,28 @@ void URLSession::prefetch(const URL& url, std::chrono::seconds lifetime,
     }
     state_->prefetched.push_back({url, {}});
   }
-  get(url, [this, url, lifetime, isUsable = std::move(isUsable)](URLResponse response) {
-    const bool usable = isUsable(response);
+  get(url, [this, url, lifetime, read = std::move(read)](URLResponse response) {
+    auto made = read(response);
     const std::scoped_lock lock(state_->mutex);
     const auto entry = state_->prefetchedFor(url);
     if (entry == state_->prefetched.end()) return;
-    if (usable) {
+    if (made) {
       entry->response = std::move(response);
+      entry->made = std::move(made);
       entry->end = State::Clock::now() + lifetime;
     } else {
       state_->prefetched.erase(entry);
     }
   });
+}
+
+std::shared_ptr<const void> URLSession::prefetched(std::string_view address) {
+  const std::scoped_lock lock(state_->mutex);
+  if (state_->prefetched.empty()) return nullptr;
+  state_->dropEndedProtocols();
+  if (!state_->protocols.empty()) return nullptr;
+  const auto kept = state_->prefetchedFor(address);
+  return kept == state_->prefetched.end() ? nullptr : kept->made;
 }
 
 std::optional<URLResponse> URLSession::answerInProcess(const URL& url) {

@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/foundation/Error.h"
@@ -65,13 +66,19 @@ class QUORIX_EXPORT URLSession {
   ///     URLSession::shared().setNetworkEnabled(false);  // until the shopper consents
   void setNetworkEnabled(bool enabled);
 
-  /// Fetches `url` and keeps the answer in memory: for `lifetime` it serves the requests that no
-  /// protocol answers. Kept are answers of the network that `isUsable` accepts (it runs on the
-  /// session's thread), of at most `mostPrefetched` addresses. While an answer is kept or on its
-  /// way the call does nothing. Any thread.
-  void prefetch(const URL& url, std::chrono::seconds lifetime,
-                std::function<bool(const URLResponse&)> isUsable);
+  /// What a reader makes of an answer: null where it is of no use.
+  using Reader = std::function<std::shared_ptr<const void>(const URLResponse&)>;
+
+  /// Fetches `url` and keeps the answer in memory, with what `read` made of it: for `lifetime` it
+  /// serves the requests that no protocol answers. Kept are answers of the network that are of use
+  /// (`read` runs on the session's thread), of at most `mostPrefetched` addresses. While an answer
+  /// is kept or on its way the call does nothing. Any thread.
+  void prefetch(const URL& url, std::chrono::seconds lifetime, Reader read);
   static constexpr std::size_t mostPrefetched = 8;
+
+  /// What the reader made of the answer that is kept for `address`. Null without one, and while a
+  /// protocol is registered, which would be asked first. Any thread.
+  std::shared_ptr<const void> prefetched(std::string_view address);
 
   /// The answer for `url` that needs no network: a protocol's, a prefetched one, or with the
   /// network off an error. For transports, on their own thread, once for each request.

@@ -3,6 +3,7 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <algorithm>
+#include <cmath>
 #include <utility>
 #include <vector>
 
@@ -18,7 +19,14 @@ QHash<QQuickWindow*, WindowWatcher*>& watchers() {
 }
 
 /// How many items are looked at anew in each frame: all of an ordinary page's.
-constexpr std::size_t kLooks = 64;
+constexpr std::size_t kLooks = 8;
+
+/// Whether all that stood at `before` stands at `now` on the same parts of pixels.
+bool keepsPixels(const QTransform& before, const QTransform& now, double scale) {
+  const auto whole = [&](double way) { return way * scale == std::round(way * scale); };
+  return before.type() <= QTransform::TxTranslate && now.type() <= QTransform::TxTranslate &&
+         whole(now.dx() - before.dx()) && whole(now.dy() - before.dy());
+}
 
 /// The part of the window that is left of it for the children of `parent`.
 QRectF viewportIn(const QQuickItem* parent) {
@@ -94,11 +102,12 @@ bool WindowWatcher::isWindowVisible() const {
 
 QRectF WindowWatcher::viewportOf(const QQuickItem& item) { return seenIn(item.parentItem()); }
 
-bool WindowWatcher::update(Group& group, const QQuickItem& parent) {
+bool WindowWatcher::update(Group& group, const QQuickItem& parent) const {
   const QTransform toWindow = parent.itemTransform(nullptr, nullptr);
   const QRectF viewport = seenIn(&parent);
   group.moved = toWindow != group.toWindow || viewport != group.viewport;
   if (!group.moved) return false;
+  group.keepsPixels = keepsPixels(group.toWindow, toWindow, window_.effectiveDevicePixelRatio());
   group.toWindow = toWindow;
   group.viewport = viewport;
   group.visibleBefore = std::exchange(group.visible, toWindow.inverted().mapRect(viewport));
@@ -111,14 +120,23 @@ void WindowWatcher::frame() {
   for (auto& [parent, group] : groups_) anyMoved |= update(group, *parent);
   if (anyMoved) {
     for (Entry& entry : entries_) {
-      if (!entry.group->moved) continue;
-      if (!entry.bounds) entry.bounds = entry.client->boundsInParent();
-      const bool concerned = entry.group->visible.intersects(*entry.bounds) ||
-                             entry.group->visibleBefore.intersects(*entry.bounds);
-      if (concerned) entry.client->placeMayHaveChanged();
+      if (entry.group->moved && isConcerned(entry)) entry.client->placeMayHaveChanged();
     }
   }
   lookAtSome();
+}
+
+/// Whether the move of its parent may change what is seen of the item, or how. Most items of a list
+/// are in sight as a whole before and after it.
+bool WindowWatcher::isConcerned(Entry& entry) {
+  const Group& group = *entry.group;
+  const bool isNew = !entry.bounds;
+  if (isNew) entry.bounds = entry.client->boundsInParent();
+  const bool seen = group.visible.intersects(*entry.bounds);
+  const bool seenBefore = group.visibleBefore.intersects(*entry.bounds);
+  if (!seen && !seenBefore) return false;
+  return isNew || !group.keepsPixels || !group.visible.contains(*entry.bounds) ||
+         !group.visibleBefore.contains(*entry.bounds);
 }
 
 void WindowWatcher::lookAtSome() {

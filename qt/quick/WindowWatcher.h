@@ -68,6 +68,7 @@ class WindowWatcher : public QObject {
     QRectF visible;   ///< the viewport in the parent's coordinates
     QRectF visibleBefore;
     bool moved = false;
+    bool keepsPixels = false;  ///< the move was one by whole pixels
     int count = 0;
   };
   struct Entry {
@@ -76,7 +77,8 @@ class WindowWatcher : public QObject {
     Group* group;
     std::optional<QRectF> bounds;  ///< in the parent's coordinates; to be asked for if absent
   };
-  static bool update(Group& group, const QQuickItem& parent);
+  bool update(Group& group, const QQuickItem& parent) const;
+  static bool isConcerned(Entry& entry);
 
   QQuickWindow& window_;
   std::unordered_map<QQuickItem*, Group> groups_;

@@ -165,6 +165,20 @@ TEST_F(Prefetch, ServesRowsFromMemoryEvenWithoutANetwork) {
                                                      "/translations/score/overlay/it.json"}));
 }
 
+TEST_F(Prefetch, GivesRowsTheirTextsAtOnce) {
+  const auto waiting = LocalizationRepository::make("fr");
+  prefetch("fr");
+  int changes = 0;
+  const auto told = waiting->onWillChange([&] { ++changes; });
+  waiting->update();
+  waiting->update();
+  EXPECT_EQ(changes, 1);
+  EXPECT_EQ(LocalizationRepository::make("fr")->strings.get(), waiting->strings.get());
+  EXPECT_EQ(MainQueue::drain(), 0);
+  const auto inFront = fake();
+  EXPECT_EQ(LocalizationRepository::make("fr")->strings.get(), builtInTranslations("fr"));
+}
+
 TEST_F(Prefetch, KeepsNothingThatWouldStandInTheWayOfBetterTexts) {
   server->body = "<html>busy</html>";
   prefetch("pt");
@@ -183,7 +197,8 @@ TEST_F(Prefetch, KeepsNothingThatWouldStandInTheWayOfBetterTexts) {
 
   inFront.reset();
   const auto url = LocalizationRepository::address("sv").value();
-  URLSession::shared().prefetch(url, std::chrono::seconds(0), [](const auto&) { return true; });
+  const auto read = [](const auto&) { return std::make_shared<int>(); };
+  URLSession::shared().prefetch(url, std::chrono::seconds(0), read);
   server->asked.clear();
   EXPECT_EQ(titleIn("sv"), "remote");
   EXPECT_EQ(server->asked.size(), 1u) << "an answer that has outlived its time";
@@ -193,8 +208,9 @@ TEST_F(Prefetch, KeepsTheLatestAddresses) {
   const auto at = [](std::size_t number) {
     return URL::parse("https://shop.example/" + std::to_string(number)).value();
   };
+  const auto read = [](const auto&) { return std::make_shared<int>(); };
   for (std::size_t i = 0; i <= 2 * URLSession::mostPrefetched + 1; ++i) {
-    URLSession::shared().prefetch(at(i / 2), std::chrono::hours(1), [](auto&) { return true; });
+    URLSession::shared().prefetch(at(i / 2), std::chrono::hours(1), read);
   }
   EXPECT_FALSE(URLSession::shared().answerInProcess(at(0)));
   EXPECT_TRUE(URLSession::shared().answerInProcess(at(1)));

@@ -1,5 +1,6 @@
 #include "qt/quick/ViewItem.h"
 
+#include <QSignalSpy>
 #include <QTest>
 #include <algorithm>
 
@@ -132,6 +133,15 @@ TEST(ViewItem, HasAPictureOnlyInAndNearTheViewport) {
   flickable->setProperty("contentY", 2000);
   screen.settle();
   EXPECT_EQ(pictured(), Range(46, 61));
+  const auto paints = [&] { return std::pair(rows[49]->paints, rows[58]->paints); };
+  const auto [first, last] = paints();
+  flickable->setProperty("contentY", 2010);
+  screen.settle();
+  EXPECT_EQ(paints(), std::pair(first, last)) << "a scroll moves pictures";
+  QSignalSpy frame(&screen.window(), &QQuickWindow::frameSwapped);
+  flickable->setProperty("contentY", 2010.5);
+  EXPECT_TRUE(frame.wait());
+  EXPECT_EQ(paints(), std::pair(first + 1, last + 1)) << "all on whole pixels in this frame";
 }
 
 }  // namespace
