@@ -61,7 +61,7 @@ quorix_public_headers(QuorixWidgets
   platform/graphics/FontManager.h
   platform/uikit/URLOpener.h)
 if(QUORIX_QT)
-  quorix_public_headers(QuorixQt qt/Picture.h qt/SafeArea.h qt/SheetCloseReason.h)
+  quorix_public_headers(QuorixQt qt/Engine.h qt/Picture.h qt/SafeArea.h qt/SheetCloseReason.h)
   quorix_public_headers(QuorixQuick qt/quick/ViewItem.h)
   quorix_public_headers(QuorixQtWidgets qt/widgets/ViewWidget.h)
 endif()

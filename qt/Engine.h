@@ -7,9 +7,9 @@ namespace quorix::qt {
 /// Puts Qt under the platform's services: the main queue, the HTTP session, the faces that Qt has,
 /// and the way out of the app for addresses.
 ///
-/// The first view item does this; call it earlier to answer requests of your own, or where no view
-/// item is made. Main thread, before or after the application object is made; every later call does
-/// nothing.
+/// The first view item does this; call it earlier to fetch texts before it, to answer requests of
+/// your own, or where no view item is made. Main thread, before or after the application object is
+/// made; every later call does nothing.
 ///
 /// Sheets with a page of the web have Qt WebEngine show it, which is loaded with the first of them.
 /// The engine wants one line before the application object is made:
@@ -19,8 +19,7 @@ namespace quorix::qt {
 /// Without it, pages in Qt Quick windows that are drawn with OpenGL are opened outside the app
 /// instead; so they all are where the engine or its component is missing.
 ///
-///     QGuiApplication app(argc, argv);
-///     quorix::qt::installEngine();
+///     quorix::qt::installEngine();  // now: `prefetch` needs the network before the first view item
 QUORIX_EXPORT void installEngine();
 
 }  // namespace quorix::qt

@@ -31,6 +31,9 @@ struct QUORIX_EXPORT ScoreWidgetBuilder {
 /// minutes rows have them from memory, and from their first frame on, instead of from the server.
 /// A failure is not reported: rows then fetch for themselves. Any thread.
 ///
+/// With Qt, the network is there from the first view item on, or from `qt::installEngine` (in
+/// `qt/Engine.h`): until then the fetch waits.
+///
 ///     prefetch("fr");  // as soon as the shop knows its shopper's language
 QUORIX_EXPORT void prefetch(std::string_view locale);
 

@@ -76,7 +76,8 @@ struct URLSession::State {
   }
 
   std::mutex mutex;
-  std::shared_ptr<URLTransport> transport = std::make_shared<NoNetwork>();
+  std::shared_ptr<URLTransport> transport;     ///< null until one is installed
+  std::vector<std::function<void()>> waiting;  ///< prefetches, for a transport
   std::vector<std::weak_ptr<URLProtocol>> protocols;
   std::vector<Prefetched> prefetched;  // the oldest first
   bool networkEnabled = true;
@@ -93,12 +94,18 @@ void URLSession::get(const URL& url, URLTransport::Completion completion) {
     const std::scoped_lock lock(state_->mutex);
     transport = state_->transport;
   }
+  if (!transport) transport = std::make_shared<NoNetwork>();
   transport->start(url, std::move(completion));
 }
 
 void URLSession::install(std::shared_ptr<URLTransport> transport) {
-  const std::scoped_lock lock(state_->mutex);
-  state_->transport = std::move(transport);
+  std::vector<std::function<void()>> waiting;
+  {
+    const std::scoped_lock lock(state_->mutex);
+    state_->transport = std::move(transport);
+    waiting.swap(state_->waiting);
+  }
+  for (const auto& fetch : waiting) fetch();
 }
 
 std::shared_ptr<void> URLSession::registerProtocol(URLProtocol protocol) {
@@ -115,15 +122,7 @@ void URLSession::setNetworkEnabled(bool enabled) {
 }
 
 void URLSession::prefetch(const URL& url, std::chrono::seconds lifetime, Reader read) {
-  {
-    const std::scoped_lock lock(state_->mutex);
-    if (state_->prefetchedFor(url) != state_->prefetched.end()) return;
-    if (state_->prefetched.size() >= mostPrefetched) {
-      state_->prefetched.erase(state_->prefetched.begin());
-    }
-    state_->prefetched.push_back({url, {}});
-  }
-  get(url, [this, url, lifetime, read = std::move(read)](URLResponse response) {
+  const auto keep = [this, url, lifetime, read = std::move(read)](URLResponse response) {
     auto made = read(response);
     const std::scoped_lock lock(state_->mutex);
     const auto entry = state_->prefetchedFor(url);
@@ -135,7 +134,17 @@ void URLSession::prefetch(const URL& url, std::chrono::seconds lifetime, Reader 
     } else {
       state_->prefetched.erase(entry);
     }
-  });
+  };
+  {
+    const std::scoped_lock lock(state_->mutex);
+    if (state_->prefetchedFor(url) != state_->prefetched.end()) return;
+    if (state_->prefetched.size() >= mostPrefetched) {
+      state_->prefetched.erase(state_->prefetched.begin());
+    }
+    state_->prefetched.push_back({url, {}});
+    if (!state_->transport) return state_->waiting.push_back([this, url, keep] { get(url, keep); });
+  }
+  get(url, keep);
 }
 
 std::shared_ptr<const void> URLSession::prefetched(std::string_view address) {

@@ -72,7 +72,8 @@ class QUORIX_EXPORT URLSession {
   /// Fetches `url` and keeps the answer in memory, with what `read` made of it: for `lifetime` it
   /// serves the requests that no protocol answers. Kept are answers of the network that are of use
   /// (`read` runs on the session's thread), of at most `mostPrefetched` addresses. While an answer
-  /// is kept or on its way the call does nothing. Any thread.
+  /// is kept or on its way the call does nothing. Without a transport it waits for the first one.
+  /// Any thread.
   void prefetch(const URL& url, std::chrono::seconds lifetime, Reader read);
   static constexpr std::size_t mostPrefetched = 8;
 

@@ -6,6 +6,8 @@
 #include "QuorixWidgets/data/TokenData.h"
 #include "QuorixWidgets/info/InfoWidgetBuilder.h"
 #include "QuorixWidgets/score/ScoreWidgetBuilder.h"
+#include "platform/foundation/URLSession.h"
+#include "qt/Engine.h"
 #include "qt/SafeArea.h"
 
 namespace quorix::qml {
@@ -53,6 +55,17 @@ void ScoreWidget::setToken(const QString& token) {
 swiftui::View ScoreWidget::widget() const {
   return ScoreWidgetBuilder::buildSwiftUIScoreWidgetView(
       clientId_.toStdString(), language(), token_.toStdString(), {regularFace(), semiBoldFace()});
+}
+
+void TextService::componentComplete() {
+  qt::installEngine();  // there may be no widget yet
+  connect(this, &TextService::changed, this, &TextService::apply);
+  apply();
+}
+
+void TextService::apply() const {
+  foundation::URLSession::shared().setNetworkEnabled(networkEnabled_);
+  if (networkEnabled_ && !prefetch_.isEmpty()) prefetch(prefetch_.toStdString());
 }
 
 WindowSafeArea::WindowSafeArea(QObject* window) : QObject(window) {

@@ -3,6 +3,7 @@
 #include <QtQml/qqmlregistration.h>
 #include <QColor>
 #include <QObject>
+#include <QQmlParserStatus>
 
 #include "qt/qml/WidgetItem.h"
 #include "qt/quick/ViewItem.h"
@@ -92,6 +93,33 @@ class ScoreWidget : public quorix::qml::WidgetItem {
  private:
   QString clientId_;
   QString token_;
+};
+
+/// Where the score widgets of the process have their texts from, as `prefetch` and
+/// `URLSession::setNetworkEnabled` say it. Of several, the one that changed last counts. Main
+/// thread.
+///
+///     TextService { prefetch: "es"; networkEnabled: consent.given }
+class TextService : public QObject, public QQmlParserStatus {
+  Q_OBJECT
+  QML_ELEMENT
+  Q_INTERFACES(QQmlParserStatus)
+
+  /// The language whose texts are fetched ahead, for the first frame of the rows; empty for none.
+  Q_PROPERTY(QString prefetch MEMBER prefetch_ NOTIFY changed FINAL)
+  /// Off, rows have what was fetched ahead or the built-in texts.
+  Q_PROPERTY(bool networkEnabled MEMBER networkEnabled_ NOTIFY changed FINAL)
+
+ signals:
+  void changed();
+
+ private:
+  void classBegin() override {}
+  void componentComplete() override;
+  void apply() const;
+
+  QString prefetch_;
+  bool networkEnabled_ = true;
 };
 
 /// What the device covers at the edges of a window, in points, as `qt::setSafeArea` says it. A

@@ -204,6 +204,14 @@ TEST_F(Prefetch, KeepsNothingThatWouldStandInTheWayOfBetterTexts) {
   EXPECT_EQ(server->asked.size(), 1u) << "an answer that has outlived its time";
 }
 
+TEST_F(Prefetch, WaitsForATransport) {
+  const foundation::Runtime::Fresh<URLSession> beforeTheEngine;
+  prefetch("fr");
+  URLSession::shared().install(server);
+  EXPECT_EQ(titleIn("fr"), "remote");
+  EXPECT_EQ(server->asked.size(), 1u);
+}
+
 TEST_F(Prefetch, KeepsTheLatestAddresses) {
   const auto at = [](std::size_t number) {
     return URL::parse("https://shop.example/" + std::to_string(number)).value();

@@ -3,6 +3,7 @@
 #include "QuorixWidgets/info/InfoWidgetBuilder.h"
 #include "QuorixWidgets/score/ScoreWidgetBuilder.h"
 #include "examples/common/TokenMint.h"
+#include "platform/foundation/Runtime.h"
 #include "platform/foundation/URLSession.h"
 #include "platform/swiftui/TreePrinter.h"
 #include "qt/qml/Types.h"
@@ -152,6 +153,30 @@ TEST_F(QmlModule, TellsWhatHappenedUntilItsEnd) {
     EXPECT_EQ(page->property("told").toString(),
               ends ? "activated opened Host " : "activated opened Key ");
   }
+}
+
+/// A server that counts, and never answers.
+struct SilentServer final : foundation::URLTransport {
+  int asked = 0;
+  void start(const foundation::URL& url, Completion completion) override {
+    ++asked;
+    if (auto answer = foundation::URLSession::shared().answerInProcess(url)) completion(*answer);
+  }
+};
+
+TEST_F(QmlModule, FetchesTextsAheadOnceTheNetworkIsOn) {
+  const foundation::Runtime::Fresh<foundation::URLSession> session;
+  const auto server = std::make_shared<SilentServer>();
+  foundation::URLSession::shared().install(server);
+  QQuickItem* page = add(R"(
+      import QuorixWidgets
+      Item {
+        property bool consent: false
+        TextService { prefetch: "fr"; networkEnabled: consent }
+      })");
+  EXPECT_EQ(server->asked, 0);
+  page->setProperty("consent", true);
+  EXPECT_EQ(server->asked, 1);
 }
 
 }  // namespace
