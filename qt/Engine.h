@@ -19,7 +19,7 @@ namespace quorix::qt {
 /// Without it, pages in Qt Quick windows that are drawn with OpenGL are opened outside the app
 /// instead; so they all are where the engine or its component is missing.
 ///
-///     quorix::qt::installEngine();  // now: `prefetch` needs the network before the first view item
+///     quorix::qt::installEngine();  // early, for what `prefetch` asks for
 QUORIX_EXPORT void installEngine();
 
 }  // namespace quorix::qt
