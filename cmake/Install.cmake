@@ -67,6 +67,10 @@ install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${quorix_licences_folder
 file(GLOB quorix_font_licences
   ${PROJECT_SOURCE_DIR}/QuorixWidgets/resources/Assets.xcassets/Fonts/OFL-*.txt)
 install(FILES ${quorix_font_licences} DESTINATION ${quorix_licences_folder} COMPONENT core)
+# To begin a theme with.
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/QuorixWidgets/resources
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/quorixwidgets COMPONENT dev FILES_MATCHING PATTERN "*.strings"
+  PATTERN "Assets.xcassets" EXCLUDE)
 
 if(QUORIX_QT)
   set(dbus "")

@@ -21,7 +21,8 @@ std::string addressText(std::string_view locale) {
 
 /// Null where none are kept.
 std::shared_ptr<const TranslationTable> prefetchedTexts(std::string_view locale) {
-  auto table = foundation::URLSession::shared().prefetched(addressText(locale));
+  const auto address = [&] { return addressText(locale); };
+  auto table = foundation::URLSession::shared().prefetched(address);
   return std::static_pointer_cast<const TranslationTable>(std::move(table));
 }
 

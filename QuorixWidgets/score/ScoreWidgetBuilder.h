@@ -28,8 +28,8 @@ struct QUORIX_EXPORT ScoreWidgetBuilder {
 };
 
 /// Fetches the server's texts of score widgets for `locale`, as long as none are kept. For five
-/// minutes rows have them from memory, and from their first frame on, instead of from the server.
-/// A failure is not reported: rows then fetch for themselves. Any thread.
+/// minutes rows with the same locale have them from memory, and from their first frame on, instead
+/// of from the server. A failure is not reported: rows then fetch for themselves. Any thread.
 ///
 /// With Qt, the network is there from the first view item on, or from `qt::installEngine` (in
 /// `qt/Engine.h`): until then the fetch waits.

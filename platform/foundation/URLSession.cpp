@@ -147,12 +147,12 @@ void URLSession::prefetch(const URL& url, std::chrono::seconds lifetime, Reader 
   get(url, keep);
 }
 
-std::shared_ptr<const void> URLSession::prefetched(std::string_view address) {
+std::shared_ptr<const void> URLSession::prefetched(const std::function<std::string()>& address) {
   const std::scoped_lock lock(state_->mutex);
   if (state_->prefetched.empty()) return nullptr;
   state_->dropEndedProtocols();
   if (!state_->protocols.empty()) return nullptr;
-  const auto kept = state_->prefetchedFor(address);
+  const auto kept = state_->prefetchedFor(address());
   return kept == state_->prefetched.end() ? nullptr : kept->made;
 }
 

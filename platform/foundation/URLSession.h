@@ -5,7 +5,6 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "platform/foundation/Error.h"
@@ -77,9 +76,10 @@ class QUORIX_EXPORT URLSession {
   void prefetch(const URL& url, std::chrono::seconds lifetime, Reader read);
   static constexpr std::size_t mostPrefetched = 8;
 
-  /// What the reader made of the answer that is kept for `address`. Null without one, and while a
-  /// protocol is registered, which would be asked first. Any thread.
-  std::shared_ptr<const void> prefetched(std::string_view address);
+  /// What the reader made of the answer that is kept for `address`, which is called only if any
+  /// is. Null without one, and while a protocol is registered, which would be asked first. Any
+  /// thread.
+  std::shared_ptr<const void> prefetched(const std::function<std::string()>& address);
 
   /// The answer for `url` that needs no network: a protocol's, a prefetched one, or with the
   /// network off an error. For transports, on their own thread, once for each request.

@@ -195,11 +195,12 @@ render::Scene ViewHost::takeScene(layout::Size size) {
   return *std::exchange(state_->scene, std::nullopt);
 }
 
-void ViewHost::rest(bool keepsSizes) {
+void ViewHost::rest() {
   state_->scene.reset();
-  if (!keepsSizes) state_->fitted = decltype(state_->fitted)();
   state_->forget();
 }
+
+void ViewHost::forgetSizes() { state_->fitted = decltype(state_->fitted)(); }
 
 const swiftui::Presentation* ViewHost::presentation() {
   if (state_->stale) state_->evaluateAgain();

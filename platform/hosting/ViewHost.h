@@ -53,9 +53,10 @@ class QUORIX_EXPORT ViewHost {
 
   /// Moves the scene out. The next call that needs a scene makes it anew.
   render::Scene takeScene(layout::Size size);
-  /// Frees the scene of a view that is out of sight, and its sizes where the surface keeps them
-  /// itself. The next call that needs one makes it anew.
-  void rest(bool keepsSizes = true);
+  /// Frees the scene of a view that is out of sight. The next call that needs one makes it anew.
+  void rest();
+  /// Frees the sizes that `sizeThatFits` has answered, for a surface that keeps them itself.
+  void forgetSizes();
 
   /// The sheet that the view asks for, or null.
   const swiftui::Presentation* presentation();

@@ -224,7 +224,8 @@ void ViewSurface::polish() {
     item_.update();
   }
   if (!seen && !item_.hasActiveFocus() && !AccessibilityBridge::isActive()) {
-    host().rest(false);  // the item has its implicit size
+    host().rest();
+    host().forgetSizes();  // the item has its implicit size
   }
 }
 
