@@ -33,6 +33,8 @@ class Action {
 
   explicit operator bool() const { return call_ != nullptr; }
   bool operator==(std::nullptr_t) const { return call_ == nullptr; }
+  /// Whether both are copies of one.
+  bool operator==(const Action& other) const { return call_ == other.call_; }
 
   /// Runs it. The action lives until the call returns, also when the call drops its last owner.
   void operator()() const {

@@ -242,17 +242,14 @@ void ViewHost::pointerCancelled() { state_->pressed.reset(); }
 
 bool ViewHost::moveFocus(bool forward) {
   const render::Scene* scene = state_->current();
-  if (!scene) return false;
-  const auto& elements = scene->accessibility;
-  const int count = static_cast<int>(elements.size());
+  const int count = scene ? static_cast<int>(scene->accessibility.size()) : 0;
   const int step = forward ? 1 : -1;
   int next = state_->focused < 0 && !forward ? count : state_->focused;
   do {
     next += step;
-  } while (next >= 0 && next < count && !elements[static_cast<std::size_t>(next)].action);
-  const bool found = next >= 0 && next < count;
-  state_->focused = found ? next : -1;
-  return found;
+  } while (next >= 0 && next < count && !scene->isFocusStop(static_cast<std::size_t>(next)));
+  state_->focused = next >= 0 && next < count ? next : -1;
+  return state_->focused >= 0;
 }
 
 /// Element `index` of the latest scene, or null when it is none that acts.
@@ -272,29 +269,32 @@ bool ViewHost::focus(int index) {
 
 void ViewHost::clearFocus() { state_->focused = -1; }
 
-int ViewHost::actingElements() const {
+int ViewHost::focusStops() const {
   const render::Scene* scene = state_->current();
-  if (!scene) return 0;
-  const auto acts = [](const auto& element) { return bool(element.action); };
-  const auto& elements = scene->accessibility;
-  return static_cast<int>(std::count_if(elements.begin(), elements.end(), acts));
+  int stops = 0;
+  const std::size_t count = scene ? scene->accessibility.size() : 0;
+  for (std::size_t i = 0; i < count; ++i) stops += scene->isFocusStop(i) ? 1 : 0;
+  return stops;
 }
 
 std::optional<layout::Rect> ViewHost::focusFrame() const {
-  if (!state_->scene || state_->focused < 0) return std::nullopt;
-  const auto& elements = state_->scene->accessibility;
-  const auto index = static_cast<std::size_t>(state_->focused);
-  if (index >= elements.size()) return std::nullopt;
-  return elements[index].frame;
+  const auto& scene = state_->scene;
+  const auto index = static_cast<std::size_t>(state_->focused);  // -1 is beyond all elements
+  if (!scene || index >= scene->accessibility.size()) return std::nullopt;
+  return scene->accessibility[index].frame;
+}
+
+std::optional<layout::Rect> ViewHost::ringFrame() const {
+  if (!focusFrame()) return std::nullopt;
+  return state_->scene->actingFrame(static_cast<std::size_t>(state_->focused));
 }
 
 bool ViewHost::activateFocus() { return activate(state_->focused); }
 
 bool ViewHost::activate(int index) {
   const render::AccessibilityElement* element = state_->acting(index);
-  if (!element) return false;
-  element->action();
-  return true;
+  if (element) element->action();
+  return element != nullptr;
 }
 
 }  // namespace quorix::hosting

@@ -79,16 +79,18 @@ class QUORIX_EXPORT ViewHost {
   foundation::Action endPress(layout::Point point);
   void pointerCancelled();
 
-  /// Moves the keyboard focus among the elements that act. False after the last one: the focus
-  /// leaves the view.
+  /// Moves the keyboard focus among the elements that act, of which those with one action are one
+  /// stop. False after the last one: the focus leaves the view.
   bool moveFocus(bool forward);
   /// Moves it to accessibility element `index` of the latest scene. False when that does not act.
   bool focus(int index);
   void clearFocus();
-  /// How many elements of the latest scene act.
-  int actingElements() const;
+  /// At how many places of the latest scene the focus stops.
+  int focusStops() const;
   /// The frame of the focused element.
   std::optional<layout::Rect> focusFrame() const;
+  /// The frame for a ring: around all that acts as the focused element does.
+  std::optional<layout::Rect> ringFrame() const;
   /// Performs the focused element's action (Enter and Space). False when nothing has the focus.
   bool activateFocus();
 

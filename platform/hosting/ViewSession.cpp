@@ -109,7 +109,7 @@ void ViewSession::focusCame(ViewFocus::Cause cause) {
   host_.scene(size());  // makes the elements to focus
   focus_.came(cause);
   // A closing sheet may return the focus to a view that became empty.
-  if (cause == ViewFocus::Cause::interruption && host_.actingElements() == 0) leaveFocus();
+  if (cause == ViewFocus::Cause::interruption && host_.focusStops() == 0) leaveFocus();
   needsFrame();
   if (host_.focusFrame()) focusMoved(true);
 }
@@ -121,7 +121,7 @@ void ViewSession::focusLeft(ViewFocus::Cause cause) {
 
 void ViewSession::leaveFocus() {
   later([this] {
-    if (hasFocus() && host_.actingElements() == 0) giveFocusOn();
+    if (hasFocus() && host_.focusStops() == 0) giveFocusOn();
   });
 }
 
@@ -164,7 +164,7 @@ void ViewFocus::came(Cause cause) {
       return;  // it is where it was
     case Cause::other:
       // With several targets, select none.
-      if (!host_.focusFrame() && host_.actingElements() == 1) host_.moveFocus(true);
+      if (!host_.focusFrame() && host_.focusStops() == 1) host_.moveFocus(true);
       ringWanted_ = false;
       return;
   }
@@ -182,7 +182,7 @@ bool ViewFocus::walk(bool forward) {
 }
 
 std::optional<layout::Rect> ViewFocus::ring() const {
-  return ringWanted_ ? host_.focusFrame() : std::nullopt;
+  return ringWanted_ ? host_.ringFrame() : std::nullopt;
 }
 
 }  // namespace quorix::hosting

@@ -59,6 +59,20 @@ const HitArea* Scene::hitTest(layout::Point point) const {
   return nearest;
 }
 
+bool Scene::isFocusStop(std::size_t index) const {
+  const foundation::Action& action = accessibility[index].action;
+  const auto alike = std::ranges::find(accessibility, action, &AccessibilityElement::action);
+  return action && alike - accessibility.begin() == static_cast<std::ptrdiff_t>(index);
+}
+
+layout::Rect Scene::actingFrame(std::size_t index) const {
+  layout::Rect frame = accessibility[index].frame;
+  for (const AccessibilityElement& element : accessibility) {
+    if (element.action == accessibility[index].action) frame = united(frame, element.frame);
+  }
+  return frame;
+}
+
 void Scene::append(Scene other, layout::Point offset) {
   for (Item& item : other.items) {
     std::visit([&](auto& part) { part.frame = part.frame.translated(offset); }, item);

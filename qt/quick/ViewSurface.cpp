@@ -233,7 +233,7 @@ void ViewSurface::refreshScene() {
   sceneStale_ = false;
   pictureStale_ = true;
   host().scene(size());
-  const bool acts = host().actingElements() > 0;
+  const bool acts = host().focusStops() > 0;
   if (acts || !item_.hasActiveFocus()) {
     item_.setActiveFocusOnTab(acts);
   } else if (item_.activeFocusOnTab()) {

@@ -243,7 +243,7 @@ void WidgetSurface::settle() {
 void WidgetSurface::refreshScene() {
   sceneStale_ = false;
   host().scene(size());
-  const bool acts = host().actingElements() > 0;
+  const bool acts = host().focusStops() > 0;
   if (acts || !widget_.hasFocus()) {
     widget_.setFocusPolicy(acts ? Qt::TabFocus : Qt::NoFocus);
   } else if (widget_.focusPolicy() != Qt::NoFocus) {

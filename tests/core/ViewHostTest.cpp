@@ -128,6 +128,24 @@ TEST(ViewHostInput, FocusWalksOverWhatActsAndLeavesAtTheEnds) {
   for (const int index : {-1, 1, 3}) EXPECT_FALSE(host.activate(index)) << index;
 }
 
+TEST(ViewHostInput, WhatOneTapMakesActIsOneStopOfTheFocus) {
+  int taps = 0;
+  const View both = swiftui::VStack(layout::HorizontalAlignment::leading, 0,
+                                    {Text::verbatim("words"), Text::verbatim("more")})
+                        .onTapGesture([&] { ++taps; });
+  TestWindow window(both, {}, {200, 60});
+  auto& host = *window.host;
+  for (const bool forward : {true, false}) {
+    EXPECT_TRUE(host.moveFocus(forward) && host.activateFocus());
+    EXPECT_EQ(host.focusFrame(), window.element("words").frame);
+    EXPECT_EQ(host.ringFrame(),
+              united(window.element("words").frame, window.element("more").frame));
+    EXPECT_FALSE(host.moveFocus(forward));
+  }
+  EXPECT_EQ(host.focusStops(), 1);
+  EXPECT_EQ(taps, 2);
+}
+
 /// A view whose body counts how often it is asked for.
 struct CountedView {
   static constexpr std::string_view typeName = "CountedView";
