@@ -58,6 +58,7 @@ struct URLSession::State {
 
   struct Prefetched {
     URL url;
+    std::function<void()> waiting;          ///< for a transport: asks; empty once it has
     std::optional<URLResponse> response;    ///< absent while it is on its way
     std::shared_ptr<const void> made = {};  ///< of the response
     Clock::time_point end = {};             ///< of its lifetime
@@ -76,8 +77,7 @@ struct URLSession::State {
   }
 
   std::mutex mutex;
-  std::shared_ptr<URLTransport> transport;     ///< null until one is installed
-  std::vector<std::function<void()>> waiting;  ///< prefetches, for a transport
+  std::shared_ptr<URLTransport> transport;  ///< null until one is installed
   std::vector<std::weak_ptr<URLProtocol>> protocols;
   std::vector<Prefetched> prefetched;  // the oldest first
   bool networkEnabled = true;
@@ -103,9 +103,11 @@ void URLSession::install(std::shared_ptr<URLTransport> transport) {
   {
     const std::scoped_lock lock(state_->mutex);
     state_->transport = std::move(transport);
-    waiting.swap(state_->waiting);
+    for (auto& entry : state_->prefetched) waiting.push_back(std::exchange(entry.waiting, nullptr));
   }
-  for (const auto& fetch : waiting) fetch();
+  for (const auto& ask : waiting) {
+    if (ask) ask();
+  }
 }
 
 std::shared_ptr<void> URLSession::registerProtocol(URLProtocol protocol) {
@@ -141,8 +143,11 @@ void URLSession::prefetch(const URL& url, std::chrono::seconds lifetime, Reader 
     if (state_->prefetched.size() >= mostPrefetched) {
       state_->prefetched.erase(state_->prefetched.begin());
     }
-    state_->prefetched.push_back({url, {}});
-    if (!state_->transport) return state_->waiting.push_back([this, url, keep] { get(url, keep); });
+    auto& entry = state_->prefetched.emplace_back(State::Prefetched{url, {}, {}});
+    if (!state_->transport) {
+      entry.waiting = [this, url, keep] { get(url, keep); };
+      return;
+    }
   }
   get(url, keep);
 }

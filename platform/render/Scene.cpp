@@ -68,7 +68,9 @@ bool Scene::isFocusStop(std::size_t index) const {
 layout::Rect Scene::actingFrame(std::size_t index) const {
   layout::Rect frame = accessibility[index].frame;
   for (const AccessibilityElement& element : accessibility) {
-    if (element.action == accessibility[index].action) frame = united(frame, element.frame);
+    if (element.action && element.action == accessibility[index].action) {
+      frame = united(frame, element.frame);
+    }
   }
   return frame;
 }

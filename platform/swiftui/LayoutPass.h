@@ -19,11 +19,11 @@ class LayoutPass {
   layout::Size measure(Element& element, layout::ProposedSize proposal);
   /// Puts `element` and all below it in place. Frames are in exact points, leading on the left.
   void place(Element& element, layout::Point origin, layout::ProposedSize proposal);
-  /// The same where the size that it chooses is known.
-  void setFrame(Element& element, const layout::Rect& frame, layout::ProposedSize proposal);
   /// The same where `element` stands in a frame of another size, by `alignment`.
   void placeAligned(Element& element, const layout::Rect& within, layout::Alignment alignment,
                     layout::ProposedSize proposal);
+  /// The same where the size that it chooses is known.
+  void setFrame(Element& element, const layout::Rect& frame, layout::ProposedSize proposal);
   /// The least width at which no word in `element` breaks, as far as that depends on its width.
   double leastWidth(Element& element) { return element.rules->leastWidth(*this, element); }
 

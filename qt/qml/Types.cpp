@@ -57,14 +57,19 @@ swiftui::View ScoreWidget::widget() const {
       clientId_.toStdString(), language(), token_.toStdString(), {regularFace(), semiBoldFace()});
 }
 
-void TextService::componentComplete() {
-  qt::installEngine();  // there may be no widget yet
-  connect(this, &TextService::changed, this, &TextService::apply);
-  apply();
+void TextService::classBegin() {
+  connect(this, &TextService::networkEnabledChanged, this,
+          [this] { foundation::URLSession::shared().setNetworkEnabled(networkEnabled_); });
 }
 
-void TextService::apply() const {
-  foundation::URLSession::shared().setNetworkEnabled(networkEnabled_);
+void TextService::componentComplete() {
+  qt::installEngine();  // there may be no widget yet
+  connect(this, &TextService::prefetchChanged, this, &TextService::fetch);
+  connect(this, &TextService::networkEnabledChanged, this, &TextService::fetch);
+  fetch();
+}
+
+void TextService::fetch() const {
   if (networkEnabled_ && !prefetch_.isEmpty()) prefetch(prefetch_.toStdString());
 }
 

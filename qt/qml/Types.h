@@ -96,8 +96,8 @@ class ScoreWidget : public quorix::qml::WidgetItem {
 };
 
 /// Where the score widgets of the process have their texts from, as `prefetch` and
-/// `URLSession::setNetworkEnabled` say it. Of several, the one that changed last counts. Main
-/// thread.
+/// `URLSession::setNetworkEnabled` say it. A switch that is not named stays as the host has it; of
+/// several, the one that changed last counts. Main thread.
 ///
 ///     TextService { prefetch: "es"; networkEnabled: consent.given }
 class TextService : public QObject, public QQmlParserStatus {
@@ -106,17 +106,18 @@ class TextService : public QObject, public QQmlParserStatus {
   Q_INTERFACES(QQmlParserStatus)
 
   /// The language whose texts are fetched ahead, for the first frame of the rows; empty for none.
-  Q_PROPERTY(QString prefetch MEMBER prefetch_ NOTIFY changed FINAL)
+  Q_PROPERTY(QString prefetch MEMBER prefetch_ NOTIFY prefetchChanged FINAL)
   /// Off, rows have what was fetched ahead or the built-in texts.
-  Q_PROPERTY(bool networkEnabled MEMBER networkEnabled_ NOTIFY changed FINAL)
+  Q_PROPERTY(bool networkEnabled MEMBER networkEnabled_ NOTIFY networkEnabledChanged FINAL)
 
  signals:
-  void changed();
+  void prefetchChanged();
+  void networkEnabledChanged();
 
  private:
-  void classBegin() override {}
+  void classBegin() override;
   void componentComplete() override;
-  void apply() const;
+  void fetch() const;
 
   QString prefetch_;
   bool networkEnabled_ = true;
