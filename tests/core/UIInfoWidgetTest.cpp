@@ -3,7 +3,6 @@
 #include <deque>
 #include <map>
 
-#include "QuorixWidgets/info/InfoWidgetBuilder.h"
 #include "QuorixWidgets/info/InfoWidgetViewModel.h"
 #include "QuorixWidgets/overlay/WebViewController.h"
 #include "platform/swiftui/UIViewRepresentable.h"
@@ -24,8 +23,10 @@ using State = uikit::UIScene::ActivationState;
 namespace {
 
 std::shared_ptr<UIInfoWidget> widget(const UIKitStyleConfiguration& style = {},
-                                     std::optional<std::string> name = std::nullopt) {
-  return UIInfoWidget::make(std::make_shared<UIInfoWidgetViewModel>(std::move(name), "en", style));
+                                     std::optional<std::string> name = std::nullopt,
+                                     const std::string& locale = "en") {
+  return UIInfoWidget::make(
+      std::make_shared<UIInfoWidgetViewModel>(std::move(name), locale, style));
 }
 
 struct WindowKind {
@@ -64,42 +65,27 @@ struct App {
 
 TEST(UIInfoWidget, IsAsDesigned) {
   const graphics::RGBA red{255, 0, 0, 255};
-  const auto view = widget({std::nullopt, "No-Such-Face", uikit::UIColor::fixed(red), true});
-  TestWindow window(swiftui::hosting(view), {}, {320, 98});
-  EXPECT_EQ(window.shown().accessibility.size(), 1u) << "the title comes with the next turn";
-  window.settle();
-  EXPECT_EQ(uikit::printViews(*view) + "\nframes\n" + render::printFrames(window.shown()) +
-                "\nread out\n" + render::printAccessibility(window.shown()),
-            contentsOf("info/imperative-en.txt"));
-  EXPECT_EQ(window.host->sizeThatFits({320, std::nullopt}), (layout::Size{320, 98}));
-}
-
-/// Designers draw the widget once: its two forms differ in the logo and in what the link looks
-/// like.
-TEST(InfoWidgetBuilder, BothFormsSetTheirTextsAlike) {
-  const InfoWidgetStyle style{std::nullopt, std::nullopt, std::nullopt, false};
-  for (const std::string locale : {"en", "de", "ar"}) {
-    SCOPED_TRACE(locale);
-    swiftui::Environment environment;
-    const bool mirrored = locale == "ar";
-    if (mirrored) environment.direction = layout::LayoutDirection::rightToLeft;
-    TestWindow declarative(InfoWidgetBuilder::buildSwiftUIInfoWidgetView(locale, style),
-                           environment);
-    TestWindow imperative(
-        swiftui::hosting(InfoWidgetBuilder::buildUIKitInfoWidgetView(locale, style)), environment);
-    imperative.settle();
-    const auto expected = itemsOf<render::TextItem>(declarative.shown()),
-               shown = itemsOf<render::TextItem>(imperative.shown());
-    ASSERT_EQ(expected.size(), 2u);
-    ASSERT_EQ(shown.size(), 2u);
-    for (std::size_t i = 0; i < 2; ++i) {
-      const layout::Rect &one = shown[i].frame, &other = expected[i].frame;
-      // Right-to-left text may have empty room on its left.
-      EXPECT_NEAR(mirrored ? one.right() : one.left(), mirrored ? other.right() : other.left(), 1);
-      EXPECT_NEAR(one.top(), other.top(), 1);
-      EXPECT_NEAR(one.size.height, other.size.height, 1);
-      EXPECT_EQ(shown[i].text.runs.size(), expected[i].text.runs.size());
-    }
+  const UIKitStyleConfiguration styled{std::nullopt, "No-Such-Face", uikit::UIColor::fixed(red),
+                                       true};
+  using enum layout::LayoutDirection;
+  const struct {
+    const char* file;
+    UIKitStyleConfiguration style;
+    const char* locale;
+    layout::LayoutDirection direction;
+  } rows[] = {{"imperative-en", styled, "en", leftToRight},
+              {"imperative-ar", {}, "ar", rightToLeft}};
+  for (const auto& row : rows) {
+    const auto view = widget(row.style, std::nullopt, row.locale);
+    TestWindow window(swiftui::hosting(view), {.direction = row.direction, .language = {}},
+                      {320, 98});
+    EXPECT_EQ(window.shown().accessibility.size(), 1u) << "the title comes with the next turn";
+    window.settle();
+    EXPECT_EQ(uikit::printViews(*view) + "\nframes\n" + render::printFrames(window.shown()) +
+                  "\nread out\n" + render::printAccessibility(window.shown()),
+              contentsOf("info/" + std::string(row.file) + ".txt"))
+        << row.file;
+    EXPECT_EQ(window.host->sizeThatFits({320, std::nullopt}), (layout::Size{320, 98}));
   }
 }
 
