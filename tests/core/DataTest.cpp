@@ -49,32 +49,6 @@ TEST(JSON, BoundsNesting) {
   EXPECT_EQ(errorCode(std::string(1'000'000, '[')), kMalformed);
 }
 
-TEST(JSON, ReadsValues) {
-  JSONDocument document;
-  EXPECT_TRUE(std::holds_alternative<Error>(document.parse("[[[")));
-  const auto result = document.parse(
-      "\xEF\xBB\xBF {\"n\":null,\"t\":true,\"s\":\"a\\u00e9\\ud83d\\ude00\\n\\u0000\",\"\":[ 1 ,\n"
-      "{\"x\":[]}, \"y\"],\"d\":-0.5e1 ,\"e\":{},\"k\\\"\":2,\"d\":3}\r\n");
-  const JSONValue top = std::get<JSONValue>(result);
-  EXPECT_EQ(top.member("n")->kind(), JSONValue::Kind::null);
-  EXPECT_EQ(top.member("t")->number(), 1);
-  EXPECT_EQ(top.member("t")->integer(), 1);
-  EXPECT_EQ(top.member("t")->string(), std::nullopt);
-  EXPECT_EQ(top.member("s")->string(), std::string_view("aé😀\n\0", 9));
-  EXPECT_EQ(top.member("s")->integer(), std::nullopt);
-  EXPECT_EQ(top.member("k\"")->number(), 2);
-  EXPECT_EQ(top.member("missing"), std::nullopt);
-
-  const auto elements = top.member("")->elements();
-  ASSERT_EQ(elements.size(), 3u);
-  EXPECT_EQ(elements[0].integer(), 1);
-  EXPECT_EQ(elements[2].string(), "y");
-  EXPECT_EQ(elements[2].member("x"), std::nullopt);
-
-  EXPECT_EQ(top.member("d")->integer(), 3) << "the last of two counts";
-  EXPECT_EQ(top.members().size(), 7u);
-}
-
 TEST(JSON, FindsTheIntegerThatANumberIsExactly) {
   forEachRow("json/integers", [](simdjson::dom::element row) {
     JSONDocument document;
@@ -178,20 +152,6 @@ void expectReading(simdjson::dom::element row) {
 TEST(UserDetails, DecodesAsPhonesDoAndNamesTheFirstReadThatFails) {
   forEachRow("users", expectReading);
   forEachRow("users_own", expectReading);
-}
-
-TEST(UserDetails, DecodesFromARecordInsideADocument) {
-  JSONDocument document;
-  const auto read = document.parse(
-      R"({"shoppers": [7, {"item_return_rate": 0.2, "item_return_percentile": 35,
-                           "return_rate_trend": -0.05}], "item_return_rate": 1})");
-  const auto& top = std::get<JSONValue>(read);
-  const auto shoppers = top.member("shoppers")->elements();
-  EXPECT_EQ(std::get<UserDetails>(UserDetails::decode(shoppers[1])), (UserDetails{0.2, -0.05, 35}));
-  EXPECT_EQ(std::get<DecodingError>(UserDetails::decode(shoppers[0])),
-            (DecodingError{Kind::typeMismatch, ""}));
-  EXPECT_EQ(std::get<DecodingError>(UserDetails::decode(top)),
-            (DecodingError{Kind::keyNotFound, "item_return_percentile"}));
 }
 
 TEST(UserDetails, KeysAreTheirTextsExactly) {

@@ -38,7 +38,6 @@ TEST(HTTPResponseReader, ReadsAnswersInPiecesOfAnySize) {
       {"length", kOk + "Content-Length: 5\r\n\r\nHello", State::complete, "Hello"},
       {"what follows", kOk + "Content-Length: 5\r\n\r\nHelloHTTP/1.1", State::complete, "Hello"},
       {"until the end", kOk + "\r\nHello", State::complete, "Hello"},
-      {"nothing until the end", kOk + "\r\n", State::complete, ""},
       {"old", "HTTP/1.0 200 OK\r\n\r\nHello", State::complete, "Hello"},
       {"interim", "HTTP/1.1 100 Go\r\n\r\nHTTP/1.1 103 See\r\nLink: x\r\n\r\n" + kOk + "\r\nHello",
        State::complete, "Hello"},
@@ -53,7 +52,6 @@ TEST(HTTPResponseReader, ReadsAnswersInPiecesOfAnySize) {
       {"half of it packed", encoded("gzip", gzip.substr(0, 20)), State::undecodable},
       {"unknown encoding", encoded("br", raw), State::undecodable},
       {"nothing", "", State::cutShort},
-      {"interim alone", "HTTP/1.1 100 Go\r\n\r\n", State::cutShort},
       {"no last chunk", kChunked + "5\r\nHello\r\n", State::cutShort},
       {"not all trailers", kChunked + "0\r\nX: y\r\n", State::cutShort},
       {"no chunk", kChunked + "Hello\r\n", State::malformed},
@@ -82,13 +80,11 @@ TEST(HTTPResponseReader, GivesUpWhatHasNoEnd) {
     std::size_t most;
   } table[] = {
       {"status line", "HTTP/1.1 200 ", line, 80 << 10},
-      {"one header", kOk + "X: ", line, 80 << 10},
       {"headers", kOk, "X: y\r\n", 80 << 10},
       {"interim answers", "", "HTTP/1.1 100 Go\r\n\r\n", 80 << 10},
       {"body", kOk + "\r\n", line, 300 << 10},
       {"length", kOk + "Content-Length: 262145\r\n\r\n", line, 200},
       {"chunk's size", kChunked, "0", 80 << 10},
-      {"chunk's extension", kChunked + "1;", line, 80 << 10},
       {"extensions", kChunked, chunk, 3 << 20},
       {"trailers", kChunked + "0\r\n", "X: y\r\n", 80 << 10},
   };

@@ -98,13 +98,11 @@ TEST(InfoWidgetView, OpensItsPageFromAnywhereOnItAndFromEachTextThatIsRead) {
   EXPECT_EQ(window.labels(), title + ", " + link) << "the logo says nothing";
   const auto area = window.shown().hitAreas.at(0).frame;
   EXPECT_EQ(area.size.width, 320) << "border and padding are part of it";
+  const layout::Point first{area.left() + 1, area.top() + 1};
+  const layout::Point last{area.right() - 1, area.bottom() - 1};
   const std::function<void()> ways[] = {
-      [&] {
-        window.tap(layout::Point{area.left() + 1, area.top() + 1});
-      },
-      [&] {
-        window.tap(layout::Point{area.right() - 1, area.bottom() - 1});
-      },
+      [&] { window.tap(first); },
+      [&] { window.tap(last); },
       [&] { window.tap(link); },
       [&] { EXPECT_TRUE(window.host->activate(0)); },
       [&] { EXPECT_TRUE(window.host->activate(1)); },

@@ -111,7 +111,6 @@ TEST(ViewLayout, PicturesStandInTheirLayoutRectangle) {
     UIEdgeInsets insets;
     const char* drawn;
   } const rows[] = {
-      {{}, "10 10 48 48"},
       {{4, 8, 4, 8}, "2 6 64 56"},           // a shadow reaches out
       {{-8, -12, -8, -4}, "22 18 32 32"},    // room around the picture
       {{-32, -32, -32, -32}, "22 22 24 24"}  // more room than there is

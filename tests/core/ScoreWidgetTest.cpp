@@ -42,16 +42,6 @@ TEST(ScoreWidgetViewModel, TheScoreAloneDecidesTheDiscount) {
   }
 }
 
-TEST(ScoreWidgetViewModel, TellsOfEachChangeBeforeItIsStored) {
-  const auto model = scoreModel(true);
-  std::vector<std::string> seen;
-  const auto token = model->onWillChange(
-      [&] { seen.push_back(model->reducedReturnFee.get() + " " + model->returnRate.get()); });
-  model->getReducedReturnFee(1200);
-  EXPECT_EQ(seen, (std::vector<std::string>{"€2.00 18%", "€12.00 18%"}));
-  EXPECT_EQ(model->baseReturnFee.get(), "€4.00");
-}
-
 TEST(ReturnRate, RoundsHalvesAwayFromZero) {
   forEachRow("rates", [](simdjson::dom::element row) {
     EXPECT_EQ(returnRateText(bitsOfDouble(row, "score_bits")), ::text(row, "rate"));

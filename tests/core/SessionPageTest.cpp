@@ -96,11 +96,9 @@ TEST(PagePlace, ReachesTheTopOnlyBetweenTheCornersAndWhereThePageCanBeCut) {
       {"a renderer that cannot cut", panel, 12, 0, 0, false, false},
       {"below a heading", {{0, 60}, {360, 340}}, 60, 0, 0, false},
       {"into the corners", {{0, 4}, {360, 396}}, 12, 8, 8, false},
-      {"out of the panel", {{-5, -30}, {370, 430}}, 12, 12, 12, true},
       {"beside a part that the device covers", {{6, 0}, {354, 400}}, 12, 12, 12, false},
       {"on a translucent ground", panel, 12, 12, 12, false, true, 2, 128},
       {"a radius of 31.5 pixels", panel, 32 / 2.625, 32 / 2.625, 12, true, true, 2.625},
-      {"the same, not cut", panel, 32 / 2.625, 0, 0, false, false, 2.625},
   };
   for (const auto& row : rows) {
     render::Scene scene;

@@ -38,7 +38,6 @@ TEST(Session, ASheetClosesByEachOfItsWays) {
          window.front().pointerLost();
          window.front().handle({Phase::released, beside, 9, 3});
        }},
-      {"another key", [&] { EXPECT_FALSE(window.key(Key::pageBack)); }},
       {"a screen reader on a text", [&] { window.front().activate(0); }},
   };
   for (const auto& way : rows) {

@@ -205,6 +205,7 @@ TEST(HostsStringTable, IsTheOneOfTheUsersLanguage) {
       memoryBundle({{"Localizable.strings", "\"%@ %@\" = \"any %2$@ %1$@\";"}}));
   EXPECT_EQ(heard("es"), "any 4 fee");
   foundation::Bundle::setMain(nullptr);
+  EXPECT_FALSE(foundation::Bundle::hasMain());
   EXPECT_EQ(heard("es"), "fee 4");
 }
 
