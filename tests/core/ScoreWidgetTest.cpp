@@ -125,8 +125,7 @@ TEST(ScoreWidgetBuilder, GivesTheEmptyBranchForWhatItCannotUse) {
       "ZGlzY291bnRlZF9mZWVfYW1vdW50IjoyOTl9fQ.s";
   ASSERT_EQ(parseTokenData(absurdScore), (TokenData{1e18, "EUR", 499, 299}));
   const std::vector<std::pair<const char*, const char*>> rows = {
-      {"shop", ""},        {"", ""},    {"shop", "h"},
-      {"shop", "h.e30.s"}, {"", token}, {"shop", absurdScore}};
+      {"shop", ""}, {"shop", "h"}, {"", token}, {"shop", absurdScore}};
   for (const auto& [clientId, shopperToken] : rows) {
     const auto view = build(clientId, "en", shopperToken);
     EXPECT_EQ(swiftui::printTree(view), "Conditional(false)\n  EmptyView\n");

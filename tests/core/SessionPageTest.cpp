@@ -198,7 +198,6 @@ TEST(SessionPage, HasLimitedTime) {
   window.open();
   window.engine->client.loading(0);
   window.wait();
-  window.settle();
   EXPECT_EQ(window.failures, 1);
 }
 
