@@ -27,9 +27,6 @@ struct Answer {
 /// A well-formed answer. `headers` are whole lines; the length is added.
 std::string httpAnswer(int status, std::string_view body, std::string_view headers = {});
 
-/// Sends nothing and never closes the connection.
-inline Answer silence() { return {}; }
-
 /// An HTTP server on 127.0.0.1, on a thread of its own, that answers as it is told. Any thread may
 /// tell it.
 class LoopbackServer {

