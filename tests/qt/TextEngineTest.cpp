@@ -58,17 +58,6 @@ TEST(TextEngine, NarrowerIsNeverLowerAndBreaksTheSameWhenPainted) {
   }
 }
 
-TEST(TextEngine, BreaksInsideAWordOnlyWhereItAloneIsTooWide) {
-  QtTextEngine engine;
-  const double word = engine.measure(plainText("extraordinarily"), layout::infinity).size.width;
-  const AttributedText text = plainText("so extraordinarily");
-  const auto lines = [&](double width) { return engine.shape(text, width).lines.size(); };
-  EXPECT_EQ(lines(layout::infinity), 1);
-  EXPECT_EQ(lines(word + 1), 2);
-  EXPECT_DOUBLE_EQ(engine.measure(text, word + 1).size.width, word);
-  EXPECT_EQ(lines(word - 1), 3);
-}
-
 TEST(TextEngine, AnEmptyTextHasALineAndNoWidth) {
   QtTextEngine engine;
   const TextMetrics line = engine.measure(plainText("x"), layout::infinity);

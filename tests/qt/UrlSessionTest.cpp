@@ -83,26 +83,6 @@ TEST_F(ConcurrentUrlSession, SendsAPlainGetOfTheAddress) {
   }
 }
 
-TEST_F(ConcurrentUrlSession, EndsAnAnswerThatHasNoEnd) {
-  const std::string filler(64 << 10, 'x');
-  std::string headers;
-  for (int i = 0; i < 1000; ++i) headers += "X-Header: x\r\n";
-  const struct {
-    const char* name;
-    std::string head, filler;
-  } table[] = {
-      {"headers", "HTTP/1.1 200 OK\r\n", headers},
-      {"redirect's body", "HTTP/1.1 302 Found\r\nLocation: /x\r\n\r\n", filler},
-  };
-  for (const auto& [name, start, rest] : table) {
-    LoopbackServer endless;
-    endless.serve("/", {start, SIZE_MAX, false, rest});
-    EXPECT_EQ(errorOf(endless.base() + "/"), QNetworkReply::UnknownContentError) << name;
-    std::this_thread::sleep_for(std::chrono::milliseconds(200));
-    EXPECT_LT(endless.bytesSent(), 8u << 20) << name;  // of 64 MB each second
-  }
-}
-
 TEST_F(ConcurrentUrlSession, EndsARequestThatTakesTooLongNotOneThatWaitedForItsTurn) {
   QtURLTransport impatient{std::chrono::milliseconds(600)};
   server.serve("/next", {httpAnswer(200, kTable)});

@@ -2,22 +2,11 @@
 
 #include <QDir>
 #include <QFile>
-#include <QImage>
 
 #include "../qt/WideFace.h"
 #include "Tool.h"
 
 namespace {
-
-const std::string score = "quorix score $(quorix mint) ", info = "quorix info ",
-                  imperative = info + "--form imperative ";
-
-QImage picture(const std::string& command) {
-  const Tool tool;
-  const auto run = tool.shell(command + " --out picture.png");
-  EXPECT_EQ(run.status, 0) << command << run.err;
-  return QImage(tool.path("picture.png"));
-}
 
 /// A name as font files hold it: two bytes for a letter, the higher first.
 QByteArray utf16(const char* name) {
@@ -28,7 +17,7 @@ QByteArray utf16(const char* name) {
 
 // Another foundry's faces under our names, installed where a user installs fonts.
 TEST(ToolOutput, IsInTheLibrarysFacesWhateverIsInstalled) {
-  const std::string command = score + "--frames";
+  const std::string command = "quorix score $(quorix mint) --frames";
   const auto without = Tool().shell(command);
   ASSERT_EQ(without.status, 0) << without.err;
   const std::pair<const char*, bool> rows[] = {
@@ -48,14 +37,6 @@ TEST(ToolOutput, IsInTheLibrarysFacesWhateverIsInstalled) {
     EXPECT_EQ(with.status, 0) << with.err;
     EXPECT_EQ(with.out, without.out) << foundry << inCapitals;
   }
-}
-
-TEST(ToolOutput, PicturesHaveTheColorsAskedFor) {
-  const QImage own = picture(info + "--background-color '#FAF7F0' --border");
-  EXPECT_EQ(own.pixelColor(5, 5).name().toStdString(), "#faf7f0");
-  EXPECT_NE(own.pixelColor(0, 5), own.pixelColor(5, 5));
-  EXPECT_NE(picture(imperative + "--appearance dark").pixelColor(5, 5),
-            picture(imperative).pixelColor(5, 5));
 }
 
 }  // namespace
