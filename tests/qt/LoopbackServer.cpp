@@ -47,6 +47,8 @@ class LoopbackServer::Connection : public QObject {
   Connection(LoopbackServer& server, QTcpSocket* socket)
       : QObject(socket), server_(server), socket_(socket) {
     connect(socket, &QTcpSocket::readyRead, this, [this] { read(); });
+    connect(socket, &QTcpSocket::bytesWritten, this,
+            [this](qint64 bytes) { server_.bytesSent_ += static_cast<std::size_t>(bytes); });
     connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
     read();  // what came before anybody listened
   }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QSslCertificate>
+#include <atomic>
 #include <cstddef>
 #include <cstdint>
 #include <map>
@@ -49,6 +50,9 @@ class LoopbackServer {
   /// The heads of the requests for `path` so far, each as it came.
   std::vector<std::string> requests(const std::string& path) const;
 
+  /// How much has gone out so far, to all clients.
+  std::size_t bytesSent() const { return bytesSent_; }
+
  private:
   class Connection;
 
@@ -59,6 +63,7 @@ class LoopbackServer {
   std::map<std::string, Answer> answers_;
   std::map<std::string, std::vector<std::string>> requests_;
   std::uint16_t port_ = 0;
+  std::atomic<std::size_t> bytesSent_ = 0;
   QEventLoop* loop_ = nullptr;
   std::thread thread_;
 };

@@ -83,6 +83,13 @@ TEST_F(ConcurrentUrlSession, SendsAPlainGetOfTheAddress) {
   }
 }
 
+TEST_F(ConcurrentUrlSession, EndsAnAnswerThatHasNoEnd) {
+  server.serve("/", {"HTTP/1.1 200 OK\r\n\r\n", SIZE_MAX, false, std::string(64 << 10, 'x')});
+  EXPECT_EQ(errorOf(server.base() + "/"), QNetworkReply::UnknownContentError);
+  std::this_thread::sleep_for(std::chrono::milliseconds(200));
+  EXPECT_LT(server.bytesSent(), 8u << 20);  // of 64 MB each second
+}
+
 TEST_F(ConcurrentUrlSession, EndsARequestThatTakesTooLongNotOneThatWaitedForItsTurn) {
   QtURLTransport impatient{std::chrono::milliseconds(600)};
   server.serve("/next", {httpAnswer(200, kTable)});
