@@ -35,13 +35,13 @@ bool Responder::handle(const PointerEvent& event) {
   if (pointer_ != event.pointer) return false;
   if (event.phase == Phase::moved) return pointerMoved(event);
   pointer_.reset();
+  releasedAt_ = event.time;
   pointerReleased(event);
   return true;
 }
 
 void Responder::pointerLost() {
-  pointer_.reset();
-  pointerCancelled();
+  if (std::exchange(pointer_, std::nullopt)) pointerCancelled();
 }
 
 // The sheet above.

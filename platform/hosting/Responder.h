@@ -31,7 +31,8 @@ class QUORIX_EXPORT Responder {
   virtual bool handle(const ScrollEvent&) { return false; }
   /// The same for a key.
   virtual bool handle(const KeyEvent& event) = 0;
-  /// The toolkit gave the pointer to something else.
+  /// The toolkit gave the pointer to something else. Does nothing after the release, of which some
+  /// toolkits tell in this way too.
   void pointerLost();
   virtual bool takesTapAt(layout::Point point) = 0;
 
@@ -97,6 +98,7 @@ class QUORIX_EXPORT Responder {
   std::shared_ptr<Responder*> alive_;  ///< made on first use
   std::weak_ptr<Responder*> sheet_;
   std::optional<int> pointer_;  ///< the one that is pressed
+  double releasedAt_ = 0;       ///< the time of the latest release
   bool sheetQueued_ = false;
 };
 

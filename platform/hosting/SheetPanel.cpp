@@ -4,6 +4,7 @@
 #include <cmath>
 #include <utility>
 
+#include "platform/hosting/FocusRing.h"
 #include "platform/hosting/SceneLayers.h"
 #include "platform/layout/Geometry.h"
 
@@ -69,7 +70,13 @@ std::optional<layout::Rect> SheetPanel::inWindow(
 std::optional<layout::Rect> SheetPanel::ring() const {
   const auto around = inWindow(focus.ring());
   const bool standsOut = around && scroll.offset() > 0 && around->top() < frame().top();
-  return standsOut ? std::nullopt : around;
+  if (!around || standsOut) return std::nullopt;
+  // Of what goes to the panel's edge or corner, the whole ring is seen, beside them.
+  constexpr double beside = 2 * (FocusRing::gap + FocusRing::width);
+  const layout::Rect panel = frame();
+  return layout::intersection(*around,
+                              {{panel.left() + beside, panel.top() + beside},
+                               {panel.size.width - 2 * beside, panel.size.height - 2 * beside}});
 }
 
 bool SheetPanel::isScrolledAway(const layout::Rect& inWindow) {

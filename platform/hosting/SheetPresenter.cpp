@@ -43,7 +43,7 @@ struct SheetPresenter::State final : ViewHost::Client {
   void endDrag() {
     press.reset();
     dragging = false;
-    drag = 0;
+    drag = caughtAt = 0;
     scroll.release(0);
   }
   void scrollBy(const std::function<void()>& change);
@@ -58,7 +58,8 @@ struct SheetPresenter::State final : ViewHost::Client {
   std::optional<swiftui::Presentation> presentation;
   std::shared_ptr<SheetCloseReason> closeReason =
       std::make_shared<SheetCloseReason>(SheetCloseReason::host);
-  double drag = 0;  ///< points that the finger holds it down
+  double drag = 0;      ///< points that the finger holds it down
+  double caughtAt = 0;  ///< points below rest where a drag began, since it was still rising
   std::optional<layout::Point> press;
   bool pressedOutside = false;
   bool dragging = false;
@@ -193,9 +194,13 @@ void SheetPresenter::pointerMoved(layout::Point point) {
   if (!state_->dragging && std::abs(down) > dragSlop) {
     state_->dragging = true;
     state_->content.pointerCancelled();
+    // From where it was caught, and without a jump over the points that told a drag from a tap.
+    state_->caughtAt = state_->target() - state_->panel.revealed();
+    state_->press->y += std::copysign(dragSlop, down) - state_->caughtAt;
   }
   if (!state_->dragging) return;
-  state_->scrollBy([&] { state_->drag = state_->scroll.drag(down); });
+  const double held = point.y - state_->press->y;
+  state_->scrollBy([&] { state_->drag = state_->scroll.drag(held); });
   state_->reveal(state_->target());
 }
 
@@ -203,8 +208,8 @@ void SheetPresenter::pointerReleased(layout::Point point, double velocity) {
   if (!state_->press) return;
   const bool outside = state_->pressedOutside && !state_->panel.frame().contains(point);
   const bool flicked = velocity > flickSpeed && state_->scroll.isPulledFromTop();
-  const bool swiped =
-      state_->dragging && (flicked || state_->drag > state_->panel.restingHeight() / 2);
+  const bool swiped = state_->dragging && (flicked || state_->drag - state_->caughtAt >
+                                                          state_->panel.restingHeight() / 2);
   const bool tapped = !state_->pressedOutside && !state_->dragging;
   const double fling = state_->dragging && !swiped ? velocity : 0;
   state_->endDrag();

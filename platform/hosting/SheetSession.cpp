@@ -5,6 +5,11 @@
 #include "platform/hosting/WindowSession.h"
 
 namespace quorix::hosting {
+namespace {
+
+constexpr double doubleTap = 400;  // milliseconds from the first release to the second press
+
+}  // namespace
 
 SheetSession::SheetSession(WindowSession& window, text::TextEngine& engine)
     : window_(&window), presenter_(engine, *this) {
@@ -50,7 +55,6 @@ void SheetSession::present(const swiftui::Presentation& presentation) {
   focusReturn_ = focusReturn();
   comeUp();
   takeFocus();
-  focusMoved(false);
   if (const auto opener = opener_.lock()) (*opener)->sheetCameUp();
   if (EmbeddedPages::hasPages(presenter_.panel()) && !canShowPages()) giveUpPages();
 }
@@ -156,7 +160,16 @@ void SheetSession::track(const PointerEvent& event) {
   velocity_.add(event.point.y, event.time * 1e-3);
 }
 
+/// Whether `event` is the second of two quick taps on what opened the sheet, which must not close
+/// it again.
+bool SheetSession::isSecondTap(const PointerEvent& event) const {
+  const auto opener = opener_.lock();
+  const double passed = opener ? event.time - (*opener)->releasedAt_ : 0;
+  return passed > 0 && passed < doubleTap && !presenter_.panelFrame().contains(event.point);
+}
+
 bool SheetSession::pointerPressed(const PointerEvent& event) {
+  if (isSecondTap(event)) return true;
   takeFocusFromPages();
   velocity_.reset();
   track(event);

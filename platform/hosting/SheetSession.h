@@ -144,6 +144,7 @@ class QUORIX_EXPORT SheetSession : public Responder,
     return settings_.environment.direction == layout::LayoutDirection::rightToLeft;
   }
 
+  bool isSecondTap(const PointerEvent& event) const;
   bool pointerPressed(const PointerEvent& event) override;
   bool pointerMoved(const PointerEvent& event) override;
   void pointerReleased(const PointerEvent& event) override;

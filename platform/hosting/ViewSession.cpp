@@ -131,8 +131,14 @@ const std::vector<render::AccessibilityElement>& ViewSession::elements() {
   return host_.scene(size()).accessibility;
 }
 
+/// As by the pointer, the focus comes along: a sheet returns it to what opened the sheet.
 void ViewSession::activate(int index) {
   used();
+  host_.scene(size());  // makes the elements that the index counts
+  const auto self = weak();
+  if (host_.focus(index)) takeFocusByPress();
+  if (self.expired()) return;
+  needsFrame();
   perform([&] { return host_.activate(index); });
 }
 

@@ -87,7 +87,7 @@ class QUORIX_EXPORT ViewSession : public Responder, private ViewHost::Client {
   virtual bool allowsMotion() const = 0;
   virtual layout::Size size() const = 0;
   virtual bool hasFocus() const = 0;
-  /// An element took a press.
+  /// An element took a press. What hears of the focus may delete the surface.
   virtual void takeFocusByPress() = 0;
   /// Moves the focus to the next in the tab order. May delete the surface.
   virtual void giveFocusOn() = 0;

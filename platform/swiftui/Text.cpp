@@ -58,7 +58,7 @@ using layout::Size;
 /// How far a text gets smaller before a word in it breaks. What stands side by side (a price, its
 /// name) is to be read whole; a paragraph is not made small for the sake of one endless word.
 constexpr double smallestInRow = 0.25;
-constexpr double smallestParagraph = 0.75;
+constexpr double smallestParagraph = 0.5;
 
 /// Points; as much as a text engine's own rounding may take.
 constexpr double roundingNoise = 1.0 / 32;

@@ -9,6 +9,7 @@
 #include "qt/WebComponent.h"
 #include "qt/WindowScene.h"
 #include "qt/accessibility/AccessibilityBridge.h"
+#include "qt/accessibility/ViewAccessible.h"
 
 namespace quorix::qt {
 namespace {
@@ -41,7 +42,12 @@ SheetItem::SheetItem(QQuickWindow& window, hosting::WindowSession& session, QQui
   setAcceptTouchEvents(true);
   setAcceptHoverEvents(true);
   setCursor(Qt::ArrowCursor);  // not that of what lies below
-  AccessibilityBridge::instance()->add(*this, *this);
+  AccessibilityBridge* accessibility = AccessibilityBridge::instance();
+  accessibility->add(*this, *this);
+  connect(accessibility, &AccessibilityBridge::began, this, [this] {
+    offer();
+    ViewAccessible::focusChanged(*this, Qt::QueuedConnection);
+  });
   QQuickItem* content = window.contentItem();
   const auto fill = [this, content] { setSize(content->size()); };
   connect(content, &QQuickItem::widthChanged, this, fill);

@@ -171,7 +171,12 @@ void SheetWidget::placePage(hosting::PageEngine& engine, const hosting::PagePlac
   auto* page = qobject_cast<QWidget*>(viewOf(engine));
   if (!page) return;
   page->setGeometry(toRect(place.room).toAlignedRect());
+  // The first widget that Qt draws by other means than the rest has its window made anew, which
+  // comes without the keyboard.
+  const bool isActive = isActiveWindow();
+  const WId before = window()->internalWinId();
   page->show();
+  if (isActive && window()->internalWinId() != before) activateWindow();
   stack_.append(page);
   if (std::size_t(index) < layers_.size()) stack_.append(layers_[std::size_t(index)].picture);
 }

@@ -58,6 +58,20 @@ TEST(Session, ASheetClosesByEachOfItsWays) {
   }
 }
 
+TEST(Session, ASecondQuickTapLeavesWhatTheFirstOpened) {
+  TestWindow window(testing::FeeRow("4 €"));
+  constexpr layout::Point beside{160, 20};
+  window.tap("Row 4 €");
+  foundation::MainQueue::drain();
+  window.tap(beside);
+  foundation::MainQueue::drain();
+  EXPECT_TRUE(window.sheet());
+  window.settle();  // takes a while
+  window.tap(beside);
+  window.settle();
+  EXPECT_FALSE(window.sheet());
+}
+
 TEST(Session, SheetsStandOnEachOtherAndCloseFromTheTop) {
   TestWindow window(testing::Opener{testing::FeeRow("above")});
   window.act("More");

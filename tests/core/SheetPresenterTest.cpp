@@ -86,16 +86,12 @@ TEST_F(ScoreSheet, GoesWhenSwipedFarOrFastOrTappedOutside) {
     double velocity, panelTop;
     bool closes;
   } rows[] = {
-      {inside, {160, 553}, 0, 488, true},
-      {inside, {160, 552}, 0, 487, false},
-      {inside, {160, 420}, 601, 355, true},
-      {inside, {160, 420}, 600, 355, false},
-      {inside, {160, 408}, 5000, 335, false},
-      {inside, {160, 350}, 0, 325, false},  // it gives way upwards, reluctantly
-      {inside, {160, 350}, 601, 325, true},
-      {outside, {10, 300}, 0, 335, true},
-      {outside, inside, 0, 335, false},
-      {inside, outside, 0, 259, false},
+      {inside, {160, 561}, 0, 488, true},  // 8 points tell a drag from a tap
+      {inside, {160, 560}, 0, 487, false},   {inside, {160, 428}, 601, 355, true},
+      {inside, {160, 428}, 600, 355, false}, {inside, {160, 408}, 5000, 335, false},
+      {inside, {160, 342}, 0, 325, false},  // it gives way upwards, reluctantly
+      {inside, {160, 342}, 601, 325, true},  {outside, {10, 300}, 0, 335, true},
+      {outside, inside, 0, 335, false},      {inside, outside, 0, 261, false},
   };
   for (const auto& drag : rows) {
     open();
@@ -140,6 +136,26 @@ TEST_F(ScoreSheet, RisesAndFallsAndThenNothingMoves) {
     window.sheet()->advance(1.0 / 60);
     ASSERT_LT(frames, 90);
   }
+}
+
+TEST_F(ScoreSheet, GoesOnFromWhereAFingerCatchesIt) {
+  window.setMotion(true);
+  window.tap(row);
+  MainQueue::drain();
+  for (int i = 0; i < 3; ++i) window.sheet()->advance(1.0 / 60);
+  const double caught = panelHeight();
+  ASSERT_LT(caught, 200);
+  const layout::Point at{160, 635};
+  window.sheet()->pointerPressed(at);
+  for (const double down : {10.0, 3.0, -90.0}) {
+    window.sheet()->pointerMoved({at.x, at.y + down});
+    EXPECT_NEAR(panelHeight(), caught - (down - 8), 1) << down;
+  }
+  window.sheet()->pointerMoved(at);
+  window.sheet()->pointerReleased(at, 0);
+  window.settle();
+  ASSERT_TRUE(window.sheet()) << "it was below half its height, but not swiped there";
+  EXPECT_EQ(panelHeight(), 305);
 }
 
 TEST_F(ScoreSheet, OnItsWayOutItTakesNoTapButMayBeCalledBack) {

@@ -37,9 +37,9 @@ struct LongSheet : Shown, testing::TestSheet {
   double offset() {
     return sheet.panelFrame().top() + 639 - sheet.scene().accessibility.back().frame.top();
   }
-  /// A finger goes that far and, with a velocity, lets go.
+  /// A finger drags that far, once it drags at all, and with a velocity lets go.
   void drag(double by, std::optional<double> velocity = std::nullopt) {
-    sheet.pointerPressed({160, 480});
+    sheet.pointerPressed({160, 480 - std::copysign(8, by)});
     sheet.pointerMoved({160, 480 + by});
     if (velocity) sheet.pointerReleased({160, 480 + by}, *velocity);
   }
@@ -97,7 +97,7 @@ TEST(SheetScroll, HandsADragAtTheTopOverToThePanelAndBack) {
   const struct {
     double by, offset, panelTop;
   } rows[] = {{30, 20, 340}, {50, 0, 340}, {90, 0, 380}, {-10, 60, 340}};
-  in.sheet.pointerPressed({160, 480});
+  in.sheet.pointerPressed({160, 472});
   for (const auto& row : rows) {
     in.sheet.pointerMoved({160, 480 + row.by});
     EXPECT_EQ(in.offset(), row.offset) << row.by;

@@ -79,6 +79,7 @@ class TestWindow final : public TestText, public hosting::ViewWindow {
 
   /// A turn of the main queue and a frame, until nothing is left to do.
   void settle() {
+    milliseconds_ += 1000;
     while (frame(1.0 / 60) || foundation::MainQueue::drain() > 0) {
     }
   }

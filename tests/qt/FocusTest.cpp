@@ -40,6 +40,17 @@ TYPED_TEST(Focus, TabReachesTheRowShowsARingAroundItAndLeaves) {
   }
 }
 
+TYPED_TEST(Focus, ReturnsToWhatAssistiveTechnologyPressed) {
+  TypeParam screen;
+  auto* other = screen.addFocusable();
+  auto* row = screen.add(FeeRow("4 €"), kPlace);
+  screen.focus(other);
+  screen.act("Row 4 €", QAccessibleActionInterface::pressAction());
+  ASSERT_TRUE(screen.shows("Terms"));
+  screen.key(Qt::Key_Escape);
+  EXPECT_TRUE(screen.hasFocus(row));
+}
+
 TYPED_TEST(Focus, WalksThroughTheElementsThatActAndOn) {
   TypeParam screen;
   std::string taps;

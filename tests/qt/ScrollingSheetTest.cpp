@@ -16,7 +16,7 @@ swiftui::View tallOpener() {
 }
 
 TYPED_TEST(ScrollingSheet, ScrollsByWhateverTheUserHas) {
-  const QPoint at(180, 400), up(180, 300);
+  const QPoint at(180, 400), up(180, 292);  // 8 points tell a drag from a tap
   const struct {
     const char* by;
     Act perform;
@@ -51,6 +51,15 @@ TYPED_TEST(ScrollingSheet, ScrollsByWhateverTheUserHas) {
   EXPECT_EQ(eventsBelow(), below);
   screen.drag({180, 300}, {180, 380}, 60, true);
   EXPECT_FALSE(screen.shows("Top")) << "a flick at the top closes";
+}
+
+TYPED_TEST(ScrollingSheet, GoesOnAfterAFling) {
+  TypeParam screen;
+  screen.add(tallOpener(), kPlace)->setMotion(true);
+  screen.click("More");
+  const int top = screen.find("Top")->rect().top();
+  screen.drag({180, 400}, {180, 350}, 60, true);
+  EXPECT_GT(top - screen.find("Top")->rect().top(), 100);
 }
 
 }  // namespace

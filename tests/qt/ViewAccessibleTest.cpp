@@ -1,4 +1,5 @@
 #include "platform/swiftui/Elements.h"
+#include "tests/qt/FeeRow.h"
 #include "tests/qt/Screens.h"
 
 namespace quorix::testing {
@@ -52,6 +53,17 @@ TYPED_TEST(Accessible, SeveralElementsStandInAGroupInReadingOrder) {
   EXPECT_EQ(group->focusChild(), group->child(2));
   screen.act("Press", QAccessibleActionInterface::pressAction());
   EXPECT_EQ(taps, 1);
+}
+
+TYPED_TEST(Accessible, AReaderThatComesLateFindsTheSheet) {
+  TypeParam screen;
+  screen.add(FeeRow("4 €"), kPlace);
+  const QPoint row = screen.centerOf("Row 4 €");
+  QAccessible::setActive(false);
+  screen.clickAt(row);
+  QAccessible::setActive(true);
+  screen.settle();
+  EXPECT_TRUE(screen.shows("Terms"));
 }
 
 }  // namespace
