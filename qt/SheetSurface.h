@@ -69,6 +69,9 @@ class QUORIX_EXPORT SheetSurface : public hosting::SheetSession {
   /// Where the focus ring stands, with its picture if that is another one than before.
   std::optional<Layer> ring();
 
+  std::unique_ptr<hosting::PageEngine> openPage(const render::EmbedItem& embed,
+                                                hosting::PageEngine::Client& client) override;
+
   /// The view of a page on show.
   static QObject* viewOf(const hosting::PageEngine& page);
   /// The views of the pages on show, from the bottom up.
@@ -81,8 +84,6 @@ class QUORIX_EXPORT SheetSurface : public hosting::SheetSession {
   void coverChanged() override;
   bool canShowPages() const override;
   bool opensPagesAtOnce() const override;
-  std::unique_ptr<hosting::PageEngine> openPage(const render::EmbedItem& embed,
-                                                hosting::PageEngine::Client& client) override;
 
   QObject& self_;
   QString webComponent_;

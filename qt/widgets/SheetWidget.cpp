@@ -166,17 +166,21 @@ void SheetWidget::paintEvent(QPaintEvent*) {
 
 // Pages.
 
+std::unique_ptr<hosting::PageEngine> SheetWidget::openPage(const render::EmbedItem& embed,
+                                                           hosting::PageEngine::Client& client) {
+  activeBefore_ = isActiveWindow();
+  return SheetSurface::openPage(embed, client);
+}
+
 void SheetWidget::placePage(hosting::PageEngine& engine, const hosting::PagePlace& place,
                             int index) {
   auto* page = qobject_cast<QWidget*>(viewOf(engine));
   if (!page) return;
   page->setGeometry(toRect(place.room).toAlignedRect());
+  page->show();
   // The first widget that Qt draws by other means than the rest has its window made anew, which
   // comes without the keyboard.
-  const bool isActive = isActiveWindow();
-  const WId before = window()->internalWinId();
-  page->show();
-  if (isActive && window()->internalWinId() != before) activateWindow();
+  if (std::exchange(activeBefore_, false) && !isActiveWindow()) activateWindow();
   stack_.append(page);
   if (std::size_t(index) < layers_.size()) stack_.append(layers_[std::size_t(index)].picture);
 }

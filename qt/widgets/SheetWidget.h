@@ -51,6 +51,8 @@ class SheetWidget : public QWidget, public SheetSurface, public WidgetAccessible
   void dropFocus() override { window()->focusWidget()->clearFocus(); }
   void vanish() override;
 
+  std::unique_ptr<hosting::PageEngine> openPage(const render::EmbedItem& embed,
+                                                hosting::PageEngine::Client& client) override;
   void placePage(hosting::PageEngine& engine, const hosting::PagePlace& place, int index) override;
   void focusPage(hosting::PageEngine& engine, bool forward) override;
   void takeFocusFromPages() override;
@@ -77,6 +79,7 @@ class SheetWidget : public QWidget, public SheetSurface, public WidgetAccessible
   QList<QWidget*> stack_;              ///< what lies over the painted panel, from the bottom up
   SheetWidgetFront* front_ = nullptr;  ///< made with the first page
   PictureWidget* ring_ = nullptr;
+  bool activeBefore_ = false;  ///< the window, before a page came
   bool settleQueued_ = false;
 };
 
