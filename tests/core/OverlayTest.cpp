@@ -39,6 +39,8 @@ TEST(WebView, FillsItsSheetToTheRoundCornersAndTheBottom) {
     fills += fill.frame == panel && fill.topCornerRadius == 12;
   }
   EXPECT_EQ(fills, 2) << "the panel's and the overlay's, which ignores what the device covers";
+  sheet.moveFocus(true);
+  EXPECT_EQ(sheet.ringFrame(), (layout::Rect{{262, 58}, {48, 48}})) << "the cross's, in the panel";
 }
 
 TEST(WebView, ClosesByACrossInTheUsersLanguageAndNotThePages) {
