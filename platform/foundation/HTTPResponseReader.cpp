@@ -6,6 +6,8 @@
 #include <boost/beast/http/parser.hpp>
 #include <boost/beast/http/string_body.hpp>
 #include <cstddef>
+#include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -62,6 +64,10 @@ namespace http = boost::beast::http;
 using ErrorCode = boost::beast::error_code;
 using State = HTTPResponseReader::State;
 
+/// For a chunk's size and extensions, and for trailers. Newer parsers limit a chunk's extensions
+/// themselves, to between this and twice as much, depending on the pieces in which they arrive.
+constexpr std::size_t chunkHeadLimit = 4096;
+
 State stateFor(const ErrorCode& error) {
   if (!error || error == http::error::need_more) return State::incomplete;
   if (error == http::error::body_limit || error == http::error::header_limit) {
@@ -77,6 +83,7 @@ struct HTTPResponseReader::Message {
     parser.skip(allowed == Body::none);
     parser.header_limit(headLimit);
     parser.body_limit(bodyLimit);
+    parser.on_chunk_header(onChunk);
   }
 
   std::string header(http::field name) const {
@@ -85,6 +92,14 @@ struct HTTPResponseReader::Message {
   }
 
   http::response_parser<http::string_body> parser;
+  /// The parser took the last chunk and waits for its trailers. Older parsers take them together.
+  bool inTrailers = false;
+  std::function<void(std::uint64_t, boost::beast::string_view, ErrorCode&)> onChunk =
+      [this](std::uint64_t size, auto, auto&) {
+        if (size > 0) return;
+        inTrailers = true;
+        parser.header_limit(chunkHeadLimit);
+      };
   std::optional<std::string> body;
 };
 
@@ -116,11 +131,12 @@ State HTTPResponseReader::parse() {
   while (!rest.empty()) {
     auto& parser = message_->parser;
     const bool inHead = !parser.is_header_done();
-    // The shortest end of a body in chunks, which the parser takes for granted with an assertion.
-    if (!inHead && parser.chunked() && rest.size() < 5) break;
+    const bool inChunks = !inHead && parser.chunked() && !message_->inTrailers;
+    // Older parsers assert that the shortest last chunk would fit.
+    if (inChunks && rest.size() < 5) break;
     // Being eager, it would forget that a body is too long and make room for it.
     parser.eager(!inHead);
-    const auto most = inHead ? headLimit - headBytes_ : headLimit;
+    const auto most = inHead ? headLimit - headBytes_ : inChunks ? chunkHeadLimit : headLimit;
     const auto window = rest.substr(0, most);
     const auto taken = parser.put(boost::asio::buffer(window.data(), window.size()), error);
     rest.remove_prefix(taken);

@@ -43,6 +43,8 @@ TEST(HTTPResponseReader, ReadsAnswersInPiecesOfAnySize) {
        State::complete, "Hello"},
       {"chunks", kChunked + "2;x=y\r\nHe\r\n3\r\nllo\r\n0\r\nX: y\r\n\r\n", State::complete,
        "Hello"},
+      {"an extension too long", kChunked + "5;" + std::string(5000, 'x') + "\r\nHello\r\n0\r\n\r\n",
+       State::tooLarge},
       {"gzip", encoded("GZIP", gzip), State::complete, "Hello"},
       {"two members", encoded("gzip", gzip + gzip), State::complete, "HelloHello"},
       {"deflate without zlib's header", encoded("deflate", raw), State::complete, "Hello"},
@@ -84,9 +86,9 @@ TEST(HTTPResponseReader, GivesUpWhatHasNoEnd) {
       {"interim answers", "", "HTTP/1.1 100 Go\r\n\r\n", 80 << 10},
       {"body", kOk + "\r\n", line, 300 << 10},
       {"length", kOk + "Content-Length: 262145\r\n\r\n", line, 200},
-      {"chunk's size", kChunked, "0", 80 << 10},
+      {"chunk's size", kChunked, "0", 5 << 10},
       {"extensions", kChunked, chunk, 3 << 20},
-      {"trailers", kChunked + "0\r\n", "X: y\r\n", 80 << 10},
+      {"trailers", kChunked + "0\r\n", "X: y\r\n", 5 << 10},
   };
   for (const auto& [name, start, filler, most] : table) {
     HTTPResponseReader reader;
