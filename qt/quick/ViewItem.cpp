@@ -1,7 +1,9 @@
 #include "qt/quick/ViewItem.h"
 
 #include <QCursor>
+#include <QLibraryInfo>
 #include <QQuickWindow>
+#include <QVersionNumber>
 #include <algorithm>
 #include <cmath>
 
@@ -28,6 +30,23 @@ struct TapRoom {
 };
 
 namespace {
+
+constexpr double kRoom = render::Scene::roomToTap / 2;
+
+/// Versions of Qt after 6.8 ask an item about presses beside it only if a child that takes presses
+/// stands out of it. They look when the first event comes, so it is there from the beginning.
+struct Outpost final : QQuickItem {
+  static bool isNeeded() {
+    static const bool needed = QLibraryInfo::version() >= QVersionNumber(6, 9);
+    return needed;
+  }
+  explicit Outpost(ViewItem& item) : QQuickItem(&item) {
+    setPosition({-kRoom, -kRoom});
+    setSize({1, 1});
+    setAcceptedMouseButtons(Qt::LeftButton);
+  }
+  bool contains(const QPointF&) const override { return false; }  // takes none
+};
 
 /// What a page stands on. It takes presses too, to scroll or to keep them from what lies below.
 bool isGround(const QQuickItem& item) {
@@ -94,6 +113,7 @@ ViewItem::ViewItem(swiftui::View view, QQuickItem* parent)
   setFlag(ItemHasContents);
   setAcceptedMouseButtons(Qt::LeftButton);
   setAcceptTouchEvents(true);
+  if (Outpost::isNeeded()) new Outpost(*this);
   surface_->host().setRoot(std::move(view));
   surface_->windowChanged();
 }
@@ -104,8 +124,7 @@ void ViewItem::setView(swiftui::View view) { surface_->replaceView(std::move(vie
 
 bool ViewItem::contains(const QPointF& point) const {
   if (QQuickItem::contains(point)) return true;
-  constexpr double room = render::Scene::roomToTap / 2;
-  const QRectF around = QRectF(0, 0, width(), height()).adjusted(-room, -room, room, room);
+  const QRectF around = QRectF(0, 0, width(), height()).adjusted(-kRoom, -kRoom, kRoom, kRoom);
   return around.contains(point) && surface_->takesTapAt(toPoint(point)) &&
          TapRoom::isFree(*this, point);
 }

@@ -92,6 +92,28 @@ TEST(TapRoomInQuick, APageThatScrollsIsNoButton) {
   EXPECT_EQ(tap(screen, {100, 3}), "") << "scrolled out of sight";
 }
 
+TEST(TapRoomInQuick, ReachesOutOfAnItemThatFitsTheRow) {
+  QuickScreen screen;
+  QQuickItem* page = screen.addQml(R"(
+      Item {
+        Item {
+          x: 20; y: 100; width: 300; height: 20
+          Text { text: "beside it" }
+          Row { anchors.fill: parent }
+        }
+        MouseArea { y: 400; width: 10; height: 10 }
+      })");
+  auto* row = page->findChild<qt::ViewItem*>();
+  row->setMotion(false);
+  EXPECT_EQ(tap(screen, {100, 91}), "") << "it shows nothing yet";
+  row->setView(FeeRow("4 €"));
+  screen.settle();
+  EXPECT_EQ(tap(screen, {100, 91}), "4 €");
+  row->parentItem()->setHeight(10);
+  screen.settle();
+  EXPECT_EQ(tap(screen, {100, 91}), "4 €") << "in another size";
+}
+
 TEST(TapRoomInWidgets, IsForFingersAndInSight) {
   WidgetScreen screen;
   auto* area = new QScrollArea(&screen.host());
