@@ -1,5 +1,6 @@
 #include "qt/web/WebEngine.h"
 
+#include <QAccessible>
 #include <QGuiApplication>
 #include <QOpenGLContext>
 #include <QtGlobal>
@@ -37,6 +38,15 @@ bool WebEngine::start() {
     return true;
   }();
   return started;
+}
+
+void WebEngine::openToReaders() {
+  // Newer engines notice when assistive technology comes, but not that it is there already.
+  static const bool told = [] {
+    if (QAccessible::isActive()) QAccessible::setActive(true);
+    return true;
+  }();
+  Q_UNUSED(told)
 }
 
 QWebEngineScript WebEngine::refusals() {

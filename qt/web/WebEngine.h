@@ -13,6 +13,9 @@ namespace WebEngine {
 /// Readies the engine on first call. False, with a word on the log, where it would end the process.
 bool start();
 
+/// After the first profile was made, before its first page: lets assistive technology read pages.
+void openToReaders();
+
 /// For a page, to run before its own scripts: refuses passkeys. Newer engines wait for a key
 /// without asking us, and without an end.
 QWebEngineScript refusals();

@@ -53,7 +53,9 @@ class Walk:
         self.say(title, window.heard_until(itself))
         reader.press(opener)
         sheet = bus.until(window.dialog, f"the sheet of {title}")
-        self.lines += ["-- opens", *window.heard_until(reader.line(sheet)), *reader.read(sheet)]
+        self.lines += ["-- opens", *window.heard_until(reader.line(sheet))]
+        # While a page loads, the engine puts another document in place of the first.
+        self.lines += bus.until(lambda: reader.read(sheet), "what is in the sheet")
         bus.until(lambda: opener in window.hidden and not reader.shown(opener),
                   "what is behind the sheet to go")
         window.hidden.clear()

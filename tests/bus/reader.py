@@ -24,7 +24,8 @@ def listen():
     status = Gio.DBusProxy.new_for_bus_sync(
         Gio.BusType.SESSION, 0, None, "org.a11y.Bus", "/org/a11y/bus",
         "org.freedesktop.DBus.Properties", None)
-    for name in ("IsEnabled", "ScreenReaderEnabled"):
+    known = status.call_sync("GetAll", GLib.Variant("(s)", ("org.a11y.Status",)), 0, -1, None)
+    for name in known.unpack()[0]:  # newer desktops have no "ScreenReaderEnabled"
         value = GLib.Variant("(ssv)", ("org.a11y.Status", name, GLib.Variant("b", True)))
         status.call_sync("Set", value, 0, -1, None)
     Atspi.init()

@@ -120,7 +120,10 @@ std::unique_ptr<WebPage> QuickWebComponent::open(QObject& place, const WebPage::
         "QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts) before making the application");
     return nullptr;
   }
-  if (!profile_) profile_ = std::make_unique<QQuickWebEngineProfile>();  // off the record
+  if (!profile_) {
+    profile_ = std::make_unique<QQuickWebEngineProfile>();  // off the record
+    WebEngine::openToReaders();
+  }
   if (!source_) {
     qmlRegisterType<RoundedTop>("Quorix.Web", 1, 0, "RoundedTop");
     source_ = std::make_unique<QQmlComponent>(

@@ -85,7 +85,10 @@ class WidgetWebComponent final : public WebComponent {
                                 WebPage::Client& client) override {
     auto* widget = qobject_cast<QWidget*>(&place);
     if (!widget || !WebEngine::start()) return nullptr;
-    if (!profile_) profile_ = std::make_unique<QWebEngineProfile>();  // off the record
+    if (!profile_) {
+      profile_ = std::make_unique<QWebEngineProfile>();  // off the record
+      WebEngine::openToReaders();
+    }
     return std::make_unique<WidgetPage>(*profile_, *widget, options, client);
   }
 
