@@ -16,7 +16,10 @@ namespace {
 constexpr std::int64_t kAmounts[] = {
     0, 1, 4, 5, 10, 999, 1000, 1234567, -1, -1234, 92233720368547758, -92233720368547758};
 
+// A row of which ICU 78 writes something else has a column for it: forints are without decimals
+// there, and Armenian does not group four digits.
 void expectTexts(simdjson::dom::element row, std::string_view column) {
+  if (U_ICU_VERSION_MAJOR_NUM >= 78 && row["since_78"].is_array()) column = "since_78";
   const CurrencyFormatter formatter({text(row, "language"), text(row, "currency")});
   std::size_t i = 0;
   for (const simdjson::dom::element expected : row[column].get_array()) {

@@ -49,7 +49,7 @@ TYPED_TEST(ScrollingSheet, ScrollsByWhateverTheUserHas) {
     EXPECT_EQ(screen.find("Top")->rect().top(), top) << row.by;
   }
   EXPECT_EQ(eventsBelow(), below);
-  screen.drag({180, 300}, {180, 380}, 60, true);
+  screen.drag({180, 300}, {180, 380}, 20, true);
   EXPECT_FALSE(screen.shows("Top")) << "a flick at the top closes";
 }
 
