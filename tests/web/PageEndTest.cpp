@@ -92,7 +92,7 @@ TYPED_TEST(PageEnd, ALoadThatStandsStillIsStopped) {
       QObject::connect(socket, &QTcpSocket::readyRead, socket, [&, socket] { asking = socket; });
     }
   });
-  this->timeout = std::chrono::milliseconds(700);
+  this->timeout = std::chrono::milliseconds(1500);
   this->open("http://127.0.0.1:" + std::to_string(silent.serverPort()) + "/");
   ASSERT_TRUE(waitUntil([&] { return asking != nullptr; }));
   QElapsedTimer since;
@@ -108,7 +108,7 @@ TYPED_TEST(PageEnd, ALoadThatStandsStillIsStopped) {
   this->screen.key(Qt::Key_Escape);
   pages().serve("/never", {.comes = false});
   this->openBlue("<img src='/never'>");
-  QTest::qWait(1200);
+  QTest::qWait(2000);
   EXPECT_EQ(this->at(this->kInPage), QColor(Qt::blue)) << "what has come stays";
   EXPECT_EQ(this->failures, 1);
 }

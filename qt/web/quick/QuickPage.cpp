@@ -121,7 +121,12 @@ std::unique_ptr<WebPage> QuickWebComponent::open(QObject& place, const WebPage::
     return nullptr;
   }
   if (!profile_) {
+#if QT_VERSION >= QT_VERSION_CHECK(6, 9, 0)
+    // Off the record for want of a name; without one at all, the engine writes into the log.
+    profile_ = std::make_unique<QQuickWebEngineProfile>(QString());
+#else
     profile_ = std::make_unique<QQuickWebEngineProfile>();  // off the record
+#endif
     WebEngine::openToReaders();
   }
   if (!source_) {
