@@ -103,11 +103,11 @@ void URLSession::install(std::shared_ptr<URLTransport> transport) {
   {
     const std::scoped_lock lock(state_->mutex);
     state_->transport = std::move(transport);
-    for (auto& entry : state_->prefetched) waiting.push_back(std::exchange(entry.waiting, nullptr));
+    for (auto& entry : state_->prefetched) {
+      if (entry.waiting) waiting.push_back(std::exchange(entry.waiting, nullptr));
+    }
   }
-  for (const auto& ask : waiting) {
-    if (ask) ask();
-  }
+  for (const auto& ask : waiting) ask();
 }
 
 std::shared_ptr<void> URLSession::registerProtocol(URLProtocol protocol) {

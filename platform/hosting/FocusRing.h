@@ -10,10 +10,10 @@ struct FocusRing {
   static constexpr double gap = 2;  ///< between the element and the ring
   static constexpr double width = 2;
   static constexpr double radius = 5;  ///< of the middle of its line
+  static constexpr double outset = gap + width;
 
   /// The ring's frame: its line is just inside.
   static layout::Rect around(const layout::Rect& element) {
-    constexpr double outset = gap + width;
     return {{element.left() - outset, element.top() - outset},
             {element.size.width + 2 * outset, element.size.height + 2 * outset}};
   }

@@ -68,15 +68,16 @@ std::optional<layout::Rect> SheetPanel::inWindow(
 }
 
 std::optional<layout::Rect> SheetPanel::ring() const {
-  const auto around = inWindow(focus.ring());
-  const bool standsOut = around && scroll.offset() > 0 && around->top() < frame().top();
-  if (!around || standsOut) return std::nullopt;
-  // Of what goes to the panel's edge or corner, the whole ring is seen, beside them.
-  constexpr double beside = 2 * (FocusRing::gap + FocusRing::width);
+  const auto element = inWindow(focus.ring());
+  if (!element) return std::nullopt;
+  // Twice the outset: beside a round corner, too.
+  constexpr double beside = 2 * FocusRing::outset;
   const layout::Rect panel = frame();
-  return layout::intersection(*around,
-                              {{panel.left() + beside, panel.top() + beside},
-                               {panel.size.width - 2 * beside, panel.size.height - 2 * beside}});
+  const layout::Rect inside = {{panel.left() + beside, panel.top() + beside},
+                               {panel.size.width - 2 * beside, panel.size.height - 2 * beside}};
+  const layout::Rect seen = layout::intersection(*element, inside);
+  const bool isSeen = seen.size.width > 0 && seen.size.height > 0;
+  return isSeen ? std::optional(seen) : std::nullopt;
 }
 
 bool SheetPanel::isScrolledAway(const layout::Rect& inWindow) {

@@ -59,7 +59,8 @@ class SheetPanel {
   const render::Scene& lay();
   layout::Point inContent(layout::Point inWindow) const;
   std::optional<layout::Rect> inWindow(const std::optional<layout::Rect>& inContent) const;
-  /// The frame of the focus ring in the window, unless it would stand out of the panel.
+  /// What the focus ring goes around in the window: of the focused element so much that the whole
+  /// ring is in the panel. Nothing while the element is out of sight.
   std::optional<layout::Rect> ring() const;
   bool isScrolledAway(const layout::Rect& inWindow);
 

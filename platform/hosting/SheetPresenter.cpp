@@ -194,7 +194,7 @@ void SheetPresenter::pointerMoved(layout::Point point) {
   if (!state_->dragging && std::abs(down) > dragSlop) {
     state_->dragging = true;
     state_->content.pointerCancelled();
-    // From where it was caught, and without a jump over the points that told a drag from a tap.
+    // The panel stays where it was caught, and does not jump over the points of the slop.
     state_->caughtAt = state_->target() - state_->panel.revealed();
     state_->press->y += std::copysign(dragSlop, down) - state_->caughtAt;
   }
@@ -208,8 +208,8 @@ void SheetPresenter::pointerReleased(layout::Point point, double velocity) {
   if (!state_->press) return;
   const bool outside = state_->pressedOutside && !state_->panel.frame().contains(point);
   const bool flicked = velocity > flickSpeed && state_->scroll.isPulledFromTop();
-  const bool swiped = state_->dragging && (flicked || state_->drag - state_->caughtAt >
-                                                          state_->panel.restingHeight() / 2);
+  const double pulled = state_->drag - state_->caughtAt;
+  const bool swiped = state_->dragging && (flicked || pulled > state_->panel.restingHeight() / 2);
   const bool tapped = !state_->pressedOutside && !state_->dragging;
   const double fling = state_->dragging && !swiped ? velocity : 0;
   state_->endDrag();

@@ -2,6 +2,7 @@
 
 #include <QQmlInfo>
 #include <QWindow>
+#include <utility>
 
 #include "QuorixWidgets/data/TokenData.h"
 #include "QuorixWidgets/info/InfoWidgetBuilder.h"
@@ -57,9 +58,9 @@ swiftui::View ScoreWidget::widget() const {
       clientId_.toStdString(), language(), token_.toStdString(), {regularFace(), semiBoldFace()});
 }
 
-void TextService::classBegin() {
-  connect(this, &TextService::networkEnabledChanged, this,
-          [this] { foundation::URLSession::shared().setNetworkEnabled(networkEnabled_); });
+void TextService::setNetworkEnabled(bool enabled) {
+  foundation::URLSession::shared().setNetworkEnabled(enabled);
+  if (std::exchange(networkEnabled_, enabled) != enabled) emit networkEnabledChanged();
 }
 
 void TextService::componentComplete() {

@@ -108,14 +108,18 @@ class TextService : public QObject, public QQmlParserStatus {
   /// The language whose texts are fetched ahead, for the first frame of the rows; empty for none.
   Q_PROPERTY(QString prefetch MEMBER prefetch_ NOTIFY prefetchChanged FINAL)
   /// Off, rows have what was fetched ahead or the built-in texts.
-  Q_PROPERTY(bool networkEnabled MEMBER networkEnabled_ NOTIFY networkEnabledChanged FINAL)
+  Q_PROPERTY(bool networkEnabled MEMBER networkEnabled_ WRITE setNetworkEnabled NOTIFY
+                 networkEnabledChanged FINAL)
+
+ public:
+  void setNetworkEnabled(bool enabled);
 
  signals:
   void prefetchChanged();
   void networkEnabledChanged();
 
  private:
-  void classBegin() override;
+  void classBegin() override {}
   void componentComplete() override;
   void fetch() const;
 

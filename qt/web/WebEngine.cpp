@@ -42,11 +42,7 @@ bool WebEngine::start() {
 
 void WebEngine::openToReaders() {
   // Newer engines notice when assistive technology comes, but not that it is there already.
-  static const bool told = [] {
-    if (QAccessible::isActive()) QAccessible::setActive(true);
-    return true;
-  }();
-  Q_UNUSED(told)
+  if (QAccessible::isActive()) QAccessible::setActive(true);
 }
 
 QWebEngineScript WebEngine::refusals() {

@@ -168,7 +168,7 @@ void SheetWidget::paintEvent(QPaintEvent*) {
 
 std::unique_ptr<hosting::PageEngine> SheetWidget::openPage(const render::EmbedItem& embed,
                                                            hosting::PageEngine::Client& client) {
-  activeBefore_ = isActiveWindow();
+  activeBefore_ = isActiveWindow() ? window()->internalWinId() : 0;
   return SheetSurface::openPage(embed, client);
 }
 
@@ -180,7 +180,8 @@ void SheetWidget::placePage(hosting::PageEngine& engine, const hosting::PagePlac
   page->show();
   // The first widget that Qt draws by other means than the rest has its window made anew, which
   // comes without the keyboard.
-  if (std::exchange(activeBefore_, false) && !isActiveWindow()) activateWindow();
+  const WId before = std::exchange(activeBefore_, 0);
+  if (before && window()->internalWinId() != before) activateWindow();
   stack_.append(page);
   if (std::size_t(index) < layers_.size()) stack_.append(layers_[std::size_t(index)].picture);
 }

@@ -79,7 +79,7 @@ class SheetWidget : public QWidget, public SheetSurface, public WidgetAccessible
   QList<QWidget*> stack_;              ///< what lies over the painted panel, from the bottom up
   SheetWidgetFront* front_ = nullptr;  ///< made with the first page
   PictureWidget* ring_ = nullptr;
-  bool activeBefore_ = false;  ///< the window, before a page came
+  WId activeBefore_ = 0;  ///< the native window that a page is opened in, if it is active
   bool settleQueued_ = false;
 };
 

@@ -107,11 +107,16 @@ TEST(WebViewController, ItsPageRunsUnderWhatTheDeviceCovers) {
 }
 
 TEST(WebViewController, IsMadeInThreeWays) {
-  const auto named = std::make_shared<WebViewController>("Page", foundation::Bundle::embedded());
+  const auto bundle = foundation::Bundle::embedded();
+  const auto plain = std::make_shared<WebViewController>();
+  const auto named = std::make_shared<WebViewController>("Page", bundle);
+  EXPECT_EQ(plain->nibName(), std::nullopt);
   EXPECT_EQ(named->nibName(), "Page");
-  for (const auto& overlay :
-       {std::make_shared<WebViewController>(), named, WebViewController::initWithCoder()}) {
+  EXPECT_EQ(named->nibBundle(), bundle);
+  for (const auto& overlay : {plain, named, WebViewController::initWithCoder()}) {
+    EXPECT_FALSE(overlay->token || overlay->userName || overlay->locale);
     TestWindow window(swiftui::hosting(overlay));
+    EXPECT_EQ(render::printFrames(window.shown()), "embed 0 0 320 640 #FFFFFFFF\n");
     EXPECT_EQ(shownContent(window.shown()).url().value().absoluteString(),
               "https://modules.quorix.example/html/overlays/info?lang");
   }

@@ -181,6 +181,8 @@ TEST_F(QmlModule, FetchesTextsAheadOnceTheNetworkIsOn) {
   foundation::URLSession::shared().setNetworkEnabled(false);
   add("import QuorixWidgets; Item { TextService { prefetch: 'it' } }");
   EXPECT_TRUE(isOff()) << "a switch that is not named is the host's";
+  add("import QuorixWidgets; Item { TextService { networkEnabled: true } }");
+  EXPECT_FALSE(isOff());
 }
 
 }  // namespace

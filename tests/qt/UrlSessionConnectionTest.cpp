@@ -26,12 +26,16 @@ TEST_F(ConcurrentUrlSession, ReadsOverHttpOnlyAndFollowsRedirects) {
   server.serve("/two", redirect(server.base() + "/hop"));
   server.serve("/loop", redirect("/loop"));
   server.serve("/file", redirect("file:///etc/hostname"));
+  server.serve("/data", redirect("data:text/plain,inside"));
 
   EXPECT_EQ(fetch("/two").response.body, kTable);
   expectErrors({
       {"http://127.0.0.1:1/", QNetworkReply::ConnectionRefusedError},
       {"file:///etc/hostname", QNetworkReply::ProtocolUnknownError},
+      {"data:text/plain,inside", QNetworkReply::ProtocolUnknownError},
+      {"qrc:/qt-project.org/", QNetworkReply::ProtocolUnknownError},
       {server.base() + "/file", QNetworkReply::ProtocolUnknownError},
+      {server.base() + "/data", QNetworkReply::ProtocolUnknownError},
       {server.base() + "/loop", QNetworkReply::TooManyRedirectsError},
   });
 }

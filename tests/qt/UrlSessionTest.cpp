@@ -33,6 +33,7 @@ std::string deflated(int status, const std::string& body) {
 }
 
 TEST_F(ConcurrentUrlSession, AnswersAreAnswersWhateverTheirStatusAndBrokenOnesAreErrors) {
+  const std::string challenge = "WWW-Authenticate: Basic realm=\"r\"\r\n";
   const std::string gzip = "Content-Encoding: gzip\r\n";
   const struct {
     const char* name;
@@ -42,6 +43,8 @@ TEST_F(ConcurrentUrlSession, AnswersAreAnswersWhateverTheirStatusAndBrokenOnesAr
   } table[] = {
       {"found", {httpAnswer(200, kTable)}, 200, kTable},
       {"not found", {httpAnswer(404, kTable)}, 404, kTable},
+      {"locked", {httpAnswer(401, kTable, challenge)}, 401, kTable},
+      {"reset", {httpAnswer(205, kTable)}, 205, kTable},
       {"moved to nowhere", {httpAnswer(301, kTable)}, 301, kTable},
       {"by a proxy", {httpAnswer(305, kTable, "Location: /0\r\n")}, 305, kTable},
       {"largest", {httpAnswer(200, std::string(kLimit, 'x'))}, 200, std::string(kLimit, 'x')},
@@ -111,18 +114,25 @@ TEST_F(ConcurrentUrlSession, EndsARequestThatTakesTooLongNotOneThatWaitedForItsT
 TEST_F(ConcurrentUrlSession, RequestsForOneAddressShareAFetchWhileItLasts) {
   const std::string body(500, 'x');  // half a second, a millisecond a byte
   server.serve("/list", {httpAnswer(200, body), 1});
+  server.serve("/cut", {httpAnswer(200, body).substr(0, 300), 1, true});
   std::atomic<int> asked = 0;
   const auto protocol = foundation::URLSession::shared().registerProtocol([&](const URL&) {
     ++asked;
     return std::nullopt;
   });
-  std::vector<Fetch> fetches;
-  for (int row = 1; row < 500; ++row) fetches.emplace_back(transport, server.base() + "/list");
+  std::vector<Fetch> whole, broken;
+  const auto askForBoth = [&] {
+    whole.emplace_back(transport, server.base() + "/list");
+    broken.emplace_back(transport, server.base() + "/cut");
+  };
+  for (int row = 1; row < 500; ++row) askForBoth();
   while (server.requests("/list").empty()) std::this_thread::yield();
-  fetches.emplace_back(transport, server.base() + "/list");  // the answer has begun
-  for (Fetch& fetch : fetches) EXPECT_EQ(fetch.wait().response.body, body);
+  askForBoth();  // the answer has begun
+  for (Fetch& fetch : whole) EXPECT_EQ(fetch.wait().response.body, body);
+  for (Fetch& fetch : broken) EXPECT_TRUE(fetch.wait().response.error);
   EXPECT_EQ(server.requests("/list").size(), 1u);
-  EXPECT_EQ(asked, 500);
+  EXPECT_EQ(server.requests("/cut").size(), 1u);
+  EXPECT_EQ(asked, 1000);
   EXPECT_EQ(fetch("/list").response.body, body);
   EXPECT_EQ(server.requests("/list").size(), 2u);
 }

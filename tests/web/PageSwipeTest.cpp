@@ -52,11 +52,16 @@ TYPED_TEST_SUITE(PageSwipe, Screens, ScreenName);
 
 TYPED_TEST(PageSwipe, LeadsBackAndForwardAndLeavesThePageItsOwn) {
   this->openRed();
+  this->scroll(kPlain, {2, -20});
+  EXPECT_TRUE(this->stays(Qt::red)) << "a vertical scroll";
+  this->scroll(kPlain, {-20, 0});
+  EXPECT_TRUE(this->stays(Qt::red)) << "nothing lies ahead";
   this->scroll(kWide, {20, 0});
   EXPECT_TRUE(this->stays(Qt::red)) << "a table scrolls";
   this->scroll(kOwn, {20, 0});
   EXPECT_TRUE(this->stays(Qt::red)) << "a script scrolls";
   this->touch({100, 400}, {250, 400});
+  this->touch({5, 300}, {12, 450});
   EXPECT_TRUE(this->reported("touchmove"));
   EXPECT_FALSE(reports().contains("touchcancel"));
   EXPECT_TRUE(this->stays(Qt::red)) << "a finger on the page";

@@ -99,13 +99,16 @@ std::vector<WayOut> waysOut() {
   const std::vector<std::string> call = {"tel:+4612345"}, mails(2, mail.toStdString());
   return {
       {"a blank target", link + "target=_blank>x</a>", {}, once},
+      {"a named target", link + "target=elsewhere>x</a>", {}, once},
       {"the middle button", link + ">x</a>", {}, once, 1, Qt::MiddleButton},
       {"the Control key", link + ">x</a>", {}, once, 1, Qt::LeftButton, Qt::ControlModifier},
       {"a script on click", onClick(opens), {}, once, 1, Qt::LeftButton, {}, false},
       {"a script by itself", {}, opens, once, 0},
       {"a script that may not", {}, opens, {}, 0, Qt::NoButton, {}, false},
+      {"a flood", {}, flood, once, 0},
       {"a flood on click", onClick(flood), {}, once},
       {"a mail, twice", "<a style='" + kFill + "' href='" + mail + "'>x</a>", {}, mails, 2},
+      {"a flood of calls", {}, callFlood, call, 0},
       {"a flood of calls on click", onClick(callFlood), {}, call},
   };
 }
@@ -145,8 +148,10 @@ TYPED_TEST(PageView, ReachesNoFiles) {
   const QByteArray rows[] = {
       "location = '" + secret + "'",
       "document.body.innerHTML = \"<iframe src='" + secret + "' style='width:99%'></iframe>\"",
+      "const a = document.createElement('a'); a.href = '" + secret + "'; a.click()",
       "location = 'chrome://version'",
       "location = 'qrc:/quorix/web/quick/WebPage.qml'",
+      "location = 'view-source:" + secret + "'",
   };
   for (const QByteArray& script : rows) {
     this->openBlue({}, "setTimeout(() => { try { " + script + " } catch (e) {} fetch('" + secret +
@@ -192,14 +197,18 @@ TYPED_TEST(PageView, FollowsLinksAndLeadsBackAndForward) {
 }
 
 TYPED_TEST(PageView, KeepsTheHostResponsiveUnderHostilePages) {
-  const QByteArray rows[] = {
-      "setTimeout(() => { for (;;); }, 50)",
-      "setInterval(() => { for (let i = 0; i < 50; ++i) open('/other') }, 20)",
-      "setInterval(() => { history.pushState(0, 0, '#' + Math.random()) }, 1)",
+  pages().serve("/round", [](const auto&) {
+    return examples::StandInPages::Answer{302, "", "Location: /round\r\n"};
+  });
+  const std::pair<std::string, QByteArray> rows[] = {
+      {"/page", "setTimeout(() => { for (;;); }, 50)"},
+      {"/page", "setInterval(() => { for (let i = 0; i < 50; ++i) open('/other') }, 20)"},
+      {"/page", "setInterval(() => { history.pushState(0, 0, '#' + Math.random()) }, 1)"},
+      {"/round", {}},
   };
-  for (const QByteArray& script : rows) {
+  for (const auto& [path, script] : rows) {
     pages().serve("/page", page("#0000ff", {}, script));
-    this->open(std::string(kModules) + "/page");
+    this->open(kModules + path);
     ASSERT_TRUE(waitUntil([] { return pages().requests().size() > 1; }));
     QElapsedTimer turn;
     qint64 longest = 0;
@@ -208,9 +217,9 @@ TYPED_TEST(PageView, KeepsTheHostResponsiveUnderHostilePages) {
       QTest::qWait(10);
       longest = std::max(longest, turn.elapsed());
     }
-    EXPECT_LT(longest, 250) << script.toStdString();
+    EXPECT_LT(longest, 250) << path << script.toStdString();
     this->screen.clickAt(this->kAtControl);
-    EXPECT_FALSE(this->isOpen()) << script.toStdString();
+    EXPECT_FALSE(this->isOpen()) << path << script.toStdString();
     pages().forgetRequests();
   }
 }
