@@ -96,7 +96,7 @@ if(QUORIX_QT)
   set(qml_sources_folder ${CMAKE_INSTALL_DATADIR}/quorixwidgets)
   target_sources(QuorixQml INTERFACE
     $<INSTALL_INTERFACE:${qml_sources_folder}/LinkModule.cpp>)
-  install(FILES ${PROJECT_SOURCE_DIR}/qt/qml/link/LinkModule.cpp DESTINATION ${qml_sources_folder}
+  install(FILES ${PROJECT_SOURCE_DIR}/qml/link/LinkModule.cpp DESTINATION ${qml_sources_folder}
     COMPONENT dev)
   set(qml_folder ${CMAKE_INSTALL_LIBDIR}/qt6/qml/QuorixWidgets)
   set_target_properties(QuorixQmlPlugin PROPERTIES INSTALL_RPATH "${quorix_here}/../../..")

@@ -6,7 +6,7 @@
 #include "platform/foundation/Runtime.h"
 #include "platform/foundation/URLSession.h"
 #include "platform/swiftui/TreePrinter.h"
-#include "qt/qml/Types.h"
+#include "qml/Types.h"
 #include "tests/qt/Screens.h"
 
 namespace quorix::testing {

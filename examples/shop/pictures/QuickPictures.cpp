@@ -7,8 +7,8 @@
 
 #include "examples/shop/pictures/ShopScene.h"
 #include "platform/foundation/Error.h"
+#include "qml/Types.h"
 #include "qt/WebComponent.h"
-#include "qt/qml/Types.h"
 
 namespace quorix::examples {
 namespace {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "qt/qml/WidgetItem.h"
+#include "qml/WidgetItem.h"
 
 namespace quorix::examples {
 

@@ -1,4 +1,4 @@
-#include "qt/qml/Types.h"
+#include "qml/Types.h"
 
 #include <QQmlInfo>
 #include <QWindow>

@@ -1,4 +1,4 @@
-#include "qt/qml/WidgetItem.h"
+#include "qml/WidgetItem.h"
 
 #include <QLocale>
 #include <utility>

@@ -5,7 +5,7 @@
 #include <QObject>
 #include <QQmlParserStatus>
 
-#include "qt/qml/WidgetItem.h"
+#include "qml/WidgetItem.h"
 #include "qt/quick/ViewItem.h"
 
 namespace quorix::qml {
