@@ -105,8 +105,8 @@ struct LayoutLine {
 /// A case of a layout table: what a view of plain elements looks like in a window.
 ///
 ///     == what the case shows
-///     in 200 x 40 scale=2 rtl top=10   scale, direction and the safe area's insets (top, leading,
-///                                      bottom, trailing) may be left out
+///     in 200 x 40 scale=2 rtl top=10   scale, direction, larger text and the safe area's insets
+///                                      (top, leading, bottom, trailing) may be left out
 ///     row spacing=10                   children are indented by two
 ///       text "aaaa bb"                 16 points: 8 wide a character, 20 high a line
 ///       spacer
@@ -135,6 +135,7 @@ struct LayoutCase {
     using Direction = layout::LayoutDirection;
     swiftui::Environment result;
     result.scale = settings.number("scale").value_or(1);
+    if (settings.has("larger")) result.textSize = swiftui::ContentSizeCategory::extraLarge;
     result.direction = settings.has("rtl") ? Direction::rightToLeft : Direction::leftToRight;
     return result;
   }
