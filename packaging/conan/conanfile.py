@@ -13,7 +13,7 @@ from conan.tools.cmake import CMake, CMakeDeps, CMakeToolchain, cmake_layout
 from conan.tools.files import copy
 
 TREE = ["CMakeLists.txt", "LICENSE", "cmake/*", "platform/*", "QuorixWidgets/*", "qt/*",
-        "examples/common/*", "tools/*"]
+        "qml/*", "examples/common/*", "tools/*"]
 FONTS = "QuorixWidgets/resources/Assets.xcassets/Fonts"
 
 
