@@ -10,7 +10,7 @@
 namespace quorix::testing {
 namespace {
 
-/// Depth first; a subtree that is invisible is out of reach with all that is in it.
+/// Searches depth first. Skips invisible subtrees.
 QAccessibleInterface* findIn(QAccessibleInterface* root, const QString& name) {
   if (!root || root->state().invisible) return nullptr;
   if (root->text(QAccessible::Name) == name && root->role() != QAccessible::Dialog) return root;
