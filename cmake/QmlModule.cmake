@@ -20,7 +20,7 @@ foreach(file ${qml_module_files})
   configure_file(${PROJECT_SOURCE_DIR}/qml/${file} ${qml_module_folder}/${file} COPYONLY)
 endforeach()
 
-# Tells the types that a ViewItem is an item, and the types of its signals' parameters.
+# Declares ViewItem as an item and the types of its signals' parameters, for the module's types.
 qt_extract_metatypes(QuorixQuick)
 qt_extract_metatypes(QuorixQt)
 qt_add_plugin(QuorixQmlPlugin SHARED CLASS_NAME QuorixWidgetsPlugin)

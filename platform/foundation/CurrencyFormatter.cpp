@@ -59,7 +59,7 @@ icu::number::LocalizedNumberFormatter makeFormatter(const Locale& locale) {
       ucurr_forLocale(language.getName(), regional, 4, &status) == 3 && U_SUCCESS(status)) {
     return formatter.unit(icu::CurrencyUnit(regional, status));
   }
-  // Without a region, use the generic sign. Some languages' data would write "XXX".
+  // Otherwise use the generic sign. Some languages' data would write "XXX".
   status = U_ZERO_ERROR;
   icu::DecimalFormatSymbols symbols(language, status);
   symbols.setSymbol(icu::DecimalFormatSymbols::kCurrencySymbol, u"\u00A4");

@@ -16,7 +16,7 @@
 namespace quorix::foundation {
 namespace {
 
-// What zlib's "window bits" mean.
+// Values of zlib's "window bits".
 constexpr int kZlib = MAX_WBITS, kGzip = MAX_WBITS + 16, kRaw = -MAX_WBITS;
 
 std::optional<std::string> unpacked(std::string& packed, int format, std::size_t limit) {

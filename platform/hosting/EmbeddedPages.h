@@ -60,7 +60,7 @@ class TrackpadSwipe {
 /// page's requests to the content, and limits the time of loads and answers. Main thread.
 class EmbeddedPage final : private PageEngine::Client {
  public:
-  /// Shows the page. Both callbacks come outside the engine's own calls.
+  /// Shows the page. `pageHangs` and `pageEnded` are called outside the engine's own calls.
   class Owner {
    public:
     /// Null if no engine can show the page.

@@ -8,8 +8,7 @@
 namespace quorix::hosting {
 
 /// Caches evaluations between `sizeThatFits` and `scene`. Keeps only the latest few, enough for the
-/// views on one screen: ten thousand views that only measured themselves hold no memory. Main
-/// thread.
+/// views on one screen: ten thousand views that only measured themselves hold none. Main thread.
 class RecentEvaluations {
  public:
   using Slot = std::unique_ptr<swiftui::Evaluation>;

@@ -28,8 +28,7 @@ struct SheetGeometry {
   /// The height of the panel's content area at rest: the smallest of `detents`, at most that of the
   /// largest sheet. Without detents, the largest.
   double contentHeight(const swiftui::PresentationDetents& detents) const;
-  /// The insets of the panel, which may be narrower than the window, because of what the device
-  /// covers.
+  /// The insets that the device covers of the panel, which may be narrower than the window.
   layout::EdgeInsets panelInsets() const;
   /// The panel's frame while `revealed` points of it are visible.
   layout::Rect panel(double revealed) const;

@@ -83,9 +83,9 @@ class QUORIX_EXPORT SheetPresenter {
   /// Whether `frame`, in `scene`, is scrolled out of sight.
   bool isScrolledAway(const layout::Rect& frame) const;
 
-  /// Moves the focus inside the sheet and scrolls to it. After the last element the first one
-  /// follows, because the focus does not leave an open sheet. False if the focus should move to the
-  /// embedded page, which follows the last element.
+  /// Moves the focus inside the sheet and scrolls to it. The focus never leaves an open sheet: the
+  /// first element follows the last one. With an embedded page, returns false after the last
+  /// element: then the focus should move to the page.
   bool moveFocus(bool forward);
   /// Moves the focus to accessibility element `index` of `scene`. False if that has no action.
   bool focus(int index);

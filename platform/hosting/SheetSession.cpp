@@ -161,8 +161,8 @@ void SheetSession::track(const PointerEvent& event) {
   velocity_.add(event.point.y, event.time * 1e-3);
 }
 
-/// Whether `event` is the second of two quick taps that opened the sheet. It must not close the
-/// sheet again.
+/// Whether `event` is the second of two quick taps on the element that opened the sheet. It must
+/// not close the sheet again.
 bool SheetSession::isSecondTap(const PointerEvent& event) const {
   const auto opener = opener_.lock();
   const double passed = opener ? event.time - (*opener)->releasedAt_ : 0;

@@ -68,7 +68,7 @@ void ViewHost::State::evaluateAgain() {
   RecentEvaluations::shared().fill(evaluation, graph.evaluate(environment));
   detents = evaluation->detents;
   for (const auto& content : evaluation->hosted) {
-    // The content may outlive this host.
+    // The content may outlive this object.
     content->onChange([this, life = graph.life()] {
       if (!life.expired()) changed();
     });
@@ -119,7 +119,8 @@ void ViewHost::State::layOut(const Area& within) {
   tellSizes(std::move(builder.geometry));
 }
 
-/// Calls the views that observe a size, for each size that changed. They may call this host again.
+/// Calls the views that observe a size, for each size that changed. They may call this object
+/// again.
 void ViewHost::State::tellSizes(std::vector<swiftui::WatchedSize> sizes) {
   auto before = std::exchange(geometry, {});
   for (const swiftui::WatchedSize& now : sizes) geometry.emplace_back(now.path, now.size);
@@ -133,8 +134,8 @@ void ViewHost::State::tellSizes(std::vector<swiftui::WatchedSize> sizes) {
   }
 }
 
-/// The display list for input: the latest one, also if the next is not made yet. Null before the
-/// first.
+/// The display list for input. If the latest one is out of date, makes a new one now for the same
+/// area, without waiting for the next frame. Null before the first layout.
 const render::Scene* ViewHost::State::current() {
   if (!scene && area) layOut(*area);
   return scene ? &*scene : nullptr;

@@ -17,7 +17,7 @@ namespace quorix::hosting {
 /// the surface when to paint again. Main thread.
 class QUORIX_EXPORT ViewHost {
  public:
-  /// The surface. Both functions may be called during a call of the host.
+  /// The surface. Both functions may be called during a call of the `ViewHost`.
   class Client {
    public:
     virtual ~Client() = default;
@@ -48,7 +48,7 @@ class QUORIX_EXPORT ViewHost {
 
   /// The display list of the view in an area of `size` less `safeArea`, in points. A smaller view
   /// is centered. Elements that ignore the safe area extend into the insets. The reference is valid
-  /// until the next call of this host.
+  /// until the next call of this object.
   const render::Scene& scene(layout::Size size, const layout::EdgeInsets& safeArea = {});
 
   /// Moves the display list out. The next call that needs one makes a new one.

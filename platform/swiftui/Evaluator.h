@@ -27,7 +27,7 @@ struct TaskRequest {
 };
 
 /// The result of one evaluation of a view tree: the elements to lay out, and the requests to the
-/// host. All of it lives in one arena and is destroyed with the evaluation.
+/// `ViewHost`. All of it lives in one arena and is destroyed with the evaluation.
 class Evaluation {
   foundation::Arena::Lease arena_ = foundation::Arena::lease();  // first member: destroyed last
 
@@ -52,7 +52,7 @@ std::unique_ptr<Evaluation> evaluate(const View& root, const Environment& enviro
                                      StateStore& store);
 
 /// Runs one evaluation of a view tree: visits its nodes and bodies, and collects their elements and
-/// their requests to the host. Main thread.
+/// their requests to the `ViewHost`. Main thread.
 class Evaluator {
  public:
   Evaluator(const Environment& settings, StateStore& store, Evaluation& result)

@@ -57,11 +57,12 @@ using layout::ProposedSize;
 using layout::Size;
 
 /// How far a text may shrink before a word in it breaks. Texts in a row (a price, its name) must
-/// stay readable as whole words. A paragraph does not shrink for one very long word.
+/// stay readable as whole words. A paragraph shrinks less: one very long word must not make all of
+/// it small.
 constexpr double smallestInRow = 0.25;
 constexpr double smallestParagraph = 0.5;
 
-/// Points; larger than the rounding error of a text engine.
+/// Points; covers the rounding error of a text engine.
 constexpr double roundingNoise = 1.0 / 32;
 
 struct ShownText final : Element {

@@ -40,8 +40,7 @@ class QUORIX_EXPORT Text {
   /// The text that is shown to a user who reads `language`.
   std::string resolved(std::string_view language = {}) const;
 
-  /// The parts of a joined text. Empty for a single text; only such a text has the properties
-  /// below.
+  /// The parts of a joined text. Empty for a single text; only such a text has a key and arguments.
   const std::vector<Text>& parts() const { return parts_; }
   const std::string& key() const { return text_; }
   const std::vector<std::string>& arguments() const { return arguments_; }

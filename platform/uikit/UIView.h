@@ -170,8 +170,8 @@ class QUORIX_EXPORT UIView : public std::enable_shared_from_this<UIView> {
   /// and the items' frames are exact (not on pixels), in the display list's coordinates.
   virtual void draw(const layout::Rect& frame, const LayoutContext& context,
                     std::vector<render::Item>& items) const;
-  /// The content's element for assistive technology, or absent. `language` is that of a label which
-  /// the content does not set.
+  /// The content's element for assistive technology, or absent. A label that the content does not
+  /// set itself is in `language`.
   virtual std::optional<render::AccessibilityElement> describe(std::string_view language) const;
   /// Sets the frame in a layout, without a change notice.
   void layOutAt(const layout::Rect& frame) { frame_ = frame; }

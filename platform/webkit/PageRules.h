@@ -17,9 +17,9 @@ constexpr bool mayNavigateTo(std::string_view scheme) {
 }
 
 /// Limits which of a page's requests for a new window may leave the app, so that a page cannot
-/// flood the desktop. Requests by the user always leave. Without a user gesture, the first request
-/// leaves; later ones only to a web, mail or phone address, and only if `pause` has passed since
-/// the latest opening. One object for each page; main thread. thread.
+/// flood the desktop. Requests by the user always leave. Requests without a user gesture leave only
+/// if `pause` has passed since the latest opening. After the first of them, they leave only to a
+/// web, mail or phone address. One object for each page; main thread.
 ///
 ///     bool mayLeaveUnasked(NewWindowLimit& limit, const foundation::URL& url) {
 ///       return limit.allows(url, false, NewWindowLimit::Clock::now());

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Takes the code out of the guides and out of the headers' comments, and holds it to what is in the tree.
+"""Extracts the code from the guides and from the headers' comments, and checks it against the tree.
 
 snippets.py extract OUT HEADER...    writes every C++, QML and CMake snippet into OUT, for the compiler, qmllint
                                      and CMake; prints the names of the C++ files

@@ -29,8 +29,7 @@ QPointingDevice& touchScreen() {
 
 Screen::Screen() {
   qt::installEngine();
-  qt::AccessibilityBridge::instance();  // hears the next line; the platform itself keeps no such
-                                        // flag
+  qt::AccessibilityBridge::instance();  // observes the next call, which the platform ignores
   QAccessible::setActive(true);
 }
 
