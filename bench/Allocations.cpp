@@ -8,8 +8,7 @@ std::atomic<std::size_t> count = 0;
 
 }  // namespace
 
-// The program's own definitions stand before those of the C library, for every library in the
-// process.
+// The linker prefers these definitions to those of the C library, for all libraries in the process.
 extern "C" {
 void* __libc_malloc(std::size_t size);
 void* __libc_calloc(std::size_t number, std::size_t size);

@@ -4,7 +4,7 @@
 
 namespace quorix::bench {
 
-/// How often this process has allocated memory so far, by all its libraries together (glibc only).
+/// The number of memory allocations of this process so far, in all its libraries (glibc only).
 std::size_t allocations();
 
 }  // namespace quorix::bench

@@ -13,7 +13,7 @@
 namespace quorix::bench {
 namespace {
 
-/// Before the application object is made.
+/// Selects the renderer; must be called before the application object is made.
 int& prepared(int& argc) {
   QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
   return argc;
@@ -26,7 +26,7 @@ BenchApplication::BenchApplication(int& argc, char** argv) : application_(prepar
   noNews_ = foundation::URLSession::shared().registerProtocol([](const foundation::URL&) {
     return foundation::URLResponse{{}, {}, 404};
   });
-  // As the first of our rows would.
+  // Registers the faces with Qt, as our first row would.
   if (qt::picture(Shopper(0).ours()).isNull()) std::abort();
 }
 

@@ -5,14 +5,14 @@
 
 namespace quorix::bench {
 
-/// The application object of a benchmark: Qt's software renderer, our engine, a network that has
-/// nothing new to tell, and our widgets' faces known to Qt, so that the peers draw with the same
-/// ones.
+/// The application object of a benchmark: Qt's software renderer, our engine, a network that always
+/// answers without new texts, and our widgets' faces registered with Qt, so that the peers draw
+/// with the same faces.
 class BenchApplication {
  public:
   BenchApplication(int& argc, char** argv);
 
-  /// Turns the event loop until windows have nothing left to do.
+  /// Runs the event loop until the windows are at rest.
   static void settle();
 
  private:

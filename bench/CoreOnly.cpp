@@ -1,4 +1,5 @@
-// The least program on the widgets' core alone, for its size: one row, printed as a tree.
+// The smallest program that uses only the widgets' core: prints one row as a tree. Measured for its
+// size.
 
 #include <cstdio>
 

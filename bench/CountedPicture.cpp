@@ -1,6 +1,7 @@
-// A builder call to the painted picture of a score row, to be counted: the same row again ("same")
-// or a row of another shopper's each time ("different"). Prints the allocations of a call; run
-// under callgrind with two counts of calls, the difference is the instructions of a call.
+// Counts the work from a builder call to the painted picture of a score row: always the same row
+// ("same"), or each time the row of another shopper ("different"). Prints the allocations of a
+// call. Under callgrind, the difference between two runs with different CALLS gives the
+// instructions of a call.
 //
 //   counted_picture same|different [CALLS]
 #include <algorithm>
@@ -21,7 +22,7 @@ int main(int argc, char** argv) {
   const bool different = argc > 1 && std::string_view(argv[1]) == "different";
   const int calls = argc > 2 ? std::atoi(argv[2]) : 1000;
 
-  // More shoppers than any cache of texts holds.
+  // More shoppers than a cache of texts can hold.
   std::vector<std::unique_ptr<bench::Shopper>> shoppers;
   for (std::size_t i = 0; i < (different ? 997 : 1); ++i) {
     shoppers.push_back(std::make_unique<bench::Shopper>(i));
@@ -29,7 +30,7 @@ int main(int argc, char** argv) {
   qt::PictureOptions options;
   options.width = 343;
   options.height = 17;
-  options.background = graphics::RGBA{0, 0, 0, 0};  // as on the library's surfaces
+  options.background = graphics::RGBA{0, 0, 0, 0};  // like the library's surfaces
   const auto paint = [&](std::size_t turn) {
     const auto& shopper = shoppers[turn % shoppers.size()];
     if (qt::picture(shopper->ours(), options).isNull()) std::abort();

@@ -1,4 +1,4 @@
-// The info widget with anchors: as little as QML can be made to do for it.
+// The info widget with anchors: the smallest amount of work for QML.
 
 import QtQuick
 

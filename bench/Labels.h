@@ -6,7 +6,7 @@ class QLabel;
 
 namespace quorix::bench {
 
-/// One button of labels in a layout, as one would write it with Qt Widgets.
+/// One button with labels in a layout: the usual way with Qt Widgets.
 class LabelsWidget : public QWidget {
   Q_OBJECT
 
@@ -18,7 +18,7 @@ class LabelsWidget : public QWidget {
 
  protected:
   static QFont font(int pixels);
-  /// A palette whose texts have `color`.
+  /// A palette with the text color `color`.
   static QPalette ink(const QColor& color);
   QLabel* label(const QString& text, const QFont& font, const QPalette& palette);
 

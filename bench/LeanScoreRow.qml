@@ -1,4 +1,4 @@
-// The same row with anchors in place of the layout: as little as QML can be made to do for it.
+// The same row with anchors instead of the layout: the smallest amount of work for QML.
 
 import QtQuick
 
@@ -7,7 +7,7 @@ Item {
 
     required property string title
     required property string fee
-    property string baseFee  // struck through beside the fee; empty without a discount
+    property string baseFee  // struck through; empty without a discount
     property string label
     property string hint
     property color ink

@@ -1,5 +1,6 @@
-// Makes COUNT widgets of one kind live in a window that has room for the first of them, and prints
-// what they cost. One kind and count for each process, so that no run inherits another's memory.
+// Makes COUNT live widgets of one kind in a window that shows only the first of them, and prints
+// their cost. One kind and count for each process, so that a run does not start with another's
+// memory.
 //
 //   live_widgets row|declarative|imperative ours|labels|QML-FILE COUNT
 
@@ -32,8 +33,8 @@ constexpr QSize kWindow(343, 720);
 constexpr std::size_t kChunk = 100;
 
 struct Memory {
-  double heap;      ///< bytes handed out by malloc
-  double resident;  ///< bytes of the process in memory
+  double heap;      ///< bytes allocated by malloc
+  double resident;  ///< resident memory of the process, bytes
 
   static Memory now() {
     malloc_trim(0);
@@ -100,7 +101,7 @@ QQuickItem* ours(const Subject& subject, QQuickItem* parent) {
   return item;
 }
 
-/// What is made live, and in what.
+/// A kind of live widget and its window.
 struct Kind {
   std::string of;    ///< "row", "declarative" or "imperative"
   std::string made;  ///< "ours", "labels" or a file in QML
@@ -135,7 +136,7 @@ void report(const Kind& kind, std::size_t count) {
   std::vector<std::unique_ptr<Subject>> subjects;
   for (std::size_t i = 0; i < count; ++i) subjects.push_back(kind.subject(i));
   const Memory before = Memory::now();
-  std::vector<double> chunks;  // microseconds a widget
+  std::vector<double> chunks;  // microseconds for each widget
   for (std::size_t i = 0; i < count; i += kChunk) {
     const std::size_t end = std::min(count, i + kChunk);
     const auto start = Clock::now();

@@ -1,6 +1,6 @@
-// A builder call to a painted widget: ours beside the same in QML and in Qt Widgets, each in an
-// image of the same size. "same" and "different" are score rows, of one shopper all the time or of
-// always another; "declarative" and "imperative" are info widgets, whose peers are "info".
+// Times a builder call up to the painted widget: ours and the same in QML and in Qt Widgets, each
+// in an image of the same size. "same" and "different" are score rows, of one shopper or of another
+// one each time. "declarative" and "imperative" are info widgets; their peers are "info".
 
 #include <benchmark/benchmark.h>
 
@@ -23,7 +23,7 @@
 namespace quorix::bench {
 namespace {
 
-/// What is painted, one after the other, and into which size.
+/// The subjects that are painted in turn, and the size of the image.
 struct Series {
   std::vector<std::unique_ptr<Subject>> subjects;
   QSize size;
@@ -32,7 +32,7 @@ struct Series {
   const Subject& next() { return *subjects[turn++ % subjects.size()]; }
 };
 
-/// As on the pages of a shop, or of more shoppers than any cache of texts holds.
+/// `shoppers` is the number on a shop's pages, or more than a cache of texts can hold.
 Series rows(std::size_t shoppers) {
   Series series{{}, {343, 17}};
   for (std::size_t i = 0; i < shoppers; ++i)
@@ -46,7 +46,7 @@ Series info(InfoSubject::Form form) {
   return series;
 }
 
-/// The first of the texts stands in the upper half.
+/// Stops the process if the upper half, with the first text, is empty.
 void requireInk(const QImage& image) {
   for (int y = 0; y < (image.height() + 1) / 2; ++y) {
     for (int x = 0; x < image.width(); ++x) {
@@ -57,15 +57,15 @@ void requireInk(const QImage& image) {
   std::abort();  // nothing was painted
 }
 
-/// The processor time that this thread has had: on a machine that does other things besides, the
-/// clock on the wall says little. Everything that is timed here runs on this one thread.
+/// The processor time of this thread, on which all timed work runs. Unlike wall-clock time, it does
+/// not include other work of the machine.
 double threadSeconds() {
   timespec now{};
   clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
   return static_cast<double>(now.tv_sec) + 1e-9 * static_cast<double>(now.tv_nsec);
 }
 
-/// Times `paint` alone; `cleanUp` takes the widget away again.
+/// Times only `paint`; `cleanUp` removes the widget afterwards.
 template <class Paint, class CleanUp>
 void run(benchmark::State& state, Series& series, Paint paint, CleanUp cleanUp) {
   for (auto _ : state) {
@@ -82,7 +82,7 @@ void oursInPicture(benchmark::State& state, Series& series) {
   qt::PictureOptions options;
   options.width = series.size.width();
   options.height = series.size.height();
-  options.background = graphics::RGBA{0, 0, 0, 0};  // as on the library's surfaces
+  options.background = graphics::RGBA{0, 0, 0, 0};  // like the library's surfaces
   QImage image;
   run(
       state, series, [&](const Subject& subject) { image = qt::picture(subject.ours(), options); },
@@ -90,7 +90,7 @@ void oursInPicture(benchmark::State& state, Series& series) {
   requireInk(image);
 }
 
-/// What `make` makes for a subject and an item to stand in, in the next frame of a window.
+/// Times `make`, which makes an item for a subject, up to the next frame of a window.
 template <class Make>
 void inWindow(benchmark::State& state, Series& series, Make make) {
   QuickStage stage(series.size);
@@ -116,7 +116,7 @@ void oursInWindow(benchmark::State& state, Series& series) {
   });
 }
 
-/// Shows a finished image: the least that an item with a picture costs.
+/// Shows a finished image: the minimum cost of an item with a picture.
 class BareImageItem final : public QQuickItem {
  public:
   BareImageItem(const QImage& image, QQuickItem* parent) : QQuickItem(parent), image_(image) {
@@ -145,7 +145,7 @@ void bareImage(benchmark::State& state, Series& series) {
   options.background = graphics::RGBA{0, 0, 0, 0};
   const QImage image = qt::picture(series.next().ours(), options);
   inWindow(state, series, [&](const Subject&, QQuickItem* root) {
-    // As the surface, which paints an image of its own each time.
+    // Copy the image, because the surface too paints an image each time.
     return new BareImageItem(image.copy(), root);
   });
 }

@@ -12,8 +12,8 @@ class QQuickItem;
 
 namespace quorix::bench {
 
-/// A Qt Quick window whose frames land in an image, on the software scene graph, at once and with
-/// no window system between.
+/// A Qt Quick window whose frames are rendered into an image by the software scene graph,
+/// synchronously and without a window system.
 class QuickStage {
  public:
   explicit QuickStage(QSize size);
@@ -24,7 +24,7 @@ class QuickStage {
   /// The latest frame.
   const QImage& image() const { return image_; }
 
-  /// Makes the next frame.
+  /// Renders the next frame.
   void frame();
 
  private:
@@ -36,10 +36,10 @@ class QuickStage {
 /// Makes widgets in QML: one engine and one component, compiled ahead of time and loaded once.
 class QmlPeer {
  public:
-  /// `file` is that of one of the peers: "ScoreRow", "LeanScoreRow", "InfoWidget".
+  /// `file` is the name of a peer: "ScoreRow", "LeanScoreRow", "InfoWidget".
   explicit QmlPeer(const QString& file);
 
-  /// One of `width` points in `parent`, which does not own it.
+  /// Makes one, `width` points wide, in `parent`, which does not own it.
   QQuickItem* make(const Subject& subject, QQuickItem* parent, double width);
 
  private:

@@ -1,4 +1,4 @@
-// The score row as one would write it in QML for a list of them.
+// The score row in the usual way with QML, for a list of rows.
 
 import QtQuick
 import QtQuick.Layouts
@@ -8,7 +8,7 @@ RowLayout {
 
     required property string title
     required property string fee
-    property string baseFee  // struck through beside the fee; empty without a discount
+    property string baseFee  // struck through; empty without a discount
     property string label
     property string hint
     property color ink

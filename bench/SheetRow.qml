@@ -1,5 +1,5 @@
-// The row that opens its sheet: a popup made at the first tap, as a list of rows would have it, and
-// kept. It comes without motion.
+// The row with its sheet: a popup that is made at the first tap, as in a list of rows, and kept. It
+// opens without motion.
 
 import QtQuick
 import QtQuick.Controls.Basic

@@ -84,7 +84,7 @@ swiftui::View InfoSubject::ours() const {
     return InfoWidgetBuilder::buildSwiftUIInfoWidgetView(kLanguage, style);
   }
   const auto widget = InfoWidgetBuilder::buildUIKitInfoWidgetView(kLanguage, style);
-  // The turn of the main queue that brings the title.
+  // Runs the turn of the main queue that sets the title.
   QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
   return swiftui::hosting(widget);
 }

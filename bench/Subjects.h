@@ -13,31 +13,31 @@ class QWidget;
 
 namespace quorix::bench {
 
-/// What is compared: a widget of ours, and what the same is made of in QML and in Qt Widgets. The
-/// peers get their texts ready made; ours decodes, looks up and formats its own. Needs an
+/// A subject of the comparison: one of our widgets, and its equivalents in QML and in Qt Widgets.
+/// The equivalents get finished texts; ours decodes, looks up and formats its own. Needs an
 /// application object; main thread.
 class Subject {
  public:
   virtual ~Subject() = default;
 
-  /// A builder call, and all that it takes until there is something to paint.
+  /// Calls the builder and everything else that must run before painting.
   virtual swiftui::View ours() const = 0;
-  /// The initial properties of the one in QML.
+  /// The initial properties of the QML equivalent.
   virtual QVariantMap properties() const = 0;
-  /// The one in Qt Widgets, in `parent`, which owns it unless it is deleted before.
+  /// The equivalent in Qt Widgets, in `parent`, which owns it unless it is deleted before.
   virtual QWidget* labels(QWidget* parent) const = 0;
 };
 
-// The colors of our widgets in the light appearance, for the peers.
+// The colors of our widgets in the light appearance; the peers use them.
 
 QColor inkColor();
 QColor fadedColor();
 QColor groundColor();
 
-/// A score row's content: the token for our row and, for the peers, the texts that it comes to.
+/// The content of a score row: the token for our row, and the resulting texts for the peers.
 class Shopper final : public Subject {
  public:
-  /// The `number`th of as many different shoppers as are wanted, all with a discount.
+  /// Shopper `number` of any number of different shoppers, all with a discount.
   explicit Shopper(std::size_t number);
 
   swiftui::View ours() const override;
@@ -63,8 +63,8 @@ class InfoSubject final : public Subject {
   QVariantMap properties() const override;
   QWidget* labels(QWidget* parent) const override;
 
-  QString title;        ///< the words alone
-  QString styledTitle;  ///< with the figure in bold, as both toolkits' marked-up text
+  QString title;        ///< without markup
+  QString styledTitle;  ///< the figure in bold, in the markup of both toolkits
   QString link;
 
  private:

@@ -1,4 +1,4 @@
-// Token to figures: ours beside the same decoding with Qt's own classes.
+// Times a token up to its figures: ours, and the same decoding with Qt's own classes.
 
 #include <benchmark/benchmark.h>
 
@@ -19,7 +19,7 @@ namespace {
 
 const TokenData kFigures{0.82, "EUR", 499, 299};
 
-/// Members that the service adds to a token and the widget ignores.
+/// A token with the members that the service adds and the widget ignores.
 std::string smallToken() { return examples::mintToken(kFigures); }
 
 /// The same figures among the claims that tokens usually carry.
@@ -76,7 +76,7 @@ void requireSameFigures(const std::string& token) {
       theirs->discountedReturnsFee == kFigures.discountedReturnsFee) {
     return;
   }
-  std::abort();  // the two do not do the same work
+  std::abort();  // their results differ
 }
 
 void ours(benchmark::State& state, const std::string& token) {

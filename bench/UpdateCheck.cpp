@@ -1,6 +1,6 @@
-// A translation update of one row re-lays out and repaints that row and leaves the others, and the
-// host, alone; at rest nothing happens at all. Counts what was evaluated, measured and painted,
-// prints the counts and fails when they are not these.
+// Checks that a translation update of one row lays out and repaints only that row, and that an app
+// at rest does nothing. Counts evaluations, measurements and paints, prints the counts and fails if
+// they differ from the expected ones.
 
 #include <QCoreApplication>
 #include <QQuickWindow>
@@ -25,7 +25,7 @@ constexpr std::size_t kRows = 1000;
 constexpr std::size_t kUpdated = 7;
 constexpr layout::Size kRowSize = {343, 17};
 
-/// How often things happened to one row.
+/// The number of operations on one row.
 struct Counts {
   int bodies = 0;
   int measured = 0;
@@ -33,7 +33,7 @@ struct Counts {
   bool operator==(const Counts&) const = default;
 };
 
-/// The row's own view behind one that counts.
+/// Wraps the row's own view to count its evaluations.
 struct CountedView {
   static constexpr std::string_view typeName = "CountedView";
   ScoreWidgetView row;
@@ -62,7 +62,7 @@ struct Row {
   }
 };
 
-/// The row on the library's own surface in a window.
+/// The row on the library's own surface, in a window.
 class CountedItem final : public qt::ViewItem {
  public:
   CountedItem(Row& row, std::size_t number, QQuickItem* parent)
@@ -78,7 +78,7 @@ class CountedItem final : public qt::ViewItem {
   Counts& counts_;
 };
 
-/// The row on a surface of the least kind, which counts what its layout measures.
+/// The row on a minimal surface that counts the measurements of its layout.
 class CountedHost final : private hosting::ViewHost::Client, private text::TextEngine {
  public:
   CountedHost(Row& row, std::size_t number) : counts_(row.counts) {
@@ -111,7 +111,7 @@ class CountedHost final : private hosting::ViewHost::Client, private text::TextE
   hosting::ViewHost host_{*this, *this};
 };
 
-/// Runs one update over settled rows and reports what it touched. False when it touched too much.
+/// Runs one update on settled rows and reports the counts. False if they are too high.
 bool check(const char* surface, std::vector<Row>& rows, const int& frames) {
   BenchApplication::settle();
   const int framesBefore = frames;
@@ -142,7 +142,7 @@ bool checkItems() {
   QQuickWindow window;
   int frames = 0;
   QObject::connect(&window, &QQuickWindow::frameSwapped, [&] { ++frames; });
-  window.resize(343, 17 * static_cast<int>(kRows));  // all are seen, so that all could be painted
+  window.resize(343, 17 * static_cast<int>(kRows));  // shows all rows, so that all could be painted
   std::vector<std::unique_ptr<CountedItem>> items;
   for (std::size_t i = 0; i < kRows; ++i) {
     items.push_back(std::make_unique<CountedItem>(rows[i], i, window.contentItem()));

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Runs the benchmark programs of two builds in turns and fails where the second is worse, clear of the noise.
+"""Runs the benchmark programs of two builds in turns. Fails if the second build is significantly worse.
 
 bench/compare.py BUILD-BEFORE BUILD-NOW [--quick]
 """
@@ -11,14 +11,14 @@ import sys
 from pairs import bounds
 from programs import Build
 
-SLOWER = 1.03  # by how much time may differ: where the linker puts code alone makes up to that
-LARGER = 1.02  # and what is counted, not timed
-DOUBT = 0.05   # the chance that any of the bounds of times is wrong without a change
+SLOWER = 1.03  # tolerated ratio of times: a different order of the code alone changes times that much
+LARGER = 1.02  # tolerated ratio of counts
+DOUBT = 0.05   # probability that any bound of the times is wrong although the times are equal
 
 
 def times(build):
-    """Processor times by what was timed: the least of a few short ones, which other work on the machine
-    shows least in. It changes little between a pair that is soon over, and many pairs say more."""
+    """Processor times by benchmark: the minimum of a few short runs, which contains the least of other work.
+    Short runs keep the two builds of a pair close in time, and allow many pairs."""
     found = {f"token, {name.removeprefix('ours/')}": value / 1000 for name, value in
              build.google_benchmark("token_benchmark", "cpu_time", min, "^ours", 10, 0.005).items()}
     found |= {name.replace("oursIn", "").lower().replace("/", ", "): value for name, value in
@@ -37,7 +37,7 @@ def amounts(build):
 
 
 def counts(build):
-    """Empty for a revision from before there was something to count."""
+    """Empty for a revision that has no counting program yet."""
     return build.counts() if build.has("counted_picture") else {}
 
 
@@ -68,7 +68,7 @@ def main():
     before, now = Build(sys.argv[1]), Build(sys.argv[2])
     os.environ["QT_HASH_SEED"] = "0"
     os.sched_setaffinity(0, {max(os.sched_getaffinity(0))})
-    # Counts are the same in every load, so they come first.
+    # Start with the counts, because the machine's load does not change them.
     rows = [*compare_amounts(before, now, counts, ""), *compare_amounts(before, now, amounts, " B"),
             *compare_times(before, now, 16 if "--quick" in sys.argv else 40)]
     for name, old, new, ratio, spread, verdict in (("", "before", "now", "ratio", "surely", ""), *rows):

@@ -1,13 +1,13 @@
-"""What pairs of measurements, one of each side taken one after the other, say about the sides."""
+"""Statistics of paired measurements: one of each side, taken one after the other."""
 
 import math
 import statistics
 
 
 def bounds(ratios, doubt):
-    """The median of `ratios` between the bounds of the true one, each of which is wrong with a chance of at
-    most `doubt`. Asks nothing of how noise is distributed: a ratio falls on either side of the true median
-    as a coin does. Ratios that are too few for `doubt` are bounded by 0 and infinity."""
+    """The median of `ratios`, between a lower and an upper bound of the true median. Each bound is wrong with
+    a probability of at most `doubt`. Assumes no distribution of the noise: a ratio falls on either side of the
+    true median with equal probability. With too few ratios for `doubt`, the bounds are 0 and infinity."""
     ordered = sorted(ratios)
     count = len(ordered)
     chance, outside = 0, 0

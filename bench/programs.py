@@ -1,4 +1,4 @@
-"""What the benchmark programs of one build say, as numbers."""
+"""Runs the benchmark programs of one build and returns their results as numbers."""
 
 import json
 import os
@@ -9,14 +9,14 @@ import subprocess
 import tempfile
 import time
 
-# What a host links or ships, as built: archives, and libraries that are loaded.
+# The files that a host links or ships, as built: archives, and libraries that are loaded.
 COMPONENTS = {"core": "libQuorixWidgets.a", "engine": "libQuorixQt.a", "quick": "libQuorixQuick.a",
               "widgets": "libQuorixQtWidgets.a", "qml": "libQuorixQml.a",
               "web quick": "quorix/libQuorixWebQuick.so", "web widgets": "quorix/libQuorixWebWidgets.so"}
 
 ON_DISPLAY = pathlib.Path(__file__).resolve().parent.parent / "tests/qt/on_display.sh"
 
-# The programs that do one thing again and again, to be counted.
+# Programs that repeat one operation, for counting.
 COUNTED = {"the core's pass over a row": ("core_pass",),
            "builder to a row's picture": ("counted_picture", "same"),
            "… each row another shopper's": ("counted_picture", "different")}
@@ -24,8 +24,8 @@ COUNTED_CALLS = 500
 
 
 class Build:
-    """The programs in `folder`/bench. They run there under a short name, since the length of a path moves
-    a program's stack, and with it how fast it runs."""
+    """The programs in `folder`/bench. They run there under a short name, because the length of the path moves a
+    program's stack and changes its speed."""
 
     def __init__(self, folder):
         self.folder = pathlib.Path(folder).resolve()
@@ -38,7 +38,7 @@ class Build:
                               stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True).stdout
 
     def google_benchmark(self, program, time_name, pick, only=".", repetitions=15, seconds=0.05):
-        """What `pick` picks of the times of each of `program`'s benchmarks, by name. They run in random order."""
+        """For each benchmark of `program`, the result of `pick` on its times. They run in random order."""
         out = self.run(program, "--benchmark_format=json", "--benchmark_enable_random_interleaving=true",
                        f"--benchmark_filter={only}", f"--benchmark_repetitions={repetitions}",
                        f"--benchmark_min_time={seconds}")
@@ -52,7 +52,7 @@ class Build:
         return json.loads(self.run("live_widgets", of, made, str(count)))
 
     def sheet(self, made, motion):
-        """Openings "cold" and "warm", each with the "first" frame and the "work" in milliseconds."""
+        """Openings "cold" and "warm", each with the milliseconds of the "first" frame and of the "work"."""
         return json.loads(self.run("sheet_open", made, motion))
 
     def frames(self, rows):
@@ -64,7 +64,7 @@ class Build:
                                          text=True).stdout)
 
     def start(self, program):
-        """Milliseconds from the start of the process to its first frame, and of processor time."""
+        """Milliseconds from the start of the process to its first frame, and its processor time."""
         os.chdir(self.folder / "bench")
         read, write = os.pipe()
         begin = time.clock_gettime_ns(time.CLOCK_MONOTONIC)
@@ -77,8 +77,8 @@ class Build:
         return (moment - begin) / 1e6, (used.ru_utime + used.ru_stime) * 1e3
 
     def counts(self):
-        """What does not depend on the machine's load, by what was counted: allocations and, where valgrind is
-        there, instructions, of one call."""
+        """Counts of one call that do not depend on the machine's load: allocations and, with valgrind,
+        instructions."""
         found = {}
         for name, program in COUNTED.items():
             found[f"{name}, allocations"] = json.loads(self.run(*program, str(COUNTED_CALLS)))["allocations"]
@@ -94,7 +94,7 @@ class Build:
         return int(re.search(r"Collected : (\d+)", told)[1])
 
     def sizes(self):
-        """Bytes of each component as a shared library, stripped: an archive is linked whole."""
+        """Bytes of each component as a stripped shared library. An archive is linked whole."""
         found = {}
         for name, file in COMPONENTS.items():
             built = self.folder / file

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Runs the benchmark programs of the build given and prints what they say as one table.
+"""Runs the benchmark programs of a build and prints the results as one table.
 
 bench/report.py BUILD [--table | --readme] [--quick]
 """
@@ -47,7 +47,7 @@ class Table:
         self.rows = []
 
     def add(self, what, ours, peer, peer_name, aim, text):
-        """`aim`: how many times less than the peer's ours is to be; None where there is none."""
+        """`aim`: the ratio (peer ÷ ours) to reach; None without one."""
         ratio = peer / ours
         met = "" if aim is None else f"{aim:.2g}" if ratio >= aim else f"{aim:.2g}, missed"
         self.rows.append((what, text(ours), f"{text(peer)}, {peer_name}",
@@ -105,7 +105,7 @@ def painting(table, build, quick):
 def memory(table, build, quick):
     kinds = (("row", "ours", 10000), ("row", "LeanScoreRow", 10000), ("row", "ours", 1000),
              ("declarative", "ours", 1000), ("imperative", "ours", 1000), ("declarative", "InfoWidget", 1000))
-    # The kinds take turns, so that what else the machine does meets all of them.
+    # Alternate the kinds, so that other work of the machine affects all of them.
     runs = {}
     for _ in range(1 if quick else 3):
         for kind in kinds:
@@ -147,7 +147,7 @@ def starts(table, build, quick):
 
 
 def turns(count, runs):
-    """`count` turns of all of `runs`, each a name and a function."""
+    """Runs all of `runs`, each a name and a function, `count` times in turns."""
     taken = {name: [] for name in runs}
     for _ in range(count):
         for name, run in runs.items():
@@ -167,7 +167,7 @@ def sheets(table, build, quick):
 
 
 def lists(table, build, quick):
-    """500 rows scrolled from end to end on a display, by a GPU's renderer (here in software) on a thread of its own."""
+    """Scrolls 500 rows from end to end on a display, with the GPU renderer (here in software) on its own thread."""
     if not shutil.which("Xvfb"):
         table.note("a list of 500, scrolled", "no display here")
         return
@@ -182,7 +182,7 @@ def lists(table, build, quick):
 
 
 def overlays(table, build, quick):
-    """The first overlay beside a bare web view. Without the engine there is nothing to compare."""
+    """The first overlay compared with a bare web view. Without the engine there is nothing to compare."""
     try:
         median = turns(3 if quick else 9, {
             name: lambda name=name: json.loads(build.run(f"overlay_{name}")) for name in ("ours", "bare")})
@@ -207,7 +207,7 @@ def sizes(table, build):
 
 
 def updates_stay_put(build):
-    """Whether one row's update among a thousand touches that row alone."""
+    """Whether the update of one row among a thousand changes only that row."""
     try:
         build.run("update_check")
     except subprocess.CalledProcessError as failure:

@@ -1,4 +1,5 @@
-# Compiler-wide settings: warnings (errors in the dev preset), sanitizers, ccache where present.
+# Settings for all targets: warnings (errors in the dev preset), sanitizers, and ccache if it is
+# there.
 
 add_library(quorix_warnings INTERFACE)
 if(MSVC)
@@ -7,9 +8,9 @@ else()
   target_compile_options(quorix_warnings INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wconversion
     -Wno-sign-conversion
-    # Files that are compiled as one see each other's local names.
+    # In a unity build, files see each other's local names.
     $<$<BOOL:${CMAKE_UNITY_BUILD}>:-Wno-shadow>
-    # GCC 12 reports these two inside the standard library's own variant and string.
+    # GCC 12 warns of these two inside the standard library's own variant and string.
     $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>
     $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 endif()

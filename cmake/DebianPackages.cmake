@@ -12,11 +12,11 @@ set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR})
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
-set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")  # hosts take a later version of the series
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")  # hosts accept later versions of the series
 set(CPACK_DEBIAN_PACKAGE_SECTION libs)
 
-# quorix_debian_package(COMPONENT NAME DESCRIPTION [COMPONENT...]): what is installed as COMPONENT, as
-# the package NAME, which needs those of the other components.
+# quorix_debian_package(COMPONENT NAME DESCRIPTION [COMPONENT...]): puts the files of COMPONENT into
+# the package NAME, which depends on the packages of the other components.
 macro(quorix_debian_package component name description)
   string(TOUPPER ${component} upper)
   list(APPEND CPACK_COMPONENTS_ALL ${component})
@@ -35,7 +35,7 @@ if(QUORIX_QT)
 endif()
 if(TARGET QuorixWebQuick)
   quorix_debian_package(web libquorixwidgets${quorix_series}-web "web pages by Qt WebEngine" qt)
-  # Another series has its files in the same folder.
+  # Packages of different series conflict, because they have their files in the same folder.
   set(CPACK_DEBIAN_WEB_PACKAGE_PROVIDES quorixwidgets-web)
   set(CPACK_DEBIAN_WEB_PACKAGE_CONFLICTS quorixwidgets-web)
   set(CPACK_DEBIAN_WEB_PACKAGE_REPLACES quorixwidgets-web)

@@ -1,5 +1,5 @@
-# embed_resources(TARGET FOLDER): compiles every file below FOLDER into TARGET, so that a host ships
-# no loose files. The table is read through platform/foundation/BundleKinds.h.
+# embed_resources(TARGET FOLDER): compiles every file below FOLDER into TARGET, so that a host does
+# not ship loose files. platform/foundation/BundleKinds.h declares the table.
 
 function(embed_resources target folder)
   file(GLOB_RECURSE files CONFIGURE_DEPENDS RELATIVE ${folder} ${folder}/*)

@@ -1,5 +1,6 @@
-# quorix_harden(TARGET): the protections that distributions build with, for TARGET alone: the compile
-# flags of a host that builds us as a part of itself stay its own. Sanitizers bring their own checks.
+# quorix_harden(TARGET): adds the protections that distributions build with to TARGET alone. A host
+# that builds us as a part of itself keeps its own compile flags. Not with sanitizers, which bring
+# their own checks.
 
 set(quorix_compile_hardening "")
 set(quorix_link_hardening "")
@@ -15,7 +16,7 @@ if(QUORIX_HARDENING AND NOT QUORIX_SANITIZE AND UNIX)
     endif()
   endforeach()
 
-  # Level 3 where the compiler and the C library know it. Only optimised code is fortified.
+  # Use level 3 if the compiler and the C library support it. Only optimised code can be fortified.
   set(CMAKE_REQUIRED_FLAGS "-O2 -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=3")
   check_cxx_source_compiles("#include <cstdlib>
     #if __USE_FORTIFY_LEVEL < 3
@@ -37,7 +38,7 @@ if(QUORIX_HARDENING AND NOT QUORIX_SANITIZE AND UNIX)
   if(NOT APPLE)
     set(quorix_link_hardening LINKER:-z,relro LINKER:-z,now)
   endif()
-  # For the programs, whose code is position-independent already.
+  # Links the programs as PIE; their code is position-independent already.
   include(CheckPIESupported)
   check_pie_supported(LANGUAGES CXX)
 endif()

@@ -1,5 +1,5 @@
-# What `cmake --install` puts where, by component: core, qt, qml, web, tool and dev. Installed files find
-# each other by relative paths, so that the folder may be moved.
+# The files of `cmake --install`, by component: core, qt, qml, web, tool and dev. Installed files
+# find each other by relative paths, so the folder may be moved.
 
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
@@ -8,9 +8,10 @@ set(quorix_licences_folder ${CMAKE_INSTALL_DATADIR}/doc/libquorixwidgets${quorix
 set(quorix_cmake_folder ${CMAKE_INSTALL_LIBDIR}/cmake/QuorixWidgets)
 set(quorix_config_components "")
 
-# quorix_install_library(TARGET NAME COMPONENT [NEEDS NAME...] [QT MODULE...] [STATIC_QT MODULE...]):
-# the library, its headers, and NAME as a component of find_package, which finds the components it
-# NEEDS and the modules of QT, those of STATIC_QT only where the library is static.
+# quorix_install_library(TARGET NAME COMPONENT [NEEDS NAME...] [QT MODULE...] [STATIC_QT
+# MODULE...]): installs the library and its headers, and makes NAME a component of find_package.
+# This looks for the components in NEEDS and the Qt modules in QT, and those in STATIC_QT if the
+# library is static.
 macro(quorix_install_library target name component)
   cmake_parse_arguments(library "" "" "NEEDS;QT;STATIC_QT" ${ARGN})
   install(TARGETS ${target} EXPORT QuorixWidgets${name}Targets
@@ -29,8 +30,9 @@ macro(quorix_install_library target name component)
     "set(_quorix_${name}_needs ${library_NEEDS})\nset(_quorix_${name}_qt ${library_QT})\n")
 endmacro()
 
-# quorix_install_pkgconfig(FILE TARGET DESCRIPTION REQUIRES REQUIRES_PRIVATE): FILE.pc. What is private to
-# a shared library is needed to link a static one. Our own libraries go together in one version.
+# quorix_install_pkgconfig(FILE TARGET DESCRIPTION REQUIRES REQUIRES_PRIVATE): installs FILE.pc.
+# Private requirements of a shared library are needed to link a static one. Our own libraries
+# require each other in the same version.
 function(quorix_install_pkgconfig file target description requires requires_private)
   file(RELATIVE_PATH up /prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig /prefix)
   string(REGEX REPLACE "/$" "" up "${up}")
@@ -67,7 +69,7 @@ install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${quorix_licences_folder
 file(GLOB quorix_font_licences
   ${PROJECT_SOURCE_DIR}/QuorixWidgets/resources/Assets.xcassets/Fonts/OFL-*.txt)
 install(FILES ${quorix_font_licences} DESTINATION ${quorix_licences_folder} COMPONENT core)
-# To begin a theme with.
+# A starting point for themes.
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/QuorixWidgets/resources
   DESTINATION ${CMAKE_INSTALL_DATADIR}/quorixwidgets COMPONENT dev FILES_MATCHING PATTERN "*.strings"
   PATTERN "Assets.xcassets" EXCLUDE)
@@ -88,8 +90,8 @@ if(QUORIX_QT)
   quorix_install_pkgconfig(quorixwidgets-qtwidgets QuorixQtWidgets
     "Return standing widgets among Qt Widgets" "quorixwidgets-qt = ${PROJECT_VERSION} Qt6Widgets" "")
 
-  # The module's folder is for tools, and for programs that load its plugin; those that link the module
-  # compile one source.
+  # The module's folder is for QML tools and for programs that load its plugin. Programs that link
+  # the module compile LinkModule.cpp instead.
   quorix_install_library(QuorixQml Qml qml NEEDS Qt Quick QT Qml)
   quorix_install_pkgconfig(quorixwidgets-qml QuorixQml
     "Return standing widgets for QML" "quorixwidgets-quick = ${PROJECT_VERSION} Qt6Qml" "")
@@ -115,7 +117,7 @@ if(TARGET quorix)
   install(TARGETS quorix RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tool)
   get_target_property(written quorix QUORIX_WRITTEN)
   if(written)
-    # Debian's zsh looks for what packages bring in a folder of its own.
+    # Debian's zsh reads completions of packages from its own folder.
     set(zsh_folder site-functions)
     if(CMAKE_INSTALL_PREFIX STREQUAL "/usr")
       set(zsh_folder vendor-completions)

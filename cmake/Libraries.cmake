@@ -1,5 +1,6 @@
-# How every library of ours is made: static or shared as BUILD_SHARED_LIBS says, with only the
-# symbols that QUORIX_EXPORT marks. It looks for its own libraries in its own folder, which can be moved.
+# Settings of all our libraries: static or shared by BUILD_SHARED_LIBS, exporting only the symbols
+# that QUORIX_EXPORT marks. A library looks for our others in its own folder, so the folder can be
+# moved.
 
 if(WIN32 AND BUILD_SHARED_LIBS)
   message(STATUS "On Windows the libraries are static")
@@ -11,8 +12,8 @@ if(APPLE)
   set(quorix_here "@loader_path")
 endif()
 
-# Versions that are compatible share a series: until 1.0 a minor version may break hosts, afterwards
-# only a major version. The soname, find_package and the Debian packages' names follow it.
+# Compatible versions share a series: until 1.0 a minor version may break hosts, afterwards only a
+# major version. The soname, find_package and the Debian packages' names use the series.
 if(PROJECT_VERSION_MAJOR EQUAL 0)
   set(quorix_series ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
   set(quorix_compatibility SameMinorVersion)
@@ -21,11 +22,12 @@ else()
   set(quorix_compatibility SameMajorVersion)
 endif()
 
-# Calls of Qt and the C++ library go there without a stub in between, which costs a painted row 4 % of its time.
+# Calls Qt and the C++ library without a stub (PLT). The stubs would cost 4 % of the time of a
+# painted row.
 include(CheckCXXCompilerFlag)
 check_cxx_compiler_flag("-Werror -fno-plt" quorix_takes_no_plt)
 
-# quorix_library(TARGET NAME SOURCE...): hosts link it as QuorixWidgets::NAME.
+# quorix_library(TARGET NAME SOURCE...): makes a library that hosts link as QuorixWidgets::NAME.
 function(quorix_library target name)
   add_library(${target} ${ARGN})
   add_library(QuorixWidgets::${name} ALIAS ${target})
@@ -45,7 +47,7 @@ function(quorix_library target name)
   if(NOT BUILD_SHARED_LIBS)
     target_compile_definitions(${target} PUBLIC QUORIX_STATIC)
   elseif(UNIX AND NOT APPLE AND NOT QUORIX_SANITIZE)
-    # The standard library marks its templates visible; the linker script hides them.
+    # The standard library makes its templates visible. The linker script hides them.
     set(script ${PROJECT_SOURCE_DIR}/cmake/symbols.map)
     target_link_options(${target} PRIVATE LINKER:--no-undefined LINKER:--version-script=${script})
     set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${script})

@@ -1,6 +1,6 @@
-# make_certificate(NAME SUBJECT ALTERNATIVE_NAMES FOLDER): NAME.crt and NAME.key in FOLDER, made by the
-# build for a loopback server of the demo or the tests. The source tree holds no private key, and the
-# libraries need none.
+# make_certificate(NAME SUBJECT ALTERNATIVE_NAMES FOLDER): the build makes NAME.crt and NAME.key in
+# FOLDER, for a loopback server of the demo or the tests. The source tree contains no private key,
+# and the libraries need none.
 
 function(make_certificate name subject alternative_names folder)
   find_program(QUORIX_OPENSSL openssl)

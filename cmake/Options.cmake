@@ -1,4 +1,4 @@
-# Reads the build's options. An option that cannot take effect is an error, or says so.
+# Reads the build's options. An option that cannot take effect stops the build or prints a message.
 
 # quorix_option(NAME HELP DEFAULT)
 macro(quorix_option name)
@@ -24,7 +24,7 @@ set(QUORIX_WIDGET_URL https://widget.quorix.example CACHE STRING
   "The service with a shopper's personal page")
 set(QUORIX_SANITIZE "" CACHE STRING "Sanitizers for the whole tree, e.g. address,undefined")
 
-# A host may have variables of such a name itself, so it gets a warning.
+# A host may have its own variables with such names, so it gets only a warning.
 set(quorix_unknown WARNING)
 if(PROJECT_IS_TOP_LEVEL)
   set(quorix_unknown FATAL_ERROR)
@@ -44,7 +44,7 @@ endif()
 if(NOT QUORIX_WEB MATCHES "^(AUTO|ON|OFF|TRUE|FALSE|YES|NO|1|0)$")
   message(FATAL_ERROR "QUORIX_WEB=${QUORIX_WEB}: AUTO, ON and OFF are known")
 endif()
-# Paths and queries are appended to these two.
+# Paths and queries are appended to these two addresses.
 foreach(option QUORIX_MODULES_URL QUORIX_WIDGET_URL)
   if(NOT ${option} MATCHES "^https://([A-Za-z0-9][A-Za-z0-9.-]*)(:[1-9][0-9]*)?$")
     message(FATAL_ERROR "${option}=${${option}}: https, a host and perhaps a port are needed, and nothing after them (https://staging.shop.example)")

@@ -1,7 +1,7 @@
-# The headers that a host may include, and those that they reach: header sets, which are installed
-# and of which each must compile alone (target all_verify_interface_header_sets).
+# The headers that a host may include, and those that they include. They are installed as header
+# sets, and each must compile alone (target all_verify_interface_header_sets).
 
-# Sets RESULT to the files of this tree that HEADER... reach by their includes, themselves included.
+# Sets RESULT to HEADER... and all files of this tree that they include, directly or not.
 function(quorix_reached_headers result)
   set(reached "")
   set(left ${ARGN})
@@ -19,8 +19,8 @@ function(quorix_reached_headers result)
   set(${result} ${reached} PARENT_SCOPE)
 endfunction()
 
-# quorix_public_headers(TARGET HEADER...): these and what they reach are TARGET's, unless a target
-# named before has them.
+# quorix_public_headers(TARGET HEADER...): adds these headers and those that they include to TARGET,
+# except headers that an earlier call has added to another target.
 function(quorix_public_headers target)
   quorix_reached_headers(headers ${ARGN})
   get_property(taken GLOBAL PROPERTY QUORIX_PUBLIC_HEADERS)
@@ -32,30 +32,30 @@ function(quorix_public_headers target)
 endfunction()
 
 quorix_public_headers(QuorixWidgets
-  # The widgets and the figures of a token.
+  # The widgets, and the figures of a token.
   QuorixWidgets/score/ScoreWidgetBuilder.h
   QuorixWidgets/info/InfoWidgetBuilder.h
   QuorixWidgets/data/TokenData.h
   QuorixWidgets/data/UserDetails.h
-  # The faces, and fonts of them for either toolkit.
+  # The faces, and fonts with them for both toolkits.
   QuorixWidgets/localization/Font.h
   QuorixWidgets/localization/UIFont.h
   QuorixWidgets/localization/FontError.h
-  # To show, print and lay out a view without one of our surfaces.
+  # Showing, printing and laying out a view without our surfaces.
   platform/swiftui/UIViewRepresentable.h
   platform/swiftui/TreePrinter.h
   platform/hosting/ViewHost.h
   platform/hosting/SheetPresenter.h
   platform/hosting/ViewWindow.h
   platform/render/ScenePrinter.h
-  # To draw it: the direction of a text, the files of an image, the address of a page.
+  # Drawing: the direction of a text, the files of an image, the address of a page.
   platform/text/TextAnalysis.h
   platform/graphics/AssetCatalog.h
   platform/webkit/WebContent.h
-  # The host's own texts and looks.
+  # The host's own texts and themes.
   QuorixWidgets/localization/ResourceBundle.h
   platform/foundation/Bundle.h
-  # What a host may put in the place of the system's.
+  # System services that a host may replace.
   platform/foundation/MainQueue.h
   platform/foundation/URLSession.h
   platform/graphics/FontManager.h

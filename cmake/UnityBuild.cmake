@@ -1,10 +1,10 @@
-# quorix_unity(TARGET): under CMAKE_UNITY_BUILD the sources of a folder, or of some folders that include
-# the same headers, are compiled as one file, because most of the time goes into those headers. A host
-# may set it, and the preset "demo" does; other presets compile each file alone, which shows an include
-# that is missing.
+# quorix_unity(TARGET): with CMAKE_UNITY_BUILD, compiles the sources of a folder, or of folders with
+# the same includes, as one file. This is faster, because compilers spend most of their time on
+# those headers. A host may set it; the preset "demo" does. Other presets compile each file alone,
+# which finds missing includes.
 
-# Files with local names that another file has as well, or with members of a local type, of which GCC warns in
-# an included file, or with heavy headers.
+# Files that are compiled alone: they have the same local names as another file, or heavy headers,
+# or members of a local type, for which GCC warns in an included file.
 set(quorix_compiled_alone
   examples/shop/pictures/WidgetPictures.cpp
   examples/shop/pictures/WindowPictures.cpp

@@ -1,6 +1,6 @@
-# The web engine, for each toolkit a library of its own that is loaded when the first page is to be
-# shown. They are installed into a folder "quorix" beside the other libraries; WebComponent.h lists
-# the other folders.
+# The web engine. Each toolkit has its own library for it, which is loaded before the first page.
+# They are installed into a folder "quorix" beside the other libraries; WebComponent.h lists the
+# other folders that are searched.
 if(NOT QUORIX_WEB)
   message(STATUS "QUORIX_WEB is off: overlays open their pages outside the app")
   return()
@@ -36,9 +36,9 @@ if(TARGET Qt6::WebEngineWidgets)
   add_web_component(QuorixWebWidgets widgets Qt6::WebEngineWidgets)
 endif()
 
-# Where a program finds them: installed under one prefix with it, or in the build that a host's own
-# build holds. Programs of this build have a link to them, so that what is installed names no folder
-# of the machine that built it.
+# The folders where a program finds them: under the same install prefix, or in the build folder of a
+# host's own build. Programs of this build have a link to them, so that installed files do not
+# contain folder names of the build machine.
 include(GNUInstallDirs)
 file(RELATIVE_PATH from_program /prefix/${CMAKE_INSTALL_BINDIR} /prefix/${CMAKE_INSTALL_LIBDIR}/quorix)
 set_property(SOURCE ${PROJECT_SOURCE_DIR}/qt/WebComponent.cpp APPEND PROPERTY

@@ -1,4 +1,4 @@
-# Writes TABLE: one byte array for each of FILES below FOLDER, and the sorted list of them.
+# Writes TABLE: one byte array for each of FILES below FOLDER, and a sorted list of them.
 
 set(arrays "")
 set(rows "")

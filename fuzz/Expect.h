@@ -2,7 +2,7 @@
 
 #include "platform/foundation/Error.h"
 
-/// Stops the fuzzer, which keeps the input, when an invariant does not hold.
+/// Stops the fuzzer if an invariant fails. The fuzzer then saves the input.
 inline void expect(bool holds, const char* what) {
   if (!holds) quorix::foundation::fatalError(what, "fuzz");
 }

@@ -25,7 +25,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
   const State state = readIn(whole, input, size);
   expect(state != State::incomplete, "the connection's end is an answer's end");
   const State again = readIn(pieces, input, 1 + size % 7);
-  // What is malformed may count as cut short if it comes in pieces.
+  // If a malformed answer arrives in pieces, it may be reported as cut short.
   expect((state == State::complete) == (again == State::complete), "pieces do not matter");
   if (state != State::complete) return 0;
   expect(whole.status() == pieces.status() && whole.body() == pieces.body(), "nor to the body");

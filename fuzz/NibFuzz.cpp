@@ -18,7 +18,7 @@ void expectFinite(const uikit::UIView& view) {
 
 }  // namespace
 
-/// Any bytes are refused with a message, or give a view that can be laid out.
+/// Any bytes are either refused with a message, or give a view that can be laid out.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
   std::shared_ptr<uikit::UIView> content;
   std::weak_ptr<uikit::UILabel> title, link;

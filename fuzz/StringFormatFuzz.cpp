@@ -12,7 +12,7 @@ using namespace quorix::foundation;
 
 namespace {
 
-/// The conversion alone, for the C library; empty where that would not be the same thing.
+/// The conversion in the C library's syntax; empty if it would not mean the same there.
 std::string forTheCLibrary(const FormatConversion& conversion) {
   if (conversion.kind != FormatConversion::Kind::number || conversion.width.argument ||
       conversion.precision.argument) {
@@ -40,7 +40,7 @@ void compare(const std::string& format, double number) {
 
 }  // namespace
 
-/// Eight bytes make a number, the rest a format.
+/// The first eight bytes are a number, the rest is a format.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
   double number = 0;
   if (size < sizeof number) return 0;

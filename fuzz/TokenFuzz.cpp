@@ -30,7 +30,7 @@ struct Surface final : hosting::ViewHost::Client {
   void presentationChanged() override {}
 };
 
-/// What a shop does with the token that it was sent.
+/// Uses the token like a shop.
 void show(std::string_view token, bool isRead) {
   testing::FixedWidthText text;
   Surface surface;
@@ -57,7 +57,7 @@ void check(std::string_view token) {
 
 }  // namespace
 
-/// The input is read as a token and as a token's payload.
+/// Reads the input both as a token and as a token's payload.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
   const std::string_view input(reinterpret_cast<const char*>(bytes), size);
   check(input);

@@ -43,7 +43,8 @@ void ScoreWidget::setClientId(const QString& clientId) {
 
 void ScoreWidget::setToken(const QString& token) {
   if (token_ == token) return;
-  // Signed anew, the same figures are the same widget: an open sheet stays open.
+  // A token that is signed again with the same figures does not change the widget, so that an open
+  // sheet stays open.
   const auto figures = [](const QString& text) { return parseTokenData(text.toStdString()); };
   if (isComponentComplete() && figures(token_) == figures(token)) {
     token_ = token;
@@ -64,7 +65,7 @@ void TextService::setNetworkEnabled(bool enabled) {
 }
 
 void TextService::componentComplete() {
-  qt::installEngine();  // there may be no widget yet
+  qt::installEngine();  // there may be no widget yet to install it
   connect(this, &TextService::prefetchChanged, this, &TextService::fetch);
   connect(this, &TextService::networkEnabledChanged, this, &TextService::fetch);
   fetch();
@@ -84,7 +85,7 @@ WindowSafeArea::WindowSafeArea(QObject* window) : QObject(window) {
     qt::setSafeArea(*attachee, QMargins(left_, top_, right_, bottom_));
   };
   connect(this, &WindowSafeArea::changed, this, say);
-  say();  // an edge of 0 is no change
+  say();  // applies also if all edges stay 0
 }
 
 }  // namespace quorix::qml

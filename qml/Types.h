@@ -10,7 +10,7 @@
 
 namespace quorix::qml {
 
-/// Tells the tools of QML that a `qt::ViewItem` is an item, which makes the widgets items as well.
+/// Tells QML tools that `qt::ViewItem` is an item, and therefore the widgets too.
 struct ViewItemType {
   Q_GADGET
   QML_FOREIGN(quorix::qt::ViewItem)
@@ -24,17 +24,17 @@ QML_FOREIGN_NAMESPACE(quorix::qt)
 QML_NAMED_ELEMENT(SheetCloseReason)
 }  // namespace SheetCloseReasons
 
-/// One sentence on how returns count; a tap opens a page that says more, over the window.
+/// A sentence on how returns count. A tap opens a page with more, over the window.
 ///
 ///     InfoWidget { width: parent.width; locale: "es"; showBorder: true }
 class InfoWidget : public quorix::qml::WidgetItem {
   Q_OBJECT
   QML_ELEMENT
 
-  /// The library's own until it is set, and again after `undefined`.
+  /// The library's own color by default, and after setting `undefined`.
   Q_PROPERTY(QColor backgroundColor READ backgroundColor WRITE setBackgroundColor RESET
                  resetBackgroundColor NOTIFY backgroundColorChanged FINAL)
-  /// A line of one point in the color of the text.
+  /// A border of one point in the color of the text.
   Q_PROPERTY(bool showBorder READ showBorder WRITE setShowBorder NOTIFY showBorderChanged FINAL)
 
  public:
@@ -54,23 +54,23 @@ class InfoWidget : public quorix::qml::WidgetItem {
   swiftui::View widget() const override;
 
  private:
-  QColor backgroundColor_;  ///< invalid: the library's own
+  QColor backgroundColor_;  ///< invalid for the library's own color
   bool showBorder_ = false;
 };
 
-/// The score row of one shopper; a tap opens its detail sheet over the window. A token that cannot
-/// be read, an empty token and an empty client id show nothing and take no height.
+/// The score row of one shopper. A tap opens its detail sheet over the window. Shows nothing and
+/// has no height if the client id or the token is empty, or the token cannot be read.
 ///
 ///     ScoreWidget { width: parent.width; clientId: "my-shop"; locale: "es"; token: shopper.token }
 class ScoreWidget : public quorix::qml::WidgetItem {
   Q_OBJECT
   QML_ELEMENT
 
-  /// The retailer's.
+  /// The retailer's id.
   Q_PROPERTY(QString clientId READ clientId WRITE setClientId RESET resetClientId NOTIFY
                  clientIdChanged FINAL)
-  /// The shopper's, as the widget service issued it. Another token with the same figures leaves the
-  /// widget as it is, and its sheet open.
+  /// The shopper's token, as the widget service issued it. A new token with the same figures does
+  /// not change the widget, and its sheet stays open.
   Q_PROPERTY(QString token READ token WRITE setToken RESET resetToken NOTIFY tokenChanged FINAL)
 
  public:
@@ -95,9 +95,9 @@ class ScoreWidget : public quorix::qml::WidgetItem {
   QString token_;
 };
 
-/// Where the score widgets of the process have their texts from, as `prefetch` and
-/// `URLSession::setNetworkEnabled` say it. A switch that is not named stays as the host has it; of
-/// several, the one that changed last counts. Main thread.
+/// Controls how all score widgets of the process get their texts, by `prefetch` and
+/// `URLSession::setNetworkEnabled`. A property that is not set keeps the host's setting. Of several
+/// objects, the latest change counts. Main thread.
 ///
 ///     TextService { prefetch: "es"; networkEnabled: consent.given }
 class TextService : public QObject, public QQmlParserStatus {
@@ -105,9 +105,10 @@ class TextService : public QObject, public QQmlParserStatus {
   QML_ELEMENT
   Q_INTERFACES(QQmlParserStatus)
 
-  /// The language whose texts are fetched ahead, for the first frame of the rows; empty for none.
+  /// The language whose texts are fetched in advance, for the first frame of the rows; empty for
+  /// none.
   Q_PROPERTY(QString prefetch MEMBER prefetch_ NOTIFY prefetchChanged FINAL)
-  /// Off, rows have what was fetched ahead or the built-in texts.
+  /// If false, rows show prefetched or built-in texts.
   Q_PROPERTY(bool networkEnabled MEMBER networkEnabled_ WRITE setNetworkEnabled NOTIFY
                  networkEnabledChanged FINAL)
 
@@ -127,9 +128,9 @@ class TextService : public QObject, public QQmlParserStatus {
   bool networkEnabled_ = true;
 };
 
-/// What the device covers at the edges of a window, in points, as `qt::setSafeArea` says it. A
-/// window for which QML names an edge has its four edges from here (0 unless named), and none from
-/// Qt. Main thread.
+/// The insets that the device covers at the edges of a window, in points; calls `qt::setSafeArea`.
+/// If QML sets one edge of a window, all four come from here (the others are 0), and none from Qt.
+/// Main thread.
 ///
 ///     Window { WindowSafeArea.top: 47; WindowSafeArea.bottom: 34 }
 class WindowSafeArea : public QObject {

@@ -12,7 +12,7 @@ static_assert(static_cast<int>(WidgetItem::Large) == static_cast<int>(ContentSiz
 static_assert(static_cast<int>(WidgetItem::AccessibilityExtraExtraExtraLarge) ==
               static_cast<int>(ContentSizeCategory::accessibilityExtraExtraExtraLarge));
 
-/// The code of Qt's default language; the C locale has none.
+/// The code of Qt's default language. The C locale has none.
 QString applicationLanguage() {
   const QLocale locale;
   return locale.language() == QLocale::C ? QStringLiteral("en")
@@ -21,7 +21,7 @@ QString applicationLanguage() {
 
 }  // namespace
 
-// What the widget is made of.
+// Properties that make a new widget.
 
 void WidgetItem::setLocale(const QString& locale) {
   if (replace(locale_, locale)) emit localeChanged();
@@ -41,7 +41,7 @@ std::string WidgetItem::language() const {
 
 void WidgetItem::componentComplete() {
   ViewItem::componentComplete();
-  // At once: a list asks a new delegate for its height before any frame.
+  // Make it now: a list needs the height of a new delegate before any frame.
   make();
 }
 
@@ -50,12 +50,12 @@ void WidgetItem::updatePolish() {
   ViewItem::updatePolish();
 }
 
-/// Hosts set one property after the other, and bindings follow one by one: the widget is made when
-/// all have had their turn, and before any frame shows the old one with the new surroundings.
+/// Makes the widget after all properties and bindings of this turn are set, and before the next
+/// frame. Otherwise that frame could show the old widget with new settings.
 void WidgetItem::makeAnew() {
   if (!isComponentComplete() || std::exchange(stale_, true)) return;
   polish();
-  // No frame comes while the window is hidden, but `visible: implicitHeight > 0` wants its answer.
+  // A hidden window has no frames, but `visible: implicitHeight > 0` needs the new height.
   QMetaObject::invokeMethod(
       this,
       [this] {
@@ -69,7 +69,7 @@ void WidgetItem::make() {
   setView(widget());
 }
 
-// Its surroundings.
+// Settings.
 
 WidgetItem::Appearance WidgetItem::appearance() const {
   const auto own = settings().appearance;

@@ -10,25 +10,23 @@
 
 namespace quorix::qml {
 
-/// What every widget of the QML module is: an item with an implicit size that its anchors, layouts
-/// and positioners place like a `Text`. It is as wide as its words where it is given no width, and
-/// goes on to further lines in a narrower one; its height follows. It has no height when there is
-/// nothing to show.
+/// The base of the module's widgets: an item with an implicit size, which anchors, layouts and
+/// positioners place like a `Text`. Without a width it is as wide as its texts. In a smaller width
+/// it breaks them into lines, and its height follows. With nothing to show, it has no height.
 ///
-/// The properties of the widget make it anew, in its place: what is changed in one go makes one
-/// widget, before the next frame, which begins afresh: its sheet closed, its texts fetched again.
-/// Those of its surroundings (`appearance` and below) are followed by the widget as it stands.
-/// Main thread.
+/// A change of the widget's own properties replaces the widget before the next frame. Several
+/// changes at once make one new widget, which starts fresh: its sheet is closed and its texts are
+/// fetched again. A change of the settings (`appearance` and below) keeps the widget. Main thread.
 class WidgetItem : public quorix::qt::ViewItem {
   Q_OBJECT
   QML_ANONYMOUS
 
-  /// A language code ("en", "es"), used as it is: a tag with a region reads English. Empty for the
-  /// language of Qt's default locale as it is when the widget is made.
+  /// A language code ("en", "es"), used unchanged: a tag with a region falls back to English. If
+  /// empty, the language of Qt's default locale at the time when the widget is made.
   Q_PROPERTY(
       QString locale READ locale WRITE setLocale RESET resetLocale NOTIFY localeChanged FINAL)
-  /// Faces of the app's own, by PostScript or family name, which follow the user's text size; empty
-  /// for the widget's, which keep theirs.
+  /// The app's own faces, by PostScript or family name. They scale with the user's text size. If
+  /// empty, the library's faces are used, which do not scale.
   Q_PROPERTY(QString regularFont READ regularFont WRITE setRegularFont RESET resetRegularFont NOTIFY
                  regularFontChanged FINAL)
   Q_PROPERTY(QString semiBoldFont READ semiBoldFont WRITE setSemiBoldFont RESET resetSemiBoldFont
@@ -36,13 +34,13 @@ class WidgetItem : public quorix::qt::ViewItem {
 
   Q_PROPERTY(Appearance appearance READ appearance WRITE setAppearance RESET resetAppearance NOTIFY
                  appearanceChanged FINAL)
-  /// `Qt.LayoutDirectionAuto`, which it is at first, is the application's.
+  /// The default, `Qt.LayoutDirectionAuto`, is the application's direction.
   Q_PROPERTY(Qt::LayoutDirection layoutDirection READ layoutDirection WRITE setLayoutDirection RESET
                  resetLayoutDirection NOTIFY layoutDirectionChanged FINAL)
-  /// The user's text size, which faces of the app's own follow.
+  /// The user's text size. Only the app's own faces scale with it.
   Q_PROPERTY(TextSize textSize READ textSize WRITE setTextSize RESET resetTextSize NOTIFY
                  textSizeChanged FINAL)
-  /// Whether sheets move where the user has nothing against it.
+  /// Whether sheets move, if the user's settings allow motion.
   Q_PROPERTY(bool animated READ animated WRITE setAnimated NOTIFY animatedChanged FINAL)
 
  public:
@@ -50,7 +48,7 @@ class WidgetItem : public quorix::qt::ViewItem {
   enum Appearance { System, Light, Dark };
   Q_ENUM(Appearance)
 
-  /// `SystemTextSize` follows the desktop where it tells the user's text size.
+  /// `SystemTextSize` follows the desktop if that has a text size setting.
   enum TextSize {
     SystemTextSize = -1,
     ExtraSmall,
@@ -102,15 +100,16 @@ class WidgetItem : public quorix::qt::ViewItem {
   void animatedChanged();
 
  protected:
-  /// A fresh widget from the library's builder.
+  /// Makes a new widget with the library's builder.
   virtual swiftui::View widget() const = 0;
 
-  /// What the builders take: the language in force, and the faces where there are any.
+  /// The arguments for the builders: the current language, and the faces if they are set.
   std::string language() const;
   std::optional<std::string> regularFace() const { return nonEmpty(regularFont_); }
   std::optional<std::string> semiBoldFace() const { return nonEmpty(semiBoldFont_); }
 
-  /// Gives `value`, which the widget is made of, another value. Whether it was another.
+  /// Assigns `replacement` to `value`, a property that makes a new widget. Returns whether it
+  /// changed.
   template <class Value>
   bool replace(Value& value, const Value& replacement) {
     if (value == replacement) return false;
@@ -132,7 +131,7 @@ class WidgetItem : public quorix::qt::ViewItem {
   QString locale_;
   QString regularFont_;
   QString semiBoldFont_;
-  bool stale_ = false;  ///< a property was changed since the widget was made
+  bool stale_ = false;  ///< a property changed after the widget was made
 };
 
 }  // namespace quorix::qml

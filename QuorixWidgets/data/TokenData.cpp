@@ -9,13 +9,13 @@
 namespace quorix {
 namespace {
 
-/// Bytes. A document keeps the memory of the largest text that it has read; the document that each
-/// thread keeps therefore reads payloads up to this size only.
+/// Bytes. A document keeps the memory of the largest text that it has read. The document that each
+/// thread reuses therefore reads payloads up to this size only.
 constexpr std::size_t largestReusedPayload = 16384;
 
 std::optional<std::string> decodePayload(std::string_view piece) {
   std::string text(piece);
-  // Bytes may be counted instead of characters: a payload with longer characters is no base64.
+  // Counting bytes is enough: a payload with multi-byte characters is not valid base64 anyway.
   if (const std::size_t rest = text.size() % 4; rest != 0) text.append(4 - rest, '=');
   return foundation::decodeBase64(std::move(text));
 }

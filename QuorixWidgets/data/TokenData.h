@@ -11,20 +11,20 @@
 
 namespace quorix {
 
-/// The figures that a shopper token carries.
+/// The figures in a shopper token.
 struct TokenData {
   double score;                       ///< A fraction; 1 - score is the return rate.
-  std::string currency;               ///< Of both fees. As sent, not checked.
+  std::string currency;               ///< Of both fees. Not checked.
   std::int64_t returnsFee;            ///< Hundredths of the currency unit.
   std::int64_t discountedReturnsFee;  ///< Hundredths of the currency unit.
 
   bool operator==(const TokenData&) const = default;
 };
 
-/// Bytes. Issued tokens have a few hundred. A token longer than this is refused before it is read.
+/// Bytes. Issued tokens have a few hundred. A longer token is refused without being read.
 inline constexpr std::size_t longestToken = 65536;
 
-/// The step at which a token was refused, in the order in which the steps are taken.
+/// The step at which a token was refused, in the order of the steps.
 enum class TokenRefusal {
   tooLong,
   noPayload,
@@ -47,7 +47,7 @@ using TokenReading = std::variant<TokenData, TokenRefusal>;
 /// signature. Any thread.
 QUORIX_EXPORT TokenReading readToken(std::string_view token) noexcept;
 
-/// The figures of `token`; absent where `readToken` refuses it. Any thread.
+/// The figures of `token`; absent if `readToken` refuses it. Any thread.
 QUORIX_EXPORT std::optional<TokenData> parseTokenData(std::string_view token) noexcept;
 
 }  // namespace quorix

@@ -20,12 +20,12 @@ foundation::Result<double, DecodingError> readNumber(const JSONValue& object, Ke
   const auto member = object.member(name);
   if (!member) return failure(Kind::keyNotFound);
   if (member->kind() == JSONValue::Kind::null) return failure(Kind::valueNotFound);
-  // The document reads true and false as numbers; here they are refused.
+  // `number` also accepts true and false, which are refused here.
   if (member->kind() != JSONValue::Kind::number) return failure(Kind::typeMismatch);
   return *member->number();
 }
 
-/// Whether `bytes` are a JSON value that is neither an object nor an array, as documents must be.
+/// Whether `bytes` are a valid JSON value outside an object or array, which a document refuses.
 bool isBareValue(std::string_view bytes, foundation::JSONDocument& document) {
   const auto wrapped = document.parse('[' + std::string(bytes) + ']');
   const auto* array = std::get_if<JSONValue>(&wrapped);

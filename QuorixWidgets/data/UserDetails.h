@@ -17,24 +17,24 @@ namespace quorix {
 struct QUORIX_EXPORT UserDetails {
   double returnRate;        ///< A fraction.
   double returnRateTrend;   ///< A fraction, negative when the rate falls.
-  double returnPercentile;  ///< 0 to 100; the lower, the fewer returns.
+  double returnPercentile;  ///< 0 to 100; lower means fewer returns.
 
   /// The members of the JSON object, in the order in which they are read.
   enum class CodingKeys { returnRate, returnPercentile, returnRateTrend };
 
   static std::string_view stringValue(CodingKeys key);
-  /// The key that is spelled exactly `text`.
+  /// The key whose name is exactly `text`.
   static std::optional<CodingKeys> codingKey(std::string_view text);
-  /// Keys have no numbers: absent for every key, and no number makes one.
+  /// Always absent: the keys have no numbers.
   static std::optional<std::int64_t> intValue(CodingKeys) { return std::nullopt; }
   static std::optional<CodingKeys> codingKey(std::int64_t) { return std::nullopt; }
 
   using Reading = foundation::Result<UserDetails, foundation::DecodingError>;
 
-  /// The details in the JSON object `bytes`, or the error of the first key that has no number.
-  /// Other members are ignored. Any thread.
+  /// Reads the details from the JSON object `bytes`. Fails with the first key that has no number.
+  /// Ignores other members. Any thread.
   static Reading decode(std::string_view bytes);
-  /// The same from the object `container`, which may be any part of a document.
+  /// Reads them from the object `container`, which may be any part of a document.
   ///
   ///     foundation::JSONDocument document;
   ///     const auto read = document.parse(answer);

@@ -10,10 +10,10 @@
 
 namespace quorix {
 
-/// Builds info widgets: a sentence on how returns count and a link to a page that says more. Main
+/// Builds info widgets: a sentence on how returns count, and a link to a page with more. Main
 /// thread.
 ///
-/// `locale` is a language code ("en", "nb"); a language without texts reads English.
+/// `locale` is a language code ("en", "nb"). A language without texts falls back to English.
 /// Each call makes a new widget; the builder keeps no state.
 struct QUORIX_EXPORT InfoWidgetBuilder {
   InfoWidgetBuilder() = delete;
@@ -27,9 +27,9 @@ struct QUORIX_EXPORT InfoWidgetBuilder {
   static swiftui::View buildSwiftUIInfoWidgetView(std::string_view locale,
                                                   const InfoWidgetStyle& style);
 
-  /// The imperative widget. A tap on its link opens the page over the app's top-most screen. It
-  /// uses the faces of `style` only: its background is the library's own and it has no border.
-  /// Never null.
+  /// The imperative widget. A tap on its link opens the page over the app's top-most screen. Uses
+  /// only the faces of `style`: the background is the library's own and there is no border. Never
+  /// null.
   ///
   ///     #include <platform/swiftui/UIViewRepresentable.h>
   ///     auto widget = InfoWidgetBuilder::buildUIKitInfoWidgetView(

@@ -8,8 +8,8 @@
 
 namespace quorix {
 
-/// The look of an info widget. A face named here follows the user's text size in the declarative
-/// widget; the library's own faces, used where a name is absent, keep their size.
+/// The look of an info widget. In the declarative widget, faces named here scale with the user's
+/// text size. If a name is absent, the library's own face is used, which does not scale.
 ///
 ///     InfoWidgetStyle plain{std::nullopt, std::nullopt, std::nullopt, false};
 ///     InfoWidgetStyle ours{"OpenSans-Regular", "OpenSans-SemiBold",

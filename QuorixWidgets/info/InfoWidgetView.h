@@ -11,8 +11,8 @@
 
 namespace quorix {
 
-/// The declarative info widget: a title, and below it a link beside a small logo. A tap anywhere
-/// opens the web overlay in a sheet.
+/// The declarative info widget: a title, and below it a link and a small logo. A tap anywhere opens
+/// the web overlay in a sheet.
 struct InfoWidgetView {
   static constexpr std::string_view typeName = "InfoWidgetView";
 

@@ -13,7 +13,7 @@ namespace quorix {
 namespace {
 
 std::vector<InfoTitlePart> partsOf(std::string_view locale) {
-  // Only this much is shown, and comparing all characters of an endless title would take long.
+  // No more than this is shown. Comparing all characters of an endless title would take too long.
   const auto words = [&](std::string_view key) { return text::bounded(localized(key, locale)); };
   return splitInfoTitle(words("info-widget-title"), words("info-widget-title-number"));
 }
@@ -71,7 +71,7 @@ std::optional<Text> InfoWidgetViewModel::getTitle() const {
     return Text::verbatim(localized(key, locale, {figure}));
   };
   const bool low = percentile <= lowUpTo;
-  // Above the medium band the text gives the share of shoppers who return more.
+  // Above the medium band, the text gives the share of shoppers with more returns.
   const Text figure = low ? rate("widget-title-return-rate-low", percentile)
                       : percentile <= mediumUpTo
                           ? rate("widget-title-return-rate-medium", percentile)
@@ -84,7 +84,7 @@ namespace {
 
 constexpr double fontSize = 13;
 
-/// The library's own face: one font for all widgets.
+/// Cached for all widgets: the library's own face.
 template <const QuorixFont& (*face)()>
 const uikit::UIFont::Ref& ownFont() {
   static const auto font = UIFont::Quorix::fixed(face(), fontSize);

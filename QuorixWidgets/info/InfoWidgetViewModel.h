@@ -19,7 +19,7 @@ namespace quorix {
 /// A part of the info widget's general title.
 struct InfoTitlePart {
   std::string text;
-  bool isNumber = false;  ///< the figure, which is set in semi-bold
+  bool isNumber = false;  ///< the figure, shown in semi-bold
   bool operator==(const InfoTitlePart&) const = default;
 };
 
@@ -30,12 +30,12 @@ struct InfoTitlePart {
 ///     splitInfoTitle("A 20% B", "20%")  // "A ", "20%" (the number), " B"
 std::vector<InfoTitlePart> splitInfoTitle(std::string_view title, std::string_view number);
 
-/// Whether the string table of `locale` has a general title. The library's own tables have one;
-/// check tables that are being edited, as a preview shows. Any thread.
+/// Whether the string table of `locale` has a general title. The library's own tables have one.
+/// Check this for tables that are being edited, as in a preview. Any thread.
 QUORIX_EXPORT bool hasInfoTitle(std::string_view locale);
 
-/// The general title in the string table of `locale`. A table whose title is empty, or only the
-/// number, stops the process: the widget cannot be shown. Any thread.
+/// The general title in the string table of `locale`. If it is empty or only the number, stops the
+/// process, because the widget cannot be shown. Any thread.
 std::vector<InfoTitlePart> infoTitle(std::string_view locale);
 
 /// The texts and fonts of a declarative info widget. Texts are looked up at each call; the model
@@ -47,7 +47,7 @@ class InfoWidgetViewModel final : public combine::ObservableObject {
   const StyleFont regularFont;            ///< 13 points
   const StyleFont semiBoldFont;           ///< 13 points
   const SwiftUIStyleConfiguration styleConfiguration;
-  std::vector<combine::Cancellable> cancellables;  ///< end with the model; the library makes none
+  std::vector<combine::Cancellable> cancellables;  ///< for hosts; end with the model
   /// If present, the title is about the shopper's own returns.
   std::optional<UserDetails> userDetails;
 
@@ -59,12 +59,12 @@ class InfoWidgetViewModel final : public combine::ObservableObject {
         semiBoldFont(style.semiBoldFont, QuorixFont::medium, 13),
         styleConfiguration(std::move(style)) {}
 
-  /// The general title in its fonts, with its figure in semi-bold. A string table whose title is
-  /// only the figure stops the process.
+  /// The general title with its fonts; the figure is semi-bold. If the title is only the figure,
+  /// stops the process.
   swiftui::Text getInfoTitle() const;
-  /// The title about the shopper's own returns, with no font of its own; absent without details.
+  /// The title about the shopper's own returns, without a font; absent without details.
   std::optional<swiftui::Text> getTitle() const;
-  /// The text that `getTitle` begins with in bold; may be empty.
+  /// The bold start of the text of `getTitle`; may be empty.
   std::string boldStart() const;
 };
 
@@ -75,18 +75,19 @@ class UIInfoWidgetViewModel final : public combine::ObservableObject {
   const std::optional<std::string> name;  ///< the shopper's, for the web overlay
   const std::string locale;               ///< a language code
 
-  // 13 points. The style's face if the font manager knows it, else the library's own, without
-  // which the process stops. Resolved on first read and kept.
+  // 13 points. The style's face if the font manager knows it, else the library's own. Stops the
+  // process if that is missing. Resolved and cached at the first read.
   const uikit::UIFont::Ref& regularFont() const;
   const uikit::UIFont::Ref& semiBoldFont() const;
 
-  /// The runs have fonts and no color.
+  /// The runs have fonts but no color.
   combine::Published<uikit::NSAttributedString> titleText;
   const UIKitStyleConfiguration styleConfiguration;
-  std::vector<combine::Cancellable> cancellables;  ///< end with the model; the library makes none
+  std::vector<combine::Cancellable> cancellables;  ///< for hosts; end with the model
   std::optional<UserDetails> userDetails;
 
-  /// `locale` is the language code of every text. A string table without a title stops the process.
+  /// `locale` is the language code of all texts. Stops the process if its string table has no
+  /// title.
   UIInfoWidgetViewModel(std::optional<std::string> name, std::string locale,
                         UIKitStyleConfiguration styleConfiguration);
 

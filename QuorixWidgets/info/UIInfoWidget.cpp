@@ -22,7 +22,7 @@ namespace {
 
 constexpr std::string_view source = "QuorixWidgets/UIInfoWidget";
 
-/// The object of an outlet. A broken interface file may have left it empty.
+/// The object of an outlet. Stops the process if a broken interface file has left it empty.
 template <class View>
 View& require(const std::shared_ptr<View>& outlet) {
   if (!outlet) {
@@ -130,7 +130,7 @@ void UIInfoWidget::setupWithInfo() {
   contentView_->setBackgroundColor(background ? background : UIColor::widgetBackground());
 }
 
-/// Shows each title, the current one first, on the main queue's next turn.
+/// Shows the current title and each later one, on the main queue's next turn.
 void UIInfoWidget::followTitle() {
   const auto self = std::static_pointer_cast<UIInfoWidget>(shared_from_this());
   const auto deliver = [widget = std::weak_ptr(self)](const uikit::NSAttributedString& title) {

@@ -11,7 +11,7 @@
 
 namespace quorix {
 
-/// The library's additions to the running app. Main thread.
+/// Additions to the running app. Main thread.
 namespace UIApplication {
 
 /// The window that the user works in. In the first scene in the foreground: its key window, else
@@ -22,20 +22,20 @@ std::shared_ptr<uikit::UIWindow> getKeyWindow();
 }  // namespace UIApplication
 
 /// The info widget of the imperative toolkit: the title over a read-more link, which presents the
-/// web overlay over the app's top-most screen. Its content is loaded from the interface file of its
-/// name. If the file or one of its outlets is missing, the process stops. Main thread.
+/// web overlay over the app's top-most screen. Loads its content from the interface file of the
+/// same name. Stops the process if the file or one of its outlets is missing. Main thread.
 class UIInfoWidget final : public uikit::UIView {
  public:
-  /// The title label shows the model's title from the next turn of the main queue on.
+  /// The title label shows the model's title after the next turn of the main queue.
   static std::shared_ptr<UIInfoWidget> make(std::shared_ptr<UIInfoWidgetViewModel> viewModel);
 
-  // A widget cannot be made without its model: these stop the process.
+  // These stop the process, because a widget needs its model.
   [[noreturn]] static std::shared_ptr<UIInfoWidget> initWithCoder();
   [[noreturn]] static std::shared_ptr<UIInfoWidget> initWithFrame(layout::Rect frame);
 
   std::string_view className() const override { return classXibName; }
 
-  /// The link was tapped.
+  /// Called when the link was tapped.
   void tapFunction(uikit::UITapGestureRecognizer& sender);
 
  private:
@@ -50,7 +50,7 @@ class UIInfoWidget final : public uikit::UIView {
 
   static constexpr std::string_view classXibName = "UIInfoWidget";
   std::shared_ptr<UIInfoWidgetViewModel> viewModel_;
-  combine::Cancellable title_;  ///< the subscription to the model's
+  combine::Cancellable title_;  ///< subscription to the model's title
   std::shared_ptr<uikit::UIView> contentView_;
   std::weak_ptr<uikit::UILabel> titleLabel_;
   std::weak_ptr<uikit::UILabel> linkLabel_;

@@ -9,17 +9,17 @@ namespace quorix {
 /// The library's named colors for the declarative toolkit, each made on first read. Any thread.
 namespace Color {
 
-/// Behind the info widgets.
+/// The background of the info widgets.
 const swiftui::Color& widgetBackground();
 /// Text and borders.
 const swiftui::Color& defaultFontColor();
-/// Behind the web overlay.
+/// The background of the web overlay.
 const swiftui::Color& overlayBackgrounColor();
 
 }  // namespace Color
 
-/// The same colors for the imperative toolkit. Each is looked up on first read and kept. Never
-/// null: a missing color stops the process. Any thread.
+/// The same colors for the imperative toolkit, cached at the first read. Never null: a missing
+/// color stops the process. Any thread.
 namespace UIColor {
 
 const uikit::UIColor::Ref& widgetBackground();
@@ -41,7 +41,7 @@ const swiftui::ColorResource& grey2();
 /// The library's image assets by symbol, each made on first read. Any thread.
 namespace ImageResource {
 
-/// The cross of the close buttons, with one picture for light and one for dark.
+/// The cross of the close buttons, with different pictures for light and dark.
 const swiftui::ImageResource& close();
 
 }  // namespace ImageResource

@@ -6,7 +6,7 @@
 
 namespace quorix {
 
-/// The library's faces as fonts of the declarative toolkit. Sizes are in points. The operations do
+/// The library's faces as fonts of the declarative toolkit. Sizes are in points. The functions do
 /// not fail. Any thread.
 ///
 ///     auto fee = Font::Quorix::fixed(QuorixFont::regular(), 14);
@@ -21,7 +21,8 @@ struct Font : swiftui::Font {
     static swiftui::Font fixed(const Handle& font, double size) {
       return custom(font.name(), FixedSize{size});
     }
-    /// `font` at `size` for the default text size. Scales with the user's as `style` does.
+    /// `font` at `size` points for the default text size. Scales with the user's text size like
+    /// `style`.
     static swiftui::Font relative(const Handle& font, double size, swiftui::TextStyle style) {
       return custom(font.name(), size, style);
     }

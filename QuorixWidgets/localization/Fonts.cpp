@@ -19,17 +19,17 @@ constexpr std::string_view fontSource = "QuorixWidgets/Fonts";
 std::optional<FontError> registerFont(std::string_view name) {
   constexpr auto failure = FontError::failedToRegisterFont;
   const auto bundle = libraryBundle();
-  if (!bundle) return failure;  // the catalog would search the host's main bundle
+  if (!bundle) return failure;  // null would mean the host's main bundle
   const auto data = graphics::dataSet(bundle, "Fonts/" + std::string(name));
   const auto font = data ? graphics::GraphicsFont::fromData(*data) : std::nullopt;
   if (!font) return failure;
-  // Refused when the host has registered a face of that name: the host's is drawn then.
+  // Has no effect if the host has registered a face with this name. Then the host's face is used.
   graphics::FontManager::shared().registerGraphicsFont(*font);
   return std::nullopt;
 }
 
-/// Registers the library's faces in order. A face that the library's bundle lacks, or that is no
-/// font, stops the process: the library was built wrong.
+/// Registers the library's faces in order. Stops the process if the bundle lacks a face or the file
+/// is not a font, because then the library was built wrong.
 void registerFontsOrStop(std::initializer_list<std::string_view> names) {
   for (const std::string_view name : names) {
     if (const auto error = registerFont(name)) {

@@ -19,7 +19,7 @@ std::string addressText(std::string_view locale) {
   return address;
 }
 
-/// Null where none are kept.
+/// Null if none are kept.
 std::shared_ptr<const TranslationTable> prefetchedTexts(std::string_view locale) {
   const auto address = [&] { return addressText(locale); };
   auto table = foundation::URLSession::shared().prefetched(address);
@@ -65,8 +65,8 @@ void LocalizationRepository::update() {
   fetchLocalization(*url, [weak = weak_from_this()](TranslationTableResult result) {
     const auto* table = std::get_if<std::shared_ptr<const TranslationTable>>(&result);
     if (!table) return;
-    // Locked on the main thread only: the last reference, released here, would destroy the
-    // repository off the main thread.
+    // Lock the weak reference on the main thread only. Otherwise the repository could be destroyed
+    // on this thread, with the last reference.
     foundation::MainQueue::async([weak, table = *table] {
       if (const auto repository = weak.lock()) repository->strings = table;
     });

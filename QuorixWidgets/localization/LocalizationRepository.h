@@ -13,8 +13,8 @@
 
 namespace quorix {
 
-/// The texts of one widget in its language: at first those that were prefetched, or else the
-/// built-in ones; replaced as a whole by each successful fetch. Main thread.
+/// The texts of one widget in its language. Starts with the prefetched texts, or else the built-in
+/// ones. Each successful fetch replaces all of them. Main thread.
 ///
 ///     const auto repository = LocalizationRepository::make("es");
 ///     repository->strings.get()->text("actions", "close");  // "Cerrar"
@@ -30,15 +30,15 @@ class LocalizationRepository final : public combine::ObservableObject,
   combine::Published<std::shared_ptr<const TranslationTable>> strings;
   const std::string& locale() const { return locale_; }
 
-  /// Takes prefetched texts; without any, starts one fetch and returns at once. A failed fetch
-  /// changes nothing; of several fetches the last to complete counts. A fetch does not keep the
-  /// repository alive.
+  /// Uses prefetched texts. Without them, starts one fetch and returns at once. A failed fetch
+  /// changes nothing. Of several fetches, the last one to complete counts. A fetch does not keep
+  /// the repository alive.
   void update();
 
   /// Fetches the texts for `locale` and keeps them for five minutes. Any thread.
   static void prefetch(std::string_view locale);
 
-  /// The address of the texts for `locale`; absent if it is no URL. Any thread.
+  /// The address of the texts for `locale`; absent if it is not a URL. Any thread.
   static std::optional<foundation::URL> address(std::string_view locale);
 
  private:

@@ -10,16 +10,16 @@ using foundation::Bundle;
 
 namespace {
 
-/// Marks the library's code among the libraries of a program.
+/// Identifies the library, to find its bundle.
 class ResourceBundleClass {};
 
-/// The bundle of that class: the files that are compiled into the same library.
+/// The bundle of that class: the files that are compiled into the library.
 Bundle::Ref bundleFor(ResourceBundleClass) { return Bundle::embedded(); }
 
-/// The identifier of the library's own resources with the theme over them.
+/// The identifier of the library's own resources combined with the theme.
 constexpr std::string_view themedIdentifier = "example.quorix.QuorixWidgets.themed";
 
-/// The bundle with that identifier; `own` if there was none so far.
+/// The bundle with that identifier. Registers `own` if there was none.
 Bundle::Ref registered(std::string_view identifier, Bundle::Ref own) {
   Bundle::registerBundleIfAbsent(identifier, std::move(own));
   return Bundle::withIdentifier(identifier);

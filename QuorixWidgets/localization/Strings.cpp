@@ -28,7 +28,7 @@ Bundle::Ref getBundle(std::string_view locale) {
   return path ? library->folder(*path) : nullptr;
 }
 
-/// Absent without a bundle: there is no text to format then.
+/// Absent if there is no bundle, and therefore no text to format.
 std::optional<std::string> lookUp(std::string_view key, std::string_view locale) {
   Bundle::Ref bundle = getBundle(locale);
   if (!bundle) bundle = getBundle(fallbackLocale);
@@ -57,7 +57,7 @@ using Problems = std::vector<StringTableProblem>;
 constexpr std::string_view titleKey = "info-widget-title";
 constexpr std::string_view figureKey = "info-widget-title-number";
 
-/// What a text is used for.
+/// The use of a text.
 enum class Use : std::uint8_t { plain, mayBeEmpty, takesNumber, takesText };
 
 struct Entry {
@@ -77,7 +77,7 @@ constexpr Entry usedEntries[] = {
     {"webview-overlay-title", Use::takesText},
     {"webview-page-stopped", Use::plain},
     {"webview-try-again", Use::plain},
-    {"close", Use::plain},  // the image of that name, spoken
+    {"close", Use::plain},  // spoken for the image of this name
 };
 
 /// The mistake in one conversion of a format that gets one argument; empty for none.
@@ -101,7 +101,7 @@ std::string mistake(const FormatConversion& conversion, FormatConversion::Kind w
 
 void checkFormat(const std::string& key, const std::string& format, FormatConversion::Kind wanted,
                  Problems& found) {
-  bool settled = false;  // the argument is shown, or a mistake was found
+  bool settled = false;  // the argument is shown, or there is a mistake
   for (const FormatConversion& conversion : foundation::conversions(format)) {
     const std::string what = mistake(conversion, wanted);
     if (!what.empty()) found.push_back({key, what});

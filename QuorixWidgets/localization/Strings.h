@@ -11,14 +11,14 @@
 namespace quorix {
 
 /// The text for `key` in the library bundle's string table for `locale`. The locale is the name of
-/// the table's folder: "en-GB" does not find "en". A locale without a folder reads English; a key
-/// without an entry gives the key; without a bundle, or without English, the text is empty. Looked
-/// up at each call, so that an edited table shows at once. Any thread.
+/// the table's folder: "en-GB" does not find "en". Without a folder for the locale, English is
+/// used. A missing entry returns the key. Without a bundle, or without English, the text is empty.
+/// Looked up at each call, so an edited table takes effect at once. Any thread.
 ///
 ///     localized("widget-read-more", "es")  // "Más información"
 std::string localized(std::string_view key, std::string_view locale);
 
-/// The same text as a format for `arguments`, with "." as decimal separator in every locale.
+/// Uses that text as a format for `arguments`, with "." as decimal separator in every locale.
 ///
 ///     localized("widget-title-return-rate-low", "en", {12.0})
 std::string localized(std::string_view key, std::string_view locale,
@@ -30,9 +30,8 @@ struct StringTableProblem {
   std::string what;  ///< "is missing"
 };
 
-/// All mistakes in `table`: entries that the widgets need and that are missing, entries that they
-/// never use, formats that do not show exactly their argument, and a title that its figure does not
-/// part in two. Any thread.
+/// All mistakes in `table`: missing entries, unused entries, formats that do not show exactly their
+/// argument, and a title that does not have its figure exactly once between texts. Any thread.
 QUORIX_EXPORT std::vector<StringTableProblem> problems(const foundation::StringTable& table);
 
 }  // namespace quorix

@@ -10,7 +10,7 @@
 
 namespace quorix {
 
-/// The style that a widget's view model holds. `Color` is empty for the library's own background.
+/// The style in a widget's view model. `Color` is empty for the library's own background.
 template <class Color>
 struct StyleConfiguration {
   std::optional<std::string> regularFont;
@@ -28,8 +28,8 @@ using UIKitStyleConfiguration = StyleConfiguration<uikit::UIColor::Ref>;
 ///     text.font(regularFont());
 class StyleFont {
  public:
-  /// The face `styleFace`, which follows the user's text size. If absent, the library's `ownFace`,
-  /// which keeps its size and is registered when the font is first read.
+  /// Uses the face `styleFace`, which scales with the user's text size. If it is absent, uses the
+  /// library's `ownFace`, which does not scale and is registered when the font is first read.
   StyleFont(const std::optional<std::string>& styleFace, const QuorixFont& (*ownFace)(),
             double size)
       : ownFace_(ownFace), size_(size) {

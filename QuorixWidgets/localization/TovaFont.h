@@ -7,15 +7,15 @@
 
 namespace quorix {
 
-/// A handle on a face of the Tova brand's family, for a host's own styles. Registered as described
-/// for `QuorixFont`; Qt finds it as `QFont("Tova Sans Latin")`. Any thread.
+/// A handle for a face of the Tova brand's family, for a host's own styles. Registered like a
+/// `QuorixFont`; Qt finds it as `QFont("Tova Sans Latin")`. Any thread.
 ///
 ///     #include <QuorixWidgets/score/ScoreWidgetStyle.h>
 ///     // The semi-bold face is registered along with the regular one.
 ///     ScoreWidgetStyle style{TovaFont::regular().name(), "TovaSansLatin-SemiBold"};
 class QUORIX_EXPORT TovaFont {
  public:
-  /// "TovaSansLatin-Regular". Also registers "TovaSansLatin-SemiBold", which is used by its name.
+  /// "TovaSansLatin-Regular". Also registers "TovaSansLatin-SemiBold"; use that by its name.
   static const TovaFont& regular();
 
   /// The face's PostScript name.

@@ -20,7 +20,7 @@ bool before(const TranslationTable::Entry& a, const TranslationTable::Entry& b) 
   return place(a) < place(b);
 }
 
-/// Names the faulty part, so that the author of the table finds it.
+/// Names the faulty part for the author of the table.
 Error wrongShape(std::string_view part, std::string_view fault) {
   return {"Localization", -2, std::string(part) + " is not " + std::string(fault)};
 }

@@ -12,14 +12,14 @@
 namespace quorix {
 
 /// The texts of one language by section and key. Immutable and shared: a thousand widgets with the
-/// built-in texts hold one table. Any thread.
+/// built-in texts use one table. Any thread.
 class TranslationTable {
  public:
   struct Entry {
     std::string_view section, key, text;
   };
 
-  /// A table with copies of `entries`, of which no two have the same section and key.
+  /// Copies `entries`. No two may have the same section and key.
   static std::shared_ptr<const TranslationTable> make(std::vector<Entry> entries);
 
   TranslationTable(const TranslationTable&) = delete;
@@ -37,19 +37,19 @@ class TranslationTable {
   std::vector<Entry> entries_;
 };
 
-/// The built-in table of exactly `locale` ("en", "es"); for any other the English one. Each is made
-/// once per process. Any thread.
+/// The built-in table for exactly `locale` ("en", "es"), otherwise the English one. Made once per
+/// process. Any thread.
 QUORIX_EXPORT std::shared_ptr<const TranslationTable> builtInTranslations(std::string_view locale);
 
 using TranslationTableResult = foundation::Result<std::shared_ptr<const TranslationTable>>;
 
-/// Reads `body`: a JSON object of sections, each an object of keys with texts. Any other shape is
-/// refused as a whole with domain "Localization", code -2; what is not JSON, with the JSON reader's
+/// Reads `body`: a JSON object of sections, each an object of texts by key. Any other structure
+/// fails with domain "Localization", code -2; text that is not JSON fails with the JSON reader's
 /// error. Any thread.
 QUORIX_EXPORT TranslationTableResult readTranslationTable(std::string_view body);
 
-/// Reads the body of a response with any status. A transport error is returned unchanged; a
-/// response without a body gives domain "Localization", code -1. Any thread.
+/// Reads the body of a response with any status. Returns a transport error unchanged. A response
+/// without a body fails with domain "Localization", code -1. Any thread.
 QUORIX_EXPORT TranslationTableResult readTranslationTable(const foundation::URLResponse& response);
 
 }  // namespace quorix

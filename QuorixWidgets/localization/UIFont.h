@@ -10,7 +10,7 @@
 namespace quorix {
 
 /// The library's faces as fonts of the imperative toolkit. Sizes are in points and do not scale.
-/// Never null: reading the handle has registered its face. Any thread.
+/// Never null, because the handle has registered its face. Any thread.
 ///
 ///     #include <platform/uikit/UILabel.h>
 ///     auto label = std::make_shared<uikit::UILabel>();

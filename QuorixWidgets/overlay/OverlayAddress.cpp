@@ -8,7 +8,7 @@ namespace {
 
 using Text = std::optional<std::string>;
 
-/// The pages use one code for both Norwegian languages.
+/// The pages use one language code for both Norwegian languages.
 Text languageOfPage(const Text& locale) {
   return locale == "nb" || locale == "nn" ? Text("no") : locale;
 }

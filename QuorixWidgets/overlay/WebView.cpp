@@ -13,8 +13,8 @@ namespace {
 using layout::Edges;
 using swiftui::View;
 
-/// The overlay's page in a declarative view. The controller is made once and keeps its values:
-/// later ones do not reach it, and a page that is shown is not loaded again.
+/// The overlay's page in a declarative view. The controller is made once and keeps its first
+/// values, so a page that is shown is not loaded again.
 struct WebViewControllerRepresentable {
   static constexpr std::string_view typeName = "WebViewControllerRepresentable";
 
@@ -46,7 +46,7 @@ View heading(const std::string& userName, const std::string& locale) {
 
 }  // namespace
 
-/// The cross. It has no label: screen readers say the image's name in the user's own language.
+/// The cross. It has no label, so screen readers say the image's name in the user's language.
 struct WebView::CloseButton {
   static constexpr std::string_view typeName = "CloseButton";
 

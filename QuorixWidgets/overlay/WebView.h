@@ -9,8 +9,8 @@
 
 namespace quorix {
 
-/// The web overlay as the content of a sheet: the page, above it a heading if there is a user name,
-/// and a button that closes the sheet.
+/// The web overlay as the content of a sheet: a heading if there is a user name, a button that
+/// closes the sheet, and the page below.
 struct WebView {
   static constexpr std::string_view typeName = "WebView";
 

@@ -26,12 +26,12 @@ void fill(uikit::UIView& outer, uikit::UIView& inner) {
 }
 
 // The notice, in points.
-constexpr double noticeTop = 72;  // the overlay's crosses end at 58
+constexpr double noticeTop = 72;  // the overlay's close controls end at 58
 constexpr double noticeMargin = 24;
 constexpr double noticeGap = 24;
 constexpr double noticeFontSize = 16;
 constexpr double buttonPaddingAcross = 20;
-constexpr double buttonPaddingDown = 14;  // 48 high with one line
+constexpr double buttonPaddingDown = 14;  // 48 points high with one line
 
 std::shared_ptr<uikit::UILabel> makeLabel(const std::string& text, const QuorixFont& font) {
   auto label = std::make_shared<uikit::UILabel>();
@@ -61,9 +61,9 @@ std::shared_ptr<uikit::UIView> makeButton(const std::string& text,
   return button;
 }
 
-/// A view for the place of a page that was not loaded or has stopped: one sentence in the language
-/// `locale` and below it a button for another try, with the recognizer `tap`. It starts below the
-/// overlay's cross.
+/// A view in place of a page that was not loaded or has stopped: one sentence in the language
+/// `locale`, and below it a button with the recognizer `tap` to try again. It starts below the
+/// overlay's close control.
 std::shared_ptr<uikit::UIView> makePageNotice(std::string_view locale,
                                               std::shared_ptr<uikit::UITapGestureRecognizer> tap) {
   auto notice = std::make_shared<uikit::UIView>();
@@ -111,7 +111,7 @@ void WebViewController::loadURL() {
                                .locale = locale,
                                .overlayURL = overlayURL_,
                                .genericOverlayURL = genericOverlayURL_};
-  if (const auto url = address.url()) webView_->load({*url});  // waits 60 seconds for a byte
+  if (const auto url = address.url()) webView_->load({*url});  // time-out: 60 s without a byte
 }
 
 void WebViewController::addCloseButtonIfNeeded() {
@@ -119,7 +119,7 @@ void WebViewController::addCloseButtonIfNeeded() {
   const auto& resource = ImageResource::close();
   const auto image = uikit::UIImage::named(resource.name, resource.bundle);
   if (!image) foundation::fatalError("No image named 'close' in the asset catalog");
-  // Not tinted: the picture has its own colors for light and dark.
+  // Has no tint, because the picture has its own colors for light and dark.
   const auto control =
       std::make_shared<uikit::UIImageView>(image->withAlignmentRectInsets(closeInsets));
   control->setTranslatesAutoresizingMaskIntoConstraints(false);
@@ -144,7 +144,7 @@ std::shared_ptr<webkit::WKWebView> WebViewController::webView(
   return nullptr;
 }
 
-/// Hides the page, so that the surface removes its view, and shows the notice in its place.
+/// Shows the notice in place of the page. Hides the page, so that the surface removes its view.
 void WebViewController::showNotice() {
   if (notice_) return;
   webView_->setHidden(true);

@@ -14,12 +14,12 @@
 namespace quorix {
 
 /// The web overlay: a page of the vendor's web service that fills the controller's view, with a
-/// close control if `showCloseButton` is set. An address that the page opens in a new window is
-/// opened outside the app, and so is one that no page can show (mail, telephone, another app). If the
-/// page cannot be loaded or its process ends, a sentence in the page's language and a button that
-/// loads it again take its place. Main thread.
+/// close control if `showCloseButton` is set. Addresses that the page opens in a new window, or
+/// that no page can show (mail, phone, another app), are opened outside the app. If the page cannot
+/// be loaded or its process ends, a sentence in the page's language and a button to load it again
+/// replace it. Main thread.
 ///
-/// The fields are read once, when the view loads:
+/// The fields are read once, when the view is loaded:
 ///
 ///     auto overlay = std::make_shared<WebViewController>();
 ///     overlay->locale = "nb";
@@ -30,22 +30,22 @@ class WebViewController final : public uikit::UIViewController,
                                 public webkit::WKUIDelegate {
  public:
   std::optional<std::string> token;     ///< the shopper's; selects the personal page
-  std::optional<std::string> userName;  ///< sent with a token only
+  std::optional<std::string> userName;  ///< sent only with a token
   std::optional<std::string> locale;    ///< a language code
   bool showCloseButton = false;
 
   WebViewController() : WebViewController(std::nullopt, nullptr) {}
-  /// Passes both to the base class.
+  /// Passes the arguments to the base class.
   WebViewController(std::optional<std::string> nibName, foundation::Bundle::Ref bundle)
       : UIViewController(std::move(nibName), std::move(bundle)) {}
-  /// A controller from an archive. Archives hold none of the fields above: they are as in a new
-  /// controller.
+  /// Makes a controller from an archive. Archives do not contain the fields above; they have their
+  /// defaults.
   static std::shared_ptr<WebViewController> initWithCoder() {
     return std::make_shared<WebViewController>();
   }
 
   void viewDidLoad() override;
-  /// Dismisses the controller. `sender`, the tapped button or view, may be null.
+  /// Dismisses the controller. `sender` is the tapped button or view and may be null.
   void clickCloseButton(const uikit::UIView* sender);
   /// Opens the address outside the app. Always returns null.
   std::shared_ptr<webkit::WKWebView> webView(
@@ -68,7 +68,7 @@ class WebViewController final : public uikit::UIViewController,
   std::string overlayURL_ = OverlayAddress::personalPage();
   std::string genericOverlayURL_ = OverlayAddress::generalPage();
   std::shared_ptr<webkit::WKWebView> webView_;
-  std::shared_ptr<uikit::UIView> notice_;  ///< in the page's place; null while the page shows
+  std::shared_ptr<uikit::UIView> notice_;  ///< shown in place of the page; otherwise null
 };
 
 }  // namespace quorix

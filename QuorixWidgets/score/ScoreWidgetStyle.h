@@ -5,8 +5,9 @@
 
 namespace quorix {
 
-/// The faces of a score widget. A face named here follows the user's text size; the library's own
-/// faces, used where a name is absent, keep their size. An unknown name draws in the system's font.
+/// The faces of a score widget. Faces named here scale with the user's text size. If a name is
+/// absent, the library's own face is used, which does not scale. An unknown name selects the
+/// system's font.
 ///
 ///     ScoreWidgetStyle style{"OpenSans-Regular", "OpenSans-SemiBold"};
 ///     ScoreWidgetStyle plain{std::nullopt, std::nullopt};

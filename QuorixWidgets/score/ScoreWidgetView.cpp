@@ -13,7 +13,7 @@ using swiftui::View;
 
 namespace {
 
-/// Made once: it is drawn in every row.
+/// Cached, because every row uses it.
 const swiftui::Color& formerFeeColor() {
   static const swiftui::Color color(ColorResource::grey2());
   return color;

@@ -26,13 +26,13 @@ struct ScoreWidgetView {
   QUORIX_EXPORT swiftui::View body() const;
 };
 
-/// The content of the detail sheet: the figures in larger type, with an explanation.
+/// The content of the detail sheet: the figures in larger type, and an explanation.
 swiftui::View scoreWidgetSheet(const ScoreWidgetViewModel& model,
                                const LocalizationRepository& localization,
                                const swiftui::Binding<bool>& showSheet);
 
-/// Presents a bottom sheet that is exactly as tall as its content: at the platform's medium height
-/// until the content has been laid out, then at the measured height.
+/// Presents a bottom sheet that is exactly as tall as its content. Until the content has been laid
+/// out, the sheet has the platform's medium height.
 struct AdaptiveSheetModifier {
   static constexpr std::string_view typeName = "AdaptiveSheetModifier";
 

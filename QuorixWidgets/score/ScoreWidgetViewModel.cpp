@@ -20,7 +20,7 @@ double percentOf(double score) { return std::round((1.0 - score) * 100.0); }
 bool hasReturnRate(double score) {
   constexpr double limit = 0x1p63;
   const double percent = percentOf(score);
-  return percent >= -limit && percent < limit;  // false for NaN as well
+  return percent >= -limit && percent < limit;  // false for NaN too
 }
 
 std::string returnRateText(double score) {
@@ -54,7 +54,7 @@ void ScoreWidgetViewModel::getReducedReturnFee(std::int64_t fee) {
   returnRate = returnRateText(score_);
 }
 
-/// The hundredths are dropped, never rounded.
+/// Drops the hundredths without rounding.
 std::optional<std::string> ScoreWidgetViewModel::feeText(std::int64_t hundredths) const {
   return numberFormatter_.text(hundredths / hundredthsInUnit);
 }

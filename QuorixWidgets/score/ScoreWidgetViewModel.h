@@ -17,12 +17,12 @@
 
 namespace quorix {
 
-/// Whether `score` has a return rate, one that fits 64 bits. Every issued score has, but a token
-/// may carry any number: check before making a view model. Any thread.
+/// Whether the return rate of `score` fits 64 bits. That of every issued score does, but a token
+/// may contain any number: check before making a view model. Any thread.
 QUORIX_EXPORT bool hasReturnRate(double score);
 
-/// The return rate that belongs to `score`, 1 - score, in whole percent, halves away from zero:
-/// 0.355 gives "65%". A score that has none stops the process. Any thread.
+/// The return rate of `score`, 1 - score, in whole percent, with halves rounded away from zero:
+/// 0.355 gives "65%". Stops the process if `hasReturnRate` is false. Any thread.
 std::string returnRateText(double score);
 
 /// The display texts of a score widget, made once from a token's figures, and its fonts. Main
@@ -41,8 +41,8 @@ class ScoreWidgetViewModel final : public combine::ObservableObject {
   const StyleFont widgetSemiBoldFont;  ///< 14 points
   const StyleFont overlayRegularFont;  ///< 16 points
 
-  /// Sets `reducedReturnFee` from `fee`, in hundredths of the currency unit, and `returnRate`. A
-  /// rate beyond 64 bits stops the process.
+  /// Sets `reducedReturnFee` from `fee`, in hundredths of the currency unit, and sets `returnRate`.
+  /// Stops the process for a rate beyond 64 bits.
   void getReducedReturnFee(std::int64_t fee);
 
  private:
@@ -56,8 +56,8 @@ class ScoreWidgetViewModel final : public combine::ObservableObject {
   foundation::CurrencyFormatter numberFormatter_;
 };
 
-/// The words of the score row and its sheet: the table's texts, and the accessibility labels that
-/// are composed of them and the figures. A missing text is empty.
+/// The texts of the score row and its sheet: those of the table, and the accessibility labels that
+/// combine them with the figures. A missing text is empty.
 class ScoreWidgetTexts {
  public:
   ScoreWidgetTexts(const ScoreWidgetViewModel& model, const LocalizationRepository& localization)

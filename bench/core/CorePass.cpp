@@ -1,9 +1,9 @@
-// What the core costs for one score row, the builder's view given: evaluate it, lay it out with a
-// text engine of fixed widths, and make its display list with hit areas and accessibility elements.
-// Prints the allocations of a pass and its time; run under callgrind with two counts of passes, the
-// difference is the instructions of a pass.
+// The cost of one score row in the core, for a view that is already built: evaluate it, lay it out
+// with a text engine of fixed widths, and make its display list with hit areas and accessibility
+// elements. Prints the time and the allocations of a pass. Under callgrind, the difference between
+// two runs with different PASSES gives the instructions of a pass.
 //
-//   core_pass [PASSES [MOST]]      fails where a pass makes more than MOST allocations
+//   core_pass [PASSES [MOST]]      fails if a pass makes more than MOST allocations
 #include <algorithm>
 #include <chrono>
 #include <cmath>
@@ -22,7 +22,7 @@ namespace {
 
 constexpr layout::Size kRow = {343, 24};
 
-/// Each byte is half its font's size wide; every text is one line.
+/// A text engine: each byte is half as wide as its font's size, and every text is one line.
 class FixedWidths final : public text::TextEngine {
  public:
   text::TextMetrics measure(const text::AttributedText& text, double) override {

@@ -1,5 +1,5 @@
-// A list of 500 rows in a window, scrolled from end to end with a GPU's renderer, a frame at a
-// time. Prints how many frames took over 8 milliseconds, and how many requests were made.
+// Scrolls a list of 500 rows in a window from end to end, one step a frame, with the GPU renderer.
+// Prints how many frames took more than 8 milliseconds, and how many requests were made.
 //
 //   list_frames ours|peer|empty
 
@@ -28,10 +28,11 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 constexpr int kRows = 500;
-constexpr double kStep = 25;  // points a frame, which is 1500 a second at 60 Hz
+constexpr double kStep = 25;  // points a frame: 1500 a second at 60 Hz
 constexpr std::chrono::milliseconds kBudget{8};
 
-/// Has the texts, once; after that what was kept is there, on the thread that the library asks on.
+/// Answers the first request with texts. Later ones go to the transport, which finds the prefetched
+/// texts on the thread on which the library asks.
 class Network final : public foundation::URLTransport {
  public:
   void start(const foundation::URL& url, Completion completion) override {
@@ -40,7 +41,7 @@ class Network final : public foundation::URLTransport {
       return completion({{}, R"({"returns": {"title": "Your return fee"}})", 200});
     }
     kept_.start(url, [this, completion = std::move(completion)](foundation::URLResponse answer) {
-      if (answer.error) ++requests;  // nothing was kept
+      if (answer.error) ++requests;  // no prefetched texts
       completion(std::move(answer));
     });
   }
@@ -50,13 +51,13 @@ class Network final : public foundation::URLTransport {
   qt::QtURLTransport kept_;
 };
 
-/// When each frame was out, while `list` was scrolled to its end.
+/// Scrolls `list` to its end. Returns the time at which each frame was shown.
 std::vector<Clock::time_point> scroll(QQuickWindow& window, QQuickItem& list) {
   const double end = list.property("contentHeight").toDouble() - window.height();
   std::vector<Clock::time_point> frames;
   frames.reserve(static_cast<std::size_t>(end / kStep) + 8);
   QEventLoop loop;
-  // The loop may draw on a thread of its own, which waits while the next frame is got ready.
+  // The render loop may draw on its own thread, which waits while the next frame is prepared.
   QObject::connect(
       &window, &QQuickWindow::frameSwapped, &window, [&] { frames.push_back(Clock::now()); },
       Qt::DirectConnection);
@@ -79,7 +80,7 @@ void report(RowList::Rows rows) {
   BenchApplication::settle();
   std::vector<Shopper> shoppers;
   for (std::size_t i = 0; i < kRows; ++i) shoppers.emplace_back(i);
-  qt::picture(shoppers.front().ours());  // makes the faces known to Qt, which the peer uses
+  qt::picture(shoppers.front().ours());  // registers the faces with Qt for the peer
   QQuickWindow window;
   window.resize(343, 720);
   RowList source(rows);

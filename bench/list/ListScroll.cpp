@@ -1,5 +1,6 @@
-// What a row costs in QML: made and painted one by one, from C++ and from the QML module, and in a
-// list of 200 that scrolls from end to end, with and without the reuse of delegates, beside a peer.
+// The cost of a row in QML: rows made and painted one by one, from C++ and from the QML module, and
+// rows of a list of 200 that scrolls from end to end, with and without reuse of delegates. Compares
+// with a peer.
 //
 //   list_scroll
 
@@ -28,7 +29,7 @@ constexpr char kRow[] = R"(
     import QuorixWidgets
     ScoreWidget { clientId: "my-shop"; locale: "en" })";
 
-/// The thread's processor time: other work on the machine does not show.
+/// The thread's processor time, which does not include other work of the machine.
 double microseconds() {
   timespec now{};
   clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
@@ -58,7 +59,7 @@ class Measurement {
     });
   }
 
-  /// For each row that came into sight, the frames in which none did counted in.
+  /// The time for each row that scrolled into sight, including the frames without a new row.
   double scrolled(RowList& rows, bool reuse) {
     const auto list = rows.make(*stage_.root(), shoppers_, reuse);
     stage_.frame();
@@ -115,7 +116,7 @@ void report() {
   for (int turn = -1; turn < kTurns; ++turn) {
     for (std::size_t i = 0; i < values.size(); ++i) {
       const double taken = measured[i].run();
-      if (turn >= 0) values[i].push_back(taken);  // the first warms up
+      if (turn >= 0) values[i].push_back(taken);  // the first turn is the warm-up
     }
   }
   for (std::size_t i = 0; i < values.size(); ++i) {

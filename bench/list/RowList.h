@@ -11,7 +11,7 @@
 
 namespace quorix::bench {
 
-/// A list in QML with a row for each of some shoppers. `taken` counts those that came into sight.
+/// A list in QML with one row for each shopper. `taken` counts the rows that came into sight.
 class RowList {
  public:
   enum class Rows { ours, peer, empty };
@@ -25,7 +25,7 @@ class RowList {
   QQmlComponent component_{&engine_};
 };
 
-/// Makes an item, or ends the process.
+/// Makes an item. Ends the process on failure.
 QQuickItem* create(QQmlComponent& component, const QVariantMap& properties);
 
 }  // namespace quorix::bench

@@ -8,10 +8,10 @@
 
 namespace quorix::bench {
 
-/// Watches a window from a tap on: after how many milliseconds its first frame with an overlay is
-/// on its way, and after how many the first one with the engine's view in it. Made before the
-/// engine starts, whose pages neither come nor fail: an overlay that learns of a failure before its
-/// first frame shows a sentence instead of the page.
+/// Watches a window after a tap. Measures the milliseconds until the first frame with an overlay,
+/// and until the first frame with the engine's view in it. Make it before the engine starts: its
+/// silent proxy keeps pages from loading or failing. After a failure, an overlay would show a
+/// sentence instead of the page.
 class OverlayClock {
  public:
   struct Moments {
@@ -19,15 +19,15 @@ class OverlayClock {
     double page = 0;
   };
 
-  /// `isOverlay` knows the overlay's item.
+  /// `isOverlay` returns whether an item is the overlay's.
   OverlayClock(QQuickWindow& window, std::function<bool(const QQuickItem&)> isOverlay);
 
-  /// `tap` opens an overlay. A page that is not there within a minute ends the process.
+  /// `tap` opens an overlay. Ends the process if the page is not visible after a minute.
   Moments open(const std::function<void()>& tap);
-  /// `close` closes it; returns when it is gone and the window has come to rest.
+  /// `close` closes it. Returns when the overlay is gone and the window is at rest.
   void close(const std::function<void()>& close);
 
-  /// Prints the moments of a cold and of a warm opening as JSON.
+  /// Prints the times of a cold and a warm opening as JSON.
   static void print(const Moments& cold, const Moments& warm);
 
  private:

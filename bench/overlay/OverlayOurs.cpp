@@ -1,6 +1,5 @@
-// The declarative info widget in a window: a tap opens its overlay, the first time with the web
-// engine still to be loaded, the second time with all of it there. Prints after how many
-// milliseconds the sheet and the page were to be seen.
+// Opens the overlay of the declarative info widget twice by a tap. The first time includes the
+// loading of the web engine. Prints the milliseconds until the sheet and the page were visible.
 
 #include "bench/BenchApplication.h"
 #include "bench/QuickStage.h"
@@ -13,7 +12,7 @@ int main(int argc, char** argv) {
   using namespace quorix::bench;
   QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
   const BenchApplication application(argc, argv);
-  quorix::uikit::URLOpener::install(nullptr);  // without the engine the page would open elsewhere
+  quorix::uikit::URLOpener::install(nullptr);  // without an engine, do not open the page outside
   QQuickWindow window;
   window.resize(375, 700);
   const InfoSubject info(InfoSubject::Form::declarative);
@@ -32,5 +31,5 @@ int main(int argc, char** argv) {
   const auto warm = clock.open(tap);
   OverlayClock::print(cold, warm);
   std::fflush(stdout);
-  std::_Exit(0);  // how long the engine takes to leave is not asked
+  std::_Exit(0);  // skips the engine's shutdown, which is not measured
 }

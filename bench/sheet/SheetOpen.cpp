@@ -20,16 +20,16 @@
 #include "bench/Subjects.h"
 #include "qt/quick/ViewItem.h"
 
-// A tap on a score row opens its sheet, the first time in the process and later. Prints after how
-// many milliseconds the sheet's first frame was on its way, and how much work that was. Without
-// motion that frame shows the sheet at rest.
+// Opens the sheet of a score row by a tap, the first time in the process and later. Prints the
+// milliseconds until the sheet's first frame, and the processor time until then. Without motion,
+// that frame shows the sheet at rest.
 //
 //   sheet_open ours|qml motion|still
 
 namespace quorix::bench {
 namespace {
 
-/// A score row with the sheet behind it, which the one in QML gets the texts of.
+/// A score row with its sheet. The QML equivalent gets the texts of both.
 class SheetSubject final : public Subject {
  public:
   SheetSubject();
@@ -60,23 +60,23 @@ SheetSubject::SheetSubject() : properties_(shopper_.properties()) {
   add("closeName", texts.text("actions", "close"));
 }
 
-/// Watches a window from a tap on.
+/// Watches a window after a tap.
 class SheetClock {
  public:
   /// Milliseconds since the tap.
   struct Moments {
-    double first = 0;  ///< the first frame with the sheet is on its way
-    double work = 0;   ///< until then, of the thread's processor time
+    double first = 0;  ///< time of the first frame with the sheet
+    double work = 0;   ///< the thread's processor time until then
   };
 
-  /// `isSheet` knows the sheet's item.
+  /// `isSheet` returns whether an item is the sheet's.
   SheetClock(QQuickWindow& window, std::function<bool(const QQuickItem&)> isSheet);
 
-  /// `tap` opens the sheet. One that does not come ends the process.
+  /// `tap` opens the sheet. Ends the process if it does not open.
   Moments open(const std::function<void()>& tap);
-  /// Whether the sheet's first frame is as its last. Times nothing.
+  /// Whether the sheet's first frame equals its last one. Measures no time.
   bool restsAtOnce(const std::function<void()>& tap);
-  /// `close` closes it; one that stays ends the process.
+  /// `close` closes the sheet. Ends the process if it stays open.
   void close(const std::function<void()>& close);
 
  private:
@@ -93,7 +93,7 @@ class SheetClock {
   QImage seen_;
 };
 
-/// Milliseconds without a frame that make a rest: motion wants the next one within 16.
+/// Milliseconds without a frame that count as rest. Motion has a frame every 16.
 constexpr int kRest = 100;
 
 double milliseconds(clockid_t clock) {

@@ -1,5 +1,5 @@
-// What both of the least apps need before they show anything: a window, and Qt's list of the fonts
-// installed. Prints the moment of the window's first, empty frame.
+// The part that both minimal apps need before they show anything: a window, and Qt's list of
+// installed fonts. Prints the time of the window's first, empty frame.
 
 #include <QFontDatabase>
 #include <QGuiApplication>

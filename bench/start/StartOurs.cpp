@@ -1,4 +1,5 @@
-// The least app that shows our row: a window and a view item. Prints the moment of its first frame.
+// The smallest app that shows our row: a window and a view item. Prints the time of its first
+// frame.
 
 #include <QGuiApplication>
 #include <QQuickWindow>

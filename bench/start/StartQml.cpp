@@ -1,4 +1,4 @@
-// The least app that shows the row in QML, compiled ahead of time. Prints the moment of its first
+// The smallest app that shows the row in QML, compiled ahead of time. Prints the time of its first
 // frame.
 
 #include <QFontDatabase>

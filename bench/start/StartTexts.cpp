@@ -1,5 +1,5 @@
-// The least app that paints the row's three texts by Qt alone, in the same faces. Prints the moment
-// of its first frame.
+// The smallest app that paints the row's three texts with Qt alone, in the same faces. Prints the
+// time of its first frame.
 
 #include <QFontDatabase>
 #include <QGuiApplication>

@@ -85,10 +85,10 @@ void StandInPages::accept(QTcpSocket* socket) {
   QObject::connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
   QObject::connect(socket, &QTcpSocket::readyRead, socket,
                    [this, socket, pending] { read(socket, *pending); });
-  read(socket, *pending);  // what came before anybody listened
+  read(socket, *pending);  // data that arrived before the connection of the signal
 }
 
-/// A connection carries several requests, none with a body.
+/// Reads the requests. A connection may carry several, none with a body.
 void StandInPages::read(QTcpSocket* socket, QByteArray& pending) {
   pending += socket->readAll();
   for (qsizetype end; (end = pending.indexOf("\r\n\r\n")) >= 0; pending.remove(0, end + 4)) {

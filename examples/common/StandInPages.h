@@ -10,10 +10,9 @@ class QTcpSocket;
 
 namespace quorix::examples {
 
-/// Stands in for the vendor's page services as long as it lives: an HTTPS server on loopback, which
-/// Qt WebEngine is told to take for the two services' hosts. Make it after the application object
-/// and before the first page is shown; the engine reads what it is told once, and then keeps to it.
-/// Main thread.
+/// Replaces the vendor's page services while it exists: an HTTPS server on loopback, to which Qt
+/// WebEngine maps the hosts of both services. Make it after the application object and before the
+/// first page: the engine reads this setting only once. Main thread.
 ///
 ///     StandInPages pages;
 ///     pages.serve("/html/overlays/info", {.body = "<h1>Hello</h1>"});
@@ -21,7 +20,7 @@ class StandInPages {
  public:
   struct Request {
     QByteArray line;  ///< "GET /html/overlays/info?lang=en HTTP/1.1"
-    QByteArray head;  ///< all of it, the line included
+    QByteArray head;  ///< complete, with the request line
     QByteArray host;  ///< "modules.quorix.example"
     QByteArray path;  ///< "/html/overlays/info"
     QByteArray query;
@@ -29,8 +28,8 @@ class StandInPages {
   struct Answer {
     int status = 200;
     QByteArray body = {};
-    QByteArray headers = "Content-Type: text/html; charset=utf-8\r\n";  ///< whole lines
-    bool comes = true;  ///< otherwise the request waits for ever
+    QByteArray headers = "Content-Type: text/html; charset=utf-8\r\n";  ///< complete lines
+    bool comes = true;  ///< false: the request is never answered
   };
   using Answerer = std::function<Answer(const Request&)>;
 
@@ -38,11 +37,11 @@ class StandInPages {
   StandInPages(const StandInPages&) = delete;
   StandInPages& operator=(const StandInPages&) = delete;
 
-  /// What every path gets that was not told otherwise is a 404.
+  /// Sets the answer for `path`. Other paths get a 404.
   void serve(const QByteArray& path, Answer answer);
   void serve(const QByteArray& path, Answerer answerer) { answers_[path] = std::move(answerer); }
 
-  /// All requests so far, or those for `path`.
+  /// All requests so far, or only those for `path`.
   const std::vector<Request>& requests() const { return requests_; }
   std::vector<Request> requests(const QByteArray& path) const;
   void forgetRequests() { requests_.clear(); }

@@ -7,14 +7,13 @@
 
 namespace quorix::examples {
 
-/// What demo tokens are signed with unless someone says otherwise. The widgets never check a
-/// signature; a real secret stays with the service that issues tokens.
+/// The default secret of demo tokens. The widgets never check signatures. A real secret stays with
+/// the service that issues tokens.
 inline constexpr std::string_view demoSecret = "quorix-demo";
 
-/// A token that carries `figures`, signed with HS256 under `secret` as the widget service would: a
-/// stand-in for that service in demos and tools. The same figures and secret give the same token.
-/// A score that is not finite can't be written down and gives a token that carries none. Any
-/// thread.
+/// A token with `figures`, signed with HS256 and `secret`. Replaces the widget service in demos and
+/// tools. The same figures and secret give the same token. If the score is not finite, the token
+/// has no score. Any thread.
 ///
 ///     mintToken({0.82, "EUR", 499, 299})  // "eyJhbGciOiJIUzI1NiIsInR5cCI6IkpXVCJ9.eyJkYXRh…"
 std::string mintToken(const TokenData& figures, std::string_view secret = demoSecret);

@@ -66,7 +66,7 @@ class PangoText final : public text::TextEngine {
     return run.strikethrough ? std::string("<s>") + markup.get() + "</s>" : markup.get();
   }
 
-  /// Fontconfig reads fonts from files only.
+  /// Writes the faces to files, because Fontconfig reads fonts only from files.
   void loadFaces() {
     for (const auto& face : graphics::FontManager::shared().faces(faces_.size())) {
       const std::string path = g_get_user_runtime_dir() + ("/" + face.postScriptName());
@@ -80,7 +80,7 @@ class PangoText final : public text::TextEngine {
   }
 
   PangoContext* context_ = pango_font_map_create_context(pango_cairo_font_map_get_default());
-  std::map<std::string, std::string> faces_;  ///< Pango's names by PostScript name
+  std::map<std::string, std::string> faces_;  ///< PostScript name to Pango's name
 };
 
 /// Draws display lists with Cairo.

@@ -13,7 +13,7 @@
 
 using namespace quorix;
 
-/// A drawing area with a view and the sheets over it.
+/// A drawing area with a view and its sheets.
 struct Surface final : hosting::ViewWindow {
   using Phase = hosting::PointerEvent::Phase;
 
@@ -94,11 +94,11 @@ struct Surface final : hosting::ViewWindow {
     if (ring) painter.draw(render::StrokeItem{*ring, {53, 132, 228, 255}, 2});
   }
 
-  /// On a later turn: a frame may be on its way.
+  /// Draws on a later turn, because a frame may be in progress.
   void needsFrame() override {
     foundation::MainQueue::async([this] { gtk_widget_queue_draw(area); });
   }
-  /// There is no web engine: pages open in the browser.
+  /// Without a web engine, pages open in the browser.
   bool showsPages() const override { return true; }
 
   examples::PangoText& texts_;

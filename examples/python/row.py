@@ -8,7 +8,7 @@ import sys
 from PySide6.QtGui import QGuiApplication
 from PySide6.QtQml import QQmlApplicationEngine
 
-# The service's answer for a shopper who keeps 82 of 100 and pays 2.99 instead of 4.99 euros.
+# The service's token for a shopper who keeps 82 of 100 items and pays 2.99 instead of 4.99 euros.
 TOKEN = ("eyJhbGciOiJIUzI1NiIsInR5cCI6IkpXVCJ9."
          "eyJkYXRhIjp7ImJhc2VfZmVlX2Ftb3VudCI6NDk5LCJkaXNjb3VudGVkX2ZlZV9hbW91bnQiOjI5OSwiZmVlX2N1cnJlbmN5"
          "IjoiRVVSIiwic2NvcmUiOjAuODJ9fQ.x3SNX6n8yKowKUMouQV7KrJS882rih7wCJyuWJ38eLE")

@@ -5,7 +5,7 @@
 
 namespace quorix::examples {
 
-/// What the shopper means to buy: pieces of the one product, by size.
+/// The shopper's bag: pieces of the only product, by size.
 class Bag {
  public:
   struct Line {
@@ -17,7 +17,7 @@ class Bag {
   int count() const;
 
   void add(const QString& size);
-  /// Takes out every piece of that size.
+  /// Removes all pieces of that size.
   void remove(const QString& size);
 
  private:

@@ -8,29 +8,29 @@
 
 namespace quorix::examples {
 
-/// What the demo bar is set to: indexes into the shop's lists.
+/// The settings of the demo bar: indexes into the shop's lists.
 struct Choices {
   int shopper = 0;
   int language = 0;
-  int appearance = 0;  ///< 0 the desktop's, 1 light, 2 dark
+  int appearance = 0;  ///< 0 as on the desktop, 1 light, 2 dark
   int face = 0;
 
   bool operator==(const Choices&) const = default;
 };
 
-/// What the widgets' texts are set in.
+/// The faces of the widgets' texts.
 struct TextFace {
   QString name;      ///< for the demo bar
-  QString regular;   ///< a face of the shop's own, empty for the widgets'
-  QString semiBold;  ///< likewise
-  std::optional<swiftui::ContentSizeCategory> textSize;  ///< nothing: the user's
+  QString regular;   ///< the shop's own face; empty for the widgets' face
+  QString semiBold;  ///< the shop's own face; empty for the widgets' face
+  std::optional<swiftui::ContentSizeCategory> textSize;  ///< absent: the user's
 
   static const std::vector<TextFace>& all();
 };
 
-/// A language that the shop speaks.
+/// A language of the shop.
 struct ShopLanguage {
-  QString name;  ///< in itself, for the demo bar
+  QString name;  ///< in the language itself, for the demo bar
   QString code;
   bool rightToLeft = false;
 

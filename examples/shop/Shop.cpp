@@ -76,7 +76,7 @@ void Shop::openBag(bool open) {
 }
 
 void Shop::leaveFor(const QString& address) {
-  // An address has no spaces to break at, so it may break after each of its parts.
+  // An address has no spaces, so allow line breaks after each of its parts.
   QString parts = address;
   parts.replace(QRegularExpression(QStringLiteral("([/?&])(?=[^/])")), QStringLiteral("\\1\u200b"));
   note_ = QStringLiteral("Opened outside the app:\n%1\nThis is a demo, and nothing answers there.")

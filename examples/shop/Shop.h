@@ -14,9 +14,9 @@
 
 namespace quorix::examples {
 
-/// The shop's model: what the demo bar offers and is set to, what follows from that, which page is
-/// open and what is in the bag. The user interfaces show it and write to it, so that two of them
-/// agree. Main thread; needs the application object.
+/// The shop's model: the demo bar's lists and settings, the values that follow from them, the open
+/// page and the bag. All user interfaces show it and write to it, so two of them always agree. Main
+/// thread; needs the application object.
 class Shop : public QObject {
   Q_OBJECT
   Q_PROPERTY(QStringList shoppers READ shoppers CONSTANT)
@@ -30,7 +30,7 @@ class Shop : public QObject {
   Q_PROPERTY(int appearance READ appearanceIndex WRITE chooseAppearance NOTIFY changed)
   Q_PROPERTY(int face READ faceIndex WRITE chooseFace NOTIFY changed)
 
-  // What follows from the choices.
+  // Values that follow from the settings.
   Q_PROPERTY(QString clientId READ clientId CONSTANT)
   Q_PROPERTY(QString token READ token NOTIFY changed)
   Q_PROPERTY(QString locale READ locale NOTIFY changed)
@@ -45,10 +45,10 @@ class Shop : public QObject {
 
   Q_PROPERTY(QString size READ size WRITE chooseSize NOTIFY changed)
   Q_PROPERTY(bool bagOpen READ bagOpen WRITE openBag NOTIFY changed)
-  /// A note of the demo's own, shown for a while.
+  /// A message of the demo itself, shown for a while.
   Q_PROPERTY(QString note READ note NOTIFY changed)
   Q_PROPERTY(int bagCount READ bagCount NOTIFY changed)
-  /// { size, count, price } each.
+  /// A list of { size, count, price }.
   Q_PROPERTY(QVariantList bagLines READ bagLines NOTIFY changed)
   Q_PROPERTY(QString price READ price NOTIFY changed)
   Q_PROPERTY(QString total READ total NOTIFY changed)
@@ -84,14 +84,14 @@ class Shop : public QObject {
   bool rightToLeft() const { return language().rightToLeft; }
   QString regularFont() const { return face().regular; }
   QString semiBoldFont() const { return face().semiBold; }
-  /// As QML's `ScoreWidget.TextSize`.
+  /// A value of QML's `ScoreWidget.TextSize`.
   int textSize() const { return face().textSize ? static_cast<int>(*face().textSize) : -1; }
   bool dark() const;
   ShopColors colors() const { return dark() ? ShopColors::dark() : ShopColors::light(); }
   const ShopWords& words() const { return words_; }
   QVariantMap wordMap() const { return words_.all(); }
 
-  /// Whether anything may move. False for still pictures.
+  /// Whether animations run. False for still pictures.
   bool moving() const { return moving_; }
   void setMoving(bool moving);
 
@@ -101,7 +101,7 @@ class Shop : public QObject {
   void openBag(bool open);
 
   QString note() const { return note_; }
-  /// Shows a note that `address` was opened outside the app: no server answers there.
+  /// Shows a note that `address` was opened outside the app. The demo's hosts do not exist.
   void leaveFor(const QString& address);
 
   const Bag& bag() const { return bag_; }
@@ -109,15 +109,15 @@ class Shop : public QObject {
   QVariantList bagLines() const;
   QString price() const { return shopper().priceOf(1); }
   QString total() const { return shopper().priceOf(bag_.count()); }
-  /// Puts a piece of the chosen size into the bag and says so.
+  /// Puts a piece of the chosen size into the bag and confirms it.
   Q_INVOKABLE void addToBag();
   Q_INVOKABLE void takeOut(const QString& size);
-  /// Fills the bag without a confirmation.
+  /// Fills the bag without confirmation.
   void fillBag(const Bag& bag);
 
  signals:
   void changed();
-  /// A word of confirmation for the shopper.
+  /// Requests to show a confirmation to the shopper.
   void noticed(const QString& words);
 
  protected:

@@ -5,7 +5,7 @@
 
 namespace quorix::examples {
 
-/// The shop's own colors for one appearance, for either toolkit.
+/// The shop's colors for one appearance, for both toolkits.
 struct ShopColors {
   Q_GADGET
   Q_PROPERTY(QColor page MEMBER page)
@@ -20,9 +20,9 @@ struct ShopColors {
 
  public:
   QColor page;
-  QColor stage;  ///< behind the goods
+  QColor stage;  ///< background of the goods
   QColor ink;
-  QColor quiet;  ///< words that stand back
+  QColor quiet;  ///< secondary text
   QColor hairline;
   QColor accent;
   QColor accentInk;

@@ -6,18 +6,18 @@
 
 namespace quorix::examples {
 
-/// What the command line asks for.
+/// The options on the command line.
 struct ShopOptions {
   bool help = false;
-  bool widgets = false;           ///< a Qt Widgets window beside the Qt Quick one
+  bool widgets = false;           ///< also open a Qt Widgets window
   bool pictures = false;          ///< write pictures instead of opening a window
-  std::string outFolder = "out";  ///< where they go
-  int language = 0;               ///< which of the shop's it starts in
+  std::string outFolder = "out";  ///< folder of the pictures
+  int language = 0;               ///< the shop's language at the start
 
   static const char* usage();
 
-  /// The options among `arguments` (without the program's name), or one line that says what is
-  /// wrong with them.
+  /// Parses `arguments` (without the program's name). On an error, returns one line with the
+  /// reason.
   static std::variant<ShopOptions, std::string> parse(std::span<char* const> arguments);
 };
 

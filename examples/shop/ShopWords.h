@@ -5,7 +5,7 @@
 
 namespace quorix::examples {
 
-/// The shop's own words in one language, by name: `words/`, compiled in. Every language has the
+/// The shop's own texts in one language, by name; `words/` is compiled in. Every language has the
 /// same names.
 class ShopWords {
  public:

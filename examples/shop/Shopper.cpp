@@ -7,7 +7,7 @@
 namespace quorix::examples {
 namespace {
 
-/// As if the token had been cut off on its way: what is left can't be decoded.
+/// A token that was cut off in transmission and cannot be decoded.
 std::string brokenToken() {
   const std::string whole = mintToken({0.82, "EUR", 600, 300});
   return whole.substr(0, whole.find('.') + 12);

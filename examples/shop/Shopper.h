@@ -6,17 +6,17 @@
 
 namespace quorix::examples {
 
-/// Somebody who is signed in to the shop.
+/// A signed-in user of the shop.
 struct Shopper {
   QString name;  ///< with what is special about them, for the demo bar
   std::string token;
   QString money;  ///< how an amount is written in the shopper's money, "%1 kr"
-  int price = 0;  ///< of the product, in whole units of that money
+  int price = 0;  ///< of the product, in whole currency units
 
-  /// What `count` pieces cost.
+  /// The price of `count` pieces.
   QString priceOf(int count) const;
 
-  /// The demo's shoppers, each with a token as the widget service would issue it.
+  /// The demo's shoppers, each with a token like the widget service's.
   static const std::vector<Shopper>& all();
 };
 

@@ -25,7 +25,7 @@ constexpr std::string_view notFoundPage =
 
 URL serviceAddress() { return URL::parse(modulesServiceBaseURL()).value(); }
 
-/// The language that `path` asks the table of, or nothing when it asks for something else.
+/// The language of the table that `path` requests; absent for any other path.
 std::optional<std::string_view> languageIn(std::string_view path) {
   constexpr std::string_view before = "/translations/score/overlay/";
   constexpr std::string_view after = ".json";
@@ -57,8 +57,8 @@ StandInServices::StandInServices(std::chrono::milliseconds delay)
           })) {}
 
 void StandInServices::whenAnswered(std::function<void()> then) {
-  // The session and the main queue answer in order: when one more request completes, so have all
-  // before it. The last turn lets views read the answers.
+  // The session and the main queue answer in order: when this request completes, all earlier ones
+  // have completed too. In the last turn, views read the answers.
   MainQueue::async([then = std::move(then)] {
     URLSession::shared().get(serviceAddress(), [then](const URLResponse&) {
       MainQueue::async([then] { MainQueue::async(then); });

@@ -7,9 +7,9 @@ namespace quorix::examples {
 
 class Shop;
 
-/// Takes the addresses that are opened outside the app as long as it lives. No server has the
-/// demo's invented host names, so the shop shows those addresses in a note. Others go to the
-/// desktop. Main thread.
+/// Handles the addresses that are opened outside the app while it exists. The demo's host names are
+/// invented, so the shop shows those addresses in a note. Other addresses go to the desktop. Main
+/// thread.
 class WayOut : public QObject {
   Q_OBJECT
 

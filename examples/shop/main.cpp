@@ -44,11 +44,12 @@ void prepare() {
   quorix::qt::installEngine();
 }
 
-/// Settings that the web engine reads before the application object is made.
+/// Sets options that the web engine reads before the application object is made.
 void makeReadyForPages() {
   QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
 #ifdef Q_OS_LINUX
-  // It has no sandbox for root, which is who runs the demo in a container. Its pages are our own.
+  // The engine has no sandbox for root, the usual user in a container. The demo shows only its own
+  // pages.
   if (geteuid() == 0) qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
 #endif
 }
@@ -81,7 +82,7 @@ int openQuick(int argc, char** argv, const ShopOptions& options) {
   return QGuiApplication::exec();
 }
 
-/// The windows of both toolkits beside each other, showing one shop.
+/// Shows one shop in two windows, one for each toolkit.
 int openBoth(int argc, char** argv, const ShopOptions& options) {
   const QApplication app(argc, argv);
   prepare();

@@ -23,7 +23,7 @@ void append(std::string& path, char command, std::initializer_list<float> number
 
 std::string& pathOf(void* data) { return *static_cast<std::string*>(data); }
 
-/// Writes an outline down as HarfBuzz tells it.
+/// Writes an outline from HarfBuzz as an SVG path.
 hb_draw_funcs_t* pathWriter() {
   static hb_draw_funcs_t* const writer = [] {
     hb_draw_funcs_t* funcs = hb_draw_funcs_create();

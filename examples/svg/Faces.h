@@ -10,7 +10,7 @@
 
 namespace quorix::examples {
 
-/// A face of the font manager's, as HarfBuzz has it. All lengths are for a size of 1 point.
+/// A face of the font manager, loaded by HarfBuzz. All lengths are for a font size of 1 point.
 class Face {
  public:
   explicit Face(graphics::GraphicsFont font);
@@ -24,7 +24,7 @@ class Face {
   /// Points for each unit of the face.
   double unit() const { return unit_; }
 
-  /// A decoration: how far its middle stands below the baseline, and how thick it is.
+  /// A decoration: the distance of its middle below the baseline, and its thickness.
   struct Stroke {
     double offset;
     double thickness;
@@ -32,7 +32,7 @@ class Face {
   Stroke underline() const;
   Stroke strikethrough() const;
 
-  /// The glyph's outline as the data of an SVG path, in the face's units, y upwards.
+  /// The glyph's outline as SVG path data, in the face's units, with y upwards.
   std::string outline(hb_codepoint_t glyph) const;
 
  private:
@@ -42,7 +42,7 @@ class Face {
 
   Stroke stroke(unsigned offset, unsigned thickness, Stroke otherwise) const;
 
-  graphics::GraphicsFont font_;  // keeps the bytes
+  graphics::GraphicsFont font_;  // keeps the bytes alive
   std::unique_ptr<hb_font_t, Release> shaper_;
   double unit_ = 0;
   double ascent_ = 0;
@@ -50,8 +50,8 @@ class Face {
   double lineGap_ = 0;
 };
 
-/// The faces that texts are drawn in: those of the font manager. This renderer knows no system's
-/// faces, so a name that is not registered gets the first that is.
+/// The faces for drawing: those of the font manager. This renderer has no system faces, so an
+/// unknown name selects the first registered face.
 class Faces {
  public:
   const Face& find(std::string_view name);

@@ -63,11 +63,10 @@ std::int32_t Paragraph::lineEnd(std::int32_t from, double width) {
   return std::max(lastThatFits(*characters_, from, width), characters_->following(from));
 }
 
-/// The last of `places` up to which the text from `from` on fits into `width`; `from` when none
-/// does.
+/// The last of `places` up to which the text from `from` fits into `width`; `from` if none fits.
 std::int32_t Paragraph::lastThatFits(icu::BreakIterator& places, std::int32_t from,
                                      double width) const {
-  constexpr double slack = 1.0 / 256;  // frames lose the last bits of what was measured
+  constexpr double slack = 1.0 / 256;  // frames lose the last bits of a measured width
   std::int32_t end = from;
   for (std::int32_t next = places.following(from); next != icu::BreakIterator::DONE;
        next = places.next()) {
@@ -78,7 +77,7 @@ std::int32_t Paragraph::lastThatFits(icu::BreakIterator& places, std::int32_t fr
   return end;
 }
 
-/// The glyphs of one line, without the blanks at its end.
+/// Shapes the glyphs of one line, without the blanks at its end.
 Paragraph::Line Paragraph::shape(std::int32_t from, std::int32_t to) const {
   while (to > from && u_isUWhiteSpace(text_.char32At(to - 1))) --to;
   Line line;
@@ -95,7 +94,7 @@ Paragraph::Line Paragraph::shape(std::int32_t from, std::int32_t to) const {
   return line;
 }
 
-/// Text of one direction: a piece for each run in it.
+/// Shapes text of one direction, with a piece for each run.
 void Paragraph::shapeAlong(Line& line, std::int32_t from, std::int32_t to, bool rightToLeft) const {
   std::vector<std::size_t> order;
   for (std::size_t run = 0; run < runs_.size(); ++run) {

@@ -20,7 +20,7 @@ class Paragraph {
     hb_codepoint_t id;
     double x, y;  ///< from the line's left end, on its baseline; y downwards
   };
-  /// Glyphs of one run that follow each other.
+  /// Consecutive glyphs of one run.
   struct Piece {
     std::size_t run;
     const Face* face;
@@ -34,10 +34,10 @@ class Paragraph {
 
   Paragraph(const text::AttributedText& text, Faces& faces);
 
-  /// Lines no wider than `width`, broken between words, and inside a word that alone is wider.
+  /// Lines no wider than `width`. Breaks between words, and inside a word that is wider.
   std::vector<Line> lines(double width);
 
-  /// The width of the widest stretch between two places where a line may end.
+  /// The largest width between two places where a line may break.
   double longestWord();
 
  private:
@@ -64,13 +64,13 @@ class Paragraph {
   std::unique_ptr<icu::BreakIterator> words_, characters_;
 };
 
-/// The port between the library's layout and this renderer's fonts.
+/// Connects the library's layout with this renderer's fonts.
 class OutlineTextEngine final : public text::TextEngine {
  public:
   text::TextMetrics measure(const text::AttributedText& text, double width) override;
   double leastWidth(const text::AttributedText& text) override;
 
-  /// What `measure` measured, to be drawn.
+  /// The result of `measure`, for drawing.
   struct Block {
     text::TextMetrics metrics;
     std::vector<Paragraph::Line> lines;

@@ -11,7 +11,7 @@
 namespace quorix::examples {
 namespace {
 
-/// Plain decimals: independent of the locale of the process.
+/// A plain decimal number, independent of the process's locale.
 std::string number(double value) {
   const auto thousandths = static_cast<long long>(std::llround(value * 1000));
   std::string digits = std::to_string(std::abs(thousandths));
@@ -121,7 +121,7 @@ void SvgPainter::drawLine(const Paragraph::Line& line, const text::AttributedTex
   }
 }
 
-/// A template image gives its shape, and the tint its color.
+/// Uses the shape of a template image, filled with the tint.
 void SvgPainter::draw(const render::ImageItem& item) {
   const auto image = graphics::imageSet(item.bundle, item.name);
   if (!image) return;
@@ -173,7 +173,7 @@ void SvgPainter::draw(const render::StrokeItem& item) {
           attribute("stroke-width", item.width) + "/>\n";
 }
 
-/// Nothing embeds itself in a file: its ground stands for it.
+/// A file cannot embed a page, so this draws its background.
 void SvgPainter::draw(const render::EmbedItem& item) {
   draw(render::FillItem{item.frame, item.background, item.topCornerRadius});
 }

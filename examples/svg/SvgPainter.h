@@ -7,13 +7,13 @@
 
 namespace quorix::examples {
 
-/// Writes a scene down as an SVG file, its texts as outlines.
+/// Writes a display list as an SVG file, with texts as outlines.
 class SvgPainter {
  public:
-  /// `engine` measured the texts when the scene was made.
+  /// `engine` must be the one that measured the texts.
   explicit SvgPainter(OutlineTextEngine& engine) : engine_(engine) {}
 
-  /// On `ground`, with what a screen reader would say for a title.
+  /// Paints on the background `ground`. The title is the text for screen readers.
   std::string paint(const render::Scene& scene, graphics::RGBA ground);
 
  private:
@@ -29,7 +29,7 @@ class SvgPainter {
   OutlineTextEngine& engine_;
   graphics::Appearance appearance_ = graphics::Appearance::light;
   std::string svg_;
-  std::string unclip_;  ///< ends what the clips began
+  std::string unclip_;  ///< closes the clip elements
 };
 
 }  // namespace quorix::examples

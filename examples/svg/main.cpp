@@ -1,9 +1,9 @@
-// The widgets without Qt: lays them out over fonts that this program shapes itself, and writes
-// what a surface would paint as SVG files.
+// The widgets without Qt: shapes its fonts itself, lays the widgets out, and writes their display
+// lists as SVG files.
 //
 //   quorix-svg FOLDER [LANGUAGE] [TOKEN]
 //
-// writes row.svg, info.svg and imperative.svg into FOLDER, which is there.
+// Writes row.svg, info.svg and imperative.svg into FOLDER, which must exist.
 
 #include <cstdio>
 #include <exception>
@@ -23,7 +23,7 @@ namespace {
 using namespace quorix;
 
 constexpr double kWidth = 343;  // points
-// A return rate of 18 percent, a fee of 6 euros and a discounted one of 3.
+// A return rate of 18 percent, a fee of 6 euros and a discounted fee of 3.
 constexpr std::string_view kToken =
     "eyJhbGciOiJIUzI1NiIsInR5cCI6IkpXVCJ9."
     "eyJkYXRhIjp7ImJhc2VfZmVlX2Ftb3VudCI6NjAwLCJkaXNjb3VudGVkX2ZlZV9hbW91bnQiOjMwMCwiZmVlX2N1cnJlbm"
@@ -31,19 +31,19 @@ constexpr std::string_view kToken =
     "_CgKMvOVq5BAg43l_78kN7nb0vBMVh5Z2jyzaAXW2cQ";
 constexpr graphics::RGBA kPaper{255, 255, 255, 255};
 
-/// The picture is made once, so notices of changes are ignored.
+/// Makes the picture once, so it ignores change notices.
 struct StillSurface final : hosting::ViewHost::Client {
   void viewNeedsDisplay() override {}
   void presentationChanged() override {}
 };
 
-/// Whether `view` was written to `path`.
+/// Writes `view` to `path`. False on failure.
 bool write(const swiftui::View& view, const std::string& path) {
   examples::OutlineTextEngine fonts;
   StillSurface surface;
   hosting::ViewHost host(fonts, surface);
   host.setRoot(view);
-  foundation::MainQueue::drain();  // an imperative title comes with the next turn
+  foundation::MainQueue::drain();  // sets the title of an imperative widget
   const layout::Size size = {kWidth, host.sizeThatFits({kWidth, std::nullopt}).height};
   std::ofstream file(path);
   file << examples::SvgPainter(fonts).paint(host.scene(size), kPaper);

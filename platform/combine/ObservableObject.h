@@ -52,7 +52,7 @@ class QUORIX_EXPORT ObservableObject {
     return observers_.add(std::move(observer));
   }
 
-  /// Notifies every observer. For published values.
+  /// Notifies every observer. `Published` calls this.
   void sendWillChange() { observers_.call(); }
 
  private:

@@ -33,7 +33,7 @@ class Action {
 
   explicit operator bool() const { return call_ != nullptr; }
   bool operator==(std::nullptr_t) const { return call_ == nullptr; }
-  /// Whether both are copies of one.
+  /// Whether both are copies of the same action.
   bool operator==(const Action& other) const { return call_ == other.call_; }
 
   /// Runs it. The action lives until the call returns, also when the call drops its last owner.

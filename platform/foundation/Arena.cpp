@@ -17,7 +17,7 @@ struct ArenaPool {
   std::shared_ptr<void> pool;
 };
 
-/// Keeps the arenas without a lease, to be leased again.
+/// Keeps free arenas for the next lease.
 struct Arena::Pool {
   std::vector<Arena*> idle;
 

@@ -10,8 +10,8 @@
 
 namespace quorix::foundation {
 
-/// Memory that is allocated in a row, freed all at once, and then used again. One lease at a time;
-/// main thread.
+/// Allocates memory in sequence, frees all of it at once, and is then used again. One lease at a
+/// time; main thread.
 ///
 ///     const Arena::Lease lease = Arena::lease();
 ///     auto* names = lease->make<std::pmr::vector<int>>(lease->resource());

@@ -11,7 +11,8 @@ namespace {
 constexpr std::string_view base64Alphabet =
     "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
 
-/// Above every 24-bit value, so that a whole text is checked with one comparison.
+/// Marks an invalid character. Lies above the 24 bits of a value, so one test after the loop checks
+/// the whole text.
 constexpr std::uint32_t invalidBit = 1u << 31;
 
 /// The value of each character, shifted to each of its four places in 24 bits.
@@ -31,7 +32,7 @@ constexpr Values characterValues = [] {
   return result;
 }();
 
-/// Four characters as 24 bits, or a value with `invalidBit` set.
+/// The 24 bits of four characters. Sets `invalidBit` if one of them is invalid.
 std::uint32_t quantum(const char* text) {
   const auto value = [&](int i) { return characterValues[i][static_cast<unsigned char>(text[i])]; };
   return value(0) | value(1) | value(2) | value(3);

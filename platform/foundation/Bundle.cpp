@@ -60,8 +60,8 @@ void Bundle::setMain(Ref bundle) {
 
 namespace {
 
-/// Whether `path` names something inside a bundle: relative, made of plain names with one "/"
-/// between them. Refuses what a file system would read otherwise: "..", ".", drives, "\", NUL.
+/// Whether `path` is relative and made of plain names with one "/" between them. Refuses what a
+/// file system would interpret: "..", ".", drives, "\", NUL.
 bool isInnerPath(std::string_view path) {
   if (path.find_first_of(std::string_view("\\:\0", 3)) != path.npos) return false;
   for (;;) {
@@ -144,7 +144,8 @@ std::string toUtf8(const fs::path& path) {
   return std::string(text.begin(), text.end());
 }
 
-/// A bundle over a folder on disk. Refuses files outside the folder, also through symbolic links.
+/// A bundle over a folder on disk. Refuses files outside the folder, even if a symbolic link leads
+/// there.
 class FolderBundle final : public Bundle {
  public:
   /// The folder at `path`, or null when there is none.
@@ -194,7 +195,7 @@ class FolderBundle final : public Bundle {
  private:
   explicit FolderBundle(fs::path root) : root_(std::move(root)) {}
 
-  /// The file or folder at `path` when it is there and, with links followed, inside the root.
+  /// The file or folder at `path` if it exists and its canonical path is inside the root.
   std::optional<fs::path> locate(const std::string& path) const {
     if (!isInnerPath(path)) return std::nullopt;
     std::error_code error;

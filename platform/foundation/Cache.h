@@ -42,8 +42,8 @@ class Cache {
   std::vector<std::pair<Key, Value>> entries_;  // the one used last comes first
 };
 
-/// Caches what a parser made of the files of one kind, by their bytes: a changed file is read
-/// again. Comparing is far quicker than parsing. Any thread.
+/// Caches a parser's results for files of one kind by their bytes, so a changed file is parsed
+/// again. Comparing is much faster than parsing. Any thread.
 ///
 ///     static auto& cache = *new ParsedFileCache<StringTable>(readTable);
 ///     const auto table = cache.read(*bundle.data("Localizable.strings"));

@@ -20,16 +20,16 @@ struct CurrencyFormatter::Engine {
 };
 
 struct CurrencyFormatters : Cache<Locale, std::shared_ptr<const CurrencyFormatter::Engine>> {
-  // A process shows a handful of locales. The bound is for odd input.
+  // An app shows a handful of locales. The bound limits the memory that unusual input can take.
   CurrencyFormatters() : Cache(32) {}
 };
 
 namespace {
 
-/// The size of ICU's own buffers for a locale's name. A longer name is no known language.
+/// The size of ICU's own buffers for a locale's name. ICU knows no longer name.
 constexpr std::size_t longestLanguage = ULOC_FULLNAME_CAPACITY;
 
-/// Replaces each text that is no currency code: the amounts are written the same for all of them.
+/// Replaces every text that is not a currency code, because all of them give the same amounts.
 constexpr std::string_view noCode = "?";
 
 bool isCurrencyCode(std::string_view text) {
@@ -38,8 +38,8 @@ bool isCurrencyCode(std::string_view text) {
          });
 }
 
-/// The language, or the neutral root if the locale data does not have it. ICU by itself would use
-/// the process's own language.
+/// The language, or the neutral root if the locale data does not have it. ICU alone would fall back
+/// to the process's default language.
 icu::Locale knownLanguage(const std::string& code) {
   icu::Locale language(code.c_str());
   UErrorCode status = U_ZERO_ERROR;
@@ -53,20 +53,21 @@ icu::number::LocalizedNumberFormatter makeFormatter(const Locale& locale) {
   const std::string& code = locale.currencyCode;
   UErrorCode status = U_ZERO_ERROR;
   if (isCurrencyCode(code)) return formatter.unit(icu::CurrencyUnit(code, status));
-  // The currency of the language's region replaces a text that is no code.
+  // If the code is not valid, use the currency of the language's region.
   UChar regional[4] = {};
   if (!code.empty() && *language.getCountry() != '\0' &&
       ucurr_forLocale(language.getName(), regional, 4, &status) == 3 && U_SUCCESS(status)) {
     return formatter.unit(icu::CurrencyUnit(regional, status));
   }
-  // Without one, the generic sign, which some languages' data would spell "XXX".
+  // Otherwise use the generic sign. Some languages' data would write "XXX".
   status = U_ZERO_ERROR;
   icu::DecimalFormatSymbols symbols(language, status);
   symbols.setSymbol(icu::DecimalFormatSymbols::kCurrencySymbol, u"\u00A4");
   return formatter.symbols(symbols).unit(icu::CurrencyUnit());
 }
 
-/// Reduces `locale` to what changes how amounts are written, which keeps the cache's keys small.
+/// Reduces `locale` to the parts that change the text of an amount. This keeps the cache's keys
+/// small.
 Locale shortened(const Locale& locale) {
   const std::string& code = locale.currencyCode;
   const bool isUsual = code.empty() || isCurrencyCode(code);
@@ -80,8 +81,8 @@ std::shared_ptr<const CurrencyFormatter::Engine> CurrencyFormatter::engine(const
   const Locale locale = shortened(wanted);
   return Runtime::the<CurrencyFormatters>().get(locale, [&] {
     auto made = std::make_shared<Engine>(Engine{makeFormatter(locale)});
-    // ICU compiles a formatter on its third use, so that happens here: afterwards, threads that
-    // share it only read.
+    // ICU compiles a formatter on its third use. Do that here, so that threads which share the
+    // formatter only read it.
     UErrorCode status = U_ZERO_ERROR;
     for (int use = 0; use < 3; ++use) made->formatter.formatInt(0, status);
     return made;

@@ -9,7 +9,7 @@
 
 namespace quorix::foundation {
 
-/// An expected failure: its source, its number there, and a text for developers.
+/// An expected failure: its domain, its code in that domain, and a text for developers.
 struct Error {
   std::string domain;
   std::int64_t code = 0;
@@ -23,10 +23,10 @@ using Result = std::variant<T, E>;
 /// Why a value could not be decoded from a document, and at which key.
 struct DecodingError {
   enum class Kind {
-    keyNotFound,    ///< The object has no such key.
-    typeMismatch,   ///< There is a value, of another type.
+    keyNotFound,    ///< The object does not have this key.
+    typeMismatch,   ///< The value has another type.
     valueNotFound,  ///< The value is null.
-    dataCorrupted,  ///< The bytes are no document.
+    dataCorrupted,  ///< The bytes are not a valid document.
   };
 
   Kind kind;

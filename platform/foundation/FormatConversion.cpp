@@ -30,7 +30,7 @@ std::optional<FormatConversion> FormatReader::next() {
   if (start == format_.npos) return std::nullopt;
   at_ = start + 1;
   FormatConversion conversion;
-  if (take('@')) {  // as nearly all are
+  if (take('@')) {  // the usual case
     conversion.letter = '@';
     conversion.kind = Kind::text;
     conversion.source = format_.substr(start, 2);
@@ -48,7 +48,7 @@ std::optional<FormatConversion> FormatReader::next() {
   }
   at_ = std::min(format_.find_first_not_of("hlqLzjt", at_), format_.size());
   if (at_ < format_.size()) conversion.letter = format_[at_++];
-  // A letter beyond ASCII is no conversion; it goes as a whole.
+  // A letter beyond ASCII is not a conversion. Skip all its bytes.
   while (at_ < format_.size() && !isASCII(conversion.letter) && continues(format_[at_])) ++at_;
   conversion.kind = kindOf(conversion.letter);
   conversion.source = format_.substr(start, at_ - start);
@@ -98,7 +98,7 @@ void FormatReader::readFlags(FormatConversion& conversion) {
       case '0':
         conversion.zeros = true;
         break;
-      case '\'':  // groups digits in locales that group; this one does not
+      case '\'':  // groups digits only in some locales; here it has no effect
         break;
       default:
         return;

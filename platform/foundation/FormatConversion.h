@@ -10,7 +10,7 @@ namespace quorix::foundation {
 
 /// One "%..." of a format text.
 struct FormatConversion {
-  /// What it shows. `none` is "%n", `percent` is "%%", `unknown` is an invalid or cut-off one.
+  /// What the conversion shows. `none` is "%n", `percent` is "%%", `unknown` is invalid or cut off.
   enum class Kind : std::uint8_t { number, integer, text, character, none, percent, unknown };
 
   /// A width or precision: a number, or the index of an argument, or neither.
@@ -48,7 +48,8 @@ class FormatReader {
  private:
   bool take(char c);
   std::optional<int> readNumber();
-  /// The argument that "2$" names, counted from 0. Consumes no text without one.
+  /// The index of the argument that "2$" names, counted from 0. Without a position, reads nothing
+  /// and is absent.
   std::optional<std::size_t> readPosition();
   void readFlags(FormatConversion& conversion);
   FormatConversion::Size readSize();

@@ -16,7 +16,7 @@
 namespace quorix::foundation {
 namespace {
 
-// What zlib's "window bits" mean.
+// Values of zlib's "window bits".
 constexpr int kZlib = MAX_WBITS, kGzip = MAX_WBITS + 16, kRaw = -MAX_WBITS;
 
 std::optional<std::string> unpacked(std::string& packed, int format, std::size_t limit) {
@@ -64,8 +64,8 @@ namespace http = boost::beast::http;
 using ErrorCode = boost::beast::error_code;
 using State = HTTPResponseReader::State;
 
-/// For a chunk's size and extensions, and for trailers. Newer parsers limit a chunk's extensions
-/// themselves, to between this and twice as much, depending on the pieces in which they arrive.
+/// Limits a chunk's size and extensions, and the trailers. Newer parsers also limit a chunk's
+/// extensions themselves, to between this and twice as much, depending on how the bytes are split.
 constexpr std::size_t chunkHeadLimit = 4096;
 
 State stateFor(const ErrorCode& error) {
@@ -92,7 +92,8 @@ struct HTTPResponseReader::Message {
   }
 
   http::response_parser<http::string_body> parser;
-  /// The parser took the last chunk and waits for its trailers. Older parsers take them together.
+  /// Set once the parser has taken the last chunk and waits for trailers. Older parsers take both
+  /// at once.
   bool inTrailers = false;
   std::function<void(std::uint64_t, boost::beast::string_view, ErrorCode&)> onChunk =
       [this](std::uint64_t size, auto, auto&) {
@@ -123,8 +124,8 @@ State HTTPResponseReader::readEnd() {
   return state_ = error ? State::cutShort : parsed();
 }
 
-// The parser limits a single header, and trailers not at all. It therefore gets no more than
-// `headLimit` bytes at a time, and less as headers go by.
+// The parser limits only single headers, and trailers not at all. So it gets at most `headLimit`
+// bytes at a time, less the header bytes that it has already taken.
 State HTTPResponseReader::parse() {
   std::string_view rest = pending_;
   ErrorCode error;
@@ -132,9 +133,10 @@ State HTTPResponseReader::parse() {
     auto& parser = message_->parser;
     const bool inHead = !parser.is_header_done();
     const bool inChunks = !inHead && parser.chunked() && !message_->inTrailers;
-    // Older parsers assert that the shortest last chunk would fit.
+    // Older parsers assert that the buffer can hold the shortest last chunk.
     if (inChunks && rest.size() < 5) break;
-    // Being eager, it would forget that a body is too long and make room for it.
+    // In eager mode the parser ignores the body limit while it reads the head, and reserves memory
+    // for any announced length.
     parser.eager(!inHead);
     const auto most = inHead ? headLimit - headBytes_ : inChunks ? chunkHeadLimit : headLimit;
     const auto window = rest.substr(0, most);

@@ -10,11 +10,11 @@
 
 namespace quorix::foundation {
 
-/// Reads the answer to one GET from the bytes of its connection. Interim answers (1xx) are skipped,
-/// a compressed body is unpacked, what follows the answer is ignored.
+/// Reads the answer to one GET from the bytes of its connection. Skips interim answers (1xx),
+/// decompresses the body, and ignores bytes after the answer.
 ///
-/// Bounded for any server: no more than `byteLimit` bytes are taken in all, of which the headers
-/// may have `headLimit` and the body `bodyLimit`, unpacked.
+/// Its memory is bounded for any server: it takes at most `byteLimit` bytes in all, of which the
+/// headers may have `headLimit` and the decompressed body `bodyLimit`.
 class QUORIX_EXPORT HTTPResponseReader {
  public:
   enum class State {
@@ -23,12 +23,12 @@ class QUORIX_EXPORT HTTPResponseReader {
     cutShort,     ///< the connection closed before the answer's end
     malformed,    ///< not HTTP/1.0 or 1.1
     tooLarge,     ///< beyond one of the limits
-    undecodable,  ///< compressed in an unknown way, or broken
+    undecodable,  ///< unknown or broken compression
   };
 
   static constexpr std::size_t headLimit = 64 * 1024;
   static constexpr std::size_t bodyLimit = 256 * 1024;
-  /// A body in chunks of one byte takes six times its size.
+  /// A body sent in chunks of one byte takes six times its size.
   static constexpr std::size_t byteLimit = 2 * 1024 * 1024;
 
   /// The answer to a CONNECT has no body, even if its headers announce one.
@@ -37,17 +37,17 @@ class QUORIX_EXPORT HTTPResponseReader {
   explicit HTTPResponseReader(Body body = Body::allowed);
   ~HTTPResponseReader();
 
-  /// Takes the next bytes. Once the state is another than `incomplete`, it stays.
+  /// Takes the next bytes. A state other than `incomplete` is final.
   State read(std::string_view bytes);
 
-  /// Takes note that the connection has closed. Never `incomplete`.
+  /// Reports that the connection has closed. Never returns `incomplete`.
   State readEnd();
 
-  // Of a complete answer.
+  // Valid once the state is `complete`.
   int status() const;
   /// The value of `Location`; empty if there is none.
   std::string location() const;
-  /// Absent where there is none: with the status 204 or 304, or after a CONNECT.
+  /// Absent if the answer cannot have one: with the status 204 or 304, or after a CONNECT.
   const std::optional<std::string>& body() const;
 
  private:
@@ -59,7 +59,7 @@ class QUORIX_EXPORT HTTPResponseReader {
   const Body allowed_;
   std::unique_ptr<Message> message_;
   State state_ = State::incomplete;
-  std::string pending_;        // not parsed yet
+  std::string pending_;        // not yet parsed
   std::size_t headBytes_ = 0;  // parsed, interim answers included
   std::size_t bytes_ = 0;      // in all
 };

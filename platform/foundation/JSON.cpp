@@ -9,7 +9,7 @@
 
 namespace quorix::foundation {
 
-/// One value; the children of a container follow it, each with its own descendants.
+/// One value. The nodes of a container's children follow it, each with its own descendants.
 struct JSONValue::Node {
   std::string_view key;
   std::string_view text;  // a string's text, or a number as it is spelled
@@ -35,7 +35,8 @@ struct JSONDocument::State {
 
 namespace {
 
-/// Far beyond any real document, and shallow enough to walk recursively on a small thread's stack.
+/// Far deeper than any real document, but shallow enough for recursion on a thread with a small
+/// stack.
 constexpr int maximumDepth = 600;
 
 Error describe(simdjson::error_code failure) {
@@ -46,7 +47,7 @@ Error describe(simdjson::error_code failure) {
                                                         : simdjson::error_message(failure)};
 }
 
-/// A scalar's token reaches to the next one; its own text ends before the white space.
+/// simdjson's token of a scalar ends where the next token starts. This removes the white space.
 std::string_view trimmed(std::string_view token) {
   return token.substr(0, token.find_last_not_of(" \n\r\t") + 1);
 }
@@ -129,7 +130,7 @@ simdjson::error_code JSONDocument::State::addObject(simdjson::ondemand::value& v
 simdjson::error_code JSONDocument::State::read(std::string_view bytes) {
   constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
   if (bytes.starts_with(byteOrderMark)) bytes.remove_prefix(byteOrderMark.size());
-  // Newer versions of simdjson skip a mark themselves and would skip a second one.
+  // Newer versions of simdjson skip a byte order mark and would accept a second one.
   if (bytes.starts_with(byteOrderMark)) return simdjson::TAPE_ERROR;
   nodes.clear();
   buffer.assign(bytes);
@@ -140,7 +141,8 @@ simdjson::error_code JSONDocument::State::read(std::string_view bytes) {
   if (const auto failure = parser.iterate(padded).get(document)) return failure;
   if (const auto failure = document.get_value().get(root)) return failure;
   if (const auto failure = add(root, {}, 0)) {
-    // A document that is not closed is malformed, however deep: older versions of simdjson read on.
+    // A document that is not closed is malformed, even if it is also too deep: older versions of
+    // simdjson read on.
     const char closing = nodes.front().kind == Kind::array ? ']' : '}';
     return trimmed(bytes).back() == closing ? failure : simdjson::INCOMPLETE_ARRAY_OR_OBJECT;
   }

@@ -12,8 +12,8 @@
 
 namespace quorix::foundation {
 
-/// A view of a value inside a `JSONDocument`, valid until that document parses again or is
-/// destroyed, as are its texts. Cheap to copy.
+/// A view of a value inside a `JSONDocument`. The value and its texts are valid until that document
+/// parses again or is destroyed. Cheap to copy.
 class QUORIX_EXPORT JSONValue {
  public:
   enum class Kind : std::uint8_t { null, boolean, number, string, array, object };
@@ -22,12 +22,12 @@ class QUORIX_EXPORT JSONValue {
 
   /// The nearest double; true and false count as 1 and 0.
   std::optional<double> number() const;
-  /// The number when it is a signed 64-bit integer exactly, however it is spelled (499, 499.0,
-  /// 4.99e2); true and false count as 1 and 0.
+  /// The number if it is exactly a signed 64-bit integer, in any spelling (499, 499.0, 4.99e2);
+  /// true and false count as 1 and 0.
   std::optional<std::int64_t> integer() const;
   std::optional<std::string_view> string() const;
 
-  /// An object's member. Of several with one key the last counts, here and in `members`.
+  /// An object's member. If a key occurs several times, the last one counts, here and in `members`.
   std::optional<JSONValue> member(std::string_view key) const;
   /// An object's members by key; empty for anything else.
   std::map<std::string_view, JSONValue> members() const;
@@ -43,8 +43,8 @@ class QUORIX_EXPORT JSONValue {
   const Node* node_;
 };
 
-/// Parses JSON documents, one after the other, into memory that it keeps: a reused document parses
-/// a small text without allocating. One thread at a time.
+/// Parses JSON documents one after the other. Keeps its memory, so a reused document parses a small
+/// text without allocating. One thread at a time.
 ///
 ///     JSONDocument document;
 ///     const auto read = document.parse(answer);
@@ -60,8 +60,8 @@ class QUORIX_EXPORT JSONDocument {
   ~JSONDocument();
 
   /// Parses the object or array in `bytes`. Checks the whole document against RFC 8259 in UTF-8,
-  /// unused values too. Skips a byte order mark. Fails for numbers beyond the double range and for
-  /// nesting beyond 600 containers.
+  /// also the values that are not read. Skips a byte order mark. Fails for numbers beyond the
+  /// double range and for nesting beyond 600 containers.
   Result<JSONValue> parse(std::string_view bytes);
 
  private:

@@ -9,27 +9,27 @@
 
 namespace quorix::foundation {
 
-/// The text for `key` in the string table "table.strings" of `bundle`, which is read again if it
-/// has changed; the key itself if the bundle has no such entry or no readable table. Any
+/// The text for `key` in the string table "table.strings" of `bundle`. Reads the table again if it
+/// has changed. Returns the key itself if the bundle has no such entry or no readable table. Any
 /// thread.
 ///
 ///     localizedString(*bundle->folder("en.lproj"), "greeting", "Localizable")
 std::string localizedString(const Bundle& bundle, std::string_view key, std::string_view table);
 
 /// The text for `key` in the "Localizable" string tables of `bundle`, for a user who reads
-/// `language` ("pt-BR"). The first table with an entry counts: of "pt-BR.lproj", of "pt.lproj", of
-/// "en.lproj", and the one outside the languages' folders. Any thread.
+/// `language` ("pt-BR"). Searches "pt-BR.lproj", "pt.lproj", "en.lproj", then the bundle's root;
+/// the first table with an entry counts. Any thread.
 std::optional<std::string> localizedEntry(const Bundle& bundle, std::string_view key,
                                           std::string_view language);
 
-/// The entry for `key` in the host's main bundle, in the user's `language`, or else `key` itself;
-/// formatted with `arguments`. Any thread.
+/// The entry for `key` in the host's main bundle in the user's `language`, or `key` itself without
+/// one. Formats it with `arguments`. Any thread.
 std::string localizedString(std::string_view key, const std::vector<std::string>& arguments,
                             std::string_view language);
 
-/// What assistive technology calls an image of `bundle` that has a meaning and no label. Looks up
-/// the image's name in the "Localizable" string table of its bundle, in the user's `language` or
-/// else in English, then in the host's main table; otherwise it is the name itself. Main thread.
+/// The spoken text for an image of `bundle` that has a meaning but no label. Looks up the image's
+/// name in the "Localizable" string table of its bundle, in the user's `language` or in English,
+/// then in the host's main table. Without an entry, the name itself. Main thread.
 std::string spokenName(const Bundle& bundle, const std::string& image, std::string_view language);
 
 }  // namespace quorix::foundation

@@ -9,8 +9,8 @@ namespace quorix::foundation {
 
 /// The queue of the main thread: runs its work there, in order, on a later turn.
 ///
-/// The engine installs its executor once. Until then work waits for `drain`, which a program
-/// without an event loop (the core's tests, a command-line tool) calls.
+/// The engine installs its executor once. Before that, work waits for `drain`. Programs without an
+/// event loop (the core's tests, a command-line tool) call it.
 class QUORIX_EXPORT MainQueue {
  public:
   using Work = std::function<void()>;
@@ -22,13 +22,13 @@ class QUORIX_EXPORT MainQueue {
   /// Runs `work` after `delay`. Without a timer the work is dropped. Main thread.
   static void after(std::chrono::milliseconds delay, Work work);
 
-  /// Has `executor` run the work: it gets a turn for each piece, also for those that wait already.
-  /// A turn that it drops leaves its piece to the next one. With an empty executor, work waits for
-  /// `drain` again. Main thread.
+  /// Lets `executor` run the work: it is called once for each piece, also for the pieces that
+  /// already wait. If it drops a call, the next call runs that piece. With an empty executor, work
+  /// waits for `drain` again. Main thread.
   static void install(Executor executor, Timer timer = {});
 
-  /// Runs the waiting work and the work that this enqueues. Returns the number of pieces.
-  /// Main thread; for programs with no installed executor.
+  /// Runs the waiting work, and the work that it adds. Returns the number of pieces. Main thread;
+  /// for programs without an executor.
   static int drain();
 };
 

@@ -10,7 +10,7 @@
 namespace quorix::foundation {
 namespace {
 
-/// More places than any 64-bit integer has, fewer than overflow the arithmetic below.
+/// More digits than any 64-bit integer has, and too few to overflow the arithmetic below.
 constexpr std::int64_t farAway = std::int64_t{1} << 40;
 
 std::int64_t exponentOf(std::string_view text) {

@@ -17,7 +17,7 @@ namespace {
 constexpr std::string_view lineSeparator = "\u2028";
 constexpr std::string_view paragraphSeparator = "\u2029";
 
-constexpr std::string_view lineEndStarts = "\n\r\xE2";  // the separators begin with the last
+constexpr std::string_view lineEndStarts = "\n\r\xE2";  // the last one starts the separators
 
 bool startsWithSeparator(std::string_view text) {
   return text.starts_with(lineSeparator) || text.starts_with(paragraphSeparator);
@@ -42,7 +42,7 @@ std::string_view characterAt(std::string_view text, std::size_t at) {
 
 constexpr char32_t replacement = 0xFFFD;
 
-/// The NeXTSTEP encoding's characters from 0x80 on; below, it is ASCII.
+/// The characters of the NeXTSTEP encoding from 0x80 on. Below, the encoding is ASCII.
 constexpr std::array<char16_t, 128> nextStep = {
     0x00A0, 0x00C0, 0x00C1, 0x00C2, 0x00C3, 0x00C4, 0x00C5, 0x00C7, 0x00C8, 0x00C9, 0x00CA, 0x00CB,
     0x00CC, 0x00CD, 0x00CE, 0x00CF, 0x00D0, 0x00D1, 0x00D2, 0x00D3, 0x00D4, 0x00D5, 0x00D6, 0x00D9,
@@ -83,15 +83,15 @@ char controlCharacter(char letter) {
   return index == letters.npos ? '\0' : controls[index];
 }
 
-/// A text that grows by plain stretches and the escapes between them.
+/// A text that is built from plain parts and the escapes between them.
 class EscapedText {
  public:
   void append(std::string_view plain);
 
-  /// Appends the character of the escape at the start of `rest`, which begins behind the backslash
-  /// and is not empty. Returns the bytes of the escape. `\n \t \r \a \b \f \v` are control
-  /// characters, `\Uxxxx` a UTF-16 unit in up to four hexadecimal digits (two units make a pair; a
-  /// half of one becomes U+FFFD), `\ooo` a NeXTSTEP character in up to three octal digits. Before
+  /// Appends the character of the escape at the start of `rest`, which is not empty and begins
+  /// after the backslash. Returns the bytes of the escape. `\n \t \r \a \b \f \v` are control
+  /// characters. `\Uxxxx` is a UTF-16 unit in up to four hexadecimal digits; two units make a pair,
+  /// half of one becomes U+FFFD. `\ooo` is a NeXTSTEP character in up to three octal digits. Before
   /// any other character, the backslash is dropped.
   std::size_t appendEscape(std::string_view rest);
 
@@ -102,7 +102,7 @@ class EscapedText {
   void flush();
 
   std::string text_;
-  char16_t high_ = 0;  // the first unit of a pair, until its second comes
+  char16_t high_ = 0;  // the first unit of a pair, until the second follows
 };
 
 void EscapedText::append(std::string_view plain) {
@@ -170,8 +170,8 @@ bool PropertyListScanner::skipComment() {
     return true;
   }
   if (!rest.starts_with("//")) return false;
-  // Searches all line ends at once. A separate search for one that does not occur would read to the
-  // end of the text at each comment.
+  // Searches for all line ends at once. With one search for each kind, a kind that does not occur
+  // would make every comment read the whole text.
   std::size_t end = 2;
   do {
     end = std::min(rest.find_first_of(lineEndStarts, end), rest.size());

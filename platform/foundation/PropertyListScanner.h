@@ -9,9 +9,9 @@
 
 namespace quorix::foundation {
 
-/// Reads the words of a property list in its old text form, one after the other, and skips blanks
-/// and comments before each: `// ...` and `/* ... */`, where a comment without an end reaches the
-/// end of the text. Remembers the first failure. Views the text.
+/// Reads the words of a property list in its old text form, one after the other. Skips blanks and
+/// comments before each: `// ...` and `/* ... */`; a comment without an end reaches to the end of
+/// the text. Keeps the first failure. Views the text.
 class PropertyListScanner {
  public:
   explicit PropertyListScanner(std::string_view text) : text_(text) {}
@@ -21,16 +21,16 @@ class PropertyListScanner {
   /// Moves past `mark` if it is next.
   bool take(char mark);
 
-  /// Where the next word begins, in bytes.
+  /// The offset of the next word, in bytes.
   std::size_t offset();
 
-  /// The next word, which must be a text: in quotes of either kind, or of letters, digits and
-  /// "_$/:.-" without. Fails otherwise.
+  /// The next word, which must be a text: in single or double quotes, or unquoted if it has only
+  /// letters, digits and "_$/:.-". Fails otherwise.
   std::optional<std::string> readText();
-  /// Moves past bytes in hexadecimal, `<0f 1a>`, or fails.
+  /// Moves past bytes in hexadecimal, `<0f 1a>`. Fails otherwise.
   bool skipData();
 
-  /// Always false, for a caller to return.
+  /// Records a failure. Returns false, so that the caller can return the result.
   bool fail(const std::string& what);
   bool failAt(std::size_t offset, const std::string& what);
   const std::optional<Error>& failure() const { return failure_; }

@@ -31,30 +31,30 @@ struct MainQueueState;
 struct StringTables;
 class URLSession;
 
-/// The process-wide state of the library. Each piece is made on its first use, by the file that
-/// knows its type, and is never destroyed: other threads and static views may outlive `main`. To be
-/// made, a piece needs no other; an engine then installs its own parts in `MainQueueState`,
+/// The process-wide state of the library. Each piece is made on its first use, in the file that
+/// defines its type, and is never destroyed: other threads and static views may outlive `main`. No
+/// piece needs another to be made. An engine then installs its own parts in `MainQueueState`,
 /// `FontManager`, `URLSession` and `UIApplication`, in that order.
 ///
-/// Not listed: constants (named colors, the library's faces), what a thread keeps for itself, and
-/// what an engine keeps for its own objects. Any thread.
+/// Not listed: constants (named colors, the library's faces), thread-local caches, and an engine's
+/// own objects. Any thread.
 ///
 ///     return Runtime::the<BundleRegistry>();
 class Runtime {
  public:
   using Pieces = std::tuple<MainQueueState*,               // its work, and the engine's executor
-                            BundleRegistry*,               // by identifier, and the host's main one
+                            BundleRegistry*,               // by identifier, and the main bundle
                             StringTables*,                 // parsed, the latest few
                             CurrencyFormatters*,           // the latest few
-                            ArenaPool*,                    // arenas to be used again
-                            graphics::AssetCatalogs*,      // the latest few bundles'
+                            ArenaPool*,                    // free arenas
+                            graphics::AssetCatalogs*,      // of the latest few bundles
                             graphics::FontManager*,        // added faces, and the engine's look-up
                             URLSession*,                   // protocols, and the engine's transport
                             uikit::InterfaceFiles*,        // parsed, the latest few
                             uikit::SharedTexts*,           // attributed, the latest few
                             uikit::UIApplication*,         // scenes, and the engine's opener
                             hosting::WindowSessions*,      // of all windows
-                            hosting::RecentEvaluations*>;  // of views that are being placed
+                            hosting::RecentEvaluations*>;  // of views during their layout
 
   /// The process's piece of type `T`.
   template <class T>
@@ -64,7 +64,7 @@ class Runtime {
     return *static_cast<T*>(piece ? piece : make<T>(slot));
   }
 
-  /// For tests: takes the piece away, so that a new one is made, and puts it back at the end of the
+  /// For tests: removes the piece, so that a new one is made, and restores it at the end of the
   /// block. No other thread may use the piece at either moment.
   template <class T>
   class Fresh {

@@ -20,7 +20,8 @@ using Arguments = std::vector<FormatArgument>;
 
 constexpr int defaultPrecision = 6;
 
-/// The digits of `magnitude`, which is finite and not negative. Without a precision, all of them.
+/// The digits of `magnitude`, which is finite and not negative. Without a precision, the shortest
+/// exact digits.
 std::string digits(double magnitude, std::chars_format form, std::optional<int> precision) {
   // The longest double has 309 digits before its point.
   std::array<char, 320 + FormatConversion::largestSize> buffer;
@@ -30,7 +31,7 @@ std::string digits(double magnitude, std::chars_format form, std::optional<int> 
   return written.ec == std::errc() ? std::string(buffer.data(), written.ptr) : std::string();
 }
 
-/// "#" writes a point even without digits behind it.
+/// Adds the point that "#" requires even without digits after it.
 void addPoint(std::string& text, char exponentLetter) {
   if (text.find('.') != text.npos) return;
   text.insert(std::min(text.find(exponentLetter), text.size()), 1, '.');
@@ -142,7 +143,7 @@ std::string formattedNumber(double number, const FormatConversion& conversion,
                                                            : integer(number, conversion, precision);
 }
 
-/// Where zeros that fill a width go into `text`: behind its sign and "0x".
+/// The index in `text` at which zeros are inserted to fill a width: after its sign and "0x".
 std::size_t endOfSign(std::string_view text) {
   std::size_t end = text.find_first_not_of("+- ") == 1 ? 1 : 0;
   const std::string_view rest = text.substr(end);
@@ -150,8 +151,8 @@ std::size_t endOfSign(std::string_view text) {
   return end;
 }
 
-/// The value of a width or precision, negative only from an argument; absent without one, or if its
-/// argument is no number.
+/// The value of a width or precision. Only an argument can make it negative. Absent if there is
+/// none, or if its argument is not a number.
 std::optional<int> sizeOf(const FormatConversion::Size& size, const Arguments& arguments) {
   if (!size.argument) return size.value;
   if (*size.argument >= arguments.size()) return std::nullopt;

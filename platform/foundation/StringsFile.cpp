@@ -149,7 +149,7 @@ std::optional<std::size_t> firstInvalidByte(std::string_view text) {
 
 bool isXML(std::string_view text) {
   text.remove_prefix(std::min(text.find_first_not_of(" \t\r\n"), text.size()));
-  // In the text form "<" starts bytes: "<0f 1a>".
+  // "<" alone does not mean XML: in the text form it starts bytes, "<0f 1a>".
   return text.starts_with("<?") || text.starts_with("<!") || text.starts_with("<plist") ||
          text.starts_with("<dict");
 }

@@ -37,7 +37,7 @@ class TextReader {
   }
 
  private:
-  /// The next thing inside a list.
+  /// What follows inside a list.
   enum class Next : std::uint8_t { value, end, failure };
 
   bool isContainer() {
@@ -49,8 +49,8 @@ class TextReader {
     return ahead.readText() && ahead.atEnd();
   }
 
-  /// Reads entries up to `end`, or to the end of the text. Without `end`, a second ';' behind an
-  /// entry ends the table and the rest is ignored, as phones do.
+  /// Reads entries up to `end`, or up to the end of the text if it is absent. Without `end`, a
+  /// second ';' after an entry ends the table and the rest is ignored, as phones do.
   bool readEntries(std::optional<char> end) {
     for (bool first = true; !(end ? scanner_.take(*end) : scanner_.atEnd()); first = false) {
       if (!end && !first && scanner_.isNext(';')) return true;

@@ -107,8 +107,8 @@ void appendByteEscaped(std::string& out, char c) {
   out += {'%', hex[byte >> 4], hex[byte & 15]};
 }
 
-/// Appends `part` and escapes each byte that is neither plain, nor of an escape, nor in `allowed`.
-/// The first `delimiter` characters introduce the part and stay.
+/// Appends `part`. Escapes each byte that is neither plain, nor in `allowed`, nor part of an
+/// escape. Copies the first `delimiter` characters, which introduce the part, unchanged.
 void appendEscaped(std::string& out, std::string_view part, std::string_view allowed,
                    std::size_t delimiter = 0) {
   for (std::size_t i = 0; i < part.size(); ++i) {
@@ -120,7 +120,7 @@ void appendEscaped(std::string& out, std::string_view part, std::string_view all
   }
 }
 
-/// Appends a query item's `text`, its percent signs escaped too. Bytes that are not UTF-8 become
+/// Appends a query item's `text` and also escapes percent signs. Bytes that are not UTF-8 become
 /// U+FFFD: a strict server would refuse the whole address.
 void appendQueryText(std::string& out, const std::string& text) {
   if (std::ranges::all_of(text, isPlainInQueryItem)) {

@@ -34,7 +34,7 @@ class QUORIX_EXPORT URL {
   std::string text_;
 };
 
-/// One "name=value" of an address's query, unescaped; without a value it is the bare name.
+/// One "name=value" of an address's query, unescaped. Without a value only the name is written.
 struct URLQueryItem {
   std::string name;
   std::optional<std::string> value;
@@ -42,24 +42,23 @@ struct URLQueryItem {
   bool operator==(const URLQueryItem&) const = default;
 };
 
-/// An address whose query is written item by item.
+/// An address with a query that is written item by item.
 ///
-/// Names and values keep letters, digits and -._~!$'()*+,;:@/? as they are; every other byte of
+/// Letters, digits and -._~!$'()*+,;:@/? in names and values stay unchanged. Every other byte of
 /// their UTF-8 is percent-encoded, the percent sign included. Bytes that are not UTF-8 count as
-/// U+FFFD. A plus sign stays one: servers that read it as a blank must be told otherwise. Any
-/// thread.
+/// U+FFFD. A plus sign is not encoded, although some servers read it as a blank. Any thread.
 ///
 ///     auto components = URLComponents::parse("https://shop.example/page");
 ///     components->setQueryItems({{"lang", "en"}, {"debug", std::nullopt}});
 ///     components->url();  // https://shop.example/page?lang=en&debug
 class URLComponents {
  public:
-  /// The parts of `text`, or absent when it is no absolute address.
+  /// The parts of `text`; absent if it is not an absolute address.
   static std::optional<URLComponents> parse(std::string_view text);
 
-  /// Replaces the whole query. No items leave an empty query, a bare question mark.
+  /// Replaces the whole query. An empty list leaves an empty query: a question mark.
   void setQueryItems(const std::vector<URLQueryItem>& items);
-  /// Adds an item behind those of the query.
+  /// Appends an item to the query.
   void appendQueryItem(const URLQueryItem& item);
 
   /// The address that the parts make.
@@ -71,22 +70,22 @@ class URLComponents {
   std::string fragment_;              // with its "#"
 };
 
-/// What to load, and how patiently.
+/// An address to load, with a cache policy and a time-out.
 ///
 ///     URLRequest request{*URL::parse("https://shop.example/page")};
 struct URLRequest {
-  /// What may answer in place of the server; the values are the platform's.
+  /// Which caches may answer instead of the server. The values are the platform's.
   enum class CachePolicy {
     useProtocolCachePolicy = 0,  ///< What HTTP allows.
   };
 
   using Seconds = std::chrono::duration<double>;
-  /// Also how long a request of the HTTP session may take in all.
+  /// Also the time limit of a whole request of the HTTP session.
   static constexpr std::chrono::seconds defaultTimeout{60};
 
   URL url;
   CachePolicy cachePolicy = CachePolicy::useProtocolCachePolicy;
-  Seconds timeoutInterval = defaultTimeout;  ///< Without a byte arriving.
+  Seconds timeoutInterval = defaultTimeout;  ///< Longest time without a byte.
 };
 
 }  // namespace quorix::foundation

@@ -17,7 +17,7 @@ URLResponse noNetwork(std::string_view reason) {
   return {Error{"URLSession", -1, std::string(reason)}, {}, 0};
 }
 
-/// The transport before an engine has installed one: registered protocols, no network.
+/// The transport until an engine installs one: registered protocols work, the network does not.
 class NoNetwork final : public URLTransport {
  public:
   void start(const URL& url, Completion completion) override {
@@ -31,7 +31,7 @@ class NoNetwork final : public URLTransport {
     try {
       std::thread(answer).detach();
     } catch (const std::system_error&) {
-      answer();  // the system starts no more threads
+      answer();  // the system cannot start another thread
     }
   }
 };
@@ -40,7 +40,7 @@ URLResponse protocolFailure(std::string_view text) {
   return {Error{"URLSession", -2, "a registered protocol threw: " + std::string(text)}, {}, 0};
 }
 
-// The protocol runs on a thread of the library, where an exception would end the process.
+// Protocols run on a thread of the library, where an exception would end the process.
 std::optional<URLResponse> ask(const URLProtocol& protocol, const URL& url) {
   try {
     return protocol(url);
@@ -58,13 +58,13 @@ struct URLSession::State {
 
   struct Prefetched {
     URL url;
-    std::function<void()> waiting;          ///< for a transport: asks; empty once it has
-    std::optional<URLResponse> response;    ///< absent while it is on its way
-    std::shared_ptr<const void> made = {};  ///< of the response
+    std::function<void()> waiting;          ///< starts the request once a transport is installed
+    std::optional<URLResponse> response;    ///< absent until it arrives
+    std::shared_ptr<const void> made = {};  ///< the reader's result
     Clock::time_point end = {};             ///< of its lifetime
   };
 
-  /// Not kept: the answer has outlived its time.
+  /// Removes the answers whose lifetime has ended, then searches.
   auto prefetchedFor(std::string_view address) {
     std::erase_if(prefetched, [](const auto& p) { return p.response && p.end <= Clock::now(); });
     return std::ranges::find_if(prefetched,
@@ -174,7 +174,7 @@ std::optional<URLResponse> URLSession::answerInProcess(const URL& url) {
   const std::scoped_lock lock(state_->mutex);
   const auto kept = state_->prefetchedFor(url);
   if (answer) {
-    // A protocol may end at any time; its answers must not outlive it.
+    // A protocol may be removed at any time. Do not keep its answers longer.
     if (kept != state_->prefetched.end()) state_->prefetched.erase(kept);
     return answer;
   }

@@ -13,8 +13,8 @@
 
 namespace quorix::foundation {
 
-/// The result of a request: a transport error, or a body (absent if the answer had none) with the
-/// HTTP status, which is 0 if the answer did not come over HTTP.
+/// The result of a request: a transport error, or a body (absent if the answer had none) and the
+/// HTTP status, which is 0 if the answer did not arrive over HTTP.
 struct URLResponse {
   std::optional<Error> error;
   std::optional<std::string> body;
@@ -31,13 +31,13 @@ class QUORIX_EXPORT URLTransport {
   virtual void start(const URL& url, Completion completion) = 0;
 };
 
-/// Answers requests in place of the network, on the session's thread. An absent answer leaves the
-/// request to the network.
+/// Answers requests in place of the network, on the session's thread. Without an answer, the
+/// request goes to the network.
 ///
-/// It should answer at once: later requests wait for it. The end of the application waits two
-/// seconds for one that blocks, ends all requests with an error, and leaves the thread behind; a
-/// later answer is ignored, and the objects that the protocol uses must still exist. A protocol
-/// that throws answers with an error of domain "URLSession", code -2.
+/// Return quickly, because later requests wait. If a protocol blocks at the end of the application,
+/// the session waits two seconds, ends all requests with an error and abandons the thread. A later
+/// answer is ignored, but the objects that the protocol uses must still exist. If a protocol
+/// throws, the request ends with an error of domain "URLSession", code -2.
 using URLProtocol = std::function<std::optional<URLResponse>(const URL&)>;
 
 /// The process-wide HTTP session. The engine installs the transport; a host, a demo or a test may
@@ -54,35 +54,36 @@ class QUORIX_EXPORT URLSession {
   /// Installs the transport that performs the requests from now on. Main thread.
   void install(std::shared_ptr<URLTransport> transport);
 
-  /// Consults `protocol` before the network, latest registration first; it stays registered as long
-  /// as the returned token lives. Any thread; the protocol runs on the session's thread.
+  /// Consults `protocol` before the network; the latest registration is asked first. It stays
+  /// registered as long as the returned token lives. Any thread; the protocol runs on the session's
+  /// thread.
   [[nodiscard]] std::shared_ptr<void> registerProtocol(URLProtocol protocol);
 
-  /// Turns the network off for the process, or on again. Off, a request that no protocol and no
-  /// prefetched answer serves ends at once with an error; one that is under way ends as it would
-  /// have. The pages of a web view are loaded by the web engine and are not affected. Any thread.
+  /// Turns the network off or on for the process. While it is off, a request without an answer from
+  /// a protocol or a prefetch ends at once with an error. Requests that have started continue.
+  /// Pages of a web view are loaded by the web engine and are not affected. Any thread.
   ///
   ///     URLSession::shared().setNetworkEnabled(false);  // until the shopper consents
   void setNetworkEnabled(bool enabled);
 
-  /// What a reader makes of an answer: null where it is of no use.
+  /// Converts an answer, for instance by parsing it. Null if the answer is unusable.
   using Reader = std::function<std::shared_ptr<const void>(const URLResponse&)>;
 
-  /// Fetches `url` and keeps the answer in memory, with what `read` made of it: for `lifetime` it
-  /// serves the requests that no protocol answers. Kept are answers of the network that are of use
-  /// (`read` runs on the session's thread), of at most `mostPrefetched` addresses. While an answer
-  /// is kept or on its way the call does nothing. Without a transport it waits for the first one.
-  /// Any thread.
+  /// Fetches `url` and keeps the answer and the result of `read` in memory for `lifetime`. During
+  /// that time the answer serves the requests that no protocol answers. Keeps only usable answers
+  /// of the network (`read` runs on the session's thread), of at most `mostPrefetched` addresses.
+  /// Has no effect while an answer is kept or requested. Without a transport it waits until one is
+  /// installed. Any thread.
   void prefetch(const URL& url, std::chrono::seconds lifetime, Reader read);
   static constexpr std::size_t mostPrefetched = 8;
 
-  /// What the reader made of the answer that is kept for `address`, which is called only if any
-  /// is. Null without one, and while a protocol is registered, which would be asked first. Any
-  /// thread.
+  /// The result of `read` for the answer that is kept for `address`. Calls `address` only if an
+  /// answer is kept. Null without an answer, and while a protocol is registered, because protocols
+  /// are asked first. Any thread.
   std::shared_ptr<const void> prefetched(const std::function<std::string()>& address);
 
-  /// The answer for `url` that needs no network: a protocol's, a prefetched one, or with the
-  /// network off an error. For transports, on their own thread, once for each request.
+  /// The answer for `url` that needs no network: from a protocol, from a prefetch, or an error if
+  /// the network is off. For transports, on their own thread, once for each request.
   std::optional<URLResponse> answerInProcess(const URL& url);
 
  private:

@@ -17,12 +17,13 @@ namespace {
 using Pieces = std::vector<std::string_view>;
 
 bool isASCII(std::string_view text) {
-  unsigned char bits = 0;  // without a branch in the loop, which compilers vectorize
+  unsigned char bits = 0;  // no branch in the loop, so that compilers vectorize it
   for (const char c : text) bits |= static_cast<unsigned char>(c);
   return bits < 0x80;
 }
 
-/// Each byte is a character. A carriage return joins the line feed after it.
+/// Whether each byte is a character. A carriage return forms one character with a line feed after
+/// it.
 bool isPlain(std::string_view text) { return isASCII(text) && text.find('\r') == text.npos; }
 
 icu::StringPiece piece(std::string_view text) {
@@ -64,7 +65,7 @@ std::unique_ptr<icu::BreakIterator> makeCharacterBreaks() {
   return breaks;
 }
 
-/// Kept for each thread, because ICU makes it slowly.
+/// Cached for each thread, because ICU takes long to make it.
 thread_local const std::unique_ptr<icu::BreakIterator> threadsBreaks = makeCharacterBreaks();
 
 /// The boundaries of the characters of `text`, valid until the thread's next call; null when ICU

@@ -24,10 +24,10 @@ struct Contents {
   Data json;
 };
 
-/// The assets of one bundle. Reads each color and image once, since surfaces ask at every paint.
+/// The assets of one bundle. Caches each color and image, because surfaces ask at every paint.
 class Catalog {
  public:
-  /// Walks the catalog of `bundle`. Of two assets of one name the first in folder order counts.
+  /// Reads the catalog of `bundle`. If two assets have one name, the first in folder order counts.
   explicit Catalog(const Bundle& bundle) { addFolder(bundle, "Assets.xcassets", "", 0); }
 
   std::optional<ColorSet> color(const Bundle& bundle, std::string_view name) {

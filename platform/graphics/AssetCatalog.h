@@ -12,8 +12,8 @@ namespace quorix::graphics {
 /// A named image: SVG files and how to draw them. Cheap to copy.
 struct ImageAsset {
   foundation::Data light;                ///< an SVG file
-  std::optional<foundation::Data> dark;  ///< the same picture for dark surfaces, where it differs
-  bool isTemplate = false;               ///< drawn in the foreground color in place of its own
+  std::optional<foundation::Data> dark;  ///< the picture for dark surfaces, if it differs
+  bool isTemplate = false;               ///< drawn in the foreground color
   double width = 0;                      ///< natural size in points, above 0
   double height = 0;
 
@@ -23,14 +23,14 @@ struct ImageAsset {
 };
 
 // The assets of the catalog "Assets.xcassets" in a bundle (null: the host's main bundle). The name
-// of an asset is its folder's name without the extension, after the names of those enclosing
-// folders that provide a namespace ("Fonts/Saans-Regular"). Absent for a missing or malformed
+// of an asset is its folder's name without the extension. The names of enclosing folders come
+// before it if they provide a namespace ("Fonts/Saans-Regular"). Absent for a missing or malformed
 // asset.
 //
-// Colors and images are kept for the bundles that were used last: open a folder again to see edits
-// on disk. Any thread.
+// Colors and images of the latest bundles are cached. Open a folder again to see edits on disk. Any
+// thread.
 
-/// The color set `name`. A set without a dark value has the light one in both appearances.
+/// The color set `name`. Without a dark value, the light one applies to both appearances.
 ///
 ///     RGBA darkGrey(const foundation::Bundle::Ref& bundle) {
 ///       return colorSet(bundle, "Grey1").value().resolve(Appearance::dark);

@@ -13,7 +13,7 @@ namespace {
 
 using foundation::JSONValue;
 
-/// The value at `keys`, one object inside the other.
+/// The value at the path `keys` of nested objects.
 template <class... Keys>
 std::optional<JSONValue> at(JSONValue object, Keys... keys) {
   std::optional<JSONValue> value = object;
@@ -33,13 +33,13 @@ std::vector<JSONValue> list(JSONValue object, std::string_view key) {
   return value ? value->elements() : std::vector<JSONValue>();
 }
 
-/// The appearance that an entry is for.
+/// The appearance that an entry applies to.
 struct Target {
   bool dark = false;
   bool any = true;
 };
 
-/// Absent for an entry that surfaces never use: for one device only, or for high contrast.
+/// Absent for an entry that no surface uses: for one device only, or for high contrast.
 std::optional<Target> target(JSONValue entry) {
   const auto idiom = text(entry, "idiom");
   if (idiom && *idiom != "universal") return std::nullopt;
@@ -115,7 +115,7 @@ struct Looks {
 };
 
 /// The first readable entry for each appearance in the list `key`; absent without a light one.
-/// Skips entries that cannot be read, because design tools leave some empty.
+/// Skips unreadable entries, because design tools leave some empty.
 template <class T>
 std::optional<Looks<T>> readLooks(JSONValue root, std::string_view key,
                                   std::optional<T> (*read)(JSONValue)) {
@@ -150,7 +150,8 @@ std::optional<RGBA> makeColor(ColorSpace space, std::string_view red, std::strin
   const auto a = alphaComponent(alpha);
   if (!r || !g || !b || !a) return std::nullopt;
   if (space == ColorSpace::displayP3) {
-    // Both spaces have the same white and the same curve, so one matrix on linear light does it.
+    // Both spaces have the same white point and transfer curve, so one matrix on linear light
+    // converts.
     const double lr = linear(*r), lg = linear(*g), lb = linear(*b);
     r = encoded(1.2249402 * lr - 0.2249402 * lg);
     g = encoded(-0.0420569 * lr + 1.0420569 * lg);

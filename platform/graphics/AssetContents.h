@@ -17,7 +17,7 @@ struct ImageSetFiles {
 };
 
 // Readers of the `Contents.json` of each kind of asset folder. They skip entries for one device
-// only and for high contrast. Absent for a text that is no such file.
+// only and for high contrast. Absent for any other text.
 std::optional<ColorSet> parseColorSet(std::string_view json);
 std::optional<ImageSetFiles> parseImageSet(std::string_view json);
 std::optional<std::string> parseDataSet(std::string_view json);
@@ -27,10 +27,9 @@ bool providesNamespace(std::string_view json);
 
 enum class ColorSpace : std::uint8_t { sRGB, displayP3 };
 
-/// The color with these components, in any of the spellings that design tools write: "0xFF", "255"
-/// or "1.000". Alpha is opaque when empty, and a fraction also without a decimal point ("1").
-/// Clamps fractions to 0 to 1, and colors outside sRGB channel by channel. Absent for any other
-/// text.
+/// The color with these components, in any spelling that design tools write: "0xFF", "255" or
+/// "1.000". Alpha is opaque if empty, and "1" is the fraction 1. Clamps fractions to 0 to 1, and
+/// colors outside sRGB channel by channel. Absent for any other text.
 std::optional<RGBA> makeColor(ColorSpace space, std::string_view red, std::string_view green,
                               std::string_view blue, std::string_view alpha);
 

@@ -48,7 +48,8 @@ struct Closer {
 std::optional<GraphicsFont> GraphicsFont::fromData(foundation::Data data) {
   const std::string_view bytes = data.text();
   if (!isComplete(bytes) || !std::in_range<FT_Long>(bytes.size())) return std::nullopt;
-  // A library instance belongs to one thread; fonts are made too rarely to keep one for each.
+  // A library instance may be used by one thread only. Fonts are opened too rarely to cache one for
+  // each thread.
   FT_Library library = nullptr;
   if (FT_Init_FreeType(&library) != 0) return std::nullopt;
   const std::unique_ptr<FT_LibraryRec_, Closer> libraryCloser(library);
@@ -79,7 +80,7 @@ const GraphicsFont* FontManager::find(std::string_view name) const {
   return nullptr;
 }
 
-/// Calls the look-up without the lock: the engine may call `faces` for those it has not loaded yet.
+/// Calls the look-up without the lock, because the engine may call `faces` in it.
 bool FontManager::systemKnows(std::string_view name) const {
   std::unique_lock lock(mutex_);
   const auto lookup = systemLookup_;
@@ -93,7 +94,7 @@ bool FontManager::registerGraphicsFont(const GraphicsFont& font) {
   faces_.push_back(font);
   count_.store(faces_.size(), std::memory_order_release);
   const auto observer = observer_;
-  lock.unlock();  // the toolkit may ask for the face's data
+  lock.unlock();  // the observer may ask for the face's data
   if (observer) observer(font);
   return true;
 }

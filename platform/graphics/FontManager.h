@@ -23,7 +23,7 @@ class QUORIX_EXPORT GraphicsFont {
   static std::optional<GraphicsFont> fromData(foundation::Data data);
 
   const std::string& postScriptName() const { return name_; }
-  /// What menus of faces call it: "Saans" and "Medium". May be empty.
+  /// The family and style as font menus show them: "Saans" and "Medium". May be empty.
   const std::string& familyName() const { return family_; }
   const std::string& styleName() const { return style_; }
   const foundation::Data& data() const { return data_; }
@@ -37,31 +37,31 @@ class QUORIX_EXPORT GraphicsFont {
   foundation::Data data_;
 };
 
-/// The faces that the process has added to those of the system, until it ends. Any thread.
+/// The faces that the process has added to the system's, until the process ends. Any thread.
 ///
 ///     auto font = GraphicsFont::fromData(foundation::Data(fontFile));
 ///     bool added = font && FontManager::shared().registerGraphicsFont(*font);
 class QUORIX_EXPORT FontManager {
  public:
-  /// The manager that text is drawn with. Others are for tests.
+  /// The manager that all text uses. Other instances are for tests.
   static FontManager& shared();
 
   FontManager() = default;
   FontManager(const FontManager&) = delete;
   FontManager& operator=(const FontManager&) = delete;
 
-  /// Adds `font` under its PostScript name. False, and no change, if a face is registered under
-  /// that name already. `font` replaces a face of the system with its name.
+  /// Adds `font` under its PostScript name. It replaces a system face with that name. Returns false
+  /// without a change if a face is already registered under the name.
   bool registerGraphicsFont(const GraphicsFont& font);
 
-  /// Installs the look-up of the system's faces by name. It runs on the thread that calls `knows`.
-  /// Without it, the system has no faces.
+  /// Installs the function that looks up the system's faces by name. It runs on the thread that
+  /// calls `knows`. Without it, no system face is known.
   void setSystemLookup(std::function<bool(std::string_view)> lookup);
 
-  /// Installs a function that is called with each face registered from now on, before
-  /// `registerGraphicsFont` returns and on its thread; null removes it. The toolkit uses it so that
-  /// the host's own texts find the face too. It must not run code of the host: a face may be
-  /// registered while a constant is being made.
+  /// Installs a function that is called with each newly registered face, on the thread of
+  /// `registerGraphicsFont` and before that returns; null removes it. The toolkit uses it to make
+  /// the face available to the host's own texts. It must not run code of the host: a face may be
+  /// registered during the initialization of a constant.
   void setRegistrationObserver(std::function<void(const GraphicsFont&)> observer);
 
   /// Whether text in the face `name` would be drawn in that face.
@@ -69,10 +69,10 @@ class QUORIX_EXPORT FontManager {
 
   /// The face registered under `name`; absent for the system's own faces.
   std::optional<GraphicsFont> face(std::string_view name) const;
-  /// Its font file.
+  /// The font file of a registered face.
   std::optional<foundation::Data> data(std::string_view name) const;
 
-  /// How many faces are registered. An engine that has loaded fewer loads `faces(loaded)`.
+  /// The number of registered faces. An engine that has loaded fewer loads `faces(loaded)`.
   std::size_t generation() const { return count_.load(std::memory_order_acquire); }
   /// The registered faces in order, starting at index `first`.
   std::vector<GraphicsFont> faces(std::size_t first = 0) const;

@@ -17,7 +17,8 @@ using foundation::MainQueue;
 using std::chrono::milliseconds;
 using webkit::WebContent;
 
-/// A page that has not answered by then hangs. With the sheet's fall, closing takes under a second.
+/// How long a page may take to answer before it counts as hanging. Closing, with the sheet's fall,
+/// then takes less than a second.
 constexpr milliseconds patience{400};
 
 milliseconds toMilliseconds(foundation::URLRequest::Seconds seconds) {
@@ -61,7 +62,7 @@ void EmbeddedPage::later(std::function<void()> work) {
   });
 }
 
-// What the page does.
+// Load and process.
 
 void EmbeddedPage::loading(int percent) {
   came_ = percent > 0;
@@ -94,7 +95,7 @@ void EmbeddedPage::processEnded() {
 
 // Keys.
 
-/// Asks the page whether it is alive, and then does `then`.
+/// Asks the page whether it is alive. Calls `then` when it answers.
 void EmbeddedPage::expectAnswer(std::function<void()> then) {
   onAnswer_ = std::move(then);
   if (!silence_) start(silence_, patience, [this] { silence_.reset(), owner_.pageHangs(); });
@@ -114,7 +115,7 @@ bool EmbeddedPage::takes(Key key, bool tries) {
   if (key == Key::pageForward) {
     engine_->goForward();
   } else if (key == Key::back) {
-    expectAnswer([this] { engine_->goBack(); });  // a page that hangs goes nowhere
+    expectAnswer([this] { engine_->goBack(); });  // a page that hangs does not go back
   } else {
     engine_->goBack();
   }
@@ -146,7 +147,7 @@ bool EmbeddedPage::touched(const TouchEvent& event) {
 }
 
 void EmbeddedPage::scrolled(const TrackpadEvent& event) {
-  if (event.begins) askedFor_.reset();  // an answer is lost with the page that was asked
+  if (event.begins) askedFor_.reset();  // the page that was asked may be gone
   const auto direction = trackpadSwipe_.follow(event);
   if (!direction || askedFor_ || !leadsSomewhere(*direction)) return;
   askedFor_ = direction;
@@ -172,7 +173,7 @@ PagePlace PagePlace::of(const render::EmbedItem& embed, const render::Scene& pan
   place.radius = std::min(room.top() - embed.frame.top(), SheetGeometry::cornerRadius);
   if (place.radius <= 0) return place;
   place.strip = top - (room.top() - place.radius);
-  const double slack = grid.pixel() / 2;  // both are on whole pixels, but for rounding noise
+  const double slack = grid.pixel() / 2;  // for rounding noise; both are on whole pixels
   place.isAtTop = room.top() - place.radius < slack && room.left() < slack &&
                   room.right() > panel.size.width - slack && embed.background.alpha == 255;
   return place;
@@ -235,13 +236,14 @@ std::vector<PageEngine*> EmbeddedPages::shown() const {
 
 namespace {
 
-// In points.
-constexpr double edge = 20;            ///< a finger starts within it
-constexpr double slop = 10;            ///< what a finger moves before its direction is certain
-constexpr double fingerDistance = 60;  ///< of a swipe that counts
+// Points.
+constexpr double edge = 20;            ///< how close to the side a finger must start
+constexpr double slop = 10;            ///< movement after which the direction is certain
+constexpr double fingerDistance = 60;  ///< length of a swipe that counts
 constexpr double trackpadDistance = 80;
 
-/// Of a trackpad's way: a vertical scroll is seldom quite vertical.
+/// Highest ratio of vertical to sideways movement on a trackpad. A steeper movement is a vertical
+/// scroll.
 constexpr double steepest = 0.5;
 
 }  // namespace

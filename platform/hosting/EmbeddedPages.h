@@ -15,19 +15,19 @@
 
 namespace quorix::hosting {
 
-/// Where a swipe moves a page.
+/// The direction in which a swipe moves the page.
 enum class SwipeDirection : std::uint8_t { right, left };
 
-/// Recognizes the swipe of a finger from a side of a page towards its middle. Main thread.
+/// Recognizes a finger's swipe from a side of a page towards its center. Main thread.
 class EdgeSwipe {
  public:
   struct Swipe {
     SwipeDirection direction;
-    bool isFar;  ///< to count when the finger is lifted
+    bool isFar;  ///< far enough to count when the finger is lifted
   };
 
-  /// Absent until the finger certainly swipes, so that taps and vertical drags are the page's. From
-  /// then on the page must not get the finger.
+  /// Absent until the movement is certainly a swipe, so that the page gets taps and vertical drags.
+  /// After that, withhold the finger's events from the page.
   std::optional<Swipe> follow(const TouchEvent& event);
 
  private:
@@ -39,14 +39,14 @@ class EdgeSwipe {
   std::optional<Finger> finger_;
 };
 
-/// Recognizes the sideways swipe of two fingers on a trackpad. Main thread.
+/// Recognizes a sideways swipe with two fingers on a trackpad. Main thread.
 class TrackpadSwipe {
  public:
-  /// Absent until the fingers have come far enough sideways, and once they left the trackpad.
+  /// Absent until the fingers have moved far enough sideways, and after they left the trackpad.
   std::optional<SwipeDirection> follow(const TrackpadEvent& event);
-  /// When the fingers began, as a `TrackpadEvent::time`.
+  /// The time at which the swipe began, as a `TrackpadEvent::time`.
   double began() const { return began_; }
-  /// The swipe counted: recognizes the next one only after the fingers left the trackpad.
+  /// Ends this swipe: the next one is recognized only after the fingers left the trackpad.
   void spend() { spent_ = true; }
 
  private:
@@ -56,28 +56,28 @@ class TrackpadSwipe {
   layout::Point way_{};
 };
 
-/// The web content of an embed with the engine that shows it: loads what the content loads, passes
-/// on what the page asks for, and limits the time of both. Main thread.
+/// The web content of an embed, and the engine that shows it. Passes loads to the engine and the
+/// page's requests to the content, and limits the time of loads and answers. Main thread.
 class EmbeddedPage final : private PageEngine::Client {
  public:
-  /// Shows the page. Both are called outside the engine's own calls.
+  /// Shows the page. `pageHangs` and `pageEnded` are called outside the engine's own calls.
   class Owner {
    public:
-    /// Null where no engine can show a page.
+    /// Null if no engine can show the page.
     virtual std::unique_ptr<PageEngine> openPage(const render::EmbedItem& embed,
                                                  PageEngine::Client& client) = 0;
-    /// A key that closes was left to a page that hangs.
+    /// A page got a key that closes the sheet, and hangs.
     virtual void pageHangs() = 0;
-    /// The page shows nothing any more, and takes no keys.
+    /// The page is blank from now on and takes no keys.
     virtual void pageEnded() = 0;
-    /// Swipes are mirrored.
+    /// Whether swipes are mirrored.
     virtual bool isRightToLeft() const = 0;
 
    protected:
     ~Owner() = default;
   };
 
-  /// Null where the engine cannot show it. `owner` outlives the page.
+  /// Null if the engine cannot show the page. `owner` outlives the page.
   static std::unique_ptr<EmbeddedPage> open(const render::EmbedItem& embed, Owner& owner);
   ~EmbeddedPage();
   EmbeddedPage(const EmbeddedPage&) = delete;
@@ -86,12 +86,12 @@ class EmbeddedPage final : private PageEngine::Client {
   const render::Embed* content() const { return content_.get(); }
   PageEngine& engine() const { return *engine_; }
 
-  /// Takes a key that the page left over and that leads back or forward. False when it is another,
-  /// or leads nowhere. `tries` only asks.
+  /// Goes back or forward for a key that the page did not use. False for other keys, or if there is
+  /// no page to go to. `tries` only asks and does not navigate.
   bool takes(Key key, bool tries);
 
  private:
-  /// Runs out when it is not stopped in time.
+  /// A timer; destroying it cancels it.
   using Limit = std::shared_ptr<std::function<void()>>;
 
   EmbeddedPage(std::shared_ptr<webkit::WebContent> content, Owner& owner)
@@ -118,48 +118,47 @@ class EmbeddedPage final : private PageEngine::Client {
   std::shared_ptr<webkit::WebContent> content_;
   Owner& owner_;
   std::shared_ptr<EmbeddedPage*> alive_ = std::make_shared<EmbeddedPage*>(this);
-  std::chrono::milliseconds patience_ = foundation::URLRequest::defaultTimeout;  ///< of a load
-  Limit standstill_;   ///< since the load last moved on
-  bool came_ = false;  ///< something of the load
-  Limit silence_;      ///< since the page was asked
+  std::chrono::milliseconds patience_ = foundation::URLRequest::defaultTimeout;  ///< for a load
+  Limit standstill_;   ///< runs since the load last progressed
+  bool came_ = false;  ///< data of the load has arrived
+  Limit silence_;      ///< runs since the page was asked
   std::function<void()> onAnswer_;
   EdgeSwipe edgeSwipe_;
   TrackpadSwipe trackpadSwipe_;
-  std::optional<SwipeDirection> askedFor_;  ///< until the page says whether it used the scrolling
+  std::optional<SwipeDirection> askedFor_;  ///< set until the page answers `askForScroll`
   std::unique_ptr<PageEngine> engine_;
 };
 
-/// Where a page stands in a sheet's panel, in points. The top of its room is on a whole device
-/// pixel.
+/// The place of a page in a sheet's panel, in points. The top of `room` is on a whole device pixel.
 struct PagePlace {
-  layout::Rect room;     ///< where it takes input: below the panel's rounded corners
-  double strip = 0;      ///< the height of the part above the room, which only shows
+  layout::Rect room;     ///< takes input; below the panel's rounded corners
+  double strip = 0;      ///< height of the part above the room, which takes no input
   double radius = 0;     ///< of the strip's upper corners
-  bool isAtTop = false;  ///< the strip covers the panel's top, with both corners
+  bool isAtTop = false;  ///< the strip is at the panel's top, with both corners
 
-  /// `clips`: the toolkit can cut a page to rounded corners. Otherwise the page has no strip.
+  /// `clips`: whether the toolkit can clip a page to rounded corners. Without it there is no strip.
   static PagePlace of(const render::EmbedItem& embed, const render::Scene& panel, double scale,
                       bool clips);
 };
 
-/// The live pages of one scene. Main thread.
+/// The live pages of one display list. Main thread.
 class EmbeddedPages {
  public:
   explicit EmbeddedPages(EmbeddedPage::Owner& owner) : owner_(owner) {}
 
   static bool hasPages(const render::Scene& scene);
-  /// Opens what is new in `scene` and closes what is no longer there. False when a page did not
-  /// come up.
+  /// Opens the pages that are new in `scene` and closes those that it no longer contains. False if
+  /// a page could not be opened.
   bool follow(const render::Scene& scene);
-  /// Tells where each page stands in `panel`, from the bottom up, which is also the order of the
-  /// keyboard focus.
+  /// Calls back with the place of each page in `panel`, from the bottom up. This is also the order
+  /// of the keyboard focus.
   void place(const render::Scene& panel, double scale, bool clips,
              const std::function<void(PageEngine&, const PagePlace&)>& at) const;
   /// Opens the addresses of the pages in `scene` outside the app.
   static void sendOutside(const render::Scene& scene);
 
   bool takes(Key key, bool tries = false);
-  /// From the bottom up.
+  /// The pages on screen, from the bottom up.
   std::vector<PageEngine*> shown() const;
 
  private:

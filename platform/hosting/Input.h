@@ -7,7 +7,7 @@
 
 namespace quorix::hosting {
 
-/// What a pointer did on a surface.
+/// An event of the mouse or of a finger on a surface.
 struct PointerEvent {
   enum class Phase : std::uint8_t { pressed, moved, released };
   static constexpr int mouse = -1;
@@ -15,44 +15,44 @@ struct PointerEvent {
   Phase phase;
   layout::Point point;  ///< from the surface's top left
   double time = 0;      ///< milliseconds; only differences count
-  int pointer = mouse;  ///< the mouse, or the number of a finger
+  int pointer = mouse;  ///< the mouse, or a finger's number
 };
 
-/// A wheel or two fingers on a trackpad scroll.
+/// Scrolling by a wheel or by two fingers on a trackpad.
 struct ScrollEvent {
-  static constexpr double line = 20;  ///< points that a wheel counts as a line of text
+  static constexpr double line = 20;  ///< points for each line that a wheel scrolls
 
   double distance;       ///< points towards the content's end
-  bool follows = false;  ///< a trackpad's: the content follows at once, instead of gliding
+  bool follows = false;  ///< true for a trackpad: the content moves at once, without gliding
 };
 
-/// Fingers on a page.
+/// A touch on a page.
 struct TouchEvent {
-  PointerEvent::Phase phase;  ///< pressed: the first finger, released: the last one
-  layout::Point point;        ///< the first finger, from the page's top left
+  PointerEvent::Phase phase;  ///< pressed: by the first finger; released: by the last
+  layout::Point point;        ///< of the first finger, from the page's top left
   int fingers = 1;
   double pageWidth = 0;
 };
 
-/// Two fingers on a trackpad scroll a page.
+/// Scrolling on a page by two fingers on a trackpad.
 struct TrackpadEvent {
   bool begins;     ///< the fingers were put down
-  bool byFingers;  ///< false: they left the trackpad, or what they threw still moves
+  bool byFingers;  ///< false: a fling, or the fingers left the trackpad
   double x, y;     ///< points that the content moves to the right and down
-  double time;     ///< milliseconds since 1970, for comparison with the page's own clock
+  double time;     ///< milliseconds since 1970, comparable with the page's own clock
 };
 
-/// A key by what it means to a view, a sheet or a page.
+/// A key by its meaning for a view, a sheet or a page.
 enum class Key : std::uint8_t {
   other,
   activate,     ///< Enter, Space: a tap on the focused element
   next,         ///< Tab
   previous,     ///< Shift and Tab
   escape,       ///< closes a sheet
-  back,         ///< a phone's Back key: the page's way back, or else closes a sheet
+  back,         ///< a phone's Back key: goes back in the page, or closes the sheet
   pageBack,     ///< Alt and Left
   pageForward,  ///< Alt and Right
-  up,           ///< this and the next ones scroll
+  up,           ///< scrolls, like the next ones
   down,
   pageUp,
   pageDown,
@@ -65,20 +65,20 @@ struct KeyEvent {
   bool repeated = false;  ///< the key is held down
 };
 
-/// What closed a sheet.
+/// How a sheet was closed.
 enum class SheetCloseReason : std::uint8_t {
   button,   ///< an element of the sheet itself, such as its cross
   swipe,    ///< a swipe down
   outside,  ///< a tap beside the sheet
   key,      ///< Escape, the Back key
-  host,     ///< anything else: the user did not close it
+  host,     ///< other reasons: not closed by the user
 };
 
-/// Measures how fast a finger moves along one axis before it is lifted. A finger that rested before
-/// that has speed 0.
+/// Measures the speed of a finger along one axis at its release. The speed is 0 if the finger
+/// rested before it was lifted.
 class VelocityTracker {
  public:
-  /// The finger is at `position` (points) at the time `seconds`.
+  /// Adds a sample: the finger is at `position` (points) at the time `seconds`.
   void add(double position, double seconds) {
     std::erase_if(samples_, [&](const Sample& old) { return old.seconds < seconds - kWindow; });
     samples_.push_back({position, seconds});
@@ -95,7 +95,7 @@ class VelocityTracker {
 
  private:
   static constexpr double kWindow = 0.1;      // seconds
-  static constexpr double kShortest = 0.001;  // seconds; samples at one instant tell no speed
+  static constexpr double kShortest = 0.001;  // seconds; a shorter time gives no speed
 
   struct Sample {
     double position;

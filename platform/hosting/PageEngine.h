@@ -9,29 +9,30 @@
 
 namespace quorix::hosting {
 
-/// A live web page that the toolkit's web engine shows. Destroying it takes it off the screen and
-/// ends its load. Main thread.
+/// A live web page that the toolkit's web engine shows. The destructor removes it from the screen
+/// and stops its load. Main thread.
 class QUORIX_EXPORT PageEngine {
  public:
-  /// Told of the page, often within the engine's own call: do not destroy the page in it.
+  /// Receives the page's events, often inside a call of the engine: do not destroy the page in
+  /// them.
   class Client {
    public:
-    /// The page asks for a new window with this address, which may be empty, or for an address
-    /// that no page may load. It gets neither. `byUser`: the user's gesture caused it.
+    /// The page asked for a new window with this address, which may be empty, or for an address
+    /// that no page may load. The engine refuses both. `byUser`: a user gesture caused it.
     virtual void windowAsked(std::string_view address, bool byUser) = 0;
-    /// A load began (0) or moved on. It is above 0 once something of the page has come.
+    /// A load began (0) or progressed. Above 0, data of the page has arrived.
     virtual void loading(int percent) = 0;
     virtual void loadEnded() = 0;
-    /// A load failed before anything of it came.
+    /// A load failed before any data arrived.
     virtual void loadFailed() = 0;
     /// The page's process crashed or was killed.
     virtual void processEnded() = 0;
-    /// The page is about to get a key that closes a sheet. It returns the key if it does not use
+    /// The page is about to get a key that closes a sheet. If it does not use the key, it returns
     /// it.
     virtual void closingKeyGiven() = 0;
     /// The answer to `ask`.
     virtual void answered() = 0;
-    /// Fingers touch the page. True from when the page must not get them any more.
+    /// Fingers touch the page. Once the result is true, the page must not get their events.
     virtual bool touched(const TouchEvent& event) = 0;
     virtual void scrolled(const TrackpadEvent& event) = 0;
     /// The answer to `askForScroll`.
@@ -43,15 +44,15 @@ class QUORIX_EXPORT PageEngine {
 
   virtual ~PageEngine() = default;
 
-  /// False once the toolkit deleted the page's view.
+  /// False once the toolkit has deleted the page's view.
   virtual bool isShown() const = 0;
   virtual void load(const foundation::URL& address) = 0;
-  /// Stops a load that did not move on for `limit`.
+  /// Stops a load that made no progress for `limit`.
   virtual void stopLoad(std::chrono::milliseconds limit) = 0;
   /// Asks the page's process whether it is alive. A page that hangs never answers.
   virtual void ask() = 0;
-  /// Asks whether the page used any of the sideways scrolling since `time`, a
-  /// `TrackpadEvent::time`: it scrolled, or a script took the scrolling. A page that hangs never
+  /// Asks whether the page has used any of the sideways scrolling since `time`, a
+  /// `TrackpadEvent::time`: it scrolled, or a script handled the scrolling. A page that hangs never
   /// answers.
   virtual void askForScroll(double time) = 0;
   virtual bool canGoBack() const = 0;

@@ -7,9 +7,8 @@
 
 namespace quorix::hosting {
 
-/// Caches evaluations between `sizeThatFits` and `scene`. Only the latest few slots stay filled,
-/// which is enough for a screen of views that are being placed: ten thousand views that only
-/// measured themselves hold none. Main thread.
+/// Caches evaluations between `sizeThatFits` and `scene`. Keeps only the latest few, enough for the
+/// views on one screen: ten thousand views that only measured themselves hold none. Main thread.
 class RecentEvaluations {
  public:
   using Slot = std::unique_ptr<swiftui::Evaluation>;
@@ -17,7 +16,7 @@ class RecentEvaluations {
   static RecentEvaluations& shared();
 
   void fill(Slot& slot, std::unique_ptr<swiftui::Evaluation> evaluation);
-  /// Empties `slot`; null where it was empty.
+  /// Takes the evaluation out of `slot`. Null if the slot is empty.
   Slot take(Slot& slot);
 
  private:

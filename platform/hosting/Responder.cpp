@@ -25,7 +25,8 @@ void Responder::later(std::function<void()> work) {
 bool Responder::handle(const PointerEvent& event) {
   using Phase = PointerEvent::Phase;
   if (event.phase == Phase::pressed) {
-    // The first finger counts. A press of the mouse begins anew: its release may have been lost.
+    // Only the first finger counts. A mouse press always starts over: its release may have been
+    // lost.
     if (pointer_ && event.pointer != PointerEvent::mouse) return true;
     pointer_ = event.pointer;
     if (pointerPressed(event)) return true;
@@ -76,7 +77,7 @@ void Responder::showSheet() {
   const auto self = weak();
   open->present(*presented);
   if (!rises || self.expired()) return;
-  // A sheet that measures its content asks for another height: before its first frame, not after.
+  // A sheet that measures its content now requests another height. Apply it before the first frame.
   settleContent();
   if (sheetQueued_) showSheet();
 }

@@ -15,7 +15,7 @@ namespace quorix::hosting {
 
 class SheetSession;
 
-/// A view or a sheet, as input and assistive technology meet it, with the sheet that its content
+/// A view or a sheet as a target for input and assistive technology, and the sheet that its content
 /// presents. Main thread.
 class QUORIX_EXPORT Responder {
  public:
@@ -24,38 +24,38 @@ class QUORIX_EXPORT Responder {
   Responder(const Responder&) = delete;
   Responder& operator=(const Responder&) = delete;
 
-  /// Follows the mouse, or the first finger of a touch. False when the event is for what lies
-  /// below. An action may delete the surface: do not touch it afterwards.
+  /// Handles the mouse, or the first finger of a touch. Returns false if the event belongs to what
+  /// is below. An action may delete the surface: do not use it afterwards.
   bool handle(const PointerEvent& event);
-  /// The same for a wheel or a trackpad.
+  /// Handles a wheel or a trackpad. The result means the same.
   virtual bool handle(const ScrollEvent&) { return false; }
-  /// The same for a key.
+  /// Handles a key. The result means the same.
   virtual bool handle(const KeyEvent& event) = 0;
-  /// The toolkit gave the pointer to something else. Does nothing after the release, of which some
-  /// toolkits tell in this way too.
+  /// Cancels the press because the toolkit gave the pointer to another object. Has no effect after
+  /// the release, because some toolkits report every release in this way too.
   void pointerLost();
   virtual bool takesTapAt(layout::Point point) = 0;
 
-  /// In reading order. Valid until the next call.
+  /// The elements in reading order. Valid until the next call.
   virtual const std::vector<render::AccessibilityElement>& elements() = 0;
   /// Whether an element with this frame is scrolled out of sight.
   virtual bool isScrolledAway(const layout::Rect&) const { return false; }
   virtual void activate(int index) = 0;
-  /// Moves the keyboard focus to an element. False when that does not act.
+  /// Moves the keyboard focus to an element. False if that has no action.
   virtual bool focusElement(int index) = 0;
   /// The focused element's frame while the surface has the focus.
   virtual std::optional<layout::Rect> focusFrame() const = 0;
-  /// The same while the keyboard moves the focus: draw the ring around it.
+  /// The frame to draw the focus ring around, while the keyboard moves the focus.
   virtual std::optional<layout::Rect> ringFrame() const = 0;
 
-  /// Runs what waits for a later turn and ends all motion, here and in the sheets above. Returns
-  /// whether there was a sheet to follow: call again then. For pictures and tests.
+  /// Runs the work that is queued for later turns and ends all motion, here and in the sheets
+  /// above. Returns whether a sheet changed: then call it again. For pictures and tests.
   bool settle();
 
-  /// What a sheet above this follows.
+  /// The settings for a sheet above.
   virtual Settings settings() const = 0;
 
-  /// Locks to null once this is deleted.
+  /// A reference that expires when this is deleted.
   std::weak_ptr<Responder*> weak();
 
  protected:
@@ -64,41 +64,43 @@ class QUORIX_EXPORT Responder {
 
   // The sheet above.
 
-  /// The presentation changed: follows on a later turn, since the caller may be at work.
+  /// The presentation changed. Updates the sheet on a later turn, because the caller may be in the
+  /// middle of its own work.
   void followSheet();
-  /// Null while none is there. It may be closed.
+  /// Null without a sheet. The sheet may be closed.
   SheetSession* sheet() const;
-  /// Closes the sheet without motion, now.
+  /// Closes the sheet immediately, without motion.
   void closeSheet();
-  /// The same, but the focus returns on a later turn.
+  /// Closes the sheet without motion; the focus returns on a later turn.
   void abandonSheet();
 
  private:
-  /// False when nothing takes the press.
+  /// False if the press hits nothing that takes it.
   virtual bool pointerPressed(const PointerEvent& event) = 0;
   virtual bool pointerMoved(const PointerEvent&) { return false; }
   virtual void pointerReleased(const PointerEvent& event) = 0;
   virtual void pointerCancelled() = 0;
 
   friend class SheetSession;
-  /// A sheet that this opened is up, or left. Called while the sheet is at work.
+  /// A sheet that this opened has appeared or closed. Called while the sheet is in the middle of
+  /// its work.
   virtual void sheetCameUp() {}
   virtual void sheetLeft(SheetCloseReason) {}
 
   /// Runs what the content has queued for its next turn.
   virtual void settleContent() = 0;
   virtual void endMotion() {}
-  /// Null while the content presents no sheet.
+  /// Null if the content presents no sheet.
   virtual const swiftui::Presentation* presentation() = 0;
-  /// A new sheet above this; null without a window.
+  /// Makes a new sheet above this; null without a window.
   virtual SheetSession* makeSheet() = 0;
 
   void showSheet();
 
   std::shared_ptr<Responder*> alive_;  ///< made on first use
   std::weak_ptr<Responder*> sheet_;
-  std::optional<int> pointer_;  ///< the one that is pressed
-  double releasedAt_ = 0;       ///< the time of the latest release
+  std::optional<int> pointer_;  ///< the pressed one
+  double releasedAt_ = 0;       ///< time of the latest release
   bool sheetQueued_ = false;
 };
 

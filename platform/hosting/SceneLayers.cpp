@@ -11,7 +11,7 @@ namespace {
 using layout::Rect;
 using render::EmbedItem;
 
-/// Where `item` leaves ink: letters may reach out of their line.
+/// The area that `item` may paint. Letters can extend beyond their line.
 Rect inked(const render::Item& item) {
   const Rect frame = std::visit([](const auto& shown) { return shown.frame; }, item);
   if (!std::holds_alternative<render::TextItem>(item)) return frame;
@@ -20,7 +20,7 @@ Rect inked(const render::Item& item) {
           {frame.size.width + 2 * reach, frame.size.height + 2 * reach}};
 }
 
-/// How far down `item` can be told from `ground`.
+/// The lowest point at which `item` differs from the color `ground`.
 double bottomOfInk(const render::Item& item, graphics::RGBA ground) {
   if (std::holds_alternative<render::ClipItem>(item)) return 0;
   const auto* fill = std::get_if<render::FillItem>(&item);
@@ -38,7 +38,8 @@ void cutGround(render::Scene& panel, graphics::RGBA ground, double scale) {
   panel.size.height = std::min(panel.size.height, layout::PixelGrid(scale).ceil(ink));
 }
 
-/// Cuts `rect` to the area of `size`. Unlike an intersection, the result never begins outside it.
+/// Clips `rect` to the area of `size`. The origin of the result always lies inside the area; that
+/// of an intersection may not.
 Rect within(const Rect& rect, layout::Size size) {
   const layout::Point origin = {std::clamp(rect.left(), 0.0, size.width),
                                 std::clamp(rect.top(), 0.0, size.height)};
@@ -47,7 +48,7 @@ Rect within(const Rect& rect, layout::Size size) {
            std::clamp(rect.bottom(), origin.y, size.height) - origin.y}};
 }
 
-/// Makes the picture no larger than what is on it.
+/// Crops the layer's picture to its items.
 void crop(SceneLayer& layer, double scale) {
   auto& items = layer.scene.items;
   if (items.empty()) {

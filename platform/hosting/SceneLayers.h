@@ -9,16 +9,15 @@ namespace quorix::hosting {
 
 /// A part of a display list that is painted as one picture, and the embed directly above it.
 struct SceneLayer {
-  layout::Point origin;  ///< of the picture, in the whole scene
-  render::Scene scene;   ///< items alone, from the picture's own corner; empty when none is needed
-  const render::EmbedItem* embed = nullptr;  ///< the whole scene's own; null on top
+  layout::Point origin;  ///< of the picture, in the whole display list
+  render::Scene scene;   ///< items only, relative to the picture; empty if there are none
+  const render::EmbedItem* embed = nullptr;  ///< of the whole display list; null for the top layer
 };
 
-/// Cuts a panel's `scene` at its embeds, so there is one layer more than there are embeds. The
-/// first one is as wide as the scene and ends where the panel's color, `ground`, is all that is
-/// left below; each further one is only as large as its items. A layer's picture includes the
-/// background of its embed. Edges are on whole device pixels at `scale`. The layers point into
-/// `scene`.
+/// Splits a panel's `scene` at its embeds, so there is one layer more than there are embeds. The
+/// first layer is as wide as the panel and ends where only the panel's color, `ground`, remains.
+/// Each further layer is only as large as its items. A layer's picture includes the background of
+/// its embed. Edges are on whole device pixels at `scale`. The layers point into `scene`.
 QUORIX_EXPORT std::vector<SceneLayer> layersOf(const render::Scene& scene, graphics::RGBA ground,
                                                double scale);
 

@@ -6,13 +6,13 @@
 
 namespace quorix::hosting {
 
-/// The settings of a view, as its sheet takes them over.
+/// The settings of a view. Its sheet copies them.
 struct Settings {
   swiftui::Environment environment;
-  bool motion = true;  ///< sheets rise and fall
+  bool motion = true;  ///< whether sheets move when they open and close
 };
 
-/// What the host chose for one view. Absent values follow the desktop.
+/// The host's settings for one view. An absent value follows the desktop.
 struct HostSettings {
   std::optional<graphics::Appearance> appearance;
   std::optional<layout::LayoutDirection> direction;

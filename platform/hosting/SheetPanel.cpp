@@ -11,9 +11,9 @@
 namespace quorix::hosting {
 namespace {
 
-constexpr double dimming = 0.4;     // of black, behind a sheet at rest
+constexpr double dimming = 0.4;     // alpha of the black behind a resting sheet
 constexpr double keyStep = 40;      // points that an arrow key scrolls
-constexpr double roomAtFocus = 24;  // points between the focus and the panel's edge
+constexpr double roomAtFocus = 24;  // points between the focused element and the panel's edge
 
 }  // namespace
 
@@ -52,7 +52,7 @@ const render::Scene& SheetPanel::lay() {
 }
 
 layout::Point SheetPanel::origin(layout::Point corner) const {
-  const layout::PixelGrid grid(content.environment().scale);  // for sharp text
+  const layout::PixelGrid grid(content.environment().scale);  // keeps text sharp
   return {corner.x, corner.y - grid.round(scroll.offset())};
 }
 
@@ -70,7 +70,7 @@ std::optional<layout::Rect> SheetPanel::inWindow(
 std::optional<layout::Rect> SheetPanel::ring() const {
   const auto element = inWindow(focus.ring());
   if (!element) return std::nullopt;
-  // Twice the outset: beside a round corner, too.
+  // Twice the outset leaves space for the ring beside a rounded corner too.
   constexpr double beside = 2 * FocusRing::outset;
   const layout::Rect panel = frame();
   const layout::Rect inside = {{panel.left() + beside, panel.top() + beside},
@@ -146,7 +146,7 @@ void SheetPanel::addIndicator(render::Scene& to, const layout::Rect& frame) {
                                {frame.size.width - covered, room() - corner}};
   const layout::Rect bar =
       layout::PixelGrid(settings.scale).round(scroll.indicator(beside, mirrored));
-  // At 3.9:1 with a white panel and more with a dark one; the usual demand is 3:1.
+  // The contrast is 3.9:1 with a white panel and higher with a dark one. Guidelines require 3:1.
   const std::uint8_t shade = settings.appearance == graphics::Appearance::dark ? 255 : 0;
   const auto alpha = static_cast<std::uint8_t>(std::lround(opacity * 128));
   const double radius = bar.size.width / 2;
@@ -230,7 +230,7 @@ void round(render::EmbedItem& embed, const layout::Rect& panel) {
   }
 }
 
-// The panel's padding keeps these away from its corners.
+// Other items never reach the corners, because of the panel's padding.
 void round(render::TextItem&, const layout::Rect&) {}
 void round(render::ImageItem&, const layout::Rect&) {}
 void round(render::StrokeItem&, const layout::Rect&) {}

@@ -15,25 +15,25 @@ namespace quorix::hosting {
 /// The sizes of a sheet in a window. Points.
 struct SheetGeometry {
   static constexpr double cornerRadius = 12;
-  static constexpr double widest = 640;  ///< on wide windows the panel stays readable
+  static constexpr double widest = 640;  ///< keeps lines readable in wide windows
   static constexpr double topGap = 10;   ///< between the largest sheet and the window's top
 
   layout::Size window;
-  layout::EdgeInsets safeArea;  ///< what the device covers of the window
+  layout::EdgeInsets safeArea;  ///< insets that the device covers
   bool operator==(const SheetGeometry&) const = default;
 
   double panelWidth() const;
   /// The height of the content area of the largest sheet.
   double largest() const;
-  /// The height of the panel's content area at rest: the smallest of `detents`, limited by the
-  /// largest sheet; the largest when there are none.
+  /// The height of the panel's content area at rest: the smallest of `detents`, at most that of the
+  /// largest sheet. Without detents, the largest.
   double contentHeight(const swiftui::PresentationDetents& detents) const;
-  /// What the device covers of the panel, which may be narrower than the window.
+  /// The insets that the device covers of the panel, which may be narrower than the window.
   layout::EdgeInsets panelInsets() const;
-  /// The panel's frame after `revealed` points of it have risen.
+  /// The panel's frame while `revealed` points of it are visible.
   layout::Rect panel(double revealed) const;
 
-  /// Cuts fills and hit areas of `scene` to what is in sight; a painter clips the rest.
+  /// Clips fills and hit areas of `scene` to the visible area. A painter clips the other items.
   static void cut(render::Scene& scene, const layout::Rect& inSight);
   /// Rounds the items of `scene` that cover the top corners of `panel`.
   static void roundTop(render::Scene& scene, const layout::Rect& panel);
@@ -46,39 +46,39 @@ class SheetPanel {
       : content(engine, client), focus(content) {}
 
   double restingHeight();
-  /// The points of it that have risen.
+  /// The visible height of the panel, in points.
   double revealed() const { return revealed_; }
-  /// False when that changes nothing.
+  /// False if this changes nothing.
   bool reveal(double points);
   /// Its frame in the window.
   layout::Rect frame() const;
   graphics::RGBA color() const;
 
-  /// Lays the content out as tall as it would like to be, or as the panel if that is taller, and
-  /// finds how far it scrolls.
+  /// Lays out the content at its ideal height or the panel's, whichever is larger, and sets the
+  /// scroll range.
   const render::Scene& lay();
   layout::Point inContent(layout::Point inWindow) const;
   std::optional<layout::Rect> inWindow(const std::optional<layout::Rect>& inContent) const;
-  /// What the focus ring goes around in the window: of the focused element so much that the whole
-  /// ring is in the panel. Nothing while the element is out of sight.
+  /// The rectangle in the window to draw the focus ring around: the part of the focused element
+  /// whose ring fits in the panel. Absent while the element is not visible.
   std::optional<layout::Rect> ring() const;
   bool isScrolledAway(const layout::Rect& inWindow);
 
-  // Display lists, kept until something changes.
+  // Display lists, cached until a change.
 
   /// The content, its height or the scroll offset changed.
   void changed();
-  /// Counts the changes.
+  /// The number of changes.
   unsigned revision() const { return revision_; }
   /// The color over the window behind it.
   graphics::RGBA shade();
   /// Shade and panel, in the window.
   const render::Scene& overlay();
-  /// The whole panel, with its top left corner as origin.
+  /// The whole panel, with its origin at zero.
   const render::Scene& atRest();
 
   void scrollToFocus();
-  /// How far a key scrolls; absent for a key that does not.
+  /// How far a key scrolls, in points; absent for other keys.
   std::optional<double> distanceOf(Key key);
 
   ViewHost content;
@@ -87,12 +87,12 @@ class SheetPanel {
   SheetScroll scroll;
 
  private:
-  /// The height in which the content is seen.
+  /// The height of the visible part of the content.
   double room();
-  /// Where the content's top is while the panel's is at `corner`.
+  /// The content's origin if the panel's origin is `corner`.
   layout::Point origin(layout::Point corner) const;
-  /// Adds fill, content and scroll indicator at `frame`. Items that cover the top corners are
-  /// rounded.
+  /// Adds the panel's fill, content and scroll indicator at `frame`. Rounds items that cover the
+  /// top corners.
   void addTo(render::Scene& to, const layout::Rect& frame);
   void addIndicator(render::Scene& to, const layout::Rect& frame);
 

@@ -11,7 +11,7 @@
 namespace quorix::hosting {
 namespace {
 
-constexpr double approachPerSecond = 14;  // how fast the panel closes in on where it belongs
+constexpr double approachPerSecond = 14;  // rate at which the panel approaches its target
 constexpr double dragSlop = 8;            // points before a press becomes a drag
 constexpr double flickSpeed = 600;        // points a second
 constexpr double settledWithin = 0.5;     // points
@@ -31,7 +31,7 @@ struct SheetPresenter::State final : ViewHost::Client {
   bool panelMoves() { return presentation && !closed && (closing || panel.revealed() != target()); }
   bool isMoving() { return panelMoves() || (!closed && scroll.isMoving()); }
   bool advance(double seconds);
-  /// The panel moved, or its target did.
+  /// The panel or its target moved.
   void moved() {
     client.sheetNeedsDisplay();
     if (!motion) advance(0);
@@ -58,8 +58,8 @@ struct SheetPresenter::State final : ViewHost::Client {
   std::optional<swiftui::Presentation> presentation;
   std::shared_ptr<SheetCloseReason> closeReason =
       std::make_shared<SheetCloseReason>(SheetCloseReason::host);
-  double drag = 0;      ///< points that the finger holds it down
-  double caughtAt = 0;  ///< points below rest where a drag began, since it was still rising
+  double drag = 0;      ///< points that the finger moved the panel down
+  double caughtAt = 0;  ///< points below rest at which a drag caught the rising panel
   std::optional<layout::Point> press;
   bool pressedOutside = false;
   bool dragging = false;
@@ -74,7 +74,7 @@ void SheetPresenter::State::close() {
   client.sheetDidClose();
 }
 
-/// Performs `action`, which may destroy this, and notes `reason` if that closes the sheet.
+/// Performs `action`, which may destroy this. Stores `reason` if the action closes the sheet.
 bool SheetPresenter::State::perform(SheetCloseReason reason, const std::function<bool()>& action) {
   if (!presentation) return false;
   const auto isPresented = presentation->isPresented;
@@ -85,7 +85,7 @@ bool SheetPresenter::State::perform(SheetCloseReason reason, const std::function
   return performed;
 }
 
-/// `change` scrolls, at once or by motion.
+/// Runs `change`, which scrolls, and requests a new frame.
 void SheetPresenter::State::scrollBy(const std::function<void()>& change) {
   panel.lay();
   const double before = scroll.offset();
@@ -146,7 +146,7 @@ void SheetPresenter::present(const swiftui::Presentation& presentation) {
 void SheetPresenter::retract() {
   state_->closing = true;
   state_->endDrag();
-  state_->client.sheetPresentationChanged();  // what stands above goes along
+  state_->client.sheetPresentationChanged();  // a sheet above closes with it
   state_->moved();
 }
 
@@ -177,7 +177,7 @@ unsigned SheetPresenter::panelRevision() const { return state_->panel.revision()
 layout::Rect SheetPresenter::panelFrame() const { return state_->panel.frame(); }
 
 void SheetPresenter::pointerPressed(layout::Point point) {
-  if (state_->closing) return;  // a second tap on what closes it must not open it again
+  if (state_->closing) return;  // a second tap on the closing element must not open the sheet again
   state_->focus.hideRing();
   state_->content.pointerCancelled();
   state_->press = point;
@@ -194,7 +194,7 @@ void SheetPresenter::pointerMoved(layout::Point point) {
   if (!state_->dragging && std::abs(down) > dragSlop) {
     state_->dragging = true;
     state_->content.pointerCancelled();
-    // The panel stays where it was caught, and does not jump over the points of the slop.
+    // Start the drag where the panel was caught, without a jump over the slop.
     state_->caughtAt = state_->target() - state_->panel.revealed();
     state_->press->y += std::copysign(dragSlop, down) - state_->caughtAt;
   }
@@ -218,7 +218,7 @@ void SheetPresenter::pointerReleased(layout::Point point, double velocity) {
   if (outside || swiped) {
     dismiss(outside ? SheetCloseReason::outside : SheetCloseReason::swipe);
   } else if (tapped) {
-    // Last, since an action may destroy this presenter.
+    // This comes last: an action may destroy this presenter.
     const layout::Point inContent = state_->panel.inContent(point);
     state_->perform(SheetCloseReason::button,
                     [&] { return state_->content.pointerReleased(inContent); });
@@ -288,7 +288,7 @@ void SheetPresenter::settle() {
   settleContent();
   scene();
   settleContent();
-  scene();  // finds how far the content scrolls
+  scene();  // sets the scroll range
   if (state_->scroll.settle()) state_->panel.changed();
   if (isMoving()) {
     state_->reveal(state_->target());

@@ -7,11 +7,11 @@
 namespace quorix::hosting {
 namespace {
 
-constexpr double approach = 14;        // a second: how fast the content closes in on its target
-constexpr double friction = 2;         // a second: how fast a fling loses its speed
-constexpr double resistance = 0.2;     // what is left of a drag beyond the end
+constexpr double approach = 14;        // per second: how fast the content approaches its target
+constexpr double friction = 2;         // per second: rate at which a fling slows down
+constexpr double resistance = 0.2;     // factor for a drag beyond the end
 constexpr double arrivesWithin = 0.5;  // points
-constexpr double stillMoving = 8;      // points; a press stops what has more to go
+constexpr double stillMoving = 8;      // points; a press on a longer motion stops it and is no tap
 constexpr double indicatorStays = 1;   // seconds
 constexpr double indicatorFades = 0.25;
 

@@ -4,45 +4,46 @@
 
 namespace quorix::hosting {
 
-/// How far a sheet's content is scrolled, what moves it, and the indicator that shows where it is.
-/// Offsets are points from the content's top. Main thread.
+/// The scroll position of a sheet's content, its motion, and the scroll indicator. Offsets are
+/// points from the content's top. Main thread.
 class SheetScroll {
  public:
-  /// `range` is by how much the content is taller than its room.
+  /// `range`: the content's height minus the visible height.
   void setRange(double range);
   double range() const { return range_; }
-  /// Above `range` while a finger pulls beyond the end, and on the way back.
+  /// Above `range` while a finger pulls beyond the end, and until the content has moved back.
   double offset() const { return offset_; }
-  /// Without motion, the content jumps to where it would have moved, and is not flung.
+  /// Without motion, the content jumps to its target, and there are no flings.
   void setMotion(bool enabled) { motion_ = enabled; }
 
-  /// A finger presses. True when that stopped a motion, so that the press is no tap.
+  /// A finger presses. True if this stopped a motion; then the press is not a tap.
   bool hold();
-  /// The finger is `down` points below where it pressed. Returns how far it pulls the panel down:
-  /// what is left when the content is at its top. Below 0, it pushes a panel up that does not
-  /// scroll.
+  /// The finger is `down` points below the place of its press. Returns how far it pulls the panel
+  /// down: the part of the drag beyond the content's top. Negative if it pushes a panel up that
+  /// does not scroll.
   double drag(double down);
-  /// The whole drag, and not only its end, was at the content's top: a flick closes the sheet.
+  /// Whether the content was at its top from the start of the drag to its end. Then a flick closes
+  /// the sheet.
   bool isPulledFromTop() const;
-  /// The finger leaves at a downward speed in points a second.
+  /// The finger is lifted at a downward speed in points a second.
   void release(double speed);
 
-  /// Moves by a key or a notch of a wheel.
+  /// Scrolls by a key or a wheel, with motion.
   void moveBy(double distance);
-  /// Follows two fingers at once.
+  /// Scrolls by two fingers, at once.
   void follow(double distance);
-  /// Brings the part from `top` to `bottom` into a room of `height`.
+  /// Scrolls until the part from `top` to `bottom` is visible in `height` points.
   void show(double top, double bottom, double height);
 
   bool isMoving() const;
-  /// Moves on. Returns whether content or indicator changed.
+  /// Advances the motion. Returns whether content or indicator changed.
   bool advance(double seconds);
-  /// Ends all motion. False when there was none.
+  /// Ends all motion. False if there was none.
   bool settle();
 
   /// 0 while the content rests.
   double indicatorOpacity() const;
-  /// The indicator at one side of `room`, in which the content moves.
+  /// The frame of the indicator at one side of `room`, the visible area.
   layout::Rect indicator(const layout::Rect& room, bool onLeft) const;
 
  private:
@@ -52,13 +53,13 @@ class SheetScroll {
 
   double range_ = 0;
   double offset_ = 0;
-  double target_ = 0;  ///< of a fling, it may lie outside the range
-  double rate_ = 0;    ///< how fast the offset nears the target
+  double target_ = 0;  ///< a fling's target may lie outside the range
+  double rate_ = 0;    ///< rate at which the offset approaches the target
   double heldAt_ = 0;
-  double shownFor_ = 0;  ///< seconds that the indicator stays
+  double shownFor_ = 0;  ///< seconds that the indicator stays visible
   bool held_ = false;
   bool motion_ = true;
-  bool flashes_ = false;  ///< there is more to see than before: the indicator comes
+  bool flashes_ = false;  ///< the content became scrollable: show the indicator
 };
 
 }  // namespace quorix::hosting

@@ -39,13 +39,13 @@ void SheetSession::windowResized(layout::Size size) {
   followWindow();
 }
 
-/// The window's size or safe area, or the direction of reading may have changed.
+/// Applies a change of the window's size or safe area, or of the reading direction.
 void SheetSession::followWindow() {
   if (!window_) return;
   presenter_.setWindow(windowSize_, window_->safeArea().in(settings_.environment.direction));
 }
 
-// Coming and going.
+// Opening and closing.
 
 void SheetSession::present(const swiftui::Presentation& presentation) {
   gaveUpPages_ = false;
@@ -65,7 +65,8 @@ void SheetSession::close() {
   if (leaveWindow()) leave();
 }
 
-/// Leaves on a later turn: the window may be on its way out, which permits no change of focus.
+/// Returns the focus on a later turn: the window may be closing, which does not allow a focus
+/// change.
 void SheetSession::abandon() {
   if (!leaveWindow()) return;
   abandonSheet();
@@ -73,7 +74,7 @@ void SheetSession::abandon() {
   later([this] { leave(); });
 }
 
-/// False when it was closed before.
+/// False if the sheet was closed before.
 bool SheetSession::leaveWindow() {
   if (window_) std::erase(window_->sheets_, this);
   window_ = nullptr;
@@ -85,7 +86,7 @@ bool SheetSession::leaveWindow() {
 
 void SheetSession::leave() {
   stopClock();
-  closeSheet();  // first, since it returns the focus to this one
+  closeSheet();  // first, because it returns the focus to this sheet
   coverChanged();
   if (holdsFocus() && !(focusReturn_ && focusReturn_())) dropFocus();
   vanish();
@@ -93,7 +94,7 @@ void SheetSession::leave() {
 
 bool SheetSession::followMotion() {
   if (!settings_.motion) presenter_.advance(0);
-  if (presenter_.isMoving()) startClock();  // without motion, for the scroll indicator's time
+  if (presenter_.isMoving()) startClock();  // without motion too: it times the scroll indicator
   return !closed_;
 }
 
@@ -122,7 +123,7 @@ void SheetSession::followPages() {
   });
 }
 
-/// At most once for each presentation: the sheet may still be falling when its next frame comes.
+/// Runs once for each presentation: the sheet may still be falling at its next frame.
 void SheetSession::giveUpPages() {
   gaveUpPages_ = true;
   EmbeddedPages::sendOutside(presenter_.panel());
@@ -146,7 +147,7 @@ void SheetSession::leavePages(bool forward) {
 
 std::vector<PageEngine*> SheetSession::pages() const { return pages_.shown(); }
 
-/// Moves the focus to the first page, or backward to the last. False when there is none.
+/// Moves the focus to the first page, or backward to the last. False without pages.
 bool SheetSession::enterPages(bool forward) {
   const auto shown = pages();
   if (shown.empty()) return false;
@@ -160,8 +161,8 @@ void SheetSession::track(const PointerEvent& event) {
   velocity_.add(event.point.y, event.time * 1e-3);
 }
 
-/// Whether `event` is the second of two quick taps on what opened the sheet, which must not close
-/// it again.
+/// Whether `event` is the second of two quick taps on the element that opened the sheet. It must
+/// not close the sheet again.
 bool SheetSession::isSecondTap(const PointerEvent& event) const {
   const auto opener = opener_.lock();
   const double passed = opener ? event.time - (*opener)->releasedAt_ : 0;
@@ -224,7 +225,7 @@ bool SheetSession::handle(const KeyEvent& event) {
 }
 
 void SheetSession::walk(bool forward) {
-  // After the last element come the pages; without a page yet, the first element again.
+  // The pages follow the last element. If there is no page yet, go to the first element.
   if (!presenter_.moveFocus(forward) && !enterPages(forward)) presenter_.moveFocus(forward);
   focusMoved(false);
 }

@@ -15,12 +15,12 @@ namespace quorix::hosting {
 
 class WindowSession;
 
-/// A sheet over a window: coming and going, settings, motion, input, focus and pages. A toolkit's
-/// sheet derives from this, gives it a place above the window, paint and the focus, and deletes
-/// itself after `vanish`. It takes every event that reaches it, so that what lies below gets none.
-/// The first page of a process opens once the first frame has been shown, so that loading the web
-/// engine does not delay the sheet; later pages come with that frame. Without an engine their
-/// addresses open outside the app and the sheet closes. Main thread.
+/// A sheet over a window: opening and closing, settings, motion, input, focus and pages. A
+/// toolkit's sheet derives from this, places it above the window, paints it, gives it the focus,
+/// and deletes itself after `vanish`. The sheet consumes every event that reaches it. The first
+/// page of a process opens after the sheet's first frame, so that loading the web engine does not
+/// delay the sheet; later pages open with the first frame. Without an engine, their addresses open
+/// outside the app and the sheet closes. Main thread.
 class QUORIX_EXPORT SheetSession : public Responder,
                                    private SheetPresenter::Client,
                                    private EmbeddedPage::Owner {
@@ -28,14 +28,14 @@ class QUORIX_EXPORT SheetSession : public Responder,
   ~SheetSession() override;
 
   void present(const swiftui::Presentation& presentation);
-  /// The owner took the sheet back: it falls.
+  /// Closes the sheet for its owner: it falls.
   void retract() { presenter_.retract(); }
-  /// The owner is gone: closes without motion. The focus returns on a later turn.
+  /// Closes the sheet without motion because its owner is gone. The focus returns on a later turn.
   void abandon();
-  /// Closes without motion, now.
+  /// Closes the sheet immediately, without motion.
   void close();
   bool isClosed() const { return closed_; }
-  /// The sheet takes the window's input.
+  /// Whether the sheet takes the window's input.
   bool isTopmost() const;
 
   SheetPresenter& presenter() { return presenter_; }
@@ -44,7 +44,7 @@ class QUORIX_EXPORT SheetSession : public Responder,
   using Responder::handle;
   bool handle(const KeyEvent& event) override;
   bool handle(const ScrollEvent& event) override;
-  /// Whether `handle` takes this key, which no shortcut of the host may get then.
+  /// Whether `handle` uses this key. Then no shortcut of the host may get it.
   bool takes(Key key);
   bool takesTapAt(layout::Point point) override;
 
@@ -58,45 +58,45 @@ class QUORIX_EXPORT SheetSession : public Responder,
   std::optional<layout::Rect> focusFrame() const override;
   std::optional<layout::Rect> ringFrame() const override;
 
-  /// The views of the pages on show, from the bottom up.
+  /// The visible pages, from the bottom up.
   std::vector<PageEngine*> pages() const;
 
  protected:
-  /// Gives the focus back to what had it. False when that is gone.
+  /// Returns the focus to its previous owner. False if that is gone.
   using FocusReturn = std::function<bool()>;
 
   SheetSession(WindowSession& window, text::TextEngine& engine);
 
   /// Device pixels for each point.
   virtual double scale() const = 0;
-  /// Something moved or changed: paint a frame.
+  /// A change is visible: paint a frame.
   virtual void needsFrame() = 0;
 
   bool isOpen() const { return presented_ && !closed_; }
   /// `scale` changed.
   void followScale();
-  /// The window has this size now.
+  /// The window was resized.
   void windowResized(layout::Size size);
-  /// The frame clock ticked. Returns whether it goes on.
+  /// The frame clock ticked. Returns whether it must continue.
   bool advance(double seconds) { return presenter_.advance(seconds); }
-  /// Before each frame: keeps a moving sheet moving. False when this closed it.
+  /// Call before each frame: continues the motion. False if the sheet has closed.
   bool followMotion();
-  /// Before each frame, once the panel has its place: pages open, close and move with it.
+  /// Call before each frame, after the panel has moved: opens, closes and moves pages.
   void followPages();
-  /// A frame of the sheet is on the screen.
+  /// Call when a frame of the sheet is on the screen.
   void wasShown();
-  /// Moves the focus on, inside the sheet.
+  /// Moves the focus inside the sheet.
   void walk(bool forward);
   void pageTookFocus();
-  /// The keyboard moves the focus out of the pages.
+  /// The keyboard moved the focus out of the pages.
   void leavePages(bool forward);
-  /// The host moved the focus to something that this sheet lies over.
+  /// The host moved the focus to something below this sheet.
   void focusWentBelow();
 
  private:
   friend class WindowSession;
 
-  /// Call `advance` in each frame until it returns false. Has no effect while that runs.
+  /// Calls `advance` in each frame until it returns false. Has no effect if the clock runs.
   virtual void startClock() = 0;
   virtual void stopClock() = 0;
   /// Shows the sheet above the window.
@@ -104,31 +104,31 @@ class QUORIX_EXPORT SheetSession : public Responder,
   virtual FocusReturn focusReturn() = 0;
   virtual void takeFocus() = 0;
   virtual bool hasFocus() const = 0;
-  /// Something inside the sheet has the focus, also a page.
+  /// Whether the sheet or a page in it has the focus.
   virtual bool holdsFocus() const = 0;
-  /// Leaves the window without a focused element.
+  /// Removes the focus from every element of the window.
   virtual void dropFocus() = 0;
   /// Hides the sheet for good, and deletes it on a later turn.
   virtual void vanish() = 0;
-  /// The focused element changed: tell assistive technology, now or on a later turn.
+  /// Notifies assistive technology of the newly focused element, now or on a later turn.
   virtual void focusMoved(bool later) = 0;
-  /// The sheet covers the window from now on, or not any more: tell assistive technology.
+  /// Notifies assistive technology that the sheet covers the window now, or no longer.
   virtual void coverChanged() {}
 
   // Pages, for a toolkit with a web engine.
-  /// Whether a page can be expected to show. Cheap: loads no engine.
+  /// Whether a page can probably be shown. Fast: does not load the engine.
   virtual bool canShowPages() const { return false; }
-  /// The web engine is loaded: opening a page takes no time to speak of.
+  /// Whether the web engine is loaded, so that a page opens without delay.
   virtual bool opensPagesAtOnce() const { return false; }
   std::unique_ptr<PageEngine> openPage(const render::EmbedItem&, PageEngine::Client&) override {
     return nullptr;
   }
-  /// Whether the renderer can cut a live page to rounded corners.
+  /// Whether the renderer can clip a live page to rounded corners.
   virtual bool clipsPages() const { return false; }
-  /// The page stands there in the window; `index` counts from the lowest.
+  /// Moves the page to a place in the window; `index` counts from the lowest page.
   virtual void placePage(PageEngine&, const PagePlace&, int /*index*/) {}
   virtual void focusPage(PageEngine&, bool /*forward*/) {}
-  /// Takes the focus from a page, if one has it.
+  /// Takes the focus from a page if it has it.
   virtual void takeFocusFromPages() {}
 
   void settleContent() override { presenter_.settleContent(); }
@@ -159,7 +159,7 @@ class QUORIX_EXPORT SheetSession : public Responder,
   bool enterPages(bool forward);
 
   WindowSession* window_;             ///< null once closed
-  std::weak_ptr<Responder*> opener_;  ///< which is told of the sheet, and whose settings it has
+  std::weak_ptr<Responder*> opener_;  ///< receives the notices; its settings apply
   SheetPresenter presenter_;
   Settings settings_;
   layout::Size windowSize_;
@@ -170,7 +170,7 @@ class QUORIX_EXPORT SheetSession : public Responder,
   bool animated_ = true;
   bool shown_ = false;
   bool presented_ = false;
-  bool gaveUpPages_ = false;  ///< of the latest presentation
+  bool gaveUpPages_ = false;  ///< for the latest presentation
   bool closed_ = false;
 };
 

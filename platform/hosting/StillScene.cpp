@@ -8,7 +8,7 @@
 namespace quorix::hosting {
 namespace {
 
-/// A still surface: it asks for the display list once.
+/// A surface for a still picture: it requests one display list and ignores changes.
 struct StillSurface final : ViewHost::Client {
   void viewNeedsDisplay() override {}
   void presentationChanged() override {}
@@ -20,7 +20,7 @@ std::optional<render::Scene> sheetsOf(ViewWindow& window) {
   const auto acting =
       std::ranges::find_if(elements, [](const auto& element) { return bool(element.action); });
   if (acting == elements.end()) return std::nullopt;
-  // Not the session's own call, which would make this the window that the user works in.
+  // `ViewSession::activate` would make this the window that the user works in.
   window.view().host().activate(static_cast<int>(acting - elements.begin()));
   window.settle();
   std::optional<render::Scene> all;

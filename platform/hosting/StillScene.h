@@ -13,37 +13,37 @@ namespace quorix::hosting {
 
 /// What a still picture of a view shows. A plain value; any thread.
 struct StillOptions {
-  /// Of the picture, in points; with `sheet`, of the window that the sheet opens in.
+  /// Width of the picture in points; with `sheet`, of the window in which the sheet opens.
   double width = 375;
-  /// In points. Without it the picture is as high as the view's ideal height at `width`, and a
-  /// window twice as high as it is wide.
+  /// Height in points. The default is the view's ideal height at `width`; for a window, twice its
+  /// width.
   std::optional<double> height;
   /// The user's settings and the device pixels for each point.
   swiftui::Environment environment;
-  /// Opens the sheet behind the view's first element that acts, and shows it risen over the window,
-  /// at whose top the view stands.
+  /// Performs the view's first element with an action and shows the sheet that it opens. The view
+  /// is at the top of the window.
   bool sheet = false;
-  /// Behind the view. Without it white in the light appearance and black in the dark one.
+  /// Color behind the view. The default is white in the light appearance and black in the dark one.
   std::optional<graphics::RGBA> background;
-  /// What the device covers at the edges of the window that a sheet opens in.
+  /// Insets that the device covers in the window of the sheet.
   layout::SideInsets safeArea = {};
 };
 
-/// A view laid out once, without a window: what a picture shows, and what a screen reader reads
-/// out. Do not call its actions: they belong to a view that is gone.
+/// A view that was laid out once, without a window: what a picture shows and what a screen reader
+/// reads. Do not call its actions: their view no longer exists.
 struct QUORIX_EXPORT StillScene {
   render::Scene view;
-  std::optional<render::Scene> sheet;  ///< as large as the view's scene, and on top of it
+  std::optional<render::Scene> sheet;  ///< as large as the view's display list and above it
 
   /// View and sheet in one.
   render::Scene whole() const&;
   render::Scene whole() &&;
-  /// What assistive technology meets: a sheet hides all that is behind it.
+  /// What assistive technology reads: a sheet hides everything behind it.
   const render::Scene& topmost() const { return sheet ? *sheet : view; }
 };
 
-/// Lays out `view`, with `options.sheet` also the sheet that it opens. The view comes on screen for
-/// the length of the call, so its tasks may start. Main thread.
+/// Lays out `view`, and with `options.sheet` the sheet that it opens. The view is on screen during
+/// the call, so its tasks may start. Main thread.
 QUORIX_EXPORT StillScene stillScene(text::TextEngine& engine, const swiftui::View& view,
                                     const StillOptions& options);
 

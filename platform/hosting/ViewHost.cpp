@@ -12,10 +12,10 @@
 namespace quorix::hosting {
 namespace {
 
-/// A surface's layout asks for fewer sizes than this, one after the other.
+/// Sizes that are cached. A surface's layout asks for fewer, one after the other.
 constexpr std::size_t manyProposals = 4;
 
-/// What a view is placed in.
+/// The area in which a view is placed.
 struct Area {
   layout::Size size;
   layout::EdgeInsets insets;
@@ -45,21 +45,21 @@ struct ViewHost::State {
   Client& client;
   swiftui::Environment environment;
   swiftui::ViewGraph graph;
-  // Between an evaluation and the scene made of it; a view at rest keeps the scene alone.
+  // Filled between an evaluation and its display list. A view at rest keeps only the display list.
   RecentEvaluations::Slot evaluation;
   std::vector<std::pair<layout::ProposedSize, layout::Size>> fitted;
   std::optional<swiftui::Presentation> presentation;
   swiftui::PresentationDetents detents;
   std::optional<render::Scene> scene;
-  std::optional<Area> area;  ///< of the latest scene
+  std::optional<Area> area;  ///< of the latest display list
   std::vector<std::pair<swiftui::TreePath, layout::Size>> geometry;
   std::optional<layout::Point> pressed;
   int focused = -1;   ///< index of an accessibility element
-  bool stale = true;  ///< what the latest evaluation said no longer holds
+  bool stale = true;  ///< the latest evaluation is out of date
 };
 
 swiftui::Evaluation& ViewHost::State::evaluated() {
-  while (!evaluation) evaluateAgain();  // a client that was told may have used one up already
+  while (!evaluation) evaluateAgain();  // a client callback may have consumed the evaluation
   return *evaluation;
 }
 
@@ -68,7 +68,7 @@ void ViewHost::State::evaluateAgain() {
   RecentEvaluations::shared().fill(evaluation, graph.evaluate(environment));
   detents = evaluation->detents;
   for (const auto& content : evaluation->hosted) {
-    // A content may outlive the host.
+    // The content may outlive this object.
     content->onChange([this, life = graph.life()] {
       if (!life.expired()) changed();
     });
@@ -78,7 +78,7 @@ void ViewHost::State::evaluateAgain() {
   if (had || presentation) client.presentationChanged();
 }
 
-/// Evaluates at once on the graph's turn, also without a paint: a sheet may begin or end.
+/// Evaluates at once when the graph changed, even without a paint: a sheet may open or close.
 void ViewHost::State::invalidated() {
   fitted.clear();
   scene.reset();
@@ -86,7 +86,7 @@ void ViewHost::State::invalidated() {
   client.viewNeedsDisplay();
 }
 
-/// Evaluates later, when the surface asks: it often changes several settings in a row.
+/// Evaluates when the surface next asks, because it often changes several settings in a row.
 void ViewHost::State::changed() {
   stale = true;
   fitted.clear();
@@ -97,7 +97,8 @@ void ViewHost::State::changed() {
 
 void ViewHost::State::layOut(const Area& within) {
   evaluated();
-  // Taken out: content of another toolkit may tell of a change while it is laid out or shown.
+  // Take the evaluation out of the cache: hosted content may report a change while it is laid out
+  // or shown, which empties the slot.
   const auto taken = RecentEvaluations::shared().take(evaluation);
   swiftui::Evaluation& latest = *taken;
   const auto safe = layout::SafeArea::within(within.size, within.insets);
@@ -118,12 +119,13 @@ void ViewHost::State::layOut(const Area& within) {
   tellSizes(std::move(builder.geometry));
 }
 
-/// Tells the views that want to know of a size that changed. They may ask this host again.
+/// Calls the views that observe a size, for each size that changed. They may call this object
+/// again.
 void ViewHost::State::tellSizes(std::vector<swiftui::WatchedSize> sizes) {
   auto before = std::exchange(geometry, {});
   for (const swiftui::WatchedSize& now : sizes) geometry.emplace_back(now.path, now.size);
   for (const swiftui::WatchedSize& now : sizes) {
-    // Taken from what was known: the next of several in one place finds its own.
+    // Erase each match, so that the next of several sizes at one path finds its own.
     const auto known = std::find_if(before.begin(), before.end(),
                                     [&](const auto& entry) { return entry.first == now.path; });
     const bool same = known != before.end() && known->second == now.size;
@@ -132,8 +134,8 @@ void ViewHost::State::tellSizes(std::vector<swiftui::WatchedSize> sizes) {
   }
 }
 
-/// What input is for: the latest scene, also while its successor waits for the next frame. Null
-/// before the first.
+/// The display list for input. If the latest one is out of date, makes a new one now for the same
+/// area, without waiting for the next frame. Null before the first layout.
 const render::Scene* ViewHost::State::current() {
   if (!scene && area) layOut(*area);
   return scene ? &*scene : nullptr;
@@ -252,7 +254,7 @@ bool ViewHost::moveFocus(bool forward) {
   return state_->focused >= 0;
 }
 
-/// Element `index` of the latest scene, or null when it is none that acts.
+/// Element `index` of the latest display list; null if it has no action.
 const render::AccessibilityElement* ViewHost::State::acting(int index) {
   const render::Scene* latest = index < 0 ? nullptr : current();
   const auto position = static_cast<std::size_t>(index);
@@ -279,7 +281,7 @@ int ViewHost::focusStops() const {
 
 std::optional<layout::Rect> ViewHost::focusFrame() const {
   const auto& scene = state_->scene;
-  const auto index = static_cast<std::size_t>(state_->focused);  // -1 is beyond all elements
+  const auto index = static_cast<std::size_t>(state_->focused);  // -1 exceeds every index
   if (!scene || index >= scene->accessibility.size()) return std::nullopt;
   return scene->accessibility[index].frame;
 }

@@ -13,15 +13,15 @@
 
 namespace quorix::hosting {
 
-/// Shows one view on a surface: evaluates it, lays it out, routes taps and keys into it, and tells
+/// Shows one view on a surface: evaluates it, lays it out, sends taps and keys to it, and notifies
 /// the surface when to paint again. Main thread.
 class QUORIX_EXPORT ViewHost {
  public:
-  /// The surface. Both calls may come while the surface itself is calling the host.
+  /// The surface. Both functions may be called during a call of the `ViewHost`.
   class Client {
    public:
     virtual ~Client() = default;
-    /// Size or scene may have changed: ask again before the next frame.
+    /// The size or the display list may have changed: ask again before the next frame.
     virtual void viewNeedsDisplay() = 0;
     /// `presentation()` began, changed its content or ended.
     virtual void presentationChanged() = 0;
@@ -34,67 +34,71 @@ class QUORIX_EXPORT ViewHost {
 
   /// Shows another view, which starts with fresh states. The former view's sheet closes.
   void setRoot(swiftui::View root);
-  /// Shows the same view with other values, as after an enclosing body was evaluated again. Keeps
-  /// the states.
+  /// Updates the values of the same view, as after the evaluation of an enclosing body. Keeps the
+  /// states.
   void updateRoot(swiftui::View root);
   void setEnvironment(const swiftui::Environment& environment);
   const swiftui::Environment& environment() const;
 
-  /// On screen, observed objects are subscribed and tasks run. Both end off screen.
+  /// On screen, observed objects are subscribed and tasks run. Off screen, both end.
   void setOnScreen(bool onScreen);
 
-  /// The size that the view chooses when offered `proposal`.
+  /// The size in points that the view chooses for the offer `proposal`.
   layout::Size sizeThatFits(layout::ProposedSize proposal);
 
-  /// The display list of the view in an area of `size` less `safeArea`, centered if it is smaller.
-  /// Elements that ignore the safe area extend into the insets. The reference is valid until the
-  /// next call of this host.
+  /// The display list of the view in an area of `size` less `safeArea`, in points. A smaller view
+  /// is centered. Elements that ignore the safe area extend into the insets. The reference is valid
+  /// until the next call of this object.
   const render::Scene& scene(layout::Size size, const layout::EdgeInsets& safeArea = {});
 
-  /// Moves the scene out. The next call that needs a scene makes it anew.
+  /// Moves the display list out. The next call that needs one makes a new one.
   render::Scene takeScene(layout::Size size);
-  /// Frees the scene of a view that is out of sight. The next call that needs one makes it anew.
+  /// Frees the display list of a view that is not visible. The next call that needs one makes a new
+  /// one.
   void rest();
-  /// Frees the sizes that `sizeThatFits` has answered, for a surface that keeps them itself.
+  /// Frees the sizes that `sizeThatFits` cached, for a surface with its own cache.
   void forgetSizes();
 
-  /// The sheet that the view asks for, or null.
+  /// The sheet that the view presents, or null.
   const swiftui::Presentation* presentation();
 
-  /// The detents that the view asks of the sheet it is shown in; empty when it asks for none.
+  /// The detents that the view sets for the sheet in which it is shown; empty without any.
   const swiftui::PresentationDetents& detents();
 
-  /// Runs what waits for the next turn of the main queue, for at most `mostTurns`: a view that
-  /// changes in each of them must not stop the host.
+  /// Runs the work that is queued for the next turn of the main queue. Repeats this at most
+  /// `mostTurns` times, because a view may change on every turn.
   void settle();
   static constexpr int mostTurns = 8;
 
-  // Input, in the coordinates of the latest scene.
+  // Input, in the coordinates of the latest display list.
 
-  /// A press that ends where it began, on the same hit area, is a tap. Returns whether a hit area
-  /// took the press.
+  /// A press and a release on the same hit area are a tap. Returns whether a hit area took the
+  /// press.
   bool pointerPressed(layout::Point point);
   bool pointerReleased(layout::Point point);
-  /// The same, but leaves the action to the caller. Absent when it is no tap.
+  /// Ends the press and returns the action of the tap, for the caller to run. Absent if it is not a
+  /// tap.
   foundation::Action endPress(layout::Point point);
   void pointerCancelled();
 
-  /// Moves the keyboard focus among the elements that act, of which those with one action are one
-  /// stop. False after the last one: the focus leaves the view.
+  /// Moves the keyboard focus among the elements with an action. Elements with the same action are
+  /// one stop. False after the last one: the focus leaves the view.
   bool moveFocus(bool forward);
-  /// Moves it to accessibility element `index` of the latest scene. False when that does not act.
+  /// Moves the focus to accessibility element `index` of the latest display list. False if that has
+  /// no action.
   bool focus(int index);
   void clearFocus();
-  /// At how many places of the latest scene the focus stops.
+  /// The number of focus stops in the latest display list.
   int focusStops() const;
   /// The frame of the focused element.
   std::optional<layout::Rect> focusFrame() const;
-  /// The frame for a ring: around all that acts as the focused element does.
+  /// The rectangle to draw the focus ring around: all elements with the focused element's action.
   std::optional<layout::Rect> ringFrame() const;
-  /// Performs the focused element's action (Enter and Space). False when nothing has the focus.
+  /// Performs the focused element's action (Enter and Space). False without a focused element.
   bool activateFocus();
 
-  /// Performs the action of accessibility element `index` of the latest scene.
+  /// Performs the action of accessibility element `index` of the latest display list. False if
+  /// there is none.
   bool activate(int index);
 
  private:

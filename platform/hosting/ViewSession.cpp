@@ -12,7 +12,7 @@ void ViewSession::replaceView(swiftui::View view) {
   host_.setRoot(std::move(view));
   contentChanged();
   if (!focused) return;
-  host_.scene(size());  // makes the new elements
+  host_.scene(size());  // creates the new elements
   focus_.renewed();
 }
 
@@ -54,7 +54,7 @@ void ViewSession::tellOfSheets() {
   open ? sheetOpened() : sheetClosed(closeReason_);
 }
 
-/// Controllers that the view presents from now on belong over this window.
+/// Controllers that the view presents after this appear over this window.
 void ViewSession::used() {
   if (WindowSession* in = window()) in->used(*this);
 }
@@ -71,14 +71,14 @@ bool ViewSession::pointerPressed(const PointerEvent& event) {
   return true;
 }
 
-/// Acts on a later turn: the toolkit may still work with the surface that it told of the release,
-/// and the action may delete it.
+/// Runs the action on a later turn. The toolkit may still use the surface, and the action may
+/// delete it.
 void ViewSession::pointerReleased(const PointerEvent& event) {
   const auto action = host_.endPress(event.point);
   if (action) later([this, action] { perform([&] { return action(), true; }); });
 }
 
-/// Tells of an action that acted. It may delete this.
+/// Runs `action` and reports it if it did something. May delete this.
 void ViewSession::perform(const std::function<bool()>& action) {
   const auto self = weak();
   if (action() && !self.expired()) activated();
@@ -106,9 +106,9 @@ bool ViewSession::walk(bool forward) {
 }
 
 void ViewSession::focusCame(ViewFocus::Cause cause) {
-  host_.scene(size());  // makes the elements to focus
+  host_.scene(size());  // creates the elements to focus
   focus_.came(cause);
-  // A closing sheet may return the focus to a view that became empty.
+  // A sheet that closes may return the focus to a view without elements to focus.
   if (cause == ViewFocus::Cause::interruption && host_.focusStops() == 0) leaveFocus();
   needsFrame();
   if (host_.focusFrame()) focusMoved(true);
@@ -131,10 +131,10 @@ const std::vector<render::AccessibilityElement>& ViewSession::elements() {
   return host_.scene(size()).accessibility;
 }
 
-/// As by the pointer, the focus comes along: a sheet returns it to what opened the sheet.
+/// Focuses the element, as a tap does: a sheet returns the focus to the element that opened it.
 void ViewSession::activate(int index) {
   used();
-  host_.scene(size());  // makes the elements that the index counts
+  host_.scene(size());  // creates the elements that `index` counts
   const auto self = weak();
   if (host_.focus(index)) takeFocusByPress();
   if (self.expired()) return;
@@ -143,7 +143,7 @@ void ViewSession::activate(int index) {
 }
 
 bool ViewSession::focusElement(int index) {
-  host_.scene(size());  // makes the elements that the index counts
+  host_.scene(size());  // creates the elements that `index` counts
   if (!host_.focus(index)) return false;
   needsFrame();
   if (hasFocus()) focusMoved(true);
@@ -167,7 +167,7 @@ void ViewFocus::came(Cause cause) {
       ringWanted_ = true;
       return;
     case Cause::interruption:
-      return;  // it is where it was
+      return;  // the focus stays where it was
     case Cause::other:
       // With several targets, select none.
       if (!host_.focusFrame() && host_.focusStops() == 1) host_.moveFocus(true);

@@ -13,10 +13,10 @@ namespace quorix::hosting {
 /// the keyboard is in use. Main thread.
 class QUORIX_EXPORT ViewFocus {
  public:
-  /// Why the surface got the focus or lost it.
+  /// Why the surface got or lost the focus.
   enum class Cause {
     forward,       ///< by keyboard, from before the view
-    backward,      ///< by keyboard, from behind it
+    backward,      ///< by keyboard, from after the view
     interruption,  ///< to or from a pop-up or another window
     other,
   };
@@ -27,12 +27,13 @@ class QUORIX_EXPORT ViewFocus {
   void left(Cause cause);
   /// Moves the focus by keyboard. False after the last element: the focus leaves the view.
   bool walk(bool forward);
-  /// Focuses the first element of a view that replaced the focused one; the ring stays as it was.
+  /// Focuses the first element of a new view in place of the focused one. The ring stays shown or
+  /// hidden.
   void renewed() { host_.moveFocus(true); }
-  /// Hides the ring when the user points.
+  /// Hides the ring when the user clicks or taps.
   void hideRing() { ringWanted_ = false; }
 
-  /// The frame of the focus ring.
+  /// The rectangle to draw the focus ring around, if it is shown.
   std::optional<layout::Rect> ring() const;
 
  private:
@@ -42,22 +43,22 @@ class QUORIX_EXPORT ViewFocus {
 
 class WindowSession;
 
-/// A view in a window: settings, input, focus and its sheet. A toolkit's surface derives from this
-/// and gives it a size, a place and paint. Main thread.
+/// A view in a window: settings, input, focus and its sheet. A toolkit's surface derives from this,
+/// sets its size and place, and paints it. Main thread.
 class QUORIX_EXPORT ViewSession : public Responder, private ViewHost::Client {
  public:
   ViewHost& host() { return host_; }
 
-  /// Shows another view, which starts with fresh states. The focus moves to its first element.
+  /// Shows another view with fresh states. The focus moves to its first element.
   void replaceView(swiftui::View view);
-  /// The settings, the desktop's or the window's scale changed.
+  /// Call after a change of the settings, of the desktop's, or of the window's scale.
   void settingsChanged();
 
   bool handle(const KeyEvent& event) override;
   using Responder::handle;
   bool takesTapAt(layout::Point point) override;
 
-  /// The surface is about to go: its sheet goes as well, and is told of now.
+  /// The surface is about to be deleted: closes its sheet and reports that immediately.
   void end();
 
   void focusCame(ViewFocus::Cause cause);
@@ -75,11 +76,11 @@ class QUORIX_EXPORT ViewSession : public Responder, private ViewHost::Client {
  protected:
   explicit ViewSession(text::TextEngine& engine) : host_(engine, *this), focus_(host_) {}
 
-  /// The view came to another window, or to none: its sheet leaves the one before.
+  /// The view left its window: closes the sheet there.
   void leaveWindow() { abandonSheet(); }
-  /// The view is in a window, which can show its sheet.
+  /// The view is in a window that can show its sheet.
   void enterWindow();
-  /// If no element acts any more, the focus leaves the view on a later turn.
+  /// If no element with an action is left, moves the focus out of the view on a later turn.
   void leaveFocus();
 
  private:
@@ -87,26 +88,26 @@ class QUORIX_EXPORT ViewSession : public Responder, private ViewHost::Client {
   virtual bool allowsMotion() const = 0;
   virtual layout::Size size() const = 0;
   virtual bool hasFocus() const = 0;
-  /// An element took a press. What hears of the focus may delete the surface.
+  /// Takes the focus because an element was pressed. A focus handler may delete the surface.
   virtual void takeFocusByPress() = 0;
-  /// Moves the focus to the next in the tab order. May delete the surface.
+  /// Moves the focus to the next object in the tab order. May delete the surface.
   virtual void giveFocusOn() = 0;
   /// The focus or its ring moved: paint a frame.
   virtual void needsFrame() = 0;
-  /// The view or its settings changed: its size may have, too.
+  /// The view or its settings changed, and possibly its size.
   virtual void contentChanged() = 0;
-  /// The focused element changed: tell assistive technology, now or once the toolkit has told of
-  /// the view as a whole.
+  /// Notifies assistive technology of the newly focused element, now or after the toolkit has
+  /// announced the whole view.
   virtual void focusMoved(bool later) = 0;
   /// Null without a window.
   virtual WindowSession* window() = 0;
 
-  // What happened. Each may delete the surface.
-  /// The user tapped something that acts: by pointer, key or assistive technology.
+  // Events. Each may delete the surface.
+  // The user activated an element with an action, by pointer, key or assistive technology.
   virtual void activated() {}
-  /// A sheet of the view is up. Told on a later turn, and once for what stands on each other.
+  /// A sheet of the view is open. Called on a later turn, and once for a whole stack of sheets.
   virtual void sheetOpened() {}
-  /// It left, likewise: one call for each of `sheetOpened`.
+  /// The sheets are closed. Called on a later turn, once for each `sheetOpened`.
   virtual void sheetClosed(SheetCloseReason) {}
 
   void presentationChanged() override { followSheet(); }
@@ -125,8 +126,8 @@ class QUORIX_EXPORT ViewSession : public Responder, private ViewHost::Client {
 
   ViewHost host_;
   ViewFocus focus_;
-  int sheets_ = 0;                                         ///< how many are up that this opened
-  bool toldOpen_ = false;                                  ///< that some are
+  int sheets_ = 0;         ///< open sheets that this view opened
+  bool toldOpen_ = false;  ///< whether `sheetOpened` was the latest call
   SheetCloseReason closeReason_ = SheetCloseReason::host;  ///< the latest
 };
 

@@ -116,7 +116,7 @@ bool ViewWindow::frame(double seconds) {
 }
 
 void ViewWindow::settle() {
-  // A sheet that measures its content asks for another height, and is then presented anew.
+  // A sheet that measures its content requests another height and is then presented again.
   for (int turn = 0; turn < ViewHost::mostTurns && view_->settle(); ++turn) {
   }
 }

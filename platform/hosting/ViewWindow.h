@@ -9,9 +9,9 @@
 
 namespace quorix::hosting {
 
-/// A window that one view fills, with its sheets over it, for a toolkit that paints all of them on
-/// one area and passes on the area's input. Pictures and tests use it without a toolkit. Main
-/// thread.
+/// A window with one view that fills it, and the sheets above it. For a toolkit that paints all of
+/// them on one area and passes on the area's input. Pictures and tests use it without a toolkit.
+/// Main thread.
 ///
 ///     void show(ViewWindow& window, const std::function<void(const render::Scene&)>& paint) {
 ///       window.frame(1.0 / 60);
@@ -20,32 +20,32 @@ namespace quorix::hosting {
 ///     }
 class QUORIX_EXPORT ViewWindow : public WindowSession {
  public:
-  /// `root` comes on screen and fills the window.
+  /// Puts `root` on screen; it fills the window.
   ViewWindow(text::TextEngine& engine, Settings settings, swiftui::View root, layout::Size size);
   ~ViewWindow() override;
 
   ViewSession& view();
-  /// What takes the input: the top-most sheet, or else the view.
+  /// The target of input: the top-most sheet, or the view without one.
   Responder& front();
-  /// Passes a key to it. False when the focus leaves the window, or nothing takes the key.
+  /// Sends a key to `front`. False if the key is not used, or if the focus leaves the window.
   bool handle(const KeyEvent& event);
 
   void setSettings(const Settings& settings);
   void resize(layout::Size view, layout::Size window);
-  /// Before each frame: lays out what changed, and moves the sheets on by `seconds`. Returns
-  /// whether one is still moving.
+  /// Call before each frame: lays out the changes and advances the sheets by `seconds`. Returns
+  /// whether one still moves.
   bool frame(double seconds);
-  /// Runs what waits for a later turn, and ends all motion.
+  /// Runs the work that is queued for later turns, and ends all motion.
   void settle();
 
-  /// The open sheets, from the bottom up: lay each display list over the one before.
+  /// The open sheets, from the bottom up. Paint their display lists in this order.
   std::vector<SheetSession*> sheets() const;
 
  private:
   class QUORIX_HIDDEN View;
   class QUORIX_HIDDEN Sheet;
 
-  /// Something changed: call `frame` and paint.
+  /// A change is visible: call `frame` and paint.
   virtual void needsFrame() {}
   /// The view's size or display list may have changed.
   virtual void viewChanged() { needsFrame(); }
@@ -53,7 +53,7 @@ class QUORIX_EXPORT ViewWindow : public WindowSession {
   virtual void activated() {}
   virtual void sheetOpened() {}
   virtual void sheetClosed(SheetCloseReason) {}
-  /// Without an engine, a page's room shows its background.
+  /// Without an engine, the background of the embed is shown in the page's place.
   virtual std::unique_ptr<PageEngine> openPage(const render::EmbedItem&, PageEngine::Client&);
   virtual bool showsPages() const { return false; }
 
@@ -65,7 +65,7 @@ class QUORIX_EXPORT ViewWindow : public WindowSession {
   layout::Size viewSize_;
   layout::Size size_;
   std::unique_ptr<View> view_;
-  std::vector<std::unique_ptr<Sheet>> made_;  ///< the closed ones for one more turn
+  std::vector<std::unique_ptr<Sheet>> made_;  ///< keeps closed ones for one more turn
 };
 
 }  // namespace quorix::hosting

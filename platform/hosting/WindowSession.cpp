@@ -50,16 +50,16 @@ SheetSession& WindowSession::makeSheet(Responder* opener, bool animated) {
   return sheet;
 }
 
-// Activation: of several windows in sight, the one that the user works in is active.
+// Activation: of several visible windows, the one that the user works in is active.
 
 void WindowSession::used(Responder& responder) {
   used_ = responder.weak();
-  becameKey();  // also where no window manager gives the focus to any window
+  becameKey();  // for systems without a window manager to set the focus
 }
 
 void WindowSession::settingsChanged(const Responder& opener) {
-  // From the top: a sheet that loses its motion may be at its end and leave the list, with those
-  // above it.
+  // Start at the top: a sheet that loses its motion may close and leave the list, together with
+  // those above it.
   for (std::size_t i = sheets_.size(); i-- > 0;) {
     if (i >= sheets_.size()) continue;
     const auto its = sheets_[i]->opener_.lock();
@@ -87,11 +87,11 @@ void WindowSession::setSafeArea(const layout::SideInsets& safeArea) {
 
 // Presented controllers.
 
-/// Shows them on a later turn, since the caller may be at work.
+/// Shows them on a later turn, because the caller may be in the middle of its own work.
 void WindowSession::presentedControllersChanged(uikit::UIWindow&, bool animated) {
   animated_ = animated;
   for (const Shown& shown : shown_) {
-    // At once, while the sheet knows what the user did.
+    // Do this at once, while the sheet knows which event closed it.
     shown.isPresented.set(shown.controller->presentingViewController() != nullptr);
   }
   if (showQueued_) return;
@@ -138,7 +138,7 @@ swiftui::Presentation controllerPresentation(
     const auto presenter = closed ? closed->presentingViewController() : nullptr;
     if (presenter) presenter->dismiss(true);
   };
-  // A controller's view fills its screen, under what the device covers as well.
+  // A controller's view fills the whole screen, also the parts that the device covers.
   return {swiftui::Binding<bool>(std::move(isPresented)),
           swiftui::hosting(controller).edgesIgnoringSafeArea(layout::Edges::all())};
 }

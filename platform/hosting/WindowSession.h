@@ -12,9 +12,9 @@
 
 namespace quorix::hosting {
 
-/// A window of a toolkit with the sheets over it. For imperative views it is a scene with one
-/// window, whose root controller stands for the host's own screen; controllers that are presented
-/// over it are shown as sheets. Main thread.
+/// A toolkit's window with the sheets over it. Imperative views see a scene with one window, whose
+/// root controller represents the host's own screen. Controllers that are presented over it appear
+/// as sheets. Main thread.
 class QUORIX_EXPORT WindowSession : private uikit::UIWindow::Client {
  public:
   WindowSession();
@@ -22,21 +22,21 @@ class QUORIX_EXPORT WindowSession : private uikit::UIWindow::Client {
   WindowSession(const WindowSession&) = delete;
   WindowSession& operator=(const WindowSession&) = delete;
 
-  /// The user works with `responder`: controllers that are presented now are its sheets.
+  /// The user works with `responder`. Controllers that are presented after this become its sheets.
   void used(Responder& responder);
-  /// The settings of `opener` changed: the sheets above it follow.
+  /// The settings of `opener` changed. Updates the sheets above it.
   void settingsChanged(const Responder& opener);
   /// The window got the keyboard focus.
   void becameKey();
-  /// The window came into sight or went out of it.
+  /// The window became visible or invisible.
   void visibilityChanged();
 
-  /// What the device covers at the window's edges. Its sheets keep clear of it, open ones too.
+  /// The insets that the device covers at the window's edges. Sheets avoid them, open ones too.
   void setSafeArea(const layout::SideInsets& safeArea);
   const layout::SideInsets& safeArea() const { return safeArea_; }
 
-  /// A new sheet above `opener` (null: above the window) and over the whole window. It moves if
-  /// `animated`, and the settings of the opener allow it.
+  /// Makes a sheet above `opener` (null: above the window) that covers the whole window. It moves
+  /// if `animated` is true and the opener's settings allow motion.
   SheetSession& makeSheet(Responder* opener, bool animated = true);
   /// The sheet that takes the input; null without one.
   SheetSession* topmost() const { return sheets_.empty() ? nullptr : sheets_.back(); }
@@ -48,7 +48,7 @@ class QUORIX_EXPORT WindowSession : private uikit::UIWindow::Client {
   /// Makes the toolkit's sheet, which deletes itself after `vanish`.
   virtual SheetSession& newSheet(const Responder* opener) = 0;
 
-  /// A controller on its sheet.
+  /// A controller and its sheet.
   struct Shown {
     std::shared_ptr<uikit::UIViewController> controller;
     std::weak_ptr<Responder*> sheet;
@@ -64,13 +64,13 @@ class QUORIX_EXPORT WindowSession : private uikit::UIWindow::Client {
   std::shared_ptr<uikit::UIWindowScene> scene_ = std::make_shared<uikit::UIWindowScene>();
   std::weak_ptr<Responder*> used_;
   layout::SideInsets safeArea_;
-  std::vector<SheetSession*> sheets_;  ///< those presented and open, from the bottom up
+  std::vector<SheetSession*> sheets_;  ///< presented and open ones, from the bottom up
   std::vector<Shown> shown_;           ///< from the bottom up
   bool animated_ = true;
-  std::shared_ptr<WindowSession*> showQueued_;  ///< while a turn is on its way
+  std::shared_ptr<WindowSession*> showQueued_;  ///< exists while a turn is queued
 };
 
-/// The sheet that shows the presented `controller`: closing it dismisses the controller. Main
+/// Makes the sheet that shows the presented `controller`. Closing it dismisses the controller. Main
 /// thread.
 QUORIX_EXPORT swiftui::Presentation controllerPresentation(
     const std::shared_ptr<uikit::UIViewController>& controller);

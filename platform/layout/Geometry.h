@@ -92,8 +92,8 @@ struct Edges {
   bool operator==(const Edges&) const = default;
 };
 
-/// What a parent offers a child: 0 asks for the minimum, infinity for the maximum, nothing for the
-/// ideal.
+/// What a parent offers a child in each direction. 0 asks for the minimum, infinity for the
+/// maximum, an absent value for the ideal size.
 struct ProposedSize {
   std::optional<double> width;
   std::optional<double> height;
@@ -111,18 +111,18 @@ struct Alignment {
   bool operator==(const Alignment&) const = default;
 };
 
-/// Where an extent of `inner` starts inside one of `outer` when aligned.
+/// The offset at which an extent of `inner` starts inside one of `outer`.
 double alignedOffset(HorizontalAlignment alignment, double outer, double inner);
 double alignedOffset(VerticalAlignment alignment, double outer, double inner);
 Point alignedOffset(Alignment alignment, Size outer, Size inner);
 
-/// The part of a surface that nothing of the device lies over, and how far the surface goes on
-/// around it.
+/// The part of a surface that the device does not cover (with a camera cut-out or bars), and the
+/// insets around it.
 struct SafeArea {
   Rect frame;
   EdgeInsets insets;
 
-  /// Of a surface of `size`; nothing is left where the insets meet.
+  /// The safe area of a surface of `size`. It is empty if the insets overlap.
   static SafeArea within(Size size, const EdgeInsets& insets) {
     return {{{insets.leading, insets.top},
              {std::max(0.0, size.width - insets.leading - insets.trailing),
@@ -130,7 +130,8 @@ struct SafeArea {
             insets};
   }
 
-  /// How far `rect` may go on beyond those of `edges` at which it reaches the area's own.
+  /// How far `rect` may extend into the insets: at those of `edges` where it touches the safe
+  /// area's edge.
   EdgeInsets beyond(const Rect& rect, Edges edges) const {
     constexpr double touching = 1e-6;
     EdgeInsets more;
@@ -144,24 +145,24 @@ struct SafeArea {
   }
 };
 
-/// The device pixels that points fall on.
+/// Converts lengths in points to whole device pixels.
 class PixelGrid {
  public:
   /// `scale`: device pixels for each point, above 0.
   explicit PixelGrid(double scale) : scale_(scale) {}
 
   double pixel() const { return 1 / scale_; }
-  /// The nearest pixel. Halves, and what misses one by rounding noise, all go the same way, so that
-  /// a hairline between two halves neither vanishes nor doubles.
+  /// The nearest pixel. Halves, and values that miss one by rounding noise, are always rounded up.
+  /// Otherwise a hairline between two halves could vanish or double.
   double round(double length) const { return std::floor(length * scale_ + 0.5 + noise) / scale_; }
 
-  /// The next whole pixel; a length that misses one by rounding noise stays there.
+  /// The next whole pixel. Rounding noise above a whole pixel is ignored.
   double ceil(double length) const { return std::ceil(length * scale_ - noise) / scale_; }
-  /// The whole pixel before, likewise.
+  /// The whole pixel before. Rounding noise below a whole pixel is ignored.
   double floor(double length) const { return std::floor(length * scale_ + noise) / scale_; }
   Size ceil(Size size) const { return {ceil(size.width), ceil(size.height)}; }
 
-  /// Rounds edge by edge, so that neighbors that touch still touch.
+  /// Rounds each edge, so that rectangles that touch still touch.
   Rect round(const Rect& rect) const {
     const Point origin = {round(rect.left()), round(rect.top())};
     return {origin, {round(rect.right()) - origin.x, round(rect.bottom()) - origin.y}};

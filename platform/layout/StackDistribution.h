@@ -8,37 +8,36 @@
 
 namespace quorix::layout {
 
-/// The space between stack children, and the least that a spacer takes, where nothing else is said.
+/// The default space between stack children, and the default minimum length of a spacer.
 inline constexpr double defaultSpacing = 8;
 
-/// A stack child, as the division of its stack's length sees it. Lengths are along the stack's
-/// axis.
+/// The lengths of a stack child along the stack's axis.
 struct StackChild {
-  double atZero = 0;      ///< what it takes when offered nothing
-  double atInfinity = 0;  ///< what it takes when offered everything
+  double atZero = 0;      ///< chosen length for the offer 0
+  double atInfinity = 0;  ///< chosen length for an infinite offer
   double least = 0;       ///< minimum length without breaking a word
-  double length = 0;      ///< what it chose
-  double kept = 0;        ///< what no offer to another child may take from it
+  double length = 0;      ///< the chosen length
+  double kept = 0;        ///< reserved: offers to other children leave at least this
   bool isSpacer = false;
 
   double flexibility() const { return atInfinity == infinity ? infinity : atInfinity - atZero; }
 };
 
-/// The children of a stack in their order, and in the order in which they are asked.
+/// The children of a stack, in their own order and in the order of the offers.
 struct StackChildren {
   std::span<StackChild> all;
-  std::span<StackChild*> asked;  ///< as many, to be filled by `distribute`
+  std::span<StackChild*> asked;  ///< same size; `distribute` fills it
 };
 
-/// Fills `asked`: the least flexible first, spacers last. Sets what is kept for each child: its
-/// least length; if these exceed `available` together, each child gives up the same part of what it
-/// can. Returns the sum of what is kept.
+/// Fills `asked`: the least flexible first, spacers last. Reserves each child's least length in
+/// `kept`. If these exceed `available` together, reduces each child by the same fraction of what it
+/// can give up. Returns the sum of the reserved lengths.
 double prepareDistribution(StackChildren children, double available);
 
-/// Divides `available` (what is left after the spacing; may be infinite) among `children`: one
-/// after the other is asked with an equal share of what remains, the spacers' least lengths kept
-/// for them. No child is offered less than `least`, and no offer may push another child below its own.
-/// `ask(index, offer)` returns the length that the child chooses.
+/// Divides `available` (what is left after the spacing; may be infinite) among `children`. Offers
+/// each child in turn an equal share of the rest; the spacers' minimum lengths are reserved. No
+/// offer is below the child's `least`, or pushes another child below its own, while `available`
+/// suffices. `ask(index, offer)` returns the length that the child chooses.
 template <class Ask>
 void distribute(StackChildren children, double available, Ask ask) {
   double keptForOthers = prepareDistribution(children, available);

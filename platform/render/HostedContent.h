@@ -9,22 +9,22 @@
 
 namespace quorix::render {
 
-/// Content of another toolkit in a view tree: sizes itself and makes its own display list. In one
-/// place of one tree at a time; main thread.
+/// Content of another toolkit in a view tree: sizes itself and makes its own display list. May be
+/// in only one place of one tree at a time. Main thread.
 class QUORIX_EXPORT HostedContent {
  public:
   virtual ~HostedContent() = default;
 
-  /// The size that it chooses when offered `proposal`. Points.
+  /// The size in points that the content chooses for the offer `proposal`.
   virtual layout::Size sizeThatFits(layout::ProposedSize proposal, text::TextEngine& engine,
                                     double scale) = 0;
-  /// The content laid out in an area of `size`, with its origin at zero.
+  /// The display list of the content in an area of `size`, with its origin at zero.
   virtual Scene scene(layout::Size size, const Display& display, text::TextEngine& engine) = 0;
 
   /// Calls `changed` whenever the size or the display list may have changed.
   void onChange(std::function<void()> changed) { changed_ = std::move(changed); }
 
-  /// Runs `update` without notices of change: for changes during an evaluation.
+  /// Runs `update` and suppresses its change notices. For changes during an evaluation.
   template <class Update>
   void updateQuietly(Update update) {
     const bool before = std::exchange(quiet_, true);

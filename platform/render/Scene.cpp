@@ -15,7 +15,7 @@ void appendMoved(std::vector<Part>& to, std::vector<Part> from, layout::Point of
   }
 }
 
-/// The top-most embed under `point`, or null. Hit areas above it are ignored.
+/// The top-most embed under `point`, or null. Ignores hit areas above it.
 const EmbedItem* embedUnder(const std::vector<Item>& items, layout::Point point) {
   for (auto item = items.rbegin(); item != items.rend(); ++item) {
     const auto* embed = std::get_if<EmbedItem>(&*item);
@@ -24,7 +24,7 @@ const EmbedItem* embedUnder(const std::vector<Item>& items, layout::Point point)
   return nullptr;
 }
 
-/// How far `point` is from `frame` if it lies in the room to tap around it; infinite otherwise.
+/// The distance of `point` from `frame`; infinite if the point is outside the enlarged tap area.
 double reach(const layout::Rect& frame, layout::Point point) {
   const auto beside = [](double low, double length, double at) {
     if (at >= low && at < low + length) return 0.0;

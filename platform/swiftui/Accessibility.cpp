@@ -1,4 +1,4 @@
-// The modifiers that decide what assistive technology meets.
+// The modifiers for assistive technology.
 #include <algorithm>
 #include <string>
 #include <utility>
@@ -14,8 +14,8 @@ using foundation::Action;
 using render::AccessibilityElement;
 using render::Role;
 
-/// One element in place of all that the content has. Its heading stays one, so that a reader who
-/// walks from heading to heading still stops there.
+/// Replaces the content's elements by one. It stays a heading if the content has one, so that users
+/// can still navigate to it by heading.
 class IgnoredChildren final : public Decoration {
  public:
   using Decoration::Decoration;

@@ -9,8 +9,7 @@
 
 namespace quorix::swiftui {
 
-/// The color set of a name, read once. Without a bundle of its own it follows the host's main
-/// bundle.
+/// A color set by name, read once. With a null bundle it follows changes of the host's main bundle.
 struct Color::Asset {
   Asset(std::string_view colorName, foundation::Bundle::Ref from)
       : name(colorName), bundle(std::move(from)) {}

@@ -16,7 +16,8 @@ namespace quorix::swiftui {
 /// A cheap value; any thread.
 class QUORIX_EXPORT Color {
  public:
-  /// The color set `name` in `bundle` (null: the host's main bundle). Looked up when first drawn.
+  /// The color set `name` in `bundle` (null: the host's main bundle). Looked up at the first
+  /// drawing.
   Color(std::string_view name, foundation::Bundle::Ref bundle);
   /// The color set that `resource` names.
   Color(const ColorResource& resource);
@@ -24,10 +25,10 @@ class QUORIX_EXPORT Color {
   static const Color& black();
   static const Color& white();
 
-  /// The value to draw with; nothing when the bundle has no color set of that name.
+  /// The value to draw with; absent if the bundle has no color set of that name.
   std::optional<graphics::RGBA> resolve(graphics::Appearance appearance) const;
 
-  /// How a printed view tree names it: the asset's name, or "#RRGGBBAA".
+  /// Its text in a printed view tree: the asset's name, or "#RRGGBBAA".
   std::string description() const;
 
   bool operator==(const Color& other) const;

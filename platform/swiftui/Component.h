@@ -24,18 +24,18 @@ class QUORIX_EXPORT Component : public Node {
  protected:
   virtual std::string_view name() const = 0;
   virtual bool isModifier() const = 0;
-  /// The step into the body, one for each type.
+  /// The path step into the body; each type has its own.
   virtual char32_t step() const = 0;
-  /// The body, with the states bound to `states`, which the first call fills.
+  /// The body with the states bound to `states`. The first call creates the storage in `states`.
   virtual View body(StateSlots& states) const = 0;
-  /// Visits the objects whose changes re-evaluate the body.
+  /// Calls `visit` with the objects whose changes re-evaluate the body.
   virtual void visitObserved(
       const std::function<void(combine::ObservableObject&)>& visit) const = 0;
 };
 
 namespace detail {
 
-/// Hands `state` its storage, which the first call makes. Returns where the next one's is.
+/// Gives `state` its storage and creates it on the first call. Returns the slot of the next state.
 template <class T>
 std::shared_ptr<Kept>& bindState(const State<T>& state, std::shared_ptr<Kept>& slot,
                                  const foundation::Action& onChange) {
@@ -56,7 +56,7 @@ void bindStates(const V& value, StateSlots& states) {
   }
 }
 
-/// What views and modifiers with a body have in common.
+/// Common base of views and modifiers with a body.
 template <class V>
 class ComponentOf : public Component {
  public:
@@ -74,7 +74,7 @@ class ComponentOf : public Component {
   }
 
  protected:
-  /// The value with its states bound to `states`.
+  /// A copy of the value with its states bound to `states`.
   V bound(StateSlots& states) const {
     V copy = value_;
     bindStates(copy, states);

@@ -26,7 +26,7 @@ DisplayListBuilder::DisplayListBuilder(Evaluation& evaluation, const Environment
 
 void DisplayListBuilder::build() {
   evaluation_.root->rules->show(*this, *evaluation_.root);
-  // A picture without a name says nothing.
+  // Drop elements with neither a text nor an action, such as images without a name.
   std::erase_if(list.accessibility, [](const AccessibilityElement& element) {
     return !isNamed(element) && !element.action;
   });

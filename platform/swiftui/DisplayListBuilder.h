@@ -15,18 +15,17 @@
 
 namespace quorix::swiftui {
 
-/// A view that wants to know its size, with its place in the tree.
+/// A view that observes its size, with its place in the tree.
 struct WatchedSize {
   TreePath path;
   layout::Size size;
   std::function<void(layout::Size)> action;
 };
 
-/// Makes the display list of a laid-out evaluation: goes down through its elements, each of which
-/// adds what it shows.
+/// Makes the display list of a laid-out evaluation. Visits its elements; each adds its items.
 class DisplayListBuilder {
  public:
-  /// `area`: what the evaluation was laid out in.
+  /// `area`: the size in which the evaluation was laid out.
   DisplayListBuilder(Evaluation& evaluation, const Environment& settings, text::TextEngine& engine,
                      layout::Size area);
 
@@ -39,26 +38,28 @@ class DisplayListBuilder {
   void showChildren(const Element& element);
 
   layout::Rect onPixels(const layout::Rect& frame) const { return grid_.round(frame); }
-  /// `frame` as the reading direction has it. Frames of elements are mirrored already.
+  /// `frame` in the reading direction. Do not call it for frames of elements: those are mirrored
+  /// already.
   layout::Rect mirrored(const layout::Rect& frame) const;
 
-  /// Shows `content` in the frame of `element`.
+  /// Adds the display list of `content` in the frame of `element`.
   void host(render::HostedContent& content, const Element& element);
 
-  // What assistive technology meets.
+  // Assistive technology.
 
-  /// Adds an element of `role`. Null where its words are not wanted: what stands further out has
-  /// its own.
+  /// Adds an element with `role`. Returns null if an enclosing element provides the texts; then
+  /// leave them empty.
   render::AccessibilityElement* describe(render::Role role, const layout::Rect& frame);
   std::size_t described() const { return list.accessibility.size(); }
   std::span<render::AccessibilityElement> describedSince(std::size_t first) {
     return std::span(list.accessibility).subspan(first);
   }
-  /// Shows the children, whose words are not wanted.
+  /// Shows the children without their texts for assistive technology.
   void showChildrenUnnamed(const Element& element);
 
   static bool isNamed(const render::AccessibilityElement& element);
-  /// Makes `element` do `action` as a button does. The innermost action is the one.
+  /// Gives `element` the action and the role of a button. Keeps an existing action, because the
+  /// innermost one counts.
   static void act(render::AccessibilityElement& element, const foundation::Action& action);
 
   /// An image of a bundle's asset catalog; null without one.
@@ -76,8 +77,8 @@ class DisplayListBuilder {
   text::TextEngine& engine_;
   layout::PixelGrid grid_;
   double width_;
-  int unnamed_ = 0;                   // enclosing elements that have words of their own
-  NamedImage* labelImage_ = nullptr;  // of the button whose label is shown
+  int unnamed_ = 0;                   // enclosing elements that provide the texts
+  NamedImage* labelImage_ = nullptr;  // for the button whose label is being shown
 };
 
 }  // namespace quorix::swiftui

@@ -12,7 +12,7 @@ using layout::Axis;
 struct ShownDivider final : Element {
   ShownDivider(const ElementRules& kind, Axis stackAxis) : Element(kind), axis(stackAxis) {}
 
-  Axis axis;  ///< of the stack that it stands in
+  Axis axis;  ///< of the enclosing stack
 };
 
 /// The platform's hairline color.

@@ -14,7 +14,7 @@
 
 namespace quorix::swiftui {
 
-/// Views in order, for as long as the call that takes them.
+/// A list of views, valid during the call that it is passed to.
 class Views {
  public:
   Views(std::initializer_list<View> views) : count_(views.size()) { first_ = views.begin(); }
@@ -28,12 +28,13 @@ class Views {
   std::size_t count_;
 };
 
-// The elements that views are made of. A missing spacing is the platform's default.
+// The elements of views. Without a spacing, the platform's default applies.
 
 View HStack(layout::VerticalAlignment alignment, std::optional<double> spacing, Views children);
 View VStack(layout::HorizontalAlignment alignment, std::optional<double> spacing, Views children);
 
-/// Takes what is left along its stack's axis; a missing minimum is the default spacing.
+/// Takes the remaining length along its stack's axis. Without a minimum, the default spacing
+/// applies.
 View Spacer(std::optional<double> minLength = std::nullopt);
 
 /// A hairline across its stack.
@@ -42,20 +43,20 @@ View Divider();
 /// An image of the bundle's asset catalog at its natural size; an unknown name shows nothing.
 View Image(std::string_view name, foundation::Bundle::Ref bundle);
 
-/// Does `action` when it is tapped. To assistive technology it is one element, called what its
-/// label says; a label that is only an image is called by the image's name.
+/// Runs `action` when it is tapped. Assistive technology gets one element with the label's text, or
+/// with the image's name if the label is only an image.
 View Button(foundation::Action action, View label);
 
-/// The image of that asset.
+/// The image set that `resource` names.
 View Image(const ImageResource& resource);
 
-/// Several views where one is expected: the enclosing stack takes them as its own children.
+/// Combines several views into one. The enclosing stack lays them out as its own children.
 View Group(Views children);
 
-/// The branch that `condition` chose of two; a switch to the other starts that one's state afresh.
+/// The branch that `condition` chose of two. A switch to the other branch resets the states.
 View Conditional(bool condition, View chosen);
 
-/// The view that `make` returns, made when it is shown.
+/// The view that `make` returns. `make` runs when the view is evaluated.
 View Lazy(std::function<View()> make);
 
 }  // namespace quorix::swiftui

@@ -23,7 +23,7 @@ constexpr std::array<std::string_view, 12> names = {
     "accessibilityExtraExtraExtraLarge",
 };
 
-// The published point sizes of each text style, a column for each category.
+// The published point sizes of each text style, one column for each category.
 constexpr double points[11][12] = {
     {31, 32, 33, 34, 36, 38, 40, 44, 48, 52, 56, 60},  // largeTitle
     {25, 26, 27, 28, 30, 32, 34, 38, 43, 48, 53, 58},  // title

@@ -34,16 +34,16 @@ QUORIX_EXPORT std::string_view nameOf(ContentSizeCategory category);
 /// `extraExtraLarge`.
 QUORIX_EXPORT ContentSizeCategory contentSizeCategoryFor(double factor);
 
-/// What a size of `style` at the default category is multiplied by at `category`.
+/// The factor from a size of `style` at the default category to its size at `category`.
 QUORIX_EXPORT double scaleFactor(TextStyle style, ContentSizeCategory category);
 
-/// What a surface tells the views on it: the user's settings and the screen.
+/// The settings of a surface for its views: the user's and the screen's.
 struct Environment {
   graphics::Appearance appearance = graphics::Appearance::light;
   layout::LayoutDirection direction = layout::LayoutDirection::leftToRight;
   ContentSizeCategory textSize = ContentSizeCategory::large;
   double scale = 1;      ///< device pixels for each point
-  std::string language;  ///< the user's own, a code; for upper case and the host's texts
+  std::string language;  ///< code of the user's language; for upper case and the host's texts
   bool operator==(const Environment&) const = default;
 };
 

@@ -26,10 +26,10 @@ struct TaskRequest {
   foundation::Action action;
 };
 
-/// What one evaluation of a view tree's bodies gives: the elements to lay out, and everything that
-/// the tree asks of its host. All of it lives in one arena and goes with the evaluation.
+/// The result of one evaluation of a view tree: the elements to lay out, and the requests to the
+/// `ViewHost`. All of it lives in one arena and is destroyed with the evaluation.
 class Evaluation {
-  foundation::Arena::Lease arena_ = foundation::Arena::lease();  // the last to go
+  foundation::Arena::Lease arena_ = foundation::Arena::lease();  // first member: destroyed last
 
  public:
   Evaluation() = default;
@@ -42,7 +42,7 @@ class Evaluation {
   std::pmr::vector<combine::ObservableObject*> observed{arena_->resource()};
   std::optional<Presentation> presentation;
   PresentationDetents detents;
-  // How much the display list will hold, at most.
+  // Upper bounds for the size of the display list.
   std::size_t items = 0;
   std::size_t hitAreas = 0;
 };
@@ -51,8 +51,8 @@ class Evaluation {
 std::unique_ptr<Evaluation> evaluate(const View& root, const Environment& environment,
                                      StateStore& store);
 
-/// One evaluation of a view tree: goes down through its nodes and bodies and collects the elements
-/// that they stand for, and what they ask of their host. Main thread.
+/// Runs one evaluation of a view tree: visits its nodes and bodies, and collects their elements and
+/// their requests to the `ViewHost`. Main thread.
 class Evaluator {
  public:
   Evaluator(const Environment& settings, StateStore& store, Evaluation& result)
@@ -64,22 +64,22 @@ class Evaluator {
   Evaluation& result() { return result_; }
   const TreePath& path() const { return path_; }
 
-  /// An object of this evaluation.
+  /// Makes an object that lives as long as the evaluation.
   template <class T, class... Arguments>
   T* make(Arguments&&... arguments) {
     return result_.arena().make<T>(std::forward<Arguments>(arguments)...);
   }
 
-  /// Appends everything that `view` stands for. The view outlives the evaluation's elements.
+  /// Appends the elements of `view`. The view must outlive the evaluation's elements.
   void collect(const View& view, const Look& look, layout::Axis axis, ElementList& out) {
     view.node()->evaluate(*this, look, axis, out);
   }
-  /// The same for a view that was made by this evaluation, which keeps it.
+  /// Appends the elements of a view that this evaluation made, and keeps the view.
   void collectMade(View view, const Look& look, layout::Axis axis, ElementList& out) {
     collect(*make<View>(std::move(view)), look, axis, out);
   }
 
-  /// Collects `content` and appends to `out` what `wrap` makes of each of its elements.
+  /// Collects `content`, calls `wrap` with each of its elements, and appends the results to `out`.
   template <class Wrap>
   void wrapEach(const View& content, const Look& look, layout::Axis axis, ElementList& out,
                 Wrap wrap) {
@@ -92,23 +92,23 @@ class Evaluator {
     }
   }
 
-  /// Makes `child` the last of the element's children.
+  /// Appends `child` to the children of `parent`.
   static void adopt(Element& parent, Element* child) {
     parent.children.append(child);
     parent.holdsText = parent.holdsText || child->holdsText;
   }
 
-  /// Appends everything that `children` stand for, each in a place of its own.
+  /// Appends the elements of `children`; each child has its own place in the tree.
   void collectAll(std::span<const View> children, const Look& look, layout::Axis axis,
                   ElementList& out);
 
-  /// A stack of `children`.
+  /// Makes a stack of `children`.
   Element* stacked(const Stack& rules, ElementList children);
 
-  /// The one element that `view` stands for; several are stacked.
+  /// The element of `view`. Several elements are put into a stack.
   Element* single(const View& view, const Look& look, layout::Axis axis);
 
-  /// Goes on one step further in the tree.
+  /// Runs `go` with `step` appended to the path.
   template <class Go>
   void at(char32_t step, Go go) {
     path_.push_back(step);
@@ -116,7 +116,7 @@ class Evaluator {
     path_.pop_back();
   }
 
-  /// What is kept for the present place from one evaluation to the next.
+  /// The states of the current place, which survive from one evaluation to the next.
   StateSlots& states() { return store_.states(path_); }
 
  private:

@@ -6,7 +6,7 @@
 
 namespace quorix::swiftui {
 
-/// The roles that scaling fonts follow, largest first.
+/// The text styles that scaling fonts refer to, largest first.
 enum class TextStyle : std::uint8_t {
   largeTitle,
   title,
@@ -23,7 +23,7 @@ enum class TextStyle : std::uint8_t {
 
 enum class FontWeight : std::uint8_t { regular, medium, semibold, bold };
 
-/// A face by name at a size in points. An unknown name draws in the system's font.
+/// A face by name at a size in points. An unknown name selects the system's font.
 ///
 ///     auto font = Font::custom("Saans-Regular", Font::FixedSize{14});
 class Font {

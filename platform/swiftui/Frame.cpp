@@ -1,4 +1,4 @@
-// The modifiers that decide what size their content is offered.
+// The modifiers that change the proposed size.
 #include <algorithm>
 #include <optional>
 #include <string>
@@ -48,7 +48,7 @@ class FixedFrame final : public LayoutModifier {
   layout::Alignment alignment_;
 };
 
-/// As wide as it is offered.
+/// Takes the whole proposed width.
 class MaxWidthFrame final : public LayoutModifier {
  public:
   MaxWidthFrame(View content, layout::Alignment alignment)
@@ -73,7 +73,7 @@ class MaxWidthFrame final : public LayoutModifier {
   layout::Alignment alignment_;
 };
 
-/// Its content's ideal length; the proposal has no effect.
+/// Has its content's ideal length and ignores the proposal.
 class FixedSize final : public LayoutModifier {
  public:
   FixedSize(View content, bool horizontal, bool vertical)
@@ -104,7 +104,7 @@ class FixedSize final : public LayoutModifier {
   bool vertical_;
 };
 
-/// As large as fits, in the proportion of its content's ideal size.
+/// Takes the largest size that fits and has the aspect ratio of its content's ideal size.
 class ScaledToFit final : public LayoutModifier {
  public:
   using LayoutModifier::LayoutModifier;
@@ -120,7 +120,7 @@ class ScaledToFit final : public LayoutModifier {
  private:
   std::string description() const override { return ".scaledToFit()"; }
 
-  /// The largest size in the proportion of `ideal` that fits into `proposal`.
+  /// The largest size with the aspect ratio of `ideal` that fits into `proposal`.
   static ProposedSize fitting(Size ideal, ProposedSize proposal) {
     if (ideal.width <= 0 || ideal.height <= 0) return proposal;
     if (!proposal.width && !proposal.height) return exactly(ideal);

@@ -32,7 +32,7 @@ class ImageNode final : public Node, public ElementRules {
 
   void evaluate(Evaluator& in, const Look& look, layout::Axis, ElementList& out) const override {
     const auto asset = graphics::imageSet(bundle_, name_);
-    // An unknown image shows nothing, but what is around it keeps its size.
+    // An unknown image shows nothing, but frames and padding around it keep their size.
     const layout::Size size = asset ? layout::Size{asset->width, asset->height} : layout::Size{};
     ++in.result().items;
     out.append(in.make<ShownImage>(static_cast<const ElementRules&>(*this), size, look,

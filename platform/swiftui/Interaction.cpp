@@ -1,5 +1,5 @@
-// The modifiers that act: on a tap, when the view comes on screen, when its size changed, with a
-// sheet.
+// The modifiers that run actions: on a tap, when the view appears, when its size changed, and to
+// present a sheet.
 #include <algorithm>
 #include <functional>
 #include <string>
@@ -30,11 +30,11 @@ class TapGesture final : public Decoration {
   }
 
   void show(DisplayListBuilder& to, const Element& self) const override {
-    // Before what lies inside and on top of it.
+    // Add this area first: areas inside and on top of it come later and win.
     to.list.hitAreas.push_back({to.onPixels(self.frame), action_});
     const std::size_t first = to.described();
     to.showChildren(self);
-    // A picture without a name is not made to act beside what has one.
+    // If any element has a text, the elements without one do not get the action.
     const auto below = to.describedSince(first);
     const bool anyNamed = std::any_of(below.begin(), below.end(), DisplayListBuilder::isNamed);
     for (AccessibilityElement& child : below) {
@@ -48,14 +48,14 @@ class TapGesture final : public Decoration {
   Action action_;
 };
 
-/// The platform's color of what can be tapped.
+/// The platform's color of buttons and links.
 const Color& accentColor(graphics::Appearance appearance) {
   static const Color light = Color::fixed({0, 122, 255});
   static const Color dark = Color::fixed({10, 132, 255});
   return appearance == graphics::Appearance::dark ? dark : light;
 }
 
-/// An element that holds its label.
+/// A button is an element with one child, its label.
 class ButtonNode final : public Node, public Transparent<ElementRules> {
  public:
   ButtonNode(Action action, View label) : label_(std::move(label)), action_(std::move(action)) {}

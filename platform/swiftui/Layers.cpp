@@ -1,5 +1,4 @@
-// The modifiers that put something over or behind their content, and the safe area that both may
-// ignore.
+// The modifiers that put content over or behind their own, and the one that ignores the safe area.
 #include <algorithm>
 #include <string>
 #include <utility>
@@ -16,7 +15,7 @@ using layout::EdgeInsets;
 using layout::ProposedSize;
 using layout::Size;
 
-/// Where `frame` reaches the safe area's edge on one of `edges`, it goes on beyond.
+/// Extends `frame` beyond the safe area on those of `edges` where it touches the safe area's edge.
 layout::Rect beyondSafeArea(const LayoutPass& in, const layout::Rect& frame, layout::Edges edges) {
   const EdgeInsets more = in.safeArea.beyond(frame, edges);
   return {{frame.left() - more.leading, frame.top() - more.top},
@@ -47,7 +46,7 @@ class EdgesIgnoringSafeArea final : public SizedAsContent {
 struct FilledElement final : Element {
   using Element::Element;
 
-  layout::Rect filled;  ///< its frame, and the safe area that the fill ignores
+  layout::Rect filled;  ///< the frame, extended by the safe area that the fill ignores
 };
 
 class Background final : public SizedAsContent {
@@ -119,7 +118,7 @@ class Border final : public SizedAsContent {
 struct OverlaidElement final : Element {
   using Element::Element;
 
-  bool makesWay = false;  ///< the user asks for a large text
+  bool makesWay = false;  ///< the user chose a large text size
 };
 
 bool hasTextUnder(const layout::Rect& cover, const Element& element) {
@@ -132,8 +131,8 @@ bool hasTextUnder(const layout::Rect& cover, const Element& element) {
   return false;
 }
 
-/// Its second child lies over the first, in the first one's frame. Large text that would come to
-/// lie under a button at the top begins below it.
+/// Places its second child over the first, in the first one's frame. If large text would lie under
+/// a top-aligned second child, moves the first child below it.
 class Overlay final : public SizedAsContent {
  public:
   Overlay(View content, layout::Alignment alignment, View above)

@@ -7,24 +7,26 @@
 
 namespace quorix::swiftui {
 
-/// One layout of an evaluation: the parent proposes, the child chooses, the parent places; overflow
-/// is legal. Each element is measured once for each proposal, each text once for each width.
+/// One layout of an evaluation: the parent proposes, the child chooses, the parent places. A child
+/// may be larger than its parent. Each element is measured once for each proposal, each text once
+/// for each width.
 class LayoutPass {
  public:
   LayoutPass(foundation::Arena& memory, text::TextEngine& textEngine, double scale,
              const layout::SafeArea& safe = {})
       : arena(memory), engine(textEngine), grid(scale), safeArea(safe) {}
 
-  /// The size that `element` chooses when offered `proposal`.
+  /// The size that `element` chooses for `proposal`.
   layout::Size measure(Element& element, layout::ProposedSize proposal);
-  /// Puts `element` and all below it in place. Frames are in exact points, leading on the left.
+  /// Places `element` and its descendants. Frames are exact (not on pixels), with leading on the
+  /// left.
   void place(Element& element, layout::Point origin, layout::ProposedSize proposal);
-  /// The same where `element` stands in a frame of another size, by `alignment`.
+  /// Places `element` by `alignment` in a frame of another size.
   void placeAligned(Element& element, const layout::Rect& within, layout::Alignment alignment,
                     layout::ProposedSize proposal);
-  /// The same where the size that it chooses is known.
+  /// Places `element` if the size that it chooses is known.
   void setFrame(Element& element, const layout::Rect& frame, layout::ProposedSize proposal);
-  /// The least width at which no word in `element` breaks, as far as that depends on its width.
+  /// The smallest width at which no word in `element` breaks; 0 if no word sets its width.
   double leastWidth(Element& element) { return element.rules->leastWidth(*this, element); }
 
   foundation::Arena& arena;
@@ -33,11 +35,10 @@ class LayoutPass {
   const layout::SafeArea safeArea;
 };
 
-/// Turns a finished left-to-right layout of width `width` into its mirror image.
+/// Mirrors a finished left-to-right layout of width `width`.
 void mirror(Element& element, double width);
 
-/// What an element takes along an axis on which nothing was proposed and it has no length of its
-/// own.
+/// The length of an element along an axis without a proposal, if it has no ideal length itself.
 inline constexpr double idealLength = 10;
 
 inline layout::Size offeredSize(layout::ProposedSize proposal) {

@@ -29,8 +29,8 @@ std::string cased(std::string words, std::optional<TextCase> textCase,
   return textCase ? foundation::uppercased(words, language) : std::move(words);
 }
 
-/// Appends the runs of `text` inside `look`. A text's own looks go on from the last one written to
-/// the first, which so comes to lie on top.
+/// Appends the runs of `text` in the look `look`. The text's own looks are applied from the last to
+/// the first, so the first one wins.
 void appendRuns(const Text& text, Look look, const Environment& environment,
                 std::vector<text::Run>& runs) {
   for (auto own = text.looks().rbegin(); own != text.looks().rend(); ++own) {
@@ -38,7 +38,7 @@ void appendRuns(const Text& text, Look look, const Environment& environment,
   }
   for (const Text& part : text.parts()) appendRuns(part, look, environment, runs);
   if (!text.parts().empty()) return;
-  // Before it is cased, which for an endless text would take as long as shaping.
+  // Cut the text before the change of case, which takes as long as shaping for a very long text.
   runs.push_back({cased(text::bounded(text.resolved(environment.language)), look.textCase,
                         environment.language),
                   resolvedFont(look, environment), look.drawnColor(environment), look.underline,
@@ -61,7 +61,7 @@ text::AttributedText Look::attributed(const Text& text, const Environment& envir
   text::AttributedText result;
   result.direction = environment.direction;
   appendRuns(text, *this, environment, result.runs);
-  // A part that says nothing must not lend the line its height either; all alike, one stays.
+  // Drop empty runs, which would raise the line to their font's height; keep one if all are empty.
   const auto says = [](const text::Run& run) { return !run.text.empty(); };
   if (std::any_of(result.runs.begin(), result.runs.end(), says)) {
     std::erase_if(result.runs, std::not_fn(says));
@@ -110,7 +110,7 @@ std::string Resizable::description() const { return ".resizable(stretch)"; }
 
 namespace {
 
-/// Changes the look of all below it.
+/// Changes the look of all descendants.
 template <class L>
 class LookModifier final : public Modifier {
  public:

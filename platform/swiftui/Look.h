@@ -21,8 +21,8 @@ enum class TaskPriority : std::uint8_t { userInitiated };
 class Text;
 struct Look;
 
-/// What reaches down from a modifier to the texts and images below it: how it changes the look
-/// there, and how a printed tree words it.
+/// The looks that modifiers set for the texts and images below them. Each changes a `Look` and
+/// writes itself into a printed tree.
 namespace looks {
 
 struct FontChoice {
@@ -66,12 +66,12 @@ struct Resizable {
 
 }  // namespace looks
 
-/// The looks that a text can carry itself.
+/// The looks that a text can have itself.
 using TextLook = std::variant<looks::FontChoice, looks::Weight, looks::Bold, looks::Underline,
                               looks::ForegroundColor>;
 
-/// What reaches down to descendants. Each modifier overwrites what came from further out. It points
-/// into the modifiers that set it.
+/// The look that modifiers set for their descendants. An inner modifier overwrites an outer one.
+/// Points into the modifiers that set it.
 struct Look {
   const Font* font = nullptr;
   const Color* color = nullptr;
@@ -83,13 +83,13 @@ struct Look {
   bool inRow = false;     ///< the nearest stack is horizontal
   bool inColumn = false;  ///< the nearest stack is vertical
 
-  /// The color to draw with; a name that the bundle does not know draws nothing.
+  /// The color to draw with; transparent if the bundle does not have the named color.
   graphics::RGBA drawnColor(const Environment& environment) const;
-  /// `text` as it stands in this look.
+  /// `text` with this look.
   text::AttributedText attributed(const Text& text, const Environment& environment) const;
 };
 
-/// The value of `color` to draw with, likewise.
+/// The value of `color` to draw with; transparent if the bundle does not have it.
 graphics::RGBA drawnColor(const Color& color, const Environment& environment);
 
 }  // namespace quorix::swiftui

@@ -9,7 +9,7 @@
 
 namespace quorix::swiftui {
 
-/// A node that changes what it holds.
+/// A node that changes its content.
 class Modifier : public Node {
  public:
   explicit Modifier(View content) : content_(std::move(content)) {}
@@ -18,16 +18,16 @@ class Modifier : public Node {
 
  protected:
   const View& content() const { return content_; }
-  /// ".padding(16)".
+  /// Its line in a printed tree: ".padding(16)".
   virtual std::string description() const = 0;
-  /// What the modifier holds besides its content, below its line.
+  /// Prints the modifier's other views, below its line.
   virtual void printBelow(TreePrinter&, int /*depth*/) const {}
 
  private:
   View content_;
 };
 
-/// A modifier that wraps each element of its content in one of its own.
+/// A modifier that wraps each element of its content in an element of its own.
 class LayoutModifier : public Modifier, public ElementRules {
  public:
   using Modifier::Modifier;
@@ -35,12 +35,12 @@ class LayoutModifier : public Modifier, public ElementRules {
   void evaluate(Evaluator& in, const Look& look, layout::Axis axis,
                 ElementList& out) const override;
 
-  /// Shows what it wraps.
+  /// Shows the wrapped element.
   void show(DisplayListBuilder& to, const Element& self) const override;
 };
 
-/// The rules of an element that is laid out as its one child is, for a `Base` of `ElementRules` or
-/// a modifier.
+/// The rules of an element that is laid out exactly as its one child. `Base` is `ElementRules` or a
+/// modifier.
 template <class Base>
 class Transparent : public Base {
  public:
@@ -63,7 +63,7 @@ class Transparent : public Base {
   ~Transparent() = default;
 };
 
-/// A modifier that leaves the layout of its content as it is and adds to how it is shown.
+/// A modifier that does not change the layout of its content and adds to its display.
 class Decoration : public Transparent<LayoutModifier> {
  public:
   using Transparent::Transparent;

@@ -15,33 +15,33 @@ struct Element;
 struct ElementList;
 struct Look;
 
-/// What a view is: one kind of element or modifier. Immutable; main thread.
+/// The content of a view: one kind of element or modifier. Immutable; main thread.
 class QUORIX_EXPORT Node {
  public:
   virtual ~Node() = default;
 
-  /// Writes the element and what it holds, the element at `depth`.
+  /// Prints the element at `depth`, and its children.
   virtual void print(TreePrinter& to, int depth) const = 0;
 
-  /// Appends the elements that it stands for in a stack along `axis`, in the look that reaches it.
+  /// Appends the elements of this node, for a stack along `axis`, in the look `look`.
   virtual void evaluate(Evaluator& in, const Look& look, layout::Axis axis,
                         ElementList& out) const = 0;
 };
 
-/// How one kind of element is sized, placed and shown. `self` is the element of one evaluation.
+/// The layout and display of one kind of element. `self` is the element of one evaluation.
 class ElementRules {
  public:
-  /// Whether it is laid out as its one child is. The child alone then keeps the sizes.
+  /// Whether the element is laid out exactly as its one child. Then only the child caches sizes.
   bool isTransparent() const { return transparent_; }
 
-  /// The size that it chooses when offered `proposal`.
+  /// The size that the element chooses for `proposal`.
   virtual layout::Size measure(LayoutPass& in, Element& self,
                                layout::ProposedSize proposal) const = 0;
-  /// Places what it holds; its own frame is set.
+  /// Places the children. The element's own frame is already set.
   virtual void place(LayoutPass& in, Element& self, layout::ProposedSize proposal) const = 0;
-  /// The least width at which no word in it breaks; 0 where its width depends on no word.
+  /// The smallest width at which no word in the element breaks; 0 if no word sets its width.
   virtual double leastWidth(LayoutPass& in, Element& self) const = 0;
-  /// Adds what it paints, where it takes taps and what assistive technology meets.
+  /// Adds the element's items, hit areas and accessibility elements.
   virtual void show(DisplayListBuilder& to, const Element& self) const = 0;
 
  protected:
@@ -50,7 +50,7 @@ class ElementRules {
   bool transparent_ = false;
 };
 
-/// The elements beside each other in one place, in order.
+/// A list of sibling elements.
 struct ElementList {
   Element* first = nullptr;
   Element* last = nullptr;
@@ -60,7 +60,7 @@ struct ElementList {
   void appendAll(const ElementList& list);
 };
 
-/// A size that an element chose in the pass that lays it out.
+/// A size that an element chose during this layout.
 struct MeasuredSize {
   layout::ProposedSize proposal;
   layout::Size size;
@@ -73,10 +73,10 @@ struct Element {
 
   const ElementRules* rules;
   ElementList children;
-  Element* next = nullptr;  ///< beside it
-  layout::Rect frame;       ///< where `LayoutPass::place` put it
+  Element* next = nullptr;  ///< the next sibling
+  layout::Rect frame;       ///< set by `LayoutPass::place`
   const MeasuredSize* measured = nullptr;
-  // What a stack asks of its children.
+  // Properties that a stack reads from its children.
   bool isText = false;
   bool isSpacer = false;
   bool holdsText = false;

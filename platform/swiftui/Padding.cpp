@@ -50,7 +50,7 @@ class Padding final : public LayoutModifier {
   }
 
   EdgeInsets insets_;
-  // How they were written, where that was edges and one length.
+  // For printing, if the padding was given as edges and one length.
   std::optional<layout::Edges> edges_;
   double length_;
 };

@@ -9,13 +9,13 @@
 
 namespace quorix::swiftui {
 
-/// A height at which a sheet may rest: half of what is available, or a number of points.
+/// A height at which a sheet may rest: half of the available height, or a number of points.
 class PresentationDetent {
  public:
   static PresentationDetent medium() { return PresentationDetent(half); }
   static PresentationDetent height(double points) { return PresentationDetent(points); }
 
-  /// The height of a height detent.
+  /// The height in points; absent for the medium detent.
   std::optional<double> points() const {
     return points_ == half ? std::nullopt : std::optional(points_);
   }
@@ -30,8 +30,8 @@ class PresentationDetent {
   double points_;
 };
 
-/// A set of detents, medium first, then heights from the lowest. A sheet rests at its lowest
-/// detent, so the lowest four are kept.
+/// A set of detents: medium first, then heights from the lowest. Keeps the lowest four, because a
+/// sheet rests at its lowest detent.
 class PresentationDetents {
  public:
   PresentationDetents() = default;

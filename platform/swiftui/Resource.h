@@ -6,7 +6,7 @@
 
 namespace quorix::swiftui {
 
-/// The name of a color set and the bundle whose catalog has it (null: the host's main bundle).
+/// The name of a color set, and the bundle with its catalog (null: the host's main bundle).
 struct ColorResource {
   std::string name;
   foundation::Bundle::Ref bundle;
@@ -14,7 +14,7 @@ struct ColorResource {
   bool operator==(const ColorResource&) const = default;
 };
 
-/// The name of an image set and the bundle whose catalog has it (null: the host's main bundle).
+/// The name of an image set, and the bundle with its catalog (null: the host's main bundle).
 struct ImageResource {
   std::string name;
   foundation::Bundle::Ref bundle;

@@ -17,7 +17,7 @@ struct ShownSpacer final : Element {
     isSpacer = true;
   }
 
-  Axis axis;  ///< of the stack that it stands in
+  Axis axis;  ///< of the enclosing stack
 };
 
 class SpacerNode final : public Node, public ElementRules {

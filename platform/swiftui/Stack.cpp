@@ -35,8 +35,8 @@ ProposedSize withLength(Axis axis, ProposedSize proposal, std::optional<double> 
   return proposal;
 }
 
-/// Whether a child of a row that got `lengths` breaks inside a word. Notes in `children` what each
-/// needs.
+/// Whether a word breaks in a row whose children have their current lengths. Stores each child's
+/// least length in `children`.
 bool breaksWords(LayoutPass& in, std::span<Element* const> elements,
                  std::span<StackChild> children) {
   const auto gaveWay = [](const StackChild& child) {
@@ -56,7 +56,7 @@ bool breaksWords(LayoutPass& in, std::span<Element* const> elements,
   return breaks;
 }
 
-/// The views in a stack.
+/// A row or column of views.
 class StackNode final : public Node {
  public:
   StackNode(Axis axis, layout::Alignment alignment, std::optional<double> spacing, Views children)

@@ -7,14 +7,14 @@
 
 namespace quorix::swiftui {
 
-/// The rules of views in a row or a column.
+/// The layout of rows and columns.
 class Stack final : public ElementRules {
  public:
-  /// Of `alignment` only the part across the axis counts.
+  /// Uses only the part of `alignment` across the axis.
   Stack(layout::Axis axis, layout::Alignment alignment, double spacing)
       : axis_(axis), alignment_(alignment), spacing_(spacing) {}
 
-  /// For several views where one is expected.
+  /// The stack that combines several elements into one.
   static const Stack& column();
 
   layout::Axis axis() const { return axis_; }
@@ -25,7 +25,7 @@ class Stack final : public ElementRules {
   void show(DisplayListBuilder& to, const Element& self) const override;
 
  private:
-  /// What it offers each child along its axis.
+  /// The length that each child is offered along the axis.
   using Offers = std::span<const std::optional<double>>;
   Offers divide(LayoutPass& in, Element& self, layout::ProposedSize proposal) const;
   double totalSpacing(const Element& self) const;
@@ -39,10 +39,10 @@ class Stack final : public ElementRules {
 struct StackElement final : Element {
   explicit StackElement(const Stack& kind) : Element(kind) {}
 
-  // How it was divided last: measuring and placing ask for the same.
+  // Caches the latest division, because measuring and placing need the same one.
   layout::ProposedSize dividedFor;
   std::span<const std::optional<double>> offers;
-  bool anyHeight = false;  ///< a row of texts, which are as wide at every height
+  bool anyHeight = false;  ///< a row of texts and spacers: the height does not change its widths
 };
 
 }  // namespace quorix::swiftui

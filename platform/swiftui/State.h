@@ -12,7 +12,7 @@
 
 namespace quorix::swiftui {
 
-/// Something that a graph keeps for a place in its tree, and what it keeps there besides.
+/// A value that a graph keeps for a place in its tree. The values of one place form a list.
 struct Kept {
   virtual ~Kept() = default;
   std::shared_ptr<Kept> next;
@@ -36,7 +36,7 @@ class Binding {
   explicit Binding(std::shared_ptr<StateBox<T>> box) : box_(std::move(box)) {}
 
   const T& get() const { return box_->value; }
-  /// Stores `value`; when it differs, the owner's body is evaluated again on a later turn.
+  /// Stores `value`. If it differs, the owner's body is evaluated again on a later turn.
   void set(T value) const {
     if (box_->value == value) return;
     box_->value = std::move(value);
@@ -48,8 +48,8 @@ class Binding {
   std::shared_ptr<StateBox<T>> box_;
 };
 
-/// View-local storage with an identity that survives re-evaluation of the body. The view names its
-/// states in `states()`, so that the graph can hand each its storage before it asks for the body:
+/// View-local storage that survives re-evaluation of the body. The view lists its states in
+/// `states()`, so that the graph can bind each to its storage before it calls the body:
 ///
 ///     #include <platform/swiftui/View.h>
 ///     struct Counter {
@@ -68,7 +68,7 @@ class State {
     return Binding<T>(box_);
   }
 
-  /// For the graph: reads and writes `box` from now on.
+  /// For the graph: binds this state to `box`.
   void adopt(std::shared_ptr<StateBox<T>> box) const { box_ = std::move(box); }
 
  private:
@@ -76,34 +76,33 @@ class State {
   mutable std::shared_ptr<StateBox<T>> box_;
 };
 
-/// A place in a view tree: the steps from the root, through components by their type. The same
-/// place in the next evaluation is the same view. Copies are on the heap.
+/// A place in a view tree: the steps from the root. The step into a component depends on its type.
+/// The same place in the next evaluation is the same view. Copies are on the heap.
 using TreePath = std::pmr::u32string;
 
 namespace steps {
 
 constexpr char32_t chosen = 1;
 constexpr char32_t notChosen = 2;
-constexpr char32_t modified = 3;  ///< into a modifier that needs a place of its own
-// Each of these goes on with its next ones.
+constexpr char32_t modified = 3;  ///< into a modifier that needs its own place
+// The next steps of each kind count up from its first.
 constexpr char32_t firstChild = 1U << 8;
 constexpr char32_t firstOverlay = 1U << 30;  ///< one for each element of a group
 constexpr char32_t firstType = 1U << 31;
 
-/// Into the body of a component, or to content of another toolkit by the type of its maker. Another
-/// type in its place is another view, with states of its own. Main thread.
+/// The step into the body of a component, or into hosted content by the type of its maker. Another
+/// type in the same place is another view, with its own states. Main thread.
 QUORIX_EXPORT char32_t into(std::type_index type);
 
 }  // namespace steps
 
-/// What is kept for one place in a tree: the storage of a component's states, in the order in which
-/// it names them.
+/// The storage of one component's states, in the order of its `states()`.
 struct StateSlots {
   std::shared_ptr<Kept> first;
   const foundation::Action* onChange;
 };
 
-/// The states of a view tree's components, by place. What an evaluation does not visit any more has
+/// The states of a view tree's components, by place. A place that an evaluation does not visit has
 /// left the tree and loses its states.
 class StateStore {
  public:
@@ -111,7 +110,7 @@ class StateStore {
   StateStore(const StateStore&) = delete;
   StateStore& operator=(const StateStore&) = delete;
 
-  /// Valid until the next call.
+  /// The states of the place `path`. Valid until the next call.
   StateSlots& states(const TreePath& path);
   void clear() { entries_.clear(); }
 
@@ -126,7 +125,7 @@ class StateStore {
   };
   std::vector<Entry> entries_;
   std::size_t next_ =
-      0;  ///< after the latest that was asked for: an evaluation asks in the same order each time
+      0;  ///< index after the latest lookup, because evaluations look up in the same order
   foundation::Action onChange_;
 };
 

@@ -1,4 +1,4 @@
-// Nodes that show nothing of their own.
+// Nodes without their own display.
 #include <functional>
 #include <memory_resource>
 #include <string>

@@ -30,7 +30,8 @@ Text Text::foregroundColor(Color color) const {
 }
 
 Text operator+(Text first, Text second) {
-  // A sum with looks of its own stays a part of its own: they are not the second text's.
+  // If the sum has its own looks, keep it as one part, because they do not apply to the second
+  // text.
   if (!first.parts_.empty() && first.looks_.empty()) {
     first.parts_.push_back(std::move(second));
     return first;
@@ -55,12 +56,13 @@ using layout::infinity;
 using layout::ProposedSize;
 using layout::Size;
 
-/// How far a text gets smaller before a word in it breaks. What stands side by side (a price, its
-/// name) is to be read whole; a paragraph is not made small for the sake of one endless word.
+/// How far a text may shrink before a word in it breaks. Texts in a row (a price, its name) must
+/// stay readable as whole words. A paragraph shrinks less: one very long word must not make all of
+/// it small.
 constexpr double smallestInRow = 0.25;
 constexpr double smallestParagraph = 0.5;
 
-/// Points; as much as a text engine's own rounding may take.
+/// Points; covers the rounding error of a text engine.
 constexpr double roundingNoise = 1.0 / 32;
 
 struct ShownText final : Element {
@@ -74,9 +76,9 @@ struct ShownText final : Element {
   }
 
   mutable text::AttributedText text;  // moved into the display list
-  bool spansWhenWrapped;  ///< broken into lines, it takes the whole width that it was offered
-  double smallestPart;    ///< of its size, before its longest word breaks
-  double drawnAt = 1;     ///< the part of its size that it is drawn at
+  bool spansWhenWrapped;  ///< if it has several lines, it takes the whole proposed width
+  double smallestPart;    ///< smallest factor of the font size before a word breaks
+  double drawnAt = 1;     ///< factor of the font size
 };
 
 class TextNode final : public Node, public ElementRules {
@@ -94,8 +96,8 @@ class TextNode final : public Node, public ElementRules {
   Size measure(LayoutPass& in, Element& element, ProposedSize proposal) const override {
     auto& self = static_cast<ShownText&>(element);
     const double width = proposal.width.value_or(infinity);
-    // A text keeps all its lines, so a proposed height changes nothing; nor does a width beyond
-    // its ideal one.
+    // The result does not depend on the proposed height, because a text keeps all its lines, nor on
+    // a width above the ideal one.
     for (const MeasuredSize* known = self.measured; known; known = known->next) {
       const double earlier = known->proposal.width.value_or(infinity);
       if (earlier == width || (earlier == infinity && known->size.width <= width))
@@ -127,7 +129,7 @@ class TextNode final : public Node, public ElementRules {
     if (auto* described = to.describe(render::Role::staticText, to.onPixels(self.frame))) {
       for (const text::Run& run : self.text.runs) described->label += run.text;
     }
-    // A text keeps its exact size: rounding must never make it break its lines anew.
+    // Do not round the size: the text could break its lines differently.
     const layout::Rect frame = {to.onPixels(self.frame).origin, self.frame.size};
     to.list.items.push_back(render::TextItem{
         frame, self.drawnAt == 1 ? std::move(self.text) : self.text.scaled(self.drawnAt)});
@@ -142,7 +144,7 @@ class TextNode final : public Node, public ElementRules {
     }
   }
 
-  /// The part of its size that the text is drawn at in `width`.
+  /// The factor of the font size at which the text is drawn in `width`.
   static double drawnPart(LayoutPass& in, ShownText& self, double width) {
     if (width == infinity || in.measure(self, {}).width <= width) return 1;
     const double least = in.leastWidth(self);

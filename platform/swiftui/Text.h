@@ -10,14 +10,14 @@
 
 namespace quorix::swiftui {
 
-/// A text element: shown as it is, or a key that is looked up in the "Localizable" string table of
-/// the host's main bundle (`Bundle::setMain`), in the user's language, and formatted with its
-/// arguments. A key with no entry is its own format.
+/// A text element. Shows a text unchanged, or looks up a key in the "Localizable" string table of
+/// the host's main bundle (`Bundle::setMain`), in the user's language, and formats the result with
+/// its arguments. A key with no entry is its own format.
 ///
 ///     Text row = Text::localized("%@ %@", {"Your return fee", "€4.00"});
 ///
-/// A text carries looks of its own, which win over those that reach down to it, and of several for
-/// the same thing the first one written wins. Texts add up to one, whose parts keep their looks:
+/// Looks of the text itself win over those of enclosing modifiers. If it has several of one kind,
+/// the first one written wins. Texts can be joined with "+"; each part keeps its looks:
 ///
 ///     Text terms = Text::verbatim("Return within ") +
 ///                  Text::verbatim("30 days").fontWeight(FontWeight::semibold);
@@ -34,19 +34,19 @@ class QUORIX_EXPORT Text {
   Text underline(bool active = true) const;
   Text foregroundColor(Color color) const;
 
-  /// One paragraph that reads `first` and then `second`.
+  /// Joins two texts to one paragraph.
   friend Text operator+(Text first, Text second);
 
-  /// What a user who reads `language` reads.
+  /// The text that is shown to a user who reads `language`.
   std::string resolved(std::string_view language = {}) const;
 
-  /// What it was added up from; empty for a text of one part, which alone has what follows.
+  /// The parts of a joined text. Empty for a single text; only such a text has a key and arguments.
   const std::vector<Text>& parts() const { return parts_; }
   const std::string& key() const { return text_; }
   const std::vector<std::string>& arguments() const { return arguments_; }
   bool isLocalized() const { return localized_; }
 
-  /// Its own looks as they were written.
+  /// The text's own looks in the order in which they were written.
   const std::vector<TextLook>& looks() const { return looks_; }
 
  private:

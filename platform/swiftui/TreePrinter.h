@@ -13,29 +13,30 @@
 
 namespace quorix::swiftui {
 
-/// The tree of `view` as text: an element a line, its children indented by two, and each of its
-/// modifiers on a line of its own below them, innermost first, indented by four behind a dot.
+/// The tree of `view` as text: one line for each element, with its children below it, indented by
+/// two. Each modifier has its own line below its element, innermost first, indented by four, with a
+/// dot.
 ///
 /// ```text
 /// Text("Fee")
 ///     .textCase(uppercase)
 /// ```
 ///
-/// Bodies are evaluated with their states' initial values. What a sheet shows stands below the
-/// modifier that presents it.
+/// Bodies are evaluated with the initial values of their states. The content of a sheet is printed
+/// below the modifier that presents it.
 QUORIX_EXPORT std::string printTree(const View& view);
 
-/// Where nodes print themselves.
+/// Writes the lines of a printed tree.
 class TreePrinter {
  public:
   void print(const View& view, int depth);
-  /// A line that is indented by two for each of `depth`.
+  /// Writes a line, indented by two for each level of `depth`.
   void line(int depth, std::string_view content);
 
   std::string text;
 };
 
-// How a printed tree words the values in it.
+// The texts of values in a printed tree.
 
 using render::inQuotes;
 using render::number;

@@ -50,10 +50,10 @@ class HostedNode : public Node, public ElementRules {
 
  private:
   virtual std::string_view name() const = 0;
-  /// Another maker in the same place makes other content.
+  /// The type of the maker. If it changes, the place gets new content.
   virtual std::type_index maker() const = 0;
   virtual std::shared_ptr<HostedContent> make() const = 0;
-  /// At each evaluation.
+  /// Called at each evaluation.
   virtual void update(HostedContent& hosted) const = 0;
 
   static HostedContent& contentOf(const Element& self) {
@@ -76,7 +76,7 @@ class RepresentedNode final : public HostedNode {
   Represented content_;
 };
 
-/// Shows an object itself. Another object in the same place takes over.
+/// Shows an existing object. Another object in the same place replaces it.
 template <class Content, class Object>
 class ObjectNode final : public HostedNode {
  public:

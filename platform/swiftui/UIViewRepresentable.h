@@ -17,14 +17,14 @@ namespace quorix::swiftui {
 struct Represented {
   std::string_view name;
   std::function<std::shared_ptr<render::HostedContent>()> make;  ///< once for each place in a tree
-  /// At each evaluation, the first included; may be empty.
+  /// Called at each evaluation, also the first one; may be empty.
   std::function<void(render::HostedContent&)> update = {};
 };
 
 QUORIX_EXPORT View represented(Represented content);
 
-/// A value that makes a view of the imperative toolkit for one place in a tree. With
-/// `updateUIView(view)` it also hands later values on: that runs at each evaluation.
+/// A value that makes a view of the imperative toolkit for one place in a tree. To pass later
+/// values on, define `updateUIView(view)`, which is called at each evaluation.
 ///
 ///     #include <platform/uikit/UILabel.h>
 ///     struct Days {
@@ -39,8 +39,8 @@ concept UIViewRepresentable = requires(const R& value) {
   { value.makeUIView() } -> std::convertible_to<std::shared_ptr<uikit::UIView>>;
 };
 
-/// The view that `value` makes, once for each place in a tree; it is let go when it leaves the
-/// tree.
+/// The view that `value` makes, once for each place in a tree. It is released when the place leaves
+/// the tree.
 template <UIViewRepresentable R>
 View represent(R value) {
   Represented content{
@@ -57,14 +57,14 @@ View represent(R value) {
   return represented(std::move(content));
 }
 
-/// Shows `view` itself, so that every surface that shows a declarative view can show an imperative
-/// one. In one place at a time. A null view shows nothing.
+/// Shows an existing imperative view on surfaces for declarative views. A view may be in one place
+/// at a time. A null view shows nothing.
 ///
 ///     View label = hosting(std::make_shared<uikit::UILabel>());
 QUORIX_EXPORT View hosting(std::shared_ptr<uikit::UIView> view);
 
-/// A value that makes a controller for one place in a tree. `updateUIViewController(controller)`
-/// runs at each evaluation, to hand later values on.
+/// A value that makes a controller for one place in a tree. `updateUIViewController(controller)` is
+/// called at each evaluation, to pass later values on.
 ///
 ///     struct Page {
 ///       static constexpr std::string_view typeName = "Page";
@@ -81,8 +81,8 @@ concept UIViewControllerRepresentable = requires(const R& value) {
   value.updateUIViewController(*value.makeUIViewController());
 };
 
-/// The controller that `value` makes, once for each place in a tree, taking all the room that it is
-/// offered; it is let go when it leaves the tree.
+/// The controller that `value` makes, once for each place in a tree. It takes the whole proposed
+/// size. It is released when the place leaves the tree.
 template <UIViewControllerRepresentable R>
 View represent(R value) {
   using Made = typename decltype(value.makeUIViewController())::element_type;
@@ -98,7 +98,7 @@ View represent(R value) {
        }});
 }
 
-/// Shows `controller` itself. In one place at a time.
+/// Shows an existing controller. It may be in one place at a time.
 QUORIX_EXPORT View hosting(std::shared_ptr<uikit::UIViewController> controller);
 
 }  // namespace quorix::swiftui

@@ -34,9 +34,9 @@ concept ViewModifier = requires(const M& modifier, View content) {
   { modifier.body(content) } -> std::convertible_to<View>;
 };
 
-/// A piece of user interface, as an immutable value: cheap to copy, safe to keep. Modifiers wrap
-/// the view and return the wrapped one; of modifiers that reach down (font, color, text case,
-/// underline, strikethrough) the innermost wins. Main thread.
+/// A piece of user interface, as an immutable value: cheap to copy, safe to keep. Modifiers return
+/// a new view that wraps this one. Some modifiers apply to all views below (font, color, text case,
+/// underline, strikethrough); of these the innermost wins. Main thread.
 ///
 ///     #include <platform/swiftui/Elements.h>
 ///     View row = HStack(layout::VerticalAlignment::center, 12,
@@ -67,19 +67,18 @@ class QUORIX_EXPORT View {
              layout::Alignment alignment = {}) const;
   View frameMaxWidthInfinity(layout::Alignment alignment = {}) const;
   View fixedSize(bool horizontal, bool vertical) const;
-  /// An image fills the frame it is given instead of keeping its natural size.
+  /// Makes an image fill its frame instead of keeping its natural size.
   View resizable() const;
-  /// As large as fits what it is offered, with the width and height of its natural size in their
-  /// proportion.
+  /// Takes the largest size that fits the proposal and keeps the aspect ratio of the natural size.
   View scaledToFit() const;
-  /// Fills this view's frame behind it; where the frame reaches the edge of the safe area on one of
-  /// `ignoresSafeAreaEdges`, also what lies beyond.
+  /// Fills this view's frame behind it. Where the frame touches the edge of the safe area on one of
+  /// `ignoresSafeAreaEdges`, the fill extends beyond it.
   View background(Color color, layout::Edges ignoresSafeAreaEdges = {}) const;
-  /// Strokes `width` points just inside this view's frame, on top of it.
+  /// Strokes the inside of this view's frame, `width` points wide, above the content.
   View border(Color color, double width = 1) const;
-  /// Where this view reaches the edge of the safe area on one of `edges`, it goes on beyond.
+  /// Extends this view beyond the safe area on those of `edges` where it touches its edge.
   View edgesIgnoringSafeArea(layout::Edges edges) const;
-  /// Lays `content` over this view, in its frame.
+  /// Puts `content` on top of this view, aligned in its frame.
   View overlay(layout::Alignment alignment, View content) const;
 
   View accessibilityElement(AccessibilityChildren children) const;
@@ -87,17 +86,16 @@ class QUORIX_EXPORT View {
   View accessibilityLabel(Text label) const;
   View accessibilityHint(Text hint) const;
   View accessibilityHidden(bool hidden) const;
-  /// What assistive technology does by default with this element.
+  /// Sets the default action of this element for assistive technology.
   View accessibilityAction(foundation::Action action) const;
 
   View onTapGesture(foundation::Action action) const;
-  /// Runs `action` on a turn of the main queue each time the view comes on screen, unless it leaves
-  /// before.
+  /// Runs `action` on a turn of the main queue each time the view comes on screen, unless it has
+  /// left the screen by then.
   View task(TaskPriority priority, foundation::Action action) const;
   View sheet(Binding<bool> isPresented, View content) const;
   View presentationDetents(PresentationDetents detents) const;
-  /// Calls `action` in the layout pass with the size that the view was laid out at, whenever it
-  /// changed.
+  /// Calls `action` during layout with the view's size, whenever the size has changed.
   View onGeometryChange(std::function<void(layout::Size)> action) const;
   template <ViewModifier M>
   View modifier(M modifier) const;
@@ -106,13 +104,13 @@ class QUORIX_EXPORT View {
   std::shared_ptr<const Node> node_;
 };
 
-/// A sheet that a view asks for. Dismissal by the user writes false through the binding.
+/// A sheet that a view presents. If the user closes it, false is written through the binding.
 struct Presentation {
   Binding<bool> isPresented;
   View content;
 };
 
-/// The view of a node of type `Kind`, in the arena of the evaluation under way.
+/// Makes a view with a node of type `Kind`, in the arena of the current evaluation.
 template <class Kind, class... Arguments>
 View makeView(Arguments&&... arguments) {
   const foundation::SharedIn<Kind> memory(foundation::Arena::current());

@@ -10,23 +10,23 @@
 
 namespace quorix::swiftui {
 
-/// The life of one view tree on a surface: its states, its subscriptions and tasks while it is on
-/// screen, and the one pending turn that evaluates it again. Main thread.
+/// Manages one view tree on a surface: its states, its subscriptions and tasks while it is on
+/// screen, and the pending turn that evaluates it again. Main thread.
 class ViewGraph {
  public:
-  /// `onInvalidate` runs on a turn of the main queue after states or observed objects changed.
+  /// `onInvalidate` runs on a turn of the main queue after a change of states or observed objects.
   explicit ViewGraph(std::function<void()> onInvalidate);
   ~ViewGraph();
   ViewGraph(const ViewGraph&) = delete;
   ViewGraph& operator=(const ViewGraph&) = delete;
 
-  /// Shows another view: states and tasks of the one before end.
+  /// Shows another view. Ends the states and tasks of the former one.
   void setRoot(View root);
-  /// Shows the same view with other values: states and tasks go on.
+  /// Updates the values of the same view. States and tasks continue.
   void updateRoot(View root) { root_ = std::move(root); }
 
-  /// What the graph subscribed and started on screen ends when it leaves; coming back, the next
-  /// evaluation begins it again.
+  /// Off screen, subscriptions and tasks end. After a return, the next evaluation starts them
+  /// again.
   void setOnScreen(bool onScreen);
   bool isOnScreen() const { return onScreen_; }
 

@@ -31,12 +31,12 @@ struct Run {
 /// The runs of a text element, in reading order.
 struct AttributedText {
   std::vector<Run> runs;
-  /// The direction of the page, which sets the side that lines are aligned to. The direction of the
-  /// words is `baseDirection`.
+  /// The direction of the page, which sets the side that lines are aligned to. `baseDirection`
+  /// returns the direction of the words.
   layout::LayoutDirection direction = layout::LayoutDirection::leftToRight;
   bool operator==(const AttributedText&) const = default;
 
-  /// A copy with its letters scaled by `part`.
+  /// A copy with all font sizes multiplied by `part`.
   AttributedText scaled(double part) const {
     AttributedText copy = *this;
     for (Run& run : copy.runs) run.font.points *= part;

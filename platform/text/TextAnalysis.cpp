@@ -45,7 +45,8 @@ LayoutDirection baseDirection(const AttributedText& text) {
 }
 
 std::vector<WordRange> unspacedWords(std::u16string_view text) {
-  // Scripts below this put blanks between words. Most texts end here and skip ICU's slow search.
+  // Scripts below this code point put blanks between words. Most texts stop here, without ICU's
+  // slow search.
   constexpr char16_t firstIdeographic = 0x2E80;
   std::vector<WordRange> words;
   const auto isUnspaced = [](char16_t c) { return c >= firstIdeographic; };

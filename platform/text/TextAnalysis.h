@@ -9,10 +9,10 @@
 
 namespace quorix::text {
 
-/// The direction that the words of `text` run in, not the side that its lines are aligned to: that
-/// of its first letter, and left to right without letters, so that "4,00 €" and "18 %" keep their
-/// order on a right-to-left page. On such a page, a text with any letter of a right-to-left script
-/// runs as the page does, even if it begins with a foreign name. Any thread.
+/// The direction of the words of `text`. It does not set the side that lines are aligned to. It is
+/// the direction of the first letter. Without letters it is left to right, so that "4,00 €" and
+/// "18 %" keep their order on a right-to-left page. On such a page, one right-to-left letter makes
+/// the whole text right-to-left, even if it begins with a foreign name. Any thread.
 ///
 ///     bool runsFromTheRight(const AttributedText& text) {
 ///       return baseDirection(text) == layout::LayoutDirection::rightToLeft;
@@ -25,8 +25,8 @@ struct WordRange {
   std::int32_t length;
 };
 
-/// The words of `text` in scripts without blanks between words, where a line may end within a word:
-/// 返品 and 手数料 in 返品手数料. Any thread.
+/// The words of `text` in scripts that write words without blanks, where a line may otherwise break
+/// inside a word: 返品 and 手数料 in 返品手数料. Any thread.
 QUORIX_EXPORT std::vector<WordRange> unspacedWords(std::u16string_view text);
 
 }  // namespace quorix::text

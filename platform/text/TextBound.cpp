@@ -22,8 +22,8 @@ struct Prefix {
   std::size_t bytes = 0;
 };
 
-/// The cost of shaping a code point, in letters of Latin, Greek or Cyrillic script. Marks, other
-/// scripts and symbols take longer, mostly because their faces must be looked up.
+/// The cost of shaping a code point, in letters of Latin, Greek or Cyrillic script. Marks, symbols
+/// and other scripts cost more, mostly because of the search for their faces.
 std::size_t costOf(std::int32_t codePoint) {
   const bool letter = codePoint >= 0 && codePoint < 0x300;
   const bool greekOrCyrillic = codePoint >= 0x370 && codePoint < 0x590;
@@ -36,7 +36,7 @@ Prefix prefix(std::string_view utf8, std::size_t most) {
   const auto* bytes = reinterpret_cast<const std::uint8_t*>(utf8.data());
   Prefix found;
   while (found.bytes < utf8.size()) {
-    // Only the sequence that starts here, so that a text of any length can be counted.
+    // Decodes only the sequence that starts here, because `U8_NEXT` takes 32-bit lengths.
     const auto rest = std::min<std::size_t>(utf8.size() - found.bytes, U8_MAX_LENGTH);
     const std::uint8_t* const at = bytes + found.bytes;
     std::int32_t length = 0;
@@ -59,7 +59,7 @@ std::string bounded(std::string utf8, std::size_t most) {
   const std::string_view looked = std::string_view(utf8).substr(0, whole.bytes);
   const std::size_t kept = prefix(looked, std::max<std::size_t>(most, 1) - 1).bytes;
   const std::size_t end = foundation::characterEndUpTo(looked, kept);
-  // One letter can carry any number of marks: cut between those rather than show nothing.
+  // A single character can be too long, with its marks. Then cut between the marks.
   std::string cut(looked.substr(0, end > 0 ? end : kept));
   cut += ellipsis;
   return cut;
@@ -77,7 +77,7 @@ void bound(AttributedText& text, std::size_t most) {
       continue;
     }
     if (left == 0 && run != text.runs.begin()) {
-      // The run before takes the ellipsis.
+      // The text before is full: append the ellipsis to its last run.
       --run;
       left = prefix(run->text, most).cost;
       run->text += ellipsis;

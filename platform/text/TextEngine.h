@@ -17,13 +17,13 @@ class QUORIX_EXPORT TextEngine {
  public:
   virtual ~TextEngine() = default;
 
-  /// Breaks `text` into lines no wider than `width` (infinity: only at line ends in the text), at
-  /// word boundaries, and inside a word only if the word alone is wider than `width`. An empty text
-  /// has the height of one line and no width.
+  /// Breaks `text` into lines no wider than `width` (infinity: only at line ends in the text).
+  /// Breaks at word boundaries, and inside a word only if the word is wider than `width`. An empty
+  /// text has the height of one line and the width 0.
   virtual TextMetrics measure(const AttributedText& text, double width) = 0;
 
-  /// The least width at which `text` breaks only at word boundaries: that of its longest word. A
-  /// price is one word.
+  /// The smallest width at which `text` breaks only at word boundaries: the width of its longest
+  /// word. A price counts as one word.
   virtual double leastWidth(const AttributedText& text) = 0;
 };
 

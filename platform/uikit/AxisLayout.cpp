@@ -12,7 +12,7 @@ struct Line {
   Length start;
   Length end;
   Length length;
-  bool hollow = false;  ///< no rule and no content sets its length, which is 0
+  bool hollow = false;  ///< no rule and no content sets its length; it counts as 0
 
   Length& at(Edge edge) { return edge == Edge::start ? start : edge == Edge::end ? end : length; }
   bool isComplete() const { return start && end && length; }

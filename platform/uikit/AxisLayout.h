@@ -15,7 +15,7 @@ namespace quorix::uikit {
 struct AxisItem {
   std::optional<double> start;    ///< of a frame set by hand
   std::optional<double> length;   ///< of a frame set by hand
-  std::optional<double> natural;  ///< of the content; absent without content
+  std::optional<double> natural;  ///< natural length of the content; absent without content
 };
 
 /// `first` relates to `second` plus `constant`.
@@ -26,7 +26,7 @@ struct AxisRule {
   int first;
   Edge firstEdge;
   LayoutRelation relation;
-  int second;  ///< `none`: the constant alone
+  int second;  ///< `none`: only the constant
   Edge secondEdge;
   double constant;
 };
@@ -39,9 +39,9 @@ struct AxisSpan {
 
 /// Places each item in a container of length `extent`.
 ///
-/// Follows the rules from edge to edge. A length that they leave open is the natural one, limited
-/// by the inequalities, or 0; a position that they leave open is the start. Of rules that
-/// contradict each other the earlier one holds.
+/// Follows the rules from edge to edge. If they leave a length open, it is the natural one, limited
+/// by the inequalities, or 0. If they leave a position open, it is the start. If rules contradict
+/// each other, the earlier one holds.
 std::vector<AxisSpan> placeAlong(const std::vector<AxisItem>& items,
                                  const std::vector<AxisRule>& rules, double extent);
 

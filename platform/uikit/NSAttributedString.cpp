@@ -5,9 +5,9 @@
 
 namespace quorix::uikit {
 
-/// By their value.
+/// The latest few texts, by value.
 struct SharedTexts : foundation::Cache<NSAttributedString, NSAttributedString> {
-  SharedTexts() : Cache(8) {}  // a screen shows two, in one language or two
+  SharedTexts() : Cache(8) {}  // a screen shows two texts in one or two languages
 };
 
 NSAttributedString NSAttributedString::shared() const {

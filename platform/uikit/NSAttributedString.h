@@ -14,10 +14,10 @@
 
 namespace quorix::uikit {
 
-/// The numbers are the platform's.
+/// The numeric values are the platform's.
 enum class NSUnderlineStyle : std::uint8_t { none = 0, single = 1, thick = 2 };
 
-/// The look of a run of text. An absent value is the label's.
+/// The look of a run of text. Absent values are taken from the label.
 struct NSAttributes {
   UIFont::Ref font = nullptr;              ///< null: the label's
   UIColor::Ref foregroundColor = nullptr;  ///< null: the label's
@@ -46,20 +46,20 @@ class NSAttributedString {
     for (const Run& run : runs()) words += run.text;
     return words;
   }
-  /// In reading order, none of them empty.
+  /// The runs in reading order; none is empty.
   const std::vector<Run>& runs() const {
     static const auto& none = *new std::vector<Run>;  // static views may outlive `main`
     return runs_ ? *runs_ : none;
   }
 
-  /// An equal text. The latest few texts that this was called for share their runs with it: for
-  /// texts that many views show.
+  /// Returns an equal text that shares its runs with the latest few texts on which this was called.
+  /// Use it for texts that many views show.
   QUORIX_EXPORT NSAttributedString shared() const;
 
   bool operator==(const NSAttributedString& other) const { return runs() == other.runs(); }
 
  protected:
-  /// To be changed.
+  /// The runs for a change; copies them if they are shared.
   std::vector<Run>& ownRuns() {
     if (!runs_ || runs_.use_count() > 1) runs_ = std::make_shared<std::vector<Run>>(runs());
     return *runs_;
@@ -84,7 +84,7 @@ class NSMutableAttributedString : public NSAttributedString {
     auto& runs = ownRuns();
     runs.insert(runs.end(), kept.runs().begin(), kept.runs().end());
   }
-  /// Of every run.
+  /// Sets the font of every run.
   void setFont(const UIFont::Ref& font) { setOfAll(&NSAttributes::font, font); }
   void setForegroundColor(const UIColor::Ref& color) {
     setOfAll(&NSAttributes::foregroundColor, color);

@@ -47,14 +47,14 @@ struct QUORIX_EXPORT NSLayoutConstraint {
   UIView* holder() const;
 };
 
-/// An active constraint, as the view that stores it has it: it joins that view and its subviews,
-/// which live as long.
+/// An active constraint in the view that stores it. It relates that view and its subviews, which
+/// live at least as long.
 struct ActiveLayoutConstraint {
   UIView* firstItem;
   UIView* secondItem;  ///< null: the constant alone
   double constant;
   LayoutAttribute firstAttribute;
-  LayoutAttribute secondAttribute;  ///< with a second item
+  LayoutAttribute secondAttribute;  ///< only with a second item
   LayoutRelation relation;
 };
 

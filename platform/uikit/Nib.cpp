@@ -49,8 +49,8 @@ class NibInstance {
  public:
   explicit NibInstance(const NibDocument& document);
 
-  /// Connects the outlets. On failure returns the reason, from the line on ("7: ..."), and changes
-  /// no outlet.
+  /// Connects the outlets. On failure changes no outlet and returns the line and the reason ("7:
+  /// ...").
   std::optional<std::string> connect(std::string_view owner, const Nib::Outlets& outlets);
 
   /// The views without a superview, in their order.

@@ -18,8 +18,8 @@ namespace quorix::uikit {
 ///
 /// Supports the part of the format that texts need: views and labels with frames, colors in sRGB,
 /// the system's font, edge and size constraints, accessibility labels and traits, and the owner's
-/// outlets. A file with any other element, attribute or value is refused, with the line and the
-/// name: a file is shown as the designer sees it, or not at all.
+/// outlets. A file with any other element, attribute or value is refused, and the error has the
+/// line and the name. A view is shown as designed, or not at all.
 class Nib {
  public:
   /// The owner's variables that an interface file sets, by name. They must outlive the load.
@@ -39,7 +39,7 @@ class Nib {
   ///                            &titleLabel_}}});
   static foundation::Result<Views> load(std::string_view name, const foundation::Bundle& bundle,
                                         std::string_view owner, const Outlets& outlets);
-  /// The same from the file's text; `name` is for messages.
+  /// Loads the same from the file's text; `name` is for messages.
   static foundation::Result<Views> parse(std::string_view xml, std::string_view name,
                                          std::string_view owner, const Outlets& outlets);
 };

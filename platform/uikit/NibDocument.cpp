@@ -59,7 +59,7 @@ class NibReader {
   NibElements elements_;
   NibDocument document_;
   std::map<std::string, std::size_t, std::less<>> byId_;
-  // Read last: they may refer to any view.
+  // Read at the end, because constraints may refer to any view.
   std::vector<Joined> constraints_;
   std::vector<pugi::xml_node> outlets_;
 };
@@ -86,7 +86,7 @@ void NibReader::readDocument(pugi::xml_node document) {
   }
   for (const pugi::xml_node part : document.children()) {
     const std::string_view kind = part.name();
-    if (kind == "device" || kind == "dependencies") continue;  // the tool's own
+    if (kind == "device" || kind == "dependencies") continue;  // written by the tool for itself
     if (kind != "objects") {
       elements_.refuse(part, tag(part) + " is not supported");
       continue;

@@ -65,7 +65,7 @@ struct NibDocument {
     std::string className;
   };
 
-  std::vector<Owner> owners;  ///< one, as the designer's tool writes it
+  std::vector<Owner> owners;  ///< the tool writes one
   std::vector<View> views;
   std::vector<Constraint> constraints;
   std::vector<Outlet> outlets;

@@ -7,7 +7,7 @@
 namespace quorix::uikit {
 namespace {
 
-constexpr double longest = 1e6;  // points; nothing sensible is longer
+constexpr double longest = 1e6;  // points; a longer one is an error
 
 bool isWordOf(std::string_view words, std::string_view word) {
   if (word.empty()) return false;

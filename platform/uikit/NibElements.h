@@ -10,8 +10,8 @@
 
 namespace quorix::uikit {
 
-/// Reads the attributes of an interface file's elements, and keeps the first refusal. Reading goes
-/// on after it; the result is not used.
+/// Reads the attributes of an interface file's elements. Stores the first refusal and continues;
+/// the result is then not used.
 class NibElements {
  public:
   explicit NibElements(std::string_view xml);
@@ -35,7 +35,7 @@ class NibElements {
 
  private:
   std::vector<std::ptrdiff_t>
-      lineEnds_;  // found once, because every constraint and outlet stores its line
+      lineEnds_;  // cached, because every constraint and outlet stores its line
   std::optional<std::string> refusal_;
 };
 

@@ -54,7 +54,7 @@ class QUORIX_EXPORT UIWindowScene final : public UIScene {
 
 class URLOpener;
 
-/// The running app: its scenes, and how it opens addresses outside. Main thread.
+/// The running app: its scenes, and the opening of addresses outside the app. Main thread.
 class QUORIX_EXPORT UIApplication {
  public:
   using OpenOptions = std::map<std::string, std::string>;
@@ -63,12 +63,12 @@ class QUORIX_EXPORT UIApplication {
 
   /// In the order in which they were connected.
   const std::vector<std::shared_ptr<UIScene>>& connectedScenes() const { return scenes_; }
-  /// For surfaces: a scene begins and ends.
+  /// For surfaces: adds a scene, or removes one.
   void connect(std::shared_ptr<UIScene> scene);
   void disconnect(const std::shared_ptr<UIScene>& scene);
 
-  /// Hands `url` to `URLOpener::openOutside`, which refuses unsafe addresses. Calls `completion` on
-  /// a later turn of the main queue with its result.
+  /// Passes `url` to `URLOpener::openOutside`, which refuses unsafe addresses. Calls `completion`
+  /// with the result on a later turn of the main queue.
   void open(const foundation::URL& url, const OpenOptions& options,
             std::function<void(bool)> completion = {});
 

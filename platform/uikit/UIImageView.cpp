@@ -8,7 +8,7 @@
 namespace quorix::uikit {
 namespace {
 
-/// The system's blue, which template images are drawn in.
+/// The system's blue, the color of template images.
 constexpr graphics::RGBA tint = {0, 122, 255, 255};
 
 }  // namespace

@@ -10,7 +10,7 @@
 
 namespace quorix::uikit {
 
-/// Points. Negative ones lead outwards.
+/// Points. Negative insets extend outwards.
 using UIEdgeInsets = layout::SideInsets;
 
 /// An image of an asset catalog and how to show it: an immutable object, shared by reference.
@@ -45,8 +45,8 @@ class UIImage {
 
 /// An image, stretched to the frame. Takes no touches by default.
 ///
-/// The view has the alignment insets of its image: constraints set the layout rectangle, which is
-/// the view's frame, and the picture is drawn outside it (positive insets) or inside (negative).
+/// The view has the alignment insets of its image. Constraints set the layout rectangle, which is
+/// the view's frame. Positive insets make the picture larger than the frame, negative ones smaller.
 class UIImageView final : public UIView {
  public:
   /// `image` at its natural size; null for no image.

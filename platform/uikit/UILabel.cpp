@@ -9,7 +9,7 @@
 namespace quorix::uikit {
 namespace {
 
-/// The cache is cleared beyond this number; one layout measures fewer.
+/// Sizes that are cached before the cache is cleared. One layout measures fewer.
 constexpr std::size_t manyWidths = 4;
 
 graphics::RGBA defaultColor(graphics::Appearance appearance) {

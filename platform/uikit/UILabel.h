@@ -21,13 +21,13 @@ class UILabel final : public UIView {
   /// Runs without a font or a color get the label's.
   void setAttributedText(const NSAttributedString& text);
 
-  /// Null is the system's font at 17 points. Setting it changes every run.
+  /// Null selects the system's font at 17 points. Setting a font changes every run.
   const UIFont::Ref& font() const { return font_; }
   void setFont(UIFont::Ref font);
-  /// Null is black, or white in dark mode. Setting it changes every run.
+  /// Null selects black, or white in dark mode. Setting a color changes every run.
   const UIColor::Ref& textColor() const { return textColor_; }
   void setTextColor(UIColor::Ref color);
-  /// 1 (the default) never breaks the text; any other number breaks it to the width, without a
+  /// 1 (the default) never breaks the text. Any other number breaks it to the width, without a
   /// limit of lines.
   int numberOfLines() const { return numberOfLines_; }
   void setNumberOfLines(int lines);
@@ -41,7 +41,7 @@ class UILabel final : public UIView {
 
  private:
   struct Measured {
-    double width;  ///< offered
+    double width;  ///< the offered width
     double scale;
     layout::Size size;
   };

@@ -57,7 +57,7 @@ class QUORIX_EXPORT CALayer {
   /// Points, inside the view's edges and above its subviews; 0 for none.
   double borderWidth() const { return borderWidth_; }
   void setBorderWidth(double width);
-  /// Null is black.
+  /// Null draws black.
   const UIColor::Ref& borderColor() const { return borderColor_; }
   void setBorderColor(UIColor::Ref color);
 
@@ -67,13 +67,13 @@ class QUORIX_EXPORT CALayer {
   UIColor::Ref borderColor_;
 };
 
-/// The input of layout and drawing besides the views.
+/// The inputs of layout and drawing other than the views.
 struct LayoutContext {
   text::TextEngine& engine;
   render::Display display;
 };
 
-/// The role that assistive technology reads out; `none` is the content's own.
+/// The role for assistive technology; `none` keeps the content's own.
 enum class UIAccessibilityTraits : std::uint8_t { none, button, link, header };
 
 /// A rectangle of the screen: a retained object that draws itself and its subviews. Owns its
@@ -92,25 +92,25 @@ class QUORIX_EXPORT UIView : public std::enable_shared_from_this<UIView> {
   // Hierarchy.
 
   std::shared_ptr<UIView> superview() const;
-  /// The last one lies on top.
+  /// From the bottom to the top.
   const std::vector<std::shared_ptr<UIView>>& subviews() const { return subviews_; }
-  /// Removes `view` from its superview and puts it on top. Adding a view to itself or to one of its
+  /// Removes `view` from its superview and adds it on top. Adding a view to itself or to one of its
   /// subviews stops the process.
   void addSubview(std::shared_ptr<UIView> view);
-  /// The same at `index` among the other subviews; an index beyond the last is the top.
+  /// Inserts `view` at `index` among the other subviews; an index beyond the last is the top.
   void insertSubview(std::shared_ptr<UIView> view, std::size_t index);
-  /// Also ends the constraints between this view and the superview or its other subviews.
+  /// Also removes the constraints between this view and the superview or its other subviews.
   void removeFromSuperview();
   bool isDescendant(const UIView& view) const;
 
   // Place and size, in points.
 
-  /// In the superview. Showing the view replaces it by the frame of the layout. Of a view whose
-  /// content has alignment insets it is the layout rectangle.
+  /// The frame in the superview. A layout replaces it. If the view's content has alignment insets,
+  /// it is the layout rectangle.
   const layout::Rect& frame() const { return frame_; }
   void setFrame(const layout::Rect& frame);
   layout::Rect bounds() const { return {{}, frame_.size}; }
-  /// Whether the frame places the view, and constraints do not.
+  /// Whether the frame places the view. If false, constraints do.
   bool translatesAutoresizingMaskIntoConstraints() const { return translatesMask_; }
   void setTranslatesAutoresizingMaskIntoConstraints(bool translates);
 
@@ -122,7 +122,7 @@ class QUORIX_EXPORT UIView : public std::enable_shared_from_this<UIView> {
   NSLayoutAnchor bottomAnchor() { return anchor(LayoutAttribute::bottom); }
   NSLayoutAnchor widthAnchor() { return anchor(LayoutAttribute::width); }
   NSLayoutAnchor heightAnchor() { return anchor(LayoutAttribute::height); }
-  /// The active ones between this view and its subviews or among them.
+  /// The active constraints between this view and its subviews, or among the subviews.
   const std::vector<ActiveLayoutConstraint>& constraints() const { return constraints_; }
 
   // Appearance.
@@ -166,33 +166,33 @@ class QUORIX_EXPORT UIView : public std::enable_shared_from_this<UIView> {
   /// The content's natural size; with `width`, that of a text broken to it. Absent without content.
   virtual std::optional<layout::Size> intrinsicContentSize(std::optional<double> width,
                                                            const LayoutContext& context) const;
-  /// Appends the items of this view, which lie below its subviews: here, the background. `frame`
-  /// and the items' frames are exact, not rounded to pixels, in the display list's coordinates.
+  /// Appends the items of this view, which are below its subviews: here, the background. `frame`
+  /// and the items' frames are exact (not on pixels), in the display list's coordinates.
   virtual void draw(const layout::Rect& frame, const LayoutContext& context,
                     std::vector<render::Item>& items) const;
   /// The content's element for assistive technology, or absent. A label that the content does not
-  /// bring itself is in `language`.
+  /// set itself is in `language`.
   virtual std::optional<render::AccessibilityElement> describe(std::string_view language) const;
-  /// Sets the frame of a layout, without a notice of change.
+  /// Sets the frame in a layout, without a change notice.
   void layOutAt(const layout::Rect& frame) { frame_ = frame; }
 
   /// Notifies the content set by `setShownBy` that the size or appearance may have changed.
   void setNeedsLayout() const;
   /// Makes `content` the one that shows this view, in place of an earlier one.
   void setShownBy(UIViewContent* content) { shownBy_ = content; }
-  /// No effect when another content shows the view by now.
+  /// No effect if another content shows the view now.
   void endShownBy(const UIViewContent* content) {
     if (shownBy_ == content) shownBy_ = nullptr;
   }
 
  protected:
-  /// For constructors of views that take no touches by default.
+  /// For constructors: makes the view ignore touches by default.
   void startUntouched() { userInteractionEnabled_ = false; }
 
  private:
   friend struct NSLayoutConstraint;
 
-  /// What only few views have.
+  /// Properties that few views set.
   struct Extras {
     explicit Extras(UIView& view) : layer(view) {}
     CALayer layer;
@@ -200,7 +200,7 @@ class QUORIX_EXPORT UIView : public std::enable_shared_from_this<UIView> {
     std::optional<std::string> accessibilityLabel;
   };
   const Extras& extras() const;
-  /// To be changed.
+  /// The properties for a change; creates them on the first call.
   Extras& ownExtras();
 
   NSLayoutAnchor anchor(LayoutAttribute attribute) { return {weak_from_this(), attribute}; }

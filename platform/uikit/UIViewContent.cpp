@@ -13,7 +13,8 @@ namespace {
 
 using layout::Rect;
 
-/// A text keeps its exact size: a rounded one could break its lines differently.
+/// Moves a text to whole pixels. Its size is not rounded, because that could break its lines
+/// differently.
 Rect onPixels(const layout::PixelGrid& grid, const render::TextItem& item) {
   return {{grid.round(item.frame.left()), grid.round(item.frame.top())}, item.frame.size};
 }
@@ -43,9 +44,9 @@ class ViewScene {
   struct Surroundings {
     layout::Point origin;
     Rect visible;                ///< touches outside do not reach the view
-    bool touched = true;         ///< every view around it takes touches
-    foundation::Action action;   ///< of the nearest view with a recognizer
-    std::size_t areasBelow = 0;  ///< the number of hit areas up to the one of that view
+    bool touched = true;         ///< all enclosing views take touches
+    foundation::Action action;   ///< of the nearest enclosing view with a recognizer
+    std::size_t areasBelow = 0;  ///< number of hit areas up to that view's own
   };
 
   void add(const UIView& view, Surroundings around);
@@ -93,8 +94,8 @@ void ViewScene::paint(const UIView& view, const Rect& frame) {
   }
 }
 
-/// Adds the hit area of `view`. A view that takes touches and has no recognizer of its own runs the
-/// action of the views around it, and covers the hit areas of its siblings below it.
+/// Adds the hit area of `view`. A view that takes touches and has no recognizer runs the action of
+/// the enclosing views, and covers the hit areas of its siblings below it.
 void ViewScene::takeTouches(const UIView& view, Surroundings& around) {
   if (!around.touched || around.visible.isEmpty()) return;
   auto& areas = scene_.hitAreas;

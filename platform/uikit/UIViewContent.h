@@ -11,8 +11,8 @@ namespace quorix::uikit {
 
 class UIViewController;
 
-/// Makes the display list of a view and its subviews. Only the latest content made for a view is
-/// told of its changes. Main thread.
+/// Makes the display list of a view and its subviews. Only the content made last for a view
+/// receives its change notices. Main thread.
 class QUORIX_EXPORT UIViewContent : public render::HostedContent {
  public:
   explicit UIViewContent(std::shared_ptr<UIView> view);
@@ -23,11 +23,11 @@ class QUORIX_EXPORT UIViewContent : public render::HostedContent {
   const std::shared_ptr<UIView>& view() const { return view_; }
   /// Shows another view.
   void show(std::shared_ptr<UIView> view);
-  /// The view, or one in it, may have another size or appearance.
+  /// The size or the appearance of the view or a subview may have changed.
   void viewChanged() const { tellChanged(); }
 
-  /// The size that constraints and content ask for, within the proposal. A length that they leave
-  /// open is the proposed one.
+  /// The size by constraints and content, within the proposal. A length that they leave open is the
+  /// proposed one.
   layout::Size sizeThatFits(layout::ProposedSize proposal, text::TextEngine& engine,
                             double scale) override;
   render::Scene scene(layout::Size size, const render::Display& display,

@@ -37,7 +37,7 @@ void UIViewController::dismiss(bool animated, std::function<void()> completion) 
   const auto kept = weak_from_this().lock();
   const auto leaving = std::exchange(presented_, nullptr);
   leaving->presenting_ = nullptr;
-  // The controllers above it are dismissed too, and may be presented again.
+  // Dismiss the controllers above it too. They may be presented again.
   for (auto above = leaving; above->presented_;) {
     above = std::exchange(above->presented_, nullptr);
     above->presenting_ = nullptr;

@@ -14,9 +14,9 @@ namespace quorix::uikit {
 
 class UIWindow;
 
-/// One screen of an app. Makes its view at the first call of `view`, and may present another
-/// controller over itself, as a sheet of the page's size, which it owns. Make it with
-/// std::make_shared. Main thread.
+/// One screen of an app. Makes its view at the first call of `view`. May present another controller
+/// over itself, as a sheet of the page's size, and owns it. Make it with std::make_shared. Main
+/// thread.
 ///
 ///     struct Page : UIViewController {
 ///       void viewDidLoad() override { view()->addSubview(std::make_shared<UIView>()); }
@@ -27,8 +27,8 @@ class UIWindow;
 class QUORIX_EXPORT UIViewController : public std::enable_shared_from_this<UIViewController> {
  public:
   UIViewController() = default;
-  /// Stores the name of an interface file and its bundle for subclasses. The view is made empty all
-  /// the same; load the file with `Nib`.
+  /// Stores the name of an interface file and its bundle for subclasses. Does not load the file;
+  /// use `Nib`. The view is still made empty.
   explicit UIViewController(std::optional<std::string> nibName,
                             foundation::Bundle::Ref nibBundle = nullptr)
       : nibName_(std::move(nibName)), nibBundle_(std::move(nibBundle)) {}
@@ -40,18 +40,18 @@ class QUORIX_EXPORT UIViewController : public std::enable_shared_from_this<UIVie
   /// Null: the host's main bundle.
   const foundation::Bundle::Ref& nibBundle() const { return nibBundle_; }
 
-  /// The first call makes the view and then calls `viewDidLoad`. Never null.
+  /// Makes the view on the first call, then calls `viewDidLoad`. Never null.
   const std::shared_ptr<UIView>& view();
-  /// Runs once, when the view has been made and is still empty.
+  /// Called once, when the view has been made and is still empty.
   virtual void viewDidLoad() {}
 
-  /// Shows `controller` over this one; `completion` runs on a later turn of the main queue. No
-  /// effect when this one already presents another, or when `controller` is already presented, is a
-  /// window's root or is this one.
+  /// Shows `controller` over this one. Calls `completion` on a later turn of the main queue. No
+  /// effect if this one already presents a controller, or if `controller` is already presented, is
+  /// a window's root or is this one.
   void present(std::shared_ptr<UIViewController> controller, bool animated,
                std::function<void()> completion = {});
-  /// Dismisses the controller that this one presents, and all above it. A controller that presents
-  /// none passes the call on to the one that presents it. `completion` runs on a later turn of the
+  /// Dismisses the controller that this one presents, and all above it. If this one presents none,
+  /// calls `dismiss` of the controller that presents it. Calls `completion` on a later turn of the
   /// main queue if a controller was dismissed.
   void dismiss(bool animated, std::function<void()> completion = {});
 

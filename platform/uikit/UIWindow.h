@@ -17,11 +17,11 @@ class QUORIX_EXPORT UIWindow final : public UIView {
   using Level = double;
   static constexpr Level normalLevel = 0;
 
-  /// Shows the window's controllers; a surface.
+  /// A surface that shows the window's controllers.
   class Client {
    public:
     virtual ~Client() = default;
-    /// Show `presentedControllers()`, which changed. May be called inside a call of the client that
+    /// `presentedControllers()` changed: show them. May be called during a call of the client that
     /// presents or dismisses a controller.
     virtual void presentedControllersChanged(UIWindow& window, bool animated) = 0;
   };

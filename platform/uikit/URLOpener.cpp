@@ -11,17 +11,17 @@
 namespace quorix::uikit {
 namespace {
 
-/// Separated by blanks.
+/// Schemes, separated by blanks.
 constexpr std::string_view refusedSchemes =
-    // Files and data of this machine, or of the process that asks.
+    // Files and data of this machine or of the calling process.
     " file content filesystem blob data cid mid mhtml jar zip archive disk mtp gphoto2 afc recent"
     " trash computer network burn admin qrc res resource asset assets android.resource app"
     " applewebdata"
-    // Script, and addresses that hold another one.
+    // Scripts, and addresses that contain another one.
     " javascript jscript livescript vbscript mocha view-source wyciwyg feed read intent android-app"
     // Internal pages of browsers.
     " about chrome devtools edge brave opera vivaldi safari webkit microsoft-edge"
-    // Disks, shells and desktops of other machines; connecting may already send a password.
+    // Disks, shells and desktops of other machines. The connection alone may send a password.
     " ftp ftps sftp fish smb cifs nfs afp dav davs webdav webdavs ssh telnet rlogin tn3270 rdp vnc"
     " ldap ldaps gopher rsync git svn nntp news"
     // The system's installers, settings, launchers and help.
@@ -41,7 +41,7 @@ bool isRefused(std::string_view scheme) {
          scheme.ends_with("-extension");
 }
 
-/// Some mail programs attach the file that another item names.
+/// Whether a mail has only safe items. Some mail programs attach a file that another item names.
 bool hasHarmlessItems(std::string_view mail) {
   constexpr std::string_view harmless[] = {"to", "cc", "bcc", "subject", "body"};
   const std::size_t mark = mail.find('?');
@@ -59,7 +59,7 @@ bool hasHarmlessItems(std::string_view mail) {
   return true;
 }
 
-/// Codes with stars and hashes can forward calls or wipe a telephone.
+/// Whether `call` has no stars or hashes. Such codes can forward calls or erase a phone.
 bool isPlainNumber(std::string_view call) {
   return call.find_first_of("*#") == std::string_view::npos &&
          call.find("%2A") == std::string_view::npos && call.find("%2a") == std::string_view::npos &&
@@ -82,7 +82,7 @@ std::shared_ptr<URLOpener> URLOpener::install(std::shared_ptr<URLOpener> opener)
 }
 
 bool URLOpener::openOutside(const foundation::URL& url) {
-  const auto opener = UIApplication::shared().opener_;  // kept: opening may replace it
+  const auto opener = UIApplication::shared().opener_;  // keeps it alive: opening may replace it
   if (!opener || !opensOutside(url)) return false;
   opener->open(url);
   return true;

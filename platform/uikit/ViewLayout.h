@@ -13,8 +13,8 @@ class ViewLayout {
  public:
   explicit ViewLayout(const LayoutContext& context) : context_(context) {}
 
-  /// The size of `view` for `proposal`: of its content or by its constraints. A length that neither
-  /// sets is the proposed one, or else that of its frame.
+  /// The size of `view` for `proposal`, by its content or its constraints. A length that neither
+  /// sets is the proposed one, or else the frame's.
   layout::Size sizeThatFits(const UIView& view, layout::ProposedSize proposal) const;
 
   /// Sets the frame of `view` and lays out its subviews.

@@ -17,7 +17,7 @@ std::string describe(const UIColor& color) {
                               : inQuotes(color.name());
 }
 
-/// The class; of a subview also its index, because several may have one class.
+/// The class name. For a subview also its index, because several may have the same class.
 std::string nameIn(const UIView& holder, const UIView& item) {
   std::string name(item.className());
   if (&item == &holder) return name;

@@ -7,9 +7,9 @@
 
 namespace quorix::uikit {
 
-/// Prints `view` and its subviews: of each the class, the frame in its superview as of the latest
-/// layout, in points, and the content; then its constraints, and its subviews from the lowest to
-/// the top-most. Main thread.
+/// Prints `view` and its subviews. For each: the class, the frame in its superview after the latest
+/// layout, in points, and the content; then its constraints, and its subviews from the bottom to
+/// the top. Main thread.
 ///
 ///     UIView 0 0 343 80 background "WidgetBackground"
 ///         .constraint(UILabel[0].top = UIView.top + 16)

@@ -9,18 +9,17 @@
 
 namespace quorix::webkit {
 
-/// Whether a page in the app may load an address of `scheme` (lower case): only what the web
-/// serves, no files of the device and no internal pages of the engine.
+/// Whether a page in the app may load an address of `scheme` (lower case): only web schemes, no
+/// files of the device and no internal pages of the engine.
 constexpr bool mayNavigateTo(std::string_view scheme) {
   return scheme == "https" || scheme == "http" || scheme == "about" || scheme == "blob" ||
          scheme == "data";
 }
 
-/// Decides which of a page's requests for a new window may leave the app, so that a page cannot
-/// flood the desktop. Requests by the user always leave. The first request without a gesture of the
-/// user leaves too; every later one only to a web, mail or telephone address. Without a gesture,
-/// at least `pause` must have passed since the latest opening. One object for each page; main
-/// thread.
+/// Limits which of a page's requests for a new window may leave the app, so that a page cannot
+/// flood the desktop. Requests by the user always leave. Requests without a user gesture leave only
+/// if `pause` has passed since the latest opening. After the first of them, they leave only to a
+/// web, mail or phone address. One object for each page; main thread.
 ///
 ///     bool mayLeaveUnasked(NewWindowLimit& limit, const foundation::URL& url) {
 ///       return limit.allows(url, false, NewWindowLimit::Clock::now());
@@ -30,8 +29,8 @@ class NewWindowLimit {
   using Clock = std::chrono::steady_clock;
   static constexpr std::chrono::seconds pause{10};
 
-  /// `byUser`: a click, a tap or a key of the user's caused the request. A refused request does not
-  /// lengthen the pause.
+  /// `byUser`: a click, a tap or a key caused the request. A refused request does not extend the
+  /// pause.
   bool allows(const foundation::URL& url, bool byUser, Clock::time_point now) {
     if (!byUser) {
       const bool pauses = latest_ && now - *latest_ < pause;

@@ -3,7 +3,7 @@
 namespace quorix::webkit {
 namespace {
 
-/// Shown by an opaque web view until its page has painted.
+/// The color of an opaque web view until its page has painted.
 constexpr graphics::RGBA blankPage = {255, 255, 255, 255};
 
 }  // namespace
@@ -32,7 +32,7 @@ WKWebView::WKWebView(layout::Rect frame, const WKWebViewConfiguration& configura
   content_->onLoadFailed = tells(&WKNavigationDelegate::webViewDidFailProvisionalNavigation);
 }
 
-/// The engine may outlive this view and still hold the content.
+/// Clears the callbacks: the engine may outlive this view and still hold the content.
 WKWebView::~WKWebView() {
   content_->onNewWindow = nullptr;
   content_->onProcessEnded = nullptr;

@@ -17,7 +17,7 @@ struct WKWebpagePreferences {
 };
 
 struct WKPreferences {
-  /// Scripts may ask for windows without a gesture of the user.
+  /// Whether scripts may ask for windows without a user gesture.
   bool javaScriptCanOpenWindowsAutomatically = false;
 };
 
@@ -27,15 +27,15 @@ struct WKWebViewConfiguration {
   WKPreferences preferences;
 };
 
-/// The address that a page asks for.
+/// A page's request for an address.
 struct WKNavigationAction {
   std::optional<foundation::URLRequest> request;  ///< absent: a window without an address
 };
 
-/// The size and the bars that a script asks for. Not passed on.
+/// The window size and bars that a script requested. Not filled in.
 struct WKWindowFeatures {};
 
-/// Receives what happens to a web view's page. Main thread.
+/// Receives events of a web view's page. Main thread.
 class WKNavigationDelegate {
  public:
   virtual ~WKNavigationDelegate() = default;
@@ -43,17 +43,17 @@ class WKNavigationDelegate {
   /// The process of the page crashed or was killed: the view stays empty until the next load.
   virtual void webViewWebContentProcessDidTerminate(WKWebView&) {}
 
-  /// A load failed before anything of it came: the view is empty.
+  /// A load failed before any data arrived: the view is empty.
   virtual void webViewDidFailProvisionalNavigation(WKWebView&) {}
 };
 
-/// Answers what a page asks of the app. Main thread.
+/// Handles a page's requests to the app. Main thread.
 class WKUIDelegate {
  public:
   virtual ~WKUIDelegate() = default;
 
-  /// The page, or a script on it, asks for a new window. Return null: a returned view does not get
-  /// the page, because new windows open outside the app only. Without a delegate none opens.
+  /// The page, or a script on it, asks for a new window. Return null: a returned view would not get
+  /// the page, because new windows open only outside the app. Without a delegate, none opens.
   virtual std::shared_ptr<WKWebView> webView(WKWebView& webView,
                                              const WKWebViewConfiguration& createWebViewWith,
                                              const WKNavigationAction& forAction,
@@ -77,7 +77,7 @@ class WKWebView final : public uikit::UIView {
   }
   void setUIDelegate(std::weak_ptr<WKUIDelegate> delegate) { uiDelegate_ = std::move(delegate); }
 
-  /// Before the page is shown.
+  /// Call before the page is shown.
   void setAllowsBackForwardNavigationGestures(bool allows) {
     content_->settings.allowsBackForwardNavigationGestures = allows;
   }

@@ -12,9 +12,9 @@
 
 namespace quorix::webkit {
 
-/// A web page for a web engine: its address, its settings, and what it asks of the app. `WKWebView`
-/// owns it. The surface attaches an engine, which may come after the first load and may end before
-/// the page. Main thread.
+/// A web page for a web engine: its address, its settings, and its requests to the app. `WKWebView`
+/// owns it. The surface attaches an engine, which may start after the first load and end before the
+/// page. Main thread.
 ///
 ///     // On a surface without an engine, the page opens outside the app.
 ///     #include <platform/uikit/URLOpener.h>
@@ -26,23 +26,23 @@ class QUORIX_EXPORT WebContent final : public render::Embed {
  public:
   struct Settings {
     bool allowsContentJavaScript = true;
-    /// Scripts may ask for windows without a gesture of the user.
+    /// Whether scripts may ask for windows without a user gesture.
     bool javaScriptCanOpenWindowsAutomatically = false;
     bool allowsBackForwardNavigationGestures = false;
   };
   Settings settings;
 
-  /// Called when the page, or a script on it, asks for a new window with this address (absent: with
-  /// none), or for an address that no page can show, and `NewWindowLimit` allows it.
+  /// Called if the page, or a script on it, asks for a new window with this address (may be
+  /// absent), or for an address that no page can show, and `NewWindowLimit` allows it.
   std::function<void(const std::optional<foundation::URL>&)> onNewWindow;
   /// Called when the engine's process for this page crashed or was killed.
   foundation::Action onProcessEnded;
-  /// Called when a load failed before anything of it came: no network, an unknown host, a server
-  /// that is not trusted or does not answer.
+  /// Called when a load failed before any data arrived: no network, an unknown host, a server that
+  /// is not trusted or does not answer.
   foundation::Action onLoadFailed;
 
-  /// Loads `request`: at once when an engine is attached, otherwise as soon as one is. The engine
-  /// stops the load when no byte arrives for the request's `timeoutInterval`.
+  /// Loads `request` at once, or as soon as an engine is attached. The engine stops the load if no
+  /// byte arrives for the request's `timeoutInterval`.
   void load(foundation::URLRequest request) {
     request_ = std::move(request);
     if (loader_) loader_(*request_);
@@ -53,16 +53,16 @@ class QUORIX_EXPORT WebContent final : public render::Embed {
     return request_ ? std::optional(request_->url) : std::nullopt;
   }
 
-  /// For engines: `loader` runs for the latest load, if there was one, and for every later one.
+  /// For engines: `loader` is called with the latest load, if there was one, and with every later
+  /// one.
   void attach(std::function<void(const foundation::URLRequest&)> loader) {
     loader_ = std::move(loader);
     if (loader_ && request_) loader_(*request_);
   }
   void detach() { loader_ = nullptr; }
 
-  /// For engines: the page asks for a new window, or for an address that it may not load itself
-  /// (mail, telephone, another app). `byUser`: a gesture of the user caused it. May delete this
-  /// object.
+  /// For engines: the page asks for a new window, or for an address that it may not load (mail,
+  /// phone, another app). `byUser`: a user gesture caused it. May delete this object.
   void askForWindow(const std::optional<foundation::URL>& url, bool byUser) {
     if (url && !limit_.allows(*url, byUser, NewWindowLimit::Clock::now())) return;
     const auto answer = onNewWindow;

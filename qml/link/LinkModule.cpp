@@ -1,5 +1,6 @@
-// Compiled into each program that links the QML module, which names nothing of it: without this a
-// linker drops the registration of its types from a static library, and a shared library whole.
+// Compiled into each program that links the QML module. Programs do not name the module's symbols.
+// Without this reference, a linker drops the registration of its types from a static library, and a
+// shared library completely.
 
 void qml_register_types_QuorixWidgets();
 

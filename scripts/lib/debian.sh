@@ -1,9 +1,9 @@
-# Sourced by scripts/test: another release of Debian in a folder. It stands outside the tree and
-# serves all clones on the machine; a clone's own build is in build/RELEASE.
+# Sourced by scripts/test: another release of Debian in a folder outside the tree. All clones on the
+# machine share it; each clone has its own build in build/RELEASE.
 
 debian_cache=${XDG_CACHE_HOME:-$HOME/.cache}/quorix
 
-# make_debian RELEASE: from the mirror that this machine has its own packages from, by the same way.
+# make_debian RELEASE: installs it from this machine's own mirror, with the same proxy settings.
 make_debian() {
   local root=$debian_cache/$1 mirror
   [[ ! -d $root ]] || return 0
@@ -12,16 +12,18 @@ make_debian() {
   [[ -n $mirror ]] || { echo "test: apt knows no mirror of Debian (apt-get update)" >&2; return 1; }
   rm -rf "$root.part"
   mkdir -p "$debian_cache"
-  # One script serves every release; debootstrap has names for those that it knew when it was made.
+  # debootstrap knows only the releases that are older than itself. The script of "sid" works for
+  # all.
   debootstrap --variant=minbase --include=ca-certificates "$1" "$root.part" "${mirror%%$'\n'*}" sid >/dev/null
   apt-config dump Acquire::http Acquire::https >"$root.part/etc/apt/apt.conf.d/90machine"
-  # Of a release in the making, a mirror that lags a week behind would count as expired.
+  # For a release in development, apt would treat a mirror that is a week old as expired.
   echo 'Acquire::Check-Valid-Until "false";' >>"$root.part/etc/apt/apt.conf.d/90machine"
   mkdir -p "$root.part/quorix" "$root.part/root/.cache/ccache"
   mv "$root.part" "$root"
 }
 
-# in_debian RELEASE COMMAND...: runs there, in this tree. What it mounts is gone when the command ends.
+# in_debian RELEASE COMMAND...: runs the command there, in this tree. The mounts end with the
+# command.
 in_debian() {
   local root=$debian_cache/$1
   mkdir -p "build/$1" "$debian_cache/ccache"

@@ -1,7 +1,7 @@
-# Sourced by the scripts. --help prints the comment at the head of the script, and ends it.
+# Sourced by the scripts. For --help, prints the comment at the head of the script and exits.
 
 usage() { sed -n '2,/^[^#]/s/^# \{0,1\}//p' "$0"; }
-# refuse MESSAGE: one line, for a command line that the script does not understand.
+# refuse MESSAGE: exits with one line for an invalid command line.
 refuse() { echo "$(basename "$0"): $* (see --help)" >&2; exit 2; }
 
 for argument in "$@"; do

@@ -1,4 +1,4 @@
-"""A private desktop for one program: a display, a session bus and the accessibility bus on it."""
+"""A private desktop for one program: a display, a session bus and its accessibility bus."""
 
 import importlib.util
 import os
@@ -9,11 +9,11 @@ import tempfile
 import time
 
 INSIDE = "QUORIX_BUS_INSIDE"
-SKIPPED = 77  # what ctest takes for it
+SKIPPED = 77  # the exit code that ctest counts as skipped
 
 
 def enter(locale):
-    """Goes on inside a session of our own, which ends with this process. Its user speaks `locale`."""
+    """Runs this program again inside its own session, which ends with it. The session's locale is `locale`."""
     if INSIDE in os.environ:
         return
     needed = ("Xvfb", "dbus-run-session", "xdotool")
@@ -43,8 +43,8 @@ def enter(locale):
 
 
 def until(condition, what, seconds=30):
-    """What `condition` says once it says something; asked again after each event from the bus, and
-    when an element that it asks about goes in the meantime."""
+    """Waits until `condition` returns a true value, and returns it. Checks it again after each event from the bus,
+    and if one of its elements has disappeared."""
     from gi.repository import GLib
     context = GLib.MainContext.default()
     end = time.monotonic() + seconds
@@ -57,6 +57,6 @@ def until(condition, what, seconds=30):
             return said
         if time.monotonic() > end:
             raise TimeoutError(f"waited in vain for {what}")
-        wake = GLib.timeout_add(50, lambda: True)  # not every change is an event
+        wake = GLib.timeout_add(50, lambda: True)  # some changes cause no event
         context.iteration(True)
         GLib.source_remove(wake)

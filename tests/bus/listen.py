@@ -1,7 +1,7 @@
-"""Walks the demo shop as a screen reader's user does, with nothing but the accessibility bus, and
-compares what there was to hear with the text in heard/. Both toolkits have to say the same.
+"""Walks through the demo shop like the user of a screen reader, over the accessibility bus alone, and compares
+the spoken texts with the file in heard/. Both toolkits must say the same.
 
-    listen.py SHOP LANGUAGE ICU     QUORIX_UPDATE_HEARD=1 writes the text anew (with ICU before 76)
+    listen.py SHOP LANGUAGE ICU     QUORIX_UPDATE_HEARD=1 writes the file again (with ICU before 76)
 """
 
 import difflib
@@ -45,7 +45,7 @@ class Walk:
         self.lines += ["", f"== {title}", *lines]
 
     def sheet_of(self, opener, title):
-        """Opens the sheet behind `opener`, reads it, closes it, and hears where the focus is."""
+        """Opens the sheet of `opener`, reads it, closes it, and checks where the focus is."""
         window = self.window
         itself = reader.line(opener)
         window.forget()
@@ -54,7 +54,7 @@ class Walk:
         reader.press(opener)
         sheet = bus.until(window.dialog, f"the sheet of {title}")
         self.lines += ["-- opens", *window.heard_until(reader.line(sheet))]
-        # While a page loads, the engine puts another document in place of the first.
+        # During a load, the engine replaces the first document.
         self.lines += bus.until(lambda: reader.read(sheet), "what is in the sheet")
         bus.until(lambda: opener in window.hidden and not reader.shown(opener),
                   "what is behind the sheet to go")
@@ -99,7 +99,7 @@ def main():
     if os.environ.get("QUORIX_UPDATE_HEARD"):
         golden.write_text(heard["Qt Quick"])
     expected = golden.read_text()
-    if int(ICU.split(".")[0]) >= 76:  # writes Arabic amounts in Latin digits
+    if int(ICU.split(".")[0]) >= 76:  # these versions write Arabic amounts in Latin digits
         expected = expected.translate(str.maketrans("٠١٢٣٤٥٦٧٨٩٫", "0123456789."))
     differences = [difflib.unified_diff(expected.splitlines(True), text.splitlines(True),
                                         golden.name, toolkit) for toolkit, text in heard.items()]

@@ -1,5 +1,5 @@
-"""Whether the sheet stands in its place as soon as it can be heard, for a user who asked the
-desktop for less motion: a settings service of our own says so, the bus tells where the sheet is.
+"""Checks that a sheet is at its place as soon as it is announced, if the desktop asks for less motion. The
+program's own settings service says so, and the bus has the sheet's position.
 
     motion.py SHOP
 """
@@ -23,7 +23,7 @@ READS = []
 
 
 def serve(session, wishes):
-    """Answers for the desktop's settings."""
+    """Replaces the desktop's settings service."""
     def read(_bus, _who, _path, _interface, _method, key, call):
         READS.append(key.unpack())
         value = wishes.get(READS[-1][1])
@@ -39,7 +39,7 @@ def extents(element):
 
 
 def late(shop):
-    """The windows whose sheet was still below them when it was first heard."""
+    """The windows whose sheet was still below them when it was announced."""
     READS.clear()
     program = subprocess.Popen([shop, "--widgets"])
     try:

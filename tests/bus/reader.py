@@ -1,4 +1,4 @@
-"""A screen reader of few words: what the accessibility bus says about a window, as lines of text."""
+"""A minimal screen reader: the content of a window on the accessibility bus, as lines of text."""
 
 import re
 import subprocess
@@ -12,14 +12,14 @@ from gi.repository import Atspi, Gio, GLib
 import bus
 
 State = Atspi.StateType
-# Told only where they hold; every element shown is enabled, or says that it is not.
+# Printed if they are set. Being disabled is printed separately.
 STATES = [State.CHECKED, State.MODAL]
 SILENT = ("filler", "panel", "layered pane")
 WEB = ("document web", "document frame")
 
 
 def listen():
-    """Switches the desktop's accessibility on, as a reader does that starts with the session."""
+    """Switches the desktop's accessibility on, like a screen reader at the start of the session."""
     warnings.simplefilter("ignore", DeprecationWarning)
     status = Gio.DBusProxy.new_for_bus_sync(
         Gio.BusType.SESSION, 0, None, "org.a11y.Bus", "/org/a11y/bus",
@@ -33,9 +33,9 @@ def listen():
 
 def children(element):
     try:
-        element.clear_cache()  # Qt does not tell of every change
+        element.clear_cache()  # Qt does not report every change
         every = [element.get_child_at_index(i) for i in range(element.get_child_count())]
-    except GLib.Error:  # it went in the meantime
+    except GLib.Error:  # it has disappeared
         return []
     return [child for child in every if child]
 
@@ -49,12 +49,12 @@ def shown(element):
 
 
 def role(element):
-    """Its role in words. Newer libraries say "button"."""
+    """The name of its role. Newer libraries call a push button "button"."""
     return "push button" if element.get_role() == Atspi.Role.PUSH_BUTTON else element.get_role_name()
 
 
 def walk(element):
-    """What is on the screen, in reading order. A page keeps its inside to itself."""
+    """The visible elements in reading order, without the content of pages."""
     if not shown(element):
         return
     yield element
@@ -64,8 +64,8 @@ def walk(element):
 
 
 def words(element):
-    """What it is called, by itself or by its label, and what else is said of it. The title of a page
-    is not ours to say, and older engines don't."""
+    """Its label, its name and its description. Nothing for a page: the title is not ours, and older engines
+    lack it."""
     if role(element) in WEB:
         return []
     label = [relation.get_target(0).get_name() for relation in element.get_relation_set()
@@ -81,7 +81,7 @@ def line(element):
         said.append("disabled")
     if {"Press", "Toggle"} & set(actions(element)):
         said.append("acts, yet read-only" if states.contains(State.READ_ONLY) else "acts")
-        if not states.contains(State.FOCUSABLE):  # texts of Qt Quick are, which leads nowhere
+        if not states.contains(State.FOCUSABLE):  # texts of Qt Quick are focusable, without effect
             said.append("out of the keyboard's reach")
     return " ".join(said)
 
@@ -92,7 +92,7 @@ def actions(element):
 
 
 def read(element):
-    """A line for each thing in it to hear; what only holds others together is silent."""
+    """One line for each element in it that speaks. Containers do not."""
     return [line(each) for child in children(element) for each in walk(child) if speaks(each)]
 
 
@@ -105,7 +105,7 @@ def press(element):
 
 
 class Window:
-    """A window of a program, by its title, and what it says of itself."""
+    """A window of a program, by its title, with its elements and events."""
 
     def __init__(self, title):
         self.title = title
@@ -138,11 +138,11 @@ class Window:
                 above = above.get_parent()
         except GLib.Error:
             return
-        if above and self.events[-1:] != [said]:  # twice the same is said once
+        if above and self.events[-1:] != [said]:  # repeated events count once
             self.events.append(said)
 
     def take_keyboard(self):
-        """What a window manager does when the user turns to the window."""
+        """Gives the window the keyboard focus, like a window manager."""
         search = ["xdotool", "search", "--name", f"^{re.escape(self.title)}$", "windowfocus"]
         subprocess.run(search, check=True)
         bus.until(self._is_active, "the keyboard")
@@ -169,7 +169,7 @@ class Window:
         return next(self.all("dialog"), None)
 
     def heard_until(self, focused):
-        """What was told until the focus came to that line."""
+        """The events up to the one that focuses that line."""
         last = [f"focused: {focused}"]
         bus.until(lambda: self.events[-1:] == last, last[0])
         events, self.events = self.events, []

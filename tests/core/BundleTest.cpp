@@ -19,7 +19,7 @@ const std::map<std::string, std::string> kFiles = {
     {"a/c/Contents.json", "{}"},          {"top.txt", ""},
 };
 
-/// The same files as a bundle in memory and as a folder beside which a secret lies.
+/// The same files as a bundle in memory and as a folder. A secret file is beside the folder.
 class BundleTest : public ::testing::TestWithParam<bool> {
  protected:
   void SetUp() override {

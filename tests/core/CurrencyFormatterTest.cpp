@@ -16,8 +16,8 @@ namespace {
 constexpr std::int64_t kAmounts[] = {
     0, 1, 4, 5, 10, 999, 1000, 1234567, -1, -1234, 92233720368547758, -92233720368547758};
 
-// A row of which ICU 78 writes something else has a column for it: forints are without decimals
-// there, and Armenian does not group four digits.
+// If ICU 78 writes a row differently, the row has a column for it: forints have no decimals there,
+// and Armenian does not group four digits.
 void expectTexts(simdjson::dom::element row, std::string_view column) {
   if (U_ICU_VERSION_MAJOR_NUM >= 78 && row["since_78"].is_array()) column = "since_78";
   const CurrencyFormatter formatter({text(row, "language"), text(row, "currency")});
@@ -34,8 +34,8 @@ TEST(CurrencyFormatter, WritesAmountsAsTheLanguageDoes) {
   forEachRow("currency", [](simdjson::dom::element row) { expectTexts(row, "texts"); });
 }
 
-// Here platforms differ with the age of their locale data. ICU 72 says what is in "system"; from
-// the version in "since" on it says what phones do.
+// Rows that depend on the age of the system's locale data. ICU 72 writes "system"; from the version
+// in "since" on, the texts are those of phones.
 TEST(CurrencyFormatter, FollowsTheSystemsLocaleData) {
   forEachRow("currency_open", [](simdjson::dom::element row) {
     if (!row["system"].is_array()) return;
@@ -49,7 +49,7 @@ TEST(CurrencyFormatter, WritesAnUnknownLanguageNeutrally) {
   for (const char* language : {"xx", "english", "xx-DE", "und", ""}) {
     EXPECT_EQ(CurrencyFormatter({language, "EUR"}).text(-1234), "-€\u00A01,234.00") << language;
   }
-  // Codes that were replaced long ago are no unknown languages.
+  // Codes that were replaced long ago still count as known languages.
   EXPECT_EQ(CurrencyFormatter({"in", "EUR"}).text(4), CurrencyFormatter({"id", "EUR"}).text(4));
 }
 

@@ -29,7 +29,7 @@ constexpr auto kMalformed = static_cast<std::int64_t>(JSONDocument::ErrorCode::m
 constexpr auto kTooDeep = static_cast<std::int64_t>(JSONDocument::ErrorCode::tooDeep);
 
 TEST(JSON, RefusesWhatIsMalformed) {
-  // Each is in a place that the reader skips: an element of an array and a member of an object.
+  // Puts each value where the reader skips it: in an array and in an object.
   for (const std::string& value : readLines("json/values")) {
     EXPECT_EQ(errorCode("[0," + value + ",2]"), kMalformed) << value;
     EXPECT_EQ(errorCode(R"({"a":0,"b":)" + value + R"(,"c":{}})"), kMalformed) << value;
@@ -98,7 +98,7 @@ TEST(TokenData, IsReadAndStrictlySoWhereOtherReadersSlip) {
     expectFigures(parseTokenData(::text(row, "token")), row["result"]);
   });
   forEachRow("tokens_open", [](simdjson::dom::element row) {
-    // A byte order mark is harmless and skipped, as it is in translation tables.
+    // A byte order mark is skipped, as in translation tables.
     const bool skipped = ::text(row, "name") == "document bom";
     expectFigures(parseTokenData(::text(row, "token")), row[skipped ? "result" : "strict"]);
   });
@@ -127,7 +127,7 @@ TEST(TokenData, HasABoundOnATokensLength) {
   EXPECT_EQ(parseTokenData(token), (TokenData{1, "EUR", 1, 0}));
   const TokenReading tooLong = TokenRefusal::tooLong;
   EXPECT_EQ(readToken(token + 's'), tooLong);
-  // Nor is a byte of it looked at: there are no more than two.
+  // Reads no byte of a token that is too long: this one has only two.
   const char* volatile text = "h.";
   EXPECT_EQ(readToken({text, std::size_t{1} << 40}), tooLong);
 }

@@ -9,8 +9,8 @@
 
 namespace quorix::testing {
 
-/// A text engine whose results can be reckoned by hand: each character is half its size wide, each
-/// line 1.25 times its size high, by the size of the first run. Records what it was asked.
+/// A text engine with results that can be calculated by hand: each character is half its font size
+/// wide, each line 1.25 times its font size high, by the first run. Records the requests.
 class FixedWidthText final : public text::TextEngine {
  public:
   struct Call {
@@ -58,7 +58,7 @@ class FixedWidthText final : public text::TextEngine {
     for (const text::Run& part : text.runs) all += part.text;
     return all;
   }
-  /// The number of characters in each word; there is one at least.
+  /// The number of characters in each word. Has at least one entry.
   static std::vector<double> words(const text::AttributedText& text) {
     std::vector<double> counts(1);
     for (const char c : joined(text)) {

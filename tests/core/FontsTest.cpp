@@ -11,7 +11,7 @@ namespace {
 using graphics::FontManager;
 using graphics::GraphicsFont;
 
-// An emulator adds a line of its own.
+// An emulator adds a line.
 const char* const kStop =
     "^QuorixWidgets/Fonts: Fatal error: Failed to register font: The operation could not be "
     "completed. \\(QuorixWidgets.FontError error 0.\\)\n";
@@ -39,13 +39,13 @@ foundation::Data fileOf(std::string_view name) {
   return graphics::dataSet(libraryBundle(), "Fonts/" + std::string(name)).value();
 }
 
-/// The host registers its own file of that name: the library's and a byte more.
+/// Registers a file of the host under that name: the library's file and one more byte.
 void takeName(std::string_view name) {
   const foundation::Data own(std::string(fileOf(name).text()) + '\0');
   FontManager::shared().registerGraphicsFont(GraphicsFont::fromData(own).value());
 }
 
-// A shop that has registered a face by one of our names goes on in its own face.
+// If a shop has registered a face with one of our names, its own face stays in use.
 TEST_F(FontsDeathTest, AFaceThatTheHostRegisteredStays) {
   EXPECT_IN_FRESH_PROCESS(
       (takeName("Saans-Medium"),
@@ -77,7 +77,7 @@ TEST_F(FontsDeathTest, TheToolkitIsToldOfEachFaceOnce) {
   }()));
 }
 
-// A row of its own for each, so that no earlier one has registered the face.
+// One row for each, because an earlier one would have registered the face.
 TEST_F(FontsDeathTest, AnInfoWidgetReadsTheSemiBoldFaceWhereItsTextNeedsIt) {
   const Names both{"Saans-Regular", "Saans-Medium"};
   const struct {
@@ -112,7 +112,7 @@ TEST_F(FontsDeathTest, AFaceThatCannotBeRegisteredStopsTheProcess) {
   EXPECT_DEATH((testing::replaceLibraryBundle(testing::memoryBundle({})), QuorixFont::medium()),
                kStop);
   EXPECT_DEATH((testing::replaceLibraryBundle(broken("no font")), QuorixFont::medium()), kStop);
-  // The host's main bundle does not stand in for the library's here.
+  // The host's main bundle does not replace the library's here.
   EXPECT_DEATH((foundation::Bundle::setMain(foundation::Bundle::embedded()),
                 testing::replaceLibraryBundle(nullptr), QuorixFont::medium()),
                kStop);

@@ -16,7 +16,7 @@ std::string nameOf(SwipeDirection direction) {
   return direction == SwipeDirection::right ? "right" : "left";
 }
 
-/// What a finger that goes along `points` does on a page 300 points wide.
+/// The swipe that a finger makes along `points`, on a page 300 points wide.
 std::string swipeOf(const std::vector<Point>& points, std::size_t secondFingerAt) {
   EdgeSwipe recognizer;
   std::optional<EdgeSwipe::Swipe> swipe;

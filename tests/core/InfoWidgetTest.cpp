@@ -72,7 +72,7 @@ TEST(InfoWidgetView, IsTheTreeExpected) {
 }
 
 TEST(InfoWidgetView, WithoutItsLogoOrItsTextsItStillStands) {
-  infoModel()->getInfoTitle();  // the faces are there before their files go
+  infoModel()->getInfoTitle();  // registers the faces before their files are removed
   const auto nothing = OtherResources::english("");
   TestWindow window(InfoWidgetView{infoModel()}, {}, {420, 100});
   EXPECT_TRUE(testing::itemsOf<render::ImageItem>(window.shown()).empty());
@@ -91,7 +91,7 @@ TEST(InfoWidgetBuilder, CarriesTheStyleIntoTheDeclarativeWidgetAlone) {
   EXPECT_EQ(content.layer().borderWidth(), 0);
 }
 
-// On screen. The widget is as wide as the window, which it does not fill.
+// On screen. The widget is as wide as the window and less high.
 
 TEST(InfoWidgetView, OpensItsPageFromAnywhereOnItAndFromEachTextThatIsRead) {
   TestWindow window(InfoWidgetView{infoModel("en", bordered)});

@@ -5,8 +5,8 @@
 
 namespace quorix::testing {
 
-/// An interface file whose one view, "box", is the outlet `box` of a "Card", with `subviews` and
-/// `constraints` in it.
+/// An interface file with one view, "box", for the outlet `box` of a "Card". It contains `subviews`
+/// and `constraints`.
 inline std::string interfaceFile(const std::string& subviews, const std::string& constraints) {
   return R"(<document type="com.apple.InterfaceBuilder3.CocoaTouch.XIB"><objects>
 <placeholder placeholderIdentifier="IBFilesOwner" id="-1" customClass="Card">
@@ -16,7 +16,7 @@ inline std::string interfaceFile(const std::string& subviews, const std::string&
          "</constraints></view></objects></document>";
 }
 
-/// A label of 10-point text that constraints place.
+/// A label with 10-point text, placed by constraints.
 inline std::string labelElement(const std::string& id, const std::string& text,
                                 const std::string& lines = "0") {
   return "<label id='" + id + "' text='" + text + "' numberOfLines='" + lines +
@@ -24,8 +24,8 @@ inline std::string labelElement(const std::string& id, const std::string& text,
          "<fontDescription key='fontDescription' type='system' pointSize='10'/></label>";
 }
 
-/// Constraints such as "a.top b.bottom 8, .trailing >= b.trailing 24, .width 48"; a side without a
-/// view is the one that holds them.
+/// Constraints such as "a.top b.bottom 8, .trailing >= b.trailing 24, .width 48". A side without a
+/// view means the view that contains the constraint.
 inline std::string constraintElements(const std::string& rules) {
   std::string elements, rule;
   for (std::istringstream all(rules); std::getline(all, rule, ',');) {

@@ -17,7 +17,7 @@ using testing::constraintElements;
 using testing::interfaceFile;
 using testing::labelElement;
 
-/// The refusal of `xml`, or what it connected.
+/// The refusal of `xml`, or the connected outlets.
 std::string outcome(const std::string& xml) {
   std::shared_ptr<UIView> box;
   std::weak_ptr<UILabel> label;
@@ -62,7 +62,7 @@ std::map<std::string, std::string> cards() {
   const auto card = [](const std::string& subviews, const std::string& rules) {
     return interfaceFile(subviews, constraintElements(rules));
   };
-  std::string square = aLabel;  // which keeps its size itself
+  std::string square = aLabel;  // keeps its own size
   square.insert(square.rfind("</label>"),
                 "<constraints>" + constraintElements(".width 48, .height 48") + "</constraints>");
   return {{"stacked", card(aLabel + bLabel,
@@ -88,7 +88,7 @@ TEST(ViewLayout, FollowsConstraintsAndContent) {
         Nib::parse(files.at(::text(row, "card")), "Card", "Card", {{{"box", &box}}, {}});
     const auto* error = std::get_if<foundation::Error>(&read);
     ASSERT_EQ(error, nullptr) << error->description;
-    std::optional<double> width;  // offered
+    std::optional<double> width;  // the offered width
     if (!row["width"].is_null()) width = double(row["width"]);
     using Direction = layout::LayoutDirection;
     testing::FixedWidthText engine;
@@ -111,9 +111,9 @@ TEST(ViewLayout, PicturesStandInTheirLayoutRectangle) {
     UIEdgeInsets insets;
     const char* drawn;
   } const rows[] = {
-      {{4, 8, 4, 8}, "2 6 64 56"},           // a shadow reaches out
-      {{-8, -12, -8, -4}, "22 18 32 32"},    // room around the picture
-      {{-32, -32, -32, -32}, "22 22 24 24"}  // more room than there is
+      {{4, 8, 4, 8}, "2 6 64 56"},           // a shadow outside the frame
+      {{-8, -12, -8, -4}, "22 18 32 32"},    // space around the picture
+      {{-32, -32, -32, -32}, "22 22 24 24"}  // insets larger than the frame
   };
   for (const auto& row : rows) {
     EXPECT_EQ(printed(UIImageView::pictureFrame(square, row.insets, {24, 24})), row.drawn);

@@ -14,7 +14,7 @@ namespace {
 
 using testing::TestWindow;
 
-/// A line of a layout table: a word, its arguments and what is indented below it.
+/// A line of a layout table: a word, its arguments, and the lines indented below it.
 struct LayoutLine {
   std::string word;
   std::string text;
@@ -61,7 +61,7 @@ struct LayoutLine {
     return result;
   }
 
-  /// The line at `at`, and as its children those below it that are indented by two more.
+  /// The line at `at`; its children are the lines below it that are indented by two more.
   static LayoutLine readTree(const std::vector<std::string>& lines, std::size_t& at,
                              std::size_t depth = 0) {
     LayoutLine result = parse(lines.at(at++).substr(depth));
@@ -102,7 +102,7 @@ struct LayoutLine {
   }
 };
 
-/// A case of a layout table: what a view of plain elements looks like in a window.
+/// A case of a layout table: a view of plain elements in a window, and its expected items.
 ///
 ///     == what the case shows
 ///     in 200 x 40 scale=2 rtl top=10   scale, direction, larger text and the safe area's insets
@@ -111,8 +111,8 @@ struct LayoutLine {
 ///       text "aaaa bb"                 16 points: 8 wide a character, 20 high a line
 ///       spacer
 ///     expect
-///     text 0 10 56 20 "aaaa bb"        the items painted, in order
-///     fits none x inf -> inf x 20      what the view answers when offered that
+///     text 0 10 56 20 "aaaa bb"        the painted items, in order
+///     fits none x inf -> inf x 20      the view's size for that proposal
 struct LayoutCase {
   std::string name;
   layout::Size window;
@@ -146,7 +146,7 @@ std::optional<double> readLength(const std::string& word) {
   return word == "inf" ? layout::infinity : std::stod(word);
 }
 
-/// The answers to the proposals that `expected` names.
+/// The sizes for the proposals in `expected`.
 std::string printedAnswers(TestWindow& window, const std::string& expected) {
   std::istringstream lines(expected);
   std::ostringstream result;
@@ -182,7 +182,7 @@ TEST(PixelGrid, LeavesNoSeamAndLosesNoHairline) {
     const layout::PixelGrid grid(scale);
     const double pixel = grid.pixel();
     for (int i = -400; i < 400; ++i) {
-      // Every place that halving and thirding reach, also just beside it.
+      // Positions at halves and thirds of a point, and just beside them.
       const double top = i / 12.0 + (i % 3 - 1) * 1e-12;
       const layout::Rect line = grid.round(layout::Rect{{0, top}, {10, pixel}});
       const layout::Rect below = grid.round(layout::Rect{{0, top + pixel}, {10, 7}});
@@ -192,7 +192,7 @@ TEST(PixelGrid, LeavesNoSeamAndLosesNoHairline) {
   }
 }
 
-/// However it is squeezed, a text is as large as it was measured for its width.
+/// In any proposed size, a text has the size that was measured for its width.
 TEST(Layout, NeverCutsAText) {
   const auto view = swiftui::HStack(
       layout::VerticalAlignment::center, 12,

@@ -8,7 +8,7 @@
 
 namespace quorix::testing {
 
-/// Stands in for the device's way to other apps while it lives, and notes what it is asked to open.
+/// Replaces the device's opener while it exists, and records the addresses.
 class OpenedAddresses {
  public:
   OpenedAddresses() : before_(uikit::URLOpener::install(opener_)) {}

@@ -13,7 +13,7 @@ namespace {
 using swiftui::State;
 using testing::TestWindow;
 
-/// The page in `scene` as the surface would show it.
+/// The page in `scene`.
 render::EmbedItem shownPage(const render::Scene& scene) {
   return testing::itemsOf<render::EmbedItem>(scene).at(0);
 }
@@ -75,7 +75,7 @@ TEST(WebViewController, ShowsItsPageAndCloseControl) {
   overlay->token = "";
   overlay->showCloseButton = true;
   TestWindow window(swiftui::hosting(overlay), {.direction = layout::LayoutDirection::rightToLeft,
-                                                .language = {}});  // still on the right
+                                                .language = {}});  // the control stays on the right
   EXPECT_EQ(render::printFrames(window.shown()),
             "embed 0 0 320 640 #FFFFFFFF\n"
             "image 284 22 24 24 \"close\" #007AFFFF\n"
@@ -88,14 +88,14 @@ TEST(WebViewController, ShowsItsPageAndCloseControl) {
   EXPECT_TRUE(page.settings.javaScriptCanOpenWindowsAutomatically);
   EXPECT_TRUE(page.settings.allowsBackForwardNavigationGestures);
 
-  // What changes after the view has loaded comes too late.
+  // Changes after the view was loaded have no effect.
   overlay->token = std::nullopt;
   window.host->updateRoot(swiftui::hosting(overlay));
   EXPECT_EQ(shownContent(window.shown()).url()->path(), "/users/details/");
 
   const auto root = std::make_shared<uikit::UIViewController>();
   root->present(overlay, true);
-  window.tap(layout::Point{272, 10});  // the control's very corner
+  window.tap(layout::Point{272, 10});  // the corner of the control
   window.settle();
   EXPECT_EQ(root->presentedViewController(), nullptr);
 }
@@ -133,7 +133,8 @@ TEST(WebViewController, NewWindowsLeaveTheApp) {
   page->askForWindow(std::nullopt, true);
   EXPECT_EQ(opened.list(), std::vector<std::string>{"https://shop.example/terms"});
 
-  // The engine may keep the page after its controller is destroyed; its requests then do nothing.
+  // The engine may keep the page longer than its controller. Requests of the page then have no
+  // effect.
   const std::weak_ptr<WebViewController> watched = overlay;
   overlay.reset();
   EXPECT_TRUE(watched.expired()) << "the web view keeps nobody";

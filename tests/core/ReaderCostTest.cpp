@@ -1,5 +1,5 @@
-// A host's own bundle may be large and strange. Each reader goes over it once: four times the bytes
-// take about four times the processor's time, and a reader that looks back takes sixteen.
+// A host's own bundle may be large and unusual. Each reader reads it once: four times the bytes
+// take about four times the processor time. A reader with quadratic cost would take sixteen times.
 
 #include <gtest/gtest.h>
 
@@ -20,7 +20,8 @@ constexpr std::size_t kMegabyte = 1'000'000;
 
 using Make = std::function<std::string(std::size_t bytes)>;
 
-/// `start`, then "#" in `piece` counted up until that many bytes are there, then `end`.
+/// `start`, then copies of `piece` with "#" replaced by a counter up to that many bytes, then
+/// `end`.
 Make repeated(std::string start, std::string piece, std::string end = "") {
   return [=](std::size_t bytes) {
     std::string text = start;
@@ -53,9 +54,9 @@ void readInterface(const std::string& xml) {
 void readColors(const std::string& json) { EXPECT_TRUE(graphics::parseColorSet(json)); }
 void readImages(const std::string& json) { EXPECT_TRUE(graphics::parseImageSet(json)); }
 
-constexpr double kTooSlow = 2;  // for a quarter; what is in proportion takes some hundredths
+constexpr double kTooSlow = 2;  // for a quarter; a linear reader takes some hundredths
 
-/// Seconds of this process, other processes do not count: the least of three times.
+/// Processor time of this process in seconds: the minimum of three runs.
 double secondsFor(void (*read)(const std::string&), const std::string& text) {
   double least = 0;
   for (int i = 0; i < 3 && (i == 0 || least < kTooSlow); ++i) {
@@ -67,7 +68,7 @@ double secondsFor(void (*read)(const std::string&), const std::string& text) {
   return least;
 }
 
-/// An interface file with one label, and `piece` repeated before `end`.
+/// An interface file with one label, and with `piece` repeated before `end`.
 Make interfaceWith(const std::string& piece, const std::string& end) {
   const std::string file = testing::interfaceFile(testing::labelElement("a", "x"), "");
   const std::size_t at = file.find(end);

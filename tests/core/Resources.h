@@ -19,9 +19,9 @@ inline foundation::Bundle::Ref memoryBundle(const std::map<std::string, std::str
   return foundation::Bundle::of(std::move(table));
 }
 
-/// What is made once in a process is tried in processes of their own. Under an emulator a test
-/// cannot start its program anew; the environment then asks for a fork, and CTest starts each test
-/// by itself.
+/// Tests what a process makes only once, each in its own process. Under an emulator a test cannot
+/// start its program again: the environment then selects a fork, and CTest starts each test
+/// separately.
 class FreshProcessDeathTest : public ::testing::Test {
  protected:
   FreshProcessDeathTest() {
@@ -36,7 +36,7 @@ inline void replaceLibraryBundle(foundation::Bundle::Ref bundle) {
   foundation::Bundle::registerBundle(kResourceBundleIdentifier, std::move(bundle));
 }
 
-/// The library has these resources and no others, for as long as this lives.
+/// Replaces the library's resources by these while it exists.
 class OtherResources {
  public:
   explicit OtherResources(foundation::Bundle::Ref bundle) {
@@ -44,7 +44,7 @@ class OtherResources {
   }
   explicit OtherResources(std::map<std::string, std::string> files)
       : OtherResources(memoryBundle(std::move(files))) {}
-  /// Nothing but this English table.
+  /// Only this English table.
   static OtherResources english(const std::string& table) {
     return OtherResources(
         std::map<std::string, std::string>{{"en.lproj/Localizable.strings", table}});

@@ -72,7 +72,7 @@ RGBA color(std::string_view name, Appearance appearance) {
   return graphics::colorSet(Bundle::embedded(), name).value().resolve(appearance);
 }
 
-/// Relative luminance and contrast ratio as the accessibility guidelines (WCAG 2) define them.
+/// Relative luminance and contrast ratio by the accessibility guidelines (WCAG 2).
 double luminance(RGBA c) {
   const auto linear = [](std::uint8_t channel) {
     const double v = channel / 255.0;
@@ -124,8 +124,7 @@ TEST_F(ResourcesDeathTest, AHostsRegistrationIsFoundByIdentifierAndNotBySymbol) 
                                ImageResource::close().bundle == Bundle::embedded()));
 }
 
-/// One red for what is looked up by identifier and for what has a symbol; the rest is the
-/// library's.
+/// The theme replaces one red, by identifier and by symbol. Everything else stays the library's.
 TEST_F(ResourcesDeathTest, AThemeLiesOverAllResources) {
   const std::string red = R"({"colors": [{"idiom": "universal", "color": {"components":
       {"red": "1.0", "green": "0", "blue": "0", "alpha": "1"}}}]})";
@@ -154,7 +153,7 @@ TEST(ConcurrentResources, FirstReadsFromManyThreadsAgree) {
       EXPECT_EQ(QuorixFont::regular().name(), "Saans-Regular");
       EXPECT_EQ(QuorixFont::medium().name(), "Saans-Medium");
       EXPECT_EQ(TovaFont::regular().name(), "TovaSansLatin-Regular");
-      // A bundle that comes and goes while others are read.
+      // A bundle that exists only for a moment, while others are read.
       EXPECT_FALSE(graphics::colorSet(testing::memoryBundle({}), "Grey1"));
     });
   }

@@ -20,7 +20,7 @@ using uikit::UIApplication;
 
 template <class... T>
 std::tuple<foundation::Runtime::Fresh<T>...> freshPieces(std::tuple<T*...>);
-/// The process's state as at its start, until the end of the block.
+/// The process's initial state, until the end of the block.
 using FreshRuntime = decltype(freshPieces(foundation::Runtime::Pieces()));
 
 TEST(Runtime, ATestCanReplaceEachPieceForAWhile) {

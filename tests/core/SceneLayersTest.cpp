@@ -23,7 +23,7 @@ EmbedItem embed(Rect frame) { return {frame, std::make_shared<Content>(), {1, 2,
 FillItem fill(Rect frame) { return {frame, {9, 9, 9, 255}}; }
 render::TextItem text(Rect frame) { return {frame, {}}; }
 
-/// Each layer as the number of its items, its corner and size, and whether an embed follows.
+/// For each layer: the number of its items, its origin and size, and whether an embed follows.
 std::string told(const Scene& scene, double scale) {
   std::ostringstream all;
   for (const SceneLayer& layer : layersOf(scene, ground, scale)) {
@@ -51,14 +51,14 @@ TEST(SceneLayers, AreCutWhereSomethingPaintsItself) {
       {{fill(whole), embed(whole)}, "2 at 0,0 100x200 | 0 at 0,0 0x0"},
       {{embed(whole), fill({{50, 8}, {48, 40}}), fill({{60, 10}, {40, 48}})},
        "1 at 0,0 100x200 | 2 at 50,8 50x50"},
-      // Letters reach out of their frame; nothing shows outside the scene.
+      // Letters extend beyond their frame, but not beyond the display list's area.
       {{embed(whole), text({{40, 5}, {20, 10}})}, "1 at 0,0 100x200 | 1 at 30,0 40x25"},
       {{embed(whole), fill({{-10, 190}, {300, 50}})}, "1 at 0,0 100x200 | 1 at 0,190 100x10"},
       {{embed(whole), fill({{500, 0}, {5, 5}})}, "1 at 0,0 100x200 | 1 at 100,0 0x5"},
       {{embed(whole), text({{40, 40.2}, {20, 10.3}})}, "1 at 0,0 100x200 | 1 at 29.5,30 41x31", 2},
       {{embed(whole), fill({{1, 1}, {2, 2}}), embed(whole), fill({{5, 5}, {1, 1}})},
        "1 at 0,0 100x200 | 2 at 0,0 100x200 | 1 at 5,5 1x1"},
-      // What is the panel's color to the bottom needs no picture.
+      // The part at the bottom in the panel's color needs no picture.
       {{panel, text({{10, 20}, {50, 10}})}, "2 at 0,0 100x40"},
       {{panel, fill({{10, 50.2}, {50, 10}})}, "2 at 0,0 100x61"},
       {{panel, page}, "2 at 0,0 100x12 | 0 at 0,0 0x0"},
@@ -106,7 +106,7 @@ TEST(Scene, AnEmbedTakesWhatIsBelowItAndLeavesWhatIsAbove) {
 
 TEST(Scene, LeavesEachAreaRoomToTap) {
   Scene scene;
-  // A line of text, a small button, and two that stand close together.
+  // A line of text, a small button, and two buttons close together.
   scene.hitAreas = {{{{0, 100}, {300, 16}}, {}},
                     {{{100, 200}, {10, 10}}, {}},
                     {{{100, 300}, {12, 12}}, {}},
@@ -144,7 +144,7 @@ TEST(SheetGeometry, KeepsWhatFillsThePanelInItsRoundCorners) {
   const Rect panel{{10, 100}, {200, 300}};
   const struct {
     Rect frame;
-    double fill, embed;  ///< the upper corners' radius
+    double fill, embed;  ///< radius of the upper corners
   } rows[] = {
       {panel, 12, 12},
       {{{0, 100}, {220, 10}}, 12, 12},

@@ -59,9 +59,9 @@ TEST(ReturnRateDeathTest, ReachesToTheEndsOf64BitsAndStopsTheProcessBeyond) {
   }
 }
 
-// What is made, shown, read out and measured.
+// Content, display list, accessibility and size.
 
-/// A view of `size` in words, after it was laid out as often as a surface may ask.
+/// Prints a view of `size`, laid out as often as a surface may ask.
 std::string printed(const swiftui::View& view, layout::Size size) {
   TestWindow window({}, {}, size);
   window.text.calls.clear();
@@ -90,7 +90,7 @@ TEST(ScoreWidgetView, IsAsDesigned) {
       {"row-plain-en", false, false, "en", {300, 44}},
       {"row-plain-untranslated", false, false, "", {300, 44}},
       {"row-discount-en", false, true, "en", {300, 44}},
-      // Too narrow for its title, which is measured again for the 72 points that are left.
+      // Too narrow for its title, which is measured again for the remaining 72 points.
       {"row-discount-es", false, true, "es", {200, 44}},
       {"row-discount-untranslated", false, true, "", {300, 44}},
       {"sheet-plain-es", true, false, "es", {320, 400}},

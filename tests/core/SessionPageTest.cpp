@@ -14,7 +14,7 @@ using foundation::MainQueue;
 using hosting::Key;
 using Phase = hosting::PointerEvent::Phase;
 
-/// An engine that answers when the test wants.
+/// An engine that answers when the test calls it.
 struct FakeEngine final : hosting::PageEngine {
   explicit FakeEngine(Client& page) : client(page) {}
   bool isShown() const override { return true; }
@@ -47,7 +47,7 @@ class PageWindow final : public testing::TestText, public hosting::ViewWindow {
   void settle() {
     while (frame(0) || MainQueue::drain() > 0) {
     }
-    frame(0);  // pages open in the frame after the first
+    frame(0);  // pages open after the first frame
   }
   void open() {
     settle();
@@ -58,7 +58,7 @@ class PageWindow final : public testing::TestText, public hosting::ViewWindow {
     front().handle(hosting::KeyEvent{key});
     settle();
   }
-  /// All time limits run out.
+  /// Lets all time limits expire.
   void wait() {
     for (const auto& work : std::exchange(timers, {})) work();
     settle();

@@ -20,7 +20,7 @@ TEST(Session, ASheetClosesByEachOfItsWays) {
   const struct {
     const char* by;
     std::function<void()> perform;
-    std::string reason = {};  ///< none: it stays open
+    std::string reason = {};  ///< none: stays open
   } rows[] = {
       {"a screen reader on it", [&] { window.front().activate(1); }, "button"},
       {"the Back key", [&] { window.key(Key::back), window.tap(beside); }, "key"},
@@ -66,7 +66,7 @@ TEST(Session, ASecondQuickTapLeavesWhatTheFirstOpened) {
   window.tap(beside);
   foundation::MainQueue::drain();
   EXPECT_TRUE(window.sheet());
-  window.settle();  // takes a while
+  window.settle();  // passes the time of a double tap
   window.tap(beside);
   window.settle();
   EXPECT_FALSE(window.sheet());
@@ -99,7 +99,7 @@ TEST(Session, AWindowPresentsControllersOverItself) {
     return made;
   };
   const auto escape = [&] { window.key(Key::escape), window.settle(); };
-  window.act("Row 4 €");  // whose settings the pages get
+  window.act("Row 4 €");  // the pages get its settings
   escape();
   window.told.clear();
   const auto lower = page("lower");
@@ -118,7 +118,7 @@ TEST(Session, AWindowPresentsControllersOverItself) {
   root->present(lower, true);
   window.settle();
   root->dismiss(true);
-  root->present(lower, true);  // at once, which leaves it up
+  root->present(lower, true);  // leaves it open
   window.settle();
   escape();
   EXPECT_FALSE(window.sheet());

@@ -10,7 +10,7 @@ using testing::TestWindow;
 
 const std::string row = "Your return fee €4.00";
 
-/// A score row, with its sheet where a test opens it. In 320 points the sheet is 305 high.
+/// A score row and its sheet, which a test opens. In 320 points the sheet is 305 high.
 class ScoreSheet : public ::testing::Test {
  protected:
   ScoreSheet() { testing::HeldTransport::install(); }
@@ -86,10 +86,10 @@ TEST_F(ScoreSheet, GoesWhenSwipedFarOrFastOrTappedOutside) {
     double velocity, panelTop;
     bool closes;
   } rows[] = {
-      {inside, {160, 561}, 0, 488, true},  // 8 points tell a drag from a tap
+      {inside, {160, 561}, 0, 488, true},  // a drag begins after 8 points
       {inside, {160, 560}, 0, 487, false},   {inside, {160, 428}, 601, 355, true},
       {inside, {160, 428}, 600, 355, false}, {inside, {160, 408}, 5000, 335, false},
-      {inside, {160, 342}, 0, 325, false},  // it gives way upwards, reluctantly
+      {inside, {160, 342}, 0, 325, false},  // resists when it is pushed up
       {inside, {160, 342}, 601, 325, true},  {outside, {10, 300}, 0, 335, true},
       {outside, inside, 0, 335, false},      {inside, outside, 0, 261, false},
   };

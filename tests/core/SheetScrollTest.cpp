@@ -12,7 +12,7 @@ struct Shown {
   std::string acted;
 };
 
-/// 700 points of content in a panel of 300, between a button at the top and one at the end.
+/// 700 points of content in a panel of 300, with a button at the top and one at the end.
 struct LongSheet : Shown, testing::TestSheet {
   explicit LongSheet(layout::LayoutDirection direction = {})
       : TestSheet({shown.binding(), content()}, {320, 640}, {}) {
@@ -33,11 +33,11 @@ struct LongSheet : Shown, testing::TestSheet {
                     {button("Top"), View(Text::verbatim("")).frame(320, 500), button("End")}))
         .presentationDetents({swiftui::PresentationDetent::height(300)});
   }
-  /// How far the words of the button at the end have come up.
+  /// How far the text of the last button has moved up.
   double offset() {
     return sheet.panelFrame().top() + 639 - sheet.scene().accessibility.back().frame.top();
   }
-  /// A finger drags that far, once it drags at all, and with a velocity lets go.
+  /// Drags a finger by `by` after the slop, and lifts it if there is a velocity.
   void drag(double by, std::optional<double> velocity = std::nullopt) {
     sheet.pointerPressed({160, 480 - std::copysign(8, by)});
     sheet.pointerMoved({160, 480 + by});
@@ -48,12 +48,12 @@ struct LongSheet : Shown, testing::TestSheet {
     sheet.pointerPressed({160, y});
     sheet.pointerReleased({160, y}, 0);
   }
-  /// The scroll indicator; nothing while it is hidden.
+  /// The scroll indicator; absent while it is hidden.
   std::optional<layout::Rect> indicator() {
     const auto* last = std::get_if<render::FillItem>(&sheet.scene().items.back());
     return last ? std::optional(last->frame) : std::nullopt;
   }
-  /// Frames until nothing moves.
+  /// Runs frames until all motion has ended. Returns their number.
   int rest() {
     int frames = 0;
     while (sheet.advance(1.0 / 60)) ++frames;
@@ -107,7 +107,7 @@ TEST(SheetScroll, HandsADragAtTheTopOverToThePanelAndBack) {
 
 TEST(SheetScroll, TapsOnlyWhatIsInSight) {
   LongSheet in;
-  in.twoFingers(65);  // the button ends 4 points above the panel
+  in.twoFingers(65);  // the button's end is 4 points above the panel's
   in.tap(345);
   EXPECT_EQ(in.acted, "");
   EXPECT_TRUE(in.sheet.isScrolledAway(in.sheet.scene().accessibility.front().frame));

@@ -36,7 +36,7 @@ TEST(StringFormat, ShowsWhatPhonesShow) {
   });
 }
 
-/// The C library is asked in the "C" locale, which is the one a test runs in.
+/// The C library's result, in the "C" locale, in which tests run.
 template <class Number>
 void expectAsInC(const std::string& format, const std::string& inC, Number value) {
   char expected[1024];
@@ -53,13 +53,13 @@ TEST(StringFormat, ShowsNumbersAsTheCLibraryDoes) {
       const std::string start = "%" + flags + size;
       for (const char letter : std::string_view("fFeEgGaA")) {
         for (const double value : numbers) {
-          // How many digits a subnormal number has before its point is left to each library.
+          // Libraries differ in the digits of a subnormal number before its point.
           const bool hex = letter == 'a' || letter == 'A';
           if (hex && value != 0 && std::fabs(value) < Limits::min()) continue;
           expectAsInC(start + letter, start + letter, value);
         }
       }
-      if (flags == "' ") continue;  // which mean nothing here
+      if (flags == "' ") continue;  // no effect in this locale
       for (const char letter : std::string_view("diuoxX")) {
         for (const long long value : {0LL, 7LL, -42LL, 1LL << 53}) {
           expectAsInC(start + letter, start + "ll" + letter, value);
@@ -75,7 +75,7 @@ FormatArgument argument(simdjson::dom::element value) {
   return value.is_object() ? number(value, "double") : double(value);
 }
 
-/// For every table, what is shown is an argument, the table's own text, or nothing.
+/// For every table, shows only an argument, the table's own text, or nothing.
 TEST(StringFormat, IsSafeWithAnyFormat) {
   forEachRow("formats_own", [](simdjson::dom::element row) {
     std::vector<FormatArgument> arguments;
@@ -110,7 +110,7 @@ TEST(UnicodeText, SplitsAsPhonesDo) {
   expectPieces("titles", false);
   expectPieces("titles_own", true);
   expectPieces("graphemes", false);
-  // Not UTF-8: there is no mark to combine with.
+  // Not UTF-8, so there is no combining mark.
   EXPECT_EQ(components("\xFFx\xC3", "x"), (Pieces{"\xFF", "\xC3"}));
   EXPECT_EQ(components("\xCC.\x81", "."), (Pieces{"\xCC", "\x81"}));
   EXPECT_EQ(components("a.\xCC", "."), (Pieces{"a", "\xCC"}));
@@ -186,7 +186,7 @@ TEST(LocalizedString, IsEmptyWithoutABundle) {
   }
 }
 
-/// The texts beside the link are joined without an additional blank.
+/// The texts beside the link are joined without another blank.
 TEST(LocalizableTables, ThePersonalLineIsSpacedByItsTexts) {
   const auto line = [](const char* locale) {
     return localized("widget-title-start", locale) +

@@ -14,7 +14,7 @@
 
 namespace quorix::testing {
 
-/// The painted items, each up to what it shows: the looks are not the layout's.
+/// The painted items up to their content, without their looks, which are not part of the layout.
 inline std::string printedItems(const render::Scene& scene) {
   std::istringstream lines(render::printFrames(scene));
   std::string result;
@@ -35,7 +35,7 @@ std::vector<Item> itemsOf(const render::Scene& scene) {
   return found;
 }
 
-/// A sheet that stands alone.
+/// A sheet without a window.
 struct TestSheet : hosting::SheetPresenter::Client {
   explicit TestSheet(const swiftui::Presentation& presentation, layout::Size window,
                      layout::EdgeInsets safeArea) {
@@ -52,10 +52,10 @@ struct TestSheet : hosting::SheetPresenter::Client {
 
 struct TestText {
   FixedWidthText text;
-  ~TestText() { foundation::MainQueue::drain(); }  // leaves nothing to the next test
+  ~TestText() { foundation::MainQueue::drain(); }  // leaves no work for the next test
 };
 
-/// A window that one view fills. What a user does is found by its accessibility label.
+/// A window that one view fills. User actions find elements by their accessibility label.
 class TestWindow final : public TestText, public hosting::ViewWindow {
  public:
   explicit TestWindow(swiftui::View root, swiftui::Environment settings = {},
@@ -70,14 +70,14 @@ class TestWindow final : public TestText, public hosting::ViewWindow {
   hosting::ViewHost* host;
   layout::Size size;
   swiftui::Environment environment;
-  int displays = 0;  ///< requests to show the view again
+  int displays = 0;  ///< the number of requests for a display
   std::string told;  ///< what happened: "activated opened closed:key "
 
-  /// The top-most sheet; null while none is open.
+  /// The top-most sheet; null without one.
   hosting::SheetPresenter* sheet() { return topmost() ? &topmost()->presenter() : nullptr; }
   void setMotion(bool motion) { setSettings({environment, motion}); }
 
-  /// A turn of the main queue and a frame, until nothing is left to do.
+  /// Runs turns of the main queue and frames until nothing is left to do.
   void settle() {
     milliseconds_ += 1000;
     while (frame(1.0 / 60) || foundation::MainQueue::drain() > 0) {
@@ -96,7 +96,7 @@ class TestWindow final : public TestText, public hosting::ViewWindow {
     }
     throw std::out_of_range("nothing is called " + label);
   }
-  /// All that is read out: "kept 1, switch".
+  /// The labels of all elements: "kept 1, switch".
   std::string labels() {
     std::string result;
     for (const auto& element : shown().accessibility) {
@@ -118,7 +118,7 @@ class TestWindow final : public TestText, public hosting::ViewWindow {
     release(point);
   }
   void tap(const std::string& label) { tap(middle(element(label).frame)); }
-  /// A tap and all that comes of it.
+  /// Activates an element and runs all work that follows.
   void act(const std::string& label) {
     tap(label);
     settle();

@@ -45,9 +45,9 @@ TEST(TextBound, CutsBetweenWhatAReaderTakesForCharacters) {
       {"abcde", 4, "abc…"},
       {"返品手数料", 12, "返品手…"},
       {"返品手数", 12, "返品手数"},
-      {"abe" + acute + "d", 6, "ab…"},                     // not the letter without its accent
-      {"a" + family + "b", 13, "a…"},                      // nor a part of a family
-      {repeated(acute, 9), 12, repeated(acute, 3) + "…"},  // which one letter has without an end
+      {"abe" + acute + "d", 6, "ab…"},                     // keeps a letter and its accent together
+      {"a" + family + "b", 13, "a…"},                      // keeps a family together
+      {repeated(acute, 9), 12, repeated(acute, 3) + "…"},  // cuts between the accents of one letter
       {"a" + repeated(acute, 9), 10, "a" + acute + acute + "…"},
       {"\xFF\xFF\xFF\xFF\xFF", 12, "\xFF\xFF\xFF…"},
       {"abc", 1, "…"},
@@ -77,7 +77,7 @@ TEST(TextBound, CountsAllRunsOfATextTogether) {
 }
 
 TEST(TextBound, NoTextReachesShapingOrAReaderWhole) {
-  // A megabyte in each of the ways in which texts reach a widget.
+  // A megabyte through each of the ways by which texts reach a widget.
   const std::string endless = repeated("fee ", 250'000);
   const auto strings = LocalizationRepository::make("en");
   auto entries = strings->strings.get()->entries();
@@ -103,7 +103,7 @@ TEST(TextBound, NoTextReachesShapingOrAReaderWhole) {
     ASSERT_FALSE(row.empty());
     window.tap(TestWindow::middle(row.front().frame));
     window.settle();
-    EXPECT_EQ((window.sheet() != nullptr), &source == sources);  // the row's own
+    EXPECT_EQ((window.sheet() != nullptr), &source == sources);  // only for the row's own texts
     EXPECT_FALSE(window.text.calls.empty());
     for (const auto& call : window.text.calls) {
       EXPECT_LE(characters(call.words), text::mostOfText);
@@ -115,7 +115,7 @@ TEST(TextBound, NoTextReachesShapingOrAReaderWhole) {
   }
 }
 
-// Comparing character by character, as for the figure in it, is slow.
+// Comparing character by character, as in the search for the figure, is slow.
 TEST(TextBound, AnEndlessTitleIsCutBeforeItIsSplit) {
   const auto table =
       testing::OtherResources::english("\"info-widget-title\" = \"" + repeated("a\u0301", 100'000) +
@@ -135,7 +135,7 @@ TEST(BaseDirection, FollowsTheLettersAndNotThePage) {
   } rows[] = {
       {"", ltr, ltr},
       {"1.234,00\u00A0€", ltr, ltr},
-      {"\u200F١٬٢٣٤٫٠٠\u00A0€", rtl, rtl},  // a mark says so
+      {"\u200F١٬٢٣٤٫٠٠\u00A0€", rtl, rtl},  // has a direction mark
       {"18 رسوم", rtl, rtl},
       {"Quorix رسوم", ltr, rtl},
       {"רסום Quorix", rtl, rtl},
@@ -162,7 +162,7 @@ TEST(UnspacedWords, AreThoseOfScriptsWithoutBlanks) {
 
 const auto last = ContentSizeCategory::accessibilityExtraExtraExtraLarge;
 
-/// A font's size as it reaches the text engine.
+/// The font size that the text engine gets.
 TEST(ContentSizeCategory, ReachesScalingFontsOnly) {
   const Font relative = Font::custom("F", 11, swiftui::TextStyle::caption2);
   const struct {
@@ -171,7 +171,7 @@ TEST(ContentSizeCategory, ReachesScalingFontsOnly) {
     double points;
   } rows[] = {
       {Font::custom("F", Font::FixedSize{14}), last, 14},
-      {Font::custom("F", 34), last, 106},  // as the body style: 53 of 17
+      {Font::custom("F", 34), last, 106},  // like the body style: 53 of 17
       {relative, ContentSizeCategory::extraSmall, 11},
       {relative, last, 40},
       {Font(), ContentSizeCategory::extraLarge, 19},
@@ -197,7 +197,7 @@ TEST(ContentSizeCategory, IsTheOneNearestToADesktopsFactor) {
   }
 }
 
-/// The runs of a text as they reach the text engine.
+/// The runs that the text engine gets.
 TEST(Text, ItsOwnLooksWinTheFirstOneWrittenFirst) {
   const auto face = [](const char* name) { return Font::custom(name, Font::FixedSize{10}); };
   const auto color = [](std::uint8_t red) { return swiftui::Color::fixed({red, 0, 0}); };

@@ -48,7 +48,7 @@ TEST(TranslationTable, IsReadFromObjectsOfObjectsOfTextsOrRefusedWhole) {
 
 URLResponse answer(const std::string& body, int status = 200) { return {{}, body, status}; }
 
-/// The network holds every request until a test answers it.
+/// The network holds each request until the test answers it.
 class LocalizationRepositoryTest : public ::testing::Test {
  protected:
   const std::shared_ptr<testing::HeldTransport> network_ = testing::HeldTransport::install();
@@ -112,7 +112,7 @@ TEST(ConcurrentLocalizationRepository, MayGoWhileItsAnswerArrives) {
 const std::string kRemote = R"({"returns":{"title":"remote"}})";
 const std::string kFake = R"({"returns":{"title":"fake"}})";
 
-/// A server that answers at once; counts what reaches it.
+/// A server that answers at once and counts requests.
 struct Server final : foundation::URLTransport {
   std::string body = kRemote;
   std::vector<std::string> asked;
@@ -131,11 +131,11 @@ class Prefetch : public ::testing::Test {
  protected:
   Prefetch() { URLSession::shared().install(server); }
 
-  /// Stands in front of the server while it lives.
+  /// Answers before the server while it exists.
   static auto fake() {
     return URLSession::shared().registerProtocol([](const URL&) { return answer(kFake); });
   }
-  /// The title of a row that comes on screen.
+  /// Shows a row and returns its title.
   static std::string titleIn(const std::string& locale) {
     const auto repository = LocalizationRepository::make(locale);
     repository->update();

@@ -33,7 +33,7 @@ struct WindowKind {
 };
 constexpr WindowKind plain{}, key{.key = true}, hidden{.hidden = true}, high{.high = true};
 
-/// The app's scenes while it lives, each its state and its windows.
+/// The app's scenes while it exists, each with its state and its windows.
 struct App {
   using Scenes = std::vector<std::pair<State, std::vector<WindowKind>>>;
 
@@ -138,15 +138,16 @@ TEST(UIInfoWidget, SharesTextsThatAHostChangesInOneWidgetAlone) {
 
 TEST(UIInfoWidget, PresentsTheOverlayOverTheTopmostScreen) {
   TestWindow window(swiftui::hosting(UIInfoWidget::make(modelOf({}, "Ann"))));
-  // Not as a user, who works in this window: it would be the one that is found.
+  // Taps on the host directly. A user's tap would make this window the key window, which would be
+  // found.
   const auto tap = [&](layout::Point point) {
     window.host->pointerPressed(point);
     window.host->pointerReleased(point);
   };
   const auto read = [&] { tap(TestWindow::middle(window.element("Read more").frame)); };
-  read();  // into nowhere: there is no window
+  read();  // without effect: there is no window
   App app({{State::foregroundActive, {plain}}});
-  read();  // nor a screen
+  read();  // nor a controller
   const auto root = std::make_shared<uikit::UIViewController>();
   const auto alert = std::make_shared<uikit::UIViewController>();
   app.scenes[0]->windows()[0]->setRootViewController(root);
@@ -161,14 +162,14 @@ TEST(UIInfoWidget, PresentsTheOverlayOverTheTopmostScreen) {
   EXPECT_EQ(overlay->locale, "en");
   EXPECT_EQ(overlay->token, std::nullopt);
   EXPECT_TRUE(overlay->showCloseButton);
-  read();  // once more: nothing remembers the first
+  read();  // each tap presents again
   EXPECT_NE(overlay->presentedViewController(), nullptr);
 }
 
 TEST(UIApplication, FindsTheKeyWindow) {
   constexpr auto active = State::foregroundActive, inactive = State::foregroundInactive,
                  background = State::background, unattached = State::unattached;
-  using Place = std::pair<std::size_t, std::size_t>;  // of a scene, and of a window in it
+  using Place = std::pair<std::size_t, std::size_t>;  // indexes of a scene and of its window
   const struct {
     const char* name;
     App::Scenes app;
@@ -184,7 +185,7 @@ TEST(UIApplication, FindsTheKeyWindow) {
       {"none active", {{unattached, {plain}}, {inactive, {plain, key}}}, Place{1, 1}},
       {"none active, no key", {{background, {plain}}, {unattached, {high}}}, {}},
   };
-  // Scenes of another kind are skipped, at any place in the list.
+  // Skips scenes of another class at any place in the list.
   const auto other = std::make_shared<uikit::UIScene>();
   other->setActivationState(active);
   uikit::UIApplication::shared().connect(other);
@@ -203,7 +204,7 @@ TEST(UIInfoWidgetDeath, StopsOnWhatItCannotBe) {
       "QuorixWidgets/UIInfoWidget: Fatal error: init\\(coder:\\) has not been implemented");
   EXPECT_DEATH(UIInfoWidget::initWithFrame({}), "unimplemented initializer 'init\\(frame:\\)'");
   const auto model = modelOf();
-  UIInfoWidget::make(model);  // colors and faces are there before their files go
+  UIInfoWidget::make(model);  // loads colors and faces before their files are removed
   const std::string file(foundation::Bundle::embedded()->data("UIInfoWidget.xib")->text());
   const auto without = [&](const std::string& outlet) {
     const auto start = file.find("<outlet property=\"" + outlet);

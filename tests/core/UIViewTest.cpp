@@ -17,7 +17,7 @@ using testing::TestWindow;
 
 using Taps = std::vector<std::string>;
 
-/// A plain view; with `taps`, one that notes its taps there under `name`.
+/// A plain view. With `taps`, it records taps there under `name`.
 std::shared_ptr<UIView> box(layout::Rect frame, const std::shared_ptr<Taps>& taps = nullptr,
                             const char* name = "") {
   auto view = std::make_shared<UIView>(frame);
@@ -31,7 +31,7 @@ TEST(UIView, TapsFindTheTopmostTouchedView) {
   const auto taps = std::make_shared<Taps>();
   const auto root = box({{}, {100, 100}});
   const auto low = box({{0, 0}, {50, 50}}, taps, "low");
-  const auto cover = box({{0, 0}, {20, 20}});   // touched, and has nothing to do
+  const auto cover = box({{0, 0}, {20, 20}});   // takes touches, without an action
   const auto glass = box({{20, 0}, {20, 20}});  // lets touches through
   const auto gone = box({{0, 20}, {20, 20}}, taps, "gone");
   const auto parent = box({{50, 50}, {50, 50}}, taps, "parent");
@@ -52,7 +52,7 @@ TEST(UIView, TapsFindTheTopmostTouchedView) {
   } const rows[] = {
       {{45, 45}, "low"}, {{10, 10}, ""},       {{30, 10}, "low"},   {{10, 30}, "low"},
       {{90, 10}, ""},    {{55, 55}, "parent"}, {{65, 65}, "child"}, {{85, 85}, "parent"},
-      {{100, 85}, ""},  // the label reaches out of its superview, touches do not
+      {{100, 85}, ""},  // outside its superview the label takes no touches
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.point.x);
@@ -110,16 +110,16 @@ struct Counter {
 TEST(Representable, IsMadeOnceAndToldOfLaterValues) {
   std::vector<std::weak_ptr<UIView>> made;
   TestWindow window(swiftui::represent(Counter{1, &made}));
-  // The same view with another value, as from a body that was evaluated again.
+  // The same view with another value, as after another evaluation of a body.
   window.host->updateRoot(swiftui::represent(Counter{2, &made}));
   EXPECT_EQ(window.element("2").label, "2");
   ASSERT_EQ(made.size(), 1u);
-  // A change from outside shows without another evaluation.
+  // A change from outside is shown without another evaluation.
   const int before = window.displays;
   std::static_pointer_cast<UILabel>(made.front().lock())->setAccessibilityLabel("two");
   EXPECT_EQ(window.displays, before + 1);
   EXPECT_EQ(window.element("two").label, "two");
-  // Another kind in the same place is another view, and the first is let go.
+  // Another type in the same place is another view; the first one is released.
   const auto page = std::make_shared<UIViewController>();
   page->view()->setAccessibilityLabel("page");
   window.host->updateRoot(swiftui::hosting(page));
@@ -173,17 +173,17 @@ TEST(UIViewController, PresentsAChainAndTellsItsWindow) {
     MainQueue::drain();
     EXPECT_EQ(completed, 1);
 
-    root->present(other, true);   // presents already
+    root->present(other, true);   // presents one already
     other->present(first, true);  // is presented already
-    other->present(root, true);   // is a root
+    other->present(root, true);   // is a root controller
     other->present(other, true);
     EXPECT_EQ(other->presentedViewController(), nullptr);
     EXPECT_EQ(surface.changes, 1);
 
-    second->dismiss(true, [&] { ++completed; });  // hands it on to its presenter
+    second->dismiss(true, [&] { ++completed; });  // passes it on to its presenter
     EXPECT_EQ(window.presentedControllers(), (Chain{first}));
     first->present(second, false);
-    root->dismiss(true);  // and all that stands on it
+    root->dismiss(true);  // and all above it
     EXPECT_EQ(window.presentedControllers(), Chain{});
     EXPECT_EQ(first->presentedViewController(), nullptr);
     root->dismiss(true, [&] { ++completed; });  // nothing to dismiss

@@ -91,7 +91,7 @@ TEST(OverlayAddress, IsThePageOfEachShopper) {
     const auto url = OverlayAddress{given("token"), given("name"), given("locale")}.url();
     ASSERT_TRUE(url);
     std::string expected = text(row, "url");
-    const std::string theirs = ".example.com";  // the vectors' services have hosts of their own
+    const std::string theirs = ".example.com";  // the test vectors use other hosts
     expected.replace(expected.find(theirs), theirs.size(), ".quorix.example");
     EXPECT_EQ(url->absoluteString(), expected);
   });

@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-/// Calls `check` with every row of tests/data/<name>.json. A failing row names itself.
+/// Calls `check` with every row of tests/data/<name>.json. A failure contains the row.
 inline void forEachRow(const std::string& name,
                        const std::function<void(simdjson::dom::element)>& check) {
   simdjson::dom::parser parser;
@@ -28,7 +28,7 @@ inline std::string text(simdjson::dom::element row, std::string_view key) {
   return std::string(std::string_view(row[key]));
 }
 
-/// A number in decimal digits, which JSON cannot hold in full; also "inf" and "nan".
+/// A number in decimal digits that JSON cannot represent exactly; also "inf" and "nan".
 inline double number(simdjson::dom::element row, std::string_view key) {
   const std::string digits = text(row, key);
   double value = 0;
@@ -36,12 +36,12 @@ inline double number(simdjson::dom::element row, std::string_view key) {
   return value;
 }
 
-/// A number that is written as the hexadecimal digits of its 64 bits.
+/// A number written as the hexadecimal digits of its 64 bits.
 inline double bitsOfDouble(simdjson::dom::element row, std::string_view key) {
   return std::bit_cast<double>(std::uint64_t{std::stoull(text(row, key), nullptr, 16)});
 }
 
-/// The bytes of hexadecimal digits, which may stand apart in pairs.
+/// The bytes of hexadecimal digits. Pairs may be separated by blanks.
 inline std::string fromHex(std::string_view hex) {
   std::string bytes;
   for (std::size_t i = 0; i < hex.size(); i += hex[i] == ' ' ? 1 : 2) {
@@ -51,14 +51,14 @@ inline std::string fromHex(std::string_view hex) {
   return bytes;
 }
 
-/// All of tests/data/<name>.
+/// The whole text of tests/data/<name>.
 inline std::string contentsOf(const std::string& name) {
   std::ifstream file(TEST_DATA "/" + name);
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
-/// The lines of tests/data/<name>.txt that are no comments. "<EF BB BF>" in them stands for these
-/// bytes, "<>" for none.
+/// The lines of tests/data/<name>.txt, without comments. "<EF BB BF>" stands for these bytes, "<>"
+/// for an empty text.
 inline std::vector<std::string> readLines(const std::string& name) {
   std::ifstream file(TEST_DATA "/" + name + ".txt");
   EXPECT_TRUE(file) << name;

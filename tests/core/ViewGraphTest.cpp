@@ -10,7 +10,7 @@ using swiftui::Text;
 using swiftui::View;
 using testing::TestWindow;
 
-/// Reads "name value"; a tap adds one.
+/// Shows "name value". A tap adds one.
 struct Counter {
   static constexpr std::string_view typeName = "Counter";
   std::string name;

@@ -13,14 +13,14 @@ using testing::memoryBundle;
 using testing::scoreModel;
 using testing::TestWindow;
 
-/// A letter of `size` points that adds itself to `log` when tapped.
+/// A letter of `size` points that appends itself to `log` when it is tapped.
 View key(std::string& log, const std::string& letter, double size) {
   return View(Text::verbatim(letter)).frame(size, size).onTapGesture([&log, letter] {
     log += letter;
   });
 }
 
-/// Tells of a change while it is shown for the first time, as a view that loads its content does.
+/// Reports a change during its first display, like a view that loads its content then.
 class LateContent final : public render::HostedContent {
  public:
   layout::Size sizeThatFits(layout::ProposedSize, text::TextEngine&, double) override {
@@ -41,7 +41,7 @@ TEST(ViewHost, ContentMayChangeWhileItIsShown) {
   const View late = swiftui::represented({"Late", [] { return std::make_shared<LateContent>(); }});
   TestWindow window(late.padding(4).onTapGesture([] {}), {}, {20, 20});
   const auto& fill = std::get<render::FillItem>(window.shown().items.at(0));
-  EXPECT_EQ(fill.color.alpha, 2);  // what came of the change
+  EXPECT_EQ(fill.color.alpha, 2);  // shows the change
   EXPECT_EQ(window.shown().hitAreas.size(), 1);
 }
 
@@ -64,7 +64,7 @@ TEST(ViewHost, AViewThatNeverRestsDoesNotStopTheHost) {
 
 TEST(ViewHostInput, ATapIsAPressAndAReleaseOnOneArea) {
   std::string log;
-  // "a" 0 to 50, "b" 50 to 100; "c" lies on the middle of "a".
+  // "a" is from 0 to 50, "b" from 50 to 100; "c" is over the middle of "a".
   const View keys =
       swiftui::HStack(layout::VerticalAlignment::top, 0,
                       {key(log, "a", 50).overlay({}, key(log, "c", 10)), key(log, "b", 50)});
@@ -146,7 +146,7 @@ TEST(ViewHostInput, WhatOneTapMakesActIsOneStopOfTheFocus) {
   EXPECT_EQ(taps, 2);
 }
 
-/// A view whose body counts how often it is asked for.
+/// A view that counts the calls of its body.
 struct CountedView {
   static constexpr std::string_view typeName = "CountedView";
   std::string text;

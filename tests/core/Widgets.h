@@ -16,7 +16,7 @@ namespace quorix::testing {
 
 inline const ScoreWidgetStyle ownFaces{std::nullopt, std::nullopt};
 
-/// €4.00, or €2.00 with a discount; returns of 18 percent and of 95.
+/// Fees of €4.00, or €2.00 with a discount; return rates of 18 percent and of 95.
 inline std::shared_ptr<ScoreWidgetViewModel> scoreModel(bool discount,
                                                         const std::string& language = "en") {
   return std::make_shared<ScoreWidgetViewModel>(
@@ -32,7 +32,7 @@ inline std::shared_ptr<InfoWidgetViewModel> infoModel(
   return model;
 }
 
-/// Stands in for the network and answers when the test says so.
+/// Replaces the network. Answers when the test calls it.
 class HeldTransport final : public foundation::URLTransport {
  public:
   std::vector<Completion> held;

@@ -19,7 +19,7 @@ bool isBlank(const QImage& image) {
   return image == plain;
 }
 
-/// The share of an image's pixels that are light.
+/// The share of light pixels in an image.
 double lightShare(const QImage& image) {
   int light = 0;
   for (int y = 0; y < image.height(); ++y) {
@@ -54,7 +54,7 @@ TEST(DemoPicturesTest, WithoutADisplayEverySceneIsAPictureOfItsOwn) {
   }
   EXPECT_EQ(pictures.contains("shop-overlay-en-light.png"), bool(SHOP_HAS_WEB));
   EXPECT_EQ(pictures.contains("widgets-overlay-de-light.png"), bool(SHOP_HAS_WEB));
-  // A switch that does not take shows up as two scenes that look the same.
+  // If a setting has no effect, two scenes look the same.
   std::map<QByteArray, std::string> seen;
   for (const QString& name : pictures) {
     const QImage image(out.filePath(name));

@@ -1,6 +1,6 @@
 #pragma once
 
-// What the examples in guides and headers take for granted: objects that a host has already.
+// Declarations that the examples in guides and headers use: objects that a host already has.
 
 #include <QLayout>
 #include <QQuickItem>

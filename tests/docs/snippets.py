@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Takes the code out of the guides and out of the headers' comments, and holds it to what is in the tree.
+"""Extracts the code from the guides and from the headers' comments, and checks it against the tree.
 
 snippets.py extract OUT HEADER...    writes every C++, QML and CMake snippet into OUT, for the compiler, qmllint
                                      and CMake; prints the names of the C++ files
@@ -21,24 +21,25 @@ import tempfile
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 GUIDES = sorted([*ROOT.glob("*.md"), *ROOT.glob("docs/*.md")])
 FENCE = re.compile(r"^```(\w+)\n(.*?)^```$", re.MULTILINE | re.DOTALL)
-# Functions and types with their bodies, rather than statements for the body of a function.
+# Recognizes functions and types with their bodies. Other snippets are statements for a function's
+# body.
 DEFINITIONS = re.compile(r"^(?!if|for|while|switch)\w[^;=\[]*\)( const)? \{$|\A\s*(struct|class) .*^\};\s*\Z",
                          re.MULTILINE | re.DOTALL)
 QML_IMPORTS = "import QtQuick\nimport QtQuick.Layouts\nimport QtQuick.Controls\nimport QuorixWidgets\n"
 
 
 def snippets(guide, language):
-    """The snippets of a guide in `language`, each with the number of its first line."""
+    """The snippets of a guide in `language`, each with the line number of its start."""
     text = guide.read_text()
     return [(text.count("\n", 0, found.start(2)) + 1, found[2])
             for found in FENCE.finditer(text) if found[1] == language]
 
 
 def examples(header):
-    """The examples in a header's comments, likewise."""
+    """The examples in a header's comments, each with the line number of its start."""
     found = []
     last = -1
-    fenced = False  # what a function prints
+    fenced = False  # inside the fenced output of a function
     for number, line in enumerate(header.read_text().splitlines(), 1):
         fenced ^= "/// ```" in line
         code = None if fenced else re.match(r" *///     ( *\S.*)", line)
@@ -53,7 +54,7 @@ def examples(header):
 
 
 def source(path, pieces, head, namespace):
-    """A C++ file of `pieces`: each is a function's body, or stands by itself."""
+    """A C++ file with `pieces`: each becomes a function's body, or a declaration."""
     includes, rest = "", ""
     for index, (line, code) in enumerate(pieces):
         includes += "".join(re.findall(r"^#include.*\n", code, re.MULTILINE))
@@ -71,7 +72,7 @@ def source(path, pieces, head, namespace):
 
 
 def write(path, text):
-    """Leaves a file alone that is the same already, so that it is not compiled again."""
+    """Writes a file only if its content changes, so that unchanged files are not compiled again."""
     path.parent.mkdir(parents=True, exist_ok=True)
     if not path.exists() or path.read_text() != text:
         path.write_text(text)
@@ -102,7 +103,7 @@ def extract(out, headers):
 
 
 def readme_project(folder):
-    """The project that the README has its reader write, with the clone in it."""
+    """The project that the README tells its reader to write, with the clone in it."""
     readme = ROOT / "README.md"
     pieces = {language: [code for _, code in snippets(readme, language)] for language in ("cmake", "cpp", "qml")}
     write(folder / "CMakeLists.txt",
@@ -119,7 +120,7 @@ def fail(guide, line, what):
 
 
 def check_shell(guide, line, code, presets, options):
-    """How many mistakes there are in a shell's snippet: in its grammar, and in what it names."""
+    """The number of mistakes in a shell snippet: in its syntax, and in the files that it names."""
     failures = 0
     grammar = subprocess.run(["bash", "-n"], input=code, text=True, capture_output=True)
     if grammar.returncode != 0:
@@ -137,7 +138,7 @@ def check_shell(guide, line, code, presets, options):
 
 
 def shell(tool_folder):
-    """Runs the tool's snippets, without what installs or builds and without the window, which waits for its user."""
+    """Runs the tool's snippets, except those that install or build, or that wait for a user at a window."""
     tool_folder = pathlib.Path(tool_folder).resolve()
     presets = {preset["name"] for preset in json.loads((ROOT / "CMakePresets.json").read_text())["configurePresets"]}
     options = (ROOT / "cmake/Options.cmake").read_text()
@@ -163,7 +164,7 @@ def shell(tool_folder):
 
 
 def anchors(guide):
-    """As a heading is linked to: in small letters, blanks as hyphens, without punctuation."""
+    """The link target of a heading: lower case, hyphens for blanks, no punctuation."""
     headings = re.findall(r"^#+ (.*)$", guide.read_text(), re.MULTILINE)
     return {re.sub(r"[^\w -]", "", heading.lower()).replace(" ", "-") for heading in headings}
 

@@ -26,7 +26,7 @@ bool overlap(const layout::Rect& one, const layout::Rect& other) {
   return both.width > touching && both.height > touching;
 }
 
-/// What shows of the cell's widget: a sheet's panel, or the whole view.
+/// The visible part of the cell's widget: a sheet's panel, or the whole view.
 layout::Rect visible(const render::Scene& scene) {
   layout::Rect area{{}, scene.size};
   for (const render::Item& item : scene.items) {
@@ -46,7 +46,8 @@ std::vector<std::string> figuresOf(const Language& language) {
   return {};
 }
 
-/// Where the glyphs of a figure stand; the same on every page, or it has been reordered.
+/// The glyphs of a figure and their positions. They are the same on every page, unless the figure
+/// was reordered.
 std::vector<std::pair<QList<quint32>, QList<QPointF>>> glyphs(text::AttributedText text,
                                                               layout::LayoutDirection direction) {
   text.direction = direction;
@@ -79,9 +80,9 @@ void expectFigure(const render::TextItem& text) {
   EXPECT_EQ(glyphs(text.text, leftToRight), glyphs(text.text, rightToLeft)) << "reordered";
 }
 
-/// Holds every screen of one language: nothing is cut off, nothing overlaps, no word breaks (but in
-/// a sheet that scrolls since the user asks for the largest text), and
-/// every figure is on one line in its own order, the old price struck through.
+/// Checks all screens of one language: nothing is cut off or overlaps, no word breaks (except in a
+/// sheet that scrolls because of the largest text size), and every figure is on one line in its own
+/// order, with the old price struck through.
 class EveryScreen : public ::testing::TestWithParam<const char*> {};
 
 TEST_P(EveryScreen, ShowsEverythingWhole) {
@@ -118,8 +119,8 @@ TEST_P(EveryScreen, ShowsEverythingWhole) {
 INSTANTIATE_TEST_SUITE_P(Matrix, EveryScreen, ::testing::Values("en", "es", "de", "ar", "ja"),
                          [](const auto& tested) { return std::string(tested.param); });
 
-/// A few rows as they were looked at: what no rule above can say, such as which side of a price its
-/// currency stands on. Newer locale data writes Arabic prices in Latin digits.
+/// Reference pictures of a few rows, for what no rule above can check, such as the side of a price
+/// on which its currency is. Newer locale data writes Arabic prices in Latin digits.
 TEST(MatrixPicture, LooksAsItDid) {
   const CellRenderer renderer;
   for (const std::string language : {"es", "ar"}) {

@@ -1,4 +1,4 @@
-"""Uses the GTK example as a shopper does, on a display of its own, and looks at what it shows.
+"""Uses the GTK example like a shopper, on its own display, and checks what it shows.
 
     window.py QUORIX_GTK
 """
@@ -33,7 +33,7 @@ def token():
 
 
 def install_browser():
-    """Writes the address that it is given into a file."""
+    """Writes the address that it gets into a file."""
     applications = HOME / ".local/share/applications"
     applications.mkdir(parents=True)
     program = HOME / "browser"
@@ -46,7 +46,7 @@ def install_browser():
 
 
 class Screen:
-    """What the window shows, as shades of grey."""
+    """The content of the window, in shades of grey."""
 
     def __init__(self):
         self.pixels = subprocess.run(
@@ -57,7 +57,7 @@ class Screen:
         return self.pixels[y * WIDTH + x]
 
     def ink(self, y):
-        """How many pixels of a line are darker than a page."""
+        """The number of pixels in a line that are darker than the page."""
         return sum(shade < 128 for shade in self.pixels[y * WIDTH:(y + 1) * WIDTH])
 
     def is_dimmed(self):
@@ -108,7 +108,7 @@ def main():
     install_browser()
     program = subprocess.Popen([sys.argv[1], token()], env={**os.environ, "GSK_RENDERER": "cairo"})
     try:
-        # The row's texts, and below them the info widget in its border.
+        # The row's texts, and the info widget with its border below.
         page = until(lambda now: sum(now.ink(y) > 300 for y in range(HEIGHT)) == 2, "the info widget")
         row = next(y for y in range(HEIGHT) if page.ink(y)) + 5
         box = next(y for y in range(HEIGHT) if page.ink(y) > 300)
@@ -120,7 +120,7 @@ def main():
         closed("Escape")
         do("key", "Tab", "key", "Return")
         opened("Return")
-        do("key", "Tab", "key", "space")  # the cross
+        do("key", "Tab", "key", "space")  # the close button
         closed("the cross")
         do("mousemove", 60, row, "click", 1)
         top = opened("a second click").sheet_top()

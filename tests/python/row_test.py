@@ -1,6 +1,6 @@
-"""Starts the Python example and compares what its window shows with the row's reference picture.
+"""Starts the Python example and compares its window with the row's reference picture.
 
-    row_test.py EXAMPLE PICTURE     writes row.png where the row looks otherwise
+    row_test.py EXAMPLE PICTURE     writes row.png if the row looks different
 """
 import runpy
 import sys
@@ -12,7 +12,7 @@ example, picture = sys.argv[1:]
 
 
 def shown():
-    """In place of the event loop: the window's picture a moment later."""
+    """Replaces the event loop: takes the window's picture after a moment."""
     loop = QEventLoop()
     QTimer.singleShot(1000, loop.quit)
     loop.exec()
@@ -21,7 +21,7 @@ def shown():
 
 
 def differing(actual, reference):
-    """The share of pixels that differ by more than shades."""
+    """The share of pixels whose difference is visible."""
     count = 0
     for y in range(reference.height()):
         for x in range(reference.width()):

@@ -7,7 +7,7 @@
 
 namespace quorix::testing {
 
-/// The settings of a desktop on the session's bus.
+/// The desktop's settings on the session bus.
 class Portal : public QObject {
   Q_OBJECT
   Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
@@ -34,7 +34,7 @@ class Portal : public QObject {
   }
 
  private:
-  // Of its own, so that it is asked over the bus.
+  // Its own connection, so that requests go over the bus.
   QDBusConnection bus_ =
       QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("portal"));
   const QString kPath = QStringLiteral("/org/freedesktop/portal/desktop");

@@ -39,7 +39,7 @@ TEST(Desktop, ReadsTheWishForLessMotionFromTheDesktopsFiles) {
   before.isEmpty() ? qunsetenv("XDG_CONFIG_HOME") : qputenv("XDG_CONFIG_HOME", before);
 }
 
-/// What a host sets for a scheme; it stands where the desktop would.
+/// A host's handler for a scheme, in place of the desktop's.
 class Handler : public QObject {
   Q_OBJECT
  public:

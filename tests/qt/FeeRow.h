@@ -16,8 +16,8 @@ struct FeeModel : combine::ObservableObject {
   combine::Published<std::string> fee;
 };
 
-/// A row that is one button and opens a sheet with a line of text, an element that closes it
-/// and one that does what a test wants.
+/// A row with one button. It opens a sheet with a line of text, an element that closes it, and one
+/// with the test's action.
 struct FeeRow {
   static constexpr std::string_view typeName = "FeeRow";
 
@@ -53,7 +53,7 @@ struct FeeRow {
   }
 };
 
-/// A button that presents something.
+/// A button that presents a sheet.
 struct Opener {
   static constexpr std::string_view typeName = "Opener";
   swiftui::View content;

@@ -29,7 +29,7 @@ TYPED_TEST(Focus, TabReachesTheRowShowsARingAroundItAndLeaves) {
   EXPECT_EQ(screen.grab(), plain);
   screen.key(Qt::Key_Backtab, Qt::ShiftModifier);
   EXPECT_TRUE(screen.hasFocus(row));
-  // A press takes the focus as well, or keeps it, without the ring.
+  // A press takes or keeps the focus and shows no ring.
   for (const bool before : {true, false}) {
     if (!before) screen.focus(other);
     QTest::mousePress(&screen.window(), Qt::LeftButton, {}, place.center());

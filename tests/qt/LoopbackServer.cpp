@@ -41,7 +41,7 @@ std::unique_ptr<QTcpServer> makeServer(LoopbackServer::Scheme scheme) {
 
 }  // namespace
 
-/// One connection, which may carry several requests one after the other.
+/// A connection. It may carry several requests in sequence.
 class LoopbackServer::Connection : public QObject {
  public:
   Connection(LoopbackServer& server, QTcpSocket* socket)
@@ -50,7 +50,7 @@ class LoopbackServer::Connection : public QObject {
     connect(socket, &QTcpSocket::bytesWritten, this,
             [this](qint64 bytes) { server_.bytesSent_ += static_cast<std::size_t>(bytes); });
     connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
-    read();  // what came before anybody listened
+    read();  // data that arrived before the connection of the signal
   }
 
  private:
@@ -96,7 +96,7 @@ class LoopbackServer::Connection : public QObject {
     tunnel_->connectToHost(QHostAddress::LocalHost, answer_.tunnelTo);
   }
 
-  static constexpr qint64 kBacklog = 1 << 20;  // for a client that does not read
+  static constexpr qint64 kBacklog = 1 << 20;  // in case the client does not read
 
   LoopbackServer& server_;
   QTcpSocket* socket_;

@@ -15,20 +15,20 @@ class QEventLoop;
 
 namespace quorix::testing {
 
-/// The bytes that answer one request, and how the server misbehaves while it sends them.
+/// The bytes of the answer to one request, and faults of the server while it sends them.
 struct Answer {
   std::string bytes;             ///< from the status line on
-  std::size_t piece = SIZE_MAX;  ///< so many bytes at a time, about a millisecond apart
+  std::size_t piece = SIZE_MAX;  ///< bytes that are sent at once; about a millisecond between
   bool hangUp = false;           ///< closes the connection after the last byte
-  std::string filler = {};       ///< follows the bytes over and over, as fast or as slowly as they
-  std::uint16_t tunnelTo = 0;    ///< a port here that the client speaks with afterwards
+  std::string filler = {};       ///< repeated after the bytes, at the same speed
+  std::uint16_t tunnelTo = 0;    ///< a local port to which the client is then connected
 };
 
 /// A well-formed answer. `headers` are whole lines; the length is added.
 std::string httpAnswer(int status, std::string_view body, std::string_view headers = {});
 
-/// An HTTP server on 127.0.0.1, on a thread of its own, that answers as it is told. Any thread may
-/// tell it.
+/// An HTTP server on 127.0.0.1, on its own thread. `serve` sets its answers; any thread may call
+/// it.
 class LoopbackServer {
  public:
   enum class Scheme { http, https };
@@ -47,10 +47,10 @@ class LoopbackServer {
   /// Answers every request for `path`. An unknown path gets an empty 404.
   void serve(const std::string& path, Answer answer);
 
-  /// The heads of the requests for `path` so far, each as it came.
+  /// The heads of the requests for `path` so far, unchanged.
   std::vector<std::string> requests(const std::string& path) const;
 
-  /// How much has gone out so far, to all clients.
+  /// The bytes sent so far, to all clients.
   std::size_t bytesSent() const { return bytesSent_; }
 
  private:

@@ -8,12 +8,12 @@
 namespace quorix::testing {
 namespace {
 
-/// Smaller differences of a channel, of 255, are ignored.
+/// Differences of a channel (0 to 255) up to this are ignored.
 constexpr int kChannelTolerance = 24;
-/// The share of the pixels that may differ.
+/// The share of pixels that may differ.
 constexpr double kShareTolerance = 0.0015;
 
-/// Marks what differs in `difference` and counts it.
+/// Marks differing pixels in `difference` and counts them.
 int compare(const QImage& actual, const QImage& reference, QImage& difference) {
   int differing = 0;
   difference = reference.convertToFormat(QImage::Format_Grayscale8);

@@ -7,8 +7,8 @@
 
 namespace quorix::testing {
 
-/// Compares a picture with the reference NAME.png in the tests' data. Text differs by shades
-/// between versions of the font rasterizer, so the comparison leaves room for that.
+/// Compares a picture with the reference NAME.png in the tests' data. Tolerates small differences,
+/// because the shades of text depend on the version of the font rasterizer.
 ///
 ///     EXPECT_TRUE(matchesPicture(picture(row, options), "row-light"));
 ///

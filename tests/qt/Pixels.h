@@ -7,13 +7,14 @@
 
 namespace quorix::testing {
 
-/// The most that a channel of one differs from the other's, of 255.
+/// The largest difference of a channel, 0 to 255.
 inline int distance(QRgb one, QRgb other) {
   return std::max({std::abs(qRed(one) - qRed(other)), std::abs(qGreen(one) - qGreen(other)),
                    std::abs(qBlue(one) - qBlue(other)), std::abs(qAlpha(one) - qAlpha(other))});
 }
 
-/// Where two pictures of one size are further apart than `tolerance`.
+/// The rectangle around the pixels that differ by more than `tolerance`, in two pictures of one
+/// size.
 inline QRect differing(const QImage& one, const QImage& other, int tolerance = 0) {
   QRect all;
   for (int y = 0; y < one.height(); ++y) {

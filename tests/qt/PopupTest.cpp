@@ -10,7 +10,7 @@
 namespace quorix::testing {
 namespace {
 
-/// A page with a pop-up that holds a row at its top.
+/// A page with a pop-up, and a row at the pop-up's top.
 struct PopupPage {
   explicit PopupPage(const char* type) {
     page = screen.addQml(QByteArray(R"(
@@ -53,7 +53,7 @@ const char* kPopups[] = {
     "Menu { width: 320;",
 };
 
-/// Each closes the sheet and nothing else.
+/// Ways to close the sheet and nothing else.
 const Way kWays[] = {
     {"the cross", clicking("Close 4 €")},
     {"a click beside", dragging({340, 380}, {340, 380}, 0, false)},

@@ -12,7 +12,7 @@
 namespace quorix::testing {
 namespace {
 
-/// A type of the module that shows what it makes, and counts.
+/// A type of the module that counts the widgets that it makes.
 template <class Type>
 struct Open : Type {
   static inline int made = 0;
@@ -90,7 +90,7 @@ TEST_F(QmlModule, IsMadeOnceForAllThatChangesInOneGo) {
   row->setProperty("textSize", qml::WidgetItem::Small);
   screen.settle();
   EXPECT_EQ(made(), 0);
-  // An item that is hidden because it shows nothing appears once it has something to show.
+  // An item that is hidden because it is empty appears when it has something to show.
   for (const bool shown : {false, true}) {
     row->setProperty("token", shown ? tokenOf(100) : "unreadable");
     screen.settle();
@@ -155,7 +155,7 @@ TEST_F(QmlModule, TellsWhatHappenedUntilItsEnd) {
   }
 }
 
-/// A server that counts, and never answers.
+/// A server that counts requests and never answers.
 struct SilentServer final : foundation::URLTransport {
   int asked = 0;
   void start(const foundation::URL&, Completion) override { ++asked; }

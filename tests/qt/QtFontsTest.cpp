@@ -43,7 +43,8 @@ TEST(QtFonts, AWeightPicksTheNearestFaceOfTheFamilyThatIsNoLighter) {
   }
 }
 
-// What a host's own texts find. Constants are made once: each case has a process of its own.
+// The host's own texts find the faces. Each case has its own process, because constants are made
+// once.
 
 #define EXPECT_IN_FRESH_PROCESS(condition)        \
   GTEST_FLAG_SET(death_test_style, "threadsafe"); \
@@ -61,7 +62,7 @@ TEST(HostFontsDeathTest, FindAFaceFromTheMomentItsConstantIsRead) {
   EXPECT_IN_FRESH_PROCESS((QuorixFont::medium(), hostFinds("Saans", "Medium")));
   EXPECT_IN_FRESH_PROCESS(([] {
     delete QCoreApplication::instance();
-    QuorixFont::regular();  // before there is an application
+    QuorixFont::regular();  // before the application object exists
     int argc = 0;
     for (int application = 0; application < 2; ++application) {
       QGuiApplication next(argc, nullptr);
@@ -88,7 +89,8 @@ TEST(HostFontsDeathTest, AreToldOfAFaceOnceItsConstantIsThere) {
   }()));
 }
 
-// A host that ships the family itself, in full perhaps, keeps it; and so do the widgets beside it.
+// If a host ships the family itself, maybe in full, the host's texts and the widgets both use the
+// host's faces.
 TEST(HostFontsDeathTest, StayTheHostsOwn) {
   EXPECT_IN_FRESH_PROCESS(([] {
     const QByteArray own = testing::wideFace("Saans-Regular", "HOST");

@@ -21,7 +21,7 @@ class ConcurrentMainQueue : public ::testing::Test {
 
 TEST_F(ConcurrentMainQueue, RunsTheWorkOfEveryThreadOnTheMainOneInOrder) {
   constexpr int kEach = 500;
-  std::vector<int> next(4);  // main thread only
+  std::vector<int> next(4);  // on the main thread only
   int ran = 0;
   std::vector<std::thread> threads;
   for (int& mine : next) {
@@ -54,7 +54,7 @@ TEST_F(ConcurrentMainQueue, KeepsTheOrderThroughAnEventLoopInside) {
   EXPECT_EQ(ran, (std::vector{1, 2, 3, 4}));
 }
 
-// The application's end needs a process of its own.
+// Ends the application, so it needs its own process.
 TEST_F(ConcurrentMainQueue, WorkOutlivesTheApplication) {
   GTEST_FLAG_SET(death_test_style, "threadsafe");
   EXPECT_EXIT(

@@ -30,7 +30,7 @@ TYPED_TEST(SafeArea, ASheetKeepsClearOfItAlsoWhenTheWindowTurns) {
   EXPECT_EQ(feeFromTheBottom() - before, QPoint(0, 34));
 }
 
-/// As Qt's own windows are from 6.9 on.
+/// Behaves like Qt's own windows from 6.9 on.
 class DeviceWindow : public QWindow {
   Q_OBJECT
 

@@ -10,7 +10,7 @@
 namespace quorix::testing {
 namespace {
 
-/// Depth first; a subtree that is invisible is out of reach with all that is in it.
+/// Searches depth first. Skips invisible subtrees.
 QAccessibleInterface* findIn(QAccessibleInterface* root, const QString& name) {
   if (!root || root->state().invisible) return nullptr;
   if (root->text(QAccessible::Name) == name && root->role() != QAccessible::Dialog) return root;
@@ -29,8 +29,7 @@ QPointingDevice& touchScreen() {
 
 Screen::Screen() {
   qt::installEngine();
-  qt::AccessibilityBridge::instance();  // hears the next line; the platform itself keeps no such
-                                        // flag
+  qt::AccessibilityBridge::instance();  // observes the next call, which the platform ignores
   QAccessible::setActive(true);
 }
 

@@ -27,13 +27,13 @@ class QuickScreen : public Screen {
   QImage grab() override { return window_->grabWindow(); }
   std::function<int()> listenBelow() override;
 
-  /// A view at `place`, without motion; its height is what it wants where `place` has none.
+  /// Adds a view at `place`, without motion. Without a height in `place`, it has its ideal height.
   qt::ViewItem* add(swiftui::View view, QRectF place);
-  /// Takes `item` over from another screen.
+  /// Moves `item` from another screen to this one.
   void adopt(qt::ViewItem* item);
-  /// Something of the host's that can have the focus.
+  /// Adds an object of the host that can have the focus.
   QQuickItem* addFocusable();
-  /// What `source` says in QML, in which the view items are called "Row".
+  /// Adds the QML in `source`, where view items are called "Row".
   QQuickItem* addQml(const QByteArray& source);
   static void focus(QQuickItem* item) { item->forceActiveFocus(); }
   static bool hasFocus(const QQuickItem* item) { return item->hasActiveFocus(); }
@@ -59,11 +59,11 @@ class WidgetScreen : public QObject, public Screen {
   QImage grab() override { return host_->grab().toImage(); }
   std::function<int()> listenBelow() override;
 
-  /// A view at `place`, without motion; its height is what it wants where `place` has none.
+  /// Adds a view at `place`, without motion. Without a height in `place`, it has its ideal height.
   qt::ViewWidget* add(swiftui::View view, QRectF place);
-  /// Takes `widget` over from another screen.
+  /// Moves `widget` from another screen to this one.
   void adopt(qt::ViewWidget* widget);
-  /// Something of the host's that can have the focus.
+  /// Adds an object of the host that can have the focus.
   QWidget* addFocusable();
   static void focus(QWidget* widget) { widget->setFocus(); }
   static bool hasFocus(const QWidget* widget) { return widget->hasFocus(); }
@@ -80,10 +80,10 @@ class WidgetScreen : public QObject, public Screen {
   std::ptrdiff_t eventsBelow_ = 0;
 };
 
-/// Every toolkit's, for what holds in all.
+/// All toolkits, for common behaviour.
 using Screens = ::testing::Types<QuickScreen, WidgetScreen>;
 
-/// A suite whose tests run in each of them:
+/// Declares a suite whose tests run in each toolkit:
 ///
 ///     SCREENS_TEST_SUITE(Sheet);
 ///     TYPED_TEST(Sheet, Opens) { TypeParam screen; }
@@ -92,10 +92,10 @@ using Screens = ::testing::Types<QuickScreen, WidgetScreen>;
   struct suite : ::testing::Test {}; \
   TYPED_TEST_SUITE(suite, ::quorix::testing::Screens, ::quorix::testing::ScreenName)
 
-/// Where a test's view stands, as high as it wants to be.
+/// The place of a test's view, at its ideal height.
 constexpr QRectF kPlace(20, 40, 300, 0);
 
-/// What a view's signals said, in order.
+/// Records a view's signals in order.
 struct Told {
   template <class View>
   explicit Told(View& view) {
@@ -107,7 +107,7 @@ struct Told {
   std::shared_ptr<QVariantList> said = std::make_shared<QVariantList>();
 };
 
-/// Counts the events of one kind that an object gets.
+/// Counts an object's events of one kind.
 struct EventCount : QObject {
   EventCount(QObject& watched, QEvent::Type counted) : type(counted) {
     watched.installEventFilter(this);

@@ -6,7 +6,7 @@ namespace {
 
 SCREENS_TEST_SUITE(ScrollingSheet);
 
-/// Opens a sheet of 1000 points with a button at its top and one at its end.
+/// Opens a sheet with 1000 points of content, with a button at its top and one at its end.
 swiftui::View tallOpener() {
   const auto text = [](const char* name) { return swiftui::View(swiftui::Text::verbatim(name)); };
   return Opener{swiftui::VStack(
@@ -16,7 +16,7 @@ swiftui::View tallOpener() {
 }
 
 TYPED_TEST(ScrollingSheet, ScrollsByWhateverTheUserHas) {
-  const QPoint at(180, 400), up(180, 292);  // 8 points tell a drag from a tap
+  const QPoint at(180, 400), up(180, 292);  // a drag begins after 8 points
   const struct {
     const char* by;
     Act perform;

@@ -83,7 +83,7 @@ TYPED_TEST(Sheet, KeepsInputFromWhatLiesBelow) {
   EXPECT_TRUE(screen.shows("Fee 4 €"));
 }
 
-/// A sheet with a button that opens a sheet with a row that opens one.
+/// A sheet with a button for a second sheet, whose row opens a third.
 swiftui::View nested() {
   const auto height = swiftui::PresentationDetent::height(300);
   return Opener{swiftui::View(Opener{swiftui::View(FeeRow("4 €")).presentationDetents({height})})
@@ -108,7 +108,7 @@ TYPED_TEST(Sheet, ItsContentPresentsFurtherSheetsAboveIt) {
   }
   EXPECT_TRUE(screen.shows("Fee 4 €"));
   EXPECT_FALSE(screen.shows("More"));
-  auto* late = screen.addFocusable();  // in the window's corner, below all three
+  auto* late = screen.addFocusable();  // in the window's corner, below all three sheets
   screen.settle();
   EXPECT_FALSE(screen.hasFocus(late));
   const int before = eventsBelow();
@@ -118,9 +118,9 @@ TYPED_TEST(Sheet, ItsContentPresentsFurtherSheetsAboveIt) {
   screen.key(Qt::Key_Escape);
   EXPECT_FALSE(screen.shows("Row 4 €"));
   EXPECT_TRUE(sheets[0]->state().modal);
-  QTest::mouseClick(&screen.window(), Qt::LeftButton, {}, {5, 5});  // beside
+  QTest::mouseClick(&screen.window(), Qt::LeftButton, {}, {5, 5});  // outside the panel
   EXPECT_EQ(eventsBelow(), before);
-  screen.settle();  // with the next frame the pointer may enter what lay below
+  screen.settle();  // in the next frame, the pointer may enter the object below
   EXPECT_TRUE(screen.hasFocus(row));
   EXPECT_TRUE(screen.shows("More"));
 }

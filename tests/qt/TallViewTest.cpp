@@ -14,7 +14,7 @@ template <class Screen>
 struct TallView : ::testing::Test {
   Screen screen;
 
-  /// Whether anything is painted in the window.
+  /// Whether the window shows anything.
   bool showsInk() {
     screen.settle();
     const QImage grabbed = screen.grab();
@@ -28,7 +28,7 @@ TYPED_TEST_SUITE(TallView, Screens, ScreenName);
 void moveTo(QQuickItem& item, int y) { item.setPosition({0, double(y)}); }
 void moveTo(QWidget& widget, int y) { widget.move(0, y); }
 
-/// Texts at the start, in the middle and at the end of `height` points.
+/// A view of `height` points with texts at its start, in the middle and at its end.
 View tower(double height) {
   const View gap = swiftui::Divider().frame(1, height / 2 - 100);
   return swiftui::VStack(
@@ -36,7 +36,7 @@ View tower(double height) {
       {Text::verbatim("Start"), gap, Text::verbatim("Middle"), gap, Text::verbatim("End")});
 }
 
-/// More than one picture or texture holds.
+/// Taller than one picture or texture can be.
 TYPED_TEST(TallView, ShowsWhatIsInSightOfIt) {
   constexpr int height = 60'000;
   const auto tall = this->screen.add(tower(height), QRectF(0, 0, 100, height));

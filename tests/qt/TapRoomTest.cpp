@@ -8,7 +8,7 @@
 namespace quorix::testing {
 namespace {
 
-/// What a finger at `point` opens: "4 €", another row's or nothing.
+/// The sheet that a tap at `point` opens: "4 €", another row's or none.
 QString tap(Screen& screen, QPoint point) {
   screen.drag(point, point, 0, true);
   for (const char* fee : {"4 €", "3 €", "2 €"}) {
@@ -19,7 +19,7 @@ QString tap(Screen& screen, QPoint point) {
   return {};
 }
 
-/// A row is 20 points high or so, and takes taps in 44.
+/// A row is about 20 points high and takes taps in 44.
 SCREENS_TEST_SUITE(TapRoom);
 
 std::function<int()> addButton(QuickScreen& screen, QRect place) {
@@ -45,8 +45,8 @@ TYPED_TEST(TapRoom, ReachesAroundARowAndNoFurtherThanHalfwayToTheNext) {
   screen.add(FeeRow("2 €"), {20, 200, 300, 44});
   const std::pair<QPoint, QString> rows[] = {
       {{100, 110}, "4 €"}, {{100, 91}, "4 €"},  {{100, 85}, ""},
-      {{100, 124}, "4 €"}, {{100, 129}, "3 €"}, {{8, 110}, ""},    // it is wide enough
-      {{100, 201}, "2 €"}, {{100, 242}, "2 €"}, {{100, 247}, ""},  // its item is high enough
+      {{100, 124}, "4 €"}, {{100, 129}, "3 €"}, {{8, 110}, ""},    // the row is wide enough
+      {{100, 201}, "2 €"}, {{100, 242}, "2 €"}, {{100, 247}, ""},  // the item is high enough
   };
   for (const auto& [point, opens] : rows) EXPECT_EQ(tap(screen, point), opens) << point.y();
 }
@@ -77,7 +77,7 @@ TEST(TapRoomInQuick, APageThatScrollsIsNoButton) {
   row->setView(FeeRow("4 €"));
   row->setMotion(false);
   screen.settle();
-  // From the row, and from the room above it.
+  // A drag from the row, and from the enlarged tap area above it.
   for (const auto& [from, byTouch] : {std::pair(310, false), {310, true}, {295, true}}) {
     screen.drag({100, from}, {100, from - 100}, 200, byTouch);
     QTest::qWait(300);
@@ -130,7 +130,7 @@ TEST(TapRoomInWidgets, IsForFingersAndInSight) {
   screen.clickAt(beside);
   EXPECT_FALSE(screen.shows("Fee 4 €")) << "a mouse points exactly, and its cursor says so";
   EXPECT_EQ(tap(screen, beside), "4 €");
-  row->move(0, page->mapFrom(&screen.host(), QPoint(0, 28)).y());  // out of sight by 2
+  row->move(0, page->mapFrom(&screen.host(), QPoint(0, 28)).y());  // 2 pixels out of sight
   screen.settle();
   EXPECT_EQ(tap(screen, {100, 53}), "");
 }

@@ -14,7 +14,7 @@ using testing::plainText;
 using text::AttributedText;
 using text::TextMetrics;
 
-/// Letters that reach over their right end, in the machine's own face.
+/// Letters that extend beyond their right edge, in the machine's own face.
 AttributedText overhanging() {
   AttributedText text =
       plainText("if of stuff off puff fluffy wolf elf self cliff chef thief roof");
@@ -49,8 +49,8 @@ TEST(TextEngine, NarrowerIsNeverLowerAndBreaksTheSameWhenPainted) {
       const bool holdsAnyLetter = width > 60;
       if (!holdsAnyLetter) continue;
       EXPECT_LE(metrics.size.width, width);
-      // What is painted in a frame of the measured width has the lines that were measured. A second
-      // engine answers, so that no result comes from the first one's cache.
+      // Painting at the measured width must give the measured lines. Uses a second engine, so that
+      // the first one's cache has no effect.
       QtTextEngine painting;
       const auto& painted = painting.shape(text, metrics.size.width);
       EXPECT_EQ(painted.metrics, metrics) << width;
@@ -67,7 +67,8 @@ TEST(TextEngine, AnEmptyTextHasALineAndNoWidth) {
   EXPECT_GT(engine.measure({}, 100).size.height, 0);
 }
 
-/// Qt keeps "7,00" whole by a character that this face lacks. Another face's must not show.
+/// Qt keeps "7,00" together with a character that this face lacks. The line's height must not come
+/// from another face.
 TEST(TextEngine, APriceIsAsHighAsItsFace) {
   QtTextEngine engine;
   const auto shaped = [&](const char* characters) {
@@ -95,10 +96,11 @@ TEST(TextEngine, PaintsWhatItMeasuredWithoutShapingAgain) {
   EXPECT_EQ(engine.breaks(), 2);
 }
 
-/// A face that has had some prices is known: what is set from that is what Qt makes of it.
+/// After a few prices the engine has learned a face and sets texts itself. The result must equal
+/// Qt's.
 TEST(TextEngine, SetsPricesAsQtShapesThem) {
   const std::string own = plainText("").runs[0].font.name;
-  // The first sets pairs of digits closer, the last has ink that leaves its line.
+  // The first face kerns pairs of digits; the last one has ink outside its line.
   const std::string faces[] = {own, "DejaVu Sans", "DejaVu Sans Mono", "NotoSansDisplay-Italic"};
   const char* const prices[] = {"€7.00", "$1,607,117.71", "£0.47", "12,56\u00A0€", "1.2"};
   for (const std::string& face : faces) {
@@ -128,7 +130,7 @@ TEST(TextEngine, SetsPricesAsQtShapesThem) {
         EXPECT_EQ(glyphs.rawFont(), qts.rawFont());
       }
     }
-    // The last price, with the joiner that keeps it whole, is left to Qt.
+    // Qt still shapes the last price, because of the joiner that keeps it together.
     EXPECT_TRUE(face != own || learned.breaks() == breaks + 2);
   }
 }

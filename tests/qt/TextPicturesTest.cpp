@@ -26,7 +26,7 @@ render::Scene sceneWith(const text::AttributedText& text, double width, layout::
   return scene;
 }
 
-/// `scene` painted without any pictures of texts.
+/// Paints `scene` without the cache of text pictures.
 QImage drawnAnew(const render::Scene& scene, double scale) {
   QImage image = paintPicture({scene.size, scene.appearance, {}, {}, {}}, scale, {0, 0, 0, 0});
   QPainter painter(&image);
@@ -34,7 +34,8 @@ QImage drawnAnew(const render::Scene& scene, double scale) {
   return image;
 }
 
-/// `scene`'s texts on `ground`, which starts at `corner`, and `over` painted after the first.
+/// The texts of `scene` on a fill `ground` that starts at `corner`, with `over` painted after the
+/// first text.
 render::Scene grounded(render::Scene scene, layout::Point corner, graphics::RGBA ground,
                        std::optional<render::Item> over = std::nullopt) {
   scene.items.insert(scene.items.begin(), render::FillItem{{corner, scene.size}, ground});
@@ -89,8 +90,8 @@ TEST(TextPictures, LookAsTheTextDrawnAnew) {
   };
   for (const double scale : {1.0, 1.5, 3.0}) {
     QtTextEngine::shared().pictures().clear();
-    // Only once all have been seen, so that one may be taken for another: the second painting makes
-    // a text's picture, the third copies it.
+    // Paints all rows before repeating them, so that one could be taken for another: the second
+    // painting makes a text's picture, the third copies it.
     for (int time = 0; time < 3; ++time) {
       for (const auto& [name, scene] : rows) {
         EXPECT_EQ(paintPicture(scene, scale, {0, 0, 0, 0}), drawnAnew(scene, scale))
@@ -100,7 +101,8 @@ TEST(TextPictures, LookAsTheTextDrawnAnew) {
   }
 }
 
-/// The cache keeps to its bound: any number of texts neither exceeds it nor gets a wrong picture.
+/// The cache keeps its bound: with any number of texts, it neither exceeds it nor returns a wrong
+/// picture.
 TEST(TextPictures, KeepTheLatestOnly) {
   TextPictures pictures;
   int made = 0;

@@ -7,7 +7,7 @@
 
 namespace quorix::testing {
 
-/// A text of one run in the library's own face, which every machine draws alike.
+/// A text of one run in the library's own face, which looks the same on every machine.
 inline text::AttributedText plainText(
     const std::string& characters, double points = 14,
     layout::LayoutDirection direction = layout::LayoutDirection::leftToRight) {
@@ -17,7 +17,7 @@ inline text::AttributedText plainText(
   return {{run}, direction};
 }
 
-/// Two runs, the second in another size and face, underlined.
+/// Two runs. The second has another size and face and is underlined.
 inline text::AttributedText linkedText(const std::string& lead, const std::string& link) {
   text::AttributedText text = plainText(lead, 14);
   text::Run run;

@@ -17,11 +17,11 @@ namespace quorix::testing {
 
 struct Outcome {
   foundation::URLResponse response;
-  std::thread::id thread;  ///< on which it completed
+  std::thread::id thread;  ///< the thread of its completion
 };
 
-/// One request. The main thread blocks while it waits, so nothing may need its event loop. A second
-/// completion would end the process, because the promise is set already.
+/// One request. The main thread blocks while it waits, so requests must not need its event loop. A
+/// second completion ends the process, because the promise is already set.
 class Fetch {
  public:
   Fetch(foundation::URLTransport& transport, const std::string& address) {
@@ -52,7 +52,7 @@ class ConcurrentUrlSession : public ::testing::Test {
  protected:
   Outcome fetch(const std::string& path) { return Fetch(transport, server.base() + path).wait(); }
 
-  /// What a request for `address` fails with, or `NoError`.
+  /// The error of a request for `address`, or `NoError`.
   QNetworkReply::NetworkError errorOf(const std::string& address) {
     const foundation::URLResponse response = Fetch(transport, address).wait().response;
     EXPECT_NE(response.error.has_value(), response.body.has_value());

@@ -109,7 +109,7 @@ TEST(ConnectionRace, AnAddressThatDoesNotAnswerCostsLittleTime) {
   silent.setListenBacklogSize(0);
   ASSERT_TRUE(silent.listen(dead, answering.serverPort()));
   silent.pauseAccepting();
-  QTcpSocket first, second;  // fill its queue, so that it drops what comes after
+  QTcpSocket first, second;  // fill its queue, so that it drops later connections
   for (QTcpSocket* socket : {&first, &second}) {
     socket->setProxy(QNetworkProxy::NoProxy);
     socket->connectToHost(dead, answering.serverPort());
@@ -128,7 +128,7 @@ TEST(ConnectionRace, AnAddressThatDoesNotAnswerCostsLittleTime) {
   EXPECT_LT(timer.elapsed(), 5000);
 }
 
-/// Hears requests and answers none. It has no thread and nothing of Qt's, which ends meanwhile.
+/// Accepts requests and answers none. Uses no thread and nothing of Qt, which ends in the meantime.
 class SilentServer {
  public:
   SilentServer() {
@@ -145,7 +145,7 @@ class SilentServer {
     return "http://127.0.0.1:" + std::to_string(ntohs(address_.sin_port));
   }
 
-  /// Waits for the next request, whose connection stays open.
+  /// Waits for the next request. Its connection stays open.
   bool hears() const {
     char first = 0;
     return ::recv(::accept(socket_, nullptr, nullptr), &first, 1, 0) == 1;
@@ -156,7 +156,7 @@ class SilentServer {
   sockaddr_in address_{};
 };
 
-/// A protocol that does not return in time is abandoned, and its late answer is ignored.
+/// A protocol that does not return in time is abandoned. Its late answer is ignored.
 [[noreturn]] void endTheApplication(bool aProtocolBlocks) {
   std::binary_semaphore blocked(0), release(0), returns(0);
   const auto protocol = foundation::URLSession::shared().registerProtocol(
@@ -202,7 +202,7 @@ class SilentServer {
   std::exit(passed ? 0 : 1);
 }
 
-// The application's end needs a process of its own, which here exits with a request in flight.
+// Ends the application, so it needs its own process, which exits during a request.
 TEST(ConcurrentUrlSessionDeathTest, EndsWithTheApplicationAndBeginsAnewWithTheNext) {
   GTEST_FLAG_SET(death_test_style, "threadsafe");
   EXPECT_EXIT(endTheApplication(false), ::testing::ExitedWithCode(0), "");

@@ -18,9 +18,9 @@ using foundation::URL;
 using foundation::URLResponse;
 using qt::QtURLTransport;
 
-constexpr std::size_t kLimit = 256 << 10;  // of a body
+constexpr std::size_t kLimit = 256 << 10;  // for a body
 
-/// Packs to about a third of its size, not to a thousandth.
+/// Compresses to about a third of its size, not to a thousandth.
 std::string text(std::size_t size) {
   std::string text;
   for (int line = 0; text.size() < size; ++line) text += std::to_string(line) + '\n';
@@ -28,7 +28,7 @@ std::string text(std::size_t size) {
 }
 
 std::string deflated(int status, const std::string& body) {
-  const QByteArray packed = qCompress(QByteArray::fromStdString(body)).mid(4);  // less Qt's length
+  const QByteArray packed = qCompress(QByteArray::fromStdString(body)).mid(4);  // drops Qt's length
   return httpAnswer(status, packed.toStdString(), "Content-Encoding: deflate\r\n");
 }
 
@@ -38,7 +38,7 @@ TEST_F(ConcurrentUrlSession, AnswersAreAnswersWhateverTheirStatusAndBrokenOnesAr
   const struct {
     const char* name;
     Answer answer;
-    int status = 0;  // and no body for one that ends with an error
+    int status = 0;  // 0 and no body: the request ends with an error
     std::optional<std::string> body = {};
   } table[] = {
       {"found", {httpAnswer(200, kTable)}, 200, kTable},
@@ -69,7 +69,7 @@ TEST_F(ConcurrentUrlSession, AnswersAreAnswersWhateverTheirStatusAndBrokenOnesAr
     EXPECT_EQ(response.error ? response.error->domain : "", table[i].status ? "" : "URLSession");
     EXPECT_NE(thread, std::this_thread::get_id());
   }
-  fetch("/0");  // all that the first requests had to say would have come before this
+  fetch("/0");  // a late second completion would arrive before this one
 }
 
 TEST_F(ConcurrentUrlSession, SendsAPlainGetOfTheAddress) {
@@ -90,7 +90,7 @@ TEST_F(ConcurrentUrlSession, EndsAnAnswerThatHasNoEnd) {
   server.serve("/", {"HTTP/1.1 200 OK\r\n\r\n", SIZE_MAX, false, std::string(64 << 10, 'x')});
   EXPECT_EQ(errorOf(server.base() + "/"), QNetworkReply::UnknownContentError);
   std::this_thread::sleep_for(std::chrono::milliseconds(200));
-  EXPECT_LT(server.bytesSent(), 8u << 20);  // of 64 MB each second
+  EXPECT_LT(server.bytesSent(), 8u << 20);  // it sends 64 MB each second
 }
 
 TEST_F(ConcurrentUrlSession, EndsARequestThatTakesTooLongNotOneThatWaitedForItsTurn) {
@@ -100,7 +100,7 @@ TEST_F(ConcurrentUrlSession, EndsARequestThatTakesTooLongNotOneThatWaitedForItsT
   for (int i = 0; i < 6; ++i) {
     const std::string path = "/" + std::to_string(i);
     const Answer trickle{"HTTP/1.1 200 OK\r\n\r\n", 1, false, "x"};
-    server.serve(path, i ? Answer() : trickle);  // the others stay silent
+    server.serve(path, i ? Answer() : trickle);  // the others never answer
     slow.emplace_back(impatient, server.base() + path);
   }
   Fetch waiting(impatient, server.base() + "/next");
@@ -112,7 +112,7 @@ TEST_F(ConcurrentUrlSession, EndsARequestThatTakesTooLongNotOneThatWaitedForItsT
 }
 
 TEST_F(ConcurrentUrlSession, RequestsForOneAddressShareAFetchWhileItLasts) {
-  const std::string body(500, 'x');  // half a second, a millisecond a byte
+  const std::string body(500, 'x');  // half a second: a millisecond for each byte
   server.serve("/list", {httpAnswer(200, body), 1});
   server.serve("/cut", {httpAnswer(200, body).substr(0, 300), 1, true});
   std::atomic<int> asked = 0;
@@ -127,7 +127,7 @@ TEST_F(ConcurrentUrlSession, RequestsForOneAddressShareAFetchWhileItLasts) {
   };
   for (int row = 1; row < 500; ++row) askForBoth();
   while (server.requests("/list").empty()) std::this_thread::yield();
-  askForBoth();  // the answer has begun
+  askForBoth();  // after the start of the answer
   for (Fetch& fetch : whole) EXPECT_EQ(fetch.wait().response.body, body);
   for (Fetch& fetch : broken) EXPECT_TRUE(fetch.wait().response.error);
   EXPECT_EQ(server.requests("/list").size(), 1u);

@@ -10,7 +10,8 @@ using swiftui::View;
 
 SCREENS_TEST_SUITE(Accessible);
 
-/// An element and what it holds: role, name and description, whether keys reach it and have.
+/// An element and its children: role, name and description, and whether it is focusable and
+/// focused.
 std::string printed(QAccessibleInterface* element, const std::string& indent = {}) {
   std::string text = indent + QVariant::fromValue(element->role()).toString().toStdString();
   for (const auto kind : {QAccessible::Name, QAccessible::Description}) {

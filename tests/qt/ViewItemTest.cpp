@@ -17,7 +17,7 @@ View paragraph() {
   return Text::verbatim("A sentence that needs two lines or more when the room is narrow");
 }
 
-/// Counts what an item asks of the scene graph.
+/// Counts an item's requests to the scene graph.
 struct CountingItem : qt::ViewItem {
   using ViewItem::ViewItem;
   int polishes = 0;
@@ -38,7 +38,7 @@ struct CountingItem : qt::ViewItem {
 };
 
 TEST(ViewItem, TakesTheRoomOfWhatItShowsInAnyLayout) {
-  // What stands after the row, and where when the row is empty.
+  // The item after the row, and its place when the row is empty.
   const QByteArray after = "Item { objectName: 'after'; width: 9; implicitHeight: 9; ";
   const std::pair<QByteArray, QPointF> cases[] = {
       {"ColumnLayout { spacing: 3; width: 300; height: 500; Row { Layout.fillWidth: true; "
@@ -93,7 +93,7 @@ TEST(ViewItem, PaintsOncePerChangeAndRestsOtherwise) {
   QTest::qWait(200);
   EXPECT_EQ(frames, 0);
   EXPECT_EQ(item->polishes, polishes);
-  screen.window().update();  // somebody else's frame
+  screen.window().update();  // a frame for another item
   screen.settle();
   EXPECT_EQ(item->paints, painted);
   model.model->fee = "5 €";

@@ -120,14 +120,14 @@ TEST(ViewWidget, FollowsPaletteAndDirectionUnlessToldOtherwise) {
   WidgetScreen screen;
   const FeeRow row("4 €");
   qt::ViewWidget* widget = screen.add(row, kPlace);
-  const auto looks = [&] {  // the widget alone, without what is behind it
+  const auto looks = [&] {  // the widget without its background
     screen.settle();
     QImage image(widget->size(), QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     widget->render(&image, {}, {}, QWidget::DrawChildren);
     return image;
   };
-  const QImage asItIs = looks();  // light, from left to right
+  const QImage asItIs = looks();  // light, left to right
   QPalette palette;
   palette.setColor(QPalette::Window, Qt::black);
   palette.setColor(QPalette::WindowText, Qt::white);
@@ -163,7 +163,7 @@ TEST(ViewWidget, PointsAtWhatActsAndLetsTheRestThrough) {
   screen.clickAt(inside);
   EXPECT_EQ(eventsBelow(), before);
   screen.clickAt(outside);
-  EXPECT_EQ(eventsBelow(), before + 2);  // the press, and the release that belongs to it
+  EXPECT_EQ(eventsBelow(), before + 2);  // the press and its release
 }
 
 }  // namespace

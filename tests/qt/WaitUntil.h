@@ -7,14 +7,14 @@
 
 namespace quorix::testing {
 
-/// Takes turns of the main thread's event loop until `holds()`, and says whether it ever did. The
-/// limit is for what is broken, not for what is slow.
+/// Runs the main thread's event loop until `holds()` is true, and returns whether it was. The time
+/// limit is for failures, not for slow machines.
 template <class Predicate>
 [[nodiscard]] bool waitUntil(Predicate holds,
                              std::chrono::milliseconds limit = std::chrono::seconds(20)) {
   QElapsedTimer elapsed;
   elapsed.start();
-  QTimer wake;  // for predicates about other threads, whose changes no event of this one tells
+  QTimer wake;  // changes of other threads cause no event in this one
   wake.start(1);
   QEventLoop loop;
   while (!holds()) {

@@ -6,8 +6,8 @@
 
 namespace quorix::testing {
 
-/// The library's face `name` as another foundry might have drawn it: with the same names, and every
-/// letter three units of its grid wider than the em.
+/// The library's face `name` as drawn by another foundry: with the same names, and each letter
+/// wider than the em by three units of its grid.
 inline QByteArray wideFace(const QString& name, const char* foundry) {
   QFile file(QStringLiteral(FONTS "/%1.dataset/%1.otf").arg(name));
   if (!file.open(QIODevice::ReadOnly)) return {};
@@ -25,7 +25,7 @@ inline QByteArray wideFace(const QString& name, const char* foundry) {
     qToBigEndian(static_cast<quint16>(em + 3), font.data() + table("hmtx") + i * 4);
   }
   font.replace(table("OS/2") + 58, 4, foundry, 4);
-  font.replace(table("head") + 8, 4, foundry, 4);  // the file's checksum, another one too
+  font.replace(table("head") + 8, 4, foundry, 4);  // the checksum: makes it another file
   return font;
 }
 

@@ -13,7 +13,7 @@
 namespace quorix {
 namespace {
 
-/// While it lives no request gets an answer.
+/// No request gets an answer while the result exists.
 std::shared_ptr<void> offline() {
   return foundation::URLSession::shared().registerProtocol([](const auto&) {
     return foundation::URLResponse{foundation::Error{"Test", 1, "offline"}, {}, 0};
@@ -26,11 +26,10 @@ swiftui::View row(const std::string& locale, const ScoreWidgetStyle& style, doub
                          LocalizationRepository::make(locale)};
 }
 
-/// The library's own faces keep their size, so large text is shown in a host's.
+/// A host's faces, for large text sizes: the library's own faces do not scale.
 ScoreWidgetStyle hostsFaces() { return {TovaFont::regular().name(), "TovaSansLatin-SemiBold"}; }
 
-/// Each picture is known by the name of its reference, which says in words what is on it:
-/// "sheet-discount-dark-3x".
+/// The name of each picture's reference describes it: "sheet-discount-dark-3x".
 class WidgetPicture : public ::testing::TestWithParam<const char*> {
  protected:
   static bool says(const std::string& word) {
@@ -82,14 +81,14 @@ INSTANTIATE_TEST_SUITE_P(Widgets, WidgetPicture,
 
 SCREENS_TEST_SUITE(WindowPicture);
 
-/// CMake runs this at other scales, too, with Qt Widgets.
+/// CMake runs this suite at other scales too, with Qt Widgets.
 SCREENS_TEST_SUITE(WindowPictureScale);
 
 TYPED_TEST(WindowPictureScale, ShowsTheRowAsAStillDoes) {
   const auto requests = offline();
   TypeParam screen;
   const swiftui::View view = row("en", {std::nullopt, std::nullopt}, 0.82);
-  // An odd place falls between two device pixels at one and a half.
+  // At a scale of one and a half, an odd position is between two device pixels.
   const QRectF place(21, 41, 300, 30);
   screen.add(view, place);
   const QImage window = screen.grab();
@@ -97,7 +96,8 @@ TYPED_TEST(WindowPictureScale, ShowsTheRowAsAStillDoes) {
   const auto gray = static_cast<std::uint8_t>(qGray(window.pixel(0, 0)));
   qt::PictureOptions options{300, 30, {}, false, {}};
   options.environment.scale = scale;
-  // Qt draws letters differently on an opaque page than on a clear one, as Qt Quick's pictures are.
+  // Qt draws letters differently on an opaque page than on a transparent one, such as Qt Quick's
+  // pictures.
   if (std::is_same_v<TypeParam, testing::WidgetScreen>)
     options.background = graphics::RGBA{gray, gray, gray};
   const QImage still = qt::picture(view, options);
@@ -109,7 +109,7 @@ TYPED_TEST(WindowPictureScale, ShowsTheRowAsAStillDoes) {
   EXPECT_EQ(testing::differing(shown, expected, 2), QRect());
 }
 
-/// At the largest text size, scrolled on by a page.
+/// The largest text size, scrolled by one page.
 TYPED_TEST(WindowPicture, ShowsAScrolledSheet) {
   const auto requests = offline();
   TypeParam screen;
@@ -118,7 +118,7 @@ TYPED_TEST(WindowPicture, ShowsAScrolledSheet) {
   screen.settle();
   screen.clickAt({180, 30});
   screen.key(Qt::Key_PageDown);
-  QTest::qWait(1400);  // the scroll indicator is gone
+  QTest::qWait(1400);  // until the scroll indicator is hidden
   EXPECT_TRUE(testing::matchesPicture(screen.grab(), "sheet-scrolled"));
 }
 

@@ -7,7 +7,7 @@
 namespace quorix::testing {
 namespace {
 
-/// Presents a page of that title over the top-most screen of the window in use.
+/// Presents a page with that title over the top-most screen of the key window.
 void presentPage(const std::string& title) {
   const auto window = UIApplication::getKeyWindow();
   ASSERT_TRUE(window);

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Every script explains itself with --help, and refuses an unknown option in one line.
+# Checks that every script has --help, and refuses an unknown option in one line.
 set -uo pipefail
 cd "$(dirname "$0")/../.." || exit
 

@@ -8,20 +8,20 @@
 
 namespace {
 
-/// A name as font files hold it: two bytes for a letter, the higher first.
+/// A name in the encoding of font files: two bytes for each letter, the higher one first.
 QByteArray utf16(const char* name) {
   QByteArray bytes;
   for (; *name != '\0'; ++name) bytes.append('\0').append(*name);
   return bytes;
 }
 
-// Another foundry's faces under our names, installed where a user installs fonts.
+// Faces of another foundry with our names, in the user's font folder.
 TEST(ToolOutput, IsInTheLibrarysFacesWhateverIsInstalled) {
   const std::string command = "quorix score $(quorix mint) --frames";
   const auto without = Tool().shell(command);
   ASSERT_EQ(without.status, 0) << without.err;
   const std::pair<const char*, bool> rows[] = {
-      {"NONE", false}, {"ABCD", false}, {"ABCD", true}};  // the first is that of our own
+      {"NONE", false}, {"ABCD", false}, {"ABCD", true}};  // the first is our own
   for (const auto& [foundry, inCapitals] : rows) {
     const Tool tool;
     ASSERT_TRUE(QDir().mkpath(tool.path("data/fonts")));

@@ -9,7 +9,7 @@
 
 namespace {
 
-/// A preview that writes what it shows into a file, without a display.
+/// A preview that writes its pictures into a file, without a display.
 struct Preview {
   Tool tool;
   QProcess process;
@@ -28,7 +28,7 @@ struct Preview {
     process.waitForFinished();
   }
 
-  /// Whether another picture comes up; `shown` is that one then.
+  /// Waits for another picture and stores it in `shown`. False if there is none.
   bool showsAnother() {
     const QDeadlineTimer deadline(20'000);
     while (!deadline.hasExpired() && !process.waitForFinished(20)) {
@@ -41,7 +41,7 @@ struct Preview {
   }
 };
 
-/// How far the row's title reaches, in pixels of a screen 375 wide.
+/// The right end of the row's title, in pixels of a screen 375 wide.
 int reachOfTitle(const QImage& screen) {
   int reach = 0;
   for (int y = 0; y < 60; ++y) {
@@ -68,7 +68,7 @@ TEST(PreviewTool, FollowsTextsAndAssetsAndSaysInWhichLanguageATableIsWrong) {
   const char* rows[] = {
       "sed -i 's/\"widget-read-more\".*/\"widget-read-more\" = \"Onwards\";/' "
       "en.lproj/Localizable.strings",
-      // Saved half-way through, it shows nothing, and goes on.
+      // With a table saved half-way, the preview shows no widget and continues.
       "cp en.lproj/Localizable.strings whole && "
       "sed -i 's/\"info-widget-title\".*/\"info-widget-title\" = \"\";/' "
       "en.lproj/Localizable.strings",
@@ -88,7 +88,7 @@ TEST(PreviewTool, FollowsTranslationsThatAreReplaced) {
   while (preview.showsAnother() && reachOfTitle(preview.shown) > 30) {
   }
   ASSERT_LT(reachOfTitle(preview.shown), 30);
-  // As editors do: a new file under the old name.
+  // Replaces the file like an editor: a new file with the old name.
   const auto replaced =
       folder.shell(R"(echo '{"returns": {"title": "a title that is far longer"}}' > new.json)"
                    "&& mv new.json texts.json");

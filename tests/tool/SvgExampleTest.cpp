@@ -10,7 +10,7 @@
 
 namespace {
 
-/// The mean difference of two pictures' pixels: 0 for the same, 255 for a negative.
+/// The mean difference of two pictures' pixels: 0 if they are equal, 255 for a negative.
 double difference(const QImage& a, const QImage& b) {
   double sum = 0;
   for (int y = 0; y < a.height(); ++y) {
@@ -26,7 +26,7 @@ QImage onPaper(QSize size, const std::function<void(QPainter&)>& draw) {
   QPainter painter(&image);
   draw(painter);
   painter.end();
-  // Scaled down, because text on a screen is aligned to whole pixels and text in a file is not.
+  // Scaled down, because text is aligned to whole pixels on a screen but not in a file.
   return image.scaled(size / 4, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 

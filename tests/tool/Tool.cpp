@@ -19,7 +19,7 @@ Tool::Run Tool::shell(const std::string& line) const {
   process.start("sh", {"-c", QString::fromStdString(line)});
   process.closeWriteChannel();
   if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit) return {};
-  // On a busy machine the gallery says how far it is.
+  // On a busy machine, the gallery prints its progress.
   static const QRegularExpression progress("quorix: gallery: \\d+ of \\d+ screens\n");
   const QString errors = QString::fromUtf8(process.readAllStandardError()).remove(progress);
   return {process.exitCode(), process.readAllStandardOutput().toStdString(), errors.toStdString()};

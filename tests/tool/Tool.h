@@ -4,7 +4,7 @@
 #include <QTemporaryDir>
 #include <string>
 
-/// The real tool, run as a user would run it: in a folder of its own, without a display.
+/// Runs the real tool like a user: in its own folder, without a display.
 class Tool {
  public:
   struct Run {
@@ -13,8 +13,8 @@ class Tool {
     std::string err;
   };
 
-  /// Runs a shell's command line, with the tool on the path, a host's font file as
-  /// $FACE and the folder of the library's tables as $STRINGS.
+  /// Runs a shell's command line with the tool on the path. $FACE is a host's font file, $STRINGS
+  /// is the folder of the library's tables.
   Run shell(const std::string& line) const;
 
   QString path(const QString& file) const { return folder_.filePath(file); }

@@ -11,13 +11,13 @@ using testing::Not;
 
 namespace {
 
-/// Holds the tool to one line of a transcript in tests/data/tool, in which a command of the shell
-/// is followed by what comes of it:
+/// Checks one line of a transcript in tests/data/tool. There, a shell command is followed by its
+/// expected results:
 ///
 ///     $ quorix mint --score high
-///     fails 2 --score wants a number   the exit status and a part of the one error line
+///     fails 2 --score wants a number   the exit status and a part of the only error line
 ///     prints "score": 1                succeeds without an error; a part of the output
-///     lacks Saans                      the same; no part of it
+///     lacks Saans                      succeeds without an error; not in the output
 ///     warns never used:                succeeds with one line on standard error
 void expectOutcome(const Tool::Run& run, const std::string& kind, const std::string& text) {
   const bool fails = kind == "fails";

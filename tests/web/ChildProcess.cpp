@@ -12,7 +12,7 @@
 namespace quorix::testing {
 namespace {
 
-/// Opens the stand-in service's page.
+/// Opens the page of the stand-in service.
 PageRow pageRow() {
   return {[] {
     auto content = std::make_shared<webkit::WebContent>();
@@ -32,7 +32,7 @@ void say(const char* when) {
               maps("libQuorixWebQuick"), maps("libQuorixWebWidgets"));
 }
 
-/// Opens a sheet without a page, then one with, which moves.
+/// Opens a sheet without a page, then a sheet with a page, with motion.
 template <class Screen>
 int tellMaps() {
   pages().serve("/page", page("#0000ff"));
@@ -54,7 +54,7 @@ int tellMaps() {
   return 0;
 }
 
-/// A page that uses every storage there is, and tells what it found there.
+/// Opens a page that uses every kind of storage and reports what it found there.
 int tellKept() {
   pages().serve("/page", page("#0000ff", {}, R"(
     tell('kept ' + document.cookie + (localStorage.kept || ''));
@@ -78,7 +78,7 @@ int runAsChild(const QString& task) {
 
 ChildResult runChild(const QString& line, const QString& folder) {
   auto variables = QProcessEnvironment::systemEnvironment();
-  variables.remove(QStringLiteral("QTWEBENGINE_CHROMIUM_FLAGS"));  // this process's own server
+  variables.remove(QStringLiteral("QTWEBENGINE_CHROMIUM_FLAGS"));  // names this process's server
   variables.insert(QStringLiteral("SELF"), QCoreApplication::applicationFilePath());
   QProcess child;
   child.setProcessEnvironment(variables);

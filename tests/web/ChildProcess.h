@@ -5,15 +5,15 @@
 
 namespace quorix::testing {
 
-/// What this program does as a process of its own, by name; returns the exit status.
+/// Runs a task of this program in its own process, by name. Returns the exit status.
 int runAsChild(const QString& task);
 
 struct ChildResult {
-  int status = -1;  ///< -1 when it did not end by itself
+  int status = -1;  ///< -1 if it did not end by itself
   QByteArray output;
 };
 
-/// Runs a line of a shell, to which $SELF is this program, in `folder` or in the current one.
+/// Runs a shell's line in `folder`, or in the current folder. $SELF is this program.
 ChildResult runChild(const QString& line, const QString& folder = {});
 
 }  // namespace quorix::testing

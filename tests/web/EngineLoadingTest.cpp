@@ -22,7 +22,7 @@ const std::pair<QString, const char*> kToolkits[] = {
 
 TEST(EngineLoading, WaitsForTheFirstPageToShow) {
   for (const auto& [task, after] : kToolkits) {
-    // With contexts to share, as hosts are asked to, and without.
+    // With shared contexts, as hosts are told to set, and without.
     for (const QString late : {"unset WEB_TESTS_LATE", "export WEB_TESTS_LATE=1"}) {
       const ChildResult child = runChild(late + "; exec $SELF " + task);
       EXPECT_EQ(child.status, 0) << qPrintable(task);
@@ -56,7 +56,7 @@ TEST(EngineLoading, RunsNoCodeFromTheCurrentFolderAndOpensTheBrowserOnce) {
     }
   }
   for (const auto& [task, after] : kToolkits) {
-    // Called as a shell finds it: by its bare name, and under a path.
+    // Started like a shell does: by its bare name, and by a path.
     for (const QString& name : {QStringLiteral("shop"), current.filePath("shop")}) {
       const QString line = "export LD_LIBRARY_PATH=. QT_PLUGIN_PATH=. PATH=" + elsewhere.path() +
                            "; exec -a " + name + " shop " + task;

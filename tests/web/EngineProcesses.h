@@ -23,8 +23,8 @@ inline std::map<pid_t, pid_t> allEngineProcesses() {
   return all;
 }
 
-/// The processes that the engine runs for this one, their own children included, or only those of
-/// them that run pages: the engine forks these from another of its processes.
+/// The engine's processes for this process, with all their children. With `renderersOnly`, only
+/// those that run pages; the engine forks them from another of its processes.
 inline std::vector<pid_t> engineProcesses(bool renderersOnly = false) {
   const auto all = allEngineProcesses();
   std::vector<pid_t> found;

@@ -5,7 +5,7 @@
 
 namespace quorix::testing {
 
-/// Records every message and keeps it out of the log.
+/// Records every message and hides it from the log.
 class LogListener {
  public:
   LogListener() : before_(qInstallMessageHandler(note)) { lines().clear(); }
@@ -18,7 +18,7 @@ class LogListener {
  private:
   static void note(QtMsgType, const QMessageLogContext& context, const QString& line) {
     static QMutex mutex;
-    // The platform without a display.
+    // A message of the platform without a display.
     if (line.contains(QLatin1String("propagateSizeHints"))) return;
     if (line.contains(QLatin1String("apturing is not available"))) return;
     const QMutexLocker lock(&mutex);

@@ -17,7 +17,7 @@ namespace {
 
 template <class Screen>
 struct PageEnd : PageTest<Screen> {
-  /// Moves the keyboard's focus into a page, which hangs from then on.
+  /// Moves the keyboard focus into a page, which then hangs.
   void openHanging() {
     this->openBlue("<input onfocus=\"tell('in'); setTimeout(() => { while (true); }, 50)\">");
     pages().forgetRequests("/report");
@@ -102,7 +102,7 @@ TYPED_TEST(PageEnd, TheInfoWidgetSaysThatItsPageIsGoneAndShowsItAgain) {
 TYPED_TEST(PageEnd, ALoadThatStandsStillIsStopped) {
   QTcpServer silent;
   ASSERT_TRUE(silent.listen(QHostAddress::LocalHost));
-  QPointer<QTcpSocket> asking;  // the engine opens others ahead of time
+  QPointer<QTcpSocket> asking;  // the engine opens other connections in advance
   QObject::connect(&silent, &QTcpServer::newConnection, &silent, [&] {
     while (QTcpSocket* socket = silent.nextPendingConnection()) {
       QObject::connect(socket, &QTcpSocket::readyRead, socket, [&, socket] { asking = socket; });

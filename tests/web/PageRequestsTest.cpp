@@ -19,19 +19,19 @@ template <class Screen>
 struct PageRequests : PageTest<Screen> {};
 TYPED_TEST_SUITE(PageRequests, Screens, ScreenName);
 
-/// The engine wants a user's gesture for some requests.
+/// The engine requires a user gesture for some requests.
 enum class When { atOnce, onClick };
 using enum When;
 
-/// What a page asks a browser, or a browser's user, for.
+/// A page's request to a browser or its user.
 struct Request {
   const char* what;
   When when;
   const char* script;
-  const char* answer = "done";  ///< what the page reports
+  const char* answer = "done";  ///< the page's report
 };
 
-/// What the scripts are short for.
+/// Functions that the scripts use.
 constexpr const char* kScript = R"(
   const later = () => setTimeout(() => tell('done'), 300);
   const granted = yes => tell(yes ? 'granted' : 'refused');
@@ -66,7 +66,7 @@ const Request kRequests[] = {
      "refused"},
     {"to open links of a kind", onClick,
      "try { navigator.registerProtocolHandler('web+shop', '/page?%s') } catch (e) {} later()"},
-    // Later engines do not ask; they have a limit of their own.
+    // Newer engines do not ask; they have their own limit.
     {"more room", atOnce,
      "navigator.webkitPersistentStorage ? navigator.webkitPersistentStorage.requestQuota("
      "1e9, bytes => granted(bytes > 0), () => granted(false)) : granted(false)",
@@ -87,14 +87,14 @@ const Request kRequests[] = {
     {"lines on the log", onClick,
      "for (let i = 0; i < 100; ++i) { console.error(i); console.warn(i); console.log(i) } "
      "setTimeout(() => { throw 'x' }, 20); later()"},
-    // Ways out.
+    // Addresses that leave the page.
     {"another app", onClick, "location = 'whatsapp://send?text=x'; later()"},
     {"a call from a frame", atOnce, "add('iframe', {src: 'tel:1'}); later()"},
     {"a download", onClick,
      "add('a', {href: 'data:,x', download: 'quorix-kept'}).click(); later()"},
 };
 
-/// Records the addresses that the engine passes to the desktop without asking us.
+/// Records the addresses that the engine opens on the desktop without asking us.
 class Desktop : public QObject {
   Q_OBJECT
 
@@ -159,7 +159,7 @@ TYPED_TEST(PageRequests, NoMenuAndNoTooltipOpen) {
   QTest::mouseMove(&this->screen.window(), this->kInPage);
   QTest::mouseMove(&this->screen.window(), this->kInPage + QPoint(1, 1));
   EXPECT_TRUE(this->reported("over"));
-  QTest::qWait(1500);  // longer than a tooltip takes
+  QTest::qWait(1500);  // longer than a tooltip's delay
   EXPECT_EQ(windowsOnScreen(), before);
   QTest::mouseClick(&this->screen.window(), Qt::RightButton, {}, this->kInPage);
   EXPECT_TRUE(this->reported("menu"));

@@ -16,8 +16,8 @@ namespace quorix::testing {
 constexpr graphics::RGBA kPageGround{10, 200, 30, 255};
 constexpr graphics::RGBA kControl{200, 10, 220, 255};
 
-/// Another toolkit's view: a page as large as it is offered, a filled square that closes it on top,
-/// and, below the page's left part, an area that takes taps where the page does not.
+/// Hosted content: a page that fills the offered size, a square above it that closes it, and a hit
+/// area below the page's left part, which takes taps where the page does not.
 class PageContent final : public render::HostedContent {
  public:
   PageContent(std::shared_ptr<webkit::WebContent> page, std::function<void()> close)
@@ -44,7 +44,7 @@ class PageContent final : public render::HostedContent {
   std::function<void()> close_;
 };
 
-/// A row that opens a sheet with a page in it, each time a new one.
+/// A row that opens a sheet with a new page each time.
 struct PageRow {
   static constexpr std::string_view typeName = "PageRow";
 

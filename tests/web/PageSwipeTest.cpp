@@ -9,7 +9,7 @@ constexpr QPoint kWide{100, 130}, kOwn{100, 230}, kPlain{100, 400};
 
 template <class Screen>
 struct PageSwipe : PageTest<Screen> {
-  /// A blue page, and the red one that it leads to on show.
+  /// Opens a blue page, and then the red page that it links to.
   void openRed() {
     const QByteArray link = "<a style='display:block;height:2000px' href='/next'>x</a>";
     const QByteArray content =
@@ -28,7 +28,7 @@ struct PageSwipe : PageTest<Screen> {
     ASSERT_TRUE(this->isPainted(Qt::red));
   }
 
-  /// Two fingers on a trackpad move what is at `at` by ten times `step`.
+  /// Scrolls at `at` with two fingers on a trackpad, by ten times `step`.
   void scroll(QPoint at, QPoint step) {
     const auto send = [&](QPoint by, Qt::ScrollPhase phase) {
       this->screen.wheel(at, by, by, phase);

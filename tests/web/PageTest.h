@@ -17,7 +17,7 @@ namespace quorix::testing {
 
 inline const QColor kGround(kPageGround.red, kPageGround.green, kPageGround.blue);
 
-/// A window with a row that opens a sheet with a page, and the server that the page comes from.
+/// A window with a row that opens a sheet with a page, and the page's server.
 template <class Screen>
 class PageTest : public ::testing::Test {
  protected:
@@ -34,7 +34,7 @@ class PageTest : public ::testing::Test {
     address_ = address;
     screen.click("Open page");
   }
-  /// Opens `answer` as a page of the modules service, and waits until it is painted in `color`.
+  /// Opens `answer` as a page of the modules service. Waits until it is painted in `color`.
   void openPainted(examples::StandInPages::Answer answer, QColor color) {
     pages().serve("/page", std::move(answer));
     pages().forgetRequests("/here");
@@ -46,11 +46,12 @@ class PageTest : public ::testing::Test {
   }
 
   QColor at(QPoint point) { return screen.grab().pixelColor(point); }
-  /// Whether the page ever gets this color.
+  /// Waits until the page has this color. False if it never has.
   bool shows(QColor color, QPoint where = kInPage) {
     return waitUntil([&] { return at(where) == color; });
   }
-  /// Whether a page of this color comes up and takes input. The next call is about the next page.
+  /// Waits until a page of this color is shown and takes input. The next call waits for the next
+  /// page.
   bool isPainted(QColor color) {
     const bool here = waitUntil([] { return !pages().requests("/here").empty(); });
     pages().forgetRequests("/here");
@@ -78,9 +79,9 @@ class PageTest : public ::testing::Test {
   decltype(screen.add(std::declval<swiftui::View>(), QRectF())) opener;
   webkit::WebContent::Settings settings{true, true, true};
   foundation::URLRequest::Seconds timeout = foundation::URLRequest::defaultTimeout;
-  std::vector<std::string> windows;  ///< what was asked to leave the app
-  int ends = 0;                      ///< how many pages lost their process
-  int failures = 0;                  ///< how many loads brought nothing
+  std::vector<std::string> windows;  ///< addresses to open outside the app
+  int ends = 0;                      ///< pages whose process ended
+  int failures = 0;                  ///< loads without any data
   std::weak_ptr<webkit::WebContent> latest;
 
  private:

@@ -78,7 +78,7 @@ QByteArray onClick(const QByteArray& script) {
   return "<div style='" + kFill + "' onclick=\"" + script + "\">x</div>";
 }
 
-/// What a page does, alone or when it is clicked, and the addresses that leave the app for it.
+/// The actions of a page, by itself or after a click, and the addresses that then leave the app.
 struct WayOut {
   const char* what;
   QByteArray content = {}, script = {};
@@ -86,7 +86,7 @@ struct WayOut {
   int clicks = 1;
   Qt::MouseButton button = Qt::LeftButton;
   Qt::KeyboardModifiers modifiers = {};
-  bool unasked = true;  ///< scripts may open windows as they like
+  bool unasked = true;  ///< scripts may open windows without a gesture
 };
 
 std::vector<WayOut> waysOut() {
@@ -185,7 +185,7 @@ TYPED_TEST(PageView, FollowsLinksAndLeadsBackAndForward) {
     EXPECT_TRUE(this->isPainted(Qt::red));
     this->screen.key(Qt::Key_Back);
     EXPECT_TRUE(this->isPainted(Qt::blue));
-    QTest::qWait(600);  // longer than a page has to answer a key
+    QTest::qWait(600);  // longer than a page's time limit for a key
     EXPECT_TRUE(this->isOpen());
     QTest::mouseClick(&this->screen.window(), Qt::ForwardButton, {}, this->kInPage);
     EXPECT_TRUE(this->isPainted(Qt::red));

@@ -7,14 +7,14 @@ namespace quorix::testing {
 constexpr const char* kModules = "https://modules.quorix.example";
 constexpr const char* kWidget = "https://widget.quorix.example";
 
-/// One server for the whole process: the engine reads its address once.
+/// One server for the whole process, because the engine reads its address only once.
 inline examples::StandInPages& pages() {
-  static auto* server = new examples::StandInPages;  // until the engine has ended
+  static auto* server = new examples::StandInPages;  // kept until the engine has ended
   return *server;
 }
 
-/// A page of one color that says that it is painted by asking for /here. `script` runs before. It
-/// has some text: the engine keeps input from a page that shows nothing yet.
+/// A page of one color. It requests /here when it is painted, and runs `script` before. It contains
+/// text, because the engine gives no input to an empty page.
 inline examples::StandInPages::Answer page(const QByteArray& color, const QByteArray& content = {},
                                            const QByteArray& script = {}) {
   return {.body = "<!doctype html><html style='height:100%;background:" + color +
@@ -26,7 +26,7 @@ inline examples::StandInPages::Answer page(const QByteArray& color, const QByteA
                   color + "'>text</small>"};
 }
 
-/// What pages reported by asking for /report?WHAT, the query decoded.
+/// The reports of pages: the decoded query of each request for /report?WHAT.
 inline QStringList reports() {
   QStringList all;
   for (const auto& request : pages().requests("/report")) {

@@ -9,7 +9,7 @@ namespace {
 constexpr int kRadius = 12;
 const QPoint kInStrip(280, 18);
 
-/// With a GPU's renderer, at any scale.
+/// Rounded corners with the GPU renderer, at any scale.
 class RoundedPage : public PageTest<QuickScreen> {
  protected:
   double scale() { return screen.window().devicePixelRatio(); }

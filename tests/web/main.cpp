@@ -8,9 +8,9 @@
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  // Colors are compared: they must not depend on a graphics driver.
+  // Colors are compared, so they must not depend on a graphics driver.
   if (qEnvironmentVariableIsEmpty("QT_QUICK_BACKEND")) qputenv("QT_QUICK_BACKEND", "software");
-  // The engine has no sandbox for root, which is what tests in a container run as.
+  // The engine has no sandbox for root, the usual user of tests in a container.
   const bool keepsSandbox = qEnvironmentVariableIsSet("WEB_TESTS_KEEP_SANDBOX");
   if (geteuid() == 0 && !keepsSandbox) qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
   if (!qEnvironmentVariableIsSet("WEB_TESTS_LATE")) {

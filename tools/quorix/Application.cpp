@@ -24,7 +24,7 @@ void keepQtQuiet() { qInstallMessageHandler(keepQuiet); }
 
 namespace {
 
-/// Before the application object is made, which reads it.
+/// Sets options that Qt reads when the application object is made.
 int& prepared(int& argc) {
   keepQtQuiet();
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -4,17 +4,17 @@
 
 namespace quorix::tool {
 
-/// Keeps Qt's own remarks off the terminal; what stops Qt (a platform plug-in that is not there)
-/// ends the tool with one line. Before the application object is made.
+/// Hides Qt's own messages from the terminal. A fatal one (a missing platform plug-in) ends the
+/// tool with one line. Call it before the application object is made.
 void keepQtQuiet();
 
-/// The application object of a command that lays out or paints. It needs no display, unless the
-/// environment asks for one with QT_QPA_PLATFORM, and keeps Qt's own remarks off the terminal.
+/// The application object of a command that lays out or paints. Needs no display, unless the
+/// environment selects one with QT_QPA_PLATFORM. Hides Qt's own messages.
 class PictureApplication {
  public:
   PictureApplication();
 
-  /// Runs what waits on the main queue.
+  /// Runs the waiting work of the main queue.
   void takeTurn() const;
 
  private:

@@ -18,7 +18,7 @@ bool isValue(std::string_view word) { return !word.starts_with("--"); }
 
 std::string quoted(std::string_view text) { return '"' + std::string(text) + '"'; }
 
-/// Why `option` can't be `value`.
+/// The error if `value` is not valid for `option`.
 std::optional<Failure> mismatch(const Option& option, const std::string& value) {
   if (option.names.empty() || std::ranges::find(option.names, value) != option.names.end()) {
     return std::nullopt;
@@ -35,7 +35,7 @@ bool Arguments::wantHelp(std::span<const std::string> words) {
                      [](const std::string& word) { return word == "--help" || word == "-h"; });
 }
 
-/// Takes an option off the front of `words`, with its value if that is a word of its own.
+/// Removes an option from the front of `words`, and the next word if that is its value.
 std::optional<Failure> Arguments::takeOption(std::span<const std::string>& words) {
   const std::string& word = words.front();
   words = words.subspan(1);

@@ -11,35 +11,35 @@
 
 namespace quorix::tool {
 
-/// An option of a command, or the one argument that it takes besides options.
+/// An option of a command, or its operand: the one argument besides options.
 struct Option {
   std::string_view name;  ///< "--width"; of an argument "TOKEN", or "[TOKEN]" if it may be left out
   std::string_view value;  ///< what help calls its value: "POINTS"; empty for a switch
   std::string_view help;   ///< with units and default; "{}" stands for the list of `names`
-  std::span<const std::string_view> names = {};  ///< the only values, if there is a list of them
+  std::span<const std::string_view> names = {};  ///< the only valid values; empty if any is valid
   bool required = false;
 };
 
-/// The arguments of one command, sorted into options and operand. Of an option given twice the
-/// last counts.
+/// The arguments of one command, split into options and operand. If an option is given twice, the
+/// last one counts.
 class Arguments {
  public:
-  /// Sorts `words`. Values follow their option as the next word or behind "="; a next word that
-  /// begins with "--" is an option, not a value, and everything behind a lone "--" is an operand.
-  /// One operand is wanted where `operand` has a name, may be given where the name stands in
-  /// brackets, and none where that is empty; where it ends in dots, further words belong to it. A
-  /// value that is not one of its option's names is refused.
+  /// Splits `words`. An option's value is the next word, or follows "=" in the same word. A word
+  /// that begins with "--" is an option, never a value; all words after a lone "--" are operands.
+  /// The operand is required if `operand` has a name, optional if the name is in brackets, and not
+  /// allowed if the name is empty. If the name ends in dots, further words belong to it. A value
+  /// that is not one of its option's names is refused.
   static std::variant<Arguments, Failure> parse(std::span<const std::string> words,
                                                 std::span<const Option> options,
                                                 const Option& operand);
 
-  /// Whether `words` ask for help rather than for the command.
+  /// Whether `words` ask for help instead of running the command.
   static bool wantHelp(std::span<const std::string> words);
 
   bool has(std::string_view option) const { return values_.contains(option); }
-  /// The option's value, empty for a switch; nothing when it was not given.
+  /// The option's value, empty for a switch; absent if it was not given.
   std::optional<std::string> value(std::string_view option) const;
-  /// Which of the option's names was given; nothing when the option was not.
+  /// The index of the option's value in its names; absent if it was not given.
   std::optional<std::size_t> choice(std::string_view option) const;
   const std::optional<std::string>& operand() const { return operand_; }
 

@@ -29,7 +29,7 @@ std::variant<const Command*, Failure> findCommand(std::span<const std::string> w
     if (command->name == first || command->name == both) return command;
   }
   const auto names = commandNames();
-  // "strings chekc": the command of two words that begins alike.
+  // For "strings chekc", compares both words with the commands of two words.
   const bool begun = std::ranges::any_of(
       names, [&](std::string_view name) { return name.starts_with(first + ' '); });
   return Failure::usage("unknown command \"" + (begun ? both : first) + '"' +

@@ -16,7 +16,7 @@ std::string joined(std::span<const std::string_view> words) {
   return line;
 }
 
-/// `text` as one word of a shell's.
+/// `text` quoted as one shell word.
 std::string quoted(std::string_view text) {
   std::string word = "'";
   for (const char c : text) {
@@ -28,13 +28,13 @@ std::string quoted(std::string_view text) {
   return word + '\'';
 }
 
-/// Whether a file's path is a value of `option`.
+/// Whether the value of `option` is a file path.
 bool takesFile(const Option& option) {
   const std::string_view of = option.value.empty() ? option.name : option.value;
   return of.find("FILE") != of.npos || of.find("FOLDER") != of.npos || of == "FACE";
 }
 
-/// The values of `option` that can be told, one after the other.
+/// The known values of `option`, separated by blanks.
 std::string values(const Option& option) {
   return joined(option.name == "[COMMAND...]"
                     ? commandNames()
@@ -45,7 +45,7 @@ std::string firstLine(std::string_view text) {
   return std::string(text.substr(0, text.find('\n')));
 }
 
-// The first words of the commands, and the second of those that have two.
+// The first words of all commands, and the second words of commands that have two.
 
 std::string firstWord(const Command& command) {
   return std::string(command.name.substr(0, command.name.find(' ')));
@@ -95,7 +95,7 @@ std::string bash() {
          "complete -F _quorix quorix\n";
 }
 
-/// ":NAME:(light dark)": what follows an option or stands alone.
+/// ":NAME:(light dark)": describes the value of an option, or an operand.
 std::string zshValue(std::string_view title, const Option& option) {
   const std::string known = values(option);
   const std::string action = takesFile(option) ? "_files" : known.empty() ? " " : '(' + known + ')';
@@ -168,7 +168,7 @@ std::string fish() {
 Outcome completion(const Arguments& arguments) {
   const std::string& shell = *arguments.operand();
   const std::string head = "# How a shell completes the command lines of quorix.\n";
-  // zsh reads the first line, so no comment goes above it.
+  // zsh reads the first line, so it must not be a comment.
   if (shell == "zsh") return zsh();
   return head + (shell == "bash" ? bash() : fish());
 }

@@ -5,15 +5,15 @@
 
 namespace quorix::tool {
 
-/// Why a command did not do what was asked: one line for the standard error stream, the status that
-/// the process ends with, and what is printed on the standard output nevertheless.
+/// The failure of a command: one line for the standard error stream, the exit status, and the text
+/// that is still printed on the standard output.
 struct Failure {
   static constexpr int refusedStatus = 1;
   static constexpr int usageStatus = 2;
 
-  /// The command line is wrong; no input was looked at.
+  /// The command line is wrong. No input was read.
   static Failure usage(std::string message) { return {usageStatus, std::move(message), {}}; }
-  /// The command line is right and what it names can't be used.
+  /// The command line is valid, but its input cannot be used.
   static Failure refused(std::string message) { return {refusedStatus, std::move(message), {}}; }
 
   int status;

@@ -12,7 +12,7 @@ constexpr std::size_t lineWidth = 79;
 constexpr std::size_t optionColumn = 28;
 constexpr std::size_t commandColumn = 17;
 
-/// `left`, and from `column` on the words of `right`, which break into lines there.
+/// `left`, and the words of `right`, broken into lines that start at `column`.
 std::string twoColumns(std::string left, std::string_view right, std::size_t column) {
   std::string line = std::move(left), result;
   if (line.size() + 2 > column && column > 0) {

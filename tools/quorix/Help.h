@@ -6,7 +6,7 @@
 
 namespace quorix::tool {
 
-/// "quorix help": prints what "quorix --help" or "quorix COMMAND --help" prints.
+/// "quorix help": prints the same as "quorix --help" or "quorix COMMAND --help".
 extern const Command helpCommand;
 
 inline constexpr std::string_view toolPurpose =
@@ -15,16 +15,16 @@ inline constexpr std::string_view toolPurpose =
 inline constexpr std::string_view exitStatus =
     "0 when all went well, 1 for input that was refused, 2 for a wrong command line.";
 
-/// What "quorix --help" prints.
+/// The text of "quorix --help".
 std::string helpText();
 
-/// What "quorix COMMAND --help" prints.
+/// The text of "quorix COMMAND --help".
 std::string helpText(const Command& command);
 
 /// "score TOKEN [options]".
 std::string usage(const Command& command);
 
-/// What `option` is for, in one paragraph.
+/// The help for `option`, in one paragraph.
 std::string described(const Option& option);
 
 }  // namespace quorix::tool

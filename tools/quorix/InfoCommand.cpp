@@ -22,7 +22,7 @@
 namespace quorix::tool {
 namespace {
 
-/// What "quorix info" was asked for.
+/// The request of a "quorix info" command line.
 struct InfoRequest : WidgetRequest {
   bool imperative = false;
   std::optional<graphics::RGBA> backgroundColor = {};
@@ -30,7 +30,7 @@ struct InfoRequest : WidgetRequest {
 
   static const std::span<const Option> options;
 
-  /// The request that `arguments` make, or what is wrong with them.
+  /// The request in `arguments`, or the error in them.
   static std::variant<InfoRequest, Failure> read(const Arguments& arguments);
 };
 
@@ -59,7 +59,7 @@ std::variant<InfoRequest, Failure> InfoRequest::read(const Arguments& arguments)
   return request;
 }
 
-/// The app's one screen, as far as imperative views can tell: what they present over it, it keeps.
+/// The app's only screen for imperative views. Keeps the controllers that they present over it.
 /// Main thread.
 class StandInScreen {
  public:
@@ -68,8 +68,8 @@ class StandInScreen {
   StandInScreen(const StandInScreen&) = delete;
   StandInScreen& operator=(const StandInScreen&) = delete;
 
-  /// Taps the first view in `root` that takes taps, and returns what that presents; null when it
-  /// presents nothing.
+  /// Taps the first view in `root` that takes taps. Returns the controller that this presents, or
+  /// null.
   std::shared_ptr<uikit::UIViewController> presentedByTap(const uikit::UIView& root) const;
 
  private:
@@ -112,7 +112,7 @@ Outcome showDeclarative(const InfoRequest& request, const InfoWidgetStyle& style
 Outcome showImperative(const InfoRequest& request, const InfoWidgetStyle& style,
                        const PictureApplication& application) {
   const auto widget = InfoWidgetBuilder::buildUIKitInfoWidgetView(request.locale, style);
-  application.takeTurn();  // brings the title
+  application.takeTurn();  // sets the title
   swiftui::View view = swiftui::hosting(widget);
   std::shared_ptr<uikit::UIViewController> overlay;
   if (request.picture.sheet) overlay = StandInScreen().presentedByTap(*widget);

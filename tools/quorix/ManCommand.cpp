@@ -5,8 +5,8 @@
 namespace quorix::tool {
 namespace {
 
-/// `text` so that the formatter prints it as it is: a hyphen stays one when copied, and a dot at
-/// the beginning of a line is no request.
+/// Escapes `text` for the formatter: a hyphen stays a hyphen when copied, and a dot at the start of
+/// a line is not a request.
 std::string escaped(std::string_view text) {
   std::string result;
   for (const char c : text) {
@@ -22,7 +22,7 @@ std::string escaped(std::string_view text) {
   return result;
 }
 
-/// A paragraph with a heading that hangs to its left.
+/// A paragraph with a hanging heading.
 std::string item(const Option& option) {
   std::string text = ".TP\n\\fB" + escaped(option.name) + "\\fR";
   if (!option.value.empty()) text += " \\fI" + escaped(option.value) + "\\fR";

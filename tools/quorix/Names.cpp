@@ -9,8 +9,7 @@ namespace {
 
 char lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
-/// How many letters have to be added, left out, changed or swapped with the next to make `a` into
-/// `b`.
+/// The number of letters to add, remove, change or swap with their neighbour to turn `a` into `b`.
 std::size_t distance(std::string_view a, std::string_view b) {
   std::vector<std::size_t> beforeLast(b.size() + 1), last(b.size() + 1), row(b.size() + 1);
   std::iota(last.begin(), last.end(), 0);
@@ -43,7 +42,7 @@ std::string listed(std::span<const std::string_view> names) {
 std::string didYouMean(std::string_view word, std::span<const std::string_view> names) {
   constexpr std::size_t shortestBeginning = 3;
   std::string_view nearest;
-  // Codes of two letters are too similar to suggest one for another.
+  // Do not suggest codes of two letters: they are too similar.
   std::size_t least =
       word.size() < shortestBeginning ? 1 : std::max<std::size_t>(1, word.size() / 3) + 1;
   for (const std::string_view name : names) {

@@ -6,7 +6,7 @@
 namespace quorix::tool {
 namespace {
 
-/// The whole of `text` as a number, or nothing.
+/// The number that the whole of `text` spells; absent for any other text.
 template <class Number>
 std::optional<Number> parse(std::string_view text, auto... base) {
   Number number{};
@@ -43,7 +43,7 @@ std::optional<double> OptionReader::optionalNumber(std::string_view option, Rang
   const auto given = arguments_.value(option);
   if (!given) return std::nullopt;
   const auto number = parse<double>(*given);
-  // Written so that it also refuses what is not a number.
+  // This form of the comparison also refuses NaN.
   const bool inside = number && *number >= range.least && *number <= range.most;
   if (inside) return number;
   const std::string what = "a number from " + shortest(range.least) + " to " + shortest(range.most);

@@ -10,8 +10,8 @@
 
 namespace quorix::tool {
 
-/// Reads typed values out of arguments. It remembers the first that is wrong, so that a command
-/// reads all that it wants and asks once.
+/// Reads typed values from arguments. Stores the first error, so that a command can read all values
+/// and then check once.
 ///
 ///     OptionReader read(arguments);
 ///     const double width = read.number("--width", 375, {1, 10000});
@@ -34,12 +34,12 @@ class OptionReader {
   std::optional<double> optionalNumber(std::string_view option, Range range);
   /// A signed 64-bit integer.
   std::int64_t integer(std::string_view option, std::int64_t fallback);
-  /// Which of the option's names was given; nothing when the option was not.
+  /// The index of the option's value in its names; absent if it was not given.
   std::optional<std::size_t> choice(std::string_view option) const {
     return arguments_.choice(option);
   }
 
-  /// "#RRGGBB", as designers write it; opaque.
+  /// "#RRGGBB"; opaque.
   std::optional<graphics::RGBA> color(std::string_view option);
 
   void fail(std::string message);

@@ -6,17 +6,18 @@
 
 namespace quorix::tool {
 
-/// Says on the standard error stream how far a command is that takes longer than two seconds: on a
-/// terminal in one line that goes away at the end, else in a line every two seconds.
+/// Reports the progress of a command that takes longer than two seconds on the standard error
+/// stream. On a terminal this is one line that is removed at the end, otherwise a new line every
+/// two seconds.
 class Progress {
  public:
-  /// `command` goes through `count` `things`.
+  /// `command` processes `count` `things`.
   Progress(std::string command, std::string things, std::size_t count);
   ~Progress();
   Progress(const Progress&) = delete;
   Progress& operator=(const Progress&) = delete;
 
-  /// One more of them begins.
+  /// The next one begins.
   void step();
 
  private:

@@ -19,7 +19,7 @@
 namespace quorix::tool {
 namespace {
 
-/// What "quorix score" was asked for.
+/// The request of a "quorix score" command line.
 struct ScoreRequest : WidgetRequest {
   std::string clientId = {};
   std::string token = {};
@@ -27,8 +27,8 @@ struct ScoreRequest : WidgetRequest {
 
   static const std::span<const Option> options;
 
-  /// The request that `arguments` make, with "-" for the token read from the standard input; or
-  /// what is wrong with them.
+  /// The request in `arguments`, or the error in them. Reads the token from the standard input if
+  /// it is "-".
   static std::variant<ScoreRequest, Failure> read(const Arguments& arguments);
 };
 
@@ -52,7 +52,8 @@ std::variant<ScoreRequest, Failure> ScoreRequest::read(const Arguments& argument
   return request;
 }
 
-/// Why the builder would give an empty view for `request`, or a view that can't be shown.
+/// The failure if the builder would return an empty view for `request`, or a view that cannot be
+/// shown.
 std::optional<Failure> emptiness(const ScoreRequest& request) {
   constexpr std::string_view consequence = ", so the widget is empty: nothing to show";
   const auto reading = readToken(request.token);
@@ -67,7 +68,7 @@ std::optional<Failure> emptiness(const ScoreRequest& request) {
   return notShown(std::get<TokenData>(reading));
 }
 
-/// Lets `view` take over the texts of the request's file.
+/// Makes `view` use the texts in the request's file.
 std::optional<Failure> translate(const swiftui::View& view, const ScoreRequest& request) {
   std::optional<std::string> document;
   if (request.translations) {

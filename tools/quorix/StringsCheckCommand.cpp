@@ -14,14 +14,14 @@ namespace {
 
 using foundation::Bundle;
 
-/// `line` with what would break it, or color a terminal, taken out.
+/// `line` without characters that break it or color a terminal.
 std::string oneLine(std::string line) {
   const auto isControl = [](unsigned char c) { return c < 0x20 || c == 0x7F; };
   std::ranges::replace_if(line, isControl, ' ');
   return line + '\n';
 }
 
-/// A line for each finding in the table at `path`.
+/// One line for each problem in the table at `path`.
 std::vector<std::string> findings(const Bundle& bundle, const std::string& path) {
   const auto file = bundle.data(path);
   if (!file) return {oneLine(path + ": is missing")};
@@ -40,7 +40,7 @@ std::string counted(std::size_t count, const std::string& what) {
   return std::to_string(count) + ' ' + what + (count == 1 ? "" : "s");
 }
 
-/// What there is to say of `count` tables.
+/// The result of checking `count` tables.
 Outcome outcome(const std::vector<std::string>& lines, std::size_t count) {
   const std::string tables = counted(count, "table");
   if (lines.empty()) return tables + " checked, nothing found\n";
@@ -49,7 +49,7 @@ Outcome outcome(const std::vector<std::string>& lines, std::size_t count) {
   return failure;
 }
 
-/// The table in the file at `path`, as the service sends it.
+/// Checks the file at `path`, a table in the service's format.
 Outcome checkTranslations(const std::string& path) {
   const auto document = readTranslations(path);
   if (const auto* failure = std::get_if<Failure>(&document)) return *failure;
@@ -73,7 +73,7 @@ Outcome check(const Arguments& arguments) {
   std::erase_if(languages, [](const std::string& name) { return !name.ends_with(".lproj"); });
   if (languages.empty()) return Failure::refused("there is no *.lproj folder in " + path);
   if (std::ranges::find(languages, "en.lproj") == languages.end()) {
-    languages.insert(languages.begin(), "en.lproj");  // what every other locale falls back to
+    languages.insert(languages.begin(), "en.lproj");  // all other locales fall back to it
   }
   std::vector<std::string> lines;
   for (const std::string& language : languages) {

@@ -11,18 +11,18 @@
 
 namespace quorix::tool {
 
-/// How every command takes a token.
+/// The token operand of all commands.
 inline constexpr Option tokenOperand{
     "TOKEN", "", "The shopper's token, or - to read it from the standard input."};
 
-/// The token that `argument` is, or for "-" the one on the standard input, without the blanks and
-/// line ends around it. Input that is longer than any token is a failure.
+/// The token in `argument`, or in the standard input if it is "-", without surrounding blanks and
+/// line ends. Fails if the input is longer than any token.
 std::variant<std::string, Failure> tokenText(std::string_view argument);
 
-/// The failure that says why a token can't be used.
+/// The failure for a token that cannot be used.
 Failure refused(TokenRefusal refusal);
 
-/// The failure that says why no widget is shown for `figures`, if none is.
+/// The failure if no widget is shown for `figures`.
 std::optional<Failure> notShown(const TokenData& figures);
 
 }  // namespace quorix::tool

@@ -21,8 +21,8 @@ using foundation::URL;
 using foundation::URLResponse;
 using foundation::URLSession;
 
-/// Where the error is: the library's reader refused the document and counts no lines, so Qt's reads
-/// it again.
+/// The line of the error. The library's reader does not count lines, so Qt's reader parses the
+/// document again.
 std::string lineOfError(const std::string& document) {
   QJsonParseError error;
   QJsonDocument::fromJson(QByteArray::fromStdString(document), &error);
@@ -37,7 +37,7 @@ bool has(const TranslationTable& table, const TranslationTable::Entry& wanted) {
   });
 }
 
-/// The keys of `all` that `some` lacks.
+/// The keys in `all` that are missing in `some`.
 std::vector<std::string> difference(const TranslationTable& all, const TranslationTable& some) {
   std::vector<std::string> keys;
   for (const auto& entry : all.entries()) {
@@ -104,10 +104,10 @@ bool fetchTranslations(const swiftui::View& view, const std::optional<std::strin
   hosting::ViewHost host(qt::QtTextEngine::shared(), surface);
   host.setRoot(view);
   host.setOnScreen(true);
-  host.sizeThatFits({});  // evaluates the view, which hands its task to the main queue
+  host.sizeThatFits({});  // evaluates the view, which queues its task
 
-  // The session and the main queue answer in order: when a second request completes, so has the
-  // view's own.
+  // The session and the main queue answer in order: when a second request completes, the view's own
+  // has completed too.
   QEventLoop loop;
   MainQueue::async([&] {
     URLSession::shared().get(*fence,

@@ -11,28 +11,28 @@
 
 namespace quorix::tool {
 
-/// The translation table in the file at `path`, found good: a document as the modules service sends
-/// it.
+/// Checks the translation table in the file at `path` and returns its text: a document in the
+/// modules service's format.
 std::variant<std::string, Failure> readTranslations(const std::string& path);
 
-/// What a translator may have overlooked in a table, by its keys: "labels.hint".
+/// Possible mistakes of a translator in a table, by key: "labels.hint".
 struct Oversights {
   std::vector<std::string> missing;  ///< their labels stay empty
-  std::vector<std::string> unused;   ///< no label asks for them
+  std::vector<std::string> unused;   ///< not used by any label
 
-  /// The oversights in a good `document`.
+  /// The mistakes in a valid `document`.
   static Oversights in(const std::string& document);
-  /// All of them in one line; nothing when there are none.
+  /// All mistakes in one line; absent without any.
   std::optional<std::string> line() const;
 };
 
-/// What the modules service answers: `document`, or without one that it can't be reached. Nothing
-/// the tool does ever goes to the network.
+/// The answer of the modules service: `document`, or without one a connection error. The tool never
+/// uses the network.
 foundation::URLResponse serviceAnswer(const std::optional<std::string>& document);
 
-/// Puts `view` on screen until it has fetched its translations and taken them over. `document` is
-/// what the modules service answers with. Returns whether the view asked for translations. Needs
-/// the engine; main thread.
+/// Puts `view` on screen until it has fetched its translations and shows them. `document` is the
+/// answer of the modules service. Returns whether the view requested translations. Needs the
+/// engine; main thread.
 bool fetchTranslations(const swiftui::View& view, const std::optional<std::string>& document);
 
 }  // namespace quorix::tool

@@ -13,7 +13,7 @@ namespace quorix::tool {
 inline constexpr std::string_view appearanceNames[] = {"light", "dark"};
 inline constexpr std::string_view directionNames[] = {"ltr", "rtl"};
 
-/// Smallest first.
+/// From the smallest to the largest.
 inline const auto textSizeNames = [] {
   constexpr auto last = swiftui::ContentSizeCategory::accessibilityExtraExtraExtraLarge;
   std::array<std::string_view, static_cast<std::size_t>(last) + 1> names;
@@ -23,7 +23,7 @@ inline const auto textSizeNames = [] {
   return names;
 }();
 
-// Of every command in which a user looks at a widget; `WidgetLook` reads them.
+// Options of all commands that display a widget. `WidgetLook` reads them.
 inline constexpr Option localeOption{"--locale", "CODE",
                                      "Language code of the texts (default en)."};
 inline constexpr Option sheetOption{"--sheet", "", "Opens the sheet, as a tap on the widget does."};
@@ -42,8 +42,7 @@ inline constexpr Option semiBoldFontOption{"--semi-bold-font", "FACE",
 inline constexpr Option directionOption{
     "--direction", "NAME", "{} (default that of the locale's script).", directionNames};
 
-/// The options of every command that shows a widget as a picture or in words; `WidgetRequest` reads
-/// them.
+/// Options of all commands that show a widget as a picture or in words. `WidgetRequest` reads them.
 inline constexpr auto widgetOptions = std::to_array<Option>({
     localeOption,
     sheetOption,
@@ -67,7 +66,7 @@ inline constexpr auto widgetOptions = std::to_array<Option>({
     directionOption,
 });
 
-/// A command's own options, and then those of every widget.
+/// A command's own options, followed by those of every widget.
 template <std::size_t count>
 constexpr auto withWidgetOptions(const Option (&own)[count]) {
   std::array<Option, count + widgetOptions.size()> all{};

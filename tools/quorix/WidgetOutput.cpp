@@ -14,7 +14,7 @@
 namespace quorix::tool {
 namespace {
 
-// A hundred million pixels take 400 megabytes while they are painted.
+// Painting a hundred million pixels takes 400 megabytes.
 constexpr double mostPixels = 1e8;
 
 std::string pixels(double width, double height) {
@@ -24,7 +24,7 @@ std::string pixels(double width, double height) {
   return whole(width) + " x " + whole(height) + " pixels";
 }
 
-/// Paints `scene` into a PNG file at `path`; a file that was there stays when that fails.
+/// Paints `scene` into a PNG file at `path`. On failure, an existing file stays unchanged.
 std::optional<Failure> writePicture(const render::Scene& scene, const qt::PictureOptions& options,
                                     const std::string& path) {
   const double width = scene.size.width * options.environment.scale;

@@ -9,9 +9,9 @@
 
 namespace quorix::tool {
 
-/// Lays out `view` and gives every form that `request` asks for: the picture into its file, the
-/// rest as what to print. `printTree` is called once all is laid out. Needs the engine; main
-/// thread.
+/// Lays out `view` and produces all forms that `request` asks for. Writes the picture to its file
+/// and returns the rest for printing. `printTree` is called after the layout. Needs the engine;
+/// main thread.
 Outcome showWidget(const swiftui::View& view, const WidgetRequest& request,
                    const std::function<std::string()>& printTree);
 

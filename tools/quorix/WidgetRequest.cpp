@@ -32,17 +32,17 @@ std::variant<std::string, Failure> registeredFile(const std::string& path) {
   if (!font) return Failure::refused(path + " is not a font file with one named face");
   const std::string& name = font->postScriptName();
   if (FontManager::shared().registerGraphicsFont(*font)) return name;
-  // The same file may be given for both faces.
+  // Both faces may come from the same file.
   if (FontManager::shared().data(name) == font->data()) return name;
   return Failure::refused(path + ": there is a face named \"" + name +
                           "\" already; give that name to use it");
 }
 
-/// The name to draw with for `nameOrFile`: the name of a face that is there, or a font file, whose
-/// face is registered. Needs an application object.
+/// The name of the face `nameOrFile`: an available face's name, or a font file, whose face is
+/// registered. Needs an application object.
 std::variant<std::string, Failure> usableFace(const std::string& nameOrFile) {
   qt::QtFonts::installSystemLookup();
-  // Registers the library's own faces first, so that no file takes their names.
+  // Register the library's own faces first, so that a file cannot take their names.
   QuorixFont::regular();
   QuorixFont::medium();
   if (looksLikeFile(QString::fromStdString(nameOrFile))) return registeredFile(nameOrFile);

@@ -11,27 +11,26 @@
 
 namespace quorix::tool {
 
-/// Who looks at a widget: a user's language and settings, and the faces of a host.
+/// The viewer of a widget: a user's language and settings, and a host's faces.
 struct WidgetLook {
   std::string locale = "en";
   graphics::Appearance appearance = graphics::Appearance::light;
   swiftui::ContentSizeCategory textSize = swiftui::ContentSizeCategory::large;
-  std::optional<layout::LayoutDirection> direction = {};  ///< absent: the language's
+  std::optional<layout::LayoutDirection> direction = {};  ///< absent: the language's direction
   std::optional<std::string> regularFont = {};            ///< a name or a font file
-  std::optional<std::string> semiBoldFont = {};           ///< likewise
+  std::optional<std::string> semiBoldFont = {};           ///< a name or a font file
 
-  /// What the options of a look were given. What is wrong with them, `read` remembers.
+  /// Reads the options of a look. `read` stores the first error.
   static WidgetLook from(OptionReader& read);
 
-  /// The direction in force.
+  /// The direction that applies.
   layout::LayoutDirection readingDirection() const;
 
-  /// Replaces faces that were given as files by their names. Needs an application object.
+  /// Replaces font files by the names of their faces. Needs an application object.
   std::optional<Failure> findFaces();
 };
 
-/// What every command that shows a widget is asked: how the widget is to look, and in which forms
-/// it is wanted.
+/// The request of every command that shows a widget: its look, and the forms of the output.
 struct WidgetRequest : WidgetLook {
   qt::PictureOptions picture = {};
 
@@ -41,7 +40,7 @@ struct WidgetRequest : WidgetLook {
   bool accessibility = false;
   bool json = false;
 
-  /// What `widgetOptions` were given. What is wrong with them, `read` remembers.
+  /// Reads `widgetOptions`. `read` stores the first error.
   static WidgetRequest from(OptionReader& read);
 };
 

@@ -20,7 +20,7 @@ Outcome run(const Command& command, std::span<const std::string> words) {
   return command.run(std::get<Arguments>(arguments));
 }
 
-/// Says where `failure` came from and, for a wrong command line, where to read on.
+/// Adds the command's name to `failure` and, for a wrong command line, a reference to the help.
 Failure placed(Failure failure, const std::string& command) {
   if (!command.empty()) failure.message = command + ": " + failure.message;
   if (failure.status == Failure::usageStatus) {
@@ -52,7 +52,7 @@ bool print(const std::string& output) {
 int report(const Failure& failure) {
   print(failure.output);
   std::string line = "quorix: " + failure.message;
-  // One line, although a file or an argument may have put line breaks into the message.
+  // Removes line breaks, which a file or an argument may have put into the message.
   std::ranges::replace_if(
       line, [](char c) { return c == '\n' || c == '\r'; }, ' ');
   std::fprintf(stderr, "%s\n", line.c_str());

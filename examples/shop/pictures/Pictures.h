@@ -10,14 +10,14 @@
 
 namespace quorix::examples {
 
-/// The demo's scenes as PNG files: widgets and sheets on their own, and in the shop, in both
-/// toolkits. Main thread; needs the application object, the engine and the services.
+/// The demo's scenes as PNG files: widgets and sheets alone and in the shop, in both toolkits. Main
+/// thread; needs the application object, the engine and the services.
 class Pictures {
  public:
   explicit Pictures(QString folder) : folder_(std::move(folder)) {}
 
-  /// Writes them all, makes the folder where it is missing, and prints each file's name. False
-  /// after a line on the standard error when one can't be written.
+  /// Writes all pictures, creates a missing folder, and prints each file's name. On a write error,
+  /// prints one line on the standard error stream and returns false.
   bool write() const;
 
  private:
@@ -31,10 +31,10 @@ struct ShopScene;
 /// Pictures of the shop in Qt Quick. Main thread.
 class QuickPictures {
  public:
-  /// `shop` lives longer.
+  /// `shop` must outlive this.
   explicit QuickPictures(Shop& shop);
 
-  /// Hands each picture with its name to `keep`, until that says false.
+  /// Calls `keep` with each picture and its name, until it returns false.
   bool each(const std::function<bool(const QImage&, const char* name)>& keep);
 
  private:
@@ -44,22 +44,22 @@ class QuickPictures {
   QuickWindow face_;
 };
 
-/// Pictures of the widgets and their sheets on their own. Main thread.
+/// Pictures of the widgets and their sheets alone. Main thread.
 class WidgetPictures {
  public:
   WidgetPictures() = delete;
 
-  /// Hands each picture with its name to `keep`, until that says false.
+  /// Calls `keep` with each picture and its name, until it returns false.
   static bool each(const std::function<bool(const QImage&, const char* name)>& keep);
 };
 
 /// Pictures of the shop in Qt Widgets. Main thread.
 class WindowPictures {
  public:
-  /// `shop` lives longer.
+  /// `shop` must outlive this.
   explicit WindowPictures(Shop& shop);
 
-  /// Hands each picture with its name to `keep`, until that says false.
+  /// Calls `keep` with each picture and its name, until it returns false.
   bool each(const std::function<bool(const QImage&, const char* name)>& keep);
 
  private:

@@ -54,7 +54,7 @@ void press(QQuickWindow& window, Qt::Key key) {
   }
 }
 
-/// The first frame measures what is visible; what depends on that is in the second.
+/// Renders two frames: the first measures the visible part, the second shows what depends on that.
 QImage frameOf(QQuickWindow& window) {
   settle();
   window.grabWindow();

@@ -23,7 +23,7 @@ void ShopScene::set(Shop& shop) const {
 
 namespace {
 
-/// Whether the lower half shows more than a plain background.
+/// Whether the lower half shows more than a uniform background.
 bool hasContent(const QImage& frame) {
   const QImage half = frame.copy(0, frame.height() / 2, frame.width(), frame.height() / 2 - 2);
   QImage plain(half.size(), half.format());
@@ -43,7 +43,7 @@ void settle() {
   QEventLoop turns;
   StandInServices::whenAnswered([&turns] { turns.quit(); });
   turns.exec();
-  // Work that a turn queues waits for the next one: a tap takes a few until its sheet stands.
+  // A turn may queue work for the next one. A tap takes several turns until its sheet is open.
   constexpr int turnsOfATap = 20;
   for (int turn = 0; turn < turnsOfATap; ++turn) QCoreApplication::processEvents();
 }

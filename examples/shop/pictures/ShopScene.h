@@ -8,7 +8,7 @@
 
 namespace quorix::examples {
 
-// Indexes into the shop's lists, for scenes that name them.
+// Indexes into the shop's lists that scenes use by name.
 
 enum Who { ana, ben, chie, dana, eli };
 enum Language { english, spanish, german, arabic, french, japanese };
@@ -17,25 +17,25 @@ enum Face { widgetsOwn, shops, shopsLarger, shopsLargest };
 
 class Shop;
 
-/// A moment in the shop, for a picture of it.
+/// A state of the shop, for a picture.
 struct ShopScene {
   enum class Page : std::uint8_t { product, bag, emptyBag };
   enum class Open : std::uint8_t { nothing, details, overlay };
 
-  const char* name;  ///< of the picture, without what its face puts before it
+  const char* name;  ///< of the picture, without the toolkit's prefix
   Choices choices;
   Page page = Page::product;
   Open open = Open::nothing;
 
-  /// Brings `shop` to that moment, but for what a tap opens.
+  /// Sets `shop` to that state, except what a tap opens.
   void set(Shop& shop) const;
 };
 
-/// Lets everything that is under way come to rest. Main thread.
+/// Waits until all requests and motion have ended. Main thread.
 void settle();
 
-/// The frame that `grab` gives once a page of the web fills its lower half and no longer changes,
-/// or what it gives when that takes too long.
+/// The frame from `grab` once a web page fills its lower half and no longer changes. After a time
+/// limit, the frame from then.
 QImage frameWithPage(const std::function<QImage()>& grab);
 
 }  // namespace quorix::examples

@@ -76,12 +76,12 @@ swiftui::View widgetOf(const Scene& scene) {
   }
 }
 
-/// A widget fetches its language's texts while it is on screen, and keeps them.
+/// Shows `widget` until it has fetched its language's texts, which it keeps.
 void letSpeak(const swiftui::View& widget) {
   QQuickWindow screen;
   new qt::ViewItem(widget, screen.contentItem());
   screen.show();
-  screen.grabWindow();  // a frame, with which the widget asks for its words
+  screen.grabWindow();  // renders a frame, in which the widget requests its texts
   settle();
 }
 

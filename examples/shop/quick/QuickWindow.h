@@ -10,7 +10,7 @@ class Shop;
 /// The shop in Qt Quick. Main thread; needs the application object.
 class QuickWindow {
  public:
-  /// Shows `shop`, which lives longer.
+  /// Shows `shop`, which must outlive this.
   explicit QuickWindow(Shop& shop);
 
   QQuickWindow& window() const { return *window_; }

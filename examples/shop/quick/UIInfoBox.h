@@ -4,7 +4,7 @@
 
 namespace quorix::examples {
 
-/// The info widget in its imperative form as a QML element, which the library leaves to its hosts.
+/// The imperative info widget as a QML element. The library leaves this to hosts.
 ///
 ///     UIInfoBox { width: parent.width; locale: "en" }
 class UIInfoBox : public qml::WidgetItem {

@@ -6,7 +6,7 @@
 namespace quorix::examples {
 namespace {
 
-/// A screen reader announces a drawing with a name as an image, and skips one without.
+/// Makes screen readers announce a drawing with a name as an image, and skip one without.
 QAccessibleInterface* describe(const QString&, QObject* object) {
   auto* art = qobject_cast<Art*>(object);
   if (!art || art->accessibleName().isEmpty()) return nullptr;
@@ -21,7 +21,7 @@ Art::Art(const QString& name, int margin, int radius, QWidget* parent)
       margin_(margin),
       radius_(radius) {
   drawing_.setAspectRatioMode(Qt::KeepAspectRatio);
-  QAccessible::installFactory(describe);  // once is enough, and more does nothing
+  QAccessible::installFactory(describe);  // later calls have no effect
 }
 
 void Art::followWidth(double share, int most) {
@@ -38,7 +38,7 @@ void Art::paintEvent(QPaintEvent*) {
   painter.setPen(Qt::NoPen);
   painter.setBrush(palette().alternateBase());
   painter.drawRoundedRect(rect(), radius_, radius_);
-  painter.setBrush(Qt::NoBrush);  // which a drawing starts from
+  painter.setBrush(Qt::NoBrush);  // the default at the start of a drawing
   drawing_.render(&painter, QRectF(rect()).adjusted(margin_, margin_, -margin_, -margin_));
 }
 

@@ -13,7 +13,7 @@ class Art : public QWidget {
   /// `margin` around the drawing and `radius` of the corners, in pixels.
   Art(const QString& name, int margin, int radius, QWidget* parent = nullptr);
 
-  /// Makes the height follow the width, by `share` of it and up to `most` pixels.
+  /// Sets the height to the width times `share`, up to `most` pixels.
   void followWidth(double share, int most);
 
   bool hasHeightForWidth() const override { return share_ > 0; }

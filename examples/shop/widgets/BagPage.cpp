@@ -98,7 +98,7 @@ void BagPage::follow() {
 }
 
 void BagPage::followBag() {
-  // A line's own button may have led here.
+  // A line's own button may have called this, so delete the lines later.
   for (auto* line : lines_->findChildren<BagLine*>()) {
     lines_->layout()->removeWidget(line);
     line->hide();

@@ -20,7 +20,7 @@ class BagLine : public QWidget {
 class Label;
 class Shop;
 
-/// What is in the bag, what it comes to, and how it would go back.
+/// The contents of the bag, their total price, and the return conditions.
 class BagPage : public ScrollPage {
   Q_OBJECT
 

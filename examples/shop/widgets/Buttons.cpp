@@ -9,7 +9,7 @@ ShopButton::ShopButton(Look look, QWidget* parent) : QAbstractButton(parent), lo
   setAttribute(Qt::WA_Hover);
   setCheckable(look == Look::chip);
   setCursor(Qt::PointingHandCursor);
-  // The ring is for the keyboard: a press with the mouse leaves the focus where it is.
+  // Only the keyboard moves the focus and its ring; a mouse press does not.
   setFocusPolicy(Qt::TabFocus);
   QFont face = font();
   face.setPixelSize(look == Look::primary ? 16 : 14);

@@ -8,20 +8,20 @@ class QPainter;
 
 namespace quorix::examples {
 
-/// Whether `widget` has the focus by keyboard, so that its ring is drawn.
+/// Whether `widget` got the focus by keyboard and draws its ring.
 inline bool isFocusShown(const QWidget& widget) {
   return widget.hasFocus() && widget.window()->testAttribute(Qt::WA_KeyboardFocusChange);
 }
 
-/// A button of the shop's. It takes its colors from the palette.
+/// A button of the shop, with colors from the palette.
 class ShopButton : public QAbstractButton {
   Q_OBJECT
 
  public:
   enum class Look {
-    primary,  ///< the one thing to do on a page
-    chip,     ///< one of a few; the chosen one is checked
-    link,     ///< an aside
+    primary,  ///< the main action of a page
+    chip,     ///< one of several choices; the chosen one is checked
+    link,     ///< a minor action
   };
 
   explicit ShopButton(Look look, QWidget* parent = nullptr);
@@ -39,15 +39,15 @@ class ShopButton : public QAbstractButton {
   Look look_;
 };
 
-/// A drawing from the shop's art that acts, with a number at its corner when there is one. It has a
-/// variant for light backgrounds and one for dark ones. Its text is for screen readers.
+/// A button with a drawing of the shop, for light and for dark backgrounds, and a number at its
+/// corner if there is one. Its text is for screen readers.
 class IconButton : public QAbstractButton {
   Q_OBJECT
 
  public:
   explicit IconButton(const QString& name, QWidget* parent = nullptr);
 
-  /// Whether the drawing points the other way from right to left.
+  /// Whether the drawing is mirrored from right to left.
   void setPointing(bool pointing) { pointing_ = pointing; }
   void setBadge(int number);
 

@@ -45,7 +45,7 @@ ChoiceBox::ChoiceBox(const QString& caption, const QStringList& values, QWidget*
 
 void ChoiceBox::hidePopup() {
   QComboBox::hidePopup();
-  // The open list keeps back the event that the pointer has left.
+  // The open list blocks the leave event of the pointer.
   setAttribute(Qt::WA_UnderMouse, rect().contains(mapFromGlobal(QCursor::pos())));
   update();
 }
@@ -68,7 +68,7 @@ void ChoiceBox::paintEvent(QPaintEvent*) {
   painter.drawText(QRect(10, 18, room, 19), Qt::AlignLeft | Qt::AlignVCenter, value);
 }
 
-// Ignored: scrolling over the bar would switch shoppers.
+// Ignores the wheel: scrolling over the bar would switch shoppers.
 void ChoiceBox::wheelEvent(QWheelEvent* event) { event->ignore(); }
 
 namespace {
@@ -93,7 +93,7 @@ DemoBar::DemoBar(Shop& shop, QWidget* parent) : QWidget(parent) {
     connect(&shop, &Shop::changed, choice,
             [choice, &shop, chosen] { choice->setCurrentIndex((shop.*chosen)()); });
     grid->addWidget(choice, row, column);
-    // A screen reader says this before the value. On screen it is part of the choice.
+    // Screen readers say this label before the value. On screen the choice shows the caption.
     auto* label = new QLabel(QLatin1String(caption), this);
     label->setBuddy(choice);
     label->hide();

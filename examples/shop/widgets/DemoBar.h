@@ -6,7 +6,7 @@
 
 namespace quorix::examples {
 
-/// One choice of the demo bar: a caption over the value, and the list that drops from it.
+/// One control of the demo bar: a caption above the value, and a drop-down list.
 class ChoiceBox : public QComboBox {
   Q_OBJECT
 
@@ -29,7 +29,7 @@ class ChoiceBox : public QComboBox {
 
 class Shop;
 
-/// The demo's controls, apart from the shop and always dark.
+/// The demo's controls, separate from the shop and always dark.
 class DemoBar : public QWidget {
   Q_OBJECT
 

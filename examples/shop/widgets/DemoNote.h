@@ -6,8 +6,8 @@ namespace quorix::examples {
 
 class Shop;
 
-/// A note of the demo's own: the address that a page or a widget opened outside the app, where a
-/// real one would have gone to the browser. It floats over its parent and all that is open there.
+/// A note of the demo itself: the address that a page or a widget opened outside the app. A real
+/// address would open in the browser. Floats over its parent and everything that is open there.
 class DemoNote : public QLabel {
   Q_OBJECT
 

@@ -42,7 +42,8 @@ void Label::changeEvent(QEvent* event) {
   if (event->type() == QEvent::LayoutDirectionChange) align();
 }
 
-// Follows the page's direction, not the text's: a price has no right-to-left letters.
+// Aligns to the page's direction. The text's own direction is wrong for a price, which has no
+// right-to-left letters.
 void Label::align() {
   setAlignment(Qt::AlignAbsolute | Qt::AlignVCenter |
                (isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft));

@@ -5,7 +5,7 @@
 
 namespace quorix::examples {
 
-/// A thin line across.
+/// A thin horizontal line.
 class Hairline : public QWidget {
   Q_OBJECT
 
@@ -17,7 +17,7 @@ class Hairline : public QWidget {
   }
 };
 
-/// A text of the shop's, at the leading edge and in as many lines as it needs.
+/// A text of the shop, aligned to the leading edge and broken into lines.
 class Label : public QLabel {
   Q_OBJECT
 

@@ -9,8 +9,8 @@ namespace quorix::examples {
 namespace {
 
 constexpr int tall = 44;
-constexpr int beside = 16;  // at either end
-constexpr int check = 20;   // the mark's diameter
+constexpr int beside = 16;  // at both sides
+constexpr int check = 20;   // diameter of the check mark
 constexpr int between = 8;
 
 }  // namespace

@@ -5,8 +5,8 @@
 
 namespace quorix::examples {
 
-/// A word of confirmation that goes away by itself. It floats over its parent, above `footerHeight`
-/// pixels at the bottom.
+/// A confirmation that disappears after a while. Floats over its parent, `footerHeight` pixels
+/// above the bottom.
 class Notice : public QWidget {
   Q_OBJECT
 

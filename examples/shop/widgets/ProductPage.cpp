@@ -25,7 +25,7 @@ SizePicker::SizePicker(Shop& shop, QWidget* parent) : QWidget(parent) {
     };
     connect(chip, &ShopButton::clicked, &shop, [size, follow, &shop] {
       shop.chooseSize(size);
-      follow();  // the chosen one stays so when pressed again
+      follow();  // keeps the chosen size checked when it is pressed again
     });
     connect(&shop, &Shop::changed, chip, follow);
     follow();
@@ -43,7 +43,7 @@ ScoreSection::ScoreSection(Shop& shop, QWidget* parent) : QWidget(parent) {
   lines->addWidget(row);
   lines->addWidget(new Hairline(this));
   const auto fit = [this, row] { setVisible(!row->isEmpty()); };
-  connect(&shop, &Shop::changed, this, fit);  // after the row, which came first
+  connect(&shop, &Shop::changed, this, fit);  // after the row, which was connected first
   fit();
 }
 

@@ -8,7 +8,7 @@ namespace quorix::examples {
 
 class Shop;
 
-/// The product's sizes, one of them chosen.
+/// The product's sizes. One of them is chosen.
 class SizePicker : public QWidget {
   Q_OBJECT
 
@@ -18,8 +18,7 @@ class SizePicker : public QWidget {
 
 class Shop;
 
-/// The score row between hairlines, and the room around them. With nothing to show it takes no
-/// room at all.
+/// The score row between hairlines, with margins. Takes no space if there is nothing to show.
 class ScoreSection : public QWidget {
   Q_OBJECT
 
@@ -29,7 +28,7 @@ class ScoreSection : public QWidget {
 
 class Shop;
 
-/// The shop's page: the product, with the score row below its price and what is good to know.
+/// The product page, with the score row below the price, and further information.
 class ProductPage : public ScrollPage {
   Q_OBJECT
 

@@ -54,14 +54,14 @@ void OverlayScrollBar::paintEvent(QPaintEvent*) {
 
 namespace {
 
-constexpr int readable = 560;  // pixels
+constexpr int readable = 560;  // pixels; the widest readable column
 constexpr int margin = 20;
 
 }  // namespace
 
 ScrollPage::ScrollPage(QWidget* parent) : QScrollArea(parent) {
   setFrameShape(QFrame::NoFrame);
-  setFocusPolicy(Qt::NoFocus);  // what it holds has the focus, and scrolls into view
+  setFocusPolicy(Qt::NoFocus);  // its children get the focus and scroll into view
   setWidgetResizable(true);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   new OverlayScrollBar(*this);
@@ -85,7 +85,7 @@ ScrollPage::ScrollPage(QWidget* parent) : QScrollArea(parent) {
 
 void ScrollPage::setBanner(QWidget* widget) {
   page_->insertWidget(0, widget);
-  widget->lower();  // to be read first
+  widget->lower();  // screen readers read it first
 }
 
 }  // namespace quorix::examples

@@ -8,7 +8,7 @@ class QAbstractScrollArea;
 
 namespace quorix::examples {
 
-/// A slim scroll bar over the edge of a scroll area, which takes no room from it.
+/// A slim scroll bar over the edge of a scroll area. Takes no space from it.
 class OverlayScrollBar : public QScrollBar {
   Q_OBJECT
 
@@ -25,8 +25,8 @@ class OverlayScrollBar : public QScrollBar {
   QAbstractScrollArea& area_;
 };
 
-/// A page of the shop, which scrolls when it is longer than the window. Its column keeps to a
-/// width that is good to read.
+/// A page of the shop. It scrolls if it is taller than the window. The width of its column is
+/// limited for readability.
 class ScrollPage : public QScrollArea {
   Q_OBJECT
 
@@ -35,7 +35,7 @@ class ScrollPage : public QScrollArea {
 
  protected:
   QVBoxLayout& column() const { return *column_; }
-  /// Puts `widget` above the column, over the page's whole width.
+  /// Puts `widget` above the column, over the whole width of the page.
   void setBanner(QWidget* widget);
 
  private:

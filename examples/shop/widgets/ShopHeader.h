@@ -6,7 +6,7 @@ namespace quorix::examples {
 
 class Shop;
 
-/// The shop's name between the way back and the bag.
+/// The shop's name between the back button and the bag.
 class ShopHeader : public QWidget {
   Q_OBJECT
 

@@ -20,7 +20,7 @@ constexpr int footerHeight = 74;
 
 ShopScreen::ShopScreen(Shop& shop, QWidget* parent)
     : QWidget(parent), notice_(new Notice(footerHeight, this)) {
-  auto* header = new ShopHeader(shop, this);  // what comes first is read first
+  auto* header = new ShopHeader(shop, this);  // screen readers read the first child first
   auto* pages = new QStackedWidget(this);
   pages->addWidget(new ProductPage(shop, pages));
   pages->addWidget(new BagPage(shop, pages));

@@ -7,7 +7,7 @@ namespace quorix::examples {
 class Notice;
 class Shop;
 
-/// The shop below the demo bar: its head, one of its pages, and what can be done there.
+/// The shop below the demo bar: its header, one of its pages, and that page's buttons.
 class ShopScreen : public QWidget {
   Q_OBJECT
 

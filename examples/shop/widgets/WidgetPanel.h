@@ -9,8 +9,8 @@ namespace quorix::examples {
 
 class Shop;
 
-/// One of the library's widgets for the shop's shopper, in the shop's language and faces. Whenever
-/// what the widget is made of changes it shows a fresh one from the public builder.
+/// One of the library's widgets, for the shop's current shopper, language and faces. When one of
+/// these changes, shows a new widget from the public builder.
 class WidgetPanel : public qt::ViewWidget {
   Q_OBJECT
 

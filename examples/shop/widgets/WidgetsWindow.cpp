@@ -13,10 +13,10 @@
 namespace quorix::examples {
 namespace {
 
-/// The shop's colors by what they are for, so that Qt's widgets, the shop's own and the library's
-/// all follow one palette.
+/// The shop's colors by role, so that Qt's widgets, the shop's own and the library's use the same
+/// palette.
 QPalette paletteOf(const ShopColors& colors) {
-  QPalette palette(colors.page, colors.page);  // shades that the style derives
+  QPalette palette(colors.page, colors.page);  // for the shades that the style derives
   palette.setColor(QPalette::WindowText, colors.ink);
   palette.setColor(QPalette::Base, colors.page);
   palette.setColor(QPalette::AlternateBase, colors.stage);

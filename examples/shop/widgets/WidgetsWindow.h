@@ -11,7 +11,7 @@ class WidgetsWindow : public QMainWindow {
   Q_OBJECT
 
  public:
-  /// Shows `shop`, which lives longer.
+  /// Shows `shop`, which must outlive this.
   explicit WidgetsWindow(Shop& shop);
 
  private:

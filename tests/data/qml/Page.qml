@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import QuorixWidgets
 
-// The module's types as a shop's page would have them.
+// Uses the module's types like a shop's page.
 ColumnLayout {
     property alias token: row.token
 

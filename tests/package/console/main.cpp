@@ -1,5 +1,5 @@
-// A program without Qt: the figures of a token, the row that shows them and is read out in the
-// host's own words, and fonts for texts beside it.
+// A program without Qt: the figures of a token, the row with its spoken text in the host's own
+// words, and fonts for texts beside it.
 #include <QuorixWidgets/data/TokenData.h>
 #include <QuorixWidgets/data/UserDetails.h>
 #include <QuorixWidgets/localization/Font.h>
@@ -26,7 +26,7 @@ bool hasFonts() {
          label->name() == "Saans-Medium" && link->pointSize() == 13;
 }
 
-/// Ten points for each byte of a text.
+/// A text engine: each byte of a text is ten points wide.
 struct PlainText final : quorix::text::TextEngine {
   quorix::text::TextMetrics measure(const quorix::text::AttributedText& text, double) override {
     return {{leastWidth(text), 20}};
@@ -43,7 +43,7 @@ struct Surface final : quorix::hosting::ViewHost::Client {
   void presentationChanged() override {}
 };
 
-/// What a screen reader says of `view`.
+/// The spoken text of `view`.
 std::string spoken(const quorix::swiftui::View& view) {
   PlainText text;
   Surface surface;

@@ -1,4 +1,4 @@
-// An app in QML: no import path is set and no type registered, and both widgets take their room.
+// A QML app without an import path or registered types. Both widgets must have a size.
 #include <QGuiApplication>
 #include <QQmlComponent>
 #include <QQmlEngine>

@@ -1,5 +1,5 @@
-// A Qt Quick app: its own texts find the library's face, the score row is painted, and a tap on the
-// info widget opens its page. With "--web" the installed web engine must be what shows it.
+// A Qt Quick app. Its own texts find the library's face, the score row is painted, and a tap on the
+// info widget opens its page. With "--web", the installed web engine must show the page.
 #include <QuorixWidgets/info/InfoWidgetBuilder.h>
 #include <QuorixWidgets/localization/QuorixFont.h>
 #include <QuorixWidgets/score/ScoreWidgetBuilder.h>
@@ -52,7 +52,7 @@ int main(int argc, char** argv) {
   auto* row = place(quorix::ScoreWidgetBuilder::buildSwiftUIScoreWidgetView(
                         "my-shop", "en", shopperToken, {std::nullopt, std::nullopt}),
                     0);
-  QCoreApplication::processEvents();  // brings the row on screen
+  QCoreApplication::processEvents();  // puts the row on screen
   const bool painted = row->implicitHeight() > 10 && window.grabWindow() != blank;
   std::printf("row: %g points high, %s\n", row->implicitHeight(), painted ? "painted" : "blank");
   if (!painted || argc < 2) return painted ? 0 : 1;
@@ -70,5 +70,5 @@ int main(int argc, char** argv) {
   }
   std::printf("web engine: %s\n", webEngineIsLoaded() ? "loaded" : "missing");
   std::fflush(stdout);
-  std::_Exit(webEngineIsLoaded() ? 0 : 1);  // in the middle of loading a page
+  std::_Exit(webEngineIsLoaded() ? 0 : 1);  // exits during the load of a page
 }

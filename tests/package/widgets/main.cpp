@@ -1,4 +1,4 @@
-// An app of Qt Widgets: the imperative info widget, in a layout.
+// A Qt Widgets app with the imperative info widget in a layout.
 #include <QuorixWidgets/info/InfoWidgetBuilder.h>
 #include <platform/swiftui/UIViewRepresentable.h>
 #include <qt/widgets/ViewWidget.h>

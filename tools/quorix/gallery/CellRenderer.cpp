@@ -23,10 +23,10 @@ namespace quorix::gallery {
 namespace {
 
 constexpr double demoScore = 0.82;
-constexpr double aboveSheet = 24;  // points of the dimmed window that show
+constexpr double aboveSheet = 24;  // visible points of the dimmed window
 constexpr std::string_view shopper = "Ann";
 
-/// A host's faces: unlike the library's own they follow the user's text size.
+/// A host's faces, which scale with the user's text size, unlike the library's own.
 const std::string& regularFace() { return TovaFont::regular().name(); }
 constexpr std::string_view semiBoldFace = "TovaSansLatin-SemiBold";
 
@@ -51,7 +51,7 @@ swiftui::View infoWidgetOf(std::string_view name, std::string_view language) {
                                 style.showBorder})};
 }
 
-/// The title of an imperative widget comes with the next turn of the main queue.
+/// Runs a turn of the main queue, which sets the title of an imperative widget.
 void takeTurn() {
   QEventLoop loop;
   foundation::MainQueue::async([&] { loop.quit(); });
@@ -68,7 +68,7 @@ qt::PictureOptions optionsOf(const Cell& cell, double scale) {
   return options;
 }
 
-/// Where the panel of a sheet begins. Points from the scene's top.
+/// The top of a sheet's panel, in points from the display list's top.
 std::optional<double> panelTop(const render::Scene& scene) {
   for (const render::Item& item : scene.items) {
     const auto* fill = std::get_if<render::FillItem>(&item);

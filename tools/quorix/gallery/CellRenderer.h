@@ -13,8 +13,8 @@
 
 namespace quorix::gallery {
 
-/// Shows cells of the matrix from what is compiled in: nothing is fetched as long as one lives.
-/// Needs an application object; main thread.
+/// Renders cells of the matrix from the texts that are compiled in; while one exists, the network
+/// is not used. Needs an application object; main thread.
 ///
 ///     const CellRenderer renderer;
 ///     for (const Cell& cell : cells()) picture(renderer.render(cell, 2), 2).save(...);
@@ -22,12 +22,12 @@ class CellRenderer {
  public:
   struct Shown {
     qt::StillScene still;
-    std::string tree;  ///< in words
+    std::string tree;  ///< the view tree as text
   };
 
   CellRenderer();
 
-  /// The cell laid out for `scale` device pixels a point.
+  /// Lays out the cell for `scale` device pixels a point.
   Shown render(const Cell& cell, double scale) const;
 
  private:
@@ -37,7 +37,8 @@ class CellRenderer {
   std::shared_ptr<void> offline_;
 };
 
-/// What a shopper sees of `shown`; of a window with a sheet, the sheet and a little above it.
+/// The picture of `shown`. For a window with a sheet, the sheet and a little of the window above
+/// it.
 QImage picture(const CellRenderer::Shown& shown, double scale);
 
 }  // namespace quorix::gallery

@@ -14,7 +14,7 @@ constexpr double largestSide = 32767;  // pixels
 const QColor ground(0xd9, 0xdc, 0xe1);
 const QColor ink(0x3a, 0x3f, 0x47);
 
-/// Where each picture goes: from left to right, and on in the next row where one is full.
+/// The position of each picture: from left to right, in a new row if one is full.
 std::vector<QPointF> places(const std::vector<ContactSheet::Entry>& entries, double width,
                             QSizeF& page) {
   std::vector<QPointF> result;

@@ -4,8 +4,8 @@
 
 namespace quorix::gallery {
 
-/// `image` with a table of its 256 most frequent colors, which makes its file a third; a rare
-/// shade becomes the nearest of them. An alpha channel is dropped.
+/// Reduces `image` to its 256 most frequent colors, which makes the file a third of the size. Other
+/// colors become the nearest of these. Drops an alpha channel.
 QImage withFewColors(const QImage& image);
 
 }  // namespace quorix::gallery

@@ -102,7 +102,7 @@ void GalleryPage::add(const Cell& cell, const QImage& picture, const std::string
       attribute("data-width", cell.screen->name) + "><div class=\"p p" + rule +
       "\" role=\"img\" aria-label=\"" + caption + "\"></div>\n<figcaption><a href=\"#" + cell.id() +
       "\">" + caption + "</a></figcaption>" + folded("What is spoken", spoken) +
-      // Frames of imperative views are in their tree, which differs from cell to cell.
+      // The trees of imperative views contain frames, so they differ from cell to cell.
       (tree == section.tree ? "" : folded("View tree", tree)) + "</figure>\n";
 }
 

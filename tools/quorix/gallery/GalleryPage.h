@@ -10,19 +10,19 @@
 
 namespace quorix::gallery {
 
-/// One HTML page with everything in it: pictures, style and script. A picture that several cells
-/// share is in it once. It works without the script, which only adds filters.
+/// One HTML page that contains everything: pictures, styles and a script. Cells with the same
+/// picture share one copy. The page works without the script, which only adds filters.
 class GalleryPage {
  public:
-  /// Adds a cell's picture, its view tree and what is spoken. Cells of one language and widget are
-  /// to be added one after the other.
+  /// Adds a cell's picture, its view tree and its spoken texts. Add cells with the same language
+  /// and widget one after the other.
   void add(const Cell& cell, const QImage& picture, const std::string& tree,
            const std::string& spoken);
 
   std::string html() const;
 
  private:
-  /// Cells of one widget in one language, which have one view tree.
+  /// The cells of one widget in one language. They have the same view tree.
   struct Section {
     const Choice<Language>* language;
     const Choice<Widget>* widget;
@@ -31,7 +31,7 @@ class GalleryPage {
     std::string id() const;
   };
 
-  /// The number of the style rule that shows `picture`.
+  /// The number of the style rule with `picture`.
   std::size_t ruleFor(const QImage& picture);
   std::string contents() const;
 

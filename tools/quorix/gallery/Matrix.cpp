@@ -3,7 +3,7 @@
 namespace quorix::gallery {
 namespace {
 
-/// The choices of `table` that `wanted` names.
+/// The entries of `table` whose names are in `wanted`.
 template <class Table>
 auto chosen(const Table& table, const std::optional<std::string>& wanted) {
   std::vector<const typename Table::value_type*> result;

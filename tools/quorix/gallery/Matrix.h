@@ -11,11 +11,12 @@
 #include "platform/layout/Geometry.h"
 #include "platform/swiftui/Environment.h"
 
-// Every screen that the widgets must look right on: one table for each thing that varies. The
-// gallery shows their product and the tests hold it; a new row here is shown and held at once.
+// All screens on which the widgets must look right, with one table for each property that varies.
+// The gallery shows all combinations and the tests check them, so a new row here is shown and
+// tested.
 namespace quorix::gallery {
 
-/// A value with the name it has on a command line and in addresses, and the one for reading.
+/// A value, its name on command lines and in addresses, and its title.
 template <class Value>
 struct Choice {
   std::string_view name;
@@ -25,16 +26,16 @@ struct Choice {
 
 enum class Widget : std::uint8_t { row, sheet, info, imperativeInfo, overlay };
 
-/// A language, with a shopper whose fees are long in it.
+/// A language, and fees that are long in it.
 struct Language {
   layout::LayoutDirection direction;
   std::string_view currency;
   std::int64_t fee;         ///< in hundredths of the currency's unit
-  std::int64_t reducedFee;  ///< likewise
-  bool builtIn;             ///< the score widget has texts of its own in it
+  std::int64_t reducedFee;  ///< in hundredths of the currency's unit
+  bool builtIn;             ///< the score widget has built-in texts in it
 };
 
-/// A phone held upright, or a tablet. Points.
+/// A phone in portrait orientation, or a tablet. Points.
 struct Screen {
   double width;
   double height;
@@ -84,7 +85,7 @@ inline constexpr auto screens = std::to_array<Choice<Screen>>({
     {"768", "768 wide", {768, 1024}},
 });
 
-/// One screen: a value of each table.
+/// One screen: a value from each table.
 struct Cell {
   const Choice<Widget>* widget;
   const Choice<Language>* language;
@@ -94,12 +95,11 @@ struct Cell {
   const Choice<Screen>* screen;
 
   layout::LayoutDirection direction() const;
-  /// "sheet-es-dark-largest-own-320": an anchor, a file name, a test's name.
+  /// "sheet-es-dark-largest-own-320": used as an anchor, a file name and a test's name.
   std::string id() const;
 };
 
-/// Which part of the matrix is wanted; what is absent is wanted whole. The names are those of the
-/// tables.
+/// A part of the matrix, by the names in the tables. An absent value selects the whole table.
 struct Selection {
   std::optional<std::string> widget = {};
   std::optional<std::string> language = {};
@@ -109,10 +109,10 @@ struct Selection {
   std::optional<std::string> screen = {};
 };
 
-/// The cells of `selection`: by language, then widget, and within them the rest in table order.
+/// The cells of `selection`, ordered by language, then by widget, then as in the tables.
 std::vector<Cell> cells(const Selection& selection = {});
 
-/// A handful that shows the range.
+/// A few cells that show the range.
 std::vector<Cell> showcase();
 
 }  // namespace quorix::gallery

@@ -9,7 +9,7 @@ namespace quorix::tool {
 FileWatch::FileWatch(QStringList roots, QObject* parent)
     : QObject(parent), roots_(std::move(roots)) {
   pause_.setSingleShot(true);
-  pause_.setInterval(80);  // milliseconds; an editor's several writes are one change
+  pause_.setInterval(80);  // milliseconds; combines the writes of an editor
   const auto wait = [this] { pause_.start(); };
   connect(&watcher_, &QFileSystemWatcher::fileChanged, this, wait);
   connect(&watcher_, &QFileSystemWatcher::directoryChanged, this, wait);
@@ -17,7 +17,7 @@ FileWatch::FileWatch(QStringList roots, QObject* parent)
   known_ = look();
 }
 
-/// What is there now, all of it watched from now on.
+/// Reads the state of all files and starts to watch them.
 FileWatch::Stamps FileWatch::look() {
   Stamps stamps;
   QStringList paths;
@@ -28,7 +28,7 @@ FileWatch::Stamps FileWatch::look() {
   };
   for (const QString& root : std::as_const(roots_)) {
     add(QFileInfo(root));
-    add(QFileInfo(QFileInfo(root).path()));  // where a file that is replaced comes back
+    add(QFileInfo(QFileInfo(root).path()));  // a replaced file appears here
     if (!QFileInfo(root).isDir()) continue;
     QDirIterator inside(root, QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot,
                         QDirIterator::Subdirectories);

@@ -9,17 +9,17 @@
 
 namespace quorix::tool {
 
-/// Watches files, and folders with all that is in them, the way editors write them: a file that is
-/// replaced stays watched, and what happens at once is told at once. Main thread.
+/// Watches files, and folders with their contents. Handles the ways in which editors write: a
+/// replaced file stays watched, and changes at the same time are reported together. Main thread.
 class FileWatch : public QObject {
   Q_OBJECT
 
  public:
-  /// `roots` are files and folders; those that are not there are watched for as well.
+  /// `roots` are files and folders, also ones that do not exist yet.
   explicit FileWatch(QStringList roots, QObject* parent = nullptr);
 
  signals:
-  /// `files` are new, gone or have other content.
+  /// `files` are new, deleted or have changed.
   void changed(const QStringList& files);
 
  private:

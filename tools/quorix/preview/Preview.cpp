@@ -23,7 +23,7 @@
 namespace quorix::tool {
 namespace {
 
-constexpr const char* kPlaces = "QUORIX_PREVIEW_PLACES";  // of the windows, kept over a start anew
+constexpr const char* kPlaces = "QUORIX_PREVIEW_PLACES";  // window positions, kept over a restart
 
 QStringList watched(const PreviewChoices& choices) {
   QStringList roots;
@@ -41,7 +41,7 @@ QStringList languages() {
   return codes;
 }
 
-/// The file as it is at the moment.
+/// The current text of the file.
 std::optional<std::string> textOf(const std::optional<std::string>& file) {
   auto bytes = file ? readInputFile(*file) : Failure::refused("");
   auto* text = std::get_if<std::string>(&bytes);
@@ -59,7 +59,7 @@ QStringList tables(const QString& folder) {
   return files;
 }
 
-/// What is wrong with the string table in `file`; empty when nothing is.
+/// The problems in the string table `file`; empty without any.
 std::string findings(const std::string& file) {
   const auto bytes = readInputFile(file);
   if (const auto* failure = std::get_if<Failure>(&bytes)) return failure->message;
@@ -83,7 +83,7 @@ QString titleOf(const QString& file) {
                                                   : info.fileName();
 }
 
-/// Whether a change in `file` shows when the widget is made again.
+/// Whether a new widget shows a change in `file`. Otherwise the process must restart.
 bool isReadAgain(const QString& file) {
   return file.endsWith(QLatin1String(".strings")) || file.endsWith(QLatin1String(".xib"));
 }
@@ -152,7 +152,7 @@ void Preview::filesChanged(const QStringList& files) {
   controls_.say(found.isEmpty() ? tr("Read %1.").arg(titleOf(files.front())) : found);
 }
 
-/// What its author would want to know of `file`; empty when all is well.
+/// The problems in `file` for its author; empty without any.
 QString Preview::remark(const QString& file) const {
   std::string found;
   if (file.endsWith(QLatin1String(".strings"))) found = findings(file.toStdString());
@@ -176,7 +176,7 @@ void Preview::startAnew() {
   const QString program = QCoreApplication::applicationFilePath();
   const QStringList words = QStringList(QStringLiteral("preview")) + choices.toWords();
 #ifdef Q_OS_UNIX
-  // In place, so that the terminal that started the preview still ends it.
+  // Replaces the process, so that the terminal that started the preview can still end it.
   std::vector<QByteArray> bytes{program.toLocal8Bit()};
   for (const QString& word : words) bytes.push_back(word.toLocal8Bit());
   std::vector<char*> argv;

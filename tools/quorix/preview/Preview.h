@@ -9,9 +9,9 @@
 
 namespace quorix::tool {
 
-/// A widget on a screen, its controls beside it, and the files that it follows. Texts that change
-/// are read in place; for other resources, which a process reads once, the preview starts itself
-/// anew and looks as before. Main thread.
+/// A widget on a screen, with controls in a window beside it and watched files. Changed texts are
+/// read again. A process reads other resources only once, so the preview restarts for them and
+/// restores its look. Main thread.
 class Preview : public QObject {
   Q_OBJECT
 
@@ -33,7 +33,7 @@ class Preview : public QObject {
   PreviewControls controls_;
   PreviewScreen screen_;
   FileWatch files_;
-  std::shared_ptr<void> translations_;  ///< answers for the service
+  std::shared_ptr<void> translations_;  ///< answers in place of the service
   QTimer pictureDue_;
   QImage written_;
 };

@@ -12,11 +12,11 @@
 
 namespace quorix::tool {
 
-/// What a preview shows, as its controls stand.
+/// The choices of a preview, by its controls.
 struct PreviewChoices : WidgetLook {
   enum class Widget { score, info, imperative };
 
-  /// What a control offers: a name for the command line, and one for the eye.
+  /// An entry of a control: its name on the command line and its title.
   struct Shopper {
     std::string name;
     QString title;
@@ -24,11 +24,11 @@ struct PreviewChoices : WidgetLook {
   };
 
   Widget widget = Widget::score;
-  std::size_t shopper = 0;  ///< of `shoppers`
-  int width = 375;          ///< points, margins included
+  std::size_t shopper = 0;  ///< index into `shoppers`
+  int width = 375;          ///< points, with margins
   bool sheet = false;
 
-  // Given on the command line for good.
+  // From the command line; the controls do not change them.
   std::vector<Shopper> shoppers = {};
   std::optional<std::string> translations = {};  ///< a file
   std::optional<std::string> resources = {};     ///< a folder
@@ -40,7 +40,7 @@ struct PreviewChoices : WidgetLook {
 
   static std::variant<PreviewChoices, Failure> read(const Arguments& arguments);
 
-  /// The options that make these choices again.
+  /// The command line options for these choices.
   QStringList toWords() const;
 };
 

@@ -9,12 +9,12 @@
 
 namespace quorix::tool {
 
-/// What a preview lets its user choose, and a line on what happened last.
+/// The controls of a preview, and a status line.
 class PreviewControls : public QWidget {
   Q_OBJECT
 
  public:
-  /// `languages` are the codes that have texts.
+  /// `languages`: the codes of languages with texts.
   PreviewControls(PreviewChoices choices, const QStringList& languages);
 
   const PreviewChoices& choices() const { return choices_; }
@@ -29,7 +29,7 @@ class PreviewControls : public QWidget {
   void closeEvent(QCloseEvent* event) override;
 
  private:
-  /// A list whose first entry is number 0. `choose` is told of the number that was picked.
+  /// Adds a list. `choose` is called with the index of the chosen entry.
   void addList(const QString& caption, const QStringList& titles, std::size_t current,
                std::function<void(int)> choose);
   void addWidth();

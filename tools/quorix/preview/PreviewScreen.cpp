@@ -22,7 +22,7 @@ swiftui::View viewOf(const PreviewChoices& choices) {
         "preview", choices.locale, choices.shoppers[choices.shopper].token,
         {choices.regularFont, choices.semiBoldFont});
   }
-  if (!hasInfoTitle(choices.locale)) return {};  // as it is edited; the controls say what is wrong
+  if (!hasInfoTitle(choices.locale)) return {};  // the controls show the table's error
   const InfoWidgetStyle style(choices.regularFont, choices.semiBoldFont, std::nullopt, false);
   if (choices.widget == PreviewChoices::Widget::info) {
     return InfoWidgetBuilder::buildSwiftUIInfoWidgetView(choices.locale, style);
@@ -65,7 +65,7 @@ void PreviewScreen::show(const PreviewChoices& choices) {
 
 bool PreviewScreen::hasSheet() const { return qt::SheetWidget::topmost(*this) != nullptr; }
 
-/// As a screen reader would: acts on the first of the widget's elements that does anything.
+/// Performs the widget's first element with an action, like a screen reader.
 void PreviewScreen::openSheet() {
   qt::AccessibleSurface* surface = qt::AccessibilityBridge::surfaceOf(widget_);
   const auto& elements = surface->responder().elements();

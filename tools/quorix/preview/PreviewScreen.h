@@ -7,20 +7,20 @@
 
 namespace quorix::tool {
 
-/// The screen of a shop's app with one widget on it. A sheet covers the screen and no more: the
-/// controls stand in a window of their own.
+/// The screen of a shop's app with one widget. The controls are in another window, so that a sheet
+/// covers only the screen.
 class PreviewScreen : public QWidget {
   Q_OBJECT
 
  public:
   PreviewScreen();
 
-  /// Makes the widget anew, with a sheet open where `choices` want one.
+  /// Makes the widget again, with an open sheet if `choices` ask for it.
   void show(const PreviewChoices& choices);
 
   bool hasSheet() const;
 
-  /// A picture of the screen as it is, in whole device pixels.
+  /// A picture of the current screen, in device pixels.
   QPixmap picture() { return grab(); }
 
  signals:

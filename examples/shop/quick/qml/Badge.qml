@@ -1,7 +1,7 @@
 import QtQuick
 import Quorix.Shop
 
-// The number of things in the bag; nothing while it is empty.
+// The number of pieces in the bag. Hidden while the bag is empty.
 Rectangle {
     required property int count
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Quorix.Shop
 
-// What is in the bag, what it comes to, and how it would go back.
+// The contents of the bag, their total price, and the return conditions.
 ScrollPage {
     id: page
 

@@ -3,7 +3,7 @@ import QtQuick.Controls.Basic
 import QtQuick.Layouts
 import Quorix.Shop
 
-// One choice of the demo bar: a caption over the value, and the list that drops from it.
+// One control of the demo bar: a caption above the value, and a drop-down list.
 ComboBox {
     id: choice
 
@@ -20,7 +20,7 @@ ComboBox {
     Accessible.description: displayText
     Accessible.onPressAction: popup.open()
 
-    // A list that was chosen from no longer follows by itself.
+    // A choice by the user breaks the binding of `currentIndex`.
     onChosenChanged: currentIndex = chosen
     Component.onCompleted: currentIndex = chosen
 

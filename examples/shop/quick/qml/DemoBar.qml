@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Quorix.Shop
 
-// The demo's controls, apart from the shop and always dark.
+// The demo's controls, separate from the shop and always dark.
 Rectangle {
     id: bar
 

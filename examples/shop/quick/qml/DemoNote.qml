@@ -1,8 +1,8 @@
 import QtQuick
 import Quorix.Shop
 
-// What the demo has to say for itself: the address that a page or a widget opened outside the app,
-// where a real one would have gone to the browser.
+// A note of the demo itself: the address that a page or a widget opened outside the app. A real
+// address would open in the browser.
 Rectangle {
     visible: Shop.note !== ""
     color: "#ffc24b"

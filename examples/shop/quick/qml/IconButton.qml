@@ -3,8 +3,8 @@ import QtQuick.Controls.Basic
 import QtQuick.Window
 import Quorix.Shop
 
-// A drawing from the shop's art that acts, in the variant for the page's appearance. Its text is
-// for those who don't see it.
+// A button with a drawing of the shop, in the variant for the page's appearance. Its text is for
+// screen readers.
 AbstractButton {
     id: button
 

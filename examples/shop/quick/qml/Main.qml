@@ -31,10 +31,10 @@ ApplicationWindow {
     }
 
     DemoNote {
-        z: 2000000  // over the library's sheets
+        z: 2000000  // above the library's sheets
         anchors.horizontalCenter: parent.horizontalCenter
         anchors.bottom: parent.bottom
-        anchors.bottomMargin: 88  // above what can be done on the page
+        anchors.bottomMargin: 88  // above the page's buttons
         width: Math.min(parent.width - 32, 480)
     }
 }

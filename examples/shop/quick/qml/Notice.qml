@@ -1,7 +1,7 @@
 import QtQuick
 import Quorix.Shop
 
-// A word of confirmation that goes away by itself.
+// A confirmation that disappears after a while.
 Rectangle {
     id: notice
 

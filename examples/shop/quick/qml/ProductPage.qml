@@ -2,7 +2,7 @@ import QtQuick
 import Quorix.Shop
 import QuorixWidgets
 
-// The shop's page: the product, with the score row below its price and what is good to know.
+// The product page, with the score row below the price, and further information.
 ScrollPage {
     id: page
 

@@ -2,8 +2,7 @@ import QtQuick
 import Quorix.Shop
 import QuorixWidgets
 
-// The score row between hairlines, and the room around them. With nothing to show it takes no room
-// at all.
+// The score row between hairlines, with margins. Takes no space if there is nothing to show.
 Item {
     id: section
 

@@ -1,7 +1,7 @@
 import QtQuick
 import QtQuick.Controls.Basic
 
-// A page of the shop, which scrolls when it is longer than the window.
+// A page of the shop. It scrolls if it is taller than the window.
 Flickable {
     id: page
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Quorix.Shop
 
-// The shop's name between the way back and the bag.
+// The shop's name between the back button and the bag.
 Item {
     id: header
 

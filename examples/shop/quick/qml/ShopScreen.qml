@@ -1,7 +1,7 @@
 import QtQuick
 import Quorix.Shop
 
-// The shop below the demo bar: its head, one of its pages, and what can be done there.
+// The shop below the demo bar: its header, one of its pages, and that page's buttons.
 Rectangle {
     id: screen
 

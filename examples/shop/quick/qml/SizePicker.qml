@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Controls.Basic
 import Quorix.Shop
 
-// The product's sizes, one of them chosen.
+// The product's sizes. One of them is chosen.
 Column {
     id: picker
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Quorix.Shop
 
-// A text of the shop's, at the leading edge and in as many lines as it needs.
+// A text of the shop, aligned to the leading edge and broken into lines.
 Text {
     property bool quiet: false
 

@@ -1,4 +1,4 @@
-// Shows the figures that every choice agrees with; without it the page simply shows them all.
+// Shows only the figures that match all choices. Without this script the page shows all figures.
 const form = document.querySelector("form");
 const figures = [...document.querySelectorAll("figure")];
 function filter() {
