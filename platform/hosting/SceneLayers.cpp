@@ -11,30 +11,46 @@ namespace {
 using layout::Rect;
 using render::EmbedItem;
 
-/// The area that `item` may paint. Letters can extend beyond their line.
-Rect inked(const render::Item& item) {
-  const Rect frame = std::visit([](const auto& shown) { return shown.frame; }, item);
-  if (!std::holds_alternative<render::TextItem>(item)) return frame;
-  const double reach = frame.size.height;
-  return {{frame.left() - reach, frame.top() - reach},
-          {frame.size.width + 2 * reach, frame.size.height + 2 * reach}};
+/// The area that an item may paint.
+Rect inked(const render::ImageItem& image) { return image.frame; }
+Rect inked(const render::FillItem& fill) { return fill.frame; }
+Rect inked(const render::StrokeItem& stroke) { return stroke.frame; }
+Rect inked(const render::ClipItem& clip) { return clip.frame; }
+Rect inked(const EmbedItem& embed) { return embed.frame; }
+
+/// Letters can extend beyond their line.
+Rect inked(const render::TextItem& text) {
+  const double reach = text.frame.size.height;
+  return {{text.frame.left() - reach, text.frame.top() - reach},
+          {text.frame.size.width + 2 * reach, text.frame.size.height + 2 * reach}};
 }
 
-/// The lowest point at which `item` differs from the color `ground`.
-double bottomOfInk(const render::Item& item, graphics::RGBA ground) {
-  if (std::holds_alternative<render::ClipItem>(item)) return 0;
-  const auto* fill = std::get_if<render::FillItem>(&item);
-  if (fill && fill->color == ground && fill->bottomCornerRadius == 0) {
-    return fill->frame.top() + fill->topCornerRadius;
-  }
-  const auto* page = std::get_if<EmbedItem>(&item);
-  if (page && page->background == ground) return page->room().top();
-  return inked(item).bottom();
+Rect inked(const render::Item& item) {
+  return std::visit([](const auto& shown) { return inked(shown); }, item);
+}
+
+/// The lowest point at which an item differs from the color `ground`.
+double bottomOfInk(const render::TextItem& text, graphics::RGBA) { return inked(text).bottom(); }
+double bottomOfInk(const render::ImageItem& image, graphics::RGBA) { return image.frame.bottom(); }
+double bottomOfInk(const render::StrokeItem& line, graphics::RGBA) { return line.frame.bottom(); }
+double bottomOfInk(const render::ClipItem&, graphics::RGBA) { return 0; }
+
+double bottomOfInk(const render::FillItem& fill, graphics::RGBA ground) {
+  const bool blends = fill.color == ground && fill.bottomCornerRadius == 0;
+  return blends ? fill.frame.top() + fill.topCornerRadius : fill.frame.bottom();
+}
+
+double bottomOfInk(const EmbedItem& page, graphics::RGBA ground) {
+  return page.background == ground ? page.room().top() : page.frame.bottom();
 }
 
 void cutGround(render::Scene& panel, graphics::RGBA ground, double scale) {
   double ink = 0;
-  for (const render::Item& item : panel.items) ink = std::max(ink, bottomOfInk(item, ground));
+  for (const render::Item& item : panel.items) {
+    const double bottom =
+        std::visit([&](const auto& shown) { return bottomOfInk(shown, ground); }, item);
+    ink = std::max(ink, bottom);
+  }
   panel.size.height = std::min(panel.size.height, layout::PixelGrid(scale).ceil(ink));
 }
 

@@ -236,12 +236,22 @@ void round(render::ImageItem&, const layout::Rect&) {}
 void round(render::StrokeItem&, const layout::Rect&) {}
 void round(render::ClipItem&, const layout::Rect&) {}
 
+void cutFill(render::FillItem& fill, const layout::Rect& inSight) {
+  fill.frame = layout::intersection(fill.frame, inSight);
+}
+
+// The painter clips these.
+void cutFill(render::TextItem&, const layout::Rect&) {}
+void cutFill(render::ImageItem&, const layout::Rect&) {}
+void cutFill(render::StrokeItem&, const layout::Rect&) {}
+void cutFill(render::ClipItem&, const layout::Rect&) {}
+void cutFill(render::EmbedItem&, const layout::Rect&) {}
+
 }  // namespace
 
 void SheetGeometry::cut(render::Scene& scene, const layout::Rect& inSight) {
   for (render::Item& item : scene.items) {
-    auto* fill = std::get_if<render::FillItem>(&item);
-    if (fill) fill->frame = layout::intersection(fill->frame, inSight);
+    std::visit([&](auto& shown) { cutFill(shown, inSight); }, item);
   }
   for (render::HitArea& area : scene.hitAreas) {
     area.frame = layout::intersection(area.frame, inSight);

@@ -1,5 +1,4 @@
-// The modifiers that run actions: on a tap, when the view appears, when its size changed, and to
-// present a sheet.
+// The modifiers that run actions: on a tap, when the view appears, and when its size changed.
 #include <algorithm>
 #include <functional>
 #include <string>
@@ -114,46 +113,6 @@ class Task final : public Modifier {
   Action action_;
 };
 
-class Sheet final : public Modifier {
- public:
-  Sheet(View content, Binding<bool> isPresented, View shown)
-      : Modifier(std::move(content)),
-        isPresented_(std::move(isPresented)),
-        shown_(std::move(shown)) {}
-
-  void evaluate(Evaluator& in, const Look& look, Axis axis, ElementList& out) const override {
-    if (isPresented_.get()) in.result().presentation = Presentation{isPresented_, shown_};
-    in.collect(content(), look, axis, out);
-  }
-
- private:
-  std::string description() const override {
-    return ".sheet(isPresented: " + std::string(nameOf(isPresented_.get())) + ")";
-  }
-  void printBelow(TreePrinter& to, int depth) const override { to.print(shown_, depth); }
-
-  Binding<bool> isPresented_;
-  View shown_;
-};
-
-class Detents final : public Modifier {
- public:
-  Detents(View content, const PresentationDetents& detents)
-      : Modifier(std::move(content)), detents_(detents) {}
-
-  void evaluate(Evaluator& in, const Look& look, Axis axis, ElementList& out) const override {
-    in.result().detents = detents_;
-    in.collect(content(), look, axis, out);
-  }
-
- private:
-  std::string description() const override {
-    return ".presentationDetents(" + describe(detents_) + ")";
-  }
-
-  PresentationDetents detents_;
-};
-
 struct WatchedElement final : Element {
   WatchedElement(const ElementRules& kind, const TreePath& place) : Element(kind), path(place) {}
 
@@ -200,14 +159,6 @@ View Button(Action action, View label) {
 
 View View::task(TaskPriority, Action action) const {
   return makeView<Task>(*this, std::move(action));
-}
-
-View View::sheet(Binding<bool> isPresented, View content) const {
-  return makeView<Sheet>(*this, std::move(isPresented), std::move(content));
-}
-
-View View::presentationDetents(PresentationDetents detents) const {
-  return makeView<Detents>(*this, detents);
 }
 
 View View::onGeometryChange(std::function<void(layout::Size)> action) const {

@@ -1,5 +1,5 @@
-// The modifiers that put content over or behind their own, and the one that ignores the safe area.
-#include <algorithm>
+// The modifiers that paint around their content or behind it, and the one that ignores the safe
+// area.
 #include <string>
 #include <utility>
 
@@ -115,73 +115,6 @@ class Border final : public SizedAsContent {
   double width_;
 };
 
-struct OverlaidElement final : Element {
-  using Element::Element;
-
-  bool makesWay = false;  ///< the user chose a large text size
-};
-
-bool hasTextUnder(const layout::Rect& cover, const Element& element) {
-  constexpr double touching = 0.5;  // points
-  const layout::Size common = layout::intersection(element.frame, cover).size;
-  if (element.isText) return common.width > touching && common.height > touching;
-  for (const Element* child = element.children.first; child; child = child->next) {
-    if (hasTextUnder(cover, *child)) return true;
-  }
-  return false;
-}
-
-/// Places its second child over the first, in the first one's frame. If large text would lie under
-/// a top-aligned second child, moves the first child below it.
-class Overlay final : public SizedAsContent {
- public:
-  Overlay(View content, layout::Alignment alignment, View above)
-      : SizedAsContent(std::move(content)), alignment_(alignment), above_(std::move(above)) {}
-
-  void evaluate(Evaluator& in, const Look& look, layout::Axis axis,
-                ElementList& out) const override {
-    ElementList wrapped;
-    in.at(steps::modified, [&] {
-      in.wrapEach(content(), look, axis, wrapped, [&](Element& inner) {
-        auto* self = in.make<OverlaidElement>(static_cast<const ElementRules&>(*this));
-        self->makesWay = in.environment.textSize > ContentSizeCategory::large;
-        in.adopt(*self, &inner);
-        return self;
-      });
-    });
-    char32_t step = steps::firstOverlay;
-    for (Element* element = wrapped.first; element; element = element->next) {
-      in.at(step++, [&] { in.adopt(*element, in.single(above_, look, axis)); });
-    }
-    out.appendAll(wrapped);
-  }
-
-  void place(LayoutPass& in, Element& self, ProposedSize proposal) const override {
-    SizedAsContent::place(in, self, proposal);
-    Element& above = *self.children.last;
-    in.placeAligned(above, self.frame, alignment_, exactly(self.frame.size));
-    const bool makesWay = static_cast<OverlaidElement&>(self).makesWay &&
-                          alignment_.vertical == layout::VerticalAlignment::top;
-    constexpr double besideButton = 4;  // points, for its focus ring
-    layout::Rect cover = above.frame;
-    cover.origin.x -= besideButton;
-    cover.size.width += 2 * besideButton;
-    if (!makesWay || !hasTextUnder(cover, self.child())) return;
-    const double down = above.frame.bottom() - self.frame.top();
-    const Size left = {self.frame.size.width, std::max(0.0, self.frame.size.height - down)};
-    in.place(self.child(), {self.frame.left(), above.frame.bottom()}, exactly(left));
-  }
-
- private:
-  std::string description() const override {
-    return ".overlay(alignment: " + nameOf(alignment_) + ")";
-  }
-  void printBelow(TreePrinter& to, int depth) const override { to.print(above_, depth); }
-
-  layout::Alignment alignment_;
-  View above_;
-};
-
 }  // namespace
 
 View View::edgesIgnoringSafeArea(layout::Edges edges) const {
@@ -194,10 +127,6 @@ View View::background(Color color, layout::Edges ignoresSafeAreaEdges) const {
 
 View View::border(Color color, double width) const {
   return makeView<Border>(*this, std::move(color), width);
-}
-
-View View::overlay(layout::Alignment alignment, View content) const {
-  return makeView<Overlay>(*this, alignment, std::move(content));
 }
 
 }  // namespace quorix::swiftui
