@@ -5,12 +5,12 @@
 #include <QList>
 #include <QNetworkProxy>
 #include <QObject>
-#include <QStringList>
 #include <QTcpSocket>
 #include <QTimer>
 #include <chrono>
 #include <functional>
 #include <memory>
+#include <string>
 #include <vector>
 
 namespace quorix::qt {
@@ -26,7 +26,6 @@ class ConnectionRace final : public QObject {
   using Ended = std::function<void(Socket, QAbstractSocket::SocketError, const QString&)>;
 
   static constexpr std::chrono::milliseconds kHeadStart{250};
-  static constexpr int kMostAddresses = 10;
 
   /// A `secure` socket can be encrypted once it is connected. A proxy is asked for `host` by name.
   ConnectionRace(QString host, quint16 port, bool secure, QNetworkProxy proxy, Ended ended);
@@ -49,7 +48,7 @@ class ConnectionRace final : public QObject {
   const QNetworkProxy proxy_;
   Ended ended_;
   QTimer headStart_;
-  QStringList waiting_;  // addresses, or the host's name for a proxy
+  std::vector<std::string> waiting_;  // addresses, or the host's name for a proxy
   std::vector<Socket> sockets_;
 };
 
