@@ -9,6 +9,7 @@ namespace quorix::foundation {
 namespace {
 
 using State = HTTPResponseReader::State;
+using Step = HTTPConversation::Step;
 
 bool isRedirect(int status) {
   return status == 301 || status == 302 || status == 303 || status == 307 || status == 308;
@@ -27,13 +28,15 @@ HTTPConversation::HTTPConversation(std::string address, std::optional<HTTPProxy>
   path_ = address_.substr(end);
 }
 
+HTTPConversation::~HTTPConversation() = default;
+
 std::string HTTPConversation::proxyCredentials() const {
   if (!isAskingProxy() || proxy_->credentials.empty()) return {};
   return "Proxy-Authorization: Basic " + proxy_->credentials + "\r\n";
 }
 
-HTTPConversation::Step HTTPConversation::connected() {
-  if (!secure_) return encrypted();
+Step HTTPConversation::connected() {
+  if (!secure_) return request();
   if (!proxy_) return {Next::encrypt};
   reader_.emplace(HTTPResponseReader::Body::none);
   const bool namesPort = authority_.find(':', authority_.find(']') + 1) != std::string::npos;
@@ -42,7 +45,9 @@ HTTPConversation::Step HTTPConversation::connected() {
                           proxyCredentials() + "\r\n"};
 }
 
-HTTPConversation::Step HTTPConversation::encrypted() {
+Step HTTPConversation::encrypted() { return request(); }
+
+Step HTTPConversation::request() {
   reader_.emplace();
   return {Next::read, "GET " + (isAskingProxy() ? address_ : path_) +
                           " HTTP/1.1\r\nHost: " + authority_ +
@@ -51,12 +56,14 @@ HTTPConversation::Step HTTPConversation::encrypted() {
                           proxyCredentials() + "\r\n"};
 }
 
-HTTPConversation::Step HTTPConversation::failed(URLError error, std::string description) {
+Step HTTPConversation::read(std::string_view bytes) { return advance(reader_->read(bytes)); }
+
+Step HTTPConversation::failed(URLError error, std::string description) {
   if (error == URLError::connectionClosed && reader_) return advance(reader_->readEnd());
   return fail(error, std::move(description));
 }
 
-HTTPConversation::Step HTTPConversation::advance(State state) {
+Step HTTPConversation::advance(State state) {
   static const std::map<State, std::pair<URLError, const char*>> failures = {
       {State::cutShort, {URLError::connectionClosed, "the connection closed"}},
       {State::malformed, {URLError::malformedAnswer, "the answer is no valid HTTP"}},
@@ -69,7 +76,7 @@ HTTPConversation::Step HTTPConversation::advance(State state) {
   return fail(error, description);
 }
 
-HTTPConversation::Step HTTPConversation::answered() {
+Step HTTPConversation::answered() {
   const int status = reader_->status();
   if (isAskingProxy() && status == 407) {
     return fail(URLError::proxyAuthenticationRequired, "the proxy asks for credentials");
@@ -88,8 +95,8 @@ HTTPConversation::Step HTTPConversation::answered() {
   return {Next::encrypt};
 }
 
-HTTPConversation::Step HTTPConversation::fail(URLError error, std::string description) {
-  constexpr int ofProxy = 100;  // the difference between the codes of a server and a proxy
+Step HTTPConversation::fail(URLError error, std::string description) {
+  constexpr int ofProxy = 100;  // between the codes of a server and those of a proxy
   if (isAskingProxy() && error <= URLError::timedOut) {
     error = URLError{static_cast<std::int64_t>(error) + ofProxy};
   }

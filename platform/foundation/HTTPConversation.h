@@ -10,16 +10,16 @@
 
 namespace quorix::foundation {
 
-/// A proxy that is asked in HTTP.
+/// A proxy that speaks HTTP.
 struct HTTPProxy {
   std::string credentials;  ///< base64 of "user:password"; empty without a user
 };
 
 /// One GET on a connection of its own. Does no I/O: each call reports an event of the connection
-/// and returns what the owner of the connection does next.
+/// and returns what the connection's owner does next.
 ///
-/// A proxy forwards a request for http and opens a tunnel to a server of https. It gets its
-/// credentials at once, as Basic; the server never gets them.
+/// A proxy forwards http requests and opens a tunnel for https. Its credentials are sent to it at
+/// once, as Basic, and never to the server.
 class QUORIX_EXPORT HTTPConversation {
  public:
   enum class Next {
@@ -30,20 +30,21 @@ class QUORIX_EXPORT HTTPConversation {
 
   struct Step {
     Next next;
-    std::string send = {};  ///< before anything else
+    std::string send = {};  ///< bytes to send first
   };
 
   /// `address` is percent-encoded, with the scheme http or https in lower case and without a user
   /// or a fragment.
   explicit HTTPConversation(std::string address, std::optional<HTTPProxy> proxy = {});
+  ~HTTPConversation();
 
   Step connected();
   Step encrypted();
 
-  /// Takes the next bytes, of which there must be none while `isReading` is false.
-  Step read(std::string_view bytes) { return advance(reader_->read(bytes)); }
+  /// Takes the next bytes. Only while `isReading`.
+  Step read(std::string_view bytes);
 
-  /// The connection closed, failed or could not be made. An answer may end with its connection.
+  /// The connection closed, failed or could not be made. Closing may be how an answer ends.
   Step failed(URLError error, std::string description);
 
   bool isReading() const { return reader_.has_value(); }
@@ -56,6 +57,7 @@ class QUORIX_EXPORT HTTPConversation {
  private:
   QUORIX_HIDDEN bool isAskingProxy() const { return proxy_ && !hasTunnel_; }
   QUORIX_HIDDEN std::string proxyCredentials() const;
+  QUORIX_HIDDEN Step request();
   QUORIX_HIDDEN Step advance(HTTPResponseReader::State state);
   QUORIX_HIDDEN Step answered();
   QUORIX_HIDDEN Step fail(URLError error, std::string description);

@@ -16,7 +16,7 @@
 namespace quorix::foundation {
 namespace {
 
-// What zlib's "window bits" mean.
+// Values of zlib's `windowBits`.
 constexpr int kZlib = MAX_WBITS, kGzip = MAX_WBITS + 16, kRaw = -MAX_WBITS;
 
 std::optional<std::string> unpacked(std::string& packed, int format, std::size_t limit) {
@@ -124,9 +124,9 @@ State HTTPResponseReader::parse() {
     auto& parser = message_->parser;
     const bool inHead = !parser.is_header_done();
     const bool inChunks = !inHead && parser.chunked() && !message_->inTrailers;
-    // Older parsers assert that the shortest last chunk would fit.
+    // Older parsers assert that there are as many bytes as in the shortest last chunk.
     if (inChunks && rest.size() < 5) break;
-    // Being eager, it would forget that a body is too long and make room for it.
+    // An eager parser goes on after the error of a body that is too long, and reserves its length.
     parser.eager(!inHead);
     const auto most = inHead ? headLimit - headBytes_ : inChunks ? chunkHeadLimit : headLimit;
     const auto window = rest.substr(0, most);

@@ -38,14 +38,14 @@ class HTTPResponseReader {
   /// Takes the next bytes. Once the state is another than `incomplete`, it stays.
   State read(std::string_view bytes);
 
-  /// Takes note that the connection has closed. Never `incomplete`.
+  /// The connection has closed. Never returns `incomplete`.
   State readEnd();
 
   // Of a complete answer.
   int status() const;
   /// The value of `Location`; empty if there is none.
   std::string location() const;
-  /// Absent where there is none: with the status 204 or 304, or after a CONNECT.
+  /// Absent with the status 204 or 304, and after a CONNECT.
   const std::optional<std::string>& body() const;
 
  private:

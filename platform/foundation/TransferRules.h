@@ -22,7 +22,8 @@ namespace quorix::foundation {
 inline bool isHTTP(std::string_view scheme) { return scheme == "http" || scheme == "https"; }
 
 /// Why a transfer does not follow its `count`th redirect, from an address with the scheme `from` to
-/// one with the scheme `to`; absent if it does.
+/// one with the scheme `to`; absent if it does. It follows 20, to http and https only, and from
+/// https only to https.
 QUORIX_EXPORT std::optional<URLResponse> refuseRedirect(std::string_view from, std::string_view to,
                                                         int count);
 

@@ -35,13 +35,13 @@ struct URLSession::State {
 
   struct Prefetched {
     URL url;
-    std::function<void()> waiting;          ///< for a transport: asks; empty once it has
+    std::function<void()> waiting;  ///< starts the request; empty unless it waits for a transport
     std::optional<URLResponse> response;    ///< absent while it is on its way
     std::shared_ptr<const void> made = {};  ///< of the response
     Clock::time_point end = {};             ///< of its lifetime
   };
 
-  /// Not kept: the answer has outlived its time.
+  /// Drops the answers whose lifetime is over first.
   auto prefetchedFor(std::string_view address) {
     std::erase_if(prefetched, [](const auto& p) { return p.response && p.end <= Clock::now(); });
     return std::ranges::find_if(prefetched,

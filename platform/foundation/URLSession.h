@@ -31,13 +31,13 @@ class QUORIX_EXPORT URLTransport {
   virtual void start(const URL& url, Completion completion) = 0;
 };
 
-/// Answers requests in place of the network, on the session's thread. An absent answer leaves the
-/// request to the network.
+/// Answers requests in place of the network, on the session's thread. If the answer is absent, the
+/// request goes to the network.
 ///
-/// It should answer at once: later requests wait for it. The end of the application waits two
-/// seconds for one that blocks, ends all requests with an error, and leaves the thread behind; a
-/// later answer is ignored, and the objects that the protocol uses must still exist. A protocol
-/// that throws answers with an error of domain "URLSession", code -2.
+/// It should answer at once, because later requests wait for it. The end of the application waits
+/// two seconds for a protocol that blocks, then ends all requests with an error and leaves the
+/// thread behind: a later answer is ignored, and what the protocol uses must still exist then. If a
+/// protocol throws, the answer is an error of domain "URLSession", code -2.
 using URLProtocol = std::function<std::optional<URLResponse>(const URL&)>;
 
 /// The process-wide HTTP session. The engine installs the transport; a host, a demo or a test may
@@ -59,26 +59,26 @@ class QUORIX_EXPORT URLSession {
   [[nodiscard]] std::shared_ptr<void> registerProtocol(URLProtocol protocol);
 
   /// Turns the network off for the process, or on again. Off, a request that no protocol and no
-  /// prefetched answer serves ends at once with an error; one that is under way ends as it would
-  /// have. The pages of a web view are loaded by the web engine and are not affected. Any thread.
+  /// prefetched answer serves ends at once with an error; one that is under way is not stopped.
+  /// The pages of a web view are loaded by the web engine and are not affected. Any thread.
   ///
   ///     URLSession::shared().setNetworkEnabled(false);  // until the shopper consents
   void setNetworkEnabled(bool enabled);
 
-  /// What a reader makes of an answer: null where it is of no use.
+  /// Makes a value of an answer; null if the answer is of no use.
   using Reader = std::function<std::shared_ptr<const void>(const URLResponse&)>;
 
-  /// Fetches `url` and keeps the answer in memory, with what `read` made of it: for `lifetime` it
-  /// serves the requests that no protocol answers. Kept are answers of the network that are of use
-  /// (`read` runs on the session's thread), of at most `mostPrefetched` addresses. While an answer
-  /// is kept or on its way the call does nothing. Without a transport it waits for the first one.
-  /// Any thread.
+  /// Fetches `url` and keeps the answer in memory for `lifetime`, with the value that `read` makes
+  /// of it on the session's thread. Requests that no protocol answers then get the kept answer.
+  /// Keeps no answer of a protocol and none of which `read` makes null; at most `mostPrefetched`
+  /// addresses, the latest. Does nothing while an answer is kept or on its way. Without a transport
+  /// it waits for the first one. Any thread.
   void prefetch(const URL& url, std::chrono::seconds lifetime, Reader read);
   static constexpr std::size_t mostPrefetched = 8;
 
-  /// What the reader made of the answer that is kept for `address`, which is called only if any
-  /// is. Null without one, and while a protocol is registered, which would be asked first. Any
-  /// thread.
+  /// The value that the reader made of the answer kept for `address()`, which is called only if
+  /// any answer is kept. Null without one, and while a protocol is registered, because protocols
+  /// come first. Any thread.
   std::shared_ptr<const void> prefetched(const std::function<std::string()>& address);
 
   /// The answer for `url` that needs no network: a protocol's, a prefetched one, or with the

@@ -17,7 +17,7 @@ using foundation::URLError;
 using foundation::URLResponse;
 using Completions = std::map<NetworkWorker::Task, NetworkWorker::Completion>;
 
-// Waits for the completions, but not longer than for the thread that should have run them.
+// Runs the completions on another thread and waits for them, for `kPatience` at most.
 void cancelElsewhere(Completions completions) {
   const auto rest = std::make_shared<Completions>(std::move(completions));
   const auto done = std::make_shared<std::promise<void>>();
@@ -122,7 +122,7 @@ void NetworkWorker::cancelAll() {
   thread_.quit();
 }
 
-// The thread must not return into Qt, which the end of the process may have taken down by then.
+// The thread must not return into Qt, which may be gone by then because the process ends.
 void NetworkWorker::stayIfLeftBehind() {
   {
     const std::scoped_lock lock(mutex_);
@@ -151,7 +151,7 @@ bool NetworkWorker::leaveBehind() {
   if (leftBehind_) {
     cancelElsewhere(std::move(rest));
   } else {
-    thread_.wait();  // only Qt's own end of it is left
+    thread_.wait();  // only code of Qt still runs on it
   }
   return leftBehind_;
 }

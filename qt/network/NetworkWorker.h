@@ -15,13 +15,13 @@
 
 namespace quorix::qt {
 
-/// How every request ends that the application object's end overtakes.
+/// The response to a request that the application object's end interrupts.
 foundation::URLResponse cancelled();
 
-/// What the network thread does, for as long as one application object lives.
+/// Performs requests on a thread of its own, for as long as one application object lives.
 ///
-/// Asks the registered protocols for each request, one request after the other. What they leave to
-/// the network goes into a `Transfer`, which requests for the same address share while it lasts.
+/// Asks the registered protocols for each request, one request after the other. What they do not
+/// answer is fetched by a `Transfer`, which requests for the same address share while it lasts.
 class NetworkWorker final : public QObject {
  public:
   using Completion = foundation::URLTransport::Completion;
@@ -38,9 +38,9 @@ class NetworkWorker final : public QObject {
   void perform(const foundation::URL& url, std::chrono::milliseconds timeLimit,
                Completion completion);
 
-  /// Cancels everything and ends the thread; false when it does not end within `kPatience`. It then
-  /// stays blocked for good (even if the protocol returns), the completions have run on another
-  /// thread, and the worker must never be destroyed. Any other thread, once.
+  /// Cancels everything and ends the thread; false if it does not end within `kPatience`. Then it
+  /// stays blocked for good (even if the protocol returns), the completions run on another thread,
+  /// and the worker must never be destroyed. Any other thread, once.
   bool end();
 
   bool isCurrentThread() const { return QThread::currentThread() == &thread_; }
@@ -59,12 +59,12 @@ class NetworkWorker final : public QObject {
   Task lastTask_ = 0;
   std::map<Task, Completion> completions_;  // of all tasks that have not completed
   bool ending_ = false;
-  bool finishing_ = false;  // nothing of a host's runs on the thread any more
+  bool finishing_ = false;  // no code of the host runs on the thread any more
   bool leftBehind_ = false;
 
-  // The thread's own.
+  // Used on the thread only.
   TransferQueue queue_;
-  std::map<TransferQueue::Transfer, std::unique_ptr<Transfer>> transfers_;  // which run
+  std::map<TransferQueue::Transfer, std::unique_ptr<Transfer>> transfers_;  // running
 };
 
 }  // namespace quorix::qt

@@ -15,12 +15,12 @@ namespace {
 
 /// The one thread that performs the process's HTTP requests.
 ///
-/// It starts with the first request and sleeps in its event loop between requests; a program that
-/// never asks for anything never has it. (Qt looks up names on another thread, which ends half a
-/// minute later.) It ends with Qt's application object, which waits for it: what is still in flight
-/// ends with an error first. The next application object's first request starts it anew.
+/// Starts with the first request and sleeps in its event loop between requests. (Qt looks up names
+/// on another thread, which ends half a minute later.) Ends with Qt's application object, which
+/// waits for it: requests in flight end with an error first. The first request under the next
+/// application object starts it again.
 ///
-/// A protocol or a completion that blocks does not keep the application: after
+/// A protocol or a completion that blocks does not block the application: after
 /// `NetworkWorker::kPatience` the thread is left behind. It does nothing more, even if the protocol
 /// returns.
 struct NetworkThread {
@@ -45,7 +45,7 @@ void applicationEnds() {
     worker = std::move(thread.worker);
   }
   if (!worker) return;
-  // On the worker's own thread a completion ends the process.
+  // On the worker's own thread: a completion ended the process, and waiting would never end.
   if (!worker->isCurrentThread() && worker->end()) return;
   const std::scoped_lock lock(thread.mutex);
   thread.leftBehind.push_back(std::move(worker));

@@ -58,7 +58,7 @@ QNetworkProxy proxyFor(const QUrl& address) {
   return QNetworkProxy::NoProxy;
 }
 
-/// `proxy` if the conversation is to speak to it. Other kinds are the socket's business.
+/// The proxy as the conversation sees it. Absent for other kinds, which the socket handles.
 std::optional<HTTPProxy> httpProxy(const QNetworkProxy& proxy) {
   if (proxy.type() != QNetworkProxy::HttpProxy && proxy.type() != QNetworkProxy::HttpCachingProxy) {
     return std::nullopt;
@@ -135,7 +135,7 @@ void Transfer::connectTo(const QUrl& address) {
 
 void Transfer::connected(ConnectionRace::Socket socket) {
   socket_ = std::move(socket);
-  socket_->setReadBufferSize(kPiece);  // what is not read yet stays with the server
+  socket_->setReadBufferSize(kPiece);  // beyond that, the server has to wait
   connect(socket_.get(), &QTcpSocket::readyRead, this, [this] { receive(); });
   connect(socket_.get(), &QTcpSocket::errorOccurred, this, [this] { socketFailed(); });
   proceed(conversation_->connected());
@@ -164,7 +164,7 @@ void Transfer::proceed(const HTTPConversation::Step& step) {
 void Transfer::encrypt() {
   auto& secure = static_cast<QSslSocket&>(*socket_);
   connect(&secure, &QSslSocket::encrypted, this, [this] { proceed(conversation_->encrypted()); });
-  secure.setPeerVerifyName(current_.host());  // it was connected by an address
+  secure.setPeerVerifyName(current_.host());  // the socket only has the IP address
   secure.startClientEncryption();
 }
 

@@ -16,11 +16,11 @@
 
 namespace quorix::qt {
 
-/// One GET over the wire, redirects included, each on a connection of its own. Sends no cookies or
-/// credentials for the server. Uses the application's proxy and its default SSL configuration.
+/// One GET over the network and its redirects, each on a connection of its own. Sends no cookies
+/// and no credentials to the server. Uses the application's proxies and default SSL configuration.
 ///
-/// Bounded in size and in time: each answer has the limits of `HTTPResponseReader`, and the whole
-/// fails after 20 redirects or its time limit. Lives on the network thread.
+/// Each answer has the limits of `HTTPResponseReader`. The time limit is for all of them together.
+/// Lives on the network thread.
 class Transfer final : public QObject {
  public:
   using Ended = std::function<void(foundation::URLResponse)>;
@@ -50,7 +50,7 @@ class Transfer final : public QObject {
   QElapsedTimer begun_;
   int redirects_ = 0;
 
-  // Of the address that is being asked: the first one, or that of the latest redirect.
+  // For the current address: the first one or that of the latest redirect.
   QUrl current_;
   std::optional<foundation::HTTPConversation> conversation_;
   std::unique_ptr<ConnectionRace> race_;  // until there is a socket

@@ -69,6 +69,7 @@ TEST(TransferQueue, SharesTransfersAndStartsSixForAServer) {
   EXPECT_EQ(queue.end(transfer(7)), (Tasks{7, 11}));
   EXPECT_EQ(queue.start(), transfer(1));
   EXPECT_EQ(queue.end(transfer(1)), Tasks{14});
+  EXPECT_EQ(queue.start(), std::nullopt);
 }
 
 }  // namespace

@@ -50,7 +50,7 @@ class LoopbackServer::Connection : public QObject {
     connect(socket, &QTcpSocket::bytesWritten, this,
             [this](qint64 bytes) { server_.bytesSent_ += static_cast<std::size_t>(bytes); });
     connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
-    read();  // what came before anybody listened
+    read();  // what came before the signals were connected
   }
 
  private:

@@ -20,8 +20,8 @@ struct Answer {
   std::string bytes;             ///< from the status line on
   std::size_t piece = SIZE_MAX;  ///< so many bytes at a time, about a millisecond apart
   bool hangUp = false;           ///< closes the connection after the last byte
-  std::string filler = {};       ///< follows the bytes over and over, as fast or as slowly as they
-  std::uint16_t tunnelTo = 0;    ///< a port here that the client speaks with afterwards
+  std::string filler = {};       ///< sent after the bytes again and again, in pieces of that size
+  std::uint16_t tunnelTo = 0;    ///< a local port to which the connection is then relayed
 };
 
 /// A well-formed answer. `headers` are whole lines; the length is added.
@@ -50,7 +50,7 @@ class LoopbackServer {
   /// The heads of the requests for `path` so far, each as it came.
   std::vector<std::string> requests(const std::string& path) const;
 
-  /// How much has gone out so far, to all clients.
+  /// The number of bytes sent so far, to all clients.
   std::size_t bytesSent() const { return bytesSent_; }
 
  private:

@@ -114,7 +114,8 @@ TEST(ConnectionRace, AnAddressThatDoesNotAnswerCostsLittleTime) {
   EXPECT_LT(timer.elapsed(), 5000);
 }
 
-/// Hears requests and answers none. It has no thread and nothing of Qt's, which ends meanwhile.
+/// Accepts requests and answers none. Has no thread and uses no Qt, whose application ends
+/// meanwhile.
 class SilentServer {
  public:
   SilentServer() {

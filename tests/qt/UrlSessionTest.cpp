@@ -63,7 +63,7 @@ TEST_F(ConcurrentUrlSession, AnswersAreAnswersWhateverTheirStatusAndBrokenOnesAr
     EXPECT_EQ(response.error ? response.error->domain : "", table[i].status ? "" : "URLSession");
     EXPECT_NE(thread, std::this_thread::get_id());
   }
-  fetch("/0");  // all that the first requests had to say would have come before this
+  fetch("/0");  // a second completion of a request above would come before this
 }
 
 TEST_F(ConcurrentUrlSession, SendsAPlainGetOfTheAddress) {
@@ -169,6 +169,8 @@ TEST_F(ConcurrentUrlSession, LogsRequestsIfAskedAndNeverAToken) {
   };
   const LogListener log;
   ask();
+  const auto noSecret = ::testing::Not(::testing::HasSubstr("secret"));
+  EXPECT_THAT(server.requests("/nowhere"), ::testing::ElementsAre(noSecret));
   EXPECT_TRUE(LogListener::lines().isEmpty());
   QLoggingCategory::setFilterRules(QStringLiteral("quorix.network=true"));
   ask();
