@@ -2,7 +2,7 @@
 
 #include <zlib.h>
 
-#include <algorithm>
+#include <boost/beast/core/string.hpp>
 #include <boost/beast/http/parser.hpp>
 #include <boost/beast/http/string_body.hpp>
 #include <cstddef>
@@ -38,23 +38,15 @@ std::optional<std::string> unpacked(std::string& packed, int format, std::size_t
   return plain;
 }
 
-std::string lowercased(std::string_view text) {
-  std::string lower(text);
-  std::ranges::transform(lower, lower.begin(), [](char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 'a' - 'A') : c;
-  });
-  return lower;
-}
-
 /// Unpacks the body of an answer whose `Content-Encoding` is `encoding`: gzip (also of several
 /// members), deflate (also without zlib's header), identity or none. Absent if the encoding is
 /// another or the data is broken or incomplete. Stops after `limit` + 1 bytes.
-std::optional<std::string> inflated(std::string packed, std::string_view encoding,
+std::optional<std::string> inflated(std::string packed, const std::string& encoding,
                                     std::size_t limit) {
-  const std::string name = lowercased(encoding);
-  if (packed.empty() || name.empty() || name == "identity") return packed;
-  if (name == "gzip" || name == "x-gzip") return unpacked(packed, kGzip, limit);
-  if (name != "deflate") return std::nullopt;
+  const auto is = [&](const char* name) { return boost::beast::iequals(encoding, name); };
+  if (packed.empty() || is("") || is("identity")) return packed;
+  if (is("gzip") || is("x-gzip")) return unpacked(packed, kGzip, limit);
+  if (!is("deflate")) return std::nullopt;
   // Some servers leave out zlib's header and checksum.
   auto plain = unpacked(packed, kZlib, limit);
   return plain ? plain : unpacked(packed, kRaw, limit);

@@ -6,8 +6,6 @@
 #include <string>
 #include <string_view>
 
-#include "platform/foundation/Export.h"
-
 namespace quorix::foundation {
 
 /// Reads the answer to one GET from the bytes of its connection. Skips interim answers (1xx),
@@ -15,7 +13,7 @@ namespace quorix::foundation {
 ///
 /// Its memory is bounded for any server: it takes at most `byteLimit` bytes in all, of which the
 /// headers may have `headLimit` and the decompressed body `bodyLimit`.
-class QUORIX_EXPORT HTTPResponseReader {
+class HTTPResponseReader {
  public:
   enum class State {
     incomplete,   ///< more bytes are expected
@@ -51,10 +49,10 @@ class QUORIX_EXPORT HTTPResponseReader {
   const std::optional<std::string>& body() const;
 
  private:
-  struct QUORIX_HIDDEN Message;
+  struct Message;
 
-  QUORIX_HIDDEN State parse();
-  QUORIX_HIDDEN State parsed();
+  State parse();
+  State parsed();
 
   const Body allowed_;
   std::unique_ptr<Message> message_;

@@ -3,6 +3,8 @@
 #include <cstddef>
 #include <deque>
 #include <mutex>
+#include <system_error>
+#include <thread>
 #include <utility>
 
 #include "platform/foundation/Runtime.h"
@@ -63,6 +65,14 @@ int MainQueue::drain() {
   int count = 0;
   while (runNext()) ++count;
   return count;
+}
+
+void asyncOnNewThread(const std::function<void()>& work) {
+  try {
+    std::thread(work).detach();
+  } catch (const std::system_error&) {
+    work();
+  }
 }
 
 }  // namespace quorix::foundation

@@ -32,4 +32,7 @@ class QUORIX_EXPORT MainQueue {
   static int drain();
 };
 
+/// Runs `work` on a thread of its own, or at once if the system starts no more threads. Any thread.
+QUORIX_EXPORT void asyncOnNewThread(const std::function<void()>& work);
+
 }  // namespace quorix::foundation

@@ -4,40 +4,17 @@
 #include <exception>
 #include <mutex>
 #include <string_view>
-#include <system_error>
-#include <thread>
 #include <utility>
 
+#include "platform/foundation/MainQueue.h"
 #include "platform/foundation/Runtime.h"
+#include "platform/foundation/URLError.h"
 
 namespace quorix::foundation {
 namespace {
 
-URLResponse noNetwork(std::string_view reason) {
-  return {Error{"URLSession", -1, std::string(reason)}, {}, 0};
-}
-
-/// The transport until an engine installs one: registered protocols work, the network does not.
-class NoNetwork final : public URLTransport {
- public:
-  void start(const URL& url, Completion completion) override {
-    const auto answer = [url, completion = std::move(completion)] {
-      if (auto inProcess = URLSession::shared().answerInProcess(url)) {
-        completion(*std::move(inProcess));
-      } else {
-        completion(noNetwork("no network transport is installed"));
-      }
-    };
-    try {
-      std::thread(answer).detach();
-    } catch (const std::system_error&) {
-      answer();  // the system cannot start another thread
-    }
-  }
-};
-
 URLResponse protocolFailure(std::string_view text) {
-  return {Error{"URLSession", -2, "a registered protocol threw: " + std::string(text)}, {}, 0};
+  return failure(URLError::protocolThrew, "a registered protocol threw: " + std::string(text));
 }
 
 // Protocols run on a thread of the library, where an exception would end the process.
@@ -94,8 +71,12 @@ void URLSession::get(const URL& url, URLTransport::Completion completion) {
     const std::scoped_lock lock(state_->mutex);
     transport = state_->transport;
   }
-  if (!transport) transport = std::make_shared<NoNetwork>();
-  transport->start(url, std::move(completion));
+  if (transport) return transport->start(url, std::move(completion));
+  asyncOnNewThread([url, completion = std::move(completion)] {
+    auto answer = shared().answerInProcess(url);
+    if (!answer) answer = failure(URLError::noNetwork, "no network transport is installed");
+    completion(*std::move(answer));
+  });
 }
 
 void URLSession::install(std::shared_ptr<URLTransport> transport) {
@@ -179,7 +160,7 @@ std::optional<URLResponse> URLSession::answerInProcess(const URL& url) {
     return answer;
   }
   if (kept != state_->prefetched.end() && kept->response) return kept->response;
-  if (!state_->networkEnabled) return noNetwork("the network is switched off");
+  if (!state_->networkEnabled) return failure(URLError::noNetwork, "the network is switched off");
   return std::nullopt;
 }
 

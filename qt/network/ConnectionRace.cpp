@@ -3,7 +3,10 @@
 #include <QHostInfo>
 #include <QSslSocket>
 #include <algorithm>
+#include <string>
 #include <utility>
+
+#include "platform/foundation/TransferRules.h"
 
 namespace quorix::qt {
 namespace {
@@ -11,19 +14,6 @@ namespace {
 ConnectionRace::Socket makeSocket(bool secure) {
   if (secure) return std::make_unique<QSslSocket>();
   return std::make_unique<QTcpSocket>();
-}
-
-/// The families take turns; the first address stays first.
-QStringList inTurns(const QList<QHostAddress>& addresses) {
-  QStringList turns, rest;
-  for (const QHostAddress& address : addresses) {
-    const bool leads = address.protocol() == addresses.front().protocol();
-    (leads ? turns : rest).push_back(address.toString());
-  }
-  for (qsizetype i = 0; i < rest.size(); ++i) {
-    turns.insert(std::min(2 * i + 1, turns.size()), rest[i]);
-  }
-  return turns;
 }
 
 }  // namespace
@@ -41,7 +31,7 @@ ConnectionRace::ConnectionRace(QString host, quint16 port, bool secure, QNetwork
 
 void ConnectionRace::begin() {
   if (proxy_.type() != QNetworkProxy::NoProxy) {
-    waiting_ = {host_};
+    waiting_ = {host_.toStdString()};
     headStart_.start(0);
   } else if (const QHostAddress literal(host_); !literal.isNull()) {
     begin({literal});
@@ -57,14 +47,18 @@ void ConnectionRace::begin() {
 }
 
 void ConnectionRace::begin(const QList<QHostAddress>& addresses) {
-  waiting_ = inTurns(addresses).mid(0, kMostAddresses);
+  for (const QHostAddress& address : addresses) {
+    waiting_.push_back(address.toString().toStdString());
+  }
+  waiting_ = foundation::connectionOrder(waiting_);
   headStart_.start(0);  // on a later turn, because a socket may fail at once
 }
 
 void ConnectionRace::connectNext() {
   headStart_.stop();
-  const QString address = waiting_.takeFirst();
-  if (!waiting_.isEmpty()) headStart_.start(kHeadStart);
+  const QString address = QString::fromStdString(waiting_.front());
+  waiting_.erase(waiting_.begin());
+  if (!waiting_.empty()) headStart_.start(kHeadStart);
   QTcpSocket& socket = *sockets_.emplace_back(makeSocket(secure_));
   socket.setProxy(proxy_);
   connect(&socket, &QTcpSocket::connected, this, [this, &socket] { won(socket); });
@@ -81,7 +75,7 @@ void ConnectionRace::won(QTcpSocket& socket) {
 
 void ConnectionRace::failed(QTcpSocket& socket) {
   take(socket).release()->deleteLater();  // it is the caller
-  if (!waiting_.isEmpty()) {
+  if (!waiting_.empty()) {
     connectNext();
   } else if (sockets_.empty()) {
     ended_(nullptr, socket.error(), socket.errorString());

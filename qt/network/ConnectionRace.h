@@ -5,36 +5,35 @@
 #include <QList>
 #include <QNetworkProxy>
 #include <QObject>
-#include <QStringList>
 #include <QTcpSocket>
 #include <QTimer>
 #include <chrono>
 #include <functional>
 #include <memory>
+#include <string>
 #include <vector>
 
 namespace quorix::qt {
 
-/// Connects to a server at whichever of its addresses answers first.
+/// Connects to the first of a server's addresses that answers.
 ///
-/// The addresses are tried one after the other, a quarter of a second apart or as soon as one has
-/// failed, and IPv6 and IPv4 take turns: an address that does not answer costs little time.
+/// Tries them in their `connectionOrder`, the next one after a quarter of a second or as soon as
+/// one has failed: an address that does not answer costs little time.
 class ConnectionRace final : public QObject {
  public:
   using Socket = std::unique_ptr<QTcpSocket>;
-  /// The connected socket, or none and why the last one failed.
+  /// The connected socket, or null and the error of the last one.
   using Ended = std::function<void(Socket, QAbstractSocket::SocketError, const QString&)>;
 
   static constexpr std::chrono::milliseconds kHeadStart{250};
-  static constexpr int kMostAddresses = 10;
 
-  /// A `secure` socket can be encrypted once it is connected. A proxy is asked for `host` by name.
+  /// With `secure` the socket is a `QSslSocket`, not encrypted yet. A proxy gets the name `host`.
   ConnectionRace(QString host, quint16 port, bool secure, QNetworkProxy proxy, Ended ended);
 
   /// Calls `ended` once, unless the race is destroyed first. `ended` must not destroy the race.
   void begin();
 
-  /// The same, for a host whose addresses are known.
+  /// The same with known addresses.
   void begin(const QList<QHostAddress>& addresses);
 
  private:
@@ -49,7 +48,7 @@ class ConnectionRace final : public QObject {
   const QNetworkProxy proxy_;
   Ended ended_;
   QTimer headStart_;
-  QStringList waiting_;  // addresses, or the host's name for a proxy
+  std::vector<std::string> waiting_;  // addresses, or the host's name for a proxy
   std::vector<Socket> sockets_;
 };
 

@@ -26,10 +26,10 @@ namespace quorix::qt {
 /// body, and each request completes with a copy of what comes of it. A request that comes after the
 /// answer fetches again. Up to six fetches run at a time for one host and port; the others wait.
 ///
-/// What a server can take is bounded for every status: an answer with a body of more than 256
-/// kB (decompressed) or headers of more than 64 kB ends with `UnknownContentError`, a fetch that is
-/// not over after the time limit with `TimeoutError`, and its connection is closed. Waiting for its
-/// turn does not count.
+/// Every fetch is bounded, for every status: an answer with a body of more than 256 kB
+/// (decompressed) or headers of more than 64 kB ends with `UnknownContentError`, a fetch that takes
+/// longer than the time limit with `TimeoutError`, and the connection is closed. The time in which
+/// a fetch waits to start does not count.
 ///
 ///     URLSession::shared().install(std::make_shared<QtURLTransport>());
 class QtURLTransport final : public foundation::URLTransport {
@@ -39,8 +39,9 @@ class QtURLTransport final : public foundation::URLTransport {
 
   explicit QtURLTransport(std::chrono::milliseconds timeLimit = kDefaultTimeLimit);
 
-  /// Any thread. With no application object alive, or when it goes away meanwhile, the request ends
-  /// with the error `OperationCanceledError`.
+  /// Any thread. With no application object alive, or if it ends meanwhile, the request ends with
+  /// the error `OperationCanceledError`. The completion must not wait for the main thread, which
+  /// may be waiting for it.
   void start(const foundation::URL& url, Completion completion) override;
 
  private:

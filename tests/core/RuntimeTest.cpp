@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <future>
+#include <memory>
+#include <thread>
+
 #include "platform/foundation/Cache.h"
 #include "platform/foundation/MainQueue.h"
 #include "platform/foundation/URLSession.h"
@@ -48,6 +52,17 @@ TEST(Runtime, ATestCanReplaceEachPieceForAWhile) {
   EXPECT_EQ(UIApplication::shared().connectedScenes().size(), 1u);
   EXPECT_TRUE(URLSession::shared().answerInProcess(url));
   EXPECT_FALSE(graphics::FontManager::shared().knows("Saans-Regular"));
+}
+
+TEST(ConcurrentURLSession, WithoutATransportCompletesOnAThreadOfItsOwn) {
+  const foundation::Runtime::Fresh<URLSession> beforeTheEngine;
+  const auto completed = std::make_shared<std::promise<std::thread::id>>();
+  const auto url = foundation::URL::parse("https://shop.example/").value();
+  URLSession::shared().get(url, [completed](const foundation::URLResponse& response) {
+    EXPECT_EQ(response.error ? response.error->code : 0, -1);
+    completed->set_value(std::this_thread::get_id());
+  });
+  EXPECT_NE(completed->get_future().get(), std::this_thread::get_id());
 }
 
 TEST(Cache, KeepsTheKeysThatWereUsedLast) {

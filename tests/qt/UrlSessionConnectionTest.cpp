@@ -26,16 +26,12 @@ TEST_F(ConcurrentUrlSession, ReadsOverHttpOnlyAndFollowsRedirects) {
   server.serve("/two", redirect(server.base() + "/hop"));
   server.serve("/loop", redirect("/loop"));
   server.serve("/file", redirect("file:///etc/hostname"));
-  server.serve("/data", redirect("data:text/plain,inside"));
 
   EXPECT_EQ(fetch("/two").response.body, kTable);
   expectErrors({
       {"http://127.0.0.1:1/", QNetworkReply::ConnectionRefusedError},
       {"file:///etc/hostname", QNetworkReply::ProtocolUnknownError},
-      {"data:text/plain,inside", QNetworkReply::ProtocolUnknownError},
-      {"qrc:/qt-project.org/", QNetworkReply::ProtocolUnknownError},
       {server.base() + "/file", QNetworkReply::ProtocolUnknownError},
-      {server.base() + "/data", QNetworkReply::ProtocolUnknownError},
       {server.base() + "/loop", QNetworkReply::TooManyRedirectsError},
   });
 }
@@ -75,11 +71,6 @@ TEST_F(ConcurrentUrlSession, AsksTheApplicationsProxy) {
   const std::string place = "secure.invalid:" + std::to_string(secure.port());
   server.serve(place, {"HTTP/1.1 200 OK\r\n\r\n", SIZE_MAX, false, {}, secure.port()});
   server.serve("http://shop.invalid/?x", {httpAnswer(200, kTable)});
-  const std::string challenge = "Proxy-Authenticate: Basic realm=\"r\"\r\n";
-  server.serve("http://closed.invalid/", {httpAnswer(407, kTable, challenge)});
-  server.serve("closed.invalid:443", {httpAnswer(407, kTable, challenge)});
-  const std::string endless = "HTTP/1.1 200 OK\r\n";
-  server.serve("endless.invalid:443", {endless, SIZE_MAX, false, std::string(64 << 10, 'x')});
 
   const auto before = QNetworkProxy::applicationProxy();
   const auto trustingNobody = QSslConfiguration::defaultConfiguration();
@@ -92,12 +83,7 @@ TEST_F(ConcurrentUrlSession, AsksTheApplicationsProxy) {
   EXPECT_THAT(server.requests(place), ::testing::ElementsAre(credentials));
   EXPECT_THAT(server.requests("http://shop.invalid/?x"), ::testing::ElementsAre(credentials));
   EXPECT_THAT(secure.requests("/table"), ::testing::ElementsAre(::testing::Not(credentials)));
-  expectErrors({
-      {"http://closed.invalid/", QNetworkReply::ProxyAuthenticationRequiredError},
-      {"https://closed.invalid/", QNetworkReply::ProxyAuthenticationRequiredError},
-      {"https://unknown.invalid/", QNetworkReply::ProxyConnectionRefusedError},
-      {"https://endless.invalid/", QNetworkReply::UnknownContentError},
-  });
+  EXPECT_EQ(errorOf("https://unknown.invalid/"), QNetworkReply::ProxyConnectionRefusedError);
   QNetworkProxy::setApplicationProxy(before);
   QSslConfiguration::setDefaultConfiguration(trustingNobody);
 }

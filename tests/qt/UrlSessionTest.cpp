@@ -33,7 +33,6 @@ std::string deflated(int status, const std::string& body) {
 }
 
 TEST_F(ConcurrentUrlSession, AnswersAreAnswersWhateverTheirStatusAndBrokenOnesAreErrors) {
-  const std::string challenge = "WWW-Authenticate: Basic realm=\"r\"\r\n";
   const std::string gzip = "Content-Encoding: gzip\r\n";
   const struct {
     const char* name;
@@ -43,15 +42,10 @@ TEST_F(ConcurrentUrlSession, AnswersAreAnswersWhateverTheirStatusAndBrokenOnesAr
   } table[] = {
       {"found", {httpAnswer(200, kTable)}, 200, kTable},
       {"not found", {httpAnswer(404, kTable)}, 404, kTable},
-      {"locked", {httpAnswer(401, kTable, challenge)}, 401, kTable},
-      {"reset", {httpAnswer(205, kTable)}, 205, kTable},
-      {"moved to nowhere", {httpAnswer(301, kTable)}, 301, kTable},
-      {"by a proxy", {httpAnswer(305, kTable, "Location: /0\r\n")}, 305, kTable},
       {"largest", {httpAnswer(200, std::string(kLimit, 'x'))}, 200, std::string(kLimit, 'x')},
       {"largest, packed", {deflated(200, text(kLimit))}, 200, text(kLimit)},
       {"too large, packed", {deflated(200, text(kLimit + 1))}},
       {"no content", {"HTTP/1.1 204 No Content\r\n\r\n"}, 204},
-      {"not modified", {"HTTP/1.1 304 Same\r\nContent-Length: 9\r\n\r\n"}, 304},
       {"broken gzip", {httpAnswer(200, "plain", gzip)}},
       {"no HTTP at all", {"SSH-2.0-server\r\n\r\n", SIZE_MAX, true}},
   };
@@ -175,6 +169,8 @@ TEST_F(ConcurrentUrlSession, LogsRequestsIfAskedAndNeverAToken) {
   };
   const LogListener log;
   ask();
+  const auto noSecret = ::testing::Not(::testing::HasSubstr("secret"));
+  EXPECT_THAT(server.requests("/nowhere"), ::testing::ElementsAre(noSecret));
   EXPECT_TRUE(LogListener::lines().isEmpty());
   QLoggingCategory::setFilterRules(QStringLiteral("quorix.network=true"));
   ask();

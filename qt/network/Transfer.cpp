@@ -1,0 +1,198 @@
+#include "qt/network/Transfer.h"
+
+#include <QLoggingCategory>
+#include <QMetaEnum>
+#include <QNetworkProxy>
+#include <QNetworkProxyFactory>
+#include <QNetworkProxyQuery>
+#include <QNetworkReply>
+#include <QSslSocket>
+#include <utility>
+
+#include "platform/foundation/TransferRules.h"
+
+namespace quorix::qt {
+namespace {
+
+using foundation::HTTPConversation;
+using foundation::HTTPProxy;
+using foundation::URLError;
+using foundation::URLResponse;
+
+constexpr qint64 kPiece = 16 * 1024;  // read at a time
+
+constexpr std::pair<QAbstractSocket::SocketError, URLError> kErrors[] = {
+    {QAbstractSocket::ConnectionRefusedError, URLError::connectionRefused},
+    {QAbstractSocket::RemoteHostClosedError, URLError::connectionClosed},
+    {QAbstractSocket::HostNotFoundError, URLError::hostNotFound},
+    {QAbstractSocket::SocketTimeoutError, URLError::timedOut},
+    {QAbstractSocket::SslHandshakeFailedError, URLError::handshakeFailed},
+    {QAbstractSocket::SslInternalError, URLError::handshakeFailed},
+    {QAbstractSocket::SslInvalidUserDataError, URLError::handshakeFailed},
+    {QAbstractSocket::ProxyAuthenticationRequiredError, URLError::proxyAuthenticationRequired},
+    {QAbstractSocket::ProxyConnectionRefusedError, URLError::proxyConnectionRefused},
+    {QAbstractSocket::ProxyConnectionClosedError, URLError::proxyConnectionClosed},
+    {QAbstractSocket::ProxyConnectionTimeoutError, URLError::proxyTimedOut},
+    {QAbstractSocket::ProxyNotFoundError, URLError::proxyNotFound},
+    {QAbstractSocket::ProxyProtocolError, URLError::unknownProxyError},
+};
+
+URLError urlError(QAbstractSocket::SocketError error) {
+  for (const auto& [each, neutral] : kErrors) {
+    if (each == error) return neutral;
+  }
+  return URLError::unknown;
+}
+
+bool isSecure(const QUrl& address) { return address.scheme() == QLatin1String("https"); }
+
+/// The first of the application's proxies that can carry the request, if there is one.
+QNetworkProxy proxyFor(const QUrl& address) {
+  for (const auto& proxy : QNetworkProxyFactory::proxyForQuery(QNetworkProxyQuery(address))) {
+    const auto can = proxy.capabilities();
+    if (proxy.type() == QNetworkProxy::NoProxy || can & QNetworkProxy::TunnelingCapability ||
+        (!isSecure(address) && proxy.type() == QNetworkProxy::HttpCachingProxy)) {
+      return proxy;
+    }
+  }
+  return QNetworkProxy::NoProxy;
+}
+
+/// The proxy as the conversation sees it. Absent for other kinds, which the socket handles.
+std::optional<HTTPProxy> httpProxy(const QNetworkProxy& proxy) {
+  if (proxy.type() != QNetworkProxy::HttpProxy && proxy.type() != QNetworkProxy::HttpCachingProxy) {
+    return std::nullopt;
+  }
+  if (proxy.user().isEmpty()) return HTTPProxy{};
+  const QString credentials = proxy.user() + ':' + proxy.password();
+  return HTTPProxy{credentials.toUtf8().toBase64().toStdString()};
+}
+
+/// One line for each request that went over the network. Silent unless the host's developer asks
+/// with QT_LOGGING_RULES="quorix.network=true".
+const QLoggingCategory& networkLog() {
+  static const QLoggingCategory category("quorix.network", QtWarningMsg);
+  return category;
+}
+
+/// Without the query and the user's name, which may hold a token.
+QByteArray loggedAddress(const QUrl& address) {
+  return address.toEncoded(QUrl::RemoveQuery | QUrl::RemoveFragment | QUrl::RemoveUserInfo);
+}
+
+/// The status of an answer, else the error's name: its text may quote the address.
+QByteArray outcome(const URLResponse& response) {
+  if (!response.error) return QByteArray::number(response.status);
+  const auto names = QMetaEnum::fromType<QNetworkReply::NetworkError>();
+  return names.valueToKey(static_cast<int>(response.error->code));
+}
+
+}  // namespace
+
+Transfer::Transfer(QUrl address, std::chrono::milliseconds timeLimit, Ended ended)
+    : address_(std::move(address)), ended_(std::move(ended)) {
+  deadline_.setSingleShot(true);
+  deadline_.setInterval(timeLimit);
+  connect(&deadline_, &QTimer::timeout, this,
+          [this] { end(foundation::failure(URLError::timedOut, "the request took too long")); });
+}
+
+Transfer::~Transfer() {
+  if (socket_) socket_->disconnect(this);
+}
+
+void Transfer::begin() {
+  deadline_.start();
+  begun_.start();
+  connectTo(address_);
+}
+
+void Transfer::connectTo(const QUrl& address) {
+  current_ = address;
+  QNetworkProxy proxy = proxyFor(current_);
+  const auto asked = httpProxy(proxy);
+  const QByteArray sent = current_.toEncoded(QUrl::RemoveUserInfo | QUrl::RemoveFragment);
+  conversation_.emplace(sent.toStdString(), asked);
+  const auto ended = [this](ConnectionRace::Socket socket, auto error, const QString& text) {
+    race_.release()->deleteLater();  // it is the caller
+    if (socket) {
+      connected(std::move(socket));
+    } else {
+      proceed(conversation_->failed(urlError(error), text.toStdString()));
+    }
+  };
+  const bool secure = isSecure(current_);
+  QString host = current_.host();
+  int port = current_.port(secure ? 443 : 80);
+  if (asked) {
+    host = proxy.hostName();
+    port = proxy.port();
+    proxy = QNetworkProxy::NoProxy;
+  }
+  race_ = std::make_unique<ConnectionRace>(host, static_cast<quint16>(port), secure, proxy, ended);
+  race_->begin();
+}
+
+void Transfer::connected(ConnectionRace::Socket socket) {
+  socket_ = std::move(socket);
+  socket_->setReadBufferSize(kPiece);  // beyond that, the server has to wait
+  connect(socket_.get(), &QTcpSocket::readyRead, this, [this] { receive(); });
+  connect(socket_.get(), &QTcpSocket::errorOccurred, this, [this] { socketFailed(); });
+  proceed(conversation_->connected());
+}
+
+void Transfer::receive() {
+  while (socket_ && conversation_->isReading() && socket_->bytesAvailable() > 0) {
+    const QByteArray bytes = socket_->read(kPiece);
+    proceed(conversation_->read({bytes.data(), static_cast<std::size_t>(bytes.size())}));
+  }
+}
+
+void Transfer::socketFailed() {
+  receive();
+  if (!socket_) return;
+  const std::string text = socket_->errorString().toStdString();
+  proceed(conversation_->failed(urlError(socket_->error()), text));
+}
+
+void Transfer::proceed(const HTTPConversation::Step& step) {
+  if (!step.send.empty()) socket_->write(step.send.data(), static_cast<qint64>(step.send.size()));
+  if (step.next == HTTPConversation::Next::encrypt) encrypt();
+  if (step.next == HTTPConversation::Next::end) answered();
+}
+
+void Transfer::encrypt() {
+  auto& secure = static_cast<QSslSocket&>(*socket_);
+  connect(&secure, &QSslSocket::encrypted, this, [this] { proceed(conversation_->encrypted()); });
+  secure.setPeerVerifyName(current_.host());  // the socket only has the IP address
+  secure.startClientEncryption();
+}
+
+void Transfer::answered() {
+  hangUp();
+  const QUrl target(QString::fromStdString(conversation_->redirect()));
+  if (target.isEmpty() || !target.isValid()) return end(conversation_->response());
+  const QUrl next = current_.resolved(target);
+  const auto refusal = foundation::refuseRedirect(current_.scheme().toStdString(),
+                                                  next.scheme().toStdString(), ++redirects_);
+  refusal ? end(*refusal) : connectTo(next);
+}
+
+void Transfer::hangUp() {
+  if (!socket_) return;
+  socket_->disconnect(this);
+  socket_->abort();
+  socket_.release()->deleteLater();  // it may be the caller
+}
+
+void Transfer::end(URLResponse response) {
+  qCInfo(networkLog).noquote() << "GET" << loggedAddress(address_) << outcome(response)
+                               << begun_.elapsed() << "ms"
+                               << (response.body ? response.body->size() : 0) << "bytes";
+  deadline_.stop();
+  race_.reset();
+  hangUp();
+  ended_(std::move(response));
+}
+
+}  // namespace quorix::qt
