@@ -4,8 +4,6 @@
 #include <QLoggingCategory>
 #include <QString>
 #include <QStringList>
-#include <QUrl>
-#include <chrono>
 #include <memory>
 
 #include "platform/foundation/Export.h"
@@ -30,7 +28,6 @@ class WebPage : public hosting::PageEngine {
     double height = 0;      ///< which only shows, under what takes input; 0 below the corners
     double radius = 0;      ///< of the corners
     double pixelRatio = 1;  ///< device pixels for each point
-    bool operator==(const Top&) const = default;
   };
 
   /// The item or widget that shows it; null once the toolkit has deleted it.
@@ -55,7 +52,7 @@ class WebComponent {
 };
 
 /// Another number whenever `WebComponent`, `WebPage` or `hosting::PageEngine` is another.
-constexpr int webComponentVersion = 5;
+constexpr int webComponentVersion = 6;
 constexpr char webComponentSymbol[] = "quorixWebComponent";
 
 /// The component, or null when it is built for another version than `version`.
@@ -101,24 +98,6 @@ QStringList folders();
 inline const QLoggingCategory& webLog() {
   static const QLoggingCategory category("quorix.web", QtCriticalMsg);
   return category;
-}
-
-/// One line about a page: its address without the query, which may name the shopper, and `what`.
-inline void logPage(const QUrl& address, const QString& what) {
-  qCWarning(webLog, "%s %s", qUtf8Printable(address.toDisplayString(QUrl::RemoveQuery)),
-            qUtf8Printable(what));
-}
-
-inline void logNotLoaded(const QUrl& address, const QString& why) {
-  logPage(address, QStringLiteral("was not loaded: ") + why);
-}
-
-inline void logNothingCame(const QUrl& address, std::chrono::milliseconds limit) {
-  logNotLoaded(address, QStringLiteral("nothing came for %1 ms").arg(limit.count()));
-}
-
-inline void logEnded(const QUrl& address) {
-  logPage(address, QStringLiteral("ended: its process crashed or was killed"));
 }
 
 }  // namespace quorix::qt

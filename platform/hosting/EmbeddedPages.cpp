@@ -9,6 +9,7 @@
 #include "platform/hosting/SheetPanel.h"
 #include "platform/layout/Geometry.h"
 #include "platform/uikit/URLOpener.h"
+#include "platform/webkit/PageScripts.h"
 
 namespace quorix::hosting {
 namespace {
@@ -16,6 +17,7 @@ namespace {
 using foundation::MainQueue;
 using std::chrono::milliseconds;
 using webkit::WebContent;
+namespace PageScripts = webkit::PageScripts;
 
 /// A page that has not answered by then hangs. With the sheet's fall, closing takes under a second.
 constexpr milliseconds patience{400};
@@ -78,6 +80,13 @@ void EmbeddedPage::loadFailed() {
   });
 }
 
+bool EmbeddedPage::mayNavigate(std::string_view scheme, std::string_view address, bool mainFrame) {
+  if (webkit::mayNavigateTo(scheme)) return true;
+  const bool byUser = gesture_.take(webkit::UserGesture::Clock::now());
+  if (byUser || mainFrame) windowAsked(address, byUser);
+  return false;
+}
+
 void EmbeddedPage::windowAsked(std::string_view address, bool byUser) {
   const auto url = foundation::URL::parse(address);
   later([kept = content_, url, byUser] { kept->askForWindow(url, byUser); });
@@ -94,50 +103,54 @@ void EmbeddedPage::processEnded() {
 
 // Keys.
 
-/// Asks the page whether it is alive, and then does `then`.
+/// Asks the page whether it is alive, and then does `then`. A page without scripts always answers:
+/// nothing can keep it busy for long.
 void EmbeddedPage::expectAnswer(std::function<void()> then) {
   onAnswer_ = std::move(then);
+  if (!content_->settings.allowsContentJavaScript) return answered(PageScripts::alive);
   if (!silence_) start(silence_, patience, [this] { silence_.reset(), owner_.pageHangs(); });
-  engine_->ask();
+  engine_->ask(PageScripts::isAlive);
 }
 
-void EmbeddedPage::answered() {
-  silence_.reset();
-  if (const auto then = std::exchange(onAnswer_, {})) then();
+void EmbeddedPage::answered(std::string_view answer) {
+  if (answer == PageScripts::alive) {
+    silence_.reset();
+    if (const auto then = std::exchange(onAnswer_, {})) then();
+  } else if (const auto direction = std::exchange(askedFor_, {})) {
+    if (answer != PageScripts::unused) return;
+    trackpadSwipe_.spend();
+    go(*direction);
+  }
 }
 
 bool EmbeddedPage::takes(Key key, bool tries) {
   if (!content_->settings.allowsBackForwardNavigationGestures) return false;
+  const auto step = key == Key::pageForward ? HistoryStep::forward : HistoryStep::back;
   const bool leads =
-      key == Key::pageForward || key == Key::pageBack || (key == Key::back && engine_->canGoBack());
+      key == Key::pageForward || key == Key::pageBack || (key == Key::back && engine_->canGo(step));
   if (!leads || tries) return leads;
-  if (key == Key::pageForward) {
-    engine_->goForward();
-  } else if (key == Key::back) {
-    expectAnswer([this] { engine_->goBack(); });  // a page that hangs goes nowhere
-  } else {
-    engine_->goBack();
-  }
+  const auto goes = [this, step] { engine_->go(step); };
+  key == Key::back ? expectAnswer(goes) : goes();  // Back: a page that hangs goes nowhere
   return true;
 }
 
 // Swipes.
 
-bool EmbeddedPage::leadsBack(SwipeDirection direction) const {
-  return (direction == SwipeDirection::right) != owner_.isRightToLeft();
+HistoryStep EmbeddedPage::stepOf(SwipeDirection direction) const {
+  const bool back = (direction == SwipeDirection::right) != owner_.isRightToLeft();
+  return back ? HistoryStep::back : HistoryStep::forward;
 }
 
 bool EmbeddedPage::leadsSomewhere(SwipeDirection direction) const {
-  if (!content_->settings.allowsBackForwardNavigationGestures) return false;
-  return leadsBack(direction) ? engine_->canGoBack() : engine_->canGoForward();
+  return content_->settings.allowsBackForwardNavigationGestures &&
+         engine_->canGo(stepOf(direction));
 }
 
 void EmbeddedPage::go(SwipeDirection direction) {
-  if (!leadsSomewhere(direction)) return;
-  leadsBack(direction) ? engine_->goBack() : engine_->goForward();
+  if (leadsSomewhere(direction)) engine_->go(stepOf(direction));
 }
 
-bool EmbeddedPage::touched(const TouchEvent& event) {
+bool EmbeddedPage::swipes(const TouchEvent& event) {
   const auto swipe = edgeSwipe_.follow(event);
   if (!swipe || !leadsSomewhere(swipe->direction)) return false;
   const bool ends = event.phase == PointerEvent::Phase::released;
@@ -145,19 +158,19 @@ bool EmbeddedPage::touched(const TouchEvent& event) {
   return true;
 }
 
+bool EmbeddedPage::touched(const TouchEvent& event) {
+  if (event.phase == PointerEvent::Phase::pressed) hasFingers_ = false;
+  if (swipes(event)) hasFingers_ = true;
+  if (hasFingers_) gesture_.forget();  // the page did not get it
+  return hasFingers_;
+}
+
 void EmbeddedPage::scrolled(const TrackpadEvent& event) {
   if (event.begins) askedFor_.reset();  // an answer is lost with the page that was asked
   const auto direction = trackpadSwipe_.follow(event);
   if (!direction || askedFor_ || !leadsSomewhere(*direction)) return;
   askedFor_ = direction;
-  engine_->askForScroll(trackpadSwipe_.began());
-}
-
-void EmbeddedPage::scrollAnswered(bool used) {
-  const auto direction = std::exchange(askedFor_, {});
-  if (used || !direction) return;
-  trackpadSwipe_.spend();
-  go(*direction);
+  engine_->ask(PageScripts::scrollSince(trackpadSwipe_.began()));
 }
 
 // All pages.

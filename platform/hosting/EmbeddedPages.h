@@ -100,20 +100,22 @@ class EmbeddedPage final : private PageEngine::Client {
   static void start(Limit& limit, std::chrono::milliseconds after, std::function<void()> work);
   void later(std::function<void()> work);
   void expectAnswer(std::function<void()> then);
-  bool leadsBack(SwipeDirection direction) const;
+  HistoryStep stepOf(SwipeDirection direction) const;
   bool leadsSomewhere(SwipeDirection direction) const;
   void go(SwipeDirection direction);
+  bool swipes(const TouchEvent& event);
 
+  bool mayNavigate(std::string_view scheme, std::string_view address, bool mainFrame) override;
   void windowAsked(std::string_view address, bool byUser) override;
   void loading(int percent) override;
   void loadEnded() override { standstill_.reset(); }
   void loadFailed() override;
   void processEnded() override;
+  void answered(std::string_view answer) override;
+  void gestured() override { gesture_.happened(webkit::UserGesture::Clock::now()); }
   void closingKeyGiven() override { expectAnswer({}); }
-  void answered() override;
   bool touched(const TouchEvent& event) override;
   void scrolled(const TrackpadEvent& event) override;
-  void scrollAnswered(bool used) override;
 
   std::shared_ptr<webkit::WebContent> content_;
   Owner& owner_;
@@ -123,7 +125,9 @@ class EmbeddedPage final : private PageEngine::Client {
   bool came_ = false;  ///< something of the load
   Limit silence_;      ///< since the page was asked
   std::function<void()> onAnswer_;
+  webkit::UserGesture gesture_;
   EdgeSwipe edgeSwipe_;
+  bool hasFingers_ = false;  ///< which swipe
   TrackpadSwipe trackpadSwipe_;
   std::optional<SwipeDirection> askedFor_;  ///< until the page says whether it used the scrolling
   std::unique_ptr<PageEngine> engine_;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <cstdint>
 #include <string_view>
 
 #include "platform/foundation/Export.h"
@@ -9,6 +10,9 @@
 
 namespace quorix::hosting {
 
+/// A step in a page's history.
+enum class HistoryStep : std::uint8_t { back, forward };
+
 /// A live web page that the toolkit's web engine shows. Destroying it takes it off the screen and
 /// ends its load. Main thread.
 class QUORIX_EXPORT PageEngine {
@@ -16,8 +20,11 @@ class QUORIX_EXPORT PageEngine {
   /// Told of the page, often within the engine's own call: do not destroy the page in it.
   class Client {
    public:
-    /// The page asks for a new window with this address, which may be empty, or for an address
-    /// that no page may load. It gets neither. `byUser`: the user's gesture caused it.
+    /// Whether the page, or without `mainFrame` a frame in it, may load `address`. An address that
+    /// it may not load can open outside the app.
+    virtual bool mayNavigate(std::string_view scheme, std::string_view address, bool mainFrame) = 0;
+    /// The page asks for a new window with this address, which may be empty. It gets none.
+    /// `byUser`: the user's gesture caused it.
     virtual void windowAsked(std::string_view address, bool byUser) = 0;
     /// A load began (0) or moved on. It is above 0 once something of the page has come.
     virtual void loading(int percent) = 0;
@@ -26,16 +33,19 @@ class QUORIX_EXPORT PageEngine {
     virtual void loadFailed() = 0;
     /// The page's process crashed or was killed.
     virtual void processEnded() = 0;
-    /// The page is about to get a key that closes a sheet. It returns the key if it does not use
+    /// The answer to `ask`; empty if it is no text.
+    virtual void answered(std::string_view answer) = 0;
+
+    // Input, before the page gets it.
+    /// The user clicked, lifted the last finger or pressed a key.
+    virtual void gestured() = 0;
+    /// The key that the page is about to get closes a sheet. The page returns it if it does not use
     /// it.
     virtual void closingKeyGiven() = 0;
-    /// The answer to `ask`.
-    virtual void answered() = 0;
-    /// Fingers touch the page. True from when the page must not get them any more.
+    /// Fingers touch the page. True from when the page must not get them any more, until the first
+    /// one touches it again. Call `gestured` before it.
     virtual bool touched(const TouchEvent& event) = 0;
     virtual void scrolled(const TrackpadEvent& event) = 0;
-    /// The answer to `askForScroll`.
-    virtual void scrollAnswered(bool used) = 0;
 
    protected:
     ~Client() = default;
@@ -48,16 +58,11 @@ class QUORIX_EXPORT PageEngine {
   virtual void load(const foundation::URL& address) = 0;
   /// Stops a load that did not move on for `limit`.
   virtual void stopLoad(std::chrono::milliseconds limit) = 0;
-  /// Asks the page's process whether it is alive. A page that hangs never answers.
-  virtual void ask() = 0;
-  /// Asks whether the page used any of the sideways scrolling since `time`, a
-  /// `TrackpadEvent::time`: it scrolled, or a script took the scrolling. A page that hangs never
-  /// answers.
-  virtual void askForScroll(double time) = 0;
-  virtual bool canGoBack() const = 0;
-  virtual bool canGoForward() const = 0;
-  virtual void goBack() = 0;
-  virtual void goForward() = 0;
+  /// Runs `script` in the world of `PageScripts::scrollNotes`, and passes on what comes of it. A
+  /// page that hangs never answers.
+  virtual void ask(std::string_view script) = 0;
+  virtual bool canGo(HistoryStep step) const = 0;
+  virtual void go(HistoryStep step) = 0;
 };
 
 }  // namespace quorix::hosting

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "platform/foundation/URL.h"
 
@@ -15,6 +16,26 @@ constexpr bool mayNavigateTo(std::string_view scheme) {
   return scheme == "https" || scheme == "http" || scheme == "about" || scheme == "blob" ||
          scheme == "data";
 }
+
+/// Remembers the user's latest click, tap or key in a page. It counts for one link to another app,
+/// within a second: the engine does not tell what caused a request. One object for each page; main
+/// thread.
+class UserGesture {
+ public:
+  using Clock = std::chrono::steady_clock;
+  static constexpr std::chrono::seconds lasts{1};
+
+  void happened(Clock::time_point now) { latest_ = now; }
+  void forget() { latest_.reset(); }
+  /// Whether a request at `now` counts as the user's. The next one does not.
+  bool take(Clock::time_point now) {
+    const auto at = std::exchange(latest_, {});
+    return at && now - *at < lasts;
+  }
+
+ private:
+  std::optional<Clock::time_point> latest_;
+};
 
 /// Decides which of a page's requests for a new window may leave the app, so that a page cannot
 /// flood the desktop. Requests by the user always leave. The first request without a gesture of the

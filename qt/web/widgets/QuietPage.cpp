@@ -8,13 +8,11 @@
 #include <QWebEngineClientCertificateSelection>
 #include <QWebEngineFileSystemAccessRequest>
 #include <QWebEngineFullScreenRequest>
-#include <QWebEngineLoadingInfo>
 #include <QWebEngineNewWindowRequest>
 #include <QWebEngineRegisterProtocolHandlerRequest>
 #include <QWebEngineScriptCollection>
 #include <QWebEngineSettings>
 
-#include "qt/Conversions.h"
 #include "qt/web/WebEngine.h"
 
 #if QT_VERSION < QT_VERSION_CHECK(6, 5, 0)
@@ -32,12 +30,13 @@
 
 namespace quorix::qt {
 
-QuietPage::QuietPage(QWebEngineProfile& profile, const WebPage::Options& options,
-                     WebPage::Client& client, PageInput& input, QObject* parent)
-    : QWebEnginePage(&profile, parent), input_(input) {
+QuietPage::QuietPage(QWebEngineProfile& profile, const WebPage::Options& options, WebPageBase& page,
+                     QObject* parent)
+    : QWebEnginePage(&profile, parent), page_(page) {
   setBackgroundColor(options.background);
   settle(options.settings);
-  tell(client);
+  scripts().insert(WebEngine::scripts());
+  tell();
   refuseRequests();
   refusePermissions();
 }
@@ -57,25 +56,16 @@ void QuietPage::settle(const webkit::WebContent::Settings& asked) {
   own.setUnknownUrlSchemePolicy(Settings::AllowAllUnknownUrlSchemes);  // so that we are asked
 }
 
-void QuietPage::tell(WebPage::Client& client) {
-  connect(this, &QWebEnginePage::loadProgress, this, [this, &client](int percent) {
-    if (isLoading()) client.loading(percent);
+void QuietPage::tell() {
+  connect(this, &QWebEnginePage::loadProgress, &page_, [this](int percent) {
+    if (isLoading()) page_.loadMoved(percent);
   });
-  connect(this, &QWebEnginePage::loadingChanged, this,
-          [&client](const QWebEngineLoadingInfo& info) {
-            if (info.status() == QWebEngineLoadingInfo::LoadStartedStatus) return client.loading(0);
-            client.loadEnded();
-            if (info.status() != QWebEngineLoadingInfo::LoadFailedStatus) return;
-            WebEngine::loadFailed(client, info.url(), info.errorString(), info.errorCode());
+  connect(this, &QWebEnginePage::loadingChanged, &page_, &WebPageBase::loadChanged);
+  connect(this, &QWebEnginePage::newWindowRequested, &page_,
+          [this](const QWebEngineNewWindowRequest& request) {
+            page_.askForWindow(request.requestedUrl(), request.isUserInitiated());
           });
-  connect(this, &QWebEnginePage::newWindowRequested, this,
-          [&client](const QWebEngineNewWindowRequest& request) {
-            client.windowAsked(toText(request.requestedUrl()), request.isUserInitiated());
-          });
-  connect(this, &QWebEnginePage::renderProcessTerminated, this, [this, &client] {
-    logEnded(url());
-    client.processEnded();
-  });
+  connect(this, &QWebEnginePage::renderProcessTerminated, &page_, &WebPageBase::processEnded);
 }
 
 void QuietPage::refuseRequests() {
@@ -105,7 +95,6 @@ void QuietPage::refuseRequests() {
 }
 
 void QuietPage::refusePermissions() {
-  scripts().insert({WebEngine::refusals(), WebEngine::scrollNotes()});
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
   connect(this, &QWebEnginePage::permissionRequested, this,
           [](const QWebEnginePermission& permission) { permission.deny(); });
