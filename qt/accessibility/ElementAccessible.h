@@ -33,6 +33,11 @@ class ElementAccessible : public QAccessibleInterface, public QAccessibleActionI
   void doAction(const QString& name) override;
   QStringList keyBindingsForAction(const QString&) const override { return {}; }
 
+ protected:
+  QObject* owner() const { return owner_; }
+  /// Null while its owner is being deleted.
+  AccessibleSurface* surface() const { return AccessibilityBridge::surfaceOf(owner_); }
+
  private:
   const render::AccessibilityElement* element() const;
 

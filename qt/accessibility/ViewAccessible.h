@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QAccessibleObject>
 #include <string>
 #include <vector>
 
@@ -11,7 +10,7 @@ namespace quorix::qt {
 
 /// A surface as assistive technology meets it: a group of its scene's elements, a dialog when it is
 /// a sheet, or, where the whole view is one element, that element itself.
-class ViewAccessible : public QAccessibleObject, public QAccessibleActionInterface {
+class ViewAccessible : public ElementAccessible {
  public:
   explicit ViewAccessible(QObject* owner);
   ~ViewAccessible() override;
@@ -25,7 +24,8 @@ class ViewAccessible : public QAccessibleObject, public QAccessibleActionInterfa
   /// Tells when something modal came over it, or went.
   QUORIX_EXPORT static void coverChanged(QObject& owner);
 
-  QWindow* window() const override;
+  bool isValid() const override { return object() != nullptr; }
+  QObject* object() const override { return owner(); }
   QRect rect() const override;
   QString text(QAccessible::Text kind) const override;
   QAccessible::Role role() const override;
@@ -34,13 +34,11 @@ class ViewAccessible : public QAccessibleObject, public QAccessibleActionInterfa
 
   QAccessibleInterface* parent() const override;
   QAccessibleInterface* child(int index) const override;
+  QAccessibleInterface* childAt(int x, int y) const override;
   int childCount() const override;
   int indexOfChild(const QAccessibleInterface* child) const override;
 
   void* interface_cast(QAccessible::InterfaceType type) override;
-  QStringList actionNames() const override;
-  void doAction(const QString& name) override;
-  QStringList keyBindingsForAction(const QString&) const override { return {}; }
 
  private:
   /// What assistive technology was last told of an element.
@@ -49,7 +47,6 @@ class ViewAccessible : public QAccessibleObject, public QAccessibleActionInterfa
     std::string hint;
   };
 
-  AccessibleSurface* surface() const;
   std::vector<Told> toTell() const;
   bool isSoleElement() const;
   void syncChildren() const;
@@ -58,9 +55,8 @@ class ViewAccessible : public QAccessibleObject, public QAccessibleActionInterfa
   /// The elements, and then those.
   std::vector<QAccessibleInterface*> children() const;
   void update();
-  void tell(QAccessible::Event event, std::size_t index) const;
+  void tell(QAccessible::Event event, std::size_t index);
 
-  ElementAccessible sole_;
   mutable std::vector<QAccessible::Id> elements_;
   std::vector<Told> told_;
   bool covered_;  ///< as told last
