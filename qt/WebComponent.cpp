@@ -37,13 +37,28 @@ QString ownFolder() {
   return {};
 }
 
+/// Where the libraries are looked for, in order.
+QStringList searchedFolders() {
+  const QString program = QCoreApplication::applicationDirPath();
+  QStringList all = {program, program + QStringLiteral("/quorix")};
+  const QString own = ownFolder();
+  if (!own.isEmpty()) all << own << own + QStringLiteral("/quorix");
+#ifdef QUORIX_WEB_FROM_PROGRAM
+  all.append(program + QStringLiteral("/" QUORIX_WEB_FROM_PROGRAM));
+#endif
+#ifdef QUORIX_WEB_BUILD_FOLDER
+  all.append(QStringLiteral(QUORIX_WEB_BUILD_FOLDER));
+#endif
+  return all;
+}
+
 QString fileOf(const QString& name) {
 #if defined(Q_OS_WIN)
   const QString file = name + QStringLiteral(".dll");
 #else
   const QString file = QStringLiteral("lib") + name + QStringLiteral(".so");
 #endif
-  const QStringList folders = WebComponentLoader::folders();
+  const QStringList folders = searchedFolders();
   for (const QString& folder : folders) {
     const QFileInfo found(folder + QLatin1Char('/') + file);
     if (found.isFile()) return found.absoluteFilePath();
@@ -74,20 +89,6 @@ WebComponent* loaded(const QString& name) {
 }
 
 }  // namespace
-
-QStringList WebComponentLoader::folders() {
-  const QString program = QCoreApplication::applicationDirPath();
-  QStringList all = {program, program + QStringLiteral("/quorix")};
-  const QString own = ownFolder();
-  if (!own.isEmpty()) all << own << own + QStringLiteral("/quorix");
-#ifdef QUORIX_WEB_FROM_PROGRAM
-  all.append(program + QStringLiteral("/" QUORIX_WEB_FROM_PROGRAM));
-#endif
-#ifdef QUORIX_WEB_BUILD_FOLDER
-  all.append(QStringLiteral(QUORIX_WEB_BUILD_FOLDER));
-#endif
-  return all;
-}
 
 bool WebComponentLoader::isThere(const QString& name) { return !fileOf(name).isEmpty(); }
 

@@ -3,7 +3,6 @@
 #include <QColor>
 #include <QLoggingCategory>
 #include <QString>
-#include <QStringList>
 #include <memory>
 
 #include "platform/foundation/Export.h"
@@ -87,9 +86,6 @@ QUORIX_EXPORT bool isThere(const QString& name);
 bool isLoaded(const QString& name);
 /// The component, or null when it is missing, does not load or is of another version.
 WebComponent* load(const QString& name);
-
-/// Where they are looked for, in order.
-QStringList folders();
 
 }  // namespace WebComponentLoader
 

@@ -73,6 +73,11 @@ void EmbeddedPage::loading(int percent) {
   });
 }
 
+void EmbeddedPage::loadEnded(int error) {
+  standstill_.reset();
+  if (webkit::broughtNothing(error)) loadFailed();
+}
+
 void EmbeddedPage::loadFailed() {
   later([this, kept = content_] {
     owner_.pageEnded();

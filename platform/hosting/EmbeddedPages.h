@@ -103,13 +103,13 @@ class EmbeddedPage final : private PageEngine::Client {
   HistoryStep stepOf(SwipeDirection direction) const;
   bool leadsSomewhere(SwipeDirection direction) const;
   void go(SwipeDirection direction);
+  void loadFailed();
   bool swipes(const TouchEvent& event);
 
   bool mayNavigate(std::string_view scheme, std::string_view address, bool mainFrame) override;
   void windowAsked(std::string_view address, bool byUser) override;
   void loading(int percent) override;
-  void loadEnded() override { standstill_.reset(); }
-  void loadFailed() override;
+  void loadEnded(int error) override;
   void processEnded() override;
   void answered(std::string_view answer) override;
   void gestured() override { gesture_.happened(webkit::UserGesture::Clock::now()); }

@@ -28,9 +28,8 @@ class QUORIX_EXPORT PageEngine {
     virtual void windowAsked(std::string_view address, bool byUser) = 0;
     /// A load began (0) or moved on. It is above 0 once something of the page has come.
     virtual void loading(int percent) = 0;
-    virtual void loadEnded() = 0;
-    /// A load failed before anything of it came.
-    virtual void loadFailed() = 0;
+    /// A load ended, with the number of the engine's network error or 0.
+    virtual void loadEnded(int error) = 0;
     /// The page's process crashed or was killed.
     virtual void processEnded() = 0;
     /// The answer to `ask`; empty if it is no text.

@@ -17,6 +17,11 @@ constexpr bool mayNavigateTo(std::string_view scheme) {
          scheme == "data";
 }
 
+/// Whether a load that ended with this network error of the engine's brought nothing: errors from
+/// here down are the network's, the server's certificate's and HTTP's own. The others leave what
+/// was there, such as a load that another one replaced.
+constexpr bool broughtNothing(int error) { return error <= -100; }
+
 /// Remembers the user's latest click, tap or key in a page. It counts for one link to another app,
 /// within a second: the engine does not tell what caused a request. One object for each page; main
 /// thread.

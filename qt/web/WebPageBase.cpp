@@ -41,12 +41,9 @@ void WebPageBase::stopLoad(std::chrono::milliseconds limit) {
 
 void WebPageBase::loadChanged(const QWebEngineLoadingInfo& info) {
   if (info.status() == QWebEngineLoadingInfo::LoadStartedStatus) return client_.loading(0);
-  client_.loadEnded();
-  if (info.status() != QWebEngineLoadingInfo::LoadFailedStatus) return;
-  logNotLoaded(info.url(), info.errorString());
-  // From here down they are the network's, the server's certificate's and HTTP's own.
-  constexpr int broughtNothing = -100;
-  if (info.errorCode() <= broughtNothing) client_.loadFailed();
+  const bool failed = info.status() == QWebEngineLoadingInfo::LoadFailedStatus;
+  if (failed) logNotLoaded(info.url(), info.errorString());
+  client_.loadEnded(failed ? info.errorCode() : 0);
 }
 
 void WebPageBase::processEnded() {

@@ -234,7 +234,7 @@ TEST(SessionPage, HasLimitedTime) {
     window.open();
     window.engine->client.loading(0);
     window.engine->client.loading(30);
-    if (ends) window.engine->client.loadEnded();
+    if (ends) window.engine->client.loadEnded(0);
     window.wait();
     EXPECT_EQ(window.engine->log, ends ? "load " : "load stop ");
     EXPECT_EQ(window.failures, 0) << "what has come stays";
@@ -244,6 +244,17 @@ TEST(SessionPage, HasLimitedTime) {
   window.engine->client.loading(0);
   window.wait();
   EXPECT_EQ(window.failures, 1);
+}
+
+TEST(SessionPage, FailsWithAnErrorOfTheNetwork) {
+  constexpr int aborted = -3, connectionClosed = -100, unknownHost = -105, notFound = 404;
+  for (const int error : {0, aborted, -99, connectionClosed, unknownHost, notFound}) {
+    PageWindow window;
+    window.open();
+    window.engine->client.loadEnded(error);
+    window.settle();
+    EXPECT_EQ(window.failures, error == connectionClosed || error == unknownHost) << error;
+  }
 }
 
 TEST(SessionPage, ThatEndsTellsItsContentOutsideTheEnginesCall) {
