@@ -16,10 +16,9 @@
 namespace quorix::qt {
 namespace {
 
-/// The folder of the library that this code stands in, or nothing when that is not known for
-/// certain. A program that holds this code itself is named as it was called, be it by a whole path,
-/// which says nothing of where it is, and neither does a library that was loaded by a relative
-/// path.
+/// The folder of the shared library that holds this code; empty unless that is certain. A program
+/// is named by how it was called, which may be any path, and a library that was loaded by a
+/// relative path by that path: neither says where the file is.
 QString ownFolder() {
 #ifdef Q_OS_UNIX
   Dl_info info;
@@ -37,7 +36,7 @@ QString ownFolder() {
   return {};
 }
 
-/// Where the libraries are looked for, in order.
+/// In the order of the search.
 QStringList searchedFolders() {
   const QString program = QCoreApplication::applicationDirPath();
   QStringList all = {program, program + QStringLiteral("/quorix")};

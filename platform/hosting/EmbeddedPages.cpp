@@ -1,7 +1,6 @@
 #include "platform/hosting/EmbeddedPages.h"
 
 #include <algorithm>
-#include <cmath>
 #include <limits>
 #include <utility>
 
@@ -19,7 +18,8 @@ using std::chrono::milliseconds;
 using webkit::WebContent;
 namespace PageScripts = webkit::PageScripts;
 
-/// A page that has not answered by then hangs. With the sheet's fall, closing takes under a second.
+/// A page that does not answer for so long hangs. With the sheet's fall, closing takes under a
+/// second.
 constexpr milliseconds patience{400};
 
 milliseconds toMilliseconds(foundation::URLRequest::Seconds seconds) {
@@ -108,8 +108,8 @@ void EmbeddedPage::processEnded() {
 
 // Keys.
 
-/// Asks the page whether it is alive, and then does `then`. A page without scripts always answers:
-/// nothing can keep it busy for long.
+/// Asks the page whether it is alive and runs `then` when it answers. A page without scripts counts
+/// as alive: nothing can keep it busy for long.
 void EmbeddedPage::expectAnswer(std::function<void()> then) {
   onAnswer_ = std::move(then);
   if (!content_->settings.allowsContentJavaScript) return answered(PageScripts::alive);
@@ -135,7 +135,7 @@ bool EmbeddedPage::takes(Key key, bool tries) {
       key == Key::pageForward || key == Key::pageBack || (key == Key::back && engine_->canGo(step));
   if (!leads || tries) return leads;
   const auto goes = [this, step] { engine_->go(step); };
-  key == Key::back ? expectAnswer(goes) : goes();  // Back: a page that hangs goes nowhere
+  key == Key::back ? expectAnswer(goes) : goes();  // a page that hangs goes nowhere
   return true;
 }
 
@@ -171,7 +171,7 @@ bool EmbeddedPage::touched(const TouchEvent& event) {
 }
 
 void EmbeddedPage::scrolled(const TrackpadEvent& event) {
-  if (event.begins) askedFor_.reset();  // an answer is lost with the page that was asked
+  if (event.begins) askedFor_.reset();  // a page that is gone does not answer
   const auto direction = trackpadSwipe_.follow(event);
   if (!direction || askedFor_ || !leadsSomewhere(*direction)) return;
   askedFor_ = direction;
@@ -249,55 +249,6 @@ std::vector<PageEngine*> EmbeddedPages::shown() const {
     if (page->engine().isShown()) all.push_back(&page->engine());
   }
   return all;
-}
-
-namespace {
-
-// In points.
-constexpr double edge = 20;            ///< a finger starts within it
-constexpr double slop = 10;            ///< what a finger moves before its direction is certain
-constexpr double fingerDistance = 60;  ///< of a swipe that counts
-constexpr double trackpadDistance = 80;
-
-/// Of a trackpad's way: a vertical scroll is seldom quite vertical.
-constexpr double steepest = 0.5;
-
-}  // namespace
-
-std::optional<EdgeSwipe::Swipe> EdgeSwipe::follow(const TouchEvent& event) {
-  if (event.phase == PointerEvent::Phase::pressed) {
-    finger_.reset();
-    if (event.point.x < edge) finger_ = {event.point, SwipeDirection::right};
-    if (event.point.x > event.pageWidth - edge) finger_ = {event.point, SwipeDirection::left};
-  }
-  if (event.fingers != 1) finger_.reset();
-  if (!finger_) return std::nullopt;
-  const double right = event.point.x - finger_->start.x;
-  const double inward = finger_->direction == SwipeDirection::right ? right : -right;
-  const double across = std::abs(event.point.y - finger_->start.y);
-  if (!finger_->swipes) {
-    if (std::max(std::abs(inward), across) < slop) return std::nullopt;
-    finger_->swipes = inward > across;
-    if (!finger_->swipes) finger_.reset();
-  }
-  if (!finger_) return std::nullopt;
-  return Swipe{finger_->direction, inward >= fingerDistance};
-}
-
-std::optional<SwipeDirection> TrackpadSwipe::follow(const TrackpadEvent& event) {
-  const bool begins = event.begins || (event.byFingers && !moves_);
-  moves_ = event.byFingers;
-  if (begins) {
-    spent_ = false;
-    began_ = event.time;
-    way_ = {};
-  }
-  if (!moves_ || spent_) return std::nullopt;
-  way_.x += event.x;
-  way_.y += event.y;
-  const double sideways = std::abs(way_.x);
-  if (sideways < trackpadDistance || std::abs(way_.y) > sideways * steepest) return std::nullopt;
-  return way_.x > 0 ? SwipeDirection::right : SwipeDirection::left;
 }
 
 }  // namespace quorix::hosting

@@ -1,72 +1,30 @@
 #pragma once
 
 #include <chrono>
-#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
 
 #include "platform/foundation/Export.h"
-#include "platform/hosting/Input.h"
 #include "platform/hosting/PageEngine.h"
+#include "platform/hosting/PageSwipe.h"
 #include "platform/render/Scene.h"
 #include "platform/webkit/WebContent.h"
 
 namespace quorix::hosting {
 
-/// Where a swipe moves a page.
-enum class SwipeDirection : std::uint8_t { right, left };
-
-/// Recognizes the swipe of a finger from a side of a page towards its middle. Main thread.
-class EdgeSwipe {
- public:
-  struct Swipe {
-    SwipeDirection direction;
-    bool isFar;  ///< to count when the finger is lifted
-  };
-
-  /// Absent until the finger certainly swipes, so that taps and vertical drags are the page's. From
-  /// then on the page must not get the finger.
-  std::optional<Swipe> follow(const TouchEvent& event);
-
- private:
-  struct Finger {
-    layout::Point start;
-    SwipeDirection direction;
-    bool swipes = false;
-  };
-  std::optional<Finger> finger_;
-};
-
-/// Recognizes the sideways swipe of two fingers on a trackpad. Main thread.
-class TrackpadSwipe {
- public:
-  /// Absent until the fingers have come far enough sideways, and once they left the trackpad.
-  std::optional<SwipeDirection> follow(const TrackpadEvent& event);
-  /// When the fingers began, as a `TrackpadEvent::time`.
-  double began() const { return began_; }
-  /// The swipe counted: recognizes the next one only after the fingers left the trackpad.
-  void spend() { spent_ = true; }
-
- private:
-  bool moves_ = false;
-  bool spent_ = false;
-  double began_ = 0;
-  layout::Point way_{};
-};
-
 /// The web content of an embed with the engine that shows it: loads what the content loads, passes
-/// on what the page asks for, and limits the time of both. Main thread.
+/// on what the page asks for, and limits how long a load or an answer may take. Main thread.
 class EmbeddedPage final : private PageEngine::Client {
  public:
-  /// Shows the page. Both are called outside the engine's own calls.
+  /// Shows the page. `pageHangs` and `pageEnded` are called outside the engine's own calls.
   class Owner {
    public:
     /// Null where no engine can show a page.
     virtual std::unique_ptr<PageEngine> openPage(const render::EmbedItem& embed,
                                                  PageEngine::Client& client) = 0;
-    /// A key that closes was left to a page that hangs.
+    /// The page did not answer after a key that closes the sheet.
     virtual void pageHangs() = 0;
     /// The page shows nothing any more, and takes no keys.
     virtual void pageEnded() = 0;
@@ -91,7 +49,7 @@ class EmbeddedPage final : private PageEngine::Client {
   bool takes(Key key, bool tries);
 
  private:
-  /// Runs out when it is not stopped in time.
+  /// Runs its work after a time, unless it is reset before.
   using Limit = std::shared_ptr<std::function<void()>>;
 
   EmbeddedPage(std::shared_ptr<webkit::WebContent> content, Owner& owner)
@@ -122,12 +80,12 @@ class EmbeddedPage final : private PageEngine::Client {
   std::shared_ptr<EmbeddedPage*> alive_ = std::make_shared<EmbeddedPage*>(this);
   std::chrono::milliseconds patience_ = foundation::URLRequest::defaultTimeout;  ///< of a load
   Limit standstill_;   ///< since the load last moved on
-  bool came_ = false;  ///< something of the load
+  bool came_ = false;  ///< something of the load arrived
   Limit silence_;      ///< since the page was asked
   std::function<void()> onAnswer_;
   webkit::UserGesture gesture_;
   EdgeSwipe edgeSwipe_;
-  bool hasFingers_ = false;  ///< which swipe
+  bool hasFingers_ = false;  ///< they swipe: the page does not get them
   TrackpadSwipe trackpadSwipe_;
   std::optional<SwipeDirection> askedFor_;  ///< until the page says whether it used the scrolling
   std::unique_ptr<PageEngine> engine_;
@@ -152,8 +110,8 @@ class EmbeddedPages {
   explicit EmbeddedPages(EmbeddedPage::Owner& owner) : owner_(owner) {}
 
   static bool hasPages(const render::Scene& scene);
-  /// Opens what is new in `scene` and closes what is no longer there. False when a page did not
-  /// come up.
+  /// Opens what is new in `scene` and closes what is no longer there. False when a page could
+  /// not be opened.
   bool follow(const render::Scene& scene);
   /// Tells where each page stands in `panel`, from the bottom up, which is also the order of the
   /// keyboard focus.

@@ -20,19 +20,19 @@ class QUORIX_EXPORT PageEngine {
   /// Told of the page, often within the engine's own call: do not destroy the page in it.
   class Client {
    public:
-    /// Whether the page, or without `mainFrame` a frame in it, may load `address`. An address that
-    /// it may not load can open outside the app.
+    /// Whether the page (`mainFrame`) or a frame in it may load `address`. If not, the address may
+    /// open outside the app.
     virtual bool mayNavigate(std::string_view scheme, std::string_view address, bool mainFrame) = 0;
     /// The page asks for a new window with this address, which may be empty. It gets none.
     /// `byUser`: the user's gesture caused it.
     virtual void windowAsked(std::string_view address, bool byUser) = 0;
     /// A load began (0) or moved on. It is above 0 once something of the page has come.
     virtual void loading(int percent) = 0;
-    /// A load ended, with the number of the engine's network error or 0.
+    /// A load ended. `error`: the number of the engine's network error, or 0.
     virtual void loadEnded(int error) = 0;
     /// The page's process crashed or was killed.
     virtual void processEnded() = 0;
-    /// The answer to `ask`; empty if it is no text.
+    /// The result of a script that `ask` ran; empty if it is no text.
     virtual void answered(std::string_view answer) = 0;
 
     // Input, before the page gets it.
@@ -41,8 +41,8 @@ class QUORIX_EXPORT PageEngine {
     /// The key that the page is about to get closes a sheet. The page returns it if it does not use
     /// it.
     virtual void closingKeyGiven() = 0;
-    /// Fingers touch the page. True from when the page must not get them any more, until the first
-    /// one touches it again. Call `gestured` before it.
+    /// Fingers touch the page. True from when the page must not get them any more, until all have
+    /// left it. Call `gestured` before the release.
     virtual bool touched(const TouchEvent& event) = 0;
     virtual void scrolled(const TrackpadEvent& event) = 0;
 
@@ -57,8 +57,8 @@ class QUORIX_EXPORT PageEngine {
   virtual void load(const foundation::URL& address) = 0;
   /// Stops a load that did not move on for `limit`.
   virtual void stopLoad(std::chrono::milliseconds limit) = 0;
-  /// Runs `script` in the world of `PageScripts::scrollNotes`, and passes on what comes of it. A
-  /// page that hangs never answers.
+  /// Runs `script` in the world of `PageScripts::scrollNotes` and passes the result to `answered`.
+  /// A page that hangs never answers.
   virtual void ask(std::string_view script) = 0;
   virtual bool canGo(HistoryStep step) const = 0;
   virtual void go(HistoryStep step) = 0;

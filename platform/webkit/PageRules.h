@@ -17,14 +17,13 @@ constexpr bool mayNavigateTo(std::string_view scheme) {
          scheme == "data";
 }
 
-/// Whether a load that ended with this network error of the engine's brought nothing: errors from
-/// here down are the network's, the server's certificate's and HTTP's own. The others leave what
-/// was there, such as a load that another one replaced.
+/// Whether a load that ended with this network error of the engine brought nothing. Errors from
+/// -100 down are those of the connection, the server's certificate and HTTP.
 constexpr bool broughtNothing(int error) { return error <= -100; }
 
-/// Remembers the user's latest click, tap or key in a page. It counts for one link to another app,
-/// within a second: the engine does not tell what caused a request. One object for each page; main
-/// thread.
+/// Remembers the user's latest click, tap or key in a page, since the engine does not tell what
+/// caused a link to another app. The gesture counts for one such link, for a second. One object for
+/// each page; main thread.
 class UserGesture {
  public:
   using Clock = std::chrono::steady_clock;

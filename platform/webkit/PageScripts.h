@@ -18,7 +18,7 @@ constexpr char refusals[] = R"(
     })";
 
 /// Notes which sideways scrolling the page uses, for `scrollSince`. Runs before the page's own
-/// scripts, but only if these run too, and in a world of its own.
+/// scripts, in a world of its own, and only in a page that may run scripts.
 constexpr char scrollNotes[] = R"(
     (() => {
       let seen = 0, used = 0;
@@ -42,11 +42,11 @@ constexpr char scrollNotes[] = R"(
           since => seen >= since && used < since ? 'unused' : 'used or not seen';
     })())";
 
-/// A question with its answer: whether the page's process is alive.
+/// Asks whether the page's process is alive. It answers `alive`.
 constexpr std::string_view isAlive = "'alive'", alive = "alive";
 
-/// A question with its answer: whether the page saw sideways scrolling since `time`, in
-/// milliseconds since 1970, and used none of it. Any other answer means that it may have used some.
+/// Asks about the sideways scrolling since `time`, in milliseconds since 1970. The answer is
+/// `unused` if the page saw some and used none of it.
 inline std::string scrollSince(double time) {
   return "quorixScrollSince(" + std::to_string(static_cast<long long>(time)) + ")";
 }

@@ -10,7 +10,8 @@ namespace quorix::qt {
 namespace {
 
 QHash<const QObject*, AccessibleSurface*>& surfaces() {
-  static auto& all = *new QHash<const QObject*, AccessibleSurface*>;  // views may end last
+  static auto& all =
+      *new QHash<const QObject*, AccessibleSurface*>;  // never deleted: views may be destroyed last
   return all;
 }
 

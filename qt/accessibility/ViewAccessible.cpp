@@ -7,7 +7,7 @@
 namespace quorix::qt {
 namespace {
 
-/// The interface of `owner`, made when it is asked for the first time, if anybody listens.
+/// The interface of `owner`, made on first use; null while no assistive technology listens.
 ViewAccessible* listening(QObject& owner) {
   if (!AccessibilityBridge::isActive()) return nullptr;
   return dynamic_cast<ViewAccessible*>(QAccessible::queryAccessibleInterface(&owner));
@@ -61,7 +61,7 @@ void ViewAccessible::focusChanged(QObject& owner, Qt::ConnectionType when) {
   QMetaObject::invokeMethod(&owner, sayFocus, when);
 }
 
-// A reader keeps what it was told: it would go on reading what lies behind a sheet.
+// Screen readers cache: without Hide they would go on reading what is behind a sheet.
 void ViewAccessible::coverChanged(QObject& owner) {
   ViewAccessible* self = listening(owner);
   const AccessibleSurface* shown = self ? self->surface() : nullptr;
@@ -109,7 +109,7 @@ QString ViewAccessible::text(QAccessible::Text kind) const {
   if (isSoleElement()) return ElementAccessible::text(kind);
   AccessibleSurface* shown = surface();
   if (!shown || !shown->isDialog() || kind != QAccessible::Name) return {};
-  // A dialog bears the name of the first text in it, or else of its page.
+  // A dialog is named after its first text without an action, or else after its page.
   for (const auto& element : shown->responder().elements()) {
     if (!element.action) return QString::fromStdString(element.label);
   }

@@ -8,20 +8,19 @@
 
 namespace quorix::qt {
 
-/// A surface as assistive technology meets it: a group of its scene's elements, a dialog when it is
-/// a sheet, or, where the whole view is one element, that element itself.
+/// A surface for assistive technology: a group of its scene's elements, a dialog if it is a sheet,
+/// or, if the whole view is one element, that element itself.
 class ViewAccessible : public ElementAccessible {
  public:
   explicit ViewAccessible(QObject* owner);
   ~ViewAccessible() override;
 
-  /// Tells assistive technology, if it listens, what differs from the scene that it was told of
-  /// last.
+  /// Tells assistive technology, if it listens, what changed in the scene since the last call.
   QUORIX_EXPORT static void sceneChanged(QObject& owner);
   /// Tells where the focus is: now, or on a later turn.
   QUORIX_EXPORT static void focusChanged(QObject& owner,
                                          Qt::ConnectionType when = Qt::DirectConnection);
-  /// Tells when something modal came over it, or went.
+  /// Tells if something modal covers it from now on, or no longer.
   QUORIX_EXPORT static void coverChanged(QObject& owner);
 
   bool isValid() const override { return object() != nullptr; }
@@ -50,9 +49,9 @@ class ViewAccessible : public ElementAccessible {
   std::vector<Told> toTell() const;
   bool isSoleElement() const;
   void syncChildren() const;
-  /// What tells of itself among the children.
+  /// The interfaces of `AccessibleSurface::accessibleViews`.
   std::vector<QAccessibleInterface*> views() const;
-  /// The elements, and then those.
+  /// The elements, then `views`.
   std::vector<QAccessibleInterface*> children() const;
   void update();
   void tell(QAccessible::Event event, std::size_t index);

@@ -16,7 +16,7 @@
 namespace quorix::qt {
 namespace {
 
-/// The engine does not sandbox for root, and ends a process that asks it to.
+/// The engine has no sandbox for root: unless that is turned off, it ends the process.
 bool isRefused() {
 #ifdef Q_OS_LINUX
   const bool sandboxed = qEnvironmentVariableIsEmpty("QTWEBENGINE_DISABLE_SANDBOX") &&
@@ -35,8 +35,8 @@ bool isRefused() {
 bool WebEngine::start() {
   static const bool started = [] {
     if (isRefused()) return false;
-    // The engine crashes where there is nothing to share with. The call comes late, of which Qt
-    // warns; what was drawn before does not share, which is for the toolkits to look at.
+    // The engine crashes without a share context. Qt warns that this call comes late: contexts that
+    // exist already do not share with the new one, so a toolkit checks its window.
     if (!QOpenGLContext::globalShareContext()) QtWebEngineQuick::initialize();
     return true;
   }();
@@ -44,7 +44,7 @@ bool WebEngine::start() {
 }
 
 void WebEngine::openToReaders() {
-  // Newer engines notice when assistive technology comes, but not that it is there already.
+  // Newer engines notice when assistive technology starts, but not if it did before them.
   if (QAccessible::isActive()) QAccessible::setActive(true);
 }
 

@@ -5,17 +5,17 @@
 
 namespace quorix::qt {
 
-/// What Qt WebEngine wants before its first view, in either toolkit. The library leaves the
-/// engine's sandbox and flags to the host. Main thread.
+/// Prepares Qt WebEngine, for either toolkit. The library leaves the engine's sandbox and flags to
+/// the host. Main thread.
 namespace WebEngine {
 
-/// Readies the engine on first call. False, with a word on the log, where it would end the process.
+/// Starts the engine on the first call. False if it would end the process; the log says why.
 bool start();
 
-/// After the first profile was made, before its first page: lets assistive technology read pages.
+/// Lets assistive technology read pages. Call it after the first profile and before its first page.
 void openToReaders();
 
-/// What runs in each page beside its own scripts.
+/// The scripts that run in each page beside its own.
 QList<QWebEngineScript> scripts();
 
 }  // namespace WebEngine

@@ -13,7 +13,7 @@ namespace {
 
 using Phase = hosting::PointerEvent::Phase;
 
-/// One line on the log about a page: its address without the query, which may name the shopper.
+/// Logs the page's address without its query, which may name the shopper.
 void logPage(const QUrl& address, const QString& what) {
   qCWarning(webLog, "%s %s", qUtf8Printable(address.toDisplayString(QUrl::RemoveQuery)),
             qUtf8Printable(what));
@@ -110,7 +110,7 @@ bool WebPageBase::takesTouch(QObject& receiver, const QTouchEvent& event) {
   return takes;
 }
 
-/// A mouse's wheel has no phases.
+/// A mouse's wheel reports no phases: only trackpads swipe.
 void WebPageBase::tellScroll(const QWheelEvent& event) {
   if (event.phase() == Qt::NoScrollPhase) return;
   const bool begins = event.phase() == Qt::ScrollBegin;

@@ -13,12 +13,12 @@ class QWheelEvent;
 
 namespace quorix::qt {
 
-/// What the pages of both toolkits share: tells the client what the engine tells of a page, and
-/// what the user does in it before the engine gets it. Main thread.
+/// Shared by the pages of both toolkits: tells the client what the engine reports, and what the
+/// user does in the page before the engine gets it. Main thread.
 ///
-/// A finger that the client takes ends for the page as a cancelled touch. Escape is sent to the
-/// page without its character: the engine returns the keys that a page does not use, except those
-/// that stand for a character, which it takes Escape for.
+/// When the client takes the fingers, the page gets a cancelled touch. Escape reaches the page
+/// without its character: the engine returns a key that the page does not use only if the key has
+/// no character.
 class WebPageBase : public QObject, public WebPage {
   Q_OBJECT
 
@@ -28,7 +28,7 @@ class WebPageBase : public QObject, public WebPage {
   void load(const foundation::URL& address) override;
   void stopLoad(std::chrono::milliseconds limit) override;
 
-  // The engine tells or asks.
+  // What the engine reports or asks.
   Q_INVOKABLE bool mayNavigate(const QUrl& address, bool mainFrame) {
     return client_.mayNavigate(address.scheme().toStdString(), toText(address), mainFrame);
   }
@@ -41,8 +41,8 @@ class WebPageBase : public QObject, public WebPage {
   Q_INVOKABLE void answer(const QString& text) { client_.answered(text.toStdString()); }
 
  protected:
-  /// Whether an event for `receiver` is the page's: what the engine has in the page's view, and the
-  /// window while the page has the focus.
+  /// Whether events for `receiver` are the page's. They are if it is inside the page's view, or if
+  /// it is the window and the page has the focus.
   virtual bool isForPage(const QObject& receiver) const = 0;
   bool eventFilter(QObject* watched, QEvent* event) override;
 

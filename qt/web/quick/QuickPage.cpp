@@ -32,7 +32,7 @@ std::unique_ptr<QuickPage> QuickPage::make(QQmlComponent& source, QQuickWebEngin
     return nullptr;
   }
   QQmlEngine::setObjectOwnership(made, QQmlEngine::CppOwnership);
-  page->view_->setFlag(QQuickItem::ItemAcceptsDrops, false);  // files are not for pages
+  page->view_->setFlag(QQuickItem::ItemAcceptsDrops, false);  // a page gets no files
   page->view_->setParentItem(&place);
   return page;
 }
@@ -71,8 +71,8 @@ void QuickPage::go(hosting::HistoryStep step) {
 
 namespace {
 
-/// Whether what the engine draws can be seen in `window`: where both draw with OpenGL, their
-/// contexts have to share, and a context that is there already can no longer begin to.
+/// Whether `window` can show what the engine draws. If both draw with OpenGL, their contexts must
+/// share, which a context that exists already can no longer be made to do.
 bool reaches(QQuickWindow& window) {
   QSGRendererInterface* drawn = window.rendererInterface();
   if (drawn->graphicsApi() != QSGRendererInterface::OpenGL) return true;
@@ -97,7 +97,7 @@ class QuickWebComponent final : public WebComponent {
     }
     if (!profile_) {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 9, 0)
-      // Off the record for want of a name; without one at all, the engine writes into the log.
+      // An empty name means off the record; the constructor without one makes the engine log.
       profile_ = std::make_unique<QQuickWebEngineProfile>(QString());
 #else
       profile_ = std::make_unique<QQuickWebEngineProfile>();  // off the record

@@ -14,7 +14,7 @@ namespace quorix::qt {
 /// A page in a Qt Quick window.
 class QuickPage final : public WebPageBase {
  public:
-  /// Null, with the reason on the log, when QML cannot make the view.
+  /// Null if QML cannot make the view; the log says why.
   static std::unique_ptr<QuickPage> make(QQmlComponent& source, QQuickWebEngineProfile& profile,
                                          QQuickItem& place, const Options& options, Client& client);
   ~QuickPage() override;

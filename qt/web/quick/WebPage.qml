@@ -9,7 +9,7 @@ WebEngineView {
     id: view
 
     required property QtObject page
-    required property var scripts // which run beside the page's own
+    required property var scripts // to run beside the page's own
     required property bool allowsScripts
     required property bool opensWindowsUnasked
     // The upper part of the page, which is cut to a sheet's rounded corners.
@@ -53,7 +53,7 @@ WebEngineView {
         navigateOnDropEnabled: false
         pluginsEnabled: false
         screenCaptureEnabled: false
-        unknownUrlSchemePolicy: WebEngineSettings.AllowAllUnknownUrlSchemes // so that we are asked
+        unknownUrlSchemePolicy: WebEngineSettings.AllowAllUnknownUrlSchemes // onNavigationRequested decides
     }
 
     Component.onCompleted: userScripts.insert(scripts)
@@ -81,7 +81,7 @@ WebEngineView {
     onTooltipRequested: request => request.accepted = true
     onTouchSelectionMenuRequested: request => request.accepted = true
 
-    // What not every version of the engine asks for.
+    // Signals that not every version of the engine has.
     Connections {
         target: view
         ignoreUnknownSignals: true

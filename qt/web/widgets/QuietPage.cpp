@@ -53,7 +53,8 @@ void QuietPage::settle(const webkit::WebContent::Settings& asked) {
                          Settings::ScreenCaptureEnabled}) {
     own.setAttribute(off, false);
   }
-  own.setUnknownUrlSchemePolicy(Settings::AllowAllUnknownUrlSchemes);  // so that we are asked
+  own.setUnknownUrlSchemePolicy(
+      Settings::AllowAllUnknownUrlSchemes);  // acceptNavigationRequest decides
 }
 
 void QuietPage::tell() {
@@ -108,7 +109,7 @@ void QuietPage::refusePermissions() {
 
 QuietView::QuietView(QWidget* parent) : QWebEngineView(parent) {
   setContextMenuPolicy(Qt::NoContextMenu);
-  setAcceptDrops(false);  // files are not for pages
+  setAcceptDrops(false);  // a page gets no files
 }
 
 bool QuietView::event(QEvent* event) {
@@ -116,12 +117,12 @@ bool QuietView::event(QEvent* event) {
   return QWebEngineView::event(event);
 }
 
-/// The engine's dialogs are children of the view. A dialog that is not to be shown on the screen is
-/// no native one either; it is rejected on the next turn, when the engine waits for its end.
+/// The engine's dialogs are children of the view. Keeps them off the screen, native ones too, and
+/// rejects them on the next turn, when the engine waits for their end.
 void QuietView::childEvent(QChildEvent* event) {
   QWebEngineView::childEvent(event);
   if (!event->added() || !event->child()->isWidgetType()) return;
-  auto* widget = static_cast<QWidget*>(event->child());  // not yet what it is going to be
+  auto* widget = static_cast<QWidget*>(event->child());  // the derived part is not made yet
   if (widget->windowType() != Qt::Dialog) return;
   widget->setAttribute(Qt::WA_DontShowOnScreen);
   QMetaObject::invokeMethod(

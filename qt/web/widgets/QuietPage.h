@@ -30,7 +30,7 @@ class QuietPage : public QWebEnginePage {
   bool javaScriptPrompt(const QUrl&, const QString&, const QString&, QString*) override {
     return false;
   }
-  /// Keeps the page's words off the host's log.
+  /// Discards the page's console output: a host's log belongs to the host.
   void javaScriptConsoleMessage(JavaScriptConsoleMessageLevel, const QString&, int,
                                 const QString&) override {}
 
@@ -43,8 +43,8 @@ class QuietPage : public QWebEnginePage {
   WebPageBase& page_;
 };
 
-/// Shows a `QuietPage`, and keeps from the screen what the engine opens over it by itself: the
-/// color dialog, for which the page has no way to refuse, menus and tooltips. Main thread.
+/// Shows a `QuietPage`, and keeps off the screen what the engine opens over it: menus, tooltips and
+/// the color dialog, which a page cannot refuse. Main thread.
 class QuietView : public QWebEngineView {
   Q_OBJECT
 

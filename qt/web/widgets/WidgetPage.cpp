@@ -30,7 +30,7 @@ bool WidgetPage::isForPage(const QObject& receiver) const {
 
 void WidgetPage::ask(std::string_view script) {
   if (!view_) return;
-  // The engine also calls back when the page is taken away.
+  // The engine also calls back while the page is being deleted.
   view_->page()->runJavaScript(QString::fromStdString(std::string(script)),
                                QWebEngineScript::ApplicationWorld,
                                [this, asked = view_](const QVariant& text) {
