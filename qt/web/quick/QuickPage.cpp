@@ -21,7 +21,7 @@ std::unique_ptr<QuickPage> QuickPage::make(QQmlComponent& source, QQuickWebEngin
   QObject* made = source.createWithInitialProperties(
       {{QStringLiteral("page"), QVariant::fromValue<QObject*>(page.get())},
        {QStringLiteral("profile"), QVariant::fromValue(&profile)},
-       {QStringLiteral("scripts"), QVariant::fromValue(WebEngine::scripts())},
+       {QStringLiteral("scripts"), QVariant::fromValue(WebEngine::scripts()).toList()},
        {QStringLiteral("backgroundColor"), options.background},
        {QStringLiteral("allowsScripts"), settings.allowsContentJavaScript},
        {QStringLiteral("opensWindowsUnasked"), settings.javaScriptCanOpenWindowsAutomatically}});

@@ -53,7 +53,7 @@ WebEngineView {
         navigateOnDropEnabled: false
         pluginsEnabled: false
         screenCaptureEnabled: false
-        unknownUrlSchemePolicy: WebEngineSettings.AllowAllUnknownUrlSchemes // onNavigationRequested decides
+        unknownUrlSchemePolicy: WebEngineSettings.AllowAllUnknownUrlSchemes // see onNavigationRequested
     }
 
     Component.onCompleted: userScripts.insert(scripts)
