@@ -16,10 +16,9 @@
 namespace quorix::qt {
 namespace {
 
-/// The folder of the library that this code stands in, or nothing when that is not known for
-/// certain. A program that holds this code itself is named as it was called, be it by a whole path,
-/// which says nothing of where it is, and neither does a library that was loaded by a relative
-/// path.
+/// The folder of the shared library that holds this code; empty unless that is certain. A program
+/// is named by how it was called, which may be any path, and a library that was loaded by a
+/// relative path by that path: neither says where the file is.
 QString ownFolder() {
 #ifdef Q_OS_UNIX
   Dl_info info;
@@ -37,13 +36,28 @@ QString ownFolder() {
   return {};
 }
 
+/// In the order of the search.
+QStringList searchedFolders() {
+  const QString program = QCoreApplication::applicationDirPath();
+  QStringList all = {program, program + QStringLiteral("/quorix")};
+  const QString own = ownFolder();
+  if (!own.isEmpty()) all << own << own + QStringLiteral("/quorix");
+#ifdef QUORIX_WEB_FROM_PROGRAM
+  all.append(program + QStringLiteral("/" QUORIX_WEB_FROM_PROGRAM));
+#endif
+#ifdef QUORIX_WEB_BUILD_FOLDER
+  all.append(QStringLiteral(QUORIX_WEB_BUILD_FOLDER));
+#endif
+  return all;
+}
+
 QString fileOf(const QString& name) {
 #if defined(Q_OS_WIN)
   const QString file = name + QStringLiteral(".dll");
 #else
   const QString file = QStringLiteral("lib") + name + QStringLiteral(".so");
 #endif
-  const QStringList folders = WebComponentLoader::folders();
+  const QStringList folders = searchedFolders();
   for (const QString& folder : folders) {
     const QFileInfo found(folder + QLatin1Char('/') + file);
     if (found.isFile()) return found.absoluteFilePath();
@@ -74,20 +88,6 @@ WebComponent* loaded(const QString& name) {
 }
 
 }  // namespace
-
-QStringList WebComponentLoader::folders() {
-  const QString program = QCoreApplication::applicationDirPath();
-  QStringList all = {program, program + QStringLiteral("/quorix")};
-  const QString own = ownFolder();
-  if (!own.isEmpty()) all << own << own + QStringLiteral("/quorix");
-#ifdef QUORIX_WEB_FROM_PROGRAM
-  all.append(program + QStringLiteral("/" QUORIX_WEB_FROM_PROGRAM));
-#endif
-#ifdef QUORIX_WEB_BUILD_FOLDER
-  all.append(QStringLiteral(QUORIX_WEB_BUILD_FOLDER));
-#endif
-  return all;
-}
 
 bool WebComponentLoader::isThere(const QString& name) { return !fileOf(name).isEmpty(); }
 

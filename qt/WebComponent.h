@@ -3,9 +3,6 @@
 #include <QColor>
 #include <QLoggingCategory>
 #include <QString>
-#include <QStringList>
-#include <QUrl>
-#include <chrono>
 #include <memory>
 
 #include "platform/foundation/Export.h"
@@ -22,15 +19,14 @@ class WebPage : public hosting::PageEngine {
  public:
   struct Options {
     webkit::WebContent::Settings settings;
-    QColor background;  ///< shows where the page has not painted, has none, or could not be loaded
+    QColor background;  ///< until the page paints, where it has none, or if it cannot be loaded
   };
 
   /// The upper part of a page, between the rounded corners of a sheet.
   struct Top {
-    double height = 0;      ///< which only shows, under what takes input; 0 below the corners
+    double height = 0;      ///< takes no input; 0 for a page below the corners
     double radius = 0;      ///< of the corners
     double pixelRatio = 1;  ///< device pixels for each point
-    bool operator==(const Top&) const = default;
   };
 
   /// The item or widget that shows it; null once the toolkit has deleted it.
@@ -45,20 +41,19 @@ class WebPage : public hosting::PageEngine {
 class WebComponent {
  public:
   /// Opens a page for the window (Qt Quick) or the widget (Qt Widgets) `place`, to be made a child
-  /// of it. Null where the engine cannot show one; it has then said why on the log. `client`
-  /// outlives the page.
+  /// of it. Null if the engine cannot show one; the log says why. `client` outlives the page.
   virtual std::unique_ptr<WebPage> open(QObject& place, const WebPage::Options& options,
                                         WebPage::Client& client) = 0;
 
  protected:
-  ~WebComponent() = default;  // lives with the application
+  ~WebComponent() = default;  // destroyed with the application
 };
 
-/// Another number whenever `WebComponent`, `WebPage` or `hosting::PageEngine` is another.
-constexpr int webComponentVersion = 5;
+/// Changes whenever `WebComponent`, `WebPage` or `hosting::PageEngine` changes.
+constexpr int webComponentVersion = 6;
 constexpr char webComponentSymbol[] = "quorixWebComponent";
 
-/// The component, or null when it is built for another version than `version`.
+/// The component; null if it is built for another version than `version`.
 using WebComponentEntry = WebComponent* (*)(int version);
 
 /// Finds the libraries that hold the web engine ("QuorixWebQuick", "QuorixWebWidgets") and loads
@@ -68,9 +63,9 @@ using WebComponentEntry = WebComponent* (*)(int version);
 /// order:
 ///
 /// 1. the program's folder, and "quorix" in it;
-/// 2. where this code is in a shared library: the library's folder, and "quorix" in it. A library
-///    that was loaded by a relative path counts as nowhere;
-/// 3. where the libraries are installed, as seen from a program under the same prefix;
+/// 2. if this code is in a shared library that was loaded by an absolute path: the library's
+///    folder, and "quorix" in it;
+/// 3. the folder where the libraries are installed, relative to a program under the same prefix;
 /// 4. for a host that builds the library as part of its own build: that build's folder.
 ///
 /// The current folder, the dynamic linker's search and Qt's plugin paths (QT_PLUGIN_PATH, qt.conf)
@@ -91,34 +86,13 @@ bool isLoaded(const QString& name);
 /// The component, or null when it is missing, does not load or is of another version.
 WebComponent* load(const QString& name);
 
-/// Where they are looked for, in order.
-QStringList folders();
-
 }  // namespace WebComponentLoader
 
-/// Why no page is shown, for those who ship the engine. Silent unless the host's developer asks
-/// with QT_LOGGING_RULES="quorix.web.warning=true".
+/// Says why no page is shown. Silent unless the host's developer sets
+/// QT_LOGGING_RULES="quorix.web.warning=true".
 inline const QLoggingCategory& webLog() {
   static const QLoggingCategory category("quorix.web", QtCriticalMsg);
   return category;
-}
-
-/// One line about a page: its address without the query, which may name the shopper, and `what`.
-inline void logPage(const QUrl& address, const QString& what) {
-  qCWarning(webLog, "%s %s", qUtf8Printable(address.toDisplayString(QUrl::RemoveQuery)),
-            qUtf8Printable(what));
-}
-
-inline void logNotLoaded(const QUrl& address, const QString& why) {
-  logPage(address, QStringLiteral("was not loaded: ") + why);
-}
-
-inline void logNothingCame(const QUrl& address, std::chrono::milliseconds limit) {
-  logNotLoaded(address, QStringLiteral("nothing came for %1 ms").arg(limit.count()));
-}
-
-inline void logEnded(const QUrl& address) {
-  logPage(address, QStringLiteral("ended: its process crashed or was killed"));
 }
 
 }  // namespace quorix::qt

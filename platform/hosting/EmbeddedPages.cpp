@@ -1,7 +1,6 @@
 #include "platform/hosting/EmbeddedPages.h"
 
 #include <algorithm>
-#include <cmath>
 #include <limits>
 #include <utility>
 
@@ -9,6 +8,7 @@
 #include "platform/hosting/SheetPanel.h"
 #include "platform/layout/Geometry.h"
 #include "platform/uikit/URLOpener.h"
+#include "platform/webkit/PageScripts.h"
 
 namespace quorix::hosting {
 namespace {
@@ -16,6 +16,7 @@ namespace {
 using foundation::MainQueue;
 using std::chrono::milliseconds;
 using webkit::WebContent;
+namespace PageScripts = webkit::PageScripts;
 
 /// How long a page may take to answer before it counts as hanging. Closing, with the sheet's fall,
 /// then takes less than a second.
@@ -72,11 +73,23 @@ void EmbeddedPage::loading(int percent) {
   });
 }
 
+void EmbeddedPage::loadEnded(int error) {
+  standstill_.reset();
+  if (webkit::broughtNothing(error)) loadFailed();
+}
+
 void EmbeddedPage::loadFailed() {
   later([this, kept = content_] {
     owner_.pageEnded();
     kept->loadFailed();
   });
+}
+
+bool EmbeddedPage::mayNavigate(std::string_view scheme, std::string_view address, bool mainFrame) {
+  if (webkit::mayNavigateTo(scheme)) return true;
+  const bool byUser = gesture_.take(webkit::UserGesture::Clock::now());
+  if (byUser || mainFrame) windowAsked(address, byUser);
+  return false;
 }
 
 void EmbeddedPage::windowAsked(std::string_view address, bool byUser) {
@@ -98,47 +111,50 @@ void EmbeddedPage::processEnded() {
 /// Asks the page whether it is alive. Calls `then` when it answers.
 void EmbeddedPage::expectAnswer(std::function<void()> then) {
   onAnswer_ = std::move(then);
+  if (!content_->settings.allowsContentJavaScript) return answered(PageScripts::alive);
   if (!silence_) start(silence_, patience, [this] { silence_.reset(), owner_.pageHangs(); });
-  engine_->ask();
+  engine_->ask(PageScripts::isAlive);
 }
 
-void EmbeddedPage::answered() {
-  silence_.reset();
-  if (const auto then = std::exchange(onAnswer_, {})) then();
+void EmbeddedPage::answered(std::string_view answer) {
+  if (answer == PageScripts::alive) {
+    silence_.reset();
+    if (const auto then = std::exchange(onAnswer_, {})) then();
+  } else if (const auto direction = std::exchange(askedFor_, {})) {
+    if (answer != PageScripts::unused) return;
+    trackpadSwipe_.spend();
+    go(*direction);
+  }
 }
 
 bool EmbeddedPage::takes(Key key, bool tries) {
   if (!content_->settings.allowsBackForwardNavigationGestures) return false;
+  const auto step = key == Key::pageForward ? HistoryStep::forward : HistoryStep::back;
   const bool leads =
-      key == Key::pageForward || key == Key::pageBack || (key == Key::back && engine_->canGoBack());
+      key == Key::pageForward || key == Key::pageBack || (key == Key::back && engine_->canGo(step));
   if (!leads || tries) return leads;
-  if (key == Key::pageForward) {
-    engine_->goForward();
-  } else if (key == Key::back) {
-    expectAnswer([this] { engine_->goBack(); });  // a page that hangs does not go back
-  } else {
-    engine_->goBack();
-  }
+  const auto goes = [this, step] { engine_->go(step); };
+  key == Key::back ? expectAnswer(goes) : goes();  // a page that hangs does not go back
   return true;
 }
 
 // Swipes.
 
-bool EmbeddedPage::leadsBack(SwipeDirection direction) const {
-  return (direction == SwipeDirection::right) != owner_.isRightToLeft();
+HistoryStep EmbeddedPage::stepOf(SwipeDirection direction) const {
+  const bool back = (direction == SwipeDirection::right) != owner_.isRightToLeft();
+  return back ? HistoryStep::back : HistoryStep::forward;
 }
 
 bool EmbeddedPage::leadsSomewhere(SwipeDirection direction) const {
-  if (!content_->settings.allowsBackForwardNavigationGestures) return false;
-  return leadsBack(direction) ? engine_->canGoBack() : engine_->canGoForward();
+  return content_->settings.allowsBackForwardNavigationGestures &&
+         engine_->canGo(stepOf(direction));
 }
 
 void EmbeddedPage::go(SwipeDirection direction) {
-  if (!leadsSomewhere(direction)) return;
-  leadsBack(direction) ? engine_->goBack() : engine_->goForward();
+  if (leadsSomewhere(direction)) engine_->go(stepOf(direction));
 }
 
-bool EmbeddedPage::touched(const TouchEvent& event) {
+bool EmbeddedPage::swipes(const TouchEvent& event) {
   const auto swipe = edgeSwipe_.follow(event);
   if (!swipe || !leadsSomewhere(swipe->direction)) return false;
   const bool ends = event.phase == PointerEvent::Phase::released;
@@ -146,19 +162,19 @@ bool EmbeddedPage::touched(const TouchEvent& event) {
   return true;
 }
 
+bool EmbeddedPage::touched(const TouchEvent& event) {
+  if (event.phase == PointerEvent::Phase::pressed) hasFingers_ = false;
+  if (swipes(event)) hasFingers_ = true;
+  if (hasFingers_) gesture_.forget();  // the page did not get it
+  return hasFingers_;
+}
+
 void EmbeddedPage::scrolled(const TrackpadEvent& event) {
   if (event.begins) askedFor_.reset();  // the page that was asked may be gone
   const auto direction = trackpadSwipe_.follow(event);
   if (!direction || askedFor_ || !leadsSomewhere(*direction)) return;
   askedFor_ = direction;
-  engine_->askForScroll(trackpadSwipe_.began());
-}
-
-void EmbeddedPage::scrollAnswered(bool used) {
-  const auto direction = std::exchange(askedFor_, {});
-  if (used || !direction) return;
-  trackpadSwipe_.spend();
-  go(*direction);
+  engine_->ask(PageScripts::scrollSince(trackpadSwipe_.began()));
 }
 
 // All pages.
@@ -232,56 +248,6 @@ std::vector<PageEngine*> EmbeddedPages::shown() const {
     if (page->engine().isShown()) all.push_back(&page->engine());
   }
   return all;
-}
-
-namespace {
-
-// Points.
-constexpr double edge = 20;            ///< how close to the side a finger must start
-constexpr double slop = 10;            ///< movement after which the direction is certain
-constexpr double fingerDistance = 60;  ///< length of a swipe that counts
-constexpr double trackpadDistance = 80;
-
-/// Highest ratio of vertical to sideways movement on a trackpad. A steeper movement is a vertical
-/// scroll.
-constexpr double steepest = 0.5;
-
-}  // namespace
-
-std::optional<EdgeSwipe::Swipe> EdgeSwipe::follow(const TouchEvent& event) {
-  if (event.phase == PointerEvent::Phase::pressed) {
-    finger_.reset();
-    if (event.point.x < edge) finger_ = {event.point, SwipeDirection::right};
-    if (event.point.x > event.pageWidth - edge) finger_ = {event.point, SwipeDirection::left};
-  }
-  if (event.fingers != 1) finger_.reset();
-  if (!finger_) return std::nullopt;
-  const double right = event.point.x - finger_->start.x;
-  const double inward = finger_->direction == SwipeDirection::right ? right : -right;
-  const double across = std::abs(event.point.y - finger_->start.y);
-  if (!finger_->swipes) {
-    if (std::max(std::abs(inward), across) < slop) return std::nullopt;
-    finger_->swipes = inward > across;
-    if (!finger_->swipes) finger_.reset();
-  }
-  if (!finger_) return std::nullopt;
-  return Swipe{finger_->direction, inward >= fingerDistance};
-}
-
-std::optional<SwipeDirection> TrackpadSwipe::follow(const TrackpadEvent& event) {
-  const bool begins = event.begins || (event.byFingers && !moves_);
-  moves_ = event.byFingers;
-  if (begins) {
-    spent_ = false;
-    began_ = event.time;
-    way_ = {};
-  }
-  if (!moves_ || spent_) return std::nullopt;
-  way_.x += event.x;
-  way_.y += event.y;
-  const double sideways = std::abs(way_.x);
-  if (sideways < trackpadDistance || std::abs(way_.y) > sideways * steepest) return std::nullopt;
-  return way_.x > 0 ? SwipeDirection::right : SwipeDirection::left;
 }
 
 }  // namespace quorix::hosting

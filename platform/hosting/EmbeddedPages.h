@@ -1,60 +1,18 @@
 #pragma once
 
 #include <chrono>
-#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
 
 #include "platform/foundation/Export.h"
-#include "platform/hosting/Input.h"
 #include "platform/hosting/PageEngine.h"
+#include "platform/hosting/PageSwipe.h"
 #include "platform/render/Scene.h"
 #include "platform/webkit/WebContent.h"
 
 namespace quorix::hosting {
-
-/// The direction in which a swipe moves the page.
-enum class SwipeDirection : std::uint8_t { right, left };
-
-/// Recognizes a finger's swipe from a side of a page towards its center. Main thread.
-class EdgeSwipe {
- public:
-  struct Swipe {
-    SwipeDirection direction;
-    bool isFar;  ///< far enough to count when the finger is lifted
-  };
-
-  /// Absent until the movement is certainly a swipe, so that the page gets taps and vertical drags.
-  /// After that, withhold the finger's events from the page.
-  std::optional<Swipe> follow(const TouchEvent& event);
-
- private:
-  struct Finger {
-    layout::Point start;
-    SwipeDirection direction;
-    bool swipes = false;
-  };
-  std::optional<Finger> finger_;
-};
-
-/// Recognizes a sideways swipe with two fingers on a trackpad. Main thread.
-class TrackpadSwipe {
- public:
-  /// Absent until the fingers have moved far enough sideways, and after they left the trackpad.
-  std::optional<SwipeDirection> follow(const TrackpadEvent& event);
-  /// The time at which the swipe began, as a `TrackpadEvent::time`.
-  double began() const { return began_; }
-  /// Ends this swipe: the next one is recognized only after the fingers left the trackpad.
-  void spend() { spent_ = true; }
-
- private:
-  bool moves_ = false;
-  bool spent_ = false;
-  double began_ = 0;
-  layout::Point way_{};
-};
 
 /// The web content of an embed, and the engine that shows it. Passes loads to the engine and the
 /// page's requests to the content, and limits the time of loads and answers. Main thread.
@@ -100,20 +58,22 @@ class EmbeddedPage final : private PageEngine::Client {
   static void start(Limit& limit, std::chrono::milliseconds after, std::function<void()> work);
   void later(std::function<void()> work);
   void expectAnswer(std::function<void()> then);
-  bool leadsBack(SwipeDirection direction) const;
+  HistoryStep stepOf(SwipeDirection direction) const;
   bool leadsSomewhere(SwipeDirection direction) const;
   void go(SwipeDirection direction);
+  void loadFailed();
+  bool swipes(const TouchEvent& event);
 
+  bool mayNavigate(std::string_view scheme, std::string_view address, bool mainFrame) override;
   void windowAsked(std::string_view address, bool byUser) override;
   void loading(int percent) override;
-  void loadEnded() override { standstill_.reset(); }
-  void loadFailed() override;
+  void loadEnded(int error) override;
   void processEnded() override;
+  void answered(std::string_view answer) override;
+  void gestured() override { gesture_.happened(webkit::UserGesture::Clock::now()); }
   void closingKeyGiven() override { expectAnswer({}); }
-  void answered() override;
   bool touched(const TouchEvent& event) override;
   void scrolled(const TrackpadEvent& event) override;
-  void scrollAnswered(bool used) override;
 
   std::shared_ptr<webkit::WebContent> content_;
   Owner& owner_;
@@ -123,7 +83,9 @@ class EmbeddedPage final : private PageEngine::Client {
   bool came_ = false;  ///< data of the load has arrived
   Limit silence_;      ///< runs since the page was asked
   std::function<void()> onAnswer_;
+  webkit::UserGesture gesture_;
   EdgeSwipe edgeSwipe_;
+  bool hasFingers_ = false;  ///< they swipe: the page does not get them
   TrackpadSwipe trackpadSwipe_;
   std::optional<SwipeDirection> askedFor_;  ///< set until the page answers `askForScroll`
   std::unique_ptr<PageEngine> engine_;

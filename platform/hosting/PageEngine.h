@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <cstdint>
 #include <string_view>
 
 #include "platform/foundation/Export.h"
@@ -8,6 +9,9 @@
 #include "platform/hosting/Input.h"
 
 namespace quorix::hosting {
+
+/// A step in a page's history.
+enum class HistoryStep : std::uint8_t { back, forward };
 
 /// A live web page that the toolkit's web engine shows. The destructor removes it from the screen
 /// and stops its load. Main thread.
@@ -17,26 +21,31 @@ class QUORIX_EXPORT PageEngine {
   /// them.
   class Client {
    public:
-    /// The page asked for a new window with this address, which may be empty, or for an address
-    /// that no page may load. The engine refuses both. `byUser`: a user gesture caused it.
+    /// Whether the page (`mainFrame`) or a frame in it may load `address`. If not, the address may
+    /// open outside the app.
+    virtual bool mayNavigate(std::string_view scheme, std::string_view address, bool mainFrame) = 0;
+    /// The page asked for a new window with this address, which may be empty. The engine refuses it.
+    /// `byUser`: a user gesture caused it.
     virtual void windowAsked(std::string_view address, bool byUser) = 0;
     /// A load began (0) or progressed. Above 0, data of the page has arrived.
     virtual void loading(int percent) = 0;
-    virtual void loadEnded() = 0;
-    /// A load failed before any data arrived.
-    virtual void loadFailed() = 0;
+    /// A load ended. `error`: the number of the engine's network error, or 0.
+    virtual void loadEnded(int error) = 0;
     /// The page's process crashed or was killed.
     virtual void processEnded() = 0;
-    /// The page is about to get a key that closes a sheet. If it does not use the key, it returns
+    /// The result of a script that `ask` ran; empty if it is no text.
+    virtual void answered(std::string_view answer) = 0;
+
+    // Input, before the page gets it.
+    /// The user clicked, lifted the last finger or pressed a key.
+    virtual void gestured() = 0;
+    /// The key that the page is about to get closes a sheet. The page returns it if it does not use
     /// it.
     virtual void closingKeyGiven() = 0;
-    /// The answer to `ask`.
-    virtual void answered() = 0;
-    /// Fingers touch the page. Once the result is true, the page must not get their events.
+    /// Fingers touch the page. Once the result is true, the page must not get their events until all
+    /// of them have left it. Call `gestured` before the release.
     virtual bool touched(const TouchEvent& event) = 0;
     virtual void scrolled(const TrackpadEvent& event) = 0;
-    /// The answer to `askForScroll`.
-    virtual void scrollAnswered(bool used) = 0;
 
    protected:
     ~Client() = default;
@@ -49,16 +58,11 @@ class QUORIX_EXPORT PageEngine {
   virtual void load(const foundation::URL& address) = 0;
   /// Stops a load that made no progress for `limit`.
   virtual void stopLoad(std::chrono::milliseconds limit) = 0;
-  /// Asks the page's process whether it is alive. A page that hangs never answers.
-  virtual void ask() = 0;
-  /// Asks whether the page has used any of the sideways scrolling since `time`, a
-  /// `TrackpadEvent::time`: it scrolled, or a script handled the scrolling. A page that hangs never
-  /// answers.
-  virtual void askForScroll(double time) = 0;
-  virtual bool canGoBack() const = 0;
-  virtual bool canGoForward() const = 0;
-  virtual void goBack() = 0;
-  virtual void goForward() = 0;
+  /// Runs `script` in the world of `PageScripts::scrollNotes` and passes the result to `answered`.
+  /// A page that hangs never answers.
+  virtual void ask(std::string_view script) = 0;
+  virtual bool canGo(HistoryStep step) const = 0;
+  virtual void go(HistoryStep step) = 0;
 };
 
 }  // namespace quorix::hosting

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "platform/foundation/URL.h"
 
@@ -15,6 +16,30 @@ constexpr bool mayNavigateTo(std::string_view scheme) {
   return scheme == "https" || scheme == "http" || scheme == "about" || scheme == "blob" ||
          scheme == "data";
 }
+
+/// Whether a load that ended with this network error of the engine brought nothing. Errors from
+/// -100 down are those of the connection, the server's certificate and HTTP.
+constexpr bool broughtNothing(int error) { return error <= -100; }
+
+/// Remembers the user's latest click, tap or key in a page, because the engine does not tell what
+/// caused a link to another app. A gesture counts for one such link, for a second. One object for
+/// each page; main thread.
+class UserGesture {
+ public:
+  using Clock = std::chrono::steady_clock;
+  static constexpr std::chrono::seconds lasts{1};
+
+  void happened(Clock::time_point now) { latest_ = now; }
+  void forget() { latest_.reset(); }
+  /// Whether a request at `now` counts as the user's. The next one does not.
+  bool take(Clock::time_point now) {
+    const auto at = std::exchange(latest_, {});
+    return at && now - *at < lasts;
+  }
+
+ private:
+  std::optional<Clock::time_point> latest_;
+};
 
 /// Limits which of a page's requests for a new window may leave the app, so that a page cannot
 /// flood the desktop. Requests by the user always leave. Requests without a user gesture leave only

@@ -10,7 +10,7 @@ namespace quorix::qt {
 namespace {
 
 QHash<const QObject*, AccessibleSurface*>& surfaces() {
-  static auto& all = *new QHash<const QObject*, AccessibleSurface*>;  // views may end last
+  static auto& all = *new QHash<const QObject*, AccessibleSurface*>;  // views may outlive statics
   return all;
 }
 

@@ -19,16 +19,17 @@ class QUORIX_EXPORT AccessibleSurface {
   virtual ~AccessibleSurface() = default;
 
   virtual hosting::Responder& responder() = 0;
-  /// What tells of itself, after the elements: views of other makers.
+  /// Objects with accessibility interfaces of their own, such as pages. They come after the
+  /// elements.
   virtual std::vector<QObject*> accessibleViews() const { return {}; }
-  /// Takes the keyboard focus, which then is where the responder moved it.
+  /// Takes the keyboard focus, for the element that the responder has focused.
   virtual void takeFocus() = 0;
 
   /// A frame of the scene on the screen, in points.
   virtual QRect onScreen(const layout::Rect& frame) const = 0;
   virtual QRect onScreen() const = 0;
   virtual QWindow* accessibleWindow() const = 0;
-  /// The nearest object above that assistive technology knows.
+  /// The nearest ancestor that has an accessibility interface.
   virtual QObject* accessibleParent() const = 0;
 
   virtual bool isShown() const = 0;
@@ -46,9 +47,9 @@ class QUORIX_EXPORT AccessibilityBridge : public QObject, private QAccessible::A
   static AccessibilityBridge* instance();
   ~AccessibilityBridge() override;
 
-  /// Answers for `object` from now on with `surface`, which must outlive it or be removed before.
+  /// From now on `surface` answers for `object`. It must outlive `object` or be removed before.
   void add(QObject& object, AccessibleSurface& surface);
-  /// Also when the application object is gone, which some views outlive.
+  /// Works without the application object too: some views outlive it.
   static void remove(QObject& object);
   static AccessibleSurface* surfaceOf(const QObject* object);
 
@@ -65,7 +66,7 @@ class QUORIX_EXPORT AccessibilityBridge : public QObject, private QAccessible::A
   explicit AccessibilityBridge(QObject* application);
   void accessibilityActiveChanged(bool active) override;
 
-  bool active_ = false;  ///< not every platform keeps what its observers are told
+  bool active_ = false;  ///< not every platform keeps what it tells observers
 };
 
 }  // namespace quorix::qt

@@ -26,9 +26,9 @@ QAccessible::Role roleOf(render::Role role) {
 }  // namespace
 
 const render::AccessibilityElement* ElementAccessible::element() const {
-  AccessibleSurface* surface = AccessibilityBridge::surfaceOf(owner_);
-  if (!surface) return nullptr;
-  const auto& elements = surface->responder().elements();
+  AccessibleSurface* shown = surface();
+  if (!shown) return nullptr;
+  const auto& elements = shown->responder().elements();
   const auto index = static_cast<std::size_t>(index_);
   return index < elements.size() ? &elements[index] : nullptr;
 }
@@ -36,15 +36,13 @@ const render::AccessibilityElement* ElementAccessible::element() const {
 bool ElementAccessible::isValid() const { return element() != nullptr; }
 
 QWindow* ElementAccessible::window() const {
-  AccessibleSurface* surface = AccessibilityBridge::surfaceOf(owner_);
-  return surface ? surface->accessibleWindow() : nullptr;
+  AccessibleSurface* shown = surface();
+  return shown ? shown->accessibleWindow() : nullptr;
 }
 
 QRect ElementAccessible::rect() const {
   const render::AccessibilityElement* found = element();
-  if (!found) return {};
-  const layout::Rect frame = found->frame;
-  return AccessibilityBridge::surfaceOf(owner_)->onScreen(frame);
+  return found ? surface()->onScreen(found->frame) : QRect();
 }
 
 QString ElementAccessible::text(QAccessible::Text kind) const {
@@ -75,13 +73,13 @@ QAccessible::State ElementAccessible::state() const {
   }
   const layout::Rect frame = found->frame;
   const bool acts = found->action != nullptr;
-  AccessibleSurface& surface = *AccessibilityBridge::surfaceOf(owner_);
-  const bool reachable = surface.isShown() && !surface.isCovered();
+  AccessibleSurface& shown = *surface();
+  const bool reachable = shown.isShown() && !shown.isCovered();
   state.invisible = !reachable;
-  state.offscreen = surface.responder().isScrolledAway(frame);
+  state.offscreen = shown.responder().isScrolledAway(frame);
   state.readOnly = !acts;
   state.focusable = acts && reachable;
-  state.focused = acts && surface.responder().focusFrame() == frame;
+  state.focused = acts && shown.responder().focusFrame() == frame;
   return state;
 }
 
@@ -101,10 +99,10 @@ QStringList ElementAccessible::actionNames() const {
 }
 
 void ElementAccessible::doAction(const QString& name) {
-  AccessibleSurface* surface = AccessibilityBridge::surfaceOf(owner_);
-  if (!surface || surface->isCovered()) return;
-  if (name == pressAction()) surface->responder().activate(index_);
-  if (name == setFocusAction() && surface->responder().focusElement(index_)) surface->takeFocus();
+  AccessibleSurface* shown = surface();
+  if (!shown || shown->isCovered()) return;
+  if (name == pressAction()) shown->responder().activate(index_);
+  if (name == setFocusAction() && shown->responder().focusElement(index_)) shown->takeFocus();
 }
 
 }  // namespace quorix::qt

@@ -7,8 +7,8 @@
 
 namespace quorix::qt {
 
-/// One element of a surface's scene, as assistive technology meets it. It names the element by its
-/// place in reading order and reads the latest scene each time it is asked.
+/// One element of a surface's scene for assistive technology. Holds the element's place in reading
+/// order and reads the latest scene on each call.
 class ElementAccessible : public QAccessibleInterface, public QAccessibleActionInterface {
  public:
   ElementAccessible(QObject* owner, int index) : owner_(owner), index_(index) {}
@@ -32,6 +32,11 @@ class ElementAccessible : public QAccessibleInterface, public QAccessibleActionI
   QStringList actionNames() const override;
   void doAction(const QString& name) override;
   QStringList keyBindingsForAction(const QString&) const override { return {}; }
+
+ protected:
+  QObject* owner() const { return owner_; }
+  /// Null while its owner is being deleted.
+  AccessibleSurface* surface() const { return AccessibilityBridge::surfaceOf(owner_); }
 
  private:
   const render::AccessibilityElement* element() const;

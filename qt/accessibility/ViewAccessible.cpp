@@ -1,6 +1,5 @@
 #include "qt/accessibility/ViewAccessible.h"
 
-#include <QWindow>
 #include <algorithm>
 
 #include "qt/accessibility/AccessibilityBridge.h"
@@ -8,26 +7,24 @@
 namespace quorix::qt {
 namespace {
 
-/// The interface of `owner`, made when it is asked for the first time, if anybody listens.
+/// The interface of `owner`, made on first use; null while no assistive technology listens.
 ViewAccessible* listening(QObject& owner) {
   if (!AccessibilityBridge::isActive()) return nullptr;
   return dynamic_cast<ViewAccessible*>(QAccessible::queryAccessibleInterface(&owner));
 }
 
+void say(QAccessible::Event what, QAccessibleInterface* about) {
+  QAccessibleEvent event(about, what);
+  QAccessible::updateAccessibility(&event);
+}
+
 }  // namespace
 
 ViewAccessible::ViewAccessible(QObject* owner)
-    : QAccessibleObject(owner),
-      sole_(owner, 0),
-      told_(toTell()),
-      covered_(surface()->isCovered()) {}
+    : ElementAccessible(owner, 0), told_(toTell()), covered_(surface()->isCovered()) {}
 
 ViewAccessible::~ViewAccessible() {
   for (const QAccessible::Id id : elements_) QAccessible::deleteAccessibleInterface(id);
-}
-
-AccessibleSurface* ViewAccessible::surface() const {
-  return AccessibilityBridge::surfaceOf(object());
 }
 
 bool ViewAccessible::isSoleElement() const {
@@ -55,25 +52,23 @@ void ViewAccessible::sceneChanged(QObject& owner) {
 
 void ViewAccessible::focusChanged(QObject& owner, Qt::ConnectionType when) {
   if (!AccessibilityBridge::isActive()) return;
-  const auto say = [&owner] {
+  const auto sayFocus = [&owner] {
     ViewAccessible* self = listening(owner);
     if (!self) return;
     QAccessibleInterface* focused = self->focusChild();
-    QAccessibleEvent event(focused ? focused : self, QAccessible::Focus);
-    QAccessible::updateAccessibility(&event);
+    say(QAccessible::Focus, focused ? focused : self);
   };
-  QMetaObject::invokeMethod(&owner, say, when);
+  QMetaObject::invokeMethod(&owner, sayFocus, when);
 }
 
-// A reader keeps what it was told: it would go on reading what lies behind a sheet.
+// Screen readers cache: without Hide they would go on reading what is behind a sheet.
 void ViewAccessible::coverChanged(QObject& owner) {
   ViewAccessible* self = listening(owner);
   const AccessibleSurface* shown = self ? self->surface() : nullptr;
   if (!shown || std::exchange(self->covered_, shown->isCovered()) == self->covered_) return;
   if (!shown->isShown()) return;
   const auto event = self->covered_ ? QAccessible::ObjectHide : QAccessible::ObjectShow;
-  QAccessibleEvent said(self, event);
-  QAccessible::updateAccessibility(&said);
+  say(event, self);
   if (self->isSoleElement()) return;
   for (std::size_t i = 0; i < self->told_.size(); ++i) self->tell(event, i);
 }
@@ -91,10 +86,7 @@ void ViewAccessible::update() {
   const std::size_t common = std::min(before.size(), told_.size());
   for (std::size_t i = told_.size(); i < before.size(); ++i) tell(QAccessible::ObjectHide, i);
   const bool wasSole = before.size() == 1;
-  if (wasSole != isSoleElement()) {
-    QAccessibleEvent event(this, QAccessible::ObjectReorder);
-    QAccessible::updateAccessibility(&event);
-  }
+  if (wasSole != isSoleElement()) say(QAccessible::ObjectReorder, this);
   syncChildren();
   for (std::size_t i = common; i < told_.size(); ++i) tell(QAccessible::ObjectShow, i);
   for (std::size_t i = 0; i < common; ++i) {
@@ -103,19 +95,9 @@ void ViewAccessible::update() {
   }
 }
 
-void ViewAccessible::tell(QAccessible::Event event, std::size_t index) const {
-  QAccessibleInterface* about = const_cast<ViewAccessible*>(this);
-  if (!isSoleElement()) {
-    if (index >= elements_.size()) return;
-    about = QAccessible::accessibleInterface(elements_[index]);
-  }
-  QAccessibleEvent said(about, event);
-  QAccessible::updateAccessibility(&said);
-}
-
-QWindow* ViewAccessible::window() const {
-  AccessibleSurface* shown = surface();
-  return shown ? shown->accessibleWindow() : nullptr;
+void ViewAccessible::tell(QAccessible::Event event, std::size_t index) {
+  if (isSoleElement()) return say(event, this);
+  if (index < elements_.size()) say(event, QAccessible::accessibleInterface(elements_[index]));
 }
 
 QRect ViewAccessible::rect() const {
@@ -124,10 +106,10 @@ QRect ViewAccessible::rect() const {
 }
 
 QString ViewAccessible::text(QAccessible::Text kind) const {
-  if (isSoleElement()) return sole_.text(kind);
+  if (isSoleElement()) return ElementAccessible::text(kind);
   AccessibleSurface* shown = surface();
   if (!shown || !shown->isDialog() || kind != QAccessible::Name) return {};
-  // A dialog bears the name of the first text in it, or else of its page.
+  // A dialog is named after its first text without an action, or else after its page.
   for (const auto& element : shown->responder().elements()) {
     if (!element.action) return QString::fromStdString(element.label);
   }
@@ -136,13 +118,13 @@ QString ViewAccessible::text(QAccessible::Text kind) const {
 }
 
 QAccessible::Role ViewAccessible::role() const {
-  if (isSoleElement()) return sole_.role();
+  if (isSoleElement()) return ElementAccessible::role();
   AccessibleSurface* shown = surface();
   return shown && shown->isDialog() ? QAccessible::Dialog : QAccessible::Grouping;
 }
 
 QAccessible::State ViewAccessible::state() const {
-  if (isSoleElement()) return sole_.state();
+  if (isSoleElement()) return ElementAccessible::state();
   QAccessible::State state;
   AccessibleSurface* shown = surface();
   if (!shown) {
@@ -193,6 +175,13 @@ QAccessibleInterface* ViewAccessible::child(int index) const {
   return at < all.size() ? all[at] : nullptr;
 }
 
+QAccessibleInterface* ViewAccessible::childAt(int x, int y) const {
+  const auto all = children();
+  const auto found = std::ranges::find_if(
+      all, [&](auto* one) { return one->isValid() && one->rect().contains(x, y); });
+  return found == all.end() ? nullptr : *found;
+}
+
 int ViewAccessible::childCount() const { return static_cast<int>(children().size()); }
 
 int ViewAccessible::indexOfChild(const QAccessibleInterface* child) const {
@@ -202,16 +191,7 @@ int ViewAccessible::indexOfChild(const QAccessibleInterface* child) const {
 }
 
 void* ViewAccessible::interface_cast(QAccessible::InterfaceType type) {
-  if (type != QAccessible::ActionInterface || !isSoleElement()) return nullptr;
-  return static_cast<QAccessibleActionInterface*>(this);
-}
-
-QStringList ViewAccessible::actionNames() const {
-  return isSoleElement() ? sole_.actionNames() : QStringList();
-}
-
-void ViewAccessible::doAction(const QString& name) {
-  if (isSoleElement()) sole_.doAction(name);
+  return isSoleElement() ? ElementAccessible::interface_cast(type) : nullptr;
 }
 
 }  // namespace quorix::qt

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QAccessibleObject>
 #include <string>
 #include <vector>
 
@@ -9,23 +8,23 @@
 
 namespace quorix::qt {
 
-/// A surface as assistive technology meets it: a group of its scene's elements, a dialog when it is
-/// a sheet, or, where the whole view is one element, that element itself.
-class ViewAccessible : public QAccessibleObject, public QAccessibleActionInterface {
+/// A surface for assistive technology: a group of its scene's elements, a dialog if it is a sheet,
+/// or, if the whole view is one element, that element itself.
+class ViewAccessible : public ElementAccessible {
  public:
   explicit ViewAccessible(QObject* owner);
   ~ViewAccessible() override;
 
-  /// Tells assistive technology, if it listens, what differs from the scene that it was told of
-  /// last.
+  /// Tells assistive technology, if it listens, what changed in the scene since the last call.
   QUORIX_EXPORT static void sceneChanged(QObject& owner);
   /// Tells where the focus is: now, or on a later turn.
   QUORIX_EXPORT static void focusChanged(QObject& owner,
                                          Qt::ConnectionType when = Qt::DirectConnection);
-  /// Tells when something modal came over it, or went.
+  /// Tells if something modal covers it from now on, or no longer.
   QUORIX_EXPORT static void coverChanged(QObject& owner);
 
-  QWindow* window() const override;
+  bool isValid() const override { return object() != nullptr; }
+  QObject* object() const override { return owner(); }
   QRect rect() const override;
   QString text(QAccessible::Text kind) const override;
   QAccessible::Role role() const override;
@@ -34,13 +33,11 @@ class ViewAccessible : public QAccessibleObject, public QAccessibleActionInterfa
 
   QAccessibleInterface* parent() const override;
   QAccessibleInterface* child(int index) const override;
+  QAccessibleInterface* childAt(int x, int y) const override;
   int childCount() const override;
   int indexOfChild(const QAccessibleInterface* child) const override;
 
   void* interface_cast(QAccessible::InterfaceType type) override;
-  QStringList actionNames() const override;
-  void doAction(const QString& name) override;
-  QStringList keyBindingsForAction(const QString&) const override { return {}; }
 
  private:
   /// What assistive technology was last told of an element.
@@ -49,18 +46,16 @@ class ViewAccessible : public QAccessibleObject, public QAccessibleActionInterfa
     std::string hint;
   };
 
-  AccessibleSurface* surface() const;
   std::vector<Told> toTell() const;
   bool isSoleElement() const;
   void syncChildren() const;
-  /// What tells of itself among the children.
+  /// The interfaces of `AccessibleSurface::accessibleViews`.
   std::vector<QAccessibleInterface*> views() const;
-  /// The elements, and then those.
+  /// The elements, then `views`.
   std::vector<QAccessibleInterface*> children() const;
   void update();
-  void tell(QAccessible::Event event, std::size_t index) const;
+  void tell(QAccessible::Event event, std::size_t index);
 
-  ElementAccessible sole_;
   mutable std::vector<QAccessible::Id> elements_;
   std::vector<Told> told_;
   bool covered_;  ///< as told last

@@ -10,10 +10,13 @@
 #include <unistd.h>
 #endif
 
+#include "platform/webkit/PageScripts.h"
+#include "qt/WebComponent.h"
+
 namespace quorix::qt {
 namespace {
 
-/// The engine does not sandbox for root, and ends a process that asks it to.
+/// The engine has no sandbox for root: unless that is turned off, it ends the process.
 bool isRefused() {
 #ifdef Q_OS_LINUX
   const bool sandboxed = qEnvironmentVariableIsEmpty("QTWEBENGINE_DISABLE_SANDBOX") &&
@@ -32,8 +35,8 @@ bool isRefused() {
 bool WebEngine::start() {
   static const bool started = [] {
     if (isRefused()) return false;
-    // The engine crashes where there is nothing to share with. The call comes late, of which Qt
-    // warns; what was drawn before does not share, which is for the toolkits to look at.
+    // The engine crashes without a share context. Qt warns that this call comes late: contexts that
+    // exist already do not share with the new one, so a toolkit checks its window.
     if (!QOpenGLContext::globalShareContext()) QtWebEngineQuick::initialize();
     return true;
   }();
@@ -41,64 +44,21 @@ bool WebEngine::start() {
 }
 
 void WebEngine::openToReaders() {
-  // Newer engines notice when assistive technology comes, but not that it is there already.
+  // Newer engines notice when assistive technology starts, but not if it did before them.
   if (QAccessible::isActive()) QAccessible::setActive(true);
 }
 
-QWebEngineScript WebEngine::refusals() {
-  QWebEngineScript script;
-  script.setSourceCode(QStringLiteral(R"(
-    if (window.CredentialsContainer) {
-      delete window.PublicKeyCredential;
-      for (const asked of ['create', 'get']) {
-        CredentialsContainer.prototype[asked] =
-            () => Promise.reject(new DOMException('', 'NotAllowedError'));
-      }
-    })"));
-  script.setInjectionPoint(QWebEngineScript::DocumentCreation);
-  script.setWorldId(QWebEngineScript::MainWorld);
-  script.setRunsOnSubFrames(true);
-  return script;
-}
-
-QWebEngineScript WebEngine::scrollNotes() {
-  QWebEngineScript script;
-  script.setSourceCode(QStringLiteral(R"(
-    (() => {
-      let seen = 0, used = 0;
-      const scrolls = (element, x) => {
-        const style = getComputedStyle(element);
-        const whole = element === document.scrollingElement;
-        if (whole ? style.overflowX === 'hidden' : !/auto|scroll/.test(style.overflowX)) return false;
-        if (style.overscrollBehaviorX !== 'auto') return true;
-        const room = element.scrollWidth - element.clientWidth;
-        const left = element.scrollLeft + (style.direction === 'rtl' ? room : 0);
-        return x < 0 ? left >= 1 : left <= room - 1;
-      };
-      addEventListener('wheel', event => {
-        if (!event.deltaX) return;
-        seen = Date.now();
-        const uses = event.defaultPrevented || event.composedPath().some(
-            element => element instanceof Element && scrolls(element, event.deltaX));
-        if (uses) used = seen;
-      }, {passive: true});
-      globalThis.quorixUsedScroll = since => seen < since ? null : used >= since;
-    })())"));
-  script.setInjectionPoint(QWebEngineScript::DocumentCreation);
-  script.setWorldId(QWebEngineScript::ApplicationWorld);
-  return script;
-}
-
-QString WebEngine::scrollAnswer(double time) {
-  return QStringLiteral("quorixUsedScroll(%1)").arg(time, 0, 'f', 0);
-}
-
-void WebEngine::loadFailed(WebPage::Client& client, const QUrl& address, const QString& why,
-                           int code) {
-  logNotLoaded(address, why);
-  // From here down they are the network's, the server's certificate's and HTTP's own.
-  constexpr int broughtNothing = -100;
-  if (code <= broughtNothing) client.loadFailed();
+QList<QWebEngineScript> WebEngine::scripts() {
+  const auto make = [](const char* source, QWebEngineScript::ScriptWorldId world) {
+    QWebEngineScript script;
+    script.setSourceCode(QString::fromLatin1(source));
+    script.setInjectionPoint(QWebEngineScript::DocumentCreation);
+    script.setWorldId(world);
+    return script;
+  };
+  auto refusals = make(webkit::PageScripts::refusals, QWebEngineScript::MainWorld);
+  refusals.setRunsOnSubFrames(true);
+  return {refusals, make(webkit::PageScripts::scrollNotes, QWebEngineScript::ApplicationWorld)};
 }
 
 }  // namespace quorix::qt

@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/hosting/EmbeddedPages.h"
 #include "platform/hosting/Input.h"
+#include "platform/hosting/PageSwipe.h"
 
 namespace quorix::hosting {
 namespace {

@@ -2,7 +2,6 @@
 
 #include "platform/hosting/SheetPanel.h"
 #include "platform/hosting/ViewWindow.h"
-#include "platform/webkit/PageRules.h"
 #include "tests/core/OpenedAddresses.h"
 #include "tests/core/TestWindow.h"
 #include "tests/web/PageRow.h"
@@ -20,12 +19,11 @@ struct FakeEngine final : hosting::PageEngine {
   bool isShown() const override { return true; }
   void load(const foundation::URL&) override { log += "load "; }
   void stopLoad(std::chrono::milliseconds) override { log += "stop "; }
-  void ask() override { log += "ask "; }
-  void askForScroll(double) override { log += "ask "; }
-  bool canGoBack() const override { return hasHistory; }
-  bool canGoForward() const override { return hasHistory; }
-  void goBack() override { log += "back "; }
-  void goForward() override { log += "forward "; }
+  void ask(std::string_view script) override { log += std::string(script) + ' '; }
+  bool canGo(hosting::HistoryStep) const override { return hasHistory; }
+  void go(hosting::HistoryStep step) override {
+    log += step == hosting::HistoryStep::back ? "back " : "forward ";
+  }
 
   Client& client;
   std::string log;
@@ -121,18 +119,23 @@ TEST(SessionPage, KeysLeadBackAndForwardOrCloseTheSheet) {
     bool hasHistory;
     const char* log;
     bool stays;
+    bool hasScripts = true;
   } rows[] = {
-      {Key::pageBack, true, "load back ", true}, {Key::pageForward, false, "load forward ", true},
-      {Key::back, true, "load ask back ", true}, {Key::back, false, "load ", false},
+      {Key::pageBack, true, "load back ", true},
+      {Key::pageForward, false, "load forward ", true},
+      {Key::back, true, "load 'alive' back ", true},
+      {Key::back, true, "load back ", true, false},
+      {Key::back, false, "load ", false},
       {Key::escape, true, "load ", false},
   };
   for (const auto& row : rows) {
     PageWindow window;
+    window.content->settings.allowsContentJavaScript = row.hasScripts;
     window.open();
     ASSERT_TRUE(window.engine);
     window.engine->hasHistory = row.hasHistory;
     window.front().handle(hosting::KeyEvent{row.key});
-    window.engine->client.answered();
+    window.engine->client.answered("alive");
     EXPECT_EQ(window.engine->log, row.log) << static_cast<int>(row.key);
     window.settle();
     EXPECT_EQ(!window.sheets().empty(), row.stays) << static_cast<int>(row.key);
@@ -140,17 +143,19 @@ TEST(SessionPage, KeysLeadBackAndForwardOrCloseTheSheet) {
 }
 
 TEST(SessionPage, SwipesLeadBackAndForward) {
-  constexpr hosting::TrackpadEvent right{true, true, 100, 0, 0};
+  constexpr hosting::TrackpadEvent right{true, true, 100, 0, 1.7e12};
+  const std::string asks = "load quorixScrollSince(1700000000000) ";
   const struct {
-    bool hasHistory, allowed, mirrored, used;
-    const char* byFinger;
-    const char* byTrackpad;
+    bool hasHistory, allowed, mirrored;
+    const char* answer;
+    std::string byFinger, byTrackpad;
   } rows[] = {
-      {true, true, false, false, "load back ", "load ask back "},
-      {true, true, true, false, "load forward ", "load ask forward "},
-      {true, true, false, true, "load back ", "load ask "},
-      {false, true, false, false, "load ", "load "},
-      {true, false, false, false, "load ", "load "},
+      {true, true, false, "unused", "load back ", asks + "back "},
+      {true, true, true, "unused", "load forward ", asks + "forward "},
+      {true, true, false, "", "load back ", asks},
+      {true, true, false, "alive", "load back ", asks},
+      {false, true, false, "unused", "load ", "load "},
+      {true, false, false, "unused", "load ", "load "},
   };
   for (const auto& row : rows) {
     for (const bool byFinger : {true, false}) {
@@ -168,10 +173,50 @@ TEST(SessionPage, SwipesLeadBackAndForward) {
         client.touched({Phase::released, {90, 100}, 1, 320});
       } else {
         client.scrolled(right);
-        client.scrollAnswered(row.used);
+        client.answered(row.answer);
       }
       EXPECT_EQ(window.engine->log, byFinger ? row.byFinger : row.byTrackpad);
     }
+  }
+}
+
+TEST(SessionPage, LeavesTheAppOnceForEachGesture) {
+  const struct {
+    std::vector<std::string> steps;  ///< of the user, or addresses that the page or a frame wants
+    std::vector<std::string> leave;
+  } rows[] = {
+      {{"page https://a/"}, {}},
+      {{"page sms:1", "page sms:2"}, {"sms:1"}},
+      {{"frame sms:1"}, {}},
+      {{"tap", "frame sms:1", "frame sms:2"}, {"sms:1"}},
+      {{"tap", "page sms:1", "tap", "page sms:2"}, {"sms:1", "sms:2"}},
+      {{"swipe", "frame sms:1"}, {}},
+      {{"swipe", "tap", "frame sms:1"}, {"sms:1"}},
+  };
+  for (const auto& row : rows) {
+    PageWindow window;
+    std::vector<std::string> left;
+    window.content->onNewWindow = [&](const auto& url) { left.push_back(url->absoluteString()); };
+    window.open();
+    window.engine->hasHistory = true;
+    auto& page = window.engine->client;
+    for (const std::string& step : row.steps) {
+      const bool swipes = step == "swipe";
+      if (swipes || step == "tap") {
+        page.touched({Phase::pressed, {5, 100}, 1, 320});
+        for (const int fingers : {1, 2}) {  // the second one comes late
+          EXPECT_EQ(page.touched({Phase::moved, {swipes ? 90. : 5., 100}, fingers, 320}), swipes);
+        }
+        page.gestured();
+        EXPECT_EQ(page.touched({Phase::released, {5, 100}, 1, 320}), swipes);
+        continue;
+      }
+      const std::string address = step.substr(step.find(' ') + 1),
+                        scheme = address.substr(0, address.find(':'));
+      EXPECT_EQ(page.mayNavigate(scheme, address, step.starts_with("page")), scheme == "https");
+    }
+    window.settle();
+    EXPECT_EQ(left, row.leave) << ::testing::PrintToString(row.steps);
   }
 }
 
@@ -180,7 +225,7 @@ TEST(SessionPage, HasLimitedTime) {
     PageWindow window;
     window.open();
     window.engine->client.closingKeyGiven();
-    if (answers) window.engine->client.answered();
+    window.engine->client.answered(answers ? "alive" : "");
     window.wait();
     EXPECT_EQ(!window.sheets().empty(), answers) << "a page that hangs cannot keep its sheet open";
   }
@@ -189,7 +234,7 @@ TEST(SessionPage, HasLimitedTime) {
     window.open();
     window.engine->client.loading(0);
     window.engine->client.loading(30);
-    if (ends) window.engine->client.loadEnded();
+    if (ends) window.engine->client.loadEnded(0);
     window.wait();
     EXPECT_EQ(window.engine->log, ends ? "load " : "load stop ");
     EXPECT_EQ(window.failures, 0) << "what has come stays";
@@ -199,6 +244,17 @@ TEST(SessionPage, HasLimitedTime) {
   window.engine->client.loading(0);
   window.wait();
   EXPECT_EQ(window.failures, 1);
+}
+
+TEST(SessionPage, FailsWithAnErrorOfTheNetwork) {
+  constexpr int aborted = -3, connectionClosed = -100, unknownHost = -105, notFound = 404;
+  for (const int error : {0, aborted, -99, connectionClosed, unknownHost, notFound}) {
+    PageWindow window;
+    window.open();
+    window.engine->client.loadEnded(error);
+    window.settle();
+    EXPECT_EQ(window.failures, error == connectionClosed || error == unknownHost) << error;
+  }
 }
 
 TEST(SessionPage, ThatEndsTellsItsContentOutsideTheEnginesCall) {
@@ -218,49 +274,6 @@ TEST(SessionPage, WithoutAnEngineOpensOutsideAndTheSheetCloses) {
   window.settle();
   EXPECT_TRUE(window.sheets().empty());
   EXPECT_EQ(opened.list(), std::vector<std::string>{"https://modules.quorix.example/page"});
-}
-
-struct Request {
-  double at;  ///< seconds
-  bool byUser;
-  const char* address;
-  bool leaves;
-};
-
-TEST(NewWindowLimit, LetsTheUserOutAndHoldsFloodsBack) {
-  const struct {
-    const char* what;
-    std::vector<Request> requests;
-  } pages[] = {
-      {"the first one leaves to any address, later ones with a pause and to ordinary addresses",
-       {{0, false, "whatsapp://send", true},
-        {9.9, false, "https://a.example", false},
-        {10, false, "https://a.example", true},
-        {19.9, false, "https://a.example", false},
-        {20, false, "whatsapp://send", false},
-        {20, false, "tel:1", true},
-        {30, false, "mailto:a@a.example", true},
-        {40, false, "HTTP://a.example", true}}},
-      {"gestures open one each, and leave nothing for a script beside them",
-       {{0, true, "sms:1", true},
-        {0, false, "tel:1", false},
-        {1, true, "sms:1", true},
-        {1, false, "tel:1", false},
-        {11, false, "whatsapp://send", true},
-        {12, true, "whatsapp://send", true},
-        {22, false, "sms:1", false}}},
-  };
-  for (const auto& page : pages) {
-    webkit::NewWindowLimit limit;
-    for (const Request& request : page.requests) {
-      const webkit::NewWindowLimit::Clock::time_point now{
-          std::chrono::duration_cast<webkit::NewWindowLimit::Clock::duration>(
-              std::chrono::duration<double>(request.at))};
-      EXPECT_EQ(limit.allows(foundation::URL::parse(request.address).value(), request.byUser, now),
-                request.leaves)
-          << page.what << ": " << request.at << ' ' << request.address;
-    }
-  }
 }
 
 }  // namespace

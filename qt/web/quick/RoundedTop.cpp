@@ -11,12 +11,13 @@
 namespace quorix::qt {
 namespace {
 
-constexpr int kLevels = 8;  ///< of opacity at the curve; each is one more draw call
+constexpr int kLevels = 8;  ///< of opacity at the curve; each costs a draw call
 
-/// For each level of opacity the pixels that have it, as rectangles. The last level is opaque.
+/// The pixels of each level of opacity, as rectangles. The last level is opaque.
 using Levels = std::array<std::vector<QRectF>, kLevels + 1>;
 
-/// The level of a pixel, from how far its middle is inside the curve. Counted from the corner.
+/// The level of a pixel by how far its middle is inside the curve. Row and column count from the
+/// corner.
 int levelAt(int column, int row, double radius) {
   const double distance =
       std::hypot(std::max(0.0, radius - column - 0.5), std::max(0.0, radius - row - 0.5));
@@ -46,8 +47,8 @@ struct Picture {
   double pixelRatio;
 };
 
-/// Shows `pixels` of the picture, each once: the material takes the nearest one of the texture,
-/// which may have a row or a column more than the item has pixels.
+/// Shows `pixels` of the picture. The material takes the texture's nearest pixel: the texture may
+/// have a row or a column more than the item has pixels.
 QSGGeometryNode* makeShape(const std::vector<QRectF>& pixels, const Picture& picture) {
   const int count = static_cast<int>(pixels.size());
   auto* geometry = new QSGGeometry(QSGGeometry::defaultAttributes_TexturedPoint2D(), 6 * count);

@@ -9,92 +9,79 @@ WebEngineView {
     id: view
 
     required property QtObject page
+    required property var scripts // to run beside the page's own
+    required property bool allowsScripts
+    required property bool opensWindowsUnasked
+    // The upper part of the page, which is cut to a sheet's rounded corners.
+    property real topHeight: 0
+    property real topRadius: 0
+    property real pixelRatio: 1
 
-    // Tells the page's client that the page's process answers.
-    function ask() {
-        runJavaScript("0", () => page.answered());
+    function ask(script: string) {
+        runJavaScript(script, WebEngineScript.ApplicationWorld, answer => page.answer(answer ?? ""));
     }
 
-    // Asks the page's scroll notes. If they do not know, the page counts as having used the scrolling.
-    function askForScroll(question: string) {
-        runJavaScript(question, WebEngineScript.ApplicationWorld, used => page.scrollAnswered(used !== false));
+    function refuse(request) {
+        request.accepted = true;
+        request.dialogReject();
     }
 
-    // In a sheet with rounded corners the page is drawn as a picture, which is cut to them.
+    // With a rounded top the page is drawn as a picture, which is cut.
     layer {
-        enabled: page.topHeight > 0
+        enabled: view.topHeight > 0
         effect: RoundedTop {
-            pixelRatio: view.page.pixelRatio
-            radius: view.page.topRadius
+            pixelRatio: view.pixelRatio
+            radius: view.topRadius
         }
     }
     Rectangle { // shows until the page has painted
-        color: view.page.background
-        height: view.page.topHeight
+        color: view.backgroundColor
+        height: view.topHeight
         width: view.width
         z: -1
     }
 
-    backgroundColor: page.background
     settings {
         allowWindowActivationFromJavaScript: false
         javascriptCanAccessClipboard: false
-        javascriptCanOpenWindows: page.opensWindowsUnasked
+        javascriptCanOpenWindows: view.opensWindowsUnasked
         javascriptCanPaste: false
-        javascriptEnabled: page.allowsScripts
+        javascriptEnabled: view.allowsScripts
         errorPageEnabled: false // the background shows instead
         focusOnNavigationEnabled: false
         fullScreenSupportEnabled: false
         navigateOnDropEnabled: false
         pluginsEnabled: false
         screenCaptureEnabled: false
-        unknownUrlSchemePolicy: WebEngineSettings.AllowAllUnknownUrlSchemes // so that we are asked
+        unknownUrlSchemePolicy: WebEngineSettings.AllowAllUnknownUrlSchemes // see onNavigationRequested
     }
 
-    Component.onCompleted: userScripts.insert([page.refusals, page.scrollNotes])
+    Component.onCompleted: userScripts.insert(scripts)
 
-    onLoadProgressChanged: if (loading) page.loading(loadProgress)
-    onLoadingChanged: info => {
-        if (info.status === WebEngineView.LoadStartedStatus) page.loading(0);
-        else page.loadEnded();
-        if (info.status === WebEngineView.LoadFailedStatus) {
-            page.loadFailed(info.url, info.errorString, info.errorCode);
-        }
-    }
+    onLoadProgressChanged: if (loading) page.loadMoved(loadProgress)
+    onLoadingChanged: info => page.loadChanged(info)
     onNavigationRequested: request => {
         if (!page.mayNavigate(request.url, request.isMainFrame)) request.reject();
     }
-    onNewWindowRequested: request => page.windowAsked(request.requestedUrl, request.userInitiated)
+    onNewWindowRequested: request => page.askForWindow(request.requestedUrl, request.userInitiated)
     onRenderProcessTerminated: page.processEnded()
 
-    onAuthenticationDialogRequested: request => {
-        request.accepted = true;
-        request.dialogReject();
-    }
+    onAuthenticationDialogRequested: request => refuse(request)
     onCertificateError: error => error.rejectCertificate()
-    onColorDialogRequested: request => {
-        request.accepted = true;
-        request.dialogReject();
-    }
+    onColorDialogRequested: request => refuse(request)
     onContextMenuRequested: request => request.accepted = true
-    onFileDialogRequested: request => {
-        request.accepted = true;
-        request.dialogReject();
-    }
+    onFileDialogRequested: request => refuse(request)
     onFileSystemAccessRequested: request => request.reject()
     onFullScreenRequested: request => request.reject()
     onJavaScriptConsoleMessage: {} // a handler keeps the page's words off the host's log
-    onJavaScriptDialogRequested: request => {
-        request.accepted = true;
-        request.dialogReject();
-    }
+    onJavaScriptDialogRequested: request => refuse(request)
     onQuotaRequested: request => request.reject()
     onRegisterProtocolHandlerRequested: request => request.reject()
     onSelectClientCertificate: selection => selection.selectNone()
     onTooltipRequested: request => request.accepted = true
     onTouchSelectionMenuRequested: request => request.accepted = true
 
-    // What not every version of the engine asks for.
+    // Signals that not every version of the engine has.
     Connections {
         target: view
         ignoreUnknownSignals: true

@@ -8,13 +8,11 @@
 #include <QWebEngineClientCertificateSelection>
 #include <QWebEngineFileSystemAccessRequest>
 #include <QWebEngineFullScreenRequest>
-#include <QWebEngineLoadingInfo>
 #include <QWebEngineNewWindowRequest>
 #include <QWebEngineRegisterProtocolHandlerRequest>
 #include <QWebEngineScriptCollection>
 #include <QWebEngineSettings>
 
-#include "qt/Conversions.h"
 #include "qt/web/WebEngine.h"
 
 #if QT_VERSION < QT_VERSION_CHECK(6, 5, 0)
@@ -32,12 +30,13 @@
 
 namespace quorix::qt {
 
-QuietPage::QuietPage(QWebEngineProfile& profile, const WebPage::Options& options,
-                     WebPage::Client& client, PageInput& input, QObject* parent)
-    : QWebEnginePage(&profile, parent), input_(input) {
+QuietPage::QuietPage(QWebEngineProfile& profile, const WebPage::Options& options, WebPageBase& page,
+                     QObject* parent)
+    : QWebEnginePage(&profile, parent), page_(page) {
   setBackgroundColor(options.background);
   settle(options.settings);
-  tell(client);
+  scripts().insert(WebEngine::scripts());
+  tell();
   refuseRequests();
   refusePermissions();
 }
@@ -54,28 +53,20 @@ void QuietPage::settle(const webkit::WebContent::Settings& asked) {
                          Settings::ScreenCaptureEnabled}) {
     own.setAttribute(off, false);
   }
-  own.setUnknownUrlSchemePolicy(Settings::AllowAllUnknownUrlSchemes);  // so that we are asked
+  own.setUnknownUrlSchemePolicy(
+      Settings::AllowAllUnknownUrlSchemes);  // acceptNavigationRequest decides
 }
 
-void QuietPage::tell(WebPage::Client& client) {
-  connect(this, &QWebEnginePage::loadProgress, this, [this, &client](int percent) {
-    if (isLoading()) client.loading(percent);
+void QuietPage::tell() {
+  connect(this, &QWebEnginePage::loadProgress, &page_, [this](int percent) {
+    if (isLoading()) page_.loadMoved(percent);
   });
-  connect(this, &QWebEnginePage::loadingChanged, this,
-          [&client](const QWebEngineLoadingInfo& info) {
-            if (info.status() == QWebEngineLoadingInfo::LoadStartedStatus) return client.loading(0);
-            client.loadEnded();
-            if (info.status() != QWebEngineLoadingInfo::LoadFailedStatus) return;
-            WebEngine::loadFailed(client, info.url(), info.errorString(), info.errorCode());
+  connect(this, &QWebEnginePage::loadingChanged, &page_, &WebPageBase::loadChanged);
+  connect(this, &QWebEnginePage::newWindowRequested, &page_,
+          [this](const QWebEngineNewWindowRequest& request) {
+            page_.askForWindow(request.requestedUrl(), request.isUserInitiated());
           });
-  connect(this, &QWebEnginePage::newWindowRequested, this,
-          [&client](const QWebEngineNewWindowRequest& request) {
-            client.windowAsked(toText(request.requestedUrl()), request.isUserInitiated());
-          });
-  connect(this, &QWebEnginePage::renderProcessTerminated, this, [this, &client] {
-    logEnded(url());
-    client.processEnded();
-  });
+  connect(this, &QWebEnginePage::renderProcessTerminated, &page_, &WebPageBase::processEnded);
 }
 
 void QuietPage::refuseRequests() {
@@ -105,7 +96,6 @@ void QuietPage::refuseRequests() {
 }
 
 void QuietPage::refusePermissions() {
-  scripts().insert({WebEngine::refusals(), WebEngine::scrollNotes()});
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
   connect(this, &QWebEnginePage::permissionRequested, this,
           [](const QWebEnginePermission& permission) { permission.deny(); });
@@ -119,7 +109,7 @@ void QuietPage::refusePermissions() {
 
 QuietView::QuietView(QWidget* parent) : QWebEngineView(parent) {
   setContextMenuPolicy(Qt::NoContextMenu);
-  setAcceptDrops(false);  // files are not for pages
+  setAcceptDrops(false);  // a page gets no files
 }
 
 bool QuietView::event(QEvent* event) {
@@ -127,12 +117,12 @@ bool QuietView::event(QEvent* event) {
   return QWebEngineView::event(event);
 }
 
-/// The engine's dialogs are children of the view. A dialog that is not to be shown on the screen is
-/// no native one either; it is rejected on the next turn, when the engine waits for its end.
+/// The engine's dialogs are children of the view. Keeps them off the screen, native ones too, and
+/// rejects them on the next turn, when the engine waits for their end.
 void QuietView::childEvent(QChildEvent* event) {
   QWebEngineView::childEvent(event);
   if (!event->added() || !event->child()->isWidgetType()) return;
-  auto* widget = static_cast<QWidget*>(event->child());  // not yet what it is going to be
+  auto* widget = static_cast<QWidget*>(event->child());  // the derived part is not made yet
   if (widget->windowType() != Qt::Dialog) return;
   widget->setAttribute(Qt::WA_DontShowOnScreen);
   QMetaObject::invokeMethod(

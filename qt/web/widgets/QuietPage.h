@@ -3,8 +3,7 @@
 #include <QWebEnginePage>
 #include <QWebEngineView>
 
-#include "qt/WebComponent.h"
-#include "qt/web/PageInput.h"
+#include "qt/web/WebPageBase.h"
 
 namespace quorix::qt {
 
@@ -15,12 +14,12 @@ class QuietPage : public QWebEnginePage {
   Q_OBJECT
 
  public:
-  QuietPage(QWebEngineProfile& profile, const WebPage::Options& options, WebPage::Client& client,
-            PageInput& input, QObject* parent);
+  QuietPage(QWebEngineProfile& profile, const WebPage::Options& options, WebPageBase& page,
+            QObject* parent);
 
  protected:
   bool acceptNavigationRequest(const QUrl& address, NavigationType, bool mainFrame) override {
-    return input_.mayNavigate(address, mainFrame);
+    return page_.mayNavigate(address, mainFrame);
   }
   QWebEnginePage* createWindow(WebWindowType) override { return nullptr; }
   QStringList chooseFiles(FileSelectionMode, const QStringList&, const QStringList&) override {
@@ -31,21 +30,21 @@ class QuietPage : public QWebEnginePage {
   bool javaScriptPrompt(const QUrl&, const QString&, const QString&, QString*) override {
     return false;
   }
-  /// Keeps the page's words off the host's log.
+  /// Discards the page's console output: a host's log belongs to the host.
   void javaScriptConsoleMessage(JavaScriptConsoleMessageLevel, const QString&, int,
                                 const QString&) override {}
 
  private:
   void settle(const webkit::WebContent::Settings& settings);
-  void tell(WebPage::Client& client);
+  void tell();
   void refuseRequests();
   void refusePermissions();
 
-  PageInput& input_;
+  WebPageBase& page_;
 };
 
-/// Shows a `QuietPage`, and keeps from the screen what the engine opens over it by itself: the
-/// color dialog, for which the page has no way to refuse, menus and tooltips. Main thread.
+/// Shows a `QuietPage`, and keeps off the screen what the engine opens over it: menus, tooltips and
+/// the color dialog, which a page cannot refuse. Main thread.
 class QuietView : public QWebEngineView {
   Q_OBJECT
 

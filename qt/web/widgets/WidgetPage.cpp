@@ -7,8 +7,6 @@
 #include <memory>
 
 #include "qt/ApplicationLifetime.h"
-#include "qt/Conversions.h"
-#include "qt/WebComponent.h"
 #include "qt/web/WebEngine.h"
 #include "qt/web/widgets/QuietPage.h"
 
@@ -16,16 +14,13 @@ namespace quorix::qt {
 
 WidgetPage::WidgetPage(QWebEngineProfile& profile, QWidget& place, const Options& options,
                        Client& client)
-    : view_(new QuietView(&place)),
-      client_(client),
-      allowsScripts_(options.settings.allowsContentJavaScript),
-      input_([this](const QObject& receiver) { return isReceiver(receiver); }, client) {
-  view_->setPage(new QuietPage(profile, options, client, input_, view_));
+    : WebPageBase(client), view_(new QuietView(&place)) {
+  view_->setPage(new QuietPage(profile, options, *this, view_));
 }
 
 WidgetPage::~WidgetPage() { delete view_; }
 
-bool WidgetPage::isReceiver(const QObject& receiver) const {
+bool WidgetPage::isForPage(const QObject& receiver) const {
   if (!view_) return false;
   const auto* widget = qobject_cast<const QWidget*>(&receiver);
   if (widget) return view_->isAncestorOf(widget);
@@ -33,46 +28,25 @@ bool WidgetPage::isReceiver(const QObject& receiver) const {
   return focused && view_->isAncestorOf(focused) && view_->window()->windowHandle() == &receiver;
 }
 
-void WidgetPage::load(const foundation::URL& address) {
-  if (view_) view_->load(toQUrl(address));
-}
-
-void WidgetPage::stopLoad(std::chrono::milliseconds limit) {
+void WidgetPage::ask(std::string_view script) {
   if (!view_) return;
-  logNothingCame(view_->url(), limit);
-  view_->stop();
-}
-
-void WidgetPage::ask() {
-  if (!allowsScripts_) return client_.answered();  // nothing can keep it busy for long
-  if (!view_) return;
-  // The engine also calls back when the page is taken away.
-  view_->page()->runJavaScript(QStringLiteral("0"), [this, asked = view_](const QVariant& answer) {
-    if (asked && answer.isValid()) client_.answered();
-  });
-}
-
-void WidgetPage::askForScroll(double time) {
-  if (!view_) return;
-  view_->page()->runJavaScript(WebEngine::scrollAnswer(time), QWebEngineScript::ApplicationWorld,
-                               [this, asked = view_](const QVariant& used) {
-                                 if (!asked) return;
-                                 const bool unused =
-                                     used.typeId() == QMetaType::Bool && !used.toBool();
-                                 client_.scrollAnswered(!unused);
+  // The engine also calls back while the page is being deleted.
+  view_->page()->runJavaScript(QString::fromStdString(std::string(script)),
+                               QWebEngineScript::ApplicationWorld,
+                               [this, asked = view_](const QVariant& text) {
+                                 if (asked) answer(text.toString());
                                });
 }
 
-bool WidgetPage::canGoForward() const { return view_ && view_->history()->canGoForward(); }
-
-bool WidgetPage::canGoBack() const { return view_ && view_->history()->canGoBack(); }
-
-void WidgetPage::goBack() {
-  if (view_) view_->back();
+bool WidgetPage::canGo(hosting::HistoryStep step) const {
+  if (!view_) return false;
+  const QWebEngineHistory& history = *view_->history();
+  return step == hosting::HistoryStep::back ? history.canGoBack() : history.canGoForward();
 }
 
-void WidgetPage::goForward() {
-  if (view_) view_->forward();
+void WidgetPage::go(hosting::HistoryStep step) {
+  if (!view_) return;
+  step == hosting::HistoryStep::back ? view_->back() : view_->forward();
 }
 
 namespace {

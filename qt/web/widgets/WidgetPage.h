@@ -3,34 +3,25 @@
 #include <QPointer>
 #include <QWebEngineView>
 
-#include "qt/WebComponent.h"
-#include "qt/web/PageInput.h"
+#include "qt/web/WebPageBase.h"
 
 namespace quorix::qt {
 
 /// A page in a window of widgets.
-class WidgetPage final : public WebPage {
+class WidgetPage final : public WebPageBase {
  public:
   WidgetPage(QWebEngineProfile& profile, QWidget& place, const Options& options, Client& client);
   ~WidgetPage() override;
 
   QObject* view() const override { return view_; }
-  void load(const foundation::URL& address) override;
-  void stopLoad(std::chrono::milliseconds limit) override;
-  void ask() override;
-  void askForScroll(double time) override;
-  bool canGoBack() const override;
-  bool canGoForward() const override;
-  void goBack() override;
-  void goForward() override;
+  void ask(std::string_view script) override;
+  bool canGo(hosting::HistoryStep step) const override;
+  void go(hosting::HistoryStep step) override;
 
  private:
-  bool isReceiver(const QObject& receiver) const;
+  bool isForPage(const QObject& receiver) const override;
 
   QPointer<QWebEngineView> view_;
-  Client& client_;
-  const bool allowsScripts_;
-  PageInput input_;
 };
 
 }  // namespace quorix::qt

@@ -1,0 +1,122 @@
+#include "qt/web/WebPageBase.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QKeyEvent>
+#include <QTouchEvent>
+#include <QWebEngineLoadingInfo>
+#include <QWheelEvent>
+#include <utility>
+
+namespace quorix::qt {
+namespace {
+
+using Phase = hosting::PointerEvent::Phase;
+
+/// Logs the page's address without its query, which may name the shopper.
+void logPage(const QUrl& address, const QString& what) {
+  qCWarning(webLog, "%s %s", qUtf8Printable(address.toDisplayString(QUrl::RemoveQuery)),
+            qUtf8Printable(what));
+}
+
+void logNotLoaded(const QUrl& address, const QString& why) {
+  logPage(address, QStringLiteral("was not loaded: ") + why);
+}
+
+}  // namespace
+
+WebPageBase::WebPageBase(Client& client) : client_(client) { qApp->installEventFilter(this); }
+
+QUrl WebPageBase::address() const { return view() ? view()->property("url").toUrl() : QUrl(); }
+
+void WebPageBase::load(const foundation::URL& address) {
+  if (view()) view()->setProperty("url", toQUrl(address));
+}
+
+void WebPageBase::stopLoad(std::chrono::milliseconds limit) {
+  if (!view()) return;
+  logNotLoaded(address(), QStringLiteral("nothing came for %1 ms").arg(limit.count()));
+  QMetaObject::invokeMethod(view(), "stop");
+}
+
+void WebPageBase::loadChanged(const QWebEngineLoadingInfo& info) {
+  if (info.status() == QWebEngineLoadingInfo::LoadStartedStatus) return client_.loading(0);
+  const bool failed = info.status() == QWebEngineLoadingInfo::LoadFailedStatus;
+  if (failed) logNotLoaded(info.url(), info.errorString());
+  client_.loadEnded(failed ? info.errorCode() : 0);
+}
+
+void WebPageBase::processEnded() {
+  logPage(address(), QStringLiteral("ended: its process crashed or was killed"));
+  client_.processEnded();
+}
+
+// Input.
+
+bool WebPageBase::eventFilter(QObject* watched, QEvent* event) {
+  return watched->isWindowType() ? takesFromWindow(*watched, *event)
+                                 : takesFromPage(*watched, *event);
+}
+
+bool WebPageBase::takesFromWindow(QObject& window, QEvent& event) {
+  const bool isKey = event.type() == QEvent::KeyPress;
+  const bool isGesture =
+      isKey || event.type() == QEvent::MouseButtonRelease || event.type() == QEvent::TouchEnd;
+  if (!isGesture || !isForPage(window)) return false;
+  client_.gestured();
+  if (!isKey) return false;
+  auto& key = static_cast<QKeyEvent&>(event);
+  const bool escapes = key.key() == Qt::Key_Escape;
+  if (!escapes && key.key() != Qt::Key_Back) return false;
+  client_.closingKeyGiven();
+  if (!escapes || key.text().isEmpty()) return false;
+  QKeyEvent bare(key.type(), key.key(), key.modifiers(), key.nativeScanCode(),
+                 key.nativeVirtualKey(), key.nativeModifiers(), QString(), key.isAutoRepeat());
+  bare.setTimestamp(key.timestamp());
+  QCoreApplication::sendEvent(&window, &bare);
+  key.setAccepted(bare.isAccepted());
+  return true;
+}
+
+bool WebPageBase::takesFromPage(QObject& receiver, const QEvent& event) {
+  switch (event.type()) {
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+      return isForPage(receiver) && takesTouch(receiver, static_cast<const QTouchEvent&>(event));
+    case QEvent::Wheel:
+      if (isForPage(receiver)) tellScroll(static_cast<const QWheelEvent&>(event));
+      return false;
+    default:
+      return false;
+  }
+}
+
+bool WebPageBase::takesTouch(QObject& receiver, const QTouchEvent& event) {
+  if (event.points().isEmpty()) return false;
+  const bool begins = event.type() == QEvent::TouchBegin, ends = event.type() == QEvent::TouchEnd;
+  const QPointF point = event.points().constFirst().position();
+  const bool takes = client_.touched({begins ? Phase::pressed
+                                      : ends ? Phase::released
+                                             : Phase::moved,
+                                      {point.x(), point.y()},
+                                      static_cast<int>(event.points().size()),
+                                      receiver.property("width").toDouble()});
+  const bool had = std::exchange(hasFingers_, takes);
+  if (takes && !had) {
+    QTouchEvent cancel(QEvent::TouchCancel, event.pointingDevice(), event.modifiers());
+    QCoreApplication::sendEvent(&receiver, &cancel);
+  }
+  return takes;
+}
+
+/// A mouse's wheel reports no phases: only trackpads swipe.
+void WebPageBase::tellScroll(const QWheelEvent& event) {
+  if (event.phase() == Qt::NoScrollPhase) return;
+  const bool begins = event.phase() == Qt::ScrollBegin;
+  client_.scrolled({begins, begins || event.phase() == Qt::ScrollUpdate,
+                    double(event.pixelDelta().x()), double(event.pixelDelta().y()),
+                    double(QDateTime::currentMSecsSinceEpoch())});
+}
+
+}  // namespace quorix::qt
