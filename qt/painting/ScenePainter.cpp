@@ -137,8 +137,7 @@ bool ScenePainter::copyPicture(const QImage& picture, const QRect& to, graphics:
 }
 
 /// The text on its ground, with room around it for ink that leaves its frame.
-TextPictures::Picture ScenePainter::pictureOf(const render::TextItem& item,
-                                              graphics::RGBA ground) const {
+InkPicture ScenePainter::pictureOf(const render::TextItem& item, graphics::RGBA ground) const {
   const double scale = toDevice_.m11();
   const int room = static_cast<int>(std::ceil(item.frame.size.height * scale));
   const QSize frame = (QSizeF(item.frame.size.width, item.frame.size.height) * scale).toSize();
@@ -149,7 +148,7 @@ TextPictures::Picture ScenePainter::pictureOf(const render::TextItem& item,
   painter.scale(scale, scale);
   ScenePainter(painter, engine_).drawText({{{}, item.frame.size}, item.text});
   painter.end();
-  return {image, {-room, -room}};
+  return InkPicture{image, {-room, -room}}.cropped(ground);
 }
 
 void ScenePainter::drawText(const render::TextItem& item) {

@@ -85,7 +85,7 @@ class ScenePainter {
   bool copyPicture(const QImage& picture, const QRect& to, graphics::RGBA ground);
   bool isClear(const QRect& pixels) const;
   bool copyGlyphs(const QGlyphRun& glyphs, double unit, graphics::RGBA color, QPointF origin);
-  TextPictures::Picture pictureOf(const render::TextItem& item, graphics::RGBA ground) const;
+  InkPicture pictureOf(const render::TextItem& item, graphics::RGBA ground) const;
   void drawLine(const ShapedText::Line& line, double unit, const text::AttributedText& text,
                 QPointF origin);
   void drawDecoration(const ShapedText::Span& span, QPointF origin, ShapingFont::Stroke stroke,

@@ -80,6 +80,8 @@ double measuredWidth(double natural, double needed, double offered) {
 }
 
 void Paragraph::set(const text::AttributedText& text, QtFonts& fonts) {
+  if (text_ && text_->isShapedAs(text)) return;
+  text_ = text;
   QString characters;
   runs_.clear();
   for (const text::Run& run : text.runs) {

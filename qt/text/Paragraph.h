@@ -4,6 +4,7 @@
 #include <QString>
 #include <QTextLayout>
 #include <cstddef>
+#include <optional>
 #include <vector>
 
 #include "platform/text/AttributedText.h"
@@ -51,8 +52,11 @@ double measuredWidth(double natural, double needed, double offered);
 /// Breaks one text after another into lines with one QTextLayout.
 class Paragraph {
  public:
-  /// Takes `text` in place of the one before.
+  /// Takes `text` in place of the one before, unless it has the same shapes.
   void set(const text::AttributedText& text, QtFonts& fonts);
+
+  /// Forgets the text: faces have changed.
+  void clear() { text_.reset(); }
 
   /// The text broken to `width` points, with its glyphs where `glyphs` says so.
   ShapedText breakLines(double width, bool glyphs);
@@ -73,6 +77,7 @@ class Paragraph {
   double widthNeeded(const QTextLine& line) const;
   ShapedText::Line collect(const QTextLine& line) const;
 
+  std::optional<text::AttributedText> text_;
   QTextLayout layout_;
   std::vector<Run> runs_;
   double unit_ = 1;  ///< points for each pixel of the shaping font

@@ -1,4 +1,4 @@
-#include "qt/text/TextPictures.h"
+#include "qt/text/GlyphPictures.h"
 
 #include <gtest/gtest.h>
 
@@ -98,30 +98,6 @@ TEST(TextPictures, LookAsTheTextDrawnAnew) {
       }
     }
   }
-}
-
-/// The cache keeps to its bound: any number of texts neither exceeds it nor gets a wrong picture.
-TEST(TextPictures, KeepTheLatestOnly) {
-  TextPictures pictures;
-  int made = 0;
-  const auto find = [&](int number) {
-    const render::TextItem item{{{}, {100, 20}}, plainText(std::to_string(number))};
-    return pictures.find(item, 3, {0, 0, 0, 0}, [&]() -> TextPictures::Picture {
-      ++made;
-      QImage image(300, 100, QImage::Format_ARGB32_Premultiplied);
-      image.fill(QColor(number % 256, 0, 0));
-      return {image, {}};
-    });
-  };
-  for (int number = 0; number < 200; ++number) {
-    EXPECT_EQ(find(number), nullptr);
-    const auto* picture = find(number);
-    ASSERT_NE(picture, nullptr);
-    EXPECT_EQ(picture->image.pixelColor(0, 0), QColor(number % 256, 0, 0));
-  }
-  EXPECT_EQ(made, 200);
-  EXPECT_NE(find(199), nullptr);
-  EXPECT_EQ(find(0), nullptr);
 }
 
 }  // namespace
