@@ -5,10 +5,10 @@
 #include <cmath>
 #include <variant>
 
+#include "platform/text/PriceGlyphs.h"
 #include "qt/Conversions.h"
 #include "qt/painting/Pixels.h"
 #include "qt/painting/QtImages.h"
-#include "qt/text/Figures.h"
 
 namespace quorix::qt {
 namespace {
@@ -174,7 +174,7 @@ void ScenePainter::drawLine(const ShapedText::Line& line, double unit,
   for (const ShapedText::Piece& piece : line.pieces) {
     const graphics::RGBA color = text.runs[piece.run].color;
     // Words alone are painted again, and then from their own picture.
-    const bool hasFigures = Figures::areIn(text.runs[piece.run]);
+    const bool hasFigures = text::PriceGlyphs::areIn(text.runs[piece.run]);
     if (hasFigures && copyGlyphs(piece.glyphs, unit, color, origin)) continue;
     painter().setTransform(QTransform(unit, 0, 0, unit, origin.x(), origin.y()) * base_);
     painter().setPen(toQColor(color));

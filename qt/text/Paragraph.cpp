@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "platform/text/TextAnalysis.h"
+#include "qt/Conversions.h"
 
 namespace quorix::qt {
 namespace {
@@ -176,8 +177,7 @@ ShapedText Paragraph::breakLines(double width, bool glyphs) {
 /// Of a word in which a line may end, as far as scripts go.
 double Paragraph::longestUnspacedWord() {
   const QString& text = layout_.text();
-  const auto words = text::unspacedWords(
-      {reinterpret_cast<const char16_t*>(text.utf16()), static_cast<std::size_t>(text.size())});
+  const auto words = text::unspacedWords(utf16(text));
   if (words.empty()) return 0;
   layout_.beginLayout();
   QTextLine line = layout_.createLine();
