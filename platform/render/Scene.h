@@ -106,10 +106,10 @@ struct QUORIX_EXPORT Scene {
   /// The area that a tap at `point` is for, or null: the top-most one under it, else the nearest
   /// that has the point in its room to tap. Null too where an embed's content takes the tap.
   const HitArea* hitTest(layout::Point point) const;
-  /// Whether the keyboard's focus stops at accessibility element `index`: at the first of those
-  /// that one action makes act.
+  /// Whether the keyboard's focus stops at accessibility element `index`: it does at the first of
+  /// the elements that have one action.
   bool isFocusStop(std::size_t index) const;
-  /// Around all that acts as element `index` does.
+  /// The frame around all elements that have the action of element `index`.
   layout::Rect actingFrame(std::size_t index) const;
   /// Appends `other`, moved by `offset`.
   void append(Scene other, layout::Point offset);

@@ -20,19 +20,15 @@ class TextPictures {
   /// picture the second time. The pointer holds until the next call.
   template <class Paint>
   const Picture* find(const TextItem& item, double scale, graphics::RGBA ground, Paint paint) {
-    const double width = item.frame.size.width;
+    const Look look{item.frame.size.width, scale, ground};
     const std::size_t hash = item.text.shapeHash();
-    Entry* const known = entries_.find(hash, [&](const Entry& each) {
-      return each.scale == scale && each.ground == ground && each.width == width &&
-             each.text == item.text;
-    });
+    Entry* const known = entries_.find(
+        hash, [&](const Entry& each) { return each.look == look && each.text == item.text; });
     if (!known) {
       Entry& added = entries_.add(hash);
       bytes_ -= added.picture.bytes();
       added.text = item.text;
-      added.width = width;
-      added.scale = scale;
-      added.ground = ground;
+      added.look = look;
       added.isMade = false;
       added.picture = {};
       return nullptr;
@@ -51,11 +47,15 @@ class TextPictures {
   static constexpr std::size_t mostBytes = std::size_t{2} << 20;
   static constexpr std::size_t mostTexts = 128;
 
-  struct Entry {
-    text::AttributedText text;
+  struct Look {
     double width = 0;
     double scale = 1;
     graphics::RGBA ground;
+    bool operator==(const Look&) const = default;
+  };
+  struct Entry {
+    text::AttributedText text;
+    Look look;
     bool isMade = false;
     Picture picture;
   };

@@ -68,7 +68,7 @@ class LineCache {
   };
   struct Entry {
     AttributedText text;
-    std::vector<Breaking> breakings;  ///< the first is at no width
+    std::vector<Breaking> breakings;  ///< the first one is to infinite width
     std::optional<double> leastWidth;
   };
 

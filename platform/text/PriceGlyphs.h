@@ -17,11 +17,11 @@ namespace quorix::text {
 /// is so.
 class PriceGlyphs {
  public:
-  /// Of a shaped line.
+  /// A glyph of a shaped line.
   struct Glyph {
     std::uint32_t index = 0;
     double x = 0;        ///< of its origin on the line
-    double advance = 0;  ///< before no other character
+    double advance = 0;  ///< at the end of a line
   };
 
   /// Whether `run` has digits, and so may be another text in each row.
@@ -33,32 +33,32 @@ class PriceGlyphs {
            areIn(text.runs[0]);
   }
 
-  /// Counts a price. Whether it is the one before which to learn: that costs as much as shaping
-  /// some fifty prices, too much for a page with a row or two.
+  /// Counts a price. True once, when there were enough of them to learn: that costs as much as
+  /// shaping some fifty prices, too much for a page with a row or two.
   bool isTimeToLearn() { return prices_ < pricesToLearn && ++prices_ == pricesToLearn; }
 
-  /// Two texts that have each pair of characters, with other neighbors in each.
+  /// Two texts to learn from. Each has every pair of characters; a pair's neighbors differ.
   static std::array<std::u16string, 2> samples() {
     return {pairs(characters), pairs(std::u16string(characters.rbegin(), characters.rend()))};
   }
 
-  /// Learns from the glyphs of a sample. False if they disagree with those before, or are not one
-  /// for each character: such a face cannot set prices.
+  /// Learns from the glyphs of a sample. False if they contradict those before, or are not one for
+  /// each character: prices of such a face cannot be set.
   bool learn(std::u16string_view sample, std::span<const Glyph> shaped) {
     if (shaped.size() != sample.size()) return false;
     for (std::size_t i = 0; i < sample.size(); ++i) {
       Known& known = known_[indexOf(sample[i])];
       known.advances[count] = shaped[i].advance;
       if (!agree(known.index, shaped[i].index)) return false;
-      const bool isLast = i + 1 == sample.size();
-      if (!isLast && !agree(known.advances[indexOf(sample[i + 1])], shaped[i + 1].x - shaped[i].x))
-        return false;
+      if (i + 1 == sample.size()) continue;
+      auto& advance = known.advances[indexOf(sample[i + 1])];
+      if (!agree(advance, shaped[i + 1].x - shaped[i].x)) return false;
     }
     return true;
   }
 
   /// Calls `place(index, x)` for each glyph of `price` in order and returns the advance of all.
-  /// Absent if it has other characters. Needs to have learned from both samples.
+  /// Absent if it has other characters. `price` is not empty, and both samples were learned.
   template <class Place>
   std::optional<double> set(std::u16string_view price, Place place) const {
     double advance = 0;
@@ -80,7 +80,7 @@ class PriceGlyphs {
 
   struct Known {
     std::optional<std::uint32_t> index;
-    /// By the next one of `characters`; at the end before no other.
+    /// By the index of the next character; the last one is for the end of a line.
     std::array<std::optional<double>, count + 1> advances;
   };
 

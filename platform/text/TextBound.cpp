@@ -36,7 +36,7 @@ Prefix prefix(std::string_view utf8, std::size_t most) {
   const auto* bytes = reinterpret_cast<const std::uint8_t*>(utf8.data());
   Prefix found;
   while (found.bytes < utf8.size()) {
-    // Only the sequence that starts here, so that a text of any length can be counted.
+    // Only this sequence: ICU counts in 32 bits, and a text may be longer.
     const auto rest = std::min<std::size_t>(utf8.size() - found.bytes, U8_MAX_LENGTH);
     const std::uint8_t* const at = bytes + found.bytes;
     std::int32_t length = 0;

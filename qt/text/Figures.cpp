@@ -21,7 +21,7 @@ std::optional<ShapedText> Figures::shape(const text::AttributedText& text, QtFon
   if (known.glyphs.isTimeToLearn()) known.isLearned = learn(known, fonts);
   if (!known.isLearned) return std::nullopt;
   QString price = QString::fromStdString(run.text);
-  keepFirstNumberWhole(price);  // with a character that is none of a price's
+  keepFirstNumberWhole(price);  // by a character that `set` refuses
   QList<quint32> indexes;
   QList<QPointF> positions;
   indexes.reserve(price.size());
@@ -75,7 +75,7 @@ bool Figures::learn(Face& face, QtFonts& fonts) {
     std::vector<text::PriceGlyphs::Glyph> glyphs;
     for (qsizetype i = 0; i < indexes.size(); ++i) {
       const double advance = advances[i].x();
-      // Qt counts ink beyond a line's end into its width.
+      // Qt includes ink beyond the end of a line in its width.
       if (face.font.boundingRect(indexes[i]).right() > std::floor(advance)) return false;
       glyphs.push_back({indexes[i], positions[i].x(), advance});
     }

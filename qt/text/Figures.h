@@ -16,8 +16,8 @@ namespace quorix::qt {
 /// thread.
 class Figures {
  public:
-  /// What `Paragraph` makes of `text` at no width. Absent for other texts than prices and in faces
-  /// that are not learned.
+  /// What `Paragraph` makes of `text` at infinite width. Absent if `text` is not a price, or its
+  /// face was not learned.
   std::optional<ShapedText> shape(const text::AttributedText& text, QtFonts& fonts);
 
   void clear() { faces_.clear(); }

@@ -4,14 +4,14 @@
 #include <QPoint>
 #include <QRawFont>
 #include <cstddef>
-#include <unordered_map>
-#include <vector>
 
+#include "platform/foundation/RecentEntries.h"
 #include "platform/graphics/RGBA.h"
 
 namespace quorix::qt {
 
-/// Ink in premultiplied ARGB, or on an opaque ground to be copied over it.
+/// A picture of a text or glyph: premultiplied ARGB to be blended, or with an opaque ground to be
+/// copied.
 struct InkPicture {
   QImage image;   ///< null: nothing to see
   QPoint offset;  ///< of the image from its text's or glyph's origin; device pixels
@@ -22,38 +22,36 @@ struct InkPicture {
   InkPicture cropped(graphics::RGBA ground) const;
 };
 
-/// Glyphs as they look on nothing, for texts that are painted once: each price is another text of
-/// the same few digits. Main thread.
+/// Caches pictures of glyphs without a ground, from which prices are put together: each price is
+/// another text of the same few digits. Main thread.
 class GlyphPictures {
  public:
-  /// A glyph at its size, color and place on the pixels.
-  struct Key {
-    std::size_t font;  ///< as `fontNumber` says
+  /// The digits and signs of a page's prices in a few sizes and colors, a few hundred bytes each.
+  static constexpr std::size_t most = 512;
+
+  /// A glyph's size, color and place on the pixels.
+  struct Look {
     quint32 glyph;
     QRgb color;   ///< not premultiplied
     double unit;  ///< device pixels for each pixel of the font
     int place;    ///< of its origin, 64ths of a pixel from that pixel's left edge
-    bool operator==(const Key&) const = default;
+    bool operator==(const Look&) const = default;
   };
-
-  /// The number of `font` until the next call of `clear` or of this for another font.
-  std::size_t fontNumber(const QRawFont& font);
 
   /// The picture that Qt draws, at its offset from the pixel that holds the glyph's origin. The
-  /// reference holds until the next call of `fontNumber`.
-  const InkPicture& find(Key key);
+  /// reference holds while fewer than `most` other pictures are asked for.
+  const InkPicture& find(const QRawFont& font, Look look);
 
-  void clear();
+  void clear() { entries_.clear(); }
 
  private:
-  struct Hash {
-    std::size_t operator()(const Key& key) const;
+  struct Entry {
+    QRawFont font;
+    Look look{};
+    InkPicture picture;
   };
 
-  InkPicture paint(const Key& key) const;
-
-  std::vector<QRawFont> fonts_;
-  std::unordered_map<Key, InkPicture, Hash> pictures_;
+  foundation::RecentEntries<Entry> entries_{most};
 };
 
 }  // namespace quorix::qt

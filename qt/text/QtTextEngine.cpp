@@ -10,7 +10,7 @@ namespace quorix::qt {
 QtTextEngine& QtTextEngine::shared() { return applicationLifetime<QtTextEngine>(); }
 
 text::TextMetrics QtTextEngine::measure(const text::AttributedText& text, double width) {
-  // Nothing is painted at no width: layout only asks how small the text can get.
+  // Texts of width 0 are not painted: layout only asks how small the text can get.
   return find(text, width, width > 0).metrics;
 }
 

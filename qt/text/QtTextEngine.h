@@ -13,9 +13,8 @@ namespace quorix::qt {
 
 using TextPictures = render::TextPictures<InkPicture>;
 
-/// Text as Qt shapes it, with Qt's fallback faces. What was measured last is kept for painting, so
-/// that a text is shaped once; what rows off the screen measured long ago is let go. Main thread,
-/// with an application object.
+/// Shapes texts with Qt and its fallback faces. Caches what it measures, so that painting does not
+/// shape again. Main thread; needs an application object.
 class QtTextEngine final : public text::TextEngine {
  public:
   /// The one that all surfaces measure and paint with.
@@ -31,7 +30,7 @@ class QtTextEngine final : public text::TextEngine {
 
   ShapingFont font(const text::ResolvedFont& font) { return fonts_.find(font); }
 
-  /// The pictures of texts in the fonts that there are now.
+  /// Pictures of texts. Drops them first if fonts were added or removed.
   TextPictures& pictures();
   GlyphPictures& glyphs() { return glyphs_; }
 
