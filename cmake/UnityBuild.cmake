@@ -11,8 +11,8 @@ set(quorix_compiled_alone
   platform/foundation/HTTPResponseReader.cpp
   platform/hosting/ViewHost.cpp
   platform/swiftui/TreePrinter.cpp
-  qt/text/QtTextEngine.cpp
-  qt/text/TextPictures.cpp)
+  qt/text/GlyphPictures.cpp
+  qt/text/QtTextEngine.cpp)
 
 function(quorix_unity target)
   if(NOT CMAKE_UNITY_BUILD)

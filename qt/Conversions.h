@@ -2,8 +2,10 @@
 
 #include <QColor>
 #include <QRectF>
+#include <QStringView>
 #include <QUrl>
 #include <string>
+#include <string_view>
 
 #include "platform/foundation/URL.h"
 #include "platform/graphics/RGBA.h"
@@ -19,6 +21,11 @@ inline layout::Point toPoint(QPointF point) { return {point.x(), point.y()}; }
 inline QPointF toPoint(layout::Point point) { return {point.x, point.y}; }
 inline QRectF toRect(const layout::Rect& rect) {
   return {rect.left(), rect.top(), rect.size.width, rect.size.height};
+}
+
+/// Of a text that lives on.
+inline std::u16string_view utf16(QStringView text) {
+  return {text.utf16(), static_cast<std::size_t>(text.size())};
 }
 
 /// Strict, so that Qt's guesses cannot turn it into another address than the one let through. Not

@@ -35,9 +35,9 @@ QImage paintPicture(const render::Scene& scene, double scale, graphics::RGBA bac
   image.fill(Qt::transparent);
   ScenePainter(image).paint(scene);
   if (background.alpha == 0) return image;
-  // Last, though it lies below: Qt blends some faces' letters otherwise (and four times as slowly)
-  // on an opaque image, and a picture is to look as the view does on a surface, which is
-  // transparent.
+  // Paints the background last, under the rest: on an opaque image Qt blends the letters of some
+  // faces otherwise, and four times as slowly. On a surface, which is transparent, it does not, and
+  // a picture is to look the same.
   QPainter painter(&image);
   painter.setCompositionMode(QPainter::CompositionMode_DestinationOver);
   painter.fillRect(QRectF({}, image.deviceIndependentSize()), toQColor(background));
@@ -48,7 +48,7 @@ void paintAsPicture(QPainter& painter, const render::Scene& scene) {
   const QTransform toDevice = painter.deviceTransform();
   const double scale = toDevice.m11();
   const bool upright = toDevice.type() <= QTransform::TxScale && toDevice.m22() == scale;
-  // A larger one would be made for the little of it that is in sight.
+  // Only a little of a larger picture would be in sight.
   const bool small = std::max(scene.size.width, scene.size.height) * scale <= render::mostPixels;
   QImage image = upright && small ? paintPicture(scene, scale, {0, 0, 0, 0}) : QImage();
   if (image.isNull()) return ScenePainter(painter).paint(scene);

@@ -37,10 +37,9 @@ QUORIX_EXPORT QImage picture(const swiftui::View& view, const PictureOptions& op
 QUORIX_EXPORT QImage paintPicture(const render::Scene& scene, double scale,
                                   graphics::RGBA background);
 
-/// Draws `scene` where `painter` stands, with the pixels that its picture has: over what is painted
-/// already, Qt would blend the text otherwise. The top left corner goes to the nearest whole device
-/// pixel; a painter that turns or shears, and a scene beyond `render::mostPixels`, go without that
-/// care.
+/// Draws `scene` at the painter's origin, from its picture: directly on existing pixels Qt would
+/// blend the text otherwise. Moves the top left corner to the nearest device pixel. Draws directly
+/// if the painter rotates or shears, or the scene is larger than `render::mostPixels`.
 QUORIX_EXPORT void paintAsPicture(QPainter& painter, const render::Scene& scene);
 
 /// Draws `scene` with the background and the scale of `options`. Null as above.

@@ -21,7 +21,8 @@ enum class TextStyle : std::uint8_t {
   caption2,
 };
 
-enum class FontWeight : std::uint8_t { regular, medium, semibold, bold };
+/// With the numbers of OpenType.
+enum class FontWeight : std::uint16_t { regular = 400, medium = 500, semibold = 600, bold = 700 };
 
 /// A face by name at a size in points. An unknown name selects the system's font.
 ///

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <algorithm>
+#include <cstddef>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -41,6 +44,28 @@ struct AttributedText {
     AttributedText copy = *this;
     for (Run& run : copy.runs) run.font.points *= part;
     return copy;
+  }
+
+  /// Whether both have the same shapes: characters, fonts and direction, but perhaps other colors
+  /// and decorations.
+  bool isShapedAs(const AttributedText& other) const {
+    return direction == other.direction &&
+           std::ranges::equal(runs, other.runs, [](const Run& a, const Run& b) {
+             return a.text == b.text && a.font == b.font;
+           });
+  }
+
+  /// The same for all texts of the same shapes.
+  std::size_t shapeHash() const {
+    auto hash = static_cast<std::size_t>(direction);
+    const auto mix = [&](std::size_t value) {
+      hash ^= value + 0x9e3779b97f4a7c15ULL + (hash << 6) + (hash >> 2);
+    };
+    for (const Run& run : runs) {
+      mix(std::hash<std::string>{}(run.text));
+      mix(std::hash<double>{}(run.font.points));
+    }
+    return hash;
   }
 };
 

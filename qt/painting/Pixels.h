@@ -6,16 +6,16 @@
 
 namespace quorix::qt::pixels {
 
-// What QPainter would do to an image in premultiplied ARGB, for so little of it that beginning to
-// paint would cost more than the painting. Everything lies within the image. Any thread.
+// Change an image in premultiplied ARGB as a QPainter would. For small parts, beginning a QPainter
+// costs more than the painting. All parts must lie within the image. Any thread.
 
 void fill(QImage& image, const QRect& part, QRgb color);
 
-/// Puts all of `picture`, of 32 bits, at `at`.
+/// Copies `picture`, 32 bits a pixel, to `at`.
 void copy(const QImage& picture, QImage& onto, QPoint at);
 
-/// Blends `picture`, premultiplied, at `at`. False, with some of it done, where ink meets an opaque
-/// pixel, on which Qt blends letters by their brightness.
+/// Blends `picture`, premultiplied, at `at`. False, with some of it blended, if ink meets an opaque
+/// pixel: there Qt blends letters by their brightness.
 bool blend(const QImage& picture, QImage& onto, QPoint at);
 
 }  // namespace quorix::qt::pixels

@@ -10,7 +10,7 @@
 
 namespace quorix::qt {
 
-/// Pictures of the images in bundles' asset catalogs, at the size they are drawn at. Main thread.
+/// Draws the images of asset catalogs at a size in pixels, and caches the pictures. Main thread.
 class QtImages {
  public:
   /// What one picture depends on.

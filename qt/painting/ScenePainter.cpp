@@ -5,10 +5,10 @@
 #include <cmath>
 #include <variant>
 
+#include "platform/text/PriceGlyphs.h"
 #include "qt/Conversions.h"
 #include "qt/painting/Pixels.h"
 #include "qt/painting/QtImages.h"
-#include "qt/text/Figures.h"
 
 namespace quorix::qt {
 namespace {
@@ -54,7 +54,7 @@ ScenePainter::ScenePainter(QImage& empty, QtTextEngine& engine)
       upright_(true),
       ground_(KnownGround()) {}
 
-/// A picture of known texts alone needs none, and to begin one is dear.
+/// Begins a painter on first use: that is expensive, and texts with pictures need none.
 QPainter& ScenePainter::painter() {
   if (!painter_) painter_ = &own_.emplace(image_);
   return *painter_;
@@ -96,8 +96,8 @@ void ScenePainter::draw(const render::TextItem& item) {
   ground_->inked(frame.toAlignedRect().adjusted(-room, -room, room, room));
 }
 
-/// Draws the text from its picture, where there is one for what lies under all of it, and it falls
-/// on whole pixels.
+/// Draws the text from its picture. False if there is none for the ground under the text, or if the
+/// text does not begin on a whole pixel.
 bool ScenePainter::drawPicture(const render::TextItem& item) {
   const QPointF corner = toDevice_.map(QPointF(item.frame.left(), item.frame.top()));
   const double scale = toDevice_.m11();
@@ -122,12 +122,13 @@ bool ScenePainter::drawPicture(const render::TextItem& item) {
   return true;
 }
 
-/// Whether `pixels` are of the image, nothing was painted there, and there is no painter yet.
+/// Whether `pixels` lie in the image, nothing was painted there, and no painter was begun.
 bool ScenePainter::isClear(const QRect& pixels) const {
   return !painter_ && image_->rect().contains(pixels) && !copied_.intersects(pixels);
 }
 
-/// Blending on clear pixels is copying, and a picture on its own ground covers it.
+/// Copies the picture where that gives what drawing would: on clear pixels, and with an opaque
+/// ground over the same. False elsewhere.
 bool ScenePainter::copyPicture(const QImage& picture, const QRect& to, graphics::RGBA ground) {
   const bool covers = ground.alpha == 255 && !painter_ && image_->rect().contains(to);
   if (!covers && !isClear(to)) return false;
@@ -137,8 +138,7 @@ bool ScenePainter::copyPicture(const QImage& picture, const QRect& to, graphics:
 }
 
 /// The text on its ground, with room around it for ink that leaves its frame.
-TextPictures::Picture ScenePainter::pictureOf(const render::TextItem& item,
-                                              graphics::RGBA ground) const {
+InkPicture ScenePainter::pictureOf(const render::TextItem& item, graphics::RGBA ground) const {
   const double scale = toDevice_.m11();
   const int room = static_cast<int>(std::ceil(item.frame.size.height * scale));
   const QSize frame = (QSizeF(item.frame.size.width, item.frame.size.height) * scale).toSize();
@@ -149,11 +149,11 @@ TextPictures::Picture ScenePainter::pictureOf(const render::TextItem& item,
   painter.scale(scale, scale);
   ScenePainter(painter, engine_).drawText({{{}, item.frame.size}, item.text});
   painter.end();
-  return {image, {-room, -room}};
+  return InkPicture{image, {-room, -room}}.cropped(ground);
 }
 
 void ScenePainter::drawText(const render::TextItem& item) {
-  // Frames come from measured sizes by additions that may lose the last bits.
+  // A frame is the measured size after some additions, which may lose the last bits.
   constexpr double slack = 1.0 / 256;
   const ShapedText& shaped = engine_.shape(item.text, item.frame.size.width + slack);
   const bool fromRight = item.text.direction == layout::LayoutDirection::rightToLeft;
@@ -174,8 +174,8 @@ void ScenePainter::drawLine(const ShapedText::Line& line, double unit,
   }
   for (const ShapedText::Piece& piece : line.pieces) {
     const graphics::RGBA color = text.runs[piece.run].color;
-    // Words alone are painted again, and then from their own picture.
-    const bool hasFigures = Figures::areIn(text.runs[piece.run]);
+    // Texts without figures are mostly painted again, and then from their own pictures.
+    const bool hasFigures = text::PriceGlyphs::areIn(text.runs[piece.run]);
     if (hasFigures && copyGlyphs(piece.glyphs, unit, color, origin)) continue;
     painter().setTransform(QTransform(unit, 0, 0, unit, origin.x(), origin.y()) * base_);
     painter().setPen(toQColor(color));
@@ -189,16 +189,16 @@ void ScenePainter::drawLine(const ShapedText::Line& line, double unit,
   }
 }
 
-/// Blends the glyphs as Qt does, from their pictures: false where it would not, as it draws large
-/// ones by their outlines, or where something other than texts was painted.
+/// Blends pictures of the glyphs, with the pixels that Qt would draw. False, with nothing painted,
+/// where they might differ: Qt draws large glyphs by their outlines, and blends otherwise over what
+/// is not text.
 bool ScenePainter::copyGlyphs(const QGlyphRun& glyphs, double unit, graphics::RGBA color,
                               QPointF origin) {
   const QRawFont font = glyphs.rawFont();
   const double inPixels = unit * toDevice_.m11();
   if (painter_ || inPixels * font.pixelSize() >= 48) return false;
-  GlyphPictures& known = engine_.glyphs();
-  const std::size_t number = known.fontNumber(font);
   const QList<quint32> indexes = glyphs.glyphIndexes();
+  if (indexes.size() > qsizetype{GlyphPictures::most}) return false;
   const QList<QPointF> positions = glyphs.positions();
   const QPointF from = toDevice_.map(origin);
   const QRectF all = image_->rect();
@@ -206,11 +206,12 @@ bool ScenePainter::copyGlyphs(const QGlyphRun& glyphs, double unit, graphics::RG
   copies_.clear();
   copies_.reserve(static_cast<std::size_t>(indexes.size()));
   for (qsizetype i = 0; i < indexes.size(); ++i) {
-    // In the 64ths of a pixel that Qt counts in.
+    // In 64ths of a pixel, Qt's own unit.
     const QPointF at = (from + positions[i] * inPixels) * 64;
     if (!all.contains(at / 64)) return false;
     const QPoint fixed(static_cast<int>(at.x()), static_cast<int>(at.y()));
-    const auto& picture = known.find({number, indexes[i], ink, inPixels, fixed.x() % 64});
+    const InkPicture& picture =
+        engine_.glyphs().find(font, {indexes[i], ink, inPixels, fixed.x() % 64});
     if (picture.image.isNull()) continue;
     const QRect to(QPoint(fixed.x() / 64, fixed.y() / 64) + picture.offset, picture.image.size());
     if (fixed.y() % 64 != 0 || !isClear(to)) return false;
@@ -256,7 +257,7 @@ void ScenePainter::draw(const render::FillItem& item) {
     if (ground_) ground_->filled(device.toAlignedRect(), item.color);
     return fill(device, item.color);
   }
-  // Its edges need not be on whole pixels.
+  // A rounded fill is not moved to whole pixels.
   if (ground_) ground_->painted(device.toAlignedRect().adjusted(-1, -1, 1, 1));
   const bool antialiased = painter().testRenderHint(QPainter::Antialiasing);
   painter().setRenderHint(QPainter::Antialiasing);

@@ -13,12 +13,12 @@
 
 namespace quorix::qt {
 
-/// What lies under the next item of a scene, item being painted over item on a surface that was
-/// empty. Rects are in device pixels.
+/// Records what the items of a display list leave on an empty surface, so that it is known what
+/// lies under the next one. Device pixels.
 class KnownGround {
  public:
-  /// The one color that all of `pixels` have: opaque, or transparent where nothing was painted.
-  /// Absent where that is not known.
+  /// The color of all `pixels`: opaque, or transparent if nothing was painted there. Absent if they
+  /// differ or are not known.
   std::optional<graphics::RGBA> under(const QRect& pixels) const {
     const auto top = std::find_if(layers_.rbegin(), layers_.rend(), [&](const Layer& layer) {
       return layer.pixels.intersects(pixels);
@@ -27,17 +27,17 @@ class KnownGround {
     return top->pixels.contains(pixels) ? top->color : std::nullopt;
   }
 
-  /// Every one of `pixels` has `color` now, if that is opaque.
+  /// All `pixels` were filled with `color`.
   void filled(const QRect& pixels, graphics::RGBA color) {
     if (color.alpha != 255) return painted(pixels);
     layers_.push_back({pixels, color});
   }
 
-  /// Some of `pixels` were painted, no others.
+  /// Something was painted within `pixels`.
   void painted(const QRect& pixels) { layers_.push_back({pixels, std::nullopt}); }
 
-  /// A text was painted, its ink in `pixels`. Text on an empty ground leaves it empty: texts stand
-  /// beside each other and a picture is blended there, so overlapping ink is harmless.
+  /// A text was painted, its ink within `pixels`. An empty ground still counts as empty: there the
+  /// pictures of texts are blended, so overlapping ink is harmless.
   void inked(const QRect& pixels) {
     const auto ground = under(pixels);
     if (!ground || ground->alpha != 0) painted(pixels);
@@ -52,9 +52,8 @@ class KnownGround {
   std::vector<Layer> layers_;  ///< the last on top
 };
 
-/// Draws scenes with a painter on any device, a point of the scene on a unit of the painter. Where
-/// the painter does not turn or shear, baselines, decorations and edges are put on whole device
-/// pixels. Main thread.
+/// Draws display lists, each point on a unit of the painter. If the painter does not rotate or
+/// shear, baselines, decorations and edges are moved to whole device pixels. Main thread.
 ///
 ///     QPainter painter(&image);
 ///     painter.scale(2, 2);
@@ -62,12 +61,12 @@ class KnownGround {
 class ScenePainter {
  public:
   explicit ScenePainter(QPainter& painter, QtTextEngine& engine = QtTextEngine::shared());
-  /// On an empty image in premultiplied ARGB, a point on as many pixels as its ratio says. A text
-  /// that was painted before on the same ground, nothing or one opaque color, is painted from its
-  /// picture, with the same pixels; over other things text is blended by their brightness.
+  /// Draws on an empty image in premultiplied ARGB, at its device pixel ratio. A text that was
+  /// painted before on the same ground (empty, or of one opaque color) is painted from its picture,
+  /// with the same pixels. On any other ground Qt blends text by the brightness.
   explicit ScenePainter(QImage& empty, QtTextEngine& engine = QtTextEngine::shared());
 
-  /// Paints every item in order and leaves the given painter as it was, but for its pen.
+  /// Paints the items in order. Changes nothing of the given painter but its pen.
   void paint(const render::Scene& scene);
 
  private:
@@ -85,7 +84,7 @@ class ScenePainter {
   bool copyPicture(const QImage& picture, const QRect& to, graphics::RGBA ground);
   bool isClear(const QRect& pixels) const;
   bool copyGlyphs(const QGlyphRun& glyphs, double unit, graphics::RGBA color, QPointF origin);
-  TextPictures::Picture pictureOf(const render::TextItem& item, graphics::RGBA ground) const;
+  InkPicture pictureOf(const render::TextItem& item, graphics::RGBA ground) const;
   void drawLine(const ShapedText::Line& line, double unit, const text::AttributedText& text,
                 QPointF origin);
   void drawDecoration(const ShapedText::Span& span, QPointF origin, ShapingFont::Stroke stroke,
@@ -97,14 +96,14 @@ class ScenePainter {
   QPainter& painter();
 
   QPainter* painter_ = nullptr;
-  QImage* image_ = nullptr;      ///< to make a painter for when something needs one
-  std::optional<QPainter> own_;  ///< that painter
-  QRect copied_;                 ///< holds all that was painted without one
+  QImage* image_ = nullptr;      ///< for `own_`
+  std::optional<QPainter> own_;  ///< begun when an item needs a painter
+  QRect copied_;                 ///< around all that was painted without a painter
   struct Copy {
     const QImage* picture;
     QRect to;
   };
-  std::vector<Copy> copies_;  ///< of one run, to be made when all of it is known
+  std::vector<Copy> copies_;  ///< of one run, made when all of it can be copied
   QtTextEngine& engine_;
   const QTransform base_;
   const QTransform toDevice_;
@@ -112,7 +111,7 @@ class ScenePainter {
   const bool upright_;
   std::optional<KnownGround> ground_;
   graphics::Appearance appearance_ = graphics::Appearance::light;
-  int clips_ = 0;  ///< begun by the scene's own items
+  int clips_ = 0;  ///< begun by clip items
 };
 
 }  // namespace quorix::qt

@@ -5,11 +5,12 @@
 #include <cmath>
 
 #include "platform/text/TextAnalysis.h"
+#include "qt/Conversions.h"
 
 namespace quorix::qt {
 namespace {
 
-/// Qt breaks lines at U+2028 alone.
+/// `utf8` with U+2028 for each end of a line: Qt ends lines at no other character.
 QString lineSeparated(const std::string& utf8) {
   QString text = QString::fromStdString(utf8);
   if (utf8.find('\r') != std::string::npos)
@@ -34,8 +35,8 @@ QTextOption option(layout::LayoutDirection direction) {
   return option;
 }
 
-/// How far the ink of a line's last glyph reaches out of it, in pixels at the most. Qt wants room
-/// for that where it breaks a line, but does not always count it into the line's width.
+/// An upper bound of how far the last glyph's ink reaches beyond the line, in pixels. Qt needs that
+/// room when it breaks a line, but does not always include it in the line's width.
 double overhang(const QTextLine& line, const QString& text) {
   int last = line.textStart() + line.textLength() - 1;
   while (last > line.textStart() && text[last].isSpace()) --last;
@@ -53,7 +54,7 @@ double overhang(const QTextLine& line, const QString& text) {
   return reach;
 }
 
-/// Pieces of one run that touch become one span: a decoration is one stroke through them all.
+/// Joins `added` to a span of its run that it touches, so that a decoration is one stroke.
 void addSpan(std::vector<ShapedText::Span>& spans, const ShapedText::Span& added) {
   constexpr double touching = 1.0 / 16;
   for (ShapedText::Span& span : spans) {
@@ -80,6 +81,8 @@ double measuredWidth(double natural, double needed, double offered) {
 }
 
 void Paragraph::set(const text::AttributedText& text, QtFonts& fonts) {
+  if (text_ && text_->isShapedAs(text)) return;
+  text_ = text;
   QString characters;
   runs_.clear();
   for (const text::Run& run : text.runs) {
@@ -94,8 +97,7 @@ void Paragraph::set(const text::AttributedText& text, QtFonts& fonts) {
   setText(characters, text, fonts);
 }
 
-/// The first run's size sets the scale. Other sizes are rounded to whole pixels beside it, as Qt
-/// has it.
+/// The first run's size sets the scale, at which Qt rounds other sizes to whole pixels.
 void Paragraph::setText(const QString& text, const text::AttributedText& attributed,
                         QtFonts& fonts) {
   const text::ResolvedFont first =
@@ -118,14 +120,14 @@ void Paragraph::setText(const QString& text, const text::AttributedText& attribu
     if (font != first && runs_[i].length > 0) use(font, std::lround(font.points / unit_), runs_[i]);
   }
   const auto joiner = static_cast<int>(face.hasWordJoiner ? -1 : text.indexOf(wordJoiner));
-  // Another face's joiner: so small that it makes no line higher.
+  // A fallback face draws the joiner: at one pixel, so that it does not make the line higher.
   if (joiner >= 0 && joiner < runs_.front().length) use(first, 1, {joiner, 1});
   if (!formats.isEmpty()) layout_.setFormats(formats);
 }
 
-/// Shaping is the dear part and lasts as long as the session. A session whose only line holds the
-/// whole text can be broken again without it, but a line that Qt lays out anew keeps the height
-/// that it had: so only where no line is higher than the face.
+/// Whether the text can be broken without shaping it again, which is expensive. Qt keeps the shapes
+/// until `endLayout`, and can lay out a line again if it holds the whole text. That line keeps its
+/// old height, so it must not be higher than the face.
 bool Paragraph::canBreakAgain() const {
   if (!open_ || layout_.lineCount() != 1) return false;
   const QTextLine line = layout_.lineAt(0);
@@ -171,11 +173,10 @@ ShapedText Paragraph::breakLines(double width, bool glyphs) {
   return shaped;
 }
 
-/// Of a word in which a line may end, as far as scripts go.
+/// The width of the longest word in scripts without blanks, in points; 0 without such words.
 double Paragraph::longestUnspacedWord() {
   const QString& text = layout_.text();
-  const auto words = text::unspacedWords(
-      {reinterpret_cast<const char16_t*>(text.utf16()), static_cast<std::size_t>(text.size())});
+  const auto words = text::unspacedWords(utf16(text));
   if (words.empty()) return 0;
   layout_.beginLayout();
   QTextLine line = layout_.createLine();

@@ -4,6 +4,7 @@
 #include <QString>
 #include <QTextLayout>
 #include <cstddef>
+#include <optional>
 #include <vector>
 
 #include "platform/text/AttributedText.h"
@@ -21,7 +22,7 @@ struct ShapedText {
     std::size_t run = 0;
   };
 
-  /// Where the glyphs of one run stand on the line without a gap. Points from the line's left end.
+  /// A stretch of one run's glyphs without a gap. Points from the line's left end.
   struct Span {
     std::size_t run = 0;
     double left = 0;
@@ -40,24 +41,27 @@ struct ShapedText {
   std::vector<Line> lines;  ///< empty when only the metrics were asked for
 };
 
-/// Qt would end a line after the "1." of a text that begins with "1.234".
+/// Inserts a word joiner into a text that begins like "1.234": Qt would end a line after the "1.".
 void keepFirstNumberWhole(QString& text);
 
-/// Rounded up, so that the text breaks the same way when it is given back its own width. What is
-/// `needed` is an upper bound: text of a `natural` width that fits never asks for more than it was
-/// offered. Points.
+/// The width to report for a text: `needed`, rounded up so that the text breaks the same way when
+/// it is offered that width. `needed` is an upper bound, so a text whose `natural` width fits
+/// reports no more than `offered`. Points.
 double measuredWidth(double natural, double needed, double offered);
 
 /// Breaks one text after another into lines with one QTextLayout.
 class Paragraph {
  public:
-  /// Takes `text` in place of the one before.
+  /// Takes `text` in place of the one before, unless it has the same shapes.
   void set(const text::AttributedText& text, QtFonts& fonts);
 
-  /// The text broken to `width` points, with its glyphs where `glyphs` says so.
+  /// Forgets the text: faces have changed.
+  void clear() { text_.reset(); }
+
+  /// Breaks the text to `width` points. Collects the lines only if `glyphs` is true.
   ShapedText breakLines(double width, bool glyphs);
 
-  /// The points that its longest word takes. Leaves the lines to be broken anew.
+  /// The width of the longest word, in points. The next `breakLines` shapes the text again.
   double leastWidth();
 
  private:
@@ -73,6 +77,7 @@ class Paragraph {
   double widthNeeded(const QTextLine& line) const;
   ShapedText::Line collect(const QTextLine& line) const;
 
+  std::optional<text::AttributedText> text_;
   QTextLayout layout_;
   std::vector<Run> runs_;
   double unit_ = 1;  ///< points for each pixel of the shaping font

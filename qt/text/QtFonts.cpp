@@ -91,7 +91,7 @@ std::optional<QFont> RegisteredFaces::load(const GraphicsFont& face) {
   if (QFontDatabase::styles(family).isEmpty()) ownFamilies_ += family;
   int id = -1;
   {
-    // A constant may be in the making, and a slot of the host's may read it: see `announce`.
+    // A font constant may be under construction, and a slot of the host's might read it.
     const QSignalBlocker quiet(qGuiApp);
     id = QFontDatabase::addApplicationFontFromData(bytes);
     if (id < 0) return std::nullopt;
@@ -131,8 +131,8 @@ namespace {
 
 using graphics::FontManager;
 
-/// Whether `name` is `squeezed` but for spaces and case. A desktop may have thousands of names to
-/// compare, so none is copied.
+/// Whether `name` without its spaces is `squeezed`, in any case. Copies nothing, since a desktop
+/// may have thousands of names.
 bool squeezesTo(QStringView name, QStringView squeezed) {
   for (const QChar character : name) {
     if (character == QLatin1Char(' ')) continue;
@@ -142,7 +142,8 @@ bool squeezesTo(QStringView name, QStringView squeezed) {
   return squeezed.isEmpty();
 }
 
-/// The face with that PostScript name by its usual form, family and style without their spaces.
+/// The face of that PostScript name, if it has the usual form: family and style without spaces,
+/// with a hyphen between them.
 std::optional<QFont> postScriptFace(QString name) {
   name.remove(QLatin1Char(' '));
   const QString family = name.section(QLatin1Char('-'), 0, 0);
@@ -165,22 +166,8 @@ std::optional<QFont> installedFace(const QString& name) {
   return postScriptFace(name);
 }
 
-QFont::Weight qtWeight(swiftui::FontWeight weight) {
-  switch (weight) {
-    case swiftui::FontWeight::regular:
-      return QFont::Normal;
-    case swiftui::FontWeight::medium:
-      return QFont::Medium;
-    case swiftui::FontWeight::semibold:
-      return QFont::DemiBold;
-    case swiftui::FontWeight::bold:
-      return QFont::Bold;
-  }
-  return QFont::Normal;
-}
-
-/// `named` in at least `weight`: the nearest face of its family that is no lighter, so that a face
-/// that its designer calls semi-bold stays what it is. What the family does not have is not faked.
+/// The face of `named`'s family that is nearest to `weight` and not lighter than `named`, so that a
+/// semi-bold face stays semi-bold. Weights that the family lacks are not synthesized.
 QFont weighted(const QFont& named, int weight) {
   const QString family = named.family();
   QFont nearest = named;
@@ -261,9 +248,10 @@ ShapingFont QtFonts::find(const text::ResolvedFont& wanted, int pixels) {
 
 ShapingFont QtFonts::make(const Key& key) {
   QFont font = face(key.name);
-  if (font.weight() < qtWeight(key.weight)) {
+  const int weight = static_cast<int>(key.weight);
+  if (font.weight() < weight) {
     RegisteredFaces::shared().loadAll();
-    font = weighted(font, qtWeight(key.weight));
+    font = weighted(font, weight);
   }
   font.setPixelSize(key.pixels);
   font.setHintingPreference(QFont::PreferNoHinting);

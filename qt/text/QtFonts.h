@@ -45,24 +45,23 @@ class RegisteredFaces {
 
   std::unordered_map<std::string, QFont> faces_;
   std::set<int> ids_;        ///< of our faces among Qt's application fonts
-  QStringList ownFamilies_;  ///< of which all faces are ours
+  QStringList ownFamilies_;  ///< the families that have only our faces
   bool announced_ = true;
   bool announcing_ = false;
 };
 
-/// A face as texts are shaped in it, and where its decorations go.
+/// A face at the size that texts are shaped in, and the places of its decorations.
 ///
-/// Qt rounds every font to whole pixels, at which a size of 15.7 points would lose its fraction.
-/// All sizes of text are therefore shaped in one pixel size, and scaled when they are drawn:
-/// without hinting a face has the same shape at every size. So measures are exact and do not depend
-/// on the screen, and all sizes of a face share one font.
+/// Qt rounds the size of a font to whole pixels: 15.7 points would lose the fraction. Texts of all
+/// sizes are therefore shaped in one size, and scaled when they are drawn: without hinting a face
+/// has the same shape at every size. So measures are exact and do not depend on the screen, and all
+/// sizes of a face share one font.
 struct ShapingFont {
-  /// Small enough for Qt to cache advances (it does up to some 120 pixels), large enough for its
-  /// 1/64 of a pixel not to add up.
+  /// Small enough for Qt to cache advances (it does up to some 120 pixels), and so large that
+  /// errors of 1/64 pixel, its precision, do not add up.
   static constexpr int pixels = 64;
 
-  /// The points for each of those pixels in text of `points`. A size of nothing would leave nothing
-  /// to scale.
+  /// Points for each of these pixels in a text of `points`. Never 0: lengths are divided by it.
   static double unit(double points) { return std::max(points, 1.0 / 64) / pixels; }
 
   /// A decoration's center above (negative) or below the baseline, and its thickness. Ems.
@@ -76,10 +75,10 @@ struct ShapingFont {
   double descent = 0;  ///< likewise
   Stroke underline;
   Stroke strikethrough;
-  bool hasWordJoiner = true;  ///< of its own; other faces' may be higher than this face
+  bool hasWordJoiner = true;  ///< itself; a fallback face's may be higher
 };
 
-/// Lets no line end where it stands, and shows nothing.
+/// An invisible character at which no line ends.
 inline constexpr QChar wordJoiner(0x2060);
 
 /// Finds Qt's fonts for the names that texts carry: a face of the font manager, a family, a
@@ -93,7 +92,7 @@ class QtFonts {
   QtFonts(const QtFonts&) = delete;
   QtFonts& operator=(const QtFonts&) = delete;
 
-  /// Tells the font manager which faces Qt has on its own. Again is harmless.
+  /// Lets the font manager look up the faces that Qt has on its own. May be called again.
   QUORIX_EXPORT static void installSystemLookup();
 
   /// Whether Qt has a face of that family or PostScript name. Any thread; false without an
@@ -103,13 +102,13 @@ class QtFonts {
   /// The face of `font` in `pixels`.
   ShapingFont find(const text::ResolvedFont& font, int pixels = ShapingFont::pixels);
 
-  /// Whether faces have come or gone since the last call. The fonts found before are forgotten
-  /// then.
+  /// Whether faces were added or removed since the last call. Forgets the fonts found before, if
+  /// so.
   bool refresh();
 
  private:
   struct Key {
-    unsigned faces;  ///< as of that many changes: a change leaves the entries before it unused
+    unsigned changes;  ///< when it was found: after another change of faces it does not match
     std::string name;
     swiftui::FontWeight weight;
     int pixels;
@@ -119,7 +118,7 @@ class QtFonts {
   QFont face(const std::string& name);
   ShapingFont make(const Key& key);
 
-  // Names come from hosts, perhaps without end.
+  // Bounded, since names come from hosts.
   foundation::Cache<Key, QFont> installed_{128};
   foundation::Cache<Key, ShapingFont> fonts_{128};
   unsigned changes_ = 0;

@@ -1,23 +1,20 @@
 #pragma once
 
-#include <cstddef>
-#include <list>
-#include <optional>
-#include <unordered_map>
-#include <vector>
-
 #include "platform/foundation/Export.h"
+#include "platform/render/TextPictures.h"
+#include "platform/text/LineCache.h"
 #include "platform/text/TextEngine.h"
 #include "qt/text/Figures.h"
+#include "qt/text/GlyphPictures.h"
 #include "qt/text/Paragraph.h"
 #include "qt/text/QtFonts.h"
-#include "qt/text/TextPictures.h"
 
 namespace quorix::qt {
 
-/// Text as Qt shapes it, with Qt's fallback faces. What was measured last is kept for painting, so
-/// that a text is shaped once; what rows off the screen measured long ago is let go. Main thread,
-/// with an application object.
+using TextPictures = render::TextPictures<InkPicture>;
+
+/// Shapes texts with Qt and its fallback faces. Caches what it measures, so that painting does not
+/// shape again. Main thread; needs an application object.
 class QtTextEngine final : public text::TextEngine {
  public:
   /// The one that all surfaces measure and paint with.
@@ -33,7 +30,7 @@ class QtTextEngine final : public text::TextEngine {
 
   ShapingFont font(const text::ResolvedFont& font) { return fonts_.find(font); }
 
-  /// The pictures of texts in the fonts that there are now.
+  /// Pictures of texts. Drops them first if fonts were added or removed.
   TextPictures& pictures();
   GlyphPictures& glyphs() { return glyphs_; }
 
@@ -41,33 +38,13 @@ class QtTextEngine final : public text::TextEngine {
   int breaks() const { return breaks_; }
 
  private:
-  /// The text broken to one width, which serves every width down to its own measure.
-  struct Breaking {
-    double width = 0;
-    bool hasGlyphs = false;
-    ShapedText text;
-    bool serves(double wanted) const;
-  };
-  struct Entry {
-    text::AttributedText text;
-    std::vector<Breaking> breakings;  ///< the first is the one without a width
-    std::optional<double> leastWidth;
-  };
-
-  const ShapedText& find(const text::AttributedText& text, double width, bool glyphs);
-  Entry& entry(const text::AttributedText& text);
-  Breaking& breaking(Entry& entry, double width, bool glyphs);
-  void takeUp(const Entry& entry);
-  ShapedText breakLines(const Entry& entry, double width, bool glyphs);
+  const ShapedText& find(const text::AttributedText& text, double width, bool toPaint);
+  ShapedText breakLines(const text::AttributedText& text, double width, bool glyphs);
   void clear();
 
   QtFonts& fonts_ = QtFonts::shared();
   Paragraph paragraph_;
-  const Entry* inParagraph_ = nullptr;
-  std::list<Entry> entries_;  ///< the latest used first
-  std::unordered_map<const text::AttributedText*, std::list<Entry>::iterator, TextIdentity,
-                     TextIdentity>
-      index_;
+  text::LineCache<ShapedText> lines_;
   TextPictures pictures_;
   GlyphPictures glyphs_;
   Figures figures_;

@@ -1,4 +1,4 @@
-#include "qt/text/TextPictures.h"
+#include "qt/text/GlyphPictures.h"
 
 #include <gtest/gtest.h>
 
@@ -58,6 +58,11 @@ TEST(TextPictures, LookAsTheTextDrawnAnew) {
   text::AttributedText recolored = struck;
   recolored.runs.front().color = {200, 0, 0, 255};
   const auto arabic = plainText("رسوم الإرجاع", 14, LayoutDirection::rightToLeft);
+  text::AttributedText letters = plainText("1", 4);
+  letters.runs[0].font.name = "DejaVu Sans";
+  for (int letter = 0; letter < 4 * 0x150; ++letter) {
+    letters.runs[0].text += QString(QChar(0x100 + letter % 0x150)).toStdString();
+  }
   const auto shaped = [](const text::AttributedText& text, double width = layout::infinity) {
     return sceneWith(text, width, {30, 30});
   };
@@ -73,6 +78,7 @@ TEST(TextPictures, LookAsTheTextDrawnAnew) {
       {"ink outside of its lines", marked},
       {"nothing to see", shaped(plainText("  "))},
       {"figures", shaped(plainText("€ 1,234,567.89 £ 0.25 −98,765.43 % 6,071,829.30"))},
+      {"more glyphs than are kept", shaped(letters)},
       {"over another on nothing", twice},
       {"partly outside of the picture", sceneWith(words, layout::infinity, {90, -5})},
       {"underlined", grounded(shaped(link), {}, light)},
@@ -99,31 +105,6 @@ TEST(TextPictures, LookAsTheTextDrawnAnew) {
       }
     }
   }
-}
-
-/// The cache keeps its bound: with any number of texts, it neither exceeds it nor returns a wrong
-/// picture.
-TEST(TextPictures, KeepTheLatestOnly) {
-  TextPictures pictures;
-  int made = 0;
-  const auto find = [&](int number) {
-    const render::TextItem item{{{}, {100, 20}}, plainText(std::to_string(number))};
-    return pictures.find(item, 3, {0, 0, 0, 0}, [&]() -> TextPictures::Picture {
-      ++made;
-      QImage image(300, 100, QImage::Format_ARGB32_Premultiplied);
-      image.fill(QColor(number % 256, 0, 0));
-      return {image, {}};
-    });
-  };
-  for (int number = 0; number < 200; ++number) {
-    EXPECT_EQ(find(number), nullptr);
-    const auto* picture = find(number);
-    ASSERT_NE(picture, nullptr);
-    EXPECT_EQ(picture->image.pixelColor(0, 0), QColor(number % 256, 0, 0));
-  }
-  EXPECT_EQ(made, 200);
-  EXPECT_NE(find(199), nullptr);
-  EXPECT_EQ(find(0), nullptr);
 }
 
 }  // namespace

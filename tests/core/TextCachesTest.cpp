@@ -1,0 +1,165 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+
+#include "platform/render/TextPictures.h"
+#include "platform/text/LineCache.h"
+#include "platform/text/TextEngine.h"
+
+namespace quorix {
+namespace {
+
+using layout::infinity;
+using text::AttributedText;
+
+AttributedText textOf(const std::string& words, double points = 14) {
+  return {{text::Run{words, {"Face", points}, {}}}};
+}
+
+struct Lines {
+  text::TextMetrics metrics;
+};
+
+/// Breaks letters that are 10 points wide each.
+struct CachedLetters {
+  text::LineCache<Lines> cache;
+  std::string broken;  ///< the widths to which a text was broken, "!" after those with glyphs
+  int measured = 0;
+
+  double width(double offered, bool toPaint, const AttributedText& text = textOf("seven..")) {
+    const auto breakLines = [&](const auto& unknown, double to, bool glyphs) {
+      broken += (to == infinity ? "all" : std::to_string(std::lround(to))) + (glyphs ? "! " : " ");
+      const double natural = 10.0 * static_cast<double>(unknown.runs[0].text.size());
+      return Lines{{{std::min(natural, std::floor(to / 10) * 10), 20}}};
+    };
+    return cache.lines(text, offered, toPaint, breakLines).metrics.size.width;
+  }
+
+  double leastWidth(const std::string& words) {
+    return cache.leastWidth(textOf(words), [&](const AttributedText& text) {
+      ++measured;
+      return static_cast<double>(text.runs[0].text.size());
+    });
+  }
+};
+
+TEST(LineCache, BreaksATextOnceForAllWidthsThatBreakItAlike) {
+  const struct {
+    std::vector<std::pair<double, bool>> calls;  ///< the width, and whether to paint
+    double width;                                ///< of the last
+    std::string broken;
+  } rows[] = {
+      {{{300, true}, {70, true}}, 70, "all! "},
+      {{{69, true}, {65, true}, {60, true}}, 60, "all! 69! "},
+      {{{69, true}, {59, true}, {61, true}}, 60, "all! 69! 59! "},
+      {{{59, true}, {61, true}}, 60, "all! 59! 61! "},
+      {{{65, false}, {60, true}, {65, false}, {60, true}}, 60, "all 65 65! "},
+      {{{60, true}, {50, true}, {40, true}, {30, true}, {300, true}, {50, true}, {60, true}},
+       60,
+       "all! 60! 50! 40! 30! 60! "},  // four are kept
+  };
+  for (const auto& row : rows) {
+    CachedLetters letters;
+    double last = 0;
+    for (const auto& [width, toPaint] : row.calls) last = letters.width(width, toPaint);
+    EXPECT_EQ(last, row.width) << row.broken;
+    EXPECT_EQ(letters.broken, row.broken);
+  }
+}
+
+TEST(LineCache, SharesTheLinesOfTextsOfTheSameShapes) {
+  AttributedText red = textOf("a"), mirrored = red, named = red;
+  red.runs[0].color = {200, 0, 0, 255};
+  red.runs[0].underline = true;
+  mirrored.direction = layout::LayoutDirection::rightToLeft;
+  named.runs[0].font.name = "Other";
+  AttributedText twice = red;
+  twice.runs.push_back(red.runs[0]);
+  CachedLetters letters;
+  letters.width(300, true, textOf("a"));
+  letters.width(300, true, red);
+  EXPECT_EQ(letters.broken, "all! ");
+  for (const auto& other : {textOf("b"), textOf("a", 15), mirrored, named, twice}) {
+    EXPECT_FALSE(other.isShapedAs(red));
+    letters.broken.clear();
+    letters.width(300, true, other);
+    EXPECT_EQ(letters.broken, "all! ");
+  }
+}
+
+TEST(LineCache, KeepsTheTextsThatWereUsedLast) {
+  CachedLetters letters;
+  const auto words = [](int length) { return std::string(static_cast<std::size_t>(length), 'x'); };
+  for (int length = 1; length <= 1000; ++length) {
+    EXPECT_EQ(letters.width(infinity, true, textOf(words(length))), 10 * length);
+    EXPECT_EQ(letters.leastWidth(words(length)), length);
+    EXPECT_EQ(letters.leastWidth("x"), 1);  // so it stays
+  }
+  EXPECT_EQ(letters.measured, 1000);
+  letters.leastWidth(words(900));
+  EXPECT_EQ(letters.measured, 1000);
+  letters.leastWidth(words(700));
+  EXPECT_EQ(letters.measured, 1001);
+  letters.cache.clear();
+  letters.leastWidth("x");
+  EXPECT_EQ(letters.measured, 1002);
+}
+
+struct CountedPicture {
+  std::string of;
+  std::size_t bytes() const { return of.size() * 1000; }
+};
+
+struct CachedPictures {
+  render::TextPictures<CountedPicture> cache;
+  int made = 0;
+
+  /// The picture's name and number; empty where there is none.
+  std::string at(const std::string& words, double width = 100, double scale = 3,
+                 graphics::RGBA ground = {0, 0, 0, 0}, graphics::RGBA color = {}) {
+    AttributedText text = textOf(words);
+    text.runs[0].color = color;
+    const auto paint = [&] { return CountedPicture{words + std::to_string(++made)}; };
+    const auto* found = cache.find({{{}, {width, 20}}, text}, scale, ground, paint);
+    return found ? found->of : "";
+  }
+};
+
+TEST(TextPictures, AreMadeTheSecondTimeForEachOfTheirLooks) {
+  CachedPictures pictures;
+  const graphics::RGBA light{250, 250, 250, 255}, dark{28, 28, 30, 255}, red{200, 0, 0, 255};
+  for (int time = 0; time < 3; ++time) {
+    const bool seen = time > 0;
+    EXPECT_EQ(pictures.at("fee"), seen ? "fee1" : "");
+    EXPECT_EQ(pictures.at("fee", 90), seen ? "fee2" : "");
+    EXPECT_EQ(pictures.at("fee", 100, 2), seen ? "fee3" : "");
+    EXPECT_EQ(pictures.at("fee", 100, 3, light), seen ? "fee4" : "");
+    EXPECT_EQ(pictures.at("fee", 100, 3, dark), seen ? "fee5" : "");
+    EXPECT_EQ(pictures.at("fee", 100, 3, light, red), seen ? "fee6" : "");
+  }
+  pictures.cache.clear();
+  EXPECT_EQ(pictures.at("fee"), "");
+}
+
+/// The cache keeps to its bounds: any number of texts neither exceeds them nor gets a wrong
+/// picture.
+TEST(TextPictures, KeepTheLatestOnly) {
+  // Of small pictures 128 are kept, of those with 131 kB as many as 2 MiB hold.
+  for (const auto& [letters, kept] : {std::pair{1, 128}, {125, 16}}) {
+    CachedPictures pictures;
+    const std::string prefix(static_cast<std::size_t>(letters), 'x');
+    const auto words = [&](int number) { return prefix + std::to_string(number); };
+    for (int number = 100; number < 700; ++number) {
+      EXPECT_EQ(pictures.at(words(number)), "");
+      EXPECT_EQ(pictures.at(words(number)), words(number) + std::to_string(number - 99));
+    }
+    EXPECT_NE(pictures.at(words(700 - kept)), "");
+    EXPECT_EQ(pictures.made, 600);
+    EXPECT_EQ(pictures.at(words(700 - kept - 1)), "");
+  }
+}
+
+}  // namespace
+}  // namespace quorix
