@@ -46,19 +46,29 @@ void PictureNode::setOrigin(QPointF origin) {
   if (moved != matrix()) setMatrix(moved);
 }
 
-PictureItem::PictureItem(QQuickItem& parent) : QQuickItem(&parent) { setFlag(ItemHasContents); }
+PictureItem::PictureItem(QQuickItem& parent, std::function<void()> lost)
+    : QQuickItem(&parent), lost_(std::move(lost)) {
+  setFlag(ItemHasContents);
+}
 
 void PictureItem::setPicture(const QImage& picture) {
   picture_ = picture;
-  fresh_ = true;
+  isEmpty_ = picture.isNull();
   update();
+}
+
+void PictureItem::hideTop(double points) {
+  if (std::exchange(hidden_, points) != points) update();
 }
 
 QSGNode* PictureItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
   auto* node = static_cast<PictureNode*>(old);
-  const bool isNew = !node;
-  if (isNew) node = new PictureNode;
-  if (std::exchange(fresh_, false) || isNew) node->setPicture(*window(), picture_);
+  if (!node) node = new PictureNode;
+  if (picture_) node->setPicture(*window(), *std::exchange(picture_, std::nullopt));
+  if (!isEmpty_ && !node->hasPicture()) {
+    QMetaObject::invokeMethod(this, lost_, Qt::QueuedConnection);
+  }
+  node->hideTop(hidden_);
   return node;
 }
 

@@ -4,6 +4,8 @@
 #include <QPointF>
 #include <QQuickItem>
 #include <QSGNode>
+#include <functional>
+#include <optional>
 
 class QQuickWindow;
 class QSGImageNode;
@@ -34,15 +36,21 @@ class PictureNode : public QSGTransformNode {
 /// Shows a picture at its place and takes no input. Main thread.
 class PictureItem : public QQuickItem {
  public:
-  explicit PictureItem(QQuickItem& parent);
+  /// `lost` is called when the scene graph was made anew while the window was hidden: it sets the
+  /// picture again.
+  PictureItem(QQuickItem& parent, std::function<void()> lost);
   void setPicture(const QImage& picture);
+  /// Does not draw the uppermost `points` of the picture.
+  void hideTop(double points);
 
  protected:
   QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) override;
 
  private:
-  QImage picture_;  ///< kept: the scene graph may be made anew
-  bool fresh_ = false;
+  std::function<void()> lost_;
+  std::optional<QImage> picture_;  ///< on its way to the scene graph
+  bool isEmpty_ = true;
+  double hidden_ = 0;
 };
 
 }  // namespace quorix::qt

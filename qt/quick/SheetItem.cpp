@@ -133,7 +133,7 @@ void SheetItem::geometryChange(const QRectF& now, const QRectF& before) {
 
 void SheetItem::updatePolish() {
   if (!isOpen()) return;
-  updatePictures();
+  if (const auto layers = paintLayers(); !layers.empty()) layers_.setPictures(layers);
   if (!followMotion()) return;
   panel_ = toRect(presenter().panelFrame());
   shade_ = toQColor(presenter().shade());
@@ -141,34 +141,18 @@ void SheetItem::updatePolish() {
   layers_.moveTo(panel_.topLeft());
   hiddenTop_ = 0;
   followPages();
+  layers_.hideTop(hiddenTop_);
   layers_.showRing(ring());
   update();
-}
-
-void SheetItem::updatePictures() {
-  auto layers = paintLayers();
-  if (layers.empty()) return;
-  panelPicture_ = std::exchange(layers.front().picture, {});
-  pictureHeight_ = panelPicture_.deviceIndependentSize().height();
-  layers_.setPictures(layers);
 }
 
 QSGNode* SheetItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
   auto* node = static_cast<SheetNode*>(old);
   if (!node) node = new SheetNode(*window());
   inSceneGraph_ = true;
-  if (!panelPicture_.isNull()) {
-    node->panel().setPicture(*window(), std::exchange(panelPicture_, {}));
-  } else if (!node->panel().hasPicture()) {
-    // The scene graph was made anew while the window was hidden.
-    QMetaObject::invokeMethod(
-        this, [this] { paintAgain(); }, Qt::QueuedConnection);
-  }
   node->setShade(boundingRect(), shade_);
-  node->panel().setOrigin(panel_.topLeft());
-  node->panel().hideTop(hiddenTop_);
   QRectF below = panel_;
-  below.setTop(std::min(panel_.top() + pictureHeight_, height()));
+  below.setTop(std::min(panel_.top() + layers_.panelHeight(), height()));
   node->setBelow(below, panelColor_);
   return node;
 }
@@ -211,10 +195,7 @@ Qt::CursorShape SheetItem::cursorAt(QPointF point) {
   return takesTapAt(toPoint(point)) ? Qt::PointingHandCursor : Qt::ArrowCursor;
 }
 
-void SheetItem::hoverMoveEvent(QHoverEvent* event) {
-  const auto shape = cursorAt(event->position());
-  if (cursor().shape() != shape) setCursor(shape);
-}
+void SheetItem::hoverMoveEvent(QHoverEvent* event) { setCursor(cursorAt(event->position())); }
 
 /// A modal pop-up of the Controls keeps the wheel from all that is not in it, also from a page in
 /// this sheet above it: the window gets the wheel first.

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QColor>
-#include <QImage>
 #include <QPointer>
 #include <QQuickItem>
 #include <optional>
@@ -66,12 +65,9 @@ class SheetItem : public QQuickItem, public SheetSurface, public QuickAccessible
   bool isDialog() const override { return true; }
 
   Qt::CursorShape cursorAt(QPointF point);
-  void updatePictures();
 
-  // What the scene graph shows next; pictures are here only on their way to it.
+  // What the scene graph shows next.
   QRectF panel_;
-  QImage panelPicture_;
-  double pictureHeight_ = 0;
   double hiddenTop_ = 0;  ///< points of the panel's picture that a page covers
   QColor shade_;
   QColor panelColor_;

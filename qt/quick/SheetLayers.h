@@ -15,13 +15,11 @@ namespace quorix::qt {
 
 class SheetItem;
 
-/// A sheet in the scene graph: the shade, the panel's picture, and its color on to the window's
-/// bottom. Motion moves these and paints nothing. Render thread.
+/// A sheet in the scene graph, below its pictures: the shade, and the panel's color from where its
+/// picture ends to the window's bottom. Render thread.
 class SheetNode : public QSGTransformNode {
  public:
   explicit SheetNode(QQuickWindow& window);
-
-  PictureNode& panel() { return *panel_; }
 
   void setShade(const QRectF& window, const QColor& color);
   void setBelow(const QRectF& rect, const QColor& color);
@@ -29,7 +27,6 @@ class SheetNode : public QSGTransformNode {
  private:
   QSGRectangleNode* shade_;
   QSGRectangleNode* below_;
-  PictureNode* panel_;
 };
 
 /// What lies over the pages of a sheet and takes taps: as large as the sheet, but there only where
@@ -72,15 +69,18 @@ class FocusStop : public QQuickItem {
   std::function<void()> passed_;
 };
 
-/// What stands in and over a sheet with pages, from the bottom up: each page, then the picture of
-/// what lies above it; at last what takes taps, and the focus ring. All are children of the sheet.
-/// Main thread.
+/// What stands in a sheet, from the bottom up: the panel's picture; each page, then the picture of
+/// what lies above it; at last what takes taps, and the focus ring. All are children of the sheet,
+/// which motion moves and does not paint. Main thread.
 class SheetLayers {
  public:
   explicit SheetLayers(SheetItem& sheet) : sheet_(sheet) {}
 
-  /// The layers but the first, which the sheet paints itself.
   void setPictures(const std::vector<SheetSurface::Layer>& layers);
+  /// How much of the panel its picture shows; points.
+  double panelHeight() const { return panelHeight_; }
+  /// Does not draw the uppermost `points` of the panel's picture.
+  void hideTop(double points);
   /// Where the panel's top left is.
   void moveTo(QPointF panel);
   /// Puts a page where it belongs, the top `strip` of it for the eye alone; `index` counts from the
@@ -95,6 +95,7 @@ class SheetLayers {
     QPointF origin;  ///< in the panel
   };
 
+  PictureItem* newPicture(double z);
   void makeStops();
 
   SheetItem& sheet_;
@@ -104,6 +105,7 @@ class SheetLayers {
   FocusStop* before_ = nullptr;
   FocusStop* after_ = nullptr;
   QPointF panel_;
+  double panelHeight_ = 0;
 };
 
 }  // namespace quorix::qt
