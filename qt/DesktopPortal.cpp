@@ -4,7 +4,6 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
-#include <cmath>
 #include <utility>
 
 namespace quorix::qt {
@@ -56,10 +55,7 @@ void DesktopPortal::take(const QString& group, const QString& key, const QDBusVa
   const auto before = std::pair(prefersReducedMotion(), textScale_);
   if (group == kAppearance && key == kReducedMotion) reducedMotion_ = unwrapped(value).toUInt();
   if (group == kGnome && key == kAnimations) animations_ = unwrapped(value).toBool();
-  if (group == kGnome && key == kTextScale) {
-    const double scale = unwrapped(value).toDouble();
-    textScale_ = std::isfinite(scale) && scale > 0 ? scale : 1;
-  }
+  if (group == kGnome && key == kTextScale) textScale_ = unwrapped(value).toDouble();
   if (std::pair(prefersReducedMotion(), textScale_) != before) emit changed();
 }
 
