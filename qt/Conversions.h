@@ -20,6 +20,9 @@ inline QPointF toPoint(layout::Point point) { return {point.x, point.y}; }
 inline QRectF toRect(const layout::Rect& rect) {
   return {rect.left(), rect.top(), rect.size.width, rect.size.height};
 }
+inline layout::Rect toRect(const QRectF& rect) {
+  return {toPoint(rect.topLeft()), {rect.width(), rect.height()}};
+}
 
 /// Strict, so that Qt's guesses cannot turn it into another address than the one let through. Not
 /// valid when Qt does not understand it.

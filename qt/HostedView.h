@@ -16,13 +16,17 @@ class QUORIX_EXPORT HostedView : public hosting::ViewSession {
   bool handle(QEvent& event);
 
  protected:
-  /// `self` is the item or widget.
-  explicit HostedView(QObject& self);
+  /// `self` is the item or widget, `chosen` what the host chose for it.
+  HostedView(QObject& self, const hosting::HostSettings& chosen);
 
  private:
+  bool allowsMotion() const override;
   void focusMoved(bool later) override;
+  void sceneChanged() override;
+  bool isRead() const override;
 
   QObject& self_;
+  const hosting::HostSettings& chosen_;
 };
 
 }  // namespace quorix::qt

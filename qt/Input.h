@@ -20,4 +20,11 @@ QUORIX_EXPORT hosting::ViewFocus::Cause causeOf(Qt::FocusReason reason);
 /// event of another kind. The action may delete the surface.
 bool passPointer(QEvent& event, hosting::Responder& responder);
 
+/// Shows the hand over what acts, and elsewhere the cursor of what the view stands in.
+template <class View>
+void showHand(View& view, bool acts) {
+  if (acts == (view.cursor().shape() == Qt::PointingHandCursor)) return;
+  acts ? view.setCursor(Qt::PointingHandCursor) : view.unsetCursor();
+}
+
 }  // namespace quorix::qt

@@ -79,14 +79,26 @@ class QUORIX_EXPORT ViewSession : public Responder, private ViewHost::Client {
   void leaveWindow() { abandonSheet(); }
   /// The view is in a window, which can show its sheet.
   void enterWindow();
-  /// If no element acts any more, the focus leaves the view on a later turn.
-  void leaveFocus();
+
+  // Frames, for a surface that keeps what it painted.
+  void viewNeedsDisplay() override;
+  /// `size` changed: the next `refreshScene` makes a new scene.
+  void resized() { sceneStale_ = true; }
+  bool isSceneStale() const { return sceneStale_; }
+  /// Before a frame: makes a new scene if the last one is stale, and lets the focus reach the
+  /// surface or pass it. Returns whether there is a new scene: paint it.
+  bool refreshScene();
+  /// After a frame: frees the scene unless the view is seen, focused or read. Returns whether.
+  bool rest(bool isSeen);
 
  private:
   virtual swiftui::Environment environment() const = 0;
   virtual bool allowsMotion() const = 0;
   virtual layout::Size size() const = 0;
   virtual bool hasFocus() const = 0;
+  /// The surface is in the tab order.
+  virtual bool acceptsFocus() const { return true; }
+  virtual void setAcceptsFocus(bool) {}
   /// An element took a press. What hears of the focus may delete the surface.
   virtual void takeFocusByPress() = 0;
   /// Moves the focus to the next in the tab order. May delete the surface.
@@ -98,6 +110,10 @@ class QUORIX_EXPORT ViewSession : public Responder, private ViewHost::Client {
   /// The focused element changed: tell assistive technology, now or once the toolkit has told of
   /// the view as a whole.
   virtual void focusMoved(bool later) = 0;
+  /// There is a new scene: tell assistive technology.
+  virtual void sceneChanged() {}
+  /// Assistive technology listens.
+  virtual bool isRead() const { return false; }
   /// Null without a window.
   virtual WindowSession* window() = 0;
 
@@ -122,9 +138,11 @@ class QUORIX_EXPORT ViewSession : public Responder, private ViewHost::Client {
   void pointerReleased(const PointerEvent& event) override;
   void pointerCancelled() override { host_.pointerCancelled(); }
   void used();
+  void leaveFocus();
 
   ViewHost host_;
   ViewFocus focus_;
+  bool sceneStale_ = true;
   int sheets_ = 0;                                         ///< how many are up that this opened
   bool toldOpen_ = false;                                  ///< that some are
   SheetCloseReason closeReason_ = SheetCloseReason::host;  ///< the latest

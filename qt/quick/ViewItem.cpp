@@ -181,14 +181,7 @@ void ViewItem::touchUngrabEvent() { surface_->pointerLost(); }
 void ViewItem::hoverEnterEvent(QHoverEvent* event) { hoverMoveEvent(event); }
 
 void ViewItem::hoverMoveEvent(QHoverEvent* event) {
-  const bool tappable = surface_->takesTapAt(toPoint(event->position()));
-  const auto shape = tappable ? Qt::PointingHandCursor : Qt::ArrowCursor;
-  if (cursor().shape() == shape) return;
-  if (tappable) {
-    setCursor(shape);
-  } else {
-    unsetCursor();
-  }
+  showHand(*this, surface_->takesTapAt(toPoint(event->position())));
 }
 
 void ViewItem::keyPressEvent(QKeyEvent* event) {

@@ -7,13 +7,12 @@
 #include "qt/HostedView.h"
 #include "qt/quick/LayoutPlace.h"
 #include "qt/quick/QuickAccessibleSurface.h"
+#include "qt/quick/ViewItem.h"
 #include "qt/quick/WindowWatcher.h"
 
 class QSGNode;
 
 namespace quorix::qt {
-
-class ViewItem;
 
 /// What a view item keeps and does behind its public face. Main thread, but for `paint`.
 class ViewSurface final : public HostedView,
@@ -38,22 +37,25 @@ class ViewSurface final : public HostedView,
  private:
   void viewNeedsDisplay() override;
   swiftui::Environment environment() const override;
-  bool allowsMotion() const override;
-  layout::Size size() const override;
+  layout::Size size() const override { return {item_.width(), item_.height()}; }
   double scale() const;
-  bool hasFocus() const override;
-  void takeFocusByPress() override;
+  bool hasFocus() const override { return item_.hasActiveFocus(); }
+  bool acceptsFocus() const override { return item_.activeFocusOnTab(); }
+  void setAcceptsFocus(bool accepts) override { item_.setActiveFocusOnTab(accepts); }
+  void takeFocusByPress() override { item_.forceActiveFocus(Qt::MouseFocusReason); }
   void giveFocusOn() override;
-  void needsFrame() override;
+  void needsFrame() override { item_.polish(); }
   hosting::WindowSession* window() override;
-  void activated() override;
-  void sheetOpened() override;
-  void sheetClosed(hosting::SheetCloseReason reason) override;
+  void activated() override { emit item_.activated(); }
+  void sheetOpened() override { emit item_.sheetOpened(); }
+  void sheetClosed(hosting::SheetCloseReason reason) override {
+    emit item_.sheetClosed(static_cast<SheetCloseReason>(reason));
+  }
 
   void windowVisibilityChanged() override { onScreenChanged(); }
   void desktopChanged() override { settingsChanged(); }
   void accessibilityBegan() override;
-  QRectF boundsInParent() const override;
+  layout::Rect boundsInParent() const override;
   void placeMayHaveChanged() override;
 
   hosting::Responder& responder() override { return *this; }
@@ -61,7 +63,6 @@ class ViewSurface final : public HostedView,
   void updateIdealSize();
   void updateImplicitSize();
   void followLayoutPlace();
-  void refreshScene();
   bool place();
   layout::Rect partToPaint() const;
   void updatePicture();
@@ -83,7 +84,6 @@ class ViewSurface final : public HostedView,
   std::unique_ptr<Ring> ring_;
 
   bool idealStale_ = true;
-  bool sceneStale_ = true;
   bool pictureStale_ = true;
   bool fitting_ = false;
   bool inViewport_ = false;

@@ -3,10 +3,10 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <algorithm>
-#include <cmath>
 #include <utility>
 #include <vector>
 
+#include "qt/Conversions.h"
 #include "qt/Desktop.h"
 #include "qt/accessibility/AccessibilityBridge.h"
 
@@ -20,13 +20,6 @@ QHash<QQuickWindow*, WindowWatcher*>& watchers() {
 
 /// How many items are looked at anew in each frame: all of an ordinary page's.
 constexpr std::size_t kLooks = 8;
-
-/// Whether all that stood at `before` stands at `now` on the same parts of pixels.
-bool keepsPixels(const QTransform& before, const QTransform& now, double scale) {
-  const auto whole = [&](double way) { return way * scale == std::round(way * scale); };
-  return before.type() <= QTransform::TxTranslate && now.type() <= QTransform::TxTranslate &&
-         whole(now.dx() - before.dx()) && whole(now.dy() - before.dy());
-}
 
 /// The part of the window that is left of it for the children of `parent`.
 QRectF viewportIn(const QQuickItem* parent) {
@@ -107,10 +100,12 @@ bool WindowWatcher::update(Group& group, const QQuickItem& parent) const {
   const QRectF viewport = seenIn(&parent);
   group.moved = toWindow != group.toWindow || viewport != group.viewport;
   if (!group.moved) return false;
-  group.keepsPixels = keepsPixels(group.toWindow, toWindow, window_.effectiveDevicePixelRatio());
   group.toWindow = toWindow;
   group.viewport = viewport;
-  group.visibleBefore = std::exchange(group.visible, toWindow.inverted().mapRect(viewport));
+  std::optional<layout::Point> origin;
+  if (toWindow.type() <= QTransform::TxTranslate) origin = {toWindow.dx(), toWindow.dy()};
+  group.motion.move(toRect(toWindow.inverted().mapRect(viewport)), origin,
+                    window_.effectiveDevicePixelRatio());
   return true;
 }
 
@@ -126,17 +121,11 @@ void WindowWatcher::frame() {
   lookAtSome();
 }
 
-/// Whether the move of its parent may change what is seen of the item, or how. Most items of a list
-/// are in sight as a whole before and after it.
+/// Whether the move of its parent concerns the item.
 bool WindowWatcher::isConcerned(Entry& entry) {
-  const Group& group = *entry.group;
   const bool isNew = !entry.bounds;
   if (isNew) entry.bounds = entry.client->boundsInParent();
-  const bool seen = group.visible.intersects(*entry.bounds);
-  const bool seenBefore = group.visibleBefore.intersects(*entry.bounds);
-  if (!seen && !seenBefore) return false;
-  return isNew || !group.keepsPixels || !group.visible.contains(*entry.bounds) ||
-         !group.visibleBefore.contains(*entry.bounds);
+  return entry.group->motion.concerns(*entry.bounds, isNew);
 }
 
 void WindowWatcher::lookAtSome() {

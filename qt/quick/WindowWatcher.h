@@ -8,6 +8,8 @@
 #include <unordered_map>
 #include <vector>
 
+#include "platform/hosting/ViewportMotion.h"
+
 class QQuickItem;
 class QQuickWindow;
 
@@ -31,7 +33,7 @@ class WindowWatcher : public QObject {
     virtual void desktopChanged() = 0;
     virtual void accessibilityBegan() = 0;
 
-    virtual QRectF boundsInParent() const = 0;
+    virtual layout::Rect boundsInParent() const = 0;
     /// Before a frame: it may have come into sight, left it, or moved in it.
     virtual void placeMayHaveChanged() = 0;
 
@@ -65,17 +67,15 @@ class WindowWatcher : public QObject {
   struct Group {
     QTransform toWindow;
     QRectF viewport;  ///< in the window
-    QRectF visible;   ///< the viewport in the parent's coordinates
-    QRectF visibleBefore;
+    hosting::ViewportMotion motion;
     bool moved = false;
-    bool keepsPixels = false;  ///< the move was one by whole pixels
     int count = 0;
   };
   struct Entry {
     Client* client;
     QQuickItem* parent;
     Group* group;
-    std::optional<QRectF> bounds;  ///< in the parent's coordinates; to be asked for if absent
+    std::optional<layout::Rect> bounds;  ///< in the parent's coordinates; to be asked for if absent
   };
   bool update(Group& group, const QQuickItem& parent) const;
   static bool isConcerned(Entry& entry);

@@ -42,9 +42,11 @@ int ViewWidget::heightForWidth(int width) const { return surface_->heightFor(wid
 bool ViewWidget::event(QEvent* event) {
   switch (event->type()) {
     case QEvent::HoverEnter:
-    case QEvent::HoverMove:
-      pointAt(static_cast<QHoverEvent*>(event)->position());
+    case QEvent::HoverMove: {
+      const auto point = toPoint(static_cast<QHoverEvent*>(event)->position());
+      showHand(*this, isEnabled() && surface_->takesTapAt(point));
       return true;
+    }
     case QEvent::HoverLeave:
       return true;  // which would paint the widget anew
     case QEvent::ParentChange:
@@ -58,16 +60,6 @@ bool ViewWidget::event(QEvent* event) {
   }
   // The action may delete this widget: nothing is touched after it.
   return (isEnabled() && surface_->handle(*event)) || QWidget::event(event);
-}
-
-void ViewWidget::pointAt(QPointF point) {
-  const bool tappable = isEnabled() && surface_->takesTapAt(toPoint(point));
-  if (tappable == (cursor().shape() == Qt::PointingHandCursor)) return;
-  if (tappable) {
-    setCursor(Qt::PointingHandCursor);
-  } else {
-    unsetCursor();
-  }
 }
 
 void ViewWidget::changeEvent(QEvent* event) {

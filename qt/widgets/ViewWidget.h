@@ -69,7 +69,6 @@ class QUORIX_EXPORT ViewWidget : public QWidget, public ViewSettings {
  private:
   friend class WidgetSurface;
   void settingsChanged() override;
-  void pointAt(QPointF point);
 
   std::unique_ptr<WidgetSurface> surface_;
 };

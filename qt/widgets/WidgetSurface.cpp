@@ -10,10 +10,8 @@
 #include "qt/Picture.h"
 #include "qt/WindowScene.h"
 #include "qt/accessibility/AccessibilityBridge.h"
-#include "qt/accessibility/ViewAccessible.h"
 #include "qt/painting/FocusRing.h"
 #include "qt/widgets/SheetWidget.h"
-#include "qt/widgets/ViewWidget.h"
 #include "qt/widgets/WindowStateWatcher.h"
 
 namespace quorix::qt {
@@ -97,7 +95,7 @@ bool isInView(const QWidget& widget) {
 }  // namespace
 
 WidgetSurface::WidgetSurface(ViewWidget& widget)
-    : HostedView(widget), WidgetAccessibleSurface(widget), widget_(widget) {
+    : HostedView(widget, widget.settings()), WidgetAccessibleSurface(widget), widget_(widget) {
   AccessibilityBridge::instance()->add(widget, *this);
   QObject::connect(Desktop::instance(), &Desktop::changed, &widget, [this] { settingsChanged(); });
 }
@@ -108,12 +106,6 @@ WidgetSurface::~WidgetSurface() {
   AccessibilityBridge::remove(widget_);
 }
 
-layout::Size WidgetSurface::size() const {
-  return {double(widget_.width()), double(widget_.height())};
-}
-
-double WidgetSurface::scale() const { return widget_.devicePixelRatioF(); }
-
 swiftui::Environment WidgetSurface::environment() const {
   swiftui::Environment around = Desktop::environment(scale());
   around.appearance = Desktop::appearanceOf(widget_.palette());
@@ -121,21 +113,8 @@ swiftui::Environment WidgetSurface::environment() const {
   return widget_.settings().over(around);
 }
 
-bool WidgetSurface::allowsMotion() const {
-  const auto motion = widget_.settings().motion;
-  return motion ? *motion : !Desktop::prefersReducedMotion();
-}
-
-bool WidgetSurface::hasFocus() const { return widget_.hasFocus(); }
-
-void WidgetSurface::takeFocusByPress() {
-  if (widget_.focusPolicy() != Qt::NoFocus) widget_.setFocus(Qt::MouseFocusReason);
-}
-
 void WidgetSurface::giveFocusOn() {
-  const QPointer<ViewWidget> widget = &widget_;  // what hears of the focus may delete it
-  if (!widget->focusNextPrevChild(true)) widget->clearFocus();
-  if (widget && !widget->hasFocus()) widget->setFocusPolicy(Qt::NoFocus);
+  if (!widget_.focusNextPrevChild(true)) widget_.clearFocus();
 }
 
 hosting::WindowSession* WidgetSurface::window() {
@@ -144,14 +123,6 @@ hosting::WindowSession* WidgetSurface::window() {
     return *new SheetWidget(*window, scene);
   };
   return &WindowScene::of(*window, {[window] { return window->windowHandle(); }, newSheet});
-}
-
-void WidgetSurface::activated() { emit widget_.activated(); }
-
-void WidgetSurface::sheetOpened() { emit widget_.sheetOpened(); }
-
-void WidgetSurface::sheetClosed(hosting::SheetCloseReason reason) {
-  emit widget_.sheetClosed(static_cast<SheetCloseReason>(reason));
 }
 
 // Place.
@@ -174,7 +145,7 @@ void WidgetSurface::placeChanged() {
 void WidgetSurface::onScreenChanged() {
   onScreen_ = widget_.isVisible() && !widget_.window()->isMinimized();
   host().setOnScreen(onScreen_);
-  settleSoon();
+  needsFrame();
 }
 
 // Size.
@@ -208,22 +179,18 @@ bool WidgetSurface::toldHolds() {
 }
 
 void WidgetSurface::sizeChanged() {
-  sceneStale_ = true;
+  resized();
   settle();
 }
 
 // Frame.
 
 void WidgetSurface::viewNeedsDisplay() {
-  sizeStale_ = sceneStale_ = true;
-  settleSoon();
+  sizeStale_ = true;
+  HostedView::viewNeedsDisplay();
 }
 
-void WidgetSurface::contentChanged() { settle(); }
-
-void WidgetSurface::needsFrame() { settleSoon(); }
-
-void WidgetSurface::settleSoon() {
+void WidgetSurface::needsFrame() {
   if (std::exchange(settleQueued_, true)) return;
   QMetaObject::invokeMethod(
       &widget_, [this] { settleQueued_ = false, settle(); }, Qt::QueuedConnection);
@@ -234,23 +201,9 @@ void WidgetSurface::settle() {
     told_ = {};
     widget_.updateGeometry();
   }
-  if (onScreen_ && sceneStale_) refreshScene();
+  if (onScreen_ && refreshScene()) widget_.update();
   updateRing();
-  const bool needed = hasFocus() || (onScreen_ && isInView(widget_));
-  if (!needed && !AccessibilityBridge::isActive()) host().rest();
-}
-
-void WidgetSurface::refreshScene() {
-  sceneStale_ = false;
-  host().scene(size());
-  const bool acts = host().focusStops() > 0;
-  if (acts || !widget_.hasFocus()) {
-    widget_.setFocusPolicy(acts ? Qt::TabFocus : Qt::NoFocus);
-  } else if (widget_.focusPolicy() != Qt::NoFocus) {
-    leaveFocus();
-  }
-  ViewAccessible::sceneChanged(widget_);
-  widget_.update();
+  rest(onScreen_ && isInView(widget_));
 }
 
 void WidgetSurface::updateRing() {

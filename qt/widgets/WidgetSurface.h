@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "qt/HostedView.h"
+#include "qt/widgets/ViewWidget.h"
 #include "qt/widgets/WidgetAccessibleSurface.h"
 
 class QPainter;
@@ -14,7 +15,6 @@ class QPainter;
 namespace quorix::qt {
 
 class FocusFrame;
-class ViewWidget;
 
 /// What a view widget keeps and does behind its public face. Main thread.
 class WidgetSurface final : public HostedView, private WidgetAccessibleSurface {
@@ -27,7 +27,7 @@ class WidgetSurface final : public HostedView, private WidgetAccessibleSurface {
   QSize minimumSize();
   int heightFor(int width);
 
-  void contentChanged() override;
+  void contentChanged() override { settle(); }
   /// The widget was shown, or came into another window.
   void placeChanged();
   void onScreenChanged();
@@ -37,17 +37,22 @@ class WidgetSurface final : public HostedView, private WidgetAccessibleSurface {
  private:
   void viewNeedsDisplay() override;
   swiftui::Environment environment() const override;
-  bool allowsMotion() const override;
-  layout::Size size() const override;
-  double scale() const;
-  bool hasFocus() const override;
-  void takeFocusByPress() override;
+  layout::Size size() const override { return {double(widget_.width()), double(widget_.height())}; }
+  double scale() const { return widget_.devicePixelRatioF(); }
+  bool hasFocus() const override { return widget_.hasFocus(); }
+  bool acceptsFocus() const override { return widget_.focusPolicy() != Qt::NoFocus; }
+  void setAcceptsFocus(bool accepts) override {
+    widget_.setFocusPolicy(accepts ? Qt::TabFocus : Qt::NoFocus);
+  }
+  void takeFocusByPress() override { widget_.setFocus(Qt::MouseFocusReason); }
   void giveFocusOn() override;
   void needsFrame() override;
   hosting::WindowSession* window() override;
-  void activated() override;
-  void sheetOpened() override;
-  void sheetClosed(hosting::SheetCloseReason reason) override;
+  void activated() override { emit widget_.activated(); }
+  void sheetOpened() override { emit widget_.sheetOpened(); }
+  void sheetClosed(hosting::SheetCloseReason reason) override {
+    emit widget_.sheetClosed(static_cast<SheetCloseReason>(reason));
+  }
 
   hosting::Responder& responder() override { return *this; }
 
@@ -58,10 +63,8 @@ class WidgetSurface final : public HostedView, private WidgetAccessibleSurface {
     std::optional<std::pair<int, int>> height;  ///< for a width
   };
 
-  void settleSoon();
   void settle();
   bool toldHolds();
-  void refreshScene();
   void updateRing();
   void dropRing();
   QSize sizeFor(layout::ProposedSize proposal);
@@ -73,7 +76,6 @@ class WidgetSurface final : public HostedView, private WidgetAccessibleSurface {
   QPointer<FocusFrame> ring_;  ///< while it is to be seen
   bool onScreen_ = false;
   bool sizeStale_ = false;
-  bool sceneStale_ = true;
   bool settleQueued_ = false;
 };
 
