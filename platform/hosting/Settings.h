@@ -10,6 +10,7 @@ namespace quorix::hosting {
 struct Settings {
   swiftui::Environment environment;
   bool motion = true;  ///< sheets rise and fall
+  bool operator==(const Settings&) const = default;
 };
 
 /// What the host chose for one view. Absent values follow the desktop.

@@ -30,6 +30,7 @@ class QUORIX_EXPORT ViewWindow : public WindowSession {
   /// Passes a key to it. False when the focus leaves the window, or nothing takes the key.
   bool handle(const KeyEvent& event);
 
+  // Cheap while nothing changes: call them before each frame.
   void setSettings(const Settings& settings);
   void resize(layout::Size view, layout::Size window);
   /// Before each frame: lays out what changed, and moves the sheets on by `seconds`. Returns
@@ -47,8 +48,6 @@ class QUORIX_EXPORT ViewWindow : public WindowSession {
 
   /// Something changed: call `frame` and paint.
   virtual void needsFrame() {}
-  /// The view's size or display list may have changed.
-  virtual void viewChanged() { needsFrame(); }
   // As in `ViewSession`.
   virtual void activated() {}
   virtual void sheetOpened() {}

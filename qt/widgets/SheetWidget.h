@@ -33,8 +33,6 @@ class SheetWidget : public QWidget, public SheetSurface, public WidgetAccessible
   bool focusNextPrevChild(bool next) override;
 
  private:
-  friend class SheetWidgetFront;
-
   /// What shows a layer above a page.
   struct ShownLayer {
     PictureWidget* picture;

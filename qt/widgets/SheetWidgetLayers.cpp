@@ -45,20 +45,7 @@ void SheetWidgetFront::follow(const render::Scene& scene) {
 }
 
 bool SheetWidgetFront::event(QEvent* event) {
-  switch (event->type()) {
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::MouseMove:
-    case QEvent::MouseButtonRelease:
-    case QEvent::Wheel:
-    case QEvent::TouchBegin:
-    case QEvent::TouchUpdate:
-    case QEvent::TouchEnd:
-    case QEvent::TouchCancel:
-      return sheet_.event(event);
-    default:
-      return QWidget::event(event);
-  }
+  return (isEnabled() && sheet_.handle(*event)) || QWidget::event(event);
 }
 
 }  // namespace quorix::qt

@@ -70,7 +70,7 @@ class TestWindow final : public TestText, public hosting::ViewWindow {
   hosting::ViewHost* host;
   layout::Size size;
   swiftui::Environment environment;
-  int displays = 0;  ///< requests to show the view again
+  int displays = 0;  ///< requests for a frame
   std::string told;  ///< what happened: "activated opened closed:key "
 
   /// The top-most sheet; null while none is open.
@@ -128,7 +128,7 @@ class TestWindow final : public TestText, public hosting::ViewWindow {
   bool pointer(hosting::PointerEvent::Phase phase, layout::Point at) {
     return front().handle({phase, at, milliseconds_ += 16});
   }
-  void viewChanged() override { ++displays; }
+  void needsFrame() override { ++displays; }
   void activated() override { told += "activated "; }
   void sheetOpened() override { told += "opened "; }
   void sheetClosed(hosting::SheetCloseReason reason) override {
