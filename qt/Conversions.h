@@ -24,8 +24,8 @@ inline layout::Rect toRect(const QRectF& rect) {
   return {toPoint(rect.topLeft()), {rect.width(), rect.height()}};
 }
 
-/// Strict, so that Qt's guesses cannot turn it into another address than the one let through. Not
-/// valid when Qt does not understand it.
+/// Parses strictly: Qt must not correct a checked address into another one. The result is invalid
+/// if Qt does not understand the address.
 inline QUrl toQUrl(const foundation::URL& url) {
   return QUrl::fromEncoded(QByteArray::fromStdString(url.absoluteString()), QUrl::StrictMode);
 }

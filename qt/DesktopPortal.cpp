@@ -18,7 +18,7 @@ const QString kGnome = QStringLiteral("org.gnome.desktop.interface");
 const QString kTextScale = QStringLiteral("text-scaling-factor");
 const QString kAnimations = QStringLiteral("enable-animations");
 
-/// An answer is wrapped once or twice, by the service's age.
+/// The value in an answer, which older services wrap twice.
 QVariant unwrapped(const QDBusVariant& value) {
   const QVariant inner = value.variant();
   return inner.canConvert<QDBusVariant>() ? inner.value<QDBusVariant>().variant() : inner;
@@ -29,7 +29,7 @@ QVariant unwrapped(const QDBusVariant& value) {
 DesktopPortal::DesktopPortal(QObject* parent) : QObject(parent) {
   QDBusConnection bus = QDBusConnection::sessionBus();
   if (!bus.isConnected()) return;
-  qRegisterMetaType<QDBusVariant>();  // Qt looks up the slot's types by name
+  qRegisterMetaType<QDBusVariant>();  // Qt finds the slot's types by name
   bus.connect(kService, kPath, kInterface, QStringLiteral("SettingChanged"), this,
               SLOT(take(QString, QString, QDBusVariant)));
   ask(kAppearance, kReducedMotion);

@@ -7,7 +7,7 @@ namespace quorix::qt {
 
 using hosting::StillScene;
 
-/// The same with Qt's text engine. Needs a QGuiApplication.
+/// `hosting::stillScene` with Qt's text engine. Needs a QGuiApplication.
 inline StillScene stillScene(const swiftui::View& view, const hosting::StillOptions& options = {}) {
   return hosting::stillScene(QtTextEngine::shared(), view, options);
 }

@@ -15,8 +15,8 @@ namespace quorix::hosting {
 
 class SheetSession;
 
-/// A view or a sheet, as input and assistive technology meet it, with the sheet that its content
-/// presents. Main thread.
+/// A view or a sheet: takes input, answers assistive technology, and shows the sheet that its
+/// content presents. Main thread.
 class QUORIX_EXPORT Responder {
  public:
   Responder() = default;
@@ -24,15 +24,15 @@ class QUORIX_EXPORT Responder {
   Responder(const Responder&) = delete;
   Responder& operator=(const Responder&) = delete;
 
-  /// Follows the mouse, or the first finger of a touch. False when the event is for what lies
-  /// below. An action may delete the surface: do not touch it afterwards.
+  /// Follows the mouse, or the first finger of a touch. False if the event is for what lies below.
+  /// An action may delete the surface: do not touch it afterwards.
   bool handle(const PointerEvent& event);
   /// The same for a wheel or a trackpad.
   virtual bool handle(const ScrollEvent&) { return false; }
   /// The same for a key.
   virtual bool handle(const KeyEvent& event) = 0;
-  /// The toolkit gave the pointer to something else. Does nothing after the release, of which some
-  /// toolkits tell in this way too.
+  /// The toolkit gave the pointer to something else. Does nothing after the release, after which
+  /// some toolkits call this, too.
   void pointerLost();
   virtual bool takesTapAt(layout::Point point) = 0;
 
@@ -52,7 +52,7 @@ class QUORIX_EXPORT Responder {
   /// whether there was a sheet to follow: call again then. For pictures and tests.
   bool settle();
 
-  /// What a sheet above this follows.
+  /// A sheet above this takes these over.
   virtual Settings settings() const = 0;
 
   /// Locks to null once this is deleted.
@@ -64,9 +64,9 @@ class QUORIX_EXPORT Responder {
 
   // The sheet above.
 
-  /// The presentation changed: follows on a later turn, since the caller may be at work.
+  /// The presentation changed: follows on a later turn, because the caller may be at work.
   void followSheet();
-  /// Null while none is there. It may be closed.
+  /// Null without one. It may be closed.
   SheetSession* sheet() const;
   /// Closes the sheet without motion, now.
   void closeSheet();
@@ -81,7 +81,7 @@ class QUORIX_EXPORT Responder {
   virtual void pointerCancelled() = 0;
 
   friend class SheetSession;
-  /// A sheet that this opened is up, or left. Called while the sheet is at work.
+  /// A sheet that this opened came up, or closed. Called while the sheet is at work.
   virtual void sheetCameUp() {}
   virtual void sheetLeft(SheetCloseReason) {}
 
@@ -97,7 +97,7 @@ class QUORIX_EXPORT Responder {
 
   std::shared_ptr<Responder*> alive_;  ///< made on first use
   std::weak_ptr<Responder*> sheet_;
-  std::optional<int> pointer_;  ///< the one that is pressed
+  std::optional<int> pointer_;  ///< the pressed one
   double releasedAt_ = 0;       ///< the time of the latest release
   bool sheetQueued_ = false;
 };

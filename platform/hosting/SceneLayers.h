@@ -14,11 +14,10 @@ struct SceneLayer {
   const render::EmbedItem* embed = nullptr;  ///< the whole scene's own; null on top
 };
 
-/// Cuts a panel's `scene` at its embeds, so there is one layer more than there are embeds. The
-/// first one is as wide as the scene and ends where the panel's color, `ground`, is all that is
-/// left below; each further one is only as large as its items. A layer's picture includes the
-/// background of its embed. Edges are on whole device pixels at `scale`. The layers point into
-/// `scene`.
+/// Cuts a panel's `scene` at its embeds, which makes one layer more than there are embeds. The
+/// first layer is as wide as the scene, and ends where only the panel's color, `ground`, is left
+/// below. Each further one is only as large as its items. A layer's picture includes the background
+/// of its embed. Edges are on whole device pixels at `scale`. The layers point into `scene`.
 QUORIX_EXPORT std::vector<SceneLayer> layersOf(const render::Scene& scene, graphics::RGBA ground,
                                                double scale);
 

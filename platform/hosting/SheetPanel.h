@@ -54,13 +54,13 @@ class SheetPanel {
   layout::Rect frame() const;
   graphics::RGBA color() const;
 
-  /// Lays the content out as tall as it would like to be, or as the panel if that is taller, and
-  /// finds how far it scrolls.
+  /// Lays the content out at its ideal height, or the panel's if that is larger, and finds how far
+  /// it scrolls.
   const render::Scene& lay();
   layout::Point inContent(layout::Point inWindow) const;
   std::optional<layout::Rect> inWindow(const std::optional<layout::Rect>& inContent) const;
-  /// What the focus ring goes around in the window: of the focused element so much that the whole
-  /// ring is in the panel. Nothing while the element is out of sight.
+  /// The frame in the window for the focus ring: the part of the focused element around which the
+  /// whole ring is in the panel. Absent while the element is out of sight.
   std::optional<layout::Rect> ring() const;
   bool isScrolledAway(const layout::Rect& inWindow);
 
@@ -87,7 +87,7 @@ class SheetPanel {
   SheetScroll scroll;
 
  private:
-  /// The height in which the content is seen.
+  /// The height in which the content is visible.
   double room();
   /// Where the content's top is while the panel's is at `corner`.
   layout::Point origin(layout::Point corner) const;

@@ -11,7 +11,7 @@
 namespace quorix::hosting {
 namespace {
 
-constexpr double approachPerSecond = 14;  // how fast the panel closes in on where it belongs
+constexpr double approachPerSecond = 14;  // how fast the panel nears its place
 constexpr double dragSlop = 8;            // points before a press becomes a drag
 constexpr double flickSpeed = 600;        // points a second
 constexpr double settledWithin = 0.5;     // points
@@ -58,8 +58,8 @@ struct SheetPresenter::State final : ViewHost::Client {
   std::optional<swiftui::Presentation> presentation;
   std::shared_ptr<SheetCloseReason> closeReason =
       std::make_shared<SheetCloseReason>(SheetCloseReason::host);
-  double drag = 0;      ///< points that the finger holds it down
-  double caughtAt = 0;  ///< points below rest where a drag began, since it was still rising
+  double drag = 0;      ///< points that the finger holds the panel down
+  double caughtAt = 0;  ///< points below rest where a drag caught the rising panel
   std::optional<layout::Point> press;
   bool pressedOutside = false;
   bool dragging = false;

@@ -4,8 +4,8 @@
 
 namespace quorix::hosting {
 
-/// How far a sheet's content is scrolled, what moves it, and the indicator that shows where it is.
-/// Offsets are points from the content's top. Main thread.
+/// Scrolls a sheet's content by finger, key and wheel, and places the indicator. Offsets are points
+/// from the content's top. Main thread.
 class SheetScroll {
  public:
   /// `range` is by how much the content is taller than its room.
@@ -16,11 +16,11 @@ class SheetScroll {
   /// Without motion, the content jumps to where it would have moved, and is not flung.
   void setMotion(bool enabled) { motion_ = enabled; }
 
-  /// A finger presses. True when that stopped a motion, so that the press is no tap.
+  /// A finger presses. True if this stops a motion: the press is then no tap.
   bool hold();
   /// The finger is `down` points below where it pressed. Returns how far it pulls the panel down:
-  /// what is left when the content is at its top. Below 0, it pushes a panel up that does not
-  /// scroll.
+  /// the rest of the way once the content is at its top. Below 0, it pushes up a panel that does
+  /// not scroll.
   double drag(double down);
   /// The whole drag, and not only its end, was at the content's top: a flick closes the sheet.
   bool isPulledFromTop() const;
@@ -52,13 +52,13 @@ class SheetScroll {
 
   double range_ = 0;
   double offset_ = 0;
-  double target_ = 0;  ///< of a fling, it may lie outside the range
+  double target_ = 0;  ///< outside the range for some flings
   double rate_ = 0;    ///< how fast the offset nears the target
   double heldAt_ = 0;
   double shownFor_ = 0;  ///< seconds that the indicator stays
   bool held_ = false;
   bool motion_ = true;
-  bool flashes_ = false;  ///< there is more to see than before: the indicator comes
+  bool flashes_ = false;  ///< shows the indicator: the content scrolls further than before
 };
 
 }  // namespace quorix::hosting

@@ -65,7 +65,7 @@ void SheetSession::close() {
   if (leaveWindow()) leave();
 }
 
-/// Leaves on a later turn: the window may be on its way out, which permits no change of focus.
+/// Leaves on a later turn: the window may be being deleted, when its focus must not change.
 void SheetSession::abandon() {
   if (!leaveWindow()) return;
   abandonSheet();
@@ -160,8 +160,8 @@ void SheetSession::track(const PointerEvent& event) {
   velocity_.add(event.point.y, event.time * 1e-3);
 }
 
-/// Whether `event` is the second of two quick taps on what opened the sheet, which must not close
-/// it again.
+/// Whether `event` is the second of two quick taps on what opened the sheet. It must not close the
+/// sheet.
 bool SheetSession::isSecondTap(const PointerEvent& event) const {
   const auto opener = opener_.lock();
   const double passed = opener ? event.time - (*opener)->releasedAt_ : 0;

@@ -15,11 +15,11 @@ namespace quorix::hosting {
 
 class WindowSession;
 
-/// A sheet over a window: coming and going, settings, motion, input, focus and pages. A toolkit's
-/// sheet derives from this, gives it a place above the window, paint and the focus, and deletes
-/// itself after `vanish`. It takes every event that reaches it, so that what lies below gets none.
-/// The first page of a process opens once the first frame has been shown, so that loading the web
-/// engine does not delay the sheet; later pages come with that frame. Without an engine their
+/// A sheet over a window: opening and closing, settings, motion, input, focus and pages. A
+/// toolkit's sheet derives from this; it stands above the window, paints, takes the focus, and
+/// deletes itself after `vanish`. It handles every event that reaches it, so that what lies below
+/// gets none. The first page of a process opens after the sheet's first frame, so that loading the
+/// web engine does not delay the sheet; later pages open with that frame. Without an engine their
 /// addresses open outside the app and the sheet closes. Main thread.
 class QUORIX_EXPORT SheetSession : public Responder,
                                    private SheetPresenter::Client,
@@ -28,9 +28,9 @@ class QUORIX_EXPORT SheetSession : public Responder,
   ~SheetSession() override;
 
   void present(const swiftui::Presentation& presentation);
-  /// The owner took the sheet back: it falls.
+  /// The owner ended the presentation: the sheet falls.
   void retract() { presenter_.retract(); }
-  /// The owner is gone: closes without motion. The focus returns on a later turn.
+  /// The owner was deleted: closes without motion. The focus returns on a later turn.
   void abandon();
   /// Closes without motion, now.
   void close();
@@ -44,7 +44,7 @@ class QUORIX_EXPORT SheetSession : public Responder,
   using Responder::handle;
   bool handle(const KeyEvent& event) override;
   bool handle(const ScrollEvent& event) override;
-  /// Whether `handle` takes this key, which no shortcut of the host may get then.
+  /// Whether `handle` takes this key, which must then not be a shortcut of the host.
   bool takes(Key key);
   bool takesTapAt(layout::Point point) override;
 
@@ -62,7 +62,7 @@ class QUORIX_EXPORT SheetSession : public Responder,
   std::vector<PageEngine*> pages() const;
 
  protected:
-  /// Gives the focus back to what had it. False when that is gone.
+  /// Returns the focus to what had it before. False if that is gone.
   using FocusReturn = std::function<bool()>;
 
   SheetSession(WindowSession& window, text::TextEngine& engine);
@@ -79,7 +79,7 @@ class QUORIX_EXPORT SheetSession : public Responder,
   void windowResized(layout::Size size);
   /// The frame clock ticked. Returns whether it goes on.
   bool advance(double seconds) { return presenter_.advance(seconds); }
-  /// Before each frame: keeps a moving sheet moving. False when this closed it.
+  /// Before each frame: keeps a moving sheet moving. False if this closed it.
   bool followMotion();
   /// Before each frame, once the panel has its place: pages open, close and move with it.
   void followPages();
@@ -106,26 +106,26 @@ class QUORIX_EXPORT SheetSession : public Responder,
   virtual bool hasFocus() const = 0;
   /// Something inside the sheet has the focus, also a page.
   virtual bool holdsFocus() const = 0;
-  /// Leaves the window without a focused element.
+  /// Takes the focus from the sheet; the window then has no focused element.
   virtual void dropFocus() = 0;
   /// Hides the sheet for good, and deletes it on a later turn.
   virtual void vanish() = 0;
   /// The focused element changed: tell assistive technology, now or on a later turn.
   virtual void focusMoved(bool later) = 0;
-  /// The sheet covers the window from now on, or not any more: tell assistive technology.
+  /// The sheet began or ceased to cover the window: tell assistive technology.
   virtual void coverChanged() {}
 
   // Pages, for a toolkit with a web engine.
   /// Whether a page can be expected to show. Cheap: loads no engine.
   virtual bool canShowPages() const { return false; }
-  /// The web engine is loaded: opening a page takes no time to speak of.
+  /// The web engine is loaded, so that opening a page takes little time.
   virtual bool opensPagesAtOnce() const { return false; }
   std::unique_ptr<PageEngine> openPage(const render::EmbedItem&, PageEngine::Client&) override {
     return nullptr;
   }
   /// Whether the renderer can cut a live page to rounded corners.
   virtual bool clipsPages() const { return false; }
-  /// The page stands there in the window; `index` counts from the lowest.
+  /// The page has this place in the window; `index` counts from the lowest.
   virtual void placePage(PageEngine&, const PagePlace&, int /*index*/) {}
   virtual void focusPage(PageEngine&, bool /*forward*/) {}
   /// Takes the focus from a page, if one has it.
@@ -159,7 +159,7 @@ class QUORIX_EXPORT SheetSession : public Responder,
   bool enterPages(bool forward);
 
   WindowSession* window_;             ///< null once closed
-  std::weak_ptr<Responder*> opener_;  ///< which is told of the sheet, and whose settings it has
+  std::weak_ptr<Responder*> opener_;  ///< is told of the sheet, which takes over its settings
   SheetPresenter presenter_;
   Settings settings_;
   layout::Size windowSize_;

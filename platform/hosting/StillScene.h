@@ -29,8 +29,8 @@ struct StillOptions {
   layout::SideInsets safeArea = {};
 };
 
-/// A view laid out once, without a window: what a picture shows, and what a screen reader reads
-/// out. Do not call its actions: they belong to a view that is gone.
+/// A view laid out once, without a window, for a picture or for what a screen reader says. Do not
+/// call its actions: their view is gone.
 struct QUORIX_EXPORT StillScene {
   render::Scene view;
   std::optional<render::Scene> sheet;  ///< as large as the view's scene, and on top of it
@@ -38,7 +38,7 @@ struct QUORIX_EXPORT StillScene {
   /// View and sheet in one.
   render::Scene whole() const&;
   render::Scene whole() &&;
-  /// What assistive technology meets: a sheet hides all that is behind it.
+  /// What assistive technology reads: only the sheet if there is one.
   const render::Scene& topmost() const { return sheet ? *sheet : view; }
 };
 

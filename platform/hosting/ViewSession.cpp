@@ -54,7 +54,7 @@ void ViewSession::tellOfSheets() {
   open ? sheetOpened() : sheetClosed(closeReason_);
 }
 
-/// Controllers that the view presents from now on belong over this window.
+/// Controllers that are presented from now on belong to this window.
 void ViewSession::used() {
   if (WindowSession* in = window()) in->used(*this);
 }
@@ -97,14 +97,14 @@ bool ViewSession::pointerPressed(const PointerEvent& event) {
   return true;
 }
 
-/// Acts on a later turn: the toolkit may still work with the surface that it told of the release,
-/// and the action may delete it.
+/// Acts on a later turn: the action may delete the surface, which the toolkit may still use after
+/// it told of the release.
 void ViewSession::pointerReleased(const PointerEvent& event) {
   const auto action = host_.endPress(event.point);
   if (action) later([this, action] { perform([&] { return action(), true; }); });
 }
 
-/// Tells of an action that acted. It may delete this.
+/// Calls `activated` if the action acted. The action may delete this.
 void ViewSession::perform(const std::function<bool()>& action) {
   const auto self = weak();
   if (action() && !self.expired()) activated();
@@ -161,7 +161,7 @@ const std::vector<render::AccessibilityElement>& ViewSession::elements() {
   return host_.scene(size()).accessibility;
 }
 
-/// As by the pointer, the focus comes along: a sheet returns it to what opened the sheet.
+/// Moves the focus, as a press does: a closing sheet returns it to what opened the sheet.
 void ViewSession::activate(int index) {
   used();
   host_.scene(size());  // makes the elements that the index counts
@@ -197,7 +197,7 @@ void ViewFocus::came(Cause cause) {
       ringWanted_ = true;
       return;
     case Cause::interruption:
-      return;  // it is where it was
+      return;  // the focus stays where it was
     case Cause::other:
       // With several targets, select none.
       if (!host_.focusFrame() && host_.focusStops() == 1) host_.moveFocus(true);

@@ -15,9 +15,9 @@ class QUORIX_EXPORT ViewFocus {
  public:
   /// Why the surface got the focus or lost it.
   enum class Cause {
-    forward,       ///< by keyboard, from before the view
-    backward,      ///< by keyboard, from behind it
-    interruption,  ///< to or from a pop-up or another window
+    forward,       ///< the keyboard, from before the view
+    backward,      ///< the keyboard, from behind it
+    interruption,  ///< a pop-up or another window
     other,
   };
 
@@ -42,22 +42,22 @@ class QUORIX_EXPORT ViewFocus {
 
 class WindowSession;
 
-/// A view in a window: settings, input, focus and its sheet. A toolkit's surface derives from this
-/// and gives it a size, a place and paint. Main thread.
+/// A view in a window: settings, input, focus and its sheet. A toolkit's surface derives from this;
+/// it knows its size and its window, and paints. Main thread.
 class QUORIX_EXPORT ViewSession : public Responder, private ViewHost::Client {
  public:
   ViewHost& host() { return host_; }
 
   /// Shows another view, which starts with fresh states. The focus moves to its first element.
   void replaceView(swiftui::View view);
-  /// The settings, the desktop's or the window's scale changed.
+  /// The settings or the window's scale changed.
   void settingsChanged();
 
   bool handle(const KeyEvent& event) override;
   using Responder::handle;
   bool takesTapAt(layout::Point point) override;
 
-  /// The surface is about to go: its sheet goes as well, and is told of now.
+  /// The surface is about to be deleted: closes its sheet, and calls `sheetClosed` now.
   void end();
 
   void focusCame(ViewFocus::Cause cause);
@@ -75,9 +75,9 @@ class QUORIX_EXPORT ViewSession : public Responder, private ViewHost::Client {
  protected:
   explicit ViewSession(text::TextEngine& engine) : host_(engine, *this), focus_(host_) {}
 
-  /// The view came to another window, or to none: its sheet leaves the one before.
+  /// The view moved to another window, or to none: closes its sheet in the former one.
   void leaveWindow() { abandonSheet(); }
-  /// The view is in a window, which can show its sheet.
+  /// The view is in a window: shows its sheet there.
   void enterWindow();
 
   // Frames, for a surface that keeps what it painted.
@@ -107,8 +107,8 @@ class QUORIX_EXPORT ViewSession : public Responder, private ViewHost::Client {
   virtual void needsFrame() = 0;
   /// The view or its settings changed: its size may have, too.
   virtual void contentChanged() = 0;
-  /// The focused element changed: tell assistive technology, now or once the toolkit has told of
-  /// the view as a whole.
+  /// The focused element changed: tell assistive technology, now or after the toolkit's notice
+  /// about the whole view.
   virtual void focusMoved(bool later) = 0;
   /// There is a new scene: tell assistive technology.
   virtual void sceneChanged() {}
@@ -120,9 +120,9 @@ class QUORIX_EXPORT ViewSession : public Responder, private ViewHost::Client {
   // What happened. Each may delete the surface.
   /// The user tapped something that acts: by pointer, key or assistive technology.
   virtual void activated() {}
-  /// A sheet of the view is up. Told on a later turn, and once for what stands on each other.
+  /// A sheet of the view opened. Called on a later turn, and once for sheets above each other.
   virtual void sheetOpened() {}
-  /// It left, likewise: one call for each of `sheetOpened`.
+  /// It closed. One call for each of `sheetOpened`, also on a later turn.
   virtual void sheetClosed(SheetCloseReason) {}
 
   void presentationChanged() override { followSheet(); }
@@ -143,8 +143,8 @@ class QUORIX_EXPORT ViewSession : public Responder, private ViewHost::Client {
   ViewHost host_;
   ViewFocus focus_;
   bool sceneStale_ = true;
-  int sheets_ = 0;                                         ///< how many are up that this opened
-  bool toldOpen_ = false;                                  ///< that some are
+  int sheets_ = 0;                                         ///< the open ones that this opened
+  bool toldOpen_ = false;                                  ///< `sheetOpened` was the latest call
   SheetCloseReason closeReason_ = SheetCloseReason::host;  ///< the latest
 };
 

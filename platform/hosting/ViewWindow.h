@@ -9,8 +9,8 @@
 
 namespace quorix::hosting {
 
-/// A window that one view fills, with its sheets over it, for a toolkit that paints all of them on
-/// one area and passes on the area's input. Pictures and tests use it without a toolkit. Main
+/// A window that one view fills, with its sheets over it. For a toolkit that paints all of them on
+/// one area and passes the area's input on; pictures and tests use it without a toolkit. Main
 /// thread.
 ///
 ///     void show(ViewWindow& window, const std::function<void(const render::Scene&)>& paint) {

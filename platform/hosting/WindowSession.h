@@ -13,7 +13,7 @@
 namespace quorix::hosting {
 
 /// A window of a toolkit with the sheets over it. For imperative views it is a scene with one
-/// window, whose root controller stands for the host's own screen; controllers that are presented
+/// window. The root controller of that stands for the host's own screen, and controllers presented
 /// over it are shown as sheets. Main thread.
 class QUORIX_EXPORT WindowSession : private uikit::UIWindow::Client {
  public:
@@ -31,7 +31,7 @@ class QUORIX_EXPORT WindowSession : private uikit::UIWindow::Client {
   /// The window came into sight or went out of it.
   void visibilityChanged();
 
-  /// What the device covers at the window's edges. Its sheets keep clear of it, open ones too.
+  /// What the device covers at the window's edges. All sheets keep clear of it, also open ones.
   void setSafeArea(const layout::SideInsets& safeArea);
   const layout::SideInsets& safeArea() const { return safeArea_; }
 

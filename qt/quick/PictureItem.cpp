@@ -9,7 +9,7 @@ namespace quorix::qt {
 
 void PictureNode::setPicture(QQuickWindow& window, const QImage& image) {
   if (image.isNull()) {
-    delete image_;  // leaves its parent and takes its texture with it
+    delete image_;  // removes it from its parent, and deletes its texture
     image_ = nullptr;
     return;
   }
@@ -17,15 +17,15 @@ void PictureNode::setPicture(QQuickWindow& window, const QImage& image) {
   if (isNew) {
     image_ = window.createImageNode();
     image_->setOwnsTexture(true);
-    // A pixel of the picture is a pixel of the window: interpolating could only blur it.
+    // Pixels of the picture are pixels of the window: interpolating would blur them.
     image_->setFiltering(QSGTexture::Nearest);
   }
   QSGTexture* texture = window.createTextureFromImage(image, QQuickWindow::TextureCanUseAtlas);
   image_->setTexture(texture);
   size_ = image.deviceIndependentSize();
   layOut();
-  // Not before: the software renderer looks at the texture as soon as the node is in the graph.
-  // Below what else the node has.
+  // Last: the software renderer reads the texture as soon as the node is in the graph. First among
+  // the children, to be below the others.
   if (isNew) prependChildNode(image_);
 }
 

@@ -14,10 +14,11 @@
 namespace quorix::qt {
 namespace {
 
-/// Above what pages stack, below the pop-ups of the Controls, which may be asked for over a sheet.
+/// Above what pages stack. Below the pop-ups of Qt Quick Controls, which a host may open over a
+/// sheet.
 constexpr double kStacking = 1'000'000;
 
-/// Above `opener` too, which may be in one of these pop-ups, and above every other sheet.
+/// Also above `opener`, which may be in such a pop-up, and above every other sheet.
 double stackingOver(const QQuickWindow& window, const QQuickItem* opener) {
   double z = kStacking;
   for (const QQuickItem* item : window.contentItem()->childItems()) {
@@ -41,7 +42,7 @@ SheetItem::SheetItem(QQuickWindow& window, hosting::WindowSession& session, QQui
   setAcceptedMouseButtons(Qt::AllButtons);
   setAcceptTouchEvents(true);
   setAcceptHoverEvents(true);
-  setCursor(Qt::ArrowCursor);  // not that of what lies below
+  setCursor(Qt::ArrowCursor);  // instead of the cursor of what lies below
   AccessibilityBridge* accessibility = AccessibilityBridge::instance();
   accessibility->add(*this, *this);
   connect(accessibility, &AccessibilityBridge::began, this, [this] {
@@ -63,7 +64,7 @@ SheetItem::SheetItem(QQuickWindow& window, hosting::WindowSession& session, QQui
         if (inSceneGraph_) wasShown();
       },
       Qt::QueuedConnection);
-  // Qt waits some milliseconds before it asks for a frame: what that one shows is made in these.
+  // Qt waits some milliseconds before it begins a frame: uses them to prepare the first one.
   QMetaObject::invokeMethod(
       this,
       [this, opener = QPointer(opener)] {
@@ -99,19 +100,19 @@ SheetItem::FocusReturn SheetItem::focusReturn() {
 void SheetItem::takeFocus() { forceActiveFocus(Qt::PopupFocusReason); }
 
 bool SheetItem::holdsFocus() const {
-  // A window on its way out takes its items off itself from the top down: it has no focus to give.
+  // A window that is being deleted removes its items from the top down, and has no focus then.
   const bool inWindow = window() && parentItem() && parentItem()->window();
   return inWindow && hasActiveFocus();
 }
 
-/// What lies above, such as a pop-up, keeps the focus.
+/// An item above the sheet, such as a pop-up, keeps the focus.
 void SheetItem::holdFocus() {
   if (window() && liesOver(window()->activeFocusItem())) focusWentBelow();
 }
 
 void SheetItem::vanish() {
   setVisible(false);
-  deleteLater();  // an event of it may be under way
+  deleteLater();  // it may be handling an event
 }
 
 bool SheetItem::liesOver(const QQuickItem* item) const {
@@ -197,8 +198,8 @@ Qt::CursorShape SheetItem::cursorAt(QPointF point) {
 
 void SheetItem::hoverMoveEvent(QHoverEvent* event) { setCursor(cursorAt(event->position())); }
 
-/// A modal pop-up of the Controls keeps the wheel from all that is not in it, also from a page in
-/// this sheet above it: the window gets the wheel first.
+/// A modal pop-up of Qt Quick Controls blocks the wheel for everything outside it, also for a page
+/// in a sheet above it. Gives the wheel to the window before the pop-up's filter.
 bool SheetItem::eventFilter(QObject* watched, QEvent* event) {
   const bool wheel = watched == window() && event->type() == QEvent::Wheel;
   if (!wheel || !isTopmost()) return false;

@@ -16,7 +16,7 @@ SheetNode::SheetNode(QQuickWindow& window)
 }
 
 void SheetNode::setShade(const QRectF& window, const QColor& color) {
-  // At the motion's ends it has no opacity: a frame of the whole window's blending less.
+  // A transparent shade is not drawn, which saves blending the whole window.
   shade_->setRect(color.alpha() > 0 ? window : QRectF());
   shade_->setColor(color);
 }

@@ -17,9 +17,9 @@
 namespace quorix::qt {
 namespace {
 
-/// A view's picture in the scene graph, and over it the ring around what has the focus.
+/// A view's picture in the scene graph, with the focus ring above it.
 struct ViewNode : PictureNode {
-  PictureNode* ring = nullptr;  ///< once there was one
+  PictureNode* ring = nullptr;  ///< made with the first ring
 };
 
 }  // namespace
@@ -68,7 +68,7 @@ void ViewSurface::windowChanged() {
   painted_ = inViewport_ = false;
   pictureStale_ = true;
   offer();
-  onScreenChanged();  // before anyone asks for a size: the view is then evaluated once
+  onScreenChanged();  // before a size is needed, so that the view is evaluated once
   settingsChanged();
   if (item_.window()) enterWindow();
 }
@@ -76,13 +76,12 @@ void ViewSurface::windowChanged() {
 void ViewSurface::parentChanged() {
   WindowWatcher::remove(*this);
   QQuickWindow* window = item_.parentItem() ? item_.window() : nullptr;
-  watcher_ = window ? &WindowWatcher::of(*window) : nullptr;
-  if (watcher_) watcher_->add(*this, *item_.parentItem());
+  if (window) WindowWatcher::of(*window).add(*this, *item_.parentItem());
   if (!idealStale_) followLayoutPlace();
 }
 
 void ViewSurface::onScreenChanged() {
-  host().setOnScreen(watcher_ && watcher_->isWindowVisible() && item_.isVisible());
+  host().setOnScreen(watcher() && watcher()->isWindowVisible() && item_.isVisible());
   item_.polish();
 }
 
@@ -99,7 +98,7 @@ void ViewSurface::viewNeedsDisplay() {
 }
 
 void ViewSurface::contentChanged() {
-  // At once: who made the item asks for its implicit size before any frame.
+  // At once: hosts read the implicit size of a new item before any frame.
   if (idealStale_) updateIdealSize();
 }
 
@@ -143,12 +142,11 @@ layout::Rect ViewSurface::boundsInParent() const {
 }
 
 void ViewSurface::placeMayHaveChanged() {
-  if (isSceneStale()) return;  // the frame looks, before it makes the scene
+  if (isSceneStale()) return;  // `polish` will call `place`
   if (item_.isVisible() && place()) item_.polish();
 }
 
-/// Returns whether the item came into the viewport or left it, or has to be painted in another
-/// part.
+/// Returns whether the item came into the viewport or left it, or needs a picture of another part.
 bool ViewSurface::place() {
   const QTransform toWindow = item_.itemTransform(nullptr, nullptr);
   const QRectF whole(0, 0, item_.width(), item_.height());
@@ -176,11 +174,11 @@ layout::Rect ViewSurface::partToPaint() const {
 
 void ViewSurface::polish() {
   if (idealStale_) updateIdealSize();
-  if (watcher_) place();
-  const bool seen = watcher_ && inViewport_ && item_.isVisible();
-  // Also out of sight: the scene says whether the item takes part in the focus chain.
+  if (watcher()) place();
+  const bool seen = watcher() && inViewport_ && item_.isVisible();
+  // Also out of sight: the scene decides whether the item is in the focus chain.
   pictureStale_ = refreshScene() || pictureStale_;
-  // The window asks every item that accepts hovering in every frame.
+  // In every frame the window visits all items that accept hovering.
   item_.setAcceptHoverEvents(seen && !host().scene(size()).hitAreas.empty());
   if (seen) {
     if (pictureStale_) updatePicture();
@@ -203,7 +201,7 @@ void ViewSurface::updatePicture() {
   };
   picture_ = part_.size == scene.size ? paint(scene) : paint(render::partOf(scene, part_));
   painted_ = !picture_.isNull();
-  ring_.reset();  // its color and scale go with the picture's
+  ring_.reset();  // its color or scale may have changed, too
   item_.update();
 }
 

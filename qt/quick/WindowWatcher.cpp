@@ -18,10 +18,10 @@ QHash<QQuickWindow*, WindowWatcher*>& watchers() {
   return all;
 }
 
-/// How many items are looked at anew in each frame: all of an ordinary page's.
+/// How many items are checked in each frame whatever moved: all of an ordinary page.
 constexpr std::size_t kLooks = 8;
 
-/// The part of the window that is left of it for the children of `parent`.
+/// The part of the window in which children of `parent` are visible.
 QRectF viewportIn(const QQuickItem* parent) {
   if (!parent) return {};
   // The window's own root bounds everything.
@@ -32,7 +32,7 @@ QRectF viewportIn(const QQuickItem* parent) {
   return parent->parentItem() ? own.intersected(viewportIn(parent->parentItem())) : own;
 }
 
-/// What is as good as seen: a flick brings it into view before the next frame could paint it.
+/// The same with a margin: a flick brings the margin into view before the next frame is painted.
 QRectF seenIn(const QQuickItem* parent) {
   constexpr double margin = 160;
   const QRectF viewport = viewportIn(parent);
@@ -110,7 +110,7 @@ bool WindowWatcher::update(Group& group, const QQuickItem& parent) const {
 }
 
 void WindowWatcher::frame() {
-  if (entries_.size() <= kLooks) return lookAtSome();  // which are all
+  if (entries_.size() <= kLooks) return lookAtSome();  // at all
   bool anyMoved = false;
   for (auto& [parent, group] : groups_) anyMoved |= update(group, *parent);
   if (anyMoved) {
@@ -121,7 +121,6 @@ void WindowWatcher::frame() {
   lookAtSome();
 }
 
-/// Whether the move of its parent concerns the item.
 bool WindowWatcher::isConcerned(Entry& entry) {
   const bool isNew = !entry.bounds;
   if (isNew) entry.bounds = entry.client->boundsInParent();
@@ -139,7 +138,7 @@ void WindowWatcher::lookAtSome() {
 
 template <class Call>
 void WindowWatcher::tellAll(Call call) {
-  // A client's answer may add and remove clients, which moves others about.
+  // A client may add and remove clients meanwhile, which reorders the entries.
   const unsigned round = ++round_;
   for (bool again = true; std::exchange(again, false);) {
     for (std::size_t i = 0; i < entries_.size(); ++i) {

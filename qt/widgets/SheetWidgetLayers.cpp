@@ -39,7 +39,7 @@ void SheetWidgetFront::follow(const render::Scene& scene) {
     }
     acting += area;
   }
-  // An empty mask would be none.
+  // Qt reads an empty mask as none.
   setVisible(!acting.isEmpty());
   if (!acting.isEmpty() && acting != mask()) setMask(acting);
 }

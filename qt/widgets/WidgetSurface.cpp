@@ -16,8 +16,8 @@
 
 namespace quorix::qt {
 
-/// The focus ring of a view widget. It reaches beyond the widget, as nothing that the widget itself
-/// paints can, and goes where the widget goes. Belongs to the widget's surroundings; main thread.
+/// The focus ring of a view widget. It reaches beyond the widget, which cannot paint outside of
+/// itself, and follows the widget. A child of one of the widget's ancestors; main thread.
 class FocusFrame : public QFocusFrame {
  public:
   explicit FocusFrame(QWidget& widget);
@@ -35,9 +35,9 @@ class FocusFrame : public QFocusFrame {
 
 namespace {
 
-constexpr int kMargin = 4;  // what the ring takes beyond the widget
+constexpr int kMargin = 4;  // points that the ring reaches beyond the widget
 
-/// Room for the ring, above the other widgets in the parent.
+/// Makes room for the ring, above the other widgets in the parent.
 class FrameStyle : public QProxyStyle {
  public:
   int pixelMetric(PixelMetric metric, const QStyleOption* option,
@@ -76,14 +76,14 @@ void FocusFrame::paintEvent(QPaintEvent*) {
 
 namespace {
 
-/// Whole pixels that hold `points`, but for bits that were lost in additions.
+/// Rounds `points` up to whole pixels, except for the rounding errors of additions.
 int wholePixels(double points) {
   constexpr double slack = 1.0 / 256;
   return static_cast<int>(std::clamp(std::ceil(points - slack), 0.0, double(QWIDGETSIZE_MAX)));
 }
 
-/// Whether anything of `widget` lies within all that it stands in. A widget that is scrolled away
-/// does not, though it is visible.
+/// Whether a part of `widget` is inside all its ancestors. A widget that is scrolled away is not,
+/// though Qt calls it visible.
 bool isInView(const QWidget& widget) {
   QRect left = widget.rect();
   for (const QWidget* at = &widget; !at->isWindow() && !left.isEmpty(); at = at->parentWidget()) {
@@ -137,7 +137,7 @@ void WidgetSurface::placeChanged() {
                                     &widget_, [this] { onScreenChanged(); });
     window_ = window;
   }
-  onScreenChanged();  // before anyone asks for a size: the view is then evaluated once
+  onScreenChanged();  // before a size is needed, so that the view is evaluated once
   settingsChanged();
   if (moved) enterWindow();
 }
@@ -161,7 +161,7 @@ QSize WidgetSurface::idealSize() {
 }
 
 QSize WidgetSurface::minimumSize() {
-  // As narrow as it can be; how high that makes it is for `heightFor` to say.
+  // The least width. The height at that width is the answer of `heightFor`.
   told_.minimum = QSize(sizeFor({0, std::nullopt}).width(), sizeFor({}).height());
   return *told_.minimum;
 }
@@ -216,12 +216,12 @@ void WidgetSurface::updateRing() {
 void WidgetSurface::dropRing() {
   if (!ring_) return;
   ring_->setWidget(nullptr);
-  ring_->deleteLater();  // what it stands in may be going through all that it holds
+  ring_->deleteLater();  // its parent may be iterating over its children
   ring_ = nullptr;
 }
 
 void WidgetSurface::paint(QPainter& painter) {
-  // Qt tells a widget late, and not everywhere, that its window came to another screen.
+  // Qt tells a widget late, and not on every platform, that its window moved to another screen.
   if (scale() != host().environment().scale) settingsChanged();
   paintAsPicture(painter, host().scene(size()));
 }

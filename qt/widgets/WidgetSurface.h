@@ -16,19 +16,19 @@ namespace quorix::qt {
 
 class FocusFrame;
 
-/// What a view widget keeps and does behind its public face. Main thread.
+/// The private part of a view widget. Main thread.
 class WidgetSurface final : public HostedView, private WidgetAccessibleSurface {
  public:
   explicit WidgetSurface(ViewWidget& widget);
   ~WidgetSurface() override;
 
-  // What layouts ask.
+  // For layouts.
   QSize idealSize();
   QSize minimumSize();
   int heightFor(int width);
 
   void contentChanged() override { settle(); }
-  /// The widget was shown, or came into another window.
+  /// The widget was shown, or moved to another window.
   void placeChanged();
   void onScreenChanged();
   void sizeChanged();
@@ -56,7 +56,7 @@ class WidgetSurface final : public HostedView, private WidgetAccessibleSurface {
 
   hosting::Responder& responder() override { return *this; }
 
-  /// What layouts were told; only when that no longer holds do they lay out anew.
+  /// The answers that layouts got. They lay out again only when one changes.
   struct Told {
     std::optional<QSize> ideal;
     std::optional<QSize> minimum;
@@ -73,7 +73,7 @@ class WidgetSurface final : public HostedView, private WidgetAccessibleSurface {
   QPointer<QWidget> window_;
   QMetaObject::Connection windowState_;
   Told told_;
-  QPointer<FocusFrame> ring_;  ///< while it is to be seen
+  QPointer<FocusFrame> ring_;  ///< while it is visible
   bool onScreen_ = false;
   bool sizeStale_ = false;
   bool settleQueued_ = false;
