@@ -18,7 +18,7 @@ QHash<QQuickWindow*, WindowWatcher*>& watchers() {
   return all;
 }
 
-/// How many items are checked in each frame whatever moved: all of an ordinary page.
+/// How many items are checked in each frame, moved or not: all of an ordinary page.
 constexpr std::size_t kLooks = 8;
 
 /// The part of the window in which children of `parent` are visible.
