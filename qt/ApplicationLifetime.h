@@ -4,8 +4,8 @@
 
 namespace quorix::qt {
 
-/// The process's one `T`, made on first use and destroyed with the application object, while the
-/// fonts and images that it holds may still be given back. Main thread.
+/// The process's one `T`, made on first use. It is destroyed with the application object, after
+/// which Qt cannot free fonts and images any more. Main thread.
 template <class T>
 T& applicationLifetime() {
   static T* instance = nullptr;

@@ -22,14 +22,17 @@ inline QPointF toPoint(layout::Point point) { return {point.x, point.y}; }
 inline QRectF toRect(const layout::Rect& rect) {
   return {rect.left(), rect.top(), rect.size.width, rect.size.height};
 }
+inline layout::Rect toRect(const QRectF& rect) {
+  return {toPoint(rect.topLeft()), {rect.width(), rect.height()}};
+}
 
-/// Of a text that lives on.
+/// Valid as long as the text that `text` is a view of.
 inline std::u16string_view utf16(QStringView text) {
   return {text.utf16(), static_cast<std::size_t>(text.size())};
 }
 
-/// Strict, so that Qt's guesses cannot turn it into another address than the one let through. Not
-/// valid when Qt does not understand it.
+/// Parses strictly: Qt must not correct a checked address into another one. The result is invalid
+/// if Qt does not understand the address.
 inline QUrl toQUrl(const foundation::URL& url) {
   return QUrl::fromEncoded(QByteArray::fromStdString(url.absoluteString()), QUrl::StrictMode);
 }

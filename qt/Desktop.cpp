@@ -17,14 +17,14 @@
 namespace quorix::qt {
 namespace {
 
-/// The value of `key` in the configuration file `name`, or `otherwise` where there is none.
+/// The value of `key` in the configuration file `name`, or `otherwise` if it is absent.
 QVariant configured(const QString& name, const QString& key, const QVariant& otherwise) {
   const QString path = QStandardPaths::locate(QStandardPaths::GenericConfigLocation, name);
   if (path.isEmpty()) return otherwise;
   return QSettings(path, QSettings::IniFormat).value(key, otherwise);
 }
 
-/// The code of Qt's default language, which every view of a list asks for.
+/// The code of Qt's default language. Cached, because every row of a list asks for it.
 const std::string& languageCode() {
   static QLocale::Language known = QLocale::AnyLanguage;
   static std::string code;
@@ -75,7 +75,7 @@ layout::LayoutDirection Desktop::directionOf(Qt::LayoutDirection direction) {
 swiftui::ContentSizeCategory Desktop::textSize() {
   double factor = 1;
 #ifdef QUORIX_DBUS
-  // On X11 desktops put it into the DPI as well, by which Qt enlarges every window.
+  // On X11 desktops multiply it into the DPI, by which Qt scales every window.
   const Desktop* desktop = instance();
   const bool enlarged = QGuiApplication::platformName() == QLatin1String("xcb");
   if (desktop && !enlarged) factor = desktop->portal_->textScale();
@@ -84,8 +84,8 @@ swiftui::ContentSizeCategory Desktop::textSize() {
 }
 
 bool Desktop::prefersReducedMotion() {
-  // Qt 6.4 passes no such wish on. It is the desktops' common settings service that has it, and
-  // files where there is none.
+  // Qt 6.4 does not tell. Asks the settings service that desktops share, and reads their files
+  // where there is none.
 #ifdef QUORIX_DBUS
   const Desktop* desktop = instance();
   if (desktop && desktop->portal_->prefersReducedMotion()) return true;

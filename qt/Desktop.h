@@ -11,7 +11,7 @@ namespace quorix::qt {
 
 class DesktopPortal;
 
-/// What the desktop says for every surface of the process: light or dark, reading direction, text
+/// The desktop's settings for every surface of the process: light or dark, reading direction, text
 /// size, motion. Lives as long as the application object; main thread.
 class QUORIX_EXPORT Desktop : public QObject {
   Q_OBJECT
@@ -20,13 +20,13 @@ class QUORIX_EXPORT Desktop : public QObject {
   /// Null without an application object.
   static Desktop* instance();
 
-  /// What the desktop says, at `scale` device pixels for each point.
+  /// The desktop's settings, at `scale` device pixels for each point.
   static swiftui::Environment environment(double scale);
-  /// Dark when the palette's window is darker than its text: there is no other word about it that
-  /// every supported version passes on.
+  /// Dark if the palette's window is darker than its text: not every supported version of Qt tells
+  /// the color scheme.
   static graphics::Appearance appearanceOf(const QPalette& palette);
   static layout::LayoutDirection directionOf(Qt::LayoutDirection direction);
-  /// The user asked for less motion: the latest word of the desktop's settings.
+  /// The user wants less motion, by the latest state of the desktop's settings.
   static bool prefersReducedMotion();
 
  signals:
@@ -37,10 +37,10 @@ class QUORIX_EXPORT Desktop : public QObject {
 
  private:
   explicit Desktop(QObject* application);
-  /// The user's, as far as Qt has not enlarged everything by it.
+  /// The user's text size, unless Qt has already enlarged everything by it.
   static swiftui::ContentSizeCategory textSize();
 
-  DesktopPortal* portal_ = nullptr;  ///< where there is D-Bus
+  DesktopPortal* portal_ = nullptr;  ///< null without D-Bus
 };
 
 }  // namespace quorix::qt

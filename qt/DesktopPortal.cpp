@@ -4,7 +4,6 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
-#include <cmath>
 #include <utility>
 
 namespace quorix::qt {
@@ -19,7 +18,7 @@ const QString kGnome = QStringLiteral("org.gnome.desktop.interface");
 const QString kTextScale = QStringLiteral("text-scaling-factor");
 const QString kAnimations = QStringLiteral("enable-animations");
 
-/// An answer is wrapped once or twice, by the service's age.
+/// The value in an answer, which older services wrap twice.
 QVariant unwrapped(const QDBusVariant& value) {
   const QVariant inner = value.variant();
   return inner.canConvert<QDBusVariant>() ? inner.value<QDBusVariant>().variant() : inner;
@@ -30,7 +29,7 @@ QVariant unwrapped(const QDBusVariant& value) {
 DesktopPortal::DesktopPortal(QObject* parent) : QObject(parent) {
   QDBusConnection bus = QDBusConnection::sessionBus();
   if (!bus.isConnected()) return;
-  qRegisterMetaType<QDBusVariant>();  // Qt looks up the slot's types by name
+  qRegisterMetaType<QDBusVariant>();  // Qt finds the slot's types by name
   bus.connect(kService, kPath, kInterface, QStringLiteral("SettingChanged"), this,
               SLOT(take(QString, QString, QDBusVariant)));
   ask(kAppearance, kReducedMotion);
@@ -56,10 +55,7 @@ void DesktopPortal::take(const QString& group, const QString& key, const QDBusVa
   const auto before = std::pair(prefersReducedMotion(), textScale_);
   if (group == kAppearance && key == kReducedMotion) reducedMotion_ = unwrapped(value).toUInt();
   if (group == kGnome && key == kAnimations) animations_ = unwrapped(value).toBool();
-  if (group == kGnome && key == kTextScale) {
-    const double scale = unwrapped(value).toDouble();
-    textScale_ = std::isfinite(scale) && scale > 0 ? scale : 1;
-  }
+  if (group == kGnome && key == kTextScale) textScale_ = unwrapped(value).toDouble();
   if (std::pair(prefersReducedMotion(), textScale_) != before) emit changed();
 }
 

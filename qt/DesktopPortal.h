@@ -6,16 +6,16 @@
 
 namespace quorix::qt {
 
-/// The settings service that desktops on D-Bus have in common, asked about motion and text size. It
-/// is asked in the background and not started for it: until it has answered, motion and text are as
-/// usual. Main thread.
+/// Asks the settings service that desktops on D-Bus share about motion and text size, in the
+/// background and without starting it. Until it answers, motion and text size are the usual ones.
+/// Main thread.
 class DesktopPortal : public QObject {
   Q_OBJECT
 
  public:
   explicit DesktopPortal(QObject* parent);
 
-  /// The user asked for less motion.
+  /// The user wants less motion.
   bool prefersReducedMotion() const { return reducedMotion_ == 1U || animations_ == false; }
   /// The user's text size as a multiple of the usual one.
   double textScale() const { return textScale_; }
@@ -29,8 +29,8 @@ class DesktopPortal : public QObject {
  private:
   void ask(const QString& group, const QString& key);
 
-  std::optional<unsigned> reducedMotion_;  ///< every desktop's: 1 for less
-  std::optional<bool> animations_;         ///< GNOME's own, which is older
+  std::optional<unsigned> reducedMotion_;  ///< of every desktop: 1 for less
+  std::optional<bool> animations_;         ///< GNOME's older setting
   double textScale_ = 1;
 };
 

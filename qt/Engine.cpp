@@ -16,8 +16,8 @@
 namespace quorix::qt {
 namespace {
 
-/// Opens addresses as Qt does: with the handler that the host has set for the scheme
-/// (`QDesktopServices::setUrlHandler`), else with the desktop's or the phone's. Does nothing
+/// Opens addresses by Qt: with the handler that the host has set for the scheme
+/// (`QDesktopServices::setUrlHandler`), or else with that of the desktop or the phone. Does nothing
 /// without a `QGuiApplication`. Main thread.
 class QtURLOpener final : public uikit::URLOpener {
  public:
@@ -34,7 +34,7 @@ void installEngine() {
   static std::once_flag once;
   std::call_once(once, [] {
     QtMainQueue::install();
-    Desktop::instance();  // its settings service needs a moment to answer
+    Desktop::instance();  // early: the settings service takes a moment to answer
     QtFonts::installSystemLookup();
     foundation::URLSession::shared().install(std::make_shared<QtURLTransport>());
     uikit::URLOpener::install(std::make_shared<QtURLOpener>());

@@ -4,22 +4,22 @@
 
 namespace quorix::qt {
 
-/// Puts Qt under the platform's services: the main queue, the HTTP session, the faces that Qt has,
-/// and the way out of the app for addresses.
+/// Installs Qt as the engine of the platform's services: the main queue, the HTTP session, the
+/// installed faces, and the opening of addresses outside the app.
 ///
-/// The first view item does this; call it earlier to fetch texts before it, to answer requests of
-/// your own, or where no view item is made. Main thread, before or after the application object is
-/// made; every later call does nothing.
+/// The first view item does this. Call it earlier to fetch texts before that, to answer requests
+/// yourself, or without a view item. Main thread, before or after the application object is made;
+/// later calls do nothing.
 ///
-/// Sheets with a page of the web have Qt WebEngine show it, which is loaded with the first of them.
-/// The engine wants one line before the application object is made:
+/// Web pages in sheets are shown by Qt WebEngine, which is loaded with the first of them. It needs
+/// one line before the application object is made:
 ///
 ///     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
 ///
-/// Without it, pages in Qt Quick windows that are drawn with OpenGL are opened outside the app
-/// instead; so they all are where the engine or its component is missing.
+/// Without it, pages in Qt Quick windows that use OpenGL open outside the app. All pages do if the
+/// engine or its component is missing.
 ///
-///     quorix::qt::installEngine();  // early, for what `prefetch` asks for
+///     quorix::qt::installEngine();  // before `prefetch`
 QUORIX_EXPORT void installEngine();
 
 }  // namespace quorix::qt

@@ -57,7 +57,7 @@ Key keyOf(const QKeyEvent& event) {
     case Qt::Key_Forward:
       return Key::pageForward;
     default:
-      // With another modifier, such a key is a shortcut of the host's.
+      // With a modifier, such a key is a shortcut of the host.
       return event.modifiers() & ~Qt::KeypadModifier ? Key::other : scrollKeyOf(event.key());
   }
 }
@@ -76,7 +76,7 @@ void passTouch(QTouchEvent& event, hosting::Responder& responder) {
                                                                  : Phase::moved;
     const bool taken = responder.handle(PointerEvent{
         phase, toPoint(point.position()), static_cast<double>(event.timestamp()), point.id()});
-    if (phase == Phase::released && taken) return;  // it may be gone
+    if (phase == Phase::released && taken) return;  // the responder may be deleted
     if (!presses || taken) continue;
     event.ignore();
     return;

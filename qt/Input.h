@@ -16,8 +16,15 @@ QUORIX_EXPORT hosting::KeyEvent toKeyEvent(const QKeyEvent& event);
 hosting::ScrollEvent toScrollEvent(const QWheelEvent& event);
 QUORIX_EXPORT hosting::ViewFocus::Cause causeOf(Qt::FocusReason reason);
 
-/// Passes an event of the pointer on, and accepts it if `responder` takes it. False when it is an
-/// event of another kind. The action may delete the surface.
+/// Passes an event of the pointer to `responder`, and accepts it if that takes it. False for other
+/// events. The action may delete the surface.
 bool passPointer(QEvent& event, hosting::Responder& responder);
+
+/// Shows the hand where the view acts, and elsewhere the cursor of what the view stands in.
+template <class View>
+void showHand(View& view, bool acts) {
+  if (acts == (view.cursor().shape() == Qt::PointingHandCursor)) return;
+  acts ? view.setCursor(Qt::PointingHandCursor) : view.unsetCursor();
+}
 
 }  // namespace quorix::qt

@@ -14,21 +14,21 @@ namespace {
 
 using foundation::MainQueue;
 
-/// Takes the turns, for as long as there is an application object. Turns that it has not taken then
-/// are lost with it; their work waits in the queue for the next one.
+/// Receives the turns while an application object exists. Turns that still wait then are lost, but
+/// their work stays in the queue for the next application object.
 struct Receiver {
   std::mutex mutex;
   std::unique_ptr<QObject> object;
 };
 
-// Never destroyed: other threads may still enqueue while the process ends.
+// Never destroyed: other threads may enqueue while the process ends.
 Receiver& receiver() {
   static Receiver& instance = *new Receiver;
   return instance;
 }
 
 void post(MainQueue::Work turn) {
-  // The lock is held while posting, so that the receiver cannot go away in between.
+  // Holds the lock while posting, so that the receiver is not destroyed meanwhile.
   const std::scoped_lock lock(receiver().mutex);
   QObject* const object = receiver().object.get();
   if (object) QMetaObject::invokeMethod(object, std::move(turn), Qt::QueuedConnection);
@@ -51,7 +51,7 @@ void applicationBegins() {
     const std::scoped_lock lock(receiver().mutex);
     receiver().object = std::make_unique<QObject>();
   }
-  MainQueue::install(post, startTimer);  // again: a turn for each piece that waits
+  MainQueue::install(post, startTimer);  // again: posts a turn for each piece that waits
 }
 
 }  // namespace
@@ -59,7 +59,7 @@ void applicationBegins() {
 void QtMainQueue::install() {
   static const bool installed = [] {
     MainQueue::install(post, startTimer);
-    qAddPreRoutine(applicationBegins);  // at once when there is an application already
+    qAddPreRoutine(applicationBegins);  // runs at once if there is an application
     return true;
   }();
   static_cast<void>(installed);

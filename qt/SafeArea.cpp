@@ -8,7 +8,7 @@
 namespace quorix::qt {
 namespace {
 
-// A property of the window, since it may be set before there is a sheet.
+// A property of the window, because it may be set before a sheet exists.
 constexpr const char* kProperty = "quorixSafeArea";
 
 }  // namespace

@@ -7,8 +7,8 @@
 
 namespace quorix::qt {
 
-/// Follows what the device covers of a window: what the host said, or else what Qt says from 6.9
-/// on. Belongs to the window; main thread.
+/// Follows what the device covers of a window: the host's margins, or else Qt's from 6.9 on.
+/// Belongs to the window; main thread.
 class SafeAreaWatcher : public QObject {
  public:
   template <class Window>
@@ -29,7 +29,7 @@ class SafeAreaWatcher : public QObject {
  private:
   QWindow& window_;
   std::function<void()> changed_;
-  std::function<QMargins()> own_;  ///< Qt's
+  std::function<QMargins()> own_;  ///< Qt's margins
 };
 
 }  // namespace quorix::qt

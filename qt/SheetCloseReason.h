@@ -15,8 +15,8 @@ enum class SheetCloseReason {
   Swipe = int(hosting::SheetCloseReason::swipe),      ///< a swipe down
   Outside = int(hosting::SheetCloseReason::outside),  ///< a tap beside the sheet
   Key = int(hosting::SheetCloseReason::key),          ///< Escape, the Back key
-  Host = int(hosting::SheetCloseReason::host),  ///< not the user: another view, the widget's end,
-                                                ///< a page that opened in the browser instead
+  Host = int(hosting::SheetCloseReason::host),  ///< not the user: `setView`, a deleted view, a page
+                                                ///< that opened in the browser instead
 };
 Q_ENUM_NS(SheetCloseReason)
 

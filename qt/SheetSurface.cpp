@@ -33,7 +33,7 @@ bool SheetSurface::handle(QEvent& event) {
     case QEvent::KeyPress:
       return handle(toKeyEvent(static_cast<QKeyEvent&>(event)));
     case QEvent::KeyRelease: {
-      // A phone closes the window unless the release of its Back key is taken.
+      // A phone closes the window unless the release of its Back key is accepted.
       const auto key = toKeyEvent(static_cast<QKeyEvent&>(event)).key;
       event.setAccepted(key == hosting::Key::escape || key == hosting::Key::back);
       return true;
@@ -42,7 +42,7 @@ bool SheetSurface::handle(QEvent& event) {
       break;
   }
   if (!passPointer(event, *this)) return false;
-  event.accept();  // also the other buttons', which are not for what lies below
+  event.accept();  // also for other buttons, which must not reach what lies below
   return true;
 }
 

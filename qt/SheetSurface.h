@@ -20,10 +20,10 @@ namespace quorix::qt {
 /// Ticks once for each frame while it runs, in step with the window that is drawn. Main thread.
 class QUORIX_EXPORT FrameClock : private QAbstractAnimation {
  public:
-  /// Told of the seconds since the last tick; the clock stops when it answers false.
+  /// `tick` gets the seconds since the last tick. The clock stops when it returns false.
   explicit FrameClock(std::function<bool(double)> tick) : tick_(std::move(tick)) {}
 
-  /// Runs from now on, if it does not yet.
+  /// Has no effect while it runs.
   void start() {
     if (state() == Running) return;
     sinceTick_.start();
@@ -32,7 +32,7 @@ class QUORIX_EXPORT FrameClock : private QAbstractAnimation {
   void stop() { QAbstractAnimation::stop(); }
 
  private:
-  int duration() const override { return -1; }  // until it is stopped
+  int duration() const override { return -1; }  // without an end
   void updateCurrentTime(int) override {
     if (state() != Running) return;
     const double seconds = static_cast<double>(sinceTick_.nsecsElapsed()) * 1e-9;
@@ -47,26 +47,26 @@ class QUORIX_EXPORT FrameClock : private QAbstractAnimation {
 /// A sheet over a window of either toolkit. Main thread.
 class QUORIX_EXPORT SheetSurface : public hosting::SheetSession {
  public:
-  /// A picture of what lies above a page, and where it stands in the panel.
+  /// A picture of the panel, or of what lies above a page, and its place in the panel.
   struct Layer {
     QImage picture;
     QPointF origin;
   };
 
   using SheetSession::handle;
-  /// Takes an event of the pointer or the keyboard: false when it is another.
+  /// Handles an event of the pointer or the keyboard. False for other events.
   bool handle(QEvent& event);
 
  protected:
-  /// `self` is the derived object, `webComponent` the name of its toolkit's.
+  /// `self` is the derived object, `webComponent` the name of its toolkit's web component.
   SheetSurface(QObject& self, hosting::WindowSession& window, QString webComponent);
 
-  /// Paints the panel anew if it or the scale changed; empty otherwise. The first layer is the
-  /// panel itself, to where only its color is left; each further one lies above a page.
+  /// Paints the panel again if it or the scale changed; otherwise returns nothing. The first layer
+  /// is the panel itself, down to where only its color is left. Each further one lies above a page.
   std::vector<Layer> paintLayers();
-  /// The pictures were lost.
+  /// The pictures were lost: paints them again.
   void paintAgain();
-  /// Where the focus ring stands, with its picture if that is another one than before.
+  /// The place of the focus ring, with its picture if that changed.
   std::optional<Layer> ring();
 
   std::unique_ptr<hosting::PageEngine> openPage(const render::EmbedItem& embed,
@@ -90,7 +90,7 @@ class QUORIX_EXPORT SheetSurface : public hosting::SheetSession {
   FrameClock clock_;
   std::optional<unsigned> paintedRevision_;
   double paintedScale_ = 0;
-  std::optional<layout::Size> ringSize_;  ///< of the latest picture
+  std::optional<layout::Size> ringSize_;  ///< in the latest picture
 };
 
 }  // namespace quorix::qt

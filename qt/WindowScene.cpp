@@ -34,7 +34,7 @@ hosting::SheetSession& WindowScene::newSheet(const hosting::Responder* opener) {
   return toolkit_.newSheet(*this, opener);
 }
 
-/// A widget's window may have been made anew since the sheet before.
+/// Qt may have made a widget's native window anew since the last sheet.
 void WindowScene::followSafeArea() {
   QWindow* window = toolkit_.window();
   if (!window || (safeArea_ && safeArea_->parent() == window)) return;

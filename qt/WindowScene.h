@@ -12,20 +12,20 @@ namespace quorix::qt {
 
 class SafeAreaWatcher;
 
-/// The session of a toolkit's window, which it belongs to. Main thread.
+/// The session of a toolkit's window. A child of that window; main thread.
 class QUORIX_EXPORT WindowScene : public QObject, public hosting::WindowSession {
   Q_OBJECT
 
  public:
-  /// How a toolkit answers for one of its windows.
+  /// A window of a toolkit.
   struct Toolkit {
     std::function<QWindow*()> window;  ///< null while it is not shown
     std::function<hosting::SheetSession&(WindowScene&, const hosting::Responder* opener)> newSheet;
   };
 
-  /// The scene of `window`, begun when the first surface in it asks.
+  /// The scene of `window`, made with the first call.
   static WindowScene& of(QObject& window, const Toolkit& toolkit);
-  /// Null when none has begun.
+  /// Null before that.
   static WindowScene* find(const QObject& window);
 
   ~WindowScene() override;
@@ -38,7 +38,7 @@ class QUORIX_EXPORT WindowScene : public QObject, public hosting::WindowSession 
   void followSafeArea();
 
   Toolkit toolkit_;
-  QPointer<SafeAreaWatcher> safeArea_;  ///< since the first sheet
+  QPointer<SafeAreaWatcher> safeArea_;  ///< made with the first sheet
 };
 
 }  // namespace quorix::qt

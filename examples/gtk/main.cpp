@@ -82,9 +82,8 @@ struct Surface final : hosting::ViewWindow {
   }
 
   void draw(cairo_t* to, layout::Size size) {
-    const hosting::Settings settings = {environment(), true};
-    if (settings.environment != std::exchange(shown_, settings.environment)) setSettings(settings);
-    if (size != std::exchange(size_, size)) resize(size, size);
+    setSettings({environment(), true});
+    resize(size, size);
     const gint64 now = g_get_monotonic_time(), rested = now - std::exchange(drawn_, now);
     if (frame(MIN(double(rested) * 1e-6, 0.04))) needsFrame();
     examples::Painter painter{to, texts_};
@@ -102,8 +101,6 @@ struct Surface final : hosting::ViewWindow {
   bool showsPages() const override { return true; }
 
   examples::PangoText& texts_;
-  swiftui::Environment shown_;
-  layout::Size size_;
   layout::Point pressed_;
   gint64 drawn_ = 0;  ///< microseconds
 };

@@ -10,6 +10,7 @@ namespace quorix::hosting {
 struct Settings {
   swiftui::Environment environment;
   bool motion = true;  ///< whether sheets move when they open and close
+  bool operator==(const Settings&) const = default;
 };
 
 /// The host's settings for one view. An absent value follows the desktop.

@@ -59,13 +59,39 @@ void ViewSession::used() {
   if (WindowSession* in = window()) in->used(*this);
 }
 
+// Frames.
+
+void ViewSession::viewNeedsDisplay() {
+  sceneStale_ = true;
+  needsFrame();
+}
+
+bool ViewSession::refreshScene() {
+  if (!std::exchange(sceneStale_, false)) return false;
+  host_.scene(size());
+  const bool acts = host_.focusStops() > 0;
+  if (acts || !hasFocus()) {
+    setAcceptsFocus(acts);
+  } else if (acceptsFocus()) {
+    leaveFocus();
+  }
+  sceneChanged();
+  return true;
+}
+
+bool ViewSession::rest(bool isSeen) {
+  if (isSeen || hasFocus() || isRead()) return false;
+  host_.rest();
+  return true;
+}
+
 // Pointer.
 
 bool ViewSession::pointerPressed(const PointerEvent& event) {
   if (!host_.pointerPressed(event.point)) return false;
   used();
   if (event.pointer != PointerEvent::mouse) return true;
-  takeFocusByPress();
+  if (acceptsFocus()) takeFocusByPress();
   focus_.hideRing();
   needsFrame();
   return true;
@@ -119,9 +145,13 @@ void ViewSession::focusLeft(ViewFocus::Cause cause) {
   needsFrame();
 }
 
+/// If no element acts any more, the focus leaves the view on a later turn.
 void ViewSession::leaveFocus() {
   later([this] {
-    if (hasFocus() && host_.focusStops() == 0) giveFocusOn();
+    if (!hasFocus() || host_.focusStops() > 0) return;
+    const auto self = weak();
+    giveFocusOn();
+    if (!self.expired() && !hasFocus()) setAcceptsFocus(false);
   });
 }
 
@@ -136,7 +166,7 @@ void ViewSession::activate(int index) {
   used();
   host_.scene(size());  // creates the elements that `index` counts
   const auto self = weak();
-  if (host_.focus(index)) takeFocusByPress();
+  if (host_.focus(index) && acceptsFocus()) takeFocusByPress();
   if (self.expired()) return;
   needsFrame();
   perform([&] { return host_.activate(index); });

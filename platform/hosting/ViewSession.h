@@ -76,18 +76,31 @@ class QUORIX_EXPORT ViewSession : public Responder, private ViewHost::Client {
  protected:
   explicit ViewSession(text::TextEngine& engine) : host_(engine, *this), focus_(host_) {}
 
-  /// The view left its window: closes the sheet there.
+  /// The view moved to another window, or to none: closes its sheet in the former one.
   void leaveWindow() { abandonSheet(); }
-  /// The view is in a window that can show its sheet.
+  /// The view is in a window: shows its sheet there.
   void enterWindow();
-  /// If no element with an action is left, moves the focus out of the view on a later turn.
-  void leaveFocus();
+
+  // For surfaces that keep their painted picture between frames.
+  void viewNeedsDisplay() override;
+  /// `size` changed: the next `refreshScene` makes a new display list.
+  void resized() { sceneStale_ = true; }
+  bool isSceneStale() const { return sceneStale_; }
+  /// Call before a frame. If the display list is stale, makes a new one and puts the surface into
+  /// the tab order or takes it out. Returns whether it did: then paint again.
+  bool refreshScene();
+  /// Call after a frame. Frees the display list, unless the view is seen, focused or read by
+  /// assistive technology. Returns whether it did.
+  bool rest(bool isSeen);
 
  private:
   virtual swiftui::Environment environment() const = 0;
   virtual bool allowsMotion() const = 0;
   virtual layout::Size size() const = 0;
   virtual bool hasFocus() const = 0;
+  /// Whether the surface is in the tab order.
+  virtual bool acceptsFocus() const { return true; }
+  virtual void setAcceptsFocus(bool) {}
   /// Takes the focus because an element was pressed. A focus handler may delete the surface.
   virtual void takeFocusByPress() = 0;
   /// Moves the focus to the next object in the tab order. May delete the surface.
@@ -99,6 +112,10 @@ class QUORIX_EXPORT ViewSession : public Responder, private ViewHost::Client {
   /// Notifies assistive technology of the newly focused element, now or after the toolkit has
   /// announced the whole view.
   virtual void focusMoved(bool later) = 0;
+  /// Notifies assistive technology of a new display list.
+  virtual void sceneChanged() {}
+  /// Whether assistive technology listens.
+  virtual bool isRead() const { return false; }
   /// Null without a window.
   virtual WindowSession* window() = 0;
 
@@ -123,9 +140,11 @@ class QUORIX_EXPORT ViewSession : public Responder, private ViewHost::Client {
   void pointerReleased(const PointerEvent& event) override;
   void pointerCancelled() override { host_.pointerCancelled(); }
   void used();
+  void leaveFocus();
 
   ViewHost host_;
   ViewFocus focus_;
+  bool sceneStale_ = true;
   int sheets_ = 0;         ///< open sheets that this view opened
   bool toldOpen_ = false;  ///< whether `sheetOpened` was the latest call
   SheetCloseReason closeReason_ = SheetCloseReason::host;  ///< the latest

@@ -19,7 +19,6 @@ class ViewWindow::View final : public ViewSession {
   void contentChanged() override {}
   void focusMoved(bool) override {}
   WindowSession* window() override { return &window_; }
-  void viewNeedsDisplay() override { window_.viewChanged(); }
   void activated() override { window_.activated(); }
   void sheetOpened() override { window_.sheetOpened(); }
   void sheetClosed(SheetCloseReason reason) override { window_.sheetClosed(reason); }
@@ -95,8 +94,7 @@ bool ViewWindow::handle(const KeyEvent& event) {
 }
 
 void ViewWindow::setSettings(const Settings& settings) {
-  settings_ = settings;
-  view_->settingsChanged();
+  if (std::exchange(settings_, settings) != settings) view_->settingsChanged();
 }
 
 void ViewWindow::resize(layout::Size view, layout::Size window) {

@@ -30,6 +30,7 @@ class QUORIX_EXPORT ViewWindow : public WindowSession {
   /// Sends a key to `front`. False if the key is not used, or if the focus leaves the window.
   bool handle(const KeyEvent& event);
 
+  // Cheap while nothing changes: call them before each frame.
   void setSettings(const Settings& settings);
   void resize(layout::Size view, layout::Size window);
   /// Call before each frame: lays out the changes and advances the sheets by `seconds`. Returns
@@ -47,8 +48,6 @@ class QUORIX_EXPORT ViewWindow : public WindowSession {
 
   /// A change is visible: call `frame` and paint.
   virtual void needsFrame() {}
-  /// The view's size or display list may have changed.
-  virtual void viewChanged() { needsFrame(); }
   // As in `ViewSession`.
   virtual void activated() {}
   virtual void sheetOpened() {}

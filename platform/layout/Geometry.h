@@ -35,6 +35,10 @@ struct Rect {
   bool contains(Point p) const {
     return p.x >= left() && p.x < right() && p.y >= top() && p.y < bottom();
   }
+  bool contains(const Rect& other) const {
+    return other.left() >= left() && other.right() <= right() && other.top() >= top() &&
+           other.bottom() <= bottom();
+  }
   bool isEmpty() const { return size.width <= 0 || size.height <= 0; }
   Rect translated(Point by) const { return {{origin.x + by.x, origin.y + by.y}, size}; }
   bool operator==(const Rect&) const = default;

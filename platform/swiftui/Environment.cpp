@@ -45,6 +45,7 @@ std::string_view nameOf(ContentSizeCategory category) {
 }
 
 ContentSizeCategory contentSizeCategoryFor(double factor) {
+  if (!std::isfinite(factor) || factor <= 0) return ContentSizeCategory::large;
   const auto& body = points[static_cast<std::size_t>(TextStyle::body)];
   const double wanted = factor * body[static_cast<std::size_t>(ContentSizeCategory::large)];
   const auto* nearest =

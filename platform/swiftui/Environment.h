@@ -31,7 +31,7 @@ enum class ContentSizeCategory : std::uint8_t {
 QUORIX_EXPORT std::string_view nameOf(ContentSizeCategory category);
 
 /// The category whose body text is nearest to `factor` times the usual size: 1.25 is
-/// `extraExtraLarge`.
+/// `extraExtraLarge`. A factor that is no size counts as 1.
 QUORIX_EXPORT ContentSizeCategory contentSizeCategoryFor(double factor);
 
 /// The factor from a size of `style` at the default category to its size at `category`.

@@ -6,7 +6,7 @@
 namespace quorix::qt {
 namespace {
 
-/// The class called `name` that `item` is of, or null.
+/// The class called `name` among those of `item`, or null.
 const QMetaObject* classOf(const QQuickItem* item, const char* name) {
   const QMetaObject* type = item ? item->metaObject() : nullptr;
   while (type && qstrcmp(type->className(), name) != 0) type = type->superClass();
@@ -26,8 +26,7 @@ void LayoutPlace::follow(bool empty) {
   if (!attached) return;
   layout_ = parent;
   properties_ = attached;
-  // Never both maxima: a layout leaves such an item out when it happens to go through its children,
-  // and a grid's other items then move up.
+  // Not both maxima: a layout skips such an item, and the other items of a grid move up.
   names_ = classOf(parent, "QQuickRowLayout") ? std::array{"maximumWidth", "preferredHeight"}
                                               : std::array{"preferredWidth", "maximumHeight"};
   for (std::size_t i = 0; i < names_.size(); ++i) {
@@ -36,7 +35,7 @@ void LayoutPlace::follow(bool empty) {
   }
 }
 
-/// What the host set meanwhile holds.
+/// Keeps values that the host has set meanwhile.
 void LayoutPlace::putBack() {
   for (std::size_t i = 0; properties_ && i < names_.size(); ++i) {
     if (properties_->property(names_[i]) == 0.0) properties_->setProperty(names_[i], before_[i]);

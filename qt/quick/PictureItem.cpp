@@ -9,7 +9,7 @@ namespace quorix::qt {
 
 void PictureNode::setPicture(QQuickWindow& window, const QImage& image) {
   if (image.isNull()) {
-    delete image_;  // leaves its parent and takes its texture with it
+    delete image_;  // removes it from its parent, and deletes its texture
     image_ = nullptr;
     return;
   }
@@ -17,15 +17,15 @@ void PictureNode::setPicture(QQuickWindow& window, const QImage& image) {
   if (isNew) {
     image_ = window.createImageNode();
     image_->setOwnsTexture(true);
-    // A pixel of the picture is a pixel of the window: interpolating could only blur it.
+    // Pixels of the picture are pixels of the window: interpolating would blur them.
     image_->setFiltering(QSGTexture::Nearest);
   }
   QSGTexture* texture = window.createTextureFromImage(image, QQuickWindow::TextureCanUseAtlas);
   image_->setTexture(texture);
   size_ = image.deviceIndependentSize();
   layOut();
-  // Not before: the software renderer looks at the texture as soon as the node is in the graph.
-  // Below what else the node has.
+  // Last: the software renderer reads the texture as soon as the node is in the graph. First among
+  // the children, to be below the others.
   if (isNew) prependChildNode(image_);
 }
 
@@ -46,19 +46,29 @@ void PictureNode::setOrigin(QPointF origin) {
   if (moved != matrix()) setMatrix(moved);
 }
 
-PictureItem::PictureItem(QQuickItem& parent) : QQuickItem(&parent) { setFlag(ItemHasContents); }
+PictureItem::PictureItem(QQuickItem& parent, std::function<void()> lost)
+    : QQuickItem(&parent), lost_(std::move(lost)) {
+  setFlag(ItemHasContents);
+}
 
 void PictureItem::setPicture(const QImage& picture) {
   picture_ = picture;
-  fresh_ = true;
+  isEmpty_ = picture.isNull();
   update();
+}
+
+void PictureItem::hideTop(double points) {
+  if (std::exchange(hidden_, points) != points) update();
 }
 
 QSGNode* PictureItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
   auto* node = static_cast<PictureNode*>(old);
-  const bool isNew = !node;
-  if (isNew) node = new PictureNode;
-  if (std::exchange(fresh_, false) || isNew) node->setPicture(*window(), picture_);
+  if (!node) node = new PictureNode;
+  if (picture_) node->setPicture(*window(), *std::exchange(picture_, std::nullopt));
+  if (!isEmpty_ && !node->hasPicture()) {
+    QMetaObject::invokeMethod(this, lost_, Qt::QueuedConnection);
+  }
+  node->hideTop(hidden_);
   return node;
 }
 

@@ -4,20 +4,22 @@
 #include <QPointF>
 #include <QQuickItem>
 #include <QSGNode>
+#include <functional>
+#include <optional>
 
 class QQuickWindow;
 class QSGImageNode;
 
 namespace quorix::qt {
 
-/// A picture in the scene graph whose pixels are the window's. Shows nothing until it is given one.
-/// The software renderer takes a node's place from the nearest ancestor only when that is a
-/// transform node, so pictures come and go only under such. Render thread, during synchronization.
+/// Shows a picture in the scene graph, pixel by pixel of the window. It is a transform node because
+/// the software renderer places a new node only by a parent of that kind. Render thread, during
+/// synchronization.
 class PictureNode : public QSGTransformNode {
  public:
-  /// Uploads `image`; a null image takes the texture away.
+  /// Uploads `image`; a null image removes the texture.
   void setPicture(QQuickWindow& window, const QImage& image);
-  /// Where its top left stands, in the item's points.
+  /// Where the picture's top left is, in the item's coordinates.
   void setOrigin(QPointF origin);
   /// Does not draw the uppermost `points` of the picture.
   void hideTop(double points);
@@ -34,15 +36,21 @@ class PictureNode : public QSGTransformNode {
 /// Shows a picture at its place and takes no input. Main thread.
 class PictureItem : public QQuickItem {
  public:
-  explicit PictureItem(QQuickItem& parent);
+  /// `lost` has to set the picture again: the scene graph was made anew while the window was
+  /// hidden.
+  PictureItem(QQuickItem& parent, std::function<void()> lost);
   void setPicture(const QImage& picture);
+  /// Does not draw the uppermost `points` of the picture.
+  void hideTop(double points);
 
  protected:
   QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) override;
 
  private:
-  QImage picture_;  ///< kept: the scene graph may be made anew
-  bool fresh_ = false;
+  std::function<void()> lost_;
+  std::optional<QImage> picture_;  ///< until the scene graph takes it
+  bool isEmpty_ = true;
+  double hidden_ = 0;
 };
 
 }  // namespace quorix::qt

@@ -12,8 +12,8 @@
 namespace quorix::qt {
 namespace {
 
-/// Makes the attached object that marks an item as accessible. Qt Quick names its type only to QML,
-/// so the first call has QML load the module.
+/// The function that attaches the object which marks an item as accessible. Only QML knows its
+/// type, so the first call makes QML load the module.
 QQmlAttachedPropertiesFunc attachAccessible() {
   static const QQmlAttachedPropertiesFunc attach = [] {
     const char* const type = "QQuickAccessibleAttached*";

@@ -6,14 +6,14 @@ class QQuickItem;
 
 namespace quorix::qt {
 
-/// The part of an accessible surface that holds for any item of a Qt Quick window.
+/// Implements an accessible surface for any item of a Qt Quick window.
 class QuickAccessibleSurface : public AccessibleSurface {
  public:
   explicit QuickAccessibleSurface(QQuickItem& item) : item_(item) {}
   /// The item that shows `responder`; null for null.
   static QQuickItem* itemOf(const hosting::Responder* responder);
 
-  /// Has Qt Quick offer the item to assistive technology. Does nothing while none listens.
+  /// Makes Qt Quick offer the item to assistive technology. Does nothing while none listens.
   void offer();
 
   void takeFocus() override;

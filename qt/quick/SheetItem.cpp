@@ -14,10 +14,11 @@
 namespace quorix::qt {
 namespace {
 
-/// Above what pages stack, below the pop-ups of the Controls, which may be asked for over a sheet.
+/// Above what pages stack. Below the pop-ups of Qt Quick Controls, which a host may open over a
+/// sheet.
 constexpr double kStacking = 1'000'000;
 
-/// Above `opener` too, which may be in one of these pop-ups, and above every other sheet.
+/// Also above `opener`, which may be in such a pop-up, and above every other sheet.
 double stackingOver(const QQuickWindow& window, const QQuickItem* opener) {
   double z = kStacking;
   for (const QQuickItem* item : window.contentItem()->childItems()) {
@@ -41,7 +42,7 @@ SheetItem::SheetItem(QQuickWindow& window, hosting::WindowSession& session, QQui
   setAcceptedMouseButtons(Qt::AllButtons);
   setAcceptTouchEvents(true);
   setAcceptHoverEvents(true);
-  setCursor(Qt::ArrowCursor);  // not that of what lies below
+  setCursor(Qt::ArrowCursor);  // instead of the cursor of what lies below
   AccessibilityBridge* accessibility = AccessibilityBridge::instance();
   accessibility->add(*this, *this);
   connect(accessibility, &AccessibilityBridge::began, this, [this] {
@@ -63,7 +64,7 @@ SheetItem::SheetItem(QQuickWindow& window, hosting::WindowSession& session, QQui
         if (inSceneGraph_) wasShown();
       },
       Qt::QueuedConnection);
-  // Qt waits some milliseconds before it asks for a frame: what that one shows is made in these.
+  // Qt waits some milliseconds before it begins a frame: uses them to prepare the first one.
   QMetaObject::invokeMethod(
       this,
       [this, opener = QPointer(opener)] {
@@ -99,19 +100,19 @@ SheetItem::FocusReturn SheetItem::focusReturn() {
 void SheetItem::takeFocus() { forceActiveFocus(Qt::PopupFocusReason); }
 
 bool SheetItem::holdsFocus() const {
-  // A window on its way out takes its items off itself from the top down: it has no focus to give.
+  // A window that is being deleted removes its items from the top down, and has no focus then.
   const bool inWindow = window() && parentItem() && parentItem()->window();
   return inWindow && hasActiveFocus();
 }
 
-/// What lies above, such as a pop-up, keeps the focus.
+/// An item above the sheet, such as a pop-up, keeps the focus.
 void SheetItem::holdFocus() {
   if (window() && liesOver(window()->activeFocusItem())) focusWentBelow();
 }
 
 void SheetItem::vanish() {
   setVisible(false);
-  deleteLater();  // an event of it may be under way
+  deleteLater();  // it may be handling an event
 }
 
 bool SheetItem::liesOver(const QQuickItem* item) const {
@@ -133,7 +134,7 @@ void SheetItem::geometryChange(const QRectF& now, const QRectF& before) {
 
 void SheetItem::updatePolish() {
   if (!isOpen()) return;
-  updatePictures();
+  if (const auto layers = paintLayers(); !layers.empty()) layers_.setPictures(layers);
   if (!followMotion()) return;
   panel_ = toRect(presenter().panelFrame());
   shade_ = toQColor(presenter().shade());
@@ -141,34 +142,18 @@ void SheetItem::updatePolish() {
   layers_.moveTo(panel_.topLeft());
   hiddenTop_ = 0;
   followPages();
+  layers_.hideTop(hiddenTop_);
   layers_.showRing(ring());
   update();
-}
-
-void SheetItem::updatePictures() {
-  auto layers = paintLayers();
-  if (layers.empty()) return;
-  panelPicture_ = std::exchange(layers.front().picture, {});
-  pictureHeight_ = panelPicture_.deviceIndependentSize().height();
-  layers_.setPictures(layers);
 }
 
 QSGNode* SheetItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
   auto* node = static_cast<SheetNode*>(old);
   if (!node) node = new SheetNode(*window());
   inSceneGraph_ = true;
-  if (!panelPicture_.isNull()) {
-    node->panel().setPicture(*window(), std::exchange(panelPicture_, {}));
-  } else if (!node->panel().hasPicture()) {
-    // The scene graph was made anew while the window was hidden.
-    QMetaObject::invokeMethod(
-        this, [this] { paintAgain(); }, Qt::QueuedConnection);
-  }
   node->setShade(boundingRect(), shade_);
-  node->panel().setOrigin(panel_.topLeft());
-  node->panel().hideTop(hiddenTop_);
   QRectF below = panel_;
-  below.setTop(std::min(panel_.top() + pictureHeight_, height()));
+  below.setTop(std::min(panel_.top() + layers_.panelHeight(), height()));
   node->setBelow(below, panelColor_);
   return node;
 }
@@ -211,13 +196,10 @@ Qt::CursorShape SheetItem::cursorAt(QPointF point) {
   return takesTapAt(toPoint(point)) ? Qt::PointingHandCursor : Qt::ArrowCursor;
 }
 
-void SheetItem::hoverMoveEvent(QHoverEvent* event) {
-  const auto shape = cursorAt(event->position());
-  if (cursor().shape() != shape) setCursor(shape);
-}
+void SheetItem::hoverMoveEvent(QHoverEvent* event) { setCursor(cursorAt(event->position())); }
 
-/// A modal pop-up of the Controls keeps the wheel from all that is not in it, also from a page in
-/// this sheet above it: the window gets the wheel first.
+/// A modal pop-up of Qt Quick Controls blocks the wheel for everything outside it, also for a page
+/// in a sheet above it. Gives the wheel to the window before the pop-up's filter.
 bool SheetItem::eventFilter(QObject* watched, QEvent* event) {
   const bool wheel = watched == window() && event->type() == QEvent::Wheel;
   if (!wheel || !isTopmost()) return false;

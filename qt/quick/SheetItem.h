@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QColor>
-#include <QImage>
 #include <QPointer>
 #include <QQuickItem>
 #include <optional>
@@ -12,8 +11,9 @@
 
 namespace quorix::qt {
 
-/// A sheet over a Qt Quick window: as large as the window, above what opened it with all that this
-/// stands in. Belongs to the window's content, and deletes itself when it has closed. Main thread.
+/// A sheet over a Qt Quick window. It is as large as the window, and above the item that opened it
+/// and everything which holds that item. A child of the window's content; deletes itself after it
+/// closed. Main thread.
 class SheetItem : public QQuickItem, public SheetSurface, public QuickAccessibleSurface {
   Q_OBJECT
 
@@ -24,7 +24,7 @@ class SheetItem : public QQuickItem, public SheetSurface, public QuickAccessible
 
   /// The sheet of `window` that takes the input, or null.
   static const SheetItem* topmost(const QQuickWindow& window);
-  /// Whether `item` of its window stands below it, unlike a pop-up that came later.
+  /// Whether `item` of the same window is below the sheet, unlike a pop-up that opened later.
   bool liesOver(const QQuickItem* item) const;
 
  protected:
@@ -66,18 +66,15 @@ class SheetItem : public QQuickItem, public SheetSurface, public QuickAccessible
   bool isDialog() const override { return true; }
 
   Qt::CursorShape cursorAt(QPointF point);
-  void updatePictures();
 
-  // What the scene graph shows next; pictures are here only on their way to it.
+  // What the scene graph shows next.
   QRectF panel_;
-  QImage panelPicture_;
-  double pictureHeight_ = 0;
-  double hiddenTop_ = 0;  ///< points of the panel's picture that a page covers
+  double hiddenTop_ = 0;  ///< points at the top of the panel that a page covers
   QColor shade_;
   QColor panelColor_;
   bool inSceneGraph_ = false;
 
-  SheetLayers layers_;  ///< above what the item paints itself
+  SheetLayers layers_;  ///< above what the item itself paints
 };
 
 }  // namespace quorix::qt

@@ -10,16 +10,13 @@
 namespace quorix::qt {
 
 SheetNode::SheetNode(QQuickWindow& window)
-    : shade_(window.createRectangleNode()),
-      below_(window.createRectangleNode()),
-      panel_(new PictureNode) {
+    : shade_(window.createRectangleNode()), below_(window.createRectangleNode()) {
   appendChildNode(shade_);
   appendChildNode(below_);
-  appendChildNode(panel_);
 }
 
 void SheetNode::setShade(const QRectF& window, const QColor& color) {
-  // At the motion's ends it has no opacity: a frame of the whole window's blending less.
+  // A transparent shade is not drawn, which saves blending the whole window.
   shade_->setRect(color.alpha() > 0 ? window : QRectF());
   shade_->setColor(color);
 }
@@ -57,18 +54,22 @@ constexpr double kRing = 1001;
 }  // namespace
 
 void SheetLayers::setPictures(const std::vector<SheetSurface::Layer>& layers) {
-  while (layers_.size() + 1 > layers.size()) {
-    delete layers_.back().item;
-    layers_.pop_back();
+  for (; layers_.size() > layers.size(); layers_.pop_back()) delete layers_.back().item;
+  for (std::size_t i = 0; i < layers.size(); ++i) {
+    if (layers_.size() == i) layers_.push_back({newPicture(double(2 * i)), {}});
+    layers_[i].origin = layers[i].origin;
+    layers_[i].item->setPicture(layers[i].picture);
   }
-  for (std::size_t i = 1; i < layers.size(); ++i) {
-    if (layers_.size() < i) layers_.push_back({new PictureItem(sheet_), {}});
-    Layer& layer = layers_[i - 1];
-    layer.item->setZ(double(2 * i));
-    layer.origin = layers[i].origin;
-    layer.item->setPicture(layers[i].picture);
-  }
+  panelHeight_ = layers.front().picture.deviceIndependentSize().height();
   moveTo(panel_);
+}
+
+void SheetLayers::hideTop(double points) { layers_.front().item->hideTop(points); }
+
+PictureItem* SheetLayers::newPicture(double z) {
+  auto* item = new PictureItem(sheet_, [this] { sheet_.paintAgain(); });
+  item->setZ(z);
+  return item;
 }
 
 void SheetLayers::moveTo(QPointF panel) {
@@ -97,10 +98,7 @@ void SheetLayers::place(QQuickItem& page, const QRectF& frame, double strip, int
 }
 
 void SheetLayers::showRing(const std::optional<SheetSurface::Layer>& ring) {
-  if (!ring_ && ring) {
-    ring_ = new PictureItem(sheet_);
-    ring_->setZ(kRing);
-  }
+  if (!ring_ && ring) ring_ = newPicture(kRing);
   if (ring_) ring_->setVisible(ring.has_value());
   if (!ring) return;
   if (!ring->picture.isNull()) ring_->setPicture(ring->picture);

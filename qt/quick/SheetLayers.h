@@ -15,13 +15,11 @@ namespace quorix::qt {
 
 class SheetItem;
 
-/// A sheet in the scene graph: the shade, the panel's picture, and its color on to the window's
-/// bottom. Motion moves these and paints nothing. Render thread.
+/// A sheet in the scene graph, below its pictures: the shade, and the panel's color from where its
+/// picture ends to the window's bottom. Render thread.
 class SheetNode : public QSGTransformNode {
  public:
   explicit SheetNode(QQuickWindow& window);
-
-  PictureNode& panel() { return *panel_; }
 
   void setShade(const QRectF& window, const QColor& color);
   void setBelow(const QRectF& rect, const QColor& color);
@@ -29,16 +27,15 @@ class SheetNode : public QSGTransformNode {
  private:
   QSGRectangleNode* shade_;
   QSGRectangleNode* below_;
-  PictureNode* panel_;
 };
 
-/// What lies over the pages of a sheet and takes taps: as large as the sheet, but there only where
-/// something acts, and beside the rounded corners. What comes to it goes to the sheet.
+/// Takes taps over the pages of a sheet. It is as large as the sheet, but contains only the points
+/// where something acts, and the strip beside the rounded corners. Passes its events to the sheet.
 class SheetFront : public QQuickItem {
  public:
   explicit SheetFront(SheetItem& sheet);
 
-  /// Where a page is seen but takes no input.
+  /// Where a page is visible but takes no input.
   void setStrip(const QRectF& strip) { strip_ = strip; }
   bool contains(const QPointF& point) const override;
 
@@ -54,7 +51,8 @@ class SheetFront : public QQuickItem {
   QRectF strip_;
 };
 
-/// Stands before or after an item in the focus chain and says when the keyboard comes by.
+/// Stands before or after an item in the focus chain, and calls `passed` when the keyboard's focus
+/// reaches it.
 class FocusStop : public QQuickItem {
  public:
   FocusStop(QQuickItem& parent, std::function<void()> passed)
@@ -64,7 +62,7 @@ class FocusStop : public QQuickItem {
 
  protected:
   void focusInEvent(QFocusEvent*) override {
-    // Not while the focus is still moving.
+    // On a later turn: the focus is still moving.
     QMetaObject::invokeMethod(this, passed_, Qt::QueuedConnection);
   }
 
@@ -72,21 +70,23 @@ class FocusStop : public QQuickItem {
   std::function<void()> passed_;
 };
 
-/// What stands in and over a sheet with pages, from the bottom up: each page, then the picture of
-/// what lies above it; at last what takes taps, and the focus ring. All are children of the sheet.
-/// Main thread.
+/// The children of a sheet, from the bottom up: the panel's picture; each page, and the picture of
+/// what lies above it; what takes taps; the focus ring. Motion moves them without painting. Main
+/// thread.
 class SheetLayers {
  public:
   explicit SheetLayers(SheetItem& sheet) : sheet_(sheet) {}
 
-  /// The layers but the first, which the sheet paints itself.
   void setPictures(const std::vector<SheetSurface::Layer>& layers);
-  /// Where the panel's top left is.
+  /// How much of the panel its picture shows; points.
+  double panelHeight() const { return panelHeight_; }
+  /// Does not draw the uppermost `points` of the panel's picture.
+  void hideTop(double points);
+  /// The panel's top left is there now.
   void moveTo(QPointF panel);
-  /// Puts a page where it belongs, the top `strip` of it for the eye alone; `index` counts from the
-  /// lowest.
+  /// Places a page, whose top `strip` takes no input; `index` counts from the lowest.
   void place(QQuickItem& page, const QRectF& frame, double strip, int index);
-  /// Hides an absent ring; a null picture leaves the one before.
+  /// Hides the ring if absent; a null picture keeps the former one.
   void showRing(const std::optional<SheetSurface::Layer>& ring);
 
  private:
@@ -95,6 +95,7 @@ class SheetLayers {
     QPointF origin;  ///< in the panel
   };
 
+  PictureItem* newPicture(double z);
   void makeStops();
 
   SheetItem& sheet_;
@@ -104,6 +105,7 @@ class SheetLayers {
   FocusStop* before_ = nullptr;
   FocusStop* after_ = nullptr;
   QPointF panel_;
+  double panelHeight_ = 0;
 };
 
 }  // namespace quorix::qt

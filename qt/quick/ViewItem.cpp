@@ -16,14 +16,14 @@
 
 namespace quorix::qt {
 
-/// A press beside a row that is smaller than a finger needs.
+/// A press beside a row that is smaller than a finger needs. Points.
 struct TapRoom {
   const ViewItem& item;
   QPointF press;    ///< in the scene
   double distance;  ///< from the item
 
-  /// Whether a press at `point`, beside `item` and in its units, may be for it: nothing of the
-  /// host's takes the press there, and no other view is nearer. Looks at every item of the window.
+  /// Whether a press at `point`, beside `item` and in its coordinates, is for the item: no item of
+  /// the host takes the press, and no other view is nearer. Visits every item of the window.
   static bool isFree(const ViewItem& item, QPointF point);
   /// Whether `other` or something in it takes the press before the item may.
   bool isTakenBy(const QQuickItem& other) const;
@@ -33,8 +33,8 @@ namespace {
 
 constexpr double kRoom = render::Scene::roomToTap / 2;
 
-/// Versions of Qt after 6.8 ask an item about presses beside it only if a child that takes presses
-/// stands out of it. They look when the first event comes, so it is there from the beginning.
+/// A child that stands out of the item. Qt after 6.8 asks an item about presses beside it only if
+/// such a child takes presses. Qt checks this at the first event, so the constructor makes it.
 struct Outpost final : QQuickItem {
   static bool isNeeded() {
     static const bool needed = QLibraryInfo::version() >= QVersionNumber(6, 9);
@@ -45,10 +45,11 @@ struct Outpost final : QQuickItem {
     setSize({1, 1});
     setAcceptedMouseButtons(Qt::LeftButton);
   }
-  bool contains(const QPointF&) const override { return false; }  // takes none
+  bool contains(const QPointF&) const override { return false; }  // takes no press
 };
 
-/// What a page stands on. It takes presses too, to scroll or to keep them from what lies below.
+/// Whether a page's content lies in `item`: it takes presses only to scroll, or to keep them from
+/// what lies below.
 bool isGround(const QQuickItem& item) {
   constexpr const char* kTypes[] = {"QQuickFlickable", "QQuickPane", "QQuickPopupItem",
                                     "QQuickOverlay"};
@@ -109,7 +110,7 @@ ViewItem::ViewItem(QQuickItem* parent) : ViewItem(swiftui::View(), parent) {}
 
 ViewItem::ViewItem(swiftui::View view, QQuickItem* parent)
     : QQuickItem(parent), surface_(std::make_unique<ViewSurface>(*this)) {
-  installEngine();  // without it a view would stand still
+  installEngine();  // runs the main queue, without which no view changes
   setFlag(ItemHasContents);
   setAcceptedMouseButtons(Qt::LeftButton);
   setAcceptTouchEvents(true);
@@ -165,7 +166,7 @@ QSGNode* ViewItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
 
 bool ViewItem::event(QEvent* event) {
   if (event->type() == QEvent::DeferredDelete) {
-    // Now, since QML cuts off an item's handlers before its destructor.
+    // Ends here: QML disconnects an item's handlers before its destructor.
     const QPointer<ViewItem> item = this;
     surface_->end();
     if (!item) return true;
@@ -181,20 +182,13 @@ void ViewItem::touchUngrabEvent() { surface_->pointerLost(); }
 void ViewItem::hoverEnterEvent(QHoverEvent* event) { hoverMoveEvent(event); }
 
 void ViewItem::hoverMoveEvent(QHoverEvent* event) {
-  const bool tappable = surface_->takesTapAt(toPoint(event->position()));
-  const auto shape = tappable ? Qt::PointingHandCursor : Qt::ArrowCursor;
-  if (cursor().shape() == shape) return;
-  if (tappable) {
-    setCursor(shape);
-  } else {
-    unsetCursor();
-  }
+  showHand(*this, surface_->takesTapAt(toPoint(event->position())));
 }
 
 void ViewItem::keyPressEvent(QKeyEvent* event) {
   using hosting::Key;
   const Key key = toKeyEvent(*event).key;
-  // Without a further element the window moves the focus on.
+  // After the last element the window moves the focus on.
   event->setAccepted((key == Key::next || key == Key::previous) &&
                      surface_->walk(key == Key::next));
 }

@@ -14,10 +14,10 @@ class ViewSurface;
 
 /// Shows a view in a Qt Quick window. A size in points is a size in items' units.
 ///
-/// Its implicit size is what the view wants: the ideal size, and once it was given a width the
-/// height that the view needs at that width, so that layouts, positioners and anchors place it like
-/// a text. It is painted only where it can be seen and only when something changed. Sheets of the
-/// view open over the window that the item is in. Main thread.
+/// Its implicit size is the view's ideal size. Once the item has a width, the implicit height is
+/// what the view needs at that width: layouts, positioners and anchors place the item like a text.
+/// It is painted only where it is visible and only when something changed. Sheets of the view open
+/// over the item's window. Main thread.
 ///
 ///     #include <QuorixWidgets/score/ScoreWidgetBuilder.h>
 ///     auto view = quorix::ScoreWidgetBuilder::buildSwiftUIScoreWidgetView(
@@ -32,22 +32,22 @@ class QUORIX_EXPORT ViewItem : public QQuickItem, public ViewSettings {
   explicit ViewItem(swiftui::View view, QQuickItem* parent = nullptr);
   ~ViewItem() override;
 
-  /// Shows another view, which begins afresh; a sheet of the one before goes.
+  /// Shows another view, with new state. Closes a sheet of the former view.
   void setView(swiftui::View view);
 
-  /// Also around a row that is smaller than a finger needs, up to 44 points, where nothing else
-  /// takes the tap.
+  /// True also beside a row that is smaller than a finger needs, in an area of up to 44 points,
+  /// where nothing else takes the tap.
   bool contains(const QPointF& point) const override;
 
  signals:
-  // What the user did, for analytics. A slot may delete the item, save where noted.
+  // What the user did, for analytics. A slot may delete the item, except where noted.
 
   /// A row or a link of the view was tapped, by pointer, key or assistive technology.
   void activated();
-  /// A sheet of the view came up, also one with a web page.
+  /// A sheet of the view opened, also one with a web page.
   void sheetOpened();
-  /// It left: emitted once for each `sheetOpened`. If the item is deleted while its sheet is up, it
-  /// says `Host` from its destructor: a slot deletes it only for another reason.
+  /// It closed: emitted once for each `sheetOpened`. If the item is deleted while its sheet is
+  /// open, its destructor emits this with `Host`, so a slot deletes it only for another reason.
   void sheetClosed(quorix::qt::SheetCloseReason reason);
 
  protected:

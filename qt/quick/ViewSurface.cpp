@@ -5,33 +5,27 @@
 #include <cmath>
 
 #include "platform/render/Scene.h"
+#include "qt/Conversions.h"
 #include "qt/Desktop.h"
 #include "qt/Picture.h"
 #include "qt/WindowScene.h"
 #include "qt/accessibility/AccessibilityBridge.h"
-#include "qt/accessibility/ViewAccessible.h"
 #include "qt/painting/FocusRing.h"
 #include "qt/quick/PictureItem.h"
 #include "qt/quick/SheetItem.h"
-#include "qt/quick/ViewItem.h"
 
 namespace quorix::qt {
 namespace {
 
-/// A view's picture in the scene graph, and over it the ring around what has the focus.
+/// A view's picture in the scene graph, with the focus ring above it.
 struct ViewNode : PictureNode {
-  PictureNode* ring = nullptr;  ///< once there was one
+  PictureNode* ring = nullptr;  ///< made with the first ring
 };
-
-bool covers(const layout::Rect& whole, const layout::Rect& part) {
-  return part.left() >= whole.left() && part.right() <= whole.right() &&
-         part.top() >= whole.top() && part.bottom() <= whole.bottom();
-}
 
 }  // namespace
 
 ViewSurface::ViewSurface(ViewItem& item)
-    : HostedView(item), QuickAccessibleSurface(item), item_(item) {
+    : HostedView(item, item.settings()), QuickAccessibleSurface(item), item_(item) {
   AccessibilityBridge::instance()->add(item, *this);
 }
 
@@ -39,8 +33,6 @@ ViewSurface::~ViewSurface() {
   WindowWatcher::remove(*this);
   AccessibilityBridge::remove(item_);
 }
-
-layout::Size ViewSurface::size() const { return {item_.width(), item_.height()}; }
 
 double ViewSurface::scale() const {
   return item_.window() ? item_.window()->effectiveDevicePixelRatio() : qGuiApp->devicePixelRatio();
@@ -50,29 +42,14 @@ swiftui::Environment ViewSurface::environment() const {
   return item_.settings().over(Desktop::environment(scale()));
 }
 
-bool ViewSurface::allowsMotion() const {
-  const auto motion = item_.settings().motion;
-  return motion ? *motion : !Desktop::prefersReducedMotion();
-}
-
-bool ViewSurface::hasFocus() const { return item_.hasActiveFocus(); }
-
-void ViewSurface::takeFocusByPress() {
-  if (item_.activeFocusOnTab()) item_.forceActiveFocus(Qt::MouseFocusReason);
-}
-
 void ViewSurface::giveFocusOn() {
-  const QPointer<ViewItem> item = &item_;  // what hears of the focus may delete it
-  QQuickItem* next = item->nextItemInFocusChain(true);
-  if (next && next != item && next->activeFocusOnTab()) {
+  QQuickItem* next = item_.nextItemInFocusChain(true);
+  if (next && next != &item_ && next->activeFocusOnTab()) {
     next->forceActiveFocus(Qt::TabFocusReason);
   } else {
-    item->setFocus(false, Qt::TabFocusReason);
+    item_.setFocus(false, Qt::TabFocusReason);
   }
-  if (item && !item->hasActiveFocus()) item->setActiveFocusOnTab(false);
 }
-
-void ViewSurface::needsFrame() { item_.polish(); }
 
 hosting::WindowSession* ViewSurface::window() {
   QQuickWindow* window = item_.window();
@@ -83,14 +60,6 @@ hosting::WindowSession* ViewSurface::window() {
   return &WindowScene::of(*window, {[window] { return window; }, newSheet});
 }
 
-void ViewSurface::activated() { emit item_.activated(); }
-
-void ViewSurface::sheetOpened() { emit item_.sheetOpened(); }
-
-void ViewSurface::sheetClosed(hosting::SheetCloseReason reason) {
-  emit item_.sheetClosed(static_cast<SheetCloseReason>(reason));
-}
-
 // Surroundings.
 
 void ViewSurface::windowChanged() {
@@ -99,7 +68,7 @@ void ViewSurface::windowChanged() {
   painted_ = inViewport_ = false;
   pictureStale_ = true;
   offer();
-  onScreenChanged();  // before anyone asks for a size: the view is then evaluated once
+  onScreenChanged();  // before a size is needed, so that the view is evaluated once
   settingsChanged();
   if (item_.window()) enterWindow();
 }
@@ -107,13 +76,12 @@ void ViewSurface::windowChanged() {
 void ViewSurface::parentChanged() {
   WindowWatcher::remove(*this);
   QQuickWindow* window = item_.parentItem() ? item_.window() : nullptr;
-  watcher_ = window ? &WindowWatcher::of(*window) : nullptr;
-  if (watcher_) watcher_->add(*this, *item_.parentItem());
+  if (window) WindowWatcher::of(*window).add(*this, *item_.parentItem());
   if (!idealStale_) followLayoutPlace();
 }
 
 void ViewSurface::onScreenChanged() {
-  host().setOnScreen(watcher_ && watcher_->isWindowVisible() && item_.isVisible());
+  host().setOnScreen(watcher() && watcher()->isWindowVisible() && item_.isVisible());
   item_.polish();
 }
 
@@ -125,12 +93,12 @@ void ViewSurface::accessibilityBegan() {
 // Size.
 
 void ViewSurface::viewNeedsDisplay() {
-  idealStale_ = sceneStale_ = true;
-  item_.polish();
+  idealStale_ = true;
+  HostedView::viewNeedsDisplay();
 }
 
 void ViewSurface::contentChanged() {
-  // At once: who made the item asks for its implicit size before any frame.
+  // At once: hosts read the implicit size of a new item before any frame.
   if (idealStale_) updateIdealSize();
 }
 
@@ -157,7 +125,7 @@ void ViewSurface::followLayoutPlace() {
 }
 
 void ViewSurface::sizeChanged(bool width) {
-  sceneStale_ = true;
+  resized();
   item_.polish();
   if (!width || fitting_) return;
   if (idealStale_) {
@@ -169,25 +137,23 @@ void ViewSurface::sizeChanged(bool width) {
 
 // Place.
 
-QRectF ViewSurface::boundsInParent() const {
-  return item_.mapRectToItem(item_.parentItem(), QRectF(0, 0, item_.width(), item_.height()));
+layout::Rect ViewSurface::boundsInParent() const {
+  return toRect(item_.mapRectToItem(item_.parentItem(), toRect({{}, size()})));
 }
 
 void ViewSurface::placeMayHaveChanged() {
-  if (sceneStale_) return;  // the frame looks, before it makes the scene
+  if (isSceneStale()) return;  // `polish` will call `place`
   if (item_.isVisible() && place()) item_.polish();
 }
 
-/// Returns whether the item came into the viewport or left it, or has to be painted in another
-/// part.
+/// Returns whether the item came into the viewport or left it, or needs a picture of another part.
 bool ViewSurface::place() {
   const QTransform toWindow = item_.itemTransform(nullptr, nullptr);
   const QRectF whole(0, 0, item_.width(), item_.height());
   const QRectF viewport = WindowWatcher::viewportOf(item_);
   const bool inside = toWindow.mapRect(whole).intersects(viewport);
-  const QRectF seen = toWindow.inverted().mapRect(viewport).intersected(whole);
-  seen_ = {{seen.left(), seen.top()}, {seen.width(), seen.height()}};
-  const bool leftPart = inside && painted_ && !covers(part_, seen_) && part_ != partToPaint();
+  seen_ = toRect(toWindow.inverted().mapRect(viewport).intersected(whole));
+  const bool leftPart = inside && painted_ && !part_.contains(seen_) && part_ != partToPaint();
   pictureStale_ = pictureStale_ || leftPart;
   QPointF offset;
   if (toWindow.type() <= QTransform::TxTranslate) {
@@ -208,11 +174,11 @@ layout::Rect ViewSurface::partToPaint() const {
 
 void ViewSurface::polish() {
   if (idealStale_) updateIdealSize();
-  if (watcher_) place();
-  const bool seen = watcher_ && inViewport_ && item_.isVisible();
-  // Also out of sight: the scene says whether the item takes part in the focus chain.
-  if (sceneStale_) refreshScene();
-  // The window asks every item that accepts hovering in every frame.
+  if (watcher()) place();
+  const bool seen = watcher() && inViewport_ && item_.isVisible();
+  // Also out of sight: the scene decides whether the item is in the focus chain.
+  pictureStale_ = refreshScene() || pictureStale_;
+  // In every frame the window visits all items that accept hovering.
   item_.setAcceptHoverEvents(seen && !host().scene(size()).hitAreas.empty());
   if (seen) {
     if (pictureStale_) updatePicture();
@@ -223,23 +189,7 @@ void ViewSurface::polish() {
     picture_ = {};
     item_.update();
   }
-  if (!seen && !item_.hasActiveFocus() && !AccessibilityBridge::isActive()) {
-    host().rest();
-    host().forgetSizes();  // the item has its implicit size
-  }
-}
-
-void ViewSurface::refreshScene() {
-  sceneStale_ = false;
-  pictureStale_ = true;
-  host().scene(size());
-  const bool acts = host().focusStops() > 0;
-  if (acts || !item_.hasActiveFocus()) {
-    item_.setActiveFocusOnTab(acts);
-  } else if (item_.activeFocusOnTab()) {
-    leaveFocus();
-  }
-  ViewAccessible::sceneChanged(item_);
+  if (rest(seen)) host().forgetSizes();  // the item has its implicit size
 }
 
 void ViewSurface::updatePicture() {
@@ -251,7 +201,7 @@ void ViewSurface::updatePicture() {
   };
   picture_ = part_.size == scene.size ? paint(scene) : paint(render::partOf(scene, part_));
   painted_ = !picture_.isNull();
-  ring_.reset();  // its color and scale go with the picture's
+  ring_.reset();  // its color or scale may have changed, too
   item_.update();
 }
 

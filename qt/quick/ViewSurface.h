@@ -7,15 +7,15 @@
 #include "qt/HostedView.h"
 #include "qt/quick/LayoutPlace.h"
 #include "qt/quick/QuickAccessibleSurface.h"
+#include "qt/quick/ViewItem.h"
 #include "qt/quick/WindowWatcher.h"
 
 class QSGNode;
 
 namespace quorix::qt {
 
-class ViewItem;
-
-/// What a view item keeps and does behind its public face. Main thread, but for `paint`.
+/// The private part of a view item. Main thread, except `paint`: the render thread, while the main
+/// thread waits.
 class ViewSurface final : public HostedView,
                           private WindowWatcher::Client,
                           public QuickAccessibleSurface {
@@ -23,7 +23,7 @@ class ViewSurface final : public HostedView,
   explicit ViewSurface(ViewItem& item);
   ~ViewSurface() override;
 
-  /// The item came to another window, or to none.
+  /// The item moved to another window, or to none.
   void windowChanged();
   void parentChanged();
   void onScreenChanged();
@@ -31,29 +31,32 @@ class ViewSurface final : public HostedView,
   void sizeChanged(bool width);
   void contentChanged() override;
 
-  /// Before a frame: settles size, scene and picture.
+  /// Before a frame: updates size, scene and picture.
   void polish();
   QSGNode* paint(QSGNode* old);
 
  private:
   void viewNeedsDisplay() override;
   swiftui::Environment environment() const override;
-  bool allowsMotion() const override;
-  layout::Size size() const override;
+  layout::Size size() const override { return {item_.width(), item_.height()}; }
   double scale() const;
-  bool hasFocus() const override;
-  void takeFocusByPress() override;
+  bool hasFocus() const override { return item_.hasActiveFocus(); }
+  bool acceptsFocus() const override { return item_.activeFocusOnTab(); }
+  void setAcceptsFocus(bool accepts) override { item_.setActiveFocusOnTab(accepts); }
+  void takeFocusByPress() override { item_.forceActiveFocus(Qt::MouseFocusReason); }
   void giveFocusOn() override;
-  void needsFrame() override;
+  void needsFrame() override { item_.polish(); }
   hosting::WindowSession* window() override;
-  void activated() override;
-  void sheetOpened() override;
-  void sheetClosed(hosting::SheetCloseReason reason) override;
+  void activated() override { emit item_.activated(); }
+  void sheetOpened() override { emit item_.sheetOpened(); }
+  void sheetClosed(hosting::SheetCloseReason reason) override {
+    emit item_.sheetClosed(static_cast<SheetCloseReason>(reason));
+  }
 
   void windowVisibilityChanged() override { onScreenChanged(); }
   void desktopChanged() override { settingsChanged(); }
   void accessibilityBegan() override;
-  QRectF boundsInParent() const override;
+  layout::Rect boundsInParent() const override;
   void placeMayHaveChanged() override;
 
   hosting::Responder& responder() override { return *this; }
@@ -61,33 +64,30 @@ class ViewSurface final : public HostedView,
   void updateIdealSize();
   void updateImplicitSize();
   void followLayoutPlace();
-  void refreshScene();
   bool place();
   layout::Rect partToPaint() const;
   void updatePicture();
   void updateRing();
 
   ViewItem& item_;
-  WindowWatcher* watcher_ = nullptr;
-  std::unique_ptr<LayoutPlace> layoutPlace_;  ///< once the view was empty
+  std::unique_ptr<LayoutPlace> layoutPlace_;  ///< made when the view is first empty
 
   layout::Size ideal_;
-  QPointF offset_;     ///< from the item's corner to the whole device pixel next to it
+  QPointF offset_;     ///< from the item's corner to the nearest whole device pixel
   layout::Rect seen_;  ///< the part of the item in the viewport
   layout::Rect part_;  ///< the part of the item that its picture shows
-  QImage picture_;     ///< only on its way to the scene graph
+  QImage picture_;     ///< until the scene graph takes it
   struct Ring {
     layout::Rect around;
-    QImage picture;  ///< likewise
+    QImage picture;  ///< until the scene graph takes it
   };
   std::unique_ptr<Ring> ring_;
 
   bool idealStale_ = true;
-  bool sceneStale_ = true;
   bool pictureStale_ = true;
-  bool fitting_ = false;
+  bool fitting_ = false;  ///< the implicit size is being set
   bool inViewport_ = false;
-  bool painted_ = false;  ///< the scene graph has, or is about to get, a picture
+  bool painted_ = false;  ///< the scene graph has a picture, or gets one with the next frame
 };
 
 }  // namespace quorix::qt

@@ -3,10 +3,10 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <algorithm>
-#include <cmath>
 #include <utility>
 #include <vector>
 
+#include "qt/Conversions.h"
 #include "qt/Desktop.h"
 #include "qt/accessibility/AccessibilityBridge.h"
 
@@ -18,17 +18,10 @@ QHash<QQuickWindow*, WindowWatcher*>& watchers() {
   return all;
 }
 
-/// How many items are looked at anew in each frame: all of an ordinary page's.
+/// How many items are checked in each frame, moved or not: all of an ordinary page.
 constexpr std::size_t kLooks = 8;
 
-/// Whether all that stood at `before` stands at `now` on the same parts of pixels.
-bool keepsPixels(const QTransform& before, const QTransform& now, double scale) {
-  const auto whole = [&](double way) { return way * scale == std::round(way * scale); };
-  return before.type() <= QTransform::TxTranslate && now.type() <= QTransform::TxTranslate &&
-         whole(now.dx() - before.dx()) && whole(now.dy() - before.dy());
-}
-
-/// The part of the window that is left of it for the children of `parent`.
+/// The part of the window in which children of `parent` are visible.
 QRectF viewportIn(const QQuickItem* parent) {
   if (!parent) return {};
   // The window's own root bounds everything.
@@ -39,7 +32,7 @@ QRectF viewportIn(const QQuickItem* parent) {
   return parent->parentItem() ? own.intersected(viewportIn(parent->parentItem())) : own;
 }
 
-/// What is as good as seen: a flick brings it into view before the next frame could paint it.
+/// The same with a margin: a flick brings the margin into view before the next frame is painted.
 QRectF seenIn(const QQuickItem* parent) {
   constexpr double margin = 160;
   const QRectF viewport = viewportIn(parent);
@@ -107,15 +100,17 @@ bool WindowWatcher::update(Group& group, const QQuickItem& parent) const {
   const QRectF viewport = seenIn(&parent);
   group.moved = toWindow != group.toWindow || viewport != group.viewport;
   if (!group.moved) return false;
-  group.keepsPixels = keepsPixels(group.toWindow, toWindow, window_.effectiveDevicePixelRatio());
   group.toWindow = toWindow;
   group.viewport = viewport;
-  group.visibleBefore = std::exchange(group.visible, toWindow.inverted().mapRect(viewport));
+  std::optional<layout::Point> origin;
+  if (toWindow.type() <= QTransform::TxTranslate) origin = {toWindow.dx(), toWindow.dy()};
+  group.motion.move(toRect(toWindow.inverted().mapRect(viewport)), origin,
+                    window_.effectiveDevicePixelRatio());
   return true;
 }
 
 void WindowWatcher::frame() {
-  if (entries_.size() <= kLooks) return lookAtSome();  // which are all
+  if (entries_.size() <= kLooks) return lookAtSome();  // at all
   bool anyMoved = false;
   for (auto& [parent, group] : groups_) anyMoved |= update(group, *parent);
   if (anyMoved) {
@@ -126,17 +121,10 @@ void WindowWatcher::frame() {
   lookAtSome();
 }
 
-/// Whether the move of its parent may change what is seen of the item, or how. Most items of a list
-/// are in sight as a whole before and after it.
 bool WindowWatcher::isConcerned(Entry& entry) {
-  const Group& group = *entry.group;
   const bool isNew = !entry.bounds;
   if (isNew) entry.bounds = entry.client->boundsInParent();
-  const bool seen = group.visible.intersects(*entry.bounds);
-  const bool seenBefore = group.visibleBefore.intersects(*entry.bounds);
-  if (!seen && !seenBefore) return false;
-  return isNew || !group.keepsPixels || !group.visible.contains(*entry.bounds) ||
-         !group.visibleBefore.contains(*entry.bounds);
+  return entry.group->motion.concerns(*entry.bounds, isNew);
 }
 
 void WindowWatcher::lookAtSome() {
@@ -150,7 +138,7 @@ void WindowWatcher::lookAtSome() {
 
 template <class Call>
 void WindowWatcher::tellAll(Call call) {
-  // A client's answer may add and remove clients, which moves others about.
+  // A client may add and remove clients meanwhile, which reorders the entries.
   const unsigned round = ++round_;
   for (bool again = true; std::exchange(again, false);) {
     for (std::size_t i = 0; i < entries_.size(); ++i) {

@@ -8,17 +8,20 @@
 #include <unordered_map>
 #include <vector>
 
+#include "platform/hosting/ViewportMotion.h"
+
 class QQuickItem;
 class QQuickWindow;
 
 namespace quorix::qt {
 
-/// What the view items of one window share: one set of connections for all, and one look at each
-/// frame for what scrolled into sight. Belongs to the window; main thread.
+/// Tells the view items of one window what changes around them: one set of connections for all, and
+/// in each frame one search for the items that scrolled into sight. Belongs to the window; main
+/// thread.
 ///
-/// Qt Quick does not signal that an ancestor moved. Items are therefore kept by parent: only where
-/// a parent moved are its items compared, as plain rectangles. In each frame a
-/// few others are checked as well, for transforms that Qt does not signal.
+/// Qt Quick does not signal that an ancestor moved. Items are therefore grouped by parent, and only
+/// those of a parent that moved are compared, as plain rectangles. In each frame a few others are
+/// checked as well, for transforms that Qt does not signal.
 class WindowWatcher : public QObject {
   Q_OBJECT
 
@@ -31,9 +34,13 @@ class WindowWatcher : public QObject {
     virtual void desktopChanged() = 0;
     virtual void accessibilityBegan() = 0;
 
-    virtual QRectF boundsInParent() const = 0;
-    /// Before a frame: it may have come into sight, left it, or moved in it.
+    virtual layout::Rect boundsInParent() const = 0;
+    /// Before a frame: the item may have come into sight, left it, or moved in it.
     virtual void placeMayHaveChanged() = 0;
+
+   protected:
+    /// Null outside a window.
+    const WindowWatcher* watcher() const { return watcher_; }
 
    private:
     friend class WindowWatcher;
@@ -46,11 +53,12 @@ class WindowWatcher : public QObject {
 
   void add(Client& client, QQuickItem& parent);
   static void remove(Client& client);
-  /// Its own geometry changed.
+  /// The item's own geometry changed.
   static void moved(Client& client);
 
   bool isWindowVisible() const;
-  /// The part of the window, in its coordinates, that the viewports around `item` leave to it.
+  /// The part of the window in which `item` is visible, and a margin around it; in the window's
+  /// coordinates.
   static QRectF viewportOf(const QQuickItem& item);
 
  private:
@@ -61,21 +69,19 @@ class WindowWatcher : public QObject {
   template <class Call>
   void tellAll(Call call);
 
-  /// What holds for all items of one parent.
+  /// The items of one parent.
   struct Group {
     QTransform toWindow;
     QRectF viewport;  ///< in the window
-    QRectF visible;   ///< the viewport in the parent's coordinates
-    QRectF visibleBefore;
+    hosting::ViewportMotion motion;
     bool moved = false;
-    bool keepsPixels = false;  ///< the move was one by whole pixels
     int count = 0;
   };
   struct Entry {
     Client* client;
     QQuickItem* parent;
     Group* group;
-    std::optional<QRectF> bounds;  ///< in the parent's coordinates; to be asked for if absent
+    std::optional<layout::Rect> bounds;  ///< in the parent's coordinates; absent: ask the client
   };
   bool update(Group& group, const QQuickItem& parent) const;
   static bool isConcerned(Entry& entry);
@@ -83,8 +89,8 @@ class WindowWatcher : public QObject {
   QQuickWindow& window_;
   std::unordered_map<QQuickItem*, Group> groups_;
   std::vector<Entry> entries_;
-  std::size_t next_ = 0;  ///< to be looked at anew
-  unsigned round_ = 0;    ///< of telling all
+  std::size_t next_ = 0;  ///< the entry that `lookAtSome` begins with
+  unsigned round_ = 0;    ///< counts the calls of `tellAll`
 };
 
 }  // namespace quorix::qt

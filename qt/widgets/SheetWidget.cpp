@@ -19,8 +19,8 @@ SheetWidget::SheetWidget(QWidget& window, hosting::WindowSession& session)
   setAttribute(Qt::WA_AcceptTouchEvents);
   setAttribute(Qt::WA_Hover);
   setFocusPolicy(Qt::StrongFocus);
-  setCursor(Qt::ArrowCursor);  // not that of the window
-  hide();                      // until there is something to present
+  setCursor(Qt::ArrowCursor);  // instead of the window's
+  hide();                      // until `comeUp`
   AccessibilityBridge::instance()->add(*this, *this);
   window.installEventFilter(this);
   connect(qApp, &QApplication::focusChanged, this,
@@ -54,12 +54,12 @@ SheetWidget::FocusReturn SheetWidget::focusReturn() {
 
 void SheetWidget::vanish() {
   hide();
-  deleteLater();  // an event of it may be under way
+  deleteLater();  // it may be handling an event
 }
 
 void SheetWidget::holdFocus(QWidget* now) {
   if (now && hasPageFocus()) pageTookFocus();
-  // A shortcut of the host's may lead to what lies below.
+  // A shortcut of the host may have moved the focus below the sheet.
   const bool below = now && now != this && now->window() == window() && !isAncestorOf(now);
   if (below) focusWentBelow();
 }
@@ -71,7 +71,7 @@ bool SheetWidget::focusNextPrevChild(bool next) {
   } else if (window()->focusWidget()->isVisible()) {
     leavePages(next);
   } else {
-    takeFocusFromPages();  // Qt asks, and not the user: it hides the page, whose process ended
+    takeFocusFromPages();  // not the user's key: Qt hides a page whose process ended
   }
   return true;
 }
@@ -95,7 +95,8 @@ void SheetWidget::settle() {
   update();
 }
 
-/// The panel's own picture: also when the window system asks for it before anything settled.
+/// Paints the panel anew if needed. Also called from a paint event that comes before `settle`,
+/// where the layers must not change.
 void SheetWidget::updatePanel() {
   auto layers = paintLayers();
   if (layers.empty()) return;
@@ -118,7 +119,7 @@ void SheetWidget::updateLayers() {
   repainted_.clear();
 }
 
-/// Puts what lies over the pages there. Without a page the pictures lie on the panel alone.
+/// Places what is above the pages. Without a page these are pictures on the panel.
 void SheetWidget::updateFront() {
   const layout::Point corner = presenter().panelFrame().origin;
   for (const ShownLayer& layer : layers_) {
@@ -178,8 +179,8 @@ void SheetWidget::placePage(hosting::PageEngine& engine, const hosting::PagePlac
   if (!page) return;
   page->setGeometry(toRect(place.room).toAlignedRect());
   page->show();
-  // The first widget that Qt draws by other means than the rest has its window made anew, which
-  // comes without the keyboard.
+  // For the first widget that is drawn by other means than the rest, Qt makes the native window
+  // anew, which is then not active.
   const WId before = std::exchange(activeBefore_, 0);
   if (before && window()->internalWinId() != before) activateWindow();
   stack_.append(page);
@@ -198,7 +199,7 @@ bool SheetWidget::hasPageFocus() const {
 }
 
 void SheetWidget::takeFocusFromPages() {
-  // A page whose process ended may have taken the window's focus with it.
+  // If a page's process ended, the window may have no focused widget.
   if (hasPageFocus() || !window()->focusWidget()) setFocus(Qt::OtherFocusReason);
 }
 
@@ -206,7 +207,7 @@ void SheetWidget::resizeEvent(QResizeEvent*) { followSize(); }
 
 void SheetWidget::followSize() { windowResized({double(width()), double(height())}); }
 
-// Events. What happens here stays here: nothing below the sheet hears of it.
+// Events. None of them reaches what is below the sheet.
 
 bool SheetWidget::event(QEvent* event) {
   switch (event->type()) {
@@ -237,7 +238,7 @@ bool SheetWidget::eventFilter(QObject* watched, QEvent* event) {
   return QWidget::eventFilter(watched, event);
 }
 
-/// All of the window's sheets, in their order, over what comes later, too.
+/// Raises the window's sheets, in their order, above widgets that were added later.
 void SheetWidget::raiseAll() {
   const auto sheets = parentWidget()->findChildren<SheetWidget*>(Qt::FindDirectChildrenOnly);
   for (SheetWidget* sheet : sheets) {

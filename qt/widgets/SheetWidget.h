@@ -13,8 +13,8 @@
 
 namespace quorix::qt {
 
-/// A sheet over a window of widgets: on top of everything in it and as large as the window. Belongs
-/// to the window, and deletes itself when it has closed. Main thread.
+/// A sheet over a window of widgets: as large as the window and above everything in it. A child of
+/// the window; deletes itself after it closed. Main thread.
 class SheetWidget : public QWidget, public SheetSurface, public WidgetAccessibleSurface {
   Q_OBJECT
 
@@ -33,9 +33,7 @@ class SheetWidget : public QWidget, public SheetSurface, public WidgetAccessible
   bool focusNextPrevChild(bool next) override;
 
  private:
-  friend class SheetWidgetFront;
-
-  /// What shows a layer above a page.
+  /// Shows a layer above a page.
   struct ShownLayer {
     PictureWidget* picture;
     QPointF origin;  ///< in the panel
@@ -73,13 +71,13 @@ class SheetWidget : public QWidget, public SheetSurface, public WidgetAccessible
   void holdFocus(QWidget* now);
   void pointAt(QPointF point);
 
-  QImage picture_;                ///< of the panel at rest, which motion only moves
-  std::vector<Layer> repainted_;  ///< on their way to `layers_`
+  QImage picture_;                ///< of the panel at rest; motion moves it
+  std::vector<Layer> repainted_;  ///< until `layers_` shows them
   std::vector<ShownLayer> layers_;
-  QList<QWidget*> stack_;              ///< what lies over the painted panel, from the bottom up
+  QList<QWidget*> stack_;              ///< the widgets over the painted panel, from the bottom up
   SheetWidgetFront* front_ = nullptr;  ///< made with the first page
   PictureWidget* ring_ = nullptr;
-  WId activeBefore_ = 0;  ///< the native window that a page is opened in, if it is active
+  WId activeBefore_ = 0;  ///< the native window in which a page opens, if it was active
   bool settleQueued_ = false;
 };
 

@@ -39,26 +39,13 @@ void SheetWidgetFront::follow(const render::Scene& scene) {
     }
     acting += area;
   }
-  // An empty mask would be none.
+  // Qt reads an empty mask as none.
   setVisible(!acting.isEmpty());
   if (!acting.isEmpty() && acting != mask()) setMask(acting);
 }
 
 bool SheetWidgetFront::event(QEvent* event) {
-  switch (event->type()) {
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::MouseMove:
-    case QEvent::MouseButtonRelease:
-    case QEvent::Wheel:
-    case QEvent::TouchBegin:
-    case QEvent::TouchUpdate:
-    case QEvent::TouchEnd:
-    case QEvent::TouchCancel:
-      return sheet_.event(event);
-    default:
-      return QWidget::event(event);
-  }
+  return (isEnabled() && sheet_.handle(*event)) || QWidget::event(event);
 }
 
 }  // namespace quorix::qt

@@ -7,7 +7,7 @@
 
 namespace quorix::qt {
 
-/// Shows a picture at its place, through which the pointer reaches what lies below. Main thread.
+/// Shows a picture at its place. The pointer reaches what lies below. Main thread.
 class PictureWidget : public QWidget {
  public:
   explicit PictureWidget(QWidget& parent);
@@ -22,13 +22,13 @@ class PictureWidget : public QWidget {
 
 class SheetWidget;
 
-/// What lies over the pages of a sheet and takes taps: as large as the sheet, but there only where
-/// something acts. What comes to it goes to the sheet.
+/// Takes taps over the pages of a sheet. It is as large as the sheet, but its mask holds only the
+/// areas where something acts. Passes its events to the sheet.
 class SheetWidgetFront : public QWidget {
  public:
   explicit SheetWidgetFront(SheetWidget& sheet);
 
-  /// The sheet's whole scene.
+  /// Takes its mask from the sheet's whole scene.
   void follow(const render::Scene& scene);
 
  protected:

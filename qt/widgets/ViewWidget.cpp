@@ -17,7 +17,7 @@ ViewWidget::ViewWidget(QWidget* parent) : ViewWidget(swiftui::View(), parent) {}
 
 ViewWidget::ViewWidget(swiftui::View view, QWidget* parent)
     : QWidget(parent), surface_(std::make_unique<WidgetSurface>(*this)) {
-  installEngine();  // without it a view would stand still
+  installEngine();  // runs the main queue, without which no view changes
   setAttribute(Qt::WA_AcceptTouchEvents);
   setAttribute(Qt::WA_Hover);
   QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
@@ -42,11 +42,13 @@ int ViewWidget::heightForWidth(int width) const { return surface_->heightFor(wid
 bool ViewWidget::event(QEvent* event) {
   switch (event->type()) {
     case QEvent::HoverEnter:
-    case QEvent::HoverMove:
-      pointAt(static_cast<QHoverEvent*>(event)->position());
+    case QEvent::HoverMove: {
+      const auto point = toPoint(static_cast<QHoverEvent*>(event)->position());
+      showHand(*this, isEnabled() && surface_->takesTapAt(point));
       return true;
+    }
     case QEvent::HoverLeave:
-      return true;  // which would paint the widget anew
+      return true;  // QWidget would paint the widget again
     case QEvent::ParentChange:
       surface_->placeChanged();
       break;
@@ -58,16 +60,6 @@ bool ViewWidget::event(QEvent* event) {
   }
   // The action may delete this widget: nothing is touched after it.
   return (isEnabled() && surface_->handle(*event)) || QWidget::event(event);
-}
-
-void ViewWidget::pointAt(QPointF point) {
-  const bool tappable = isEnabled() && surface_->takesTapAt(toPoint(point));
-  if (tappable == (cursor().shape() == Qt::PointingHandCursor)) return;
-  if (tappable) {
-    setCursor(Qt::PointingHandCursor);
-  } else {
-    unsetCursor();
-  }
 }
 
 void ViewWidget::changeEvent(QEvent* event) {
@@ -98,11 +90,11 @@ void ViewWidget::hideEvent(QHideEvent*) {
   surface_->onScreenChanged();
 }
 
-// Not QWidget's: it would paint the widget anew.
+// These do not call QWidget's, which would paint the widget again.
 
 void ViewWidget::focusInEvent(QFocusEvent* event) {
   surface_->focusCame(causeOf(event->reason()));
-  // Later: Qt has yet to say that the widget has the focus, which is not the whole of it.
+  // Later: Qt has yet to tell that the widget has the focus, and then comes the element in it.
   QMetaObject::invokeMethod(
       this,
       [this] {
@@ -116,10 +108,10 @@ void ViewWidget::focusOutEvent(QFocusEvent* event) {
 }
 
 bool ViewWidget::focusNextPrevChild(bool next) {
-  // A widget that is on its way out has its focus moved on from outside.
+  // When a widget is hidden or disabled, Qt moves its focus to another one.
   const bool inside = hasFocus() && isVisible() && isEnabled();
   if (inside && surface_->walk(next)) return true;
-  // Where nothing else takes the focus, it goes round.
+  // If nothing else takes the focus, it begins again at the other end.
   return QWidget::focusNextPrevChild(next) || (inside && surface_->walk(next));
 }
 

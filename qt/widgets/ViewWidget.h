@@ -14,11 +14,11 @@ class WidgetSurface;
 
 /// Shows a view among Qt Widgets. A size in points is a size in widgets' pixels.
 ///
-/// Layouts place it like a label with word wrap: its size hint is what the view wants, its height
-/// follows its width. Settings that the host leaves open follow the widget: its palette decides
-/// light or dark, and its layout direction is the view's; both are the desktop's unless the host
-/// says otherwise. It has no background, and is painted only when something changed. Sheets of the
-/// view open over the whole window that the widget is in. Main thread.
+/// Layouts place it like a label with word wrap: its size hint is the view's ideal size, and its
+/// height follows its width. Settings that the host does not choose follow the widget: its palette
+/// decides light or dark, its layout direction is the view's. Both are the desktop's unless the
+/// host sets them. The widget has no background, and is painted only when something changed. Sheets
+/// of the view open over the whole window. Main thread.
 ///
 ///     #include <QuorixWidgets/score/ScoreWidgetBuilder.h>
 ///     auto view = quorix::ScoreWidgetBuilder::buildSwiftUIScoreWidgetView(
@@ -32,10 +32,10 @@ class QUORIX_EXPORT ViewWidget : public QWidget, public ViewSettings {
   explicit ViewWidget(swiftui::View view, QWidget* parent = nullptr);
   ~ViewWidget() override;
 
-  /// Shows another view, which begins afresh; a sheet of the one before goes.
+  /// Shows another view, with new state. Closes a sheet of the former view.
   void setView(swiftui::View view);
 
-  // The widget's own, which the view follows, and the view's.
+  // The widget's own direction, which the view follows, and the view's.
   using QWidget::setLayoutDirection;
   using ViewSettings::setLayoutDirection;
 
@@ -45,14 +45,14 @@ class QUORIX_EXPORT ViewWidget : public QWidget, public ViewSettings {
   int heightForWidth(int width) const override;
 
  signals:
-  // What the user did, for analytics. A slot may delete the widget, save where noted.
+  // What the user did, for analytics. A slot may delete the widget, except where noted.
 
   /// A row or a link of the view was tapped, by pointer, key or assistive technology.
   void activated();
-  /// A sheet of the view came up, also one with a web page.
+  /// A sheet of the view opened, also one with a web page.
   void sheetOpened();
-  /// It left: emitted once for each `sheetOpened`. If the widget is deleted while its sheet is up,
-  /// it says `Host` from its destructor: a slot deletes it only for another reason.
+  /// It closed: emitted once for each `sheetOpened`. If the widget is deleted while its sheet is
+  /// open, its destructor emits this with `Host`, so a slot deletes it only for another reason.
   void sheetClosed(quorix::qt::SheetCloseReason reason);
 
  protected:
@@ -69,7 +69,6 @@ class QUORIX_EXPORT ViewWidget : public QWidget, public ViewSettings {
  private:
   friend class WidgetSurface;
   void settingsChanged() override;
-  void pointAt(QPointF point);
 
   std::unique_ptr<WidgetSurface> surface_;
 };

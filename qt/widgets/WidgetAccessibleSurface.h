@@ -6,7 +6,7 @@ class QWidget;
 
 namespace quorix::qt {
 
-/// The part of an accessible surface that holds for any widget.
+/// Implements an accessible surface for any widget.
 class WidgetAccessibleSurface : public AccessibleSurface {
  public:
   explicit WidgetAccessibleSurface(QWidget& widget) : widget_(widget) {}

@@ -10,16 +10,14 @@
 #include "qt/Picture.h"
 #include "qt/WindowScene.h"
 #include "qt/accessibility/AccessibilityBridge.h"
-#include "qt/accessibility/ViewAccessible.h"
 #include "qt/painting/FocusRing.h"
 #include "qt/widgets/SheetWidget.h"
-#include "qt/widgets/ViewWidget.h"
 #include "qt/widgets/WindowStateWatcher.h"
 
 namespace quorix::qt {
 
-/// The focus ring of a view widget. It reaches beyond the widget, as nothing that the widget itself
-/// paints can, and goes where the widget goes. Belongs to the widget's surroundings; main thread.
+/// The focus ring of a view widget. It reaches beyond the widget, which cannot paint outside of
+/// itself, and follows the widget. A child of one of the widget's ancestors; main thread.
 class FocusFrame : public QFocusFrame {
  public:
   explicit FocusFrame(QWidget& widget);
@@ -37,9 +35,9 @@ class FocusFrame : public QFocusFrame {
 
 namespace {
 
-constexpr int kMargin = 4;  // what the ring takes beyond the widget
+constexpr int kMargin = 4;  // points that the ring reaches beyond the widget
 
-/// Room for the ring, above the other widgets in the parent.
+/// Makes room for the ring, above the other widgets in the parent.
 class FrameStyle : public QProxyStyle {
  public:
   int pixelMetric(PixelMetric metric, const QStyleOption* option,
@@ -78,14 +76,14 @@ void FocusFrame::paintEvent(QPaintEvent*) {
 
 namespace {
 
-/// Whole pixels that hold `points`, but for bits that were lost in additions.
+/// Rounds `points` up to whole pixels, except for the rounding errors of additions.
 int wholePixels(double points) {
   constexpr double slack = 1.0 / 256;
   return static_cast<int>(std::clamp(std::ceil(points - slack), 0.0, double(QWIDGETSIZE_MAX)));
 }
 
-/// Whether anything of `widget` lies within all that it stands in. A widget that is scrolled away
-/// does not, though it is visible.
+/// Whether a part of `widget` is inside all its ancestors. A widget that is scrolled away is not,
+/// though Qt calls it visible.
 bool isInView(const QWidget& widget) {
   QRect left = widget.rect();
   for (const QWidget* at = &widget; !at->isWindow() && !left.isEmpty(); at = at->parentWidget()) {
@@ -97,7 +95,7 @@ bool isInView(const QWidget& widget) {
 }  // namespace
 
 WidgetSurface::WidgetSurface(ViewWidget& widget)
-    : HostedView(widget), WidgetAccessibleSurface(widget), widget_(widget) {
+    : HostedView(widget, widget.settings()), WidgetAccessibleSurface(widget), widget_(widget) {
   AccessibilityBridge::instance()->add(widget, *this);
   QObject::connect(Desktop::instance(), &Desktop::changed, &widget, [this] { settingsChanged(); });
 }
@@ -108,12 +106,6 @@ WidgetSurface::~WidgetSurface() {
   AccessibilityBridge::remove(widget_);
 }
 
-layout::Size WidgetSurface::size() const {
-  return {double(widget_.width()), double(widget_.height())};
-}
-
-double WidgetSurface::scale() const { return widget_.devicePixelRatioF(); }
-
 swiftui::Environment WidgetSurface::environment() const {
   swiftui::Environment around = Desktop::environment(scale());
   around.appearance = Desktop::appearanceOf(widget_.palette());
@@ -121,21 +113,8 @@ swiftui::Environment WidgetSurface::environment() const {
   return widget_.settings().over(around);
 }
 
-bool WidgetSurface::allowsMotion() const {
-  const auto motion = widget_.settings().motion;
-  return motion ? *motion : !Desktop::prefersReducedMotion();
-}
-
-bool WidgetSurface::hasFocus() const { return widget_.hasFocus(); }
-
-void WidgetSurface::takeFocusByPress() {
-  if (widget_.focusPolicy() != Qt::NoFocus) widget_.setFocus(Qt::MouseFocusReason);
-}
-
 void WidgetSurface::giveFocusOn() {
-  const QPointer<ViewWidget> widget = &widget_;  // what hears of the focus may delete it
-  if (!widget->focusNextPrevChild(true)) widget->clearFocus();
-  if (widget && !widget->hasFocus()) widget->setFocusPolicy(Qt::NoFocus);
+  if (!widget_.focusNextPrevChild(true)) widget_.clearFocus();
 }
 
 hosting::WindowSession* WidgetSurface::window() {
@@ -144,14 +123,6 @@ hosting::WindowSession* WidgetSurface::window() {
     return *new SheetWidget(*window, scene);
   };
   return &WindowScene::of(*window, {[window] { return window->windowHandle(); }, newSheet});
-}
-
-void WidgetSurface::activated() { emit widget_.activated(); }
-
-void WidgetSurface::sheetOpened() { emit widget_.sheetOpened(); }
-
-void WidgetSurface::sheetClosed(hosting::SheetCloseReason reason) {
-  emit widget_.sheetClosed(static_cast<SheetCloseReason>(reason));
 }
 
 // Place.
@@ -166,7 +137,7 @@ void WidgetSurface::placeChanged() {
                                     &widget_, [this] { onScreenChanged(); });
     window_ = window;
   }
-  onScreenChanged();  // before anyone asks for a size: the view is then evaluated once
+  onScreenChanged();  // before a size is needed, so that the view is evaluated once
   settingsChanged();
   if (moved) enterWindow();
 }
@@ -174,7 +145,7 @@ void WidgetSurface::placeChanged() {
 void WidgetSurface::onScreenChanged() {
   onScreen_ = widget_.isVisible() && !widget_.window()->isMinimized();
   host().setOnScreen(onScreen_);
-  settleSoon();
+  needsFrame();
 }
 
 // Size.
@@ -190,7 +161,7 @@ QSize WidgetSurface::idealSize() {
 }
 
 QSize WidgetSurface::minimumSize() {
-  // As narrow as it can be; how high that makes it is for `heightFor` to say.
+  // The least width. The height at that width is the answer of `heightFor`.
   told_.minimum = QSize(sizeFor({0, std::nullopt}).width(), sizeFor({}).height());
   return *told_.minimum;
 }
@@ -208,22 +179,18 @@ bool WidgetSurface::toldHolds() {
 }
 
 void WidgetSurface::sizeChanged() {
-  sceneStale_ = true;
+  resized();
   settle();
 }
 
 // Frame.
 
 void WidgetSurface::viewNeedsDisplay() {
-  sizeStale_ = sceneStale_ = true;
-  settleSoon();
+  sizeStale_ = true;
+  HostedView::viewNeedsDisplay();
 }
 
-void WidgetSurface::contentChanged() { settle(); }
-
-void WidgetSurface::needsFrame() { settleSoon(); }
-
-void WidgetSurface::settleSoon() {
+void WidgetSurface::needsFrame() {
   if (std::exchange(settleQueued_, true)) return;
   QMetaObject::invokeMethod(
       &widget_, [this] { settleQueued_ = false, settle(); }, Qt::QueuedConnection);
@@ -234,23 +201,9 @@ void WidgetSurface::settle() {
     told_ = {};
     widget_.updateGeometry();
   }
-  if (onScreen_ && sceneStale_) refreshScene();
+  if (onScreen_ && refreshScene()) widget_.update();
   updateRing();
-  const bool needed = hasFocus() || (onScreen_ && isInView(widget_));
-  if (!needed && !AccessibilityBridge::isActive()) host().rest();
-}
-
-void WidgetSurface::refreshScene() {
-  sceneStale_ = false;
-  host().scene(size());
-  const bool acts = host().focusStops() > 0;
-  if (acts || !widget_.hasFocus()) {
-    widget_.setFocusPolicy(acts ? Qt::TabFocus : Qt::NoFocus);
-  } else if (widget_.focusPolicy() != Qt::NoFocus) {
-    leaveFocus();
-  }
-  ViewAccessible::sceneChanged(widget_);
-  widget_.update();
+  rest(onScreen_ && isInView(widget_));
 }
 
 void WidgetSurface::updateRing() {
@@ -263,12 +216,12 @@ void WidgetSurface::updateRing() {
 void WidgetSurface::dropRing() {
   if (!ring_) return;
   ring_->setWidget(nullptr);
-  ring_->deleteLater();  // what it stands in may be going through all that it holds
+  ring_->deleteLater();  // its parent may be iterating over its children
   ring_ = nullptr;
 }
 
 void WidgetSurface::paint(QPainter& painter) {
-  // Qt tells a widget late, and not everywhere, that its window came to another screen.
+  // Qt tells a widget late, and not on every platform, that its window moved to another screen.
   if (scale() != host().environment().scale) settingsChanged();
   paintAsPicture(painter, host().scene(size()));
 }

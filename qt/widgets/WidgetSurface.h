@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "qt/HostedView.h"
+#include "qt/widgets/ViewWidget.h"
 #include "qt/widgets/WidgetAccessibleSurface.h"
 
 class QPainter;
@@ -14,21 +15,20 @@ class QPainter;
 namespace quorix::qt {
 
 class FocusFrame;
-class ViewWidget;
 
-/// What a view widget keeps and does behind its public face. Main thread.
+/// The private part of a view widget. Main thread.
 class WidgetSurface final : public HostedView, private WidgetAccessibleSurface {
  public:
   explicit WidgetSurface(ViewWidget& widget);
   ~WidgetSurface() override;
 
-  // What layouts ask.
+  // For layouts.
   QSize idealSize();
   QSize minimumSize();
   int heightFor(int width);
 
-  void contentChanged() override;
-  /// The widget was shown, or came into another window.
+  void contentChanged() override { settle(); }
+  /// The widget was shown, or moved to another window.
   void placeChanged();
   void onScreenChanged();
   void sizeChanged();
@@ -37,31 +37,34 @@ class WidgetSurface final : public HostedView, private WidgetAccessibleSurface {
  private:
   void viewNeedsDisplay() override;
   swiftui::Environment environment() const override;
-  bool allowsMotion() const override;
-  layout::Size size() const override;
-  double scale() const;
-  bool hasFocus() const override;
-  void takeFocusByPress() override;
+  layout::Size size() const override { return {double(widget_.width()), double(widget_.height())}; }
+  double scale() const { return widget_.devicePixelRatioF(); }
+  bool hasFocus() const override { return widget_.hasFocus(); }
+  bool acceptsFocus() const override { return widget_.focusPolicy() != Qt::NoFocus; }
+  void setAcceptsFocus(bool accepts) override {
+    widget_.setFocusPolicy(accepts ? Qt::TabFocus : Qt::NoFocus);
+  }
+  void takeFocusByPress() override { widget_.setFocus(Qt::MouseFocusReason); }
   void giveFocusOn() override;
   void needsFrame() override;
   hosting::WindowSession* window() override;
-  void activated() override;
-  void sheetOpened() override;
-  void sheetClosed(hosting::SheetCloseReason reason) override;
+  void activated() override { emit widget_.activated(); }
+  void sheetOpened() override { emit widget_.sheetOpened(); }
+  void sheetClosed(hosting::SheetCloseReason reason) override {
+    emit widget_.sheetClosed(static_cast<SheetCloseReason>(reason));
+  }
 
   hosting::Responder& responder() override { return *this; }
 
-  /// What layouts were told; only when that no longer holds do they lay out anew.
+  /// The answers that layouts got. They lay out again only when one changes.
   struct Told {
     std::optional<QSize> ideal;
     std::optional<QSize> minimum;
     std::optional<std::pair<int, int>> height;  ///< for a width
   };
 
-  void settleSoon();
   void settle();
   bool toldHolds();
-  void refreshScene();
   void updateRing();
   void dropRing();
   QSize sizeFor(layout::ProposedSize proposal);
@@ -70,10 +73,9 @@ class WidgetSurface final : public HostedView, private WidgetAccessibleSurface {
   QPointer<QWidget> window_;
   QMetaObject::Connection windowState_;
   Told told_;
-  QPointer<FocusFrame> ring_;  ///< while it is to be seen
+  QPointer<FocusFrame> ring_;  ///< while it is visible
   bool onScreen_ = false;
   bool sizeStale_ = false;
-  bool sceneStale_ = true;
   bool settleQueued_ = false;
 };
 

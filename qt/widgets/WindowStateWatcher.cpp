@@ -13,7 +13,7 @@
 namespace quorix::qt {
 namespace {
 
-/// How far `point` of the window is from `widget`; infinite where that does not count.
+/// How far a point beside `widget` is from it, in points; infinite where the widget takes no tap.
 double distanceOf(const ViewWidget& widget, QPointF inWindow) {
   if (!widget.isEnabled() || widget.size().isEmpty()) return layout::infinity;
   const QPointF point = widget.mapFrom(widget.window(), inWindow);
@@ -65,7 +65,7 @@ bool WindowStateWatcher::eventFilter(QObject*, QEvent* event) {
   }
 }
 
-/// The window hears of a press only if no child of it took it.
+/// Whether a view widget takes a press that no child of the window took.
 bool WindowStateWatcher::takesPress(QMouseEvent& press) {
   pressed_ = nullptr;
   const bool byFinger = press.pointingDevice()->type() == QInputDevice::DeviceType::TouchScreen;
@@ -78,7 +78,7 @@ bool WindowStateWatcher::takesPress(QMouseEvent& press) {
     pressed_ = widget;
   }
   if (!pressed_) return false;
-  // The window itself comes first: it may be the host's, which may even delete it.
+  // The window itself comes first. The host may have derived it, and may even delete it.
   const QPointer<WindowStateWatcher> self = this;
   static_cast<QObject&>(window_).event(&press);
   if (!self) return true;

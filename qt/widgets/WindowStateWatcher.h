@@ -10,9 +10,9 @@ namespace quorix::qt {
 
 class ViewWidget;
 
-/// What the view widgets of one window hear of it: that it is minimized or comes back, which Qt
-/// tells only the window, and a finger's tap just beside a widget that is smaller than a finger
-/// needs, where nothing of the host's takes it. Belongs to the window; main thread.
+/// Watches a window for its view widgets. Tells them when the window is minimized or restored,
+/// which Qt tells only the window. Gives a widget that is smaller than a finger needs the taps of
+/// fingers beside it, where no widget of the host takes them. Belongs to the window; main thread.
 class WindowStateWatcher : public QObject {
   Q_OBJECT
 
@@ -30,7 +30,7 @@ class WindowStateWatcher : public QObject {
   bool takesPress(QMouseEvent& press);
 
   QWidget& window_;
-  QPointer<ViewWidget> pressed_;  ///< by a finger beside it
+  QPointer<ViewWidget> pressed_;  ///< a finger beside it is down
 };
 
 }  // namespace quorix::qt

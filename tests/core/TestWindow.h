@@ -128,7 +128,7 @@ class TestWindow final : public TestText, public hosting::ViewWindow {
   bool pointer(hosting::PointerEvent::Phase phase, layout::Point at) {
     return front().handle({phase, at, milliseconds_ += 16});
   }
-  void viewChanged() override { ++displays; }
+  void needsFrame() override { ++displays; }
   void activated() override { told += "activated "; }
   void sheetOpened() override { told += "opened "; }
   void sheetClosed(hosting::SheetCloseReason reason) override {

@@ -186,7 +186,9 @@ TEST(ContentSizeCategory, ReachesScalingFontsOnly) {
 }
 
 TEST(ContentSizeCategory, IsTheOneNearestToADesktopsFactor) {
-  const std::pair<double, std::string_view> rows[] = {{0.5, "extraSmall"},
+  const std::pair<double, std::string_view> rows[] = {{NAN, "large"},
+                                                      {0, "large"},
+                                                      {0.5, "extraSmall"},
                                                       {1, "large"},
                                                       {2, "accessibilityLarge"},
                                                       {2.9, "accessibilityExtraExtraLarge"},

@@ -104,9 +104,9 @@ TEST(ViewGraph, ChangesAreEvaluatedTogetherOnTheNextTurn) {
   const Switched switched{observer};
   TestWindow window(switched);
   const int before = *switched.evaluations;
+  window.tap("switch");
+  window.tap("switch");
   const int displays = window.displays;
-  window.tap("switch");
-  window.tap("switch");
   observer.model->value = 1;
   observer.model->value = 2;
   EXPECT_EQ(*switched.evaluations, before);

@@ -1,3 +1,5 @@
+#include <QTest>
+
 #include "QuorixWidgets/info/UIInfoWidget.h"
 #include "platform/swiftui/Elements.h"
 #include "platform/uikit/UIApplication.h"
@@ -44,6 +46,23 @@ TYPED_TEST(WindowScene, PresentsOverTheWindowInUseAndEndsWithIt) {
   EXPECT_EQ(scenes(), before + 2);
   two.closeWindow();
   EXPECT_EQ(scenes(), before + 1);
+}
+
+TYPED_TEST(WindowScene, ShowsItsSheetAgainAfterTheWindowWasHidden) {
+  TypeParam screen;
+  if (auto* window = qobject_cast<QQuickWindow*>(&screen.window())) {
+    window->setPersistentSceneGraph(false);  // a GPU's renderer frees the pictures
+    window->setPersistentGraphics(false);
+  }
+  screen.add(opener("page"), kPlace);
+  screen.click("Open page");
+  const QImage before = screen.grab();
+  screen.window().hide();
+  screen.window().show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&screen.window()));
+  screen.settle();
+  EXPECT_TRUE(screen.shows("page"));
+  EXPECT_EQ(screen.grab(), before);
 }
 
 }  // namespace
