@@ -23,7 +23,7 @@
 namespace quorix::bench {
 namespace {
 
-/// The subjects that are painted in turn, and the size of the image.
+/// The subjects that are painted one after the other, and the size of the image.
 struct Series {
   std::vector<std::unique_ptr<Subject>> subjects;
   QSize size;

@@ -24,8 +24,8 @@ class QUORIX_EXPORT PageEngine {
     /// Whether the page (`mainFrame`) or a frame in it may load `address`. If not, the address may
     /// open outside the app.
     virtual bool mayNavigate(std::string_view scheme, std::string_view address, bool mainFrame) = 0;
-    /// The page asked for a new window with this address, which may be empty. The engine refuses it.
-    /// `byUser`: a user gesture caused it.
+    /// The page asked for a new window with this address, which may be empty. The engine refuses
+    /// it. `byUser`: a user gesture caused it.
     virtual void windowAsked(std::string_view address, bool byUser) = 0;
     /// A load began (0) or progressed. Above 0, data of the page has arrived.
     virtual void loading(int percent) = 0;
@@ -42,8 +42,8 @@ class QUORIX_EXPORT PageEngine {
     /// The key that the page is about to get closes a sheet. The page returns it if it does not use
     /// it.
     virtual void closingKeyGiven() = 0;
-    /// Fingers touch the page. Once the result is true, the page must not get their events until all
-    /// of them have left it. Call `gestured` before the release.
+    /// Fingers touch the page. Once the result is true, the page must not get their events until
+    /// all of them have left it. Call `gestured` before the release.
     virtual bool touched(const TouchEvent& event) = 0;
     virtual void scrolled(const TrackpadEvent& event) = 0;
 

@@ -97,8 +97,7 @@ void ViewHost::State::changed() {
 
 void ViewHost::State::layOut(const Area& within) {
   evaluated();
-  // Take the evaluation out of the cache: hosted content may report a change while it is laid out
-  // or shown, which empties the slot.
+  // Out of the cache: hosted content may report a change meanwhile, which empties the slot.
   const auto taken = RecentEvaluations::shared().take(evaluation);
   swiftui::Evaluation& latest = *taken;
   const auto safe = layout::SafeArea::within(within.size, within.insets);
@@ -119,8 +118,7 @@ void ViewHost::State::layOut(const Area& within) {
   tellSizes(std::move(builder.geometry));
 }
 
-/// Calls the views that observe a size, for each size that changed. They may call this object
-/// again.
+/// Calls the views that observe a changed size. They may call this object again.
 void ViewHost::State::tellSizes(std::vector<swiftui::WatchedSize> sizes) {
   auto before = std::exchange(geometry, {});
   for (const swiftui::WatchedSize& now : sizes) geometry.emplace_back(now.path, now.size);

@@ -35,8 +35,8 @@ struct StackChildren {
 double prepareDistribution(StackChildren children, double available);
 
 /// Divides `available` (what is left after the spacing; may be infinite) among `children`. Offers
-/// each child in turn an equal share of the rest; the spacers' minimum lengths are reserved. No
-/// offer is below the child's `least`, or pushes another child below its own, while `available`
+/// one child after the other an equal share of the rest; the spacers' minimum lengths are reserved.
+/// No offer is below the child's `least`, or pushes another child below its own, while `available`
 /// suffices. `ask(index, offer)` returns the length that the child chooses.
 template <class Ask>
 void distribute(StackChildren children, double available, Ask ask) {

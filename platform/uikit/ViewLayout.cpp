@@ -83,7 +83,7 @@ class RuleReader {
   LayoutDirection direction_;
 };
 
-/// The length that the view's own constraint sets, whatever its content.
+/// The length that the view's own constraint sets. Its content does not count.
 std::optional<double> fixedLength(const UIView& view, LayoutAttribute attribute) {
   for (const ActiveLayoutConstraint& constraint : view.constraints()) {
     const bool own = !constraint.secondItem && constraint.firstItem == &view;
