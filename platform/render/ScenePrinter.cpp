@@ -76,11 +76,10 @@ class ObjectWriter {
 
 template <class Writer>
 void writeLook(const text::Run& run, Writer& to) {
-  constexpr std::string_view weights[] = {"", "medium", "semibold", "bold"};
   to.value("font", run.font.name);
   to.value("points", run.font.points);
   if (run.font.weight != swiftui::FontWeight::regular) {
-    to.value("weight", std::string(weights[static_cast<int>(run.font.weight)]));
+    to.value("weight", std::string(swiftui::nameOf(run.font.weight)));
   }
   to.value("color", hex(run.color));
   to.flag("underline", run.underline);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -23,6 +24,11 @@ enum class TextStyle : std::uint8_t {
 
 /// With the numbers of OpenType.
 enum class FontWeight : std::uint16_t { regular = 400, medium = 500, semibold = 600, bold = 700 };
+
+constexpr std::string_view nameOf(FontWeight weight) {
+  constexpr std::string_view names[] = {"regular", "medium", "semibold", "bold"};
+  return names[static_cast<std::size_t>(weight) / 100 - 4];
+}
 
 /// A face by name at a size in points. An unknown name selects the system's font.
 ///

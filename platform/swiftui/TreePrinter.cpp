@@ -93,11 +93,6 @@ std::string describe(layout::Edges edges) {
   return result;
 }
 
-std::string_view nameOf(FontWeight weight) {
-  constexpr std::string_view names[] = {"regular", "medium", "semibold", "bold"};
-  return names[static_cast<int>(weight)];
-}
-
 std::string_view nameOf(bool value) { return value ? "true" : "false"; }
 
 void TreePrinter::print(const View& view, int depth) { view.node()->print(*this, depth); }

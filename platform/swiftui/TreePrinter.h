@@ -43,7 +43,6 @@ using render::number;
 std::string_view nameOf(layout::HorizontalAlignment alignment);
 std::string_view nameOf(layout::VerticalAlignment alignment);
 std::string nameOf(layout::Alignment alignment);
-std::string_view nameOf(FontWeight weight);
 std::string_view nameOf(bool value);
 std::string describe(const Font& font);
 std::string describe(const Text& text);

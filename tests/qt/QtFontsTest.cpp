@@ -11,6 +11,7 @@
 
 #include "QuorixWidgets/localization/QuorixFont.h"
 #include "QuorixWidgets/localization/TovaFont.h"
+#include "qt/text/QtTextEngine.h"
 #include "tests/qt/WideFace.h"
 
 namespace quorix::qt {
@@ -86,6 +87,16 @@ TEST(HostFontsDeathTest, AreToldOfAFaceOnceItsConstantIsThere) {
     const bool during = told > 0;
     QCoreApplication::processEvents();
     return !during && told == 1;
+  }()));
+}
+
+TEST(HostFontsDeathTest, AreShapedAnewOnceTheirFaceIsThere) {
+  EXPECT_IN_FRESH_PROCESS(([] {
+    QtTextEngine engine;
+    const text::AttributedText text{{text::Run{"iiii", {"Saans-Medium", 14}, {}}}};
+    const auto before = engine.measure(text, layout::infinity);
+    QuorixFont::medium();
+    return engine.measure(text, layout::infinity) != before;
   }()));
 }
 

@@ -57,6 +57,9 @@ TEST(TextPictures, LookAsTheTextDrawnAnew) {
   struck.runs.front().color = {107, 107, 112, 128};
   text::AttributedText recolored = struck;
   recolored.runs.front().color = {200, 0, 0, 255};
+  const auto figures = plainText("€ 1,234,567.89 £ 0.25 −98,765.43 % 6,071,829.30");
+  text::AttributedText medium = figures;
+  medium.runs[0].font.name = QuorixFont::medium().name();
   const auto arabic = plainText("رسوم الإرجاع", 14, LayoutDirection::rightToLeft);
   text::AttributedText letters = plainText("1", 4);
   letters.runs[0].font.name = "DejaVu Sans";
@@ -77,7 +80,8 @@ TEST(TextPictures, LookAsTheTextDrawnAnew) {
       {"from the right", shaped(arabic, 120)},
       {"ink outside of its lines", marked},
       {"nothing to see", shaped(plainText("  "))},
-      {"figures", shaped(plainText("€ 1,234,567.89 £ 0.25 −98,765.43 % 6,071,829.30"))},
+      {"figures", shaped(figures)},
+      {"figures in another face", shaped(medium)},
       {"more glyphs than are kept", shaped(letters)},
       {"over another on nothing", twice},
       {"partly outside of the picture", sceneWith(words, layout::infinity, {90, -5})},
