@@ -36,7 +36,7 @@ NetworkThread& networkThread() {
   return thread;
 }
 
-void applicationEnds() {
+void endWithApplication() {
   NetworkThread& thread = networkThread();
   std::unique_ptr<NetworkWorker> worker;
   {
@@ -51,8 +51,8 @@ void applicationEnds() {
   thread.leftBehind.push_back(std::move(worker));
 }
 
-void applicationBegins() {
-  qAddPostRoutine(applicationEnds);  // Qt forgets its post routines with each application
+void beginWithApplication() {
+  qAddPostRoutine(endWithApplication);  // Qt forgets its post routines with each application
   const std::scoped_lock lock(networkThread().mutex);
   networkThread().applicationAlive = true;
 }
@@ -61,8 +61,8 @@ void applicationBegins() {
 
 QtURLTransport::QtURLTransport(std::chrono::milliseconds timeLimit) : timeLimit_(timeLimit) {
   static const bool watching = [] {
-    qAddPreRoutine(applicationBegins);  // at once when there is an application already
-    std::atexit(applicationEnds);       // for a host that exits with its application still there
+    qAddPreRoutine(beginWithApplication);  // at once when there is an application already
+    std::atexit(endWithApplication);       // for a host that exits with its application still there
     return true;
   }();
   static_cast<void>(watching);

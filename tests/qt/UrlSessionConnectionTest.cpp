@@ -30,6 +30,7 @@ TEST_F(ConcurrentUrlSession, ReadsOverHttpOnlyAndFollowsRedirects) {
   EXPECT_EQ(fetch("/two").response.body, kTable);
   expectErrors({
       {"http://127.0.0.1:1/", QNetworkReply::ConnectionRefusedError},
+      {"http://127.0.0.1:99999/", QNetworkReply::HostNotFoundError},
       {"file:///etc/hostname", QNetworkReply::ProtocolUnknownError},
       {server.base() + "/file", QNetworkReply::ProtocolUnknownError},
       {server.base() + "/loop", QNetworkReply::TooManyRedirectsError},
