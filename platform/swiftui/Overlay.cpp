@@ -60,11 +60,7 @@ class Overlay final : public SizedAsContent {
     in.placeAligned(above, self.frame, alignment_, exactly(self.frame.size));
     const bool makesWay = static_cast<OverlaidElement&>(self).makesWay &&
                           alignment_.vertical == layout::VerticalAlignment::top;
-    constexpr double besideButton = 4;  // points, for its focus ring
-    layout::Rect cover = above.frame;
-    cover.origin.x -= besideButton;
-    cover.size.width += 2 * besideButton;
-    if (!makesWay || !hasTextUnder(cover, self.child())) return;
+    if (!makesWay || !hasTextUnder(above.frame, self.child())) return;
     const double down = above.frame.bottom() - self.frame.top();
     const Size left = {self.frame.size.width, std::max(0.0, self.frame.size.height - down)};
     in.place(self.child(), {self.frame.left(), above.frame.bottom()}, exactly(left));

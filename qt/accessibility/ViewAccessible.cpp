@@ -84,8 +84,10 @@ std::vector<ViewAccessible::Told> ViewAccessible::toTell() const {
 void ViewAccessible::update() {
   const std::vector<Told> before = std::exchange(told_, toTell());
   const std::size_t common = std::min(before.size(), told_.size());
-  for (std::size_t i = told_.size(); i < before.size(); ++i) tell(QAccessible::ObjectHide, i);
-  const bool wasSole = before.size() == 1;
+  for (std::size_t i = told_.size(); i < elements_.size(); ++i) {
+    say(QAccessible::ObjectHide, QAccessible::accessibleInterface(elements_[i]));
+  }
+  const bool wasSole = before.size() == 1 && !surface()->isDialog();
   if (wasSole != isSoleElement()) say(QAccessible::ObjectReorder, this);
   syncChildren();
   for (std::size_t i = common; i < told_.size(); ++i) tell(QAccessible::ObjectShow, i);
