@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <map>
 #include <utility>
 
 namespace quorix::foundation {
@@ -64,16 +63,21 @@ Step HTTPConversation::failed(URLError error, std::string description) {
 }
 
 Step HTTPConversation::advance(State state) {
-  static const std::map<State, std::pair<URLError, const char*>> failures = {
-      {State::cutShort, {URLError::connectionClosed, "the connection closed"}},
-      {State::malformed, {URLError::malformedAnswer, "the answer is no valid HTTP"}},
-      {State::tooLarge, {URLError::badContent, "the answer is too large"}},
-      {State::undecodable, {URLError::badContent, "the answer's compression is unknown or broken"}},
-  };
-  if (state == State::incomplete) return {Next::read};
-  if (state == State::complete) return answered();
-  const auto& [error, description] = failures.at(state);
-  return fail(error, description);
+  switch (state) {
+    case State::incomplete:
+      return {Next::read};
+    case State::complete:
+      return answered();
+    case State::cutShort:
+      return fail(URLError::connectionClosed, "the connection closed");
+    case State::malformed:
+      return fail(URLError::malformedAnswer, "the answer is no valid HTTP");
+    case State::tooLarge:
+      return fail(URLError::badContent, "the answer is too large");
+    case State::undecodable:
+      break;
+  }
+  return fail(URLError::badContent, "the answer's compression is unknown or broken");
 }
 
 Step HTTPConversation::answered() {

@@ -120,7 +120,10 @@ void EmbeddedPage::answered(std::string_view answer) {
   if (answer == PageScripts::alive) {
     silence_.reset();
     if (const auto then = std::exchange(onAnswer_, {})) then();
-  } else if (const auto direction = std::exchange(askedFor_, {})) {
+    return;
+  }
+  if (answer.empty()) return;  // from a page that is gone
+  if (const auto direction = std::exchange(askedFor_, {})) {
     if (answer != PageScripts::unused) return;
     trackpadSwipe_.spend();
     go(*direction);

@@ -87,7 +87,7 @@ class EmbeddedPage final : private PageEngine::Client {
   EdgeSwipe edgeSwipe_;
   bool hasFingers_ = false;  ///< they swipe: the page does not get them
   TrackpadSwipe trackpadSwipe_;
-  std::optional<SwipeDirection> askedFor_;  ///< set until the page answers `askForScroll`
+  std::optional<SwipeDirection> askedFor_;  ///< set until the page answers about the scroll
   std::unique_ptr<PageEngine> engine_;
 };
 

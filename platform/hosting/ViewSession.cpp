@@ -91,7 +91,9 @@ bool ViewSession::pointerPressed(const PointerEvent& event) {
   if (!host_.pointerPressed(event.point)) return false;
   used();
   if (event.pointer != PointerEvent::mouse) return true;
+  const auto self = weak();
   if (acceptsFocus()) takeFocusByPress();
+  if (self.expired()) return true;
   focus_.hideRing();
   needsFrame();
   return true;

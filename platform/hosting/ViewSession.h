@@ -105,7 +105,7 @@ class QUORIX_EXPORT ViewSession : public Responder, private ViewHost::Client {
   virtual void takeFocusByPress() = 0;
   /// Moves the focus to the next object in the tab order. May delete the surface.
   virtual void giveFocusOn() = 0;
-  /// The focus or its ring moved: paint a frame.
+  /// A change is visible: paint a frame.
   virtual void needsFrame() = 0;
   /// The view or its settings changed, and possibly its size.
   virtual void contentChanged() = 0;

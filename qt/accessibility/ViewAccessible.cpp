@@ -196,4 +196,14 @@ void* ViewAccessible::interface_cast(QAccessible::InterfaceType type) {
   return isSoleElement() ? ElementAccessible::interface_cast(type) : nullptr;
 }
 
+// A reader may keep the interface of a view that has more elements by now.
+
+QStringList ViewAccessible::actionNames() const {
+  return isSoleElement() ? ElementAccessible::actionNames() : QStringList();
+}
+
+void ViewAccessible::doAction(const QString& name) {
+  if (isSoleElement()) ElementAccessible::doAction(name);
+}
+
 }  // namespace quorix::qt

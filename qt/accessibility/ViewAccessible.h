@@ -38,6 +38,8 @@ class ViewAccessible : public ElementAccessible {
   int indexOfChild(const QAccessibleInterface* child) const override;
 
   void* interface_cast(QAccessible::InterfaceType type) override;
+  QStringList actionNames() const override;
+  void doAction(const QString& name) override;
 
  private:
   /// What assistive technology was last told of an element.

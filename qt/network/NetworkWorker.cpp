@@ -63,6 +63,8 @@ void NetworkWorker::begin(Task task, const URL& url, std::chrono::milliseconds t
   } else if (!foundation::isHTTP(address.scheme().toStdString())) {
     complete(task, foundation::failure(URLError::unsupportedScheme,
                                        "the address is neither http nor https"));
+  } else if (!Transfer::namesServer(address)) {
+    complete(task, foundation::failure(URLError::hostNotFound, "the address names no server"));
   } else {
     queue_.add(task,
                {address.toEncoded().toStdString(), address.authority().toStdString(), timeLimit});

@@ -175,7 +175,9 @@ void Transfer::answered() {
   const QUrl next = current_.resolved(target);
   const auto refusal = foundation::refuseRedirect(current_.scheme().toStdString(),
                                                   next.scheme().toStdString(), ++redirects_);
-  refusal ? end(*refusal) : connectTo(next);
+  if (refusal) return end(*refusal);
+  if (namesServer(next)) return connectTo(next);
+  end(foundation::failure(URLError::hostNotFound, "the redirect names no server"));
 }
 
 void Transfer::hangUp() {

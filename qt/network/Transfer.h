@@ -25,7 +25,11 @@ class Transfer final : public QObject {
  public:
   using Ended = std::function<void(foundation::URLResponse)>;
 
-  /// `address` is one of http or https.
+  static bool namesServer(const QUrl& address) {
+    return address.isValid() && !address.host().isEmpty();
+  }
+
+  /// `address` is one of http or https, and names a server.
   Transfer(QUrl address, std::chrono::milliseconds timeLimit, Ended ended);
   ~Transfer() override;
 

@@ -1,5 +1,8 @@
 #include "platform/hosting/ViewSession.h"
 
+#include <functional>
+#include <memory>
+
 #include "platform/swiftui/Elements.h"
 #include "tests/core/TestWindow.h"
 
@@ -34,7 +37,10 @@ struct Surface final : testing::TestText, hosting::ViewSession {
   bool hasFocus() const override { return focused; }
   bool acceptsFocus() const override { return accepts; }
   void setAcceptsFocus(bool now) override { accepts = now; }
-  void takeFocusByPress() override { focused = true; }
+  void takeFocusByPress() override {
+    focused = true;
+    if (onFocus) onFocus();
+  }
   void giveFocusOn() override { focused = isAlone; }
   void needsFrame() override {}
   void contentChanged() override {}
@@ -45,6 +51,7 @@ struct Surface final : testing::TestText, hosting::ViewSession {
   int evaluations = 0;
   bool focused = false, accepts = false, read = false;
   bool isAlone = false;  ///< nothing else takes the focus
+  std::function<void()> onFocus;
 };
 
 TEST(ViewSession, FreesItsSceneUnlessItIsSeenFocusedOrRead) {
@@ -59,8 +66,16 @@ TEST(ViewSession, FreesItsSceneUnlessItIsSeenFocusedOrRead) {
   }
 }
 
+constexpr hosting::PointerEvent press{hosting::PointerEvent::Phase::pressed, {50, 10}};
+
+TEST(ViewSession, MayBeDeletedWhenItTakesTheFocus) {
+  auto surface = std::make_unique<Surface>();
+  surface->onFocus = [&] { auto gone = std::move(surface); };
+  surface->handle(press);
+  EXPECT_EQ(surface, nullptr);
+}
+
 TEST(ViewSession, IsInTheTabOrderWhileItActsOrKeepsTheFocus) {
-  constexpr hosting::PointerEvent press{hosting::PointerEvent::Phase::pressed, {50, 10}};
   Surface surface;
   EXPECT_TRUE(surface.accepts);
   surface.setAcceptsFocus(false);  // as a host may

@@ -84,7 +84,21 @@ TEST_F(ConcurrentUrlSession, AsksTheApplicationsProxy) {
   EXPECT_THAT(server.requests(place), ::testing::ElementsAre(credentials));
   EXPECT_THAT(server.requests("http://shop.invalid/?x"), ::testing::ElementsAre(credentials));
   EXPECT_THAT(secure.requests("/table"), ::testing::ElementsAre(::testing::Not(credentials)));
-  EXPECT_EQ(errorOf("https://unknown.invalid/"), QNetworkReply::ProxyConnectionRefusedError);
+  const std::string challenge = "Proxy-Authenticate: Basic realm=\"r\"\r\n";
+  server.serve("http://closed.invalid/", {httpAnswer(407, kTable, challenge)});
+  server.serve("closed.invalid:443", {httpAnswer(407, kTable, challenge)});
+  const std::string endless = "HTTP/1.1 200 OK\r\n";
+  server.serve("endless.invalid:443", {endless, SIZE_MAX, false, std::string(64 << 10, 'x')});
+  server.serve("http://lost.invalid/", redirect("http://:80/"));
+  expectErrors({
+      {"http://closed.invalid/", QNetworkReply::ProxyAuthenticationRequiredError},
+      {"https://closed.invalid/", QNetworkReply::ProxyAuthenticationRequiredError},
+      {"https://unknown.invalid/", QNetworkReply::ProxyConnectionRefusedError},
+      {"https://endless.invalid/", QNetworkReply::UnknownContentError},
+      {"http://shop.invalid:99999/", QNetworkReply::HostNotFoundError},
+      {"http:shop.invalid", QNetworkReply::HostNotFoundError},
+      {"http://lost.invalid/", QNetworkReply::HostNotFoundError},
+  });
   QNetworkProxy::setApplicationProxy(before);
   QSslConfiguration::setDefaultConfiguration(trustingNobody);
 }

@@ -33,6 +33,7 @@ std::string deflated(int status, const std::string& body) {
 }
 
 TEST_F(ConcurrentUrlSession, AnswersAreAnswersWhateverTheirStatusAndBrokenOnesAreErrors) {
+  const std::string challenge = "WWW-Authenticate: Basic realm=\"r\"\r\n";
   const std::string gzip = "Content-Encoding: gzip\r\n";
   const struct {
     const char* name;
@@ -42,6 +43,10 @@ TEST_F(ConcurrentUrlSession, AnswersAreAnswersWhateverTheirStatusAndBrokenOnesAr
   } table[] = {
       {"found", {httpAnswer(200, kTable)}, 200, kTable},
       {"not found", {httpAnswer(404, kTable)}, 404, kTable},
+      {"locked", {httpAnswer(401, kTable, challenge)}, 401, kTable},
+      {"reset", {httpAnswer(205, kTable)}, 205, kTable},
+      {"moved to nowhere", {httpAnswer(301, kTable)}, 301, kTable},
+      {"by a proxy", {httpAnswer(305, kTable, "Location: /0\r\n")}, 305, kTable},
       {"largest", {httpAnswer(200, std::string(kLimit, 'x'))}, 200, std::string(kLimit, 'x')},
       {"largest, packed", {deflated(200, text(kLimit))}, 200, text(kLimit)},
       {"too large, packed", {deflated(200, text(kLimit + 1))}},
