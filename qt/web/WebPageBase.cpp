@@ -39,11 +39,11 @@ void WebPageBase::stopLoad(std::chrono::milliseconds limit) {
   QMetaObject::invokeMethod(view(), "stop");
 }
 
-void WebPageBase::loadChanged(const QWebEngineLoadingInfo& info) {
-  if (info.status() == QWebEngineLoadingInfo::LoadStartedStatus) return client_.loading(0);
-  const bool failed = info.status() == QWebEngineLoadingInfo::LoadFailedStatus;
-  if (failed) logNotLoaded(info.url(), info.errorString());
-  client_.loadEnded(failed ? info.errorCode() : 0);
+void WebPageBase::loadChanged(int status, const QUrl& address, const QString& error, int code) {
+  if (status == QWebEngineLoadingInfo::LoadStartedStatus) return client_.loading(0);
+  const bool failed = status == QWebEngineLoadingInfo::LoadFailedStatus;
+  if (failed) logNotLoaded(address, error);
+  client_.loadEnded(failed ? code : 0);
 }
 
 void WebPageBase::processEnded() {

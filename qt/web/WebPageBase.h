@@ -8,7 +8,6 @@
 
 class QKeyEvent;
 class QTouchEvent;
-class QWebEngineLoadingInfo;
 class QWheelEvent;
 
 namespace quorix::qt {
@@ -36,7 +35,9 @@ class WebPageBase : public QObject, public WebPage {
     client_.windowAsked(toText(address), byUser);
   }
   Q_INVOKABLE void loadMoved(int percent) { client_.loading(percent); }
-  Q_INVOKABLE void loadChanged(const QWebEngineLoadingInfo& info);
+  /// `status` is a `QWebEngineLoadingInfo::LoadStatus`. The fields come one by one, since some
+  /// versions of QML cannot pass that type on.
+  Q_INVOKABLE void loadChanged(int status, const QUrl& address, const QString& error, int code);
   Q_INVOKABLE void processEnded();
   Q_INVOKABLE void answer(const QString& text) { client_.answered(text.toStdString()); }
 

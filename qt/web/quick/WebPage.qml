@@ -59,7 +59,7 @@ WebEngineView {
     Component.onCompleted: userScripts.insert(scripts)
 
     onLoadProgressChanged: if (loading) page.loadMoved(loadProgress)
-    onLoadingChanged: info => page.loadChanged(info)
+    onLoadingChanged: info => page.loadChanged(info.status, info.url, info.errorString, info.errorCode)
     onNavigationRequested: request => {
         if (!page.mayNavigate(request.url, request.isMainFrame)) request.reject();
     }

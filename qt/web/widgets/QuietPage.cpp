@@ -8,6 +8,7 @@
 #include <QWebEngineClientCertificateSelection>
 #include <QWebEngineFileSystemAccessRequest>
 #include <QWebEngineFullScreenRequest>
+#include <QWebEngineLoadingInfo>
 #include <QWebEngineNewWindowRequest>
 #include <QWebEngineRegisterProtocolHandlerRequest>
 #include <QWebEngineScriptCollection>
@@ -61,7 +62,9 @@ void QuietPage::tell() {
   connect(this, &QWebEnginePage::loadProgress, &page_, [this](int percent) {
     if (isLoading()) page_.loadMoved(percent);
   });
-  connect(this, &QWebEnginePage::loadingChanged, &page_, &WebPageBase::loadChanged);
+  connect(this, &QWebEnginePage::loadingChanged, &page_, [this](const QWebEngineLoadingInfo& info) {
+    page_.loadChanged(info.status(), info.url(), info.errorString(), info.errorCode());
+  });
   connect(this, &QWebEnginePage::newWindowRequested, &page_,
           [this](const QWebEngineNewWindowRequest& request) {
             page_.askForWindow(request.requestedUrl(), request.isUserInitiated());
