@@ -1,6 +1,5 @@
 #include "qt/QtMainQueue.h"
 
-#include <QCoreApplication>
 #include <QObject>
 #include <QTimer>
 #include <memory>
@@ -8,6 +7,7 @@
 #include <utility>
 
 #include "platform/foundation/MainQueue.h"
+#include "qt/ApplicationLifetime.h"
 
 namespace quorix::qt {
 namespace {
@@ -46,7 +46,6 @@ void applicationEnds() {
 }
 
 void applicationBegins() {
-  qAddPostRoutine(applicationEnds);  // Qt forgets its post routines with each application
   {
     const std::scoped_lock lock(receiver().mutex);
     receiver().object = std::make_unique<QObject>();
@@ -59,7 +58,7 @@ void applicationBegins() {
 void QtMainQueue::install() {
   static const bool installed = [] {
     MainQueue::install(post, startTimer);
-    qAddPreRoutine(applicationBegins);  // runs at once if there is an application
+    followApplication<applicationBegins, applicationEnds>();
     return true;
   }();
   static_cast<void>(installed);

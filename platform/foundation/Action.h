@@ -1,7 +1,6 @@
 #pragma once
 
 #include <concepts>
-#include <cstddef>
 #include <functional>
 #include <memory>
 #include <type_traits>

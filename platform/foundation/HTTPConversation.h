@@ -33,8 +33,8 @@ class QUORIX_EXPORT HTTPConversation {
     std::string send = {};  ///< bytes to send first
   };
 
-  /// `address` is percent-encoded, with the scheme http or https in lower case and without a user
-  /// or a fragment.
+  /// `address` is percent-encoded, with the scheme http or https in lower case and the name of a
+  /// server, without a user or a fragment.
   explicit HTTPConversation(std::string address, std::optional<HTTPProxy> proxy = {});
   ~HTTPConversation();
 

@@ -5,7 +5,6 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <vector>
 
 #include "platform/foundation/Error.h"
 #include "platform/foundation/Export.h"

@@ -1,7 +1,6 @@
 #include "platform/hosting/SceneLayers.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "platform/layout/Geometry.h"
 

@@ -236,22 +236,22 @@ void round(render::ImageItem&, const layout::Rect&) {}
 void round(render::StrokeItem&, const layout::Rect&) {}
 void round(render::ClipItem&, const layout::Rect&) {}
 
-void cutFill(render::FillItem& fill, const layout::Rect& inSight) {
+void clip(render::FillItem& fill, const layout::Rect& inSight) {
   fill.frame = layout::intersection(fill.frame, inSight);
 }
 
 // The painter clips these.
-void cutFill(render::TextItem&, const layout::Rect&) {}
-void cutFill(render::ImageItem&, const layout::Rect&) {}
-void cutFill(render::StrokeItem&, const layout::Rect&) {}
-void cutFill(render::ClipItem&, const layout::Rect&) {}
-void cutFill(render::EmbedItem&, const layout::Rect&) {}
+void clip(render::TextItem&, const layout::Rect&) {}
+void clip(render::ImageItem&, const layout::Rect&) {}
+void clip(render::StrokeItem&, const layout::Rect&) {}
+void clip(render::ClipItem&, const layout::Rect&) {}
+void clip(render::EmbedItem&, const layout::Rect&) {}
 
 }  // namespace
 
 void SheetGeometry::cut(render::Scene& scene, const layout::Rect& inSight) {
   for (render::Item& item : scene.items) {
-    std::visit([&](auto& shown) { cutFill(shown, inSight); }, item);
+    std::visit([&](auto& shown) { clip(shown, inSight); }, item);
   }
   for (render::HitArea& area : scene.hitAreas) {
     area.frame = layout::intersection(area.frame, inSight);

@@ -3,7 +3,6 @@
 #include <QHostInfo>
 #include <QSslSocket>
 #include <algorithm>
-#include <string>
 #include <utility>
 
 #include "platform/foundation/TransferRules.h"

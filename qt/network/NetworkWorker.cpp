@@ -2,7 +2,6 @@
 
 #include <QDeadlineTimer>
 #include <future>
-#include <optional>
 #include <thread>
 #include <utility>
 

@@ -3,8 +3,6 @@
 #include <QObject>
 #include <QThread>
 #include <chrono>
-#include <cstdint>
-#include <functional>
 #include <map>
 #include <memory>
 #include <mutex>

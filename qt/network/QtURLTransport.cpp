@@ -1,6 +1,5 @@
 #include "qt/network/QtURLTransport.h"
 
-#include <QCoreApplication>
 #include <cstdlib>
 #include <memory>
 #include <mutex>
@@ -8,6 +7,7 @@
 #include <vector>
 
 #include "platform/foundation/MainQueue.h"
+#include "qt/ApplicationLifetime.h"
 #include "qt/network/NetworkWorker.h"
 
 namespace quorix::qt {
@@ -52,7 +52,6 @@ void endWithApplication() {
 }
 
 void beginWithApplication() {
-  qAddPostRoutine(endWithApplication);  // Qt forgets its post routines with each application
   const std::scoped_lock lock(networkThread().mutex);
   networkThread().applicationAlive = true;
 }
@@ -61,8 +60,8 @@ void beginWithApplication() {
 
 QtURLTransport::QtURLTransport(std::chrono::milliseconds timeLimit) : timeLimit_(timeLimit) {
   static const bool watching = [] {
-    qAddPreRoutine(beginWithApplication);  // at once when there is an application already
-    std::atexit(endWithApplication);       // for a host that exits with its application still there
+    followApplication<beginWithApplication, endWithApplication>();
+    std::atexit(endWithApplication);  // for a host that exits with its application still there
     return true;
   }();
   static_cast<void>(watching);

@@ -3,7 +3,6 @@
 #include <QColor>
 #include <QPointer>
 #include <QQuickItem>
-#include <optional>
 
 #include "qt/SheetSurface.h"
 #include "qt/quick/QuickAccessibleSurface.h"

@@ -3,7 +3,6 @@
 #include <QColor>
 #include <QQuickItem>
 #include <functional>
-#include <memory>
 #include <vector>
 
 #include "qt/SheetSurface.h"

@@ -4,7 +4,6 @@
 #include <QQuickWindow>
 #include <algorithm>
 #include <utility>
-#include <vector>
 
 #include "qt/Conversions.h"
 #include "qt/Desktop.h"

@@ -3,7 +3,6 @@
 #include <QImage>
 #include <QPointer>
 #include <QWidget>
-#include <optional>
 #include <vector>
 
 #include "platform/foundation/Export.h"

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/hosting/FocusRing.h"
 #include "qt/Desktop.h"
 #include "qt/Picture.h"
 #include "qt/WindowScene.h"
@@ -35,7 +36,7 @@ class FocusFrame : public QFocusFrame {
 
 namespace {
 
-constexpr int kMargin = 4;  // points that the ring reaches beyond the widget
+constexpr int kMargin = int(hosting::FocusRing::outset);
 
 /// Makes room for the ring, above the other widgets in the parent.
 class FrameStyle : public QProxyStyle {
