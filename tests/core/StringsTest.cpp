@@ -53,9 +53,6 @@ TEST(StringFormat, ShowsNumbersAsTheCLibraryDoes) {
       const std::string start = "%" + flags + size;
       for (const char letter : std::string_view("fFeEgGaA")) {
         for (const double value : numbers) {
-          // Libraries differ in the digits of a subnormal number before its point.
-          const bool hex = letter == 'a' || letter == 'A';
-          if (hex && value != 0 && std::fabs(value) < Limits::min()) continue;
           expectAsInC(start + letter, start + letter, value);
         }
       }
