@@ -2,10 +2,8 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
-#include <limits>
 
 #include "fuzz/Expect.h"
-#include "platform/foundation/FormatConversion.h"
 #include "platform/foundation/StringFormat.h"
 
 using namespace quorix::foundation;
@@ -19,20 +17,16 @@ std::string forTheCLibrary(const FormatConversion& conversion) {
     return {};
   }
   std::string format = "%";
-  if (conversion.left) format += '-';
-  if (conversion.plus) format += '+';
-  if (conversion.blank) format += ' ';
-  if (conversion.alternate) format += '#';
-  if (conversion.zeros) format += '0';
+  for (const char flag : conversion.flags) {
+    if (flag != '\'') format += flag;
+  }
   if (conversion.width.value) format += std::to_string(*conversion.width.value);
   if (conversion.precision.value) format += '.' + std::to_string(*conversion.precision.value);
   return format + conversion.letter;
 }
 
 void compare(const std::string& format, double number) {
-  const bool isSubnormal = number != 0 && std::fabs(number) < std::numeric_limits<double>::min();
-  const bool hex = format.ends_with('a') || format.ends_with('A');
-  if (format.empty() || std::isnan(number) || (isSubnormal && hex)) return;
+  if (format.empty() || std::isnan(number)) return;
   char expected[2048];
   std::snprintf(expected, sizeof expected, format.c_str(), number);
   expect(formatted(format, {number}) == expected, "a number shows as the C library shows it");

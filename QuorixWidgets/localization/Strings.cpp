@@ -6,7 +6,6 @@
 #include <optional>
 
 #include "QuorixWidgets/localization/ResourceBundle.h"
-#include "platform/foundation/FormatConversion.h"
 #include "platform/foundation/LocalizedString.h"
 
 namespace quorix {
@@ -91,7 +90,8 @@ std::string mistake(const FormatConversion& conversion, FormatConversion::Kind w
     const bool number = wanted == FormatConversion::Kind::number;
     return "has " + source + ", which does not match its argument, a " +
            (number ? "number (%.0f)" : "text (%@)") +
-           (conversion.blank ? "; a percent sign is written %%" : "");
+           (conversion.flags.find(' ') != std::string_view::npos ? "; a percent sign is written %%"
+                                                                 : "");
   }
   if (conversion.argument > 0 || conversion.width.argument || conversion.precision.argument) {
     return "has " + source + ", which asks for a second argument";

@@ -5,7 +5,7 @@
 #include <string>
 #include <utility>
 
-#include "QuorixWidgets/overlay/OverlayAddress.h"
+#include "QuorixWidgets/localization/ServiceAddresses.h"
 #include "platform/foundation/Bundle.h"
 #include "platform/uikit/UIImageView.h"
 #include "platform/uikit/UIViewController.h"

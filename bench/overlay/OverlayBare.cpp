@@ -4,7 +4,7 @@
 #include <QQmlComponent>
 #include <QQmlEngine>
 
-#include "QuorixWidgets/overlay/OverlayAddress.h"
+#include "QuorixWidgets/localization/ServiceAddresses.h"
 #include "bench/BenchApplication.h"
 #include "bench/overlay/OverlayClock.h"
 

@@ -2,9 +2,12 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <iterator>
+#include <list>
 #include <memory>
 #include <mutex>
 #include <string_view>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -67,6 +70,78 @@ class ParsedFileCache {
 
   const Parse parse_;
   Cache<Data, Ref> files_{4};  // a screen uses one language or two
+};
+
+/// The entries of a cache that were used last, up to a bound, found by a hash. A new entry takes
+/// over the oldest one's memory. For large caches of one thread; `Cache` is simpler.
+///
+///     RecentEntries<Word> words(256);
+///     Word* word = words.find(hash, [&](const Word& known) { return known.text == text; });
+///     if (!word) (word = &words.add(hash))->text = text;
+template <class Entry>
+class RecentEntries {
+ public:
+  explicit RecentEntries(std::size_t most) : most_(most) {}
+
+  std::size_t size() const { return nodes_.size(); }
+
+  /// The entry of `hash` that `matches` accepts, which is the one used last from now on; null if
+  /// there is none.
+  template <class Matches>
+  Entry* find(std::size_t hash, Matches matches) {
+    const auto [first, last] = index_.equal_range(hash);
+    for (auto row = first; row != last; ++row) {
+      if (!matches(std::as_const(row->second->entry))) continue;
+      nodes_.splice(nodes_.begin(), nodes_, row->second);
+      return &nodes_.front().entry;
+    }
+    return nullptr;
+  }
+
+  /// Adds an entry as the one used last. At the bound it is the oldest one, with its old content.
+  Entry& add(std::size_t hash) {
+    if (nodes_.size() < most_) {
+      nodes_.emplace_front();
+      index_.emplace(hash, nodes_.begin());
+    } else {
+      const auto oldest = std::prev(nodes_.end());
+      auto row = index_.extract(rowOf(oldest));
+      row.key() = hash;
+      index_.insert(std::move(row));
+      nodes_.splice(nodes_.begin(), nodes_, oldest);
+    }
+    nodes_.front().hash = hash;
+    return nodes_.front().entry;
+  }
+
+  const Entry& oldest() const { return nodes_.back().entry; }
+
+  void dropOldest() {
+    index_.erase(rowOf(std::prev(nodes_.end())));
+    nodes_.pop_back();
+  }
+
+  void clear() {
+    index_.clear();
+    nodes_.clear();
+  }
+
+ private:
+  struct Node {
+    std::size_t hash = 0;
+    Entry entry{};
+  };
+  using Nodes = std::list<Node>;
+  using Index = std::unordered_multimap<std::size_t, typename Nodes::iterator>;
+
+  typename Index::iterator rowOf(typename Nodes::iterator node) {
+    const auto [first, last] = index_.equal_range(node->hash);
+    return std::find_if(first, last, [&](const auto& row) { return row.second == node; });
+  }
+
+  const std::size_t most_;
+  Nodes nodes_;  ///< the one used last comes first
+  Index index_;
 };
 
 }  // namespace quorix::foundation

@@ -2,14 +2,11 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cmath>
-#include <cstddef>
-#include <cstdint>
+#include <cstdio>
 #include <limits>
-#include <optional>
+#include <utility>
 
-#include "platform/foundation/FormatConversion.h"
 #include "platform/foundation/Numbers.h"
 
 namespace quorix::foundation {
@@ -18,138 +15,93 @@ namespace {
 using Kind = FormatConversion::Kind;
 using Arguments = std::vector<FormatArgument>;
 
-constexpr int defaultPrecision = 6;
+bool isOneOf(std::string_view letters, char letter) { return letters.find(letter) != letters.npos; }
 
-/// The digits of `magnitude`, which is finite and not negative. Without a precision, the shortest
-/// exact digits.
-std::string digits(double magnitude, std::chars_format form, std::optional<int> precision) {
-  // The longest double has 309 digits before its point.
-  std::array<char, 320 + FormatConversion::largestSize> buffer;
-  char* const end = buffer.data() + buffer.size();
-  const auto written = precision ? std::to_chars(buffer.data(), end, magnitude, form, *precision)
-                                 : std::to_chars(buffer.data(), end, magnitude, form);
-  return written.ec == std::errc() ? std::string(buffer.data(), written.ptr) : std::string();
+Kind kindOf(char letter) {
+  if (isOneOf("fFeEgGaA", letter)) return Kind::number;
+  if (isOneOf("diDuUoOxX", letter)) return Kind::integer;
+  if (isOneOf("@sS", letter)) return Kind::text;
+  if (isOneOf("cCp", letter)) return Kind::character;
+  if (letter == 'n') return Kind::none;
+  return letter == '%' ? Kind::percent : Kind::unknown;
 }
 
-/// Adds the point that "#" requires even without digits after it.
-void addPoint(std::string& text, char exponentLetter) {
-  if (text.find('.') != text.npos) return;
-  text.insert(std::min(text.find(exponentLetter), text.size()), 1, '.');
-}
+/// Reads the conversions of a format one after the other and counts the arguments that they take.
+class FormatReader {
+ public:
+  explicit FormatReader(std::string_view format) : format_(format) {}
 
-/// "%#g" keeps the zeros that "%g" drops.
-std::string generalWithZeros(double magnitude, int precision) {
-  const int significant = std::max(precision, 1);
-  std::string scientific = digits(magnitude, std::chars_format::scientific, significant - 1);
-  const std::size_t mark = scientific.find('e') + 1;
-  int exponent = 0;
-  std::from_chars(scientific.data() + mark + (scientific[mark] == '+' ? 1 : 0),
-                  scientific.data() + scientific.size(), exponent);
-  if (exponent < -4 || exponent >= significant) return scientific;
-  return digits(magnitude, std::chars_format::fixed, significant - 1 - exponent);
-}
-
-std::string magnitudeText(double magnitude, char form, bool alternate,
-                          std::optional<int> precision) {
-  const int places = precision.value_or(defaultPrecision);
-  std::string text;
-  switch (form) {
-    case 'f':
-      text = digits(magnitude, std::chars_format::fixed, places);
-      break;
-    case 'e':
-      text = digits(magnitude, std::chars_format::scientific, places);
-      break;
-    case 'g':
-      text = alternate ? generalWithZeros(magnitude, places)
-                       : digits(magnitude, std::chars_format::general, places);
-      break;
-    default:
-      text = "0x" + digits(magnitude, std::chars_format::hex, precision);
-      break;
+  /// The next conversion, "%%" and unknown ones included; absent at the end.
+  std::optional<FormatConversion> next() {
+    const std::size_t start = format_.find('%', at_);
+    if (start == format_.npos) return std::nullopt;
+    at_ = start + 1;
+    FormatConversion conversion;
+    const auto position = readPosition();
+    conversion.flags = takeAll("-+ #0'");
+    conversion.width = readSize();
+    if (take('.')) {
+      conversion.precision = readSize();
+      if (!conversion.precision.argument && !conversion.precision.value) {
+        conversion.precision.value = 0;
+      }
+    }
+    takeAll("hlqLzjt");
+    if (at_ < format_.size()) conversion.letter = format_[at_++];
+    // A letter beyond ASCII is not a conversion. Skip all its bytes.
+    const auto bits = [](char byte) { return static_cast<unsigned char>(byte) & 0xC0; };
+    if (bits(conversion.letter) >= 0x80) {
+      while (at_ < format_.size() && bits(format_[at_]) == 0x80) ++at_;
+    }
+    conversion.kind = kindOf(conversion.letter);
+    conversion.source = format_.substr(start, at_ - start);
+    if (conversion.takesArgument()) conversion.argument = position ? *position : next_++;
+    return conversion;
   }
-  if (alternate) addPoint(text, form == 'a' ? 'p' : 'e');
-  return text;
-}
 
-std::string_view signOf(bool negative, const FormatConversion& conversion) {
-  if (negative) return "-";
-  if (conversion.plus) return "+";
-  return conversion.blank ? " " : "";
-}
-
-void makeUpper(std::string& text) {
-  for (char& c : text) {
-    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+ private:
+  bool take(char c) {
+    if (at_ == format_.size() || format_[at_] != c) return false;
+    ++at_;
+    return true;
   }
-}
 
-std::string floating(double number, const FormatConversion& conversion,
-                     std::optional<int> precision) {
-  if (std::isnan(number)) return conversion.letter >= 'a' ? "nan" : "NAN";
-  std::string text(signOf(std::signbit(number), conversion));
-  const bool upper = conversion.letter < 'a';
-  const char form = upper ? static_cast<char>(conversion.letter - 'A' + 'a') : conversion.letter;
-  text += std::isinf(number)
-              ? "inf"
-              : magnitudeText(std::fabs(number), form, conversion.alternate, precision);
-  if (upper) makeUpper(text);
-  return text;
-}
+  std::string_view takeAll(std::string_view letters) {
+    const std::size_t end = std::min(format_.find_first_not_of(letters, at_), format_.size());
+    const std::size_t start = std::exchange(at_, end);
+    return format_.substr(start, end - start);
+  }
 
-/// `number` truncated toward 0 and clamped to the 64-bit range.
-template <class Integer>
-Integer wholePart(double number) {
-  using Limits = std::numeric_limits<Integer>;
-  if (std::isnan(number)) return 0;
-  if (number >= std::ldexp(1.0, Limits::digits)) return Limits::max();
-  if (number <= static_cast<double>(Limits::min())) return Limits::min();
-  return static_cast<Integer>(number);
-}
+  std::optional<int> readNumber() {
+    const std::string_view digits = takeAll("0123456789");
+    if (digits.empty()) return std::nullopt;
+    int number = 0;
+    for (const char digit : digits) {
+      number = std::min(number * 10 + (digit - '0'), FormatConversion::largestSize);
+    }
+    return number;
+  }
 
-std::string integer(double number, const FormatConversion& conversion,
-                    std::optional<int> precision) {
-  const bool isSigned = std::string_view("dDi").find(conversion.letter) != std::string_view::npos;
-  const auto value = wholePart<std::int64_t>(number);
-  const bool negative = isSigned && value < 0;
-  // Like printf, an unsigned conversion shows the bits of a negative integer.
-  auto magnitude = static_cast<std::uint64_t>(value);
-  if (negative) magnitude = 0 - magnitude;
-  if (!isSigned && number > 0) magnitude = wholePart<std::uint64_t>(number);
+  /// The index of the argument that "2$" names, counted from 0. Without a position, reads nothing
+  /// and is absent.
+  std::optional<std::size_t> readPosition() {
+    const std::size_t start = at_;
+    const auto number = readNumber();
+    if (number && *number > 0 && take('$')) return static_cast<std::size_t>(*number - 1);
+    at_ = start;
+    return std::nullopt;
+  }
 
-  const bool octal = conversion.letter == 'o' || conversion.letter == 'O';
-  const bool hex = conversion.letter == 'x' || conversion.letter == 'X';
-  std::array<char, 24> buffer;
-  const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), magnitude,
-                                     octal ? 8
-                                     : hex ? 16
-                                           : 10);
-  std::string text(buffer.data(), written.ptr);
-  if (magnitude == 0 && precision == 0) text.clear();
-  const auto least = static_cast<std::size_t>(precision.value_or(1));
-  if (text.size() < least) text.insert(0, least - text.size(), '0');
-  if (conversion.alternate && octal && !text.starts_with('0')) text.insert(0, 1, '0');
-  if (conversion.alternate && hex && magnitude != 0) text.insert(0, "0x");
-  if (conversion.letter == 'X') makeUpper(text);
-  if (isSigned) text.insert(0, signOf(negative, conversion));
-  return text;
-}
+  FormatConversion::Size readSize() {
+    if (!take('*')) return {readNumber(), std::nullopt};
+    const auto position = readPosition();
+    return {std::nullopt, position ? *position : next_++};
+  }
 
-/// `number` as printf writes it for `conversion`, without its width. `precision` replaces the
-/// conversion's own; absent, it is the default. Numbers beyond 64 bits show as the nearest integer.
-std::string formattedNumber(double number, const FormatConversion& conversion,
-                            std::optional<int> precision) {
-  return conversion.kind == FormatConversion::Kind::number ? floating(number, conversion, precision)
-                                                           : integer(number, conversion, precision);
-}
-
-/// The index in `text` at which zeros are inserted to fill a width: after its sign and "0x".
-std::size_t endOfSign(std::string_view text) {
-  std::size_t end = text.find_first_not_of("+- ") == 1 ? 1 : 0;
-  const std::string_view rest = text.substr(end);
-  if (rest.starts_with("0x") || rest.starts_with("0X")) end += 2;
-  return end;
-}
+  std::string_view format_;
+  std::size_t at_ = 0;
+  std::size_t next_ = 0;
+};
 
 /// The value of a width or precision. Only an argument can make it negative. Absent if there is
 /// none, or if its argument is not a number.
@@ -162,30 +114,54 @@ std::optional<int> sizeOf(const FormatConversion::Size& size, const Arguments& a
   return static_cast<int>(std::clamp(*number, -largest, largest));
 }
 
-void fill(std::string& text, int width, const FormatConversion& conversion, bool zeros) {
-  const bool left = conversion.left || width < 0;
-  const auto wanted = static_cast<std::size_t>(std::abs(width));
-  if (text.size() >= wanted) return;
-  const std::size_t missing = wanted - text.size();
-  if (left) {
-    text.append(missing, ' ');
-  } else if (zeros) {
-    text.insert(endOfSign(text), missing, '0');
-  } else {
-    text.insert(0, missing, ' ');
-  }
+/// `number` truncated toward 0 and clamped to the 64-bit range.
+template <class Integer>
+Integer wholePart(double number) {
+  using Limits = std::numeric_limits<Integer>;
+  if (std::isnan(number)) return 0;
+  if (number >= std::ldexp(1.0, Limits::digits)) return Limits::max();
+  if (number <= static_cast<double>(Limits::min())) return Limits::min();
+  return static_cast<Integer>(number);
+}
+
+/// Replaces the decimal separator of the process's locale.
+void writePoint(std::string& number) {
+  constexpr std::string_view others = "0123456789abcdefinpxABCDEFINPX+- ";
+  const std::size_t first = number.find_first_not_of(others);
+  if (first == number.npos) return;
+  number.replace(first, number.find_last_not_of(others) - first + 1, ".");
 }
 
 std::string numberText(double number, const FormatConversion& conversion,
                        const Arguments& arguments) {
-  auto precision = sizeOf(conversion.precision, arguments);
-  if (precision && *precision < 0) precision.reset();
-  std::string text = formattedNumber(number, conversion, precision);
-  const bool takesZeros =
-      conversion.kind == Kind::number ? std::isfinite(number) : !precision.has_value();
-  fill(text, sizeOf(conversion.width, arguments).value_or(0), conversion,
-       conversion.zeros && takesZeros);
-  return text;
+  const bool isNaN = std::isnan(number);  // without a sign
+  std::string format = "%";
+  for (const char flag : conversion.flags) {
+    if (flag != '\'' && !(isNaN && isOneOf("+ ", flag))) format += flag;
+  }
+  format += "*.*";
+  // A negative width means the flag "-", a negative precision none.
+  const int width = sizeOf(conversion.width, arguments).value_or(0);
+  const int precision = sizeOf(conversion.precision, arguments).value_or(-1);
+  // The longest double has 309 digits before its point.
+  std::array<char, 320 + FormatConversion::largestSize> text;
+  const auto print = [&](auto value) {
+    std::snprintf(text.data(), text.size(), format.c_str(), width, precision, value);
+    return std::string(text.data());
+  };
+  if (conversion.kind == Kind::number) {
+    format += conversion.letter;
+    std::string shown = print(isNaN ? std::fabs(number) : number);
+    writePoint(shown);
+    return shown;
+  }
+  const bool isCapital = isOneOf("DUO", conversion.letter);
+  const char letter = isCapital ? static_cast<char>(conversion.letter + 32) : conversion.letter;
+  format.append("ll") += letter;
+  // An unsigned conversion shows the bits of a negative integer.
+  const auto whole = wholePart<long long>(number);
+  const bool isUnsigned = !isOneOf("di", letter) && number > 0;
+  return isUnsigned ? print(wholePart<unsigned long long>(number)) : print(whole);
 }
 
 void append(std::string& to, const FormatConversion& conversion, const Arguments& arguments) {
@@ -227,6 +203,13 @@ std::string formatted(std::string_view format, const std::vector<FormatArgument>
   }
   text.append(format, at);
   return text;
+}
+
+std::vector<FormatConversion> conversions(std::string_view format) {
+  std::vector<FormatConversion> found;
+  FormatReader reader(format);
+  while (auto conversion = reader.next()) found.push_back(*conversion);
+  return found;
 }
 
 }  // namespace quorix::foundation

@@ -4,9 +4,9 @@
 #include <unicode/utf8.h>
 
 #include <algorithm>
-#include <iterator>
 #include <optional>
 #include <pugixml.hpp>
+#include <utility>
 
 namespace quorix::foundation {
 namespace {
@@ -22,116 +22,46 @@ std::size_t lineAt(std::string_view text, std::size_t offset) {
   return line;
 }
 
-Error error(StringsFileErrorCode code, std::string_view text, std::size_t offset,
-            const std::string& what) {
-  return {"StringsFile", static_cast<std::int64_t>(code),
-          "line " + std::to_string(lineAt(text, offset)) + ": " + what};
-}
-
-constexpr std::string_view otherValues[] = {"array", "data", "date",    "dict",
-                                            "false", "real", "integer", "true"};
-
-std::optional<pugi::xml_node> firstElement(const pugi::xml_node& parent) {
-  for (const pugi::xml_node& child : parent.children()) {
-    if (child.type() == pugi::node_element) return child;
-  }
-  return std::nullopt;
-}
-
-/// The text of an element; absent if it has child elements.
-std::optional<std::string> textOf(const pugi::xml_node& element) {
-  std::string text;
-  for (const pugi::xml_node& child : element.children()) {
-    if (child.type() == pugi::node_element) return std::nullopt;
-    text += child.value();
-  }
-  return text;
-}
-
 /// Reads the XML form.
-class XMLReader {
- public:
-  explicit XMLReader(std::string_view text) : text_(text) {}
+Result<StringTable> readXML(std::string_view text) {
+  pugi::xml_document document;
+  const auto failed = [&](std::ptrdiff_t offset, const std::string& what) {
+    return stringsFileError(text, static_cast<std::size_t>(std::max<std::ptrdiff_t>(offset, 0)),
+                            what);
+  };
+  const auto unexpected = [&](const pugi::xml_node& element) {
+    return failed(element.offset_debug(), "unexpected <" + std::string(element.name()) + '>');
+  };
+  const auto isElement = [](const pugi::xml_node& node) {
+    return node.type() == pugi::node_element;
+  };
+  const auto parsed =
+      document.load_buffer(text.data(), text.size(),
+                           pugi::parse_default | pugi::parse_ws_pcdata_single, pugi::encoding_utf8);
+  if (!parsed) return failed(parsed.offset, parsed.description());
+  pugi::xml_node root = document.document_element();
+  if (std::string_view(root.name()) == "plist") root = root.find_child(isElement);
+  if (!root) return stringsFileError(text, text.size(), "the property list is empty");
+  if (std::string_view(root.name()) != "dict") return unexpected(root);
 
-  Result<StringTable> read() {
-    const auto parsed = document_.load_buffer(text_.data(), text_.size(),
-                                              pugi::parse_default | pugi::parse_ws_pcdata_single,
-                                              pugi::encoding_utf8);
-    if (!parsed) {
-      return malformedStringsFile(text_, static_cast<std::size_t>(parsed.offset),
-                                  parsed.description());
+  StringTable table;
+  std::optional<std::string> key;
+  for (const pugi::xml_node& element : root.children()) {
+    if (!isElement(element)) continue;
+    if (std::string_view(element.name()) != (key ? "string" : "key")) return unexpected(element);
+    std::string words;
+    for (const pugi::xml_node& part : element.children()) {
+      if (isElement(part)) return unexpected(part);
+      words += part.value();
     }
-    auto root = firstElement(document_);
-    if (root && name(*root) == "plist") root = firstElement(*root);
-    if (!root) return malformedStringsFile(text_, text_.size(), "the property list is empty");
-    if (name(*root) == "dict") return table(*root);
-    if (name(*root) == "string" || isOtherValue(*root)) {
-      return notAStringTable(text_, offset(*root), "no table but a value: " + tag(*root));
+    if (key) {
+      table.insert_or_assign(*std::exchange(key, std::nullopt), std::move(words));
+    } else {
+      key = std::move(words);
     }
-    return unknown(*root);
   }
-
- private:
-  static std::string_view name(const pugi::xml_node& element) { return element.name(); }
-  static std::string tag(const pugi::xml_node& element) {
-    return '<' + std::string(name(element)) + '>';
-  }
-  static bool isOtherValue(const pugi::xml_node& element) {
-    return std::ranges::find(otherValues, name(element)) != std::end(otherValues);
-  }
-  static std::size_t offset(const pugi::xml_node& element) {
-    return static_cast<std::size_t>(std::max<std::ptrdiff_t>(element.offset_debug(), 0));
-  }
-  Error unknown(const pugi::xml_node& element) const {
-    return malformedStringsFile(text_, offset(element), "unexpected " + tag(element));
-  }
-
-  Result<StringTable> table(const pugi::xml_node& dictionary) const {
-    StringTable table;
-    std::map<std::string, pugi::xml_node> others;
-    std::optional<std::string> key;
-    for (const pugi::xml_node& element : dictionary.children()) {
-      if (element.type() != pugi::node_element) continue;
-      const bool isText = name(element) == (key ? "string" : "key");
-      if (!isText && !(key && isOtherValue(element))) return unknown(element);
-      const auto text = isText ? textOf(element) : std::nullopt;
-      if (isText && !text) return unknown(*firstElement(element));
-      if (!key) {
-        key = text;
-        continue;
-      }
-      others.erase(*key);
-      table.erase(*key);
-      if (text) {
-        table.emplace(*key, *text);
-      } else {
-        others.emplace(*key, element);
-      }
-      key.reset();
-    }
-    if (key) return malformedStringsFile(text_, offset(dictionary), "no value for \"" + *key + '"');
-    if (others.empty()) return table;
-    const auto& [otherKey, element] = *others.begin();
-    return notAStringTable(text_, offset(element), "the value of \"" + otherKey + "\" is no text");
-  }
-
-  std::string_view text_;
-  pugi::xml_document document_;
-};
-
-constexpr std::string_view utf8Mark = "\xEF\xBB\xBF";
-constexpr std::string_view utf16LittleMark = "\xFF\xFE";
-constexpr std::string_view utf16BigMark = "\xFE\xFF";
-
-std::string fromUTF16(std::string_view bytes, bool bigEndian) {
-  icu::UnicodeString units;
-  for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
-    const auto first = static_cast<unsigned char>(bytes[i]);
-    const auto second = static_cast<unsigned char>(bytes[i + 1]);
-    units.append(static_cast<char16_t>(bigEndian ? first << 8 | second : second << 8 | first));
-  }
-  std::string text;
-  return units.toUTF8String(text);
+  if (key) return failed(root.offset_debug(), "no value for \"" + *key + '"');
+  return table;
 }
 
 /// The offset of the first byte of `text` that is not UTF-8.
@@ -147,41 +77,35 @@ std::optional<std::size_t> firstInvalidByte(std::string_view text) {
   return std::nullopt;
 }
 
-bool isXML(std::string_view text) {
-  text.remove_prefix(std::min(text.find_first_not_of(" \t\r\n"), text.size()));
-  // "<" alone does not mean XML: in the text form it starts bytes, "<0f 1a>".
-  return text.starts_with("<?") || text.starts_with("<!") || text.starts_with("<plist") ||
-         text.starts_with("<dict");
-}
-
 Result<StringTable> read(std::string_view text) {
   if (const auto invalid = firstInvalidByte(text)) {
-    return malformedStringsFile(text, *invalid, "a byte that is not UTF-8");
+    return stringsFileError(text, *invalid, "a byte that is not UTF-8");
   }
-  return isXML(text) ? XMLReader(text).read() : readTextPropertyList(text);
+  const std::size_t first = text.find_first_not_of(" \t\r\n");
+  const bool isXML = first != text.npos && text[first] == '<';
+  return isXML ? readXML(text) : readTextPropertyList(text);
 }
 
 }  // namespace
 
 Result<StringTable> readStringsFile(std::string_view bytes) {
-  if (bytes.empty()) return malformedStringsFile(bytes, 0, "the file is empty");
+  if (bytes.empty()) return stringsFileError(bytes, 0, "the file is empty");
   if (bytes.starts_with("bplist")) {
-    return malformedStringsFile(bytes, 0, "a binary property list; convert it to text");
+    return stringsFileError(bytes, 0, "a binary property list; convert it to text");
   }
-  if (bytes.starts_with(utf16LittleMark) || bytes.starts_with(utf16BigMark)) {
-    if (bytes.size() % 2 != 0) return malformedStringsFile({}, 0, "UTF-16 of an odd length");
-    return read(fromUTF16(bytes.substr(2), bytes.starts_with(utf16BigMark)));
+  if (bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF")) {
+    if (bytes.size() % 2 != 0) return stringsFileError({}, 0, "UTF-16 of an odd length");
+    const auto size = static_cast<std::int32_t>(bytes.size());
+    std::string text;
+    return read(icu::UnicodeString(bytes.data(), size, "UTF-16").toUTF8String(text));
   }
-  if (bytes.starts_with(utf8Mark)) bytes.remove_prefix(utf8Mark.size());
+  constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+  if (bytes.starts_with(byteOrderMark)) bytes.remove_prefix(byteOrderMark.size());
   return read(bytes);
 }
 
-Error malformedStringsFile(std::string_view text, std::size_t offset, const std::string& what) {
-  return error(StringsFileErrorCode::malformed, text, offset, what);
-}
-
-Error notAStringTable(std::string_view text, std::size_t offset, const std::string& what) {
-  return error(StringsFileErrorCode::notATable, text, offset, what);
+Error stringsFileError(std::string_view text, std::size_t offset, const std::string& what) {
+  return {"StringsFile", 1, "line " + std::to_string(lineAt(text, offset)) + ": " + what};
 }
 
 }  // namespace quorix::foundation

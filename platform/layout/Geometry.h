@@ -116,9 +116,18 @@ struct Alignment {
 };
 
 /// The offset at which an extent of `inner` starts inside one of `outer`.
-double alignedOffset(HorizontalAlignment alignment, double outer, double inner);
-double alignedOffset(VerticalAlignment alignment, double outer, double inner);
-Point alignedOffset(Alignment alignment, Size outer, Size inner);
+inline double alignedOffset(HorizontalAlignment alignment, double outer, double inner) {
+  if (alignment == HorizontalAlignment::leading) return 0;
+  return alignment == HorizontalAlignment::center ? (outer - inner) / 2 : outer - inner;
+}
+inline double alignedOffset(VerticalAlignment alignment, double outer, double inner) {
+  if (alignment == VerticalAlignment::top) return 0;
+  return alignment == VerticalAlignment::center ? (outer - inner) / 2 : outer - inner;
+}
+inline Point alignedOffset(Alignment alignment, Size outer, Size inner) {
+  return {alignedOffset(alignment.horizontal, outer.width, inner.width),
+          alignedOffset(alignment.vertical, outer.height, inner.height)};
+}
 
 /// The part of a surface that the device does not cover (with a camera cut-out or bars), and the
 /// insets around it.

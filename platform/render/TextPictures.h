@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <utility>
 
-#include "platform/foundation/RecentEntries.h"
+#include "platform/foundation/Cache.h"
 #include "platform/graphics/RGBA.h"
 #include "platform/render/Scene.h"
 #include "platform/text/AttributedText.h"

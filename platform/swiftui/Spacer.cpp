@@ -1,24 +1,16 @@
 #include <algorithm>
 #include <optional>
 
-#include "platform/layout/StackDistribution.h"
 #include "platform/swiftui/Elements.h"
 #include "platform/swiftui/Evaluator.h"
 #include "platform/swiftui/LayoutPass.h"
+#include "platform/swiftui/Stack.h"
 #include "platform/swiftui/TreePrinter.h"
 
 namespace quorix::swiftui {
 namespace {
 
 using layout::Axis;
-
-struct ShownSpacer final : Element {
-  ShownSpacer(const ElementRules& kind, Axis stackAxis) : Element(kind), axis(stackAxis) {
-    isSpacer = true;
-  }
-
-  Axis axis;  ///< of the enclosing stack
-};
 
 class SpacerNode final : public Node, public ElementRules {
  public:
@@ -29,11 +21,13 @@ class SpacerNode final : public Node, public ElementRules {
   }
 
   void evaluate(Evaluator& in, const Look&, Axis axis, ElementList& out) const override {
-    out.append(in.make<ShownSpacer>(static_cast<const ElementRules&>(*this), axis));
+    auto* self = in.make<ElementAlongAxis>(*this, axis);
+    self->isSpacer = true;
+    out.append(self);
   }
 
   layout::Size measure(LayoutPass&, Element& self, layout::ProposedSize proposal) const override {
-    const bool horizontal = axisOf(self) == Axis::horizontal;
+    const bool horizontal = ElementAlongAxis::axisOf(self) == Axis::horizontal;
     const double length =
         std::max(leastLength(), (horizontal ? proposal.width : proposal.height).value_or(0));
     return horizontal ? layout::Size{length, 0} : layout::Size{0, length};
@@ -42,14 +36,13 @@ class SpacerNode final : public Node, public ElementRules {
   void place(LayoutPass&, Element&, layout::ProposedSize) const override {}
 
   double leastWidth(LayoutPass&, Element& self) const override {
-    return axisOf(self) == Axis::horizontal ? leastLength() : 0;
+    return ElementAlongAxis::axisOf(self) == Axis::horizontal ? leastLength() : 0;
   }
 
   void show(DisplayListBuilder&, const Element&) const override {}
 
  private:
-  static Axis axisOf(const Element& self) { return static_cast<const ShownSpacer&>(self).axis; }
-  double leastLength() const { return minLength_.value_or(layout::defaultSpacing); }
+  double leastLength() const { return minLength_.value_or(defaultSpacing); }
 
   std::optional<double> minLength_;
 };

@@ -1,11 +1,10 @@
 #include "platform/swiftui/Stack.h"
 
 #include <algorithm>
-#include <utility>
+#include <tuple>
 #include <vector>
 
 #include "platform/layout/Geometry.h"
-#include "platform/layout/StackDistribution.h"
 #include "platform/swiftui/DisplayListBuilder.h"
 #include "platform/swiftui/Elements.h"
 #include "platform/swiftui/Evaluator.h"
@@ -18,7 +17,6 @@ namespace {
 using layout::Axis;
 using layout::ProposedSize;
 using layout::Size;
-using layout::StackChild;
 
 double along(Axis axis, Size size) { return axis == Axis::horizontal ? size.width : size.height; }
 double across(Axis axis, Size size) { return axis == Axis::horizontal ? size.height : size.width; }
@@ -35,23 +33,79 @@ ProposedSize withLength(Axis axis, ProposedSize proposal, std::optional<double> 
   return proposal;
 }
 
+/// The lengths of a stack's child along the stack's axis.
+struct StackChild {
+  Element* element = nullptr;
+  std::optional<double>* offer = nullptr;  ///< the latest one, in a list in the children's order
+  double atZero = 0;                       ///< chosen length for the offer 0
+  double atInfinity = 0;                   ///< chosen length for an infinite offer
+  double least = 0;                        ///< minimum length without breaking a word
+  double length = 0;                       ///< the chosen length
+  double kept = 0;                         ///< reserved: offers to other children leave this
+
+  bool isSpacer() const { return element->isSpacer; }
+  bool gaveWay() const { return !isSpacer() && length < atInfinity; }
+  /// The least flexible are asked first, spacers last.
+  auto turn() const {
+    const bool isEndless = atInfinity == layout::infinity;
+    return std::tuple(isSpacer(), isEndless ? atInfinity : atInfinity - atZero, offer);
+  }
+};
+
+/// Reserves each child's least length in `kept`. If these exceed `available` together, reduces each
+/// child by the same fraction of what it can give up. Returns the sum of the reserved lengths.
+double reserve(std::span<StackChild> children, double available) {
+  const auto given = [](const StackChild& child) {
+    return std::max(0.0, child.least - child.atZero);
+  };
+  double rigid = 0;
+  double giving = 0;
+  for (const StackChild& child : children) {
+    rigid += child.atZero;
+    giving += given(child);
+  }
+  const double part = giving > 0 ? std::clamp((available - rigid) / giving, 0.0, 1.0) : 1;
+  double sum = 0;
+  for (StackChild& child : children) {
+    child.kept = child.least > 0 ? child.atZero + part * given(child) : 0;
+    sum += child.kept;
+  }
+  return sum;
+}
+
+/// Divides `available` (what is left after the spacing; may be infinite) among `children`. Offers
+/// one child after the other an equal share of the rest; the spacers' minimum lengths are reserved.
+/// No offer is below the child's `least`, or pushes another child below its own, while `available`
+/// suffices. `ask(child, offer)` returns the length that the child chooses.
+template <class Ask>
+void distribute(std::span<StackChild> children, double available, Ask ask) {
+  const auto spacers = std::ranges::find_if(children, &StackChild::isSpacer);
+  double reserved = 0;
+  for (auto spacer = spacers; spacer != children.end(); ++spacer) reserved += spacer->atZero;
+  double keptForOthers = reserve(children, available);
+  double left = available - reserved;
+  for (auto child = children.begin(); child != children.end(); ++child) {
+    if (child == spacers) left += reserved;
+    const auto unasked = (child < spacers ? spacers : children.end()) - child;
+    const double share = left / static_cast<double>(unasked);
+    keptForOthers -= child->kept;
+    const double offer = std::max(std::min(share, left - keptForOthers), child->kept);
+    child->length = ask(*child, std::max(0.0, offer));
+    if (left != layout::infinity) left -= child->length;
+  }
+}
+
 /// Whether a word breaks in a row whose children have their current lengths. Stores each child's
 /// least length in `children`.
-bool breaksWords(LayoutPass& in, std::span<Element* const> elements,
-                 std::span<StackChild> children) {
-  const auto gaveWay = [](const StackChild& child) {
-    return !child.isSpacer && child.length < child.atInfinity;
-  };
+bool breaksWords(LayoutPass& in, std::span<StackChild> children) {
   // If every child got its ideal length, no word breaks. Most rows end here.
-  if (std::none_of(children.begin(), children.end(), gaveWay)) return false;
-
+  if (std::ranges::none_of(children, &StackChild::gaveWay)) return false;
   bool breaks = false;
-  for (std::size_t i = 0; i < children.size(); ++i) {
-    StackChild& child = children[i];
-    const bool reads = elements[i]->holdsText;
+  for (StackChild& child : children) {
+    const bool reads = child.element->holdsText;
     if (!reads && child.atInfinity == layout::infinity) continue;
-    child.least = reads ? in.leastWidth(*elements[i]) : child.atInfinity;
-    breaks = breaks || (gaveWay(child) && child.length < child.least);
+    child.least = reads ? in.leastWidth(*child.element) : child.atInfinity;
+    breaks = breaks || (child.gaveWay() && child.length < child.least);
   }
   return breaks;
 }
@@ -60,7 +114,7 @@ bool breaksWords(LayoutPass& in, std::span<Element* const> elements,
 class StackNode final : public Node {
  public:
   StackNode(Axis axis, layout::Alignment alignment, std::optional<double> spacing, Views children)
-      : rules_(axis, alignment, spacing.value_or(layout::defaultSpacing)),
+      : rules_(axis, alignment, spacing.value_or(defaultSpacing)),
         alignment_(alignment),
         spacing_(spacing),
         children_(children.begin(), children.end(), foundation::Arena::currentResource()) {}
@@ -93,7 +147,7 @@ class StackNode final : public Node {
 }  // namespace
 
 const Stack& Stack::column() {
-  static const Stack rules(Axis::vertical, {}, layout::defaultSpacing);
+  static const Stack rules(Axis::vertical, {}, defaultSpacing);
   return rules;
 }
 
@@ -155,30 +209,28 @@ Stack::Offers Stack::divide(LayoutPass& in, Element& element, ProposedSize propo
   const auto offered = along(axis_, proposal);
   if (!offered) return offers;
 
-  const std::span elements(in.arena.array<Element*>(count), count);
-  Element* next = self.children.first;
-  for (Element*& child : elements) child = std::exchange(next, next->next);
-  const auto ask = [&](std::size_t index, double offer) {
-    offers[index] = offer;
-    return along(axis_, in.measure(*elements[index], withLength(axis_, proposal, offer)));
+  const auto ask = [&](const StackChild& child, double offer) {
+    *child.offer = offer;
+    return along(axis_, in.measure(*child.element, withLength(axis_, proposal, offer)));
   };
-
+  const bool isRow = axis_ == Axis::horizontal;
   const std::span children(in.arena.array<StackChild>(count), count);
-  self.anyHeight = axis_ == Axis::horizontal;
-  for (std::size_t i = 0; i < count; ++i) {
-    const bool gives = axis_ == Axis::horizontal && elements[i]->isText;
-    self.anyHeight = self.anyHeight && (gives || elements[i]->isSpacer);
+  self.anyHeight = isRow;
+  Element* next = self.children.first;
+  for (std::size_t i = 0; i < count; ++i, next = next->next) {
+    StackChild& child = children[i];
+    child.element = next;
+    child.offer = &offers[i];
+    const bool gives = isRow && next->isText;
+    self.anyHeight = self.anyHeight && (gives || next->isSpacer);
     // A text's minimum width counts as 0, so shaping is skipped.
-    children[i].atZero = gives ? 0 : ask(i, 0);
-    children[i].atInfinity = ask(i, layout::infinity);
-    children[i].isSpacer = elements[i]->isSpacer;
+    child.atZero = gives ? 0 : ask(child, 0);
+    child.atInfinity = ask(child, layout::infinity);
   }
-  const layout::StackChildren asked = {children, {in.arena.array<StackChild*>(count), count}};
+  std::ranges::sort(children, {}, &StackChild::turn);
   const double available = *offered - totalSpacing(self);
-  layout::distribute(asked, available, ask);
-  if (axis_ == Axis::horizontal && breaksWords(in, elements, children)) {
-    layout::distribute(asked, available, ask);
-  }
+  distribute(children, available, ask);
+  if (isRow && breaksWords(in, children)) distribute(children, available, ask);
   return offers;
 }
 

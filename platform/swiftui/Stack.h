@@ -7,6 +7,21 @@
 
 namespace quorix::swiftui {
 
+/// The default space between stack children, and the default minimum length of a spacer.
+inline constexpr double defaultSpacing = 8;
+
+/// An element whose rules depend on the axis of its stack.
+struct ElementAlongAxis final : Element {
+  ElementAlongAxis(const ElementRules& kind, layout::Axis stackAxis)
+      : Element(kind), axis(stackAxis) {}
+
+  static layout::Axis axisOf(const Element& self) {
+    return static_cast<const ElementAlongAxis&>(self).axis;
+  }
+
+  layout::Axis axis;
+};
+
 /// The layout of rows and columns.
 class Stack final : public ElementRules {
  public:

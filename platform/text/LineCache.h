@@ -6,7 +6,7 @@
 #include <optional>
 #include <vector>
 
-#include "platform/foundation/RecentEntries.h"
+#include "platform/foundation/Cache.h"
 #include "platform/layout/Geometry.h"
 #include "platform/text/AttributedText.h"
 

@@ -5,7 +5,7 @@
 #include <QRawFont>
 #include <cstddef>
 
-#include "platform/foundation/RecentEntries.h"
+#include "platform/foundation/Cache.h"
 #include "platform/graphics/RGBA.h"
 
 namespace quorix::qt {

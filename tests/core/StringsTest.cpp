@@ -53,9 +53,6 @@ TEST(StringFormat, ShowsNumbersAsTheCLibraryDoes) {
       const std::string start = "%" + flags + size;
       for (const char letter : std::string_view("fFeEgGaA")) {
         for (const double value : numbers) {
-          // Libraries differ in the digits of a subnormal number before its point.
-          const bool hex = letter == 'a' || letter == 'A';
-          if (hex && value != 0 && std::fabs(value) < Limits::min()) continue;
           expectAsInC(start + letter, start + letter, value);
         }
       }
@@ -123,19 +120,12 @@ TEST(UnicodeText, CapitalsFollowTheLanguage) {
   EXPECT_EQ(uppercased("a\xFFz", "xx"), "A\uFFFDZ");
 }
 
-std::string outcome(const foundation::Result<StringTable>& result) {
-  const auto* error = std::get_if<Error>(&result);
-  if (error == nullptr) return "table";
-  return error->code == static_cast<std::int64_t>(foundation::StringsFileErrorCode::notATable)
-             ? "other"
-             : "error";
-}
-
 void expectReading(simdjson::dom::element row) {
   const bool isText = row["bytes"].error() != simdjson::SUCCESS;
   const auto result = readStringsFile(isText ? ::text(row, "file") : fromHex(::text(row, "bytes")));
-  ASSERT_EQ(outcome(result), ::text(row, "outcome"));
-  if (const auto* table = std::get_if<StringTable>(&result)) {
+  const auto* table = std::get_if<StringTable>(&result);
+  ASSERT_EQ(table ? "table" : "error", ::text(row, "outcome"));
+  if (table) {
     StringTable expected;
     for (const auto entry : row["table"].get_object()) {
       expected.emplace(entry.key, std::string_view(entry.value));
@@ -153,12 +143,6 @@ void expectReading(simdjson::dom::element row) {
 TEST(StringsFile, IsReadAsPhonesReadItAndSaysInWhichLineItGoesWrong) {
   forEachRow("strings_files", expectReading);
   forEachRow("strings_files_own", expectReading);
-}
-
-TEST(StringsFile, MayBeNestedWithoutEnd) {
-  const std::string deep(200'000, '(');
-  EXPECT_EQ(outcome(readStringsFile("a = " + deep)), "error");
-  EXPECT_EQ(outcome(readStringsFile("a = " + deep + std::string(deep.size(), ')') + ';')), "other");
 }
 
 TEST(LocalizedString, IsFoundByTheExactLocaleOrElseInEnglish) {

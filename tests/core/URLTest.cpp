@@ -1,6 +1,6 @@
 #include "platform/foundation/URL.h"
 
-#include "QuorixWidgets/overlay/OverlayAddress.h"
+#include "QuorixWidgets/localization/ServiceAddresses.h"
 #include "tests/core/OpenedAddresses.h"
 #include "tests/core/Vectors.h"
 

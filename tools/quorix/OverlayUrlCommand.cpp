@@ -1,6 +1,6 @@
 #include "tools/quorix/Commands.h"
 
-#include "QuorixWidgets/overlay/OverlayAddress.h"
+#include "QuorixWidgets/localization/ServiceAddresses.h"
 #include "tools/quorix/TokenInput.h"
 
 namespace quorix::tool {
