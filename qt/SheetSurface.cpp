@@ -95,9 +95,10 @@ bool SheetSurface::opensPagesAtOnce() const { return WebComponentLoader::isLoade
 std::unique_ptr<hosting::PageEngine> SheetSurface::openPage(const render::EmbedItem& embed,
                                                             hosting::PageEngine::Client& client) {
   const auto& content = dynamic_cast<const webkit::WebContent&>(*embed.content);
-  WebComponent* component = WebComponentLoader::load(webComponent_);
-  if (!component) return nullptr;
-  return component->open(self_, {content.settings, toQColor(embed.background)}, client);
+  const OpenWebPage open = WebComponentLoader::load(webComponent_);
+  if (!open) return nullptr;
+  const WebPage::Options options{content.settings, toQColor(embed.background)};
+  return std::unique_ptr<WebPage>(open(self_, options, client));
 }
 
 QObject* SheetSurface::viewOf(const hosting::PageEngine& page) {

@@ -67,24 +67,21 @@ QString fileOf(const QString& name) {
   return {};
 }
 
-QHash<QString, WebComponent*>& known() {
-  static QHash<QString, WebComponent*> components;
-  return components;
+QHash<QString, OpenWebPage>& known() {
+  static QHash<QString, OpenWebPage> functions;
+  return functions;
 }
 
-WebComponent* loaded(const QString& name) {
+OpenWebPage loaded(const QString& name) {
   const QString file = fileOf(name);
   if (file.isEmpty()) return nullptr;
   QLibrary library(file);
-  const auto entry = reinterpret_cast<WebComponentEntry>(library.resolve(webComponentSymbol));
-  if (!entry) {
+  const auto open = reinterpret_cast<OpenWebPage>(library.resolve(openWebPageSymbol));
+  if (!open) {
     qCWarning(webLog, "no web engine in %s: %s", qUtf8Printable(file),
               qUtf8Printable(library.errorString()));
-    return nullptr;
   }
-  WebComponent* component = entry(webComponentVersion);
-  if (!component) qCWarning(webLog, "%s is of another version", qUtf8Printable(file));
-  return component;
+  return open;
 }
 
 }  // namespace
@@ -93,12 +90,9 @@ bool WebComponentLoader::isThere(const QString& name) { return !fileOf(name).isE
 
 bool WebComponentLoader::isLoaded(const QString& name) { return known().value(name) != nullptr; }
 
-WebComponent* WebComponentLoader::load(const QString& name) {
+OpenWebPage WebComponentLoader::load(const QString& name) {
   const auto found = known().constFind(name);
-  if (found != known().constEnd()) return *found;
-  WebComponent* component = loaded(name);
-  known().insert(name, component);
-  return component;
+  return found != known().constEnd() ? *found : *known().insert(name, loaded(name));
 }
 
 }  // namespace quorix::qt

@@ -3,7 +3,6 @@
 #include <QColor>
 #include <QLoggingCategory>
 #include <QString>
-#include <memory>
 
 #include "platform/foundation/Export.h"
 #include "platform/hosting/PageEngine.h"
@@ -13,7 +12,7 @@ class QObject;
 
 namespace quorix::qt {
 
-/// A page of Qt WebEngine, made by a `WebComponent`. Keys that the page does not use go to its
+/// A page of Qt WebEngine. Keys that the page does not use go to its
 /// view's parent. Main thread.
 class WebPage : public hosting::PageEngine {
  public:
@@ -36,25 +35,16 @@ class WebPage : public hosting::PageEngine {
   bool isShown() const final { return view() != nullptr; }
 };
 
-/// The web engine for one toolkit, in a library of its own: a host that shows no page never loads
-/// it. The library exports `webComponentSymbol`, a `WebComponentEntry`. Main thread.
-class WebComponent {
- public:
-  /// Opens a page for the window (Qt Quick) or the widget (Qt Widgets) `place`, to be made a child
-  /// of it. Null if the engine cannot show one; the log says why. `client` outlives the page.
-  virtual std::unique_ptr<WebPage> open(QObject& place, const WebPage::Options& options,
-                                        WebPage::Client& client) = 0;
-
- protected:
-  ~WebComponent() = default;  // destroyed with the application
-};
-
-/// Changes whenever `WebComponent`, `WebPage` or `hosting::PageEngine` changes.
-constexpr int webComponentVersion = 6;
-constexpr char webComponentSymbol[] = "quorixWebComponent";
-
-/// The component; null if it is built for another version than `version`.
-using WebComponentEntry = WebComponent* (*)(int version);
+/// Opens a page for the window (Qt Quick) or the widget (Qt Widgets) `place`, to be made a child of
+/// it. The caller owns the page. Null if the engine cannot show one; the log says why. `client`
+/// outlives the page. Main thread.
+///
+/// The engine for each toolkit is in a library of its own, which exports this function: a host that
+/// shows no page never loads it.
+using OpenWebPage = WebPage* (*)(QObject& place, const WebPage::Options& options,
+                                 WebPage::Client& client);
+/// The number changes whenever `OpenWebPage`, `WebPage` or `hosting::PageEngine` changes.
+constexpr char openWebPageSymbol[] = "quorixOpenWebPage7";
 
 /// Finds the libraries that hold the web engine ("QuorixWebQuick", "QuorixWebWidgets") and loads
 /// each on first use, for the rest of the process. Main thread.
@@ -83,8 +73,9 @@ namespace WebComponentLoader {
 QUORIX_EXPORT bool isThere(const QString& name);
 /// Whether `load` found one before.
 bool isLoaded(const QString& name);
-/// The component, or null when it is missing, does not load or is of another version.
-WebComponent* load(const QString& name);
+/// The library's function, or null when the library is missing, does not load or is of another
+/// version.
+OpenWebPage load(const QString& name);
 
 }  // namespace WebComponentLoader
 

@@ -1,7 +1,6 @@
 #include "platform/foundation/TransferRules.h"
 
 #include <algorithm>
-#include <cstddef>
 #include <utility>
 
 namespace quorix::foundation {
@@ -16,21 +15,6 @@ std::optional<URLResponse> refuseRedirect(std::string_view from, std::string_vie
     return failure(URLError::insecureRedirect, "the redirect leads from https to http");
   }
   return std::nullopt;
-}
-
-std::vector<std::string> connectionOrder(const std::vector<std::string>& addresses) {
-  constexpr std::size_t most = 10;
-  const auto isIPv6 = [](const std::string& address) { return address.find(':') != address.npos; };
-  std::vector<std::string> order, rest;
-  for (const std::string& address : addresses) {
-    (isIPv6(address) == isIPv6(addresses.front()) ? order : rest).push_back(address);
-  }
-  for (std::size_t i = 0; i < rest.size(); ++i) {
-    const auto place = std::min(2 * i + 1, order.size());
-    order.insert(order.begin() + static_cast<std::ptrdiff_t>(place), rest[i]);
-  }
-  order.resize(std::min(order.size(), most));
-  return order;
 }
 
 void TransferQueue::add(Task task, const Transfer& transfer) {

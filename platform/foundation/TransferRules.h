@@ -15,8 +15,8 @@
 
 namespace quorix::foundation {
 
-// Where a transfer over the network may lead, in which order a server's addresses are tried, which
-// requests share a transfer, and how many run at a time.
+// Where a transfer over the network may lead, which requests share a transfer, and how many run at
+// a time.
 
 /// `scheme` is in lower case.
 inline bool isHTTP(std::string_view scheme) { return scheme == "http" || scheme == "https"; }
@@ -26,10 +26,6 @@ inline bool isHTTP(std::string_view scheme) { return scheme == "http" || scheme 
 /// https only to https.
 QUORIX_EXPORT std::optional<URLResponse> refuseRedirect(std::string_view from, std::string_view to,
                                                         int count);
-
-/// The IP addresses of a server in the order in which to try them, at most ten: IPv6 and IPv4 take
-/// turns, and the first address stays first.
-QUORIX_EXPORT std::vector<std::string> connectionOrder(const std::vector<std::string>& addresses);
 
 /// The transfers that run or wait, and the tasks that each of them serves.
 class QUORIX_EXPORT TransferQueue {

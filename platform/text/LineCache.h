@@ -19,23 +19,17 @@ template <class Lines>
 class LineCache {
  public:
   /// The lines of `text` at `width` points. Those that are not cached come from
-  /// `breakLines(text, width, toPaint)`, which may leave out the glyphs if `toPaint` is false. The
-  /// reference holds until the next call.
+  /// `breakLines(text, width)`. The reference holds until the next call.
   template <class Break>
-  const Lines& lines(const AttributedText& text, double width, bool toPaint, Break breakLines) {
+  const Lines& lines(const AttributedText& text, double width, Break breakLines) {
     auto& known = entryOf(text).breakings;
-    if (known.empty()) {
-      known.push_back({layout::infinity, toPaint, breakLines(text, layout::infinity, toPaint)});
-    }
+    if (known.empty()) known.push_back({layout::infinity, breakLines(text, layout::infinity)});
     auto found =
         std::ranges::find_if(known, [&](const Breaking& each) { return each.serves(width); });
     if (found == known.end()) {
       if (known.size() >= mostBreakings) known.erase(known.begin() + 1);
-      known.push_back({width, toPaint, breakLines(text, width, toPaint)});
+      known.push_back({width, breakLines(text, width)});
       found = std::prev(known.end());
-    } else if (toPaint && !found->hasGlyphs) {
-      found->lines = breakLines(text, found->width, true);
-      found->hasGlyphs = true;
     }
     return found->lines;
   }
@@ -58,7 +52,6 @@ class LineCache {
 
   struct Breaking {
     double width = 0;
-    bool hasGlyphs = false;
     Lines lines;
 
     /// Lines are filled greedily, so they stay the same at less width while the widest still fits.

@@ -104,40 +104,31 @@ Transfer::~Transfer() {
 void Transfer::begin() {
   deadline_.start();
   begun_.start();
-  connectTo(address_);
+  QMetaObject::invokeMethod(
+      this, [this] { connectTo(address_, QAbstractSocket::IPv4Protocol); }, Qt::QueuedConnection);
 }
 
-void Transfer::connectTo(const QUrl& address) {
+void Transfer::connectTo(const QUrl& address, QAbstractSocket::NetworkLayerProtocol family) {
   current_ = address;
-  QNetworkProxy proxy = proxyFor(current_);
+  hasMoreAddresses_ = family == QAbstractSocket::IPv4Protocol;
+  const QNetworkProxy proxy = proxyFor(current_);
   const auto asked = httpProxy(proxy);
   const QByteArray sent = current_.toEncoded(QUrl::RemoveUserInfo | QUrl::RemoveFragment);
   conversation_.emplace(sent.toStdString(), asked);
-  const auto ended = [this](ConnectionRace::Socket socket, auto error, const QString& text) {
-    race_.release()->deleteLater();  // it is the caller
-    if (socket) {
-      connected(std::move(socket));
-    } else {
-      proceed(conversation_->failed(urlError(error), text.toStdString()));
-    }
-  };
   const bool secure = isSecure(current_);
-  QString host = current_.host();
-  int port = current_.port(secure ? 443 : 80);
-  if (asked) {
-    host = proxy.hostName();
-    port = proxy.port();
-    proxy = QNetworkProxy::NoProxy;
-  }
-  race_ = std::make_unique<ConnectionRace>(host, static_cast<quint16>(port), secure, proxy, ended);
-  race_->begin();
-}
-
-void Transfer::connected(ConnectionRace::Socket socket) {
-  socket_ = std::move(socket);
+  socket_.reset(secure ? new QSslSocket : new QTcpSocket);
   socket_->setReadBufferSize(kPiece);  // beyond that, the server has to wait
+  connect(socket_.get(), &QTcpSocket::connected, this, [this] { connected(); });
   connect(socket_.get(), &QTcpSocket::readyRead, this, [this] { receive(); });
   connect(socket_.get(), &QTcpSocket::errorOccurred, this, [this] { socketFailed(); });
+  socket_->setProxy(asked ? QNetworkProxy::NoProxy : proxy);
+  const QString host = asked ? proxy.hostName() : current_.host();
+  const int port = asked ? proxy.port() : current_.port(secure ? 443 : 80);
+  socket_->connectToHost(host, static_cast<quint16>(port), QIODevice::ReadWrite, family);
+}
+
+void Transfer::connected() {
+  hasMoreAddresses_ = false;
   proceed(conversation_->connected());
 }
 
@@ -151,6 +142,10 @@ void Transfer::receive() {
 void Transfer::socketFailed() {
   receive();
   if (!socket_) return;
+  if (hasMoreAddresses_) {
+    hangUp();
+    return connectTo(current_, QAbstractSocket::AnyIPProtocol);
+  }
   const std::string text = socket_->errorString().toStdString();
   proceed(conversation_->failed(urlError(socket_->error()), text));
 }
@@ -164,7 +159,7 @@ void Transfer::proceed(const HTTPConversation::Step& step) {
 void Transfer::encrypt() {
   auto& secure = static_cast<QSslSocket&>(*socket_);
   connect(&secure, &QSslSocket::encrypted, this, [this] { proceed(conversation_->encrypted()); });
-  secure.setPeerVerifyName(current_.host());  // the socket only has the IP address
+  secure.setPeerVerifyName(current_.host());  // the socket may only have a proxy's name
   secure.startClientEncryption();
 }
 
@@ -176,7 +171,7 @@ void Transfer::answered() {
   const auto refusal = foundation::refuseRedirect(current_.scheme().toStdString(),
                                                   next.scheme().toStdString(), ++redirects_);
   if (refusal) return end(*refusal);
-  if (namesServer(next)) return connectTo(next);
+  if (namesServer(next)) return connectTo(next, QAbstractSocket::IPv4Protocol);
   end(foundation::failure(URLError::hostNotFound, "the redirect names no server"));
 }
 
@@ -192,7 +187,6 @@ void Transfer::end(URLResponse response) {
                                << begun_.elapsed() << "ms"
                                << (response.body ? response.body->size() : 0) << "bytes";
   deadline_.stop();
-  race_.reset();
   hangUp();
   ended_(std::move(response));
 }

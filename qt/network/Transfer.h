@@ -12,12 +12,13 @@
 
 #include "platform/foundation/HTTPConversation.h"
 #include "platform/foundation/URLSession.h"
-#include "qt/network/ConnectionRace.h"
 
 namespace quorix::qt {
 
 /// One GET over the network and its redirects, each on a connection of its own. Sends no cookies
 /// and no credentials to the server. Uses the application's proxies and default SSL configuration.
+/// Connects to IPv4 addresses first, then to any: Qt waits up to 30 seconds for each address, and
+/// where one family is broken, it is mostly IPv6.
 ///
 /// Each answer has the limits of `HTTPResponseReader`. The time limit is for all of them together.
 /// Lives on the network thread.
@@ -38,8 +39,8 @@ class Transfer final : public QObject {
   void begin();
 
  private:
-  void connectTo(const QUrl& address);
-  void connected(ConnectionRace::Socket socket);
+  void connectTo(const QUrl& address, QAbstractSocket::NetworkLayerProtocol family);
+  void connected();
   void receive();
   void socketFailed();
   void proceed(const foundation::HTTPConversation::Step& step);
@@ -57,8 +58,8 @@ class Transfer final : public QObject {
   // For the current address: the first one or that of the latest redirect.
   QUrl current_;
   std::optional<foundation::HTTPConversation> conversation_;
-  std::unique_ptr<ConnectionRace> race_;  // until there is a socket
-  ConnectionRace::Socket socket_;
+  std::unique_ptr<QTcpSocket> socket_;
+  bool hasMoreAddresses_ = false;  // to connect to
 };
 
 }  // namespace quorix::qt

@@ -56,12 +56,9 @@ Figures::Face& Figures::face(const text::ResolvedFont& font) {
 
 bool Figures::learn(Face& face, QtFonts& fonts) {
   for (const std::u16string& sample : text::PriceGlyphs::samples()) {
-    Paragraph paragraph;
-    paragraph.set({{{QString::fromStdU16String(sample).toStdString(),
-                     {face.name, ShapingFont::pixels, face.weight},
-                     {}}}},
-                  fonts);
-    const ShapedText shaped = paragraph.breakLines(layout::infinity, true);
+    const text::ResolvedFont font{face.name, ShapingFont::pixels, face.weight};
+    const std::string text = QString::fromStdU16String(sample).toStdString();
+    const ShapedText shaped = Paragraph({{{text, font, {}}}}, fonts).breakLines(layout::infinity);
     const ShapedText::Line& line = shaped.lines[0];
     if (line.pieces.size() != 1) return false;
     const QGlyphRun& run = line.pieces[0].glyphs;

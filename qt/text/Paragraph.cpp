@@ -80,35 +80,22 @@ double measuredWidth(double natural, double needed, double offered) {
   return natural <= offered ? std::min(width, offered) : width;
 }
 
-void Paragraph::set(const text::AttributedText& text, QtFonts& fonts) {
-  if (text_ && text_->isShapedAs(text)) return;
-  text_ = text;
+/// The first run's size sets the scale, at which Qt rounds other sizes to whole pixels.
+Paragraph::Paragraph(const text::AttributedText& text, QtFonts& fonts) {
   QString characters;
-  runs_.clear();
   for (const text::Run& run : text.runs) {
     QString part = lineSeparated(run.text);
     if (characters.isEmpty()) keepFirstNumberWhole(part);
     runs_.push_back({static_cast<int>(characters.size()), static_cast<int>(part.size())});
     characters += part;
   }
-  if (open_) layout_.endLayout();
-  open_ = false;
-  layout_.clearFormats();
-  setText(characters, text, fonts);
-}
-
-/// The first run's size sets the scale, at which Qt rounds other sizes to whole pixels.
-void Paragraph::setText(const QString& text, const text::AttributedText& attributed,
-                        QtFonts& fonts) {
   const text::ResolvedFont first =
-      attributed.runs.empty() ? text::ResolvedFont{} : attributed.runs.front().font;
+      text.runs.empty() ? text::ResolvedFont{} : text.runs.front().font;
   unit_ = ShapingFont::unit(first.points);
-  layout_.setText(text);
+  layout_.setText(characters);
   const ShapingFont& face = fonts.find(first);
-  ascent_ = face.ascent;
-  descent_ = face.descent;
   layout_.setFont(face.font);
-  layout_.setTextOption(option(text::baseDirection(attributed)));
+  layout_.setTextOption(option(text::baseDirection(text)));
   QList<QTextLayout::FormatRange> formats;
   const auto use = [&](const text::ResolvedFont& font, long pixels, const Run& part) {
     QTextCharFormat format;
@@ -116,29 +103,13 @@ void Paragraph::setText(const QString& text, const text::AttributedText& attribu
     formats.push_back({part.start, part.length, format});
   };
   for (std::size_t i = 0; i < runs_.size(); ++i) {
-    const text::ResolvedFont& font = attributed.runs[i].font;
+    const text::ResolvedFont& font = text.runs[i].font;
     if (font != first && runs_[i].length > 0) use(font, std::lround(font.points / unit_), runs_[i]);
   }
-  const auto joiner = static_cast<int>(face.hasWordJoiner ? -1 : text.indexOf(wordJoiner));
+  const auto joiner = static_cast<int>(face.hasWordJoiner ? -1 : characters.indexOf(wordJoiner));
   // A fallback face draws the joiner: at one pixel, so that it does not make the line higher.
   if (joiner >= 0 && joiner < runs_.front().length) use(first, 1, {joiner, 1});
   if (!formats.isEmpty()) layout_.setFormats(formats);
-}
-
-/// Whether the text can be broken without shaping it again, which is expensive. Qt keeps the shapes
-/// until `endLayout`, and can lay out a line again if it holds the whole text. That line keeps its
-/// old height, so it must not be higher than the face.
-bool Paragraph::canBreakAgain() const {
-  if (!open_ || layout_.lineCount() != 1) return false;
-  const QTextLine line = layout_.lineAt(0);
-  return line.ascent() == ascent_ && line.descent() == descent_;
-}
-
-void Paragraph::openSession() {
-  if (canBreakAgain()) return;
-  if (open_) layout_.endLayout();
-  layout_.beginLayout();
-  open_ = true;
 }
 
 double Paragraph::widthNeeded(const QTextLine& line) const {
@@ -149,26 +120,24 @@ double Paragraph::widthNeeded(const QTextLine& line) const {
   return std::max(natural, line.horizontalAdvance() + overhang(line, layout_.text()));
 }
 
-ShapedText Paragraph::breakLines(double width, bool glyphs) {
-  openSession();
+ShapedText Paragraph::breakLines(double width) {
   ShapedText shaped;
   shaped.unit = unit_;
   double top = 0;
   double natural = 0;
   double needed = 0;
-  for (int number = 0;; ++number) {
-    QTextLine line = number < layout_.lineCount() ? layout_.lineAt(number) : layout_.createLine();
-    if (!line.isValid()) break;
+  layout_.beginLayout();
+  for (QTextLine line = layout_.createLine(); line.isValid(); line = layout_.createLine()) {
     line.setLineWidth(std::max(width, 0.0) / unit_);
     line.setPosition({0, -line.ascent()});
     const double baseline = top + line.ascent() * unit_;
     natural = std::max(natural, line.naturalTextWidth() * unit_);
     needed = std::max(needed, widthNeeded(line) * unit_);
     top += (line.ascent() + line.descent() + std::max(line.leading(), 0.0)) * unit_;
-    if (!glyphs) continue;
     shaped.lines.push_back(collect(line));
     shaped.lines.back().baseline = baseline;
   }
+  layout_.endLayout();
   shaped.metrics.size = {measuredWidth(natural, needed, width), top};
   return shaped;
 }
@@ -191,10 +160,7 @@ double Paragraph::longestUnspacedWord() {
 }
 
 double Paragraph::leastWidth() {
-  if (open_) layout_.endLayout();
-  open_ = false;
-  const QTextOption usual = layout_.textOption();
-  QTextOption wordByWord = usual;
+  QTextOption wordByWord = layout_.textOption();
   wordByWord.setWrapMode(QTextOption::WordWrap);
   layout_.setTextOption(wordByWord);
   double least = 0;
@@ -205,7 +171,6 @@ double Paragraph::leastWidth() {
     least = std::max({least, line.naturalTextWidth() * unit_, needed * unit_});
   }
   layout_.endLayout();
-  layout_.setTextOption(usual);
   least = std::max(least, longestUnspacedWord());
   return measuredWidth(least, least, 0);
 }

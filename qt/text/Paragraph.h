@@ -4,7 +4,6 @@
 #include <QString>
 #include <QTextLayout>
 #include <cstddef>
-#include <optional>
 #include <vector>
 
 #include "platform/text/AttributedText.h"
@@ -37,8 +36,8 @@ struct ShapedText {
   };
 
   text::TextMetrics metrics;
-  double unit = 1;          ///< points for each pixel of the shaping font
-  std::vector<Line> lines;  ///< empty when only the metrics were asked for
+  double unit = 1;  ///< points for each pixel of the shaping font
+  std::vector<Line> lines;
 };
 
 /// Inserts a word joiner into a text that begins like "1.234": Qt would end a line after the "1.".
@@ -49,19 +48,15 @@ void keepFirstNumberWhole(QString& text);
 /// reports no more than `offered`. Points.
 double measuredWidth(double natural, double needed, double offered);
 
-/// Breaks one text after another into lines with one QTextLayout.
+/// A text that Qt shapes and breaks into lines.
 class Paragraph {
  public:
-  /// Takes `text` in place of the one before, unless it has the same shapes.
-  void set(const text::AttributedText& text, QtFonts& fonts);
+  Paragraph(const text::AttributedText& text, QtFonts& fonts);
 
-  /// Forgets the text: faces have changed.
-  void clear() { text_.reset(); }
+  /// Breaks the text to `width` points.
+  ShapedText breakLines(double width);
 
-  /// Breaks the text to `width` points. Collects the lines only if `glyphs` is true.
-  ShapedText breakLines(double width, bool glyphs);
-
-  /// The width of the longest word, in points. The next `breakLines` shapes the text again.
+  /// The width of the longest word, in points.
   double leastWidth();
 
  private:
@@ -70,20 +65,13 @@ class Paragraph {
     int length = 0;
   };
 
-  void setText(const QString& text, const text::AttributedText& attributed, QtFonts& fonts);
-  bool canBreakAgain() const;
-  void openSession();
   double longestUnspacedWord();
   double widthNeeded(const QTextLine& line) const;
   ShapedText::Line collect(const QTextLine& line) const;
 
-  std::optional<text::AttributedText> text_;
   QTextLayout layout_;
   std::vector<Run> runs_;
   double unit_ = 1;  ///< points for each pixel of the shaping font
-  double ascent_ = 0;
-  double descent_ = 0;
-  bool open_ = false;
 };
 
 }  // namespace quorix::qt

@@ -129,8 +129,6 @@ void RegisteredFaces::announce() {
 
 namespace {
 
-using graphics::FontManager;
-
 /// Whether `name` without its spaces is `squeezed`, in any case. Copies nothing, since a desktop
 /// may have thousands of names.
 bool squeezesTo(QStringView name, QStringView squeezed) {
@@ -154,16 +152,20 @@ std::optional<QFont> postScriptFace(QString name) {
     if (!squeezesTo(candidate, family)) continue;
     const QStringList styles = QFontDatabase::styles(candidate);
     for (const QString& known : styles) {
-      if (squeezesTo(known, style)) return QFontDatabase::font(candidate, known, 12);
+      if (squeezesTo(known, style)) return QFontDatabase::font(candidate, known, anySize);
     }
   }
   return std::nullopt;
 }
 
-/// The face that Qt has on its own under `name`.
-std::optional<QFont> installedFace(const QString& name) {
-  if (QFontDatabase::hasFamily(name)) return QFont(name);
-  return postScriptFace(name);
+QFont face(const std::string& name) {
+  if (const QFont* registered = RegisteredFaces::shared().find(name)) return *registered;
+  if (!name.empty()) {
+    const QString wanted = QString::fromStdString(name);
+    if (QFontDatabase::hasFamily(wanted)) return QFont(wanted);
+    if (const auto found = postScriptFace(wanted)) return *found;
+  }
+  return QFontDatabase::systemFont(QFontDatabase::GeneralFont);
 }
 
 /// The face of `named`'s family that is nearest to `weight` and not lighter than `named`, so that a
@@ -176,7 +178,7 @@ QFont weighted(const QFont& named, int weight) {
     const int has = QFontDatabase::weight(family, style);
     const bool nearer = std::abs(has - weight) < std::abs(nearest.weight() - weight);
     if (!nearer || has < named.weight() || QFontDatabase::italic(family, style)) continue;
-    nearest = QFontDatabase::font(family, style, 12);
+    nearest = QFontDatabase::font(family, style, anySize);
   }
   return nearest;
 }
@@ -231,14 +233,6 @@ bool QtFonts::refresh() {
   generation_ = generation;
   databaseChanged_ = false;
   return true;
-}
-
-QFont QtFonts::face(const std::string& name) {
-  if (const QFont* registered = RegisteredFaces::shared().find(name)) return *registered;
-  return installed_.get({changes_, name, {}, 0}, [&] {
-    const auto found = name.empty() ? std::nullopt : installedFace(QString::fromStdString(name));
-    return found ? *found : QFontDatabase::systemFont(QFontDatabase::GeneralFont);
-  });
 }
 
 ShapingFont QtFonts::find(const text::ResolvedFont& wanted, int pixels) {

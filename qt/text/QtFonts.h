@@ -115,12 +115,9 @@ class QtFonts {
     bool operator==(const Key&) const = default;
   };
 
-  QFont face(const std::string& name);
   ShapingFont make(const Key& key);
 
-  // Bounded, since names come from hosts.
-  foundation::Cache<Key, QFont> installed_{128};
-  foundation::Cache<Key, ShapingFont> fonts_{128};
+  foundation::Cache<Key, ShapingFont> fonts_{128};  // bounded, since names come from hosts
   unsigned changes_ = 0;
   std::size_t generation_ = 0;
   bool databaseChanged_ = false;

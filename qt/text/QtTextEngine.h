@@ -38,12 +38,9 @@ class QtTextEngine final : public text::TextEngine {
   int breaks() const { return breaks_; }
 
  private:
-  const ShapedText& find(const text::AttributedText& text, double width, bool toPaint);
-  ShapedText breakLines(const text::AttributedText& text, double width, bool glyphs);
   void clear();
 
   QtFonts& fonts_ = QtFonts::shared();
-  Paragraph paragraph_;
   text::LineCache<ShapedText> lines_;
   TextPictures pictures_;
   GlyphPictures glyphs_;

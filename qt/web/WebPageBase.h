@@ -1,7 +1,9 @@
 #pragma once
 
+#include <QList>
 #include <QObject>
 #include <QUrl>
+#include <QWebEngineScript>
 
 #include "qt/Conversions.h"
 #include "qt/WebComponent.h"
@@ -22,6 +24,17 @@ class WebPageBase : public QObject, public WebPage {
   Q_OBJECT
 
  public:
+  /// Starts the engine on the first call. False if it would end the process; the log says why. The
+  /// library leaves the engine's sandbox and flags to the host.
+  static bool startEngine();
+
+  /// Lets assistive technology read pages. Call it after the first profile and before its first
+  /// page.
+  static void openToReaders();
+
+  /// The scripts that run in each page beside its own.
+  static QList<QWebEngineScript> scripts();
+
   explicit WebPageBase(Client& client);
 
   void load(const foundation::URL& address) override;

@@ -25,16 +25,16 @@ struct Lines {
 /// Breaks letters that are 10 points wide each.
 struct CachedLetters {
   text::LineCache<Lines> cache;
-  std::string broken;  ///< the widths to which a text was broken, "!" after those with glyphs
+  std::string broken;  ///< the widths to which a text was broken
   int measured = 0;
 
-  double width(double offered, bool toPaint, const AttributedText& text = textOf("seven..")) {
-    const auto breakLines = [&](const auto& unknown, double to, bool glyphs) {
-      broken += (to == infinity ? "all" : std::to_string(std::lround(to))) + (glyphs ? "! " : " ");
+  double width(double offered, const AttributedText& text = textOf("seven..")) {
+    const auto breakLines = [&](const auto& unknown, double to) {
+      broken += (to == infinity ? "all" : std::to_string(std::lround(to))) + " ";
       const double natural = 10.0 * static_cast<double>(unknown.runs[0].text.size());
       return Lines{{{std::min(natural, std::floor(to / 10) * 10), 20}}};
     };
-    return cache.lines(text, offered, toPaint, breakLines).metrics.size.width;
+    return cache.lines(text, offered, breakLines).metrics.size.width;
   }
 
   double leastWidth(const std::string& words) {
@@ -47,23 +47,20 @@ struct CachedLetters {
 
 TEST(LineCache, BreaksATextOnceForAllWidthsThatBreakItAlike) {
   const struct {
-    std::vector<std::pair<double, bool>> calls;  ///< the width, and whether to paint
-    double width;                                ///< of the last
+    std::vector<double> widths;
+    double width;  ///< of the last
     std::string broken;
   } rows[] = {
-      {{{300, true}, {70, true}}, 70, "all! "},
-      {{{69, true}, {65, true}, {60, true}}, 60, "all! 69! "},
-      {{{69, true}, {59, true}, {61, true}}, 60, "all! 69! 59! "},
-      {{{59, true}, {61, true}}, 60, "all! 59! 61! "},
-      {{{65, false}, {60, true}, {65, false}, {60, true}}, 60, "all 65 65! "},
-      {{{60, true}, {50, true}, {40, true}, {30, true}, {300, true}, {50, true}, {60, true}},
-       60,
-       "all! 60! 50! 40! 30! 60! "},  // four are kept
+      {{300, 70}, 70, "all "},
+      {{69, 65, 60}, 60, "all 69 "},
+      {{69, 59, 61}, 60, "all 69 59 "},
+      {{59, 61}, 60, "all 59 61 "},
+      {{60, 50, 40, 30, 300, 50, 60}, 60, "all 60 50 40 30 60 "},  // four are kept
   };
   for (const auto& row : rows) {
     CachedLetters letters;
     double last = 0;
-    for (const auto& [width, toPaint] : row.calls) last = letters.width(width, toPaint);
+    for (const double width : row.widths) last = letters.width(width);
     EXPECT_EQ(last, row.width) << row.broken;
     EXPECT_EQ(letters.broken, row.broken);
   }
@@ -78,14 +75,14 @@ TEST(LineCache, SharesTheLinesOfTextsOfTheSameShapes) {
   AttributedText twice = red;
   twice.runs.push_back(red.runs[0]);
   CachedLetters letters;
-  letters.width(300, true, textOf("a"));
-  letters.width(300, true, red);
-  EXPECT_EQ(letters.broken, "all! ");
+  letters.width(300, textOf("a"));
+  letters.width(300, red);
+  EXPECT_EQ(letters.broken, "all ");
   for (const auto& other : {textOf("b"), textOf("a", 15), mirrored, named, twice}) {
     EXPECT_FALSE(other.isShapedAs(red));
     letters.broken.clear();
-    letters.width(300, true, other);
-    EXPECT_EQ(letters.broken, "all! ");
+    letters.width(300, other);
+    EXPECT_EQ(letters.broken, "all ");
   }
 }
 
@@ -93,7 +90,7 @@ TEST(LineCache, KeepsTheTextsThatWereUsedLast) {
   CachedLetters letters;
   const auto words = [](int length) { return std::string(static_cast<std::size_t>(length), 'x'); };
   for (int length = 1; length <= 1000; ++length) {
-    EXPECT_EQ(letters.width(infinity, true, textOf(words(length))), 10 * length);
+    EXPECT_EQ(letters.width(infinity, textOf(words(length))), 10 * length);
     EXPECT_EQ(letters.leastWidth(words(length)), length);
     EXPECT_EQ(letters.leastWidth("x"), 1);  // so it stays
   }

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace quorix::testing {
@@ -24,19 +23,6 @@ TEST(TransferRules, RedirectsStayWithHTTPAndLeaveNoSecureConnection) {
   for (const auto& [from, to, count, error] : table) {
     const auto refusal = foundation::refuseRedirect(from, to, count);
     EXPECT_EQ(refusal ? refusal->error->code : 0, error) << from << " to " << to << ", " << count;
-  }
-}
-
-TEST(TransferRules, AddressesOfBothFamiliesTakeTurns) {
-  using Addresses = std::vector<std::string>;
-  const std::pair<Addresses, Addresses> table[] = {
-      {{"1.1.1.1", "1.1.1.2"}, {"1.1.1.1", "1.1.1.2"}},
-      {{"::1", "::2", "::3", "1.1.1.1"}, {"::1", "1.1.1.1", "::2", "::3"}},
-      {{"1.1.1.1", "::1", "::2", "::3", "1.1.1.2"}, {"1.1.1.1", "::1", "1.1.1.2", "::2", "::3"}},
-      {Addresses(12, "::1"), Addresses(10, "::1")},
-  };
-  for (const auto& [addresses, order] : table) {
-    EXPECT_EQ(foundation::connectionOrder(addresses), order);
   }
 }
 

@@ -14,8 +14,6 @@
 #include <QWebEngineScriptCollection>
 #include <QWebEngineSettings>
 
-#include "qt/web/WebEngine.h"
-
 #if QT_VERSION < QT_VERSION_CHECK(6, 5, 0)
 #include <QWebEngineQuotaRequest>
 #endif
@@ -36,7 +34,7 @@ QuietPage::QuietPage(QWebEngineProfile& profile, const WebPage::Options& options
     : QWebEnginePage(&profile, parent), page_(page) {
   setBackgroundColor(options.background);
   settle(options.settings);
-  scripts().insert(WebEngine::scripts());
+  scripts().insert(WebPageBase::scripts());
   tell();
   refuseRequests();
   refusePermissions();
