@@ -1,12 +1,11 @@
-#include <QEventLoop>
 #include <QString>
 #include <cstdio>
 #include <cstdlib>
 
-#include "platform/foundation/MainQueue.h"
+#include "platform/foundation/URLSession.h"
 #include "qt/Engine.h"
 #include "tools/quorix/Application.h"
-#include "tools/quorix/Failure.h"
+#include "tools/quorix/CommandLine.h"
 
 namespace quorix::tool {
 namespace {
@@ -18,12 +17,6 @@ void keepQuiet(QtMsgType type, const QMessageLogContext&, const QString& message
   std::_Exit(Failure::refusedStatus);
 }
 
-}  // namespace
-
-void keepQtQuiet() { qInstallMessageHandler(keepQuiet); }
-
-namespace {
-
 /// Sets options that Qt reads when the application object is made.
 int& prepared(int& argc) {
   keepQtQuiet();
@@ -33,14 +26,11 @@ int& prepared(int& argc) {
 
 }  // namespace
 
+void keepQtQuiet() { qInstallMessageHandler(keepQuiet); }
+
 PictureApplication::PictureApplication() : application_(prepared(argc_), argv_) {
   qt::installEngine();
-}
-
-void PictureApplication::takeTurn() const {
-  QEventLoop loop;
-  foundation::MainQueue::async([&] { loop.quit(); });
-  loop.exec();
+  foundation::URLSession::shared().setNetworkEnabled(false);
 }
 
 }  // namespace quorix::tool

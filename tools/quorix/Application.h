@@ -8,14 +8,11 @@ namespace quorix::tool {
 /// tool with one line. Call it before the application object is made.
 void keepQtQuiet();
 
-/// The application object of a command that lays out or paints. Needs no display, unless the
-/// environment selects one with QT_QPA_PLATFORM. Hides Qt's own messages.
+/// The application object of a command that lays out or paints, without the network. Needs no
+/// display, unless the environment selects one with QT_QPA_PLATFORM. Hides Qt's own messages.
 class PictureApplication {
  public:
   PictureApplication();
-
-  /// Runs the waiting work of the main queue.
-  void takeTurn() const;
 
  private:
   int argc_ = 1;

@@ -2,53 +2,63 @@
 
 #include <span>
 #include <string>
-#include <string_view>
 #include <vector>
 
-#include "tools/quorix/Command.h"
+#include "tools/quorix/CommandLine.h"
 
 namespace quorix::tool {
 
 /// Every command, in the order of help.
-std::span<const Command* const> commands();
-
-/// The names of all commands.
-std::vector<std::string_view> commandNames();
+const std::vector<Command>& commands();
 
 /// The command at the start of `words`, or a failure that suggests the most similar one.
 std::variant<const Command*, Failure> findCommand(std::span<const std::string> words);
 
 /// "quorix completion": prints a shell's completion script for the tool.
-extern const Command completionCommand;
+Command completionCommand();
+
+/// The words that can stand in place of the last of `words`, which follow "quorix": a line for each
+/// with a tab and a description. A line "/" stands for the names of files.
+std::string completions(std::vector<std::string> words);
 
 /// "quorix decode": prints the figures in a token, or the step at which it is refused.
-extern const Command decodeCommand;
+Command decodeCommand();
 
 /// "quorix gallery": shows the widgets on every screen, on one page or in one picture.
-extern const Command galleryCommand;
+Command galleryCommand();
+
+/// "quorix help": prints the same as "quorix --help" or "quorix COMMAND --help".
+Command helpCommand();
+
+/// The text of "quorix --help", and of "quorix COMMAND --help".
+std::string helpText();
+std::string helpText(const Command& command);
+
+/// The help for `option`, in one paragraph.
+std::string described(const Option& option);
 
 /// "quorix info": shows the info widget in one of its forms as a picture, a tree or words.
-extern const Command infoCommand;
+Command infoCommand();
 
 /// "quorix man": prints the manual page.
-extern const Command manCommand;
+Command manCommand();
 
 /// "quorix mint": prints a demo token.
-extern const Command mintCommand;
+Command mintCommand();
 
 /// "quorix overlay-url": prints the address of the page that a widget's overlay loads.
-extern const Command overlayUrlCommand;
-
-/// "quorix score": shows the score widget of a token as a picture, a tree or words.
-extern const Command scoreCommand;
-
-/// "quorix strings check": finds a translator's mistakes in the "Localizable" tables.
-extern const Command stringsCheckCommand;
-
-/// "quorix texts": prints a built-in table of the score widget as a translations server sends it.
-extern const Command textsCommand;
+Command overlayUrlCommand();
 
 /// "quorix preview": shows a widget in a window and updates it when files change.
-extern const Command previewCommand;
+Command previewCommand();
+
+/// "quorix score": shows the score widget of a token as a picture, a tree or words.
+Command scoreCommand();
+
+/// "quorix strings check": finds a translator's mistakes in the "Localizable" tables.
+Command stringsCheckCommand();
+
+/// "quorix texts": prints a built-in table of the score widget as a translations server sends it.
+Command textsCommand();
 
 }  // namespace quorix::tool

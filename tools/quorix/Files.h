@@ -7,7 +7,7 @@
 #include <string>
 #include <variant>
 
-#include "tools/quorix/Failure.h"
+#include "tools/quorix/CommandLine.h"
 
 namespace quorix::tool {
 

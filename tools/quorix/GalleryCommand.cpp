@@ -1,141 +1,186 @@
-#include "tools/quorix/Commands.h"
-
 #include <array>
-#include <string_view>
-#include <utility>
+#include <chrono>
+#include <cstdio>
+#include <memory>
+
+#ifdef _WIN32
+#include <io.h>
+#else
+#include <unistd.h>
+#endif
 
 #include "platform/render/ScenePrinter.h"
 #include "tools/quorix/Application.h"
+#include "tools/quorix/Commands.h"
 #include "tools/quorix/Files.h"
-#include "tools/quorix/OptionReader.h"
-#include "tools/quorix/Progress.h"
 #include "tools/quorix/gallery/CellRenderer.h"
-#include "tools/quorix/gallery/ContactSheet.h"
-#include "tools/quorix/gallery/FewColors.h"
 #include "tools/quorix/gallery/GalleryPage.h"
+#include "tools/quorix/gallery/Pictures.h"
 
 namespace quorix::tool {
 namespace {
 
-using gallery::Cell;
+using namespace std::chrono_literals;
 
-template <class Choice, std::size_t count>
-constexpr auto namesOf(const std::array<Choice, count>& table) {
-  std::array<std::string_view, count> names;
-  for (std::size_t i = 0; i < count; ++i) names[i] = table[i].name;
+/// Reports the progress on the standard error stream, from the third second on. On a terminal this
+/// is one line that is removed at the end, otherwise a new line every two seconds.
+class Progress {
+ public:
+  explicit Progress(std::size_t count) : count_(count) {}
+  ~Progress() {
+    if (said_ && onTerminal_) std::fputs("\r\033[K", stderr);
+  }
+  Progress(const Progress&) = delete;
+  Progress& operator=(const Progress&) = delete;
+
+  /// The next screen begins.
+  void step() {
+    ++begun_;
+    const auto now = std::chrono::steady_clock::now();
+    if (now < next_) return;
+    next_ = now + (onTerminal_ ? 200ms : patience);
+    said_ = true;
+    std::fprintf(stderr, "%squorix: gallery: %zu of %zu screens%s", onTerminal_ ? "\r" : "", begun_,
+                 count_, onTerminal_ ? "" : "\n");
+  }
+
+ private:
+  static constexpr auto patience = 2000ms;  // between lines, and before the first
+
+  static bool isTerminal() {
+#ifdef _WIN32
+    return _isatty(_fileno(stderr)) != 0;
+#else
+    return isatty(STDERR_FILENO) != 0;
+#endif
+  }
+
+  std::size_t count_, begun_ = 0;
+  bool onTerminal_ = isTerminal(), said_ = false;
+  std::chrono::steady_clock::time_point next_ = std::chrono::steady_clock::now() + patience;
+};
+
+/// The names in one of the tables of the matrix.
+template <const auto& table>
+constexpr auto namesOf = [] {
+  std::array<std::string_view, table.size()> names;
+  for (std::size_t i = 0; i < table.size(); ++i) names[i] = table[i].name;
   return names;
-}
-
-constexpr auto languages = namesOf(gallery::languages);
-constexpr auto widgets = namesOf(gallery::widgets);
-constexpr auto appearances = namesOf(gallery::appearances);
-constexpr auto readings = namesOf(gallery::readings);
-constexpr auto textSizes = namesOf(gallery::textSizes);
-constexpr auto screens = namesOf(gallery::screens);
-
-constexpr auto options = std::to_array<Option>({
-    {"--out",
-     "FILE",
-     "Where to write: a page if the name ends in .html, one large picture if it ends in .png.",
-     {},
-     true},
-    {"--language", "CODE", "Only this language: {} (default all).", languages},
-    {"--widget", "NAME", "Only {} (default all).", widgets},
-    {"--appearance", "NAME", "Only {} (default both).", appearances},
-    {"--text-size", "NAME", "Only {} (default all).", textSizes},
-    {"--direction", "NAME", "Only the language's own or the opposite one: {} (default both).",
-     readings},
-    {"--width", "POINTS", "Only {} (default all).", screens},
-    {"--showcase", "", "Only a handful that shows the range."},
-    {"--scale", "FACTOR", "Pixels for each point, 0.5 to 4 (default 1)."},
-    {"--page-width", "POINTS", "Of a picture, 100 to 20000 (default 1680)."},
-});
+}();
 
 struct Request {
-  std::vector<Cell> cells;
   std::string out;
-  bool asPicture = false;
+  gallery::Selection selection;
+  bool showcase = false;
   double scale = 1;
   double pageWidth = 1680;
 };
 
-Request readRequest(OptionReader& read) {
-  Request request;
-  request.out = read.text("--out", {});
-  request.asPicture = request.out.ends_with(".png");
-  if (!request.asPicture && !request.out.ends_with(".html")) {
-    read.fail("--out wants a file that ends in .html or .png, not \"" + request.out + '"');
+Outcome showGallery(const Request& request) {
+  const bool asPicture = request.out.ends_with(".png");
+  if (!asPicture && !request.out.ends_with(".html")) {
+    return Failure::usage("--out wants a file that ends in .html or .png, not \"" + request.out +
+                          '"');
   }
-  const gallery::Selection selection{
-      .widget = read.optionalText("--widget"),
-      .language = read.optionalText("--language"),
-      .appearance = read.optionalText("--appearance"),
-      .textSize = read.optionalText("--text-size"),
-      .reading = read.optionalText("--direction"),
-      .screen = read.optionalText("--width"),
-  };
-  request.cells = read.has("--showcase") ? gallery::showcase() : gallery::cells(selection);
-  request.scale = read.number("--scale", 1, {0.5, 4});
-  request.pageWidth = read.number("--page-width", request.pageWidth, {100, 20000});
-  return request;
-}
-
-Outcome writePage(const Request& request) {
-  const gallery::CellRenderer renderer;
-  gallery::GalleryPage page;
-  Progress progress("gallery", "screens", request.cells.size());
-  for (const Cell& cell : request.cells) {
-    progress.step();
-    const auto shown = renderer.render(cell, request.scale);
-    page.add(cell, gallery::picture(shown, request.scale), shown.tree,
-             render::printAccessibility(shown.still.topmost()));
-  }
-  if (auto failure = writeFile(request.out, QByteArray::fromStdString(page.html()))) {
-    return *std::move(failure);
-  }
-  return std::string();
-}
-
-Outcome writeSheet(const Request& request) {
-  const gallery::CellRenderer renderer;
-  std::vector<gallery::ContactSheet::Entry> entries;
-  Progress progress("gallery", "screens", request.cells.size());
-  for (const Cell& cell : request.cells) {
-    progress.step();
-    const auto shown = renderer.render(cell, request.scale);
-    entries.push_back({gallery::picture(shown, request.scale), cell.id()});
-  }
-  const QImage sheet = gallery::ContactSheet::paint(entries, request.pageWidth);
-  if (sheet.isNull()) return Failure::refused("the picture would be too large: ask for less");
-  if (auto failure = writePicture(gallery::withFewColors(sheet), request.out)) {
-    return *std::move(failure);
-  }
-  return std::string();
-}
-
-Outcome showGallery(const Arguments& arguments) {
-  OptionReader read(arguments);
-  const Request request = readRequest(read);
-  if (read.failure()) return *read.failure();
   const PictureApplication application;
-  return request.asPicture ? writeSheet(request) : writePage(request);
+  const gallery::CellRenderer renderer;
+  const auto cells = request.showcase ? gallery::showcase() : gallery::cells(request.selection);
+  gallery::GalleryPage page;
+  std::vector<gallery::CaptionedPicture> pictures;
+  {
+    Progress progress(cells.size());
+    for (const gallery::Cell& cell : cells) {
+      progress.step();
+      const auto shown = renderer.render(cell, request.scale);
+      QImage picture = gallery::picture(shown, request.scale);
+      if (asPicture) {
+        pictures.push_back({std::move(picture), cell.id()});
+      } else {
+        page.add(cell, picture, shown.tree, render::printAccessibility(shown.still.topmost()));
+      }
+    }
+  }
+  std::optional<Failure> failure;
+  if (!asPicture) {
+    failure = writeFile(request.out, QByteArray::fromStdString(page.html()));
+  } else if (const QImage sheet = gallery::contactSheet(pictures, request.pageWidth);
+             !sheet.isNull()) {
+    failure = writePicture(gallery::withFewColors(sheet), request.out);
+  } else {
+    failure = Failure::refused("the picture would be too large: ask for less");
+  }
+  if (failure) return *std::move(failure);
+  return std::string();
 }
 
 }  // namespace
 
-const Command galleryCommand{
-    .name = "gallery",
-    .purpose =
-        "Shows the widgets on every screen: language, text size, direction, width.\n"
-        "Nothing is fetched: texts and faces are the built-in ones and the demo shop's.",
-    .options = options,
-    .operand = {},
-    .details =
-        "The page holds its pictures and works without a network. Beside each picture stands what "
-        "a screen reader meets, in each section the view tree. The text sizes are large, "
-        "extraExtraExtraLarge and accessibilityExtraExtraExtraLarge.",
-    .example = "quorix gallery --language es --widget row --out gallery.html",
-    .run = showGallery,
-};
+Command galleryCommand() {
+  const auto request = std::make_shared<Request>();
+  gallery::Selection& only = request->selection;
+  return {
+      .name = "gallery",
+      .purpose =
+          "Shows the widgets on every screen: language, text size, direction, width.\n"
+          "Nothing is fetched: texts and faces are the built-in ones and the demo shop's.",
+      .options =
+          {
+              {"--out",
+               "FILE",
+               "Where to write: a page if the name ends in .html, one large picture if it ends in "
+               ".png.",
+               &request->out,
+               {},
+               true},
+              {"--language",
+               "CODE",
+               "Only this language: {} (default all).",
+               &only.language,
+               {namesOf<gallery::languages>}},
+              {"--widget",
+               "NAME",
+               "Only {} (default all).",
+               &only.widget,
+               {namesOf<gallery::widgets>}},
+              {"--appearance",
+               "NAME",
+               "Only {} (default both).",
+               &only.appearance,
+               {namesOf<gallery::appearances>}},
+              {"--text-size",
+               "NAME",
+               "Only {} (default all).",
+               &only.textSize,
+               {namesOf<gallery::textSizes>}},
+              {"--direction",
+               "NAME",
+               "Only the language's own or the opposite one: {} (default both).",
+               &only.reading,
+               {namesOf<gallery::readings>}},
+              {"--width",
+               "POINTS",
+               "Only {} (default all).",
+               &only.screen,
+               {namesOf<gallery::screens>}},
+              {"--showcase", "", "Only a handful that shows the range.", &request->showcase},
+              {"--scale",
+               "FACTOR",
+               "Pixels for each point, {} (default 1).",
+               &request->scale,
+               {.least = 0.5, .most = 4}},
+              {"--page-width",
+               "POINTS",
+               "Of a picture, {} (default 1680).",
+               &request->pageWidth,
+               {.least = 100, .most = 20000}},
+          },
+      .details =
+          "The page holds its pictures and works without a network. Beside each picture stands "
+          "what a screen reader meets, in each section the view tree. The text sizes are large, "
+          "extraExtraExtraLarge and accessibilityExtraExtraExtraLarge.",
+      .example = "quorix gallery --language es --widget row --out gallery.html",
+      .run = [request] { return showGallery(*request); },
+  };
+}
 
 }  // namespace quorix::tool

@@ -1,12 +1,18 @@
-#include "tools/quorix/Help.h"
-
 #include <algorithm>
+#include <memory>
+#include <sstream>
+#include <utility>
 
 #include "tools/quorix/Commands.h"
-#include "tools/quorix/Names.h"
 
 namespace quorix::tool {
 namespace {
+
+constexpr std::string_view toolPurpose =
+    "quorix shows the widgets without an app: what a shopper sees, hears and is charged. "
+    "It works without a display and without a network.";
+constexpr std::string_view exitStatus =
+    "0 when all went well, 1 for input that was refused, 2 for a wrong command line.";
 
 constexpr std::size_t lineWidth = 79;
 constexpr std::size_t optionColumn = 28;
@@ -15,28 +21,18 @@ constexpr std::size_t commandColumn = 17;
 /// `left`, and the words of `right`, broken into lines that start at `column`.
 std::string twoColumns(std::string left, std::string_view right, std::size_t column) {
   std::string line = std::move(left), result;
-  if (line.size() + 2 > column && column > 0) {
-    result = line + '\n';
-    line.clear();
-  }
-  line.resize(column, ' ');
-  while (!right.empty()) {
-    const std::size_t end = std::min(right.find_first_of(" \n"), right.size());
-    const bool first = line.size() <= column;
-    if (!first && line.size() + 1 + end > lineWidth) {
-      result += line + '\n';
-      line.assign(column, ' ');
-    } else if (!first) {
-      line += ' ';
+  const auto endLine = [&] { result += std::exchange(line, {}) + '\n'; };
+  if (column > 0 && line.size() + 2 > column) endLine();
+  std::istringstream paragraphs{std::string(right)};
+  for (std::string paragraph; std::getline(paragraphs, paragraph); endLine()) {
+    std::istringstream words(paragraph);
+    for (std::string word; words >> word; line += word) {
+      if (line.size() > column && line.size() + 1 + word.size() > lineWidth) endLine();
+      if (line.size() > column) line += ' ';
+      line.resize(std::max(line.size(), column), ' ');
     }
-    line += right.substr(0, end);
-    if (end < right.size() && right[end] == '\n') {
-      result += line + '\n';
-      line.assign(column, ' ');
-    }
-    right.remove_prefix(std::min(end + 1, right.size()));
   }
-  return result + line + '\n';
+  return result;
 }
 
 std::string indented(std::string_view lines) {
@@ -48,16 +44,7 @@ std::string indented(std::string_view lines) {
   return result + '\n';
 }
 
-Outcome help(const Arguments& arguments) {
-  const std::string& name = arguments.operand().value_or("");
-  if (name.empty()) return helpText();
-  const auto found = findCommand(std::span(&name, 1));
-  if (const auto* failure = std::get_if<Failure>(&found)) return *failure;
-  return helpText(*std::get<const Command*>(found));
-}
-
-}  // namespace
-
+/// "score TOKEN [options]".
 std::string usage(const Command& command) {
   std::string text(command.name);
   if (!command.operand.name.empty()) text += ' ' + std::string(command.operand.name);
@@ -67,19 +54,63 @@ std::string usage(const Command& command) {
   return command.options.empty() ? text : text + " [options]";
 }
 
+/// Escapes `text` for the formatter: a hyphen stays a hyphen when copied, and a dot at the start of
+/// a line is not a request.
+std::string escaped(std::string_view text) {
+  std::string result;
+  for (const char c : text) {
+    const bool atBeginning = result.empty() || result.back() == '\n';
+    if (atBeginning && (c == '.' || c == '\'')) result += "\\&";
+    if (c == '\\')
+      result += "\\e";
+    else if (c == '-')
+      result += "\\-";
+    else
+      result += c;
+  }
+  return result;
+}
+
+/// A paragraph with a hanging heading.
+std::string item(const Option& option) {
+  std::string text = ".TP\n\\fB" + escaped(option.name) + "\\fR";
+  if (!option.value.empty()) text += " \\fI" + escaped(option.value) + "\\fR";
+  return text + '\n' + escaped(described(option)) + '\n';
+}
+
+std::string section(const Command& command) {
+  std::string text = ".SS quorix " + escaped(usage(command)) + '\n';
+  text += escaped(command.purpose) + '\n';
+  if (!command.operand.name.empty()) text += item(command.operand);
+  for (const Option& option : command.options) text += item(option);
+  if (!command.details.empty()) text += ".PP\n" + escaped(command.details) + '\n';
+  return text + ".PP\n.nf\n" + escaped(command.example) + "\n.fi\n";
+}
+
+std::string manualPage() {
+  std::string page = ".TH QUORIX 1 \"\" \"QuorixWidgets " QUORIX_VERSION "\" \"User Commands\"\n";
+  page += ".SH NAME\nquorix \\- shows return standing widgets without an app\n";
+  page += ".SH SYNOPSIS\n\\fBquorix\\fR \\fICOMMAND\\fR [options]\n";
+  page += ".SH DESCRIPTION\n" + escaped(toolPurpose) + "\n.SH COMMANDS\n";
+  for (const Command& command : commands()) page += section(command);
+  return page + ".SH EXIT STATUS\n" + escaped(exitStatus) + '\n';
+}
+
+}  // namespace
+
 std::string described(const Option& option) {
   std::string text(option.help);
   const std::size_t place = text.find("{}");
-  if (place != std::string::npos) text.replace(place, 2, listed(option.names));
+  if (place != std::string::npos) text.replace(place, 2, validValues(option));
   return text;
 }
 
 std::string helpText() {
   std::string text = twoColumns("", toolPurpose, 0);
   text += "\nUsage: quorix COMMAND [options]\n\nCommands:\n";
-  for (const Command* command : commands()) {
-    const std::string_view firstLine = command->purpose.substr(0, command->purpose.find('\n'));
-    text += twoColumns("  " + std::string(command->name), firstLine, commandColumn);
+  for (const Command& command : commands()) {
+    const std::string_view firstLine = command.purpose.substr(0, command.purpose.find('\n'));
+    text += twoColumns("  " + std::string(command.name), firstLine, commandColumn);
   }
   text += twoColumns("  --version", "Prints the version.", commandColumn);
   text += "\n\"quorix help COMMAND\" or \"quorix COMMAND --help\" tells the rest.\n\nExample:\n";
@@ -105,14 +136,29 @@ std::string helpText(const Command& command) {
   return text + "\nExample:\n" + indented(command.example);
 }
 
-const Command helpCommand{
-    .name = "help",
-    .purpose = "Prints the list of commands, or what there is to know of one.",
-    .options = {},
-    .operand = {"[COMMAND...]", "", "The command, in one word or two."},
-    .details = {},
-    .example = "quorix help strings check",
-    .run = help,
-};
+Command helpCommand() {
+  const auto name = std::make_shared<std::string>();
+  return {
+      .name = "help",
+      .purpose = "Prints the list of commands, or what there is to know of one.",
+      .operand = {"[COMMAND...]", "", "The command, in one word or two.", name.get()},
+      .example = "quorix help strings check",
+      .run = [name]() -> Outcome {
+        if (name->empty()) return helpText();
+        const auto found = findCommand(std::span(name.get(), 1));
+        if (const auto* failure = std::get_if<Failure>(&found)) return *failure;
+        return helpText(*std::get<const Command*>(found));
+      },
+  };
+}
+
+Command manCommand() {
+  return {
+      .name = "man",
+      .purpose = "Prints the manual page, which is installed with the tool.",
+      .example = "quorix man > quorix.1 && head -1 quorix.1",
+      .run = manualPage,
+  };
+}
 
 }  // namespace quorix::tool

@@ -1,12 +1,8 @@
-#include "tools/quorix/Commands.h"
-
+#include <QColor>
+#include <algorithm>
 #include <memory>
-#include <optional>
-#include <span>
-#include <variant>
 
 #include "QuorixWidgets/info/InfoWidgetBuilder.h"
-#include "platform/graphics/RGBA.h"
 #include "platform/swiftui/TreePrinter.h"
 #include "platform/swiftui/UIViewRepresentable.h"
 #include "platform/uikit/UIApplication.h"
@@ -14,67 +10,19 @@
 #include "platform/uikit/UIWindow.h"
 #include "platform/uikit/ViewPrinter.h"
 #include "tools/quorix/Application.h"
-#include "tools/quorix/Arguments.h"
-#include "tools/quorix/WidgetOptions.h"
-#include "tools/quorix/WidgetOutput.h"
-#include "tools/quorix/WidgetRequest.h"
+#include "tools/quorix/Commands.h"
+#include "tools/quorix/Widget.h"
+#include "tools/quorix/gallery/CellRenderer.h"
 
 namespace quorix::tool {
 namespace {
 
-/// The request of a "quorix info" command line.
-struct InfoRequest : WidgetRequest {
-  bool imperative = false;
-  std::optional<graphics::RGBA> backgroundColor = {};
-  bool border = false;
-
-  static const std::span<const Option> options;
-
-  /// The request in `arguments`, or the error in them.
-  static std::variant<InfoRequest, Failure> read(const Arguments& arguments);
-};
-
 constexpr std::string_view forms[] = {"declarative", "imperative"};
 
-constexpr auto table = withWidgetOptions({
-    {"--form", "NAME", "{} (default declarative).", forms},
-    {"--background-color", "#RRGGBB",
-     "Behind the texts (default the library's own). The imperative "
-     "form does not take one."},
-    {"--border", "", "Draws a border. The imperative form has none."},
-});
-
-const std::span<const Option> InfoRequest::options = table;
-
-std::variant<InfoRequest, Failure> InfoRequest::read(const Arguments& arguments) {
-  OptionReader read(arguments);
-  InfoRequest request{WidgetRequest::from(read)};
-  request.imperative = read.choice("--form") == 1;
-  request.backgroundColor = read.color("--background-color");
-  request.border = read.has("--border");
-  if (request.imperative && (request.backgroundColor || request.border)) {
-    read.fail("the imperative form takes neither a background color nor a border");
-  }
-  if (read.failure()) return *read.failure();
-  return request;
-}
-
-/// The app's only screen for imperative views. Keeps the controllers that they present over it.
-/// Main thread.
-class StandInScreen {
- public:
-  StandInScreen();
-  ~StandInScreen();
-  StandInScreen(const StandInScreen&) = delete;
-  StandInScreen& operator=(const StandInScreen&) = delete;
-
-  /// Taps the first view in `root` that takes taps. Returns the controller that this presents, or
-  /// null.
-  std::shared_ptr<uikit::UIViewController> presentedByTap(const uikit::UIView& root) const;
-
- private:
-  std::shared_ptr<uikit::UIWindow> window_ = std::make_shared<uikit::UIWindow>();
-  std::shared_ptr<uikit::UIWindowScene> scene_ = std::make_shared<uikit::UIWindowScene>();
+struct InfoRequest : WidgetRequest {
+  int form = 0;
+  std::optional<std::string> backgroundColor = {};
+  bool border = false;
 };
 
 bool tapFirst(const uikit::UIView& view) {
@@ -82,40 +30,30 @@ bool tapFirst(const uikit::UIView& view) {
     view.gestureRecognizers().front()->recognize();
     return true;
   }
-  for (const auto& subview : view.subviews()) {
-    if (tapFirst(*subview)) return true;
-  }
-  return false;
+  return std::ranges::any_of(view.subviews(), [](const auto& child) { return tapFirst(*child); });
 }
 
-StandInScreen::StandInScreen() {
-  window_->setRootViewController(std::make_shared<uikit::UIViewController>());
-  window_->makeKeyAndVisible();
-  scene_->addWindow(window_);
-  scene_->setActivationState(uikit::UIScene::ActivationState::foregroundActive);
-  uikit::UIApplication::shared().connect(scene_);
-}
-
-StandInScreen::~StandInScreen() { uikit::UIApplication::shared().disconnect(scene_); }
-
-std::shared_ptr<uikit::UIViewController> StandInScreen::presentedByTap(
-    const uikit::UIView& root) const {
+/// Taps the first view in `root` that takes taps, in an app with one screen. Returns the controller
+/// that this presents, or null.
+std::shared_ptr<uikit::UIViewController> presentedByTap(const uikit::UIView& root) {
+  const auto screen = std::make_shared<uikit::UIViewController>();
+  const auto window = std::make_shared<uikit::UIWindow>();
+  window->setRootViewController(screen);
+  window->makeKeyAndVisible();
+  const auto scene = std::make_shared<uikit::UIWindowScene>();
+  scene->addWindow(window);
+  scene->setActivationState(uikit::UIScene::ActivationState::foregroundActive);
+  uikit::UIApplication::shared().connect(scene);
   tapFirst(root);
-  return window_->rootViewController()->presentedViewController();
+  uikit::UIApplication::shared().disconnect(scene);
+  return screen->presentedViewController();
 }
 
-Outcome showDeclarative(const InfoRequest& request, const InfoWidgetStyle& style) {
-  const auto view = InfoWidgetBuilder::buildSwiftUIInfoWidgetView(request.locale, style);
-  return showWidget(view, request, [&] { return swiftui::printTree(view); });
-}
-
-Outcome showImperative(const InfoRequest& request, const InfoWidgetStyle& style,
-                       const PictureApplication& application) {
+Outcome showImperative(const InfoRequest& request, const InfoWidgetStyle& style) {
   const auto widget = InfoWidgetBuilder::buildUIKitInfoWidgetView(request.locale, style);
-  application.takeTurn();  // sets the title
+  gallery::takeTurn();  // sets the title
   swiftui::View view = swiftui::hosting(widget);
-  std::shared_ptr<uikit::UIViewController> overlay;
-  if (request.picture.sheet) overlay = StandInScreen().presentedByTap(*widget);
+  const auto overlay = request.picture.sheet ? presentedByTap(*widget) : nullptr;
   if (overlay) {
     view = view.sheet(swiftui::State<bool>(true).binding(), swiftui::hosting(overlay));
   }
@@ -125,33 +63,50 @@ Outcome showImperative(const InfoRequest& request, const InfoWidgetStyle& style,
   });
 }
 
-Outcome info(const Arguments& arguments) {
-  auto read = InfoRequest::read(arguments);
-  if (const auto* failure = std::get_if<Failure>(&read)) return *failure;
-  auto& request = std::get<InfoRequest>(read);
-
-  const PictureApplication application;
-  if (const auto failure = request.findFaces()) return *failure;
+Outcome info(InfoRequest& request) {
+  const bool imperative = request.form == 1;
   std::optional<swiftui::Color> background;
-  if (request.backgroundColor) background = swiftui::Color::fixed(*request.backgroundColor);
+  if (const auto& text = request.backgroundColor) {
+    const QColor color = QColor::fromString(QString::fromStdString(*text));
+    if (!color.isValid() || !text->starts_with('#') || text->size() != 7) {
+      return Failure::usage("--background-color wants a color such as #FAF7F0, not \"" + *text +
+                            '"');
+    }
+    const auto byte = [](int channel) { return static_cast<std::uint8_t>(channel); };
+    background =
+        swiftui::Color::fixed({byte(color.red()), byte(color.green()), byte(color.blue())});
+  }
+  if (imperative && (background || request.border)) {
+    return Failure::usage("the imperative form takes neither a background color nor a border");
+  }
+  const PictureApplication application;
+  if (auto failure = request.prepare()) return *std::move(failure);
   const InfoWidgetStyle style(request.regularFont, request.semiBoldFont, background,
                               request.border);
-  return request.imperative ? showImperative(request, style, application)
-                            : showDeclarative(request, style);
+  if (imperative) return showImperative(request, style);
+  const auto view = InfoWidgetBuilder::buildSwiftUIInfoWidgetView(request.locale, style);
+  return showWidget(view, request, [&] { return swiftui::printTree(view); });
 }
 
 }  // namespace
 
-const Command infoCommand{
-    .name = "info",
-    .purpose =
-        "Shows the info widget: as a picture, a view tree, frames or words.\n"
-        "Nothing is fetched: of a sheet, the page stays blank.",
-    .options = InfoRequest::options,
-    .operand = {},
-    .details = {},
-    .example = "quorix info --form imperative --locale es --width 343 --scale 3 --out info.png",
-    .run = info,
-};
+Command infoCommand() {
+  const auto request = std::make_shared<InfoRequest>();
+  return {
+      .name = "info",
+      .purpose =
+          "Shows the info widget: as a picture, a view tree, frames or words.\n"
+          "Nothing is fetched: of a sheet, the page stays blank.",
+      .options = withWidgetOptions(
+          *request,
+          {{"--form", "NAME", "{} (default declarative).", &request->form, {forms}},
+           {"--background-color", "#RRGGBB",
+            "Behind the texts (default the library's own). The imperative form does not take one.",
+            &request->backgroundColor},
+           {"--border", "", "Draws a border. The imperative form has none.", &request->border}}),
+      .example = "quorix info --form imperative --locale es --width 343 --scale 3 --out info.png",
+      .run = [request] { return info(*request); },
+  };
+}
 
 }  // namespace quorix::tool

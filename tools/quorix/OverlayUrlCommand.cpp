@@ -1,24 +1,15 @@
-#include "tools/quorix/Commands.h"
+#include <memory>
 
 #include "QuorixWidgets/localization/ServiceAddresses.h"
-#include "tools/quorix/TokenInput.h"
+#include "tools/quorix/Commands.h"
+#include "tools/quorix/Tokens.h"
 
 namespace quorix::tool {
 namespace {
 
-constexpr Option options[] = {
-    {"--locale", "LANGUAGE", "The page's language, such as en or nb (default none)."},
-    {"--name", "TEXT", "The shopper's name; sent with a token only (default none)."},
-};
-
-Outcome overlayUrl(const Arguments& arguments) {
-  OverlayAddress address{.token = arguments.operand(),
-                         .userName = arguments.value("--name"),
-                         .locale = arguments.value("--locale")};
+Outcome overlayUrl(OverlayAddress address) {
   if (address.token) {
-    auto token = tokenText(*address.token);
-    if (auto* failure = std::get_if<Failure>(&token)) return *failure;
-    address.token = std::get<std::string>(std::move(token));
+    if (auto failure = readTokenInput(*address.token)) return *std::move(failure);
   }
   const auto url = address.url();
   if (!url) return Failure::refused("the overlay has no address");
@@ -27,20 +18,30 @@ Outcome overlayUrl(const Arguments& arguments) {
 
 }  // namespace
 
-const Command overlayUrlCommand{
-    .name = "overlay-url",
-    .purpose =
-        "Prints the address of the page behind a widget.\n"
-        "Nothing is loaded from it.",
-    .options = options,
-    .operand = {"[TOKEN]", "",
-                "The shopper's token, or - to read it from the standard input; without it the "
-                "overlay is the general page. It is not checked."},
-    .details =
-        "A text that is given but empty counts as given: '' for TOKEN is a shopper's page without "
-        "a token, and no --locale at all is the query's bare name.",
-    .example = "quorix overlay-url --locale nb --name Ann \"$(quorix mint)\"",
-    .run = overlayUrl,
-};
+Command overlayUrlCommand() {
+  const auto address = std::make_shared<OverlayAddress>();
+  return {
+      .name = "overlay-url",
+      .purpose =
+          "Prints the address of the page behind a widget.\n"
+          "Nothing is loaded from it.",
+      .options =
+          {
+              {"--locale", "LANGUAGE", "The page's language, such as en or nb (default none).",
+               &address->locale},
+              {"--name", "TEXT", "The shopper's name; sent with a token only (default none).",
+               &address->userName},
+          },
+      .operand = {"[TOKEN]", "",
+                  "The shopper's token, or - to read it from the standard input; without it the "
+                  "overlay is the general page. It is not checked.",
+                  &address->token},
+      .details =
+          "A text that is given but empty counts as given: '' for TOKEN is a shopper's page "
+          "without a token, and no --locale at all is the query's bare name.",
+      .example = "quorix overlay-url --locale nb --name Ann \"$(quorix mint)\"",
+      .run = [address] { return overlayUrl(*address); },
+  };
+}
 
 }  // namespace quorix::tool

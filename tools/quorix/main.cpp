@@ -4,20 +4,21 @@
 #include <vector>
 
 #include "tools/quorix/Commands.h"
-#include "tools/quorix/Help.h"
 
 namespace {
 
-using quorix::tool::Arguments;
 using quorix::tool::Command;
 using quorix::tool::Failure;
 using quorix::tool::Outcome;
 
+bool asksForHelp(const std::string& word) { return word == "--help" || word == "-h"; }
+
 Outcome run(const Command& command, std::span<const std::string> words) {
-  if (Arguments::wantHelp(words)) return helpText(command);
-  const auto arguments = Arguments::parse(words, command.options, command.operand);
-  if (const auto* failure = std::get_if<Failure>(&arguments)) return *failure;
-  return command.run(std::get<Arguments>(arguments));
+  if (std::any_of(words.begin(), std::ranges::find(words, "--"), asksForHelp)) {
+    return helpText(command);
+  }
+  if (auto failure = parse(words, command)) return *std::move(failure);
+  return command.run();
 }
 
 /// Adds the command's name to `failure` and, for a wrong command line, a reference to the help.
@@ -33,7 +34,11 @@ Outcome run(std::span<const std::string> words) {
   if (words.empty()) return placed(Failure::usage("no command given"), {});
   const std::string& first = words.front();
   if (first == "--version") return "quorix " QUORIX_VERSION "\n";
-  if (first == "--help" || first == "-h") return quorix::tool::helpText();
+  if (asksForHelp(first)) return quorix::tool::helpText();
+  // The shells' completion scripts run this.
+  if (first == "--complete") {
+    return quorix::tool::completions({words.begin() + 1, words.end()});
+  }
   const auto found = quorix::tool::findCommand(words);
   if (const auto* failure = std::get_if<Failure>(&found)) return placed(*failure, {});
   const Command& command = *std::get<const Command*>(found);

@@ -51,13 +51,6 @@ swiftui::View infoWidgetOf(std::string_view name, std::string_view language) {
                                 style.showBorder})};
 }
 
-/// Runs a turn of the main queue, which sets the title of an imperative widget.
-void takeTurn() {
-  QEventLoop loop;
-  foundation::MainQueue::async([&] { loop.quit(); });
-  loop.exec();
-}
-
 qt::PictureOptions optionsOf(const Cell& cell, double scale) {
   qt::PictureOptions options;
   options.width = cell.screen->value.width;
@@ -79,11 +72,15 @@ std::optional<double> panelTop(const render::Scene& scene) {
 
 }  // namespace
 
-CellRenderer::CellRenderer()
-    : offline_(foundation::URLSession::shared().registerProtocol([](const auto&) {
-        return foundation::URLResponse{foundation::Error{"gallery", 1, "no network"}, {}, 0};
-      })) {
+void takeTurn() {
+  QEventLoop loop;
+  foundation::MainQueue::async([&] { loop.quit(); });
+  loop.exec();
+}
+
+CellRenderer::CellRenderer() {
   qt::installEngine();
+  foundation::URLSession::shared().setNetworkEnabled(false);
   for (const auto& language : languages) {
     if (!language.value.builtIn) tables_[language.name] = readTable(language.name);
   }

@@ -13,8 +13,11 @@
 
 namespace quorix::gallery {
 
-/// Renders cells of the matrix from the texts that are compiled in; while one exists, the network
-/// is not used. Needs an application object; main thread.
+/// Runs a turn of the main queue, which sets the title of an imperative widget.
+void takeTurn();
+
+/// Renders cells of the matrix from the texts that are compiled in. Turns the network off. Needs an
+/// application object; main thread.
 ///
 ///     const CellRenderer renderer;
 ///     for (const Cell& cell : cells()) picture(renderer.render(cell, 2), 2).save(...);
@@ -34,7 +37,6 @@ class CellRenderer {
   swiftui::View scoreWidget(const Cell& cell) const;
 
   std::map<std::string_view, std::shared_ptr<const TranslationTable>> tables_;
-  std::shared_ptr<void> offline_;
 };
 
 /// The picture of `shown`. For a window with a sheet, the sheet and a little of the window above

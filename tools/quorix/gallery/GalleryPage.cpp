@@ -5,7 +5,7 @@
 #include <QImageWriter>
 #include <cmath>
 
-#include "tools/quorix/gallery/FewColors.h"
+#include "tools/quorix/gallery/Pictures.h"
 
 namespace quorix::gallery {
 namespace {

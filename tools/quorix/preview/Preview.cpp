@@ -4,17 +4,14 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QProcess>
-#include <QSaveFile>
 #include <algorithm>
 #include <cstdio>
 #include <vector>
 
 #include "QuorixWidgets/localization/ResourceBundle.h"
-#include "QuorixWidgets/localization/Strings.h"
-#include "platform/foundation/StringsFile.h"
 #include "platform/foundation/URLSession.h"
 #include "tools/quorix/Files.h"
-#include "tools/quorix/Translations.h"
+#include "tools/quorix/Texts.h"
 
 #ifdef Q_OS_UNIX
 #include <unistd.h>
@@ -22,6 +19,9 @@
 
 namespace quorix::tool {
 namespace {
+
+using foundation::URLResponse;
+using foundation::URLSession;
 
 constexpr const char* kPlaces = "QUORIX_PREVIEW_PLACES";  // window positions, kept over a restart
 
@@ -41,13 +41,6 @@ QStringList languages() {
   return codes;
 }
 
-/// The current text of the file.
-std::optional<std::string> textOf(const std::optional<std::string>& file) {
-  auto bytes = file ? readInputFile(*file) : Failure::refused("");
-  auto* text = std::get_if<std::string>(&bytes);
-  return text ? std::optional(std::move(*text)) : std::nullopt;
-}
-
 /// The string tables in `folder`.
 QStringList tables(const QString& folder) {
   QStringList files;
@@ -59,20 +52,18 @@ QStringList tables(const QString& folder) {
   return files;
 }
 
-/// The problems in the string table `file`; empty without any.
+/// The first problem in the string table `file`; empty without any.
 std::string findings(const std::string& file) {
   const auto bytes = readInputFile(file);
   if (const auto* failure = std::get_if<Failure>(&bytes)) return failure->message;
-  const auto reading = foundation::readStringsFile(std::get<std::string>(bytes));
-  if (const auto* error = std::get_if<foundation::Error>(&reading)) return error->description;
-  const auto found = problems(std::get<foundation::StringTable>(reading));
-  return found.empty() ? "" : '"' + found.front().key + "\" " + found.front().what;
+  const auto found = mistakesInTable(std::get<std::string>(bytes));
+  return found.empty() ? "" : found.front();
 }
 
 std::string findingsInTranslations(const std::string& file) {
   const auto document = readTranslations(file);
   if (const auto* failure = std::get_if<Failure>(&document)) return failure->message;
-  return Oversights::in(std::get<std::string>(document)).line().value_or("");
+  return Oversights::in(std::get<std::string>(document)).line();
 }
 
 /// The name of `file`, with its language if it is a table of one: "de.lproj/Localizable.strings".
@@ -92,18 +83,21 @@ bool isReadAgain(const QString& file) {
 
 Preview::Preview(const PreviewChoices& choices)
     : controls_(choices, languages()), files_(watched(choices)) {
-  translations_ = foundation::URLSession::shared().registerProtocol(
-      [file = choices.translations](const foundation::URL&) {
-        return serviceAnswer(textOf(file));
-      });
+  URLSession::shared().setNetworkEnabled(false);
+  if (const auto& file = choices.translations) {
+    translations_ = URLSession::shared().registerProtocol([file](const auto&) {
+      auto bytes = readInputFile(*file);
+      auto* text = std::get_if<std::string>(&bytes);
+      return text ? std::optional(URLResponse{{}, std::move(*text), 200}) : std::nullopt;
+    });
+  }
   pictureDue_.setSingleShot(true);
   pictureDue_.setInterval(50);  // milliseconds
   connect(&controls_, &PreviewControls::chosen, this, &Preview::refresh);
-  connect(&controls_, &PreviewControls::closed, qApp, &QApplication::quit);
-  connect(&screen_, &PreviewScreen::closed, qApp, &QApplication::quit);
   connect(&files_, &FileWatch::changed, this, &Preview::filesChanged);
   connect(&pictureDue_, &QTimer::timeout, this, &Preview::writePicture);
   screen_.installEventFilter(this);
+  controls_.installEventFilter(this);
 }
 
 void Preview::open() {
@@ -125,7 +119,9 @@ void Preview::open() {
 }
 
 bool Preview::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::UpdateRequest && controls_.choices().out) pictureDue_.start();
+  if (event->type() == QEvent::Close) QApplication::quit();
+  const bool repaints = watched == &screen_ && event->type() == QEvent::UpdateRequest;
+  if (repaints && controls_.choices().out) pictureDue_.start();
   return QObject::eventFilter(watched, event);
 }
 
@@ -134,7 +130,7 @@ void Preview::refresh() {
   choices.sheet = screen_.hasSheet();
   screen_.show(choices);
   const bool scales = choices.regularFont || choices.semiBoldFont;
-  const bool usual = choices.textSize == swiftui::ContentSizeCategory::large;
+  const bool usual = choices.environment().textSize == swiftui::ContentSizeCategory::large;
   controls_.say(scales || usual ? QString()
                                 : tr("The library's own faces keep their size; give "
                                      "--regular-font and --semi-bold-font to see yours follow."));
@@ -173,18 +169,20 @@ void Preview::startAnew() {
                        .arg(screen.x())
                        .arg(screen.y())
                        .toLatin1());
-  const QString program = QCoreApplication::applicationFilePath();
-  const QStringList words = QStringList(QStringLiteral("preview")) + choices.toWords();
+  std::vector<std::string> words = wordsOf(choices.options());
+  words.insert(words.begin(), {QCoreApplication::applicationFilePath().toStdString(), "preview"});
+  if (choices.token) words.insert(words.end(), {"--", choices.shoppers.back().token});
 #ifdef Q_OS_UNIX
   // Replaces the process, so that the terminal that started the preview can still end it.
-  std::vector<QByteArray> bytes{program.toLocal8Bit()};
-  for (const QString& word : words) bytes.push_back(word.toLocal8Bit());
   std::vector<char*> argv;
-  for (QByteArray& word : bytes) argv.push_back(word.data());
+  for (std::string& word : words) argv.push_back(word.data());
   argv.push_back(nullptr);
   execv(argv.front(), argv.data());
+#else
+  QStringList arguments;
+  for (const std::string& word : words) arguments.append(QString::fromStdString(word));
+  QProcess::startDetached(arguments.takeFirst(), arguments);
 #endif
-  QProcess::startDetached(program, words);
   QCoreApplication::quit();
 }
 
@@ -192,9 +190,8 @@ void Preview::writePicture() {
   const QImage picture = screen_.picture().toImage();
   if (picture == written_) return;
   written_ = picture;
-  QSaveFile file(QString::fromStdString(*controls_.choices().out));  // whole or not at all
-  const bool saved = file.open(QIODevice::WriteOnly) && picture.save(&file, "PNG") && file.commit();
-  if (!saved) controls_.say(tr("Can't write %1.").arg(file.fileName()));
+  const auto failure = tool::writePicture(picture, *controls_.choices().out);
+  if (failure) controls_.say(QString::fromStdString(failure->message));
 }
 
 }  // namespace quorix::tool

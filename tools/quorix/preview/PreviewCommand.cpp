@@ -1,33 +1,29 @@
-#include "tools/quorix/Commands.h"
-
 #include <QApplication>
-#include <utility>
+#include <memory>
 
 #include "QuorixWidgets/localization/ResourceBundle.h"
+#include "examples/common/TokenMint.h"
 #include "qt/Engine.h"
 #include "tools/quorix/Application.h"
-#include "tools/quorix/Translations.h"
+#include "tools/quorix/Commands.h"
+#include "tools/quorix/Texts.h"
+#include "tools/quorix/Tokens.h"
 #include "tools/quorix/preview/Preview.h"
-#include "tools/quorix/preview/PreviewChoices.h"
 
 namespace quorix::tool {
 namespace {
 
-using foundation::Bundle;
+constexpr std::string_view widgetNames[] = {"score", "info", "imperative"};
+constexpr std::string_view shopperNames[] = {"discount", "none",       "yen",
+                                             "kronor",   "unreadable", "own"};
 
-std::optional<Failure> layResources(const std::optional<std::string>& folder) {
-  if (!folder) return std::nullopt;
-  Bundle::Ref theme = Bundle::open(*folder);
-  if (!theme) return Failure::refused("can't read the folder " + *folder);
-  setTheme(std::move(theme));
-  return std::nullopt;
-}
-
-Outcome preview(const Arguments& arguments) {
-  auto read = PreviewChoices::read(arguments);
-  if (const auto* failure = std::get_if<Failure>(&read)) return *failure;
-  auto& choices = std::get<PreviewChoices>(read);
-  if (const auto failure = layResources(choices.resources)) return *failure;
+Outcome preview(PreviewChoices choices) {
+  if (auto failure = choices.prepare()) return *std::move(failure);
+  if (choices.resources) {
+    auto theme = foundation::Bundle::open(*choices.resources);
+    if (!theme) return Failure::refused("can't read the folder " + *choices.resources);
+    setTheme(std::move(theme));
+  }
   if (choices.translations) {
     const auto document = readTranslations(*choices.translations);
     if (const auto* failure = std::get_if<Failure>(&document)) return *failure;
@@ -40,7 +36,7 @@ Outcome preview(const Arguments& arguments) {
   int argc = 1;
   QApplication application(argc, argv);
   qt::installEngine();
-  if (const auto failure = choices.findFaces()) return *failure;
+  if (auto failure = choices.findFaces()) return *std::move(failure);
   Preview window(choices);
   window.open();
   QApplication::exec();
@@ -49,18 +45,65 @@ Outcome preview(const Arguments& arguments) {
 
 }  // namespace
 
-const Command previewCommand{
-    .name = "preview",
-    .purpose =
-        "Opens a window on a widget, with controls, and follows files as they change.\n"
-        "Texts are not fetched: they are the built-in ones or those of a file.",
-    .options = PreviewChoices::options,
-    .operand = {"[TOKEN]", "",
-                "A shopper of your own beside the ones offered, or - to read it from the standard "
-                "input."},
-    .details = {},
-    .example = "quorix preview --locale es --resources QuorixWidgets/resources",
-    .run = preview,
-};
+std::vector<Option> PreviewChoices::options() {
+  return withLook(
+      *this,
+      {
+          {"--widget", "NAME", "{} (default score).", &widget, {widgetNames}},
+          {"--shopper",
+           "NAME",
+           "{} (default own with TOKEN, else discount).",
+           &shopper,
+           {shopperNames}},
+          {"--translations", "FILE.json",
+           "Replaces the score widget's texts, as a fetched table would, and is followed.",
+           &translations},
+          {"--resources", "FOLDER",
+           "String tables (en.lproj/Localizable.strings), assets and interface files that replace "
+           "the library's own, file by file, and are followed.",
+           &resources},
+          {"--width",
+           "POINTS",
+           "Width of the screen, {} (default 375).",
+           &width,
+           {.least = narrowest, .most = widest}},
+          {"--sheet", "", "Opens the sheet, as a tap on the widget does.", &sheet},
+          {"--out", "FILE.png", "Writes a picture of the screen each time that it changes.", &out},
+      });
+}
+
+std::optional<Failure> PreviewChoices::prepare() {
+  const std::string whole = examples::mintToken({0.82, "EUR", 600, 300});
+  shoppers = {
+      {QStringLiteral("Discount, in euros"), whole},
+      {QStringLiteral("No discount, in pounds"), examples::mintToken({0.06, "GBP", 500, 250})},
+      {QStringLiteral("Yen"), examples::mintToken({0.91, "JPY", 55000, 33000})},
+      {QStringLiteral("Kronor"), examples::mintToken({0.74, "SEK", 6900, 3900})},
+      {QStringLiteral("Unreadable token"), whole.substr(0, whole.size() / 2)},
+  };
+  const int own = static_cast<int>(shoppers.size());
+  if (!shopper) shopper = token ? own : 0;
+  if (!token && *shopper == own) return Failure::usage("--shopper own wants a TOKEN");
+  if (!token) return std::nullopt;
+  shoppers.push_back({QStringLiteral("Your own"), *token});
+  return readTokenInput(shoppers.back().token);
+}
+
+Command previewCommand() {
+  const auto choices = std::make_shared<PreviewChoices>();
+  return {
+      .name = "preview",
+      .purpose =
+          "Opens a window on a widget, with controls, and follows files as they change.\n"
+          "Texts are not fetched: they are the built-in ones or those of a file.",
+      .options = choices->options(),
+      .operand = {"[TOKEN]", "",
+                  "A shopper of your own beside the ones offered, or - to read it from the "
+                  "standard input.",
+                  &choices->token},
+      .example = "quorix preview --locale es --resources QuorixWidgets/resources",
+      .run = [choices] { return preview(*choices); },
+  };
+}
 
 }  // namespace quorix::tool

@@ -19,18 +19,14 @@ class PreviewControls : public QWidget {
 
   const PreviewChoices& choices() const { return choices_; }
 
-  void say(const QString& line);
+  void say(const QString& line) { line_->setText(line); }
 
  signals:
   void chosen();
-  void closed();
-
- protected:
-  void closeEvent(QCloseEvent* event) override;
 
  private:
   /// Adds a list. `choose` is called with the index of the chosen entry.
-  void addList(const QString& caption, const QStringList& titles, std::size_t current,
+  void addList(const QString& caption, const QStringList& titles, int current,
                std::function<void(int)> choose);
   void addWidth();
 

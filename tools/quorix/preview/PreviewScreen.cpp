@@ -17,21 +17,21 @@ constexpr int kMargin = 16;
 constexpr int kHeight = 720;
 
 swiftui::View viewOf(const PreviewChoices& choices) {
-  if (choices.widget == PreviewChoices::Widget::score) {
+  if (choices.widget == PreviewChoices::score) {
     return ScoreWidgetBuilder::buildSwiftUIScoreWidgetView(
-        "preview", choices.locale, choices.shoppers[choices.shopper].token,
+        "preview", choices.locale,
+        choices.shoppers[static_cast<std::size_t>(*choices.shopper)].token,
         {choices.regularFont, choices.semiBoldFont});
   }
   if (!hasInfoTitle(choices.locale)) return {};  // the controls show the table's error
   const InfoWidgetStyle style(choices.regularFont, choices.semiBoldFont, std::nullopt, false);
-  if (choices.widget == PreviewChoices::Widget::info) {
+  if (choices.widget == PreviewChoices::info) {
     return InfoWidgetBuilder::buildSwiftUIInfoWidgetView(choices.locale, style);
   }
   return swiftui::hosting(InfoWidgetBuilder::buildUIKitInfoWidgetView(choices.locale, style));
 }
 
-QPalette paper(graphics::Appearance appearance) {
-  const bool dark = appearance == graphics::Appearance::dark;
+QPalette paper(bool dark) {
   QPalette palette;
   palette.setColor(QPalette::Window, dark ? QColor(0x12, 0x12, 0x14) : QColor(Qt::white));
   palette.setColor(QPalette::WindowText, dark ? QColor(Qt::white) : QColor(Qt::black));
@@ -50,12 +50,13 @@ PreviewScreen::PreviewScreen() : widget_(new qt::ViewWidget(this)) {
 }
 
 void PreviewScreen::show(const PreviewChoices& choices) {
-  const bool rightToLeft = choices.readingDirection() == layout::LayoutDirection::rightToLeft;
-  setPalette(paper(choices.appearance));
-  setFixedSize(choices.width, kHeight);
-  widget_->setAppearance(choices.appearance);
-  widget_->setTextSize(choices.textSize);
-  widget_->ViewSettings::setLayoutDirection(choices.readingDirection());
+  const swiftui::Environment settings = choices.environment();
+  const bool rightToLeft = settings.direction == layout::LayoutDirection::rightToLeft;
+  setPalette(paper(settings.appearance == graphics::Appearance::dark));
+  setFixedSize(static_cast<int>(choices.width), kHeight);
+  widget_->setAppearance(settings.appearance);
+  widget_->setTextSize(settings.textSize);
+  widget_->ViewSettings::setLayoutDirection(settings.direction);
   QWidget::setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
   widget_->setView(viewOf(choices));
   QWidget::show();
@@ -73,11 +74,6 @@ void PreviewScreen::openSheet() {
       std::ranges::find_if(elements, [](const auto& element) { return bool(element.action); });
   if (acting == elements.end()) return;
   surface->responder().activate(static_cast<int>(acting - elements.begin()));
-}
-
-void PreviewScreen::closeEvent(QCloseEvent* event) {
-  QWidget::closeEvent(event);
-  emit closed();
 }
 
 }  // namespace quorix::tool

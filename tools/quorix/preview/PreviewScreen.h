@@ -10,8 +10,6 @@ namespace quorix::tool {
 /// The screen of a shop's app with one widget. The controls are in another window, so that a sheet
 /// covers only the screen.
 class PreviewScreen : public QWidget {
-  Q_OBJECT
-
  public:
   PreviewScreen();
 
@@ -22,12 +20,6 @@ class PreviewScreen : public QWidget {
 
   /// A picture of the current screen, in device pixels.
   QPixmap picture() { return grab(); }
-
- signals:
-  void closed();
-
- protected:
-  void closeEvent(QCloseEvent* event) override;
 
  private:
   void openSheet();

@@ -2,12 +2,10 @@
 
 #include <optional>
 #include <string>
-#include <variant>
 #include <vector>
 
-#include "platform/foundation/URLSession.h"
 #include "platform/swiftui/View.h"
-#include "tools/quorix/Failure.h"
+#include "tools/quorix/CommandLine.h"
 
 namespace quorix::tool {
 
@@ -15,24 +13,23 @@ namespace quorix::tool {
 /// modules service's format.
 std::variant<std::string, Failure> readTranslations(const std::string& path);
 
-/// Possible mistakes of a translator in a table, by key: "labels.hint".
+/// Possible mistakes of a translator in a translation table, by key: "labels.hint".
 struct Oversights {
   std::vector<std::string> missing;  ///< their labels stay empty
   std::vector<std::string> unused;   ///< not used by any label
 
   /// The mistakes in a valid `document`.
   static Oversights in(const std::string& document);
-  /// All mistakes in one line; absent without any.
-  std::optional<std::string> line() const;
+  /// All mistakes in one line; empty without any.
+  std::string line() const;
 };
 
-/// The answer of the modules service: `document`, or without one a connection error. The tool never
-/// uses the network.
-foundation::URLResponse serviceAnswer(const std::optional<std::string>& document);
+/// The mistakes in a "Localizable" table, each in one line.
+std::vector<std::string> mistakesInTable(std::string_view bytes);
 
 /// Puts `view` on screen until it has fetched its translations and shows them. `document` is the
 /// answer of the modules service. Returns whether the view requested translations. Needs the
 /// engine; main thread.
-bool fetchTranslations(const swiftui::View& view, const std::optional<std::string>& document);
+bool fetchTranslations(const swiftui::View& view, const std::string& document);
 
 }  // namespace quorix::tool

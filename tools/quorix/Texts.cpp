@@ -1,11 +1,11 @@
-#include "tools/quorix/Translations.h"
+#include "tools/quorix/Texts.h"
 
 #include <QEventLoop>
 #include <QJsonDocument>
 #include <algorithm>
 #include <atomic>
 
-#include "QuorixWidgets/localization/ServiceAddresses.h"
+#include "QuorixWidgets/localization/Strings.h"
 #include "QuorixWidgets/localization/Translations.h"
 #include "platform/foundation/MainQueue.h"
 #include "platform/foundation/URLSession.h"
@@ -31,18 +31,14 @@ std::string lineOfError(const std::string& document) {
   return "line " + std::to_string(1 + std::count(document.begin(), end, '\n')) + ": ";
 }
 
-bool has(const TranslationTable& table, const TranslationTable::Entry& wanted) {
-  return std::ranges::any_of(table.entries(), [&](const auto& entry) {
-    return entry.section == wanted.section && entry.key == wanted.key;
-  });
-}
-
 /// The keys in `all` that are missing in `some`.
 std::vector<std::string> difference(const TranslationTable& all, const TranslationTable& some) {
   std::vector<std::string> keys;
-  for (const auto& entry : all.entries()) {
-    if (has(some, entry)) continue;
-    keys.push_back(std::string(entry.section) + '.' + std::string(entry.key));
+  for (const auto& [section, key, text] : all.entries()) {
+    const bool found = std::ranges::any_of(some.entries(), [&](const auto& entry) {
+      return entry.section == section && entry.key == key;
+    });
+    if (!found) keys.push_back(std::string(section) + '.' + std::string(key));
   }
   return keys;
 }
@@ -80,26 +76,29 @@ Oversights Oversights::in(const std::string& document) {
   return {difference(*complete, **table), difference(**table, *complete)};
 }
 
-std::optional<std::string> Oversights::line() const {
-  std::string text = listed("missing, shown empty", missing);
-  if (!text.empty() && !unused.empty()) text += "; ";
-  text += listed("never used", unused);
-  return text.empty() ? std::nullopt : std::optional(text);
+std::string Oversights::line() const {
+  const std::string text = listed("missing, shown empty", missing);
+  const std::string_view separator = text.empty() || unused.empty() ? "" : "; ";
+  return text + std::string(separator) + listed("never used", unused);
 }
 
-URLResponse serviceAnswer(const std::optional<std::string>& document) {
-  if (document) return {{}, *document, 200};
-  return {foundation::Error{"quorix", 1, "the tool has no network"}, {}, 0};
+std::vector<std::string> mistakesInTable(std::string_view bytes) {
+  const auto reading = foundation::readStringsFile(bytes);
+  if (const auto* error = std::get_if<foundation::Error>(&reading)) return {error->description};
+  std::vector<std::string> lines;
+  for (const auto& problem : problems(std::get<foundation::StringTable>(reading))) {
+    lines.push_back('"' + problem.key + "\" " + problem.what);
+  }
+  return lines;
 }
 
-bool fetchTranslations(const swiftui::View& view, const std::optional<std::string>& document) {
+bool fetchTranslations(const swiftui::View& view, const std::string& document) {
+  const auto fence = URL::parse("https://fence.invalid");
   std::atomic<bool> asked = false;
-  const auto fence = URL::parse(std::string(modulesServiceBaseURL()) + "/fence");
-  const auto protocol =
-      URLSession::shared().registerProtocol([&](const URL& url) -> std::optional<URLResponse> {
-        if (url != *fence) asked = true;
-        return serviceAnswer(document);
-      });
+  const auto service = URLSession::shared().registerProtocol([&](const URL& url) {
+    if (url != *fence) asked = true;
+    return URLResponse{{}, document, 200};
+  });
   BlindSurface surface;
   hosting::ViewHost host(qt::QtTextEngine::shared(), surface);
   host.setRoot(view);
@@ -109,9 +108,9 @@ bool fetchTranslations(const swiftui::View& view, const std::optional<std::strin
   // The session and the main queue answer in order: when a second request completes, the view's own
   // has completed too.
   QEventLoop loop;
+  const auto end = [&] { loop.quit(); };
   MainQueue::async([&] {
-    URLSession::shared().get(*fence,
-                             [&](const URLResponse&) { MainQueue::async([&] { loop.quit(); }); });
+    URLSession::shared().get(*fence, [&](const URLResponse&) { MainQueue::async(end); });
   });
   loop.exec();
   host.setOnScreen(false);
