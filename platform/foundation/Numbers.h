@@ -24,6 +24,4 @@ std::optional<double> numberWithExponent(std::string_view text);
 /// The shortest decimal text that reads back as `number`: "35", "49.5", "1e+300".
 std::string shortestNumber(double number);
 
-bool isHexDigit(char c);
-
 }  // namespace quorix::foundation

@@ -4,7 +4,7 @@
 #include <string>
 #include <utility>
 
-#include "platform/foundation/LocalizedString.h"
+#include "platform/foundation/StringTable.h"
 #include "platform/swiftui/DisplayListBuilder.h"
 #include "platform/swiftui/Elements.h"
 #include "platform/swiftui/Evaluator.h"

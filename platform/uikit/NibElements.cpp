@@ -23,12 +23,12 @@ NibElements::NibElements(std::string_view xml) {
   }
 }
 
-NibDocument::Line NibElements::line(std::ptrdiff_t offset) const {
+NibDocument::Line NibElements::lineAt(std::ptrdiff_t offset) const {
   return 1 + (std::ranges::lower_bound(lineEnds_, offset) - lineEnds_.begin());
 }
 
 void NibElements::refuseAt(std::ptrdiff_t offset, const std::string& why) {
-  if (!refusal_) refusal_ = std::to_string(line(offset)) + ": " + why;
+  if (!refusal_) refusal_ = std::to_string(lineAt(offset)) + ": " + why;
 }
 
 void NibElements::checkAttributes(pugi::xml_node node, std::string_view known) {

@@ -6,7 +6,7 @@
 
 #include "QuorixWidgets/localization/Strings.h"
 #include "platform/foundation/Bundle.h"
-#include "platform/foundation/StringsFile.h"
+#include "platform/foundation/StringTable.h"
 #include "tools/quorix/Translations.h"
 
 namespace quorix::tool {

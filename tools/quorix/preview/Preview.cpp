@@ -11,7 +11,7 @@
 
 #include "QuorixWidgets/localization/ResourceBundle.h"
 #include "QuorixWidgets/localization/Strings.h"
-#include "platform/foundation/StringsFile.h"
+#include "platform/foundation/StringTable.h"
 #include "platform/foundation/URLSession.h"
 #include "tools/quorix/Files.h"
 #include "tools/quorix/Translations.h"
