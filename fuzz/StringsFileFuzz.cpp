@@ -2,7 +2,7 @@
 
 #include "QuorixWidgets/localization/Strings.h"
 #include "fuzz/Expect.h"
-#include "platform/foundation/StringsFile.h"
+#include "platform/foundation/StringTable.h"
 
 using namespace quorix::foundation;
 

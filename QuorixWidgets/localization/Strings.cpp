@@ -6,7 +6,7 @@
 #include <optional>
 
 #include "QuorixWidgets/localization/ResourceBundle.h"
-#include "platform/foundation/LocalizedString.h"
+#include "platform/foundation/StringTable.h"
 
 namespace quorix {
 

@@ -6,7 +6,7 @@
 
 #include "platform/foundation/Export.h"
 #include "platform/foundation/StringFormat.h"
-#include "platform/foundation/StringsFile.h"
+#include "platform/foundation/StringTable.h"
 
 namespace quorix {
 

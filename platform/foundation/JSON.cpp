@@ -25,12 +25,10 @@ struct JSONDocument::State {
   std::string buffer;
   std::vector<JSONValue::Node> nodes;
 
-  simdjson::error_code read(std::string_view bytes);
-  simdjson::error_code add(simdjson::ondemand::value& value, std::string_view key, int depth);
-  simdjson::error_code addArray(simdjson::ondemand::value& value, int depth);
-  simdjson::error_code addObject(simdjson::ondemand::value& value, int depth);
-  static simdjson::error_code readScalar(simdjson::ondemand::value& value,
-                                         simdjson::ondemand::json_type type, JSONValue::Node& node);
+  // These throw `simdjson::simdjson_error`.
+  void read(std::string_view bytes);
+  void add(simdjson::ondemand::value value, std::string_view key, int depth);
+  static void readScalar(simdjson::ondemand::value& value, JSONValue::Node& node);
 };
 
 namespace {
@@ -54,101 +52,77 @@ std::string_view trimmed(std::string_view token) {
 
 }  // namespace
 
-simdjson::error_code JSONDocument::State::readScalar(simdjson::ondemand::value& value,
-                                                     simdjson::ondemand::json_type type,
-                                                     JSONValue::Node& node) {
-  switch (type) {
+void JSONDocument::State::readScalar(simdjson::ondemand::value& value, JSONValue::Node& node) {
+  switch (value.type()) {
     case simdjson::ondemand::json_type::string:
       node.kind = Kind::string;
-      return value.get_string().get(node.text);
+      node.text = value.get_string();
+      break;
     case simdjson::ondemand::json_type::number:
       node.kind = Kind::number;
       node.text = trimmed(value.raw_json_token());
       if (const auto failure = value.get_double().get(node.number)) {
         // simdjson refuses exponents of very many digits.
         const auto number = numberWithExponent(node.text);
-        if (failure != simdjson::NUMBER_ERROR || !number) return failure;
+        if (failure != simdjson::NUMBER_ERROR || !number) throw simdjson::simdjson_error(failure);
         node.number = *number;
       }
-      return simdjson::SUCCESS;
-    case simdjson::ondemand::json_type::boolean: {
-      bool truth = false;
-      const auto failure = value.get_bool().get(truth);
+      break;
+    case simdjson::ondemand::json_type::boolean:
       node.kind = Kind::boolean;
-      node.number = truth ? 1 : 0;
-      return failure;
-    }
-    default: {
-      bool null = false;
-      const auto failure = value.is_null().get(null);
-      return failure ? failure : null ? simdjson::SUCCESS : simdjson::N_ATOM_ERROR;
-    }
+      node.number = value.get_bool() ? 1 : 0;
+      break;
+    default:
+      if (!value.is_null()) throw simdjson::simdjson_error(simdjson::N_ATOM_ERROR);
   }
 }
 
-simdjson::error_code JSONDocument::State::add(simdjson::ondemand::value& value,
-                                              std::string_view key, int depth) {
-  JSONValue::Node& node = nodes.emplace_back();
-  node.key = key;
-  simdjson::ondemand::json_type type;
-  if (const auto failure = value.type().get(type)) return failure;
+void JSONDocument::State::add(simdjson::ondemand::value value, std::string_view key, int depth) {
+  const std::size_t index = nodes.size();
+  nodes.emplace_back().key = key;
+  const simdjson::ondemand::json_type type = value.type();
   const bool isArray = type == simdjson::ondemand::json_type::array;
-  if (!isArray && type != simdjson::ondemand::json_type::object)
-    return readScalar(value, type, node);
-  if (depth == maximumDepth) return simdjson::DEPTH_ERROR;
-  node.kind = isArray ? Kind::array : Kind::object;
-  const std::size_t index = nodes.size() - 1;
-  const auto failure = isArray ? addArray(value, depth + 1) : addObject(value, depth + 1);
+  if (!isArray && type != simdjson::ondemand::json_type::object) {
+    return readScalar(value, nodes.back());
+  }
+  if (depth == maximumDepth) throw simdjson::simdjson_error(simdjson::DEPTH_ERROR);
+  nodes.back().kind = isArray ? Kind::array : Kind::object;
+  if (isArray) {
+    simdjson::ondemand::array array = value.get_array();
+    for (auto element : array) add(element.value(), {}, depth + 1);
+  } else {
+    simdjson::ondemand::object object = value.get_object();
+    for (auto member : object) {
+      const std::string_view name = member.unescaped_key();
+      add(member.value(), name, depth + 1);
+    }
+  }
   nodes[index].span = nodes.size() - index;
-  return failure;
 }
 
-simdjson::error_code JSONDocument::State::addArray(simdjson::ondemand::value& value, int depth) {
-  simdjson::ondemand::array array;
-  if (const auto failure = value.get_array().get(array)) return failure;
-  for (auto element : array) {
-    simdjson::ondemand::value item;
-    if (const auto failure = element.get(item)) return failure;
-    if (const auto failure = add(item, {}, depth)) return failure;
-  }
-  return simdjson::SUCCESS;
-}
-
-simdjson::error_code JSONDocument::State::addObject(simdjson::ondemand::value& value, int depth) {
-  simdjson::ondemand::object object;
-  if (const auto failure = value.get_object().get(object)) return failure;
-  for (auto result : object) {
-    simdjson::ondemand::field field;
-    std::string_view key;
-    if (const auto failure = std::move(result).get(field)) return failure;
-    if (const auto failure = field.unescaped_key().get(key)) return failure;
-    if (const auto failure = add(field.value(), key, depth)) return failure;
-  }
-  return simdjson::SUCCESS;
-}
-
-simdjson::error_code JSONDocument::State::read(std::string_view bytes) {
+void JSONDocument::State::read(std::string_view bytes) {
   constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
   if (bytes.starts_with(byteOrderMark)) bytes.remove_prefix(byteOrderMark.size());
   // Newer versions of simdjson skip a byte order mark and would accept a second one.
-  if (bytes.starts_with(byteOrderMark)) return simdjson::TAPE_ERROR;
+  if (bytes.starts_with(byteOrderMark)) throw simdjson::simdjson_error(simdjson::TAPE_ERROR);
   nodes.clear();
   buffer.assign(bytes);
   buffer.append(simdjson::SIMDJSON_PADDING, '\0');
-  simdjson::ondemand::document document;
-  simdjson::ondemand::value root;
   const simdjson::padded_string_view padded(buffer.data(), bytes.size(), buffer.size());
-  if (const auto failure = parser.iterate(padded).get(document)) return failure;
-  if (const auto failure = document.get_value().get(root)) return failure;
-  if (const auto failure = add(root, {}, 0)) {
+  simdjson::ondemand::document document = parser.iterate(padded);
+  const simdjson::ondemand::value root = document.get_value();
+  try {
+    add(root, {}, 0);
+  } catch (const simdjson::simdjson_error&) {
     // A document that is not closed is malformed, even if it is also too deep: older versions of
     // simdjson read on.
     const char closing = nodes.front().kind == Kind::array ? ']' : '}';
-    return trimmed(bytes).back() == closing ? failure : simdjson::INCOMPLETE_ARRAY_OR_OBJECT;
+    if (trimmed(bytes).back() == closing) throw;
+    throw simdjson::simdjson_error(simdjson::INCOMPLETE_ARRAY_OR_OBJECT);
   }
-  return document.current_location().error() == simdjson::OUT_OF_BOUNDS
-             ? simdjson::SUCCESS
-             : simdjson::TRAILING_CONTENT;
+  if (document.current_location().error() != simdjson::OUT_OF_BOUNDS) {
+    throw simdjson::simdjson_error(simdjson::TRAILING_CONTENT);
+  }
 }
 
 JSONDocument::JSONDocument() : state_(std::make_unique<State>()) {}
@@ -157,8 +131,12 @@ JSONDocument& JSONDocument::operator=(JSONDocument&&) noexcept = default;
 JSONDocument::~JSONDocument() = default;
 
 Result<JSONValue> JSONDocument::parse(std::string_view bytes) {
-  if (const auto failure = state_->read(bytes)) return describe(failure);
-  return JSONValue(state_->nodes.data());
+  try {
+    state_->read(bytes);
+    return JSONValue(state_->nodes.data());
+  } catch (const simdjson::simdjson_error& failure) {
+    return describe(failure.error());
+  }
 }
 
 JSONValue::Kind JSONValue::kind() const { return node_->kind; }

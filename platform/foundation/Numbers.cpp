@@ -45,25 +45,12 @@ bool hasExponent(std::string_view text) {
 
 }  // namespace
 
-std::optional<double> parseDecimal(std::string_view text) {
-  const bool negative = text.starts_with('-');
-  if (negative) text.remove_prefix(1);
-  std::int64_t digits = 0;  // 15 digits and a power of ten below 10^16: both exact as doubles
-  double scale = 1;
-  int count = 0;
-  bool fraction = false;
-  for (const char c : text) {
-    if (c == '.' && !fraction) {
-      fraction = true;
-      continue;
-    }
-    if (c < '0' || c > '9' || ++count > 15) return std::nullopt;
-    digits = digits * 10 + (c - '0');
-    if (fraction) scale *= 10;
-  }
-  if (count == 0) return std::nullopt;
-  const double value = static_cast<double>(digits) / scale;
-  return negative ? -value : value;
+std::optional<double> parseNumber(std::string_view text) {
+  double number = 0;
+  const char* const end = text.data() + text.size();
+  const auto read = std::from_chars(text.data(), end, number);
+  const bool isWhole = read.ec == std::errc() && read.ptr == end;
+  return isWhole && std::isfinite(number) ? std::optional(number) : std::nullopt;
 }
 
 std::optional<std::int64_t> exactInteger(std::string_view number) {
@@ -116,10 +103,6 @@ std::string shortestNumber(double number) {
   if (std::isnan(number)) return "nan";
   std::array<char, 32> buffer;
   return {buffer.data(), std::to_chars(buffer.data(), buffer.data() + buffer.size(), number).ptr};
-}
-
-bool isHexDigit(char c) {
-  return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
 }
 
 }  // namespace quorix::foundation

@@ -9,9 +9,9 @@ namespace quorix::foundation {
 
 // Numbers as text, independent of the process's locale. Any thread.
 
-/// The number that `text` spells in plain decimal notation ("12", "-0.5", "1.000"). Absent for any
-/// other text, an exponent, or more than 15 digits.
-std::optional<double> parseDecimal(std::string_view text);
+/// The finite number that `text` spells in decimal notation ("12", "-0.5", "1e-3"). Absent for any
+/// other text.
+std::optional<double> parseNumber(std::string_view text);
 
 /// The signed 64-bit integer that `number`, a well-formed JSON number, equals exactly. Works on the
 /// digits, because a double loses integers beyond 2^53.
@@ -23,7 +23,5 @@ std::optional<double> numberWithExponent(std::string_view text);
 
 /// The shortest decimal text that reads back as `number`: "35", "49.5", "1e+300".
 std::string shortestNumber(double number);
-
-bool isHexDigit(char c);
 
 }  // namespace quorix::foundation

@@ -15,13 +15,15 @@ namespace {
 using Kind = FormatConversion::Kind;
 using Arguments = std::vector<FormatArgument>;
 
-bool isOneOf(std::string_view letters, char letter) { return letters.find(letter) != letters.npos; }
+bool contains(std::string_view letters, char letter) {
+  return letters.find(letter) != letters.npos;
+}
 
 Kind kindOf(char letter) {
-  if (isOneOf("fFeEgGaA", letter)) return Kind::number;
-  if (isOneOf("diDuUoOxX", letter)) return Kind::integer;
-  if (isOneOf("@sS", letter)) return Kind::text;
-  if (isOneOf("cCp", letter)) return Kind::character;
+  if (contains("fFeEgGaA", letter)) return Kind::number;
+  if (contains("diDuUoOxX", letter)) return Kind::integer;
+  if (contains("@sS", letter)) return Kind::text;
+  if (contains("cCp", letter)) return Kind::character;
   if (letter == 'n') return Kind::none;
   return letter == '%' ? Kind::percent : Kind::unknown;
 }
@@ -137,7 +139,7 @@ std::string numberText(double number, const FormatConversion& conversion,
   const bool isNaN = std::isnan(number);  // without a sign
   std::string format = "%";
   for (const char flag : conversion.flags) {
-    if (flag != '\'' && !(isNaN && isOneOf("+ ", flag))) format += flag;
+    if (flag != '\'' && !(isNaN && contains("+ ", flag))) format += flag;
   }
   format += "*.*";
   // A negative width means the flag "-", a negative precision none.
@@ -155,12 +157,12 @@ std::string numberText(double number, const FormatConversion& conversion,
     writePoint(shown);
     return shown;
   }
-  const bool isCapital = isOneOf("DUO", conversion.letter);
+  const bool isCapital = contains("DUO", conversion.letter);
   const char letter = isCapital ? static_cast<char>(conversion.letter + 32) : conversion.letter;
   format.append("ll") += letter;
   // An unsigned conversion shows the bits of a negative integer.
   const auto whole = wholePart<long long>(number);
-  const bool isUnsigned = !isOneOf("di", letter) && number > 0;
+  const bool isUnsigned = !contains("di", letter) && number > 0;
   return isUnsigned ? print(wholePart<unsigned long long>(number)) : print(whole);
 }
 

@@ -6,7 +6,7 @@
 #include <optional>
 #include <utility>
 
-#include "platform/foundation/StringsFile.h"
+#include "platform/foundation/StringTable.h"
 
 namespace quorix::foundation {
 namespace {

@@ -4,13 +4,12 @@
 
 #include <algorithm>
 
-#include "platform/foundation/Numbers.h"
-
 namespace quorix::foundation {
 namespace {
 
 bool isAlpha(char c) { return ('a' <= c && c <= 'z') || ('A' <= c && c <= 'Z'); }
 bool isDigit(char c) { return '0' <= c && c <= '9'; }
+bool isHexDigit(char c) { return isDigit(c) || ('a' <= c && c <= 'f') || ('A' <= c && c <= 'F'); }
 bool isOneOf(std::string_view set, char c) { return set.find(c) != std::string_view::npos; }
 
 /// Allowed unescaped in every part after the scheme.

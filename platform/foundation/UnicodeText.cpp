@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <memory>
-#include <optional>
 
 namespace quorix::foundation {
 namespace {
@@ -30,32 +29,25 @@ icu::StringPiece piece(std::string_view text) {
   return {text.data(), static_cast<std::int32_t>(text.size())};
 }
 
-/// Normal form C: canonically equivalent texts have the same spelling in it.
-class Composition {
- public:
-  static std::optional<Composition> get() {
-    UErrorCode status = U_ZERO_ERROR;
-    const auto* normalizer = icu::Normalizer2::getNFCInstance(status);
-    if (U_FAILURE(status)) return std::nullopt;
-    return Composition(normalizer);
-  }
+/// Normal form C: canonically equivalent texts have the same spelling in it. Null when ICU fails.
+const icu::Normalizer2* normalFormC() {
+  UErrorCode status = U_ZERO_ERROR;
+  const auto* composition = icu::Normalizer2::getNFCInstance(status);
+  return U_SUCCESS(status) ? composition : nullptr;
+}
 
-  bool holds(std::string_view text) const {
-    UErrorCode status = U_ZERO_ERROR;
-    return normalizer_->isNormalizedUTF8(piece(text), status) && U_SUCCESS(status);
-  }
-  std::string of(std::string_view text) const {
-    UErrorCode status = U_ZERO_ERROR;
-    std::string composed;
-    icu::StringByteSink<std::string> sink(&composed);
-    normalizer_->normalizeUTF8(0, piece(text), sink, nullptr, status);
-    return composed;
-  }
+bool isIn(const icu::Normalizer2& composition, std::string_view text) {
+  UErrorCode status = U_ZERO_ERROR;
+  return composition.isNormalizedUTF8(piece(text), status) && U_SUCCESS(status);
+}
 
- private:
-  explicit Composition(const icu::Normalizer2* normalizer) : normalizer_(normalizer) {}
-  const icu::Normalizer2* normalizer_;
-};
+std::string composed(std::string_view text, const icu::Normalizer2& composition) {
+  UErrorCode status = U_ZERO_ERROR;
+  std::string result;
+  icu::StringByteSink<std::string> sink(&result);
+  composition.normalizeUTF8(0, piece(text), sink, nullptr, status);
+  return result;
+}
 
 std::unique_ptr<icu::BreakIterator> makeCharacterBreaks() {
   UErrorCode status = U_ZERO_ERROR;
@@ -104,14 +96,14 @@ struct Character {
   std::string composed;
 };
 
-std::vector<Character> characters(std::string_view text, const Composition& composition) {
+std::vector<Character> characters(std::string_view text, const icu::Normalizer2& composition) {
   std::vector<Character> result;
   icu::BreakIterator* const breaks = characterBreaks(text);
   if (!breaks) return result;
   std::int32_t start = 0;
   for (std::int32_t end = breaks->next(); end != icu::BreakIterator::DONE; end = breaks->next()) {
     const std::string_view spelling = text.substr(start, end - start);
-    result.push_back({spelling, composition.of(spelling)});
+    result.push_back({spelling, composed(spelling, composition)});
     start = end;
   }
   return result;
@@ -119,7 +111,7 @@ std::vector<Character> characters(std::string_view text, const Composition& comp
 
 /// Splits texts that are not in normal form C. Slower.
 Pieces splitAtCharacters(std::string_view text, std::string_view separator,
-                         const Composition& composition) {
+                         const icu::Normalizer2& composition) {
   const auto given = characters(text, composition);
   const auto wanted = characters(separator, composition);
   if (wanted.empty()) return {text};
@@ -157,9 +149,9 @@ std::vector<std::string_view> components(std::string_view text, std::string_view
   if (isPlain(text) && isPlain(separator)) {
     return splitAtBytes(text, separator, [](std::size_t) { return true; });
   }
-  const auto composition = Composition::get();
+  const auto* composition = normalFormC();
   if (!composition) return {text};
-  if (!composition->holds(text) || !composition->holds(separator)) {
+  if (!isIn(*composition, text) || !isIn(*composition, separator)) {
     return splitAtCharacters(text, separator, *composition);
   }
   icu::BreakIterator* const breaks = characterBreaks(text);

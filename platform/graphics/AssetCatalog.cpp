@@ -24,6 +24,8 @@ struct Contents {
   Data json;
 };
 
+bool isAsset(std::string_view name) { return name.ends_with("set") && name.find('.') != name.npos; }
+
 /// The assets of one bundle. Caches each color and image, because surfaces ask at every paint.
 class Catalog {
  public:
@@ -36,19 +38,52 @@ class Catalog {
       return found ? parseColorSet(found->json) : std::nullopt;
     });
   }
+
   std::optional<ImageAsset> image(const Bundle& bundle, std::string_view name) {
     return once(images_, name, [&] { return readImage(bundle, name); });
   }
+
   std::optional<Contents> contents(const Bundle& bundle, std::string_view name,
-                                   std::string_view kind) const;
+                                   std::string_view kind) const {
+    const auto found = folders_.find(std::string(name).append(".").append(kind));
+    if (found == folders_.end()) return std::nullopt;
+    std::string folder = found->second + '/';
+    auto json = bundle.data(folder + "Contents.json");
+    if (!json) return std::nullopt;
+    return Contents{std::move(folder), *std::move(json)};
+  }
 
  private:
   template <class T>
   using Read = std::map<std::string, std::optional<T>, std::less<>>;
 
   void addFolder(const Bundle& bundle, const std::string& folder, const std::string& prefix,
-                 int depth);
-  std::optional<ImageAsset> readImage(const Bundle& bundle, std::string_view name) const;
+                 int depth) {
+    for (const std::string& name : bundle.folders(folder)) {
+      const std::string path = folder + '/' + name;
+      if (isAsset(name)) {
+        folders_.try_emplace(prefix + name, path);
+      } else if (depth < deepestFolder) {
+        const auto json = bundle.data(path + "/Contents.json");
+        const bool named = json && providesNamespace(*json);
+        addFolder(bundle, path, named ? prefix + name + '/' : prefix, depth + 1);
+      }
+    }
+  }
+
+  std::optional<ImageAsset> readImage(const Bundle& bundle, std::string_view name) const {
+    const auto found = contents(bundle, name, "imageset");
+    const auto files = found ? parseImageSet(found->json) : std::nullopt;
+    const auto light = files ? bundle.data(found->folder + files->light) : std::nullopt;
+    const auto size = light ? readSvgSize(*light) : std::nullopt;
+    if (!size) return std::nullopt;
+    ImageAsset image{*light, std::nullopt, files->isTemplate, size->width, size->height};
+    if (files->dark) {
+      image.dark = bundle.data(found->folder + *files->dark);
+      if (image.dark && !readSvgSize(*image.dark)) image.dark.reset();
+    }
+    return image;
+  }
 
   template <class T, class Reader>
   std::optional<T> once(Read<T>& known, std::string_view name, Reader read) {
@@ -62,46 +97,6 @@ class Catalog {
   Read<ColorSet> colors_;
   Read<ImageAsset> images_;
 };
-
-bool isAsset(std::string_view name) { return name.ends_with("set") && name.find('.') != name.npos; }
-
-void Catalog::addFolder(const Bundle& bundle, const std::string& folder, const std::string& prefix,
-                        int depth) {
-  for (const std::string& name : bundle.folders(folder)) {
-    const std::string path = folder + '/' + name;
-    if (isAsset(name)) {
-      folders_.try_emplace(prefix + name, path);
-    } else if (depth < deepestFolder) {
-      const auto json = bundle.data(path + "/Contents.json");
-      const bool named = json && providesNamespace(*json);
-      addFolder(bundle, path, named ? prefix + name + '/' : prefix, depth + 1);
-    }
-  }
-}
-
-std::optional<Contents> Catalog::contents(const Bundle& bundle, std::string_view name,
-                                          std::string_view kind) const {
-  const auto found = folders_.find(std::string(name).append(".").append(kind));
-  if (found == folders_.end()) return std::nullopt;
-  std::string folder = found->second + '/';
-  auto json = bundle.data(folder + "Contents.json");
-  if (!json) return std::nullopt;
-  return Contents{std::move(folder), *std::move(json)};
-}
-
-std::optional<ImageAsset> Catalog::readImage(const Bundle& bundle, std::string_view name) const {
-  const auto found = contents(bundle, name, "imageset");
-  const auto files = found ? parseImageSet(found->json) : std::nullopt;
-  const auto light = files ? bundle.data(found->folder + files->light) : std::nullopt;
-  const auto size = light ? readSvgSize(*light) : std::nullopt;
-  if (!size) return std::nullopt;
-  ImageAsset image{*light, std::nullopt, files->isTemplate, size->width, size->height};
-  if (files->dark) {
-    image.dark = bundle.data(found->folder + *files->dark);
-    if (image.dark && !readSvgSize(*image.dark)) image.dark.reset();
-  }
-  return image;
-}
 
 /// Identifies a bundle without keeping it alive.
 struct BundleKey {

@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <pugixml.hpp>
 
 #include "platform/foundation/JSON.h"
 #include "platform/foundation/Numbers.h"
@@ -56,7 +57,7 @@ std::optional<Target> target(JSONValue entry) {
 /// A component as a fraction of 1.
 std::optional<double> component(std::string_view text) {
   if (text.find('.') != text.npos) {
-    const auto fraction = foundation::parseDecimal(text);
+    const auto fraction = foundation::parseNumber(text);
     return fraction ? std::optional(std::clamp(*fraction, 0.0, 1.0)) : std::nullopt;
   }
   const bool hexadecimal = text.starts_with("0x") || text.starts_with("0X");
@@ -199,64 +200,15 @@ bool providesNamespace(std::string_view json) {
 
 namespace {
 
-constexpr std::string_view blanks = " \t\r\n";
-
-/// The text between "<svg" and the end of the tag.
-std::optional<std::string_view> rootAttributes(std::string_view text) {
-  if (text.starts_with("\xEF\xBB\xBF")) text.remove_prefix(3);
-  for (;;) {
-    text.remove_prefix(std::min(text.find_first_not_of(blanks), text.size()));
-    if (text.starts_with("<svg") && text.size() > 4 && blanks.find(text[4]) != blanks.npos) break;
-    std::string_view close;
-    if (text.starts_with("<!--")) {
-      close = "-->";
-    } else if (text.starts_with("<?")) {
-      close = "?>";
-    } else if (text.starts_with("<!")) {
-      close = ">";
-    } else {
-      return std::nullopt;
-    }
-    const auto end = text.find(close);
-    if (end == text.npos) return std::nullopt;
-    text.remove_prefix(end + close.size());
-  }
-  text.remove_prefix(4);
-  char quote = 0;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const char c = text[i];
-    if (quote == 0 && c == '>') return text.substr(0, i);
-    if (quote == 0 && (c == '"' || c == '\'')) {
-      quote = c;
-    } else if (c == quote) {
-      quote = 0;
-    }
-  }
-  return std::nullopt;
-}
-
-std::optional<std::string_view> attribute(std::string_view attributes, std::string_view name) {
-  while (!attributes.empty()) {
-    const auto start = attributes.find_first_not_of(blanks);
-    const auto equals = attributes.find('=');
-    if (start >= equals || equals == attributes.npos) return std::nullopt;
-    std::string_view found = attributes.substr(start, equals - start);
-    found = found.substr(0, found.find_last_not_of(blanks) + 1);
-    const auto open = attributes.find_first_of("\"'", equals);
-    if (open == attributes.npos) return std::nullopt;
-    const auto close = attributes.find(attributes[open], open + 1);
-    if (close == attributes.npos) return std::nullopt;
-    if (found == name) return attributes.substr(open + 1, close - open - 1);
-    attributes.remove_prefix(close + 1);
-  }
-  return std::nullopt;
-}
-
-std::optional<double> length(std::optional<std::string_view> text) {
-  if (!text) return std::nullopt;
-  if (text->ends_with("px")) text->remove_suffix(2);
-  const auto value = foundation::parseDecimal(*text);
+std::optional<double> length(std::string_view text) {
+  if (text.ends_with("px")) text.remove_suffix(2);
+  const auto value = foundation::parseNumber(text);
   return value && *value > 0 ? value : std::nullopt;
+}
+
+std::optional<SvgSize> sizeOf(std::string_view width, std::string_view height) {
+  const auto across = length(width), down = length(height);
+  return across && down ? std::optional(SvgSize{*across, *down}) : std::nullopt;
 }
 
 std::optional<SvgSize> viewBoxSize(std::string_view text) {
@@ -266,22 +218,19 @@ std::optional<SvgSize> viewBoxSize(std::string_view text) {
     number = text.substr(0, text.find_first_of(" ,\t\r\n"));
     text.remove_prefix(number.size());
   }
-  const auto width = length(numbers[2]);
-  const auto height = length(numbers[3]);
-  if (!width || !height) return std::nullopt;
-  return SvgSize{*width, *height};
+  return sizeOf(numbers[2], numbers[3]);
 }
 
 }  // namespace
 
 std::optional<SvgSize> readSvgSize(std::string_view svg) {
-  const auto attributes = rootAttributes(svg);
-  if (!attributes) return std::nullopt;
-  const auto width = length(attribute(*attributes, "width"));
-  const auto height = length(attribute(*attributes, "height"));
-  if (width && height) return SvgSize{*width, *height};
-  const auto viewBox = attribute(*attributes, "viewBox");
-  return viewBox ? viewBoxSize(*viewBox) : std::nullopt;
+  pugi::xml_document document;
+  // A mistake behind the root's tag does not matter here.
+  document.load_buffer(svg.data(), svg.size(), pugi::parse_minimal);
+  const pugi::xml_node root = document.document_element();
+  if (std::string_view(root.name()) != "svg") return std::nullopt;
+  const auto size = sizeOf(root.attribute("width").value(), root.attribute("height").value());
+  return size ? size : viewBoxSize(root.attribute("viewBox").value());
 }
 
 }  // namespace quorix::graphics

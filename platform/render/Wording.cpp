@@ -1,19 +1,17 @@
 #include "platform/render/Wording.h"
 
 #include <array>
-#include <charconv>
 #include <cmath>
 #include <cstdio>
 
+#include "platform/foundation/Numbers.h"
 #include "platform/layout/Geometry.h"
 
 namespace quorix::render {
 
 std::string number(double value) {
   if (value == layout::infinity) return "infinity";
-  std::array<char, 32> digits;
-  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
-  return {digits.data(), end};
+  return foundation::shortestNumber(value);
 }
 
 std::string points(double length) {

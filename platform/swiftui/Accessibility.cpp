@@ -35,62 +35,6 @@ class IgnoredChildren final : public Decoration {
   std::string description() const override { return ".accessibilityElement(children: ignore)"; }
 };
 
-class AddTraits final : public Decoration {
- public:
-  AddTraits(View content, AccessibilityTrait trait)
-      : Decoration(std::move(content)), isButton_(trait == AccessibilityTrait::isButton) {}
-
-  void show(DisplayListBuilder& to, const Element& self) const override {
-    const std::size_t first = to.described();
-    to.showChildren(self);
-    for (auto& child : to.describedSince(first))
-      child.role = isButton_ ? Role::button : Role::heading;
-  }
-
- private:
-  std::string description() const override {
-    return isButton_ ? ".accessibilityAddTraits(isButton)" : ".accessibilityAddTraits(isHeader)";
-  }
-
-  bool isButton_;
-};
-
-class Label final : public Decoration {
- public:
-  Label(View content, Text text) : Decoration(std::move(content)), text_(std::move(text)) {}
-
-  void show(DisplayListBuilder& to, const Element& self) const override {
-    const std::size_t first = to.described();
-    to.showChildren(self);
-    for (auto& child : to.describedSince(first))
-      child.label = text_.resolved(to.environment.language);
-  }
-
- private:
-  std::string description() const override {
-    return ".accessibilityLabel(" + describe(text_) + ")";
-  }
-
-  Text text_;
-};
-
-class Hint final : public Decoration {
- public:
-  Hint(View content, Text text) : Decoration(std::move(content)), text_(std::move(text)) {}
-
-  void show(DisplayListBuilder& to, const Element& self) const override {
-    const std::size_t first = to.described();
-    to.showChildren(self);
-    for (auto& child : to.describedSince(first))
-      child.hint = text_.resolved(to.environment.language);
-  }
-
- private:
-  std::string description() const override { return ".accessibilityHint(" + describe(text_) + ")"; }
-
-  Text text_;
-};
-
 class Hidden final : public Decoration {
  public:
   Hidden(View content, bool hidden) : Decoration(std::move(content)), hidden_(hidden) {}
@@ -109,22 +53,69 @@ class Hidden final : public Decoration {
   bool hidden_;
 };
 
-class AccessibilityAction final : public Decoration {
+/// Applies a change to each element of its content.
+template <class Change>
+class ToEachElement final : public Decoration {
  public:
-  AccessibilityAction(View content, Action action)
-      : Decoration(std::move(content)), action_(std::move(action)) {}
+  ToEachElement(View content, Change change)
+      : Decoration(std::move(content)), change_(std::move(change)) {}
 
   void show(DisplayListBuilder& to, const Element& self) const override {
     const std::size_t first = to.described();
     to.showChildren(self);
-    for (auto& child : to.describedSince(first)) DisplayListBuilder::act(child, action_);
+    for (AccessibilityElement& element : to.describedSince(first)) {
+      change_.apply(element, to.environment.language);
+    }
   }
 
  private:
-  std::string description() const override { return ".accessibilityAction(default)"; }
+  std::string description() const override { return change_.description(); }
 
-  Action action_;
+  Change change_;
 };
+
+struct Traits {
+  bool isButton;
+
+  void apply(AccessibilityElement& element, const std::string&) const {
+    element.role = isButton ? Role::button : Role::heading;
+  }
+  std::string description() const {
+    return isButton ? ".accessibilityAddTraits(isButton)" : ".accessibilityAddTraits(isHeader)";
+  }
+};
+
+struct Label {
+  Text text;
+
+  void apply(AccessibilityElement& element, const std::string& language) const {
+    element.label = text.resolved(language);
+  }
+  std::string description() const { return ".accessibilityLabel(" + describe(text) + ")"; }
+};
+
+struct Hint {
+  Text text;
+
+  void apply(AccessibilityElement& element, const std::string& language) const {
+    element.hint = text.resolved(language);
+  }
+  std::string description() const { return ".accessibilityHint(" + describe(text) + ")"; }
+};
+
+struct DefaultAction {
+  Action action;
+
+  void apply(AccessibilityElement& element, const std::string&) const {
+    DisplayListBuilder::act(element, action);
+  }
+  std::string description() const { return ".accessibilityAction(default)"; }
+};
+
+template <class Change>
+View changing(const View& content, Change change) {
+  return makeView<ToEachElement<Change>>(content, std::move(change));
+}
 
 }  // namespace
 
@@ -133,17 +124,17 @@ View View::accessibilityElement(AccessibilityChildren) const {
 }
 
 View View::accessibilityAddTraits(AccessibilityTrait trait) const {
-  return makeView<AddTraits>(*this, trait);
+  return changing(*this, Traits{trait == AccessibilityTrait::isButton});
 }
 
-View View::accessibilityLabel(Text label) const { return makeView<Label>(*this, std::move(label)); }
+View View::accessibilityLabel(Text label) const { return changing(*this, Label{std::move(label)}); }
 
-View View::accessibilityHint(Text hint) const { return makeView<Hint>(*this, std::move(hint)); }
+View View::accessibilityHint(Text hint) const { return changing(*this, Hint{std::move(hint)}); }
 
 View View::accessibilityHidden(bool hidden) const { return makeView<Hidden>(*this, hidden); }
 
 View View::accessibilityAction(Action action) const {
-  return makeView<AccessibilityAction>(*this, std::move(action));
+  return changing(*this, DefaultAction{std::move(action)});
 }
 
 }  // namespace quorix::swiftui

@@ -58,12 +58,8 @@ class Background final : public SizedAsContent {
 
   void evaluate(Evaluator& in, const Look& look, layout::Axis axis,
                 ElementList& out) const override {
-    in.wrapEach(content(), look, axis, out, [&](Element& inner) {
-      ++in.result().items;
-      auto* self = in.make<FilledElement>(static_cast<const ElementRules&>(*this));
-      in.adopt(*self, &inner);
-      return self;
-    });
+    const auto count = [&](Element&) { ++in.result().items; };
+    in.wrapEach<FilledElement>(content(), look, axis, out, count, *this);
   }
 
   void place(LayoutPass& in, Element& self, ProposedSize proposal) const override {

@@ -1,11 +1,10 @@
 #include "platform/swiftui/Color.h"
 
-#include <array>
-#include <cstdio>
 #include <mutex>
 #include <utility>
 
 #include "platform/graphics/AssetCatalog.h"
+#include "platform/render/Wording.h"
 
 namespace quorix::swiftui {
 
@@ -48,13 +47,7 @@ std::optional<graphics::RGBA> Color::resolve(graphics::Appearance appearance) co
   return set->resolve(appearance);
 }
 
-std::string Color::description() const {
-  if (asset_) return asset_->name;
-  std::array<char, 10> text;
-  std::snprintf(text.data(), text.size(), "#%02X%02X%02X%02X", value_.red, value_.green,
-                value_.blue, value_.alpha);
-  return text.data();
-}
+std::string Color::description() const { return asset_ ? asset_->name : render::hex(value_); }
 
 bool Color::operator==(const Color& other) const {
   if (!asset_ || !other.asset_) return !asset_ && !other.asset_ && value_ == other.value_;

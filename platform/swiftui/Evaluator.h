@@ -79,16 +79,20 @@ class Evaluator {
     collect(*make<View>(std::move(view)), look, axis, out);
   }
 
-  /// Collects `content`, calls `wrap` with each of its elements, and appends the results to `out`.
-  template <class Wrap>
+  /// Appends an element of type `Wrapper` around each element of `content`, made of `arguments` and
+  /// passed to `adapt`.
+  template <class Wrapper, class Adapt, class... Arguments>
   void wrapEach(const View& content, const Look& look, layout::Axis axis, ElementList& out,
-                Wrap wrap) {
+                Adapt adapt, const Arguments&... arguments) {
     ElementList inner;
     collect(content, look, axis, inner);
     for (Element* element = inner.first; element;) {
       Element* wrapped = std::exchange(element, element->next);
       wrapped->next = nullptr;
-      out.append(wrap(*wrapped));
+      auto* wrapper = make<Wrapper>(arguments...);
+      adopt(*wrapper, wrapped);
+      adapt(*wrapper);
+      out.append(wrapper);
     }
   }
 

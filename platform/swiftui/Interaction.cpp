@@ -4,7 +4,7 @@
 #include <string>
 #include <utility>
 
-#include "platform/foundation/LocalizedString.h"
+#include "platform/foundation/StringTable.h"
 #include "platform/swiftui/DisplayListBuilder.h"
 #include "platform/swiftui/Elements.h"
 #include "platform/swiftui/Evaluator.h"
@@ -125,13 +125,9 @@ class GeometryChange final : public Decoration {
       : Decoration(std::move(content)), action_(std::move(action)) {}
 
   void evaluate(Evaluator& in, const Look& look, Axis axis, ElementList& out) const override {
+    const auto isAsContent = [](Element& self) { self.isText = self.child().isText; };
     in.at(steps::modified, [&] {
-      in.wrapEach(content(), look, axis, out, [&](Element& inner) {
-        auto* self = in.make<WatchedElement>(static_cast<const ElementRules&>(*this), in.path());
-        in.adopt(*self, &inner);
-        self->isText = inner.isText;
-        return self;
-      });
+      in.wrapEach<WatchedElement>(content(), look, axis, out, isAsContent, *this, in.path());
     });
   }
 

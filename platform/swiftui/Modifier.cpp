@@ -14,11 +14,8 @@ void Modifier::print(TreePrinter& to, int depth) const {
 
 void LayoutModifier::evaluate(Evaluator& in, const Look& look, layout::Axis axis,
                               ElementList& out) const {
-  in.wrapEach(content(), look, axis, out, [&](Element& inner) {
-    auto* wrapper = in.make<Element>(*this);
-    in.adopt(*wrapper, &inner);
-    return wrapper;
-  });
+  in.wrapEach<Element>(
+      content(), look, axis, out, [](Element&) {}, *this);
 }
 
 void LayoutModifier::show(DisplayListBuilder& to, const Element& self) const {
@@ -27,12 +24,8 @@ void LayoutModifier::show(DisplayListBuilder& to, const Element& self) const {
 
 void Decoration::evaluate(Evaluator& in, const Look& look, layout::Axis axis,
                           ElementList& out) const {
-  in.wrapEach(content(), look, axis, out, [&](Element& inner) {
-    auto* wrapper = in.make<Element>(*this);
-    in.adopt(*wrapper, &inner);
-    wrapper->isText = inner.isText;
-    return wrapper;
-  });
+  const auto isAsContent = [](Element& self) { self.isText = self.child().isText; };
+  in.wrapEach<Element>(content(), look, axis, out, isAsContent, *this);
 }
 
 }  // namespace quorix::swiftui

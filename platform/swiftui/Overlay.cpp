@@ -40,12 +40,10 @@ class Overlay final : public SizedAsContent {
                 ElementList& out) const override {
     ElementList wrapped;
     in.at(steps::modified, [&] {
-      in.wrapEach(content(), look, axis, wrapped, [&](Element& inner) {
-        auto* self = in.make<OverlaidElement>(static_cast<const ElementRules&>(*this));
-        self->makesWay = in.environment.textSize > ContentSizeCategory::large;
-        in.adopt(*self, &inner);
-        return self;
-      });
+      const auto adapt = [&](OverlaidElement& self) {
+        self.makesWay = in.environment.textSize > ContentSizeCategory::large;
+      };
+      in.wrapEach<OverlaidElement>(content(), look, axis, wrapped, adapt, *this);
     });
     char32_t step = steps::firstOverlay;
     for (Element* element = wrapped.first; element; element = element->next) {

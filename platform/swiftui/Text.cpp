@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/foundation/LocalizedString.h"
+#include "platform/foundation/StringTable.h"
 #include "platform/swiftui/DisplayListBuilder.h"
 #include "platform/swiftui/Evaluator.h"
 #include "platform/swiftui/LayoutPass.h"

@@ -14,6 +14,11 @@ std::string_view textStyleName(TextStyle style) {
   return names[static_cast<int>(style)];
 }
 
+void appendItem(std::string& list, const std::string& item) {
+  if (!list.empty()) list += ", ";
+  list += item;
+}
+
 }  // namespace
 
 std::string_view nameOf(layout::HorizontalAlignment alignment) {
@@ -55,8 +60,7 @@ std::string describe(const Text& text) {
 std::string describe(const PresentationDetents& detents) {
   std::string result;
   for (const PresentationDetent& detent : detents) {
-    if (!result.empty()) result += ", ";
-    result += detent.points() ? "height(" + number(*detent.points()) + ")" : "medium";
+    appendItem(result, detent.points() ? "height(" + number(*detent.points()) + ")" : "medium");
   }
   return "[" + result + "]";
 }
@@ -65,15 +69,10 @@ std::string describe(const layout::EdgeInsets& insets) {
   const auto& [top, leading, bottom, trailing] = insets;
   if (top == leading && top == bottom && top == trailing) return number(top);
   std::string result;
-  const auto edge = [&](std::string_view name, double length) {
-    if (length == 0) return;
-    if (!result.empty()) result += ", ";
-    result += std::string(name) + ": " + number(length);
-  };
-  edge("top", top);
-  edge("leading", leading);
-  edge("bottom", bottom);
-  edge("trailing", trailing);
+  if (top != 0) appendItem(result, "top: " + number(top));
+  if (leading != 0) appendItem(result, "leading: " + number(leading));
+  if (bottom != 0) appendItem(result, "bottom: " + number(bottom));
+  if (trailing != 0) appendItem(result, "trailing: " + number(trailing));
   return result;
 }
 
@@ -81,15 +80,10 @@ std::string describe(layout::Edges edges) {
   if (edges == layout::Edges::all()) return "all";
   if (edges == layout::Edges::vertical()) return "vertical";
   std::string result;
-  const auto edge = [&](bool has, std::string_view name) {
-    if (!has) return;
-    if (!result.empty()) result += ", ";
-    result += name;
-  };
-  edge(edges.top, "top");
-  edge(edges.leading, "leading");
-  edge(edges.bottom, "bottom");
-  edge(edges.trailing, "trailing");
+  if (edges.top) appendItem(result, "top");
+  if (edges.leading) appendItem(result, "leading");
+  if (edges.bottom) appendItem(result, "bottom");
+  if (edges.trailing) appendItem(result, "trailing");
   return result;
 }
 

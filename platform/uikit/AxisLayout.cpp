@@ -73,27 +73,31 @@ class Solver {
     return true;
   }
 
-  /// Sets one value that the rules leave open. Returns false when none is open.
+  /// Sets one value that the rules leave open: the length of an item with an edge and a natural
+  /// length, else that of an item with an edge, else a position. Returns false when none is open.
   bool assumeNext() {
-    const auto assume = [this](auto applies, auto apply) {
-      for (std::size_t i = 1; i < lines_.size(); ++i) {
-        if (lines_[i].isComplete() || !applies(lines_[i], items_[i - 1])) continue;
-        apply(lines_[i], static_cast<int>(i));
-        lines_[i].complete();
+    Line* hollow = nullptr;
+    Line* loose = nullptr;
+    for (std::size_t i = 1; i < lines_.size(); ++i) {
+      Line& open = lines_[i];
+      if (open.isComplete()) continue;
+      if (const Length natural = items_[i - 1].natural; open.hasEdge() && natural) {
+        open.length = limited(*natural, static_cast<int>(i));
+        open.complete();
         return true;
       }
-      return false;
-    };
-    return assume([](const Line& open,
-                     const AxisItem& item) { return open.hasEdge() && item.natural.has_value(); },
-                  [this](Line& open, int index) {
-                    open.length =
-                        limited(*items_[static_cast<std::size_t>(index - 1)].natural, index);
-                  }) ||
-           assume([](const Line& open, const AxisItem&) { return open.hasEdge(); },
-                  [](Line& open, int) { open.length = 0, open.hollow = true; }) ||
-           assume([](const Line&, const AxisItem&) { return true; },
-                  [](Line& open, int) { open.start = 0; });
+      Line*& first = open.hasEdge() ? hollow : loose;
+      if (!first) first = &open;
+    }
+    if (hollow) {
+      hollow->length = 0;
+      hollow->hollow = true;
+      hollow->complete();
+    } else if (loose) {
+      loose->start = 0;
+      loose->complete();
+    }
+    return hollow || loose;
   }
 
   /// `natural`, limited by the inequalities of item `index`.

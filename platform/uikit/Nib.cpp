@@ -47,75 +47,69 @@ auto* placeFor(const std::string& property, Places& places) {
 /// Makes the views of one interface file for one owner.
 class NibInstance {
  public:
-  explicit NibInstance(const NibDocument& document);
+  explicit NibInstance(const NibDocument& document) : document_(document) {
+    for (const NibDocument::View& said : document.views) {
+      views_.push_back(viewOf(said));
+      if (said.superview) views_[*said.superview]->addSubview(views_.back());
+    }
+  }
 
   /// Connects the outlets. On failure changes no outlet and returns the line and the reason ("7:
   /// ...").
-  std::optional<std::string> connect(std::string_view owner, const Nib::Outlets& outlets);
+  std::optional<std::string> connect(std::string_view owner, const Nib::Outlets& outlets) {
+    for (const NibDocument::Owner& said : document_.owners) {
+      if (said.className != owner)
+        return refusal(said.line, "the owner is no " + std::string(owner));
+    }
+    if (auto why = constrain()) return why;
+    std::vector<std::function<void()>> connections;
+    for (const NibDocument::Outlet& outlet : document_.outlets) {
+      const auto target = view(outlet.destination);
+      const auto label = std::dynamic_pointer_cast<UILabel>(target);
+      auto* forView = target ? placeFor(outlet.property, outlets.views) : nullptr;
+      auto* forLabel = label ? placeFor(outlet.property, outlets.labels) : nullptr;
+      if (forView == nullptr && forLabel == nullptr) {
+        return refusal(outlet.line, "no outlet '" + outlet.property + "' for this view");
+      }
+      connections.push_back([=] {
+        if (forView != nullptr) *forView = target;
+        if (forLabel != nullptr) *forLabel = label;
+      });
+    }
+    for (const auto& connection : connections) connection();
+    return std::nullopt;
+  }
 
   /// The views without a superview, in their order.
-  Nib::Views outermost() const;
+  Nib::Views outermost() const {
+    Nib::Views outermost;
+    for (std::size_t i = 0; i < views_.size(); ++i) {
+      if (!document_.views[i].superview) outermost.push_back(views_[i]);
+    }
+    return outermost;
+  }
 
  private:
   using View = std::shared_ptr<UIView>;
 
-  std::optional<std::string> constrain();
+  std::optional<std::string> constrain() {
+    for (const NibDocument::Constraint& said : document_.constraints) {
+      const NSLayoutConstraint constraint{view(said.firstItem), said.firstAttribute,
+                                          said.relation,        view(said.secondItem),
+                                          said.secondAttribute, said.constant};
+      if (constraint.holder() != views_[said.holder].get()) {
+        return refusal(said.line, "a constraint does not join its view and what is in it");
+      }
+      NSLayoutConstraint::activate({constraint});
+    }
+    return std::nullopt;
+  }
+
   View view(std::optional<std::size_t> index) const { return index ? views_[*index] : nullptr; }
 
   const NibDocument& document_;
   std::vector<View> views_;
 };
-
-NibInstance::NibInstance(const NibDocument& document) : document_(document) {
-  for (const NibDocument::View& said : document.views) {
-    views_.push_back(viewOf(said));
-    if (said.superview) views_[*said.superview]->addSubview(views_.back());
-  }
-}
-
-std::optional<std::string> NibInstance::connect(std::string_view owner,
-                                                const Nib::Outlets& outlets) {
-  for (const NibDocument::Owner& said : document_.owners) {
-    if (said.className != owner) return refusal(said.line, "the owner is no " + std::string(owner));
-  }
-  if (auto why = constrain()) return why;
-  std::vector<std::function<void()>> connections;
-  for (const NibDocument::Outlet& outlet : document_.outlets) {
-    const auto target = view(outlet.destination);
-    const auto label = std::dynamic_pointer_cast<UILabel>(target);
-    auto* forView = target ? placeFor(outlet.property, outlets.views) : nullptr;
-    auto* forLabel = label ? placeFor(outlet.property, outlets.labels) : nullptr;
-    if (forView == nullptr && forLabel == nullptr) {
-      return refusal(outlet.line, "no outlet '" + outlet.property + "' for this view");
-    }
-    connections.push_back([=] {
-      if (forView != nullptr) *forView = target;
-      if (forLabel != nullptr) *forLabel = label;
-    });
-  }
-  for (const auto& connection : connections) connection();
-  return std::nullopt;
-}
-
-std::optional<std::string> NibInstance::constrain() {
-  for (const NibDocument::Constraint& said : document_.constraints) {
-    const NSLayoutConstraint constraint{view(said.firstItem),  said.firstAttribute,  said.relation,
-                                        view(said.secondItem), said.secondAttribute, said.constant};
-    if (constraint.holder() != views_[said.holder].get()) {
-      return refusal(said.line, "a constraint does not join its view and what is in it");
-    }
-    NSLayoutConstraint::activate({constraint});
-  }
-  return std::nullopt;
-}
-
-Nib::Views NibInstance::outermost() const {
-  Nib::Views outermost;
-  for (std::size_t i = 0; i < views_.size(); ++i) {
-    if (!document_.views[i].superview) outermost.push_back(views_[i]);
-  }
-  return outermost;
-}
 
 using Reading = foundation::Result<NibDocument>;
 

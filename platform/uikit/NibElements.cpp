@@ -1,8 +1,9 @@
 #include "platform/uikit/NibElements.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
+
+#include "platform/foundation/Numbers.h"
 
 namespace quorix::uikit {
 namespace {
@@ -10,12 +11,8 @@ namespace {
 constexpr double longest = 1e6;  // points; a longer one is an error
 
 bool isWordOf(std::string_view words, std::string_view word) {
-  if (word.empty()) return false;
-  const auto ends = [&](std::size_t at) { return at == words.size() || words[at] == ' '; };
-  for (std::size_t at = words.find(word); at != words.npos; at = words.find(word, at + 1)) {
-    if ((at == 0 || words[at - 1] == ' ') && ends(at + word.size())) return true;
-  }
-  return false;
+  const auto apart = [](std::string_view text) { return ' ' + std::string(text) + ' '; };
+  return apart(words).find(apart(word)) != std::string::npos;
 }
 
 }  // namespace
@@ -26,12 +23,12 @@ NibElements::NibElements(std::string_view xml) {
   }
 }
 
-NibDocument::Line NibElements::line(std::ptrdiff_t offset) const {
+NibDocument::Line NibElements::lineAt(std::ptrdiff_t offset) const {
   return 1 + (std::ranges::lower_bound(lineEnds_, offset) - lineEnds_.begin());
 }
 
 void NibElements::refuseAt(std::ptrdiff_t offset, const std::string& why) {
-  if (!refusal_) refusal_ = std::to_string(line(offset)) + ": " + why;
+  if (!refusal_) refusal_ = std::to_string(lineAt(offset)) + ": " + why;
 }
 
 void NibElements::checkAttributes(pugi::xml_node node, std::string_view known) {
@@ -59,10 +56,8 @@ double NibElements::number(pugi::xml_node node, const char* attribute,
                            std::optional<double> otherwise) {
   const std::string_view text = node.attribute(attribute).value();
   if (text.empty() && otherwise) return *otherwise;
-  double value = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-  const bool whole = error == std::errc() && end == text.data() + text.size();
-  if (whole && std::abs(value) <= longest) return value;
+  const auto value = foundation::parseNumber(text);
+  if (value && std::abs(*value) <= longest) return *value;
   refuse(node, std::string(attribute) + " of " + tag(node) + " is no number of points");
   return 0;
 }

@@ -20,7 +20,8 @@ class NibElements {
   const std::optional<std::string>& refusal() const { return refusal_; }
   void refuse(pugi::xml_node at, const std::string& why) { refuseAt(at.offset_debug(), why); }
   void refuseAt(std::ptrdiff_t offset, const std::string& why);
-  NibDocument::Line line(std::ptrdiff_t offset) const;
+  void refuseKind(pugi::xml_node at) { refuse(at, tag(at) + " is not supported"); }
+  NibDocument::Line line(pugi::xml_node of) const { return lineAt(of.offset_debug()); }
 
   /// Refuses attributes that are not in `known`, a list of words separated by blanks.
   void checkAttributes(pugi::xml_node node, std::string_view known);
@@ -34,6 +35,8 @@ class NibElements {
   static std::string tag(pugi::xml_node node) { return '<' + std::string(node.name()) + '>'; }
 
  private:
+  NibDocument::Line lineAt(std::ptrdiff_t offset) const;
+
   std::vector<std::ptrdiff_t>
       lineEnds_;  // cached, because every constraint and outlet stores its line
   std::optional<std::string> refusal_;

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "platform/foundation/LocalizedString.h"
+#include "platform/foundation/StringTable.h"
 #include "platform/graphics/AssetCatalog.h"
 
 namespace quorix::uikit {

@@ -37,7 +37,14 @@ class ViewScene {
   explicit ViewScene(const LayoutContext& context)
       : context_(context), grid_(context.display.scale) {}
 
-  render::Scene build(const UIView& root);
+  render::Scene build(const UIView& root) {
+    scene_.size = root.frame().size;
+    scene_.appearance = context_.display.appearance;
+    Surroundings around;
+    around.visible = root.frame();
+    add(root, std::move(around));
+    return std::move(scene_);
+  }
 
  private:
   /// Inherited from the views around a view.
@@ -49,97 +56,83 @@ class ViewScene {
     std::size_t areasBelow = 0;  ///< number of hit areas up to that view's own
   };
 
-  void add(const UIView& view, Surroundings around);
-  void paint(const UIView& view, const Rect& frame);
-  void takeTouches(const UIView& view, Surroundings& around);
-  void describe(const UIView& view, const Rect& frame, const Surroundings& around);
+  void add(const UIView& view, Surroundings around) {
+    if (view.isHidden()) return;
+    const Rect exact = view.frame().translated(around.origin);
+    const Rect frame = grid_.round(exact);
+    around.origin = exact.origin;
+    around.visible = layout::intersection(around.visible, frame);
+    around.touched = around.touched && view.isUserInteractionEnabled();
+    paint(view, exact);
+    takeTouches(view, around);
+    describe(view, frame, around);
+    for (const auto& subview : view.subviews()) add(*subview, around);
+    const CALayer& layer = view.layer();
+    if (layer.borderWidth() <= 0) return;
+    const auto color = layer.borderColor() ? layer.borderColor()->resolve(scene_.appearance)
+                                           : graphics::RGBA{0, 0, 0, 255};
+    scene_.items.push_back(render::StrokeItem{frame, color, layer.borderWidth()});
+  }
+
+  void paint(const UIView& view, const Rect& frame) {
+    const std::size_t before = scene_.items.size();
+    view.draw(frame, context_, scene_.items);
+    for (std::size_t i = before; i < scene_.items.size(); ++i) {
+      std::visit([this](auto& item) { item.frame = onPixels(grid_, item); }, scene_.items[i]);
+    }
+  }
+
+  /// Adds the hit area of `view`. A view that takes touches and has no recognizer runs the action
+  /// of the enclosing views, and covers the hit areas of its siblings below it.
+  void takeTouches(const UIView& view, Surroundings& around) {
+    if (!around.touched || around.visible.isEmpty()) return;
+    auto& areas = scene_.hitAreas;
+    if (!view.gestureRecognizers().empty()) {
+      around.action = tapOn(view);
+      areas.push_back({around.visible, around.action});
+      around.areasBelow = areas.size();
+      return;
+    }
+    const auto beside = areas.begin() + static_cast<std::ptrdiff_t>(around.areasBelow);
+    const bool covers = std::any_of(beside, areas.end(), [&](const render::HitArea& area) {
+      return !layout::intersection(area.frame, around.visible).isEmpty();
+    });
+    if (!covers) return;
+    areas.push_back({around.visible, around.action ? around.action : foundation::Action([] {})});
+  }
+
+  void describe(const UIView& view, const Rect& frame, const Surroundings& around) {
+    auto element = view.describe(context_.display.language);
+    if (view.accessibilityLabel()) {
+      if (!element) element.emplace();
+      element->label = *view.accessibilityLabel();
+    }
+    if (!element) return;
+    element->frame = frame;
+    element->action = around.action;
+    if (element->action) element->role = render::Role::button;
+    switch (view.accessibilityTraits()) {
+      case UIAccessibilityTraits::none:
+        break;
+      case UIAccessibilityTraits::button:
+        element->role = render::Role::button;
+        break;
+      case UIAccessibilityTraits::link:
+        element->role = render::Role::link;
+        break;
+      case UIAccessibilityTraits::header:
+        element->role = render::Role::heading;
+        break;
+    }
+    // An image without a label is decoration.
+    if (element->label.empty() && !element->action) return;
+    scene_.accessibility.push_back(std::move(*element));
+  }
 
   const LayoutContext& context_;
   layout::PixelGrid grid_;
   render::Scene scene_;
 };
-
-render::Scene ViewScene::build(const UIView& root) {
-  scene_.size = root.frame().size;
-  scene_.appearance = context_.display.appearance;
-  Surroundings around;
-  around.visible = root.frame();
-  add(root, std::move(around));
-  return std::move(scene_);
-}
-
-void ViewScene::add(const UIView& view, Surroundings around) {
-  if (view.isHidden()) return;
-  const Rect exact = view.frame().translated(around.origin);
-  const Rect frame = grid_.round(exact);
-  around.origin = exact.origin;
-  around.visible = layout::intersection(around.visible, frame);
-  around.touched = around.touched && view.isUserInteractionEnabled();
-  paint(view, exact);
-  takeTouches(view, around);
-  describe(view, frame, around);
-  for (const auto& subview : view.subviews()) add(*subview, around);
-  const CALayer& layer = view.layer();
-  if (layer.borderWidth() <= 0) return;
-  const auto color = layer.borderColor() ? layer.borderColor()->resolve(scene_.appearance)
-                                         : graphics::RGBA{0, 0, 0, 255};
-  scene_.items.push_back(render::StrokeItem{frame, color, layer.borderWidth()});
-}
-
-void ViewScene::paint(const UIView& view, const Rect& frame) {
-  const std::size_t before = scene_.items.size();
-  view.draw(frame, context_, scene_.items);
-  for (std::size_t i = before; i < scene_.items.size(); ++i) {
-    std::visit([this](auto& item) { item.frame = onPixels(grid_, item); }, scene_.items[i]);
-  }
-}
-
-/// Adds the hit area of `view`. A view that takes touches and has no recognizer runs the action of
-/// the enclosing views, and covers the hit areas of its siblings below it.
-void ViewScene::takeTouches(const UIView& view, Surroundings& around) {
-  if (!around.touched || around.visible.isEmpty()) return;
-  auto& areas = scene_.hitAreas;
-  if (!view.gestureRecognizers().empty()) {
-    around.action = tapOn(view);
-    areas.push_back({around.visible, around.action});
-    around.areasBelow = areas.size();
-    return;
-  }
-  const auto beside = areas.begin() + static_cast<std::ptrdiff_t>(around.areasBelow);
-  const bool covers = std::any_of(beside, areas.end(), [&](const render::HitArea& area) {
-    return !layout::intersection(area.frame, around.visible).isEmpty();
-  });
-  if (!covers) return;
-  areas.push_back({around.visible, around.action ? around.action : foundation::Action([] {})});
-}
-
-void ViewScene::describe(const UIView& view, const Rect& frame, const Surroundings& around) {
-  auto element = view.describe(context_.display.language);
-  if (view.accessibilityLabel()) {
-    if (!element) element.emplace();
-    element->label = *view.accessibilityLabel();
-  }
-  if (!element) return;
-  element->frame = frame;
-  element->action = around.action;
-  if (element->action) element->role = render::Role::button;
-  switch (view.accessibilityTraits()) {
-    case UIAccessibilityTraits::none:
-      break;
-    case UIAccessibilityTraits::button:
-      element->role = render::Role::button;
-      break;
-    case UIAccessibilityTraits::link:
-      element->role = render::Role::link;
-      break;
-    case UIAccessibilityTraits::header:
-      element->role = render::Role::heading;
-      break;
-  }
-  // An image without a label is decoration.
-  if (element->label.empty() && !element->action) return;
-  scene_.accessibility.push_back(std::move(*element));
-}
 
 }  // namespace
 

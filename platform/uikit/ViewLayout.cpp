@@ -17,22 +17,12 @@ bool isAlong(Axis axis, LayoutAttribute attribute) {
 }
 
 Edge edgeOf(LayoutAttribute attribute, bool mirrored) {
-  switch (attribute) {
-    case LayoutAttribute::left:
-    case LayoutAttribute::top:
-      return Edge::start;
-    case LayoutAttribute::right:
-    case LayoutAttribute::bottom:
-      return Edge::end;
-    case LayoutAttribute::leading:
-      return mirrored ? Edge::end : Edge::start;
-    case LayoutAttribute::trailing:
-      return mirrored ? Edge::start : Edge::end;
-    case LayoutAttribute::width:
-    case LayoutAttribute::height:
-      break;
-  }
-  return Edge::length;
+  // In the order of the attributes.
+  constexpr Edge edges[] = {Edge::start, Edge::end, Edge::start,  Edge::end,
+                            Edge::start, Edge::end, Edge::length, Edge::length};
+  const Edge edge = edges[static_cast<int>(attribute)];
+  if (!mirrored) return edge;
+  return edge == Edge::start ? Edge::end : Edge::start;
 }
 
 LayoutRelation flipped(LayoutRelation relation) {
@@ -41,47 +31,36 @@ LayoutRelation flipped(LayoutRelation relation) {
   return relation;
 }
 
-/// Collects the active constraints of `view` and its subviews as rules along one axis.
-class RuleReader {
- public:
-  RuleReader(const UIView& view, Axis axis, LayoutDirection direction)
-      : view_(view), axis_(axis), direction_(direction) {
-    for (const ActiveLayoutConstraint& constraint : view.constraints()) add(constraint);
-    for (const auto& subview : view.subviews()) {
-      for (const ActiveLayoutConstraint& constraint : subview->constraints()) {
-        if (!constraint.secondItem) add(constraint);  // its own size
-      }
-    }
-  }
+/// The active constraints of `view` and its subviews as rules along one axis.
+std::vector<AxisRule> rulesAlong(Axis axis, const UIView& view, LayoutDirection direction) {
+  const auto indexOf = [&view](const UIView* item) {
+    if (item == &view) return 0;
+    const auto& views = view.subviews();
+    const auto found = std::ranges::find(views, item, [](const auto& each) { return each.get(); });
+    return 1 + static_cast<int>(found - views.begin());
+  };
   std::vector<AxisRule> rules;
-
- private:
-  void add(const ActiveLayoutConstraint& constraint) {
+  const auto add = [&](const ActiveLayoutConstraint& constraint) {
     const auto attribute = constraint.firstAttribute;
-    if (!isAlong(axis_, attribute)) return;
+    if (!isAlong(axis, attribute)) return;
     const bool alone = !constraint.secondItem;
     const bool reads =
         attribute == LayoutAttribute::leading || attribute == LayoutAttribute::trailing;
-    const bool mirrored = reads && direction_ == LayoutDirection::rightToLeft;
+    const bool mirrored = reads && direction == LayoutDirection::rightToLeft;
     rules.push_back({indexOf(constraint.firstItem), edgeOf(attribute, mirrored),
                      mirrored ? flipped(constraint.relation) : constraint.relation,
                      alone ? AxisRule::none : indexOf(constraint.secondItem),
                      alone ? Edge::length : edgeOf(constraint.secondAttribute, mirrored),
                      mirrored ? -constraint.constant : constraint.constant});
+  };
+  for (const ActiveLayoutConstraint& constraint : view.constraints()) add(constraint);
+  for (const auto& subview : view.subviews()) {
+    for (const ActiveLayoutConstraint& constraint : subview->constraints()) {
+      if (!constraint.secondItem) add(constraint);  // its own size
+    }
   }
-
-  int indexOf(const UIView* item) const {
-    if (item == &view_) return 0;
-    const auto& views = view_.subviews();
-    const auto found = std::find_if(views.begin(), views.end(),
-                                    [item](const auto& view) { return view.get() == item; });
-    return 1 + static_cast<int>(found - views.begin());
-  }
-
-  const UIView& view_;
-  Axis axis_;
-  LayoutDirection direction_;
-};
+  return rules;
+}
 
 /// The length that the view's own constraint sets. Its content does not count.
 std::optional<double> fixedLength(const UIView& view, LayoutAttribute attribute) {
@@ -94,8 +73,6 @@ std::optional<double> fixedLength(const UIView& view, LayoutAttribute attribute)
   }
   return std::nullopt;
 }
-
-AxisItem placedByHand(double start, double length) { return {start, length, std::nullopt}; }
 
 }  // namespace
 
@@ -116,8 +93,8 @@ void ViewLayout::layOut(UIView& view, const layout::Rect& frame) const {
   view.layOutAt(frame);
   if (view.subviews().empty()) return;
   const auto columns = across(view, frame.size.width);
-  const RuleReader down(view, Axis::vertical, context_.display.direction);
-  const auto rows = placeAlong(itemsDown(view, columns), down.rules, frame.size.height);
+  const auto down = rulesAlong(Axis::vertical, view, context_.display.direction);
+  const auto rows = placeAlong(itemsDown(view, columns), down, frame.size.height);
   const auto subviews = view.subviews();
   for (std::size_t i = 0; i < subviews.size(); ++i) {
     layOut(*subviews[i], {{columns[i].start, rows[i].start}, {columns[i].length, rows[i].length}});
@@ -127,19 +104,19 @@ void ViewLayout::layOut(UIView& view, const layout::Rect& frame) const {
 ViewLayout::Length ViewLayout::naturalWidth(const UIView& view) const {
   if (const auto content = view.intrinsicContentSize(std::nullopt, context_)) return content->width;
   // The width is the same in both reading directions.
-  const RuleReader reader(view, Axis::horizontal, LayoutDirection::leftToRight);
-  return fittingExtent(itemsAcross(view), reader.rules);
+  return fittingExtent(itemsAcross(view),
+                       rulesAlong(Axis::horizontal, view, LayoutDirection::leftToRight));
 }
 
 ViewLayout::Length ViewLayout::naturalHeight(const UIView& view, double width) const {
   if (const auto content = view.intrinsicContentSize(width, context_)) return content->height;
-  const RuleReader down(view, Axis::vertical, context_.display.direction);
-  return fittingExtent(itemsDown(view, across(view, width)), down.rules);
+  return fittingExtent(itemsDown(view, across(view, width)),
+                       rulesAlong(Axis::vertical, view, context_.display.direction));
 }
 
 std::vector<AxisSpan> ViewLayout::across(const UIView& view, double width) const {
-  const RuleReader reader(view, Axis::horizontal, context_.display.direction);
-  return placeAlong(itemsAcross(view), reader.rules, width);
+  return placeAlong(itemsAcross(view),
+                    rulesAlong(Axis::horizontal, view, context_.display.direction), width);
 }
 
 std::vector<AxisItem> ViewLayout::itemsAcross(const UIView& view) const {
@@ -147,7 +124,7 @@ std::vector<AxisItem> ViewLayout::itemsAcross(const UIView& view) const {
   for (const auto& subview : view.subviews()) {
     const layout::Rect& frame = subview->frame();
     items.push_back(subview->translatesAutoresizingMaskIntoConstraints()
-                        ? placedByHand(frame.left(), frame.size.width)
+                        ? AxisItem{frame.left(), frame.size.width, {}}
                         : AxisItem{{}, {}, naturalWidth(*subview)});
   }
   return items;
@@ -160,7 +137,7 @@ std::vector<AxisItem> ViewLayout::itemsDown(const UIView& view,
     const UIView& subview = *view.subviews()[i];
     const layout::Rect& frame = subview.frame();
     items.push_back(subview.translatesAutoresizingMaskIntoConstraints()
-                        ? placedByHand(frame.top(), frame.size.height)
+                        ? AxisItem{frame.top(), frame.size.height, {}}
                         : AxisItem{{}, {}, naturalHeight(subview, across[i].length)});
   }
   return items;

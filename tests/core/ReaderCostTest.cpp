@@ -8,7 +8,7 @@
 #include <functional>
 #include <string>
 
-#include "platform/foundation/StringsFile.h"
+#include "platform/foundation/StringTable.h"
 #include "platform/graphics/AssetContents.h"
 #include "platform/uikit/Nib.h"
 #include "tests/core/InterfaceFile.h"

@@ -7,7 +7,7 @@
 #include <limits>
 
 #include "platform/foundation/StringFormat.h"
-#include "platform/foundation/StringsFile.h"
+#include "platform/foundation/StringTable.h"
 #include "platform/foundation/UnicodeText.h"
 #include "tests/core/Resources.h"
 #include "tests/core/Vectors.h"
