@@ -90,7 +90,7 @@ TEST_P(EveryScreen, ShowsEverythingWhole) {
   const Language& language = cells({.language = GetParam()}).at(0).language->value;
   const std::vector<std::string> figures = figuresOf(language);
   for (const Cell& cell : cells({.language = GetParam()})) {
-    SCOPED_TRACE(cell.id());
+    SCOPED_TRACE(cell.names());
     const qt::StillScene still = renderer.render(cell, 1).still;
     const render::Scene& scene = still.topmost();
     std::vector<layout::Rect> taken;
@@ -133,7 +133,7 @@ TEST(MatrixPicture, LooksAsItDid) {
                            .screen = "320"};
       for (const Cell& cell : cells(rows)) {
         const QImage image = picture(renderer.render(cell, 1), 1);
-        EXPECT_TRUE(testing::matchesPicture(image, QString::fromStdString(cell.id() + data)));
+        EXPECT_TRUE(testing::matchesPicture(image, QString::fromStdString(cell.names() + data)));
       }
     }
   }

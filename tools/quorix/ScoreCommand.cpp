@@ -46,7 +46,7 @@ std::optional<Failure> translate(const swiftui::View& view, const ScoreRequest& 
 }
 
 Outcome score(ScoreRequest& request) {
-  const PictureApplication application;
+  const auto application = startApplication();
   if (auto failure = request.prepare()) return *std::move(failure);
   if (auto failure = readTokenInput(request.token)) return *std::move(failure);
   if (auto failure = emptiness(request)) return *std::move(failure);

@@ -49,13 +49,6 @@ std::optional<Failure> registerFile(std::string& face) {
   return std::nullopt;
 }
 
-std::string pixels(double width, double height) {
-  const auto whole = [](double length) {
-    return std::to_string(static_cast<long long>(std::ceil(length)));
-  };
-  return whole(width) + " x " + whole(height) + " pixels";
-}
-
 /// Paints `scene` into the PNG file of `request`. On failure, an existing file stays unchanged.
 std::optional<Failure> writeScene(const render::Scene& scene, const WidgetRequest& request) {
   const double scale = request.picture.environment.scale;
@@ -63,7 +56,9 @@ std::optional<Failure> writeScene(const render::Scene& scene, const WidgetReques
   const bool tooLarge = width * height > mostPixels;
   const QImage image = tooLarge ? QImage() : qt::paintPicture(scene, request.picture);
   if (!image.isNull()) return writePicture(image, *request.out);
-  return Failure::refused("a picture of " + pixels(width, height) + " is too large");
+  const auto pixels = [](double length) { return std::to_string(std::llround(std::ceil(length))); };
+  return Failure::refused("a picture of " + pixels(width) + " x " + pixels(height) +
+                          " pixels is too large");
 }
 
 }  // namespace
@@ -110,22 +105,17 @@ std::vector<Option> withLook(WidgetLook& look, std::vector<Option> own) {
       own.end(),
       {
           {"--locale", "CODE", "Language code of the texts (default en).", &look.locale},
-          {"--appearance", "NAME", "{} (default light).", &look.appearance, {appearanceNames}},
-          {"--text-size",
-           "NAME",
+          {"--appearance", "NAME", "{} (default light).", &look.appearance, oneOf(appearanceNames)},
+          {"--text-size", "NAME",
            "The user's text size: {} (default large). Only the faces given with the next two "
            "options follow it.",
-           &look.textSize,
-           {textSizeNames()}},
+           &look.textSize, oneOf(textSizeNames())},
           {"--regular-font", "FACE",
            "Name of a face, or a font file, for regular text (default the library's own).",
            &look.regularFont},
           {"--semi-bold-font", "FACE", "Likewise for emphasised text.", &look.semiBoldFont},
-          {"--direction",
-           "NAME",
-           "{} (default that of the locale's script).",
-           &look.direction,
-           {directionNames}},
+          {"--direction", "NAME", "{} (default that of the locale's script).", &look.direction,
+           oneOf(directionNames)},
       });
   return own;
 }
@@ -149,21 +139,14 @@ std::vector<Option> withWidgetOptions(WidgetRequest& request, std::vector<Option
           {"--json", "",
            "Prints frames and accessibility, or the one of them that is named, as one JSON object.",
            &request.json},
-          {"--width",
-           "POINTS",
-           "Width of the widget, with --sheet of the window, {} (default 375).",
-           &picture.width,
-           {.least = 1, .most = 10000}},
-          {"--height",
-           "POINTS",
+          {"--width", "POINTS",
+           "Width of the widget, with --sheet of the window, {} (default 375).", &picture.width,
+           between(1, 10000)},
+          {"--height", "POINTS",
            "Height, {} (default what the widget needs, with --sheet twice the width).",
-           &picture.height,
-           {.least = 1, .most = 10000}},
-          {"--scale",
-           "FACTOR",
-           "Pixels for each point, {} (default 1).",
-           &picture.environment.scale,
-           {.least = 0.5, .most = 10}},
+           &picture.height, between(1, 10000)},
+          {"--scale", "FACTOR", "Pixels for each point, {} (default 1).",
+           &picture.environment.scale, between(0.5, 10)},
       });
   return withLook(request, std::move(own));
 }

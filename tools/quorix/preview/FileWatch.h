@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QStringList>
 #include <QTimer>
+#include <utility>
 
 namespace quorix::tool {
 
@@ -23,12 +24,8 @@ class FileWatch : public QObject {
   void changed(const QStringList& files);
 
  private:
-  struct Stamp {
-    QDateTime modified;
-    qint64 size = 0;
-    bool operator==(const Stamp&) const = default;
-  };
-  using Stamps = QMap<QString, Stamp>;
+  /// When each file was modified, and its size.
+  using Stamps = QMap<QString, std::pair<QDateTime, qint64>>;
 
   Stamps look();
   void compare();

@@ -23,7 +23,9 @@ namespace {
 using foundation::URLResponse;
 using foundation::URLSession;
 
-constexpr const char* kPlaces = "QUORIX_PREVIEW_PLACES";  // window positions, kept over a restart
+// The windows' positions, kept over a restart.
+constexpr const char* kControlsPlace = "QUORIX_PREVIEW_CONTROLS";
+constexpr const char* kScreenPlace = "QUORIX_PREVIEW_SCREEN";
 
 QStringList watched(const PreviewChoices& choices) {
   QStringList roots;
@@ -83,7 +85,6 @@ bool isReadAgain(const QString& file) {
 
 Preview::Preview(const PreviewChoices& choices)
     : controls_(choices, languages()), files_(watched(choices)) {
-  URLSession::shared().setNetworkEnabled(false);
   if (const auto& file = choices.translations) {
     translations_ = URLSession::shared().registerProtocol([file](const auto&) {
       auto bytes = readInputFile(*file);
@@ -103,14 +104,11 @@ Preview::Preview(const PreviewChoices& choices)
 void Preview::open() {
   controls_.show();
   screen_.show(controls_.choices());
-  const auto places = qEnvironmentVariable(kPlaces).split(QLatin1Char(' '));
-  if (places.size() == 4) {
-    controls_.move(places[0].toInt(), places[1].toInt());
-    screen_.move(places[2].toInt(), places[3].toInt());
-  } else {
-    controls_.move(40, 40);
-    screen_.move(40 + controls_.width() + 24, 40);
-  }
+  controls_.move(40, 40);
+  screen_.move(40 + controls_.width() + 24, 40);
+  // After a restart, where they were.
+  controls_.restoreGeometry(QByteArray::fromBase64(qgetenv(kControlsPlace)));
+  screen_.restoreGeometry(QByteArray::fromBase64(qgetenv(kScreenPlace)));
   QStringList files = watched(controls_.choices());
   if (controls_.choices().resources) files.append(tables(files.last()));
   for (const QString& file : std::as_const(files)) {
@@ -162,13 +160,8 @@ QString Preview::remark(const QString& file) const {
 void Preview::startAnew() {
   PreviewChoices choices = controls_.choices();
   choices.sheet = screen_.hasSheet();
-  const QPoint controls = controls_.pos(), screen = screen_.pos();
-  qputenv(kPlaces, QStringLiteral("%1 %2 %3 %4")
-                       .arg(controls.x())
-                       .arg(controls.y())
-                       .arg(screen.x())
-                       .arg(screen.y())
-                       .toLatin1());
+  qputenv(kControlsPlace, controls_.saveGeometry().toBase64());
+  qputenv(kScreenPlace, screen_.saveGeometry().toBase64());
   std::vector<std::string> words = wordsOf(choices.options());
   words.insert(words.begin(), {QCoreApplication::applicationFilePath().toStdString(), "preview"});
   if (choices.token) words.insert(words.end(), {"--", choices.shoppers.back().token});
