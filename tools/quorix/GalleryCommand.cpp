@@ -13,7 +13,7 @@
 #include "tools/quorix/Application.h"
 #include "tools/quorix/Commands.h"
 #include "tools/quorix/Files.h"
-#include "tools/quorix/gallery/CellRenderer.h"
+#include "tools/quorix/gallery/CellRendering.h"
 #include "tools/quorix/gallery/GalleryPage.h"
 #include "tools/quorix/gallery/Pictures.h"
 
@@ -83,7 +83,6 @@ Outcome showGallery(const Request& request) {
                           '"');
   }
   const auto application = startApplication();
-  const gallery::CellRenderer renderer;
   const auto cells = request.showcase ? gallery::showcase() : gallery::cells(request.selection);
   gallery::GalleryPage page;
   std::vector<gallery::CaptionedPicture> pictures;
@@ -91,7 +90,7 @@ Outcome showGallery(const Request& request) {
     Progress progress(cells.size());
     for (const gallery::Cell& cell : cells) {
       progress.step();
-      const auto shown = renderer.render(cell, request.scale);
+      const auto shown = gallery::render(cell, request.scale);
       QImage picture = gallery::picture(shown, request.scale);
       if (asPicture) {
         pictures.push_back({std::move(picture), cell.names()});
@@ -105,7 +104,7 @@ Outcome showGallery(const Request& request) {
     failure = writeFile(request.out, QByteArray::fromStdString(page.html()));
   } else if (const QImage sheet = gallery::contactSheet(pictures, request.pageWidth);
              !sheet.isNull()) {
-    failure = writePicture(gallery::withFewColors(sheet), request.out);
+    failure = writeFile(request.out, gallery::png(gallery::withFewColors(sheet)));
   } else {
     failure = Failure::refused("the picture would be too large: ask for less");
   }

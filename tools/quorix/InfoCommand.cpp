@@ -12,7 +12,7 @@
 #include "tools/quorix/Application.h"
 #include "tools/quorix/Commands.h"
 #include "tools/quorix/Widget.h"
-#include "tools/quorix/gallery/CellRenderer.h"
+#include "tools/quorix/gallery/CellRendering.h"
 
 namespace quorix::tool {
 namespace {

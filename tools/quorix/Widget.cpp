@@ -2,7 +2,6 @@
 
 #include <QFileInfo>
 #include <QLocale>
-#include <array>
 #include <cmath>
 
 #include "QuorixWidgets/localization/QuorixFont.h"
@@ -11,6 +10,7 @@
 #include "qt/StillScene.h"
 #include "qt/text/QtFonts.h"
 #include "tools/quorix/Files.h"
+#include "tools/quorix/gallery/Pictures.h"
 
 namespace quorix::tool {
 namespace {
@@ -55,7 +55,7 @@ std::optional<Failure> writeScene(const render::Scene& scene, const WidgetReques
   const double width = scene.size.width * scale, height = scene.size.height * scale;
   const bool tooLarge = width * height > mostPixels;
   const QImage image = tooLarge ? QImage() : qt::paintPicture(scene, request.picture);
-  if (!image.isNull()) return writePicture(image, *request.out);
+  if (!image.isNull()) return writeFile(*request.out, gallery::png(image));
   const auto pixels = [](double length) { return std::to_string(std::llround(std::ceil(length))); };
   return Failure::refused("a picture of " + pixels(width) + " x " + pixels(height) +
                           " pixels is too large");
@@ -63,13 +63,13 @@ std::optional<Failure> writeScene(const render::Scene& scene, const WidgetReques
 
 }  // namespace
 
-swiftui::Environment WidgetLook::environment() const {
+swiftui::Environment WidgetLook::environment(double scale) const {
   const QLocale language(QString::fromStdString(locale));
   const bool rightToLeft =
       direction ? *direction == 1 : language.textDirection() == Qt::RightToLeft;
   return {static_cast<graphics::Appearance>(appearance),
           rightToLeft ? LayoutDirection::rightToLeft : LayoutDirection::leftToRight,
-          static_cast<ContentSizeCategory>(textSize), 1, locale};
+          static_cast<ContentSizeCategory>(textSize), scale, locale};
 }
 
 std::optional<Failure> WidgetLook::findFaces() {
@@ -90,11 +90,9 @@ std::optional<Failure> WidgetLook::findFaces() {
 
 std::span<const std::string_view> textSizeNames() {
   static const auto all = [] {
-    constexpr auto last = ContentSizeCategory::accessibilityExtraExtraExtraLarge;
-    std::array<std::string_view, static_cast<std::size_t>(last) + 1> names;
-    for (std::size_t i = 0; i < names.size(); ++i) {
-      names[i] = nameOf(static_cast<ContentSizeCategory>(i));
-    }
+    constexpr auto last = static_cast<int>(ContentSizeCategory::accessibilityExtraExtraExtraLarge);
+    std::vector<std::string_view> names;
+    for (int i = 0; i <= last; ++i) names.push_back(nameOf(static_cast<ContentSizeCategory>(i)));
     return names;
   }();
   return all;
@@ -160,8 +158,7 @@ std::optional<Failure> WidgetRequest::prepare() {
     frames = json;
     accessibility = json || (!out && !tree);
   }
-  const double scale = std::exchange(picture.environment, environment()).scale;
-  picture.environment.scale = scale;
+  picture.environment = environment(picture.environment.scale);
   return findFaces();
 }
 

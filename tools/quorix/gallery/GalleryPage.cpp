@@ -1,6 +1,5 @@
 #include "tools/quorix/gallery/GalleryPage.h"
 
-#include <QBuffer>
 #include <QFile>
 #include <cmath>
 
@@ -17,16 +16,7 @@ std::string pageFile(const char* name) {
 }
 
 std::string escaped(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()))
-      .toHtmlEscaped()
-      .toStdString();
-}
-
-std::string base64PNG(const QImage& picture) {
-  QBuffer buffer;
-  buffer.open(QIODevice::WriteOnly);
-  withFewColors(picture).save(&buffer, "PNG", 0);  // the smallest
-  return buffer.data().toBase64().toStdString();
+  return QString::fromUtf8(text).toHtmlEscaped().toStdString();
 }
 
 std::string attribute(std::string_view name, std::string_view value) {
@@ -67,7 +57,8 @@ std::string captionOf(const Cell& cell) {
 }  // namespace
 
 std::size_t GalleryPage::ruleFor(const QImage& picture) {
-  const auto [known, isNew] = rules_.try_emplace(base64PNG(picture), rules_.size());
+  const QByteArray file = png(withFewColors(picture), true);
+  const auto [known, isNew] = rules_.try_emplace(file.toBase64().toStdString(), rules_.size());
   if (isNew) {
     const QSizeF size = picture.deviceIndependentSize();
     const std::string width = std::to_string(std::lround(size.width()));

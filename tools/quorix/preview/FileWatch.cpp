@@ -27,6 +27,7 @@ FileWatch::Stamps FileWatch::look() {
     if (info.isFile()) stamps[info.filePath()] = {info.lastModified(), info.size()};
   };
   for (const QString& root : std::as_const(roots_)) {
+    if (root.isEmpty()) continue;
     add(QFileInfo(root));
     add(QFileInfo(QFileInfo(root).path()));  // a replaced file appears here
     if (!QFileInfo(root).isDir()) continue;

@@ -19,6 +19,9 @@ class FileWatch : public QObject {
   /// `roots` are files and folders, also ones that do not exist yet.
   explicit FileWatch(QStringList roots, QObject* parent = nullptr);
 
+  /// The watched files that exist.
+  QStringList files() const { return known_.keys(); }
+
  signals:
   /// `files` are new, deleted or have changed.
   void changed(const QStringList& files);

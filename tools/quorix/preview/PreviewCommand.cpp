@@ -24,8 +24,8 @@ Outcome preview(PreviewChoices choices) {
     setTheme(std::move(theme));
   }
   if (choices.translations) {
-    const auto document = readTranslations(*choices.translations);
-    if (const auto* failure = std::get_if<Failure>(&document)) return *failure;
+    const auto read = Translations::read(*choices.translations);
+    if (const auto* failure = std::get_if<Failure>(&read)) return *failure;
   }
   const auto application = startApplication(true);
   if (auto failure = choices.findFaces()) return *std::move(failure);
