@@ -5,7 +5,7 @@
 #include "QuorixWidgets/score/ScoreWidgetViewModel.h"
 #include "qt/text/QtTextEngine.h"
 #include "tests/qt/MatchesPicture.h"
-#include "tools/quorix/gallery/CellRenderer.h"
+#include "tools/quorix/gallery/CellRendering.h"
 
 namespace quorix::gallery {
 namespace {
@@ -86,12 +86,11 @@ void expectFigure(const render::TextItem& text) {
 class EveryScreen : public ::testing::TestWithParam<const char*> {};
 
 TEST_P(EveryScreen, ShowsEverythingWhole) {
-  const CellRenderer renderer;
   const Language& language = cells({.language = GetParam()}).at(0).language->value;
   const std::vector<std::string> figures = figuresOf(language);
   for (const Cell& cell : cells({.language = GetParam()})) {
-    SCOPED_TRACE(cell.id());
-    const qt::StillScene still = renderer.render(cell, 1).still;
+    SCOPED_TRACE(cell.names());
+    const qt::StillScene still = gallery::render(cell, 1).still;
     const render::Scene& scene = still.topmost();
     std::vector<layout::Rect> taken;
     std::vector<std::string> seen;
@@ -122,7 +121,6 @@ INSTANTIATE_TEST_SUITE_P(Matrix, EveryScreen, ::testing::Values("en", "es", "de"
 /// Reference pictures of a few rows, for what no rule above can check, such as the side of a price
 /// on which its currency is. Newer locale data writes Arabic prices in Latin digits.
 TEST(MatrixPicture, LooksAsItDid) {
-  const CellRenderer renderer;
   for (const std::string language : {"es", "ar"}) {
     const char* data = language == "ar" && U_ICU_VERSION_MAJOR_NUM >= 76 ? "-icu76" : "";
     for (const char* textSize : {"default", "accessibility"}) {
@@ -132,8 +130,8 @@ TEST(MatrixPicture, LooksAsItDid) {
                            .textSize = textSize,
                            .screen = "320"};
       for (const Cell& cell : cells(rows)) {
-        const QImage image = picture(renderer.render(cell, 1), 1);
-        EXPECT_TRUE(testing::matchesPicture(image, QString::fromStdString(cell.id() + data)));
+        const QImage image = picture(gallery::render(cell, 1), 1);
+        EXPECT_TRUE(testing::matchesPicture(image, QString::fromStdString(cell.names() + data)));
       }
     }
   }

@@ -93,6 +93,8 @@ TEST(PreviewTool, FollowsTranslationsThatAreReplaced) {
       folder.shell(R"(echo '{"returns": {"title": "a title that is far longer"}}' > new.json)"
                    "&& mv new.json texts.json");
   ASSERT_EQ(replaced.status, 0) << replaced.err;
-  EXPECT_TRUE(preview.showsAnother());
+  // On a busy machine, a picture with the built-in texts comes first.
+  while (preview.showsAnother() && reachOfTitle(preview.shown) <= 180) {
+  }
   EXPECT_GT(reachOfTitle(preview.shown), 180);
 }

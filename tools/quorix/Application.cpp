@@ -1,4 +1,4 @@
-#include <QString>
+#include <QApplication>
 #include <cstdio>
 #include <cstdlib>
 
@@ -17,20 +17,24 @@ void keepQuiet(QtMsgType type, const QMessageLogContext&, const QString& message
   std::_Exit(Failure::refusedStatus);
 }
 
-/// Sets options that Qt reads when the application object is made.
-int& prepared(int& argc) {
-  keepQtQuiet();
-  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  return argc;
-}
-
 }  // namespace
 
-void keepQtQuiet() { qInstallMessageHandler(keepQuiet); }
-
-PictureApplication::PictureApplication() : application_(prepared(argc_), argv_) {
+std::unique_ptr<QGuiApplication> startApplication(bool withWindows) {
+  static int argc = 1;
+  static char name[] = "quorix";
+  static char* argv[] = {name, nullptr};
+  qInstallMessageHandler(keepQuiet);
+  std::unique_ptr<QGuiApplication> application;
+  if (withWindows) {
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);  // for web pages
+    application = std::make_unique<QApplication>(argc, argv);
+  } else {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    application = std::make_unique<QGuiApplication>(argc, argv);
+  }
   qt::installEngine();
   foundation::URLSession::shared().setNetworkEnabled(false);
+  return application;
 }
 
 }  // namespace quorix::tool

@@ -41,6 +41,8 @@ struct Valid {
   double least = 0;
   double most = 0;
 };
+inline Valid oneOf(std::span<const std::string_view> names) { return {names}; }
+inline Valid between(double least, double most) { return {{}, least, most}; }
 
 /// An option of a command, or its operand: the one argument besides options. If an option is given
 /// twice, the last one counts.

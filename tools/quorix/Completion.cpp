@@ -102,7 +102,7 @@ Command completionCommand() {
           "Prints what makes a shell complete the tool's command lines.\n"
           "It is installed with the tool; a tool that is not installed is completed in this shell "
           "after: source <(quorix completion bash)",
-      .operand = {"SHELL", "", "{}.", shell.get(), {shells}},
+      .operand = {"SHELL", "", "{}.", shell.get(), oneOf(shells)},
       .example = "quorix completion bash > quorix.bash && bash -c '. ./quorix.bash'",
       .run = [shell]() -> Outcome {
         return std::string(*shell == "bash" ? bash : *shell == "zsh" ? zsh : fish);

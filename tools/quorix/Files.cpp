@@ -1,6 +1,4 @@
-#include <QBuffer>
 #include <QFile>
-#include <QImageWriter>
 #include <QSaveFile>
 
 #include "tools/quorix/Files.h"
@@ -19,29 +17,12 @@ std::variant<std::string, Failure> readInputFile(const std::string& path) {
   return Failure::refused("can't read " + path + ": " + file.errorString().toStdString());
 }
 
-namespace {
-
-Failure cannotWrite(const std::string& path, const QString& reason) {
-  return Failure::refused("can't write " + path + ": " + reason.toStdString());
-}
-
-}  // namespace
-
 std::optional<Failure> writeFile(const std::string& path, const QByteArray& bytes) {
   QSaveFile file(QString::fromStdString(path));
-  if (!file.open(QIODevice::WriteOnly)) return cannotWrite(path, file.errorString());
-  if (file.write(bytes) != bytes.size() || !file.commit()) {
-    return cannotWrite(path, file.errorString());
+  if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit()) {
+    return std::nullopt;
   }
-  return std::nullopt;
-}
-
-std::optional<Failure> writePicture(const QImage& image, const std::string& path) {
-  QBuffer buffer;
-  buffer.open(QIODevice::WriteOnly);
-  QImageWriter writer(&buffer, "png");
-  if (!writer.write(image)) return cannotWrite(path, writer.errorString());
-  return writeFile(path, buffer.data());
+  return Failure::refused("can't write " + path + ": " + file.errorString().toStdString());
 }
 
 }  // namespace quorix::tool

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QByteArray>
-#include <QImage>
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -19,8 +18,5 @@ std::variant<std::string, Failure> readInputFile(const std::string& path);
 
 /// Writes `bytes` to the file at `path`. On failure, an existing file stays unchanged.
 std::optional<Failure> writeFile(const std::string& path, const QByteArray& bytes);
-
-/// Writes `image` to a PNG file at `path`. On failure, an existing file stays unchanged.
-std::optional<Failure> writePicture(const QImage& image, const std::string& path);
 
 }  // namespace quorix::tool

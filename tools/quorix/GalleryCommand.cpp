@@ -13,7 +13,7 @@
 #include "tools/quorix/Application.h"
 #include "tools/quorix/Commands.h"
 #include "tools/quorix/Files.h"
-#include "tools/quorix/gallery/CellRenderer.h"
+#include "tools/quorix/gallery/CellRendering.h"
 #include "tools/quorix/gallery/GalleryPage.h"
 #include "tools/quorix/gallery/Pictures.h"
 
@@ -82,8 +82,7 @@ Outcome showGallery(const Request& request) {
     return Failure::usage("--out wants a file that ends in .html or .png, not \"" + request.out +
                           '"');
   }
-  const PictureApplication application;
-  const gallery::CellRenderer renderer;
+  const auto application = startApplication();
   const auto cells = request.showcase ? gallery::showcase() : gallery::cells(request.selection);
   gallery::GalleryPage page;
   std::vector<gallery::CaptionedPicture> pictures;
@@ -91,10 +90,10 @@ Outcome showGallery(const Request& request) {
     Progress progress(cells.size());
     for (const gallery::Cell& cell : cells) {
       progress.step();
-      const auto shown = renderer.render(cell, request.scale);
+      const auto shown = gallery::render(cell, request.scale);
       QImage picture = gallery::picture(shown, request.scale);
       if (asPicture) {
-        pictures.push_back({std::move(picture), cell.id()});
+        pictures.push_back({std::move(picture), cell.names()});
       } else {
         page.add(cell, picture, shown.tree, render::printAccessibility(shown.still.topmost()));
       }
@@ -105,7 +104,7 @@ Outcome showGallery(const Request& request) {
     failure = writeFile(request.out, QByteArray::fromStdString(page.html()));
   } else if (const QImage sheet = gallery::contactSheet(pictures, request.pageWidth);
              !sheet.isNull()) {
-    failure = writePicture(gallery::withFewColors(sheet), request.out);
+    failure = writeFile(request.out, gallery::png(gallery::withFewColors(sheet)));
   } else {
     failure = Failure::refused("the picture would be too large: ask for less");
   }
@@ -132,47 +131,24 @@ Command galleryCommand() {
                &request->out,
                {},
                true},
-              {"--language",
-               "CODE",
-               "Only this language: {} (default all).",
-               &only.language,
-               {namesOf<gallery::languages>}},
-              {"--widget",
-               "NAME",
-               "Only {} (default all).",
-               &only.widget,
-               {namesOf<gallery::widgets>}},
-              {"--appearance",
-               "NAME",
-               "Only {} (default both).",
-               &only.appearance,
-               {namesOf<gallery::appearances>}},
-              {"--text-size",
-               "NAME",
-               "Only {} (default all).",
-               &only.textSize,
-               {namesOf<gallery::textSizes>}},
-              {"--direction",
-               "NAME",
-               "Only the language's own or the opposite one: {} (default both).",
-               &only.reading,
-               {namesOf<gallery::readings>}},
-              {"--width",
-               "POINTS",
-               "Only {} (default all).",
-               &only.screen,
-               {namesOf<gallery::screens>}},
+              {"--language", "CODE", "Only this language: {} (default all).", &only.language,
+               oneOf(namesOf<gallery::languages>)},
+              {"--widget", "NAME", "Only {} (default all).", &only.widget,
+               oneOf(namesOf<gallery::widgets>)},
+              {"--appearance", "NAME", "Only {} (default both).", &only.appearance,
+               oneOf(namesOf<gallery::appearances>)},
+              {"--text-size", "NAME", "Only {} (default all).", &only.textSize,
+               oneOf(namesOf<gallery::textSizes>)},
+              {"--direction", "NAME",
+               "Only the language's own or the opposite one: {} (default both).", &only.reading,
+               oneOf(namesOf<gallery::readings>)},
+              {"--width", "POINTS", "Only {} (default all).", &only.screen,
+               oneOf(namesOf<gallery::screens>)},
               {"--showcase", "", "Only a handful that shows the range.", &request->showcase},
-              {"--scale",
-               "FACTOR",
-               "Pixels for each point, {} (default 1).",
-               &request->scale,
-               {.least = 0.5, .most = 4}},
-              {"--page-width",
-               "POINTS",
-               "Of a picture, {} (default 1680).",
-               &request->pageWidth,
-               {.least = 100, .most = 20000}},
+              {"--scale", "FACTOR", "Pixels for each point, {} (default 1).", &request->scale,
+               between(0.5, 4)},
+              {"--page-width", "POINTS", "Of a picture, {} (default 1680).", &request->pageWidth,
+               between(100, 20000)},
           },
       .details =
           "The page holds its pictures and works without a network. Beside each picture stands "

@@ -1,3 +1,5 @@
+#include <QRegularExpression>
+#include <QString>
 #include <algorithm>
 #include <memory>
 #include <sstream>
@@ -36,12 +38,7 @@ std::string twoColumns(std::string left, std::string_view right, std::size_t col
 }
 
 std::string indented(std::string_view lines) {
-  std::string result = "  ";
-  for (const char c : lines) {
-    result += c;
-    if (c == '\n') result += "  ";
-  }
-  return result + '\n';
+  return "  " + QString::fromUtf8(lines).replace("\n", "\n  ").toStdString() + '\n';
 }
 
 /// "score TOKEN [options]".
@@ -57,18 +54,9 @@ std::string usage(const Command& command) {
 /// Escapes `text` for the formatter: a hyphen stays a hyphen when copied, and a dot at the start of
 /// a line is not a request.
 std::string escaped(std::string_view text) {
-  std::string result;
-  for (const char c : text) {
-    const bool atBeginning = result.empty() || result.back() == '\n';
-    if (atBeginning && (c == '.' || c == '\'')) result += "\\&";
-    if (c == '\\')
-      result += "\\e";
-    else if (c == '-')
-      result += "\\-";
-    else
-      result += c;
-  }
-  return result;
+  static const QRegularExpression request("^(?=[.'])", QRegularExpression::MultilineOption);
+  QString result = QString::fromUtf8(text);
+  return result.replace("\\", "\\e").replace("-", "\\-").replace(request, "\\&").toStdString();
 }
 
 /// A paragraph with a hanging heading.

@@ -12,7 +12,7 @@
 #include "tools/quorix/Application.h"
 #include "tools/quorix/Commands.h"
 #include "tools/quorix/Widget.h"
-#include "tools/quorix/gallery/CellRenderer.h"
+#include "tools/quorix/gallery/CellRendering.h"
 
 namespace quorix::tool {
 namespace {
@@ -79,7 +79,7 @@ Outcome info(InfoRequest& request) {
   if (imperative && (background || request.border)) {
     return Failure::usage("the imperative form takes neither a background color nor a border");
   }
-  const PictureApplication application;
+  const auto application = startApplication();
   if (auto failure = request.prepare()) return *std::move(failure);
   const InfoWidgetStyle style(request.regularFont, request.semiBoldFont, background,
                               request.border);
@@ -99,7 +99,7 @@ Command infoCommand() {
           "Nothing is fetched: of a sheet, the page stays blank.",
       .options = withWidgetOptions(
           *request,
-          {{"--form", "NAME", "{} (default declarative).", &request->form, {forms}},
+          {{"--form", "NAME", "{} (default declarative).", &request->form, oneOf(forms)},
            {"--background-color", "#RRGGBB",
             "Behind the texts (default the library's own). The imperative form does not take one.",
             &request->backgroundColor},

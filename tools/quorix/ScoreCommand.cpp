@@ -33,20 +33,20 @@ std::optional<Failure> emptiness(const ScoreRequest& request) {
 /// Makes `view` use the texts in the file of `request`.
 std::optional<Failure> translate(const swiftui::View& view, const ScoreRequest& request) {
   if (!request.translations) return std::nullopt;
-  const auto read = readTranslations(*request.translations);
+  const auto read = Translations::read(*request.translations);
   if (const auto* failure = std::get_if<Failure>(&read)) return *failure;
-  const auto& document = std::get<std::string>(read);
-  if (const std::string remark = Oversights::in(document).line(); !remark.empty()) {
+  const auto& table = std::get<Translations>(read);
+  if (const std::string mistakes = table.mistakes(); !mistakes.empty()) {
     std::fprintf(stderr, "quorix: score: note: %s: %s\n", request.translations->c_str(),
-                 remark.c_str());
+                 mistakes.c_str());
   }
-  if (fetchTranslations(view, document)) return std::nullopt;
+  if (fetchTranslations(view, table.document)) return std::nullopt;
   return Failure::refused("the locale \"" + request.locale +
                           "\" gives no address to fetch translations from");
 }
 
 Outcome score(ScoreRequest& request) {
-  const PictureApplication application;
+  const auto application = startApplication();
   if (auto failure = request.prepare()) return *std::move(failure);
   if (auto failure = readTokenInput(request.token)) return *std::move(failure);
   if (auto failure = emptiness(request)) return *std::move(failure);

@@ -13,10 +13,6 @@ namespace {
 
 using foundation::Bundle;
 
-QString qt(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 Outcome texts(const std::string& locale) {
   const auto table = builtInTranslations(locale);
   if (locale != "en" && table == builtInTranslations("en")) {
@@ -24,9 +20,10 @@ Outcome texts(const std::string& locale) {
   }
   QJsonObject sections;
   for (const auto& entry : table->entries()) {
-    QJsonObject section = sections[qt(entry.section)].toObject();
-    section[qt(entry.key)] = qt(entry.text);
-    sections[qt(entry.section)] = section;
+    const QString name = QString::fromUtf8(entry.section);
+    QJsonObject section = sections[name].toObject();
+    section[QString::fromUtf8(entry.key)] = QString::fromUtf8(entry.text);
+    sections[name] = section;
   }
   return QJsonDocument(sections).toJson(QJsonDocument::Indented).toStdString();
 }
@@ -60,14 +57,14 @@ struct Report {
 
 /// Checks the file at `path`, a table in the service's format.
 Outcome checkTranslations(const std::string& path) {
-  const auto document = readTranslations(path);
-  if (const auto* failure = std::get_if<Failure>(&document)) return *failure;
-  const auto oversights = Oversights::in(std::get<std::string>(document));
+  const auto read = Translations::read(path);
+  if (const auto* failure = std::get_if<Failure>(&read)) return *failure;
+  const auto& table = std::get<Translations>(read);
   Report report{.tables = 1};
-  for (const std::string& key : oversights.missing) {
+  for (const std::string& key : table.missing) {
     report.add(path, '"' + key + "\" is missing, and its label stays empty");
   }
-  for (const std::string& key : oversights.unused) {
+  for (const std::string& key : table.unused) {
     report.add(path, '"' + key + "\" is never used");
   }
   return report.outcome();

@@ -34,11 +34,11 @@ std::string lineOfError(const std::string& document) {
 /// The keys in `all` that are missing in `some`.
 std::vector<std::string> difference(const TranslationTable& all, const TranslationTable& some) {
   std::vector<std::string> keys;
-  for (const auto& [section, key, text] : all.entries()) {
+  for (const auto& wanted : all.entries()) {
     const bool found = std::ranges::any_of(some.entries(), [&](const auto& entry) {
-      return entry.section == section && entry.key == key;
+      return entry.section == wanted.section && entry.key == wanted.key;
     });
-    if (!found) keys.push_back(std::string(section) + '.' + std::string(key));
+    if (!found) keys.push_back(std::string(wanted.section) + '.' + std::string(wanted.key));
   }
   return keys;
 }
@@ -57,26 +57,22 @@ struct BlindSurface final : hosting::ViewHost::Client {
 
 }  // namespace
 
-std::variant<std::string, Failure> readTranslations(const std::string& path) {
+std::variant<Translations, Failure> Translations::read(const std::string& path) {
   auto bytes = readInputFile(path);
-  if (std::holds_alternative<Failure>(bytes)) return bytes;
-  const std::string& document = std::get<std::string>(bytes);
-  const auto table = readTranslationTable(document);
-  const auto* error = std::get_if<foundation::Error>(&table);
-  if (error == nullptr) return bytes;
-  const std::string line = error->domain == "JSON" ? lineOfError(document) : "";
-  return Failure::refused(path + ": " + line + error->description);
-}
-
-Oversights Oversights::in(const std::string& document) {
+  if (auto* failure = std::get_if<Failure>(&bytes)) return *std::move(failure);
+  auto& document = std::get<std::string>(bytes);
   const auto result = readTranslationTable(document);
-  const auto* table = std::get_if<std::shared_ptr<const TranslationTable>>(&result);
-  if (table == nullptr) return {};
+  if (const auto* error = std::get_if<foundation::Error>(&result)) {
+    const std::string line = error->domain == "JSON" ? lineOfError(document) : "";
+    return Failure::refused(path + ": " + line + error->description);
+  }
+  const auto& table = *std::get<std::shared_ptr<const TranslationTable>>(result);
   const auto complete = builtInTranslations("en");
-  return {difference(*complete, **table), difference(**table, *complete)};
+  return Translations{std::move(document), difference(*complete, table),
+                      difference(table, *complete)};
 }
 
-std::string Oversights::line() const {
+std::string Translations::mistakes() const {
   const std::string text = listed("missing, shown empty", missing);
   const std::string_view separator = text.empty() || unused.empty() ? "" : "; ";
   return text + std::string(separator) + listed("never used", unused);

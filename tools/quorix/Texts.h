@@ -9,19 +9,18 @@
 
 namespace quorix::tool {
 
-/// Checks the translation table in the file at `path` and returns its text: a document in the
-/// modules service's format.
-std::variant<std::string, Failure> readTranslations(const std::string& path);
-
-/// Possible mistakes of a translator in a translation table, by key: "labels.hint".
-struct Oversights {
+/// A translation table: a document in the modules service's format, with the possible mistakes of
+/// its translator by key: "labels.hint".
+struct Translations {
+  std::string document;
   std::vector<std::string> missing;  ///< their labels stay empty
   std::vector<std::string> unused;   ///< not used by any label
 
-  /// The mistakes in a valid `document`.
-  static Oversights in(const std::string& document);
+  /// The table in the file at `path`, or the reason why it cannot be used.
+  static std::variant<Translations, Failure> read(const std::string& path);
+
   /// All mistakes in one line; empty without any.
-  std::string line() const;
+  std::string mistakes() const;
 };
 
 /// The mistakes in a "Localizable" table, each in one line.

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cctype>
 #include <iostream>
+#include <limits>
 #include <memory>
 
 #include "QuorixWidgets/score/ScoreWidgetViewModel.h"
@@ -69,12 +70,10 @@ struct MintRequest {
 };
 
 bool isCurrency(const std::string& code) {
+  constexpr UDate always = std::numeric_limits<UDate>::max();
   UErrorCode status = U_ZERO_ERROR;
-  UEnumeration* const all = ucurr_openISOCurrencies(UCURR_ALL, &status);
-  bool found = false;
-  while (const char* known = uenum_next(all, nullptr, &status)) found = found || code == known;
-  uenum_close(all);
-  return found;
+  return ucurr_isAvailable(std::u16string(code.begin(), code.end()).c_str(), -always, always,
+                           &status);
 }
 
 /// The error if no service should sign `figures`.
@@ -125,11 +124,9 @@ Command mintCommand() {
           "It stands in for the widget service; the widgets themselves check no signature.",
       .options =
           {
-              {"--score",
-               "FRACTION",
+              {"--score", "FRACTION",
                "The shopper's score, {}; 0.82 is a return rate of 18% (default 0.82).",
-               &figures.score,
-               {.least = -1000, .most = 1000}},
+               &figures.score, between(-1000, 1000)},
               {"--currency", "CODE", "Of both fees, an ISO 4217 code (default EUR).",
                &figures.currency},
               {"--base", "HUNDREDTHS",

@@ -2,7 +2,6 @@
 
 #include <QFileInfo>
 #include <QLocale>
-#include <array>
 #include <cmath>
 
 #include "QuorixWidgets/localization/QuorixFont.h"
@@ -11,6 +10,7 @@
 #include "qt/StillScene.h"
 #include "qt/text/QtFonts.h"
 #include "tools/quorix/Files.h"
+#include "tools/quorix/gallery/Pictures.h"
 
 namespace quorix::tool {
 namespace {
@@ -49,32 +49,27 @@ std::optional<Failure> registerFile(std::string& face) {
   return std::nullopt;
 }
 
-std::string pixels(double width, double height) {
-  const auto whole = [](double length) {
-    return std::to_string(static_cast<long long>(std::ceil(length)));
-  };
-  return whole(width) + " x " + whole(height) + " pixels";
-}
-
 /// Paints `scene` into the PNG file of `request`. On failure, an existing file stays unchanged.
 std::optional<Failure> writeScene(const render::Scene& scene, const WidgetRequest& request) {
   const double scale = request.picture.environment.scale;
   const double width = scene.size.width * scale, height = scene.size.height * scale;
   const bool tooLarge = width * height > mostPixels;
   const QImage image = tooLarge ? QImage() : qt::paintPicture(scene, request.picture);
-  if (!image.isNull()) return writePicture(image, *request.out);
-  return Failure::refused("a picture of " + pixels(width, height) + " is too large");
+  if (!image.isNull()) return writeFile(*request.out, gallery::png(image));
+  const auto pixels = [](double length) { return std::to_string(std::llround(std::ceil(length))); };
+  return Failure::refused("a picture of " + pixels(width) + " x " + pixels(height) +
+                          " pixels is too large");
 }
 
 }  // namespace
 
-swiftui::Environment WidgetLook::environment() const {
+swiftui::Environment WidgetLook::environment(double scale) const {
   const QLocale language(QString::fromStdString(locale));
   const bool rightToLeft =
       direction ? *direction == 1 : language.textDirection() == Qt::RightToLeft;
   return {static_cast<graphics::Appearance>(appearance),
           rightToLeft ? LayoutDirection::rightToLeft : LayoutDirection::leftToRight,
-          static_cast<ContentSizeCategory>(textSize), 1, locale};
+          static_cast<ContentSizeCategory>(textSize), scale, locale};
 }
 
 std::optional<Failure> WidgetLook::findFaces() {
@@ -95,11 +90,9 @@ std::optional<Failure> WidgetLook::findFaces() {
 
 std::span<const std::string_view> textSizeNames() {
   static const auto all = [] {
-    constexpr auto last = ContentSizeCategory::accessibilityExtraExtraExtraLarge;
-    std::array<std::string_view, static_cast<std::size_t>(last) + 1> names;
-    for (std::size_t i = 0; i < names.size(); ++i) {
-      names[i] = nameOf(static_cast<ContentSizeCategory>(i));
-    }
+    constexpr auto last = static_cast<int>(ContentSizeCategory::accessibilityExtraExtraExtraLarge);
+    std::vector<std::string_view> names;
+    for (int i = 0; i <= last; ++i) names.push_back(nameOf(static_cast<ContentSizeCategory>(i)));
     return names;
   }();
   return all;
@@ -110,22 +103,17 @@ std::vector<Option> withLook(WidgetLook& look, std::vector<Option> own) {
       own.end(),
       {
           {"--locale", "CODE", "Language code of the texts (default en).", &look.locale},
-          {"--appearance", "NAME", "{} (default light).", &look.appearance, {appearanceNames}},
-          {"--text-size",
-           "NAME",
+          {"--appearance", "NAME", "{} (default light).", &look.appearance, oneOf(appearanceNames)},
+          {"--text-size", "NAME",
            "The user's text size: {} (default large). Only the faces given with the next two "
            "options follow it.",
-           &look.textSize,
-           {textSizeNames()}},
+           &look.textSize, oneOf(textSizeNames())},
           {"--regular-font", "FACE",
            "Name of a face, or a font file, for regular text (default the library's own).",
            &look.regularFont},
           {"--semi-bold-font", "FACE", "Likewise for emphasised text.", &look.semiBoldFont},
-          {"--direction",
-           "NAME",
-           "{} (default that of the locale's script).",
-           &look.direction,
-           {directionNames}},
+          {"--direction", "NAME", "{} (default that of the locale's script).", &look.direction,
+           oneOf(directionNames)},
       });
   return own;
 }
@@ -149,21 +137,14 @@ std::vector<Option> withWidgetOptions(WidgetRequest& request, std::vector<Option
           {"--json", "",
            "Prints frames and accessibility, or the one of them that is named, as one JSON object.",
            &request.json},
-          {"--width",
-           "POINTS",
-           "Width of the widget, with --sheet of the window, {} (default 375).",
-           &picture.width,
-           {.least = 1, .most = 10000}},
-          {"--height",
-           "POINTS",
+          {"--width", "POINTS",
+           "Width of the widget, with --sheet of the window, {} (default 375).", &picture.width,
+           between(1, 10000)},
+          {"--height", "POINTS",
            "Height, {} (default what the widget needs, with --sheet twice the width).",
-           &picture.height,
-           {.least = 1, .most = 10000}},
-          {"--scale",
-           "FACTOR",
-           "Pixels for each point, {} (default 1).",
-           &picture.environment.scale,
-           {.least = 0.5, .most = 10}},
+           &picture.height, between(1, 10000)},
+          {"--scale", "FACTOR", "Pixels for each point, {} (default 1).",
+           &picture.environment.scale, between(0.5, 10)},
       });
   return withLook(request, std::move(own));
 }
@@ -177,8 +158,7 @@ std::optional<Failure> WidgetRequest::prepare() {
     frames = json;
     accessibility = json || (!out && !tree);
   }
-  const double scale = std::exchange(picture.environment, environment()).scale;
-  picture.environment.scale = scale;
+  picture.environment = environment(picture.environment.scale);
   return findFaces();
 }
 

@@ -20,7 +20,7 @@ struct WidgetLook {
   std::optional<std::string> regularFont = {};  ///< a name or a font file
   std::optional<std::string> semiBoldFont = {};
 
-  swiftui::Environment environment() const;
+  swiftui::Environment environment(double scale = 1) const;
 
   /// Replaces font files by the names of their faces. Needs an application object.
   std::optional<Failure> findFaces();

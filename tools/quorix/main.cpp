@@ -5,11 +5,33 @@
 
 #include "tools/quorix/Commands.h"
 
-namespace {
+namespace quorix::tool {
 
-using quorix::tool::Command;
-using quorix::tool::Failure;
-using quorix::tool::Outcome;
+const std::vector<Command>& commands() {
+  static const std::vector<Command> all{
+      mintCommand(),         decodeCommand(),     scoreCommand(),      infoCommand(),
+      galleryCommand(),      previewCommand(),    overlayUrlCommand(), textsCommand(),
+      stringsCheckCommand(), completionCommand(), manCommand(),        helpCommand(),
+  };
+  return all;
+}
+
+std::variant<const Command*, Failure> findCommand(std::span<const std::string> words) {
+  const std::string& first = words[0];
+  const std::string both = words.size() > 1 ? first + ' ' + words[1] : first;
+  std::vector<std::string_view> names;
+  for (const Command& command : commands()) {
+    if (command.name == first || command.name == both) return &command;
+    names.push_back(command.name);
+  }
+  // For "strings chekc", compares both words with the commands of two words.
+  const bool begun = std::ranges::any_of(
+      names, [&](std::string_view name) { return name.starts_with(first + ' '); });
+  const std::string& unknown = begun ? both : first;
+  return Failure::usage("unknown command \"" + unknown + '"' + didYouMean(unknown, names));
+}
+
+namespace {
 
 bool asksForHelp(const std::string& word) { return word == "--help" || word == "-h"; }
 
@@ -34,12 +56,12 @@ Outcome run(std::span<const std::string> words) {
   if (words.empty()) return placed(Failure::usage("no command given"), {});
   const std::string& first = words.front();
   if (first == "--version") return "quorix " QUORIX_VERSION "\n";
-  if (asksForHelp(first)) return quorix::tool::helpText();
+  if (asksForHelp(first)) return helpText();
   // The shells' completion scripts run this.
   if (first == "--complete") {
-    return quorix::tool::completions({words.begin() + 1, words.end()});
+    return completions({words.begin() + 1, words.end()});
   }
-  const auto found = quorix::tool::findCommand(words);
+  const auto found = findCommand(words);
   if (const auto* failure = std::get_if<Failure>(&found)) return placed(*failure, {});
   const Command& command = *std::get<const Command*>(found);
   Outcome outcome = run(command, words.subspan(command.name == first ? 1 : 2));
@@ -65,8 +87,10 @@ int report(const Failure& failure) {
 }
 
 }  // namespace
+}  // namespace quorix::tool
 
 int main(int argc, char** argv) {
+  using namespace quorix::tool;
   const Outcome outcome = run(std::vector<std::string>(argv + 1, argv + argc));
   if (const auto* failure = std::get_if<Failure>(&outcome)) return report(*failure);
   if (print(std::get<std::string>(outcome))) return 0;

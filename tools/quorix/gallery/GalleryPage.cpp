@@ -1,8 +1,6 @@
 #include "tools/quorix/gallery/GalleryPage.h"
 
-#include <QBuffer>
 #include <QFile>
-#include <QImageWriter>
 #include <cmath>
 
 #include "tools/quorix/gallery/Pictures.h"
@@ -10,24 +8,15 @@
 namespace quorix::gallery {
 namespace {
 
+constexpr const char* endOfSection = "</div></section>\n";
+
 std::string pageFile(const char* name) {
   QFile file(QStringLiteral(":/gallery/") + QLatin1String(name));
   return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string();
 }
 
 std::string escaped(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()))
-      .toHtmlEscaped()
-      .toStdString();
-}
-
-std::string base64PNG(const QImage& picture) {
-  QBuffer buffer;
-  buffer.open(QIODevice::WriteOnly);
-  QImageWriter writer(&buffer, "png");
-  writer.setCompression(100);
-  writer.write(withFewColors(picture));
-  return buffer.data().toBase64().toStdString();
+  return QString::fromUtf8(text).toHtmlEscaped().toStdString();
 }
 
 std::string attribute(std::string_view name, std::string_view value) {
@@ -40,9 +29,8 @@ std::string folded(std::string_view summary, std::string_view text) {
 }
 
 template <class Table>
-std::string select(std::string_view label, std::string_view name, const Table& table) {
-  std::string html = "<label>" + std::string(label) + " <select" + attribute("name", name) +
-                     "><option value=\"\">all</option>";
+std::string select(std::string_view label, const Table& table) {
+  std::string html = "<label>" + std::string(label) + " <select><option value=\"\">all</option>";
   for (const auto& choice : table) {
     html += "<option" + attribute("value", choice.name) + '>' + escaped(choice.title) + "</option>";
   }
@@ -50,10 +38,10 @@ std::string select(std::string_view label, std::string_view name, const Table& t
 }
 
 std::string filters() {
-  return "<form hidden><div>\n" + select("Language", "language", languages) +
-         select("Widget", "widget", widgets) + select("Appearance", "appearance", appearances) +
-         select("Text", "size", textSizes) + select("Direction", "reading", readings) +
-         select("Width", "width", screens) + "<output></output></div></form>\n";
+  return "<form hidden><div>\n" + select("Language", languages) + select("Widget", widgets) +
+         select("Appearance", appearances) + select("Text", textSizes) +
+         select("Direction", readings) + select("Width", screens) +
+         "<output></output></div></form>\n";
 }
 
 std::string captionOf(const Cell& cell) {
@@ -68,12 +56,9 @@ std::string captionOf(const Cell& cell) {
 
 }  // namespace
 
-std::string GalleryPage::Section::id() const {
-  return std::string(language->name) + '-' + std::string(widget->name);
-}
-
 std::size_t GalleryPage::ruleFor(const QImage& picture) {
-  const auto [known, isNew] = rules_.try_emplace(base64PNG(picture), rules_.size());
+  const QByteArray file = png(withFewColors(picture), true);
+  const auto [known, isNew] = rules_.try_emplace(file.toBase64().toStdString(), rules_.size());
   if (isNew) {
     const QSizeF size = picture.deviceIndependentSize();
     const std::string width = std::to_string(std::lround(size.width()));
@@ -85,62 +70,50 @@ std::size_t GalleryPage::ruleFor(const QImage& picture) {
   return known->second;
 }
 
-void GalleryPage::add(const Cell& cell, const QImage& picture, const std::string& tree,
-                      const std::string& spoken) {
-  ++cells_;
-  const bool goesOn = !sections_.empty() && sections_.back().language == cell.language &&
-                      sections_.back().widget == cell.widget;
-  if (!goesOn) sections_.push_back({cell.language, cell.widget, tree, {}});
-  Section& section = sections_.back();
-  const std::string rule = std::to_string(ruleFor(picture));
-  const std::string caption = escaped(captionOf(cell));
-  section.figures +=
-      "<figure" + attribute("id", cell.id()) + attribute("data-language", cell.language->name) +
-      attribute("data-widget", cell.widget->name) +
-      attribute("data-appearance", cell.appearance->name) +
-      attribute("data-size", cell.textSize->name) + attribute("data-reading", cell.reading->name) +
-      attribute("data-width", cell.screen->name) + "><div class=\"p p" + rule +
-      "\" role=\"img\" aria-label=\"" + caption + "\"></div>\n<figcaption><a href=\"#" + cell.id() +
-      "\">" + caption + "</a></figcaption>" + folded("What is spoken", spoken) +
-      // The trees of imperative views contain frames, so they differ from cell to cell.
-      (tree == section.tree ? "" : folded("View tree", tree)) + "</figure>\n";
+void GalleryPage::beginSection(const Cell& cell, const std::string& tree) {
+  const std::string id = std::string(cell.language->name) + '-' + std::string(cell.widget->name);
+  const std::string widget = escaped(cell.widget->title);
+  const std::string language =
+      attribute("lang", cell.language->name) + '>' + escaped(cell.language->title);
+  if (cell.language != language_) {
+    contents_ += (language_ ? "</span>\n<b" : "<b") + language + "</b><span>";
+  }
+  contents_ += "<a href=\"#" + id + "\">" + widget + "</a> ";
+  body_ += (widget_ ? std::string(endOfSection) : "") + "<section" + attribute("id", id) +
+           "><h2><span" + language + "</span> · " + widget + "</h2>\n" + folded("View tree", tree) +
+           "\n<div class=\"cells\">\n";
+  language_ = cell.language;
+  widget_ = cell.widget;
+  tree_ = tree;
 }
 
-std::string GalleryPage::contents() const {
-  std::string html = "<nav>\n";
-  const Choice<Language>* language = nullptr;
-  for (const Section& section : sections_) {
-    if (section.language != language) {
-      html += std::string(language ? "</span>\n" : "") + "<b" +
-              attribute("lang", section.language->name) + '>' + escaped(section.language->title) +
-              "</b><span>";
-    }
-    language = section.language;
-    html += "<a href=\"#" + section.id() + "\">" + escaped(section.widget->title) + "</a> ";
-  }
-  return html + (language ? "</span>" : "") + "</nav>\n";
+void GalleryPage::add(const Cell& cell, const QImage& picture, const std::string& tree,
+                      const std::string& spoken) {
+  if (cell.language != language_ || cell.widget != widget_) beginSection(cell, tree);
+  ++cells_;
+  const std::string rule = std::to_string(ruleFor(picture));
+  const std::string caption = escaped(captionOf(cell)), id = cell.names();
+  body_ += "<figure" + attribute("id", id) + attribute("class", cell.names(' ')) +
+           "><div class=\"p p" + rule + "\" role=\"img\" aria-label=\"" + caption +
+           "\"></div>\n<figcaption><a href=\"#" + id + "\">" + caption + "</a></figcaption>" +
+           folded("What is spoken", spoken) +
+           // The trees of imperative views contain frames, so they differ from cell to cell.
+           (tree == tree_ ? "" : folded("View tree", tree)) + "</figure>\n";
 }
 
 std::string GalleryPage::html() const {
-  std::string html =
-      "<!doctype html>\n<html lang=\"en\">\n<meta charset=\"utf-8\">\n"
-      "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
-      "<title>QuorixWidgets: every screen</title>\n<style>\n" +
-      pageFile("gallery.css") + style_ + "</style>\n<header>\n<h1>Every screen</h1>\n<p>" +
-      std::to_string(cells_) +
-      " screens of the widgets: language, text size, appearance, direction and width. The texts "
-      "are in a host's faces, which follow the user's text size; the sums are long on purpose."
-      "</p>\n" +
-      contents() + "</header>\n" + filters() + "<main>\n";
-  for (const Section& section : sections_) {
-    html += "<section" + attribute("id", section.id()) + "><h2><span" +
-            attribute("lang", section.language->name) + '>' + escaped(section.language->title) +
-            "</span> · " + escaped(section.widget->title) + "</h2>\n" +
-            folded("View tree", section.tree) + "\n<div class=\"cells\">\n" + section.figures +
-            "</div></section>\n";
-  }
-  return html + "</main>\n<footer>Made by <code>quorix gallery</code>, from local assets alone." +
-         "</footer>\n<script>\n" + pageFile("gallery.js") + "</script>\n</html>\n";
+  return "<!doctype html>\n<html lang=\"en\">\n<meta charset=\"utf-8\">\n"
+         "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
+         "<title>QuorixWidgets: every screen</title>\n<style>\n" +
+         pageFile("gallery.css") + style_ + "</style>\n<header>\n<h1>Every screen</h1>\n<p>" +
+         std::to_string(cells_) +
+         " screens of the widgets: language, text size, appearance, direction and width. The "
+         "texts are in a host's faces, which follow the user's text size; the sums are long on "
+         "purpose.</p>\n<nav>\n" +
+         contents_ + "</span></nav>\n</header>\n" + filters() + "<main>\n" + body_ + endOfSection +
+         "</main>\n<footer>Made by <code>quorix gallery</code>, from local assets alone.</footer>\n"
+         "<script>\n" +
+         pageFile("gallery.js") + "</script>\n</html>\n";
 }
 
 }  // namespace quorix::gallery

@@ -4,7 +4,6 @@
 #include <map>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "tools/quorix/gallery/Matrix.h"
 
@@ -22,22 +21,17 @@ class GalleryPage {
   std::string html() const;
 
  private:
-  /// The cells of one widget in one language. They have the same view tree.
-  struct Section {
-    const Choice<Language>* language;
-    const Choice<Widget>* widget;
-    std::string tree;
-    std::string figures;
-    std::string id() const;
-  };
-
+  /// Begins the section for one widget in one language. Its cells have the same view tree.
+  void beginSection(const Cell& cell, const std::string& tree);
   /// The number of the style rule with `picture`.
   std::size_t ruleFor(const QImage& picture);
-  std::string contents() const;
 
   std::map<std::string, std::size_t> rules_;
-  std::string style_;
-  std::vector<Section> sections_;
+  std::string style_, contents_, body_;
+  // Of the latest section.
+  const Choice<Language>* language_ = nullptr;
+  const Choice<Widget>* widget_ = nullptr;
+  std::string tree_;
   std::size_t cells_ = 0;
 };
 

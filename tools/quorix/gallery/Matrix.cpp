@@ -1,51 +1,42 @@
 #include "tools/quorix/gallery/Matrix.h"
 
+#include <utility>
+
 namespace quorix::gallery {
-namespace {
-
-/// The entries of `table` whose names are in `wanted`.
-template <class Table>
-auto chosen(const Table& table, const std::optional<std::string>& wanted) {
-  std::vector<const typename Table::value_type*> result;
-  for (const auto& choice : table) {
-    if (!wanted || choice.name == *wanted) result.push_back(&choice);
-  }
-  return result;
-}
-
-}  // namespace
-
 layout::LayoutDirection Cell::direction() const {
   const layout::LayoutDirection own = language->value.direction;
   if (reading->value == Reading::own) return own;
   return own == leftToRight ? rightToLeft : leftToRight;
 }
 
-std::string Cell::id() const {
-  std::string id(widget->name);
+std::string Cell::names(char separator) const {
+  std::string names(widget->name);
   for (const std::string_view part :
        {language->name, appearance->name, textSize->name, reading->name, screen->name}) {
-    id += '-';
-    id += part;
+    names += separator;
+    names += part;
   }
-  return id;
+  return names;
 }
 
 std::vector<Cell> cells(const Selection& selection) {
-  std::vector<Cell> all;
-  for (const auto* language : chosen(languages, selection.language)) {
-    for (const auto* widget : chosen(widgets, selection.widget)) {
-      for (const auto* screen : chosen(screens, selection.screen)) {
-        for (const auto* textSize : chosen(textSizes, selection.textSize)) {
-          for (const auto* appearance : chosen(appearances, selection.appearance)) {
-            for (const auto* reading : chosen(readings, selection.reading)) {
-              all.push_back({widget, language, appearance, textSize, reading, screen});
-            }
-          }
-        }
+  std::vector<Cell> all(1);
+  const auto multiply = [&](auto member, const auto& table, const auto& wanted) {
+    std::vector<Cell> before = std::exchange(all, {});
+    for (Cell cell : before) {
+      for (const auto& choice : table) {
+        if (wanted && choice.name != *wanted) continue;
+        cell.*member = &choice;
+        all.push_back(cell);
       }
     }
-  }
+  };
+  multiply(&Cell::language, languages, selection.language);
+  multiply(&Cell::widget, widgets, selection.widget);
+  multiply(&Cell::screen, screens, selection.screen);
+  multiply(&Cell::textSize, textSizes, selection.textSize);
+  multiply(&Cell::appearance, appearances, selection.appearance);
+  multiply(&Cell::reading, readings, selection.reading);
   return all;
 }
 

@@ -87,16 +87,17 @@ inline constexpr auto screens = std::to_array<Choice<Screen>>({
 
 /// One screen: a value from each table.
 struct Cell {
-  const Choice<Widget>* widget;
-  const Choice<Language>* language;
-  const Choice<graphics::Appearance>* appearance;
-  const Choice<swiftui::ContentSizeCategory>* textSize;
-  const Choice<Reading>* reading;
-  const Choice<Screen>* screen;
+  const Choice<Widget>* widget = nullptr;
+  const Choice<Language>* language = nullptr;
+  const Choice<graphics::Appearance>* appearance = nullptr;
+  const Choice<swiftui::ContentSizeCategory>* textSize = nullptr;
+  const Choice<Reading>* reading = nullptr;
+  const Choice<Screen>* screen = nullptr;
 
   layout::LayoutDirection direction() const;
-  /// "sheet-es-dark-largest-own-320": used as an anchor, a file name and a test's name.
-  std::string id() const;
+  /// The names of all values: with hyphens "sheet-es-dark-largest-own-320", an anchor, a file name
+  /// and a test's name.
+  std::string names(char separator = '-') const;
 };
 
 /// A part of the matrix, by the names in the tables. An absent value selects the whole table.

@@ -1,5 +1,6 @@
 #include "tools/quorix/gallery/Pictures.h"
 
+#include <QBuffer>
 #include <QHash>
 #include <QPainter>
 #include <algorithm>
@@ -52,6 +53,12 @@ QImage withFewColors(const QImage& image) {
   std::ranges::sort(colors, std::greater(),
                     [&](QRgb color) { return std::pair(counts[color], color); });
   return opaque.convertToFormat(QImage::Format_Indexed8, colors.mid(0, 256));
+}
+
+QByteArray png(const QImage& image, bool smallest) {
+  QBuffer buffer;
+  image.save(&buffer, "PNG", smallest ? 0 : -1);
+  return buffer.data();
 }
 
 }  // namespace quorix::gallery

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QImage>
 #include <string>
 #include <vector>
@@ -18,5 +19,8 @@ QImage contactSheet(const std::vector<CaptionedPicture>& pictures, double width)
 /// Reduces `image` to its 256 most frequent colors, which makes the file a third of the size. Other
 /// colors become the nearest of these. Drops an alpha channel.
 QImage withFewColors(const QImage& image);
+
+/// The bytes of a PNG file with `image`. `smallest` takes longer.
+QByteArray png(const QImage& image, bool smallest = false);
 
 }  // namespace quorix::gallery

@@ -27,6 +27,7 @@ FileWatch::Stamps FileWatch::look() {
     if (info.isFile()) stamps[info.filePath()] = {info.lastModified(), info.size()};
   };
   for (const QString& root : std::as_const(roots_)) {
+    if (root.isEmpty()) continue;
     add(QFileInfo(root));
     add(QFileInfo(QFileInfo(root).path()));  // a replaced file appears here
     if (!QFileInfo(root).isDir()) continue;
@@ -40,13 +41,9 @@ FileWatch::Stamps FileWatch::look() {
 
 void FileWatch::compare() {
   const Stamps before = std::exchange(known_, look());
-  QStringList files;
-  for (auto file = known_.cbegin(); file != known_.cend(); ++file) {
-    if (before.value(file.key()) != file.value()) files.append(file.key());
-  }
-  for (auto file = before.cbegin(); file != before.cend(); ++file) {
-    if (!known_.contains(file.key())) files.append(file.key());
-  }
+  QStringList files = known_.keys() + before.keys();
+  files.removeDuplicates();
+  files.removeIf([&](const QString& file) { return known_.value(file) == before.value(file); });
   if (!files.isEmpty()) emit changed(files);
 }
 

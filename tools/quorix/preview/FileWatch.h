@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QStringList>
 #include <QTimer>
+#include <utility>
 
 namespace quorix::tool {
 
@@ -18,17 +19,16 @@ class FileWatch : public QObject {
   /// `roots` are files and folders, also ones that do not exist yet.
   explicit FileWatch(QStringList roots, QObject* parent = nullptr);
 
+  /// The watched files that exist.
+  QStringList files() const { return known_.keys(); }
+
  signals:
   /// `files` are new, deleted or have changed.
   void changed(const QStringList& files);
 
  private:
-  struct Stamp {
-    QDateTime modified;
-    qint64 size = 0;
-    bool operator==(const Stamp&) const = default;
-  };
-  using Stamps = QMap<QString, Stamp>;
+  /// When each file was modified, and its size.
+  using Stamps = QMap<QString, std::pair<QDateTime, qint64>>;
 
   Stamps look();
   void compare();

@@ -1,7 +1,6 @@
 #include "tools/quorix/preview/Preview.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QFileInfo>
 #include <QProcess>
 #include <algorithm>
@@ -12,6 +11,7 @@
 #include "platform/foundation/URLSession.h"
 #include "tools/quorix/Files.h"
 #include "tools/quorix/Texts.h"
+#include "tools/quorix/gallery/Pictures.h"
 
 #ifdef Q_OS_UNIX
 #include <unistd.h>
@@ -23,14 +23,12 @@ namespace {
 using foundation::URLResponse;
 using foundation::URLSession;
 
-constexpr const char* kPlaces = "QUORIX_PREVIEW_PLACES";  // window positions, kept over a restart
+// The windows' positions, kept over a restart.
+constexpr const char* kControlsPlace = "QUORIX_PREVIEW_CONTROLS";
+constexpr const char* kScreenPlace = "QUORIX_PREVIEW_SCREEN";
 
-QStringList watched(const PreviewChoices& choices) {
-  QStringList roots;
-  for (const auto& root : {choices.translations, choices.resources}) {
-    if (root) roots.append(QFileInfo(QString::fromStdString(*root)).absoluteFilePath());
-  }
-  return roots;
+QString pathOf(const std::optional<std::string>& file) {
+  return file ? QFileInfo(QString::fromStdString(*file)).absoluteFilePath() : QString();
 }
 
 QStringList languages() {
@@ -41,29 +39,19 @@ QStringList languages() {
   return codes;
 }
 
-/// The string tables in `folder`.
-QStringList tables(const QString& folder) {
-  QStringList files;
-  const QDir root(folder);
-  for (const QString& language : root.entryList({QStringLiteral("*.lproj")}, QDir::Dirs)) {
-    const QString file = root.filePath(language + QStringLiteral("/Localizable.strings"));
-    if (QFileInfo::exists(file)) files.append(file);
-  }
-  return files;
-}
-
-/// The first problem in the string table `file`; empty without any.
-std::string findings(const std::string& file) {
+/// The first mistake in the string table `file`; empty without any.
+std::string firstMistake(const std::string& file) {
   const auto bytes = readInputFile(file);
   if (const auto* failure = std::get_if<Failure>(&bytes)) return failure->message;
-  const auto found = mistakesInTable(std::get<std::string>(bytes));
-  return found.empty() ? "" : found.front();
+  const auto mistakes = mistakesInTable(std::get<std::string>(bytes));
+  return mistakes.empty() ? "" : mistakes.front();
 }
 
-std::string findingsInTranslations(const std::string& file) {
-  const auto document = readTranslations(file);
-  if (const auto* failure = std::get_if<Failure>(&document)) return failure->message;
-  return Oversights::in(std::get<std::string>(document)).line();
+/// The mistakes in the translation table `file`; empty without any.
+std::string allMistakes(const std::string& file) {
+  const auto read = Translations::read(file);
+  const auto* failure = std::get_if<Failure>(&read);
+  return failure ? failure->message : std::get<Translations>(read).mistakes();
 }
 
 /// The name of `file`, with its language if it is a table of one: "de.lproj/Localizable.strings".
@@ -82,8 +70,8 @@ bool isReadAgain(const QString& file) {
 }  // namespace
 
 Preview::Preview(const PreviewChoices& choices)
-    : controls_(choices, languages()), files_(watched(choices)) {
-  URLSession::shared().setNetworkEnabled(false);
+    : controls_(choices, languages()),
+      files_({pathOf(choices.translations), pathOf(choices.resources)}) {
   if (const auto& file = choices.translations) {
     translations_ = URLSession::shared().registerProtocol([file](const auto&) {
       auto bytes = readInputFile(*file);
@@ -103,17 +91,12 @@ Preview::Preview(const PreviewChoices& choices)
 void Preview::open() {
   controls_.show();
   screen_.show(controls_.choices());
-  const auto places = qEnvironmentVariable(kPlaces).split(QLatin1Char(' '));
-  if (places.size() == 4) {
-    controls_.move(places[0].toInt(), places[1].toInt());
-    screen_.move(places[2].toInt(), places[3].toInt());
-  } else {
-    controls_.move(40, 40);
-    screen_.move(40 + controls_.width() + 24, 40);
-  }
-  QStringList files = watched(controls_.choices());
-  if (controls_.choices().resources) files.append(tables(files.last()));
-  for (const QString& file : std::as_const(files)) {
+  controls_.move(40, 40);
+  screen_.move(40 + controls_.width() + 24, 40);
+  // After a restart, where they were.
+  controls_.restoreGeometry(QByteArray::fromBase64(qgetenv(kControlsPlace)));
+  screen_.restoreGeometry(QByteArray::fromBase64(qgetenv(kScreenPlace)));
+  for (const QString& file : files_.files()) {
     if (const QString found = remark(file); !found.isEmpty()) controls_.say(found);
   }
 }
@@ -137,9 +120,7 @@ void Preview::refresh() {
 }
 
 void Preview::filesChanged(const QStringList& files) {
-  const QString translations =
-      QFileInfo(QString::fromStdString(controls_.choices().translations.value_or("")))
-          .absoluteFilePath();
+  const QString translations = pathOf(controls_.choices().translations);
   const bool textsOnly = std::ranges::all_of(
       files, [&](const QString& file) { return file == translations || isReadAgain(file); });
   if (!textsOnly) return startAnew();
@@ -150,9 +131,10 @@ void Preview::filesChanged(const QStringList& files) {
 
 /// The problems in `file` for its author; empty without any.
 QString Preview::remark(const QString& file) const {
-  std::string found;
-  if (file.endsWith(QLatin1String(".strings"))) found = findings(file.toStdString());
-  if (file.endsWith(QLatin1String(".json"))) found = findingsInTranslations(file.toStdString());
+  const bool isTable = file.endsWith(QLatin1String("/Localizable.strings"));
+  if (!isTable && file != pathOf(controls_.choices().translations)) return {};
+  const std::string found =
+      isTable ? firstMistake(file.toStdString()) : allMistakes(file.toStdString());
   if (found.empty()) return {};
   const QString line = titleOf(file) + QStringLiteral(": ") + QString::fromStdString(found);
   std::fprintf(stderr, "quorix: preview: note: %s\n", qPrintable(line));
@@ -162,13 +144,8 @@ QString Preview::remark(const QString& file) const {
 void Preview::startAnew() {
   PreviewChoices choices = controls_.choices();
   choices.sheet = screen_.hasSheet();
-  const QPoint controls = controls_.pos(), screen = screen_.pos();
-  qputenv(kPlaces, QStringLiteral("%1 %2 %3 %4")
-                       .arg(controls.x())
-                       .arg(controls.y())
-                       .arg(screen.x())
-                       .arg(screen.y())
-                       .toLatin1());
+  qputenv(kControlsPlace, controls_.saveGeometry().toBase64());
+  qputenv(kScreenPlace, screen_.saveGeometry().toBase64());
   std::vector<std::string> words = wordsOf(choices.options());
   words.insert(words.begin(), {QCoreApplication::applicationFilePath().toStdString(), "preview"});
   if (choices.token) words.insert(words.end(), {"--", choices.shoppers.back().token});
@@ -190,7 +167,7 @@ void Preview::writePicture() {
   const QImage picture = screen_.picture().toImage();
   if (picture == written_) return;
   written_ = picture;
-  const auto failure = tool::writePicture(picture, *controls_.choices().out);
+  const auto failure = writeFile(*controls_.choices().out, gallery::png(picture));
   if (failure) controls_.say(QString::fromStdString(failure->message));
 }
 

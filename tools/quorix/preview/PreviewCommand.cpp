@@ -3,7 +3,6 @@
 
 #include "QuorixWidgets/localization/ResourceBundle.h"
 #include "examples/common/TokenMint.h"
-#include "qt/Engine.h"
 #include "tools/quorix/Application.h"
 #include "tools/quorix/Commands.h"
 #include "tools/quorix/Texts.h"
@@ -25,17 +24,10 @@ Outcome preview(PreviewChoices choices) {
     setTheme(std::move(theme));
   }
   if (choices.translations) {
-    const auto document = readTranslations(*choices.translations);
-    if (const auto* failure = std::get_if<Failure>(&document)) return *failure;
+    const auto read = Translations::read(*choices.translations);
+    if (const auto* failure = std::get_if<Failure>(&read)) return *failure;
   }
-
-  keepQtQuiet();
-  QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
-  char name[] = "quorix";
-  char* argv[] = {name, nullptr};
-  int argc = 1;
-  QApplication application(argc, argv);
-  qt::installEngine();
+  const auto application = startApplication(true);
   if (auto failure = choices.findFaces()) return *std::move(failure);
   Preview window(choices);
   window.open();
@@ -49,12 +41,9 @@ std::vector<Option> PreviewChoices::options() {
   return withLook(
       *this,
       {
-          {"--widget", "NAME", "{} (default score).", &widget, {widgetNames}},
-          {"--shopper",
-           "NAME",
-           "{} (default own with TOKEN, else discount).",
-           &shopper,
-           {shopperNames}},
+          {"--widget", "NAME", "{} (default score).", &widget, oneOf(widgetNames)},
+          {"--shopper", "NAME", "{} (default own with TOKEN, else discount).", &shopper,
+           oneOf(shopperNames)},
           {"--translations", "FILE.json",
            "Replaces the score widget's texts, as a fetched table would, and is followed.",
            &translations},
@@ -62,11 +51,8 @@ std::vector<Option> PreviewChoices::options() {
            "String tables (en.lproj/Localizable.strings), assets and interface files that replace "
            "the library's own, file by file, and are followed.",
            &resources},
-          {"--width",
-           "POINTS",
-           "Width of the screen, {} (default 375).",
-           &width,
-           {.least = narrowest, .most = widest}},
+          {"--width", "POINTS", "Width of the screen, {} (default 375).", &width,
+           between(narrowest, widest)},
           {"--sheet", "", "Opens the sheet, as a tap on the widget does.", &sheet},
           {"--out", "FILE.png", "Writes a picture of the screen each time that it changes.", &out},
       });

@@ -28,9 +28,7 @@ QStringList titlesOf(const auto& entries, const auto& title) {
 PreviewControls::PreviewControls(PreviewChoices choices, const QStringList& languages)
     : choices_(std::move(choices)), form_(new QFormLayout(this)), line_(new QLabel) {
   setWindowTitle(tr("Quorix preview"));
-  const auto textOf = [](std::string_view text) {
-    return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
-  };
+  const auto textOf = [](std::string_view text) { return QString::fromUtf8(text); };
   addList(tr("&Widget"), {tr("Score row"), tr("Info widget"), tr("Info widget, imperative")},
           choices_.widget, [this](int i) { choices_.widget = i; });
   addList(tr("&Shopper"), titlesOf(choices_.shoppers, [](const auto& each) { return each.title; }),

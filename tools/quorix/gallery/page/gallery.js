@@ -2,9 +2,9 @@
 const form = document.querySelector("form");
 const figures = [...document.querySelectorAll("figure")];
 function filter() {
-  const wanted = [...form.querySelectorAll("select")].filter((select) => select.value);
+  const wanted = [...form.querySelectorAll("select")].map((select) => select.value).filter(Boolean);
   for (const figure of figures) {
-    figure.hidden = wanted.some((select) => figure.dataset[select.name] !== select.value);
+    figure.hidden = !wanted.every((name) => figure.classList.contains(name));
   }
   for (const section of document.querySelectorAll("section")) {
     section.hidden = !section.querySelector("figure:not([hidden])");

@@ -1,4 +1,4 @@
-#include "tools/quorix/gallery/CellRenderer.h"
+#include "tools/quorix/gallery/CellRendering.h"
 
 #include <QEventLoop>
 #include <QFile>
@@ -22,33 +22,39 @@
 namespace quorix::gallery {
 namespace {
 
-constexpr double demoScore = 0.82;
 constexpr double aboveSheet = 24;  // visible points of the dimmed window
-constexpr std::string_view shopper = "Ann";
 
 /// A host's faces, which scale with the user's text size, unlike the library's own.
 const std::string& regularFace() { return TovaFont::regular().name(); }
 constexpr std::string_view semiBoldFace = "TovaSansLatin-SemiBold";
 
-std::shared_ptr<const TranslationTable> readTable(std::string_view language) {
-  QFile file(QStringLiteral(":/gallery/%1.json")
-                 .arg(QString::fromUtf8(language.data(), static_cast<qsizetype>(language.size()))));
-  if (!file.open(QIODevice::ReadOnly)) return nullptr;
-  const auto result = readTranslationTable(file.readAll().toStdString());
+/// The texts of a language without built-in ones.
+std::shared_ptr<const TranslationTable> readTable(const std::string& language) {
+  QFile file(QStringLiteral(":/gallery/%1.json").arg(QString::fromStdString(language)));
+  const bool found = file.open(QIODevice::ReadOnly);
+  const auto result = readTranslationTable(found ? file.readAll().toStdString() : "");
   const auto* table = std::get_if<std::shared_ptr<const TranslationTable>>(&result);
-  return table ? *table : nullptr;
+  return table ? *table : builtInTranslations(language);
 }
 
-InfoWidgetStyle infoStyle() {
-  return {regularFace(), std::string(semiBoldFace), std::nullopt, true};
+swiftui::View scoreWidget(const Cell& cell) {
+  const Language& language = cell.language->value;
+  const std::string code(cell.language->name);
+  const TokenData figures{0.82, std::string(language.currency), language.fee, language.reducedFee};
+  const ScoreWidgetStyle style{regularFace(), std::string(semiBoldFace)};
+  const auto texts = LocalizationRepository::make(code);
+  if (!language.builtIn) texts->strings = readTable(code);
+  return ScoreWidgetView{std::make_shared<ScoreWidgetViewModel>("gallery", figures, code, style),
+                         texts};
 }
 
-swiftui::View infoWidgetOf(std::string_view name, std::string_view language) {
-  const InfoWidgetStyle style = infoStyle();
+/// As the builder makes it, but with the shopper's name on the page.
+swiftui::View infoWidget(const Cell& cell) {
+  const std::string code(cell.language->name);
+  const bool isPersonal = cell.widget->value == Widget::overlay;
   return InfoWidgetView{std::make_shared<InfoWidgetViewModel>(
-      std::string(name), std::string(language),
-      SwiftUIStyleConfiguration{style.regularFont, style.semiBoldFont, style.backgroundColor,
-                                style.showBorder})};
+      isPersonal ? std::optional<std::string>("Ann") : std::nullopt, code,
+      SwiftUIStyleConfiguration{regularFace(), std::string(semiBoldFace), std::nullopt, true})};
 }
 
 qt::PictureOptions optionsOf(const Cell& cell, double scale) {
@@ -78,44 +84,23 @@ void takeTurn() {
   loop.exec();
 }
 
-CellRenderer::CellRenderer() {
+ShownCell render(const Cell& cell, double scale) {
   qt::installEngine();
   foundation::URLSession::shared().setNetworkEnabled(false);
-  for (const auto& language : languages) {
-    if (!language.value.builtIn) tables_[language.name] = readTable(language.name);
-  }
-}
-
-swiftui::View CellRenderer::scoreWidget(const Cell& cell) const {
-  const Language& language = cell.language->value;
-  const std::string code(cell.language->name);
-  const TokenData figures{demoScore, std::string(language.currency), language.fee,
-                          language.reducedFee};
-  const ScoreWidgetStyle style{regularFace(), std::string(semiBoldFace)};
-  const auto texts = LocalizationRepository::make(code);
-  const auto table = tables_.find(cell.language->name);
-  if (table != tables_.end() && table->second) texts->strings = table->second;
-  return ScoreWidgetView{std::make_shared<ScoreWidgetViewModel>("gallery", figures, code, style),
-                         texts};
-}
-
-CellRenderer::Shown CellRenderer::render(const Cell& cell, double scale) const {
   const qt::PictureOptions options = optionsOf(cell, scale);
-  const std::string code(cell.language->name);
   if (cell.widget->value == Widget::imperativeInfo) {
-    const auto widget = InfoWidgetBuilder::buildUIKitInfoWidgetView(code, infoStyle());
+    const auto widget = InfoWidgetBuilder::buildUIKitInfoWidgetView(
+        cell.language->name, {regularFace(), std::string(semiBoldFace), std::nullopt, true});
     takeTurn();
     qt::StillScene still = qt::stillScene(swiftui::hosting(widget), options);
     return {std::move(still), uikit::printViews(*widget)};
   }
-  const swiftui::View view = cell.widget->value == Widget::info
-                                 ? InfoWidgetBuilder::buildSwiftUIInfoWidgetView(code, infoStyle())
-                             : cell.widget->value == Widget::overlay ? infoWidgetOf(shopper, code)
-                                                                     : scoreWidget(cell);
+  const bool info = cell.widget->value == Widget::info || cell.widget->value == Widget::overlay;
+  const swiftui::View view = info ? infoWidget(cell) : scoreWidget(cell);
   return {qt::stillScene(view, options), swiftui::printTree(view)};
 }
 
-QImage picture(const CellRenderer::Shown& shown, double scale) {
+QImage picture(const ShownCell& shown, double scale) {
   const render::Scene scene = shown.still.whole();
   qt::PictureOptions options;
   options.environment.appearance = scene.appearance;
