@@ -13,13 +13,9 @@ namespace {
 /// `utf8` with U+2028 for each end of a line: Qt ends lines at no other character.
 QString lineSeparated(const std::string& utf8) {
   QString text = QString::fromStdString(utf8);
-  if (utf8.find('\r') != std::string::npos)
-    text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
-  for (QChar& character : text) {
-    if (character == QLatin1Char('\n') || character == QLatin1Char('\r') ||
-        character == QChar::ParagraphSeparator) {
-      character = QChar::LineSeparator;
-    }
+  text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+  for (const QChar end : {QChar::LineFeed, QChar::CarriageReturn, QChar::ParagraphSeparator}) {
+    text.replace(end, QChar::LineSeparator);
   }
   return text;
 }

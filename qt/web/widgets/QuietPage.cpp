@@ -71,23 +71,20 @@ void QuietPage::tell() {
 }
 
 void QuietPage::refuseRequests() {
+  const auto reject = [](auto request) { request.reject(); };
+  connect(this, &QWebEnginePage::fileSystemAccessRequested, this, reject);
+  connect(this, &QWebEnginePage::fullScreenRequested, this, reject);
+  connect(this, &QWebEnginePage::registerProtocolHandlerRequested, this, reject);
+#if QT_VERSION < QT_VERSION_CHECK(6, 5, 0)  // later versions do not ask
+  connect(this, &QWebEnginePage::quotaRequested, this, reject);
+#endif
   connect(this, &QWebEnginePage::certificateError, this,
           [](QWebEngineCertificateError error) { error.rejectCertificate(); });
-  connect(this, &QWebEnginePage::fileSystemAccessRequested, this,
-          [](QWebEngineFileSystemAccessRequest request) { request.reject(); });
-  connect(this, &QWebEnginePage::fullScreenRequested, this,
-          [](QWebEngineFullScreenRequest request) { request.reject(); });
-  connect(this, &QWebEnginePage::registerProtocolHandlerRequested, this,
-          [](QWebEngineRegisterProtocolHandlerRequest request) { request.reject(); });
   connect(this, &QWebEnginePage::selectClientCertificate, this,
           [](QWebEngineClientCertificateSelection selection) { selection.selectNone(); });
   const auto withoutName = [](auto&&, QAuthenticator* authenticator) { *authenticator = {}; };
   connect(this, &QWebEnginePage::authenticationRequired, this, withoutName);
   connect(this, &QWebEnginePage::proxyAuthenticationRequired, this, withoutName);
-#if QT_VERSION < QT_VERSION_CHECK(6, 5, 0)  // later versions do not ask
-  connect(this, &QWebEnginePage::quotaRequested, this,
-          [](QWebEngineQuotaRequest request) { request.reject(); });
-#endif
 #if QT_VERSION >= QT_VERSION_CHECK(6, 7, 0)
   connect(this, &QWebEnginePage::desktopMediaRequested, this,
           [](const QWebEngineDesktopMediaRequest& request) { request.cancel(); });
