@@ -26,7 +26,7 @@ QVariant unwrapped(const QDBusVariant& value) {
 
 }  // namespace
 
-DesktopPortal::DesktopPortal(QObject* parent) : QObject(parent) {
+DesktopPortal::DesktopPortal() {
   QDBusConnection bus = QDBusConnection::sessionBus();
   if (!bus.isConnected()) return;
   qRegisterMetaType<QDBusVariant>();  // Qt finds the slot's types by name

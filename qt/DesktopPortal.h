@@ -13,7 +13,7 @@ class DesktopPortal : public QObject {
   Q_OBJECT
 
  public:
-  explicit DesktopPortal(QObject* parent);
+  DesktopPortal();
 
   /// The user wants less motion.
   bool prefersReducedMotion() const { return reducedMotion_ == 1U || animations_ == false; }

@@ -4,6 +4,7 @@
 
 #include "qt/Desktop.h"
 #include "qt/Input.h"
+#include "qt/Surface.h"
 #include "qt/accessibility/ViewAccessible.h"
 #include "qt/text/QtTextEngine.h"
 
@@ -27,6 +28,6 @@ void HostedView::focusMoved(bool later) {
 
 void HostedView::sceneChanged() { ViewAccessible::sceneChanged(self_); }
 
-bool HostedView::isRead() const { return AccessibilityBridge::isActive(); }
+bool HostedView::isRead() const { return Surface::areRead(); }
 
 }  // namespace quorix::qt

@@ -1,9 +1,5 @@
 #include "qt/accessibility/ElementAccessible.h"
 
-#include <QWindow>
-
-#include "qt/accessibility/AccessibilityBridge.h"
-
 namespace quorix::qt {
 namespace {
 
@@ -26,7 +22,7 @@ QAccessible::Role roleOf(render::Role role) {
 }  // namespace
 
 const render::AccessibilityElement* ElementAccessible::element() const {
-  AccessibleSurface* shown = surface();
+  Surface* shown = surface();
   if (!shown) return nullptr;
   const auto& elements = shown->responder().elements();
   const auto index = static_cast<std::size_t>(index_);
@@ -36,7 +32,7 @@ const render::AccessibilityElement* ElementAccessible::element() const {
 bool ElementAccessible::isValid() const { return element() != nullptr; }
 
 QWindow* ElementAccessible::window() const {
-  AccessibleSurface* shown = surface();
+  Surface* shown = surface();
   return shown ? shown->accessibleWindow() : nullptr;
 }
 
@@ -67,13 +63,11 @@ QAccessible::Role ElementAccessible::role() const {
 QAccessible::State ElementAccessible::state() const {
   QAccessible::State state;
   const render::AccessibilityElement* found = element();
-  if (!found) {
-    state.invalid = true;
-    return state;
-  }
+  state.invalid = !found;
+  if (!found) return state;
   const layout::Rect frame = found->frame;
   const bool acts = found->action != nullptr;
-  AccessibleSurface& shown = *surface();
+  Surface& shown = *surface();
   const bool reachable = shown.isShown() && !shown.isCovered();
   state.invisible = !reachable;
   state.offscreen = shown.responder().isScrolledAway(frame);
@@ -88,8 +82,8 @@ QAccessibleInterface* ElementAccessible::parent() const {
 }
 
 void* ElementAccessible::interface_cast(QAccessible::InterfaceType type) {
-  if (type != QAccessible::ActionInterface) return nullptr;
-  return static_cast<QAccessibleActionInterface*>(this);
+  const bool acts = type == QAccessible::ActionInterface && element();
+  return acts ? static_cast<QAccessibleActionInterface*>(this) : nullptr;
 }
 
 QStringList ElementAccessible::actionNames() const {
@@ -99,10 +93,11 @@ QStringList ElementAccessible::actionNames() const {
 }
 
 void ElementAccessible::doAction(const QString& name) {
-  AccessibleSurface* shown = surface();
-  if (!shown || shown->isCovered()) return;
-  if (name == pressAction()) shown->responder().activate(index_);
-  if (name == setFocusAction() && shown->responder().focusElement(index_)) shown->takeFocus();
+  // A reader may keep the interface of a view that has more elements by now.
+  if (!element() || surface()->isCovered()) return;
+  Surface& shown = *surface();
+  if (name == setFocusAction() && shown.responder().focusElement(index_)) shown.takeFocus();
+  if (name == pressAction()) shown.responder().activate(index_);  // may delete the surface
 }
 
 }  // namespace quorix::qt

@@ -3,7 +3,7 @@
 #include <QAccessibleInterface>
 #include <QPointer>
 
-#include "qt/accessibility/AccessibilityBridge.h"
+#include "qt/Surface.h"
 
 namespace quorix::qt {
 
@@ -36,11 +36,11 @@ class ElementAccessible : public QAccessibleInterface, public QAccessibleActionI
  protected:
   QObject* owner() const { return owner_; }
   /// Null while its owner is being deleted.
-  AccessibleSurface* surface() const { return AccessibilityBridge::surfaceOf(owner_); }
+  Surface* surface() const { return Surface::of(owner_); }
+  /// Null if there is none any more.
+  virtual const render::AccessibilityElement* element() const;
 
  private:
-  const render::AccessibilityElement* element() const;
-
   QPointer<QObject> owner_;
   int index_;
 };

@@ -2,14 +2,12 @@
 
 #include <algorithm>
 
-#include "qt/accessibility/AccessibilityBridge.h"
-
 namespace quorix::qt {
 namespace {
 
 /// The interface of `owner`, made on first use; null while no assistive technology listens.
 ViewAccessible* listening(QObject& owner) {
-  if (!AccessibilityBridge::isActive()) return nullptr;
+  if (!Surface::areRead()) return nullptr;
   return dynamic_cast<ViewAccessible*>(QAccessible::queryAccessibleInterface(&owner));
 }
 
@@ -27,15 +25,16 @@ ViewAccessible::~ViewAccessible() {
   for (const QAccessible::Id id : elements_) QAccessible::deleteAccessibleInterface(id);
 }
 
-bool ViewAccessible::isSoleElement() const {
-  AccessibleSurface* shown = surface();
-  return shown && !shown->isDialog() && shown->responder().elements().size() == 1;
+const render::AccessibilityElement* ViewAccessible::element() const {
+  const Surface* shown = surface();
+  if (!shown || shown->isDialog()) return nullptr;
+  const auto& elements = shown->responder().elements();
+  return elements.size() == 1 ? &elements.front() : nullptr;
 }
 
 void ViewAccessible::syncChildren() const {
-  AccessibleSurface* shown = surface();
-  const std::size_t count =
-      shown && !isSoleElement() ? shown->responder().elements().size() : std::size_t{0};
+  Surface* shown = surface();
+  const std::size_t count = shown && !element() ? shown->responder().elements().size() : 0;
   while (elements_.size() > count) {
     QAccessible::deleteAccessibleInterface(elements_.back());
     elements_.pop_back();
@@ -51,7 +50,7 @@ void ViewAccessible::sceneChanged(QObject& owner) {
 }
 
 void ViewAccessible::focusChanged(QObject& owner, Qt::ConnectionType when) {
-  if (!AccessibilityBridge::isActive()) return;
+  if (!Surface::areRead()) return;
   const auto sayFocus = [&owner] {
     ViewAccessible* self = listening(owner);
     if (!self) return;
@@ -64,12 +63,12 @@ void ViewAccessible::focusChanged(QObject& owner, Qt::ConnectionType when) {
 // Screen readers cache: without Hide they would go on reading what is behind a sheet.
 void ViewAccessible::coverChanged(QObject& owner) {
   ViewAccessible* self = listening(owner);
-  const AccessibleSurface* shown = self ? self->surface() : nullptr;
+  const Surface* shown = self ? self->surface() : nullptr;
   if (!shown || std::exchange(self->covered_, shown->isCovered()) == self->covered_) return;
   if (!shown->isShown()) return;
   const auto event = self->covered_ ? QAccessible::ObjectHide : QAccessible::ObjectShow;
   say(event, self);
-  if (self->isSoleElement()) return;
+  if (self->element()) return;
   for (std::size_t i = 0; i < self->told_.size(); ++i) self->tell(event, i);
 }
 
@@ -88,7 +87,7 @@ void ViewAccessible::update() {
     say(QAccessible::ObjectHide, QAccessible::accessibleInterface(elements_[i]));
   }
   const bool wasSole = before.size() == 1 && !surface()->isDialog();
-  if (wasSole != isSoleElement()) say(QAccessible::ObjectReorder, this);
+  if (wasSole != (element() != nullptr)) say(QAccessible::ObjectReorder, this);
   syncChildren();
   for (std::size_t i = common; i < told_.size(); ++i) tell(QAccessible::ObjectShow, i);
   for (std::size_t i = 0; i < common; ++i) {
@@ -98,18 +97,18 @@ void ViewAccessible::update() {
 }
 
 void ViewAccessible::tell(QAccessible::Event event, std::size_t index) {
-  if (isSoleElement()) return say(event, this);
+  if (element()) return say(event, this);
   if (index < elements_.size()) say(event, QAccessible::accessibleInterface(elements_[index]));
 }
 
 QRect ViewAccessible::rect() const {
-  AccessibleSurface* shown = surface();
+  Surface* shown = surface();
   return shown ? shown->onScreen() : QRect();
 }
 
 QString ViewAccessible::text(QAccessible::Text kind) const {
-  if (isSoleElement()) return ElementAccessible::text(kind);
-  AccessibleSurface* shown = surface();
+  if (element()) return ElementAccessible::text(kind);
+  Surface* shown = surface();
   if (!shown || !shown->isDialog() || kind != QAccessible::Name) return {};
   // A dialog is named after its first text without an action, or else after its page.
   for (const auto& element : shown->responder().elements()) {
@@ -120,19 +119,15 @@ QString ViewAccessible::text(QAccessible::Text kind) const {
 }
 
 QAccessible::Role ViewAccessible::role() const {
-  if (isSoleElement()) return ElementAccessible::role();
-  AccessibleSurface* shown = surface();
+  if (element()) return ElementAccessible::role();
+  Surface* shown = surface();
   return shown && shown->isDialog() ? QAccessible::Dialog : QAccessible::Grouping;
 }
 
 QAccessible::State ViewAccessible::state() const {
-  if (isSoleElement()) return ElementAccessible::state();
+  const Surface* shown = surface();
+  if (!shown || element()) return ElementAccessible::state();
   QAccessible::State state;
-  AccessibleSurface* shown = surface();
-  if (!shown) {
-    state.invalid = true;
-    return state;
-  }
   state.invisible = !shown->isShown() || shown->isCovered();
   state.modal = shown->isDialog() && !shown->isCovered();
   state.active = state.modal && shown->isShown();
@@ -142,18 +137,18 @@ QAccessible::State ViewAccessible::state() const {
 QAccessibleInterface* ViewAccessible::focusChild() const {
   const auto all = children();
   const auto focused = std::ranges::find_if(all, [](auto* one) { return one->state().focused; });
-  return isSoleElement() || focused == all.end() ? nullptr : *focused;
+  return focused == all.end() ? nullptr : *focused;
 }
 
 QAccessibleInterface* ViewAccessible::parent() const {
-  AccessibleSurface* shown = surface();
+  Surface* shown = surface();
   QObject* above = shown ? shown->accessibleParent() : nullptr;
   return above ? QAccessible::queryAccessibleInterface(above) : nullptr;
 }
 
 std::vector<QAccessibleInterface*> ViewAccessible::views() const {
   std::vector<QAccessibleInterface*> all;
-  AccessibleSurface* shown = surface();
+  Surface* shown = surface();
   if (!shown) return all;
   for (QObject* view : shown->accessibleViews()) {
     if (QAccessibleInterface* known = QAccessible::queryAccessibleInterface(view)) {
@@ -190,20 +185,6 @@ int ViewAccessible::indexOfChild(const QAccessibleInterface* child) const {
   const auto all = children();
   const auto found = std::ranges::find(all, child);
   return found == all.end() ? -1 : static_cast<int>(found - all.begin());
-}
-
-void* ViewAccessible::interface_cast(QAccessible::InterfaceType type) {
-  return isSoleElement() ? ElementAccessible::interface_cast(type) : nullptr;
-}
-
-// A reader may keep the interface of a view that has more elements by now.
-
-QStringList ViewAccessible::actionNames() const {
-  return isSoleElement() ? ElementAccessible::actionNames() : QStringList();
-}
-
-void ViewAccessible::doAction(const QString& name) {
-  if (isSoleElement()) ElementAccessible::doAction(name);
 }
 
 }  // namespace quorix::qt

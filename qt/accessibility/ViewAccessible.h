@@ -37,10 +37,6 @@ class ViewAccessible : public ElementAccessible {
   int childCount() const override;
   int indexOfChild(const QAccessibleInterface* child) const override;
 
-  void* interface_cast(QAccessible::InterfaceType type) override;
-  QStringList actionNames() const override;
-  void doAction(const QString& name) override;
-
  private:
   /// What assistive technology was last told of an element.
   struct Told {
@@ -49,9 +45,10 @@ class ViewAccessible : public ElementAccessible {
   };
 
   std::vector<Told> toTell() const;
-  bool isSoleElement() const;
+  /// The view's only element.
+  const render::AccessibilityElement* element() const override;
   void syncChildren() const;
-  /// The interfaces of `AccessibleSurface::accessibleViews`.
+  /// The interfaces of `Surface::accessibleViews`.
   std::vector<QAccessibleInterface*> views() const;
   /// The elements, then `views`.
   std::vector<QAccessibleInterface*> children() const;

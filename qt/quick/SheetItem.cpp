@@ -1,17 +1,70 @@
 #include "qt/quick/SheetItem.h"
 
 #include <QCursor>
+#include <QPointer>
 #include <QQuickWindow>
+#include <QSGRectangleNode>
 #include <QSGRendererInterface>
 #include <algorithm>
+#include <functional>
 
 #include "qt/Conversions.h"
 #include "qt/WebComponent.h"
-#include "qt/WindowScene.h"
-#include "qt/accessibility/AccessibilityBridge.h"
 #include "qt/accessibility/ViewAccessible.h"
+#include "qt/quick/PictureItem.h"
 
 namespace quorix::qt {
+
+/// Takes taps over the pages of a sheet. It is as large as the sheet, but contains only the points
+/// where something acts, and the strip beside the rounded corners. Passes its events to the sheet.
+class SheetFront : public QQuickItem {
+ public:
+  explicit SheetFront(SheetItem& sheet) : QQuickItem(&sheet), sheet_(sheet) {
+    setZ(1000);
+    setAcceptedMouseButtons(Qt::AllButtons);
+    setAcceptTouchEvents(true);
+    setAcceptHoverEvents(true);
+  }
+
+  /// Where a page is visible but takes no input.
+  void setStrip(const QRectF& strip) { strip_ = strip; }
+  bool contains(const QPointF& point) const override {
+    return strip_.contains(point) || sheet_.takesTapAt(toPoint(point));
+  }
+
+ protected:
+  bool event(QEvent* event) override { return sheet_.handle(*event) || QQuickItem::event(event); }
+  void hoverEnterEvent(QHoverEvent* event) override { hoverMoveEvent(event); }
+  void hoverMoveEvent(QHoverEvent* event) override {
+    setCursor(sheet_.cursorAt(event->position()));
+  }
+  void mouseUngrabEvent() override { sheet_.pointerLost(); }
+  void touchUngrabEvent() override { sheet_.pointerLost(); }
+
+ private:
+  SheetItem& sheet_;
+  QRectF strip_;
+};
+
+/// Stands before or after the pages in the focus chain, and calls `passed` when the keyboard's
+/// focus reaches it.
+class FocusStop : public QQuickItem {
+ public:
+  FocusStop(QQuickItem& parent, std::function<void()> passed)
+      : QQuickItem(&parent), passed_(std::move(passed)) {
+    setActiveFocusOnTab(true);
+  }
+
+ protected:
+  void focusInEvent(QFocusEvent*) override {
+    // On a later turn: the focus is still moving.
+    QMetaObject::invokeMethod(this, passed_, Qt::QueuedConnection);
+  }
+
+ private:
+  std::function<void()> passed_;
+};
+
 namespace {
 
 /// Above what pages stack. Below the pop-ups of Qt Quick Controls, which a host may open over a
@@ -34,8 +87,7 @@ double stackingOver(const QQuickWindow& window, const QQuickItem* opener) {
 SheetItem::SheetItem(QQuickWindow& window, hosting::WindowSession& session, QQuickItem* opener)
     : QQuickItem(window.contentItem()),
       SheetSurface(static_cast<QObject&>(*this), session, QStringLiteral("QuorixWebQuick")),
-      QuickAccessibleSurface(static_cast<QQuickItem&>(*this)),
-      layers_(*this) {
+      QuickAccessibleSurface(static_cast<QQuickItem&>(*this), *this) {
   setFlag(ItemHasContents);
   setFlag(ItemIsFocusScope);
   setZ(stackingOver(window, opener));
@@ -43,12 +95,6 @@ SheetItem::SheetItem(QQuickWindow& window, hosting::WindowSession& session, QQui
   setAcceptTouchEvents(true);
   setAcceptHoverEvents(true);
   setCursor(Qt::ArrowCursor);  // instead of the cursor of what lies below
-  AccessibilityBridge* accessibility = AccessibilityBridge::instance();
-  accessibility->add(*this, *this);
-  connect(accessibility, &AccessibilityBridge::began, this, [this] {
-    offer();
-    ViewAccessible::focusChanged(*this, Qt::QueuedConnection);
-  });
   QQuickItem* content = window.contentItem();
   const auto fill = [this, content] { setSize(content->size()); };
   connect(content, &QQuickItem::widthChanged, this, fill);
@@ -72,13 +118,6 @@ SheetItem::SheetItem(QQuickWindow& window, hosting::WindowSession& session, QQui
         ensurePolished();
       },
       Qt::QueuedConnection);
-}
-
-SheetItem::~SheetItem() { AccessibilityBridge::remove(*this); }
-
-const SheetItem* SheetItem::topmost(const QQuickWindow& window) {
-  const WindowScene* scene = WindowScene::find(window);
-  return scene ? static_cast<const SheetItem*>(scene->topmost()) : nullptr;
 }
 
 double SheetItem::scale() const { return window() ? window()->effectiveDevicePixelRatio() : 1; }
@@ -110,9 +149,9 @@ void SheetItem::holdFocus() {
   if (window() && liesOver(window()->activeFocusItem())) focusWentBelow();
 }
 
-void SheetItem::vanish() {
-  setVisible(false);
-  deleteLater();  // it may be handling an event
+void SheetItem::accessibilityBegan() {
+  QuickAccessibleSurface::accessibilityBegan();
+  ViewAccessible::focusChanged(*this, Qt::QueuedConnection);
 }
 
 bool SheetItem::liesOver(const QQuickItem* item) const {
@@ -133,29 +172,33 @@ void SheetItem::geometryChange(const QRectF& now, const QRectF& before) {
 // Frame.
 
 void SheetItem::updatePolish() {
-  if (!isOpen()) return;
-  if (const auto layers = paintLayers(); !layers.empty()) layers_.setPictures(layers);
-  if (!followMotion()) return;
-  panel_ = toRect(presenter().panelFrame());
-  shade_ = toQColor(presenter().shade());
-  panelColor_ = toQColor(presenter().panelColor());
-  layers_.moveTo(panel_.topLeft());
-  hiddenTop_ = 0;
-  followPages();
-  layers_.hideTop(hiddenTop_);
-  layers_.showRing(ring());
+  coveredTop_ = 0;
+  if (!followFrame()) return;
+  hideTop(coveredTop_);
   update();
 }
 
 QSGNode* SheetItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
-  auto* node = static_cast<SheetNode*>(old);
-  if (!node) node = new SheetNode(*window());
   inSceneGraph_ = true;
-  node->setShade(boundingRect(), shade_);
-  QRectF below = panel_;
-  below.setTop(std::min(panel_.top() + layers_.panelHeight(), height()));
-  node->setBelow(below, panelColor_);
-  return node;
+  if (!old) {
+    old = new QSGTransformNode;
+    old->appendChildNode(window()->createRectangleNode());
+    old->appendChildNode(window()->createRectangleNode());
+  }
+  auto* shade = static_cast<QSGRectangleNode*>(old->firstChild());
+  // A transparent shade is not drawn, which saves blending the whole window.
+  shade->setRect(ground().shade.alpha() > 0 ? boundingRect() : QRectF());
+  shade->setColor(ground().shade);
+  auto* below = static_cast<QSGRectangleNode*>(old->lastChild());
+  below->setRect(ground().below);
+  below->setColor(ground().color);
+  return old;
+}
+
+std::unique_ptr<SheetPicture> SheetItem::newPicture(int index) {
+  auto item = std::make_unique<PictureItem>(*this, [this] { paintAgain(); });
+  item->setZ(2 * index);  // the pages are between them
+  return item;
 }
 
 // Pages.
@@ -166,14 +209,26 @@ bool SheetItem::clipsPages() const {
 }
 
 void SheetItem::placePage(hosting::PageEngine& engine, const hosting::PagePlace& place, int index) {
-  auto* page = qobject_cast<QQuickItem*>(viewOf(engine));
-  if (!page) return;
-  connect(page, &QQuickItem::activeFocusChanged, this, &SheetItem::pageFocusChanged,
+  auto& page = static_cast<QQuickItem&>(viewOf(engine));
+  connect(&page, &QQuickItem::activeFocusChanged, this, &SheetItem::pageFocusChanged,
           Qt::UniqueConnection);
+  if (!front_) {
+    front_ = new SheetFront(*this);
+    before_ = new FocusStop(*this, [this] { leavePages(false); });
+    after_ = new FocusStop(*this, [this] { leavePages(true); });
+  }
   const QRectF frame = toRect(place.room).adjusted(0, -place.strip, 0, 0);
-  layers_.place(*page, frame, place.strip, index);
+  front_->setSize(size());
+  if (place.strip > 0 || index == 0)
+    front_->setStrip({frame.topLeft(), QSizeF(frame.width(), place.strip)});
+  const auto chain = childItems();
+  if (chain.constFirst() != before_) before_->stackBefore(chain.constFirst());
+  if (chain.constLast() != after_) after_->stackAfter(chain.constLast());
+  page.setZ(2 * index + 1);
+  page.setPosition(frame.topLeft());
+  page.setSize(frame.size());
   static_cast<WebPage&>(engine).roundTop({place.strip, place.radius, scale()});
-  if (place.isAtTop) hiddenTop_ = place.strip;
+  if (place.isAtTop) coveredTop_ = place.strip;
 }
 
 void SheetItem::pageFocusChanged(bool focused) {
@@ -181,9 +236,8 @@ void SheetItem::pageFocusChanged(bool focused) {
 }
 
 void SheetItem::focusPage(hosting::PageEngine& engine, bool forward) {
-  if (auto* page = qobject_cast<QQuickItem*>(viewOf(engine))) {
-    page->forceActiveFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
-  }
+  static_cast<QQuickItem&>(viewOf(engine))
+      .forceActiveFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
 }
 
 void SheetItem::takeFocusFromPages() {
@@ -191,10 +245,6 @@ void SheetItem::takeFocusFromPages() {
 }
 
 // Input.
-
-Qt::CursorShape SheetItem::cursorAt(QPointF point) {
-  return takesTapAt(toPoint(point)) ? Qt::PointingHandCursor : Qt::ArrowCursor;
-}
 
 void SheetItem::hoverMoveEvent(QHoverEvent* event) { setCursor(cursorAt(event->position())); }
 

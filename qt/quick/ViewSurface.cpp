@@ -9,30 +9,15 @@
 #include "qt/Desktop.h"
 #include "qt/Picture.h"
 #include "qt/WindowScene.h"
-#include "qt/accessibility/AccessibilityBridge.h"
 #include "qt/painting/FocusRing.h"
-#include "qt/quick/PictureItem.h"
 #include "qt/quick/SheetItem.h"
 
 namespace quorix::qt {
-namespace {
-
-/// A view's picture in the scene graph, with the focus ring above it.
-struct ViewNode : PictureNode {
-  PictureNode* ring = nullptr;  ///< made with the first ring
-};
-
-}  // namespace
-
 ViewSurface::ViewSurface(ViewItem& item)
-    : HostedView(item, item.settings()), QuickAccessibleSurface(item), item_(item) {
-  AccessibilityBridge::instance()->add(item, *this);
-}
-
-ViewSurface::~ViewSurface() {
-  WindowWatcher::remove(*this);
-  AccessibilityBridge::remove(item_);
-}
+    : HostedView(item, item.settings()),
+      QuickAccessibleSurface(item, *this),
+      item_(item),
+      picture_(item, [this] { paintAgain(); }) {}
 
 double ViewSurface::scale() const {
   return item_.window() ? item_.window()->effectiveDevicePixelRatio() : qGuiApp->devicePixelRatio();
@@ -65,8 +50,9 @@ hosting::WindowSession* ViewSurface::window() {
 void ViewSurface::windowChanged() {
   leaveWindow();
   parentChanged();
-  painted_ = inViewport_ = false;
+  inViewport_ = false;
   pictureStale_ = true;
+  picture_.set({});
   offer();
   onScreenChanged();  // before a size is needed, so that the view is evaluated once
   settingsChanged();
@@ -85,11 +71,6 @@ void ViewSurface::onScreenChanged() {
   item_.polish();
 }
 
-void ViewSurface::accessibilityBegan() {
-  offer();
-  item_.polish();
-}
-
 // Size.
 
 void ViewSurface::viewNeedsDisplay() {
@@ -99,23 +80,16 @@ void ViewSurface::viewNeedsDisplay() {
 
 void ViewSurface::contentChanged() {
   // At once: hosts read the implicit size of a new item before any frame.
-  if (idealStale_) updateIdealSize();
-}
-
-void ViewSurface::updateIdealSize() {
-  idealStale_ = false;
-  ideal_ = host().sizeThatFits({});
-  updateImplicitSize();
+  if (idealStale_) updateImplicitSize();
 }
 
 void ViewSurface::updateImplicitSize() {
+  if (std::exchange(idealStale_, false)) ideal_ = host().sizeThatFits({});
   const bool hasWidth = item_.widthValid() && item_.width() > 0;
   const double height =
       hasWidth ? host().sizeThatFits({item_.width(), std::nullopt}).height : ideal_.height;
   followLayoutPlace();
-  fitting_ = true;
   item_.setImplicitSize(ideal_.width, height);
-  fitting_ = false;
 }
 
 void ViewSurface::followLayoutPlace() {
@@ -127,12 +101,7 @@ void ViewSurface::followLayoutPlace() {
 void ViewSurface::sizeChanged(bool width) {
   resized();
   item_.polish();
-  if (!width || fitting_) return;
-  if (idealStale_) {
-    updateIdealSize();
-  } else {
-    updateImplicitSize();
-  }
+  if (width) updateImplicitSize();
 }
 
 // Place.
@@ -146,14 +115,16 @@ void ViewSurface::placeMayHaveChanged() {
   if (item_.isVisible() && place()) item_.polish();
 }
 
-/// Returns whether the item came into the viewport or left it, or needs a picture of another part.
+/// Returns whether the item came into the viewport or left it, moved by parts of a pixel, or needs
+/// a picture of another part.
 bool ViewSurface::place() {
   const QTransform toWindow = item_.itemTransform(nullptr, nullptr);
   const QRectF whole(0, 0, item_.width(), item_.height());
   const QRectF viewport = WindowWatcher::viewportOf(item_);
   const bool inside = toWindow.mapRect(whole).intersects(viewport);
   seen_ = toRect(toWindow.inverted().mapRect(viewport).intersected(whole));
-  const bool leftPart = inside && painted_ && !part_.contains(seen_) && part_ != partToPaint();
+  const bool painted = inside && !picture_.isNull();
+  const bool leftPart = painted && !part_.contains(seen_) && part_ != partToPaint();
   pictureStale_ = pictureStale_ || leftPart;
   QPointF offset;
   if (toWindow.type() <= QTransform::TxTranslate) {
@@ -161,9 +132,9 @@ bool ViewSurface::place() {
     offset = QPointF(std::round(toWindow.dx() / pixel) * pixel - toWindow.dx(),
                      std::round(toWindow.dy() / pixel) * pixel - toWindow.dy());
   }
-  if (inside && painted_ && offset != offset_) item_.update();
-  offset_ = offset;
-  return std::exchange(inViewport_, inside) != inside || leftPart;
+  const bool shifted = std::exchange(offset_, offset) != offset && painted;
+  if (shifted) item_.update();
+  return std::exchange(inViewport_, inside) != inside || leftPart || shifted;
 }
 
 layout::Rect ViewSurface::partToPaint() const {
@@ -173,7 +144,7 @@ layout::Rect ViewSurface::partToPaint() const {
 // Frame.
 
 void ViewSurface::polish() {
-  if (idealStale_) updateIdealSize();
+  if (idealStale_) updateImplicitSize();
   if (watcher()) place();
   const bool seen = watcher() && inViewport_ && item_.isVisible();
   // Also out of sight: the scene decides whether the item is in the focus chain.
@@ -181,67 +152,38 @@ void ViewSurface::polish() {
   // In every frame the window visits all items that accept hovering.
   item_.setAcceptHoverEvents(seen && !host().scene(size()).hitAreas.empty());
   if (seen) {
-    if (pictureStale_) updatePicture();
     updateRing();
-  } else if (painted_) {
-    painted_ = false;
+    if (std::exchange(pictureStale_, false)) updatePicture();
+  } else if (!picture_.isNull()) {
     pictureStale_ = true;
-    picture_ = {};
-    item_.update();
+    picture_.set({});
   }
   if (rest(seen)) host().forgetSizes();  // the item has its implicit size
 }
 
+void ViewSurface::paintAgain() {
+  pictureStale_ = true;
+  item_.polish();
+}
+
 void ViewSurface::updatePicture() {
-  pictureStale_ = false;
   part_ = partToPaint();
   const render::Scene& scene = host().scene(size());
   const auto paint = [&](const render::Scene& part) {
     return paintPicture(part, scale(), {0, 0, 0, 0});
   };
-  picture_ = part_.size == scene.size ? paint(scene) : paint(render::partOf(scene, part_));
-  painted_ = !picture_.isNull();
-  ring_.reset();  // its color or scale may have changed, too
-  item_.update();
+  picture_.set(part_.size == scene.size ? paint(scene) : paint(render::partOf(scene, part_)));
 }
 
 void ViewSurface::updateRing() {
-  const auto frame = ringFrame();
-  if (frame == (ring_ ? std::optional(ring_->around) : std::nullopt)) return;
-  ring_.reset();
-  if (frame) {
-    ring_ = std::make_unique<Ring>(
-        Ring{*frame, FocusRing::picture(*frame, host().environment().appearance, scale())});
+  const auto around = ringFrame();
+  if (around != ringed_ || (around && pictureStale_)) {
+    ringed_ = around;
+    if (!ring_) ring_ = new PictureItem(item_, [this] { paintAgain(); });
+    ring_->setPicture(around ? FocusRing::picture(*around, host().environment().appearance, scale())
+                             : QImage());
   }
-  item_.update();
+  if (around) ring_->moveTo(offset_ + FocusRing::frameAround(*around).topLeft());
 }
 
-QSGNode* ViewSurface::paint(QSGNode* old) {
-  if (!painted_) {
-    delete old;
-    return nullptr;
-  }
-  auto* node = static_cast<ViewNode*>(old);
-  if (!node) node = new ViewNode;
-  QQuickWindow& window = *item_.window();
-  if (!picture_.isNull()) {
-    node->setPicture(window, std::exchange(picture_, {}));
-  } else if (!node->hasPicture()) {
-    // The scene graph was made anew while the window was hidden.
-    QMetaObject::invokeMethod(
-        &item_, [this] { pictureStale_ = true, item_.polish(); }, Qt::QueuedConnection);
-  }
-  const QPointF corner(part_.left(), part_.top());
-  node->setOrigin(offset_ + corner);
-  if (ring_ && !node->ring) node->appendChildNode(node->ring = new PictureNode);
-  if (!ring_) {
-    if (node->ring) node->ring->setPicture(window, {});
-    return node;
-  }
-  if (!ring_->picture.isNull()) {
-    node->ring->setPicture(window, std::exchange(ring_->picture, {}));
-  }
-  node->ring->setOrigin(FocusRing::frameAround(ring_->around).topLeft() - corner);
-  return node;
-}
 }  // namespace quorix::qt

@@ -1,16 +1,14 @@
 #pragma once
 
-#include <QImage>
-#include <QRectF>
 #include <memory>
+#include <optional>
 
 #include "qt/HostedView.h"
 #include "qt/quick/LayoutPlace.h"
+#include "qt/quick/PictureItem.h"
 #include "qt/quick/QuickAccessibleSurface.h"
 #include "qt/quick/ViewItem.h"
 #include "qt/quick/WindowWatcher.h"
-
-class QSGNode;
 
 namespace quorix::qt {
 
@@ -21,7 +19,7 @@ class ViewSurface final : public HostedView,
                           public QuickAccessibleSurface {
  public:
   explicit ViewSurface(ViewItem& item);
-  ~ViewSurface() override;
+  ~ViewSurface() override { WindowWatcher::remove(*this); }
 
   /// The item moved to another window, or to none.
   void windowChanged();
@@ -33,7 +31,9 @@ class ViewSurface final : public HostedView,
 
   /// Before a frame: updates size, scene and picture.
   void polish();
-  QSGNode* paint(QSGNode* old);
+  QSGNode* paint(QSGNode* old) {
+    return picture_.show(old, offset_ + QPointF(part_.left(), part_.top()));
+  }
 
  private:
   void viewNeedsDisplay() override;
@@ -53,19 +53,16 @@ class ViewSurface final : public HostedView,
     emit item_.sheetClosed(static_cast<SheetCloseReason>(reason));
   }
 
-  void windowVisibilityChanged() override { onScreenChanged(); }
+  void windowStateChanged() override { onScreenChanged(); }
   void desktopChanged() override { settingsChanged(); }
-  void accessibilityBegan() override;
   layout::Rect boundsInParent() const override;
   void placeMayHaveChanged() override;
 
-  hosting::Responder& responder() override { return *this; }
-
-  void updateIdealSize();
   void updateImplicitSize();
   void followLayoutPlace();
   bool place();
   layout::Rect partToPaint() const;
+  void paintAgain();
   void updatePicture();
   void updateRing();
 
@@ -76,18 +73,13 @@ class ViewSurface final : public HostedView,
   QPointF offset_;     ///< from the item's corner to the nearest whole device pixel
   layout::Rect seen_;  ///< the part of the item in the viewport
   layout::Rect part_;  ///< the part of the item that its picture shows
-  QImage picture_;     ///< until the scene graph takes it
-  struct Ring {
-    layout::Rect around;
-    QImage picture;  ///< until the scene graph takes it
-  };
-  std::unique_ptr<Ring> ring_;
+  NodePicture picture_;
+  PictureItem* ring_ = nullptr;         ///< made with the first ring
+  std::optional<layout::Rect> ringed_;  ///< the frame that the ring's picture is for
 
   bool idealStale_ = true;
   bool pictureStale_ = true;
-  bool fitting_ = false;  ///< the implicit size is being set
   bool inViewport_ = false;
-  bool painted_ = false;  ///< the scene graph has a picture, or gets one with the next frame
 };
 
 }  // namespace quorix::qt

@@ -3,37 +3,87 @@
 #include <QApplication>
 #include <QHoverEvent>
 #include <QPainter>
-#include <algorithm>
+#include <QPointer>
 #include <utility>
 
 #include "qt/Conversions.h"
-#include "qt/WindowScene.h"
-#include "qt/accessibility/AccessibilityBridge.h"
 
 namespace quorix::qt {
+
+/// Takes taps over the pages of a sheet. It is as large as the sheet, but its mask holds only the
+/// areas where something acts. Passes its events to the sheet.
+class SheetWidgetFront : public QWidget {
+ public:
+  explicit SheetWidgetFront(SheetWidget& sheet) : QWidget(&sheet), sheet_(sheet) {
+    setAttribute(Qt::WA_AcceptTouchEvents);
+    setFocusPolicy(Qt::NoFocus);
+    setCursor(Qt::PointingHandCursor);
+  }
+
+  /// Takes its mask from the sheet's whole display list.
+  void follow(const render::Scene& scene) {
+    QRegion acting;
+    for (std::size_t i = 0; i < scene.hitAreas.size(); ++i) {
+      QRegion area = toRect(scene.hitAreas[i].frame).toAlignedRect();
+      for (const render::Item& item : scene.items) {
+        const auto* embed = std::get_if<render::EmbedItem>(&item);
+        if (embed && i < embed->hitAreasBelow) area -= toRect(embed->room()).toAlignedRect();
+      }
+      acting += area;
+    }
+    setGeometry(sheet_.rect());
+    // Qt reads an empty mask as none.
+    setVisible(!acting.isEmpty());
+    if (!acting.isEmpty() && acting != mask()) setMask(acting);
+  }
+
+ protected:
+  bool event(QEvent* event) override {
+    return (isEnabled() && sheet_.handle(*event)) || QWidget::event(event);
+  }
+
+ private:
+  SheetWidget& sheet_;
+};
+
+namespace {
+
+class PictureWidget final : public QWidget, public SheetPicture {
+ public:
+  explicit PictureWidget(QWidget& parent) : QWidget(&parent) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    show();
+  }
+  void setPicture(const QImage& picture) override { picture_ = picture; }
+  void moveTo(QPointF corner) override {
+    setGeometry(QRectF(corner, picture_.deviceIndependentSize()).toAlignedRect());
+    offset_ = corner - pos();
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override { QPainter(this).drawImage(offset_, picture_); }
+
+ private:
+  QImage picture_;
+  QPointF offset_;
+};
+
+}  // namespace
 
 SheetWidget::SheetWidget(QWidget& window, hosting::WindowSession& session)
     : QWidget(&window),
       SheetSurface(static_cast<QObject&>(*this), session, QStringLiteral("QuorixWebWidgets")),
-      WidgetAccessibleSurface(static_cast<QWidget&>(*this)) {
+      WidgetAccessibleSurface(static_cast<QWidget&>(*this), *this) {
   setAttribute(Qt::WA_AcceptTouchEvents);
   setAttribute(Qt::WA_Hover);
   setFocusPolicy(Qt::StrongFocus);
   setCursor(Qt::ArrowCursor);  // instead of the window's
   hide();                      // until `comeUp`
-  AccessibilityBridge::instance()->add(*this, *this);
   window.installEventFilter(this);
   connect(qApp, &QApplication::focusChanged, this,
           [this](QWidget*, QWidget* now) { holdFocus(now); });
   setGeometry(window.rect());
   followSize();
-}
-
-SheetWidget::~SheetWidget() { AccessibilityBridge::remove(*this); }
-
-const SheetWidget* SheetWidget::topmost(const QWidget& window) {
-  const WindowScene* scene = WindowScene::find(window);
-  return scene ? static_cast<const SheetWidget*>(scene->topmost()) : nullptr;
 }
 
 // Focus.
@@ -50,11 +100,6 @@ SheetWidget::FocusReturn SheetWidget::focusReturn() {
     if (there) before->setFocus(Qt::PopupFocusReason);
     return there;
   };
-}
-
-void SheetWidget::vanish() {
-  hide();
-  deleteLater();  // it may be handling an event
 }
 
 void SheetWidget::holdFocus(QWidget* now) {
@@ -85,82 +130,20 @@ void SheetWidget::needsFrame() {
 }
 
 void SheetWidget::settle() {
-  if (!isOpen()) return;
-  updateLayers();
-  if (!followMotion()) return;
-  stack_.clear();
-  followPages();
-  updateFront();
-  updateRing();
+  if (!followFrame()) return;
+  if (front_) front_->follow(presenter().scene());
   update();
 }
 
-/// Paints the panel anew if needed. Also called from a paint event that comes before `settle`,
-/// where the layers must not change.
-void SheetWidget::updatePanel() {
-  auto layers = paintLayers();
-  if (layers.empty()) return;
-  picture_ = layers.front().picture;
-  repainted_ = std::move(layers);
-}
-
-void SheetWidget::updateLayers() {
-  updatePanel();
-  if (repainted_.empty()) return;
-  while (layers_.size() + 1 > repainted_.size()) {
-    delete layers_.back().picture;
-    layers_.pop_back();
-  }
-  for (std::size_t i = 1; i < repainted_.size(); ++i) {
-    if (layers_.size() < i) layers_.push_back({new PictureWidget(*this), {}});
-    layers_[i - 1].origin = repainted_[i].origin;
-    layers_[i - 1].picture->setPicture(repainted_[i].picture);
-  }
-  repainted_.clear();
-}
-
-/// Places what is above the pages. Without a page these are pictures on the panel.
-void SheetWidget::updateFront() {
-  const layout::Point corner = presenter().panelFrame().origin;
-  for (const ShownLayer& layer : layers_) {
-    layer.picture->move((toPoint(corner) + layer.origin).toPoint());
-    if (!stack_.contains(layer.picture)) stack_.append(layer.picture);
-  }
-  if (pageViews().empty()) return;
-  if (!front_) front_ = new SheetWidgetFront(*this);
-  front_->setGeometry(rect());
-  front_->follow(presenter().scene());
-  stack_.append(front_);
-  QList<QObject*> standing = children();
-  standing.removeIf([&](QObject* child) { return !stack_.contains(child); });
-  const bool stands = std::equal(standing.begin(), standing.end(), stack_.begin(), stack_.end());
-  if (stands) return;
-  for (QWidget* widget : stack_) widget->raise();
-}
-
-void SheetWidget::updateRing() {
-  const auto around = ring();
-  if (!ring_ && around) ring_ = new PictureWidget(*this);
-  if (!ring_) return;
-  if (around && !around->picture.isNull()) ring_->setPicture(around->picture);
-  ring_->setVisible(around.has_value());
-  if (!around) return;
-  ring_->move(around->origin.toPoint());
-  if (children().constLast() != ring_) ring_->raise();
+std::unique_ptr<SheetPicture> SheetWidget::newPicture(int) {
+  return std::make_unique<PictureWidget>(*this);
 }
 
 void SheetWidget::paintEvent(QPaintEvent*) {
   if (!isOpen()) return;
-  updatePanel();
-  const layout::Rect frame = presenter().panelFrame();
-  const double bottom = frame.top() + picture_.deviceIndependentSize().height();
   QPainter painter(this);
-  painter.fillRect(rect(), toQColor(presenter().shade()));
-  painter.drawImage(QPointF(frame.left(), frame.top()), picture_);
-  if (bottom < height()) {
-    painter.fillRect(QRectF(frame.left(), bottom, frame.size.width, height() - bottom),
-                     toQColor(presenter().panelColor()));
-  }
+  painter.fillRect(rect(), ground().shade);
+  painter.fillRect(ground().below, ground().color);
   QMetaObject::invokeMethod(
       this, [this] { wasShown(); }, Qt::QueuedConnection);
 }
@@ -170,27 +153,27 @@ void SheetWidget::paintEvent(QPaintEvent*) {
 std::unique_ptr<hosting::PageEngine> SheetWidget::openPage(const render::EmbedItem& embed,
                                                            hosting::PageEngine::Client& client) {
   activeBefore_ = isActiveWindow() ? window()->internalWinId() : 0;
-  return SheetSurface::openPage(embed, client);
+  auto page = SheetSurface::openPage(embed, client);
+  if (!front_) front_ = new SheetWidgetFront(*this);
+  front_->raise();
+  return page;
 }
 
 void SheetWidget::placePage(hosting::PageEngine& engine, const hosting::PagePlace& place,
                             int index) {
-  auto* page = qobject_cast<QWidget*>(viewOf(engine));
-  if (!page) return;
-  page->setGeometry(toRect(place.room).toAlignedRect());
-  page->show();
+  auto& page = static_cast<QWidget&>(viewOf(engine));
+  page.setGeometry(toRect(place.room).toAlignedRect());
+  page.show();
   // For the first widget that is drawn by other means than the rest, Qt makes the native window
   // anew, which is then not active.
   const WId before = std::exchange(activeBefore_, 0);
   if (before && window()->internalWinId() != before) activateWindow();
-  stack_.append(page);
-  if (std::size_t(index) < layers_.size()) stack_.append(layers_[std::size_t(index)].picture);
+  page.stackUnder(&static_cast<PictureWidget&>(picture(index + 1)));
 }
 
 void SheetWidget::focusPage(hosting::PageEngine& engine, bool forward) {
-  if (auto* page = qobject_cast<QWidget*>(viewOf(engine))) {
-    page->setFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
-  }
+  static_cast<QWidget&>(viewOf(engine))
+      .setFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
 }
 
 bool SheetWidget::hasPageFocus() const {
@@ -203,7 +186,10 @@ void SheetWidget::takeFocusFromPages() {
   if (hasPageFocus() || !window()->focusWidget()) setFocus(Qt::OtherFocusReason);
 }
 
-void SheetWidget::resizeEvent(QResizeEvent*) { followSize(); }
+void SheetWidget::resizeEvent(QResizeEvent*) {
+  followSize();
+  settle();
+}
 
 void SheetWidget::followSize() { windowResized({double(width()), double(height())}); }
 
@@ -213,7 +199,7 @@ bool SheetWidget::event(QEvent* event) {
   switch (event->type()) {
     case QEvent::HoverEnter:
     case QEvent::HoverMove:
-      pointAt(static_cast<QHoverEvent*>(event)->position());
+      setCursor(cursorAt(static_cast<QHoverEvent*>(event)->position()));
       return true;
     case QEvent::HoverLeave:
     case QEvent::ContextMenu:
@@ -246,8 +232,4 @@ void SheetWidget::raiseAll() {
   }
 }
 
-void SheetWidget::pointAt(QPointF point) {
-  const auto shape = takesTapAt(toPoint(point)) ? Qt::PointingHandCursor : Qt::ArrowCursor;
-  if (cursor().shape() != shape) setCursor(shape);
-}
 }  // namespace quorix::qt

@@ -1,16 +1,14 @@
 #pragma once
 
-#include <QImage>
-#include <QPointer>
 #include <QWidget>
 #include <vector>
 
-#include "platform/foundation/Export.h"
 #include "qt/SheetSurface.h"
-#include "qt/widgets/SheetWidgetLayers.h"
 #include "qt/widgets/WidgetAccessibleSurface.h"
 
 namespace quorix::qt {
+
+class SheetWidgetFront;
 
 /// A sheet over a window of widgets: as large as the window and above everything in it. A child of
 /// the window; deletes itself after it closed. Main thread.
@@ -19,10 +17,6 @@ class SheetWidget : public QWidget, public SheetSurface, public WidgetAccessible
 
  public:
   SheetWidget(QWidget& window, hosting::WindowSession& session);
-  ~SheetWidget() override;
-
-  /// The sheet of `window` that takes the input, or null.
-  QUORIX_EXPORT static const SheetWidget* topmost(const QWidget& window);
 
  protected:
   bool event(QEvent* event) override;
@@ -32,12 +26,6 @@ class SheetWidget : public QWidget, public SheetSurface, public WidgetAccessible
   bool focusNextPrevChild(bool next) override;
 
  private:
-  /// Shows a layer above a page.
-  struct ShownLayer {
-    PictureWidget* picture;
-    QPointF origin;  ///< in the panel
-  };
-
   double scale() const override { return devicePixelRatioF(); }
   void needsFrame() override;
   void comeUp() override;
@@ -46,8 +34,8 @@ class SheetWidget : public QWidget, public SheetSurface, public WidgetAccessible
   bool hasFocus() const override { return QWidget::hasFocus(); }
   bool holdsFocus() const override { return window()->focusWidget() == this || hasPageFocus(); }
   void dropFocus() override { window()->focusWidget()->clearFocus(); }
-  void vanish() override;
 
+  std::unique_ptr<SheetPicture> newPicture(int index) override;
   std::unique_ptr<hosting::PageEngine> openPage(const render::EmbedItem& embed,
                                                 hosting::PageEngine::Client& client) override;
   void placePage(hosting::PageEngine& engine, const hosting::PagePlace& place, int index) override;
@@ -55,7 +43,6 @@ class SheetWidget : public QWidget, public SheetSurface, public WidgetAccessible
   void takeFocusFromPages() override;
   bool hasPageFocus() const;
 
-  hosting::Responder& responder() override { return *this; }
   std::vector<QObject*> accessibleViews() const override { return pageViews(); }
   bool isShown() const override { return !isClosed() && WidgetAccessibleSurface::isShown(); }
   bool isDialog() const override { return true; }
@@ -63,19 +50,9 @@ class SheetWidget : public QWidget, public SheetSurface, public WidgetAccessible
   void followSize();
   void raiseAll();
   void settle();
-  void updatePanel();
-  void updateLayers();
-  void updateFront();
-  void updateRing();
   void holdFocus(QWidget* now);
-  void pointAt(QPointF point);
 
-  QImage picture_;                ///< of the panel at rest; motion moves it
-  std::vector<Layer> repainted_;  ///< until `layers_` shows them
-  std::vector<ShownLayer> layers_;
-  QList<QWidget*> stack_;              ///< the widgets over the painted panel, from the bottom up
   SheetWidgetFront* front_ = nullptr;  ///< made with the first page
-  PictureWidget* ring_ = nullptr;
   WId activeBefore_ = 0;  ///< the native window in which a page opens, if it was active
   bool settleQueued_ = false;
 };

@@ -10,29 +10,11 @@
 #include "qt/Desktop.h"
 #include "qt/Picture.h"
 #include "qt/WindowScene.h"
-#include "qt/accessibility/AccessibilityBridge.h"
 #include "qt/painting/FocusRing.h"
 #include "qt/widgets/SheetWidget.h"
 #include "qt/widgets/WindowStateWatcher.h"
 
 namespace quorix::qt {
-
-/// The focus ring of a view widget. It reaches beyond the widget, which cannot paint outside of
-/// itself, and follows the widget. A child of one of the widget's ancestors; main thread.
-class FocusFrame : public QFocusFrame {
- public:
-  explicit FocusFrame(QWidget& widget);
-
-  /// Goes around the element at `element` in the widget.
-  void goAround(const layout::Rect& element, graphics::Appearance appearance);
-
- protected:
-  void paintEvent(QPaintEvent* event) override;
-
- private:
-  layout::Rect element_;
-  graphics::Appearance appearance_ = graphics::Appearance::light;
-};
 
 namespace {
 
@@ -56,24 +38,35 @@ class FrameStyle : public QProxyStyle {
 
 }  // namespace
 
-FocusFrame::FocusFrame(QWidget& widget) : QFocusFrame(&widget) {
-  auto* style = new FrameStyle;
-  style->setParent(this);
-  setStyle(style);
-  setWidget(&widget);
-}
+/// The focus ring of a view widget. It reaches beyond the widget, which cannot paint outside of
+/// itself, and follows the widget. A child of one of the widget's ancestors; main thread.
+class FocusFrame : public QFocusFrame {
+ public:
+  explicit FocusFrame(QWidget& widget) : QFocusFrame(&widget) {
+    auto* style = new FrameStyle;
+    style->setParent(this);
+    setStyle(style);
+    setWidget(&widget);
+  }
 
-void FocusFrame::goAround(const layout::Rect& element, graphics::Appearance appearance) {
-  element_ = element;
-  appearance_ = appearance;
-  update();
-}
+  /// Goes around the element at `element` in the widget.
+  void goAround(const layout::Rect& element, graphics::Appearance appearance) {
+    element_ = element;
+    appearance_ = appearance;
+    update();
+  }
 
-void FocusFrame::paintEvent(QPaintEvent*) {
-  QPainter painter(this);
-  const QRectF around = FocusRing::frameAround(element_).translated(kMargin, kMargin);
-  FocusRing::paint(painter, around.intersected(rect()), appearance_);
-}
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    const QRectF around = FocusRing::frameAround(element_).translated(kMargin, kMargin);
+    FocusRing::paint(painter, around.intersected(rect()), appearance_);
+  }
+
+ private:
+  layout::Rect element_;
+  graphics::Appearance appearance_ = graphics::Appearance::light;
+};
 
 namespace {
 
@@ -96,16 +89,9 @@ bool isInView(const QWidget& widget) {
 }  // namespace
 
 WidgetSurface::WidgetSurface(ViewWidget& widget)
-    : HostedView(widget, widget.settings()), WidgetAccessibleSurface(widget), widget_(widget) {
-  AccessibilityBridge::instance()->add(widget, *this);
-  QObject::connect(Desktop::instance(), &Desktop::changed, &widget, [this] { settingsChanged(); });
-}
-
-WidgetSurface::~WidgetSurface() {
-  dropRing();
-  QObject::disconnect(windowState_);
-  AccessibilityBridge::remove(widget_);
-}
+    : HostedView(widget, widget.settings()),
+      WidgetAccessibleSurface(widget, *this),
+      widget_(widget) {}
 
 swiftui::Environment WidgetSurface::environment() const {
   swiftui::Environment around = Desktop::environment(scale());
@@ -133,9 +119,7 @@ void WidgetSurface::placeChanged() {
   const bool moved = window != window_;
   if (moved) {
     leaveWindow();
-    QObject::disconnect(windowState_);
-    windowState_ = QObject::connect(&WindowStateWatcher::of(*window), &WindowStateWatcher::changed,
-                                    &widget_, [this] { onScreenChanged(); });
+    WindowStateWatcher::watch(*window);
     window_ = window;
   }
   onScreenChanged();  // before a size is needed, so that the view is evaluated once
@@ -144,8 +128,7 @@ void WidgetSurface::placeChanged() {
 }
 
 void WidgetSurface::onScreenChanged() {
-  onScreen_ = widget_.isVisible() && !widget_.window()->isMinimized();
-  host().setOnScreen(onScreen_);
+  host().setOnScreen(isOnScreen());
   needsFrame();
 }
 
@@ -156,28 +139,20 @@ QSize WidgetSurface::sizeFor(layout::ProposedSize proposal) {
   return {wholePixels(size.width), wholePixels(size.height)};
 }
 
-QSize WidgetSurface::idealSize() {
-  told_.ideal = sizeFor({});
-  return *told_.ideal;
+QSize WidgetSurface::tell(Told& told, layout::ProposedSize proposal) {
+  const QSize answer = sizeFor(proposal);
+  told = {{proposal, answer}};
+  return answer;
 }
 
+QSize WidgetSurface::idealSize() { return tell(ideal_, {}); }
+
+/// The height at the least width is the answer of `heightFor`.
 QSize WidgetSurface::minimumSize() {
-  // The least width. The height at that width is the answer of `heightFor`.
-  told_.minimum = QSize(sizeFor({0, std::nullopt}).width(), sizeFor({}).height());
-  return *told_.minimum;
+  return {tell(least_, {0, std::nullopt}).width(), idealSize().height()};
 }
 
-int WidgetSurface::heightFor(int width) {
-  told_.height = {width, sizeFor({width, std::nullopt}).height()};
-  return told_.height->second;
-}
-
-bool WidgetSurface::toldHolds() {
-  const Told before = told_;
-  return (!before.ideal || before.ideal == idealSize()) &&
-         (!before.minimum || before.minimum == minimumSize()) &&
-         (!before.height || before.height->second == heightFor(before.height->first));
-}
+int WidgetSurface::heightFor(int width) { return tell(fitted_, {width, std::nullopt}).height(); }
 
 void WidgetSurface::sizeChanged() {
   resized();
@@ -198,13 +173,18 @@ void WidgetSurface::needsFrame() {
 }
 
 void WidgetSurface::settle() {
-  if (std::exchange(sizeStale_, false) && !toldHolds()) {
-    told_ = {};
-    widget_.updateGeometry();
+  if (std::exchange(sizeStale_, false)) {
+    const auto holds = [this](const Told& told) {
+      return !told || sizeFor(told->first) == told->second;
+    };
+    if (!holds(ideal_) || !holds(least_) || !holds(fitted_)) {
+      ideal_ = least_ = fitted_ = std::nullopt;
+      widget_.updateGeometry();
+    }
   }
-  if (onScreen_ && refreshScene()) widget_.update();
+  if (isOnScreen() && refreshScene()) widget_.update();
   updateRing();
-  rest(onScreen_ && isInView(widget_));
+  rest(isOnScreen() && isInView(widget_));
 }
 
 void WidgetSurface::updateRing() {

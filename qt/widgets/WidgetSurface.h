@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QMetaObject>
 #include <QPointer>
 #include <QSize>
 #include <optional>
@@ -20,7 +19,7 @@ class FocusFrame;
 class WidgetSurface final : public HostedView, private WidgetAccessibleSurface {
  public:
   explicit WidgetSurface(ViewWidget& widget);
-  ~WidgetSurface() override;
+  ~WidgetSurface() override { dropRing(); }
 
   // For layouts.
   QSize idealSize();
@@ -31,6 +30,7 @@ class WidgetSurface final : public HostedView, private WidgetAccessibleSurface {
   /// The widget was shown, or moved to another window.
   void placeChanged();
   void onScreenChanged();
+  void windowStateChanged() override { onScreenChanged(); }
   void sizeChanged();
   void paint(QPainter& painter);
 
@@ -54,27 +54,22 @@ class WidgetSurface final : public HostedView, private WidgetAccessibleSurface {
     emit widget_.sheetClosed(static_cast<SheetCloseReason>(reason));
   }
 
-  hosting::Responder& responder() override { return *this; }
+  void desktopChanged() override { settingsChanged(); }
 
-  /// The answers that layouts got. They lay out again only when one changes.
-  struct Told {
-    std::optional<QSize> ideal;
-    std::optional<QSize> minimum;
-    std::optional<std::pair<int, int>> height;  ///< for a width
-  };
+  /// An answer that layouts got. They lay out again only when one changes.
+  using Told = std::optional<std::pair<layout::ProposedSize, QSize>>;
 
+  bool isOnScreen() const { return widget_.isVisible() && !widget_.window()->isMinimized(); }
   void settle();
-  bool toldHolds();
+  QSize tell(Told& told, layout::ProposedSize proposal);
   void updateRing();
   void dropRing();
   QSize sizeFor(layout::ProposedSize proposal);
 
   ViewWidget& widget_;
   QPointer<QWidget> window_;
-  QMetaObject::Connection windowState_;
-  Told told_;
+  Told ideal_, least_, fitted_;
   QPointer<FocusFrame> ring_;  ///< while it is visible
-  bool onScreen_ = false;
   bool sizeStale_ = false;
   bool settleQueued_ = false;
 };
