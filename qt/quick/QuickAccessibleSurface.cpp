@@ -7,7 +7,6 @@
 #include <QQuickWindow>
 
 #include "qt/WindowScene.h"
-#include "qt/quick/SheetItem.h"
 
 namespace quorix::qt {
 namespace {
@@ -53,9 +52,14 @@ QObject* QuickAccessibleSurface::accessibleParent() const {
   return window;
 }
 
+bool QuickAccessibleSurface::liesOver(const QQuickItem& sheet, const QQuickItem* item) {
+  while (item && item->parentItem() != sheet.parentItem()) item = item->parentItem();
+  return item && item != &sheet && item->z() <= sheet.z();
+}
+
 bool QuickAccessibleSurface::isCovered() const {
-  const auto* sheet = static_cast<const SheetItem*>(WindowScene::topmostOf(item_.window()));
-  return sheet && sheet->liesOver(&item_);
+  const QQuickItem* sheet = itemOf(WindowScene::topmostOf(item_.window()));
+  return sheet && liesOver(*sheet, &item_);
 }
 
 }  // namespace quorix::qt

@@ -27,6 +27,8 @@ class QuickAccessibleSurface : public Surface {
     return item_.isVisible() && item_.window() && item_.window()->isVisible();
   }
   bool isCovered() const override;
+  /// Whether `item` of the same window is below `sheet`, unlike a pop-up that opened later.
+  static bool liesOver(const QQuickItem& sheet, const QQuickItem* item);
   void accessibilityBegan() override { offer(); }
 
  protected:

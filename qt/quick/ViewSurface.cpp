@@ -40,7 +40,7 @@ hosting::WindowSession* ViewSurface::window() {
   QQuickWindow* window = item_.window();
   if (!window) return nullptr;
   const auto newSheet = [window](WindowScene & scene, const hosting::Responder* opener) -> auto& {
-    return *new SheetItem(*window, scene, QuickAccessibleSurface::itemOf(opener));
+    return newSheetItem(*window, scene, opener);
   };
   return &WindowScene::of(*window, {[window] { return window; }, newSheet});
 }

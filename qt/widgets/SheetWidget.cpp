@@ -4,17 +4,22 @@
 #include <QHoverEvent>
 #include <QPainter>
 #include <QPointer>
+#include <memory>
 #include <utility>
+#include <vector>
 
 #include "qt/Conversions.h"
+#include "qt/SheetSurface.h"
+#include "qt/widgets/WidgetAccessibleSurface.h"
 
 namespace quorix::qt {
+namespace {
 
 /// Takes taps over the pages of a sheet. It is as large as the sheet, but its mask holds only the
 /// areas where something acts. Passes its events to the sheet.
 class SheetWidgetFront : public QWidget {
  public:
-  explicit SheetWidgetFront(SheetWidget& sheet) : QWidget(&sheet), sheet_(sheet) {
+  SheetWidgetFront(QWidget& parent, SheetSurface& sheet) : QWidget(&parent), sheet_(sheet) {
     setAttribute(Qt::WA_AcceptTouchEvents);
     setFocusPolicy(Qt::NoFocus);
     setCursor(Qt::PointingHandCursor);
@@ -31,7 +36,7 @@ class SheetWidgetFront : public QWidget {
       }
       acting += area;
     }
-    setGeometry(sheet_.rect());
+    setGeometry(parentWidget()->rect());
     // Qt reads an empty mask as none.
     setVisible(!acting.isEmpty());
     if (!acting.isEmpty() && acting != mask()) setMask(acting);
@@ -43,10 +48,8 @@ class SheetWidgetFront : public QWidget {
   }
 
  private:
-  SheetWidget& sheet_;
+  SheetSurface& sheet_;
 };
-
-namespace {
 
 class PictureWidget final : public QWidget, public SheetPicture {
  public:
@@ -68,168 +71,191 @@ class PictureWidget final : public QWidget, public SheetPicture {
   QPointF offset_;
 };
 
+/// A child of the window; deletes itself after it closed.
+class SheetWidget final : public QWidget, public SheetSurface, public WidgetAccessibleSurface {
+ public:
+  SheetWidget(QWidget& window, hosting::WindowSession& session)
+      : QWidget(&window),
+        SheetSurface(static_cast<QObject&>(*this), session, QStringLiteral("QuorixWebWidgets")),
+        WidgetAccessibleSurface(static_cast<QWidget&>(*this), *this) {
+    setAttribute(Qt::WA_AcceptTouchEvents);
+    setAttribute(Qt::WA_Hover);
+    setFocusPolicy(Qt::StrongFocus);
+    setCursor(Qt::ArrowCursor);  // instead of the window's
+    hide();                      // until `comeUp`
+    window.installEventFilter(this);
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](QWidget*, QWidget* now) { holdFocus(now); });
+    setGeometry(window.rect());
+    followSize();
+  }
+
+ protected:
+  // None of the events reaches what is below the sheet.
+  bool event(QEvent* event) override {
+    switch (event->type()) {
+      case QEvent::HoverEnter:
+      case QEvent::HoverMove:
+        setCursor(cursorAt(static_cast<QHoverEvent*>(event)->position()));
+        return true;
+      case QEvent::HoverLeave:
+      case QEvent::ContextMenu:
+      case QEvent::ToolTip:
+      case QEvent::WhatsThis:
+        event->accept();
+        return true;
+      case QEvent::ScreenChangeInternal:
+        followScale();
+        break;
+      default:
+        break;
+    }
+    return (isEnabled() && handle(*event)) || QWidget::event(event);
+  }
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (watched == parentWidget() && !isClosed()) {
+      if (event->type() == QEvent::Resize) setGeometry(parentWidget()->rect());
+      if (event->type() == QEvent::ChildAdded && isTopmost()) raiseAll();
+    }
+    return QWidget::eventFilter(watched, event);
+  }
+
+  void resizeEvent(QResizeEvent*) override {
+    followSize();
+    settle();
+  }
+
+  void paintEvent(QPaintEvent*) override {
+    if (!isOpen()) return;
+    QPainter painter(this);
+    painter.fillRect(rect(), ground().shade);
+    painter.fillRect(ground().below, ground().color);
+    QMetaObject::invokeMethod(
+        this, [this] { wasShown(); }, Qt::QueuedConnection);
+  }
+
+  bool focusNextPrevChild(bool next) override {
+    if (isClosed()) return QWidget::focusNextPrevChild(next);
+    if (!hasPageFocus()) {
+      walk(next);
+    } else if (window()->focusWidget()->isVisible()) {
+      leavePages(next);
+    } else {
+      takeFocusFromPages();  // not the user's key: Qt hides a page whose process ended
+    }
+    return true;
+  }
+
+ private:
+  double scale() const override { return devicePixelRatioF(); }
+  void followSize() { windowResized({double(width()), double(height())}); }
+
+  void needsFrame() override {
+    if (std::exchange(settleQueued_, true)) return;
+    QMetaObject::invokeMethod(
+        this, [this] { settleQueued_ = false, settle(); }, Qt::QueuedConnection);
+  }
+
+  void settle() {
+    if (!followFrame()) return;
+    if (front_) front_->follow(presenter().scene());
+    update();
+  }
+
+  std::unique_ptr<SheetPicture> newPicture(int) override {
+    return std::make_unique<PictureWidget>(*this);
+  }
+
+  void comeUp() override {
+    show();
+    raise();
+  }
+
+  /// Raises the window's sheets, in their order, above widgets that were added later.
+  void raiseAll() {
+    const QObjectList children = parentWidget()->children();
+    for (QObject* child : children) {
+      auto* sheet = dynamic_cast<SheetWidget*>(child);
+      if (sheet && sheet->isOpen()) sheet->raise();
+    }
+  }
+
+  // Focus.
+
+  FocusReturn focusReturn() override {
+    return [this, before = QPointer(window()->focusWidget())] {
+      const bool there =
+          before && before->window() == window() && before->isVisible() && before->isEnabled();
+      if (there) before->setFocus(Qt::PopupFocusReason);
+      return there;
+    };
+  }
+
+  void takeFocus() override { setFocus(Qt::PopupFocusReason); }
+  bool hasFocus() const override { return QWidget::hasFocus(); }
+  bool holdsFocus() const override { return window()->focusWidget() == this || hasPageFocus(); }
+  void dropFocus() override { window()->focusWidget()->clearFocus(); }
+
+  void holdFocus(QWidget* now) {
+    if (now && hasPageFocus()) pageTookFocus();
+    // A shortcut of the host may have moved the focus below the sheet.
+    const bool below = now && now != this && now->window() == window() && !isAncestorOf(now);
+    if (below) focusWentBelow();
+  }
+
+  // Pages.
+
+  std::unique_ptr<hosting::PageEngine> openPage(const render::EmbedItem& embed,
+                                                hosting::PageEngine::Client& client) override {
+    activeBefore_ = isActiveWindow() ? window()->internalWinId() : 0;
+    auto page = SheetSurface::openPage(embed, client);
+    if (!front_) front_ = new SheetWidgetFront(*this, *this);
+    front_->raise();
+    return page;
+  }
+
+  void placePage(hosting::PageEngine& engine, const hosting::PagePlace& place, int index) override {
+    auto& page = static_cast<QWidget&>(viewOf(engine));
+    page.setGeometry(toRect(place.room).toAlignedRect());
+    page.show();
+    // For the first widget that is drawn by other means than the rest, Qt makes the native window
+    // anew, which is then not active.
+    const WId before = std::exchange(activeBefore_, 0);
+    if (before && window()->internalWinId() != before) activateWindow();
+    page.stackUnder(&static_cast<PictureWidget&>(picture(index + 1)));
+  }
+
+  void focusPage(hosting::PageEngine& engine, bool forward) override {
+    static_cast<QWidget&>(viewOf(engine))
+        .setFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+  }
+
+  bool hasPageFocus() const {
+    const QWidget* focused = window()->focusWidget();
+    return focused && focused != this && isAncestorOf(focused);
+  }
+
+  void takeFocusFromPages() override {
+    // If a page's process ended, the window may have no focused widget.
+    if (hasPageFocus() || !window()->focusWidget()) setFocus(Qt::OtherFocusReason);
+  }
+
+  // Accessibility.
+
+  std::vector<QObject*> accessibleViews() const override { return pageViews(); }
+  bool isShown() const override { return !isClosed() && WidgetAccessibleSurface::isShown(); }
+  bool isDialog() const override { return true; }
+
+  SheetWidgetFront* front_ = nullptr;  ///< made with the first page
+  WId activeBefore_ = 0;  ///< the native window in which a page opens, if it was active
+  bool settleQueued_ = false;
+};
+
 }  // namespace
 
-SheetWidget::SheetWidget(QWidget& window, hosting::WindowSession& session)
-    : QWidget(&window),
-      SheetSurface(static_cast<QObject&>(*this), session, QStringLiteral("QuorixWebWidgets")),
-      WidgetAccessibleSurface(static_cast<QWidget&>(*this), *this) {
-  setAttribute(Qt::WA_AcceptTouchEvents);
-  setAttribute(Qt::WA_Hover);
-  setFocusPolicy(Qt::StrongFocus);
-  setCursor(Qt::ArrowCursor);  // instead of the window's
-  hide();                      // until `comeUp`
-  window.installEventFilter(this);
-  connect(qApp, &QApplication::focusChanged, this,
-          [this](QWidget*, QWidget* now) { holdFocus(now); });
-  setGeometry(window.rect());
-  followSize();
-}
-
-// Focus.
-
-void SheetWidget::comeUp() {
-  show();
-  raise();
-}
-
-SheetWidget::FocusReturn SheetWidget::focusReturn() {
-  return [this, before = QPointer(window()->focusWidget())] {
-    const bool there =
-        before && before->window() == window() && before->isVisible() && before->isEnabled();
-    if (there) before->setFocus(Qt::PopupFocusReason);
-    return there;
-  };
-}
-
-void SheetWidget::holdFocus(QWidget* now) {
-  if (now && hasPageFocus()) pageTookFocus();
-  // A shortcut of the host may have moved the focus below the sheet.
-  const bool below = now && now != this && now->window() == window() && !isAncestorOf(now);
-  if (below) focusWentBelow();
-}
-
-bool SheetWidget::focusNextPrevChild(bool next) {
-  if (isClosed()) return QWidget::focusNextPrevChild(next);
-  if (!hasPageFocus()) {
-    walk(next);
-  } else if (window()->focusWidget()->isVisible()) {
-    leavePages(next);
-  } else {
-    takeFocusFromPages();  // not the user's key: Qt hides a page whose process ended
-  }
-  return true;
-}
-
-// Frame.
-
-void SheetWidget::needsFrame() {
-  if (std::exchange(settleQueued_, true)) return;
-  QMetaObject::invokeMethod(
-      this, [this] { settleQueued_ = false, settle(); }, Qt::QueuedConnection);
-}
-
-void SheetWidget::settle() {
-  if (!followFrame()) return;
-  if (front_) front_->follow(presenter().scene());
-  update();
-}
-
-std::unique_ptr<SheetPicture> SheetWidget::newPicture(int) {
-  return std::make_unique<PictureWidget>(*this);
-}
-
-void SheetWidget::paintEvent(QPaintEvent*) {
-  if (!isOpen()) return;
-  QPainter painter(this);
-  painter.fillRect(rect(), ground().shade);
-  painter.fillRect(ground().below, ground().color);
-  QMetaObject::invokeMethod(
-      this, [this] { wasShown(); }, Qt::QueuedConnection);
-}
-
-// Pages.
-
-std::unique_ptr<hosting::PageEngine> SheetWidget::openPage(const render::EmbedItem& embed,
-                                                           hosting::PageEngine::Client& client) {
-  activeBefore_ = isActiveWindow() ? window()->internalWinId() : 0;
-  auto page = SheetSurface::openPage(embed, client);
-  if (!front_) front_ = new SheetWidgetFront(*this);
-  front_->raise();
-  return page;
-}
-
-void SheetWidget::placePage(hosting::PageEngine& engine, const hosting::PagePlace& place,
-                            int index) {
-  auto& page = static_cast<QWidget&>(viewOf(engine));
-  page.setGeometry(toRect(place.room).toAlignedRect());
-  page.show();
-  // For the first widget that is drawn by other means than the rest, Qt makes the native window
-  // anew, which is then not active.
-  const WId before = std::exchange(activeBefore_, 0);
-  if (before && window()->internalWinId() != before) activateWindow();
-  page.stackUnder(&static_cast<PictureWidget&>(picture(index + 1)));
-}
-
-void SheetWidget::focusPage(hosting::PageEngine& engine, bool forward) {
-  static_cast<QWidget&>(viewOf(engine))
-      .setFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
-}
-
-bool SheetWidget::hasPageFocus() const {
-  const QWidget* focused = window()->focusWidget();
-  return focused && focused != this && isAncestorOf(focused);
-}
-
-void SheetWidget::takeFocusFromPages() {
-  // If a page's process ended, the window may have no focused widget.
-  if (hasPageFocus() || !window()->focusWidget()) setFocus(Qt::OtherFocusReason);
-}
-
-void SheetWidget::resizeEvent(QResizeEvent*) {
-  followSize();
-  settle();
-}
-
-void SheetWidget::followSize() { windowResized({double(width()), double(height())}); }
-
-// Events. None of them reaches what is below the sheet.
-
-bool SheetWidget::event(QEvent* event) {
-  switch (event->type()) {
-    case QEvent::HoverEnter:
-    case QEvent::HoverMove:
-      setCursor(cursorAt(static_cast<QHoverEvent*>(event)->position()));
-      return true;
-    case QEvent::HoverLeave:
-    case QEvent::ContextMenu:
-    case QEvent::ToolTip:
-    case QEvent::WhatsThis:
-      event->accept();
-      return true;
-    case QEvent::ScreenChangeInternal:
-      followScale();
-      break;
-    default:
-      break;
-  }
-  return (isEnabled() && handle(*event)) || QWidget::event(event);
-}
-
-bool SheetWidget::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == parentWidget() && !isClosed()) {
-    if (event->type() == QEvent::Resize) setGeometry(parentWidget()->rect());
-    if (event->type() == QEvent::ChildAdded && isTopmost()) raiseAll();
-  }
-  return QWidget::eventFilter(watched, event);
-}
-
-/// Raises the window's sheets, in their order, above widgets that were added later.
-void SheetWidget::raiseAll() {
-  const auto sheets = parentWidget()->findChildren<SheetWidget*>(Qt::FindDirectChildrenOnly);
-  for (SheetWidget* sheet : sheets) {
-    if (sheet->isOpen()) sheet->raise();
-  }
+hosting::SheetSession& newSheetWidget(QWidget& window, hosting::WindowSession& session) {
+  return *new SheetWidget(window, session);
 }
 
 }  // namespace quorix::qt

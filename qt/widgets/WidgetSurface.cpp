@@ -107,7 +107,7 @@ void WidgetSurface::giveFocusOn() {
 hosting::WindowSession* WidgetSurface::window() {
   QWidget* window = widget_.window();
   const auto newSheet = [window](WindowScene & scene, auto*) -> auto& {
-    return *new SheetWidget(*window, scene);
+    return newSheetWidget(*window, scene);
   };
   return &WindowScene::of(*window, {[window] { return window->windowHandle(); }, newSheet});
 }
