@@ -5,7 +5,7 @@
 #include "qt/Desktop.h"
 #include "qt/Input.h"
 #include "qt/Surface.h"
-#include "qt/accessibility/ViewAccessible.h"
+#include "qt/ViewAccessible.h"
 #include "qt/text/QtTextEngine.h"
 
 namespace quorix::qt {

@@ -12,9 +12,8 @@
 #include "qt/Conversions.h"
 #include "qt/Input.h"
 #include "qt/Picture.h"
-#include "qt/Surface.h"
+#include "qt/ViewAccessible.h"
 #include "qt/WebComponent.h"
-#include "qt/accessibility/ViewAccessible.h"
 #include "qt/painting/FocusRing.h"
 #include "qt/text/QtTextEngine.h"
 
@@ -95,10 +94,7 @@ void SheetSurface::focusMoved(bool later) {
   ViewAccessible::focusChanged(self_, later ? Qt::QueuedConnection : Qt::DirectConnection);
 }
 
-void SheetSurface::coverChanged() {
-  if (!Surface::areRead()) return;
-  Surface::forEach([](Surface& surface) { ViewAccessible::coverChanged(surface.object()); });
-}
+void SheetSurface::coverChanged() { ViewAccessible::coverChanged(); }
 
 // Pictures.
 

@@ -5,7 +5,7 @@
 
 #include "qt/ApplicationLifetime.h"
 #include "qt/Desktop.h"
-#include "qt/accessibility/ViewAccessible.h"
+#include "qt/ViewAccessible.h"
 
 namespace quorix::qt {
 namespace {
@@ -16,7 +16,7 @@ QHash<const QObject*, Surface*>& surfaces() {
 }
 
 QAccessibleInterface* makeInterface(const QString&, QObject* object) {
-  return Surface::of(object) ? new ViewAccessible(object) : nullptr;
+  return Surface::of(object) ? ViewAccessible::make(*object) : nullptr;
 }
 
 /// Makes the surfaces known to assistive technology.

@@ -11,7 +11,7 @@
 #include "qt/Conversions.h"
 #include "qt/SheetSurface.h"
 #include "qt/WebComponent.h"
-#include "qt/accessibility/ViewAccessible.h"
+#include "qt/ViewAccessible.h"
 #include "qt/quick/PictureItem.h"
 #include "qt/quick/QuickAccessibleSurface.h"
 
