@@ -10,6 +10,7 @@
 #include <string>
 #include <utility>
 
+#include "qt/Surface.h"
 #ifdef QUORIX_DBUS
 #include "qt/DesktopPortal.h"
 #endif
@@ -24,6 +25,10 @@ QVariant configured(const QString& name, const QString& key, const QVariant& oth
   return QSettings(path, QSettings::IniFormat).value(key, otherwise);
 }
 
+void tellSurfaces() {
+  Surface::forEach([](Surface& surface) { surface.desktopChanged(); });
+}
+
 /// The code of Qt's default language. Cached, because every row of a list asks for it.
 const std::string& languageCode() {
   static QLocale::Language known = QLocale::AnyLanguage;
@@ -35,23 +40,54 @@ const std::string& languageCode() {
   return code;
 }
 
-}  // namespace
+/// Lives as long as the application object.
+class Follower : public QObject {
+ public:
+  explicit Follower(QObject* application) : QObject(application) {
+    application->installEventFilter(this);
+    connect(qGuiApp, &QGuiApplication::layoutDirectionChanged, this, tellSurfaces);
+#ifdef QUORIX_DBUS
+    connect(&portal, &DesktopPortal::changed, this, tellSurfaces);
+#endif
+  }
 
-Desktop* Desktop::instance() {
-  static QPointer<Desktop> instance;
+#ifdef QUORIX_DBUS
+  DesktopPortal portal;
+#endif
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    const bool application = watched == parent();
+    if (event->type() == QEvent::ThemeChange ||
+        (application && event->type() == QEvent::ApplicationPaletteChange)) {
+      tellSurfaces();
+    }
+    return false;
+  }
+};
+
+/// Null without an application object.
+Follower* follower() {
+  static QPointer<Follower> instance;
   if (!instance && QCoreApplication::instance())
-    instance = new Desktop(QCoreApplication::instance());
+    instance = new Follower(QCoreApplication::instance());
   return instance;
 }
 
-Desktop::Desktop(QObject* application) : QObject(application) {
-  application->installEventFilter(this);
-  connect(qGuiApp, &QGuiApplication::layoutDirectionChanged, this, &Desktop::changed);
+/// The user's text size, unless Qt has already enlarged everything by it.
+swiftui::ContentSizeCategory textSize() {
+  double factor = 1;
 #ifdef QUORIX_DBUS
-  portal_ = new DesktopPortal(this);
-  connect(portal_, &DesktopPortal::changed, this, &Desktop::changed);
+  // On X11 desktops multiply it into the DPI, by which Qt scales every window.
+  const bool enlarged = QGuiApplication::platformName() == QLatin1String("xcb");
+  if (follower() && !enlarged) factor = follower()->portal.textScale();
 #endif
+  return swiftui::contentSizeCategoryFor(factor);
 }
+
+}  // namespace
+
+void Desktop::follow() { follower(); }
 
 swiftui::Environment Desktop::environment(double scale) {
   return {.appearance = appearanceOf(QGuiApplication::palette()),
@@ -72,36 +108,15 @@ layout::LayoutDirection Desktop::directionOf(Qt::LayoutDirection direction) {
                                       : layout::LayoutDirection::leftToRight;
 }
 
-swiftui::ContentSizeCategory Desktop::textSize() {
-  double factor = 1;
-#ifdef QUORIX_DBUS
-  // On X11 desktops multiply it into the DPI, by which Qt scales every window.
-  const Desktop* desktop = instance();
-  const bool enlarged = QGuiApplication::platformName() == QLatin1String("xcb");
-  if (desktop && !enlarged) factor = desktop->portal_->textScale();
-#endif
-  return swiftui::contentSizeCategoryFor(factor);
-}
-
 bool Desktop::prefersReducedMotion() {
   // Qt 6.4 does not tell. Asks the settings service that desktops share, and reads their files
   // where there is none.
 #ifdef QUORIX_DBUS
-  const Desktop* desktop = instance();
-  if (desktop && desktop->portal_->prefersReducedMotion()) return true;
+  if (follower() && follower()->portal.prefersReducedMotion()) return true;
 #endif
   if (configured("kdeglobals", "KDE/AnimationDurationFactor", 1.0).toDouble() == 0) return true;
   for (const char* gtk : {"gtk-4.0/settings.ini", "gtk-3.0/settings.ini"}) {
     if (!configured(gtk, "Settings/gtk-enable-animations", true).toBool()) return true;
-  }
-  return false;
-}
-
-bool Desktop::eventFilter(QObject* watched, QEvent* event) {
-  const bool application = watched == QCoreApplication::instance();
-  if (event->type() == QEvent::ThemeChange ||
-      (application && event->type() == QEvent::ApplicationPaletteChange)) {
-    emit changed();
   }
   return false;
 }

@@ -34,7 +34,7 @@ void installEngine() {
   static std::once_flag once;
   std::call_once(once, [] {
     QtMainQueue::install();
-    Desktop::instance();  // early: the settings service takes a moment to answer
+    Desktop::follow();  // early: the settings service takes a moment to answer
     QtFonts::installSystemLookup();
     foundation::URLSession::shared().install(std::make_shared<QtURLTransport>());
     uikit::URLOpener::install(std::make_shared<QtURLOpener>());

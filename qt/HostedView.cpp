@@ -4,7 +4,8 @@
 
 #include "qt/Desktop.h"
 #include "qt/Input.h"
-#include "qt/accessibility/ViewAccessible.h"
+#include "qt/Surface.h"
+#include "qt/ViewAccessible.h"
 #include "qt/text/QtTextEngine.h"
 
 namespace quorix::qt {
@@ -27,6 +28,6 @@ void HostedView::focusMoved(bool later) {
 
 void HostedView::sceneChanged() { ViewAccessible::sceneChanged(self_); }
 
-bool HostedView::isRead() const { return AccessibilityBridge::isActive(); }
+bool HostedView::isRead() const { return Surface::areRead(); }
 
 }  // namespace quorix::qt

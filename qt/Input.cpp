@@ -1,5 +1,4 @@
 #include "qt/Input.h"
-#include "qt/Conversions.h"
 
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -7,6 +6,10 @@
 #include <QStyleHints>
 #include <QTouchEvent>
 #include <QWheelEvent>
+#include <initializer_list>
+#include <utility>
+
+#include "qt/Conversions.h"
 
 namespace quorix::qt {
 namespace {
@@ -15,51 +18,40 @@ using hosting::Key;
 using hosting::PointerEvent;
 using Phase = PointerEvent::Phase;
 
-Key scrollKeyOf(int key) {
-  switch (key) {
-    case Qt::Key_Up:
-      return Key::up;
-    case Qt::Key_Down:
-      return Key::down;
-    case Qt::Key_PageUp:
-      return Key::pageUp;
-    case Qt::Key_PageDown:
-      return Key::pageDown;
-    case Qt::Key_Home:
-      return Key::home;
-    case Qt::Key_End:
-      return Key::end;
-    default:
-      return Key::other;
+using Meanings = std::initializer_list<std::pair<Qt::Key, Key>>;
+
+Key meaningOf(int key, Meanings meanings) {
+  for (const auto& [named, meaning] : meanings) {
+    if (named == key) return meaning;
   }
+  return Key::other;
 }
 
 Key keyOf(const QKeyEvent& event) {
-  const bool alt = event.modifiers() == Qt::AltModifier;
-  switch (event.key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-    case Qt::Key_Space:
-    case Qt::Key_Select:
-      return Key::activate;
-    case Qt::Key_Tab:
-      return event.modifiers() & Qt::ShiftModifier ? Key::previous : Key::next;
-    case Qt::Key_Backtab:
-      return Key::previous;
-    case Qt::Key_Escape:
-      return Key::escape;
-    case Qt::Key_Back:
-      return Key::back;
-    case Qt::Key_Left:
-      return alt ? Key::pageBack : Key::other;
-    case Qt::Key_Right:
-      return alt ? Key::pageForward : Key::other;
-    case Qt::Key_Forward:
-      return Key::pageForward;
-    default:
-      // With a modifier, such a key is a shortcut of the host.
-      return event.modifiers() & ~Qt::KeypadModifier ? Key::other : scrollKeyOf(event.key());
+  const Qt::KeyboardModifiers with = event.modifiers();
+  if (event.key() == Qt::Key_Tab && with & Qt::ShiftModifier) return Key::previous;
+  const Key always = meaningOf(event.key(), {{Qt::Key_Return, Key::activate},
+                                             {Qt::Key_Enter, Key::activate},
+                                             {Qt::Key_Space, Key::activate},
+                                             {Qt::Key_Select, Key::activate},
+                                             {Qt::Key_Tab, Key::next},
+                                             {Qt::Key_Backtab, Key::previous},
+                                             {Qt::Key_Escape, Key::escape},
+                                             {Qt::Key_Back, Key::back},
+                                             {Qt::Key_Forward, Key::pageForward}});
+  if (always != Key::other) return always;
+  if (with == Qt::AltModifier) {
+    return meaningOf(event.key(),
+                     {{Qt::Key_Left, Key::pageBack}, {Qt::Key_Right, Key::pageForward}});
   }
+  // With a modifier, such a key is a shortcut of the host.
+  if (with & ~Qt::KeypadModifier) return Key::other;
+  return meaningOf(event.key(), {{Qt::Key_Up, Key::up},
+                                 {Qt::Key_Down, Key::down},
+                                 {Qt::Key_PageUp, Key::pageUp},
+                                 {Qt::Key_PageDown, Key::pageDown},
+                                 {Qt::Key_Home, Key::home},
+                                 {Qt::Key_End, Key::end}});
 }
 
 void passMouse(QMouseEvent& event, Phase phase, hosting::Responder& responder) {
@@ -99,18 +91,10 @@ hosting::ScrollEvent toScrollEvent(const QWheelEvent& event) {
 
 hosting::ViewFocus::Cause causeOf(Qt::FocusReason reason) {
   using Cause = hosting::ViewFocus::Cause;
-  switch (reason) {
-    case Qt::TabFocusReason:
-    case Qt::ShortcutFocusReason:
-      return Cause::forward;
-    case Qt::BacktabFocusReason:
-      return Cause::backward;
-    case Qt::PopupFocusReason:
-    case Qt::ActiveWindowFocusReason:
-      return Cause::interruption;
-    default:
-      return Cause::other;
-  }
+  if (reason == Qt::TabFocusReason || reason == Qt::ShortcutFocusReason) return Cause::forward;
+  if (reason == Qt::BacktabFocusReason) return Cause::backward;
+  const bool interrupts = reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason;
+  return interrupts ? Cause::interruption : Cause::other;
 }
 
 bool passPointer(QEvent& event, hosting::Responder& responder) {

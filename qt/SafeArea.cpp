@@ -3,7 +3,7 @@
 #include <QEvent>
 #include <QVariant>
 
-#include "qt/SafeAreaWatcher.h"
+#include "qt/WindowScene.h"
 
 namespace quorix::qt {
 namespace {
@@ -26,7 +26,7 @@ QMargins SafeAreaWatcher::covered() const {
 bool SafeAreaWatcher::eventFilter(QObject*, QEvent* event) {
   const bool said = event->type() == QEvent::DynamicPropertyChange &&
                     static_cast<QDynamicPropertyChangeEvent*>(event)->propertyName() == kProperty;
-  if (said) changed_();
+  if (said) changed_(covered());
   return false;
 }
 

@@ -1,26 +1,61 @@
 #include "qt/SheetSurface.h"
 
+#include <QElapsedTimer>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QWheelEvent>
+#include <algorithm>
+#include <functional>
 #include <utility>
 
 #include "platform/hosting/SceneLayers.h"
 #include "qt/Conversions.h"
 #include "qt/Input.h"
 #include "qt/Picture.h"
+#include "qt/ViewAccessible.h"
 #include "qt/WebComponent.h"
-#include "qt/accessibility/AccessibilityBridge.h"
-#include "qt/accessibility/ViewAccessible.h"
 #include "qt/painting/FocusRing.h"
 #include "qt/text/QtTextEngine.h"
 
 namespace quorix::qt {
+namespace {
+
+/// Ticks once for each frame while it runs, in step with the window that is drawn. Main thread.
+class FrameClock final : public QAbstractAnimation {
+ public:
+  /// `tick` gets the seconds since the last tick. The clock stops when it returns false.
+  explicit FrameClock(std::function<bool(double)> tick) : tick_(std::move(tick)) {}
+
+ private:
+  int duration() const override { return -1; }  // without an end
+  void updateState(State now, State) override {
+    if (now == Running) sinceTick_.start();
+  }
+  void updateCurrentTime(int) override {
+    if (state() != Running) return;
+    const double seconds = static_cast<double>(sinceTick_.nsecsElapsed()) * 1e-9;
+    sinceTick_.start();
+    if (!tick_(seconds)) stop();
+  }
+
+  std::function<bool(double)> tick_;
+  QElapsedTimer sinceTick_;
+};
+
+void clearTop(QImage& picture, double points) {
+  if (points == 0) return;
+  QPainter painter(&picture);
+  painter.setCompositionMode(QPainter::CompositionMode_Clear);
+  painter.fillRect(QRectF(0, 0, picture.width(), points), Qt::black);
+}
+
+}  // namespace
 
 SheetSurface::SheetSurface(QObject& self, hosting::WindowSession& window, QString webComponent)
     : SheetSession(window, QtTextEngine::shared()),
       self_(self),
       webComponent_(std::move(webComponent)),
-      clock_([this](double seconds) { return advance(seconds); }) {}
+      clock_(std::make_unique<FrameClock>([this](double seconds) { return advance(seconds); })) {}
 
 bool SheetSurface::handle(QEvent& event) {
   switch (event.type()) {
@@ -46,44 +81,74 @@ bool SheetSurface::handle(QEvent& event) {
   return true;
 }
 
+Qt::CursorShape SheetSurface::cursorAt(QPointF point) {
+  return takesTapAt(toPoint(point)) ? Qt::PointingHandCursor : Qt::ArrowCursor;
+}
+
+void SheetSurface::vanish() {
+  self_.setProperty("visible", false);
+  self_.deleteLater();  // it may be handling an event
+}
+
 void SheetSurface::focusMoved(bool later) {
   ViewAccessible::focusChanged(self_, later ? Qt::QueuedConnection : Qt::DirectConnection);
 }
 
-void SheetSurface::coverChanged() { AccessibilityBridge::coverChanged(); }
+void SheetSurface::coverChanged() { ViewAccessible::coverChanged(); }
 
 // Pictures.
 
-std::vector<SheetSurface::Layer> SheetSurface::paintLayers() {
-  const unsigned revision = presenter().panelRevision();
+bool SheetSurface::followFrame() {
+  if (!isOpen()) return false;
+  paintPictures();
+  if (!followMotion()) return false;
+  const QRectF panel = toRect(presenter().panelFrame());
+  for (const Layer& layer : layers_) layer.shown->moveTo(panel.topLeft() + layer.origin);
+  ground_ = {toQColor(presenter().shade()), panel, toQColor(presenter().panelColor())};
+  ground_.below.setTop(std::min(panel.top() + panelHeight_, panel.bottom()));
+  followPages();
+  return true;
+}
+
+void SheetSurface::paintPictures() {
   const render::Scene& panel = presenter().panel();
-  if (paintedRevision_ == revision && paintedScale_ == scale()) return {};
-  paintedRevision_ = revision;
-  paintedScale_ = scale();
-  ringSize_.reset();
-  std::vector<Layer> layers;
-  for (const auto& layer : hosting::layersOf(panel, presenter().panelColor(), paintedScale_)) {
-    layers.push_back(
-        {paintPicture(layer.scene, paintedScale_, {0, 0, 0, 0}), toPoint(layer.origin)});
+  const layout::Point corner = presenter().panelFrame().origin;
+  Painted now{presenter().panelRevision(), scale(), ringFrame()};
+  // Rounded, because motion moves it by fractions of a pixel.
+  if (now.ring)
+    *now.ring = layout::PixelGrid(now.scale).round(now.ring->translated({-corner.x, -corner.y}));
+  if (painted_ == now) return;
+  painted_ = now;
+  std::size_t count = 0;
+  for (const auto& layer : hosting::layersOf(panel, presenter().panelColor(), now.scale)) {
+    QImage picture = paintPicture(layer.scene, now.scale, {0, 0, 0, 0});
+    if (count == 0) {
+      panelHeight_ = picture.deviceIndependentSize().height();
+      clearTop(picture, hiddenTop_);
+    }
+    setPicture(count++, picture, toPoint(layer.origin));
   }
+  if (now.ring) {
+    const QImage ring = FocusRing::picture(*now.ring, panel.appearance, now.scale);
+    setPicture(count++, ring, FocusRing::frameAround(*now.ring).topLeft());
+  }
+  layers_.erase(layers_.begin() + std::ptrdiff_t(count), layers_.end());
   ViewAccessible::sceneChanged(self_);
-  return layers;
+}
+
+void SheetSurface::setPicture(std::size_t index, const QImage& picture, QPointF origin) {
+  if (layers_.size() == index) layers_.push_back({newPicture(int(index)), {}});
+  layers_[index].shown->setPicture(picture);
+  layers_[index].origin = origin;
 }
 
 void SheetSurface::paintAgain() {
-  paintedRevision_.reset();
+  painted_.reset();
   needsFrame();
 }
 
-std::optional<SheetSurface::Layer> SheetSurface::ring() {
-  const auto frame = ringFrame();
-  if (!frame) return std::nullopt;
-  Layer ring{{}, FocusRing::frameAround(*frame).topLeft()};
-  if (ringSize_ != frame->size) {
-    ring.picture = FocusRing::picture(*frame, presenter().panel().appearance, scale());
-    ringSize_ = frame->size;
-  }
-  return ring;
+void SheetSurface::hideTop(double points) {
+  if (std::exchange(hiddenTop_, points) != points) paintAgain();
 }
 
 // Pages.
@@ -101,13 +166,13 @@ std::unique_ptr<hosting::PageEngine> SheetSurface::openPage(const render::EmbedI
   return std::unique_ptr<WebPage>(open(self_, options, client));
 }
 
-QObject* SheetSurface::viewOf(const hosting::PageEngine& page) {
-  return static_cast<const WebPage&>(page).view();
+QObject& SheetSurface::viewOf(const hosting::PageEngine& page) {
+  return *static_cast<const WebPage&>(page).view();
 }
 
 std::vector<QObject*> SheetSurface::pageViews() const {
   std::vector<QObject*> views;
-  for (const hosting::PageEngine* page : pages()) views.push_back(viewOf(*page));
+  for (const hosting::PageEngine* page : pages()) views.push_back(&viewOf(*page));
   return views;
 }
 

@@ -1,11 +1,11 @@
 #pragma once
 
 #include <QAbstractAnimation>
-#include <QElapsedTimer>
+#include <QColor>
 #include <QImage>
-#include <QPointF>
+#include <QRectF>
 #include <QString>
-#include <functional>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -17,80 +17,85 @@ class QObject;
 
 namespace quorix::qt {
 
-/// Ticks once for each frame while it runs, in step with the window that is drawn. Main thread.
-class QUORIX_EXPORT FrameClock : private QAbstractAnimation {
+/// Shows a picture over a sheet and takes no input. Main thread.
+class SheetPicture {
  public:
-  /// `tick` gets the seconds since the last tick. The clock stops when it returns false.
-  explicit FrameClock(std::function<bool(double)> tick) : tick_(std::move(tick)) {}
-
-  /// Has no effect while it runs.
-  void start() {
-    if (state() == Running) return;
-    sinceTick_.start();
-    QAbstractAnimation::start();
-  }
-  void stop() { QAbstractAnimation::stop(); }
-
- private:
-  int duration() const override { return -1; }  // without an end
-  void updateCurrentTime(int) override {
-    if (state() != Running) return;
-    const double seconds = static_cast<double>(sinceTick_.nsecsElapsed()) * 1e-9;
-    sinceTick_.start();
-    if (!tick_(seconds)) stop();
-  }
-
-  std::function<bool(double)> tick_;
-  QElapsedTimer sinceTick_;
+  virtual ~SheetPicture() = default;
+  virtual void setPicture(const QImage& picture) = 0;
+  virtual void moveTo(QPointF corner) = 0;
 };
 
-/// A sheet over a window of either toolkit. Main thread.
+/// A sheet over a window of either toolkit: events, pictures and pages. Its pictures are, from the
+/// bottom up, the panel, what lies above each page, and the focus ring. Motion moves them without
+/// painting. Main thread.
 class QUORIX_EXPORT SheetSurface : public hosting::SheetSession {
  public:
-  /// A picture of the panel, or of what lies above a page, and its place in the panel.
-  struct Layer {
-    QImage picture;
-    QPointF origin;
-  };
-
   using SheetSession::handle;
   /// Handles an event of the pointer or the keyboard. False for other events.
   bool handle(QEvent& event);
+  Qt::CursorShape cursorAt(QPointF point);
+  /// The views of the pages on show, from the bottom up.
+  std::vector<QObject*> pageViews() const;
 
  protected:
   /// `self` is the derived object, `webComponent` the name of its toolkit's web component.
   SheetSurface(QObject& self, hosting::WindowSession& window, QString webComponent);
 
-  /// Paints the panel again if it or the scale changed; otherwise returns nothing. The first layer
-  /// is the panel itself, down to where only its color is left. Each further one lies above a page.
-  std::vector<Layer> paintLayers();
+  /// Brings pictures and pages up to date before a frame. False if the sheet has closed.
+  bool followFrame();
+  /// What the sheet itself paints, below its pictures.
+  struct Ground {
+    QColor shade;  ///< over the whole window
+    QRectF below;  ///< from where the panel's picture ends to the window's bottom
+    QColor color;  ///< of that
+  };
+  const Ground& ground() const { return ground_; }
   /// The pictures were lost: paints them again.
   void paintAgain();
-  /// The place of the focus ring, with its picture if that changed.
-  std::optional<Layer> ring();
+  /// Leaves out the uppermost `points` of the panel, which a page covers: the panel's color would
+  /// show at the page's edge.
+  void hideTop(double points);
 
+  SheetPicture& picture(int index) const { return *layers_[std::size_t(index)].shown; }
+  /// The view of a page on show.
+  static QObject& viewOf(const hosting::PageEngine& page);
   std::unique_ptr<hosting::PageEngine> openPage(const render::EmbedItem& embed,
                                                 hosting::PageEngine::Client& client) override;
 
-  /// The view of a page on show.
-  static QObject* viewOf(const hosting::PageEngine& page);
-  /// The views of the pages on show, from the bottom up.
-  std::vector<QObject*> pageViews() const;
-
  private:
-  void startClock() override { clock_.start(); }
-  void stopClock() override { clock_.stop(); }
+  /// Makes a picture above those before it; `index` counts from the panel.
+  virtual std::unique_ptr<SheetPicture> newPicture(int index) = 0;
+
+  void startClock() override { clock_->start(); }
+  void stopClock() override { clock_->stop(); }
+  void vanish() override;
   void focusMoved(bool later) override;
   void coverChanged() override;
   bool canShowPages() const override;
   bool opensPagesAtOnce() const override;
+  void paintPictures();
+  void setPicture(std::size_t index, const QImage& picture, QPointF origin);
+
+  struct Layer {
+    std::unique_ptr<SheetPicture> shown;
+    QPointF origin;  ///< in the panel
+  };
+  /// What the pictures show.
+  struct Painted {
+    unsigned revision;
+    double scale;
+    std::optional<layout::Rect> ring;  ///< in the panel
+    bool operator==(const Painted&) const = default;
+  };
 
   QObject& self_;
   QString webComponent_;
-  FrameClock clock_;
-  std::optional<unsigned> paintedRevision_;
-  double paintedScale_ = 0;
-  std::optional<layout::Size> ringSize_;  ///< in the latest picture
+  std::unique_ptr<QAbstractAnimation> clock_;
+  std::vector<Layer> layers_;
+  std::optional<Painted> painted_;
+  double panelHeight_ = 0;  ///< of the panel's picture
+  double hiddenTop_ = 0;
+  Ground ground_;
 };
 
 }  // namespace quorix::qt

@@ -1,14 +1,23 @@
 #include "qt/WindowScene.h"
 
 #include <QGuiApplication>
-#include <QWindow>
 
-#include "qt/SafeAreaWatcher.h"
+#include "platform/hosting/SheetSession.h"
 
 namespace quorix::qt {
 
-WindowScene* WindowScene::find(const QObject& window) {
+namespace {
+
+/// Null before a view of the window needs one.
+WindowScene* find(const QObject& window) {
   return window.findChild<WindowScene*>(QString(), Qt::FindDirectChildrenOnly);
+}
+
+}  // namespace
+
+const hosting::Responder* WindowScene::topmostOf(const QObject* window) {
+  const WindowScene* scene = window ? find(*window) : nullptr;
+  return scene ? scene->topmost() : nullptr;
 }
 
 WindowScene& WindowScene::of(QObject& window, const Toolkit& toolkit) {
@@ -22,30 +31,23 @@ WindowScene::WindowScene(QObject& window, const Toolkit& toolkit)
   focusWindowChanged(QGuiApplication::focusWindow());
 }
 
-WindowScene::~WindowScene() { delete safeArea_; }
-
 bool WindowScene::isVisible() const {
   const QWindow* window = toolkit_.window();
   return window && window->isVisible();
 }
 
 hosting::SheetSession& WindowScene::newSheet(const hosting::Responder* opener) {
-  followSafeArea();
-  return toolkit_.newSheet(*this, opener);
-}
-
-/// Qt may have made a widget's native window anew since the last sheet.
-void WindowScene::followSafeArea() {
-  QWindow* window = toolkit_.window();
-  if (!window || (safeArea_ && safeArea_->parent() == window)) return;
-  delete safeArea_;
-  const auto follow = [this] {
-    const QMargins covered = safeArea_->covered();
+  const auto follow = [this](QMargins covered) {
     setSafeArea({double(covered.top()), double(covered.left()), double(covered.bottom()),
                  double(covered.right())});
   };
-  safeArea_ = new SafeAreaWatcher(*window, follow);
-  follow();
+  // Qt may have made a widget's native window anew since the last sheet.
+  if (QWindow* window = toolkit_.window()) {
+    auto watcher = std::make_unique<SafeAreaWatcher>(*window, follow);
+    follow(watcher->covered());
+    safeArea_ = std::move(watcher);
+  }
+  return toolkit_.newSheet(*this, opener);
 }
 
 void WindowScene::focusWindowChanged(QWindow* focused) {

@@ -3,54 +3,54 @@
 #include <QImage>
 #include <QPointF>
 #include <QQuickItem>
-#include <QSGNode>
 #include <functional>
-#include <optional>
 
-class QQuickWindow;
-class QSGImageNode;
+#include "qt/SheetSurface.h"
+
+class QSGNode;
 
 namespace quorix::qt {
 
-/// Shows a picture in the scene graph, pixel by pixel of the window. It is a transform node because
-/// the software renderer places a new node only by a parent of that kind. Render thread, during
-/// synchronization.
-class PictureNode : public QSGTransformNode {
+/// The picture of an item, for the scene graph to show pixel by pixel of the window. Main thread,
+/// except `show`.
+class NodePicture {
  public:
-  /// Uploads `image`; a null image removes the texture.
-  void setPicture(QQuickWindow& window, const QImage& image);
-  /// Where the picture's top left is, in the item's coordinates.
-  void setOrigin(QPointF origin);
-  /// Does not draw the uppermost `points` of the picture.
-  void hideTop(double points);
-  bool hasPicture() const { return image_ != nullptr; }
+  /// `lost` has to set the picture again: the scene graph was made anew while the window was
+  /// hidden. It is called on a later turn.
+  NodePicture(QQuickItem& item, std::function<void()> lost) : item_(item), lost_(std::move(lost)) {}
+
+  /// A null picture frees the former one.
+  void set(const QImage& picture);
+  bool isNull() const { return isNull_; }
+  /// Makes or changes the item's node: the picture's top left is at `origin`. Render thread, during
+  /// synchronization.
+  QSGNode* show(QSGNode* old, QPointF origin = {});
 
  private:
-  void layOut();
-
-  QSGImageNode* image_ = nullptr;
-  QSizeF size_;
-  double hidden_ = 0;
+  QQuickItem& item_;
+  std::function<void()> lost_;
+  QImage picture_;  ///< until the scene graph takes it
+  bool isNull_ = true;
 };
 
 /// Shows a picture at its place and takes no input. Main thread.
-class PictureItem : public QQuickItem {
+class PictureItem final : public QQuickItem, public SheetPicture {
  public:
-  /// `lost` has to set the picture again: the scene graph was made anew while the window was
-  /// hidden.
-  PictureItem(QQuickItem& parent, std::function<void()> lost);
-  void setPicture(const QImage& picture);
-  /// Does not draw the uppermost `points` of the picture.
-  void hideTop(double points);
+  /// For `lost` see `NodePicture`.
+  PictureItem(QQuickItem& parent, std::function<void()> lost)
+      : QQuickItem(&parent), picture_(*this, std::move(lost)) {
+    setFlag(ItemHasContents);
+  }
+  void setPicture(const QImage& picture) override { picture_.set(picture); }
+  void moveTo(QPointF corner) override { setPosition(corner); }
 
  protected:
-  QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) override;
+  QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData*) override {
+    return picture_.show(old);
+  }
 
  private:
-  std::function<void()> lost_;
-  std::optional<QImage> picture_;  ///< until the scene graph takes it
-  bool isEmpty_ = true;
-  double hidden_ = 0;
+  NodePicture picture_;
 };
 
 }  // namespace quorix::qt

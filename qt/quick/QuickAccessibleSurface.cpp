@@ -6,8 +6,7 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 
-#include "qt/accessibility/AccessibilityBridge.h"
-#include "qt/quick/SheetItem.h"
+#include "qt/WindowScene.h"
 
 namespace quorix::qt {
 namespace {
@@ -31,31 +30,18 @@ QQmlAttachedPropertiesFunc attachAccessible() {
 
 }  // namespace
 
-QQuickItem* QuickAccessibleSurface::itemOf(const hosting::Responder* responder) {
-  const auto* surface = dynamic_cast<const QuickAccessibleSurface*>(responder);
-  return surface ? &surface->item_ : nullptr;
-}
-
 void QuickAccessibleSurface::offer() {
-  if (!AccessibilityBridge::isActive()) return;
+  if (!areRead()) return;
   if (const QQmlAttachedPropertiesFunc attach = attachAccessible()) {
     qmlAttachedPropertiesObject(&item_, attach, true);
   }
 }
-
-void QuickAccessibleSurface::takeFocus() { item_.forceActiveFocus(Qt::OtherFocusReason); }
 
 QRect QuickAccessibleSurface::onScreen(const layout::Rect& frame) const {
   const QRectF local(frame.left(), frame.top(), frame.size.width, frame.size.height);
   const QSizeF size = item_.mapRectToScene(local).size();
   return QRectF(item_.mapToGlobal(local.topLeft()), size).toRect();
 }
-
-QRect QuickAccessibleSurface::onScreen() const {
-  return onScreen({{}, {item_.width(), item_.height()}});
-}
-
-QWindow* QuickAccessibleSurface::accessibleWindow() const { return item_.window(); }
 
 QObject* QuickAccessibleSurface::accessibleParent() const {
   QQuickWindow* window = item_.window();
@@ -66,13 +52,14 @@ QObject* QuickAccessibleSurface::accessibleParent() const {
   return window;
 }
 
-bool QuickAccessibleSurface::isShown() const {
-  return item_.isVisible() && item_.window() && item_.window()->isVisible();
+bool QuickAccessibleSurface::liesOver(const QQuickItem& sheet, const QQuickItem* item) {
+  while (item && item->parentItem() != sheet.parentItem()) item = item->parentItem();
+  return item && item != &sheet && item->z() <= sheet.z();
 }
 
 bool QuickAccessibleSurface::isCovered() const {
-  const SheetItem* sheet = item_.window() ? SheetItem::topmost(*item_.window()) : nullptr;
-  return sheet && sheet->liesOver(&item_);
+  const QQuickItem* sheet = itemOf(WindowScene::topmostOf(item_.window()));
+  return sheet && liesOver(*sheet, &item_);
 }
 
 }  // namespace quorix::qt

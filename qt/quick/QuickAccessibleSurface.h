@@ -1,28 +1,39 @@
 #pragma once
 
-#include "qt/accessibility/AccessibilityBridge.h"
+#include <QQuickItem>
+#include <QQuickWindow>
 
-class QQuickItem;
+#include "qt/Surface.h"
 
 namespace quorix::qt {
 
-/// Implements an accessible surface for any item of a Qt Quick window.
-class QuickAccessibleSurface : public AccessibleSurface {
+/// Implements a surface for any item of a Qt Quick window.
+class QuickAccessibleSurface : public Surface {
  public:
-  explicit QuickAccessibleSurface(QQuickItem& item) : item_(item) {}
+  QuickAccessibleSurface(QQuickItem& item, hosting::Responder& responder)
+      : Surface(item, responder), item_(item) {}
   /// The item that shows `responder`; null for null.
-  static QQuickItem* itemOf(const hosting::Responder* responder);
+  static QQuickItem* itemOf(const hosting::Responder* responder) {
+    const auto* surface = dynamic_cast<const QuickAccessibleSurface*>(responder);
+    return surface ? &surface->item_ : nullptr;
+  }
 
+  void takeFocus() override { item_.forceActiveFocus(Qt::OtherFocusReason); }
+  QRect onScreen(const layout::Rect& frame) const override;
+  QRect onScreen() const override { return onScreen({{}, {item_.width(), item_.height()}}); }
+  QWindow* accessibleWindow() const override { return item_.window(); }
+  QObject* accessibleParent() const override;
+  bool isShown() const override {
+    return item_.isVisible() && item_.window() && item_.window()->isVisible();
+  }
+  bool isCovered() const override;
+  /// Whether `item` of the same window is below `sheet`, unlike a pop-up that opened later.
+  static bool liesOver(const QQuickItem& sheet, const QQuickItem* item);
+  void accessibilityBegan() override { offer(); }
+
+ protected:
   /// Makes Qt Quick offer the item to assistive technology. Does nothing while none listens.
   void offer();
-
-  void takeFocus() override;
-  QRect onScreen(const layout::Rect& frame) const override;
-  QRect onScreen() const override;
-  QWindow* accessibleWindow() const override;
-  QObject* accessibleParent() const override;
-  bool isShown() const override;
-  bool isCovered() const override;
 
  private:
   QQuickItem& item_;

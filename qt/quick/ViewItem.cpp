@@ -11,7 +11,7 @@
 #include "qt/Conversions.h"
 #include "qt/Engine.h"
 #include "qt/Input.h"
-#include "qt/accessibility/ViewAccessible.h"
+#include "qt/ViewAccessible.h"
 #include "qt/quick/ViewSurface.h"
 
 namespace quorix::qt {

@@ -6,16 +6,10 @@
 #include <utility>
 
 #include "qt/Conversions.h"
-#include "qt/Desktop.h"
-#include "qt/accessibility/AccessibilityBridge.h"
+#include "qt/Surface.h"
 
 namespace quorix::qt {
 namespace {
-
-QHash<QQuickWindow*, WindowWatcher*>& watchers() {
-  static QHash<QQuickWindow*, WindowWatcher*> all;
-  return all;
-}
 
 /// How many items are checked in each frame, moved or not: all of an ordinary page.
 constexpr std::size_t kLooks = 8;
@@ -41,26 +35,21 @@ QRectF seenIn(const QQuickItem* parent) {
 }  // namespace
 
 WindowWatcher& WindowWatcher::of(QQuickWindow& window) {
-  WindowWatcher*& watcher = watchers()[&window];
-  if (!watcher) watcher = new WindowWatcher(window);
-  return *watcher;
+  auto* watcher = window.findChild<WindowWatcher*>(QString(), Qt::FindDirectChildrenOnly);
+  return watcher ? *watcher : *new WindowWatcher(window);
 }
 
 WindowWatcher::WindowWatcher(QQuickWindow& window) : QObject(&window), window_(window) {
-  const auto visibility = [this] {
-    tellAll([](Client& client) { client.windowVisibilityChanged(); });
-  };
-  connect(&window, &QWindow::visibilityChanged, this, visibility);
+  connect(&window, &QWindow::visibilityChanged, this, [&window] {
+    Surface::forEach([&](Surface& surface) {
+      if (surface.accessibleWindow() == &window) surface.windowStateChanged();
+    });
+  });
   connect(&window, &QQuickWindow::afterAnimating, this, &WindowWatcher::frame);
-  connect(Desktop::instance(), &Desktop::changed, this,
-          [this] { tellAll([](Client& client) { client.desktopChanged(); }); });
-  connect(AccessibilityBridge::instance(), &AccessibilityBridge::began, this,
-          [this] { tellAll([](Client& client) { client.accessibilityBegan(); }); });
 }
 
 WindowWatcher::~WindowWatcher() {
   for (const Entry& entry : entries_) entry.client->watcher_ = nullptr;
-  watchers().remove(&window_);
 }
 
 void WindowWatcher::add(Client& client, QQuickItem& parent) {
@@ -132,20 +121,6 @@ void WindowWatcher::lookAtSome() {
     Entry& entry = entries_[next_++];
     entry.bounds.reset();
     entry.client->placeMayHaveChanged();
-  }
-}
-
-template <class Call>
-void WindowWatcher::tellAll(Call call) {
-  // A client may add and remove clients meanwhile, which reorders the entries.
-  const unsigned round = ++round_;
-  for (bool again = true; std::exchange(again, false);) {
-    for (std::size_t i = 0; i < entries_.size(); ++i) {
-      Client& client = *entries_[i].client;
-      if (std::exchange(client.toldIn_, round) == round) continue;
-      again = true;
-      call(client);
-    }
   }
 }
 

@@ -15,8 +15,8 @@ class QQuickWindow;
 
 namespace quorix::qt {
 
-/// Tells the view items of one window what changes around them: one set of connections for all, and
-/// in each frame one search for the items that scrolled into sight. Belongs to the window; main
+/// Tells the view items of one window what changes around them: one connection for all, and in each
+/// frame one search for the items that scrolled into sight. Belongs to the window; main
 /// thread.
 ///
 /// Qt Quick does not signal that an ancestor moved. Items are therefore grouped by parent, and only
@@ -29,11 +29,6 @@ class WindowWatcher : public QObject {
   class Client {
    public:
     virtual ~Client() = default;
-    /// The window was shown, hidden or minimized.
-    virtual void windowVisibilityChanged() = 0;
-    virtual void desktopChanged() = 0;
-    virtual void accessibilityBegan() = 0;
-
     virtual layout::Rect boundsInParent() const = 0;
     /// Before a frame: the item may have come into sight, left it, or moved in it.
     virtual void placeMayHaveChanged() = 0;
@@ -46,7 +41,6 @@ class WindowWatcher : public QObject {
     friend class WindowWatcher;
     WindowWatcher* watcher_ = nullptr;
     std::size_t index_ = 0;
-    unsigned toldIn_ = 0;
   };
 
   static WindowWatcher& of(QQuickWindow& window);
@@ -66,8 +60,6 @@ class WindowWatcher : public QObject {
   ~WindowWatcher() override;
   void frame();
   void lookAtSome();
-  template <class Call>
-  void tellAll(Call call);
 
   /// The items of one parent.
   struct Group {
@@ -90,7 +82,6 @@ class WindowWatcher : public QObject {
   std::unordered_map<QQuickItem*, Group> groups_;
   std::vector<Entry> entries_;
   std::size_t next_ = 0;  ///< the entry that `lookAtSome` begins with
-  unsigned round_ = 0;    ///< counts the calls of `tellAll`
 };
 
 }  // namespace quorix::qt

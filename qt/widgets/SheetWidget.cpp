@@ -3,251 +3,259 @@
 #include <QApplication>
 #include <QHoverEvent>
 #include <QPainter>
-#include <algorithm>
+#include <QPointer>
+#include <memory>
 #include <utility>
+#include <vector>
 
 #include "qt/Conversions.h"
-#include "qt/WindowScene.h"
-#include "qt/accessibility/AccessibilityBridge.h"
+#include "qt/SheetSurface.h"
+#include "qt/widgets/WidgetAccessibleSurface.h"
 
 namespace quorix::qt {
+namespace {
 
-SheetWidget::SheetWidget(QWidget& window, hosting::WindowSession& session)
-    : QWidget(&window),
-      SheetSurface(static_cast<QObject&>(*this), session, QStringLiteral("QuorixWebWidgets")),
-      WidgetAccessibleSurface(static_cast<QWidget&>(*this)) {
-  setAttribute(Qt::WA_AcceptTouchEvents);
-  setAttribute(Qt::WA_Hover);
-  setFocusPolicy(Qt::StrongFocus);
-  setCursor(Qt::ArrowCursor);  // instead of the window's
-  hide();                      // until `comeUp`
-  AccessibilityBridge::instance()->add(*this, *this);
-  window.installEventFilter(this);
-  connect(qApp, &QApplication::focusChanged, this,
-          [this](QWidget*, QWidget* now) { holdFocus(now); });
-  setGeometry(window.rect());
-  followSize();
-}
-
-SheetWidget::~SheetWidget() { AccessibilityBridge::remove(*this); }
-
-const SheetWidget* SheetWidget::topmost(const QWidget& window) {
-  const WindowScene* scene = WindowScene::find(window);
-  return scene ? static_cast<const SheetWidget*>(scene->topmost()) : nullptr;
-}
-
-// Focus.
-
-void SheetWidget::comeUp() {
-  show();
-  raise();
-}
-
-SheetWidget::FocusReturn SheetWidget::focusReturn() {
-  return [this, before = QPointer(window()->focusWidget())] {
-    const bool there =
-        before && before->window() == window() && before->isVisible() && before->isEnabled();
-    if (there) before->setFocus(Qt::PopupFocusReason);
-    return there;
-  };
-}
-
-void SheetWidget::vanish() {
-  hide();
-  deleteLater();  // it may be handling an event
-}
-
-void SheetWidget::holdFocus(QWidget* now) {
-  if (now && hasPageFocus()) pageTookFocus();
-  // A shortcut of the host may have moved the focus below the sheet.
-  const bool below = now && now != this && now->window() == window() && !isAncestorOf(now);
-  if (below) focusWentBelow();
-}
-
-bool SheetWidget::focusNextPrevChild(bool next) {
-  if (isClosed()) return QWidget::focusNextPrevChild(next);
-  if (!hasPageFocus()) {
-    walk(next);
-  } else if (window()->focusWidget()->isVisible()) {
-    leavePages(next);
-  } else {
-    takeFocusFromPages();  // not the user's key: Qt hides a page whose process ended
+/// Takes taps over the pages of a sheet. It is as large as the sheet, but its mask holds only the
+/// areas where something acts. Passes its events to the sheet.
+class SheetWidgetFront : public QWidget {
+ public:
+  SheetWidgetFront(QWidget& parent, SheetSurface& sheet) : QWidget(&parent), sheet_(sheet) {
+    setAttribute(Qt::WA_AcceptTouchEvents);
+    setFocusPolicy(Qt::NoFocus);
+    setCursor(Qt::PointingHandCursor);
   }
-  return true;
-}
 
-// Frame.
-
-void SheetWidget::needsFrame() {
-  if (std::exchange(settleQueued_, true)) return;
-  QMetaObject::invokeMethod(
-      this, [this] { settleQueued_ = false, settle(); }, Qt::QueuedConnection);
-}
-
-void SheetWidget::settle() {
-  if (!isOpen()) return;
-  updateLayers();
-  if (!followMotion()) return;
-  stack_.clear();
-  followPages();
-  updateFront();
-  updateRing();
-  update();
-}
-
-/// Paints the panel anew if needed. Also called from a paint event that comes before `settle`,
-/// where the layers must not change.
-void SheetWidget::updatePanel() {
-  auto layers = paintLayers();
-  if (layers.empty()) return;
-  picture_ = layers.front().picture;
-  repainted_ = std::move(layers);
-}
-
-void SheetWidget::updateLayers() {
-  updatePanel();
-  if (repainted_.empty()) return;
-  while (layers_.size() + 1 > repainted_.size()) {
-    delete layers_.back().picture;
-    layers_.pop_back();
+  /// Takes its mask from the sheet's whole display list.
+  void follow(const render::Scene& scene) {
+    QRegion acting;
+    for (std::size_t i = 0; i < scene.hitAreas.size(); ++i) {
+      QRegion area = toRect(scene.hitAreas[i].frame).toAlignedRect();
+      for (const render::Item& item : scene.items) {
+        const auto* embed = std::get_if<render::EmbedItem>(&item);
+        if (embed && i < embed->hitAreasBelow) area -= toRect(embed->room()).toAlignedRect();
+      }
+      acting += area;
+    }
+    setGeometry(parentWidget()->rect());
+    // Qt reads an empty mask as none.
+    setVisible(!acting.isEmpty());
+    if (!acting.isEmpty() && acting != mask()) setMask(acting);
   }
-  for (std::size_t i = 1; i < repainted_.size(); ++i) {
-    if (layers_.size() < i) layers_.push_back({new PictureWidget(*this), {}});
-    layers_[i - 1].origin = repainted_[i].origin;
-    layers_[i - 1].picture->setPicture(repainted_[i].picture);
+
+ protected:
+  bool event(QEvent* event) override {
+    return (isEnabled() && sheet_.handle(*event)) || QWidget::event(event);
   }
-  repainted_.clear();
-}
 
-/// Places what is above the pages. Without a page these are pictures on the panel.
-void SheetWidget::updateFront() {
-  const layout::Point corner = presenter().panelFrame().origin;
-  for (const ShownLayer& layer : layers_) {
-    layer.picture->move((toPoint(corner) + layer.origin).toPoint());
-    if (!stack_.contains(layer.picture)) stack_.append(layer.picture);
+ private:
+  SheetSurface& sheet_;
+};
+
+class PictureWidget final : public QWidget, public SheetPicture {
+ public:
+  explicit PictureWidget(QWidget& parent) : QWidget(&parent) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    show();
   }
-  if (pageViews().empty()) return;
-  if (!front_) front_ = new SheetWidgetFront(*this);
-  front_->setGeometry(rect());
-  front_->follow(presenter().scene());
-  stack_.append(front_);
-  QList<QObject*> standing = children();
-  standing.removeIf([&](QObject* child) { return !stack_.contains(child); });
-  const bool stands = std::equal(standing.begin(), standing.end(), stack_.begin(), stack_.end());
-  if (stands) return;
-  for (QWidget* widget : stack_) widget->raise();
-}
-
-void SheetWidget::updateRing() {
-  const auto around = ring();
-  if (!ring_ && around) ring_ = new PictureWidget(*this);
-  if (!ring_) return;
-  if (around && !around->picture.isNull()) ring_->setPicture(around->picture);
-  ring_->setVisible(around.has_value());
-  if (!around) return;
-  ring_->move(around->origin.toPoint());
-  if (children().constLast() != ring_) ring_->raise();
-}
-
-void SheetWidget::paintEvent(QPaintEvent*) {
-  if (!isOpen()) return;
-  updatePanel();
-  const layout::Rect frame = presenter().panelFrame();
-  const double bottom = frame.top() + picture_.deviceIndependentSize().height();
-  QPainter painter(this);
-  painter.fillRect(rect(), toQColor(presenter().shade()));
-  painter.drawImage(QPointF(frame.left(), frame.top()), picture_);
-  if (bottom < height()) {
-    painter.fillRect(QRectF(frame.left(), bottom, frame.size.width, height() - bottom),
-                     toQColor(presenter().panelColor()));
+  void setPicture(const QImage& picture) override { picture_ = picture; }
+  void moveTo(QPointF corner) override {
+    setGeometry(QRectF(corner, picture_.deviceIndependentSize()).toAlignedRect());
+    offset_ = corner - pos();
   }
-  QMetaObject::invokeMethod(
-      this, [this] { wasShown(); }, Qt::QueuedConnection);
-}
 
-// Pages.
+ protected:
+  void paintEvent(QPaintEvent*) override { QPainter(this).drawImage(offset_, picture_); }
 
-std::unique_ptr<hosting::PageEngine> SheetWidget::openPage(const render::EmbedItem& embed,
-                                                           hosting::PageEngine::Client& client) {
-  activeBefore_ = isActiveWindow() ? window()->internalWinId() : 0;
-  return SheetSurface::openPage(embed, client);
-}
+ private:
+  QImage picture_;
+  QPointF offset_;
+};
 
-void SheetWidget::placePage(hosting::PageEngine& engine, const hosting::PagePlace& place,
-                            int index) {
-  auto* page = qobject_cast<QWidget*>(viewOf(engine));
-  if (!page) return;
-  page->setGeometry(toRect(place.room).toAlignedRect());
-  page->show();
-  // For the first widget that is drawn by other means than the rest, Qt makes the native window
-  // anew, which is then not active.
-  const WId before = std::exchange(activeBefore_, 0);
-  if (before && window()->internalWinId() != before) activateWindow();
-  stack_.append(page);
-  if (std::size_t(index) < layers_.size()) stack_.append(layers_[std::size_t(index)].picture);
-}
-
-void SheetWidget::focusPage(hosting::PageEngine& engine, bool forward) {
-  if (auto* page = qobject_cast<QWidget*>(viewOf(engine))) {
-    page->setFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+/// A child of the window; deletes itself after it closed.
+class SheetWidget final : public QWidget, public SheetSurface, public WidgetAccessibleSurface {
+ public:
+  SheetWidget(QWidget& window, hosting::WindowSession& session)
+      : QWidget(&window),
+        SheetSurface(static_cast<QObject&>(*this), session, QStringLiteral("QuorixWebWidgets")),
+        WidgetAccessibleSurface(static_cast<QWidget&>(*this), *this) {
+    setAttribute(Qt::WA_AcceptTouchEvents);
+    setAttribute(Qt::WA_Hover);
+    setFocusPolicy(Qt::StrongFocus);
+    setCursor(Qt::ArrowCursor);  // instead of the window's
+    hide();                      // until `comeUp`
+    window.installEventFilter(this);
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](QWidget*, QWidget* now) { holdFocus(now); });
+    setGeometry(window.rect());
+    followSize();
   }
-}
 
-bool SheetWidget::hasPageFocus() const {
-  const QWidget* focused = window()->focusWidget();
-  return focused && focused != this && isAncestorOf(focused);
-}
-
-void SheetWidget::takeFocusFromPages() {
-  // If a page's process ended, the window may have no focused widget.
-  if (hasPageFocus() || !window()->focusWidget()) setFocus(Qt::OtherFocusReason);
-}
-
-void SheetWidget::resizeEvent(QResizeEvent*) { followSize(); }
-
-void SheetWidget::followSize() { windowResized({double(width()), double(height())}); }
-
-// Events. None of them reaches what is below the sheet.
-
-bool SheetWidget::event(QEvent* event) {
-  switch (event->type()) {
-    case QEvent::HoverEnter:
-    case QEvent::HoverMove:
-      pointAt(static_cast<QHoverEvent*>(event)->position());
-      return true;
-    case QEvent::HoverLeave:
-    case QEvent::ContextMenu:
-    case QEvent::ToolTip:
-    case QEvent::WhatsThis:
-      event->accept();
-      return true;
-    case QEvent::ScreenChangeInternal:
-      followScale();
-      break;
-    default:
-      break;
+ protected:
+  // None of the events reaches what is below the sheet.
+  bool event(QEvent* event) override {
+    switch (event->type()) {
+      case QEvent::HoverEnter:
+      case QEvent::HoverMove:
+        setCursor(cursorAt(static_cast<QHoverEvent*>(event)->position()));
+        return true;
+      case QEvent::HoverLeave:
+      case QEvent::ContextMenu:
+      case QEvent::ToolTip:
+      case QEvent::WhatsThis:
+        event->accept();
+        return true;
+      case QEvent::ScreenChangeInternal:
+        followScale();
+        break;
+      default:
+        break;
+    }
+    return (isEnabled() && handle(*event)) || QWidget::event(event);
   }
-  return (isEnabled() && handle(*event)) || QWidget::event(event);
-}
 
-bool SheetWidget::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == parentWidget() && !isClosed()) {
-    if (event->type() == QEvent::Resize) setGeometry(parentWidget()->rect());
-    if (event->type() == QEvent::ChildAdded && isTopmost()) raiseAll();
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (watched == parentWidget() && !isClosed()) {
+      if (event->type() == QEvent::Resize) setGeometry(parentWidget()->rect());
+      if (event->type() == QEvent::ChildAdded && isTopmost()) raiseAll();
+    }
+    return QWidget::eventFilter(watched, event);
   }
-  return QWidget::eventFilter(watched, event);
-}
 
-/// Raises the window's sheets, in their order, above widgets that were added later.
-void SheetWidget::raiseAll() {
-  const auto sheets = parentWidget()->findChildren<SheetWidget*>(Qt::FindDirectChildrenOnly);
-  for (SheetWidget* sheet : sheets) {
-    if (sheet->isOpen()) sheet->raise();
+  void resizeEvent(QResizeEvent*) override {
+    followSize();
+    settle();
   }
+
+  void paintEvent(QPaintEvent*) override {
+    if (!isOpen()) return;
+    QPainter painter(this);
+    painter.fillRect(rect(), ground().shade);
+    painter.fillRect(ground().below, ground().color);
+    QMetaObject::invokeMethod(
+        this, [this] { wasShown(); }, Qt::QueuedConnection);
+  }
+
+  bool focusNextPrevChild(bool next) override {
+    if (isClosed()) return QWidget::focusNextPrevChild(next);
+    if (!hasPageFocus()) {
+      walk(next);
+    } else if (window()->focusWidget()->isVisible()) {
+      leavePages(next);
+    } else {
+      takeFocusFromPages();  // not the user's key: Qt hides a page whose process ended
+    }
+    return true;
+  }
+
+ private:
+  double scale() const override { return devicePixelRatioF(); }
+  void followSize() { windowResized({double(width()), double(height())}); }
+
+  void needsFrame() override {
+    if (std::exchange(settleQueued_, true)) return;
+    QMetaObject::invokeMethod(
+        this, [this] { settleQueued_ = false, settle(); }, Qt::QueuedConnection);
+  }
+
+  void settle() {
+    if (!followFrame()) return;
+    if (front_) front_->follow(presenter().scene());
+    update();
+  }
+
+  std::unique_ptr<SheetPicture> newPicture(int) override {
+    return std::make_unique<PictureWidget>(*this);
+  }
+
+  void comeUp() override {
+    show();
+    raise();
+  }
+
+  /// Raises the window's sheets, in their order, above widgets that were added later.
+  void raiseAll() {
+    const QObjectList children = parentWidget()->children();
+    for (QObject* child : children) {
+      auto* sheet = dynamic_cast<SheetWidget*>(child);
+      if (sheet && sheet->isOpen()) sheet->raise();
+    }
+  }
+
+  // Focus.
+
+  FocusReturn focusReturn() override {
+    return [this, before = QPointer(window()->focusWidget())] {
+      const bool there =
+          before && before->window() == window() && before->isVisible() && before->isEnabled();
+      if (there) before->setFocus(Qt::PopupFocusReason);
+      return there;
+    };
+  }
+
+  void takeFocus() override { setFocus(Qt::PopupFocusReason); }
+  bool hasFocus() const override { return QWidget::hasFocus(); }
+  bool holdsFocus() const override { return window()->focusWidget() == this || hasPageFocus(); }
+  void dropFocus() override { window()->focusWidget()->clearFocus(); }
+
+  void holdFocus(QWidget* now) {
+    if (now && hasPageFocus()) pageTookFocus();
+    // A shortcut of the host may have moved the focus below the sheet.
+    const bool below = now && now != this && now->window() == window() && !isAncestorOf(now);
+    if (below) focusWentBelow();
+  }
+
+  // Pages.
+
+  std::unique_ptr<hosting::PageEngine> openPage(const render::EmbedItem& embed,
+                                                hosting::PageEngine::Client& client) override {
+    activeBefore_ = isActiveWindow() ? window()->internalWinId() : 0;
+    auto page = SheetSurface::openPage(embed, client);
+    if (!front_) front_ = new SheetWidgetFront(*this, *this);
+    front_->raise();
+    return page;
+  }
+
+  void placePage(hosting::PageEngine& engine, const hosting::PagePlace& place, int index) override {
+    auto& page = static_cast<QWidget&>(viewOf(engine));
+    page.setGeometry(toRect(place.room).toAlignedRect());
+    page.show();
+    // For the first widget that is drawn by other means than the rest, Qt makes the native window
+    // anew, which is then not active.
+    const WId before = std::exchange(activeBefore_, 0);
+    if (before && window()->internalWinId() != before) activateWindow();
+    page.stackUnder(&static_cast<PictureWidget&>(picture(index + 1)));
+  }
+
+  void focusPage(hosting::PageEngine& engine, bool forward) override {
+    static_cast<QWidget&>(viewOf(engine))
+        .setFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+  }
+
+  bool hasPageFocus() const {
+    const QWidget* focused = window()->focusWidget();
+    return focused && focused != this && isAncestorOf(focused);
+  }
+
+  void takeFocusFromPages() override {
+    // If a page's process ended, the window may have no focused widget.
+    if (hasPageFocus() || !window()->focusWidget()) setFocus(Qt::OtherFocusReason);
+  }
+
+  // Accessibility.
+
+  std::vector<QObject*> accessibleViews() const override { return pageViews(); }
+  bool isShown() const override { return !isClosed() && WidgetAccessibleSurface::isShown(); }
+  bool isDialog() const override { return true; }
+
+  SheetWidgetFront* front_ = nullptr;  ///< made with the first page
+  WId activeBefore_ = 0;  ///< the native window in which a page opens, if it was active
+  bool settleQueued_ = false;
+};
+
+}  // namespace
+
+hosting::SheetSession& newSheetWidget(QWidget& window, hosting::WindowSession& session) {
+  return *new SheetWidget(window, session);
 }
 
-void SheetWidget::pointAt(QPointF point) {
-  const auto shape = takesTapAt(toPoint(point)) ? Qt::PointingHandCursor : Qt::ArrowCursor;
-  if (cursor().shape() != shape) setCursor(shape);
-}
 }  // namespace quorix::qt

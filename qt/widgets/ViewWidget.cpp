@@ -8,7 +8,7 @@
 #include "qt/Conversions.h"
 #include "qt/Engine.h"
 #include "qt/Input.h"
-#include "qt/accessibility/ViewAccessible.h"
+#include "qt/ViewAccessible.h"
 #include "qt/widgets/WidgetSurface.h"
 
 namespace quorix::qt {

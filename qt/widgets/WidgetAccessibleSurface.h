@@ -1,23 +1,34 @@
 #pragma once
 
-#include "qt/accessibility/AccessibilityBridge.h"
+#include <QApplication>
+#include <QWidget>
 
-class QWidget;
+#include "qt/Surface.h"
+#include "qt/WindowScene.h"
 
 namespace quorix::qt {
 
-/// Implements an accessible surface for any widget.
-class WidgetAccessibleSurface : public AccessibleSurface {
+/// Implements a surface for any widget.
+class WidgetAccessibleSurface : public Surface {
  public:
-  explicit WidgetAccessibleSurface(QWidget& widget) : widget_(widget) {}
+  WidgetAccessibleSurface(QWidget& widget, hosting::Responder& responder)
+      : Surface(widget, responder), widget_(widget) {}
 
-  void takeFocus() override;
-  QRect onScreen(const layout::Rect& frame) const override;
-  QRect onScreen() const override;
-  QWindow* accessibleWindow() const override;
-  QObject* accessibleParent() const override;
-  bool isShown() const override;
-  bool isCovered() const override;
+  void takeFocus() override { widget_.setFocus(Qt::OtherFocusReason); }
+  QRect onScreen(const layout::Rect& frame) const override {
+    const QPointF corner = widget_.mapToGlobal(QPointF(frame.left(), frame.top()));
+    return QRectF(corner, QSizeF(frame.size.width, frame.size.height)).toRect();
+  }
+  QRect onScreen() const override { return {widget_.mapToGlobal(QPoint()), widget_.size()}; }
+  QWindow* accessibleWindow() const override { return widget_.window()->windowHandle(); }
+  QObject* accessibleParent() const override {
+    return widget_.isWindow() ? static_cast<QObject*>(qApp) : widget_.parentWidget();
+  }
+  bool isShown() const override { return widget_.isVisible(); }
+  bool isCovered() const override {
+    const hosting::Responder* sheet = WindowScene::topmostOf(widget_.window());
+    return sheet && sheet != &responder();
+  }
 
  private:
   QWidget& widget_;

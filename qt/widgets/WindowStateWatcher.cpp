@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "platform/render/Scene.h"
+#include "qt/Surface.h"
 #include "qt/widgets/ViewWidget.h"
 
 namespace quorix::qt {
@@ -37,9 +38,9 @@ bool pass(ViewWidget& widget, QMouseEvent& event) {
 
 }  // namespace
 
-WindowStateWatcher& WindowStateWatcher::of(QWidget& window) {
-  auto* watcher = window.findChild<WindowStateWatcher*>(QString(), Qt::FindDirectChildrenOnly);
-  return watcher ? *watcher : *new WindowStateWatcher(window);
+void WindowStateWatcher::watch(QWidget& window) {
+  if (window.findChild<WindowStateWatcher*>(QString(), Qt::FindDirectChildrenOnly)) return;
+  new WindowStateWatcher(window);
 }
 
 WindowStateWatcher::WindowStateWatcher(QWidget& window) : QObject(&window), window_(window) {
@@ -49,7 +50,9 @@ WindowStateWatcher::WindowStateWatcher(QWidget& window) : QObject(&window), wind
 bool WindowStateWatcher::eventFilter(QObject*, QEvent* event) {
   switch (event->type()) {
     case QEvent::WindowStateChange:
-      emit changed();
+      Surface::forEach([this](Surface& surface) {
+        if (surface.accessibleWindow() == window_.windowHandle()) surface.windowStateChanged();
+      });
       return false;
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:

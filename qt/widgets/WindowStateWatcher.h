@@ -17,10 +17,8 @@ class WindowStateWatcher : public QObject {
   Q_OBJECT
 
  public:
-  static WindowStateWatcher& of(QWidget& window);
-
- signals:
-  void changed();
+  /// Does nothing for a window that is watched.
+  static void watch(QWidget& window);
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

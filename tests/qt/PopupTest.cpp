@@ -3,7 +3,7 @@
 #include <QTest>
 #include <QWidgetAction>
 
-#include "qt/widgets/SheetWidget.h"
+#include "qt/WindowScene.h"
 #include "tests/qt/FeeRow.h"
 #include "tests/qt/Screens.h"
 
@@ -119,7 +119,7 @@ TEST(Popup, InAWindowOfItsOwnTheSheetFillsThatWindow) {
     window == &menu ? menu.popup({30, 30}) : window->show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
     const QPoint onRow = row->mapTo(window, row->rect().center());
-    const auto isOpen = [&] { return qt::SheetWidget::topmost(*window) != nullptr; };
+    const auto isOpen = [&] { return qt::WindowScene::topmostOf(window) != nullptr; };
     for (const bool byKey : {true, false}) {
       QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, onRow);
       screen.settle();

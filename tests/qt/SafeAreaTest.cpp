@@ -3,7 +3,7 @@
 #include <QQmlComponent>
 #include <QQmlEngine>
 
-#include "qt/SafeAreaWatcher.h"
+#include "qt/WindowScene.h"
 #include "tests/qt/FeeRow.h"
 #include "tests/qt/Screens.h"
 
@@ -45,7 +45,7 @@ class DeviceWindow : public QWindow {
 TEST(SafeAreaWatcher, FollowsQtUnlessTheHostSaysOtherwise) {
   DeviceWindow window;
   std::vector<QMargins> told;
-  const qt::SafeAreaWatcher watcher(window, [&] { told.push_back(watcher.covered()); });
+  const qt::SafeAreaWatcher watcher(window, [&](QMargins now) { told.push_back(now); });
   EXPECT_EQ(watcher.covered(), QMargins(0, 47, 0, 34));
   window.margins = {47, 0, 47, 21};
   emit window.safeAreaMarginsChanged(window.margins);
@@ -69,7 +69,7 @@ TEST(SafeAreaWatcher, FollowsAHostInQml) {
     auto* window = qobject_cast<DeviceWindow*>(made.get());
     ASSERT_TRUE(window) << component.errorString().toStdString();
     window->setHeight(8);
-    EXPECT_EQ(qt::SafeAreaWatcher(*window, [] {}).covered(), covered) << edges.data();
+    EXPECT_EQ(qt::SafeAreaWatcher(*window, {}).covered(), covered) << edges.data();
   }
 }
 

@@ -7,8 +7,8 @@
 #include "QuorixWidgets/info/InfoWidgetViewModel.h"
 #include "QuorixWidgets/score/ScoreWidgetBuilder.h"
 #include "platform/swiftui/UIViewRepresentable.h"
-#include "qt/accessibility/AccessibilityBridge.h"
-#include "qt/widgets/SheetWidget.h"
+#include "qt/Surface.h"
+#include "qt/WindowScene.h"
 
 namespace quorix::tool {
 namespace {
@@ -64,11 +64,11 @@ void PreviewScreen::show(const PreviewChoices& choices) {
     QMetaObject::invokeMethod(this, &PreviewScreen::openSheet, Qt::QueuedConnection);
 }
 
-bool PreviewScreen::hasSheet() const { return qt::SheetWidget::topmost(*this) != nullptr; }
+bool PreviewScreen::hasSheet() const { return qt::WindowScene::topmostOf(this) != nullptr; }
 
 /// Performs the widget's first element with an action, like a screen reader.
 void PreviewScreen::openSheet() {
-  qt::AccessibleSurface* surface = qt::AccessibilityBridge::surfaceOf(widget_);
+  qt::Surface* surface = qt::Surface::of(widget_);
   const auto& elements = surface->responder().elements();
   const auto acting =
       std::ranges::find_if(elements, [](const auto& element) { return bool(element.action); });

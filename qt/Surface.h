@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QRect>
+#include <functional>
+#include <vector>
+
+#include "platform/foundation/Export.h"
+#include "platform/hosting/Responder.h"
+
+class QObject;
+class QWindow;
+
+namespace quorix::qt {
+
+/// A view or a sheet in a window of either toolkit: what assistive technology asks it, and what
+/// changes around it. Main thread.
+class QUORIX_EXPORT Surface {
+ public:
+  Surface(const Surface&) = delete;
+  Surface& operator=(const Surface&) = delete;
+
+  /// The surface that `object` shows; null for other objects.
+  static Surface* of(const QObject* object);
+  /// Calls `call` for each surface. It may make and delete surfaces.
+  static void forEach(const std::function<void(Surface&)>& call);
+  /// Whether assistive technology listens.
+  static bool areRead();
+
+  /// The item or the widget.
+  QObject& object() const { return object_; }
+  hosting::Responder& responder() const { return responder_; }
+  /// Objects with accessibility interfaces of their own, such as pages. They come after the
+  /// elements.
+  virtual std::vector<QObject*> accessibleViews() const { return {}; }
+  /// Takes the keyboard focus, for the element that the responder has focused.
+  virtual void takeFocus() = 0;
+
+  /// A frame of the display list on the screen, in points.
+  virtual QRect onScreen(const layout::Rect& frame) const = 0;
+  virtual QRect onScreen() const = 0;
+  virtual QWindow* accessibleWindow() const = 0;
+  /// The nearest ancestor that has an accessibility interface.
+  virtual QObject* accessibleParent() const = 0;
+
+  virtual bool isShown() const = 0;
+  /// Something modal lies over it.
+  virtual bool isCovered() const = 0;
+  virtual bool isDialog() const { return false; }
+
+  virtual void desktopChanged() {}
+  /// A window was shown, hidden or minimized.
+  virtual void windowStateChanged() {}
+  /// Assistive technology listens from now on.
+  virtual void accessibilityBegan() {}
+
+ protected:
+  Surface(QObject& object, hosting::Responder& responder);
+  virtual ~Surface();
+
+ private:
+  QObject& object_;
+  hosting::Responder& responder_;
+};
+
+}  // namespace quorix::qt
