@@ -1,6 +1,5 @@
 #include "QuorixWidgets/localization/Font.h"
 #include "platform/graphics/AssetCatalog.h"
-#include "platform/graphics/FontManager.h"
 #include "platform/swiftui/TreePrinter.h"
 #include "tests/core/Resources.h"
 #include "tests/core/Widgets.h"

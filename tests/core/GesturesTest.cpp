@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <vector>
 
 #include "platform/hosting/Input.h"
 #include "platform/hosting/PageSwipe.h"

@@ -2,11 +2,6 @@
 
 #include <gmock/gmock.h>
 
-#include <optional>
-#include <string>
-#include <variant>
-#include <vector>
-
 namespace quorix::testing {
 namespace {
 

@@ -1,7 +1,4 @@
-#include <gmock/gmock.h>
-
 #include <algorithm>
-#include <map>
 
 #include "platform/uikit/Nib.h"
 #include "platform/uikit/UIImageView.h"

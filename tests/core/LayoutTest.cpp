@@ -1,11 +1,8 @@
 #include <algorithm>
-#include <map>
 #include <sstream>
 #include <stdexcept>
 
 #include "QuorixWidgets/localization/ResourceBundle.h"
-#include "platform/layout/Geometry.h"
-#include "platform/swiftui/Elements.h"
 #include "tests/core/TestWindow.h"
 #include "tests/core/Vectors.h"
 

@@ -5,8 +5,6 @@
 
 #include <algorithm>
 #include <ctime>
-#include <functional>
-#include <string>
 
 #include "platform/foundation/StringsFile.h"
 #include "platform/graphics/AssetContents.h"

@@ -1,8 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <sstream>
-#include <string>
-#include <vector>
 
 #include "platform/hosting/SceneLayers.h"
 #include "platform/hosting/SheetPanel.h"

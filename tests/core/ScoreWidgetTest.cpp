@@ -1,10 +1,8 @@
 #include <algorithm>
 #include <limits>
-#include <map>
 #include <sstream>
 
 #include "QuorixWidgets/score/ScoreWidgetBuilder.h"
-#include "QuorixWidgets/score/ScoreWidgetView.h"
 #include "platform/swiftui/TreePrinter.h"
 #include "tests/core/TestWindow.h"
 #include "tests/core/Vectors.h"

@@ -1,7 +1,6 @@
 #include <deque>
 
 #include "platform/hosting/SheetPanel.h"
-#include "platform/hosting/ViewWindow.h"
 #include "tests/core/OpenedAddresses.h"
 #include "tests/core/TestWindow.h"
 #include "tests/web/PageRow.h"

@@ -1,4 +1,3 @@
-#include "platform/swiftui/Elements.h"
 #include "tests/core/TestWindow.h"
 
 namespace quorix {

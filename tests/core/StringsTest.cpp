@@ -1,7 +1,5 @@
 #include "QuorixWidgets/localization/Strings.h"
 
-#include <gmock/gmock.h>
-
 #include <cmath>
 #include <cstdio>
 #include <limits>

@@ -4,12 +4,11 @@
 
 #include <sstream>
 #include <stdexcept>
-#include <string>
-#include <utility>
 
 #include "platform/foundation/MainQueue.h"
 #include "platform/hosting/ViewWindow.h"
 #include "platform/render/ScenePrinter.h"
+#include "platform/swiftui/Elements.h"
 #include "tests/core/FixedWidthText.h"
 
 namespace quorix::testing {

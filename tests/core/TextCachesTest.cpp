@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <string>
 
 #include "platform/render/TextPictures.h"
 #include "platform/text/LineCache.h"

@@ -1,9 +1,5 @@
 #include <algorithm>
 
-#include "QuorixWidgets/info/InfoWidgetViewModel.h"
-#include "platform/render/Scene.h"
-#include "platform/swiftui/Elements.h"
-#include "platform/swiftui/Environment.h"
 #include "platform/swiftui/UIViewRepresentable.h"
 #include "platform/text/TextAnalysis.h"
 #include "platform/text/TextBound.h"

@@ -1,13 +1,10 @@
 #include "QuorixWidgets/info/UIInfoWidget.h"
 
 #include <deque>
-#include <map>
 
 #include "QuorixWidgets/info/InfoWidgetViewModel.h"
 #include "QuorixWidgets/overlay/WebViewController.h"
 #include "platform/swiftui/UIViewRepresentable.h"
-#include "platform/uikit/UIApplication.h"
-#include "platform/uikit/UIWindow.h"
 #include "platform/uikit/ViewPrinter.h"
 #include "tests/core/Resources.h"
 #include "tests/core/TestWindow.h"

@@ -1,8 +1,6 @@
 #include "platform/uikit/UIView.h"
 
-#include "platform/render/ScenePrinter.h"
 #include "platform/render/Wording.h"
-#include "platform/swiftui/Elements.h"
 #include "platform/swiftui/UIViewRepresentable.h"
 #include "platform/uikit/UILabel.h"
 #include "platform/uikit/ViewPrinter.h"

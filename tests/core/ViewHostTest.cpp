@@ -1,4 +1,3 @@
-#include "platform/swiftui/Elements.h"
 #include "platform/swiftui/UIViewRepresentable.h"
 #include "tests/core/Resources.h"
 #include "tests/core/TestWindow.h"

@@ -1,9 +1,5 @@
 #include "platform/hosting/ViewSession.h"
 
-#include <functional>
-#include <memory>
-
-#include "platform/swiftui/Elements.h"
 #include "tests/core/TestWindow.h"
 
 namespace quorix {

@@ -5,7 +5,6 @@
 #include <limits>
 
 #include "QuorixWidgets/localization/ResourceBundle.h"
-#include "platform/swiftui/Elements.h"
 #include "qt/StillScene.h"
 #include "qt/painting/ScenePainter.h"
 #include "tests/qt/FeeRow.h"

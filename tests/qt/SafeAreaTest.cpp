@@ -1,10 +1,8 @@
 #include "qt/SafeArea.h"
 
 #include <QQmlComponent>
-#include <QQmlEngine>
 
 #include "qt/SafeAreaWatcher.h"
-#include "tests/qt/FeeRow.h"
 #include "tests/qt/Screens.h"
 
 namespace quorix::testing {

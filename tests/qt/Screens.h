@@ -5,15 +5,14 @@
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <QTest>
 #include <QVariantList>
 #include <QWidget>
-#include <memory>
-#include <string>
 #include <type_traits>
 
-#include "platform/swiftui/View.h"
 #include "qt/quick/ViewItem.h"
 #include "qt/widgets/ViewWidget.h"
+#include "tests/qt/FeeRow.h"
 #include "tests/qt/Screen.h"
 
 namespace quorix::testing {

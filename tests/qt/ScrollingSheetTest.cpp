@@ -1,4 +1,3 @@
-#include "tests/qt/FeeRow.h"
 #include "tests/qt/Screens.h"
 
 namespace quorix::testing {

@@ -1,6 +1,3 @@
-#include <QTest>
-
-#include "tests/qt/FeeRow.h"
 #include "tests/qt/Screens.h"
 
 namespace quorix::testing {

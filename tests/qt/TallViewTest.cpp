@@ -1,6 +1,3 @@
-#include <QRect>
-
-#include "platform/swiftui/Elements.h"
 #include "tests/qt/Pixels.h"
 #include "tests/qt/Screens.h"
 

@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <string>
-
 #include "qt/text/QtTextEngine.h"
 #include "tests/qt/Texts.h"
 

@@ -1,13 +1,9 @@
-#include <gmock/gmock.h>
-
 #include <QLoggingCategory>
 #include <QRegularExpression>
 #include <atomic>
-#include <chrono>
 #include <stdexcept>
 #include <thread>
 
-#include "platform/foundation/URLSession.h"
 #include "tests/qt/UrlSession.h"
 #include "tests/web/LogListener.h"
 

@@ -1,5 +1,3 @@
-#include "platform/swiftui/Elements.h"
-#include "tests/qt/FeeRow.h"
 #include "tests/qt/Screens.h"
 
 namespace quorix::testing {

@@ -1,10 +1,8 @@
 #include "qt/quick/ViewItem.h"
 
 #include <QSignalSpy>
-#include <QTest>
 #include <algorithm>
 
-#include "tests/qt/FeeRow.h"
 #include "tests/qt/Screens.h"
 
 namespace quorix::testing {

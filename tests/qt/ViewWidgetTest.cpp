@@ -1,9 +1,7 @@
 #include "qt/widgets/ViewWidget.h"
 
-#include <QTest>
 #include <QVBoxLayout>
 
-#include "tests/qt/FeeRow.h"
 #include "tests/qt/Screens.h"
 
 namespace quorix::testing {

@@ -1,5 +1,4 @@
 #include <QPainter>
-#include <QTest>
 
 #include "QuorixWidgets/info/InfoWidgetView.h"
 #include "QuorixWidgets/localization/TovaFont.h"

@@ -6,7 +6,6 @@
 #include <cstdio>
 
 #include "tests/core/OpenedAddresses.h"
-#include "tests/qt/FeeRow.h"
 #include "tests/web/PageTest.h"
 
 namespace quorix::testing {

@@ -1,10 +1,7 @@
-#include <gmock/gmock.h>
-
 #include <QDesktopServices>
 #include <QDir>
 #include <QGuiApplication>
 #include <QStandardPaths>
-#include <QTest>
 
 #include "tests/web/LogListener.h"
 #include "tests/web/PageTest.h"

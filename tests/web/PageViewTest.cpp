@@ -1,7 +1,3 @@
-#include <gmock/gmock.h>
-
-#include <QTest>
-
 #include "tests/qt/LoopbackServer.h"
 #include "tests/web/PageTest.h"
 
