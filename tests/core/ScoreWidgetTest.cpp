@@ -11,7 +11,6 @@
 namespace quorix {
 namespace {
 
-using testing::scoreModel;
 using testing::TestWindow;
 
 // View model.
@@ -96,7 +95,7 @@ TEST(ScoreWidgetView, IsAsDesigned) {
   };
   for (const auto& row : rows) {
     const std::string language = *row.language ? row.language : "en";
-    const auto model = scoreModel(row.discount, language);
+    const auto model = testing::scoreModel(row.discount, language);
     const auto strings = LocalizationRepository::make(language);
     if (!*row.language) strings->strings = TranslationTable::make({});
     const auto view = row.sheet ? scoreWidgetSheet(*model, *strings, swiftui::State(true).binding())

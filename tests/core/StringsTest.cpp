@@ -15,13 +15,11 @@ namespace {
 
 using foundation::Bundle;
 using foundation::components;
-using foundation::Error;
 using foundation::FormatArgument;
 using foundation::formatted;
 using foundation::readStringsFile;
 using foundation::StringTable;
 using foundation::uppercased;
-using testing::OtherResources;
 
 using Limits = std::numeric_limits<double>;
 
@@ -122,7 +120,7 @@ TEST(UnicodeText, CapitalsFollowTheLanguage) {
 }
 
 std::string outcome(const foundation::Result<StringTable>& result) {
-  const auto* error = std::get_if<Error>(&result);
+  const auto* error = std::get_if<foundation::Error>(&result);
   if (error == nullptr) return "table";
   return error->code == static_cast<std::int64_t>(foundation::StringsFileErrorCode::notATable)
              ? "other"
@@ -141,7 +139,7 @@ void expectReading(simdjson::dom::element row) {
     EXPECT_EQ(*table, expected);
     return;
   }
-  const std::string& description = std::get<Error>(result).description;
+  const std::string& description = std::get<foundation::Error>(result).description;
   EXPECT_TRUE(description.starts_with("line ")) << description;
   if (row["says"].error() == simdjson::SUCCESS) {
     EXPECT_THAT(description, ::testing::HasSubstr(::text(row, "says")));
@@ -160,7 +158,7 @@ TEST(StringsFile, MayBeNestedWithoutEnd) {
 }
 
 TEST(LocalizedString, IsFoundByTheExactLocaleOrElseInEnglish) {
-  const OtherResources resources({
+  const testing::OtherResources resources({
       {"en.lproj/Localizable.strings", "k = english; f = \"%.1f of %@\"; onlyEnglish = x;"},
       {"es.lproj/Localizable.strings", "k = spanish; empty = \"\"; \"\" = nameless;"},
       {"fr.lproj/Other.strings", "k = french;"},
@@ -177,7 +175,7 @@ TEST(LocalizedString, IsFoundByTheExactLocaleOrElseInEnglish) {
 TEST(LocalizedString, IsEmptyWithoutABundle) {
   const auto spanishAlone = testing::memoryBundle({{"es.lproj/Localizable.strings", "k = v;"}});
   for (const Bundle::Ref& bundle : {Bundle::Ref(), testing::memoryBundle({}), spanishAlone}) {
-    const OtherResources resources(bundle);
+    const testing::OtherResources resources(bundle);
     EXPECT_EQ(localized("widget-read-more", "en"), "");
     EXPECT_EQ(localized("%@", "en", {"Ann"}), "");
     EXPECT_EQ(localized("k", "es"), bundle == spanishAlone ? "v" : "");

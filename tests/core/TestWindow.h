@@ -55,7 +55,7 @@ struct TestText {
 };
 
 /// A window that one view fills. User actions find elements by their accessibility label.
-class TestWindow final : public TestText, public hosting::ViewWindow {
+class TestWindow : public TestText, public hosting::ViewWindow {
  public:
   explicit TestWindow(swiftui::View root, swiftui::Environment settings = {},
                       layout::Size windowSize = {320, 640})

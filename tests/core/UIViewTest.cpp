@@ -9,8 +9,6 @@
 namespace quorix::uikit {
 namespace {
 
-using foundation::MainQueue;
-using testing::FixedWidthText;
 using testing::TestWindow;
 
 using Taps = std::vector<std::string>;
@@ -41,7 +39,7 @@ TEST(UIView, TapsFindTheTopmostTouchedView) {
   glass->setUserInteractionEnabled(false);
   gone->setHidden(true);
 
-  FixedWidthText text;
+  testing::FixedWidthText text;
   UIViewContent content(root);
   const render::Scene scene = content.scene({100, 100}, {}, text);
   struct {
@@ -168,7 +166,7 @@ TEST(UIViewController, PresentsAChainAndTellsItsWindow) {
     EXPECT_EQ(second->window(), &window);
     EXPECT_EQ(second->presentingViewController(), first);
     EXPECT_EQ(completed, 0) << "not before the caller is done";
-    MainQueue::drain();
+    foundation::MainQueue::drain();
     EXPECT_EQ(completed, 1);
 
     root->present(other, true);   // presents one already
@@ -185,7 +183,7 @@ TEST(UIViewController, PresentsAChainAndTellsItsWindow) {
     EXPECT_EQ(window.presentedControllers(), Chain{});
     EXPECT_EQ(first->presentedViewController(), nullptr);
     root->dismiss(true, [&] { ++completed; });  // nothing to dismiss
-    MainQueue::drain();
+    foundation::MainQueue::drain();
     EXPECT_EQ(completed, 2);
     EXPECT_EQ(surface.changes, 4);
     root->present(first, true);

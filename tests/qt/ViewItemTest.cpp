@@ -8,11 +8,8 @@
 namespace quorix::testing {
 namespace {
 
-using swiftui::Text;
-using swiftui::View;
-
-View paragraph() {
-  return Text::verbatim("A sentence that needs two lines or more when the room is narrow");
+swiftui::View paragraph() {
+  return swiftui::Text::verbatim("A sentence that needs two lines or more when the room is narrow");
 }
 
 /// Counts an item's requests to the scene graph.
@@ -67,7 +64,7 @@ TEST(ViewItem, TakesTheRoomOfWhatItShowsInAnyLayout) {
     EXPECT_GT(row->implicitWidth(), 200);
     EXPECT_GE(row->height(), row->implicitHeight());
     EXPECT_EQ(row->implicitHeight() > 30, row->width() < row->implicitWidth()) << "wraps";
-    row->setView(View());
+    row->setView(swiftui::View());
     screen.settle();
     EXPECT_EQ(item->position(), whenEmpty) << source.constData();
     row->setView(paragraph());
