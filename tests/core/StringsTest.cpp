@@ -89,16 +89,14 @@ TEST(StringFormat, BoundsItsFields) {
   EXPECT_EQ(formatted("%.99999f", {Limits::max()}).size(), 309u + 1 + 512);
 }
 
-using Pieces = std::vector<std::string_view>;
-
 void expectPieces(const std::string& table, bool withEmptyOnes) {
   forEachRow(table, [&](simdjson::dom::element row) {
-    const std::string title = ::text(row, "title");
+    const std::string title = withBytes(::text(row, "title"));
     auto pieces = components(title, ::text(row, "number"));
     if (!withEmptyOnes) std::erase(pieces, "");
-    Pieces expected;
-    for (const simdjson::dom::element piece : row["parts"]) expected.emplace_back(piece);
-    EXPECT_EQ(pieces, expected);
+    const auto expected = texts(row["parts"]);
+    ASSERT_EQ(pieces.size(), expected.size());
+    for (std::size_t i = 0; i < pieces.size(); ++i) EXPECT_EQ(pieces[i], withBytes(expected[i]));
   });
 }
 
@@ -106,10 +104,6 @@ TEST(UnicodeText, SplitsAsPhonesDo) {
   expectPieces("titles", false);
   expectPieces("titles_own", true);
   expectPieces("graphemes", false);
-  // Not UTF-8, so there is no combining mark.
-  EXPECT_EQ(components("\xFFx\xC3", "x"), (Pieces{"\xFF", "\xC3"}));
-  EXPECT_EQ(components("\xCC.\x81", "."), (Pieces{"\xCC", "\x81"}));
-  EXPECT_EQ(components("a.\xCC", "."), (Pieces{"a", "\xCC"}));
 }
 
 TEST(UnicodeText, CapitalsFollowTheLanguage) {

@@ -82,11 +82,9 @@ TEST(ViewItem, PaintsOncePerChangeAndRestsOtherwise) {
   screen.settle();
   const int painted = item->paints;
   EXPECT_TRUE(item->hasPicture);
-  int frames = 0;
-  QObject::connect(&screen.window(), &QQuickWindow::frameSwapped, item, [&] { ++frames; });
-  const int polishes = item->polishes;
+  const int polishes = item->polishes, frames = screen.frames();
   QTest::qWait(200);
-  EXPECT_EQ(frames, 0);
+  EXPECT_EQ(screen.frames(), frames);
   EXPECT_EQ(item->polishes, polishes);
   screen.window().update();  // a frame for another item
   screen.settle();
