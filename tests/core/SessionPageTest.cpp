@@ -1,3 +1,5 @@
+#include <sstream>
+
 #include "platform/webkit/PageRules.h"
 #include "tests/core/OpenedAddresses.h"
 #include "tests/core/TestWindow.h"
@@ -163,39 +165,26 @@ TEST(SessionPage, LeavesTheAppOnceForEachGesture) {
 }
 
 TEST(SessionPage, HasLimitedTimeAndFailsWithAnErrorOfTheNetwork) {
-  constexpr int aborted = -3, connectionClosed = -100, unknownHost = -105, notFound = 404;
-  using Page = hosting::PageEngine::Client;
-  const struct {
-    const char* what;
-    std::function<void(Page&)> perform;
-    int failures = 0;
-    std::string log = "load ";
-    bool stays = true;
-  } rows[] = {
-      {"it answers", [](Page& page) { page.closingKeyGiven(), page.answered("alive"); }, 0,
-       "load 'alive' "},
-      {"it hangs", [](Page& page) { page.closingKeyGiven(), page.answered(""); }, 0, "load ",
-       false},
-      {"nothing comes", [](Page& page) { page.loading(0); }, 1, "load stop "},
-      {"a part comes", [](Page& page) { page.loading(0), page.loading(30); }, 0, "load stop "},
-      {"all comes", [](Page& page) { page.loading(0), page.loading(30), page.loadEnded(0); }},
-      {"stopped", [](Page& page) { page.loadEnded(aborted); }},
-      {"not of the network", [](Page& page) { page.loadEnded(-99); }},
-      {"closed", [](Page& page) { page.loadEnded(connectionClosed); }, 1},
-      {"unknown", [](Page& page) { page.loadEnded(unknownHost); }, 1},
-      {"a page for an error", [](Page& page) { page.loadEnded(notFound); }},
-  };
-  for (const auto& row : rows) {
+  forEachRow("web/limits", [](simdjson::dom::element row) {
     PageWindow window;
     window.open();
-    row.perform(window.engine->client);
-    window.wait();
-    EXPECT_EQ(!window.sheets().empty(), row.stays) << row.what;
-    if (row.stays) {
-      EXPECT_EQ(window.engine->log, row.log) << row.what;
+    auto& page = window.engine->client;
+    std::istringstream events(::text(row, "events"));
+    for (std::string event; events >> event;) {
+      int value = 0;
+      if (event == "closing") page.closingKeyGiven();
+      if (event == "answers") page.answered("alive");
+      if (event == "hangs") page.answered("");
+      if (event == "loading" && events >> value) page.loading(value);
+      if (event == "ended" && events >> value) page.loadEnded(value);
     }
-    EXPECT_EQ(window.failures, row.failures) << row.what;
-  }
+    window.wait();
+    EXPECT_EQ(!window.sheets().empty(), bool(row["stays"]));
+    if (row["stays"]) {
+      EXPECT_EQ(window.engine->log, ::text(row, "log"));
+    }
+    EXPECT_EQ(window.failures, std::int64_t(row["failures"]));
+  });
 }
 
 TEST(SessionPage, ThatEndsTellsItsContentOutsideTheEnginesCall) {

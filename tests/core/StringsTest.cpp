@@ -178,17 +178,14 @@ TEST(LocalizedString, IsEmptyWithoutABundle) {
 
 /// The texts beside the link are joined without another blank.
 TEST(LocalizableTables, ThePersonalLineIsSpacedByItsTexts) {
-  const auto line = [](const char* locale) {
-    return localized("widget-title-start", locale) +
-           localized("widget-title-return-rate-low", locale, {12.5}) + '[' +
-           localized("widget-read-more", locale) + ']' + localized("widget-title-end", locale);
-  };
-  EXPECT_EQ(line("de"),
-            "Gut ausgesucht! Du gehörst zu den 12\u00A0% unserer Kundinnen und Kunden, die am "
-            "wenigsten zurückschicken. [Mehr dazu], wie deine Retouren zählen.");
-  EXPECT_EQ(line("ja"),
-            "上手なお買い物です！返品が少ないお客様の上位12%に入っています。[詳しく見る]"
-            "（返品の数え方について）");
+  forEachRow("personal_lines", [](simdjson::dom::element row) {
+    const std::string locale = ::text(row, "locale");
+    EXPECT_EQ(localized("widget-title-start", locale) +
+                  localized("widget-title-return-rate-low", locale, {12.5}) + '[' +
+                  localized("widget-read-more", locale) + ']' +
+                  localized("widget-title-end", locale),
+              ::text(row, "line"));
+  });
 }
 
 TEST(LocalizableTables, MistakesAreNamed) {

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cmath>
 
@@ -7,6 +5,7 @@
 #include "platform/text/LineCache.h"
 #include "platform/text/PriceGlyphs.h"
 #include "platform/text/TextEngine.h"
+#include "tests/core/Vectors.h"
 
 namespace quorix {
 namespace {
@@ -46,28 +45,15 @@ struct CachedLetters {
   }
 };
 
+// The calls are widths, and whether to paint. Four breakings are kept.
 TEST(LineCache, BreaksATextOnceForAllWidthsThatBreakItAlike) {
-  const struct {
-    std::vector<std::pair<double, bool>> calls;  ///< the width, and whether to paint
-    double width;                                ///< of the last
-    std::string broken;
-  } rows[] = {
-      {{{300, true}, {70, true}}, 70, "all! "},
-      {{{69, true}, {65, true}, {60, true}}, 60, "all! 69! "},
-      {{{69, true}, {59, true}, {61, true}}, 60, "all! 69! 59! "},
-      {{{59, true}, {61, true}}, 60, "all! 59! 61! "},
-      {{{65, false}, {60, true}, {65, false}, {60, true}}, 60, "all 65 65! "},
-      {{{60, true}, {50, true}, {40, true}, {30, true}, {300, true}, {50, true}, {60, true}},
-       60,
-       "all! 60! 50! 40! 30! 60! "},  // four are kept
-  };
-  for (const auto& row : rows) {
+  forEachRow("text_breaks", [](simdjson::dom::element row) {
     CachedLetters letters;
     double last = 0;
-    for (const auto& [width, toPaint] : row.calls) last = letters.width(width, toPaint);
-    EXPECT_EQ(last, row.width) << row.broken;
-    EXPECT_EQ(letters.broken, row.broken);
-  }
+    for (const auto call : row["calls"]) last = letters.width(call.at(0), call.at(1));
+    EXPECT_EQ(last, double(row["width"]));
+    EXPECT_EQ(letters.broken, ::text(row, "broken"));
+  });
 }
 
 TEST(LineCache, SharesTheLinesOfTextsOfTheSameShapes) {

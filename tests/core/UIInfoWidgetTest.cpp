@@ -163,32 +163,18 @@ TEST(UIInfoWidget, PresentsTheOverlayOverTheTopmostScreen) {
 }
 
 TEST(UIApplication, FindsTheKeyWindow) {
-  using Place = std::pair<std::size_t, std::size_t>;  // indexes of a scene and of its window
-  const struct {
-    const char* name;
-    const char* app;
-    std::optional<Place> found = {};
-  } rows[] = {
-      {"no scene", ""},
-      {"the key window", "active: plain key", Place{0, 1}},
-      {"even a hidden one", "active: plain hidden-key", Place{0, 1}},
-      {"the first in plain sight", "active: hidden high plain plain", Place{0, 2}},
-      {"an active scene without windows", "active: background: key"},
-      {"the first active scene", "active: hidden active: key", Place{0, 0}},
-      {"after others", "background: key active: plain", Place{1, 0}},
-      {"none active", "unattached: plain inactive: plain key", Place{1, 1}},
-      {"none active, no key", "background: plain unattached: high"},
-  };
   // Skips scenes of another class at any place in the list.
   const auto other = std::make_shared<uikit::UIScene>();
   other->setActivationState(State::foregroundActive);
   uikit::UIApplication::shared().connect(other);
-  for (const auto& row : rows) {
-    const App app(row.app);
-    const auto expected =
-        row.found ? app.scenes[row.found->first]->windows()[row.found->second] : nullptr;
-    EXPECT_EQ(UIApplication::getKeyWindow(), expected) << row.name;
-  }
+  forEachRow("key_windows", [](simdjson::dom::element row) {
+    const App app(::text(row, "app"));
+    std::shared_ptr<uikit::UIWindow> expected;
+    if (const auto at = row["found"]; !at.is_null()) {
+      expected = app.scenes[std::uint64_t(at.at(0))]->windows()[std::uint64_t(at.at(1))];
+    }
+    EXPECT_EQ(UIApplication::getKeyWindow(), expected);
+  });
   uikit::UIApplication::shared().disconnect(other);
 }
 

@@ -5,6 +5,7 @@
 #include "platform/uikit/UILabel.h"
 #include "platform/uikit/ViewPrinter.h"
 #include "tests/core/TestWindow.h"
+#include "tests/core/Vectors.h"
 
 namespace quorix::uikit {
 namespace {
@@ -42,20 +43,13 @@ TEST(UIView, TapsFindTheTopmostTouchedView) {
   testing::FixedWidthText text;
   UIViewContent content(root);
   const render::Scene scene = content.scene({100, 100}, {}, text);
-  struct {
-    layout::Point point;
-    const char* tapped;
-  } const rows[] = {
-      {{45, 45}, "low"}, {{10, 10}, ""},       {{30, 10}, "low"},   {{10, 30}, "low"},
-      {{90, 10}, ""},    {{55, 55}, "parent"}, {{65, 65}, "child"}, {{85, 85}, "parent"},
-      {{100, 85}, ""},  // outside its superview the label takes no touches
-  };
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.point.x);
+  // Outside its superview, the label takes no touches.
+  forEachRow("gestures/touches", [&](simdjson::dom::element row) {
     taps->clear();
-    if (const auto* area = scene.hitTest(row.point)) area->action();
-    EXPECT_EQ(*taps, *row.tapped ? Taps{row.tapped} : Taps{});
-  }
+    if (const auto* area = scene.hitTest(point(row["point"]))) area->action();
+    const std::string tapped = ::text(row, "tapped");
+    EXPECT_EQ(*taps, tapped.empty() ? Taps{} : Taps{tapped});
+  });
 }
 
 TEST(Wording, EscapesTextsAndRoundsLengths) {
