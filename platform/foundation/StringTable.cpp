@@ -26,46 +26,73 @@ std::size_t lineAt(std::string_view text, std::size_t offset) {
   return line;
 }
 
+Error error(StringsFileErrorCode code, std::string_view text, std::size_t offset,
+            const std::string& what) {
+  return {"StringsFile", static_cast<std::int64_t>(code),
+          "line " + std::to_string(lineAt(text, offset)) + ": " + what};
+}
+
+constexpr std::string_view otherValues[] = {"array", "data", "date",    "dict",
+                                            "false", "real", "integer", "true"};
+
 /// Reads the XML form.
 Result<StringTable> readXML(std::string_view text) {
   pugi::xml_document document;
-  const auto failed = [&](std::ptrdiff_t offset, const std::string& what) {
-    return stringsFileError(text, static_cast<std::size_t>(std::max<std::ptrdiff_t>(offset, 0)),
-                            what);
+  const auto at = [](std::ptrdiff_t offset) {
+    return static_cast<std::size_t>(std::max<std::ptrdiff_t>(offset, 0));
   };
+  const auto name = [](const pugi::xml_node& node) { return std::string_view(node.name()); };
   const auto unexpected = [&](const pugi::xml_node& element) {
-    return failed(element.offset_debug(), "unexpected <" + std::string(element.name()) + '>');
+    return malformedStringsFile(text, at(element.offset_debug()),
+                                "unexpected <" + std::string(name(element)) + '>');
   };
   const auto isElement = [](const pugi::xml_node& node) {
     return node.type() == pugi::node_element;
   };
+  const auto isOther = [&](const pugi::xml_node& element) {
+    return std::ranges::find(otherValues, name(element)) != std::end(otherValues);
+  };
   const auto parsed =
       document.load_buffer(text.data(), text.size(),
                            pugi::parse_default | pugi::parse_ws_pcdata_single, pugi::encoding_utf8);
-  if (!parsed) return failed(parsed.offset, parsed.description());
+  if (!parsed) return malformedStringsFile(text, at(parsed.offset), parsed.description());
   pugi::xml_node root = document.document_element();
-  if (std::string_view(root.name()) == "plist") root = root.find_child(isElement);
-  if (!root) return stringsFileError(text, text.size(), "the property list is empty");
-  if (std::string_view(root.name()) != "dict") return unexpected(root);
+  if (name(root) == "plist") root = root.find_child(isElement);
+  if (!root) return malformedStringsFile(text, text.size(), "the property list is empty");
+  if (name(root) != "dict") {
+    if (name(root) != "string" && !isOther(root)) return unexpected(root);
+    return notAStringTable(text, at(root.offset_debug()), "no table but a lone value");
+  }
 
   StringTable table;
+  std::map<std::string, std::ptrdiff_t> others;
   std::optional<std::string> key;
   for (const pugi::xml_node& element : root.children()) {
     if (!isElement(element)) continue;
-    if (std::string_view(element.name()) != (key ? "string" : "key")) return unexpected(element);
+    if (key && isOther(element)) {
+      table.erase(*key);
+      others.insert_or_assign(*std::exchange(key, std::nullopt), element.offset_debug());
+      continue;
+    }
+    if (name(element) != (key ? "string" : "key")) return unexpected(element);
     std::string words;
     for (const pugi::xml_node& part : element.children()) {
       if (isElement(part)) return unexpected(part);
       words += part.value();
     }
     if (key) {
+      others.erase(*key);
       table.insert_or_assign(*std::exchange(key, std::nullopt), std::move(words));
     } else {
       key = std::move(words);
     }
   }
-  if (key) return failed(root.offset_debug(), "no value for \"" + *key + '"');
-  return table;
+  if (key) {
+    return malformedStringsFile(text, at(root.offset_debug()), "no value for \"" + *key + '"');
+  }
+  if (others.empty()) return table;
+  const auto& [otherKey, offset] = *others.begin();
+  return notAStringTable(text, at(offset), "the value of \"" + otherKey + "\" is no text");
 }
 
 /// The offset of the first byte of `text` that is not UTF-8.
@@ -81,24 +108,29 @@ std::optional<std::size_t> firstInvalidByte(std::string_view text) {
   return std::nullopt;
 }
 
+bool isXML(std::string_view text) {
+  text.remove_prefix(std::min(text.find_first_not_of(" \t\r\n"), text.size()));
+  // "<" alone does not mean XML: in the text form it starts bytes, "<0f 1a>".
+  return text.starts_with("<?") || text.starts_with("<!") || text.starts_with("<plist") ||
+         text.starts_with("<dict");
+}
+
 Result<StringTable> read(std::string_view text) {
   if (const auto invalid = firstInvalidByte(text)) {
-    return stringsFileError(text, *invalid, "a byte that is not UTF-8");
+    return malformedStringsFile(text, *invalid, "a byte that is not UTF-8");
   }
-  const std::size_t first = text.find_first_not_of(" \t\r\n");
-  const bool isXML = first != text.npos && text[first] == '<';
-  return isXML ? readXML(text) : readTextPropertyList(text);
+  return isXML(text) ? readXML(text) : readTextPropertyList(text);
 }
 
 }  // namespace
 
 Result<StringTable> readStringsFile(std::string_view bytes) {
-  if (bytes.empty()) return stringsFileError(bytes, 0, "the file is empty");
+  if (bytes.empty()) return malformedStringsFile(bytes, 0, "the file is empty");
   if (bytes.starts_with("bplist")) {
-    return stringsFileError(bytes, 0, "a binary property list; convert it to text");
+    return malformedStringsFile(bytes, 0, "a binary property list; convert it to text");
   }
   if (bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF")) {
-    if (bytes.size() % 2 != 0) return stringsFileError({}, 0, "UTF-16 of an odd length");
+    if (bytes.size() % 2 != 0) return malformedStringsFile({}, 0, "UTF-16 of an odd length");
     const auto size = static_cast<std::int32_t>(bytes.size());
     std::string text;
     return read(icu::UnicodeString(bytes.data(), size, "UTF-16").toUTF8String(text));
@@ -108,8 +140,12 @@ Result<StringTable> readStringsFile(std::string_view bytes) {
   return read(bytes);
 }
 
-Error stringsFileError(std::string_view text, std::size_t offset, const std::string& what) {
-  return {"StringsFile", 1, "line " + std::to_string(lineAt(text, offset)) + ": " + what};
+Error malformedStringsFile(std::string_view text, std::size_t offset, const std::string& what) {
+  return error(StringsFileErrorCode::malformed, text, offset, what);
+}
+
+Error notAStringTable(std::string_view text, std::size_t offset, const std::string& what) {
+  return error(StringsFileErrorCode::notATable, text, offset, what);
 }
 
 namespace {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cctype>
 #include <charconv>
 #include <optional>
 #include <utility>
@@ -58,13 +59,28 @@ class TextReader {
   explicit TextReader(std::string_view text) : text_(text) {}
 
   Result<StringTable> read() {
-    const bool inBraces = take('{');
-    if (readEntries(inBraces) && inBraces && !atEnd()) fail("the table ends before this");
+    if (isNext('(') || isNext('<') || isLoneText()) {
+      const std::size_t start = at_;
+      if (skipValue() && atEnd()) {
+        return notAStringTable(text_, start, "no table but a lone value");
+      }
+      fail("the value ends before this");
+    } else {
+      const bool inBraces = take('{');
+      if (readEntries(inBraces) && inBraces && !atEnd()) fail("the table ends before this");
+    }
     if (failure_) return *std::move(failure_);
-    return std::move(table_);
+    if (others_.empty()) return std::move(table_);
+    const auto& [key, offset] = *others_.begin();
+    return notAStringTable(text_, offset, "the value of \"" + key + "\" is no text");
   }
 
  private:
+  bool isLoneText() const {
+    TextReader ahead = *this;
+    return ahead.readText() && ahead.atEnd();
+  }
+
   /// Without braces, a second ';' after an entry ends the table and the rest is ignored, as phones
   /// do.
   bool readEntries(bool inBraces) {
@@ -72,16 +88,64 @@ class TextReader {
       if (!inBraces && !first && isNext(';')) return true;
       const auto key = readText();
       if (!key) return false;
-      auto text = key;
-      if (!isNext(';')) {
-        if (!take('=')) return fail("'=' or ';' is expected behind the key \"" + *key + '"');
-        text = readText();
+      others_.erase(*key);
+      if (isNext(';')) {
+        table_.insert_or_assign(*key, *key);
+      } else if (!take('=')) {
+        return fail("'=' or ';' is expected behind the key \"" + *key + '"');
+      } else if (isNext('(') || isNext('{') || isNext('<')) {
+        table_.erase(*key);
+        others_.emplace(*key, at_);
+        if (!skipValue()) return false;
+      } else {
+        auto text = readText();
         if (!text) return false;
+        table_.insert_or_assign(*key, *std::move(text));
       }
-      if (!take(';')) return fail("';' is expected behind the text for \"" + *key + '"');
-      table_.insert_or_assign(*key, *std::move(text));
+      if (!take(';')) return fail("';' is expected behind the value of \"" + *key + '"');
     }
     return true;
+  }
+
+  /// Moves past a value of any kind. What is inside it does not grow the call stack.
+  bool skipValue() {
+    std::string open;  // the closing marks of the lists around the next value
+    do {
+      bool begins = true;
+      if (take('(')) {
+        open += ')';
+      } else if (take('{')) {
+        open += '}';
+      } else if (isNext('<') ? skipData() : readText().has_value()) {
+        begins = false;
+      } else {
+        return false;
+      }
+      for (; !open.empty(); begins = false) {
+        const bool inList = open.back() == ')';
+        const bool separated = begins || take(inList ? ',' : ';');
+        if (take(open.back())) {
+          if (!separated && !inList) return fail("';' is expected");
+          open.pop_back();
+          continue;
+        }
+        if (!separated) return fail(inList ? "',' or ')' is expected" : "';' is expected");
+        if (inList) break;
+        if (!readText()) return false;
+        if (take('=')) break;
+        if (!isNext(';')) return fail("'=' or ';' is expected");
+      }
+    } while (!open.empty());
+    return true;
+  }
+
+  /// Moves past bytes in hexadecimal, `<0f 1a>`.
+  bool skipData() {
+    take('<');
+    std::size_t digits = 0;
+    for (; !atEnd() && std::isxdigit(static_cast<unsigned char>(text_[at_])); ++at_) ++digits;
+    if (!take('>')) return fail("'>' is expected");
+    return digits % 2 == 0 || fail("bytes have two hexadecimal digits each");
   }
 
   /// The next word, which must be a text: in single or double quotes, or unquoted if it has only
@@ -184,7 +248,7 @@ class TextReader {
   }
 
   bool failAt(std::size_t offset, const std::string& what) {
-    if (!failure_) failure_ = stringsFileError(text_, offset, what);
+    if (!failure_) failure_ = malformedStringsFile(text_, offset, what);
     return false;
   }
 
@@ -196,6 +260,7 @@ class TextReader {
   std::string_view text_;
   std::size_t at_ = 0;
   StringTable table_;
+  std::map<std::string, std::size_t> others_;  // keys whose values are no texts, and their offsets
   std::optional<Error> failure_;
 };
 

@@ -10,7 +10,6 @@ namespace {
 
 using foundation::decodeBase64;
 using foundation::DecodingError;
-using foundation::Error;
 using foundation::JSONDocument;
 using foundation::JSONValue;
 using Kind = DecodingError::Kind;
@@ -18,7 +17,7 @@ using Kind = DecodingError::Kind;
 std::int64_t errorCode(std::string_view bytes) {
   JSONDocument document;
   const auto result = document.parse(bytes);
-  const auto* error = std::get_if<Error>(&result);
+  const auto* error = std::get_if<foundation::Error>(&result);
   if (!error) return 0;
   EXPECT_EQ(error->domain, "JSON");
   EXPECT_FALSE(error->description.empty());

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <string>
-#include <vector>
 
 #include "platform/text/TextEngine.h"
 

@@ -1,21 +1,13 @@
-#include <gmock/gmock.h>
-
 #include <algorithm>
-#include <map>
 
 #include "platform/uikit/Nib.h"
 #include "platform/uikit/UIImageView.h"
 #include "platform/uikit/ViewLayout.h"
 #include "tests/core/FixedWidthText.h"
-#include "tests/core/InterfaceFile.h"
 #include "tests/core/Vectors.h"
 
 namespace quorix::uikit {
 namespace {
-
-using testing::constraintElements;
-using testing::interfaceFile;
-using testing::labelElement;
 
 /// The refusal of `xml`, or the connected outlets.
 std::string outcome(const std::string& xml) {
@@ -30,8 +22,7 @@ std::string outcome(const std::string& xml) {
 }
 
 TEST(Nib, RefusesWhatItDoesNotShow) {
-  const std::string good =
-      interfaceFile(labelElement("a", "x"), constraintElements("a.top box.top 1"));
+  const std::string good = contentsOf("cards/good.xib");
   EXPECT_EQ(outcome(good), "read");
   EXPECT_THAT(outcome(""), ::testing::HasSubstr("No document element found"));
   EXPECT_THAT(outcome("<view"), ::testing::HasSubstr("Card.xib:1: "));
@@ -43,11 +34,12 @@ TEST(Nib, RefusesWhatItDoesNotShow) {
     xml.replace(at, ::text(row, "from").size(), ::text(row, "to"));
     EXPECT_THAT(outcome(xml), ::testing::HasSubstr(::text(row, "says")));
   });
-  std::string deep = "<view id='x0'/>";
-  for (int i = 1; i < 40; ++i) {
-    deep = "<view id='x" + std::to_string(i) + "'><subviews>" + deep + "</subviews></view>";
+  std::string deep = good;
+  for (int i = 0; i < 40; ++i) {
+    deep.insert(deep.find("</subviews>"),
+                "<view id='x" + std::to_string(i) + "'><subviews></subviews></view>");
   }
-  EXPECT_THAT(outcome(interfaceFile(deep, "")), ::testing::HasSubstr("nested too deep"));
+  EXPECT_THAT(outcome(deep), ::testing::HasSubstr("nested too deep"));
 }
 
 std::string printed(const layout::Rect& frame) {
@@ -57,35 +49,11 @@ std::string printed(const layout::Rect& frame) {
 }
 
 // Ten-point text: a character is 5 points wide, a line 12.5 high, rounded up to 13.
-std::map<std::string, std::string> cards() {
-  const std::string aLabel = labelElement("a", "ten  chars"), bLabel = labelElement("b", "four");
-  const auto card = [](const std::string& subviews, const std::string& rules) {
-    return interfaceFile(subviews, constraintElements(rules));
-  };
-  std::string square = aLabel;  // keeps its own size
-  square.insert(square.rfind("</label>"),
-                "<constraints>" + constraintElements(".width 48, .height 48") + "</constraints>");
-  return {{"stacked", card(aLabel + bLabel,
-                           "a.top box.top 16, a.leading box.leading 16, .trailing a.trailing 24,"
-                           "b.top a.bottom 8, .bottom b.bottom 4,"
-                           "b.leading box.leading 16, .trailing >= b.trailing 24")},
-          {"row", card(aLabel + bLabel,
-                       "a.leading box.leading 0, b.leading a.trailing 8, b.trailing box.trailing 0,"
-                       "a.top box.top 0, b.top a.top 0, .bottom a.bottom 0")},
-          {"corner", card(square, "a.right box.right 0, a.top box.top 10")},
-          {"filled",
-           card(labelElement("a", "ten  chars", "1"),
-                "a.left box.left 0, a.top box.top 0, a.right box.right 0, a.bottom box.bottom 0")},
-          {"loose", card(aLabel, "")},
-          {"sized", card(aLabel, ".width 40, .height 30")}};
-}
-
 TEST(ViewLayout, FollowsConstraintsAndContent) {
-  const auto files = cards();
   forEachRow("layout/constraints", [&](simdjson::dom::element row) {
     std::shared_ptr<UIView> box;
-    const auto read =
-        Nib::parse(files.at(::text(row, "card")), "Card", "Card", {{{"box", &box}}, {}});
+    const std::string xml = contentsOf("cards/" + ::text(row, "card") + ".xib");
+    const auto read = Nib::parse(xml, "Card", "Card", {{{"box", &box}}, {}});
     const auto* error = std::get_if<foundation::Error>(&read);
     ASSERT_EQ(error, nullptr) << error->description;
     std::optional<double> width;  // the offered width

@@ -1,11 +1,8 @@
 #include <algorithm>
-#include <map>
 #include <sstream>
 #include <stdexcept>
 
 #include "QuorixWidgets/localization/ResourceBundle.h"
-#include "platform/layout/Geometry.h"
-#include "platform/swiftui/Elements.h"
 #include "tests/core/TestWindow.h"
 #include "tests/core/Vectors.h"
 
@@ -188,25 +185,6 @@ TEST(PixelGrid, LeavesNoSeamAndLosesNoHairline) {
       const layout::Rect below = grid.round(layout::Rect{{0, top + pixel}, {10, 7}});
       EXPECT_NEAR(line.size.height, pixel, 1e-9) << top << " at scale " << scale;
       EXPECT_DOUBLE_EQ(line.bottom(), below.top()) << top << " at scale " << scale;
-    }
-  }
-}
-
-/// In any proposed size, a text has the size that was measured for its width.
-TEST(Layout, NeverCutsAText) {
-  const auto view = swiftui::HStack(
-      layout::VerticalAlignment::center, 12,
-      {swiftui::Text::verbatim("aaa bbb cccc"), swiftui::Spacer(),
-       swiftui::VStack(layout::HorizontalAlignment::center, std::nullopt,
-                       {swiftui::Text::verbatim("dd ee"), swiftui::Text::verbatim("f")})});
-  for (double width = 0; width < 300; width += 3.5) {
-    TestWindow window(view, {}, {width, 5});
-    for (const render::Item& item : window.shown().items) {
-      const auto& text = std::get<render::TextItem>(item);
-      testing::FixedWidthText anew;
-      const layout::Size needed = anew.measure(text.text, text.frame.size.width).size;
-      EXPECT_LE(needed.width, text.frame.size.width + 1e-6) << text.text.runs[0].text << width;
-      EXPECT_LE(needed.height, text.frame.size.height + 1e-6) << text.text.runs[0].text << width;
     }
   }
 }

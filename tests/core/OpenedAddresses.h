@@ -1,9 +1,5 @@
 #pragma once
 
-#include <memory>
-#include <string>
-#include <vector>
-
 #include "platform/uikit/URLOpener.h"
 
 namespace quorix::testing {

@@ -1,8 +1,5 @@
-#include <chrono>
-
 #include "QuorixWidgets/overlay/WebView.h"
 #include "QuorixWidgets/overlay/WebViewController.h"
-#include "platform/hosting/WindowSession.h"
 #include "platform/swiftui/UIViewRepresentable.h"
 #include "tests/core/OpenedAddresses.h"
 #include "tests/core/TestWindow.h"

@@ -1,47 +1,29 @@
 // A host's own bundle may be large and unusual. Each reader reads it once: four times the bytes
 // take about four times the processor time. A reader with quadratic cost would take sixteen times.
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
 #include <ctime>
-#include <functional>
-#include <string>
+#include <map>
 
 #include "platform/foundation/StringTable.h"
 #include "platform/graphics/AssetContents.h"
 #include "platform/uikit/Nib.h"
-#include "tests/core/InterfaceFile.h"
+#include "tests/core/Vectors.h"
 
 namespace quorix {
 namespace {
 
 constexpr std::size_t kMegabyte = 1'000'000;
 
-using Make = std::function<std::string(std::size_t bytes)>;
-
-/// `start`, then copies of `piece` with "#" replaced by a counter up to that many bytes, then
-/// `end`.
-Make repeated(std::string start, std::string piece, std::string end = "") {
-  return [=](std::size_t bytes) {
-    std::string text = start;
-    for (int i = 0; text.size() < bytes; ++i) {
-      std::string one = piece;
-      for (std::size_t at = 0; (at = one.find('#', at)) != one.npos;) {
-        one.replace(at, 1, std::to_string(i));
-      }
-      text += one;
-    }
-    return text + end;
-  };
-}
-
-Make nested(std::string start, std::string open, std::string close, std::string end) {
-  return [=](std::size_t bytes) {
-    std::string text = start, closing;
-    for (; text.size() < bytes / 2; text += open) closing += close;
-    return text + closing + end;
-  };
+/// A text of so many bytes: `start`, copies of `piece` with "#" replaced by a counter, as many of
+/// `closing`, and `end`.
+std::string made(simdjson::dom::element row, std::size_t bytes) {
+  std::string made = ::text(row, "start"), closings;
+  const std::string piece = ::text(row, "piece"), closing = ::text(row, "closing");
+  for (int i = 0; made.size() + closings.size() < bytes; ++i) {
+    for (const char letter : piece) made += letter == '#' ? std::to_string(i) : std::string{letter};
+    closings += closing;
+  }
+  return made + closings + ::text(row, "end");
 }
 
 void readStrings(const std::string& text) { foundation::readStringsFile(text); }
@@ -68,61 +50,22 @@ double secondsFor(void (*read)(const std::string&), const std::string& text) {
   return least;
 }
 
-/// An interface file with one label, and with `piece` repeated before `end`.
-Make interfaceWith(const std::string& piece, const std::string& end) {
-  const std::string file = testing::interfaceFile(testing::labelElement("a", "x"), "");
-  const std::size_t at = file.find(end);
-  return repeated(file.substr(0, at), piece, file.substr(at));
-}
-
 TEST(ReaderCost, IsInProportionToTheBytes) {
-  const struct {
-    const char* name;
-    void (*read)(const std::string&);
-    Make make;
-  } rows[] = {
-      {"comments to a line feed", readStrings, repeated("", "//\n")},
-      {"comments to a carriage return", readStrings, repeated("", "// c\r")},
-      {"comments to U+2028", readStrings, repeated("", "//\u2028")},
-      {"a comment of near line ends", readStrings, repeated("//", "\u2027")},
-      {"comments in stars", readStrings, repeated("", "/**/")},
-      {"a comment without an end", readStrings, repeated("/*", "/*")},
-      {"slashes", readStrings, repeated("k = ", "/")},
-      {"blanks of three bytes", readStrings, repeated("", "\u2028")},
-      {"entries", readStrings, repeated("", "k# = v#;\n")},
-      {"a quoted text", readStrings, repeated("k = \"", "text ", "\";")},
-      {"a quoted text without an end", readStrings, repeated("k = \"", "\\\"'")},
-      {"escapes", readStrings, repeated("k = \"", "\\n\\Ud83d\\Ude00\\101", "\";")},
-      {"a mistake at the end", readStrings, repeated("", "k# = v#;\n", "}")},
-      {"XML entries", readStrings,
-       repeated("<plist><dict>", "<key>k#</key>\n<string>v</string>\n", "</dict></plist>")},
-      {"an XML text in pieces", readStrings,
-       repeated("<plist><dict><key>k</key><string>", "&lt;<![CDATA[x]]><!-- -->",
-                "</string></dict></plist>")},
-      {"XML elements in elements", readStrings,
-       nested("<plist><dict><key>k</key>", "<array>", "</array>", "</dict></plist>")},
-      {"outlets", readInterface,
-       interfaceWith("<outlet property='box' destination='box' id='o#'/>\n", "</connections>")},
-      {"labels", readInterface, interfaceWith("<label id='l#' text='x'/>\n", "</subviews>")},
-      {"constraints", readInterface,
-       interfaceWith(testing::constraintElements("a.top box.top 1") + '\n', "</constraints>")},
-      {"colors", readColors,
-       repeated(R"({"colors": [{"idiom": "universal", "color": {"components": {"red": "1",
-                "green": "1", "blue": "1", "alpha": "1"}}})",
-                R"(, {"idiom": "tv#", "color": {}})", "]}")},
-      {"images", readImages,
-       repeated(R"({"images": [{"filename": "a.svg", "idiom": "universal"})",
-                R"(, {"filename": "b#.svg", "idiom": "universal"})", "]}")},
+  const std::map<std::string, void (*)(const std::string&)> readers = {
+      {"strings", readStrings},
+      {"interface", readInterface},
+      {"colors", readColors},
+      {"images", readImages},
   };
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.name);
-    const double quarter = secondsFor(row.read, row.make(kMegabyte / 4));
+  forEachRow("costs", [&](simdjson::dom::element row) {
+    const auto read = readers.at(::text(row, "reader"));
+    const double quarter = secondsFor(read, made(row, kMegabyte / 4));
     EXPECT_LT(quarter, kTooSlow);
-    if (quarter >= kTooSlow) continue;
-    const double whole = secondsFor(row.read, row.make(kMegabyte));
-    if (whole < 0.02) continue;  // too short to compare
+    if (quarter >= kTooSlow) return;
+    const double whole = secondsFor(read, made(row, kMegabyte));
+    if (whole < 0.02) return;  // too short to compare
     EXPECT_LT(whole, 9 * quarter) << whole << " seconds";
-  }
+  });
 }
 
 }  // namespace

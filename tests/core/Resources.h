@@ -3,9 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
-#include <map>
-#include <string>
-#include <utility>
 
 #include "QuorixWidgets/localization/ResourceBundle.h"
 #include "platform/foundation/Bundle.h"

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <future>
-#include <memory>
 #include <thread>
 
 #include "platform/foundation/Cache.h"

@@ -1,9 +1,9 @@
-#include <deque>
+#include <sstream>
 
-#include "platform/hosting/SheetPanel.h"
-#include "platform/hosting/ViewWindow.h"
+#include "platform/webkit/PageRules.h"
 #include "tests/core/OpenedAddresses.h"
 #include "tests/core/TestWindow.h"
+#include "tests/core/Vectors.h"
 #include "tests/web/PageRow.h"
 
 namespace quorix {
@@ -30,10 +30,9 @@ struct FakeEngine final : hosting::PageEngine {
   bool hasHistory = false;
 };
 
-class PageWindow final : public testing::TestText, public hosting::ViewWindow {
+class PageWindow final : public testing::TestWindow {
  public:
-  PageWindow()
-      : ViewWindow(text, {{}, false}, testing::PageRow{[this] { return content; }}, {320, 640}) {
+  PageWindow() : TestWindow(testing::PageRow{[this] { return content; }}) {
     content->settings.allowsBackForwardNavigationGestures = true;
     content->onProcessEnded = [this] { ++ends; };
     content->onLoadFailed = [this] { ++failures; };
@@ -42,19 +41,9 @@ class PageWindow final : public testing::TestText, public hosting::ViewWindow {
   }
   ~PageWindow() override { MainQueue::install({}); }
 
-  void settle() {
-    while (frame(0) || MainQueue::drain() > 0) {
-    }
-    frame(0);  // pages open after the first frame
-  }
   void open() {
-    settle();
-    view().activate(0);
-    settle();
-  }
-  void key(Key key) {
-    front().handle(hosting::KeyEvent{key});
-    settle();
+    act("Open page");
+    frame(0);  // pages open after the first frame
   }
   /// Lets all time limits expire.
   void wait() {
@@ -63,7 +52,7 @@ class PageWindow final : public testing::TestText, public hosting::ViewWindow {
   }
 
   std::shared_ptr<webkit::WebContent> content = std::make_shared<webkit::WebContent>();
-  std::deque<MainQueue::Work> timers;
+  std::vector<MainQueue::Work> timers;
   FakeEngine* engine = nullptr;
   bool hasEngine = true;
   int ends = 0;
@@ -78,40 +67,6 @@ class PageWindow final : public testing::TestText, public hosting::ViewWindow {
     return made;
   }
 };
-
-TEST(PagePlace, ReachesTheTopOnlyBetweenTheCornersAndWhereThePageCanBeCut) {
-  const layout::Rect panel{{}, {360, 400}};
-  const struct {
-    const char* what;
-    layout::Rect frame;
-    double top, strip, radius;  ///< `top` of the room
-    bool isAtTop;
-    bool clips = true;
-    double scale = 2;
-    std::uint8_t opacity = 255;
-  } rows[] = {
-      {"all of the panel", panel, 12, 12, 12, true},
-      {"a renderer that cannot cut", panel, 12, 0, 0, false, false},
-      {"below a heading", {{0, 60}, {360, 340}}, 60, 0, 0, false},
-      {"into the corners", {{0, 4}, {360, 396}}, 12, 8, 8, false},
-      {"beside a part that the device covers", {{6, 0}, {354, 400}}, 12, 12, 12, false},
-      {"on a translucent ground", panel, 12, 12, 12, false, true, 2, 128},
-      {"a radius of 31.5 pixels", panel, 32 / 2.625, 32 / 2.625, 12, true, true, 2.625},
-  };
-  for (const auto& row : rows) {
-    render::Scene scene;
-    scene.size = panel.size;
-    scene.items = {render::EmbedItem{row.frame, {}, {0, 0, 0, row.opacity}}};
-    hosting::SheetGeometry::roundTop(scene, panel);
-    const auto place = hosting::PagePlace::of(std::get<render::EmbedItem>(scene.items.front()),
-                                              scene, row.scale, row.clips);
-    EXPECT_DOUBLE_EQ(place.room.top(), row.top) << row.what;
-    EXPECT_DOUBLE_EQ(place.room.bottom(), 400) << row.what;
-    EXPECT_DOUBLE_EQ(place.strip, row.strip) << row.what;
-    EXPECT_EQ(place.radius, row.radius) << row.what;
-    EXPECT_EQ(place.isAtTop, row.isAtTop) << row.what;
-  }
-}
 
 TEST(SessionPage, KeysLeadBackAndForwardOrCloseTheSheet) {
   const struct {
@@ -134,7 +89,7 @@ TEST(SessionPage, KeysLeadBackAndForwardOrCloseTheSheet) {
     window.open();
     ASSERT_TRUE(window.engine);
     window.engine->hasHistory = row.hasHistory;
-    window.front().handle(hosting::KeyEvent{row.key});
+    window.key(row.key);
     window.engine->client.answered("alive");
     EXPECT_EQ(window.engine->log, row.log) << static_cast<int>(row.key);
     window.settle();
@@ -181,26 +136,15 @@ TEST(SessionPage, SwipesLeadBackAndForward) {
 }
 
 TEST(SessionPage, LeavesTheAppOnceForEachGesture) {
-  const struct {
-    std::vector<std::string> steps;  ///< of the user, or addresses that the page or a frame wants
-    std::vector<std::string> leave;
-  } rows[] = {
-      {{"page https://a/"}, {}},
-      {{"page sms:1", "page sms:2"}, {"sms:1"}},
-      {{"frame sms:1"}, {}},
-      {{"tap", "frame sms:1", "frame sms:2"}, {"sms:1"}},
-      {{"tap", "page sms:1", "tap", "page sms:2"}, {"sms:1", "sms:2"}},
-      {{"swipe", "frame sms:1"}, {}},
-      {{"swipe", "tap", "frame sms:1"}, {"sms:1"}},
-  };
-  for (const auto& row : rows) {
+  // The steps are the user's, or addresses that the page or a frame wants.
+  forEachRow("web/gestures", [](simdjson::dom::element row) {
     PageWindow window;
     std::vector<std::string> left;
     window.content->onNewWindow = [&](const auto& url) { left.push_back(url->absoluteString()); };
     window.open();
     window.engine->hasHistory = true;
     auto& page = window.engine->client;
-    for (const std::string& step : row.steps) {
+    for (const std::string& step : texts(row["steps"])) {
       const bool swipes = step == "swipe";
       if (swipes || step == "tap") {
         page.touched({Phase::pressed, {5, 100}, 1, 320});
@@ -216,45 +160,31 @@ TEST(SessionPage, LeavesTheAppOnceForEachGesture) {
       EXPECT_EQ(page.mayNavigate(scheme, address, step.starts_with("page")), scheme == "https");
     }
     window.settle();
-    EXPECT_EQ(left, row.leave) << ::testing::PrintToString(row.steps);
-  }
+    EXPECT_EQ(left, texts(row["leave"]));
+  });
 }
 
-TEST(SessionPage, HasLimitedTime) {
-  for (const bool answers : {true, false}) {
+TEST(SessionPage, HasLimitedTimeAndFailsWithAnErrorOfTheNetwork) {
+  forEachRow("web/limits", [](simdjson::dom::element row) {
     PageWindow window;
     window.open();
-    window.engine->client.closingKeyGiven();
-    window.engine->client.answered(answers ? "alive" : "");
+    auto& page = window.engine->client;
+    std::istringstream events(::text(row, "events"));
+    for (std::string event; events >> event;) {
+      int value = 0;
+      if (event == "closing") page.closingKeyGiven();
+      if (event == "answers") page.answered("alive");
+      if (event == "hangs") page.answered("");
+      if (event == "loading" && events >> value) page.loading(value);
+      if (event == "ended" && events >> value) page.loadEnded(value);
+    }
     window.wait();
-    EXPECT_EQ(!window.sheets().empty(), answers) << "a page that hangs cannot keep its sheet open";
-  }
-  for (const bool ends : {true, false}) {
-    PageWindow window;
-    window.open();
-    window.engine->client.loading(0);
-    window.engine->client.loading(30);
-    if (ends) window.engine->client.loadEnded(0);
-    window.wait();
-    EXPECT_EQ(window.engine->log, ends ? "load " : "load stop ");
-    EXPECT_EQ(window.failures, 0) << "what has come stays";
-  }
-  PageWindow window;
-  window.open();
-  window.engine->client.loading(0);
-  window.wait();
-  EXPECT_EQ(window.failures, 1);
-}
-
-TEST(SessionPage, FailsWithAnErrorOfTheNetwork) {
-  constexpr int aborted = -3, connectionClosed = -100, unknownHost = -105, notFound = 404;
-  for (const int error : {0, aborted, -99, connectionClosed, unknownHost, notFound}) {
-    PageWindow window;
-    window.open();
-    window.engine->client.loadEnded(error);
-    window.settle();
-    EXPECT_EQ(window.failures, error == connectionClosed || error == unknownHost) << error;
-  }
+    EXPECT_EQ(!window.sheets().empty(), bool(row["stays"]));
+    if (row["stays"]) {
+      EXPECT_EQ(window.engine->log, ::text(row, "log"));
+    }
+    EXPECT_EQ(window.failures, std::int64_t(row["failures"]));
+  });
 }
 
 TEST(SessionPage, ThatEndsTellsItsContentOutsideTheEnginesCall) {
@@ -274,6 +204,32 @@ TEST(SessionPage, WithoutAnEngineOpensOutsideAndTheSheetCloses) {
   window.settle();
   EXPECT_TRUE(window.sheets().empty());
   EXPECT_EQ(opened.list(), std::vector<std::string>{"https://modules.quorix.example/page"});
+}
+
+TEST(UserGesture, CountsOnceAndForASecond) {
+  const webkit::UserGesture::Clock::time_point then{};
+  webkit::UserGesture gesture;
+  EXPECT_FALSE(gesture.take(then));
+  for (const auto& [passed, counts] : {std::pair{999, true}, {1000, false}}) {
+    gesture.happened(then);
+    EXPECT_EQ(gesture.take(then + std::chrono::milliseconds(passed)), counts) << passed;
+    EXPECT_FALSE(gesture.take(then)) << passed;
+  }
+}
+
+TEST(NewWindowLimit, LetsTheUserOutAndHoldsFloodsBack) {
+  forEachRow("web/new_windows", [](simdjson::dom::element page) {
+    using Clock = webkit::NewWindowLimit::Clock;
+    webkit::NewWindowLimit limit;
+    for (const simdjson::dom::element request : page["requests"]) {
+      const std::chrono::duration<double> at{double(request["seconds"])};
+      const auto url = foundation::URL::parse(::text(request, "address")).value();
+      EXPECT_EQ(limit.allows(url, request["byUser"],
+                             Clock::time_point(std::chrono::duration_cast<Clock::duration>(at))),
+                bool(request["leaves"]))
+          << at.count() << ' ' << url.absoluteString();
+    }
+  });
 }
 
 }  // namespace

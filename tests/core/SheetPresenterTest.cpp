@@ -1,11 +1,11 @@
 #include "tests/core/TestWindow.h"
+#include "tests/core/Vectors.h"
 #include "tests/core/Widgets.h"
 
 namespace quorix {
 namespace {
 
 using foundation::MainQueue;
-using swiftui::View;
 using testing::TestWindow;
 
 const std::string row = "Your return fee €4.00";
@@ -58,54 +58,33 @@ TEST_F(ScoreSheet, FollowsTheWindowClearOfWhatTheDeviceCovers) {
   using enum layout::LayoutDirection;
   open();
   const std::string fee = window.sheet()->scene().accessibility.at(2).label;
-  const struct {
-    layout::LayoutDirection direction;
-    layout::Size window;
-    layout::SideInsets covered;
-    layout::Rect panel, fee;
-  } rows[] = {
-      {leftToRight, {320, 640}, {47, 0, 34, 0}, {{0, 301}, {320, 339}}, {{16, 367}, {288, 24}}},
-      {rightToLeft, {640, 320}, {0, 47, 21, 20}, {{0, 34}, {640, 286}}, {{63, 100}, {541, 24}}},
-      {leftToRight, {700, 320}, {0, 47, 21, 20}, {{30, 34}, {640, 286}}, {{63, 100}, {591, 24}}},
-      {leftToRight, {320, 200}, {47, 0, 34, 0}, {{0, 57}, {320, 143}}, {{16, 123}, {288, 24}}},
-  };
-  for (const auto& expected : rows) {
-    window.environment.direction = expected.direction;
+  forEachRow("layout/sheet_windows", [&](simdjson::dom::element expected) {
+    const bool isMirrored = ::text(expected, "direction") == "right to left";
+    window.environment.direction = isMirrored ? rightToLeft : leftToRight;
     window.setMotion(false);
-    window.setSafeArea(expected.covered);
-    window.resize(expected.window);
-    EXPECT_EQ(window.sheet()->panelFrame(), expected.panel) << expected.window.width;
-    EXPECT_EQ(window.element(fee).frame, expected.fee) << expected.window.width;
-  }
+    const auto covered = expected["covered"];
+    window.setSafeArea({covered.at(0), covered.at(1), covered.at(2), covered.at(3)});
+    window.resize({expected["window"].at(0), expected["window"].at(1)});
+    EXPECT_EQ(window.sheet()->panelFrame(), rect(expected["panel"]));
+    EXPECT_EQ(window.element(fee).frame, rect(expected["fee"]));
+  });
 }
 
+// A drag begins after 8 points, and the sheet resists when it is pushed up.
 TEST_F(ScoreSheet, GoesWhenSwipedFarOrFastOrTappedOutside) {
-  constexpr layout::Point outside{160, 20}, inside{160, 400};
-  const struct {
-    layout::Point press, release;
-    double velocity, panelTop;
-    bool closes;
-  } rows[] = {
-      {inside, {160, 561}, 0, 488, true},  // a drag begins after 8 points
-      {inside, {160, 560}, 0, 487, false},   {inside, {160, 428}, 601, 355, true},
-      {inside, {160, 428}, 600, 355, false}, {inside, {160, 408}, 5000, 335, false},
-      {inside, {160, 342}, 0, 325, false},  // resists when it is pushed up
-      {inside, {160, 342}, 601, 325, true},  {outside, {10, 300}, 0, 335, true},
-      {outside, inside, 0, 335, false},      {inside, outside, 0, 261, false},
-  };
-  for (const auto& drag : rows) {
+  forEachRow("gestures/sheet_drags", [&](simdjson::dom::element drag) {
     open();
-    window.sheet()->pointerPressed(drag.press);
-    window.sheet()->pointerMoved(drag.release);
-    EXPECT_EQ(window.sheet()->panelFrame().top(), drag.panelTop) << drag.release.y;
-    window.sheet()->pointerReleased(drag.release, drag.velocity);
+    window.sheet()->pointerPressed(point(drag["press"]));
+    window.sheet()->pointerMoved(point(drag["release"]));
+    EXPECT_EQ(window.sheet()->panelFrame().top(), double(drag["panelTop"]));
+    window.sheet()->pointerReleased(point(drag["release"]), drag["velocity"]);
     window.settle();
-    EXPECT_EQ(!window.sheet(), drag.closes) << drag.release.y << " at " << drag.velocity;
-    if (!window.sheet()) continue;
+    EXPECT_EQ(!window.sheet(), bool(drag["closes"]));
+    if (!window.sheet()) return;
     EXPECT_EQ(panelHeight(), 305);
     window.sheet()->dismiss();
     window.settle();
-  }
+  });
 }
 
 TEST_F(ScoreSheet, RisesAndFallsAndThenNothingMoves) {
@@ -175,8 +154,8 @@ TEST_F(ScoreSheet, OnItsWayOutItTakesNoTapButMayBeCalledBack) {
 }
 
 TEST(SheetPresenter, TakesHalfOfWhatTheSafeAreaLeavesAtTheTop) {
-  const View content = View(swiftui::Text::verbatim("x"))
-                           .presentationDetents({swiftui::PresentationDetent::medium()});
+  const swiftui::View content = swiftui::View(swiftui::Text::verbatim("x"))
+                                    .presentationDetents({swiftui::PresentationDetent::medium()});
   testing::TestSheet alone({swiftui::State<bool>{true}.binding(), content}, {320, 140},
                            {40, 0, 30, 0});
   EXPECT_EQ(alone.sheet.panelFrame().top(), 60);

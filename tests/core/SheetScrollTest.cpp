@@ -1,10 +1,8 @@
-#include "platform/swiftui/Elements.h"
 #include "tests/core/TestWindow.h"
 
 namespace quorix {
 namespace {
 
-using swiftui::Text;
 using swiftui::View;
 
 struct Shown {
@@ -24,13 +22,13 @@ struct LongSheet : Shown, testing::TestSheet {
 
   View content() {
     const auto button = [this](const char* name) {
-      return View(Text::verbatim(name))
+      return View(swiftui::Text::verbatim(name))
           .onTapGesture([this, name] { acted += name; })
           .frame(320, 100);
     };
-    return View(swiftui::VStack(
-                    layout::HorizontalAlignment::center, 0,
-                    {button("Top"), View(Text::verbatim("")).frame(320, 500), button("End")}))
+    return View(swiftui::VStack(layout::HorizontalAlignment::center, 0,
+                                {button("Top"), View(swiftui::Text::verbatim("")).frame(320, 500),
+                                 button("End")}))
         .presentationDetents({swiftui::PresentationDetent::height(300)});
   }
   /// How far the text of the last button has moved up.

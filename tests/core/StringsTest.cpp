@@ -1,7 +1,5 @@
 #include "QuorixWidgets/localization/Strings.h"
 
-#include <gmock/gmock.h>
-
 #include <cmath>
 #include <cstdio>
 #include <limits>
@@ -17,13 +15,11 @@ namespace {
 
 using foundation::Bundle;
 using foundation::components;
-using foundation::Error;
 using foundation::FormatArgument;
 using foundation::formatted;
 using foundation::readStringsFile;
 using foundation::StringTable;
 using foundation::uppercased;
-using testing::OtherResources;
 
 using Limits = std::numeric_limits<double>;
 
@@ -53,6 +49,9 @@ TEST(StringFormat, ShowsNumbersAsTheCLibraryDoes) {
       const std::string start = "%" + flags + size;
       for (const char letter : std::string_view("fFeEgGaA")) {
         for (const double value : numbers) {
+          // Libraries differ in the digits of a subnormal number before its point.
+          const bool hex = letter == 'a' || letter == 'A';
+          if (hex && value != 0 && std::fabs(value) < Limits::min()) continue;
           expectAsInC(start + letter, start + letter, value);
         }
       }
@@ -90,16 +89,14 @@ TEST(StringFormat, BoundsItsFields) {
   EXPECT_EQ(formatted("%.99999f", {Limits::max()}).size(), 309u + 1 + 512);
 }
 
-using Pieces = std::vector<std::string_view>;
-
 void expectPieces(const std::string& table, bool withEmptyOnes) {
   forEachRow(table, [&](simdjson::dom::element row) {
-    const std::string title = ::text(row, "title");
+    const std::string title = withBytes(::text(row, "title"));
     auto pieces = components(title, ::text(row, "number"));
     if (!withEmptyOnes) std::erase(pieces, "");
-    Pieces expected;
-    for (const simdjson::dom::element piece : row["parts"]) expected.emplace_back(piece);
-    EXPECT_EQ(pieces, expected);
+    const auto expected = texts(row["parts"]);
+    ASSERT_EQ(pieces.size(), expected.size());
+    for (std::size_t i = 0; i < pieces.size(); ++i) EXPECT_EQ(pieces[i], withBytes(expected[i]));
   });
 }
 
@@ -107,10 +104,6 @@ TEST(UnicodeText, SplitsAsPhonesDo) {
   expectPieces("titles", false);
   expectPieces("titles_own", true);
   expectPieces("graphemes", false);
-  // Not UTF-8, so there is no combining mark.
-  EXPECT_EQ(components("\xFFx\xC3", "x"), (Pieces{"\xFF", "\xC3"}));
-  EXPECT_EQ(components("\xCC.\x81", "."), (Pieces{"\xCC", "\x81"}));
-  EXPECT_EQ(components("a.\xCC", "."), (Pieces{"a", "\xCC"}));
 }
 
 TEST(UnicodeText, CapitalsFollowTheLanguage) {
@@ -120,12 +113,19 @@ TEST(UnicodeText, CapitalsFollowTheLanguage) {
   EXPECT_EQ(uppercased("a\xFFz", "xx"), "A\uFFFDZ");
 }
 
+std::string outcome(const foundation::Result<StringTable>& result) {
+  const auto* error = std::get_if<foundation::Error>(&result);
+  if (error == nullptr) return "table";
+  return error->code == static_cast<std::int64_t>(foundation::StringsFileErrorCode::notATable)
+             ? "other"
+             : "error";
+}
+
 void expectReading(simdjson::dom::element row) {
   const bool isText = row["bytes"].error() != simdjson::SUCCESS;
   const auto result = readStringsFile(isText ? ::text(row, "file") : fromHex(::text(row, "bytes")));
-  const auto* table = std::get_if<StringTable>(&result);
-  ASSERT_EQ(table ? "table" : "error", ::text(row, "outcome"));
-  if (table) {
+  ASSERT_EQ(outcome(result), ::text(row, "outcome"));
+  if (const auto* table = std::get_if<StringTable>(&result)) {
     StringTable expected;
     for (const auto entry : row["table"].get_object()) {
       expected.emplace(entry.key, std::string_view(entry.value));
@@ -133,7 +133,7 @@ void expectReading(simdjson::dom::element row) {
     EXPECT_EQ(*table, expected);
     return;
   }
-  const std::string& description = std::get<Error>(result).description;
+  const std::string& description = std::get<foundation::Error>(result).description;
   EXPECT_TRUE(description.starts_with("line ")) << description;
   if (row["says"].error() == simdjson::SUCCESS) {
     EXPECT_THAT(description, ::testing::HasSubstr(::text(row, "says")));
@@ -145,8 +145,14 @@ TEST(StringsFile, IsReadAsPhonesReadItAndSaysInWhichLineItGoesWrong) {
   forEachRow("strings_files_own", expectReading);
 }
 
+TEST(StringsFile, MayBeNestedWithoutEnd) {
+  const std::string deep(200'000, '(');
+  EXPECT_EQ(outcome(readStringsFile("a = " + deep)), "error");
+  EXPECT_EQ(outcome(readStringsFile("a = " + deep + std::string(deep.size(), ')') + ';')), "other");
+}
+
 TEST(LocalizedString, IsFoundByTheExactLocaleOrElseInEnglish) {
-  const OtherResources resources({
+  const testing::OtherResources resources({
       {"en.lproj/Localizable.strings", "k = english; f = \"%.1f of %@\"; onlyEnglish = x;"},
       {"es.lproj/Localizable.strings", "k = spanish; empty = \"\"; \"\" = nameless;"},
       {"fr.lproj/Other.strings", "k = french;"},
@@ -163,7 +169,7 @@ TEST(LocalizedString, IsFoundByTheExactLocaleOrElseInEnglish) {
 TEST(LocalizedString, IsEmptyWithoutABundle) {
   const auto spanishAlone = testing::memoryBundle({{"es.lproj/Localizable.strings", "k = v;"}});
   for (const Bundle::Ref& bundle : {Bundle::Ref(), testing::memoryBundle({}), spanishAlone}) {
-    const OtherResources resources(bundle);
+    const testing::OtherResources resources(bundle);
     EXPECT_EQ(localized("widget-read-more", "en"), "");
     EXPECT_EQ(localized("%@", "en", {"Ann"}), "");
     EXPECT_EQ(localized("k", "es"), bundle == spanishAlone ? "v" : "");
@@ -172,17 +178,14 @@ TEST(LocalizedString, IsEmptyWithoutABundle) {
 
 /// The texts beside the link are joined without another blank.
 TEST(LocalizableTables, ThePersonalLineIsSpacedByItsTexts) {
-  const auto line = [](const char* locale) {
-    return localized("widget-title-start", locale) +
-           localized("widget-title-return-rate-low", locale, {12.5}) + '[' +
-           localized("widget-read-more", locale) + ']' + localized("widget-title-end", locale);
-  };
-  EXPECT_EQ(line("de"),
-            "Gut ausgesucht! Du gehörst zu den 12\u00A0% unserer Kundinnen und Kunden, die am "
-            "wenigsten zurückschicken. [Mehr dazu], wie deine Retouren zählen.");
-  EXPECT_EQ(line("ja"),
-            "上手なお買い物です！返品が少ないお客様の上位12%に入っています。[詳しく見る]"
-            "（返品の数え方について）");
+  forEachRow("personal_lines", [](simdjson::dom::element row) {
+    const std::string locale = ::text(row, "locale");
+    EXPECT_EQ(localized("widget-title-start", locale) +
+                  localized("widget-title-return-rate-low", locale, {12.5}) + '[' +
+                  localized("widget-read-more", locale) + ']' +
+                  localized("widget-title-end", locale),
+              ::text(row, "line"));
+  });
 }
 
 TEST(LocalizableTables, MistakesAreNamed) {

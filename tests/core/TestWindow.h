@@ -4,12 +4,11 @@
 
 #include <sstream>
 #include <stdexcept>
-#include <string>
-#include <utility>
 
 #include "platform/foundation/MainQueue.h"
 #include "platform/hosting/ViewWindow.h"
 #include "platform/render/ScenePrinter.h"
+#include "platform/swiftui/Elements.h"
 #include "tests/core/FixedWidthText.h"
 
 namespace quorix::testing {
@@ -56,7 +55,7 @@ struct TestText {
 };
 
 /// A window that one view fills. User actions find elements by their accessibility label.
-class TestWindow final : public TestText, public hosting::ViewWindow {
+class TestWindow : public TestText, public hosting::ViewWindow {
  public:
   explicit TestWindow(swiftui::View root, swiftui::Environment settings = {},
                       layout::Size windowSize = {320, 640})

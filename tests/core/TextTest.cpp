@@ -1,15 +1,12 @@
 #include <algorithm>
 
-#include "QuorixWidgets/info/InfoWidgetViewModel.h"
-#include "platform/render/Scene.h"
-#include "platform/swiftui/Elements.h"
-#include "platform/swiftui/Environment.h"
 #include "platform/swiftui/UIViewRepresentable.h"
 #include "platform/text/TextAnalysis.h"
 #include "platform/text/TextBound.h"
 #include "platform/uikit/UILabel.h"
 #include "tests/core/Resources.h"
 #include "tests/core/TestWindow.h"
+#include "tests/core/Vectors.h"
 #include "tests/core/Widgets.h"
 
 namespace quorix {
@@ -32,28 +29,12 @@ std::size_t characters(const std::string& utf8) {
       std::count_if(utf8.begin(), utf8.end(), [](char c) { return (c & 0xC0) != 0x80; }));
 }
 
+// Keeps a letter and its accent together, and a family; cuts between a letter's many accents.
 TEST(TextBound, CutsBetweenWhatAReaderTakesForCharacters) {
-  const std::string acute = "\u0301";
-  const std::string family = "👩\u200D👩\u200D👧";
-  const struct {
-    std::string text;
-    std::size_t most;
-    std::string shown;
-  } rows[] = {
-      {"", 4, ""},
-      {"abcd", 4, "abcd"},
-      {"abcde", 4, "abc…"},
-      {"返品手数料", 12, "返品手…"},
-      {"返品手数", 12, "返品手数"},
-      {"abe" + acute + "d", 6, "ab…"},                     // keeps a letter and its accent together
-      {"a" + family + "b", 13, "a…"},                      // keeps a family together
-      {repeated(acute, 9), 12, repeated(acute, 3) + "…"},  // cuts between the accents of one letter
-      {"a" + repeated(acute, 9), 10, "a" + acute + acute + "…"},
-      {"\xFF\xFF\xFF\xFF\xFF", 12, "\xFF\xFF\xFF…"},
-      {"abc", 1, "…"},
-      {"abc", 0, "…"},
-  };
-  for (const auto& row : rows) EXPECT_EQ(text::bounded(row.text, row.most), row.shown);
+  forEachRow("text_bounds", [](simdjson::dom::element row) {
+    EXPECT_EQ(text::bounded(withBytes(::text(row, "text")), std::uint64_t(row["most"])),
+              withBytes(::text(row, "shown")));
+  });
 }
 
 TEST(TextBound, CountsAllRunsOfATextTogether) {
@@ -125,27 +106,16 @@ TEST(TextBound, AnEndlessTitleIsCutBeforeItIsSplit) {
   EXPECT_LE(shown, text::mostOfText + std::string("20%").size());
 }
 
-constexpr auto ltr = layout::LayoutDirection::leftToRight;
-constexpr auto rtl = layout::LayoutDirection::rightToLeft;
-
 TEST(BaseDirection, FollowsTheLettersAndNotThePage) {
-  const struct {
-    const char* words;
-    layout::LayoutDirection onLeftToRightPage, onRightToLeftPage;
-  } rows[] = {
-      {"", ltr, ltr},
-      {"1.234,00\u00A0€", ltr, ltr},
-      {"\u200F١٬٢٣٤٫٠٠\u00A0€", rtl, rtl},  // has a direction mark
-      {"18 رسوم", rtl, rtl},
-      {"Quorix رسوم", ltr, rtl},
-      {"רסום Quorix", rtl, rtl},
-      {"\xFF\xFE", ltr, ltr},  // not UTF-8
-  };
-  for (const auto& row : rows) {
-    const std::vector<text::Run> runs = {{row.words, {}, {}}};
-    EXPECT_EQ(text::baseDirection({runs, ltr}), row.onLeftToRightPage) << row.words;
-    EXPECT_EQ(text::baseDirection({runs, rtl}), row.onRightToLeftPage) << row.words;
-  }
+  forEachRow("text_directions", [](simdjson::dom::element row) {
+    using enum layout::LayoutDirection;
+    const std::vector<text::Run> runs = {{withBytes(::text(row, "text")), {}, {}}};
+    for (const auto& [page, key] :
+         {std::pair(leftToRight, "onLeftToRightPage"), {rightToLeft, "onRightToLeftPage"}}) {
+      EXPECT_EQ(text::baseDirection({runs, page}) == rightToLeft, ::text(row, key) == "right")
+          << key;
+    }
+  });
 }
 
 TEST(UnspacedWords, AreThoseOfScriptsWithoutBlanks) {
@@ -186,17 +156,10 @@ TEST(ContentSizeCategory, ReachesScalingFontsOnly) {
 }
 
 TEST(ContentSizeCategory, IsTheOneNearestToADesktopsFactor) {
-  const std::pair<double, std::string_view> rows[] = {{NAN, "large"},
-                                                      {0, "large"},
-                                                      {0.5, "extraSmall"},
-                                                      {1, "large"},
-                                                      {2, "accessibilityLarge"},
-                                                      {2.9, "accessibilityExtraExtraLarge"},
-                                                      {3, "accessibilityExtraExtraExtraLarge"},
-                                                      {100, "accessibilityExtraExtraExtraLarge"}};
-  for (const auto& [factor, name] : rows) {
-    EXPECT_EQ(nameOf(swiftui::contentSizeCategoryFor(factor)), name) << factor;
-  }
+  forEachRow("text_factors", [](simdjson::dom::element row) {
+    EXPECT_EQ(nameOf(swiftui::contentSizeCategoryFor(number(row, "factor"))),
+              ::text(row, "category"));
+  });
 }
 
 /// The runs that the text engine gets.

@@ -1,13 +1,11 @@
 #include "QuorixWidgets/info/UIInfoWidget.h"
 
 #include <deque>
-#include <map>
+#include <sstream>
 
 #include "QuorixWidgets/info/InfoWidgetViewModel.h"
 #include "QuorixWidgets/overlay/WebViewController.h"
 #include "platform/swiftui/UIViewRepresentable.h"
-#include "platform/uikit/UIApplication.h"
-#include "platform/uikit/UIWindow.h"
 #include "platform/uikit/ViewPrinter.h"
 #include "tests/core/Resources.h"
 #include "tests/core/TestWindow.h"
@@ -16,7 +14,6 @@
 using namespace quorix;
 using foundation::MainQueue;
 using quorix::testing::itemsOf;
-using quorix::testing::OtherResources;
 using quorix::testing::TestWindow;
 using State = uikit::UIScene::ActivationState;
 
@@ -28,27 +25,26 @@ std::shared_ptr<UIInfoWidgetViewModel> modelOf(const UIKitStyleConfiguration& st
   return std::make_shared<UIInfoWidgetViewModel>(std::move(name), locale, style);
 }
 
-struct WindowKind {
-  bool key = false, hidden = false, high = false;
-};
-constexpr WindowKind plain{}, key{.key = true}, hidden{.hidden = true}, high{.high = true};
-
-/// The app's scenes while it exists, each with its state and its windows.
+/// The app's scenes while it exists: each one's state, and its windows with what they are.
 struct App {
-  using Scenes = std::vector<std::pair<State, std::vector<WindowKind>>>;
-
-  explicit App(const Scenes& kinds) {
-    for (const auto& [state, windows] : kinds) {
-      const auto& scene = scenes.emplace_back(std::make_shared<uikit::UIWindowScene>());
-      scene->setActivationState(state);
-      for (const WindowKind& kind : windows) {
-        const auto window = std::make_shared<uikit::UIWindow>();
-        if (kind.key) window->makeKey();
-        window->setHidden(kind.hidden);
-        if (kind.high) window->setWindowLevel(uikit::UIWindow::normalLevel + 1);
-        scene->addWindow(window);
+  explicit App(const std::string& words) {
+    const std::map<std::string, State> states = {{"active:", State::foregroundActive},
+                                                 {"inactive:", State::foregroundInactive},
+                                                 {"background:", State::background},
+                                                 {"unattached:", State::unattached}};
+    std::istringstream all(words);
+    for (std::string word; all >> word;) {
+      if (states.contains(word)) {
+        scenes.push_back(std::make_shared<uikit::UIWindowScene>());
+        scenes.back()->setActivationState(states.at(word));
+        uikit::UIApplication::shared().connect(scenes.back());
+        continue;
       }
-      uikit::UIApplication::shared().connect(scene);
+      const auto window = std::make_shared<uikit::UIWindow>();
+      if (word.find("key") != word.npos) window->makeKey();
+      window->setHidden(word.find("hidden") != word.npos);
+      if (word == "high") window->setWindowLevel(uikit::UIWindow::normalLevel + 1);
+      scenes.back()->addWindow(window);
     }
   }
   ~App() {
@@ -146,7 +142,7 @@ TEST(UIInfoWidget, PresentsTheOverlayOverTheTopmostScreen) {
   };
   const auto read = [&] { tap(TestWindow::middle(window.element("Read more").frame)); };
   read();  // without effect: there is no window
-  App app({{State::foregroundActive, {plain}}});
+  App app("active: plain");
   read();  // nor a controller
   const auto root = std::make_shared<uikit::UIViewController>();
   const auto alert = std::make_shared<uikit::UIViewController>();
@@ -167,34 +163,18 @@ TEST(UIInfoWidget, PresentsTheOverlayOverTheTopmostScreen) {
 }
 
 TEST(UIApplication, FindsTheKeyWindow) {
-  constexpr auto active = State::foregroundActive, inactive = State::foregroundInactive,
-                 background = State::background, unattached = State::unattached;
-  using Place = std::pair<std::size_t, std::size_t>;  // indexes of a scene and of its window
-  const struct {
-    const char* name;
-    App::Scenes app;
-    std::optional<Place> found;
-  } rows[] = {
-      {"no scene", {}, {}},
-      {"the key window", {{active, {plain, key}}}, Place{0, 1}},
-      {"even a hidden one", {{active, {plain, {.key = true, .hidden = true}}}}, Place{0, 1}},
-      {"the first in plain sight", {{active, {hidden, high, plain, plain}}}, Place{0, 2}},
-      {"an active scene without windows", {{active, {}}, {background, {key}}}, {}},
-      {"the first active scene", {{active, {hidden}}, {active, {key}}}, Place{0, 0}},
-      {"after others", {{background, {key}}, {active, {plain}}}, Place{1, 0}},
-      {"none active", {{unattached, {plain}}, {inactive, {plain, key}}}, Place{1, 1}},
-      {"none active, no key", {{background, {plain}}, {unattached, {high}}}, {}},
-  };
   // Skips scenes of another class at any place in the list.
   const auto other = std::make_shared<uikit::UIScene>();
-  other->setActivationState(active);
+  other->setActivationState(State::foregroundActive);
   uikit::UIApplication::shared().connect(other);
-  for (const auto& row : rows) {
-    const App app(row.app);
-    const auto expected =
-        row.found ? app.scenes[row.found->first]->windows()[row.found->second] : nullptr;
-    EXPECT_EQ(UIApplication::getKeyWindow(), expected) << row.name;
-  }
+  forEachRow("key_windows", [](simdjson::dom::element row) {
+    const App app(::text(row, "app"));
+    std::shared_ptr<uikit::UIWindow> expected;
+    if (const auto at = row["found"]; !at.is_null()) {
+      expected = app.scenes[std::uint64_t(at.at(0))]->windows()[std::uint64_t(at.at(1))];
+    }
+    EXPECT_EQ(UIApplication::getKeyWindow(), expected);
+  });
   uikit::UIApplication::shared().disconnect(other);
 }
 
@@ -218,7 +198,7 @@ TEST(UIInfoWidgetDeath, StopsOnWhatItCannotBe) {
       {{{"UIInfoWidget.xib", without("linkLabel")}}, "Unexpectedly found nil"},
   };
   for (const auto& [files, message] : rows) {
-    const OtherResources broken(files);
+    const quorix::testing::OtherResources broken(files);
     EXPECT_DEATH(UIInfoWidget::make(model), message);
   }
 }

@@ -1,18 +1,15 @@
 #include "platform/uikit/UIView.h"
 
-#include "platform/render/ScenePrinter.h"
 #include "platform/render/Wording.h"
-#include "platform/swiftui/Elements.h"
 #include "platform/swiftui/UIViewRepresentable.h"
 #include "platform/uikit/UILabel.h"
 #include "platform/uikit/ViewPrinter.h"
 #include "tests/core/TestWindow.h"
+#include "tests/core/Vectors.h"
 
 namespace quorix::uikit {
 namespace {
 
-using foundation::MainQueue;
-using testing::FixedWidthText;
 using testing::TestWindow;
 
 using Taps = std::vector<std::string>;
@@ -43,23 +40,16 @@ TEST(UIView, TapsFindTheTopmostTouchedView) {
   glass->setUserInteractionEnabled(false);
   gone->setHidden(true);
 
-  FixedWidthText text;
+  testing::FixedWidthText text;
   UIViewContent content(root);
   const render::Scene scene = content.scene({100, 100}, {}, text);
-  struct {
-    layout::Point point;
-    const char* tapped;
-  } const rows[] = {
-      {{45, 45}, "low"}, {{10, 10}, ""},       {{30, 10}, "low"},   {{10, 30}, "low"},
-      {{90, 10}, ""},    {{55, 55}, "parent"}, {{65, 65}, "child"}, {{85, 85}, "parent"},
-      {{100, 85}, ""},  // outside its superview the label takes no touches
-  };
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.point.x);
+  // Outside its superview, the label takes no touches.
+  forEachRow("gestures/touches", [&](simdjson::dom::element row) {
     taps->clear();
-    if (const auto* area = scene.hitTest(row.point)) area->action();
-    EXPECT_EQ(*taps, *row.tapped ? Taps{row.tapped} : Taps{});
-  }
+    if (const auto* area = scene.hitTest(point(row["point"]))) area->action();
+    const std::string tapped = ::text(row, "tapped");
+    EXPECT_EQ(*taps, tapped.empty() ? Taps{} : Taps{tapped});
+  });
 }
 
 TEST(Wording, EscapesTextsAndRoundsLengths) {
@@ -170,7 +160,7 @@ TEST(UIViewController, PresentsAChainAndTellsItsWindow) {
     EXPECT_EQ(second->window(), &window);
     EXPECT_EQ(second->presentingViewController(), first);
     EXPECT_EQ(completed, 0) << "not before the caller is done";
-    MainQueue::drain();
+    foundation::MainQueue::drain();
     EXPECT_EQ(completed, 1);
 
     root->present(other, true);   // presents one already
@@ -187,7 +177,7 @@ TEST(UIViewController, PresentsAChainAndTellsItsWindow) {
     EXPECT_EQ(window.presentedControllers(), Chain{});
     EXPECT_EQ(first->presentedViewController(), nullptr);
     root->dismiss(true, [&] { ++completed; });  // nothing to dismiss
-    MainQueue::drain();
+    foundation::MainQueue::drain();
     EXPECT_EQ(completed, 2);
     EXPECT_EQ(surface.changes, 4);
     root->present(first, true);

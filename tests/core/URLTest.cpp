@@ -22,24 +22,16 @@ TEST(URL, EscapesWhatMayNotStandInAnAddress) {
   });
 }
 
-TEST(URL, TakesAnAddressApart) {
+TEST(URL, TakesAnAddressApartAndRefusesWhatIsNone) {
   forEachRow("urls", [](simdjson::dom::element row) {
     const auto url = URL::parse(text(row, "text"));
-    ASSERT_TRUE(url);
+    ASSERT_EQ(url.has_value(), !row["address"].is_null());
+    if (!url) return;
     EXPECT_EQ(url->absoluteString(), text(row, "address"));
     EXPECT_EQ(url->origin(), text(row, "origin"));
     EXPECT_EQ(url->path(), text(row, "path"));
   });
   EXPECT_EQ(URL::parse("https://a/\xFF")->absoluteString(), "https://a/%FF");
-}
-
-TEST(URL, RefusesWhatIsNoAddress) {
-  for (const std::string_view text :
-       {"", "x", "/path", "//host/path", "://host", "1http://host", "ht tp://host", "http://a b/",
-        "http://a:b/", "http://a:-1/", "http://[::1", "http://[::1]x/", "http://[x]/", "http://[]/",
-        "http://a]/", "http://é/", "http://a%/", "http://a\\b/"}) {
-    EXPECT_EQ(URL::parse(text), std::nullopt) << text;
-  }
 }
 
 TEST(URLComponents, EncodesQueryItemsAsPhonesDo) {
@@ -54,31 +46,22 @@ TEST(URLComponents, EncodesQueryItemsAsPhonesDo) {
 }
 
 TEST(URLComponents, WritesTheQueryBetweenPathAndFragment) {
-  const struct {
-    std::string_view base;
-    std::vector<quorix::foundation::URLQueryItem> items;
-    std::string_view replaced, appended;  // the latter with "x y" after what the base holds
-  } rows[] = {
-      {"https://a", {}, "https://a?", "https://a?x%20y"},
-      {"https://a/?", {{"n", ""}}, "https://a/?n=", "https://a/?x%20y"},
-      {"https://a/p?q=1&%41#f?g",
-       {{"n&m=", std::nullopt}, {"", "v"}},
-       "https://a/p?n%26m%3D&=v#f?g",
-       "https://a/p?q=1&%41&x%20y#f?g"},
-      {"mailto:a@b",
-       {{"subject", "\xFFé\xC3"}},
-       "mailto:a@b?subject=%EF%BF%BD%C3%A9%EF%BF%BD",
-       "mailto:a@b?x%20y"},
-  };
-  for (const auto& row : rows) {
-    auto components = URLComponents::parse(row.base);
-    ASSERT_TRUE(components) << row.base;
-    EXPECT_EQ(components->url()->absoluteString(), row.base);
+  forEachRow("url_queries", [](simdjson::dom::element row) {
+    auto components = URLComponents::parse(text(row, "base"));
+    ASSERT_TRUE(components);
+    EXPECT_EQ(components->url()->absoluteString(), text(row, "base"));
     components->appendQueryItem({"x y", std::nullopt});
-    EXPECT_EQ(components->url()->absoluteString(), row.appended);
-    components->setQueryItems(row.items);
-    EXPECT_EQ(components->url()->absoluteString(), row.replaced);
-  }
+    EXPECT_EQ(components->url()->absoluteString(), text(row, "appended"));
+    std::vector<quorix::foundation::URLQueryItem> items;
+    for (const simdjson::dom::element item : row["items"]) {
+      const std::string name(std::string_view(item.at(0)));
+      items.push_back({name, std::nullopt});
+      if (!item.at(1).is_null())
+        items.back().value = withBytes(std::string(std::string_view(item.at(1))));
+    }
+    components->setQueryItems(items);
+    EXPECT_EQ(components->url()->absoluteString(), text(row, "replaced"));
+  });
   EXPECT_FALSE(URLComponents::parse("/path?q"));
 }
 

@@ -1,11 +1,9 @@
-#include "platform/swiftui/Elements.h"
 #include "tests/core/TestWindow.h"
 
 namespace quorix {
 namespace {
 
 using foundation::MainQueue;
-using swiftui::State;
 using swiftui::Text;
 using swiftui::View;
 using testing::TestWindow;
@@ -14,7 +12,7 @@ using testing::TestWindow;
 struct Counter {
   static constexpr std::string_view typeName = "Counter";
   std::string name;
-  State<int> count{0};
+  swiftui::State<int> count{0};
   auto states() const { return std::tie(count); }
   View body() const {
     const auto binding = count.binding();
@@ -29,7 +27,7 @@ struct Switched {
   static constexpr std::string_view typeName = "Switched";
   View shown;
   std::shared_ptr<int> evaluations = std::make_shared<int>(0);
-  State<bool> on{true};
+  swiftui::State<bool> on{true};
   auto states() const { return std::tie(on); }
   View body() const {
     ++*evaluations;

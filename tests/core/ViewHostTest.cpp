@@ -1,7 +1,7 @@
-#include "platform/swiftui/Elements.h"
 #include "platform/swiftui/UIViewRepresentable.h"
 #include "tests/core/Resources.h"
 #include "tests/core/TestWindow.h"
+#include "tests/core/Vectors.h"
 #include "tests/core/Widgets.h"
 
 namespace quorix {
@@ -9,8 +9,6 @@ namespace {
 
 using swiftui::Text;
 using swiftui::View;
-using testing::memoryBundle;
-using testing::scoreModel;
 using testing::TestWindow;
 
 /// A letter of `size` points that appends itself to `log` when it is tapped.
@@ -69,21 +67,13 @@ TEST(ViewHostInput, ATapIsAPressAndAReleaseOnOneArea) {
       swiftui::HStack(layout::VerticalAlignment::top, 0,
                       {key(log, "a", 50).overlay({}, key(log, "c", 10)), key(log, "b", 50)});
   TestWindow window(keys, {}, {100, 50});
-  const struct {
-    layout::Point press, release;
-    const char* taps;
-  } rows[] = {
-      {{5, 5}, {45, 45}, "a"},    {{25, 25}, {26, 24}, "c"}, {{5, 5}, {55, 5}, ""},
-      {{25, 25}, {5, 5}, ""},     {{5, 5}, {25, 25}, ""},    {{5, 5}, {5, 200}, ""},
-      {{99.9, 0}, {50, 49}, "b"}, {{100, 0}, {99, 0}, ""},
-  };
-  for (const auto& row : rows) {
+  forEachRow("gestures/taps", [&](simdjson::dom::element row) {
     log.clear();
-    window.press(row.press);
-    window.release(row.release);
+    window.press(point(row["press"]));
+    window.release(point(row["release"]));
     window.settle();
-    EXPECT_EQ(log, row.taps) << row.press.x << " to " << row.release.x;
-  }
+    EXPECT_EQ(log, ::text(row, "taps"));
+  });
   log.clear();
   window.press({5, 5});
   window.front().pointerLost();
@@ -95,7 +85,7 @@ TEST(ViewHostInput, ATapIsAPressAndAReleaseOnOneArea) {
 }
 
 TEST(ViewHostInput, ATapOutlivesAnUpdateBetweenItsHalves) {
-  const auto model = scoreModel(false);
+  const auto model = testing::scoreModel(false);
   const auto strings = LocalizationRepository::make("en");
   TestWindow window(ScoreWidgetView{model, strings});
   const auto frame = window.element("Your return fee €4.00").frame;
@@ -193,16 +183,16 @@ TEST(HostsStringTable, IsTheOneOfTheUsersLanguage) {
     return TestWindow(swiftui::Text::localized("%@ %@", {"fee", "4"}), settings).labels();
   };
   foundation::Bundle::setMain(
-      memoryBundle({{"pt-BR.lproj/Localizable.strings", "\"%@ %@\" = \"br %2$@ %1$@\";"},
-                    {"pt.lproj/Localizable.strings", "\"%@ %@\" = \"pt %2$@ %1$@\";"},
-                    {"es.lproj/Localizable.strings", "other = x;"},
-                    {"en.lproj/Localizable.strings", "\"%@ %@\" = \"en %2$@ %1$@\";"}}));
+      testing::memoryBundle({{"pt-BR.lproj/Localizable.strings", "\"%@ %@\" = \"br %2$@ %1$@\";"},
+                             {"pt.lproj/Localizable.strings", "\"%@ %@\" = \"pt %2$@ %1$@\";"},
+                             {"es.lproj/Localizable.strings", "other = x;"},
+                             {"en.lproj/Localizable.strings", "\"%@ %@\" = \"en %2$@ %1$@\";"}}));
   for (const auto& [language, label] : std::map<std::string, std::string>{
            {"pt-BR", "br 4 fee"}, {"pt-PT", "pt 4 fee"}, {"es", "en 4 fee"}, {"", "en 4 fee"}}) {
     EXPECT_EQ(heard(language), label);
   }
   foundation::Bundle::setMain(
-      memoryBundle({{"Localizable.strings", "\"%@ %@\" = \"any %2$@ %1$@\";"}}));
+      testing::memoryBundle({{"Localizable.strings", "\"%@ %@\" = \"any %2$@ %1$@\";"}}));
   EXPECT_EQ(heard("es"), "any 4 fee");
   foundation::Bundle::setMain(nullptr);
   EXPECT_FALSE(foundation::Bundle::hasMain());

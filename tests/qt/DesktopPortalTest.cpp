@@ -1,7 +1,6 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusVariant>
-#include <QTest>
 
 #include "tests/qt/Screens.h"
 

@@ -1,10 +1,5 @@
 #pragma once
 
-#include <functional>
-#include <memory>
-#include <string>
-#include <tuple>
-
 #include "platform/combine/ObservableObject.h"
 #include "platform/swiftui/Elements.h"
 #include "platform/swiftui/View.h"

@@ -1,6 +1,3 @@
-#include <QTest>
-
-#include "tests/qt/FeeRow.h"
 #include "tests/qt/Pixels.h"
 #include "tests/qt/Screens.h"
 #include "tests/web/LogListener.h"
@@ -77,41 +74,92 @@ TYPED_TEST(Focus, WalksThroughTheElementsThatActAndOn) {
   EXPECT_EQ(taps, "ABBA");
 }
 
-TYPED_TEST(Focus, LeavesAViewInWhichNothingActsAnyMore) {
-  for (const bool behindASheet : {false, true}) {
-    for (const bool all : {true, false}) {
-      TypeParam screen;
-      auto* first = screen.addFocusable();
-      auto* row = screen.add(FeeRow("4 €"), kPlace);
-      auto* next = screen.addFocusable();
-      screen.focus(row);
-      if (behindASheet) screen.key(Qt::Key_Return);
-      ASSERT_EQ(screen.hasFocus(row), !behindASheet);
-      const LogListener log;
-      row->setView(all ? View() : View(Text::verbatim("Text")));
-      screen.settle();
-      EXPECT_TRUE(screen.hasFocus(next)) << behindASheet << all;
-      screen.key(Qt::Key_Tab);
-      EXPECT_TRUE(screen.hasFocus(first)) << behindASheet << all;
-      EXPECT_TRUE(LogListener::lines().isEmpty());
-    }
+TYPED_TEST(Focus, LeavesAViewInWhichNothingActsAnyMoreUnlessNothingElseTakesIt) {
+  const struct {
+    bool isAlone, behindASheet, empty;
+  } rows[] = {{false, false, true},
+              {false, false, false},
+              {false, true, true},
+              {false, true, false},
+              {true, false, true}};
+  for (const auto& [isAlone, behindASheet, empty] : rows) {
+    SCOPED_TRACE(::testing::Message() << isAlone << behindASheet << empty);
+    TypeParam screen;
+    auto* first = isAlone ? nullptr : screen.addFocusable();
+    auto* row = screen.add(FeeRow("4 €"), kPlace);
+    auto* next = isAlone ? nullptr : screen.addFocusable();
+    screen.focus(row);
+    if (behindASheet) screen.key(Qt::Key_Return);
+    ASSERT_EQ(screen.hasFocus(row), !behindASheet);
+    const LogListener log;
+    row->setView(empty ? View() : View(Text::verbatim("Text")));
+    screen.settle();
+    EXPECT_TRUE(isAlone ? !screen.hasFocus(row) : screen.hasFocus(next));
+    if (isAlone) row->setView(FeeRow("9 €"));
+    screen.settle();
+    screen.key(Qt::Key_Tab);
+    EXPECT_TRUE(isAlone ? screen.hasFocus(row) : screen.hasFocus(first));
+    EXPECT_TRUE(LogListener::lines().isEmpty());
   }
 }
 
-TYPED_TEST(Focus, GoesNowhereWhereNothingElseTakesIt) {
+SCREENS_TEST_SUITE(Accessible);
+
+/// An element and its children: role, name and description, and whether it is focusable and
+/// focused.
+std::string printed(QAccessibleInterface* element, const std::string& indent = {}) {
+  std::string text = indent + QVariant::fromValue(element->role()).toString().toStdString();
+  for (const auto kind : {QAccessible::Name, QAccessible::Description}) {
+    const QString words = element->text(kind);
+    if (!words.isEmpty()) text += " \"" + words.toStdString() + '"';
+  }
+  if (element->state().modal) text += " modal";
+  if (element->state().focusable) text += " focusable";
+  if (element->state().focused) text += " focused";
+  auto* const actions = element->actionInterface();
+  if (actions && !actions->actionNames().isEmpty()) text += " acts";
+  text += '\n';
+  for (int i = 0; i < element->childCount(); ++i) text += printed(element->child(i), indent + "  ");
+  return text;
+}
+
+TYPED_TEST(Accessible, SeveralElementsStandInAGroupInReadingOrder) {
   TypeParam screen;
-  auto* row = screen.add(FeeRow("4 €"), kPlace);
+  int taps = 0;
+  const View heading = View(Text::verbatim("Title"))
+                           .accessibilityAddTraits(swiftui::AccessibilityTrait::isHeader)
+                           .accessibilityHint(Text::verbatim("Hint"));
+  auto* item =
+      screen.add(swiftui::VStack(layout::HorizontalAlignment::leading, 4,
+                                 {heading, Text::verbatim("Text"),
+                                  View(Text::verbatim("Press")).onTapGesture([&taps] { ++taps; })}),
+                 kPlace);
+  QAccessibleInterface* group = QAccessible::queryAccessibleInterface(item);
+  screen.addFocusable();
   screen.key(Qt::Key_Tab);
-  ASSERT_TRUE(screen.hasFocus(row));
-  const LogListener log;
-  row->setView(View());
+  EXPECT_EQ(printed(group),
+            "Grouping\n"
+            "  Heading \"Title\" \"Hint\"\n"
+            "  StaticText \"Text\"\n"
+            "  Button \"Press\" focusable focused acts\n");
+  for (int i = 0; i < group->childCount(); ++i) {
+    const QPoint middle = group->child(i)->rect().center();
+    EXPECT_EQ(group->childAt(middle.x(), middle.y()), group->child(i));
+  }
+  EXPECT_EQ(group->focusChild(), group->child(2));
+  screen.act("Press", QAccessibleActionInterface::pressAction());
+  EXPECT_EQ(taps, 1);
+}
+
+TYPED_TEST(Accessible, AReaderThatComesLateFindsTheSheet) {
+  TypeParam screen;
+  screen.add(FeeRow("4 €"), kPlace);
+  const QPoint row = screen.centerOf("Row 4 €");
+  QAccessible::setActive(false);
+  screen.clickAt(row);
+  QAccessible::setActive(true);
   screen.settle();
-  EXPECT_FALSE(screen.hasFocus(row));
-  row->setView(FeeRow("9 €"));
-  screen.settle();
-  screen.key(Qt::Key_Tab);
-  EXPECT_TRUE(screen.hasFocus(row));
-  EXPECT_TRUE(LogListener::lines().isEmpty());
+  EXPECT_TRUE(screen.shows("Terms"));
 }
 
 }  // namespace

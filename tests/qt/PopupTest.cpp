@@ -1,10 +1,8 @@
 #include <QDialog>
 #include <QMenu>
-#include <QTest>
 #include <QWidgetAction>
 
 #include "qt/WindowScene.h"
-#include "tests/qt/FeeRow.h"
 #include "tests/qt/Screens.h"
 
 namespace quorix::testing {

@@ -4,9 +4,9 @@
 #include "QuorixWidgets/score/ScoreWidgetBuilder.h"
 #include "examples/common/TokenMint.h"
 #include "platform/foundation/Runtime.h"
-#include "platform/foundation/URLSession.h"
 #include "platform/swiftui/TreePrinter.h"
 #include "qml/Types.h"
+#include "tests/core/Widgets.h"
 #include "tests/qt/Screens.h"
 
 namespace quorix::testing {
@@ -39,9 +39,7 @@ struct QmlModule : ::testing::Test {
   }
   int made() { return std::exchange(Score::made, 0); }
 
-  std::shared_ptr<void> offline = foundation::URLSession::shared().registerProtocol([](auto&) {
-    return foundation::URLResponse{foundation::Error{"Test", 1, "offline"}, {}, 0};
-  });
+  std::shared_ptr<void> requests = offline();
   QuickScreen screen;
 };
 
@@ -155,28 +153,21 @@ TEST_F(QmlModule, TellsWhatHappenedUntilItsEnd) {
   }
 }
 
-/// A server that counts requests and never answers.
-struct SilentServer final : foundation::URLTransport {
-  int asked = 0;
-  void start(const foundation::URL&, Completion) override { ++asked; }
-};
-
 TEST_F(QmlModule, FetchesTextsAheadOnceTheNetworkIsOn) {
   const foundation::Runtime::Fresh<foundation::URLSession> session;
-  const auto server = std::make_shared<SilentServer>();
-  foundation::URLSession::shared().install(server);
+  const auto server = HeldTransport::install();
   QQuickItem* page = add(R"(
       import QuorixWidgets
       Item {
         property bool consent: false
         TextService { prefetch: "fr"; networkEnabled: consent }
       })");
-  EXPECT_EQ(server->asked, 0);
+  EXPECT_EQ(server->held.size(), 0U);
   const auto url = foundation::URL::parse("https://shop.example/texts").value();
   const auto isOff = [&] { return foundation::URLSession::shared().answerInProcess(url); };
   EXPECT_TRUE(isOff());
   page->setProperty("consent", true);
-  EXPECT_EQ(server->asked, 1);
+  EXPECT_EQ(server->held.size(), 1U);
   EXPECT_FALSE(isOff());
   foundation::URLSession::shared().setNetworkEnabled(false);
   add("import QuorixWidgets; Item { TextService { prefetch: 'it' } }");

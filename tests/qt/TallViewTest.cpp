@@ -1,6 +1,3 @@
-#include <QRect>
-
-#include "platform/swiftui/Elements.h"
 #include "tests/qt/Pixels.h"
 #include "tests/qt/Screens.h"
 
@@ -8,7 +5,6 @@ namespace quorix::testing {
 namespace {
 
 using swiftui::Text;
-using swiftui::View;
 
 template <class Screen>
 struct TallView : ::testing::Test {
@@ -29,8 +25,8 @@ void moveTo(QQuickItem& item, int y) { item.setPosition({0, double(y)}); }
 void moveTo(QWidget& widget, int y) { widget.move(0, y); }
 
 /// A view of `height` points with texts at its start, in the middle and at its end.
-View tower(double height) {
-  const View gap = swiftui::Divider().frame(1, height / 2 - 100);
+swiftui::View tower(double height) {
+  const swiftui::View gap = swiftui::Divider().frame(1, height / 2 - 100);
   return swiftui::VStack(
       layout::HorizontalAlignment::leading, 0,
       {Text::verbatim("Start"), gap, Text::verbatim("Middle"), gap, Text::verbatim("End")});

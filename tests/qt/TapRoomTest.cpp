@@ -1,8 +1,6 @@
 #include <QPushButton>
 #include <QScrollArea>
-#include <QTest>
 
-#include "tests/qt/FeeRow.h"
 #include "tests/qt/Screens.h"
 
 namespace quorix::testing {

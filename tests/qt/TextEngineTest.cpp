@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <string>
-
 #include "qt/text/QtTextEngine.h"
 #include "tests/qt/Texts.h"
 
@@ -9,7 +7,6 @@ namespace quorix::qt {
 namespace {
 
 using layout::LayoutDirection;
-using testing::linkedText;
 using testing::plainText;
 using text::AttributedText;
 using text::TextMetrics;
@@ -36,7 +33,7 @@ TEST(TextEngine, NarrowerIsNeverLowerAndBreaksTheSameWhenPainted) {
       {"mixed", plainText("رسوم 3.45 EUR for المتجر Shop", 14, LayoutDirection::rightToLeft)},
       {"emoji", plainText("Keep 😀👩‍👩‍👧 it 🇪🇸 up", 14)},
       {"overhanging", overhanging()},
-      {"two_runs", linkedText("Fees follow your habits. ", "Read more about returns")},
+      {"two_runs", testing::linkedText("Fees follow your habits. ", "Read more about returns")},
   };
   for (const auto& [name, text] : samples) {
     SCOPED_TRACE(name);

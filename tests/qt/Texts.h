@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string>
-
 #include "QuorixWidgets/localization/QuorixFont.h"
 #include "platform/text/AttributedText.h"
 

@@ -1,12 +1,9 @@
 #pragma once
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <QNetworkReply>
-#include <chrono>
 #include <future>
-#include <memory>
-#include <string>
 #include <thread>
 #include <utility>
 

@@ -1,4 +1,3 @@
-#include <gmock/gmock.h>
 #include <netinet/in.h>
 #include <sys/socket.h>
 

@@ -1,13 +1,9 @@
-#include <gmock/gmock.h>
-
 #include <QLoggingCategory>
 #include <QRegularExpression>
 #include <atomic>
-#include <chrono>
 #include <stdexcept>
 #include <thread>
 
-#include "platform/foundation/URLSession.h"
 #include "tests/qt/UrlSession.h"
 #include "tests/web/LogListener.h"
 
@@ -15,8 +11,6 @@ namespace quorix::testing {
 namespace {
 
 using foundation::URL;
-using foundation::URLResponse;
-using qt::QtURLTransport;
 
 constexpr std::size_t kLimit = 256 << 10;  // for a body
 
@@ -33,8 +27,6 @@ std::string deflated(int status, const std::string& body) {
 }
 
 TEST_F(ConcurrentUrlSession, AnswersAreAnswersWhateverTheirStatusAndBrokenOnesAreErrors) {
-  const std::string challenge = "WWW-Authenticate: Basic realm=\"r\"\r\n";
-  const std::string gzip = "Content-Encoding: gzip\r\n";
   const struct {
     const char* name;
     Answer answer;
@@ -43,22 +35,17 @@ TEST_F(ConcurrentUrlSession, AnswersAreAnswersWhateverTheirStatusAndBrokenOnesAr
   } table[] = {
       {"found", {httpAnswer(200, kTable)}, 200, kTable},
       {"not found", {httpAnswer(404, kTable)}, 404, kTable},
-      {"locked", {httpAnswer(401, kTable, challenge)}, 401, kTable},
-      {"reset", {httpAnswer(205, kTable)}, 205, kTable},
-      {"moved to nowhere", {httpAnswer(301, kTable)}, 301, kTable},
-      {"by a proxy", {httpAnswer(305, kTable, "Location: /0\r\n")}, 305, kTable},
       {"largest", {httpAnswer(200, std::string(kLimit, 'x'))}, 200, std::string(kLimit, 'x')},
       {"largest, packed", {deflated(200, text(kLimit))}, 200, text(kLimit)},
       {"too large, packed", {deflated(200, text(kLimit + 1))}},
       {"no content", {"HTTP/1.1 204 No Content\r\n\r\n"}, 204},
-      {"broken gzip", {httpAnswer(200, "plain", gzip)}},
       {"no HTTP at all", {"SSH-2.0-server\r\n\r\n", SIZE_MAX, true}},
   };
   std::vector<Fetch> fetches;
   for (std::size_t i = 0; i < std::size(table); ++i) {
-    const std::string path = "/" + std::to_string(i);
+    const std::string path = "/a%20b.json?x=%26&y=1+" + std::to_string(i);  // sent as it is
     server.serve(path, table[i].answer);
-    fetches.emplace_back(transport, server.base() + path);
+    fetches.emplace_back(transport, server.base() + path + "#fragment");
   }
   for (std::size_t i = 0; i < std::size(table); ++i) {
     SCOPED_TRACE(table[i].name);
@@ -68,21 +55,7 @@ TEST_F(ConcurrentUrlSession, AnswersAreAnswersWhateverTheirStatusAndBrokenOnesAr
     EXPECT_EQ(response.error ? response.error->domain : "", table[i].status ? "" : "URLSession");
     EXPECT_NE(thread, std::this_thread::get_id());
   }
-  fetch("/0");  // a late second completion would arrive before this one
-}
-
-TEST_F(ConcurrentUrlSession, SendsAPlainGetOfTheAddress) {
-  const std::pair<std::string, std::string> table[] = {
-      {"/a b.json?x=%26&y=1+2", "/a%20b.json?x=%26&y=1+2"},
-      {"/100%.json", "/100%25.json"},
-      {"/fragment#.json", "/fragment"},
-  };
-  for (const auto& [address, target] : table) {
-    fetch(address);
-    const auto requests = server.requests(target);
-    ASSERT_EQ(requests.size(), 1u) << address;
-    EXPECT_THAT(requests[0], ::testing::StartsWith("GET " + target + " HTTP/1.1"));
-  }
+  fetch("/");  // a late second completion would arrive before this one
 }
 
 TEST_F(ConcurrentUrlSession, EndsAnAnswerThatHasNoEnd) {
@@ -93,7 +66,7 @@ TEST_F(ConcurrentUrlSession, EndsAnAnswerThatHasNoEnd) {
 }
 
 TEST_F(ConcurrentUrlSession, EndsARequestThatTakesTooLongNotOneThatWaitedForItsTurn) {
-  QtURLTransport impatient{std::chrono::milliseconds(600)};
+  qt::QtURLTransport impatient{std::chrono::milliseconds(600)};
   server.serve("/next", {httpAnswer(200, kTable)});
   std::vector<Fetch> slow;
   for (int i = 0; i < 6; ++i) {
@@ -140,13 +113,13 @@ TEST_F(ConcurrentUrlSession, ProtocolAnswersBeforeTheNetworkOnTheSessionsThread)
   server.serve("/x", {httpAnswer(200, "network")});
   std::atomic<std::thread::id> ranOn;
   auto token = foundation::URLSession::shared().registerProtocol(
-      [&](const URL& url) -> std::optional<URLResponse> {
+      [&](const URL& url) -> std::optional<foundation::URLResponse> {
         ranOn = std::this_thread::get_id();
         const std::string address = url.absoluteString();
         if (address.ends_with("/exception")) throw std::runtime_error("out of order");
         if (address.ends_with("/number")) throw 1;
         if (!address.ends_with("/inside")) return std::nullopt;
-        return URLResponse{{}, "protocol", 0};
+        return foundation::URLResponse{{}, "protocol", 0};
       });
   const auto [inside, thread] = Fetch(transport, server.base() + "/inside").wait();
   EXPECT_EQ(inside.body, "protocol");

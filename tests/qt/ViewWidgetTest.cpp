@@ -1,16 +1,12 @@
 #include "qt/widgets/ViewWidget.h"
 
-#include <QTest>
 #include <QVBoxLayout>
 
-#include "tests/qt/FeeRow.h"
 #include "tests/qt/Screens.h"
 
 namespace quorix::testing {
 namespace {
 
-using graphics::Appearance;
-using layout::LayoutDirection;
 using swiftui::Text;
 using swiftui::View;
 
@@ -136,9 +132,9 @@ TEST(ViewWidget, FollowsPaletteAndDirectionUnlessToldOtherwise) {
   EXPECT_NE(dark, asItIs);
   screen.host().setLayoutDirection(Qt::RightToLeft);
   EXPECT_NE(looks(), dark);
-  widget->setLayoutDirection(LayoutDirection::leftToRight);
+  widget->setLayoutDirection(layout::LayoutDirection::leftToRight);
   EXPECT_EQ(looks(), dark);
-  widget->setAppearance(Appearance::light);
+  widget->setAppearance(graphics::Appearance::light);
   EXPECT_EQ(looks(), asItIs);
 }
 

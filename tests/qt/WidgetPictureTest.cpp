@@ -1,11 +1,8 @@
 #include <QPainter>
-#include <QTest>
 
-#include "QuorixWidgets/info/InfoWidgetView.h"
 #include "QuorixWidgets/localization/TovaFont.h"
-#include "QuorixWidgets/score/ScoreWidgetView.h"
-#include "platform/foundation/URLSession.h"
 #include "qt/Picture.h"
+#include "tests/core/Widgets.h"
 #include "tests/qt/MatchesPicture.h"
 #include "tests/qt/Pixels.h"
 #include "tests/qt/Screens.h"
@@ -13,16 +10,8 @@
 namespace quorix {
 namespace {
 
-/// No request gets an answer while the result exists.
-std::shared_ptr<void> offline() {
-  return foundation::URLSession::shared().registerProtocol([](const auto&) {
-    return foundation::URLResponse{foundation::Error{"Test", 1, "offline"}, {}, 0};
-  });
-}
-
-swiftui::View row(const std::string& locale, const ScoreWidgetStyle& style, double score) {
-  const TokenData token{score, "EUR", 499, 299};
-  return ScoreWidgetView{std::make_shared<ScoreWidgetViewModel>("shop", token, locale, style),
+swiftui::View row(const std::string& locale, const ScoreWidgetStyle& style, bool discount) {
+  return ScoreWidgetView{testing::scoreModel(discount, locale, style),
                          LocalizationRepository::make(locale)};
 }
 
@@ -38,18 +27,17 @@ class WidgetPicture : public ::testing::TestWithParam<const char*> {
 
   static swiftui::View widget() {
     const std::string locale = says("de") ? "de" : says("ar") ? "ar" : says("es") ? "es" : "en";
-    const auto [regular, bold] = says("large") ? hostsFaces() : ScoreWidgetStyle{{}, {}};
-    if (!says("info")) return row(locale, {regular, bold}, says("discount") ? 0.82 : 0.05);
+    const auto [regular, bold] = says("large") ? hostsFaces() : testing::ownFaces;
+    if (!says("info")) return row(locale, {regular, bold}, says("discount"));
     const auto name = says("named") ? std::optional<std::string>("Ann") : std::nullopt;
-    const SwiftUIStyleConfiguration style{regular, bold, {}, says("border")};
-    const auto model = std::make_shared<InfoWidgetViewModel>(name, locale, style);
-    if (says("personal")) model->userDetails = UserDetails{0, 0, 12};
-    return InfoWidgetView{model};
+    const auto percentile = says("personal") ? std::optional(12.0) : std::nullopt;
+    return InfoWidgetView{
+        testing::infoModel(locale, {regular, bold, {}, says("border")}, percentile, name)};
   }
 };
 
 TEST_P(WidgetPicture, LooksAsItDid) {
-  const auto requests = offline();
+  const auto requests = testing::offline();
   qt::PictureOptions options;
   options.width = 343;
   options.sheet = says("sheet");
@@ -85,9 +73,9 @@ SCREENS_TEST_SUITE(WindowPicture);
 SCREENS_TEST_SUITE(WindowPictureScale);
 
 TYPED_TEST(WindowPictureScale, ShowsTheRowAsAStillDoes) {
-  const auto requests = offline();
+  const auto requests = testing::offline();
   TypeParam screen;
-  const swiftui::View view = row("en", {std::nullopt, std::nullopt}, 0.82);
+  const swiftui::View view = row("en", testing::ownFaces, true);
   // At a scale of one and a half, an odd position is between two device pixels.
   const QRectF place(21, 41, 300, 30);
   screen.add(view, place);
@@ -111,9 +99,9 @@ TYPED_TEST(WindowPictureScale, ShowsTheRowAsAStillDoes) {
 
 /// The largest text size, scrolled by one page.
 TYPED_TEST(WindowPicture, ShowsAScrolledSheet) {
-  const auto requests = offline();
+  const auto requests = testing::offline();
   TypeParam screen;
-  auto* shown = screen.add(row("en", hostsFaces(), 0.82), {20, 20, 320, 0});
+  auto* shown = screen.add(row("en", hostsFaces(), true), {20, 20, 320, 0});
   shown->setTextSize(swiftui::ContentSizeCategory::accessibilityExtraExtraExtraLarge);
   screen.settle();
   screen.clickAt({180, 30});

@@ -1,7 +1,4 @@
-#include <QTest>
-
 #include "QuorixWidgets/info/UIInfoWidget.h"
-#include "platform/swiftui/Elements.h"
 #include "platform/uikit/UIApplication.h"
 #include "platform/uikit/UIViewController.h"
 #include "tests/qt/Screens.h"

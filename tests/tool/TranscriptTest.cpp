@@ -1,13 +1,10 @@
 #include <gmock/gmock.h>
 
 #include <fstream>
-#include <string>
 
 #include "Tool.h"
 
 using testing::HasSubstr;
-using testing::MatchesRegex;
-using testing::Not;
 
 namespace {
 
@@ -24,7 +21,7 @@ void expectOutcome(const Tool::Run& run, const std::string& kind, const std::str
   EXPECT_EQ(run.status, fails ? std::stoi(text) : 0);
   if (fails || kind == "warns") {
     EXPECT_EQ(run.out.empty(), fails) << run.out;
-    EXPECT_THAT(run.err, MatchesRegex("quorix: [^\n]*\n"));
+    EXPECT_THAT(run.err, testing::MatchesRegex("quorix: [^\n]*\n"));
     EXPECT_THAT(run.err, HasSubstr(fails ? text.substr(2) : text));
     EXPECT_EQ(run.err.find("--help\"") != std::string::npos, run.status == 2) << run.err;
   } else {
@@ -32,7 +29,7 @@ void expectOutcome(const Tool::Run& run, const std::string& kind, const std::str
     if (kind == "prints")
       EXPECT_THAT(run.out, HasSubstr(text));
     else if (kind == "lacks")
-      EXPECT_THAT(run.out, Not(HasSubstr(text)));
+      EXPECT_THAT(run.out, testing::Not(HasSubstr(text)));
     else
       ADD_FAILURE() << "no outcome is called " << kind;
   }

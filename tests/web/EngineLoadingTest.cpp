@@ -5,15 +5,37 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
+#include <QProcess>
 #include <QTemporaryDir>
-
-#include "tests/web/ChildProcess.h"
 
 namespace quorix::testing {
 namespace {
 
 using ::testing::HasSubstr;
-using ::testing::Not;
+
+struct ChildResult {
+  int status = -1;  ///< -1 if it did not end by itself
+  QByteArray output;
+};
+
+/// Runs a shell's line in `folder`, or in the current folder. $SELF is this program, which runs a
+/// task of main.cpp by name.
+ChildResult runChild(const QString& line, const QString& folder = {}) {
+  auto variables = QProcessEnvironment::systemEnvironment();
+  variables.remove(QStringLiteral("QTWEBENGINE_CHROMIUM_FLAGS"));  // names this process's server
+  variables.insert(QStringLiteral("SELF"), QCoreApplication::applicationFilePath());
+  QProcess child;
+  child.setProcessEnvironment(variables);
+  child.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+  child.setWorkingDirectory(folder);
+  child.start(QStringLiteral("/bin/bash"), {QStringLiteral("-c"), line});
+  if (!child.waitForFinished(60000)) {
+    child.kill();
+    child.waitForFinished();
+  }
+  const bool ended = child.exitStatus() == QProcess::NormalExit;
+  return {ended ? child.exitCode() : -1, child.readAllStandardOutput()};
+}
 
 const std::pair<QString, const char*> kToolkits[] = {
     {"maps-quick", "after: engine 1 quick 1 widgets 0"},
@@ -80,8 +102,8 @@ TEST(EngineLoading, NothingIsKeptForTheNextProcess) {
   for (QDirIterator it(at, QDir::Files, QDirIterator::Subdirectories); it.hasNext();) {
     files.append(it.next());
   }
-  EXPECT_THAT(files.join('\n').toStdString(), Not(HasSubstr("Cookies")));
-  EXPECT_THAT(files.join('\n').toStdString(), Not(HasSubstr("QtWebEngine/")));
+  EXPECT_THAT(files.join('\n').toStdString(), ::testing::Not(HasSubstr("Cookies")));
+  EXPECT_THAT(files.join('\n').toStdString(), ::testing::Not(HasSubstr("QtWebEngine/")));
 }
 
 }  // namespace

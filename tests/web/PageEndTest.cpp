@@ -4,7 +4,6 @@
 #include <QPointer>
 #include <QTcpServer>
 #include <QTcpSocket>
-#include <QTest>
 #include <csignal>
 
 #include "QuorixWidgets/info/InfoWidgetBuilder.h"

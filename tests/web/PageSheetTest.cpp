@@ -1,6 +1,3 @@
-#include <QFile>
-#include <QTest>
-
 #include "tests/web/EngineProcesses.h"
 #include "tests/web/PageTest.h"
 

@@ -1,5 +1,3 @@
-#include <QTest>
-
 #include "tests/web/PageTest.h"
 
 namespace quorix::testing {

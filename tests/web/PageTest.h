@@ -1,11 +1,6 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <memory>
-#include <optional>
-#include <string>
-#include <vector>
+#include <gmock/gmock.h>
 
 #include "platform/uikit/URLOpener.h"
 #include "tests/qt/Screens.h"

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QFile>
+
 #include "examples/common/StandInPages.h"
 
 namespace quorix::testing {
@@ -33,6 +35,19 @@ inline QStringList reports() {
     all.append(QString::fromUtf8(QByteArray::fromPercentEncoding(request.query)));
   }
   return all;
+}
+
+/// The lines of tests/data/web/<name>.txt, without comments, in fields between " | ".
+inline QList<QByteArrayList> tableOf(const QString& name) {
+  QFile file(TEST_DATA "/web/" + name + ".txt");
+  if (!file.open(QIODevice::ReadOnly)) qFatal("No table %s", qPrintable(name));
+  QList<QByteArrayList> table;
+  for (const QByteArray& line : file.readAll().trimmed().split('\n')) {
+    if (line.startsWith('#')) continue;
+    table.append(line.split('|'));
+    for (QByteArray& field : table.back()) field = field.trimmed();
+  }
+  return table;
 }
 
 }  // namespace quorix::testing

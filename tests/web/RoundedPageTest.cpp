@@ -1,5 +1,3 @@
-#include <QTest>
-
 #include "tests/qt/Pixels.h"
 #include "tests/web/PageTest.h"
 
