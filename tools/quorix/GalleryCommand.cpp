@@ -86,17 +86,15 @@ Outcome showGallery(const Request& request) {
   const auto cells = request.showcase ? gallery::showcase() : gallery::cells(request.selection);
   gallery::GalleryPage page;
   std::vector<gallery::CaptionedPicture> pictures;
-  {
-    Progress progress(cells.size());
-    for (const gallery::Cell& cell : cells) {
-      progress.step();
-      const auto shown = gallery::render(cell, request.scale);
-      QImage picture = gallery::picture(shown, request.scale);
-      if (asPicture) {
-        pictures.push_back({std::move(picture), cell.names()});
-      } else {
-        page.add(cell, picture, shown.tree, render::printAccessibility(shown.still.topmost()));
-      }
+  Progress progress(cells.size());
+  for (const gallery::Cell& cell : cells) {
+    progress.step();
+    const auto shown = gallery::render(cell, request.scale);
+    QImage picture = gallery::picture(shown, request.scale);
+    if (asPicture) {
+      pictures.push_back({std::move(picture), cell.names()});
+    } else {
+      page.add(cell, picture, shown.tree, render::printAccessibility(shown.still.topmost()));
     }
   }
   std::optional<Failure> failure;

@@ -59,7 +59,7 @@ struct BlindSurface final : hosting::ViewHost::Client {
 
 std::variant<Translations, Failure> Translations::read(const std::string& path) {
   auto bytes = readInputFile(path);
-  if (auto* failure = std::get_if<Failure>(&bytes)) return *std::move(failure);
+  if (const auto* failure = std::get_if<Failure>(&bytes)) return *failure;
   auto& document = std::get<std::string>(bytes);
   const auto result = readTranslationTable(document);
   if (const auto* error = std::get_if<foundation::Error>(&result)) {
