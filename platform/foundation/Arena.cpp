@@ -12,23 +12,12 @@ thread_local Arena* currentArena = nullptr;
 
 }  // namespace
 
-/// Holds an `Arena::Pool`, which is private.
-struct ArenaPool {
-  std::shared_ptr<void> pool;
-};
-
 /// Keeps free arenas for the next lease.
-struct Arena::Pool {
+struct ArenaPool {
   std::vector<Arena*> idle;
 
-  ~Pool() {
+  ~ArenaPool() {
     for (const Arena* arena : idle) delete arena;
-  }
-
-  static Pool& shared() {
-    auto& pool = Runtime::the<ArenaPool>().pool;
-    if (!pool) pool = std::make_shared<Pool>();
-    return *static_cast<Pool*>(pool.get());
   }
 };
 
@@ -36,7 +25,7 @@ Arena::Arena()
     : buffer_(std::make_unique<std::byte[]>(capacity)), memory_(buffer_.get(), capacity) {}
 
 Arena::Lease Arena::lease() {
-  auto& idle = Pool::shared().idle;
+  auto& idle = Runtime::the<ArenaPool>().idle;
   Arena* arena = nullptr;
   if (idle.empty()) {
     arena = new Arena;
@@ -62,7 +51,7 @@ void Arena::endShared() {
 }
 
 void Arena::reuse() {
-  auto& idle = Pool::shared().idle;
+  auto& idle = Runtime::the<ArenaPool>().idle;
   if (idle.size() >= mostIdle) {
     delete this;
     return;

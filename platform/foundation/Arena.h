@@ -17,7 +17,10 @@ namespace quorix::foundation {
 ///     auto* names = lease->make<std::pmr::vector<int>>(lease->resource());
 class QUORIX_EXPORT Arena {
  public:
-  class Lease;
+  struct EndLease {
+    void operator()(Arena* arena) const { arena->endLease(); }
+  };
+  using Lease = std::unique_ptr<Arena, EndLease>;
 
   /// Leases a free arena. The end of the lease destroys the objects in it, except shared objects
   /// (`SharedIn`) that still have owners: the arena becomes free when the last of those is
@@ -72,7 +75,7 @@ class QUORIX_EXPORT Arena {
  private:
   template <class T>
   friend class SharedIn;
-  struct Pool;
+  friend struct ArenaPool;
   /// A destructor to run at the end of the lease.
   struct Ending {
     Ending* next;
@@ -91,23 +94,6 @@ class QUORIX_EXPORT Arena {
   Ending* endings_ = nullptr;
   std::size_t shared_ = 0;  // live shared objects
   bool leased_ = false;
-};
-
-/// Holds an arena. The destructor destroys the objects that were made in it.
-class Arena::Lease {
- public:
-  explicit Lease(Arena* arena) : arena_(arena) {}
-  Lease(Lease&& other) noexcept : arena_(std::exchange(other.arena_, nullptr)) {}
-  Lease& operator=(Lease&&) = delete;
-  ~Lease() {
-    if (arena_) arena_->endLease();
-  }
-
-  Arena* operator->() const { return arena_; }
-  Arena& operator*() const { return *arena_; }
-
- private:
-  Arena* arena_;
 };
 
 /// Makes `arena` the current one until the end of the block.

@@ -80,14 +80,6 @@ const GraphicsFont* FontManager::find(std::string_view name) const {
   return nullptr;
 }
 
-/// Calls the look-up without the lock, because the engine may call `faces` in it.
-bool FontManager::systemKnows(std::string_view name) const {
-  std::unique_lock lock(mutex_);
-  const auto lookup = systemLookup_;
-  lock.unlock();
-  return lookup && lookup(name);
-}
-
 bool FontManager::registerGraphicsFont(const GraphicsFont& font) {
   std::unique_lock lock(mutex_);
   if (find(font.postScriptName()) != nullptr) return false;
@@ -110,7 +102,11 @@ void FontManager::setSystemLookup(std::function<bool(std::string_view)> lookup) 
 }
 
 bool FontManager::knows(std::string_view name) const {
-  return data(name).has_value() || systemKnows(name);
+  std::unique_lock lock(mutex_);
+  if (find(name) != nullptr) return true;
+  const auto lookup = systemLookup_;
+  lock.unlock();  // the look-up may call `faces`
+  return lookup && lookup(name);
 }
 
 std::optional<GraphicsFont> FontManager::face(std::string_view name) const {

@@ -79,7 +79,6 @@ class QUORIX_EXPORT FontManager {
 
  private:
   const GraphicsFont* find(std::string_view name) const;
-  bool systemKnows(std::string_view name) const;
 
   mutable std::mutex mutex_;
   std::vector<GraphicsFont> faces_;

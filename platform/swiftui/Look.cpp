@@ -74,37 +74,23 @@ text::AttributedText Look::attributed(const Text& text, const Environment& envir
 
 namespace looks {
 
-void FontChoice::apply(Look& look) const { look.font = &font; }
 std::string FontChoice::description() const { return ".font(" + describe(font) + ")"; }
 
-void Weight::apply(Look& look) const { look.weight = weight; }
 std::string Weight::description() const {
   return ".fontWeight(" + std::string(nameOf(weight)) + ")";
 }
 
-void Bold::apply(Look& look) const { look.weight = FontWeight::bold; }
-std::string Bold::description() const { return ".bold()"; }
-
-void Underline::apply(Look& look) const { look.underline = active; }
 std::string Underline::description() const {
   return ".underline(" + std::string(nameOf(active)) + ", pattern: solid)";
 }
 
-void Strikethrough::apply(Look& look) const { look.strikethrough = active; }
 std::string Strikethrough::description() const {
   return ".strikethrough(" + std::string(nameOf(active)) + ")";
 }
 
-void ForegroundColor::apply(Look& look) const { look.color = &color; }
 std::string ForegroundColor::description() const {
   return ".foregroundColor(" + color.description() + ")";
 }
-
-void Case::apply(Look& look) const { look.textCase = value; }
-std::string Case::description() const { return ".textCase(uppercase)"; }
-
-void Resizable::apply(Look& look) const { look.resizable = true; }
-std::string Resizable::description() const { return ".resizable(stretch)"; }
 
 }  // namespace looks
 
