@@ -231,12 +231,11 @@ void beginWithApplication() {
 }  // namespace
 
 QtURLTransport::QtURLTransport(std::chrono::milliseconds timeLimit) : timeLimit_(timeLimit) {
-  static const bool watching = [] {
+  static std::once_flag once;
+  std::call_once(once, [] {
     followApplication<beginWithApplication, endWithApplication>();
     std::atexit(endWithApplication);  // for a host that exits with its application still there
-    return true;
-  }();
-  static_cast<void>(watching);
+  });
 }
 
 void QtURLTransport::start(const URL& url, Completion completion) {

@@ -101,9 +101,7 @@ void ScenePainter::draw(const render::TextItem& item) {
 bool ScenePainter::drawPicture(const render::TextItem& item) {
   const QPointF corner = toDevice_.map(QPointF(item.frame.left(), item.frame.top()));
   const double scale = toDevice_.m11();
-  const bool fits = scale > 0 && toDevice_.m22() == scale && corner == QPointF(corner.toPoint()) &&
-                    item.frame.size.height * scale < 128;
-  if (!fits) return false;
+  if (corner != QPointF(corner.toPoint()) || item.frame.size.height * scale >= 128) return false;
   const auto ground = ground_->under(toDevice_.mapRect(toRect(item.frame)).toAlignedRect());
   if (!ground) return false;
   const auto* picture =
@@ -113,10 +111,9 @@ bool ScenePainter::drawPicture(const render::TextItem& item) {
   const QRect ink(corner.toPoint() + picture->offset, picture->image.size());
   if (ground_->under(ink) != ground) return false;
   if (!copyPicture(picture->image, ink, *ground)) {
-    const bool inPixels = toDevice_.isIdentity();
-    if (!inPixels) painter().setTransform(fromDevice_ * base_);
+    painter().setTransform(fromDevice_);
     painter().drawImage(ink.topLeft(), picture->image);
-    if (!inPixels) painter().setTransform(base_);
+    painter().setTransform(base_);
   }
   ground_->inked(ink);
   return true;
