@@ -60,6 +60,12 @@ void Surface::forEach(const std::function<void(Surface&)>& call) {
   }
 }
 
+void Surface::tellWindowState(const QWindow* window) {
+  forEach([window](Surface& surface) {
+    if (surface.accessibleWindow() == window) surface.windowStateChanged();
+  });
+}
+
 bool Surface::areRead() { return applicationLifetime<Bridge>().isActive(); }
 
 }  // namespace quorix::qt

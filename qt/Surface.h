@@ -23,6 +23,8 @@ class QUORIX_EXPORT Surface {
   static Surface* of(const QObject* object);
   /// Calls `call` for each surface. It may make and delete surfaces.
   static void forEach(const std::function<void(Surface&)>& call);
+  /// Calls `windowStateChanged` of each surface in `window`.
+  static void tellWindowState(const QWindow* window);
   /// Whether assistive technology listens.
   static bool areRead();
 
@@ -48,7 +50,7 @@ class QUORIX_EXPORT Surface {
   virtual bool isDialog() const { return false; }
 
   virtual void desktopChanged() {}
-  /// A window was shown, hidden or minimized.
+  /// Its window was shown, hidden, minimized or restored.
   virtual void windowStateChanged() {}
   /// Assistive technology listens from now on.
   virtual void accessibilityBegan() {}

@@ -178,7 +178,7 @@ class ViewSurface final : public HostedView,
   bool place() {
     const QTransform toWindow = item_.itemTransform(nullptr, nullptr);
     const QRectF whole(0, 0, item_.width(), item_.height());
-    const QRectF viewport = WindowWatcher::viewportOf(item_);
+    const QRectF viewport = WindowWatcher::viewportIn(item_.parentItem());
     const bool inside = toWindow.mapRect(whole).intersects(viewport);
     seen_ = toRect(toWindow.inverted().mapRect(viewport).intersected(whole));
     const bool painted = inside && !picture_.isNull();
