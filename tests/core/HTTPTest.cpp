@@ -98,16 +98,9 @@ TEST(TransferRules, RedirectsStayWithHTTPAndLeaveNoSecureConnection) {
 }
 
 TEST(TransferRules, AddressesOfBothFamiliesTakeTurns) {
-  using Addresses = std::vector<std::string>;
-  const std::pair<Addresses, Addresses> table[] = {
-      {{"1.1.1.1", "1.1.1.2"}, {"1.1.1.1", "1.1.1.2"}},
-      {{"::1", "::2", "::3", "1.1.1.1"}, {"::1", "1.1.1.1", "::2", "::3"}},
-      {{"1.1.1.1", "::1", "::2", "::3", "1.1.1.2"}, {"1.1.1.1", "::1", "1.1.1.2", "::2", "::3"}},
-      {Addresses(12, "::1"), Addresses(10, "::1")},
-  };
-  for (const auto& [addresses, order] : table) {
-    EXPECT_EQ(foundation::connectionOrder(addresses), order);
-  }
+  forEachRow("http/families", [](simdjson::dom::element row) {
+    EXPECT_EQ(foundation::connectionOrder(texts(row["addresses"])), texts(row["order"]));
+  });
 }
 
 TEST(TransferQueue, SharesTransfersAndStartsSixForAServer) {
