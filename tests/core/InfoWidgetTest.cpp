@@ -27,16 +27,10 @@ TEST(InfoWidgetViewModel, TellsOfTheShoppersReturnsByBands) {
                                   "widget-title-return-rate-medium" = "medium %g ";
                                   "widget-title-return-rate-high" = "high %g ";
                                   "widget-read-more" = "more";)");
-  const struct {
-    double percentile;
-    const char* title;
-  } rows[] = {
-      {-1, "Start low -1 more end"}, {30, "Start low 30 more end"}, {30.5, "medium 30.5 more end"},
-      {50, "medium 50 more end"},    {50.5, "high 49.5 more end"},  {100, "high 0 more end"},
-  };
-  for (const auto& row : rows) {
-    EXPECT_EQ(infoModel("en", {}, row.percentile)->getTitle()->resolved(), row.title);
-  }
+  forEachRow("info/bands", [](simdjson::dom::element row) {
+    const auto model = infoModel("en", {}, double(row["percentile"]));
+    EXPECT_EQ(model->getTitle()->resolved(), ::text(row, "title"));
+  });
   EXPECT_FALSE(infoModel()->getTitle());
 }
 

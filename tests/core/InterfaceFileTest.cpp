@@ -74,18 +74,12 @@ TEST(ViewLayout, FollowsConstraintsAndContent) {
 }
 
 TEST(ViewLayout, PicturesStandInTheirLayoutRectangle) {
-  const layout::Rect square = {{10, 10}, {48, 48}};
-  struct {
-    UIEdgeInsets insets;
-    const char* drawn;
-  } const rows[] = {
-      {{4, 8, 4, 8}, "2 6 64 56"},           // a shadow outside the frame
-      {{-8, -12, -8, -4}, "22 18 32 32"},    // space around the picture
-      {{-32, -32, -32, -32}, "22 22 24 24"}  // insets larger than the frame
-  };
-  for (const auto& row : rows) {
-    EXPECT_EQ(printed(UIImageView::pictureFrame(square, row.insets, {24, 24})), row.drawn);
-  }
+  forEachRow("layout/insets", [](simdjson::dom::element row) {
+    const auto at = row["insets"];
+    const UIEdgeInsets insets{at.at(0), at.at(1), at.at(2), at.at(3)};
+    EXPECT_EQ(printed(UIImageView::pictureFrame({{10, 10}, {48, 48}}, insets, {24, 24})),
+              ::text(row, "drawn"));
+  });
 }
 
 }  // namespace

@@ -1,3 +1,4 @@
+#include <map>
 #include <sstream>
 
 #include "platform/webkit/PageRules.h"
@@ -69,70 +70,47 @@ class PageWindow final : public testing::TestWindow {
 };
 
 TEST(SessionPage, KeysLeadBackAndForwardOrCloseTheSheet) {
-  const struct {
-    Key key;
-    bool hasHistory;
-    const char* log;
-    bool stays;
-    bool hasScripts = true;
-  } rows[] = {
-      {Key::pageBack, true, "load back ", true},
-      {Key::pageForward, false, "load forward ", true},
-      {Key::back, true, "load 'alive' back ", true},
-      {Key::back, true, "load back ", true, false},
-      {Key::back, false, "load ", false},
-      {Key::escape, true, "load ", false},
-  };
-  for (const auto& row : rows) {
+  const std::map<std::string, Key> keys = {{"pageBack", Key::pageBack},
+                                           {"pageForward", Key::pageForward},
+                                           {"back", Key::back},
+                                           {"escape", Key::escape}};
+  forEachRow("web/keys", [&](simdjson::dom::element row) {
     PageWindow window;
-    window.content->settings.allowsContentJavaScript = row.hasScripts;
+    window.content->settings.allowsContentJavaScript = row["hasScripts"];
     window.open();
     ASSERT_TRUE(window.engine);
-    window.engine->hasHistory = row.hasHistory;
-    window.key(row.key);
+    window.engine->hasHistory = row["hasHistory"];
+    window.key(keys.at(::text(row, "key")));
     window.engine->client.answered("alive");
-    EXPECT_EQ(window.engine->log, row.log) << static_cast<int>(row.key);
+    EXPECT_EQ(window.engine->log, ::text(row, "log"));
     window.settle();
-    EXPECT_EQ(!window.sheets().empty(), row.stays) << static_cast<int>(row.key);
-  }
+    EXPECT_EQ(!window.sheets().empty(), bool(row["stays"]));
+  });
 }
 
 TEST(SessionPage, SwipesLeadBackAndForward) {
-  constexpr hosting::TrackpadEvent right{true, true, 100, 0, 1.7e12};
-  const std::string asks = "load quorixScrollSince(1700000000000) ";
-  const struct {
-    bool hasHistory, allowed, mirrored;
-    const char* answer;
-    std::string byFinger, byTrackpad;
-  } rows[] = {
-      {true, true, false, "unused", "load back ", asks + "back "},
-      {true, true, true, "unused", "load forward ", asks + "forward "},
-      {true, true, false, "", "load back ", asks},
-      {true, true, false, "alive", "load back ", asks},
-      {false, true, false, "unused", "load ", "load "},
-      {true, false, false, "unused", "load ", "load "},
-  };
-  for (const auto& row : rows) {
+  forEachRow("web/swipes", [](simdjson::dom::element row) {
+    const bool hasHistory = row["hasHistory"], allowed = row["allowed"];
     for (const bool byFinger : {true, false}) {
       PageWindow window;
-      window.content->settings.allowsBackForwardNavigationGestures = row.allowed;
+      window.content->settings.allowsBackForwardNavigationGestures = allowed;
       hosting::Settings settings{{}, false};
-      if (row.mirrored) settings.environment.direction = layout::LayoutDirection::rightToLeft;
+      if (row["mirrored"]) settings.environment.direction = layout::LayoutDirection::rightToLeft;
       window.setSettings(settings);
       window.open();
-      window.engine->hasHistory = row.hasHistory;
+      window.engine->hasHistory = hasHistory;
       auto& client = window.engine->client;
       if (byFinger) {
         client.touched({Phase::pressed, {5, 100}, 1, 320});
-        EXPECT_EQ(client.touched({Phase::moved, {90, 100}, 1, 320}), row.hasHistory && row.allowed);
+        EXPECT_EQ(client.touched({Phase::moved, {90, 100}, 1, 320}), hasHistory && allowed);
         client.touched({Phase::released, {90, 100}, 1, 320});
       } else {
-        client.scrolled(right);
-        client.answered(row.answer);
+        client.scrolled({true, true, 100, 0, 1.7e12});
+        client.answered(::text(row, "answer"));
       }
-      EXPECT_EQ(window.engine->log, byFinger ? row.byFinger : row.byTrackpad);
+      EXPECT_EQ(window.engine->log, ::text(row, byFinger ? "byFinger" : "byTrackpad"));
     }
-  }
+  });
 }
 
 TEST(SessionPage, LeavesTheAppOnceForEachGesture) {

@@ -4,7 +4,7 @@
 
 #include "QuorixWidgets/score/ScoreWidgetViewModel.h"
 #include "qt/text/QtTextEngine.h"
-#include "tests/qt/MatchesPicture.h"
+#include "tests/qt/Pixels.h"
 #include "tools/quorix/gallery/CellRendering.h"
 
 namespace quorix::gallery {

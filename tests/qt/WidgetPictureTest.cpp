@@ -3,7 +3,6 @@
 #include "QuorixWidgets/localization/TovaFont.h"
 #include "qt/Picture.h"
 #include "tests/core/Widgets.h"
-#include "tests/qt/MatchesPicture.h"
 #include "tests/qt/Pixels.h"
 #include "tests/qt/Screens.h"
 

@@ -1,9 +1,7 @@
-#include "tests/qt/MatchesPicture.h"
+#include "tests/qt/Pixels.h"
 
 #include <QCoreApplication>
 #include <QDir>
-
-#include "tests/qt/Pixels.h"
 
 namespace quorix::testing {
 namespace {
