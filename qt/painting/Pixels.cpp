@@ -2,8 +2,34 @@
 
 #include <algorithm>
 #include <cstring>
+#include <iterator>
+#include <utility>
 
-namespace quorix::qt::pixels {
+#include "qt/Conversions.h"
+
+namespace quorix::qt {
+
+InkPicture InkPicture::cropped(graphics::RGBA ground) const {
+  const bool opaque = ground.alpha == 255;
+  const QRgb bare = opaque ? toQColor(ground).rgb() : 0;
+  const auto isInk = [&](QRgb pixel) { return pixel != bare; };
+  QRect ink;
+  for (int y = 0; y < image.height(); ++y) {
+    const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+    const auto* end = line + image.width();
+    const auto* first = std::find_if(line, end, isInk);
+    if (first == end) continue;
+    const auto last = std::find_if(std::reverse_iterator(end), std::reverse_iterator(first), isInk);
+    ink |= QRect(static_cast<int>(first - line), y, static_cast<int>(last.base() - first), 1);
+  }
+  if (ink.isEmpty()) return {};
+  QImage cut = image.copy(ink);
+  // Drawing an image without an alpha channel is copying it.
+  if (opaque) cut.reinterpretAsFormat(QImage::Format_RGB32);
+  return {std::move(cut), offset + ink.topLeft()};
+}
+
+namespace pixels {
 namespace {
 
 /// Calls `row` with the first pixel of each row of `part`.
@@ -14,15 +40,6 @@ void eachRow(QImage& image, const QRect& part, Row row) {
   for (int y = 0; y < part.height(); ++y, first += step) {
     row(reinterpret_cast<QRgb*>(first), y);
   }
-}
-
-/// `pixel` times `part` of 255, rounded as Qt does.
-QRgb times(QRgb pixel, quint32 part) {
-  const auto two = [part](quint32 channels) {
-    channels *= part;
-    return ((channels + ((channels >> 8) & 0xff00ff) + 0x800080) >> 8) & 0xff00ff;
-  };
-  return two(pixel & 0xff00ff) | two((pixel >> 8) & 0xff00ff) << 8;
 }
 
 }  // namespace
@@ -39,22 +56,5 @@ void copy(const QImage& picture, QImage& onto, QPoint at) {
           [&](QRgb* row, int y) { std::memcpy(row, from + y * step, bytes); });
 }
 
-bool blend(const QImage& picture, QImage& onto, QPoint at) {
-  const auto* from = reinterpret_cast<const QRgb*>(picture.constBits());
-  const int width = picture.width();
-  bool same = true;
-  eachRow(onto, {at, picture.size()}, [&](QRgb* row, int y) {
-    const QRgb* const ink = from + y * width;
-    for (int x = 0; x < width; ++x) {
-      if (row[x] == 0) {
-        row[x] = ink[x];
-      } else if (ink[x] != 0) {
-        same = same && qAlpha(row[x]) != 255;
-        row[x] = ink[x] + times(row[x], 255 - qAlpha(ink[x]));
-      }
-    }
-  });
-  return same;
-}
-
-}  // namespace quorix::qt::pixels
+}  // namespace pixels
+}  // namespace quorix::qt

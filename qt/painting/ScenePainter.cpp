@@ -5,7 +5,6 @@
 #include <cmath>
 #include <variant>
 
-#include "platform/text/PriceGlyphs.h"
 #include "qt/Conversions.h"
 #include "qt/painting/Pixels.h"
 #include "qt/painting/QtImages.h"
@@ -119,16 +118,11 @@ bool ScenePainter::drawPicture(const render::TextItem& item) {
   return true;
 }
 
-/// Whether `pixels` lie in the image, nothing was painted there, and no painter was begun.
-bool ScenePainter::isClear(const QRect& pixels) const {
-  return !painter_ && image_->rect().contains(pixels) && !copied_.intersects(pixels);
-}
-
-/// Copies the picture where that gives what drawing would: on clear pixels, and with an opaque
-/// ground over the same. False elsewhere.
+/// Copies the picture where that gives what drawing would: where nothing was painted, and with an
+/// opaque ground over the same. False elsewhere, and once a painter was begun.
 bool ScenePainter::copyPicture(const QImage& picture, const QRect& to, graphics::RGBA ground) {
-  const bool covers = ground.alpha == 255 && !painter_ && image_->rect().contains(to);
-  if (!covers && !isClear(to)) return false;
+  if (painter_ || !image_->rect().contains(to)) return false;
+  if (ground.alpha != 255 && copied_.intersects(to)) return false;
   copied_ |= to;
   pixels::copy(picture, *image_, to.topLeft());
   return true;
@@ -171,9 +165,6 @@ void ScenePainter::drawLine(const ShapedText::Line& line, double unit,
   }
   for (const ShapedText::Piece& piece : line.pieces) {
     const graphics::RGBA color = text.runs[piece.run].color;
-    // Texts without figures are mostly painted again, and then from their own pictures.
-    const bool hasFigures = text::PriceGlyphs::areIn(text.runs[piece.run]);
-    if (hasFigures && copyGlyphs(piece.glyphs, unit, color, origin)) continue;
     painter().setTransform(QTransform(unit, 0, 0, unit, origin.x(), origin.y()) * base_);
     painter().setPen(toQColor(color));
     painter().drawGlyphRun({}, piece.glyphs);
@@ -184,48 +175,6 @@ void ScenePainter::drawLine(const ShapedText::Line& line, double unit,
     if (!run.strikethrough) continue;
     drawDecoration(span, origin, engine_.font(run.font).strikethrough, run);
   }
-}
-
-/// Blends pictures of the glyphs, with the pixels that Qt would draw. False, with nothing painted,
-/// where they might differ: Qt draws large glyphs by their outlines, and blends otherwise over what
-/// is not text.
-bool ScenePainter::copyGlyphs(const QGlyphRun& glyphs, double unit, graphics::RGBA color,
-                              QPointF origin) {
-  const QRawFont font = glyphs.rawFont();
-  const double inPixels = unit * toDevice_.m11();
-  if (painter_ || inPixels * font.pixelSize() >= 48) return false;
-  const QList<quint32> indexes = glyphs.glyphIndexes();
-  if (indexes.size() > qsizetype{GlyphPictures::most}) return false;
-  const QList<QPointF> positions = glyphs.positions();
-  const QPointF from = toDevice_.map(origin);
-  const QRectF all = image_->rect();
-  const QRgb ink = toQColor(color).rgba();
-  copies_.clear();
-  copies_.reserve(static_cast<std::size_t>(indexes.size()));
-  for (qsizetype i = 0; i < indexes.size(); ++i) {
-    // In 64ths of a pixel, Qt's own unit.
-    const QPointF at = (from + positions[i] * inPixels) * 64;
-    if (!all.contains(at / 64)) return false;
-    const QPoint fixed(static_cast<int>(at.x()), static_cast<int>(at.y()));
-    const InkPicture& picture =
-        engine_.glyphs().find(font, {indexes[i], ink, inPixels, fixed.x() % 64});
-    if (picture.image.isNull()) continue;
-    const QRect to(QPoint(fixed.x() / 64, fixed.y() / 64) + picture.offset, picture.image.size());
-    if (fixed.y() % 64 != 0 || !isClear(to)) return false;
-    copies_.push_back({&picture.image, to});
-  }
-  QRect inked;
-  const bool whole = std::ranges::all_of(copies_, [&](const Copy& copy) {
-    const bool apart = !inked.intersects(copy.to);
-    inked |= copy.to;
-    if (!apart) return pixels::blend(*copy.picture, *image_, copy.to.topLeft());
-    pixels::copy(*copy.picture, *image_, copy.to.topLeft());
-    return true;
-  });
-  copied_ |= inked;
-  if (whole) return true;
-  for (const Copy& copy : copies_) pixels::fill(*image_, copy.to, 0);
-  return false;
 }
 
 void ScenePainter::drawDecoration(const ShapedText::Span& span, QPointF origin,

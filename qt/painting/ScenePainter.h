@@ -82,8 +82,6 @@ class ScenePainter {
   void drawText(const render::TextItem& item);
   bool drawPicture(const render::TextItem& item);
   bool copyPicture(const QImage& picture, const QRect& to, graphics::RGBA ground);
-  bool isClear(const QRect& pixels) const;
-  bool copyGlyphs(const QGlyphRun& glyphs, double unit, graphics::RGBA color, QPointF origin);
   InkPicture pictureOf(const render::TextItem& item, graphics::RGBA ground) const;
   void drawLine(const ShapedText::Line& line, double unit, const text::AttributedText& text,
                 QPointF origin);
@@ -99,11 +97,6 @@ class ScenePainter {
   QImage* image_ = nullptr;      ///< for `own_`
   std::optional<QPainter> own_;  ///< begun when an item needs a painter
   QRect copied_;                 ///< around all that was painted without a painter
-  struct Copy {
-    const QImage* picture;
-    QRect to;
-  };
-  std::vector<Copy> copies_;  ///< of one run, made when all of it can be copied
   QtTextEngine& engine_;
   const QTransform base_;
   const QTransform toDevice_;

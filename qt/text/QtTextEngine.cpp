@@ -40,7 +40,6 @@ TextPictures& QtTextEngine::pictures() {
 void QtTextEngine::clear() {
   lines_.clear();
   pictures_.clear();
-  glyphs_.clear();
   figures_.clear();
 }
 

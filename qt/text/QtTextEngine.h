@@ -4,8 +4,8 @@
 #include "platform/render/TextPictures.h"
 #include "platform/text/LineCache.h"
 #include "platform/text/TextEngine.h"
+#include "qt/painting/Pixels.h"
 #include "qt/text/Figures.h"
-#include "qt/text/GlyphPictures.h"
 #include "qt/text/Paragraph.h"
 #include "qt/text/QtFonts.h"
 
@@ -32,7 +32,6 @@ class QtTextEngine final : public text::TextEngine {
 
   /// Pictures of texts. Drops them first if fonts were added or removed.
   TextPictures& pictures();
-  GlyphPictures& glyphs() { return glyphs_; }
 
   /// How often text has been broken into lines so far. For tests.
   int breaks() const { return breaks_; }
@@ -43,7 +42,6 @@ class QtTextEngine final : public text::TextEngine {
   QtFonts& fonts_ = QtFonts::shared();
   text::LineCache<ShapedText> lines_;
   TextPictures pictures_;
-  GlyphPictures glyphs_;
   Figures figures_;
   int breaks_ = 0;
 };

@@ -1,5 +1,3 @@
-#include "qt/text/GlyphPictures.h"
-
 #include <gtest/gtest.h>
 
 #include <QImage>
@@ -64,11 +62,6 @@ TEST(TextPictures, LookAsTheTextDrawnAnew) {
   text::AttributedText medium = figures;
   medium.runs[0].font.name = QuorixFont::medium().name();
   const auto arabic = plainText("رسوم الإرجاع", 14, layout::LayoutDirection::rightToLeft);
-  text::AttributedText letters = plainText("1", 4);
-  letters.runs[0].font.name = "DejaVu Sans";
-  for (int letter = 0; letter < 4 * 0x150; ++letter) {
-    letters.runs[0].text += QString(QChar(0x100 + letter % 0x150)).toStdString();
-  }
   const auto shaped = [](const text::AttributedText& text, double width = layout::infinity) {
     return sceneWith(text, width, {30, 30});
   };
@@ -85,7 +78,6 @@ TEST(TextPictures, LookAsTheTextDrawnAnew) {
       {"nothing to see", shaped(plainText("  "))},
       {"figures", shaped(figures)},
       {"figures in another face", shaped(medium)},
-      {"more glyphs than are kept", shaped(letters)},
       {"over another on nothing", twice},
       {"partly outside of the picture", sceneWith(words, layout::infinity, {90, -5})},
       {"underlined", grounded(shaped(link), {}, light)},
