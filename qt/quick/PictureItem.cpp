@@ -10,12 +10,12 @@ namespace quorix::qt {
 void NodePicture::set(const QImage& picture) {
   picture_ = picture;
   isNull_ = picture.isNull();
-  item_.update();
 }
 
-QSGNode* NodePicture::show(QSGNode* old, QPointF origin) {
+QSGNode* NodePicture::show(QSGNode* old, QQuickItem& item, QPointF origin,
+                           const std::function<void()>& lost) {
   if (isNull_ || (!old && picture_.isNull())) {
-    if (!isNull_) QMetaObject::invokeMethod(&item_, lost_, Qt::QueuedConnection);
+    if (!isNull_) QMetaObject::invokeMethod(&item, lost, Qt::QueuedConnection);
     delete old;
     return nullptr;
   }
@@ -28,13 +28,13 @@ QSGNode* NodePicture::show(QSGNode* old, QPointF origin) {
   const QImage picture = std::exchange(picture_, {});
   auto* image = static_cast<QSGImageNode*>(place->firstChild());
   if (!image) {
-    image = item_.window()->createImageNode();
+    image = item.window()->createImageNode();
     image->setOwnsTexture(true);
     // Pixels of the picture are pixels of the window: interpolating would blur them.
     image->setFiltering(QSGTexture::Nearest);
   }
   QSGTexture* texture =
-      item_.window()->createTextureFromImage(picture, QQuickWindow::TextureCanUseAtlas);
+      item.window()->createTextureFromImage(picture, QQuickWindow::TextureCanUseAtlas);
   image->setTexture(texture);
   image->setSourceRect(QRectF(QPointF(), texture->textureSize()));
   image->setRect(QRectF(QPointF(), picture.deviceIndependentSize()));

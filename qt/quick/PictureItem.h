@@ -15,41 +15,40 @@ namespace quorix::qt {
 /// except `show`.
 class NodePicture {
  public:
-  /// `lost` has to set the picture again: the scene graph was made anew while the window was
-  /// hidden. It is called on a later turn.
-  NodePicture(QQuickItem& item, std::function<void()> lost) : item_(item), lost_(std::move(lost)) {}
-
-  /// A null picture frees the former one.
+  /// A null picture frees the former one. Update the item after this.
   void set(const QImage& picture);
   bool isNull() const { return isNull_; }
-  /// Makes or changes the item's node: the picture's top left is at `origin`. Render thread, during
-  /// synchronization.
-  QSGNode* show(QSGNode* old, QPointF origin = {});
+  /// Makes or changes the node of `item`: the picture's top left is at `origin`. If the scene graph
+  /// was made anew while the window was hidden, calls `lost` on a later turn, which has to set the
+  /// picture again. Render thread, during synchronization.
+  QSGNode* show(QSGNode* old, QQuickItem& item, QPointF origin, const std::function<void()>& lost);
 
  private:
-  QQuickItem& item_;
-  std::function<void()> lost_;
   QImage picture_;  ///< until the scene graph takes it
   bool isNull_ = true;
 };
 
 /// Shows a picture at its place and takes no input. Main thread.
-class PictureItem final : public QQuickItem, public SheetPicture {
+class PictureItem : public QQuickItem, public SheetPicture {
  public:
-  /// For `lost` see `NodePicture`.
+  /// For `lost` see `NodePicture::show`.
   PictureItem(QQuickItem& parent, std::function<void()> lost)
-      : QQuickItem(&parent), picture_(*this, std::move(lost)) {
+      : QQuickItem(&parent), lost_(std::move(lost)) {
     setFlag(ItemHasContents);
   }
-  void setPicture(const QImage& picture) override { picture_.set(picture); }
+  void setPicture(const QImage& picture) override {
+    picture_.set(picture);
+    update();
+  }
   void moveTo(QPointF corner) override { setPosition(corner); }
 
  protected:
   QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData*) override {
-    return picture_.show(old);
+    return picture_.show(old, *this, {}, lost_);
   }
 
  private:
+  std::function<void()> lost_;
   NodePicture picture_;
 };
 

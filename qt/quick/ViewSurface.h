@@ -30,10 +30,7 @@ class ViewSurface final : public HostedView,
                           public QuickAccessibleSurface {
  public:
   explicit ViewSurface(ViewItem& item)
-      : HostedView(item, item.settings()),
-        QuickAccessibleSurface(item, *this),
-        item_(item),
-        picture_(item, [this] { paintAgain(); }) {}
+      : HostedView(item, item.settings()), QuickAccessibleSurface(item, *this), item_(item) {}
 
   ~ViewSurface() override { WindowWatcher::remove(*this); }
 
@@ -90,12 +87,14 @@ class ViewSurface final : public HostedView,
     } else if (!picture_.isNull()) {
       pictureStale_ = true;
       picture_.set({});
+      item_.update();
     }
     if (rest(seen)) host().forgetSizes();  // the item has its implicit size
   }
 
   QSGNode* paint(QSGNode* old) {
-    return picture_.show(old, offset_ + QPointF(part_.left(), part_.top()));
+    return picture_.show(old, item_, offset_ + QPointF(part_.left(), part_.top()),
+                         [this] { paintAgain(); });
   }
 
  private:
@@ -209,13 +208,15 @@ class ViewSurface final : public HostedView,
       return paintPicture(part, scale(), {0, 0, 0, 0});
     };
     picture_.set(part_.size == scene.size ? paint(scene) : paint(render::partOf(scene, part_)));
+    item_.update();
   }
 
   void updateRing() {
     const auto around = ringFrame();
-    if (around != ringed_ || (around && pictureStale_)) {
-      ringed_ = around;
-      if (!ring_) ring_ = new PictureItem(item_, [this] { paintAgain(); });
+    if (!around && !ring_) return;
+    if (!ring_) ring_ = new Ring(item_, [this] { paintAgain(); });
+    if (around != ring_->around || (around && pictureStale_)) {
+      ring_->around = around;
       ring_->setPicture(around
                             ? FocusRing::picture(*around, host().environment().appearance, scale())
                             : QImage());
@@ -231,8 +232,11 @@ class ViewSurface final : public HostedView,
   layout::Rect seen_;  ///< the part of the item in the viewport
   layout::Rect part_;  ///< the part of the item that its picture shows
   NodePicture picture_;
-  PictureItem* ring_ = nullptr;         ///< made with the first ring
-  std::optional<layout::Rect> ringed_;  ///< the frame that the ring's picture is for
+  struct Ring : PictureItem {
+    using PictureItem::PictureItem;
+    std::optional<layout::Rect> around;  ///< the frame that its picture is for
+  };
+  Ring* ring_ = nullptr;  ///< made with the first ring
 
   bool idealStale_ = true;
   bool pictureStale_ = true;
