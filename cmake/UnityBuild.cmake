@@ -11,7 +11,6 @@ set(quorix_compiled_alone
   platform/foundation/HTTPResponseReader.cpp
   platform/hosting/ViewHost.cpp
   platform/swiftui/TreePrinter.cpp
-  qt/text/GlyphPictures.cpp
   qt/text/QtTextEngine.cpp)
 
 function(quorix_unity target)
@@ -29,7 +28,7 @@ function(quorix_unity target)
         set(group platform_data)
       elseif(folder MATCHES "^(platform|examples/shop|qt/web)(/|$)")
         set(group ${CMAKE_MATCH_1})
-      elseif(folder MATCHES "^qt/(accessibility|network|painting|text)$")
+      elseif(folder MATCHES "^qt/(network|painting|text)$")
         set(group qt)
       else()
         set(group ${folder})

@@ -42,9 +42,11 @@ Result<StringTable> readXML(std::string_view text) {
     return static_cast<std::size_t>(std::max<std::ptrdiff_t>(offset, 0));
   };
   const auto name = [](const pugi::xml_node& node) { return std::string_view(node.name()); };
+  const auto tag = [&](const pugi::xml_node& element) {
+    return '<' + std::string(name(element)) + '>';
+  };
   const auto unexpected = [&](const pugi::xml_node& element) {
-    return malformedStringsFile(text, at(element.offset_debug()),
-                                "unexpected <" + std::string(name(element)) + '>');
+    return malformedStringsFile(text, at(element.offset_debug()), "unexpected " + tag(element));
   };
   const auto isElement = [](const pugi::xml_node& node) {
     return node.type() == pugi::node_element;
@@ -61,7 +63,7 @@ Result<StringTable> readXML(std::string_view text) {
   if (!root) return malformedStringsFile(text, text.size(), "the property list is empty");
   if (name(root) != "dict") {
     if (name(root) != "string" && !isOther(root)) return unexpected(root);
-    return notAStringTable(text, at(root.offset_debug()), "no table but a lone value");
+    return notAStringTable(text, at(root.offset_debug()), "no table but a value: " + tag(root));
   }
 
   StringTable table;

@@ -102,7 +102,7 @@ class TextReader {
         if (!text) return false;
         table_.insert_or_assign(*key, *std::move(text));
       }
-      if (!take(';')) return fail("';' is expected behind the value of \"" + *key + '"');
+      if (!take(';')) return fail("';' is expected behind the text for \"" + *key + '"');
     }
     return true;
   }
@@ -124,8 +124,7 @@ class TextReader {
       for (; !open.empty(); begins = false) {
         const bool inList = open.back() == ')';
         const bool separated = begins || take(inList ? ',' : ';');
-        if (take(open.back())) {
-          if (!separated && !inList) return fail("';' is expected");
+        if ((separated || inList) && take(open.back())) {
           open.pop_back();
           continue;
         }
