@@ -136,7 +136,7 @@ void writePoint(std::string& number) {
 
 std::string numberText(double number, const FormatConversion& conversion,
                        const Arguments& arguments) {
-  const bool isNaN = std::isnan(number);  // without a sign
+  const bool isNaN = conversion.kind == Kind::number && std::isnan(number);  // has no sign
   std::string format = "%";
   for (const char flag : conversion.flags) {
     if (flag != '\'' && !(isNaN && contains("+ ", flag))) format += flag;
