@@ -115,8 +115,9 @@ void SheetSurface::paintPictures() {
   const layout::Point corner = presenter().panelFrame().origin;
   Painted now{presenter().panelRevision(), scale(), ringFrame()};
   // Rounded, because motion moves it by fractions of a pixel.
-  if (now.ring)
+  if (now.ring) {
     *now.ring = layout::PixelGrid(now.scale).round(now.ring->translated({-corner.x, -corner.y}));
+  }
   if (painted_ == now) return;
   painted_ = now;
   std::size_t count = 0;

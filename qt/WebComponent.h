@@ -12,8 +12,7 @@ class QObject;
 
 namespace quorix::qt {
 
-/// A page of Qt WebEngine. Keys that the page does not use go to its
-/// view's parent. Main thread.
+/// A page of Qt WebEngine. Keys that the page does not use go to its view's parent. Main thread.
 class WebPage : public hosting::PageEngine {
  public:
   struct Options {

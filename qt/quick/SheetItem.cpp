@@ -10,8 +10,8 @@
 
 #include "qt/Conversions.h"
 #include "qt/SheetSurface.h"
-#include "qt/WebComponent.h"
 #include "qt/ViewAccessible.h"
+#include "qt/WebComponent.h"
 #include "qt/quick/PictureItem.h"
 #include "qt/quick/QuickAccessibleSurface.h"
 
