@@ -107,7 +107,7 @@ class TextReader {
     return true;
   }
 
-  /// Moves past a value of any kind. What is inside it does not grow the call stack.
+  /// Moves past a value of any kind. Nested lists are skipped without recursion.
   bool skipValue() {
     std::string open;  // the closing marks of the lists around the next value
     do {

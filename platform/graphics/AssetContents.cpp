@@ -201,9 +201,10 @@ bool providesNamespace(std::string_view json) {
 namespace {
 
 std::optional<double> length(std::string_view text) {
+  constexpr double shortest = 1e-6, longest = 1e6;  // so that scaling and ratios stay finite
   if (text.ends_with("px")) text.remove_suffix(2);
   const auto value = foundation::parseNumber(text);
-  return value && *value > 0 ? value : std::nullopt;
+  return value && *value >= shortest && *value <= longest ? value : std::nullopt;
 }
 
 std::optional<SvgSize> sizeOf(std::string_view width, std::string_view height) {

@@ -33,6 +33,8 @@ class Evaluation {
 
  public:
   Evaluation() = default;
+  Evaluation(const Evaluation&) = delete;
+  Evaluation& operator=(const Evaluation&) = delete;
 
   foundation::Arena& arena() { return *arena_; }
 

@@ -36,7 +36,7 @@ ProposedSize withLength(Axis axis, ProposedSize proposal, std::optional<double> 
 /// The lengths of a stack's child along the stack's axis.
 struct StackChild {
   Element* element = nullptr;
-  std::optional<double>* offer = nullptr;  ///< the latest one, in a list in the children's order
+  std::optional<double>* offer = nullptr;  ///< the latest one; an element of `Offers`
   double atZero = 0;                       ///< chosen length for the offer 0
   double atInfinity = 0;                   ///< chosen length for an infinite offer
   double least = 0;                        ///< minimum length without breaking a word

@@ -1,7 +1,12 @@
 #include "QuorixWidgets/localization/Strings.h"
 
+#include <unistd.h>
+
+#include <clocale>
 #include <cmath>
 #include <cstdio>
+#include <cstdlib>
+#include <filesystem>
 #include <limits>
 
 #include "platform/foundation/StringFormat.h"
@@ -64,6 +69,20 @@ TEST(StringFormat, ShowsNumbersAsTheCLibraryDoes) {
       }
     }
   }
+}
+
+TEST(StringFormat, WritesAPointInEveryLocale) {
+  const auto folder = std::filesystem::temp_directory_path() / std::to_string(getpid());
+  std::filesystem::create_directories(folder);
+  const std::string name = "de_DE.UTF-8", make = "localedef -i de_DE -f UTF-8 ";
+  ASSERT_EQ(std::system((make + (folder / name).string()).c_str()), 0);
+  setenv("LOCPATH", folder.c_str(), 1);
+  ASSERT_TRUE(std::setlocale(LC_NUMERIC, name.c_str()));
+  EXPECT_EQ(std::localeconv()->decimal_point, std::string(","));
+  EXPECT_EQ(formatted("%.1f|%+08.2f|%-8.1e|%#.0f|%a|%d", {-12.5, 12.5, 12.5, 12.0, 1.5, 7.0}),
+            "-12.5|+0012.50|1.2e+01 |12.|0x1.8p+0|7");
+  std::setlocale(LC_NUMERIC, "C");
+  std::filesystem::remove_all(folder);
 }
 
 FormatArgument argument(simdjson::dom::element value) {

@@ -25,7 +25,7 @@ std::shared_ptr<UIInfoWidgetViewModel> modelOf(const UIKitStyleConfiguration& st
   return std::make_shared<UIInfoWidgetViewModel>(std::move(name), locale, style);
 }
 
-/// The app's scenes while it exists: each one's state, and its windows with what they are.
+/// The app's scenes while it exists, in words: a state with a colon, then its windows.
 struct App {
   explicit App(const std::string& words) {
     const std::map<std::string, State> states = {{"active:", State::foregroundActive},

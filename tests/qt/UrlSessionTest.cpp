@@ -43,7 +43,7 @@ TEST_F(ConcurrentUrlSession, AnswersAreAnswersWhateverTheirStatusAndBrokenOnesAr
   };
   std::vector<Fetch> fetches;
   for (std::size_t i = 0; i < std::size(table); ++i) {
-    const std::string path = "/a%20b.json?x=%26&y=1+" + std::to_string(i);  // sent as it is
+    const std::string path = "/a%20b%25.json?x=%26&y=1+" + std::to_string(i);  // sent as it is
     server.serve(path, table[i].answer);
     fetches.emplace_back(transport, server.base() + path + "#fragment");
   }

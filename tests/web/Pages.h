@@ -37,7 +37,7 @@ inline QStringList reports() {
   return all;
 }
 
-/// The lines of tests/data/web/<name>.txt, without comments, in fields between " | ".
+/// The lines of tests/data/web/<name>.txt, without comments, in fields between "|".
 inline QList<QByteArrayList> tableOf(const QString& name) {
   QFile file(TEST_DATA "/web/" + name + ".txt");
   if (!file.open(QIODevice::ReadOnly)) qFatal("No table %s", qPrintable(name));
@@ -47,6 +47,7 @@ inline QList<QByteArrayList> tableOf(const QString& name) {
     table.append(line.split('|'));
     for (QByteArray& field : table.back()) field = field.trimmed();
   }
+  if (table.isEmpty()) qFatal("An empty table: %s", qPrintable(name));
   return table;
 }
 

@@ -35,7 +35,7 @@ using Outcome = std::variant<std::string, Failure>;
 using Target = std::variant<bool*, std::string*, std::optional<std::string>*, std::int64_t*,
                             double*, std::optional<double>*, int*, std::optional<int>*>;
 
-/// The valid values of an option: `names`, or numbers from `least` to `most`. Any value without.
+/// The valid values of an option: `names`, or numbers from `least` to `most`. Without either, any value is valid.
 struct Valid {
   std::span<const std::string_view> names = {};
   double least = 0;
@@ -53,7 +53,7 @@ struct Option {
   std::string_view help;   ///< with units and default; "{}" stands for the valid values
   Target to = {};
   Valid valid = {};
-  bool required = false;
+  bool required = false;  ///< only for a text
 };
 
 /// A command of the tool: its help, its command line and its work. Help, the manual page and the

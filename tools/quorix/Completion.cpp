@@ -8,12 +8,12 @@ namespace {
 
 constexpr std::string_view shells[] = {"bash", "zsh", "fish"};
 
-// What may follow is asked of the tool itself, so a script has no list of options.
+// The scripts run the tool that is being completed for its suggestions: `quorix --complete`.
 
 constexpr std::string_view bash = R"(_quorix() {
-  local found files= cur=${COMP_WORDS[COMP_CWORD]}
+  local found files= cur=${COMP_WORDS[COMP_CWORD]} tool=${COMP_WORDS[0]/#\~/$HOME}
   [[ $cur == = ]] && cur=
-  mapfile -t found < <(quorix --complete "${COMP_WORDS[@]:1:COMP_CWORD}" 2>/dev/null)
+  mapfile -t found < <("$tool" --complete "${COMP_WORDS[@]:1:COMP_CWORD}" 2>/dev/null)
   [[ ${found[*]: -1} == / ]] && files=1
   mapfile -t COMPREPLY < <(compgen -W "${found[*]%%[$'\t'/]*}" -- "$cur"
     [[ -z $files ]] || compgen -f -- "$cur")
@@ -24,8 +24,9 @@ complete -F _quorix quorix
 
 constexpr std::string_view zsh = R"(#compdef quorix
 _quorix() {
-  local tab=$'\t'
-  local -a found=("${(@f)$(quorix --complete "${(@)words[2,CURRENT]}" 2>/dev/null)}")
+  local tab=$'\t' tool=${words[1]/#\~/$HOME}
+  local -a found=("${(@f)$("$tool" --complete "${(@)words[2,CURRENT]}" 2>/dev/null)}")
+  [[ -n $found ]] || return 1
   local -a shown=("${(@)${(@)found:#/}/$tab/:}")
   _describe quorix shown
   if (( $#found > $#shown )); then compset -P '--*='; _files; fi
@@ -34,7 +35,8 @@ if [[ $funcstack[1] == _quorix ]]; then _quorix "$@"; else compdef _quorix quori
 )";
 
 constexpr std::string_view fish = R"(function __quorix_found
-  quorix --complete (commandline -opc)[2..] (commandline -ct) 2>/dev/null
+  set -l words (commandline -opc)
+  $words[1] --complete $words[2..] (commandline -ct) 2>/dev/null
 end
 complete -c quorix -f -a '(__quorix_found | string match -v /)'
 complete -c quorix -n '__quorix_found | string match -q /' -F

@@ -18,6 +18,7 @@ std::variant<std::string, Failure> readInputFile(const std::string& path) {
 }
 
 std::optional<Failure> writeFile(const std::string& path, const QByteArray& bytes) {
+  if (bytes.isEmpty()) return Failure::refused("can't write " + path + ": there is no picture");
   QSaveFile file(QString::fromStdString(path));
   if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit()) {
     return std::nullopt;

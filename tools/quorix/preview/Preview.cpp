@@ -5,6 +5,7 @@
 #include <QProcess>
 #include <algorithm>
 #include <cstdio>
+#include <tuple>
 #include <vector>
 
 #include "QuorixWidgets/localization/ResourceBundle.h"
@@ -111,6 +112,7 @@ bool Preview::eventFilter(QObject* watched, QEvent* event) {
 void Preview::refresh() {
   PreviewChoices choices = controls_.choices();
   choices.sheet = screen_.hasSheet();
+  std::tie(choices.regularFont, choices.semiBoldFont) = choices.givenFaces;
   screen_.show(choices);
   const bool scales = choices.regularFont || choices.semiBoldFont;
   const bool usual = choices.environment().textSize == swiftui::ContentSizeCategory::large;

@@ -3,6 +3,7 @@
 #include <QString>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "tools/quorix/Widget.h"
@@ -30,6 +31,8 @@ struct PreviewChoices : WidgetLook {
   std::optional<std::string> translations = {};  ///< a file
   std::optional<std::string> resources = {};     ///< a folder
   std::optional<std::string> out = {};           ///< a file
+  /// The regular and the semi-bold face as given: names or files.
+  std::pair<std::optional<std::string>, std::optional<std::string>> givenFaces = {};
 
   static constexpr int narrowest = 240;
   static constexpr int widest = 1024;

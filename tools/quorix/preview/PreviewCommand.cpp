@@ -28,6 +28,7 @@ Outcome preview(PreviewChoices choices) {
     if (const auto* failure = std::get_if<Failure>(&read)) return *failure;
   }
   const auto application = startApplication(true);
+  choices.givenFaces = {choices.regularFont, choices.semiBoldFont};
   if (auto failure = choices.findFaces()) return *std::move(failure);
   Preview window(choices);
   window.open();
