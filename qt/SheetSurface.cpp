@@ -100,26 +100,24 @@ void SheetSurface::coverChanged() { ViewAccessible::coverChanged(); }
 
 bool SheetSurface::followFrame() {
   if (!isOpen()) return false;
-  paintPictures();
+  paintLayers();
+  paintRing();
   if (!followMotion()) return false;
   const QRectF panel = toRect(presenter().panelFrame());
   for (const Layer& layer : layers_) layer.shown->moveTo(panel.topLeft() + layer.origin);
+  if (ring_.shown) ring_.shown->moveTo(panel.topLeft() + ring_.origin);
   ground_ = {toQColor(presenter().shade()), panel, toQColor(presenter().panelColor())};
   ground_.below.setTop(std::min(panel.top() + panelHeight_, panel.bottom()));
   followPages();
   return true;
 }
 
-void SheetSurface::paintPictures() {
+void SheetSurface::paintLayers() {
   const render::Scene& panel = presenter().panel();
-  const layout::Point corner = presenter().panelFrame().origin;
-  Painted now{presenter().panelRevision(), scale(), ringFrame()};
-  // Rounded, because motion moves it by fractions of a pixel.
-  if (now.ring) {
-    *now.ring = layout::PixelGrid(now.scale).round(now.ring->translated({-corner.x, -corner.y}));
-  }
+  const Painted now{presenter().panelRevision(), scale()};
   if (painted_ == now) return;
   painted_ = now;
+  ringFrame_.reset();
   std::size_t count = 0;
   for (const auto& layer : hosting::layersOf(panel, presenter().panelColor(), now.scale)) {
     QImage picture = paintPicture(layer.scene, now.scale, {0, 0, 0, 0});
@@ -127,20 +125,32 @@ void SheetSurface::paintPictures() {
       panelHeight_ = picture.deviceIndependentSize().height();
       clearTop(picture, hiddenTop_);
     }
-    setPicture(count++, picture, toPoint(layer.origin));
-  }
-  if (now.ring) {
-    const QImage ring = FocusRing::picture(*now.ring, panel.appearance, now.scale);
-    setPicture(count++, ring, FocusRing::frameAround(*now.ring).topLeft());
+    if (layers_.size() == count) {
+      layers_.push_back({newPicture(int(count)), {}});
+      ring_.shown.reset();  // which has to be above all layers
+    }
+    layers_[count].shown->setPicture(picture);
+    layers_[count++].origin = toPoint(layer.origin);
   }
   layers_.erase(layers_.begin() + std::ptrdiff_t(count), layers_.end());
   ViewAccessible::sceneChanged(self_);
 }
 
-void SheetSurface::setPicture(std::size_t index, const QImage& picture, QPointF origin) {
-  if (layers_.size() == index) layers_.push_back({newPicture(int(index)), {}});
-  layers_[index].shown->setPicture(picture);
-  layers_[index].origin = origin;
+void SheetSurface::paintRing() {
+  auto frame = ringFrame();
+  if (!frame) {
+    ring_.shown.reset();
+    ringFrame_.reset();
+    return;
+  }
+  // Rounded, because motion moves it by fractions of a pixel.
+  const layout::Point corner = presenter().panelFrame().origin;
+  frame = layout::PixelGrid(scale()).round(frame->translated({-corner.x, -corner.y}));
+  if (ring_.shown && ringFrame_ == frame) return;
+  if (!ring_.shown) ring_.shown = newPicture(ringIndex);
+  ring_.shown->setPicture(FocusRing::picture(*frame, presenter().panel().appearance, scale()));
+  ring_.origin = FocusRing::frameAround(*frame).topLeft();
+  ringFrame_ = frame;
 }
 
 void SheetSurface::paintAgain() {

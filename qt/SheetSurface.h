@@ -31,6 +31,7 @@ class SheetPicture {
 class QUORIX_EXPORT SheetSurface : public hosting::SheetSession {
  public:
   using SheetSession::handle;
+  static constexpr int ringIndex = 100;  ///< a sheet has fewer pages
   /// Handles an event of the pointer or the keyboard. False for other events.
   bool handle(QEvent& event);
   Qt::CursorShape cursorAt(QPointF point);
@@ -45,9 +46,9 @@ class QUORIX_EXPORT SheetSurface : public hosting::SheetSession {
   bool followFrame();
   /// What the sheet itself paints, below its pictures.
   struct Ground {
-    QColor shade;  ///< over the whole window
-    QRectF below;  ///< from where the panel's picture ends to the window's bottom
-    QColor color;  ///< of that
+    QColor shade = Qt::transparent;  ///< over the whole window
+    QRectF below;                    ///< from where the panel's picture ends to the window's bottom
+    QColor color = Qt::transparent;  ///< of that
   };
   const Ground& ground() const { return ground_; }
   /// The pictures were lost: paints them again.
@@ -63,7 +64,8 @@ class QUORIX_EXPORT SheetSurface : public hosting::SheetSession {
                                                 hosting::PageEngine::Client& client) override;
 
  private:
-  /// Makes a picture above those before it; `index` counts from the panel.
+  /// Makes a picture above those before it; `index` counts from the panel, and is `ringIndex` for
+  /// the ring.
   virtual std::unique_ptr<SheetPicture> newPicture(int index) = 0;
 
   void startClock() override { clock_->start(); }
@@ -73,18 +75,17 @@ class QUORIX_EXPORT SheetSurface : public hosting::SheetSession {
   void coverChanged() override;
   bool canShowPages() const override;
   bool opensPagesAtOnce() const override;
-  void paintPictures();
-  void setPicture(std::size_t index, const QImage& picture, QPointF origin);
+  void paintLayers();
+  void paintRing();
 
   struct Layer {
     std::unique_ptr<SheetPicture> shown;
     QPointF origin;  ///< in the panel
   };
-  /// What the pictures show.
+  /// What the layers show.
   struct Painted {
     unsigned revision;
     double scale;
-    std::optional<layout::Rect> ring;  ///< in the panel
     bool operator==(const Painted&) const = default;
   };
 
@@ -92,6 +93,8 @@ class QUORIX_EXPORT SheetSurface : public hosting::SheetSession {
   QString webComponent_;
   std::unique_ptr<QAbstractAnimation> clock_;
   std::vector<Layer> layers_;
+  Layer ring_;
+  std::optional<layout::Rect> ringFrame_;  ///< that the ring is painted for, in the panel
   std::optional<Painted> painted_;
   double panelHeight_ = 0;  ///< of the panel's picture
   double hiddenTop_ = 0;

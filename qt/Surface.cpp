@@ -61,6 +61,7 @@ void Surface::forEach(const std::function<void(Surface&)>& call) {
 }
 
 void Surface::tellWindowState(const QWindow* window) {
+  if (!window) return;
   forEach([window](Surface& surface) {
     if (surface.accessibleWindow() == window) surface.windowStateChanged();
   });

@@ -36,8 +36,8 @@ URLResponse cancelled() {
   return foundation::failure(URLError::canceled, "the application has ended");
 }
 
-/// Runs the completions on another thread and waits for them, for `kPatience` at most.
-void cancel(Completions completions) {
+/// Runs the completions on another thread and waits for them until `deadline`.
+void cancel(Completions completions, QDeadlineTimer deadline) {
   const auto rest = std::make_shared<Completions>(std::move(completions));
   const auto done = std::make_shared<std::promise<void>>();
   foundation::asyncOnNewThread([rest, done] {
@@ -45,7 +45,7 @@ void cancel(Completions completions) {
     rest->clear();
     done->set_value();
   });
-  done->get_future().wait_for(kPatience);
+  done->get_future().wait_for(deadline.remainingTimeAsDuration());
 }
 
 /// Performs requests on a thread of its own, for as long as one application object lives.
@@ -62,8 +62,9 @@ class NetworkWorker final : public QObject {
                URLTransport::Completion completion);
 
   /// Cancels everything, on another thread, and ends the worker's thread. False if that does not
-  /// end within `kPatience`. Then it stays blocked for good (even if the protocol returns), and the
-  /// worker must never be destroyed. Any other thread, once.
+  /// end within `kPatience`: the host's code on it blocks (a protocol, a completion, a choice of
+  /// proxies). When that returns, the thread sleeps for good. The worker must never be destroyed
+  /// then. Any other thread, once.
   bool end();
 
   bool isCurrentThread() const { return QThread::currentThread() == &thread_; }
@@ -79,7 +80,6 @@ class NetworkWorker final : public QObject {
   std::mutex mutex_;
   Task lastTask_ = 0;
   Completions completions_;  // of all tasks that have not completed
-  bool inHost_ = false;      // the thread runs a protocol or a completion
   bool leftBehind_ = false;
 
   // Used on the thread only.
@@ -106,7 +106,6 @@ void NetworkWorker::begin(Task task, const URL& url, std::chrono::milliseconds t
   {
     const std::scoped_lock lock(mutex_);
     if (!completions_.contains(task)) return;  // cancelled
-    inHost_ = true;
   }
   auto answer = foundation::URLSession::shared().answerInProcess(url);
   hostReturned();
@@ -151,7 +150,6 @@ void NetworkWorker::complete(Task task, URLResponse response) {
     const std::scoped_lock lock(mutex_);
     found = completions_.extract(task);
     if (found.empty()) return;  // cancelled
-    inHost_ = true;
   }
   found.mapped()(std::move(response));
   found = {};
@@ -161,7 +159,6 @@ void NetworkWorker::complete(Task task, URLResponse response) {
 void NetworkWorker::hostReturned() {
   {
     const std::scoped_lock lock(mutex_);
-    inHost_ = false;
     if (!leftBehind_) return;
   }
   // The thread must not return into Qt, which may be gone by then because the process ends.
@@ -179,14 +176,12 @@ bool NetworkWorker::end() {
     thread_.quit();
   };
   QMetaObject::invokeMethod(this, stop, Qt::QueuedConnection);
-  if (!rest.empty()) cancel(std::move(rest));
-  if (thread_.wait(QDeadlineTimer(kPatience))) return true;
-  {
-    const std::scoped_lock lock(mutex_);
-    leftBehind_ = inHost_;
-    if (leftBehind_) return false;
-  }
-  return thread_.wait();  // only code of Qt still runs on it
+  const QDeadlineTimer deadline(kPatience);
+  if (!rest.empty()) cancel(std::move(rest), deadline);
+  if (thread_.wait(deadline)) return true;
+  const std::scoped_lock lock(mutex_);
+  leftBehind_ = true;
+  return false;
 }
 
 /// The one thread that performs the process's HTTP requests.

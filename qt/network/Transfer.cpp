@@ -1,5 +1,6 @@
 #include "qt/network/Transfer.h"
 
+#include <QHostAddress>
 #include <QLoggingCategory>
 #include <QMetaEnum>
 #include <QNetworkProxy>
@@ -105,12 +106,11 @@ void Transfer::begin() {
   deadline_.start();
   begun_.start();
   QMetaObject::invokeMethod(
-      this, [this] { connectTo(address_, QAbstractSocket::IPv4Protocol); }, Qt::QueuedConnection);
+      this, [this] { connectTo(address_); }, Qt::QueuedConnection);
 }
 
-void Transfer::connectTo(const QUrl& address, QAbstractSocket::NetworkLayerProtocol family) {
+void Transfer::connectTo(const QUrl& address, bool again) {
   current_ = address;
-  hasMoreAddresses_ = family == QAbstractSocket::IPv4Protocol;
   const QNetworkProxy proxy = proxyFor(current_);
   const auto asked = httpProxy(proxy);
   const QByteArray sent = current_.toEncoded(QUrl::RemoveUserInfo | QUrl::RemoveFragment);
@@ -124,7 +124,12 @@ void Transfer::connectTo(const QUrl& address, QAbstractSocket::NetworkLayerProto
   socket_->setProxy(asked ? QNetworkProxy::NoProxy : proxy);
   const QString host = asked ? proxy.hostName() : current_.host();
   const int port = asked ? proxy.port() : current_.port(secure ? 443 : 80);
-  socket_->connectToHost(host, static_cast<quint16>(port), QIODevice::ReadWrite, family);
+  const bool byName =
+      socket_->proxy().type() == QNetworkProxy::NoProxy && QHostAddress(host).isNull();
+  hasMoreAddresses_ = byName && !again;
+  socket_->connectToHost(
+      host, static_cast<quint16>(port), QIODevice::ReadWrite,
+      hasMoreAddresses_ ? QAbstractSocket::IPv4Protocol : QAbstractSocket::AnyIPProtocol);
 }
 
 void Transfer::connected() {
@@ -140,11 +145,12 @@ void Transfer::receive() {
 }
 
 void Transfer::socketFailed() {
+  const auto* failed = socket_.get();
   receive();
-  if (!socket_) return;
+  if (socket_.get() != failed) return;  // the answer was complete
   if (hasMoreAddresses_) {
     hangUp();
-    return connectTo(current_, QAbstractSocket::AnyIPProtocol);
+    return connectTo(current_, true);
   }
   const std::string text = socket_->errorString().toStdString();
   proceed(conversation_->failed(urlError(socket_->error()), text));
@@ -171,7 +177,7 @@ void Transfer::answered() {
   const auto refusal = foundation::refuseRedirect(current_.scheme().toStdString(),
                                                   next.scheme().toStdString(), ++redirects_);
   if (refusal) return end(*refusal);
-  if (namesServer(next)) return connectTo(next, QAbstractSocket::IPv4Protocol);
+  if (namesServer(next)) return connectTo(next);
   end(foundation::failure(URLError::hostNotFound, "the redirect names no server"));
 }
 

@@ -39,7 +39,7 @@ class Transfer final : public QObject {
   void begin();
 
  private:
-  void connectTo(const QUrl& address, QAbstractSocket::NetworkLayerProtocol family);
+  void connectTo(const QUrl& address, bool again = false);
   void connected();
   void receive();
   void socketFailed();

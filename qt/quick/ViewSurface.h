@@ -191,7 +191,8 @@ class ViewSurface final : public HostedView,
     }
     const bool shifted = std::exchange(offset_, offset) != offset && painted;
     if (shifted) item_.update();
-    return std::exchange(inViewport_, inside) != inside || leftPart || shifted;
+    const bool ringShifted = shifted && ring_;
+    return std::exchange(inViewport_, inside) != inside || leftPart || ringShifted;
   }
 
   layout::Rect partToPaint() const { return render::partToPaint(size(), seen_, scale()); }

@@ -129,8 +129,13 @@ class WindowWatcher : public QObject {
 
   void frame() {
     if (entries_.size() <= kLooks) return lookAtSome();  // at all
-    for (auto& [parent, group] : groups_) update(group, *parent);
-    for (Entry& entry : entries_) {
+    bool anyMoved = false;
+    for (auto& [parent, group] : groups_) {
+      update(group, *parent);
+      anyMoved |= group.moved;
+    }
+    for (std::size_t i = 0; anyMoved && i < entries_.size(); ++i) {
+      Entry& entry = entries_[i];
       if (entry.group->moved && isConcerned(entry)) entry.client->placeMayHaveChanged();
     }
     lookAtSome();

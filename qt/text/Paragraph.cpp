@@ -130,6 +130,7 @@ ShapedText Paragraph::breakLines(double width) {
     natural = std::max(natural, line.naturalTextWidth() * unit_);
     needed = std::max(needed, widthNeeded(line) * unit_);
     top += (line.ascent() + line.descent() + std::max(line.leading(), 0.0)) * unit_;
+    if (width <= 0) continue;  // only measured: a line for each letter
     shaped.lines.push_back(collect(line));
     shaped.lines.back().baseline = baseline;
   }

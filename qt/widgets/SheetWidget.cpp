@@ -13,11 +13,15 @@
 #include "qt/widgets/WidgetAccessibleSurface.h"
 
 namespace quorix::qt {
-namespace {
+
+// Qt fills plain `QWidget`s from a host's style sheet, but not classes with a meta-object of their
+// own.
 
 /// Takes taps over the pages of a sheet. It is as large as the sheet, but its mask holds only the
 /// areas where something acts. Passes its events to the sheet.
 class SheetWidgetFront : public QWidget {
+  Q_OBJECT
+
  public:
   SheetWidgetFront(QWidget& parent, SheetSurface& sheet) : QWidget(&parent), sheet_(sheet) {
     setAttribute(Qt::WA_AcceptTouchEvents);
@@ -52,6 +56,8 @@ class SheetWidgetFront : public QWidget {
 };
 
 class PictureWidget final : public QWidget, public SheetPicture {
+  Q_OBJECT
+
  public:
   explicit PictureWidget(QWidget& parent) : QWidget(&parent) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -73,6 +79,8 @@ class PictureWidget final : public QWidget, public SheetPicture {
 
 /// A child of the window; deletes itself after it closed.
 class SheetWidget final : public QWidget, public SheetSurface, public WidgetAccessibleSurface {
+  Q_OBJECT
+
  public:
   SheetWidget(QWidget& window, hosting::WindowSession& session)
       : QWidget(&window),
@@ -121,13 +129,12 @@ class SheetWidget final : public QWidget, public SheetSurface, public WidgetAcce
     return QWidget::eventFilter(watched, event);
   }
 
-  void resizeEvent(QResizeEvent*) override {
-    followSize();
-    settle();
-  }
+  void resizeEvent(QResizeEvent*) override { followSize(); }
 
   void paintEvent(QPaintEvent*) override {
     if (!isOpen()) return;
+    // Qt tells a widget late, and not on every platform, that its window moved to another screen.
+    if (scale() != settings().environment.scale) followScale();
     QPainter painter(this);
     painter.fillRect(rect(), ground().shade);
     painter.fillRect(ground().below, ground().color);
@@ -252,10 +259,10 @@ class SheetWidget final : public QWidget, public SheetSurface, public WidgetAcce
   bool settleQueued_ = false;
 };
 
-}  // namespace
-
 hosting::SheetSession& newSheetWidget(QWidget& window, hosting::WindowSession& session) {
   return *new SheetWidget(window, session);
 }
 
 }  // namespace quorix::qt
+
+#include "SheetWidget.moc"

@@ -1,3 +1,5 @@
+#include <QLabel>
+
 #include "tests/qt/Screens.h"
 
 namespace quorix::testing {
@@ -269,6 +271,25 @@ TYPED_TEST(ScrollingSheet, GoesOnAfterAFling) {
   const int top = screen.find("Top")->rect().top();
   screen.drag({180, 400}, {180, 350}, 60, true);
   EXPECT_GT(top - screen.find("Top")->rect().top(), 100);
+}
+
+TEST(SheetInWidgets, IsNotPaintedByAHostsStyleSheet) {
+  WidgetScreen screen;
+  screen.host().setStyleSheet("QWidget { background: #ff0000 } QLabel { background: #0000ff }");
+  QLabel page(&screen.host());
+  page.setGeometry(screen.host().rect());
+  page.show();
+  screen.add(FeeRow("4 €"), kPlace)->setStyleSheet("background: #0000ff");
+  screen.click("Row 4 €");
+  const QImage shown = screen.grab();
+  int red = 0;
+  for (int y = 0; y < shown.height(); ++y) {
+    for (int x = 0; x < shown.width(); ++x) {
+      const QColor color = shown.pixelColor(x, y);
+      red += color.red() > color.blue() + 60;
+    }
+  }
+  EXPECT_EQ(red, 0);
 }
 
 }  // namespace
