@@ -39,16 +39,19 @@ class FormatReader {
     if (start == format_.npos) return std::nullopt;
     at_ = start + 1;
     FormatConversion conversion;
-    const auto position = readPosition();
-    conversion.flags = takeAll("-+ #0'");
-    conversion.width = readSize();
-    if (take('.')) {
-      conversion.precision = readSize();
-      if (!conversion.precision.argument && !conversion.precision.value) {
-        conversion.precision.value = 0;
+    std::optional<std::size_t> position;
+    if (!format_.substr(at_).starts_with('@')) {  // which is the usual case
+      position = readPosition();
+      conversion.flags = takeAll("-+ #0'");
+      conversion.width = readSize();
+      if (take('.')) {
+        conversion.precision = readSize();
+        if (!conversion.precision.argument && !conversion.precision.value) {
+          conversion.precision.value = 0;
+        }
       }
+      takeAll("hlqLzjt");
     }
-    takeAll("hlqLzjt");
     if (at_ < format_.size()) conversion.letter = format_[at_++];
     // A letter beyond ASCII is not a conversion. Skip all its bytes.
     const auto bits = [](char byte) { return static_cast<unsigned char>(byte) & 0xC0; };
