@@ -35,8 +35,8 @@ class QUORIX_EXPORT URLTransport {
 ///
 /// Return quickly, because later requests wait. At the end of the application all requests end
 /// with an error, on another thread. If a protocol blocks then, the session waits two seconds and
-/// abandons its thread. A later answer is ignored, but what the protocol uses must still exist. If a protocol
-/// throws, the request ends with an error of domain "URLSession", code -2.
+/// abandons its thread. A later answer is ignored, but what the protocol uses must still exist. If
+/// a protocol throws, the request ends with an error of domain "URLSession", code -2.
 using URLProtocol = std::function<std::optional<URLResponse>(const URL&)>;
 
 /// The process-wide HTTP session. The engine installs the transport; a host, a demo or a test may
@@ -70,9 +70,9 @@ class QUORIX_EXPORT URLSession {
 
   /// Fetches `url` and keeps the answer and the result of `read` in memory for `lifetime`. During
   /// that time the answer serves the requests that no protocol answers. Keeps only usable answers
-  /// of the network (`read` runs on a thread of the session), of at most `mostPrefetched` addresses.
-  /// Has no effect while an answer is kept or requested. Without a transport it waits until one is
-  /// installed. Any thread.
+  /// of the network (`read` runs on a thread of the session), of at most `mostPrefetched`
+  /// addresses. Has no effect while an answer is kept or requested. Without a transport it waits
+  /// until one is installed. Any thread.
   void prefetch(const URL& url, std::chrono::seconds lifetime, Reader read);
   static constexpr std::size_t mostPrefetched = 8;
 

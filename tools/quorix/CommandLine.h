@@ -35,7 +35,8 @@ using Outcome = std::variant<std::string, Failure>;
 using Target = std::variant<bool*, std::string*, std::optional<std::string>*, std::int64_t*,
                             double*, std::optional<double>*, int*, std::optional<int>*>;
 
-/// The valid values of an option: `names`, or numbers from `least` to `most`. Without either, any value is valid.
+/// The valid values of an option: `names`, or numbers from `least` to `most`. Without either, any
+/// value is valid.
 struct Valid {
   std::span<const std::string_view> names = {};
   double least = 0;
