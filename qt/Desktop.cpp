@@ -69,8 +69,8 @@ class Follower : public QObject {
 /// Null without an application object.
 Follower* follower() {
   static QPointer<Follower> instance;
-  if (!instance && QCoreApplication::instance())
-    instance = new Follower(QCoreApplication::instance());
+  QObject* application = QCoreApplication::instance();
+  if (!instance && application) instance = new Follower(application);
   return instance;
 }
 

@@ -147,7 +147,7 @@ void SheetSurface::paintRing() {
   const layout::Point corner = presenter().panelFrame().origin;
   frame = layout::PixelGrid(scale()).round(frame->translated({-corner.x, -corner.y}));
   if (ring_.shown && ringFrame_ == frame) return;
-  if (!ring_.shown) ring_.shown = newPicture(ringIndex);
+  if (!ring_.shown) ring_.shown = newPicture(int(layers_.size()));
   ring_.shown->setPicture(FocusRing::picture(*frame, presenter().panel().appearance, scale()));
   ring_.origin = FocusRing::frameAround(*frame).topLeft();
   ringFrame_ = frame;

@@ -31,7 +31,6 @@ class SheetPicture {
 class QUORIX_EXPORT SheetSurface : public hosting::SheetSession {
  public:
   using SheetSession::handle;
-  static constexpr int ringIndex = 100;  ///< a sheet has fewer pages
   /// Handles an event of the pointer or the keyboard. False for other events.
   bool handle(QEvent& event);
   Qt::CursorShape cursorAt(QPointF point);
@@ -64,8 +63,7 @@ class QUORIX_EXPORT SheetSurface : public hosting::SheetSession {
                                                 hosting::PageEngine::Client& client) override;
 
  private:
-  /// Makes a picture above those before it; `index` counts from the panel, and is `ringIndex` for
-  /// the ring.
+  /// Makes a picture above those before it; `index` counts from the panel, the ring included.
   virtual std::unique_ptr<SheetPicture> newPicture(int index) = 0;
 
   void startClock() override { clock_->start(); }

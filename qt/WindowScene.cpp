@@ -51,7 +51,8 @@ hosting::SheetSession& WindowScene::newSheet(const hosting::Responder* opener) {
 }
 
 void WindowScene::focusWindowChanged(QWindow* focused) {
-  focused&& focused == toolkit_.window() ? becameKey() : visibilityChanged();
+  const bool isKey = focused != nullptr && focused == toolkit_.window();
+  isKey ? becameKey() : visibilityChanged();
 }
 
 }  // namespace quorix::qt

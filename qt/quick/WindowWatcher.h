@@ -134,9 +134,10 @@ class WindowWatcher : public QObject {
       update(group, *parent);
       anyMoved |= group.moved;
     }
-    for (std::size_t i = 0; anyMoved && i < entries_.size(); ++i) {
-      Entry& entry = entries_[i];
-      if (entry.group->moved && isConcerned(entry)) entry.client->placeMayHaveChanged();
+    if (anyMoved) {
+      for (Entry& entry : entries_) {
+        if (entry.group->moved && isConcerned(entry)) entry.client->placeMayHaveChanged();
+      }
     }
     lookAtSome();
   }
