@@ -24,33 +24,19 @@ std::optional<swiftui::Color> fixedColor(const QColor& color) {
 
 }  // namespace
 
-void InfoWidget::setBackgroundColor(const QColor& color) {
-  if (replace(backgroundColor_, color)) emit backgroundColorChanged();
-}
-
-void InfoWidget::setShowBorder(bool show) {
-  if (replace(showBorder_, show)) emit showBorderChanged();
-}
-
 swiftui::View InfoWidget::widget() const {
   return InfoWidgetBuilder::buildSwiftUIInfoWidgetView(
       language(), {regularFace(), semiBoldFace(), fixedColor(backgroundColor_), showBorder_});
 }
 
-void ScoreWidget::setClientId(const QString& clientId) {
-  if (replace(clientId_, clientId)) emit clientIdChanged();
-}
-
 void ScoreWidget::setToken(const QString& token) {
-  if (token_ == token) return;
   // A token that is signed again with the same figures does not change the widget, so that an open
   // sheet stays open.
   const auto figures = [](const QString& text) { return parseTokenData(text.toStdString()); };
-  if (isComponentComplete() && figures(token_) == figures(token)) {
-    token_ = token;
-  } else {
-    replace(token_, token);
+  if (token_ == token || !isComponentComplete() || figures(token_) != figures(token)) {
+    return replace(token_, token, &ScoreWidget::tokenChanged);
   }
+  token_ = token;
   emit tokenChanged();
 }
 

@@ -32,19 +32,19 @@ class InfoWidget : public quorix::qml::WidgetItem {
   QML_ELEMENT
 
   /// The library's own color by default, and after setting `undefined`.
-  Q_PROPERTY(QColor backgroundColor READ backgroundColor WRITE setBackgroundColor RESET
+  Q_PROPERTY(QColor backgroundColor MEMBER backgroundColor_ WRITE setBackgroundColor RESET
                  resetBackgroundColor NOTIFY backgroundColorChanged FINAL)
   /// A border of one point in the color of the text.
-  Q_PROPERTY(bool showBorder READ showBorder WRITE setShowBorder NOTIFY showBorderChanged FINAL)
+  Q_PROPERTY(bool showBorder MEMBER showBorder_ WRITE setShowBorder NOTIFY showBorderChanged FINAL)
 
  public:
   using WidgetItem::WidgetItem;
 
-  QColor backgroundColor() const { return backgroundColor_; }
-  void setBackgroundColor(const QColor& color);
+  void setBackgroundColor(const QColor& color) {
+    replace(backgroundColor_, color, &InfoWidget::backgroundColorChanged);
+  }
   void resetBackgroundColor() { setBackgroundColor({}); }
-  bool showBorder() const { return showBorder_; }
-  void setShowBorder(bool show);
+  void setShowBorder(bool show) { replace(showBorder_, show, &InfoWidget::showBorderChanged); }
 
  signals:
   void backgroundColorChanged();
@@ -67,19 +67,17 @@ class ScoreWidget : public quorix::qml::WidgetItem {
   QML_ELEMENT
 
   /// The retailer's id.
-  Q_PROPERTY(QString clientId READ clientId WRITE setClientId RESET resetClientId NOTIFY
+  Q_PROPERTY(QString clientId MEMBER clientId_ WRITE setClientId RESET resetClientId NOTIFY
                  clientIdChanged FINAL)
   /// The shopper's token, as the widget service issued it. A new token with the same figures does
   /// not change the widget, and its sheet stays open.
-  Q_PROPERTY(QString token READ token WRITE setToken RESET resetToken NOTIFY tokenChanged FINAL)
+  Q_PROPERTY(QString token MEMBER token_ WRITE setToken RESET resetToken NOTIFY tokenChanged FINAL)
 
  public:
   using WidgetItem::WidgetItem;
 
-  QString clientId() const { return clientId_; }
-  void setClientId(const QString& clientId);
+  void setClientId(const QString& id) { replace(clientId_, id, &ScoreWidget::clientIdChanged); }
   void resetClientId() { setClientId({}); }
-  QString token() const { return token_; }
   void setToken(const QString& token);
   void resetToken() { setToken({}); }
 

@@ -21,20 +21,6 @@ QString applicationLanguage() {
 
 }  // namespace
 
-// Properties that make a new widget.
-
-void WidgetItem::setLocale(const QString& locale) {
-  if (replace(locale_, locale)) emit localeChanged();
-}
-
-void WidgetItem::setRegularFont(const QString& face) {
-  if (replace(regularFont_, face)) emit regularFontChanged();
-}
-
-void WidgetItem::setSemiBoldFont(const QString& face) {
-  if (replace(semiBoldFont_, face)) emit semiBoldFontChanged();
-}
-
 std::string WidgetItem::language() const {
   return (locale_.isEmpty() ? applicationLanguage() : locale_).toStdString();
 }

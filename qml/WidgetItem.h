@@ -4,6 +4,7 @@
 #include <QString>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "platform/swiftui/View.h"
 #include "qt/quick/ViewItem.h"
@@ -24,12 +25,12 @@ class WidgetItem : public quorix::qt::ViewItem {
   /// A language code ("en", "es"), used unchanged: a tag with a region falls back to English. If
   /// empty, the language of Qt's default locale at the time when the widget is made.
   Q_PROPERTY(
-      QString locale READ locale WRITE setLocale RESET resetLocale NOTIFY localeChanged FINAL)
+      QString locale MEMBER locale_ WRITE setLocale RESET resetLocale NOTIFY localeChanged FINAL)
   /// The app's own faces, by PostScript or family name. They scale with the user's text size. If
   /// empty, the library's faces are used, which do not scale.
-  Q_PROPERTY(QString regularFont READ regularFont WRITE setRegularFont RESET resetRegularFont NOTIFY
-                 regularFontChanged FINAL)
-  Q_PROPERTY(QString semiBoldFont READ semiBoldFont WRITE setSemiBoldFont RESET resetSemiBoldFont
+  Q_PROPERTY(QString regularFont MEMBER regularFont_ WRITE setRegularFont RESET resetRegularFont
+                 NOTIFY regularFontChanged FINAL)
+  Q_PROPERTY(QString semiBoldFont MEMBER semiBoldFont_ WRITE setSemiBoldFont RESET resetSemiBoldFont
                  NOTIFY semiBoldFontChanged FINAL)
 
   Q_PROPERTY(Appearance appearance READ appearance WRITE setAppearance RESET resetAppearance NOTIFY
@@ -68,14 +69,15 @@ class WidgetItem : public quorix::qt::ViewItem {
 
   explicit WidgetItem(QQuickItem* parent = nullptr) : ViewItem(parent) {}
 
-  QString locale() const { return locale_; }
-  void setLocale(const QString& locale);
+  void setLocale(const QString& locale) { replace(locale_, locale, &WidgetItem::localeChanged); }
   void resetLocale() { setLocale({}); }
-  QString regularFont() const { return regularFont_; }
-  void setRegularFont(const QString& face);
+  void setRegularFont(const QString& face) {
+    replace(regularFont_, face, &WidgetItem::regularFontChanged);
+  }
   void resetRegularFont() { setRegularFont({}); }
-  QString semiBoldFont() const { return semiBoldFont_; }
-  void setSemiBoldFont(const QString& face);
+  void setSemiBoldFont(const QString& face) {
+    replace(semiBoldFont_, face, &WidgetItem::semiBoldFontChanged);
+  }
   void resetSemiBoldFont() { setSemiBoldFont({}); }
 
   Appearance appearance() const;
@@ -108,14 +110,12 @@ class WidgetItem : public quorix::qt::ViewItem {
   std::optional<std::string> regularFace() const { return nonEmpty(regularFont_); }
   std::optional<std::string> semiBoldFace() const { return nonEmpty(semiBoldFont_); }
 
-  /// Assigns `replacement` to `value`, a property that makes a new widget. Returns whether it
-  /// changed.
-  template <class Value>
-  bool replace(Value& value, const Value& replacement) {
-    if (value == replacement) return false;
-    value = replacement;
+  /// Assigns `now` to `value`, a property that makes a new widget, and emits `changed`.
+  template <class Value, class Widget>
+  void replace(Value& value, const Value& now, void (Widget::*changed)()) {
+    if (std::exchange(value, now) == now) return;
     makeAnew();
-    return true;
+    (static_cast<Widget*>(this)->*changed)();
   }
 
   void componentComplete() override;
