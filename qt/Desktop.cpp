@@ -10,10 +10,8 @@
 #include <string>
 #include <utility>
 
-#include "qt/Surface.h"
-#ifdef QUORIX_DBUS
 #include "qt/DesktopPortal.h"
-#endif
+#include "qt/Surface.h"
 
 namespace quorix::qt {
 namespace {
@@ -46,14 +44,10 @@ class Follower : public QObject {
   explicit Follower(QObject* application) : QObject(application) {
     application->installEventFilter(this);
     connect(qGuiApp, &QGuiApplication::layoutDirectionChanged, this, tellSurfaces);
-#ifdef QUORIX_DBUS
     connect(&portal, &DesktopPortal::changed, this, tellSurfaces);
-#endif
   }
 
-#ifdef QUORIX_DBUS
   DesktopPortal portal;
-#endif
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override {
@@ -76,13 +70,10 @@ Follower* follower() {
 
 /// The user's text size, unless Qt has already enlarged everything by it.
 swiftui::ContentSizeCategory textSize() {
-  double factor = 1;
-#ifdef QUORIX_DBUS
   // On X11 desktops multiply it into the DPI, by which Qt scales every window.
   const bool enlarged = QGuiApplication::platformName() == QLatin1String("xcb");
-  if (follower() && !enlarged) factor = follower()->portal.textScale();
-#endif
-  return swiftui::contentSizeCategoryFor(factor);
+  return follower() && !enlarged ? follower()->portal.textSize()
+                                 : swiftui::ContentSizeCategory::large;
 }
 
 }  // namespace
@@ -111,9 +102,7 @@ layout::LayoutDirection Desktop::directionOf(Qt::LayoutDirection direction) {
 bool Desktop::prefersReducedMotion() {
   // Qt 6.4 does not tell. Asks the settings service that desktops share, and reads their files
   // where there is none.
-#ifdef QUORIX_DBUS
   if (follower() && follower()->portal.prefersReducedMotion()) return true;
-#endif
   if (configured("kdeglobals", "KDE/AnimationDurationFactor", 1.0).toDouble() == 0) return true;
   for (const char* gtk : {"gtk-4.0/settings.ini", "gtk-3.0/settings.ini"}) {
     if (!configured(gtk, "Settings/gtk-enable-animations", true).toBool()) return true;

@@ -1,21 +1,35 @@
 #pragma once
 
+#include <QObject>
+#include <utility>
+#ifdef QUORIX_DBUS
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
-#include <QObject>
-#include <optional>
-#include <utility>
+#endif
+
+#include "platform/swiftui/Environment.h"
 
 namespace quorix::qt {
 
 /// Asks the settings service that desktops on D-Bus share about motion and text size, in the
-/// background and without starting it. Until it answers, motion and text size are the usual ones.
-/// Main thread.
+/// background and without starting it. Until it answers, and without D-Bus, motion and text size
+/// are the usual ones. Main thread.
 class DesktopPortal : public QObject {
   Q_OBJECT
 
+ public:
+  /// The user wants less motion.
+  bool prefersReducedMotion() const { return reducedMotion_ == 1 || !animations_; }
+  swiftui::ContentSizeCategory textSize() const {
+    return swiftui::contentSizeCategoryFor(textScale_);
+  }
+
+ signals:
+  void changed();
+
+#ifdef QUORIX_DBUS
  public:
   DesktopPortal() {
     QDBusConnection bus = QDBusConnection::sessionBus();
@@ -28,21 +42,13 @@ class DesktopPortal : public QObject {
     ask(kGnome, kTextScale);
   }
 
-  /// The user wants less motion.
-  bool prefersReducedMotion() const { return reducedMotion_ == 1U || animations_ == false; }
-  /// The user's text size as a multiple of the usual one.
-  double textScale() const { return textScale_; }
-
- signals:
-  void changed();
-
  private slots:
   void take(const QString& group, const QString& key, const QDBusVariant& value) {
-    const auto before = std::pair(prefersReducedMotion(), textScale_);
+    const auto before = std::pair(prefersReducedMotion(), textSize());
     if (group == kAppearance && key == kReducedMotion) reducedMotion_ = unwrapped(value).toUInt();
     if (group == kGnome && key == kAnimations) animations_ = unwrapped(value).toBool();
     if (group == kGnome && key == kTextScale) textScale_ = unwrapped(value).toDouble();
-    if (std::pair(prefersReducedMotion(), textScale_) != before) emit changed();
+    if (std::pair(prefersReducedMotion(), textSize()) != before) emit changed();
   }
 
  private:
@@ -74,10 +80,12 @@ class DesktopPortal : public QObject {
     const QVariant inner = value.variant();
     return inner.canConvert<QDBusVariant>() ? inner.value<QDBusVariant>().variant() : inner;
   }
+#endif
 
-  std::optional<unsigned> reducedMotion_;  ///< of every desktop: 1 for less
-  std::optional<bool> animations_;         ///< GNOME's older setting
-  double textScale_ = 1;
+ private:
+  unsigned reducedMotion_ = 0;  ///< of every desktop: 1 for less
+  bool animations_ = true;      ///< GNOME's older setting
+  double textScale_ = 1;        ///< a multiple of the usual size
 };
 
 }  // namespace quorix::qt
