@@ -19,14 +19,4 @@ T& applicationLifetime() {
   return *instance;
 }
 
-/// Calls `begins` when an application object is made (at once if there is one) and `ends` when it
-/// goes away. Call it once.
-template <void (*begins)(), void (*ends)()>
-void followApplication() {
-  qAddPreRoutine([] {
-    qAddPostRoutine(ends);  // Qt forgets its post routines with each application
-    begins();
-  });
-}
-
 }  // namespace quorix::qt

@@ -20,7 +20,7 @@
 #include "platform/foundation/URLSession.h"
 #include "qt/Engine.h"
 #include "qt/Picture.h"
-#include "qt/network/QtURLTransport.h"
+#include "qt/network/QtNetworkThread.h"
 
 namespace quorix::bench {
 namespace {
@@ -35,6 +35,7 @@ constexpr std::chrono::milliseconds kBudget{8};
 /// texts on the thread on which the library asks.
 class Network final : public foundation::URLTransport {
  public:
+  Network() { kept_.open(); }
   void start(const foundation::URL& url, Completion completion) override {
     if (requests == 0) {
       ++requests;
@@ -48,7 +49,7 @@ class Network final : public foundation::URLTransport {
   std::atomic<int> requests = 0;
 
  private:
-  qt::QtURLTransport kept_;
+  foundation::NetworkTransport kept_{qt::makeNetworkThread};
 };
 
 /// Scrolls `list` to its end. Returns the time at which each frame was shown.

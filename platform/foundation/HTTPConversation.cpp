@@ -16,6 +16,18 @@ bool isRedirect(int status) {
 
 }  // namespace
 
+std::optional<URLResponse> refuseRedirect(std::string_view from, std::string_view to, int count) {
+  constexpr int most = 20;
+  if (count > most) return failure(URLError::tooManyRedirects, "too many redirects");
+  if (!isHTTP(to)) {
+    return failure(URLError::unsupportedScheme, "the redirect leads to neither http nor https");
+  }
+  if (from == "https" && to != "https") {
+    return failure(URLError::insecureRedirect, "the redirect leads from https to http");
+  }
+  return std::nullopt;
+}
+
 HTTPConversation::HTTPConversation(std::string address, std::optional<HTTPProxy> proxy)
     : address_(std::move(address)),
       secure_(address_.starts_with("https:")),

@@ -10,6 +10,15 @@
 
 namespace quorix::foundation {
 
+/// `scheme` is in lower case.
+inline bool isHTTP(std::string_view scheme) { return scheme == "http" || scheme == "https"; }
+
+/// Why a fetch does not follow its `count`th redirect, from an address with the scheme `from` to
+/// one with the scheme `to`; absent if it does. It follows 20, to http and https only, and from
+/// https only to https.
+QUORIX_EXPORT std::optional<URLResponse> refuseRedirect(std::string_view from, std::string_view to,
+                                                        int count);
+
 /// A proxy that speaks HTTP.
 struct HTTPProxy {
   std::string credentials;  ///< base64 of "user:password"; empty without a user

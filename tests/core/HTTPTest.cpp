@@ -1,5 +1,4 @@
 #include "platform/foundation/HTTPConversation.h"
-#include "platform/foundation/TransferRules.h"
 #include "tests/core/Vectors.h"
 
 namespace quorix::testing {
@@ -7,7 +6,6 @@ namespace {
 
 using foundation::HTTPConversation;
 using foundation::HTTPResponseReader;
-using foundation::TransferQueue;
 using Next = HTTPConversation::Next;
 using State = HTTPResponseReader::State;
 using Texts = std::vector<std::string>;
@@ -89,44 +87,12 @@ TEST(HTTPConversation, AsksTheServerOrItsProxyAndEndsWithAnAnswerOrAnError) {
   });
 }
 
-TEST(TransferRules, RedirectsStayWithHTTPAndLeaveNoSecureConnection) {
+TEST(HTTPConversation, RedirectsStayWithHTTPAndLeaveNoSecureConnection) {
   forEachRow("http/redirects", [](simdjson::dom::element row) {
     const auto refusal = foundation::refuseRedirect(::text(row, "from"), ::text(row, "to"),
                                                     int(std::int64_t(row["count"])));
     EXPECT_EQ(refusal ? refusal->error->code : 0, std::int64_t(row["error"]));
   });
-}
-
-TEST(TransferQueue, SharesTransfersAndStartsSixForAServer) {
-  using Tasks = std::vector<TransferQueue::Task>;
-  const auto transfer = [](int i) {
-    return TransferQueue::Transfer{"http://a/" + std::to_string(i), "a", std::chrono::seconds(60)};
-  };
-  const TransferQueue::Transfer elsewhere{"http://b/", "b", std::chrono::seconds(60)};
-  const TransferQueue::Transfer hasty{"http://b/", "b", std::chrono::seconds(1)};
-  TransferQueue queue;
-  for (int i = 0; i < 8; ++i) queue.add(i, transfer(i));
-  for (int i = 0; i < 6; ++i) EXPECT_EQ(queue.start(), transfer(i));
-  EXPECT_EQ(queue.start(), std::nullopt);
-  queue.add(10, transfer(1));  // runs
-  queue.add(11, transfer(7));  // waits
-  EXPECT_EQ(queue.start(), std::nullopt);
-  queue.add(12, elsewhere);
-  queue.add(13, hasty);
-  EXPECT_EQ(queue.start(), elsewhere);
-  EXPECT_EQ(queue.start(), hasty);
-
-  EXPECT_EQ(queue.end(transfer(1)), (Tasks{1, 10}));
-  queue.add(14, transfer(1));  // another transfer
-  EXPECT_EQ(queue.start(), transfer(6));
-  EXPECT_EQ(queue.end(hasty), Tasks{13});
-  EXPECT_EQ(queue.start(), std::nullopt);
-  EXPECT_EQ(queue.end(transfer(0)), Tasks{0});
-  EXPECT_EQ(queue.start(), transfer(7));
-  EXPECT_EQ(queue.end(transfer(7)), (Tasks{7, 11}));
-  EXPECT_EQ(queue.start(), transfer(1));
-  EXPECT_EQ(queue.end(transfer(1)), Tasks{14});
-  EXPECT_EQ(queue.start(), std::nullopt);
 }
 
 }  // namespace

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "platform/foundation/MainQueue.h"
-#include "qt/QtMainQueue.h"
+#include "qt/Engine.h"
 #include "tests/qt/WaitUntil.h"
 
 namespace quorix::testing {
@@ -16,7 +16,7 @@ using foundation::MainQueue;
 
 class ConcurrentMainQueue : public ::testing::Test {
  protected:
-  ConcurrentMainQueue() { qt::QtMainQueue::install(); }
+  ConcurrentMainQueue() { qt::installEngine(); }
 };
 
 TEST_F(ConcurrentMainQueue, RunsTheWorkOfEveryThreadOnTheMainOneInOrder) {

@@ -1,16 +1,14 @@
 #include <QLoggingCategory>
 #include <QRegularExpression>
-#include <atomic>
-#include <stdexcept>
 #include <thread>
 
+#include "platform/foundation/Runtime.h"
+#include "qt/network/QtNetworkThread.h"
 #include "tests/qt/UrlSession.h"
 #include "tests/web/LogListener.h"
 
 namespace quorix::testing {
 namespace {
-
-using foundation::URL;
 
 constexpr std::size_t kLimit = 256 << 10;  // for a body
 
@@ -45,7 +43,7 @@ TEST_F(ConcurrentUrlSession, AnswersAreAnswersWhateverTheirStatusAndBrokenOnesAr
   for (std::size_t i = 0; i < std::size(table); ++i) {
     const std::string path = "/a%20b%25.json?x=%26&y=1+" + std::to_string(i);  // sent as it is
     server.serve(path, table[i].answer);
-    fetches.emplace_back(transport, server.base() + path + "#fragment");
+    fetches.emplace_back(server.base() + path + "#fragment");
   }
   for (std::size_t i = 0; i < std::size(table); ++i) {
     SCOPED_TRACE(table[i].name);
@@ -66,74 +64,24 @@ TEST_F(ConcurrentUrlSession, EndsAnAnswerThatHasNoEnd) {
 }
 
 TEST_F(ConcurrentUrlSession, EndsARequestThatTakesTooLongNotOneThatWaitedForItsTurn) {
-  qt::QtURLTransport impatient{std::chrono::milliseconds(600)};
+  const foundation::Runtime::Fresh<foundation::URLSession> session;
+  const auto impatient = std::make_shared<foundation::NetworkTransport>(
+      qt::makeNetworkThread, std::chrono::milliseconds(600));
+  impatient->open();
+  foundation::URLSession::shared().install(impatient);
   server.serve("/next", {httpAnswer(200, kTable)});
   std::vector<Fetch> slow;
   for (int i = 0; i < 6; ++i) {
     const std::string path = "/" + std::to_string(i);
     const Answer trickle{"HTTP/1.1 200 OK\r\n\r\n", 1, false, "x"};
     server.serve(path, i ? Answer() : trickle);  // the others never answer
-    slow.emplace_back(impatient, server.base() + path);
+    slow.emplace_back(server.base() + path);
   }
-  Fetch waiting(impatient, server.base() + "/next");
+  Fetch waiting(server.base() + "/next");
   for (Fetch& fetch : slow) {
-    const auto error = fetch.wait().response.error;
-    EXPECT_EQ(error ? error->code : 0, QNetworkReply::TimeoutError);
+    EXPECT_EQ(fetch.error(), QNetworkReply::TimeoutError);
   }
   EXPECT_EQ(waiting.wait().response.body, kTable);
-}
-
-TEST_F(ConcurrentUrlSession, RequestsForOneAddressShareAFetchWhileItLasts) {
-  const std::string body(500, 'x');  // half a second: a millisecond for each byte
-  server.serve("/list", {httpAnswer(200, body), 1});
-  server.serve("/cut", {httpAnswer(200, body).substr(0, 300), 1, true});
-  std::atomic<int> asked = 0;
-  const auto protocol = foundation::URLSession::shared().registerProtocol([&](const URL&) {
-    ++asked;
-    return std::nullopt;
-  });
-  std::vector<Fetch> whole, broken;
-  const auto askForBoth = [&] {
-    whole.emplace_back(transport, server.base() + "/list");
-    broken.emplace_back(transport, server.base() + "/cut");
-  };
-  for (int row = 1; row < 500; ++row) askForBoth();
-  while (server.requests("/list").empty()) std::this_thread::yield();
-  askForBoth();  // after the start of the answer
-  for (Fetch& fetch : whole) EXPECT_EQ(fetch.wait().response.body, body);
-  for (Fetch& fetch : broken) EXPECT_TRUE(fetch.wait().response.error);
-  EXPECT_EQ(server.requests("/list").size(), 1u);
-  EXPECT_EQ(server.requests("/cut").size(), 1u);
-  EXPECT_EQ(asked, 1000);
-  EXPECT_EQ(fetch("/list").response.body, body);
-  EXPECT_EQ(server.requests("/list").size(), 2u);
-}
-
-TEST_F(ConcurrentUrlSession, ProtocolAnswersBeforeTheNetworkOnTheSessionsThread) {
-  server.serve("/x", {httpAnswer(200, "network")});
-  std::atomic<std::thread::id> ranOn;
-  auto token = foundation::URLSession::shared().registerProtocol(
-      [&](const URL& url) -> std::optional<foundation::URLResponse> {
-        ranOn = std::this_thread::get_id();
-        const std::string address = url.absoluteString();
-        if (address.ends_with("/exception")) throw std::runtime_error("out of order");
-        if (address.ends_with("/number")) throw 1;
-        if (!address.ends_with("/inside")) return std::nullopt;
-        return foundation::URLResponse{{}, "protocol", 0};
-      });
-  const auto [inside, thread] = Fetch(transport, server.base() + "/inside").wait();
-  EXPECT_EQ(inside.body, "protocol");
-  EXPECT_EQ(thread, ranOn.load());
-  EXPECT_NE(thread, std::this_thread::get_id());
-  const auto [outside, again] = fetch("/x");
-  EXPECT_EQ(outside.body, "network");
-  EXPECT_EQ(thread, again);  // one thread for all of them
-  EXPECT_TRUE(server.requests("/inside").empty());
-  for (const char* path : {"/exception", "/number"}) {
-    const auto error = fetch(path).response.error;
-    ASSERT_TRUE(error) << path;
-    EXPECT_EQ(error->code, -2) << path;
-  }
 }
 
 TEST_F(ConcurrentUrlSession, LogsRequestsIfAskedAndNeverAToken) {
@@ -142,7 +90,7 @@ TEST_F(ConcurrentUrlSession, LogsRequestsIfAskedAndNeverAToken) {
   const std::string user = "http://secret:secret@" + server.base().substr(7);
   const auto ask = [&] {
     for (const char* path : {"/here?token=secret#secret", "/nowhere", "/cut"}) {
-      Fetch(transport, user + path).wait();
+      Fetch(user + path).wait();
     }
   };
   const LogListener log;

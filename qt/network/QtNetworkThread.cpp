@@ -1,5 +1,7 @@
-#include "qt/network/Transfer.h"
+#include "qt/network/QtNetworkThread.h"
 
+#include <QDeadlineTimer>
+#include <QElapsedTimer>
 #include <QHostAddress>
 #include <QLoggingCategory>
 #include <QMetaEnum>
@@ -8,9 +10,12 @@
 #include <QNetworkProxyQuery>
 #include <QNetworkReply>
 #include <QSslSocket>
+#include <QThread>
+#include <optional>
 #include <utility>
 
-#include "platform/foundation/TransferRules.h"
+#include "platform/foundation/HTTPConversation.h"
+#include "qt/Conversions.h"
 
 namespace quorix::qt {
 namespace {
@@ -88,28 +93,66 @@ QByteArray outcome(const URLResponse& response) {
   return names.valueToKey(static_cast<int>(response.error->code));
 }
 
-}  // namespace
+/// One GET over the network and its redirects, each on a connection of its own. Sends no cookies
+/// and no credentials to the server. Uses the application's proxies and default SSL configuration.
+/// Connects to IPv4 addresses first, then to any: Qt waits up to 30 seconds for each address, and
+/// where one family is broken, it is mostly IPv6.
+///
+/// Each answer has the limits of `HTTPResponseReader`. The time limit is for all of them together.
+/// Lives on the network thread.
+class Transfer final : public QObject {
+ public:
+  using Ended = foundation::URLTransport::Completion;
+
+  /// Sends the request to `address`, one of http or https. Calls `ended` once on a later turn,
+  /// unless the transfer is destroyed first. `ended` may destroy it.
+  Transfer(QUrl address, std::chrono::milliseconds timeLimit, Ended ended);
+  ~Transfer() override;
+
+ private:
+  void timerEvent(QTimerEvent* event) override;  // the time limit
+  void connectTo(const QUrl& address, bool again = false);
+  void connected();
+  void receive();
+  void socketFailed();
+  void proceed(const foundation::HTTPConversation::Step& step);
+  void encrypt();
+  void answered();
+  void hangUp();
+  void end(foundation::URLResponse response);
+
+  const QUrl address_;
+  Ended ended_;  // null after the end
+  QElapsedTimer begun_;
+  int redirects_ = 0;
+
+  // For the current address: the first one or that of the latest redirect.
+  QUrl current_;
+  std::optional<foundation::HTTPConversation> conversation_;
+  std::unique_ptr<QTcpSocket> socket_;
+  bool hasMoreAddresses_ = false;  // to connect to
+};
 
 Transfer::Transfer(QUrl address, std::chrono::milliseconds timeLimit, Ended ended)
     : address_(std::move(address)), ended_(std::move(ended)) {
-  deadline_.setSingleShot(true);
-  deadline_.setInterval(timeLimit);
-  connect(&deadline_, &QTimer::timeout, this,
-          [this] { end(foundation::failure(URLError::timedOut, "the request took too long")); });
+  begun_.start();
+  startTimer(timeLimit);
+  QMetaObject::invokeMethod(
+      this, [this] { connectTo(address_); }, Qt::QueuedConnection);
 }
 
 Transfer::~Transfer() {
   if (socket_) socket_->disconnect(this);
 }
 
-void Transfer::begin() {
-  deadline_.start();
-  begun_.start();
-  QMetaObject::invokeMethod(
-      this, [this] { connectTo(address_); }, Qt::QueuedConnection);
+void Transfer::timerEvent(QTimerEvent*) {
+  if (ended_) end(foundation::failure(URLError::timedOut, "the request took too long"));
 }
 
 void Transfer::connectTo(const QUrl& address, bool again) {
+  if (!address.isValid() || address.host().isEmpty()) {
+    return end(foundation::failure(URLError::hostNotFound, "the address names no server"));
+  }
   current_ = address;
   const QNetworkProxy proxy = proxyFor(current_);
   const auto asked = httpProxy(proxy);
@@ -176,9 +219,7 @@ void Transfer::answered() {
   const QUrl next = current_.resolved(target);
   const auto refusal = foundation::refuseRedirect(current_.scheme().toStdString(),
                                                   next.scheme().toStdString(), ++redirects_);
-  if (refusal) return end(*refusal);
-  if (namesServer(next)) return connectTo(next);
-  end(foundation::failure(URLError::hostNotFound, "the redirect names no server"));
+  refusal ? end(*refusal) : connectTo(next);
 }
 
 void Transfer::hangUp() {
@@ -192,9 +233,41 @@ void Transfer::end(URLResponse response) {
   qCInfo(networkLog).noquote() << "GET" << loggedAddress(address_) << outcome(response)
                                << begun_.elapsed() << "ms"
                                << (response.body ? response.body->size() : 0) << "bytes";
-  deadline_.stop();
   hangUp();
-  ended_(std::move(response));
+  QMetaObject::invokeMethod(
+      this,
+      [ended = std::exchange(ended_, {}), response = std::move(response)] { ended(response); },
+      Qt::QueuedConnection);
+}
+
+class QtNetworkThread final : public QObject, public foundation::NetworkThread {
+ public:
+  QtNetworkThread() {
+    thread_.setObjectName(QStringLiteral("quorix network"));
+    moveToThread(&thread_);
+    thread_.start();
+  }
+
+  void post(std::function<void()> work) override {
+    QMetaObject::invokeMethod(this, std::move(work), Qt::QueuedConnection);
+  }
+  std::shared_ptr<void> fetch(const foundation::URL& url, std::chrono::milliseconds timeLimit,
+                              foundation::URLTransport::Completion ended) override {
+    return std::make_shared<Transfer>(toQUrl(url), timeLimit, std::move(ended));
+  }
+  void quit() override { thread_.quit(); }
+  bool wait(std::chrono::steady_clock::time_point deadline) override {
+    return QThread::currentThread() != &thread_ && thread_.wait(QDeadlineTimer(deadline));
+  }
+
+ private:
+  QThread thread_;
+};
+
+}  // namespace
+
+std::unique_ptr<foundation::NetworkThread> makeNetworkThread() {
+  return std::make_unique<QtNetworkThread>();
 }
 
 }  // namespace quorix::qt
