@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -7,6 +8,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/text/AttributedText.h"
 
@@ -108,6 +110,57 @@ class PriceGlyphs {
 
   int prices_ = 0;
   std::array<Known, count> known_;
+};
+
+/// The faces that prices were set in lately, with the glyphs of those that were learned. `Shaped`
+/// is what an engine makes of a text.
+template <class Shaped>
+class PriceFaces {
+ public:
+  struct Face {
+    std::string name;
+    swiftui::FontWeight weight;
+    PriceGlyphs glyphs{};
+    std::optional<Shaped> sample{};  ///< absent: not learned
+  };
+
+  /// The face of `price`. Null if that is no price, or if the face was not learned. `shape(sample,
+  /// name, weight, glyphs)` shapes a text to learn from and appends its glyphs; absent if the face
+  /// cannot be learned.
+  template <class Shape>
+  const Face* find(const AttributedText& price, Shape shape) {
+    if (!PriceGlyphs::mayBePrice(price)) return nullptr;
+    Face& face = of(price.runs[0].font);
+    if (face.glyphs.isTimeToLearn()) learn(face, shape);
+    return face.sample ? &face : nullptr;
+  }
+
+  void clear() { faces_.clear(); }
+
+ private:
+  static constexpr std::size_t mostFaces = 8;
+
+  Face& of(const ResolvedFont& font) {
+    const auto known = std::ranges::find_if(faces_, [&](const Face& face) {
+      return face.name == font.name && face.weight == font.weight;
+    });
+    if (known != faces_.end()) return *known;
+    if (faces_.size() == mostFaces) faces_.erase(faces_.begin());
+    faces_.push_back({font.name, font.weight});
+    return faces_.back();
+  }
+
+  template <class Shape>
+  static void learn(Face& face, Shape shape) {
+    for (const std::u16string& sample : PriceGlyphs::samples()) {
+      std::vector<PriceGlyphs::Glyph> glyphs;
+      face.sample = shape(sample, face.name, face.weight, glyphs);
+      if (!face.sample) return;
+      if (!face.glyphs.learn(sample, glyphs)) return face.sample.reset();
+    }
+  }
+
+  std::vector<Face> faces_;
 };
 
 }  // namespace quorix::text

@@ -50,25 +50,10 @@ double overhang(const QTextLine& line, const QString& text) {
   return reach;
 }
 
-/// Joins `added` to a span of its run that it touches, so that a decoration is one stroke.
-void addSpan(std::vector<ShapedText::Span>& spans, const ShapedText::Span& added) {
-  constexpr double touching = 1.0 / 16;
-  for (ShapedText::Span& span : spans) {
-    const bool apart = added.left > span.right + touching || added.right < span.left - touching;
-    if (span.run != added.run || apart) continue;
-    span.left = std::min(span.left, added.left);
-    span.right = std::max(span.right, added.right);
-    return;
-  }
-  spans.push_back(added);
-}
-
 }  // namespace
 
-void keepFirstNumberWhole(QString& text) {
-  const bool splits =
-      text.size() > 2 && text[0].isDigit() && text[1].isPunct() && text[2].isDigit();
-  if (splits) text.insert(2, wordJoiner);
+bool splitsFirstNumber(const QString& text) {
+  return text.size() > 2 && text[0].isDigit() && text[1].isPunct() && text[2].isDigit();
 }
 
 double measuredWidth(double natural, double needed, double offered) {
@@ -81,7 +66,7 @@ Paragraph::Paragraph(const text::AttributedText& text, QtFonts& fonts) {
   QString characters;
   for (const text::Run& run : text.runs) {
     QString part = lineSeparated(run.text);
-    if (characters.isEmpty()) keepFirstNumberWhole(part);
+    if (characters.isEmpty() && splitsFirstNumber(part)) part.insert(2, wordJoiner);
     runs_.push_back({static_cast<int>(characters.size()), static_cast<int>(part.size())});
     characters += part;
   }
@@ -183,8 +168,7 @@ ShapedText::Line Paragraph::collect(const QTextLine& line) const {
     const QList<QGlyphRun> glyphs = line.glyphRuns(from, to - from);
     for (const QGlyphRun& piece : glyphs) {
       const QRectF bounds = piece.boundingRect();
-      collected.pieces.push_back({piece, run});
-      addSpan(collected.spans, {run, bounds.left() * unit_, bounds.right() * unit_});
+      collected.add(piece, run, bounds.left() * unit_, bounds.right() * unit_);
     }
   }
   return collected;

@@ -184,7 +184,7 @@ QFont weighted(const QFont& named, int weight) {
 }
 
 /// The strikethrough that the font's designer drew, or the middle of its small letters.
-ShapingFont::Stroke strikethrough(const QRawFont& font) {
+text::Stroke strikethrough(const QRawFont& font) {
   constexpr qsizetype sizeAt = 26, positionAt = 28;
   const QByteArray os2 = font.fontTable("OS/2");
   if (os2.size() >= positionAt + 2) {
@@ -196,7 +196,7 @@ ShapingFont::Stroke strikethrough(const QRawFont& font) {
   return {-font.xHeight() / 2 / em, font.lineThickness() / em};
 }
 
-ShapingFont::Stroke underline(const QRawFont& font) {
+text::Stroke underline(const QRawFont& font) {
   const double em = font.pixelSize();
   return {font.underlinePosition() / em, font.lineThickness() / em};
 }
@@ -251,8 +251,7 @@ ShapingFont QtFonts::make(const Key& key) {
   font.setHintingPreference(QFont::PreferNoHinting);
   font.setStyleStrategy(QFont::NoSubpixelAntialias);
   const QRawFont raw = QRawFont::fromFont(font);
-  return {font,           raw.ascent(),       raw.descent(),
-          underline(raw), strikethrough(raw), raw.supportsCharacter(wordJoiner)};
+  return {font, underline(raw), strikethrough(raw), raw.supportsCharacter(wordJoiner)};
 }
 
 }  // namespace quorix::qt

@@ -15,6 +15,7 @@
 #include "platform/foundation/Export.h"
 #include "platform/graphics/FontManager.h"
 #include "platform/text/AttributedText.h"
+#include "platform/text/ShapedText.h"
 
 namespace quorix::qt {
 
@@ -64,17 +65,9 @@ struct ShapingFont {
   /// Points for each of these pixels in a text of `points`. Never 0: lengths are divided by it.
   static double unit(double points) { return std::max(points, 1.0 / 64) / pixels; }
 
-  /// A decoration's center above (negative) or below the baseline, and its thickness. Ems.
-  struct Stroke {
-    double offset = 0;
-    double thickness = 0;
-  };
-
   QFont font;
-  double ascent = 0;   ///< of the face itself, without fallbacks; pixels
-  double descent = 0;  ///< likewise
-  Stroke underline;
-  Stroke strikethrough;
+  text::Stroke underline;
+  text::Stroke strikethrough;
   bool hasWordJoiner = true;  ///< itself; a fallback face's may be higher
 };
 

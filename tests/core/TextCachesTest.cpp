@@ -1,9 +1,11 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/render/KnownGround.h"
 #include "platform/render/TextPictures.h"
 #include "platform/text/LineCache.h"
 #include "platform/text/PriceGlyphs.h"
+#include "platform/text/ShapedText.h"
 #include "platform/text/TextEngine.h"
 #include "tests/core/Vectors.h"
 
@@ -146,6 +148,118 @@ TEST(TextPictures, KeepTheLatestOnly) {
     EXPECT_EQ(pictures.made, 600);
     EXPECT_EQ(pictures.at(words(700 - kept - 1)), "");
   }
+}
+
+/// An image of 8 by 4 pixels.
+struct Image {
+  std::vector<std::uint32_t> memory = std::vector<std::uint32_t>(32);
+  render::Pixels pixels() { return {memory.data(), 8, 8, 4}; }
+};
+
+/// A text at 1, 1 and 3 by 2 pixels large, whose two dots of ink stand right of it.
+TEST(KnownGround, TakesATextFromItsPictureWhereThatLooksTheSame) {
+  using render::KnownGround;
+  constexpr graphics::RGBA light{0, 0, 250, 255}, glass{0, 0, 250, 128};
+  constexpr std::uint32_t ground = 0xFF0000FA, dot = 0xFF112233;
+  const layout::Rect all{{}, {8, 4}}, frame{{1, 1}, {3, 2}}, left{{}, {3, 4}};
+  const auto fill = [](KnownGround& under, const layout::Rect& part, graphics::RGBA color) {
+    under.filled(part, color);
+    under.fill(part, color);
+  };
+  const struct {
+    const char* name;
+    std::function<void(KnownGround&)> before;
+    std::string how;
+    std::uint32_t ink[2] = {dot, dot}, beside = 0;  ///< what the image shows then
+    double x = 1;
+  } rows[] = {
+      {"on nothing", [](auto&) {}, "copied"},
+      {"on a fill", [&](auto& under) { fill(under, all, light); }, "copied", {dot, dot}, ground},
+      {"on glass", [&](auto& under) { fill(under, all, glass); }, "", {}},
+      {"partly on a fill", [&](auto& under) { fill(under, left, light); }, "", {}},
+      {"its ink beside the fill", [&](auto& under) { fill(under, frame, light); }, "", {}},
+      {"over a picture",
+       [&](auto& under) {
+         under.painted({{2, 2}, {9, 1}});
+       },
+       "",
+       {}},
+      {"above a picture",
+       [&](auto& under) {
+         under.painted({{1, 3}, {9, 1}});
+       },
+       "copied"},
+      {"over ink",
+       [&](auto& under) {
+         under.inkedAround({{5, 1}, {1, 1}});
+       },
+       "blended",
+       {}},
+      {"far from ink",
+       [&](auto& under) {
+         under.inkedAround({{1, 1}, {2, 1}});
+       },
+       "copied"},
+      {"over ink on a fill",
+       [&](auto& under) {
+         fill(under, all, light);
+         under.inkedAround({{5, 1}, {1, 1}});
+       },
+       "",
+       {ground, ground},
+       ground},
+      {"clipped",
+       [](auto& under) {
+         under.clip({{}, {5, 4}});
+       },
+       "copied",
+       {dot, 0}},
+      {"partly outside", [](auto&) {}, "copied", {0, 0}, 0, -4},
+      {"between pixels", [](auto&) {}, "", {}, 0, 1.25},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.name);
+    render::TextPictures<render::InkPicture> pictures;
+    Image image;
+    std::string how;
+    const auto paint = [&](graphics::RGBA on) {
+      Image bare;
+      KnownGround(bare.pixels()).fill(all, on);
+      bare.memory[8 + 5] = bare.memory[8 + 6] = dot;  // the text is at 2, 0
+      return render::InkPicture::cropped(bare.pixels(), {2, 0}, on);
+    };
+    const auto blend = [&](const auto&, layout::Point) { how = "blended"; };
+    for (int time = 0; time < 2; ++time) {  // the second time makes the picture
+      image = {};
+      KnownGround under(image.pixels());
+      row.before(under);
+      const render::TextItem item{{{row.x, 1}, frame.size}, textOf("fee")};
+      if (under.paint(item, 1, pictures, paint, blend) && how.empty()) how = "copied";
+      EXPECT_TRUE(time == 1 || how.empty());
+    }
+    EXPECT_EQ(how, row.how);
+    EXPECT_EQ(image.memory[16 + 4], row.ink[0]);
+    EXPECT_EQ(image.memory[16 + 5], row.ink[1]);
+    EXPECT_EQ(image.memory[16 + 6], row.beside);
+  }
+}
+
+TEST(Stroke, IsWholePixelsHighAndAtLeastOne) {
+  const text::Stroke stroke{0.125, 0.0625};
+  EXPECT_EQ(stroke.rect(2.4, 20.6, 40, 8), (layout::Rect{{2, 41}, {19, 1}}));  // 0.5 px at 41
+  EXPECT_EQ(stroke.rect(2.4, 20.6, 40, 32), (layout::Rect{{2, 43}, {19, 2}}));
+}
+
+TEST(ShapedText, JoinsTheGlyphsOfARunThatTouch) {
+  text::ShapedText<char>::Line line;
+  line.add('a', 0, 10, 20);
+  line.add('b', 1, 20, 30);
+  line.add('c', 0, 20.05, 25);
+  line.add('d', 0, 26, 30);
+  line.add('e', 0, 0, 10);
+  std::vector<std::tuple<std::size_t, double, double>> spans;
+  for (const auto& span : line.spans) spans.emplace_back(span.run, span.left, span.right);
+  EXPECT_EQ(spans, (decltype(spans){{0, 0, 25}, {1, 20, 30}, {0, 26, 30}}));
 }
 
 /// A face as its shaper sees it: a glyph and its advance by its neighbors, 0 at a text's ends.

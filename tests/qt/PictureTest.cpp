@@ -30,8 +30,11 @@ render::Scene sceneWith(const text::AttributedText& text, double width, layout::
 /// Paints `scene` without the cache of text pictures.
 QImage drawnAnew(const render::Scene& scene, double scale) {
   QImage image = paintPicture({scene.size, scene.appearance, {}, {}, {}}, scale, {0, 0, 0, 0});
+  image.setDevicePixelRatio(1);
   QPainter painter(&image);
-  ScenePainter(painter).paint(scene);
+  ScenePainter(painter, scale).paint(scene);
+  painter.end();
+  image.setDevicePixelRatio(scale);
   return image;
 }
 
