@@ -25,6 +25,14 @@ struct Stroke {
   }
 };
 
+/// The width to report for a text: `needed`, rounded up so that the text breaks the same way when
+/// it is offered that width. `needed` is an upper bound, so a text whose `natural` width fits
+/// reports no more than `offered`. Points.
+inline double measuredWidth(double natural, double needed, double offered) {
+  const double width = std::ceil(needed * 64) / 64;
+  return natural <= offered ? std::min(width, offered) : width;
+}
+
 /// A text broken into lines, ready to draw with an engine's own `Glyphs`. It holds no color: texts
 /// that differ only in color or decoration share it.
 template <class Glyphs>

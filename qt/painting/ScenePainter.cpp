@@ -1,30 +1,74 @@
 #include "qt/painting/ScenePainter.h"
 
 #include <QPainterPath>
+#include <QSvgRenderer>
 #include <algorithm>
 #include <cmath>
+#include <string>
 #include <variant>
 
+#include "platform/foundation/Bundle.h"
+#include "platform/foundation/Cache.h"
+#include "platform/graphics/AssetCatalog.h"
+#include "qt/ApplicationLifetime.h"
 #include "qt/Conversions.h"
-#include "qt/painting/QtImages.h"
 
 namespace quorix::qt {
 namespace {
 
+/// What a picture of an image depends on.
+struct ImageRequest {
+  foundation::Bundle::Ref bundle;
+  std::string name;
+  QSize pixels;
+  graphics::Appearance appearance;
+  graphics::RGBA tint;  ///< of template images; others keep their colors
+  bool operator==(const ImageRequest&) const = default;
+};
+
+/// The image of an asset catalog, stretched to the size. Null when the catalog has no such image or
+/// the size is empty.
+QImage drawn(const ImageRequest& request) {
+  const auto asset = graphics::imageSet(request.bundle, request.name);
+  if (!asset || request.pixels.isEmpty()) return {};
+  const std::string_view svg = asset->svg(request.appearance);
+  QSvgRenderer renderer(QByteArray(svg.data(), static_cast<qsizetype>(svg.size())));
+  QImage picture(request.pixels, QImage::Format_ARGB32_Premultiplied);
+  if (!renderer.isValid() || picture.isNull()) return {};
+  picture.fill(Qt::transparent);
+  QPainter painter(&picture);
+  renderer.render(&painter, QRectF(picture.rect()));
+  if (asset->isTemplate) {
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(picture.rect(), toQColor(request.tint));
+  }
+  return picture;
+}
+
+struct KeptImages : foundation::Cache<ImageRequest, QImage> {
+  KeptImages() : Cache(32) {}
+};
+
+QImage imagePicture(const ImageRequest& request) {
+  constexpr int mostPixels = 360 * 360;
+  const auto draw = [&] { return drawn(request); };
+  const bool small = qint64{request.pixels.width()} * request.pixels.height() <= mostPixels;
+  return small ? applicationLifetime<KeptImages>().get(request, draw) : draw();
+}
+
+/// `rect` with round corners.
 QPainterPath rounded(const QRectF& rect, double topRadius, double bottomRadius) {
   const double top = std::min({topRadius, rect.width() / 2, rect.height()});
   const double bottom = std::min({bottomRadius, rect.width() / 2, rect.height() - top});
-  const auto corner = [](QPointF middle, double radius) {
-    return QRectF(middle - QPointF(radius, radius), QSizeF(2 * radius, 2 * radius));
-  };
   QPainterPath path(QPointF(rect.left(), rect.top() + top));
-  path.arcTo(corner(rect.topLeft() + QPointF(top, top), top), 180, -90);
-  path.lineTo(rect.right() - top, rect.top());
-  path.arcTo(corner(rect.topRight() + QPointF(-top, top), top), 90, -90);
-  path.lineTo(rect.right(), rect.bottom() - bottom);
-  path.arcTo(corner(rect.bottomRight() - QPointF(bottom, bottom), bottom), 0, -90);
-  path.lineTo(rect.left() + bottom, rect.bottom());
-  path.arcTo(corner(rect.bottomLeft() + QPointF(bottom, -bottom), bottom), 270, -90);
+  const auto corner = [&path](double x, double y, double radius, double angle) {
+    if (radius <= 0) return path.lineTo(x, y);
+    path.arcTo(x, y, 2 * radius, 2 * radius, angle, -90);
+  };
+  corner(rect.left(), rect.top(), top, 180);
+  corner(rect.right() - 2 * top, rect.top(), top, 90);
+  corner(rect.right() - 2 * bottom, rect.bottom() - 2 * bottom, bottom, 0);
+  corner(rect.left(), rect.bottom() - 2 * bottom, bottom, 270);
   path.closeSubpath();
   return path;
 }
@@ -133,8 +177,8 @@ void ScenePainter::drawText(const render::TextItem& item) {
 
 void ScenePainter::draw(const render::ImageItem& item) {
   const QRectF device = deviceRect(item.frame);
-  const QImage picture = QtImages::shared().picture(
-      {item.bundle, item.name, device.size().toSize(), appearance_, item.tint});
+  const QImage picture =
+      imagePicture({item.bundle, item.name, device.size().toSize(), appearance_, item.tint});
   if (!picture.isNull()) painter().drawImage(device.topLeft(), picture);
   if (ground_) ground_->painted(toRect(device));
 }

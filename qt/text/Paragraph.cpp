@@ -56,11 +56,6 @@ bool splitsFirstNumber(const QString& text) {
   return text.size() > 2 && text[0].isDigit() && text[1].isPunct() && text[2].isDigit();
 }
 
-double measuredWidth(double natural, double needed, double offered) {
-  const double width = std::ceil(needed * 64) / 64;
-  return natural <= offered ? std::min(width, offered) : width;
-}
-
 /// The first run's size sets the scale, at which Qt rounds other sizes to whole pixels.
 Paragraph::Paragraph(const text::AttributedText& text, QtFonts& fonts) {
   QString characters;
@@ -101,60 +96,56 @@ double Paragraph::widthNeeded(const QTextLine& line) const {
   return std::max(natural, line.horizontalAdvance() + overhang(line, layout_.text()));
 }
 
+/// Calls `use` with each line, broken to `width` points.
+template <class Use>
+void Paragraph::eachLine(double width, Use use) {
+  layout_.beginLayout();
+  for (QTextLine line = layout_.createLine(); line.isValid(); line = layout_.createLine()) {
+    line.setLineWidth(width / unit_);
+    use(line);
+  }
+  layout_.endLayout();
+}
+
 ShapedText Paragraph::breakLines(double width) {
   ShapedText shaped;
   shaped.unit = unit_;
   double top = 0;
   double natural = 0;
   double needed = 0;
-  layout_.beginLayout();
-  for (QTextLine line = layout_.createLine(); line.isValid(); line = layout_.createLine()) {
-    line.setLineWidth(std::max(width, 0.0) / unit_);
+  eachLine(std::max(width, 0.0), [&](QTextLine& line) {
     line.setPosition({0, -line.ascent()});
     const double baseline = top + line.ascent() * unit_;
     natural = std::max(natural, line.naturalTextWidth() * unit_);
     needed = std::max(needed, widthNeeded(line) * unit_);
     top += (line.ascent() + line.descent() + std::max(line.leading(), 0.0)) * unit_;
-    if (width <= 0) continue;  // only measured: a line for each letter
+    if (width <= 0) return;  // only measured: a line for each letter
     shaped.lines.push_back(collect(line));
     shaped.lines.back().baseline = baseline;
-  }
-  layout_.endLayout();
-  shaped.metrics.size = {measuredWidth(natural, needed, width), top};
+  });
+  shaped.metrics.size = {text::measuredWidth(natural, needed, width), top};
   return shaped;
 }
 
-/// The width of the longest word in scripts without blanks, in points; 0 without such words.
-double Paragraph::longestUnspacedWord() {
-  const QString& text = layout_.text();
-  const auto words = text::unspacedWords(utf16(text));
-  if (words.empty()) return 0;
-  layout_.beginLayout();
-  QTextLine line = layout_.createLine();
-  line.setLineWidth(layout::infinity);
-  double longest = 0;
-  for (const text::WordRange& word : words) {
-    const double width = line.cursorToX(word.start + word.length) - line.cursorToX(word.start);
-    longest = std::max(longest, std::abs(width) * unit_);
-  }
-  layout_.endLayout();
-  return longest;
-}
-
 double Paragraph::leastWidth() {
+  double least = 0;
+  const auto words = text::unspacedWords(utf16(layout_.text()));
+  if (!words.empty()) {
+    eachLine(layout::infinity, [&](const QTextLine& line) {
+      for (const text::WordRange& word : words) {
+        const double end = line.cursorToX(word.start + word.length);
+        least = std::max(least, std::abs(end - line.cursorToX(word.start)) * unit_);
+      }
+    });
+  }
   QTextOption wordByWord = layout_.textOption();
   wordByWord.setWrapMode(QTextOption::WordWrap);
   layout_.setTextOption(wordByWord);
-  double least = 0;
-  layout_.beginLayout();
-  for (QTextLine line = layout_.createLine(); line.isValid(); line = layout_.createLine()) {
-    line.setLineWidth(0);
+  eachLine(0, [&](const QTextLine& line) {
     const double needed = line.horizontalAdvance() + overhang(line, layout_.text());
     least = std::max({least, line.naturalTextWidth() * unit_, needed * unit_});
-  }
-  layout_.endLayout();
-  least = std::max(least, longestUnspacedWord());
-  return measuredWidth(least, least, 0);
+  });
+  return text::measuredWidth(least, least, 0);
 }
 
 ShapedText::Line Paragraph::collect(const QTextLine& line) const {

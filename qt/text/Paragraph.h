@@ -17,11 +17,6 @@ using ShapedText = text::ShapedText<QGlyphRun>;
 /// Whether `text` begins like "1.234". Qt would end a line after the "1.".
 bool splitsFirstNumber(const QString& text);
 
-/// The width to report for a text: `needed`, rounded up so that the text breaks the same way when
-/// it is offered that width. `needed` is an upper bound, so a text whose `natural` width fits
-/// reports no more than `offered`. Points.
-double measuredWidth(double natural, double needed, double offered);
-
 /// A text that Qt shapes and breaks into lines.
 class Paragraph {
  public:
@@ -39,7 +34,8 @@ class Paragraph {
     int length = 0;
   };
 
-  double longestUnspacedWord();
+  template <class Use>
+  void eachLine(double width, Use use);
   double widthNeeded(const QTextLine& line) const;
   ShapedText::Line collect(const QTextLine& line) const;
 

@@ -93,25 +93,15 @@ class QtFonts {
   static bool systemKnows(std::string_view name);
 
   /// The face of `font` in `pixels`.
-  ShapingFont find(const text::ResolvedFont& font, int pixels = ShapingFont::pixels);
+  ShapingFont find(text::ResolvedFont font, int pixels = ShapingFont::pixels);
 
   /// Whether faces were added or removed since the last call. Forgets the fonts found before, if
   /// so.
   bool refresh();
 
  private:
-  struct Key {
-    unsigned changes;  ///< when it was found: after another change of faces it does not match
-    std::string name;
-    swiftui::FontWeight weight;
-    int pixels;
-    bool operator==(const Key&) const = default;
-  };
-
-  ShapingFont make(const Key& key);
-
-  foundation::Cache<Key, ShapingFont> fonts_{128};  // bounded, since names come from hosts
-  unsigned changes_ = 0;
+  /// By name, weight and pixels. Bounded, since names come from hosts.
+  foundation::Cache<text::ResolvedFont, ShapingFont> fonts_{128};
   std::size_t generation_ = 0;
   bool databaseChanged_ = false;
   QMetaObject::Connection connection_;

@@ -94,7 +94,7 @@ std::optional<ShapedText> QtTextEngine::setPrice(const text::AttributedText& tex
   ShapedText shaped;
   shaped.unit = ShapingFont::unit(run.font.points);
   const double width = *advance * shaped.unit;
-  shaped.metrics.size = {measuredWidth(width, width, layout::infinity),
+  shaped.metrics.size = {text::measuredWidth(width, width, layout::infinity),
                          face->sample->metrics.size.height * shaped.unit};
   shaped.lines.push_back({like.baseline * shaped.unit, width, {}, {}});
   shaped.lines[0].add(std::move(glyphs), 0, 0, width);
