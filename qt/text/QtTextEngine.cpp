@@ -3,31 +3,49 @@
 #include <QRawFont>
 #include <algorithm>
 #include <cmath>
-#include <string>
+#include <iterator>
 #include <utility>
 #include <vector>
 
 #include "qt/ApplicationLifetime.h"
-#include "qt/Conversions.h"
 
 namespace quorix::qt {
 namespace {
 
-/// Appends the glyphs of a line in one face. False if there are others, or ink beyond its end: Qt
-/// includes that in the line's width.
-bool append(const ShapedText::Line& line, std::vector<text::PriceGlyphs::Glyph>& glyphs) {
-  if (line.pieces.size() != 1) return false;
+using PriceGlyph = text::PriceGlyphs::Glyph;
+
+/// The glyphs of a line. None if they are of several faces, or if there is ink beyond the line's
+/// end: Qt includes that in the line's width.
+std::vector<PriceGlyph> glyphsOf(const ShapedText::Line& line) {
+  if (line.pieces.size() != 1) return {};
   const QGlyphRun& run = line.pieces[0].glyphs;
   const QRawFont font = run.rawFont();
   const QList<quint32> indexes = run.glyphIndexes();
   const QList<QPointF> positions = run.positions();
   const QList<QPointF> advances = font.advancesForGlyphIndexes(indexes, QRawFont::UseDesignMetrics);
+  std::vector<PriceGlyph> glyphs;
   for (qsizetype i = 0; i < indexes.size(); ++i) {
     const double advance = advances[i].x();
-    if (font.boundingRect(indexes[i]).right() > std::floor(advance)) return false;
+    if (font.boundingRect(indexes[i]).right() > std::floor(advance)) return {};
     glyphs.push_back({indexes[i], positions[i].x(), advance});
   }
-  return true;
+  return glyphs;
+}
+
+QGlyphRun glyphRun(const QGlyphRun& like, const std::vector<PriceGlyph>& glyphs) {
+  QList<quint32> indexes;
+  QList<QPointF> positions;
+  indexes.reserve(std::ssize(glyphs));
+  positions.reserve(std::ssize(glyphs));
+  for (const PriceGlyph& glyph : glyphs) {
+    indexes.append(glyph.index);
+    positions.append({glyph.x, 0});
+  }
+  QGlyphRun run;
+  run.setRawFont(like.rawFont());
+  run.setGlyphIndexes(indexes);
+  run.setPositions(positions);
+  return run;
 }
 
 }  // namespace
@@ -48,9 +66,15 @@ double QtTextEngine::leastWidth(const text::AttributedText& text) {
 const ShapedText& QtTextEngine::shape(const text::AttributedText& text, double width) {
   if (fonts_.refresh()) clear();
   const auto breakLines = [this](const text::AttributedText& unknown, double points) {
-    if (points == layout::infinity) {
-      if (auto price = setPrice(unknown)) return *std::move(price);
-    }
+    const auto learn = [this](const text::AttributedText& sample, std::vector<PriceGlyph>& glyphs) {
+      ShapedText shaped = Paragraph(sample, fonts_).breakLines(layout::infinity);
+      glyphs = glyphsOf(shaped.lines[0]);
+      return shaped;
+    };
+    const bool isPrice = points == layout::infinity && text::PriceGlyphs::mayBePrice(unknown) &&
+                         !splitsFirstNumber(QString::fromStdString(unknown.runs[0].text));
+    auto price = isPrice ? prices_.set(unknown, learn, glyphRun) : std::nullopt;
+    if (price) return *std::move(price);
     ++breaks_;
     return Paragraph(unknown, fonts_).breakLines(points);
   };
@@ -60,45 +84,6 @@ const ShapedText& QtTextEngine::shape(const text::AttributedText& text, double w
 TextPictures& QtTextEngine::pictures() {
   if (fonts_.refresh()) clear();
   return pictures_;
-}
-
-/// What `Paragraph` makes of a price at infinite width. Absent for other texts, and while the face
-/// was not learned.
-std::optional<ShapedText> QtTextEngine::setPrice(const text::AttributedText& text) {
-  const auto shape = [&](const std::u16string& sample, const std::string& name,
-                         swiftui::FontWeight weight, auto& glyphs) -> std::optional<ShapedText> {
-    const std::string words = QString::fromStdU16String(sample).toStdString();
-    ShapedText shaped = Paragraph({{{words, {name, ShapingFont::pixels, weight}, {}}}}, fonts_)
-                            .breakLines(layout::infinity);
-    return append(shaped.lines[0], glyphs) ? std::optional(std::move(shaped)) : std::nullopt;
-  };
-  const auto* face = prices_.find(text, shape);
-  if (!face) return std::nullopt;
-  const text::Run& run = text.runs[0];
-  const QString price = QString::fromStdString(run.text);
-  if (splitsFirstNumber(price)) return std::nullopt;
-  QList<quint32> indexes;
-  QList<QPointF> positions;
-  indexes.reserve(price.size());
-  positions.reserve(price.size());
-  const auto advance = face->glyphs.set(utf16(price), [&](quint32 index, double x) {
-    indexes.append(index);
-    positions.append({x, 0});
-  });
-  if (!advance) return std::nullopt;
-  const ShapedText::Line& like = face->sample->lines[0];
-  QGlyphRun glyphs;
-  glyphs.setRawFont(like.pieces[0].glyphs.rawFont());
-  glyphs.setGlyphIndexes(indexes);
-  glyphs.setPositions(positions);
-  ShapedText shaped;
-  shaped.unit = ShapingFont::unit(run.font.points);
-  const double width = *advance * shaped.unit;
-  shaped.metrics.size = {text::measuredWidth(width, width, layout::infinity),
-                         face->sample->metrics.size.height * shaped.unit};
-  shaped.lines.push_back({like.baseline * shaped.unit, width, {}, {}});
-  shaped.lines[0].add(std::move(glyphs), 0, 0, width);
-  return shaped;
 }
 
 void QtTextEngine::clear() {

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <optional>
-
 #include "platform/foundation/Export.h"
 #include "platform/render/KnownGround.h"
 #include "platform/text/LineCache.h"
@@ -38,13 +36,12 @@ class QtTextEngine final : public text::TextEngine {
   int breaks() const { return breaks_; }
 
  private:
-  std::optional<ShapedText> setPrice(const text::AttributedText& text);
   void clear();
 
   QtFonts& fonts_ = QtFonts::shared();
   text::LineCache<ShapedText> lines_;
   TextPictures pictures_;
-  text::PriceFaces<ShapedText> prices_;
+  text::PriceFaces<QGlyphRun> prices_{ShapingFont::pixels};
   int breaks_ = 0;
 };
 
