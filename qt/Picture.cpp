@@ -31,9 +31,9 @@ QImage paintPicture(const render::Scene& scene, double scale, graphics::RGBA bac
   QImage image(static_cast<int>(width), static_cast<int>(height),
                QImage::Format_ARGB32_Premultiplied);
   if (image.isNull()) return {};
-  image.setDevicePixelRatio(scale);
   image.fill(Qt::transparent);
-  ScenePainter(image).paint(scene);
+  ScenePainter(image, scale).paint(scene);
+  image.setDevicePixelRatio(scale);
   if (background.alpha == 0) return image;
   // Paints the background last, under the rest: on an opaque image Qt blends the letters of some
   // faces otherwise, and four times as slowly. On a surface, which is transparent, it does not, and
@@ -46,17 +46,24 @@ QImage paintPicture(const render::Scene& scene, double scale, graphics::RGBA bac
 
 void paintAsPicture(QPainter& painter, const render::Scene& scene) {
   const QTransform toDevice = painter.deviceTransform();
-  const double scale = toDevice.m11();
-  const bool upright = toDevice.type() <= QTransform::TxScale && toDevice.m22() == scale;
+  const double scale = std::sqrt(std::abs(toDevice.determinant()));
+  if (scale <= 0) return;
+  const bool upright =
+      toDevice.type() <= QTransform::TxScale && toDevice.m11() == scale && toDevice.m22() == scale;
   // Only a little of a larger picture would be in sight.
   const bool small = std::max(scene.size.width, scene.size.height) * scale <= render::mostPixels;
   QImage image = upright && small ? paintPicture(scene, scale, {0, 0, 0, 0}) : QImage();
-  if (image.isNull()) return ScenePainter(painter).paint(scene);
   image.setDevicePixelRatio(1);
-  const QTransform before = painter.transform();
-  painter.setTransform(toDevice.inverted() * before);
-  painter.drawImage(toDevice.map(QPointF()).toPoint(), image);
-  painter.setTransform(before);
+  painter.save();
+  painter.scale(1 / scale, 1 / scale);
+  const QPointF corner = painter.deviceTransform().map(QPointF());
+  if (upright) painter.translate(corner.toPoint() - corner);
+  if (image.isNull()) {
+    ScenePainter(painter, scale).paint(scene);
+  } else {
+    painter.drawImage(QPointF(), image);
+  }
+  painter.restore();
 }
 
 QImage paintPicture(const render::Scene& scene, const PictureOptions& options) {

@@ -39,6 +39,11 @@ class Cache {
     return entries_.front().second;
   }
 
+  void clear() {
+    const std::scoped_lock lock(mutex_);
+    entries_.clear();
+  }
+
  private:
   const std::size_t most_;
   std::mutex mutex_;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -7,8 +8,10 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/text/AttributedText.h"
+#include "platform/text/ShapedText.h"
 
 namespace quorix::text {
 
@@ -38,45 +41,47 @@ class PriceGlyphs {
   bool isTimeToLearn() { return prices_ < pricesToLearn && ++prices_ == pricesToLearn; }
 
   /// Two texts to learn from. Each has every pair of characters; a pair's neighbors differ.
-  static std::array<std::u16string, 2> samples() {
-    return {pairs(characters), pairs(std::u16string(characters.rbegin(), characters.rend()))};
+  static std::array<std::string, 2> samples() {
+    auto backwards = characters;
+    std::ranges::reverse(backwards);
+    return {pairs(characters), pairs(backwards)};
   }
 
   /// Learns from the glyphs of a sample. False if they contradict those before, or are not one for
   /// each character: prices of such a face cannot be set.
-  bool learn(std::u16string_view sample, std::span<const Glyph> shaped) {
-    if (shaped.size() != sample.size()) return false;
-    for (std::size_t i = 0; i < sample.size(); ++i) {
-      Known& known = known_[indexOf(sample[i])];
+  bool learn(std::string_view sample, std::span<const Glyph> shaped) {
+    std::size_t at = take(sample);
+    for (std::size_t i = 0; i < shaped.size() && at < count; ++i) {
+      Known& known = known_[at];
       known.advances[count] = shaped[i].advance;
       if (!agree(known.index, shaped[i].index)) return false;
-      if (i + 1 == sample.size()) continue;
-      auto& advance = known.advances[indexOf(sample[i + 1])];
-      if (!agree(advance, shaped[i + 1].x - shaped[i].x)) return false;
+      at = take(sample);
+      if (at == count) return i + 1 == shaped.size();
+      if (i + 1 == shaped.size()) return false;
+      if (!agree(known.advances[at], shaped[i + 1].x - shaped[i].x)) return false;
     }
-    return true;
+    return false;
   }
 
-  /// Calls `place(index, x)` for each glyph of `price` in order and returns the advance of all.
-  /// Absent if it has other characters. `price` is not empty, and both samples were learned.
-  template <class Place>
-  std::optional<double> set(std::u16string_view price, Place place) const {
+  /// Appends the glyphs of `price` in order and returns the advance of all. Absent if it has other
+  /// characters. `price` is not empty, and both samples were learned.
+  std::optional<double> set(std::string_view price, std::vector<Glyph>& glyphs) const {
     double advance = 0;
-    for (std::size_t i = 0, at = indexOf(price[0]); i < price.size(); ++i) {
-      const std::size_t next = i + 1 < price.size() ? indexOf(price[i + 1]) : count;
+    for (std::size_t at = take(price), next = 0; at != count; at = next) {
+      next = take(price);
       if (at == none || next == none) return std::nullopt;
-      place(*known_[at].index, advance);
+      glyphs.push_back({*known_[at].index, advance});
       advance += *known_[at].advances[next];
-      at = next;
     }
     return advance;
   }
 
  private:
   static constexpr int pricesToLearn = 16;
-  static constexpr std::u16string_view characters = u"0123456789.,\u00A0€$£";
+  static constexpr std::array<std::string_view, 16> characters = {
+      "0", "1", "2", "3", "4", "5", "6", "7", "8", "9", ".", ",", "\u00A0", "€", "$", "£"};
   static constexpr std::size_t count = characters.size();
-  static constexpr std::size_t none = std::u16string_view::npos;
+  static constexpr std::size_t none = count + 1;
 
   struct Known {
     std::optional<std::uint32_t> index;
@@ -84,19 +89,24 @@ class PriceGlyphs {
     std::array<std::optional<double>, count + 1> advances;
   };
 
-  static std::size_t indexOf(char16_t character) {
-    const bool isDigit = character >= u'0' && character <= u'9';
-    return isDigit ? character - std::size_t{u'0'} : characters.find(character, 10);
+  /// Removes the first character of `text`. Its index; `count` at the end, `none` for others.
+  static std::size_t take(std::string_view& text) {
+    if (text.empty()) return count;
+    const auto found = std::ranges::find_if(
+        characters, [&](std::string_view character) { return text.starts_with(character); });
+    if (found == characters.end()) return none;
+    text.remove_prefix(found->size());
+    return static_cast<std::size_t>(found - characters.begin());
   }
 
   /// Each of `order` before and after each of them.
-  static std::u16string pairs(std::u16string_view order) {
-    std::u16string all;
+  static std::string pairs(std::span<const std::string_view> order) {
+    std::string all;
     for (std::size_t one = 0; one < order.size(); ++one) {
       all += order[one];
-      for (const char16_t other : order.substr(one + 1)) all += {order[one], other};
+      for (const std::string_view other : order.subspan(one + 1)) (all += order[one]) += other;
     }
-    return all + order[0];
+    return all += order[0];
   }
 
   /// Keeps the first `value`; whether this one is the same.
@@ -108,6 +118,72 @@ class PriceGlyphs {
 
   int prices_ = 0;
   std::array<Known, count> known_;
+};
+
+/// The faces that prices were set in lately, with the glyphs of those that were learned.
+template <class Glyphs>
+class PriceFaces {
+ public:
+  /// `em` is the font size, in points, at which an engine's unit is a point.
+  explicit PriceFaces(double em) : em_(em) {}
+
+  /// What the engine would make of `price`, which `mayBePrice`, on one line. Absent for other texts
+  /// and faces that were not learned. `shape(sample, glyphs)` makes the lines of a text to learn
+  /// from and appends its glyphs; `make(like, glyphs)` makes the engine's own of them.
+  template <class Shape, class Make>
+  std::optional<ShapedText<Glyphs>> set(const AttributedText& price, Shape shape, Make make) {
+    const Run& run = price.runs[0];
+    Face& face = find(run.font);
+    if (face.glyphs.isTimeToLearn()) learn(face, shape);
+    if (!face.sample) return std::nullopt;
+    std::vector<PriceGlyphs::Glyph> glyphs;
+    glyphs.reserve(run.text.size());
+    const auto advance = face.glyphs.set(run.text, glyphs);
+    if (!advance) return std::nullopt;
+    const auto& like = face.sample->lines[0];
+    ShapedText<Glyphs> shaped;
+    shaped.unit = run.font.points / em_;
+    const double width = *advance * shaped.unit;
+    shaped.metrics.size = {measuredWidth(width, width, layout::infinity),
+                           face.sample->metrics.size.height * shaped.unit};
+    shaped.lines.push_back({like.baseline * shaped.unit, width, {}, {}});
+    shaped.lines[0].add(make(like.pieces[0].glyphs, glyphs), 0, 0, width);
+    return shaped;
+  }
+
+  void clear() { faces_.clear(); }
+
+ private:
+  static constexpr std::size_t mostFaces = 8;
+
+  struct Face {
+    std::string name;
+    swiftui::FontWeight weight;
+    PriceGlyphs glyphs{};
+    std::optional<ShapedText<Glyphs>> sample{};  ///< absent: not learned
+  };
+
+  Face& find(const ResolvedFont& font) {
+    const auto known = std::ranges::find_if(faces_, [&](const Face& face) {
+      return face.name == font.name && face.weight == font.weight;
+    });
+    if (known != faces_.end()) return *known;
+    if (faces_.size() == mostFaces) faces_.erase(faces_.begin());
+    faces_.push_back({font.name, font.weight});
+    return faces_.back();
+  }
+
+  template <class Shape>
+  void learn(Face& face, Shape shape) const {
+    for (const std::string& sample : PriceGlyphs::samples()) {
+      std::vector<PriceGlyphs::Glyph> glyphs;
+      face.sample = shape({{{sample, {face.name, em_, face.weight}, {}}}}, glyphs);
+      if (!face.glyphs.learn(sample, glyphs)) return face.sample.reset();
+    }
+  }
+
+  const double em_;
+  std::vector<Face> faces_;
 };
 
 }  // namespace quorix::text

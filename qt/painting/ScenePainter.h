@@ -1,72 +1,30 @@
 #pragma once
 
+#include <QImage>
 #include <QPainter>
-#include <QRect>
-#include <QTransform>
-#include <algorithm>
 #include <optional>
-#include <vector>
 
-#include "platform/graphics/RGBA.h"
+#include "platform/render/KnownGround.h"
 #include "platform/render/Scene.h"
 #include "qt/text/QtTextEngine.h"
 
 namespace quorix::qt {
 
-/// Records what the items of a display list leave on an empty surface, so that it is known what
-/// lies under the next one. Device pixels.
-class KnownGround {
- public:
-  /// The color of all `pixels`: opaque, or transparent if nothing was painted there. Absent if they
-  /// differ or are not known.
-  std::optional<graphics::RGBA> under(const QRect& pixels) const {
-    const auto top = std::find_if(layers_.rbegin(), layers_.rend(), [&](const Layer& layer) {
-      return layer.pixels.intersects(pixels);
-    });
-    if (top == layers_.rend()) return graphics::RGBA{0, 0, 0, 0};
-    return top->pixels.contains(pixels) ? top->color : std::nullopt;
-  }
-
-  /// All `pixels` were filled with `color`.
-  void filled(const QRect& pixels, graphics::RGBA color) {
-    if (color.alpha != 255) return painted(pixels);
-    layers_.push_back({pixels, color});
-  }
-
-  /// Something was painted within `pixels`.
-  void painted(const QRect& pixels) { layers_.push_back({pixels, std::nullopt}); }
-
-  /// A text was painted, its ink within `pixels`. An empty ground still counts as empty: there the
-  /// pictures of texts are blended, so overlapping ink is harmless.
-  void inked(const QRect& pixels) {
-    const auto ground = under(pixels);
-    if (!ground || ground->alpha != 0) painted(pixels);
-  }
-
- private:
-  struct Layer {
-    QRect pixels;
-    std::optional<graphics::RGBA> color;  ///< absent: of more than one, or not known
-  };
-
-  std::vector<Layer> layers_;  ///< the last on top
-};
-
-/// Draws display lists, each point on a unit of the painter. If the painter does not rotate or
-/// shear, baselines, decorations and edges are moved to whole device pixels. Main thread.
+/// Draws display lists at `scale` device pixels a point. Baselines, decorations and edges are moved
+/// to whole pixels. Main thread.
 ///
 ///     QPainter painter(&image);
-///     painter.scale(2, 2);
-///     ScenePainter(painter).paint(host.scene(size));
+///     ScenePainter(painter, 2).paint(host.scene(size));
 class ScenePainter {
  public:
-  explicit ScenePainter(QPainter& painter, QtTextEngine& engine = QtTextEngine::shared());
-  /// Draws on an empty image in premultiplied ARGB, at its device pixel ratio. A text that was
-  /// painted before on the same ground (empty, or of one opaque color) is painted from its picture,
-  /// with the same pixels. On any other ground Qt blends text by the brightness.
-  explicit ScenePainter(QImage& empty, QtTextEngine& engine = QtTextEngine::shared());
+  /// Draws each device pixel on a unit of `painter`. Leaves a clip item's clip and the last pen.
+  ScenePainter(QPainter& painter, double scale, QtTextEngine& engine = QtTextEngine::shared());
+  /// Draws on an empty image in premultiplied ARGB. A text that was painted before on the same
+  /// ground (empty, or of one opaque color) is painted from its picture, with the same pixels. On
+  /// any other ground Qt blends text by the brightness.
+  ScenePainter(QImage& empty, double scale, QtTextEngine& engine = QtTextEngine::shared());
 
-  /// Paints the items in order. Changes nothing of the given painter but its pen.
+  /// Paints the items in order.
   void paint(const render::Scene& scene);
 
  private:
@@ -80,15 +38,9 @@ class ScenePainter {
   }
 
   void drawText(const render::TextItem& item);
-  bool drawPicture(const render::TextItem& item);
-  bool copyPicture(const QImage& picture, const QRect& to, graphics::RGBA ground);
-  InkPicture pictureOf(const render::TextItem& item, graphics::RGBA ground) const;
-  void drawLine(const ShapedText::Line& line, double unit, const text::AttributedText& text,
-                QPointF origin);
-  void drawDecoration(const ShapedText::Span& span, QPointF origin, ShapingFont::Stroke stroke,
-                      const text::Run& run);
+  render::InkPicture pictureOf(const render::TextItem& item, graphics::RGBA ground) const;
   void fill(const QRectF& device, graphics::RGBA color);
-  QPointF onPixels(QPointF point) const;
+  layout::Rect scaled(const layout::Rect& frame) const;
   QRectF deviceRect(const layout::Rect& frame) const;
 
   QPainter& painter();
@@ -96,15 +48,10 @@ class ScenePainter {
   QPainter* painter_ = nullptr;
   QImage* image_ = nullptr;      ///< for `own_`
   std::optional<QPainter> own_;  ///< begun when an item needs a painter
-  QRect copied_;                 ///< around all that was painted without a painter
+  const double scale_;
   QtTextEngine& engine_;
-  const QTransform base_;
-  const QTransform toDevice_;
-  const QTransform fromDevice_;
-  const bool upright_;
-  std::optional<KnownGround> ground_;
+  std::optional<render::KnownGround> ground_;
   graphics::Appearance appearance_ = graphics::Appearance::light;
-  int clips_ = 0;  ///< begun by clip items
 };
 
 }  // namespace quorix::qt

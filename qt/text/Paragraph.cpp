@@ -50,30 +50,10 @@ double overhang(const QTextLine& line, const QString& text) {
   return reach;
 }
 
-/// Joins `added` to a span of its run that it touches, so that a decoration is one stroke.
-void addSpan(std::vector<ShapedText::Span>& spans, const ShapedText::Span& added) {
-  constexpr double touching = 1.0 / 16;
-  for (ShapedText::Span& span : spans) {
-    const bool apart = added.left > span.right + touching || added.right < span.left - touching;
-    if (span.run != added.run || apart) continue;
-    span.left = std::min(span.left, added.left);
-    span.right = std::max(span.right, added.right);
-    return;
-  }
-  spans.push_back(added);
-}
-
 }  // namespace
 
-void keepFirstNumberWhole(QString& text) {
-  const bool splits =
-      text.size() > 2 && text[0].isDigit() && text[1].isPunct() && text[2].isDigit();
-  if (splits) text.insert(2, wordJoiner);
-}
-
-double measuredWidth(double natural, double needed, double offered) {
-  const double width = std::ceil(needed * 64) / 64;
-  return natural <= offered ? std::min(width, offered) : width;
+bool splitsFirstNumber(const QString& text) {
+  return text.size() > 2 && text[0].isDigit() && text[1].isPunct() && text[2].isDigit();
 }
 
 /// The first run's size sets the scale, at which Qt rounds other sizes to whole pixels.
@@ -81,7 +61,7 @@ Paragraph::Paragraph(const text::AttributedText& text, QtFonts& fonts) {
   QString characters;
   for (const text::Run& run : text.runs) {
     QString part = lineSeparated(run.text);
-    if (characters.isEmpty()) keepFirstNumberWhole(part);
+    if (characters.isEmpty() && splitsFirstNumber(part)) part.insert(2, wordJoiner);
     runs_.push_back({static_cast<int>(characters.size()), static_cast<int>(part.size())});
     characters += part;
   }
@@ -116,60 +96,56 @@ double Paragraph::widthNeeded(const QTextLine& line) const {
   return std::max(natural, line.horizontalAdvance() + overhang(line, layout_.text()));
 }
 
+/// Calls `use` with each line, broken to `width` points.
+template <class Use>
+void Paragraph::eachLine(double width, Use use) {
+  layout_.beginLayout();
+  for (QTextLine line = layout_.createLine(); line.isValid(); line = layout_.createLine()) {
+    line.setLineWidth(width / unit_);
+    use(line);
+  }
+  layout_.endLayout();
+}
+
 ShapedText Paragraph::breakLines(double width) {
   ShapedText shaped;
   shaped.unit = unit_;
   double top = 0;
   double natural = 0;
   double needed = 0;
-  layout_.beginLayout();
-  for (QTextLine line = layout_.createLine(); line.isValid(); line = layout_.createLine()) {
-    line.setLineWidth(std::max(width, 0.0) / unit_);
+  eachLine(std::max(width, 0.0), [&](QTextLine& line) {
     line.setPosition({0, -line.ascent()});
     const double baseline = top + line.ascent() * unit_;
     natural = std::max(natural, line.naturalTextWidth() * unit_);
     needed = std::max(needed, widthNeeded(line) * unit_);
     top += (line.ascent() + line.descent() + std::max(line.leading(), 0.0)) * unit_;
-    if (width <= 0) continue;  // only measured: a line for each letter
+    if (width <= 0) return;  // only measured: a line for each letter
     shaped.lines.push_back(collect(line));
     shaped.lines.back().baseline = baseline;
-  }
-  layout_.endLayout();
-  shaped.metrics.size = {measuredWidth(natural, needed, width), top};
+  });
+  shaped.metrics.size = {text::measuredWidth(natural, needed, width), top};
   return shaped;
 }
 
-/// The width of the longest word in scripts without blanks, in points; 0 without such words.
-double Paragraph::longestUnspacedWord() {
-  const QString& text = layout_.text();
-  const auto words = text::unspacedWords(utf16(text));
-  if (words.empty()) return 0;
-  layout_.beginLayout();
-  QTextLine line = layout_.createLine();
-  line.setLineWidth(layout::infinity);
-  double longest = 0;
-  for (const text::WordRange& word : words) {
-    const double width = line.cursorToX(word.start + word.length) - line.cursorToX(word.start);
-    longest = std::max(longest, std::abs(width) * unit_);
-  }
-  layout_.endLayout();
-  return longest;
-}
-
 double Paragraph::leastWidth() {
+  double least = 0;
+  const auto words = text::unspacedWords(utf16(layout_.text()));
+  if (!words.empty()) {
+    eachLine(layout::infinity, [&](const QTextLine& line) {
+      for (const text::WordRange& word : words) {
+        const double end = line.cursorToX(word.start + word.length);
+        least = std::max(least, std::abs(end - line.cursorToX(word.start)) * unit_);
+      }
+    });
+  }
   QTextOption wordByWord = layout_.textOption();
   wordByWord.setWrapMode(QTextOption::WordWrap);
   layout_.setTextOption(wordByWord);
-  double least = 0;
-  layout_.beginLayout();
-  for (QTextLine line = layout_.createLine(); line.isValid(); line = layout_.createLine()) {
-    line.setLineWidth(0);
+  eachLine(0, [&](const QTextLine& line) {
     const double needed = line.horizontalAdvance() + overhang(line, layout_.text());
     least = std::max({least, line.naturalTextWidth() * unit_, needed * unit_});
-  }
-  layout_.endLayout();
-  least = std::max(least, longestUnspacedWord());
-  return measuredWidth(least, least, 0);
+  });
+  return text::measuredWidth(least, least, 0);
 }
 
 ShapedText::Line Paragraph::collect(const QTextLine& line) const {
@@ -183,8 +159,7 @@ ShapedText::Line Paragraph::collect(const QTextLine& line) const {
     const QList<QGlyphRun> glyphs = line.glyphRuns(from, to - from);
     for (const QGlyphRun& piece : glyphs) {
       const QRectF bounds = piece.boundingRect();
-      collected.pieces.push_back({piece, run});
-      addSpan(collected.spans, {run, bounds.left() * unit_, bounds.right() * unit_});
+      collected.add(piece, run, bounds.left() * unit_, bounds.right() * unit_);
     }
   }
   return collected;

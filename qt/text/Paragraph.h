@@ -3,50 +3,19 @@
 #include <QGlyphRun>
 #include <QString>
 #include <QTextLayout>
-#include <cstddef>
 #include <vector>
 
 #include "platform/text/AttributedText.h"
-#include "platform/text/TextEngine.h"
+#include "platform/text/ShapedText.h"
 #include "qt/text/QtFonts.h"
 
 namespace quorix::qt {
 
-/// A text broken into lines, ready to draw. It holds no color: texts that differ only in color or
-/// decoration share it.
-struct ShapedText {
-  /// Glyphs of one run, in pixels of the shaping font from the line's left end, on the baseline.
-  struct Piece {
-    QGlyphRun glyphs;
-    std::size_t run = 0;
-  };
+/// Glyphs in pixels of the shaping font.
+using ShapedText = text::ShapedText<QGlyphRun>;
 
-  /// A stretch of one run's glyphs without a gap. Points from the line's left end.
-  struct Span {
-    std::size_t run = 0;
-    double left = 0;
-    double right = 0;
-  };
-
-  struct Line {
-    double baseline = 0;  ///< points from the text's top
-    double advance = 0;   ///< points
-    std::vector<Piece> pieces;
-    std::vector<Span> spans;
-  };
-
-  text::TextMetrics metrics;
-  double unit = 1;  ///< points for each pixel of the shaping font
-  std::vector<Line> lines;
-};
-
-/// Inserts a word joiner into a text that begins like "1.234": Qt would end a line after the "1.".
-void keepFirstNumberWhole(QString& text);
-
-/// The width to report for a text: `needed`, rounded up so that the text breaks the same way when
-/// it is offered that width. `needed` is an upper bound, so a text whose `natural` width fits
-/// reports no more than `offered`. Points.
-double measuredWidth(double natural, double needed, double offered);
+/// Whether `text` begins like "1.234". Qt would end a line after the "1.".
+bool splitsFirstNumber(const QString& text);
 
 /// A text that Qt shapes and breaks into lines.
 class Paragraph {
@@ -65,7 +34,8 @@ class Paragraph {
     int length = 0;
   };
 
-  double longestUnspacedWord();
+  template <class Use>
+  void eachLine(double width, Use use);
   double widthNeeded(const QTextLine& line) const;
   ShapedText::Line collect(const QTextLine& line) const;
 

@@ -4,7 +4,6 @@
 #include <QGuiApplication>
 #include <QRawFont>
 #include <QSignalBlocker>
-#include <QThread>
 #include <QtEndian>
 #include <cstdlib>
 #include <optional>
@@ -28,32 +27,29 @@ bool hasGuiApplication() {
 /// Runs on the thread that registers `face`; Qt's font database is used on the main thread only.
 void handToQt(const GraphicsFont& face) {
   if (!hasGuiApplication()) return;  // `follow` does it later
-  const auto load = [name = face.postScriptName()] { RegisteredFaces::shared().find(name); };
-  if (QThread::currentThread() == qGuiApp->thread()) return load();
-  QMetaObject::invokeMethod(qGuiApp, load, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(
+      qGuiApp, [name = face.postScriptName()] { RegisteredFaces::shared().find(name); });
 }
 
 /// Runs when an application object is made.
 void follow() {
   FontManager::shared().setRegistrationObserver(&handToQt);
-  if (hasGuiApplication() && FontManager::shared().generation() > 0) {
-    RegisteredFaces::shared().loadAll();
-  }
+  if (hasGuiApplication()) RegisteredFaces::shared().loadAll();
 }
 Q_COREAPP_STARTUP_FUNCTION(follow)
 
 /// The font with which Qt draws `file`. Where a face of the same family and style is installed from
 /// another foundry, Qt tells the two apart by "Family [Foundry]".
 QFont nameOf(const QRawFont& file) {
+  const QFont plain = QFontDatabase::font(file.familyName(), file.styleName(), anySize);
   const auto draws = [&](const QFont& font) {  // "head" holds the file's checksum
     return QRawFont::fromFont(font).fontTable("head") == file.fontTable("head");
   };
-  const QFont plain = QFontDatabase::font(file.familyName(), file.styleName(), anySize);
   if (draws(plain)) return plain;
-  const QString prefix = file.familyName() + QLatin1String(" [");
-  const QStringList families = QFontDatabase::families();
+  // Nor does Qt tell cases apart.
+  const QStringList families =
+      QFontDatabase::families().filter(file.familyName() + " [", Qt::CaseInsensitive);
   for (const QString& family : families) {
-    if (!family.startsWith(prefix, Qt::CaseInsensitive)) continue;  // nor does Qt tell cases apart
     const QFont font = QFontDatabase::font(family, file.styleName(), anySize);
     if (draws(font)) return font;
   }
@@ -129,30 +125,21 @@ void RegisteredFaces::announce() {
 
 namespace {
 
-/// Whether `name` without its spaces is `squeezed`, in any case. Copies nothing, since a desktop
-/// may have thousands of names.
-bool squeezesTo(QStringView name, QStringView squeezed) {
-  for (const QChar character : name) {
-    if (character == QLatin1Char(' ')) continue;
-    if (squeezed.isEmpty() || character.toLower() != squeezed.front().toLower()) return false;
-    squeezed = squeezed.sliced(1);
-  }
-  return squeezed.isEmpty();
-}
-
 /// The face of that PostScript name, if it has the usual form: family and style without spaces,
 /// with a hyphen between them.
 std::optional<QFont> postScriptFace(QString name) {
   name.remove(QLatin1Char(' '));
-  const QString family = name.section(QLatin1Char('-'), 0, 0);
+  const auto matches = [](QString spaced, const QString& squeezed) {
+    return spaced.remove(QLatin1Char(' ')).compare(squeezed, Qt::CaseInsensitive) == 0;
+  };
   const QString style = name.section(QLatin1Char('-'), 1);
   const QStringList families = QFontDatabase::families();
-  for (const QString& candidate : families) {
-    if (squeezesTo(candidate, name)) return QFont(candidate);
-    if (!squeezesTo(candidate, family)) continue;
-    const QStringList styles = QFontDatabase::styles(candidate);
+  for (const QString& family : families) {
+    if (matches(family, name)) return QFont(family);
+    if (!matches(family, name.section(QLatin1Char('-'), 0, 0))) continue;
+    const QStringList styles = QFontDatabase::styles(family);
     for (const QString& known : styles) {
-      if (squeezesTo(known, style)) return QFontDatabase::font(candidate, known, anySize);
+      if (matches(known, style)) return QFontDatabase::font(family, known, anySize);
     }
   }
   return std::nullopt;
@@ -184,7 +171,7 @@ QFont weighted(const QFont& named, int weight) {
 }
 
 /// The strikethrough that the font's designer drew, or the middle of its small letters.
-ShapingFont::Stroke strikethrough(const QRawFont& font) {
+text::Stroke strikethrough(const QRawFont& font) {
   constexpr qsizetype sizeAt = 26, positionAt = 28;
   const QByteArray os2 = font.fontTable("OS/2");
   if (os2.size() >= positionAt + 2) {
@@ -196,7 +183,7 @@ ShapingFont::Stroke strikethrough(const QRawFont& font) {
   return {-font.xHeight() / 2 / em, font.lineThickness() / em};
 }
 
-ShapingFont::Stroke underline(const QRawFont& font) {
+text::Stroke underline(const QRawFont& font) {
   const double em = font.pixelSize();
   return {font.underlinePosition() / em, font.lineThickness() / em};
 }
@@ -229,30 +216,27 @@ bool QtFonts::systemKnows(std::string_view name) {
 bool QtFonts::refresh() {
   const std::size_t generation = FontManager::shared().generation();
   if (generation == generation_ && !databaseChanged_) return false;
-  ++changes_;
   generation_ = generation;
   databaseChanged_ = false;
+  fonts_.clear();
   return true;
 }
 
-ShapingFont QtFonts::find(const text::ResolvedFont& wanted, int pixels) {
-  const Key key{changes_, wanted.name, wanted.weight, pixels};
-  return fonts_.get(key, [&] { return make(key); });
-}
-
-ShapingFont QtFonts::make(const Key& key) {
-  QFont font = face(key.name);
-  const int weight = static_cast<int>(key.weight);
-  if (font.weight() < weight) {
-    RegisteredFaces::shared().loadAll();
-    font = weighted(font, weight);
-  }
-  font.setPixelSize(key.pixels);
-  font.setHintingPreference(QFont::PreferNoHinting);
-  font.setStyleStrategy(QFont::NoSubpixelAntialias);
-  const QRawFont raw = QRawFont::fromFont(font);
-  return {font,           raw.ascent(),       raw.descent(),
-          underline(raw), strikethrough(raw), raw.supportsCharacter(wordJoiner)};
+ShapingFont QtFonts::find(text::ResolvedFont wanted, int pixels) {
+  wanted.points = pixels;
+  return fonts_.get(wanted, [&] {
+    QFont font = face(wanted.name);
+    const int weight = static_cast<int>(wanted.weight);
+    if (font.weight() < weight) {
+      RegisteredFaces::shared().loadAll();
+      font = weighted(font, weight);
+    }
+    font.setPixelSize(pixels);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    font.setStyleStrategy(QFont::NoSubpixelAntialias);
+    const QRawFont raw = QRawFont::fromFont(font);
+    return ShapingFont{font, underline(raw), strikethrough(raw), raw.supportsCharacter(wordJoiner)};
+  });
 }
 
 }  // namespace quorix::qt

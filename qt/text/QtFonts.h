@@ -15,6 +15,7 @@
 #include "platform/foundation/Export.h"
 #include "platform/graphics/FontManager.h"
 #include "platform/text/AttributedText.h"
+#include "platform/text/ShapedText.h"
 
 namespace quorix::qt {
 
@@ -64,17 +65,9 @@ struct ShapingFont {
   /// Points for each of these pixels in a text of `points`. Never 0: lengths are divided by it.
   static double unit(double points) { return std::max(points, 1.0 / 64) / pixels; }
 
-  /// A decoration's center above (negative) or below the baseline, and its thickness. Ems.
-  struct Stroke {
-    double offset = 0;
-    double thickness = 0;
-  };
-
   QFont font;
-  double ascent = 0;   ///< of the face itself, without fallbacks; pixels
-  double descent = 0;  ///< likewise
-  Stroke underline;
-  Stroke strikethrough;
+  text::Stroke underline;
+  text::Stroke strikethrough;
   bool hasWordJoiner = true;  ///< itself; a fallback face's may be higher
 };
 
@@ -100,25 +93,15 @@ class QtFonts {
   static bool systemKnows(std::string_view name);
 
   /// The face of `font` in `pixels`.
-  ShapingFont find(const text::ResolvedFont& font, int pixels = ShapingFont::pixels);
+  ShapingFont find(text::ResolvedFont font, int pixels = ShapingFont::pixels);
 
   /// Whether faces were added or removed since the last call. Forgets the fonts found before, if
   /// so.
   bool refresh();
 
  private:
-  struct Key {
-    unsigned changes;  ///< when it was found: after another change of faces it does not match
-    std::string name;
-    swiftui::FontWeight weight;
-    int pixels;
-    bool operator==(const Key&) const = default;
-  };
-
-  ShapingFont make(const Key& key);
-
-  foundation::Cache<Key, ShapingFont> fonts_{128};  // bounded, since names come from hosts
-  unsigned changes_ = 0;
+  /// By name, weight and pixels. Bounded, since names come from hosts.
+  foundation::Cache<text::ResolvedFont, ShapingFont> fonts_{128};
   std::size_t generation_ = 0;
   bool databaseChanged_ = false;
   QMetaObject::Connection connection_;

@@ -1,17 +1,16 @@
 #pragma once
 
 #include "platform/foundation/Export.h"
-#include "platform/render/TextPictures.h"
+#include "platform/render/KnownGround.h"
 #include "platform/text/LineCache.h"
+#include "platform/text/PriceGlyphs.h"
 #include "platform/text/TextEngine.h"
-#include "qt/painting/Pixels.h"
-#include "qt/text/Figures.h"
 #include "qt/text/Paragraph.h"
 #include "qt/text/QtFonts.h"
 
 namespace quorix::qt {
 
-using TextPictures = render::TextPictures<InkPicture>;
+using TextPictures = render::TextPictures<render::InkPicture>;
 
 /// Shapes texts with Qt and its fallback faces. Caches what it measures, so that painting does not
 /// shape again. Main thread; needs an application object.
@@ -42,7 +41,7 @@ class QtTextEngine final : public text::TextEngine {
   QtFonts& fonts_ = QtFonts::shared();
   text::LineCache<ShapedText> lines_;
   TextPictures pictures_;
-  Figures figures_;
+  text::PriceFaces<QGlyphRun> prices_{ShapingFont::pixels};
   int breaks_ = 0;
 };
 

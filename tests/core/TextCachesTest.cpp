@@ -1,9 +1,13 @@
+#include <unicode/unistr.h>
+
 #include <algorithm>
 #include <cmath>
 
+#include "platform/render/KnownGround.h"
 #include "platform/render/TextPictures.h"
 #include "platform/text/LineCache.h"
 #include "platform/text/PriceGlyphs.h"
+#include "platform/text/ShapedText.h"
 #include "platform/text/TextEngine.h"
 #include "tests/core/Vectors.h"
 
@@ -148,58 +152,154 @@ TEST(TextPictures, KeepTheLatestOnly) {
   }
 }
 
+/// An image of 8 by 4 pixels.
+struct Image {
+  static constexpr std::uint32_t light = 0xFF0000FA, dot = 0xFF112233, blended = 0xFF445566;
+  static constexpr layout::Rect all{{}, {8, 4}};
+
+  std::vector<std::uint32_t> memory = std::vector<std::uint32_t>(32);
+  render::Pixels pixels() { return {memory.data(), 8, 8, 4}; }
+
+  /// Its third row.
+  std::string shown() const {
+    std::string row;
+    for (std::size_t at = 16; at < 24; ++at) {
+      row += memory[at] == light     ? '-'
+             : memory[at] == dot     ? 'x'
+             : memory[at] == blended ? 'b'
+                                     : '.';
+    }
+    return row;
+  }
+};
+
+/// A text of 3 by 2 pixels, with two dots of ink right of it.
+TEST(KnownGround, TakesATextFromItsPictureWhereThatLooksTheSame) {
+  enum Before : std::uint8_t { light, glass, picture, ink, clip };
+  const layout::Rect frame{{1, 1}, {3, 2}}, atInk{{5, 1}, {1, 1}}, before{{1, 1}, {2, 1}};
+  const struct {
+    std::vector<std::pair<Before, layout::Rect>> under;
+    std::string shown;
+    double x = 1;
+  } rows[] = {
+      {{}, "....xx.."},
+      {{{light, Image::all}}, "----xx--"},
+      {{{glass, Image::all}}, "........"},
+      {{{light, frame}}, ".---...."},
+      {{{picture, {{2, 2}, {9, 1}}}}, "........"},
+      {{{picture, {{1, 3}, {9, 1}}}}, "....xx.."},
+      {{{ink, atInk}}, "....bb.."},
+      {{{ink, before}}, "....xx.."},
+      {{{light, Image::all}, {ink, atInk}}, "--------"},
+      {{{clip, {{}, {5, 4}}}}, "....x..."},
+      {{}, "x.......", -4},
+      {{}, "........", 1.25},
+  };
+  for (const auto& row : rows) {
+    render::TextPictures<render::InkPicture> pictures;
+    Image image;
+    const auto paint = [&](graphics::RGBA ground) {
+      Image bare;
+      render::KnownGround(bare.pixels()).fill(Image::all, ground);
+      bare.memory[8 + 5] = bare.memory[8 + 6] = Image::dot;  // the text is at 2, 0
+      return render::InkPicture::cropped(bare.pixels(), {2, 0}, ground);
+    };
+    const auto blend = [&](const render::InkPicture& ink, layout::Point at) {
+      const auto first = static_cast<std::size_t>(8 * at.y + at.x);
+      std::fill_n(image.memory.begin() + first, ink.pixels.size(), Image::blended);
+    };
+    for (int time = 0; time < 2; ++time) {  // the second time makes the picture
+      image = {};
+      render::KnownGround ground(image.pixels());
+      for (const auto& [kind, part] : row.under) {
+        const graphics::RGBA color{0, 0, 250, std::uint8_t(kind == glass ? 128 : 255)};
+        if (kind == light || kind == glass) ground.filled(part, color), ground.fill(part, color);
+        if (kind == picture) ground.painted(part);
+        if (kind == ink) ground.inkedAround(part);
+        if (kind == clip) ground.clip(part);
+      }
+      ground.paint({{{row.x, 1}, frame.size}, textOf("fee")}, 1, pictures, paint, blend);
+    }
+    EXPECT_EQ(image.shown(), row.shown) << &row - rows;
+  }
+}
+
+TEST(Stroke, IsWholePixelsHighAndAtLeastOne) {
+  const text::Stroke stroke{0.125, 0.0625};
+  EXPECT_EQ(stroke.rect(2.4, 20.6, 40, 8), (layout::Rect{{2, 41}, {19, 1}}));  // 0.5 px at 41
+  EXPECT_EQ(stroke.rect(2.4, 20.6, 40, 32), (layout::Rect{{2, 43}, {19, 2}}));
+}
+
+TEST(ShapedText, JoinsTheGlyphsOfARunThatTouch) {
+  text::ShapedText<char>::Line line;
+  line.add('a', 0, 10, 20);
+  line.add('b', 1, 20, 30);
+  line.add('c', 0, 20.05, 25);
+  line.add('d', 0, 26, 30);
+  line.add('e', 0, 0, 10);
+  std::vector<std::tuple<std::size_t, double, double>> spans;
+  for (const auto& span : line.spans) spans.emplace_back(span.run, span.left, span.right);
+  EXPECT_EQ(spans, (decltype(spans){{0, 0, 25}, {1, 20, 30}, {0, 26, 30}}));
+}
+
+using Glyphs = std::vector<PriceGlyphs::Glyph>;
+
 /// A face as its shaper sees it: a glyph and its advance by its neighbors, 0 at a text's ends.
 struct Face {
   std::function<std::uint32_t(char16_t before, char16_t character)> glyph =
       [](char16_t, char16_t character) { return character; };
   std::function<double(char16_t before, char16_t character, char16_t after)> advance =
       [](char16_t, char16_t, char16_t) { return 10; };
+  std::size_t more = 0;  ///< glyphs than characters
 
-  std::vector<PriceGlyphs::Glyph> shape(std::u16string_view text) const {
-    std::vector<PriceGlyphs::Glyph> shaped;
+  Glyphs shape(const std::string& utf8) const {
+    const auto text = icu::UnicodeString::fromUTF8(utf8);
+    Glyphs shaped;
     double x = 0;
-    for (std::size_t i = 0; i < text.size(); ++i) {
+    for (int i = 0; i < text.length(); ++i) {
       const char16_t before = i > 0 ? text[i - 1] : u'\0';
       shaped.push_back({glyph(before, text[i]), x, advance(0, text[i], 0)});
-      x += advance(before, text[i], i + 1 < text.size() ? text[i + 1] : u'\0');
+      x += advance(before, text[i], i + 1 < text.length() ? text[i + 1] : u'\0');
     }
+    shaped.resize(shaped.size() + more);
     return shaped;
   }
 
-  bool teach(PriceGlyphs& learned) const {
-    for (const std::u16string& sample : PriceGlyphs::samples()) {
-      if (!learned.learn(sample, shape(sample))) return false;
-    }
-    return true;
+  /// The sixteenth price in this face, at twice the size of the samples.
+  std::optional<text::ShapedText<Glyphs>> set(const std::string& price) const {
+    text::PriceFaces<Glyphs> faces(7);
+    const auto learn = [&](const AttributedText& sample, Glyphs& glyphs) {
+      glyphs = shape(sample.runs[0].text);
+      return text::ShapedText<Glyphs>{{{0, 12}}, 1, {{9, 0, {{glyphs, 0}}, {}}}};
+    };
+    const auto make = [](const Glyphs&, const Glyphs& glyphs) { return glyphs; };
+    for (int time = 1; time < 16; ++time) EXPECT_FALSE(faces.set(textOf(price), learn, make));
+    return faces.set(textOf(price), learn, make);
   }
 };
 
-TEST(PriceGlyphs, SetAPriceAsItsFaceShapesIt) {
+TEST(PriceFaces, SetAPriceAsItsFaceShapesIt) {
   Face face;  // sets pairs closer, by both characters
   face.advance = [](char16_t, char16_t character, char16_t after) {
     return 10 + character % 7 - after % 5 / 8.0;
   };
-  PriceGlyphs learned;
-  ASSERT_TRUE(face.teach(learned));
-  for (const std::u16string_view price : {u"€1,234.56", u"7", u"98.076\u00A0$", u"£0.25"}) {
-    std::vector<std::pair<std::uint32_t, double>> set, shaped;
-    const auto advance =
-        learned.set(price, [&](std::uint32_t index, double x) { set.emplace_back(index, x); });
-    double end = 0;
-    for (const PriceGlyphs::Glyph& glyph : face.shape(price)) {
-      shaped.emplace_back(glyph.index, glyph.x);
-      end = glyph.x + glyph.advance;
-    }
-    EXPECT_EQ(set, shaped);
-    EXPECT_EQ(advance, end);
+  for (const std::string price : {"€1,234.56", "7", "98.076\u00A0$", "£0.25"}) {
+    const auto shaped = face.set(price);
+    ASSERT_TRUE(shaped) << price;
+    const auto& line = shaped->lines.at(0);
+    const Glyphs set = line.pieces.at(0).glyphs, wanted = face.shape(price);
+    EXPECT_TRUE(std::ranges::equal(set, wanted, [](const auto& one, const auto& other) {
+      return one.index == other.index && one.x == other.x;
+    })) << price;
+    EXPECT_EQ(line.advance, 2 * (wanted.back().x + wanted.back().advance));
+    EXPECT_EQ(shaped->metrics.size, (layout::Size{line.advance, 24}));
+    EXPECT_EQ(line.baseline, 18);
   }
-  for (const std::u16string_view other : {u"x1", u"1x", u"1 x", u"1\u20601", u"−1"}) {
-    EXPECT_FALSE(learned.set(other, [](auto...) {}));
-  }
+  for (const char* other : {"x1", "1x", "1 x", "1\u20601", "−1"}) EXPECT_FALSE(face.set(other));
 }
 
-TEST(PriceGlyphs, OfAFaceWithMoreRulesAreNotLearned) {
-  Face joins, spaces, spacesBack;
+TEST(PriceFaces, OfMoreRulesAreNotLearned) {
+  Face joins, spaces, spacesBack, splits;
   joins.glyph = [](char16_t before, char16_t character) {
     return before == u'€' && character == u'4' ? 1 : character;
   };
@@ -210,20 +310,11 @@ TEST(PriceGlyphs, OfAFaceWithMoreRulesAreNotLearned) {
   };
   spaces.advance = closer(u".1,");      // which the first sample has
   spacesBack.advance = closer(u"9.8");  // and the second
-  for (const Face& face : {joins, spaces, spacesBack}) {
-    PriceGlyphs learned;
-    EXPECT_FALSE(face.teach(learned));
-  }
-  PriceGlyphs learned;
-  const std::u16string sample = PriceGlyphs::samples()[0];
-  auto shaped = Face().shape(sample);
-  shaped.push_back(shaped.back());  // a character of two glyphs
-  EXPECT_FALSE(learned.learn(sample, shaped));
+  splits.more = 1;
+  for (const Face& face : {joins, spaces, spacesBack, splits}) EXPECT_FALSE(face.set("7"));
 }
 
-TEST(PriceGlyphs, AreLearnedOnceBeforeTheSixteenthPrice) {
-  PriceGlyphs glyphs;
-  for (int price = 1; price < 100; ++price) EXPECT_EQ(glyphs.isTimeToLearn(), price == 16);
+TEST(PriceGlyphs, AreOfATextInOneRun) {
   const auto mayBe = [](std::vector<text::Run> runs, layout::LayoutDirection direction) {
     return PriceGlyphs::mayBePrice({std::move(runs), direction});
   };
