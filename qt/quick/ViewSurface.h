@@ -2,7 +2,6 @@
 
 #include <QGuiApplication>
 #include <QQuickWindow>
-#include <cmath>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -26,21 +25,18 @@ namespace quorix::qt {
 /// The private part of a view item. Main thread, except `paint`: the render thread, while the main
 /// thread waits.
 class ViewSurface final : public HostedView,
-                          private WindowWatcher::Client,
+                          private WindowWatcher::Views::View,
                           public QuickAccessibleSurface {
  public:
   explicit ViewSurface(ViewItem& item)
       : HostedView(item, item.settings()), QuickAccessibleSurface(item, *this), item_(item) {}
 
-  ~ViewSurface() override { WindowWatcher::remove(*this); }
-
   /// The item moved to another window, or to none.
   void windowChanged() {
     leaveWindow();
-    parentChanged();
-    inViewport_ = false;
-    pictureStale_ = true;
+    part_ = {};
     picture_.set({});
+    parentChanged();
     offer();
     onScreenChanged();  // before a size is needed, so that the view is evaluated once
     settingsChanged();
@@ -48,18 +44,19 @@ class ViewSurface final : public HostedView,
   }
 
   void parentChanged() {
-    WindowWatcher::remove(*this);
-    QQuickWindow* window = item_.parentItem() ? item_.window() : nullptr;
-    if (window) WindowWatcher::of(*window).add(*this, *item_.parentItem());
+    QQuickItem* parent = item_.parentItem();
+    QQuickWindow* window = parent ? item_.window() : nullptr;
+    window ? enter(WindowWatcher::viewsOf(*window), *parent) : leave();
     if (!idealStale_) followLayoutPlace();
   }
 
   void onScreenChanged() {
-    host().setOnScreen(watcher() && watcher()->isWindowVisible() && item_.isVisible());
+    host().setOnScreen(isInWindow() && isShown() &&
+                       item_.window()->visibility() != QWindow::Minimized);
     item_.polish();
   }
 
-  void moved() { WindowWatcher::moved(*this); }
+  using View::moved;
 
   void sizeChanged(bool width) {
     resized();
@@ -75,26 +72,25 @@ class ViewSurface final : public HostedView,
   /// Before a frame: updates size, scene and picture.
   void polish() {
     if (idealStale_) updateImplicitSize();
-    if (watcher()) place();
-    const bool seen = watcher() && inViewport_ && item_.isVisible();
+    if (isInWindow()) place();
+    const bool seen = isInWindow() && part_.isInSight() && item_.isVisible();
     // Also out of sight: the scene decides whether the item is in the focus chain.
-    pictureStale_ = refreshScene() || pictureStale_;
+    if (refreshScene()) part_.changed();
     // In every frame the window visits all items that accept hovering.
     item_.setAcceptHoverEvents(seen && !host().scene(size()).hitAreas.empty());
     if (seen) {
       updateRing();
-      if (std::exchange(pictureStale_, false)) updatePicture();
+      if (part_.takeStale()) paintPart();
     } else if (!picture_.isNull()) {
-      pictureStale_ = true;
-      picture_.set({});
-      item_.update();
+      part_.changed();
+      show({});
     }
     if (rest(seen)) host().forgetSizes();  // the item has its implicit size
   }
 
   QSGNode* paint(QSGNode* old) {
-    return picture_.show(old, item_, offset_ + QPointF(part_.left(), part_.top()),
-                         [this] { paintAgain(); });
+    const QPointF corner = toPoint(part_.painted().origin);
+    return picture_.show(old, item_, offset() + corner, [this] { paintAgain(); });
   }
 
  private:
@@ -172,43 +168,34 @@ class ViewSurface final : public HostedView,
     if (layoutPlace_) layoutPlace_->follow(empty);
   }
 
-  /// Returns whether the item came into the viewport or left it, moved by parts of a pixel, or
-  /// needs a picture of another part.
+  /// Returns whether the item needs a frame to be prepared.
   bool place() {
-    const QTransform toWindow = item_.itemTransform(nullptr, nullptr);
-    const QRectF whole(0, 0, item_.width(), item_.height());
-    const QRectF viewport = WindowWatcher::viewportIn(item_.parentItem());
-    const bool inside = toWindow.mapRect(whole).intersects(viewport);
-    seen_ = toRect(toWindow.inverted().mapRect(viewport).intersected(whole));
-    const bool painted = inside && !picture_.isNull();
-    const bool leftPart = painted && !part_.contains(seen_) && part_ != partToPaint();
-    pictureStale_ = pictureStale_ || leftPart;
-    QPointF offset;
-    if (toWindow.type() <= QTransform::TxTranslate) {
-      const double pixel = 1 / scale();
-      offset = QPointF(std::round(toWindow.dx() / pixel) * pixel - toWindow.dx(),
-                       std::round(toWindow.dy() / pixel) * pixel - toWindow.dy());
-    }
-    const bool shifted = std::exchange(offset_, offset) != offset && painted;
+    const QPointF before = offset();
+    const bool needsFrame =
+        part_.follow(WindowWatcher::placeOf(item_, *item_.parentItem()), size(), scale());
+    const bool shifted = before != offset() && !picture_.isNull();
     if (shifted) item_.update();
-    const bool ringShifted = shifted && ring_;
-    return std::exchange(inViewport_, inside) != inside || leftPart || ringShifted;
+    return needsFrame || (shifted && ring_);
   }
 
-  layout::Rect partToPaint() const { return render::partToPaint(size(), seen_, scale()); }
+  QPointF offset() const { return toPoint(part_.offset()); }
 
   void paintAgain() {
-    pictureStale_ = true;
+    part_.changed();
     item_.polish();
   }
 
-  void updatePicture() {
-    part_ = partToPaint();
+  void paintPart() {
     const render::Scene& scene = host().scene(size());
-    const auto paint = [&](const render::Scene& part) {
-      return paintPicture(part, scale(), {0, 0, 0, 0});
+    const layout::Rect& part = part_.painted();
+    const auto paint = [&](const render::Scene& shown) {
+      show(paintPicture(shown, scale(), {0, 0, 0, 0}));
     };
-    picture_.set(part_.size == scene.size ? paint(scene) : paint(render::partOf(scene, part_)));
+    part.size == scene.size ? paint(scene) : paint(render::partOf(scene, part));
+  }
+
+  void show(const QImage& picture) {
+    picture_.set(picture);
     item_.update();
   }
 
@@ -216,22 +203,20 @@ class ViewSurface final : public HostedView,
     const auto around = ringFrame();
     if (!around && !ring_) return;
     if (!ring_) ring_ = new Ring(item_, [this] { paintAgain(); });
-    if (around != ring_->around || (around && pictureStale_)) {
+    if (around != ring_->around || (around && part_.isStale())) {
       ring_->around = around;
       ring_->setPicture(around
                             ? FocusRing::picture(*around, host().environment().appearance, scale())
                             : QImage());
     }
-    if (around) ring_->moveTo(offset_ + FocusRing::frameAround(*around).topLeft());
+    if (around) ring_->moveTo(offset() + FocusRing::frameAround(*around).topLeft());
   }
 
   ViewItem& item_;
   std::unique_ptr<LayoutPlace> layoutPlace_;  ///< made when the view is first empty
 
   layout::Size ideal_;
-  QPointF offset_;     ///< from the item's corner to the nearest whole device pixel
-  layout::Rect seen_;  ///< the part of the item in the viewport
-  layout::Rect part_;  ///< the part of the item that its picture shows
+  hosting::PicturePart part_;
   NodePicture picture_;
   struct Ring : PictureItem {
     using PictureItem::PictureItem;
@@ -240,8 +225,6 @@ class ViewSurface final : public HostedView,
   Ring* ring_ = nullptr;  ///< made with the first ring
 
   bool idealStale_ = true;
-  bool pictureStale_ = true;
-  bool inViewport_ = false;
 };
 
 }  // namespace quorix::qt
