@@ -11,7 +11,6 @@
 #include "qt/Desktop.h"
 #include "qt/HostedView.h"
 #include "qt/Picture.h"
-#include "qt/WindowScene.h"
 #include "qt/painting/FocusRing.h"
 #include "qt/quick/LayoutPlace.h"
 #include "qt/quick/PictureItem.h"
@@ -24,12 +23,10 @@ namespace quorix::qt {
 
 /// The private part of a view item. Main thread, except `paint`: the render thread, while the main
 /// thread waits.
-class ViewSurface final : public HostedView,
-                          private WindowWatcher::Views::View,
-                          public QuickAccessibleSurface {
+class ViewSurface final : public HostedView<ViewItem, QuickAccessibleSurface>,
+                          private WindowWatcher::Views::View {
  public:
-  explicit ViewSurface(ViewItem& item)
-      : HostedView(item, item.settings()), QuickAccessibleSurface(item, *this), item_(item) {}
+  explicit ViewSurface(ViewItem& item) : HostedView(item, item.settings()), item_(item) {}
 
   /// The item moved to another window, or to none.
   void windowChanged() {
@@ -47,13 +44,7 @@ class ViewSurface final : public HostedView,
     QQuickItem* parent = item_.parentItem();
     QQuickWindow* window = parent ? item_.window() : nullptr;
     window ? enter(WindowWatcher::viewsOf(*window), *parent) : leave();
-    if (!idealStale_) followLayoutPlace();
-  }
-
-  void onScreenChanged() {
-    host().setOnScreen(isInWindow() && isShown() &&
-                       item_.window()->visibility() != QWindow::Minimized);
-    item_.polish();
+    if (!isSizeStale()) followLayoutPlace();
   }
 
   using View::moved;
@@ -66,12 +57,12 @@ class ViewSurface final : public HostedView,
 
   void contentChanged() override {
     // At once: hosts read the implicit size of a new item before any frame.
-    if (idealStale_) updateImplicitSize();
+    if (isSizeStale()) updateImplicitSize();
   }
 
   /// Before a frame: updates size, scene and picture.
   void polish() {
-    if (idealStale_) updateImplicitSize();
+    if (isSizeStale()) updateImplicitSize();
     if (isInWindow()) place();
     const bool seen = isInWindow() && part_.isInSight() && item_.isVisible();
     // Also out of sight: the scene decides whether the item is in the focus chain.
@@ -94,16 +85,13 @@ class ViewSurface final : public HostedView,
   }
 
  private:
-  void viewNeedsDisplay() override {
-    idealStale_ = true;
-    HostedView::viewNeedsDisplay();
+  bool isOnScreen() const override {
+    return isInWindow() && isShown() && item_.window()->visibility() != QWindow::Minimized;
   }
 
   swiftui::Environment environment() const override {
     return item_.settings().over(Desktop::environment(scale()));
   }
-
-  layout::Size size() const override { return {item_.width(), item_.height()}; }
 
   double scale() const {
     return item_.window() ? item_.window()->effectiveDevicePixelRatio()
@@ -127,22 +115,8 @@ class ViewSurface final : public HostedView,
   void needsFrame() override { item_.polish(); }
 
   hosting::WindowSession* window() override {
-    QQuickWindow* window = item_.window();
-    if (!window) return nullptr;
-    const auto newSheet = [window](WindowScene & scene, const hosting::Responder* opener) -> auto& {
-      return newSheetItem(*window, scene, opener);
-    };
-    return &WindowScene::of(*window, {[window] { return window; }, newSheet});
+    return item_.window() ? &sessionOf(*item_.window()) : nullptr;
   }
-
-  void activated() override { emit item_.activated(); }
-  void sheetOpened() override { emit item_.sheetOpened(); }
-  void sheetClosed(hosting::SheetCloseReason reason) override {
-    emit item_.sheetClosed(static_cast<SheetCloseReason>(reason));
-  }
-
-  void windowStateChanged() override { onScreenChanged(); }
-  void desktopChanged() override { settingsChanged(); }
 
   layout::Rect boundsInParent() const override {
     return toRect(item_.mapRectToItem(item_.parentItem(), toRect({{}, size()})));
@@ -154,7 +128,7 @@ class ViewSurface final : public HostedView,
   }
 
   void updateImplicitSize() {
-    if (std::exchange(idealStale_, false)) ideal_ = host().sizeThatFits({});
+    if (takeSizeStale()) ideal_ = host().sizeThatFits({});
     const bool hasWidth = item_.widthValid() && item_.width() > 0;
     const double height =
         hasWidth ? host().sizeThatFits({item_.width(), std::nullopt}).height : ideal_.height;
@@ -223,8 +197,6 @@ class ViewSurface final : public HostedView,
     std::optional<layout::Rect> around;  ///< the frame that its picture is for
   };
   Ring* ring_ = nullptr;  ///< made with the first ring
-
-  bool idealStale_ = true;
 };
 
 }  // namespace quorix::qt
