@@ -18,7 +18,7 @@ QUORIX_EXPORT hosting::ViewFocus::Cause causeOf(Qt::FocusReason reason);
 
 /// Passes an event of the pointer to `responder`, and accepts it if that takes it. False for other
 /// events. The action may delete the surface.
-bool passPointer(QEvent& event, hosting::Responder& responder);
+QUORIX_EXPORT bool passPointer(QEvent& event, hosting::Responder& responder);
 
 /// Shows the hand where the view acts, and elsewhere the cursor of what the view stands in.
 template <class View>

@@ -62,7 +62,7 @@ void ViewSession::used() {
 // Frames.
 
 void ViewSession::viewNeedsDisplay() {
-  sceneStale_ = true;
+  sceneStale_ = sizeStale_ = true;
   needsFrame();
 }
 

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <optional>
+#include <utility>
 
 #include "platform/foundation/Export.h"
 #include "platform/hosting/Responder.h"
@@ -81,11 +82,14 @@ class QUORIX_EXPORT ViewSession : public Responder, private ViewHost::Client {
   /// The view is in a window: shows its sheet there.
   void enterWindow();
 
-  // For surfaces that keep their painted picture between frames.
+  // For surfaces that keep their size and their painted picture between frames.
   void viewNeedsDisplay() override;
   /// `size` changed: the next `refreshScene` makes a new display list.
   void resized() { sceneStale_ = true; }
   bool isSceneStale() const { return sceneStale_; }
+  /// Whether the view's size may have changed since the last call of `takeSizeStale`.
+  bool isSizeStale() const { return sizeStale_; }
+  bool takeSizeStale() { return std::exchange(sizeStale_, false); }
   /// Call before a frame. If the display list is stale, makes a new one and puts the surface into
   /// the tab order or takes it out. Returns whether it did: then paint again.
   bool refreshScene();
@@ -145,6 +149,7 @@ class QUORIX_EXPORT ViewSession : public Responder, private ViewHost::Client {
   ViewHost host_;
   ViewFocus focus_;
   bool sceneStale_ = true;
+  bool sizeStale_ = true;
   int sheets_ = 0;         ///< open sheets that this view opened
   bool toldOpen_ = false;  ///< whether `sheetOpened` was the latest call
   SheetCloseReason closeReason_ = SheetCloseReason::host;  ///< the latest

@@ -6,52 +6,26 @@
 #include <QSGRectangleNode>
 #include <QSGRendererInterface>
 #include <algorithm>
-#include <functional>
 
 #include "qt/Conversions.h"
 #include "qt/SheetSurface.h"
 #include "qt/ViewAccessible.h"
 #include "qt/WebComponent.h"
+#include "qt/WindowScene.h"
 #include "qt/quick/PictureItem.h"
 #include "qt/quick/QuickAccessibleSurface.h"
 
 namespace quorix::qt {
 namespace {
 
-/// Stands before or after the pages in the focus chain, and calls `passed` when the keyboard's
-/// focus reaches it.
-class FocusStop : public QQuickItem {
+/// Passes its events to a sheet.
+class SheetArea : public QQuickItem {
  public:
-  FocusStop(QQuickItem& parent, std::function<void()> passed)
-      : QQuickItem(&parent), passed_(std::move(passed)) {
-    setActiveFocusOnTab(true);
-  }
-
- protected:
-  void focusInEvent(QFocusEvent*) override {
-    // On a later turn: the focus is still moving.
-    QMetaObject::invokeMethod(this, passed_, Qt::QueuedConnection);
-  }
-
- private:
-  std::function<void()> passed_;
-};
-
-/// Takes taps over the pages of a sheet. It is as large as the sheet, but contains only the points
-/// where something acts, and the strip beside the rounded corners. Passes its events to the sheet.
-class SheetFront : public QQuickItem {
- public:
-  SheetFront(QQuickItem& parent, SheetSurface& sheet) : QQuickItem(&parent), sheet_(sheet) {
-    setZ(1000);
+  SheetArea(QQuickItem& parent, SheetSurface& sheet) : QQuickItem(&parent), sheet_(sheet) {
     setAcceptedMouseButtons(Qt::AllButtons);
     setAcceptTouchEvents(true);
     setAcceptHoverEvents(true);
-  }
-
-  /// Where a page is visible but takes no input.
-  void setStrip(const QRectF& strip) { strip_ = strip; }
-  bool contains(const QPointF& point) const override {
-    return strip_.contains(point) || sheet_.takesTapAt(toPoint(point));
+    setCursor(Qt::ArrowCursor);  // instead of the cursor of what lies below
   }
 
  protected:
@@ -63,29 +37,38 @@ class SheetFront : public QQuickItem {
   void mouseUngrabEvent() override { sheet_.pointerLost(); }
   void touchUngrabEvent() override { sheet_.pointerLost(); }
 
- private:
   SheetSurface& sheet_;
+};
+
+/// Takes taps over the pages of a sheet. It is as large as the sheet, but contains only the points
+/// where something acts, and the strip beside the rounded corners.
+class SheetFront : public SheetArea {
+ public:
+  using SheetArea::SheetArea;
+  /// Where a page is visible but takes no input.
+  void setStrip(const QRectF& strip) { strip_ = strip; }
+  bool contains(const QPointF& point) const override {
+    return strip_.contains(point) || sheet_.takesTapAt(toPoint(point));
+  }
+
+ private:
   QRectF strip_;
 };
 
 }  // namespace
 
 /// A child of the window's content; deletes itself after it closed.
-class SheetItem final : public QQuickItem, public SheetSurface, public QuickAccessibleSurface {
+class SheetItem final : public SheetArea, public SheetSurface, public QuickAccessibleSurface {
   Q_OBJECT
 
  public:
   SheetItem(QQuickWindow& window, hosting::WindowSession& session, QQuickItem* opener)
-      : QQuickItem(window.contentItem()),
+      : SheetArea(*window.contentItem(), *this),
         SheetSurface(static_cast<QObject&>(*this), session, QStringLiteral("QuorixWebQuick")),
         QuickAccessibleSurface(static_cast<QQuickItem&>(*this), *this) {
     setFlag(ItemHasContents);
     setFlag(ItemIsFocusScope);
     setZ(stackingOver(window, opener));
-    setAcceptedMouseButtons(Qt::AllButtons);
-    setAcceptTouchEvents(true);
-    setAcceptHoverEvents(true);
-    setCursor(Qt::ArrowCursor);  // instead of the cursor of what lies below
     QQuickItem* content = window.contentItem();
     const auto fill = [this, content] { setSize(content->size()); };
     connect(content, &QQuickItem::widthChanged, this, fill);
@@ -112,8 +95,6 @@ class SheetItem final : public QQuickItem, public SheetSurface, public QuickAcce
   }
 
  protected:
-  bool event(QEvent* event) override { return handle(*event) || QQuickItem::event(event); }
-
   /// A modal pop-up of Qt Quick Controls blocks the wheel for everything outside it, also for a
   /// page in a sheet above it. Gives the wheel to the window before the pop-up's filter.
   bool eventFilter(QObject* watched, QEvent* event) override {
@@ -156,10 +137,6 @@ class SheetItem final : public QQuickItem, public SheetSurface, public QuickAcce
     below->setColor(ground().color);
     return old;
   }
-
-  void mouseUngrabEvent() override { pointerLost(); }
-  void touchUngrabEvent() override { pointerLost(); }
-  void hoverMoveEvent(QHoverEvent* event) override { setCursor(cursorAt(event->position())); }
 
  private:
   /// Above what pages stack. Below the pop-ups of Qt Quick Controls, which a host may open over a
@@ -229,8 +206,9 @@ class SheetItem final : public QQuickItem, public SheetSurface, public QuickAcce
             Qt::UniqueConnection);
     if (!front_) {
       front_ = new SheetFront(*this, *this);
-      before_ = new FocusStop(*this, [this] { leavePages(false); });
-      after_ = new FocusStop(*this, [this] { leavePages(true); });
+      front_->setZ(1000);
+      before_ = newFocusStop(false);
+      after_ = newFocusStop(true);
     }
     const QRectF frame = toRect(place.room).adjusted(0, -place.strip, 0, 0);
     const QRectF strip(frame.topLeft(), QSizeF(frame.width(), place.strip));
@@ -244,6 +222,18 @@ class SheetItem final : public QQuickItem, public SheetSurface, public QuickAcce
     page.setSize(frame.size());
     static_cast<WebPage&>(engine).roundTop({place.strip, place.radius, scale()});
     if (place.isAtTop) coveredTop_ = place.strip;
+  }
+
+  /// Stands before or after the pages in the focus chain.
+  QQuickItem* newFocusStop(bool after) {
+    auto* stop = new QQuickItem(this);
+    stop->setActiveFocusOnTab(true);
+    const auto leave = [this, after](bool focused) {
+      if (focused) leavePages(after);
+    };
+    // On a later turn: the focus is still moving.
+    connect(stop, &QQuickItem::activeFocusChanged, this, leave, Qt::QueuedConnection);
+    return stop;
   }
 
   void pageFocusChanged(bool focused) {
@@ -273,13 +263,15 @@ class SheetItem final : public QQuickItem, public SheetSurface, public QuickAcce
   double coveredTop_ = 0;  ///< points at the top of the panel that a page covers
   // Made with the first page.
   SheetFront* front_ = nullptr;
-  FocusStop* before_ = nullptr;
-  FocusStop* after_ = nullptr;
+  QQuickItem* before_ = nullptr;
+  QQuickItem* after_ = nullptr;
 };
 
-hosting::SheetSession& newSheetItem(QQuickWindow& window, hosting::WindowSession& session,
-                                    const hosting::Responder* opener) {
-  return *new SheetItem(window, session, QuickAccessibleSurface::itemOf(opener));
+hosting::WindowSession& sessionOf(QQuickWindow& window) {
+  const auto newSheet = [&window](WindowScene & scene, const hosting::Responder* opener) -> auto& {
+    return *new SheetItem(window, scene, QuickAccessibleSurface::itemOf(opener));
+  };
+  return WindowScene::of(window, {[&window] { return &window; }, newSheet});
 }
 
 }  // namespace quorix::qt

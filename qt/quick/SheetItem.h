@@ -1,14 +1,13 @@
 #pragma once
 
-#include "platform/hosting/SheetSession.h"
+#include "platform/hosting/WindowSession.h"
 
 class QQuickWindow;
 
 namespace quorix::qt {
 
-/// Makes a sheet over a Qt Quick window. It is as large as the window, and above the item that
-/// shows `opener` (which may be null) and everything which holds that item. Main thread.
-hosting::SheetSession& newSheetItem(QQuickWindow& window, hosting::WindowSession& session,
-                                    const hosting::Responder* opener);
+/// The session of a Qt Quick window, made with the first call. Its sheets are as large as the
+/// window, and above the item that opens them and everything which holds that item. Main thread.
+hosting::WindowSession& sessionOf(QQuickWindow& window);
 
 }  // namespace quorix::qt

@@ -2,7 +2,6 @@
 
 #include <QGuiApplication>
 #include <QQuickWindow>
-#include <cmath>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -12,7 +11,6 @@
 #include "qt/Desktop.h"
 #include "qt/HostedView.h"
 #include "qt/Picture.h"
-#include "qt/WindowScene.h"
 #include "qt/painting/FocusRing.h"
 #include "qt/quick/LayoutPlace.h"
 #include "qt/quick/PictureItem.h"
@@ -25,22 +23,17 @@ namespace quorix::qt {
 
 /// The private part of a view item. Main thread, except `paint`: the render thread, while the main
 /// thread waits.
-class ViewSurface final : public HostedView,
-                          private WindowWatcher::Client,
-                          public QuickAccessibleSurface {
+class ViewSurface final : public HostedView<ViewItem, QuickAccessibleSurface>,
+                          private WindowWatcher::Views::View {
  public:
-  explicit ViewSurface(ViewItem& item)
-      : HostedView(item, item.settings()), QuickAccessibleSurface(item, *this), item_(item) {}
-
-  ~ViewSurface() override { WindowWatcher::remove(*this); }
+  explicit ViewSurface(ViewItem& item) : HostedView(item, item.settings()), item_(item) {}
 
   /// The item moved to another window, or to none.
   void windowChanged() {
     leaveWindow();
-    parentChanged();
-    inViewport_ = false;
-    pictureStale_ = true;
+    part_ = {};
     picture_.set({});
+    parentChanged();
     offer();
     onScreenChanged();  // before a size is needed, so that the view is evaluated once
     settingsChanged();
@@ -48,18 +41,13 @@ class ViewSurface final : public HostedView,
   }
 
   void parentChanged() {
-    WindowWatcher::remove(*this);
-    QQuickWindow* window = item_.parentItem() ? item_.window() : nullptr;
-    if (window) WindowWatcher::of(*window).add(*this, *item_.parentItem());
-    if (!idealStale_) followLayoutPlace();
+    QQuickItem* parent = item_.parentItem();
+    QQuickWindow* window = parent ? item_.window() : nullptr;
+    window ? enter(WindowWatcher::viewsOf(*window), *parent) : leave();
+    if (!isSizeStale()) followLayoutPlace();
   }
 
-  void onScreenChanged() {
-    host().setOnScreen(watcher() && watcher()->isWindowVisible() && item_.isVisible());
-    item_.polish();
-  }
-
-  void moved() { WindowWatcher::moved(*this); }
+  using View::moved;
 
   void sizeChanged(bool width) {
     resized();
@@ -69,45 +57,41 @@ class ViewSurface final : public HostedView,
 
   void contentChanged() override {
     // At once: hosts read the implicit size of a new item before any frame.
-    if (idealStale_) updateImplicitSize();
+    if (isSizeStale()) updateImplicitSize();
   }
 
   /// Before a frame: updates size, scene and picture.
   void polish() {
-    if (idealStale_) updateImplicitSize();
-    if (watcher()) place();
-    const bool seen = watcher() && inViewport_ && item_.isVisible();
+    if (isSizeStale()) updateImplicitSize();
+    if (isInWindow()) place();
+    const bool seen = isInWindow() && part_.isInSight() && item_.isVisible();
     // Also out of sight: the scene decides whether the item is in the focus chain.
-    pictureStale_ = refreshScene() || pictureStale_;
+    if (refreshScene()) part_.changed();
     // In every frame the window visits all items that accept hovering.
     item_.setAcceptHoverEvents(seen && !host().scene(size()).hitAreas.empty());
     if (seen) {
       updateRing();
-      if (std::exchange(pictureStale_, false)) updatePicture();
+      if (part_.takeStale()) paintPart();
     } else if (!picture_.isNull()) {
-      pictureStale_ = true;
-      picture_.set({});
-      item_.update();
+      part_.changed();
+      show({});
     }
     if (rest(seen)) host().forgetSizes();  // the item has its implicit size
   }
 
   QSGNode* paint(QSGNode* old) {
-    return picture_.show(old, item_, offset_ + QPointF(part_.left(), part_.top()),
-                         [this] { paintAgain(); });
+    const QPointF corner = toPoint(part_.painted().origin);
+    return picture_.show(old, item_, offset() + corner, [this] { paintAgain(); });
   }
 
  private:
-  void viewNeedsDisplay() override {
-    idealStale_ = true;
-    HostedView::viewNeedsDisplay();
+  bool isOnScreen() const override {
+    return isInWindow() && isShown() && item_.window()->visibility() != QWindow::Minimized;
   }
 
   swiftui::Environment environment() const override {
     return item_.settings().over(Desktop::environment(scale()));
   }
-
-  layout::Size size() const override { return {item_.width(), item_.height()}; }
 
   double scale() const {
     return item_.window() ? item_.window()->effectiveDevicePixelRatio()
@@ -131,22 +115,8 @@ class ViewSurface final : public HostedView,
   void needsFrame() override { item_.polish(); }
 
   hosting::WindowSession* window() override {
-    QQuickWindow* window = item_.window();
-    if (!window) return nullptr;
-    const auto newSheet = [window](WindowScene & scene, const hosting::Responder* opener) -> auto& {
-      return newSheetItem(*window, scene, opener);
-    };
-    return &WindowScene::of(*window, {[window] { return window; }, newSheet});
+    return item_.window() ? &sessionOf(*item_.window()) : nullptr;
   }
-
-  void activated() override { emit item_.activated(); }
-  void sheetOpened() override { emit item_.sheetOpened(); }
-  void sheetClosed(hosting::SheetCloseReason reason) override {
-    emit item_.sheetClosed(static_cast<SheetCloseReason>(reason));
-  }
-
-  void windowStateChanged() override { onScreenChanged(); }
-  void desktopChanged() override { settingsChanged(); }
 
   layout::Rect boundsInParent() const override {
     return toRect(item_.mapRectToItem(item_.parentItem(), toRect({{}, size()})));
@@ -158,7 +128,7 @@ class ViewSurface final : public HostedView,
   }
 
   void updateImplicitSize() {
-    if (std::exchange(idealStale_, false)) ideal_ = host().sizeThatFits({});
+    if (takeSizeStale()) ideal_ = host().sizeThatFits({});
     const bool hasWidth = item_.widthValid() && item_.width() > 0;
     const double height =
         hasWidth ? host().sizeThatFits({item_.width(), std::nullopt}).height : ideal_.height;
@@ -172,43 +142,34 @@ class ViewSurface final : public HostedView,
     if (layoutPlace_) layoutPlace_->follow(empty);
   }
 
-  /// Returns whether the item came into the viewport or left it, moved by parts of a pixel, or
-  /// needs a picture of another part.
+  /// Returns whether the item needs a frame to be prepared.
   bool place() {
-    const QTransform toWindow = item_.itemTransform(nullptr, nullptr);
-    const QRectF whole(0, 0, item_.width(), item_.height());
-    const QRectF viewport = WindowWatcher::viewportIn(item_.parentItem());
-    const bool inside = toWindow.mapRect(whole).intersects(viewport);
-    seen_ = toRect(toWindow.inverted().mapRect(viewport).intersected(whole));
-    const bool painted = inside && !picture_.isNull();
-    const bool leftPart = painted && !part_.contains(seen_) && part_ != partToPaint();
-    pictureStale_ = pictureStale_ || leftPart;
-    QPointF offset;
-    if (toWindow.type() <= QTransform::TxTranslate) {
-      const double pixel = 1 / scale();
-      offset = QPointF(std::round(toWindow.dx() / pixel) * pixel - toWindow.dx(),
-                       std::round(toWindow.dy() / pixel) * pixel - toWindow.dy());
-    }
-    const bool shifted = std::exchange(offset_, offset) != offset && painted;
+    const QPointF before = offset();
+    const bool needsFrame =
+        part_.follow(WindowWatcher::placeOf(item_, *item_.parentItem()), size(), scale());
+    const bool shifted = before != offset() && !picture_.isNull();
     if (shifted) item_.update();
-    const bool ringShifted = shifted && ring_;
-    return std::exchange(inViewport_, inside) != inside || leftPart || ringShifted;
+    return needsFrame || (shifted && ring_);
   }
 
-  layout::Rect partToPaint() const { return render::partToPaint(size(), seen_, scale()); }
+  QPointF offset() const { return toPoint(part_.offset()); }
 
   void paintAgain() {
-    pictureStale_ = true;
+    part_.changed();
     item_.polish();
   }
 
-  void updatePicture() {
-    part_ = partToPaint();
+  void paintPart() {
     const render::Scene& scene = host().scene(size());
-    const auto paint = [&](const render::Scene& part) {
-      return paintPicture(part, scale(), {0, 0, 0, 0});
+    const layout::Rect& part = part_.painted();
+    const auto paint = [&](const render::Scene& shown) {
+      show(paintPicture(shown, scale(), {0, 0, 0, 0}));
     };
-    picture_.set(part_.size == scene.size ? paint(scene) : paint(render::partOf(scene, part_)));
+    part.size == scene.size ? paint(scene) : paint(render::partOf(scene, part));
+  }
+
+  void show(const QImage& picture) {
+    picture_.set(picture);
     item_.update();
   }
 
@@ -216,32 +177,26 @@ class ViewSurface final : public HostedView,
     const auto around = ringFrame();
     if (!around && !ring_) return;
     if (!ring_) ring_ = new Ring(item_, [this] { paintAgain(); });
-    if (around != ring_->around || (around && pictureStale_)) {
+    if (around != ring_->around || (around && part_.isStale())) {
       ring_->around = around;
       ring_->setPicture(around
                             ? FocusRing::picture(*around, host().environment().appearance, scale())
                             : QImage());
     }
-    if (around) ring_->moveTo(offset_ + FocusRing::frameAround(*around).topLeft());
+    if (around) ring_->moveTo(offset() + FocusRing::frameAround(*around).topLeft());
   }
 
   ViewItem& item_;
   std::unique_ptr<LayoutPlace> layoutPlace_;  ///< made when the view is first empty
 
   layout::Size ideal_;
-  QPointF offset_;     ///< from the item's corner to the nearest whole device pixel
-  layout::Rect seen_;  ///< the part of the item in the viewport
-  layout::Rect part_;  ///< the part of the item that its picture shows
+  hosting::PicturePart part_;
   NodePicture picture_;
   struct Ring : PictureItem {
     using PictureItem::PictureItem;
     std::optional<layout::Rect> around;  ///< the frame that its picture is for
   };
   Ring* ring_ = nullptr;  ///< made with the first ring
-
-  bool idealStale_ = true;
-  bool pictureStale_ = true;
-  bool inViewport_ = false;
 };
 
 }  // namespace quorix::qt

@@ -10,6 +10,7 @@
 
 #include "qt/Conversions.h"
 #include "qt/SheetSurface.h"
+#include "qt/WindowScene.h"
 #include "qt/widgets/WidgetAccessibleSurface.h"
 
 namespace quorix::qt {
@@ -158,13 +159,8 @@ class SheetWidget final : public QWidget, public SheetSurface, public WidgetAcce
   double scale() const override { return devicePixelRatioF(); }
   void followSize() { windowResized({double(width()), double(height())}); }
 
-  void needsFrame() override {
-    if (std::exchange(settleQueued_, true)) return;
-    QMetaObject::invokeMethod(
-        this, [this] { settleQueued_ = false, settle(); }, Qt::QueuedConnection);
-  }
-
-  void settle() {
+  void needsFrame() override { settleLater(); }
+  void settle() override {
     if (!followFrame()) return;
     if (front_) front_->follow(presenter().scene());
     update();
@@ -181,10 +177,9 @@ class SheetWidget final : public QWidget, public SheetSurface, public WidgetAcce
 
   /// Raises the window's sheets, in their order, above widgets that were added later.
   void raiseAll() {
-    const QObjectList children = parentWidget()->children();
-    for (QObject* child : children) {
-      auto* sheet = dynamic_cast<SheetWidget*>(child);
-      if (sheet && sheet->isOpen()) sheet->raise();
+    const auto direct = Qt::FindDirectChildrenOnly;
+    for (auto* sheet : parentWidget()->findChildren<SheetWidget*>(QString(), direct)) {
+      if (sheet->isOpen()) sheet->raise();
     }
   }
 
@@ -256,11 +251,13 @@ class SheetWidget final : public QWidget, public SheetSurface, public WidgetAcce
 
   SheetWidgetFront* front_ = nullptr;  ///< made with the first page
   WId activeBefore_ = 0;  ///< the native window in which a page opens, if it was active
-  bool settleQueued_ = false;
 };
 
-hosting::SheetSession& newSheetWidget(QWidget& window, hosting::WindowSession& session) {
-  return *new SheetWidget(window, session);
+hosting::WindowSession& sessionOf(QWidget& window) {
+  const auto newSheet = [&window](WindowScene & scene, auto*) -> auto& {
+    return *new SheetWidget(window, scene);
+  };
+  return WindowScene::of(window, {[&window] { return window.windowHandle(); }, newSheet});
 }
 
 }  // namespace quorix::qt

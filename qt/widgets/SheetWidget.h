@@ -1,13 +1,13 @@
 #pragma once
 
-#include "platform/hosting/SheetSession.h"
+#include "platform/hosting/WindowSession.h"
 
 class QWidget;
 
 namespace quorix::qt {
 
-/// Makes a sheet over a window of widgets: as large as the window and above everything in it. Main
-/// thread.
-hosting::SheetSession& newSheetWidget(QWidget& window, hosting::WindowSession& session);
+/// The session of a window of widgets, made with the first call. Its sheets are as large as the
+/// window and above everything in it. Main thread.
+hosting::WindowSession& sessionOf(QWidget& window);
 
 }  // namespace quorix::qt

@@ -64,16 +64,7 @@ bool ViewWidget::event(QEvent* event) {
 
 void ViewWidget::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
-  switch (event->type()) {
-    case QEvent::PaletteChange:
-    case QEvent::StyleChange:
-    case QEvent::LayoutDirectionChange:
-    case QEvent::LanguageChange:
-    case QEvent::LocaleChange:
-      return surface_->settingsChanged();
-    default:
-      return;
-  }
+  surface_->settingsChanged();  // compares them
 }
 
 void ViewWidget::paintEvent(QPaintEvent*) {

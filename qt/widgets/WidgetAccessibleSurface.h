@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QWidget>
+#include <utility>
 
 #include "qt/Surface.h"
 #include "qt/WindowScene.h"
@@ -30,8 +31,20 @@ class WidgetAccessibleSurface : public Surface {
     return sheet && sheet != &responder();
   }
 
+ protected:
+  /// Calls `settle` on a later turn, once for all calls until then.
+  void settleLater() {
+    if (std::exchange(settleQueued_, true)) return;
+    QMetaObject::invokeMethod(
+        &widget_, [this] { settleQueued_ = false, settle(); }, Qt::QueuedConnection);
+  }
+
  private:
+  /// Brings the widget up to date before a frame.
+  virtual void settle() = 0;
+
   QWidget& widget_;
+  bool settleQueued_ = false;
 };
 
 }  // namespace quorix::qt

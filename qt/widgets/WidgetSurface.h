@@ -2,15 +2,12 @@
 
 #include <QPainter>
 #include <QPointer>
-#include <algorithm>
-#include <cmath>
 #include <optional>
 #include <utility>
 
 #include "qt/Desktop.h"
 #include "qt/HostedView.h"
 #include "qt/Picture.h"
-#include "qt/WindowScene.h"
 #include "qt/widgets/FocusFrame.h"
 #include "qt/widgets/SheetWidget.h"
 #include "qt/widgets/ViewWidget.h"
@@ -20,12 +17,10 @@
 namespace quorix::qt {
 
 /// The private part of a view widget. Main thread.
-class WidgetSurface final : public HostedView, private WidgetAccessibleSurface {
+class WidgetSurface final : public HostedView<ViewWidget, WidgetAccessibleSurface> {
  public:
   explicit WidgetSurface(ViewWidget& widget)
-      : HostedView(widget, widget.settings()),
-        WidgetAccessibleSurface(widget, *this),
-        widget_(widget) {}
+      : HostedView(widget, widget.settings()), widget_(widget) {}
 
   ~WidgetSurface() override { dropRing(); }
 
@@ -53,13 +48,6 @@ class WidgetSurface final : public HostedView, private WidgetAccessibleSurface {
     if (moved) enterWindow();
   }
 
-  void onScreenChanged() {
-    host().setOnScreen(isOnScreen());
-    needsFrame();
-  }
-
-  void windowStateChanged() override { onScreenChanged(); }
-
   void sizeChanged() {
     resized();
     settle();
@@ -72,11 +60,6 @@ class WidgetSurface final : public HostedView, private WidgetAccessibleSurface {
   }
 
  private:
-  void viewNeedsDisplay() override {
-    sizeStale_ = true;
-    HostedView::viewNeedsDisplay();
-  }
-
   swiftui::Environment environment() const override {
     swiftui::Environment around = Desktop::environment(scale());
     around.appearance = Desktop::appearanceOf(widget_.palette());
@@ -84,7 +67,6 @@ class WidgetSurface final : public HostedView, private WidgetAccessibleSurface {
     return widget_.settings().over(around);
   }
 
-  layout::Size size() const override { return {double(widget_.width()), double(widget_.height())}; }
   double scale() const { return widget_.devicePixelRatioF(); }
   bool hasFocus() const override { return widget_.hasFocus(); }
   bool acceptsFocus() const override { return widget_.focusPolicy() != Qt::NoFocus; }
@@ -97,46 +79,27 @@ class WidgetSurface final : public HostedView, private WidgetAccessibleSurface {
     if (!widget_.focusNextPrevChild(true)) widget_.clearFocus();
   }
 
-  void needsFrame() override {
-    if (std::exchange(settleQueued_, true)) return;
-    QMetaObject::invokeMethod(
-        &widget_, [this] { settleQueued_ = false, settle(); }, Qt::QueuedConnection);
-  }
+  void needsFrame() override { settleLater(); }
 
-  hosting::WindowSession* window() override {
-    QWidget* window = widget_.window();
-    const auto newSheet = [window](WindowScene & scene, auto*) -> auto& {
-      return newSheetWidget(*window, scene);
-    };
-    return &WindowScene::of(*window, {[window] { return window->windowHandle(); }, newSheet});
-  }
-
-  void activated() override { emit widget_.activated(); }
-  void sheetOpened() override { emit widget_.sheetOpened(); }
-  void sheetClosed(hosting::SheetCloseReason reason) override {
-    emit widget_.sheetClosed(static_cast<SheetCloseReason>(reason));
-  }
-
-  void desktopChanged() override { settingsChanged(); }
+  hosting::WindowSession* window() override { return &sessionOf(*widget_.window()); }
 
   /// An answer that layouts got. They lay out again only when one changes.
   using Told = std::optional<std::pair<layout::ProposedSize, QSize>>;
 
-  bool isOnScreen() const { return widget_.isVisible() && !widget_.window()->isMinimized(); }
+  bool isOnScreen() const override { return isShown() && !widget_.window()->isMinimized(); }
 
-  void settle() {
-    if (std::exchange(sizeStale_, false)) {
-      const auto holds = [this](const Told& told) {
-        return !told || sizeFor(told->first) == told->second;
-      };
-      if (!holds(ideal_) || !holds(least_) || !holds(fitted_)) {
-        ideal_ = least_ = fitted_ = std::nullopt;
-        widget_.updateGeometry();
-      }
+  void settle() override {
+    const auto holds = [this](const Told& told) {
+      return !told || sizeFor(told->first) == told->second;
+    };
+    if (takeSizeStale() && !(holds(ideal_) && holds(least_) && holds(fitted_))) {
+      ideal_ = least_ = fitted_ = std::nullopt;
+      widget_.updateGeometry();
     }
     if (isOnScreen() && refreshScene()) widget_.update();
     updateRing();
-    rest(isOnScreen() && isInView(widget_));
+    // A widget that is scrolled away is visible to Qt.
+    rest(isOnScreen() && !widget_.visibleRegion().isEmpty());
   }
 
   QSize tell(Told& told, layout::ProposedSize proposal) {
@@ -160,32 +123,15 @@ class WidgetSurface final : public HostedView, private WidgetAccessibleSurface {
   }
 
   QSize sizeFor(layout::ProposedSize proposal) {
-    const layout::Size size = host().sizeThatFits(proposal);
-    return {wholePixels(size.width), wholePixels(size.height)};
-  }
-
-  /// Rounds `points` up to whole pixels, except for the rounding errors of additions.
-  static int wholePixels(double points) {
-    constexpr double slack = 1.0 / 256;
-    return static_cast<int>(std::clamp(std::ceil(points - slack), 0.0, double(QWIDGETSIZE_MAX)));
-  }
-
-  /// Whether a part of `widget` is inside all its ancestors. A widget that is scrolled away is not,
-  /// though Qt calls it visible.
-  static bool isInView(const QWidget& widget) {
-    QRect left = widget.rect();
-    for (const QWidget* at = &widget; !at->isWindow() && !left.isEmpty(); at = at->parentWidget()) {
-      left = left.translated(at->pos()).intersected(at->parentWidget()->rect());
-    }
-    return !left.isEmpty();
+    const layout::Size size = layout::PixelGrid(1).ceil(host().sizeThatFits(proposal));
+    constexpr QSizeF most(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    return QSizeF(size.width, size.height).boundedTo(most).toSize();
   }
 
   ViewWidget& widget_;
   QPointer<QWidget> window_;
   Told ideal_, least_, fitted_;
   QPointer<FocusFrame> ring_;  ///< while it is visible
-  bool sizeStale_ = false;
-  bool settleQueued_ = false;
 };
 
 }  // namespace quorix::qt

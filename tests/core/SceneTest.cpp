@@ -1,9 +1,10 @@
+#include <array>
 #include <sstream>
 
 #include "platform/hosting/EmbeddedPages.h"
 #include "platform/hosting/SceneLayers.h"
 #include "platform/hosting/SheetPanel.h"
-#include "platform/hosting/ViewportMotion.h"
+#include "platform/hosting/Viewport.h"
 #include "tests/core/Vectors.h"
 
 namespace quorix::hosting {
@@ -128,17 +129,51 @@ TEST(PagePlace, ReachesTheTopOnlyBetweenTheCornersAndWhereThePageCanBeCut) {
   });
 }
 
-TEST(ViewportMotion, ConcernsTheEdgesOfAListThatScrollsByWholePixels) {
+/// A view whose parent is known by its origin in a window of 300 by 100.
+struct Row : ScrolledViews<std::optional<layout::Point>>::View {
+  using View::enter;
+  layout::Rect bounds;
+  int checks = 0;
+
+ private:
+  layout::Rect boundsInParent() const override { return bounds; }
+  void placeMayHaveChanged() override { ++checks; }
+};
+
+TEST(ScrolledViews, ChecksTheEdgesOfAListThatScrollsByWholePixels) {
   forEachRow("layout/viewport", [](simdjson::dom::element row) {
-    ViewportMotion motion;
-    for (const auto& parent : {row["from"], row["to"]}) {  // its origin in a window of 300 by 100
-      std::optional<layout::Point> origin;
-      if (!parent.is_null()) origin = {parent.at(0), parent.at(1)};
-      const layout::Point corner = origin.value_or(layout::Point{});
-      motion.move({{-corner.x, -corner.y}, {300, 100}}, origin, 2);
+    ScrolledViews<std::optional<layout::Point>> views;
+    const std::optional<layout::Point> still = layout::Point{};
+    std::optional<layout::Point> parent;
+    std::array<Row, 20> others;  // some of which each frame checks
+    Row view;
+    for (Row& other : others) other.enter(views, still);
+    view.enter(views, parent);
+    view.bounds = {{0, row["top"]}, {100, 20}};
+    for (const auto& origin : {row["from"], row["to"]}) {
+      parent.reset();
+      if (!origin.is_null()) parent = {origin.at(0), origin.at(1)};
+      view.checks = 0;
+      views.frame(2, [](const std::optional<layout::Point>& in) -> ViewportPlace {
+        const layout::Point corner = in.value_or(layout::Point{});
+        return {{{-corner.x, -corner.y}, {300, 100}}, in};
+      });
     }
-    EXPECT_EQ(motion.concerns({{0, row["top"]}, {100, 20}}, row["isNew"]),
-              bool(row["isConcerned"]));
+    EXPECT_EQ(view.checks, row["isConcerned"] ? 1 : 0);
+  });
+}
+
+TEST(PicturePart, IsPaintedAgainOnceTheViewShowsAnother) {
+  PicturePart part;
+  const layout::Size size{375, 20'000};
+  forEachRow("layout/picture_parts", [&](simdjson::dom::element row) {
+    const double top = row["top"];
+    const ViewportPlace place{{{0, -top}, {375, 600}}, {{0, top}}};
+    EXPECT_EQ(part.follow(place, size, 2), bool(row["needsFrame"]));
+    EXPECT_EQ(part.isInSight(), bool(row["isInSight"]));
+    EXPECT_EQ(part.offset().y, double(row["offset"]));
+    if (part.isInSight()) part.takeStale();
+    EXPECT_EQ(part.painted().top(), double(row["painted"]));
   });
 }
 
