@@ -146,7 +146,7 @@ Transfer::~Transfer() {
 }
 
 void Transfer::timerEvent(QTimerEvent*) {
-  if (ended_) end(foundation::failure(URLError::timedOut, "the request took too long"));
+  end(foundation::failure(URLError::timedOut, "the request took too long"));
 }
 
 void Transfer::connectTo(const QUrl& address, bool again) {
@@ -230,10 +230,11 @@ void Transfer::hangUp() {
 }
 
 void Transfer::end(URLResponse response) {
+  hangUp();
+  if (!ended_) return;
   qCInfo(networkLog).noquote() << "GET" << loggedAddress(address_) << outcome(response)
                                << begun_.elapsed() << "ms"
                                << (response.body ? response.body->size() : 0) << "bytes";
-  hangUp();
   QMetaObject::invokeMethod(
       this,
       [ended = std::exchange(ended_, {}), response = std::move(response)] { ended(response); },

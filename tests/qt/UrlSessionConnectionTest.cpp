@@ -6,6 +6,7 @@
 #include <QSslConfiguration>
 #include <QTcpServer>
 #include <cstdlib>
+#include <semaphore>
 
 #include "tests/qt/UrlSession.h"
 #include "tests/qt/WaitUntil.h"
@@ -139,16 +140,29 @@ class SilentServer {
   sockaddr_in address_{};
 };
 
+/// A protocol that does not return in time is abandoned, with its thread.
 [[noreturn]] void endTheApplication() {
+  std::binary_semaphore blocked(0), release(0);
+  const auto protocol =
+      foundation::URLSession::shared().registerProtocol([&](const foundation::URL& url) {
+        if (url.path() == "/block") {
+          blocked.release();
+          release.acquire();
+        }
+        return std::nullopt;
+      });
   qt::installEngine();
   const SilentServer server;
-  Fetch pending(server.base() + "/still");
+  std::vector<Fetch> pending;
+  pending.emplace_back(server.base() + "/still");
   bool passed = server.hears();
+  pending.emplace_back(server.base() + "/block");
+  blocked.acquire();
   delete QCoreApplication::instance();
-  passed = passed && pending.isDone();
-  Fetch without(server.base() + "/without");
-  for (Fetch* fetch : {&pending, &without}) {
-    passed = passed && fetch->error() == QNetworkReply::OperationCanceledError;
+  for (const Fetch& fetch : pending) passed = passed && fetch.isDone();
+  pending.emplace_back(server.base() + "/without");
+  for (Fetch& fetch : pending) {
+    passed = passed && fetch.error() == QNetworkReply::OperationCanceledError;
   }
 
   int argc = 0;
@@ -158,6 +172,7 @@ class SilentServer {
     answering.serve("/x", {httpAnswer(200, "answer")});
     passed = passed && Fetch(answering.base() + "/x").wait().response.body == "answer";
   }
+  release.release();
   const Fetch atTheEnd(server.base() + "/still");
   passed = passed && server.hears();
   std::exit(passed ? 0 : 1);
