@@ -27,18 +27,11 @@ class PriceGlyphs {
     double advance = 0;  ///< at the end of a line
   };
 
-  /// Whether `run` has digits, and so may be another text in each row.
-  static bool areIn(const Run& run) {
-    return run.text.find_first_of("0123456789") != std::string::npos;
-  }
+  /// Whether `text` has digits, and so may be another one in each row.
   static bool mayBePrice(const AttributedText& text) {
     return text.runs.size() == 1 && text.direction == layout::LayoutDirection::leftToRight &&
-           areIn(text.runs[0]);
+           text.runs[0].text.find_first_of("0123456789") != std::string::npos;
   }
-
-  /// Counts a price. True once, when there were enough of them to learn: that costs as much as
-  /// shaping some fifty prices, too much for a page with a row or two.
-  bool isTimeToLearn() { return prices_ < pricesToLearn && ++prices_ == pricesToLearn; }
 
   /// Two texts to learn from. Each has every pair of characters; a pair's neighbors differ.
   static std::array<std::string, 2> samples() {
@@ -77,7 +70,6 @@ class PriceGlyphs {
   }
 
  private:
-  static constexpr int pricesToLearn = 16;
   static constexpr std::array<std::string_view, 16> characters = {
       "0", "1", "2", "3", "4", "5", "6", "7", "8", "9", ".", ",", "\u00A0", "€", "$", "£"};
   static constexpr std::size_t count = characters.size();
@@ -116,7 +108,6 @@ class PriceGlyphs {
     return known == value;
   }
 
-  int prices_ = 0;
   std::array<Known, count> known_;
 };
 
@@ -134,7 +125,7 @@ class PriceFaces {
   std::optional<ShapedText<Glyphs>> set(const AttributedText& price, Shape shape, Make make) {
     const Run& run = price.runs[0];
     Face& face = find(run.font);
-    if (face.glyphs.isTimeToLearn()) learn(face, shape);
+    if (++face.prices == pricesToLearn) learn(face, shape);
     if (!face.sample) return std::nullopt;
     std::vector<PriceGlyphs::Glyph> glyphs;
     glyphs.reserve(run.text.size());
@@ -155,10 +146,13 @@ class PriceFaces {
 
  private:
   static constexpr std::size_t mostFaces = 8;
+  /// Learning costs as much as shaping some fifty prices, too much for a page with a row or two.
+  static constexpr std::size_t pricesToLearn = 16;
 
   struct Face {
     std::string name;
     swiftui::FontWeight weight;
+    std::size_t prices = 0;
     PriceGlyphs glyphs{};
     std::optional<ShapedText<Glyphs>> sample{};  ///< absent: not learned
   };

@@ -203,13 +203,11 @@ QtFonts& QtFonts::shared() { return applicationLifetime<QtFonts>(); }
 QtFonts::QtFonts() {
   installSystemLookup();
   generation_ = FontManager::shared().generation();
-  connection_ = QObject::connect(qGuiApp, &QGuiApplication::fontDatabaseChanged, [this] {
+  QObject::connect(qGuiApp, &QGuiApplication::fontDatabaseChanged, &follower_, [this] {
     // New faces of ours are counted by `generation_`.
     if (!RegisteredFaces::shared().isAnnouncing()) databaseChanged_ = true;
   });
 }
-
-QtFonts::~QtFonts() { QObject::disconnect(connection_); }
 
 void QtFonts::installSystemLookup() { FontManager::shared().setSystemLookup(&systemKnows); }
 

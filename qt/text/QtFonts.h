@@ -44,9 +44,6 @@ class QtFonts {
   static QtFonts& shared();
 
   QtFonts();
-  ~QtFonts();
-  QtFonts(const QtFonts&) = delete;
-  QtFonts& operator=(const QtFonts&) = delete;
 
   /// Lets the font manager look up the faces that Qt has on its own. May be called again.
   QUORIX_EXPORT static void installSystemLookup();
@@ -67,7 +64,7 @@ class QtFonts {
   foundation::Cache<text::ResolvedFont, ShapingFont> fonts_{128};
   std::size_t generation_ = 0;
   bool databaseChanged_ = false;
-  QMetaObject::Connection connection_;
+  QObject follower_;  ///< of the font database
 };
 
 }  // namespace quorix::qt
