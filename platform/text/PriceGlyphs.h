@@ -118,11 +118,13 @@ class PriceFaces {
   /// `em` is the font size, in points, at which an engine's unit is a point.
   explicit PriceFaces(double em) : em_(em) {}
 
-  /// What the engine would make of `price`, which `mayBePrice`, on one line. Absent for other texts
-  /// and faces that were not learned. `shape(sample, glyphs)` makes the lines of a text to learn
-  /// from and appends its glyphs; `make(like, glyphs)` makes the engine's own of them.
+  /// What the engine would make of `price`, which `mayBePrice`, on one line with units of `unit`
+  /// points. Absent for other texts and faces that were not learned. `shape(sample, glyphs)` makes
+  /// the lines of a text to learn from and its glyphs; `make(like, glyphs)` makes the engine's own
+  /// of them.
   template <class Shape, class Make>
-  std::optional<ShapedText<Glyphs>> set(const AttributedText& price, Shape shape, Make make) {
+  std::optional<ShapedText<Glyphs>> set(const AttributedText& price, double unit, Shape shape,
+                                        Make make) {
     const Run& run = price.runs[0];
     Face& face = find(run.font);
     if (++face.prices == pricesToLearn) learn(face, shape);
@@ -133,11 +135,11 @@ class PriceFaces {
     if (!advance) return std::nullopt;
     const auto& like = face.sample->lines[0];
     ShapedText<Glyphs> shaped;
-    shaped.unit = run.font.points / em_;
-    const double width = *advance * shaped.unit;
+    shaped.unit = unit;
+    const double width = *advance * unit;
     shaped.metrics.size = {measuredWidth(width, width, layout::infinity),
-                           face.sample->metrics.size.height * shaped.unit};
-    shaped.lines.push_back({like.baseline * shaped.unit, width, {}, {}});
+                           face.sample->metrics.size.height * unit};
+    shaped.lines.push_back({like.baseline * unit, width, {}, {}});
     shaped.lines[0].add(make(like.pieces[0].glyphs, glyphs), 0, 0, width);
     return shaped;
   }
