@@ -27,18 +27,11 @@ class PriceGlyphs {
     double advance = 0;  ///< at the end of a line
   };
 
-  /// Whether `run` has digits, and so may be another text in each row.
-  static bool areIn(const Run& run) {
-    return run.text.find_first_of("0123456789") != std::string::npos;
-  }
+  /// Whether `text` has digits, and so may be another one in each row.
   static bool mayBePrice(const AttributedText& text) {
     return text.runs.size() == 1 && text.direction == layout::LayoutDirection::leftToRight &&
-           areIn(text.runs[0]);
+           text.runs[0].text.find_first_of("0123456789") != std::string::npos;
   }
-
-  /// Counts a price. True once, when there were enough of them to learn: that costs as much as
-  /// shaping some fifty prices, too much for a page with a row or two.
-  bool isTimeToLearn() { return prices_ < pricesToLearn && ++prices_ == pricesToLearn; }
 
   /// Two texts to learn from. Each has every pair of characters; a pair's neighbors differ.
   static std::array<std::string, 2> samples() {
@@ -77,7 +70,6 @@ class PriceGlyphs {
   }
 
  private:
-  static constexpr int pricesToLearn = 16;
   static constexpr std::array<std::string_view, 16> characters = {
       "0", "1", "2", "3", "4", "5", "6", "7", "8", "9", ".", ",", "\u00A0", "€", "$", "£"};
   static constexpr std::size_t count = characters.size();
@@ -116,7 +108,6 @@ class PriceGlyphs {
     return known == value;
   }
 
-  int prices_ = 0;
   std::array<Known, count> known_;
 };
 
@@ -127,14 +118,16 @@ class PriceFaces {
   /// `em` is the font size, in points, at which an engine's unit is a point.
   explicit PriceFaces(double em) : em_(em) {}
 
-  /// What the engine would make of `price`, which `mayBePrice`, on one line. Absent for other texts
-  /// and faces that were not learned. `shape(sample, glyphs)` makes the lines of a text to learn
-  /// from and appends its glyphs; `make(like, glyphs)` makes the engine's own of them.
+  /// What the engine would make of `price`, which `mayBePrice`, on one line with units of `unit`
+  /// points. Absent for other texts and faces that were not learned. `shape(sample, glyphs)` makes
+  /// the lines of a text to learn from and its glyphs; `make(like, glyphs)` makes the engine's own
+  /// of them.
   template <class Shape, class Make>
-  std::optional<ShapedText<Glyphs>> set(const AttributedText& price, Shape shape, Make make) {
+  std::optional<ShapedText<Glyphs>> set(const AttributedText& price, double unit, Shape shape,
+                                        Make make) {
     const Run& run = price.runs[0];
     Face& face = find(run.font);
-    if (face.glyphs.isTimeToLearn()) learn(face, shape);
+    if (++face.prices == pricesToLearn) learn(face, shape);
     if (!face.sample) return std::nullopt;
     std::vector<PriceGlyphs::Glyph> glyphs;
     glyphs.reserve(run.text.size());
@@ -142,11 +135,11 @@ class PriceFaces {
     if (!advance) return std::nullopt;
     const auto& like = face.sample->lines[0];
     ShapedText<Glyphs> shaped;
-    shaped.unit = run.font.points / em_;
-    const double width = *advance * shaped.unit;
+    shaped.unit = unit;
+    const double width = *advance * unit;
     shaped.metrics.size = {measuredWidth(width, width, layout::infinity),
-                           face.sample->metrics.size.height * shaped.unit};
-    shaped.lines.push_back({like.baseline * shaped.unit, width, {}, {}});
+                           face.sample->metrics.size.height * unit};
+    shaped.lines.push_back({like.baseline * unit, width, {}, {}});
     shaped.lines[0].add(make(like.pieces[0].glyphs, glyphs), 0, 0, width);
     return shaped;
   }
@@ -155,10 +148,13 @@ class PriceFaces {
 
  private:
   static constexpr std::size_t mostFaces = 8;
+  /// Learning costs as much as shaping some fifty prices, too much for a page with a row or two.
+  static constexpr std::size_t pricesToLearn = 16;
 
   struct Face {
     std::string name;
     swiftui::FontWeight weight;
+    std::size_t prices = 0;
     PriceGlyphs glyphs{};
     std::optional<ShapedText<Glyphs>> sample{};  ///< absent: not learned
   };

@@ -4,9 +4,12 @@
 #include <QGuiApplication>
 #include <QRawFont>
 #include <QSignalBlocker>
+#include <QStringList>
 #include <QtEndian>
 #include <cstdlib>
 #include <optional>
+#include <set>
+#include <unordered_map>
 #include <utility>
 
 #include "platform/graphics/FontManager.h"
@@ -23,20 +26,6 @@ constexpr int anySize = 12;
 bool hasGuiApplication() {
   return qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr;
 }
-
-/// Runs on the thread that registers `face`; Qt's font database is used on the main thread only.
-void handToQt(const GraphicsFont& face) {
-  if (!hasGuiApplication()) return;  // `follow` does it later
-  QMetaObject::invokeMethod(
-      qGuiApp, [name = face.postScriptName()] { RegisteredFaces::shared().find(name); });
-}
-
-/// Runs when an application object is made.
-void follow() {
-  FontManager::shared().setRegistrationObserver(&handToQt);
-  if (hasGuiApplication()) RegisteredFaces::shared().loadAll();
-}
-Q_COREAPP_STARTUP_FUNCTION(follow)
 
 /// The font with which Qt draws `file`. Where a face of the same family and style is installed from
 /// another foundry, Qt tells the two apart by "Family [Foundry]".
@@ -56,74 +45,99 @@ QFont nameOf(const QRawFont& file) {
   return plain;
 }
 
-}  // namespace
+/// Adds the font manager's faces to Qt: each when it is registered, and those registered before the
+/// application object when that is made. Main thread.
+class RegisteredFaces {
+ public:
+  static RegisteredFaces& shared() { return applicationLifetime<RegisteredFaces>(); }
 
-RegisteredFaces& RegisteredFaces::shared() { return applicationLifetime<RegisteredFaces>(); }
+  /// The registered face `name`, added to Qt on the first call; null when there is none, or Qt
+  /// cannot read it.
+  const QFont* find(const std::string& name) {
+    const auto known = faces_.find(name);
+    if (known != faces_.end()) return &known->second;
+    const auto face = FontManager::shared().face(name);
+    const auto font = face ? load(*face) : std::nullopt;
+    if (!font) return nullptr;
+    // Qt finds faces by family; this lets a host use the PostScript name.
+    QFont::insertSubstitution(QString::fromStdString(name), font->family());
+    return &faces_.emplace(name, *font).first->second;
+  }
 
-const QFont* RegisteredFaces::find(const std::string& name) {
-  const auto known = faces_.find(name);
-  if (known != faces_.end()) return &known->second;
-  const auto face = FontManager::shared().face(name);
-  if (!face) return nullptr;
-  const auto font = load(*face);
-  if (!font) return nullptr;
-  // Qt finds faces by family; this lets a host use the PostScript name.
-  QFont::insertSubstitution(QString::fromStdString(name), font->family());
-  return &faces_.emplace(name, *font).first->second;
-}
+  /// Adds every registered face to Qt.
+  void loadAll() {
+    for (const GraphicsFont& face : FontManager::shared().faces()) find(face.postScriptName());
+  }
 
-void RegisteredFaces::loadAll() {
-  for (const GraphicsFont& face : FontManager::shared().faces()) find(face.postScriptName());
-}
+  /// Whether the `fontDatabaseChanged` being emitted is about these faces alone.
+  bool isAnnouncing() const { return announcing_; }
 
-/// Adds a font file to Qt. If the host has added a face of that name, uses the host's: its own
-/// texts must not change.
-std::optional<QFont> RegisteredFaces::load(const GraphicsFont& face) {
-  const std::string_view data = face.data().text();
-  const QByteArray bytes(data.data(), static_cast<qsizetype>(data.size()));
-  const QString family = QString::fromStdString(face.familyName());
-  const QString style = QString::fromStdString(face.styleName());
-  if (isOfHost(family, style)) return QFontDatabase::font(family, style, anySize);
-  if (QFontDatabase::styles(family).isEmpty()) ownFamilies_ += family;
-  int id = -1;
-  {
+ private:
+  /// Adds a font file to Qt. If the host has added a face of that name, uses the host's: its own
+  /// texts must not change.
+  std::optional<QFont> load(const GraphicsFont& face) {
+    const std::string_view data = face.data().text();
+    const QByteArray bytes(data.data(), static_cast<qsizetype>(data.size()));
+    const QString family = QString::fromStdString(face.familyName());
+    const QString style = QString::fromStdString(face.styleName());
+    if (isOfHost(family, style)) return QFontDatabase::font(family, style, anySize);
+    if (QFontDatabase::styles(family).isEmpty()) ownFamilies_ += family;
     // A font constant may be under construction, and a slot of the host's might read it.
     const QSignalBlocker quiet(qGuiApp);
-    id = QFontDatabase::addApplicationFontFromData(bytes);
+    const int id = QFontDatabase::addApplicationFontFromData(bytes);
     if (id < 0) return std::nullopt;
     ids_.insert(id);
+    announce();
+    const bool isOwn = ownFamilies_.contains(family) &&
+                       QFontDatabase::applicationFontFamilies(id).contains(family);
+    if (isOwn) return QFontDatabase::font(family, style, anySize);
+    return nameOf(QRawFont(bytes, anySize));
   }
-  announce();
-  const bool isOwn =
-      ownFamilies_.contains(family) && QFontDatabase::applicationFontFamilies(id).contains(family);
-  if (isOwn) return QFontDatabase::font(family, style, anySize);
-  return nameOf(QRawFont(bytes, anySize));
-}
 
-/// Whether the host has added such a face to Qt's application fonts.
-bool RegisteredFaces::isOfHost(const QString& family, const QString& style) const {
-  constexpr int idsToTry = 256;  // Qt numbers them from 0 and has no count of them
-  for (int id = 0; id < idsToTry; ++id) {
-    if (ids_.contains(id) || !QFontDatabase::applicationFontFamilies(id).contains(family)) continue;
-    return QFontDatabase::styles(family).contains(style);
+  /// Whether the host has added such a face to Qt's application fonts.
+  bool isOfHost(const QString& family, const QString& style) const {
+    constexpr int idsToTry = 256;  // Qt numbers them from 0 and has no count of them
+    for (int id = 0; id < idsToTry; ++id) {
+      const bool isOurs = ids_.contains(id);
+      if (isOurs || !QFontDatabase::applicationFontFamilies(id).contains(family)) continue;
+      return QFontDatabase::styles(family).contains(style);
+    }
+    return false;
   }
-  return false;
-}
 
-/// Sends Qt's notice about new faces, once for all of them, with the next turn of the event loop.
-void RegisteredFaces::announce() {
-  if (!std::exchange(announced_, false)) return;
+  /// Sends Qt's notice about new faces, once for all of them, with the next turn of the event loop.
+  void announce() {
+    if (!std::exchange(announced_, false)) return;
+    QMetaObject::invokeMethod(
+        qGuiApp,
+        [this] {
+          announced_ = announcing_ = true;
+          emit qGuiApp->fontDatabaseChanged();
+          announcing_ = false;
+        },
+        Qt::QueuedConnection);
+  }
+
+  std::unordered_map<std::string, QFont> faces_;
+  std::set<int> ids_;        ///< of our faces among Qt's application fonts
+  QStringList ownFamilies_;  ///< the families that have only our faces
+  bool announced_ = true;
+  bool announcing_ = false;
+};
+
+/// Runs on the thread that registers `face`; Qt's font database is used on the main thread only.
+void handToQt(const GraphicsFont& face) {
+  if (!hasGuiApplication()) return;  // `follow` does it later
   QMetaObject::invokeMethod(
-      qGuiApp,
-      [this] {
-        announced_ = announcing_ = true;
-        emit qGuiApp->fontDatabaseChanged();
-        announcing_ = false;
-      },
-      Qt::QueuedConnection);
+      qGuiApp, [name = face.postScriptName()] { RegisteredFaces::shared().find(name); });
 }
 
-namespace {
+/// Runs when an application object is made.
+void follow() {
+  FontManager::shared().setRegistrationObserver(&handToQt);
+  if (hasGuiApplication()) RegisteredFaces::shared().loadAll();
+}
+Q_COREAPP_STARTUP_FUNCTION(follow)
 
 /// The face of that PostScript name, if it has the usual form: family and style without spaces,
 /// with a hyphen between them.
@@ -179,13 +193,7 @@ text::Stroke strikethrough(const QRawFont& font) {
     const double top = qFromBigEndian<qint16>(os2.constData() + positionAt) / font.unitsPerEm();
     if (size > 0 && top > 0) return {size / 2 - top, size};
   }
-  const double em = font.pixelSize();
-  return {-font.xHeight() / 2 / em, font.lineThickness() / em};
-}
-
-text::Stroke underline(const QRawFont& font) {
-  const double em = font.pixelSize();
-  return {font.underlinePosition() / em, font.lineThickness() / em};
+  return {-font.xHeight() / 2 / font.pixelSize(), font.lineThickness() / font.pixelSize()};
 }
 
 }  // namespace
@@ -195,13 +203,11 @@ QtFonts& QtFonts::shared() { return applicationLifetime<QtFonts>(); }
 QtFonts::QtFonts() {
   installSystemLookup();
   generation_ = FontManager::shared().generation();
-  connection_ = QObject::connect(qGuiApp, &QGuiApplication::fontDatabaseChanged, [this] {
+  QObject::connect(qGuiApp, &QGuiApplication::fontDatabaseChanged, &follower_, [this] {
     // New faces of ours are counted by `generation_`.
     if (!RegisteredFaces::shared().isAnnouncing()) databaseChanged_ = true;
   });
 }
-
-QtFonts::~QtFonts() { QObject::disconnect(connection_); }
 
 void QtFonts::installSystemLookup() { FontManager::shared().setSystemLookup(&systemKnows); }
 
@@ -235,7 +241,8 @@ ShapingFont QtFonts::find(text::ResolvedFont wanted, int pixels) {
     font.setHintingPreference(QFont::PreferNoHinting);
     font.setStyleStrategy(QFont::NoSubpixelAntialias);
     const QRawFont raw = QRawFont::fromFont(font);
-    return ShapingFont{font, underline(raw), strikethrough(raw), raw.supportsCharacter(wordJoiner)};
+    const text::Stroke underline{raw.underlinePosition() / pixels, raw.lineThickness() / pixels};
+    return ShapingFont{font, underline, strikethrough(raw), raw.supportsCharacter(wordJoiner)};
   });
 }
 

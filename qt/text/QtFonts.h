@@ -2,54 +2,17 @@
 
 #include <QFont>
 #include <QObject>
-#include <QStringList>
 #include <algorithm>
 #include <cstddef>
-#include <optional>
-#include <set>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 
 #include "platform/foundation/Cache.h"
 #include "platform/foundation/Export.h"
-#include "platform/graphics/FontManager.h"
 #include "platform/text/AttributedText.h"
 #include "platform/text/ShapedText.h"
 
 namespace quorix::qt {
-
-/// Adds the font manager's faces to Qt: each when it is registered, and those registered before the
-/// application object when that is made. Main thread.
-class RegisteredFaces {
- public:
-  static RegisteredFaces& shared();
-
-  RegisteredFaces() = default;
-  RegisteredFaces(const RegisteredFaces&) = delete;
-  RegisteredFaces& operator=(const RegisteredFaces&) = delete;
-
-  /// The registered face `name`, added to Qt on the first call; null when there is none, or Qt
-  /// cannot read it.
-  const QFont* find(const std::string& name);
-
-  /// Adds every registered face to Qt.
-  void loadAll();
-
-  /// Whether the `fontDatabaseChanged` being emitted is about these faces alone.
-  bool isAnnouncing() const { return announcing_; }
-
- private:
-  std::optional<QFont> load(const graphics::GraphicsFont& face);
-  bool isOfHost(const QString& family, const QString& style) const;
-  void announce();
-
-  std::unordered_map<std::string, QFont> faces_;
-  std::set<int> ids_;        ///< of our faces among Qt's application fonts
-  QStringList ownFamilies_;  ///< the families that have only our faces
-  bool announced_ = true;
-  bool announcing_ = false;
-};
 
 /// A face at the size that texts are shaped in, and the places of its decorations.
 ///
@@ -81,9 +44,6 @@ class QtFonts {
   static QtFonts& shared();
 
   QtFonts();
-  ~QtFonts();
-  QtFonts(const QtFonts&) = delete;
-  QtFonts& operator=(const QtFonts&) = delete;
 
   /// Lets the font manager look up the faces that Qt has on its own. May be called again.
   QUORIX_EXPORT static void installSystemLookup();
@@ -104,7 +64,7 @@ class QtFonts {
   foundation::Cache<text::ResolvedFont, ShapingFont> fonts_{128};
   std::size_t generation_ = 0;
   bool databaseChanged_ = false;
-  QMetaObject::Connection connection_;
+  QObject follower_;  ///< of the font database
 };
 
 }  // namespace quorix::qt

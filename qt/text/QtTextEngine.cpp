@@ -65,16 +65,18 @@ double QtTextEngine::leastWidth(const text::AttributedText& text) {
 
 const ShapedText& QtTextEngine::shape(const text::AttributedText& text, double width) {
   if (fonts_.refresh()) clear();
-  const auto breakLines = [this](const text::AttributedText& unknown, double points) {
-    const auto learn = [this](const text::AttributedText& sample, std::vector<PriceGlyph>& glyphs) {
-      ShapedText shaped = Paragraph(sample, fonts_).breakLines(layout::infinity);
-      glyphs = glyphsOf(shaped.lines[0]);
-      return shaped;
-    };
+  const auto learn = [this](const text::AttributedText& sample, std::vector<PriceGlyph>& glyphs) {
+    ShapedText shaped = Paragraph(sample, fonts_).breakLines(layout::infinity);
+    glyphs = glyphsOf(shaped.lines[0]);
+    return shaped;
+  };
+  const auto breakLines = [&](const text::AttributedText& unknown, double points) {
     const bool isPrice = points == layout::infinity && text::PriceGlyphs::mayBePrice(unknown) &&
                          !splitsFirstNumber(QString::fromStdString(unknown.runs[0].text));
-    auto price = isPrice ? prices_.set(unknown, learn, glyphRun) : std::nullopt;
-    if (price) return *std::move(price);
+    if (isPrice) {
+      const double unit = ShapingFont::unit(unknown.runs[0].font.points);
+      if (auto price = prices_.set(unknown, unit, learn, glyphRun)) return *std::move(price);
+    }
     ++breaks_;
     return Paragraph(unknown, fonts_).breakLines(points);
   };

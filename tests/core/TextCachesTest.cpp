@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "platform/render/KnownGround.h"
 #include "platform/render/TextPictures.h"
 #include "platform/text/LineCache.h"
 #include "platform/text/PriceGlyphs.h"
@@ -152,78 +151,6 @@ TEST(TextPictures, KeepTheLatestOnly) {
   }
 }
 
-/// An image of 8 by 4 pixels.
-struct Image {
-  static constexpr std::uint32_t light = 0xFF0000FA, dot = 0xFF112233, blended = 0xFF445566;
-  static constexpr layout::Rect all{{}, {8, 4}};
-
-  std::vector<std::uint32_t> memory = std::vector<std::uint32_t>(32);
-  render::Pixels pixels() { return {memory.data(), 8, 8, 4}; }
-
-  /// Its third row.
-  std::string shown() const {
-    std::string row;
-    for (std::size_t at = 16; at < 24; ++at) {
-      row += memory[at] == light     ? '-'
-             : memory[at] == dot     ? 'x'
-             : memory[at] == blended ? 'b'
-                                     : '.';
-    }
-    return row;
-  }
-};
-
-/// A text of 3 by 2 pixels, with two dots of ink right of it.
-TEST(KnownGround, TakesATextFromItsPictureWhereThatLooksTheSame) {
-  enum Before : std::uint8_t { light, glass, picture, ink, clip };
-  const layout::Rect frame{{1, 1}, {3, 2}}, atInk{{5, 1}, {1, 1}}, before{{1, 1}, {2, 1}};
-  const struct {
-    std::vector<std::pair<Before, layout::Rect>> under;
-    std::string shown;
-    double x = 1;
-  } rows[] = {
-      {{}, "....xx.."},
-      {{{light, Image::all}}, "----xx--"},
-      {{{glass, Image::all}}, "........"},
-      {{{light, frame}}, ".---...."},
-      {{{picture, {{2, 2}, {9, 1}}}}, "........"},
-      {{{picture, {{1, 3}, {9, 1}}}}, "....xx.."},
-      {{{ink, atInk}}, "....bb.."},
-      {{{ink, before}}, "....xx.."},
-      {{{light, Image::all}, {ink, atInk}}, "--------"},
-      {{{clip, {{}, {5, 4}}}}, "....x..."},
-      {{}, "x.......", -4},
-      {{}, "........", 1.25},
-  };
-  for (const auto& row : rows) {
-    render::TextPictures<render::InkPicture> pictures;
-    Image image;
-    const auto paint = [&](graphics::RGBA ground) {
-      Image bare;
-      render::KnownGround(bare.pixels()).fill(Image::all, ground);
-      bare.memory[8 + 5] = bare.memory[8 + 6] = Image::dot;  // the text is at 2, 0
-      return render::InkPicture::cropped(bare.pixels(), {2, 0}, ground);
-    };
-    const auto blend = [&](const render::InkPicture& ink, layout::Point at) {
-      const auto first = static_cast<std::size_t>(8 * at.y + at.x);
-      std::fill_n(image.memory.begin() + first, ink.pixels.size(), Image::blended);
-    };
-    for (int time = 0; time < 2; ++time) {  // the second time makes the picture
-      image = {};
-      render::KnownGround ground(image.pixels());
-      for (const auto& [kind, part] : row.under) {
-        const graphics::RGBA color{0, 0, 250, std::uint8_t(kind == glass ? 128 : 255)};
-        if (kind == light || kind == glass) ground.filled(part, color), ground.fill(part, color);
-        if (kind == picture) ground.painted(part);
-        if (kind == ink) ground.inkedAround(part);
-        if (kind == clip) ground.clip(part);
-      }
-      ground.paint({{{row.x, 1}, frame.size}, textOf("fee")}, 1, pictures, paint, blend);
-    }
-    EXPECT_EQ(image.shown(), row.shown) << &row - rows;
-  }
-}
-
 TEST(Stroke, IsWholePixelsHighAndAtLeastOne) {
   const text::Stroke stroke{0.125, 0.0625};
   EXPECT_EQ(stroke.rect(2.4, 20.6, 40, 8), (layout::Rect{{2, 41}, {19, 1}}));  // 0.5 px at 41
@@ -273,8 +200,8 @@ struct Face {
       return text::ShapedText<Glyphs>{{{0, 12}}, 1, {{9, 0, {{glyphs, 0}}, {}}}};
     };
     const auto make = [](const Glyphs&, const Glyphs& glyphs) { return glyphs; };
-    for (int time = 1; time < 16; ++time) EXPECT_FALSE(faces.set(textOf(price), learn, make));
-    return faces.set(textOf(price), learn, make);
+    for (int time = 1; time < 16; ++time) EXPECT_FALSE(faces.set(textOf(price), 2, learn, make));
+    return faces.set(textOf(price), 2, learn, make);
   }
 };
 

@@ -109,6 +109,26 @@ TEST(Picture, IsNullForAnImpossibleSize) {
   EXPECT_TRUE(pictureOf(View(), 100, std::nullopt, 1).isNull());
 }
 
+/// A painter that turns or shears moves nothing to device pixels, and fills no more than it should.
+TEST(Picture, LiesAlongAPaintersAxes) {
+  const render::Scene scene{{60, 40}, {}, {render::FillItem{{{10, 10}, {40, 20}}, {}}}, {}, {}};
+  for (const QTransform& turned : {QTransform().rotate(30), QTransform().rotate(90),
+                                   QTransform().shear(0.5, 0), QTransform().scale(1, 2)}) {
+    QImage image(200, 200, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.translate(100, 50);
+    painter.setTransform(turned, true);
+    paintAsPicture(painter, scene);
+    for (const QPointF inside :
+         {QPointF(11, 11), QPointF(49, 11), QPointF(11, 29), QPointF(49, 29)}) {
+      const QPointF outside = inside + (inside - QPointF(30, 20)) * 0.3;
+      EXPECT_EQ(image.pixel(painter.transform().map(inside).toPoint()), 0xFF000000);
+      EXPECT_EQ(image.pixel(painter.transform().map(outside).toPoint()), 0xFFFFFFFF);
+    }
+  }
+}
+
 TEST(StillScene, ShowsTheSheetsThatASheetPresents) {
   PictureOptions options;
   options.sheet = true;
