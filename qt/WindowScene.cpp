@@ -37,15 +37,12 @@ bool WindowScene::isVisible() const {
 }
 
 hosting::SheetSession& WindowScene::newSheet(const hosting::Responder* opener) {
-  const auto follow = [this](QMargins covered) {
-    setSafeArea({double(covered.top()), double(covered.left()), double(covered.bottom()),
-                 double(covered.right())});
+  const auto follow = [this](QMarginsF covered) {
+    setSafeArea({covered.top(), covered.left(), covered.bottom(), covered.right()});
   };
   // Qt may have made a widget's native window anew since the last sheet.
   if (QWindow* window = toolkit_.window()) {
-    auto watcher = std::make_unique<SafeAreaWatcher>(*window, follow);
-    follow(watcher->covered());
-    safeArea_ = std::move(watcher);
+    safeArea_ = std::make_unique<SafeAreaWatcher<QWindow>>(*window, follow);
   }
   return toolkit_.newSheet(*this, opener);
 }

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QEvent>
 #include <QMargins>
+#include <QVariant>
 #include <QWindow>
 #include <functional>
 #include <memory>
@@ -10,29 +12,40 @@
 
 namespace quorix::qt {
 
+/// The property of a window that holds the host's margins, which may be set before a sheet exists.
+inline constexpr const char* safeAreaProperty = "quorixSafeArea";
+
 /// Follows what the device covers of a window: the host's margins, or else Qt's from 6.9 on. Main
 /// thread.
+template <class Window>
 class SafeAreaWatcher : public QObject {
  public:
-  template <class Window>
-  SafeAreaWatcher(Window& window, std::function<void(QMargins)> changed)
-      : window_(window), changed_(std::move(changed)) {
+  /// Calls `tell` now and after each change.
+  SafeAreaWatcher(Window& window, std::function<void(QMargins)> tell)
+      : window_(window), tell_(std::move(tell)) {
     window.installEventFilter(this);
     if constexpr (requires { window.safeAreaMargins(); }) {
-      own_ = [&window] { return window.safeAreaMargins(); };
-      connect(&window, &Window::safeAreaMarginsChanged, this, [this] { changed_(covered()); });
+      connect(&window, &Window::safeAreaMarginsChanged, this, [this] { tell_(covered()); });
     }
+    tell_(covered());
   }
 
-  QMargins covered() const;
-
  protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::DynamicPropertyChange) tell_(covered());
+    return false;
+  }
 
  private:
-  QWindow& window_;
-  std::function<void(QMargins)> changed_;
-  std::function<QMargins()> own_;  ///< Qt's margins
+  QMargins covered() const {
+    const QVariant said = window_.property(safeAreaProperty);
+    if (said.isValid()) return said.value<QMargins>();
+    if constexpr (requires { window_.safeAreaMargins(); }) return window_.safeAreaMargins();
+    return {};
+  }
+
+  Window& window_;
+  std::function<void(QMargins)> tell_;
 };
 
 /// The session of a toolkit's window. A child of that window; main thread.

@@ -24,6 +24,9 @@ struct Point {
   bool operator==(const Point&) const = default;
 };
 
+/// The distance between two points.
+inline double distance(Point a, Point b) { return std::hypot(a.x - b.x, a.y - b.y); }
+
 struct Rect {
   Point origin;
   Size size;
@@ -40,6 +43,10 @@ struct Rect {
            other.bottom() <= bottom();
   }
   bool isEmpty() const { return size.width <= 0 || size.height <= 0; }
+  /// Its point that is nearest to `p`.
+  Point nearest(Point p) const {
+    return {std::clamp(p.x, left(), right()), std::clamp(p.y, top(), bottom())};
+  }
   Rect translated(Point by) const { return {{origin.x + by.x, origin.y + by.y}, size}; }
   bool operator==(const Rect&) const = default;
 };

@@ -1,10 +1,11 @@
 #pragma once
 
-#include <QtQml/qqml.h>
 #include <QPointer>
 #include <QQuickItem>
 #include <QVariant>
 #include <array>
+
+#include "qt/quick/AttachedObject.h"
 
 namespace quorix::qt {
 
@@ -21,19 +22,15 @@ class LayoutPlace {
     const QQuickItem* parent = item_.parentItem();
     if (empty && properties_ && parent == layout_) return;
     putBack();
-    const QMetaObject* layout = empty ? classOf(parent, "QQuickLayout") : nullptr;
-    if (!layout) return;
-    QObject* attached =
-        qmlAttachedPropertiesObject(&item_, qmlAttachedPropertiesFunction(nullptr, layout), true);
-    if (!attached) return;
+    if (!empty || !parent || !parent->inherits("QQuickLayout")) return;
+    properties_ = attachedObject(item_, "QQuickLayout*");
     layout_ = parent;
-    properties_ = attached;
     // Not both maxima: a layout skips such an item, and the other items of a grid move up.
-    names_ = classOf(parent, "QQuickRowLayout") ? std::array{"maximumWidth", "preferredHeight"}
-                                                : std::array{"preferredWidth", "maximumHeight"};
-    for (std::size_t i = 0; i < names_.size(); ++i) {
-      before_[i] = attached->property(names_[i]);
-      attached->setProperty(names_[i], 0.0);
+    names_ = parent->inherits("QQuickRowLayout") ? std::array{"maximumWidth", "preferredHeight"}
+                                                 : std::array{"preferredWidth", "maximumHeight"};
+    for (std::size_t i = 0; properties_ && i < names_.size(); ++i) {
+      before_[i] = properties_->property(names_[i]);
+      properties_->setProperty(names_[i], 0.0);
     }
   }
 
@@ -44,13 +41,6 @@ class LayoutPlace {
       if (properties_->property(names_[i]) == 0.0) properties_->setProperty(names_[i], before_[i]);
     }
     properties_ = nullptr;
-  }
-
-  /// The class called `name` among those of `item`, or null.
-  static const QMetaObject* classOf(const QQuickItem* item, const char* name) {
-    const QMetaObject* type = item ? item->metaObject() : nullptr;
-    while (type && qstrcmp(type->className(), name) != 0) type = type->superClass();
-    return type;
   }
 
   QQuickItem& item_;

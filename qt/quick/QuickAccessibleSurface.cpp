@@ -7,34 +7,18 @@
 #include <QQuickWindow>
 
 #include "qt/WindowScene.h"
+#include "qt/quick/AttachedObject.h"
 
 namespace quorix::qt {
-namespace {
-
-/// The function that attaches the object which marks an item as accessible. Only QML knows its
-/// type, so the first call makes QML load the module.
-QQmlAttachedPropertiesFunc attachAccessible() {
-  static const QQmlAttachedPropertiesFunc attach = [] {
-    const char* const type = "QQuickAccessibleAttached*";
-    if (!QMetaType::fromName(type).metaObject()) {
-      QQmlEngine engine;
-      QQmlComponent component(&engine);
-      component.setData("import QtQuick\nItem { Accessible.name: '' }", QUrl());
-      delete component.create();
-    }
-    const QMetaObject* known = QMetaType::fromName(type).metaObject();
-    return known ? qmlAttachedPropertiesFunction(nullptr, known) : nullptr;
-  }();
-  return attach;
-}
-
-}  // namespace
 
 void QuickAccessibleSurface::offer() {
-  if (!areRead()) return;
-  if (const QQmlAttachedPropertiesFunc attach = attachAccessible()) {
-    qmlAttachedPropertiesObject(&item_, attach, true);
-  }
+  const char* const type = "QQuickAccessibleAttached*";
+  if (!areRead() || attachedObject(item_, type)) return;
+  QQmlEngine engine;
+  QQmlComponent component(&engine);
+  component.setData("import QtQuick\nItem { Accessible.name: '' }", QUrl());
+  delete component.create();
+  attachedObject(item_, type);
 }
 
 QRect QuickAccessibleSurface::onScreen(const layout::Rect& frame) const {

@@ -85,13 +85,10 @@ class SheetItem final : public SheetArea, public SheetSurface, public QuickAcces
         },
         Qt::QueuedConnection);
     // Qt waits some milliseconds before it begins a frame: uses them to prepare the first one.
-    QMetaObject::invokeMethod(
-        this,
-        [this, opener = QPointer(opener)] {
-          if (opener) opener->ensurePolished();
-          ensurePolished();
-        },
-        Qt::QueuedConnection);
+    later([this, opener = QPointer(opener)] {
+      if (opener) opener->ensurePolished();
+      ensurePolished();
+    });
   }
 
  protected:

@@ -5,7 +5,6 @@
 #include <QQuickWindow>
 #include <QVersionNumber>
 #include <algorithm>
-#include <cmath>
 
 #include "platform/render/Scene.h"
 #include "qt/Conversions.h"
@@ -66,14 +65,12 @@ bool takesPresses(const QQuickItem& item) {
          std::ranges::any_of(item.children(), isPressHandler);
 }
 
-QPointF nearestIn(const QQuickItem& item, QPointF point) {
-  const auto nearest = [](double at, double length) { return std::min(std::max(at, 0.0), length); };
-  return {nearest(point.x(), item.width()), nearest(point.y(), item.height())};
+layout::Point nearestIn(const QQuickItem& item, QPointF point) {
+  return toRect(item.boundingRect()).nearest(toPoint(point));
 }
 
 double distanceOf(const QQuickItem& item, QPointF point) {
-  const QPointF way = point - nearestIn(item, point);
-  return std::hypot(way.x(), way.y());
+  return layout::distance(nearestIn(item, point), toPoint(point));
 }
 
 /// Whether `point` of `item` is scrolled out of sight.
@@ -101,7 +98,7 @@ bool TapRoom::isTakenBy(const QQuickItem& other) const {
 }
 
 bool TapRoom::isFree(const ViewItem& item, QPointF point) {
-  if (!item.window() || isClipped(item, nearestIn(item, point))) return false;
+  if (!item.window() || isClipped(item, toPoint(nearestIn(item, point)))) return false;
   const TapRoom room{item, item.mapToScene(point), distanceOf(item, point)};
   return !room.isTakenBy(*item.window()->contentItem());
 }
@@ -125,7 +122,7 @@ void ViewItem::setView(swiftui::View view) { surface_->replaceView(std::move(vie
 
 bool ViewItem::contains(const QPointF& point) const {
   if (QQuickItem::contains(point)) return true;
-  const QRectF around = QRectF(0, 0, width(), height()).adjusted(-kRoom, -kRoom, kRoom, kRoom);
+  const QRectF around = boundingRect().adjusted(-kRoom, -kRoom, kRoom, kRoom);
   return around.contains(point) && surface_->takesTapAt(toPoint(point)) &&
          TapRoom::isFree(*this, point);
 }

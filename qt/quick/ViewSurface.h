@@ -161,11 +161,9 @@ class ViewSurface final : public HostedView<ViewItem, QuickAccessibleSurface>,
 
   void paintPart() {
     const render::Scene& scene = host().scene(size());
-    const layout::Rect& part = part_.painted();
-    const auto paint = [&](const render::Scene& shown) {
-      show(paintPicture(shown, scale(), {0, 0, 0, 0}));
-    };
-    part.size == scene.size ? paint(scene) : paint(render::partOf(scene, part));
+    const bool isWhole = part_.painted().size == scene.size;
+    const render::Scene part = isWhole ? render::Scene() : partOf(scene, part_.painted());
+    show(paintPicture(isWhole ? scene : part, scale(), {0, 0, 0, 0}));
   }
 
   void show(const QImage& picture) {

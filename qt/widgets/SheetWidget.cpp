@@ -139,8 +139,7 @@ class SheetWidget final : public QWidget, public SheetSurface, public WidgetAcce
     QPainter painter(this);
     painter.fillRect(rect(), ground().shade);
     painter.fillRect(ground().below, ground().color);
-    QMetaObject::invokeMethod(
-        this, [this] { wasShown(); }, Qt::QueuedConnection);
+    later([this] { wasShown(); });
   }
 
   bool focusNextPrevChild(bool next) override {

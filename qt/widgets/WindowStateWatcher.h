@@ -4,11 +4,10 @@
 #include <QPointer>
 #include <QPointingDevice>
 #include <QWidget>
-#include <algorithm>
-#include <cmath>
 #include <utility>
 
 #include "platform/render/Scene.h"
+#include "qt/Conversions.h"
 #include "qt/Surface.h"
 #include "qt/widgets/ViewWidget.h"
 
@@ -37,10 +36,10 @@ class WindowStateWatcher : public QObject {
       case QEvent::MouseButtonDblClick:
         return takesPress(static_cast<QMouseEvent&>(*event));
       case QEvent::MouseMove:
-        return pressed_ && pass(*pressed_, static_cast<QMouseEvent&>(*event));
+        return pressed_ && pass(*pressed_, Phase::moved, static_cast<QMouseEvent&>(*event));
       case QEvent::MouseButtonRelease: {
         const QPointer<ViewWidget> pressed = std::exchange(pressed_, nullptr);
-        return pressed && pass(*pressed, static_cast<QMouseEvent&>(*event));
+        return pressed && pass(*pressed, Phase::released, static_cast<QMouseEvent&>(*event));
       }
       default:
         return false;
@@ -48,6 +47,8 @@ class WindowStateWatcher : public QObject {
   }
 
  private:
+  using Phase = hosting::PointerEvent::Phase;
+
   explicit WindowStateWatcher(QWidget& window) : QObject(&window), window_(window) {
     window.installEventFilter(this);
   }
@@ -69,30 +70,28 @@ class WindowStateWatcher : public QObject {
     const QPointer<WindowStateWatcher> self = this;
     static_cast<QObject&>(window_).event(&press);
     if (!self) return true;
-    if (press.isAccepted() || !pressed_ || !pass(*pressed_, press)) pressed_ = nullptr;
+    const bool taken = !press.isAccepted() && pressed_ && pass(*pressed_, Phase::pressed, press);
+    if (!taken) pressed_ = nullptr;
     return true;
   }
 
   /// How far a point beside `widget` is from it, in points; infinite where the widget takes no tap.
   static double distanceOf(const ViewWidget& widget, QPointF inWindow) {
     if (!widget.isEnabled() || widget.size().isEmpty()) return layout::infinity;
-    const QPointF point = widget.mapFrom(widget.window(), inWindow);
-    const QPointF nearest(std::clamp(point.x(), 0.0, widget.width() - 1.0),
-                          std::clamp(point.y(), 0.0, widget.height() - 1.0));
-    const bool seen = widget.visibleRegion().contains(nearest.toPoint());
-    const double far = std::hypot(point.x() - nearest.x(), point.y() - nearest.y());
+    const layout::Point point = toPoint(widget.mapFrom(widget.window(), inWindow));
+    const layout::Rect pixels{{}, {widget.width() - 1.0, widget.height() - 1.0}};
+    const layout::Point nearest = pixels.nearest(point);
+    const bool seen = widget.visibleRegion().contains(toPoint(nearest).toPoint());
+    const double far = layout::distance(point, nearest);
     return seen && far > 0 && far < render::Scene::roomToTap / 2 ? far : layout::infinity;
   }
 
   /// Returns whether `widget` takes the event.
-  static bool pass(ViewWidget& widget, QMouseEvent& event) {
-    QMouseEvent own(event.type(), widget.mapFrom(widget.window(), event.position()),
-                    event.scenePosition(), event.globalPosition(), event.button(), event.buttons(),
-                    event.modifiers(), event.pointingDevice());
-    own.setTimestamp(event.timestamp());
-    static_cast<QObject&>(widget).event(&own);
-    event.setAccepted(own.isAccepted());
-    return own.isAccepted();
+  static bool pass(const ViewWidget& widget, Phase phase, QMouseEvent& event) {
+    const QPointF point = widget.mapFrom(widget.window(), event.position());
+    const hosting::PointerEvent passed{phase, toPoint(point), double(event.timestamp())};
+    event.setAccepted(widget.isEnabled() && Surface::of(&widget)->responder().handle(passed));
+    return event.isAccepted();
   }
 
   QWidget& window_;
