@@ -3,8 +3,8 @@ import QtWebEngine
 import Quorix.Web
 
 // A page inside an app. All that a browser would ask its user for is refused without a dialog or a word
-// on the log. `page` is a QuickPage. The widgets' page is QuietPage; both keep to one table of
-// requests, tests/web/PageRequestsTest.cpp.
+// on the log. `page` is a QuickPage. The page of Qt Widgets is QuietPage in WidgetPage.cpp; both keep
+// to one table of requests, tests/web/PageRequestsTest.cpp.
 WebEngineView {
     id: view
 
@@ -41,18 +41,12 @@ WebEngineView {
         z: -1
     }
 
+    // What the engine has off stays off: the clipboard, plugins, a page's taking the focus.
     settings {
-        allowWindowActivationFromJavaScript: false
-        javascriptCanAccessClipboard: false
-        javascriptCanOpenWindows: view.opensWindowsUnasked
-        javascriptCanPaste: false
-        javascriptEnabled: view.allowsScripts
         errorPageEnabled: false // the background shows instead
-        focusOnNavigationEnabled: false
         fullScreenSupportEnabled: false
-        navigateOnDropEnabled: false
-        pluginsEnabled: false
-        screenCaptureEnabled: false
+        javascriptCanOpenWindows: view.opensWindowsUnasked
+        javascriptEnabled: view.allowsScripts
         unknownUrlSchemePolicy: WebEngineSettings.AllowAllUnknownUrlSchemes // see onNavigationRequested
     }
 

@@ -1,11 +1,37 @@
+#include <QAuthenticator>
+#include <QChildEvent>
+#include <QDialog>
 #include <QPointer>
+#include <QWebEngineCertificateError>
+#include <QWebEngineClientCertificateSelection>
+#include <QWebEngineFileSystemAccessRequest>
+#include <QWebEngineFullScreenRequest>
 #include <QWebEngineHistory>
+#include <QWebEngineLoadingInfo>
+#include <QWebEngineNewWindowRequest>
+#include <QWebEnginePage>
 #include <QWebEngineProfile>
-#include <QWidget>
+#include <QWebEngineRegisterProtocolHandlerRequest>
+#include <QWebEngineScriptCollection>
+#include <QWebEngineSettings>
+#include <QWebEngineView>
 #include <QWindow>
 
+#if QT_VERSION < QT_VERSION_CHECK(6, 5, 0)
+#include <QWebEngineQuotaRequest>
+#endif
+
+#if QT_VERSION >= QT_VERSION_CHECK(6, 7, 0)
+#include <QWebEngineDesktopMediaRequest>
+#include <QWebEngineWebAuthUxRequest>
+#endif
+
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+#include <QWebEnginePermission>
+#endif
+
 #include "qt/ApplicationLifetime.h"
-#include "qt/web/widgets/QuietPage.h"
+#include "qt/web/WebPageBase.h"
 
 namespace quorix::qt {
 namespace {
@@ -17,12 +43,142 @@ struct WidgetEngine {
   QWebEngineProfile profile;  // off the record
 };
 
+/// A page inside an app. All that a browser would ask its user for is refused without a dialog or a
+/// word on the log. The Qt Quick page is WebPage.qml; one table in
+/// tests/web/PageRequestsTest.cpp tests both.
+class QuietPage final : public QWebEnginePage {
+ public:
+  QuietPage(WidgetEngine& engine, const WebPage::Options& options, WebPageBase& page,
+            QObject* parent)
+      : QWebEnginePage(&engine.profile, parent), page_(page) {
+    setBackgroundColor(options.background);
+    settle(options.settings);
+    scripts().insert(WebPageBase::scripts());
+    tell();
+    refuseRequests();
+    refusePermissions();
+  }
+
+ protected:
+  bool acceptNavigationRequest(const QUrl& address, NavigationType, bool mainFrame) override {
+    return page_.mayNavigate(address, mainFrame);
+  }
+  QStringList chooseFiles(FileSelectionMode, const QStringList&, const QStringList&) override {
+    return {};
+  }
+  void javaScriptAlert(const QUrl&, const QString&) override {}
+  bool javaScriptConfirm(const QUrl&, const QString&) override { return false; }
+  bool javaScriptPrompt(const QUrl&, const QString&, const QString&, QString*) override {
+    return false;
+  }
+  /// Discards the page's console output: a host's log belongs to the host.
+  void javaScriptConsoleMessage(JavaScriptConsoleMessageLevel, const QString&, int,
+                                const QString&) override {}
+
+ private:
+  /// Leaves off what the engine has off: the clipboard, plugins, the whole screen, a page's taking
+  /// the focus.
+  void settle(const webkit::WebContent::Settings& asked) {
+    using Settings = QWebEngineSettings;
+    Settings& own = *settings();
+    own.setAttribute(Settings::ErrorPageEnabled, false);  // the background shows instead
+    own.setAttribute(Settings::JavascriptEnabled, asked.allowsContentJavaScript);
+    own.setAttribute(Settings::JavascriptCanOpenWindows,
+                     asked.javaScriptCanOpenWindowsAutomatically);
+    // acceptNavigationRequest decides.
+    own.setUnknownUrlSchemePolicy(Settings::AllowAllUnknownUrlSchemes);
+  }
+
+  void tell() {
+    connect(this, &QWebEnginePage::loadProgress, &page_, [this](int percent) {
+      if (isLoading()) page_.loadMoved(percent);
+    });
+    connect(this, &QWebEnginePage::loadingChanged, &page_,
+            [this](const QWebEngineLoadingInfo& info) {
+              page_.loadChanged(info.status(), info.url(), info.errorString(), info.errorCode());
+            });
+    connect(this, &QWebEnginePage::newWindowRequested, &page_,
+            [this](const QWebEngineNewWindowRequest& request) {
+              page_.askForWindow(request.requestedUrl(), request.isUserInitiated());
+            });
+    connect(this, &QWebEnginePage::renderProcessTerminated, &page_, &WebPageBase::processEnded);
+  }
+
+  void refuseRequests() {
+    const auto reject = [](auto request) { request.reject(); };
+    connect(this, &QWebEnginePage::fileSystemAccessRequested, this, reject);
+    connect(this, &QWebEnginePage::fullScreenRequested, this, reject);
+    connect(this, &QWebEnginePage::registerProtocolHandlerRequested, this, reject);
+#if QT_VERSION < QT_VERSION_CHECK(6, 5, 0)  // later versions do not ask
+    connect(this, &QWebEnginePage::quotaRequested, this, reject);
+#endif
+    connect(this, &QWebEnginePage::certificateError, this,
+            [](QWebEngineCertificateError error) { error.rejectCertificate(); });
+    connect(this, &QWebEnginePage::selectClientCertificate, this,
+            [](QWebEngineClientCertificateSelection selection) { selection.selectNone(); });
+    const auto withoutName = [](auto&&, QAuthenticator* authenticator) { *authenticator = {}; };
+    connect(this, &QWebEnginePage::authenticationRequired, this, withoutName);
+    connect(this, &QWebEnginePage::proxyAuthenticationRequired, this, withoutName);
+#if QT_VERSION >= QT_VERSION_CHECK(6, 7, 0)
+    connect(this, &QWebEnginePage::desktopMediaRequested, this,
+            [](const QWebEngineDesktopMediaRequest& request) { request.cancel(); });
+    connect(this, &QWebEnginePage::webAuthUxRequested, this,
+            [](QWebEngineWebAuthUxRequest* request) { request->cancel(); });
+#endif
+  }
+
+  void refusePermissions() {
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+    connect(this, &QWebEnginePage::permissionRequested, this,
+            [](const QWebEnginePermission& permission) { permission.deny(); });
+#else
+    connect(this, &QWebEnginePage::featurePermissionRequested, this,
+            [this](const QUrl& origin, Feature feature) {
+              setFeaturePermission(origin, feature, PermissionDeniedByUser);
+            });
+#endif
+  }
+
+  WebPageBase& page_;
+};
+
+/// Keeps off the screen what the engine opens over a page: menus, tooltips and the color dialog,
+/// which a page cannot refuse.
+class QuietView final : public QWebEngineView {
+ public:
+  explicit QuietView(QWidget& parent) : QWebEngineView(&parent) {
+    setContextMenuPolicy(Qt::NoContextMenu);
+    setAcceptDrops(false);  // a page gets no files
+  }
+
+ protected:
+  bool event(QEvent* event) override {
+    return event->type() == QEvent::ToolTip || QWebEngineView::event(event);
+  }
+
+  /// The engine's dialogs are children of the view. Keeps them off the screen, native ones too, and
+  /// rejects them on the next turn, when the engine waits for their end.
+  void childEvent(QChildEvent* event) override {
+    QWebEngineView::childEvent(event);
+    if (!event->added() || !event->child()->isWidgetType()) return;
+    auto* widget = static_cast<QWidget*>(event->child());  // the derived part is not made yet
+    if (widget->windowType() != Qt::Dialog) return;
+    widget->setAttribute(Qt::WA_DontShowOnScreen);
+    QMetaObject::invokeMethod(
+        this,
+        [shown = QPointer<QObject>(widget)] {
+          if (auto* dialog = qobject_cast<QDialog*>(shown.data())) dialog->reject();
+        },
+        Qt::QueuedConnection);
+  }
+};
+
 /// A page in a window of widgets.
 class WidgetPage final : public WebPageBase {
  public:
   WidgetPage(WidgetEngine& engine, QWidget& place, const Options& options, Client& client)
-      : WebPageBase(client), view_(new QuietView(&place)) {
-    view_->setPage(new QuietPage(engine.profile, options, *this, view_));
+      : WebPageBase(client), view_(new QuietView(place)) {
+    view_->setPage(new QuietPage(engine, options, *this, view_));
   }
 
   ~WidgetPage() override { delete view_; }
