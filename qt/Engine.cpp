@@ -43,27 +43,39 @@ const std::shared_ptr<foundation::NetworkTransport>& network() {
 
 /// Receives the turns of the main queue on the application object's thread. Keeps those that wait
 /// when the application ends for the next application object.
-QObject& receiver() {
-  static QObject& object = *new QObject;  // never destroyed, for the same reason
-  return object;
+struct Receiver {
+  std::mutex mutex;  ///< Qt does not expect posts while an object gets its first thread
+  QObject object;
+
+  void moveTo(QThread* thread) {
+    const std::scoped_lock lock(mutex);
+    object.moveToThread(thread);
+  }
+};
+
+Receiver& receiver() {
+  static Receiver& instance = *new Receiver;  // never destroyed, for the same reason
+  return instance;
 }
 
 /// Each piece of work runs in a turn of the event loop of its own.
 void post(MainQueue::Work turn) {
-  QMetaObject::invokeMethod(&receiver(), std::move(turn), Qt::QueuedConnection);
+  const std::scoped_lock lock(receiver().mutex);
+  QMetaObject::invokeMethod(&receiver().object, std::move(turn), Qt::QueuedConnection);
 }
 
 void startTimer(std::chrono::milliseconds delay, MainQueue::Work work) {
-  QTimer::singleShot(delay, &receiver(), std::move(work));
+  QObject& object = receiver().object;
+  if (object.thread() != nullptr) QTimer::singleShot(delay, &object, std::move(work));
 }
 
 void applicationEnds() {
   network()->close();
-  receiver().moveToThread(nullptr);
+  receiver().moveTo(nullptr);
 }
 
 void applicationBegins() {
-  receiver().moveToThread(QThread::currentThread());
+  receiver().moveTo(QThread::currentThread());
   network()->open();
   qAddPostRoutine(applicationEnds);  // again: Qt forgets its post routines with each application
 }
@@ -73,7 +85,7 @@ void applicationBegins() {
 void installEngine() {
   static std::once_flag once;
   std::call_once(once, [] {
-    receiver().moveToThread(nullptr);  // until there is an application object
+    receiver().moveTo(nullptr);  // until there is an application object
     MainQueue::install(post, startTimer);
     qAddPreRoutine(applicationBegins);  // calls it at once if there is one
     // For a host that exits with its application still there.

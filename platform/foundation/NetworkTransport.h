@@ -62,8 +62,8 @@ class QUORIX_EXPORT NetworkTransport final : public URLTransport {
   /// Ends the requests in flight with the error `canceled`, on another thread, and then the
   /// thread. After two seconds, a thread that is blocked (by a protocol, a completion or a choice
   /// of proxies) is left behind: it sleeps for good when the protocol or the completion returns. A
-  /// completion that ends the process calls this on the thread itself, which is left behind at
-  /// once.
+  /// completion that ends the process calls this on the thread itself, which is left behind once
+  /// the other requests have ended.
   void close();
 
  private:

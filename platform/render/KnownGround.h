@@ -73,9 +73,11 @@ class KnownGround {
   bool paint(const TextItem& item, double scale, TextPictures<InkPicture>& pictures, Paint paint,
              Blend blend) {
     constexpr double highest = 128;
-    const layout::Point at = {item.frame.left() * scale, item.frame.top() * scale};
+    constexpr double slack = 1e-6;  // of a place on whole pixels, after some additions
+    const layout::Point exact = {item.frame.left() * scale, item.frame.top() * scale};
+    const layout::Point at = {std::round(exact.x), std::round(exact.y)};
     const layout::Size size = {item.frame.size.width * scale, item.frame.size.height * scale};
-    const bool isWhole = at.x == std::round(at.x) && at.y == std::round(at.y);
+    const bool isWhole = std::abs(exact.x - at.x) < slack && std::abs(exact.y - at.y) < slack;
     const auto ground = under({at, size});
     if (!isWhole || size.height >= highest || !ground) return false;
     const auto* picture = pictures.find(item, scale, *ground, [&] { return paint(*ground); });

@@ -11,7 +11,7 @@
 namespace quorix::render {
 
 /// Caches pictures of texts that are painted again and again: a row's words are the same on every
-/// row. `Picture` is a toolkit's own, with its size in memory as `bytes()`. One thread.
+/// row. `Picture` tells its size in memory as `bytes()`. One thread.
 template <class Picture>
 class TextPictures {
  public:

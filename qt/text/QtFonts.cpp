@@ -139,21 +139,30 @@ void follow() {
 }
 Q_COREAPP_STARTUP_FUNCTION(follow)
 
+/// Whether `name` without its spaces is `squeezed`, in any case. Copies nothing, since a desktop
+/// may have thousands of names.
+bool squeezesTo(QStringView name, QStringView squeezed) {
+  for (const QChar character : name) {
+    if (character == QLatin1Char(' ')) continue;
+    if (squeezed.isEmpty() || character.toLower() != squeezed.front().toLower()) return false;
+    squeezed = squeezed.sliced(1);
+  }
+  return squeezed.isEmpty();
+}
+
 /// The face of that PostScript name, if it has the usual form: family and style without spaces,
 /// with a hyphen between them.
 std::optional<QFont> postScriptFace(QString name) {
   name.remove(QLatin1Char(' '));
-  const auto matches = [](QString spaced, const QString& squeezed) {
-    return spaced.remove(QLatin1Char(' ')).compare(squeezed, Qt::CaseInsensitive) == 0;
-  };
+  const QString stem = name.section(QLatin1Char('-'), 0, 0);
   const QString style = name.section(QLatin1Char('-'), 1);
   const QStringList families = QFontDatabase::families();
   for (const QString& family : families) {
-    if (matches(family, name)) return QFont(family);
-    if (!matches(family, name.section(QLatin1Char('-'), 0, 0))) continue;
+    if (squeezesTo(family, name)) return QFont(family);
+    if (!squeezesTo(family, stem)) continue;
     const QStringList styles = QFontDatabase::styles(family);
     for (const QString& known : styles) {
-      if (matches(known, style)) return QFontDatabase::font(family, known, anySize);
+      if (squeezesTo(known, style)) return QFontDatabase::font(family, known, anySize);
     }
   }
   return std::nullopt;

@@ -51,6 +51,7 @@ TEST(KnownGround, TakesATextFromItsPictureWhereThatLooksTheSame) {
       {{{light, Image::all}, {ink, atInk}}, "--------"},
       {{{clip, {{}, {5, 4}}}}, "....x..."},
       {{}, "x.......", -4},
+      {{}, "....xx..", 1 + 1e-9},
       {{}, "........", 1.25},
   };
   for (const auto& row : rows) {

@@ -4,6 +4,7 @@
 #include <boost/asio/executor_work_guard.hpp>
 #include <boost/asio/io_context.hpp>
 #include <boost/asio/post.hpp>
+#include <cstdio>
 #include <cstdlib>
 #include <map>
 #include <semaphore>
@@ -32,7 +33,8 @@ class TestThread final : public foundation::NetworkThread {
   }
   void quit() override { loop_.stop(); }
   bool wait(std::chrono::steady_clock::time_point deadline) override {
-    return ends_.wait_until(deadline) == std::future_status::ready;
+    const bool isSelf = loop_.get_executor().running_in_this_thread();
+    return !isSelf && ends_.wait_until(deadline) == std::future_status::ready;
   }
 
   /// The paths of the fetches that the work so far has started, since the last call.
@@ -70,6 +72,11 @@ struct ConcurrentNetworkTransport : ::testing::Test {
 };
 
 TEST_F(ConcurrentNetworkTransport, SharesFetchesAndStartsSixForAServer) {
+  int asked = 0;  // on the thread
+  const auto protocol = URLSession::shared().registerProtocol([&](const URL&) {
+    ++asked;
+    return std::optional<URLResponse>();
+  });
   std::vector<Fetch> all;
   for (int i = 0; i < 8; ++i) all.emplace_back("http://a/" + std::to_string(i));
   EXPECT_EQ(thread->started(), "/0/1/2/3/4/5");
@@ -89,6 +96,7 @@ TEST_F(ConcurrentNetworkTransport, SharesFetchesAndStartsSixForAServer) {
   EXPECT_EQ(thread->started(), "/1");
   EXPECT_EQ(waiting.wait().response.body, "/7");
   EXPECT_FALSE(again.isDone());
+  EXPECT_EQ(asked, 12) << "each request, also one that joins a fetch";
 }
 
 TEST_F(ConcurrentNetworkTransport, AsksProtocolsBeforeTheNetworkOnItsThread) {
@@ -157,10 +165,12 @@ TEST_F(NetworkTransportDeathTest, ACompletionMayEndTheProcess) {
       {
         static const auto atTheEnd = transport;
         std::atexit([] { atTheEnd->close(); });
+        URLSession::shared().get(*URL::parse("http://a/1"),
+                                 [](const auto&) { std::fputs("canceled", stderr); });
         URLSession::shared().get(*URL::parse("file:///x"), [](const auto&) { std::exit(0); });
         for (;;) std::this_thread::sleep_for(std::chrono::hours(1));
       },
-      ::testing::ExitedWithCode(0), "");
+      ::testing::ExitedWithCode(0), "canceled");
 }
 
 }  // namespace
