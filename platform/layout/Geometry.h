@@ -45,7 +45,7 @@ struct Rect {
   bool isEmpty() const { return size.width <= 0 || size.height <= 0; }
   /// Its point that is nearest to `p`.
   Point nearest(Point p) const {
-    return {std::clamp(p.x, left(), right()), std::clamp(p.y, top(), bottom())};
+    return {std::min(std::max(p.x, left()), right()), std::min(std::max(p.y, top()), bottom())};
   }
   Rect translated(Point by) const { return {{origin.x + by.x, origin.y + by.y}, size}; }
   bool operator==(const Rect&) const = default;

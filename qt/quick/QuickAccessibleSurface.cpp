@@ -5,6 +5,7 @@
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <utility>
 
 #include "qt/WindowScene.h"
 #include "qt/quick/AttachedObject.h"
@@ -13,7 +14,8 @@ namespace quorix::qt {
 
 void QuickAccessibleSurface::offer() {
   const char* const type = "QQuickAccessibleAttached*";
-  if (!areRead() || attachedObject(item_, type)) return;
+  static bool tried = false;
+  if (!areRead() || attachedObject(item_, type) || std::exchange(tried, true)) return;
   QQmlEngine engine;
   QQmlComponent component(&engine);
   component.setData("import QtQuick\nItem { Accessible.name: '' }", QUrl());

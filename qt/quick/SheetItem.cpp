@@ -6,6 +6,8 @@
 #include <QSGRectangleNode>
 #include <QSGRendererInterface>
 #include <algorithm>
+#include <functional>
+#include <utility>
 
 #include "qt/Conversions.h"
 #include "qt/SheetSurface.h"
@@ -17,6 +19,26 @@
 
 namespace quorix::qt {
 namespace {
+
+/// Stands before or after the pages in the focus chain, and calls `passed` when the keyboard's
+/// focus reaches it.
+class FocusStop : public QQuickItem {
+ public:
+  FocusStop(QQuickItem& parent, std::function<void()> passed)
+      : QQuickItem(&parent), passed_(std::move(passed)) {
+    setActiveFocusOnTab(true);
+  }
+
+ protected:
+  // Does not call QQuickItem's, which would tell assistive technology of a focus on the sheet.
+  void focusInEvent(QFocusEvent*) override {
+    // On a later turn: the focus is still moving.
+    QMetaObject::invokeMethod(this, passed_, Qt::QueuedConnection);
+  }
+
+ private:
+  std::function<void()> passed_;
+};
 
 /// Passes its events to a sheet.
 class SheetArea : public QQuickItem {
@@ -204,8 +226,8 @@ class SheetItem final : public SheetArea, public SheetSurface, public QuickAcces
     if (!front_) {
       front_ = new SheetFront(*this, *this);
       front_->setZ(1000);
-      before_ = newFocusStop(false);
-      after_ = newFocusStop(true);
+      before_ = new FocusStop(*this, [this] { leavePages(false); });
+      after_ = new FocusStop(*this, [this] { leavePages(true); });
     }
     const QRectF frame = toRect(place.room).adjusted(0, -place.strip, 0, 0);
     const QRectF strip(frame.topLeft(), QSizeF(frame.width(), place.strip));
@@ -219,18 +241,6 @@ class SheetItem final : public SheetArea, public SheetSurface, public QuickAcces
     page.setSize(frame.size());
     static_cast<WebPage&>(engine).roundTop({place.strip, place.radius, scale()});
     if (place.isAtTop) coveredTop_ = place.strip;
-  }
-
-  /// Stands before or after the pages in the focus chain.
-  QQuickItem* newFocusStop(bool after) {
-    auto* stop = new QQuickItem(this);
-    stop->setActiveFocusOnTab(true);
-    const auto leave = [this, after](bool focused) {
-      if (focused) leavePages(after);
-    };
-    // On a later turn: the focus is still moving.
-    connect(stop, &QQuickItem::activeFocusChanged, this, leave, Qt::QueuedConnection);
-    return stop;
   }
 
   void pageFocusChanged(bool focused) {
@@ -260,8 +270,8 @@ class SheetItem final : public SheetArea, public SheetSurface, public QuickAcces
   double coveredTop_ = 0;  ///< points at the top of the panel that a page covers
   // Made with the first page.
   SheetFront* front_ = nullptr;
-  QQuickItem* before_ = nullptr;
-  QQuickItem* after_ = nullptr;
+  FocusStop* before_ = nullptr;
+  FocusStop* after_ = nullptr;
 };
 
 hosting::WindowSession& sessionOf(QQuickWindow& window) {

@@ -28,6 +28,7 @@ class WindowWatcher : public QObject {
   /// the items in it.
   static hosting::ViewportPlace placeOf(const QQuickItem& item, const QQuickItem& parent) {
     const QTransform toWindow = item.itemTransform(nullptr, nullptr);
+    if (!toWindow.isInvertible()) return {};  // scaled to nothing
     hosting::ViewportPlace place{toRect(toWindow.inverted().mapRect(viewportIn(parent))), {}};
     if (toWindow.type() <= QTransform::TxTranslate) place.origin = {toWindow.dx(), toWindow.dy()};
     return place;

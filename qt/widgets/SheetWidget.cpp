@@ -158,8 +158,8 @@ class SheetWidget final : public QWidget, public SheetSurface, public WidgetAcce
   double scale() const override { return devicePixelRatioF(); }
   void followSize() { windowResized({double(width()), double(height())}); }
 
-  void needsFrame() override { settleLater(); }
-  void settle() override {
+  void needsFrame() override { prepareFrameLater(); }
+  void prepareFrame() override {
     if (!followFrame()) return;
     if (front_) front_->follow(presenter().scene());
     update();

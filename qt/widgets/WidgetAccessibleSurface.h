@@ -32,19 +32,19 @@ class WidgetAccessibleSurface : public Surface {
   }
 
  protected:
-  /// Calls `settle` on a later turn, once for all calls until then.
-  void settleLater() {
-    if (std::exchange(settleQueued_, true)) return;
+  /// Calls `prepareFrame` on a later turn, once for all calls until then.
+  void prepareFrameLater() {
+    if (std::exchange(frameQueued_, true)) return;
     QMetaObject::invokeMethod(
-        &widget_, [this] { settleQueued_ = false, settle(); }, Qt::QueuedConnection);
+        &widget_, [this] { frameQueued_ = false, prepareFrame(); }, Qt::QueuedConnection);
   }
 
  private:
   /// Brings the widget up to date before a frame.
-  virtual void settle() = 0;
+  virtual void prepareFrame() = 0;
 
   QWidget& widget_;
-  bool settleQueued_ = false;
+  bool frameQueued_ = false;
 };
 
 }  // namespace quorix::qt

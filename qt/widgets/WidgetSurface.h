@@ -32,7 +32,7 @@ class WidgetSurface final : public HostedView<ViewWidget, WidgetAccessibleSurfac
 
   int heightFor(int width) { return tell(fitted_, {width, std::nullopt}).height(); }
 
-  void contentChanged() override { settle(); }
+  void contentChanged() override { prepareFrame(); }
 
   /// The widget was shown, or moved to another window.
   void placeChanged() {
@@ -50,7 +50,7 @@ class WidgetSurface final : public HostedView<ViewWidget, WidgetAccessibleSurfac
 
   void sizeChanged() {
     resized();
-    settle();
+    prepareFrame();
   }
 
   void paint(QPainter& painter) {
@@ -79,7 +79,7 @@ class WidgetSurface final : public HostedView<ViewWidget, WidgetAccessibleSurfac
     if (!widget_.focusNextPrevChild(true)) widget_.clearFocus();
   }
 
-  void needsFrame() override { settleLater(); }
+  void needsFrame() override { prepareFrameLater(); }
 
   hosting::WindowSession* window() override { return &sessionOf(*widget_.window()); }
 
@@ -88,7 +88,7 @@ class WidgetSurface final : public HostedView<ViewWidget, WidgetAccessibleSurfac
 
   bool isOnScreen() const override { return isShown() && !widget_.window()->isMinimized(); }
 
-  void settle() override {
+  void prepareFrame() override {
     const auto holds = [this](const Told& told) {
       return !told || sizeFor(told->first) == told->second;
     };

@@ -38,8 +38,10 @@ class WindowStateWatcher : public QObject {
       case QEvent::MouseMove:
         return pressed_ && pass(*pressed_, Phase::moved, static_cast<QMouseEvent&>(*event));
       case QEvent::MouseButtonRelease: {
+        auto& release = static_cast<QMouseEvent&>(*event);
+        if (release.button() != Qt::LeftButton) return false;
         const QPointer<ViewWidget> pressed = std::exchange(pressed_, nullptr);
-        return pressed && pass(*pressed, Phase::released, static_cast<QMouseEvent&>(*event));
+        return pressed && pass(*pressed, Phase::released, release);
       }
       default:
         return false;
@@ -57,7 +59,7 @@ class WindowStateWatcher : public QObject {
   bool takesPress(QMouseEvent& press) {
     pressed_ = nullptr;
     const bool byFinger = press.pointingDevice()->type() == QInputDevice::DeviceType::TouchScreen;
-    if (!byFinger) return false;
+    if (!byFinger || press.button() != Qt::LeftButton) return false;
     double least = layout::infinity;
     for (ViewWidget* widget : window_.findChildren<ViewWidget*>()) {
       const double distance = distanceOf(*widget, press.position());

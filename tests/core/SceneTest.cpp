@@ -191,6 +191,7 @@ TEST(ScrolledViews, ChecksTheEdgesOfAListThatScrollsByWholePixels) {
     Row view;
     for (Row& other : others) other.enter(views, still);
     view.enter(views, parent);
+    EXPECT_EQ(view.checks, 1) << "a new one at once";
     view.bounds = {{0, row["top"]}, {100, 20}};
     for (const auto& origin : {row["from"], row["to"]}) {
       parent.reset();
