@@ -4,6 +4,7 @@
 #include "platform/hosting/SceneLayers.h"
 #include "platform/hosting/SheetPanel.h"
 #include "platform/hosting/ViewportMotion.h"
+#include "platform/render/RoundedTop.h"
 #include "tests/core/Vectors.h"
 
 namespace quorix::hosting {
@@ -126,6 +127,31 @@ TEST(PagePlace, ReachesTheTopOnlyBetweenTheCornersAndWhereThePageCanBeCut) {
     EXPECT_EQ(place.radius, double(row["radius"]));
     EXPECT_EQ(place.isAtTop, bool(row["isAtTop"]));
   });
+}
+
+TEST(RoundedTop, ShowsEachPixelOnceAndIsSmoothAtTheCurve) {
+  // A digit for each pixel.
+  const std::tuple<int, int, double, std::string> rows[] = {
+      {12, 5, 4, "026888888620/288888888882/688888888886/888888888888/888888888888/"},
+      {7, 3, 2.5, "1688861/6888886/8888888/"},
+      {8, 2, 4, "02688620/28888882/"},
+      {4, 2, 0, "8888/8888/"},
+  };
+  for (const auto& [width, height, radius, expected] : rows) {
+    std::string shown(std::size_t((width + 1) * height), '/');
+    const auto levels = render::roundedTop(width, height, radius);
+    for (std::size_t level = 0; level < levels.size(); ++level) {
+      for (const Rect& part : levels[level]) {
+        for (double y = part.top(); y < part.bottom(); ++y) {
+          for (double x = part.left(); x < part.right(); ++x) {
+            char& pixel = shown.at(std::size_t(y * (width + 1) + x));
+            pixel = pixel == '/' ? char('0' + level) : 'x';
+          }
+        }
+      }
+    }
+    EXPECT_EQ(shown, expected) << radius;
+  }
 }
 
 TEST(ViewportMotion, ConcernsTheEdgesOfAListThatScrollsByWholePixels) {

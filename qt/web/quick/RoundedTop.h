@@ -23,7 +23,6 @@ class RoundedTop : public QQuickItem {
   void changed();
 
  protected:
-  void geometryChange(const QRectF& now, const QRectF& before) override;
   QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) override;
 
  private:
