@@ -35,6 +35,9 @@ if(QUORIX_QT)
 endif()
 if(TARGET QuorixWebQuick)
   quorix_debian_package(web libquorixwidgets${quorix_series}-web "web pages by Qt WebEngine" qt)
+  # What the page of Qt Quick imports. In Debian 12 these packages do not depend on each other.
+  set(CPACK_DEBIAN_WEB_PACKAGE_DEPENDS
+    "qml6-module-qtwebengine, qml6-module-qtqml, qml6-module-qtqml-workerscript")
   # Packages of different series conflict, because they have their files in the same folder.
   set(CPACK_DEBIAN_WEB_PACKAGE_PROVIDES quorixwidgets-web)
   set(CPACK_DEBIAN_WEB_PACKAGE_CONFLICTS quorixwidgets-web)

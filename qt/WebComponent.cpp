@@ -26,7 +26,7 @@ QString ownFolder() {
 #ifdef __GLIBC__
   void* map = nullptr;
   if (dladdr1(&here, &info, &map, RTLD_DL_LINKMAP) == 0 || !map) return {};
-  if (*static_cast<const link_map*>(map)->l_name == '\0') return {};  // the program itself
+  info.dli_fname = static_cast<const link_map*>(map)->l_name;  // empty for the program itself
 #else
   if (dladdr(&here, &info) == 0) return {};
 #endif
@@ -67,10 +67,8 @@ QString fileOf(const QString& name) {
   return {};
 }
 
-QHash<QString, OpenWebPage>& known() {
-  static QHash<QString, OpenWebPage> functions;
-  return functions;
-}
+using Functions = QHash<QString, OpenWebPage>;
+Q_GLOBAL_STATIC(Functions, known)
 
 OpenWebPage loaded(const QString& name) {
   const QString file = fileOf(name);
@@ -88,11 +86,11 @@ OpenWebPage loaded(const QString& name) {
 
 bool WebComponentLoader::isThere(const QString& name) { return !fileOf(name).isEmpty(); }
 
-bool WebComponentLoader::isLoaded(const QString& name) { return known().value(name) != nullptr; }
+bool WebComponentLoader::isLoaded(const QString& name) { return known->value(name) != nullptr; }
 
 OpenWebPage WebComponentLoader::load(const QString& name) {
-  const auto found = known().constFind(name);
-  return found != known().constEnd() ? *found : *known().insert(name, loaded(name));
+  if (!known->contains(name)) known->insert(name, loaded(name));
+  return known->value(name);
 }
 
 }  // namespace quorix::qt

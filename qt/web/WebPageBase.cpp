@@ -28,10 +28,6 @@ void logPage(const QUrl& address, const QString& what) {
             qUtf8Printable(what));
 }
 
-void logNotLoaded(const QUrl& address, const QString& why) {
-  logPage(address, QStringLiteral("was not loaded: ") + why);
-}
-
 /// The engine has no sandbox for root: unless that is turned off, it ends the process.
 bool isRefused() {
 #ifdef Q_OS_LINUX
@@ -87,14 +83,14 @@ void WebPageBase::load(const foundation::URL& address) {
 
 void WebPageBase::stopLoad(std::chrono::milliseconds limit) {
   if (!view()) return;
-  logNotLoaded(address(), QStringLiteral("nothing came for %1 ms").arg(limit.count()));
+  logPage(address(), QStringLiteral("was not loaded: nothing came for %1 ms").arg(limit.count()));
   QMetaObject::invokeMethod(view(), "stop");
 }
 
 void WebPageBase::loadChanged(int status, const QUrl& address, const QString& error, int code) {
   if (status == QWebEngineLoadingInfo::LoadStartedStatus) return client_.loading(0);
   const bool failed = status == QWebEngineLoadingInfo::LoadFailedStatus;
-  if (failed) logNotLoaded(address, error);
+  if (failed) logPage(address, QStringLiteral("was not loaded: ") + error);
   client_.loadEnded(failed ? code : 0);
 }
 
@@ -115,19 +111,19 @@ bool WebPageBase::takesFromWindow(QObject& window, QEvent& event) {
   const bool isGesture =
       isKey || event.type() == QEvent::MouseButtonRelease || event.type() == QEvent::TouchEnd;
   if (!isGesture || !isForPage(window)) return false;
+  auto* key = isKey ? static_cast<QKeyEvent*>(&event) : nullptr;
+  const bool escapes = key && key->key() == Qt::Key_Escape;
+  if (escapes && !key->text().isEmpty()) {
+    QKeyEvent bare(key->type(), key->key(), key->modifiers(), key->nativeScanCode(),
+                   key->nativeVirtualKey(), key->nativeModifiers(), QString(), key->isAutoRepeat());
+    bare.setTimestamp(key->timestamp());
+    QCoreApplication::sendEvent(&window, &bare);  // this function gets it too
+    key->setAccepted(bare.isAccepted());
+    return true;
+  }
   client_.gestured();
-  if (!isKey) return false;
-  auto& key = static_cast<QKeyEvent&>(event);
-  const bool escapes = key.key() == Qt::Key_Escape;
-  if (!escapes && key.key() != Qt::Key_Back) return false;
-  client_.closingKeyGiven();
-  if (!escapes || key.text().isEmpty()) return false;
-  QKeyEvent bare(key.type(), key.key(), key.modifiers(), key.nativeScanCode(),
-                 key.nativeVirtualKey(), key.nativeModifiers(), QString(), key.isAutoRepeat());
-  bare.setTimestamp(key.timestamp());
-  QCoreApplication::sendEvent(&window, &bare);
-  key.setAccepted(bare.isAccepted());
-  return true;
+  if (escapes || (key && key->key() == Qt::Key_Back)) client_.closingKeyGiven();
+  return false;
 }
 
 bool WebPageBase::takesFromPage(QObject& receiver, const QEvent& event) {
@@ -146,12 +142,10 @@ bool WebPageBase::takesFromPage(QObject& receiver, const QEvent& event) {
 
 bool WebPageBase::takesTouch(QObject& receiver, const QTouchEvent& event) {
   if (event.points().isEmpty()) return false;
-  const bool begins = event.type() == QEvent::TouchBegin, ends = event.type() == QEvent::TouchEnd;
-  const QPointF point = event.points().constFirst().position();
-  const bool takes = client_.touched({begins ? Phase::pressed
-                                      : ends ? Phase::released
-                                             : Phase::moved,
-                                      {point.x(), point.y()},
+  const auto phase = event.type() == QEvent::TouchBegin ? Phase::pressed
+                     : event.type() == QEvent::TouchEnd ? Phase::released
+                                                        : Phase::moved;
+  const bool takes = client_.touched({phase, toPoint(event.points().constFirst().position()),
                                       static_cast<int>(event.points().size()),
                                       receiver.property("width").toDouble()});
   const bool had = std::exchange(hasFingers_, takes);

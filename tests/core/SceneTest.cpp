@@ -1,5 +1,6 @@
 #include <array>
 #include <sstream>
+#include <tuple>
 
 #include "platform/hosting/EmbeddedPages.h"
 #include "platform/hosting/SceneLayers.h"
@@ -131,38 +132,22 @@ TEST(PagePlace, ReachesTheTopOnlyBetweenTheCornersAndWhereThePageCanBeCut) {
 }
 
 TEST(RoundedTop, ShowsEachPixelOnceAndIsSmoothAtTheCurve) {
-  struct Row {
-    int width, height;
-    double radius;
-    std::string levels;  ///< a digit for each pixel, line by line
-  };
-  const Row rows[] = {
-      {12, 5, 4,
-       "026888888620"
-       "288888888882"
-       "688888888886"
-       "888888888888"
-       "888888888888"},
-      {7, 3, 2.5,
-       "1688861"
-       "6888886"
-       "8888888"},
-      {8, 2, 4,
-       "02688620"
-       "28888882"},
-      {4, 2, 0,
-       "8888"
-       "8888"},
+  // A digit for each pixel.
+  const std::tuple<int, int, double, std::string> rows[] = {
+      {12, 5, 4, "026888888620/288888888882/688888888886/888888888888/888888888888/"},
+      {7, 3, 2.5, "1688861/6888886/8888888/"},
+      {8, 2, 4, "02688620/28888882/"},
+      {4, 2, 0, "8888/8888/"},
   };
   for (const auto& [width, height, radius, expected] : rows) {
-    std::string shown(std::size_t(width * height), '-');
+    std::string shown(std::size_t((width + 1) * height), '/');
     const auto levels = render::roundedTop(width, height, radius);
     for (std::size_t level = 0; level < levels.size(); ++level) {
       for (const Rect& part : levels[level]) {
         for (double y = part.top(); y < part.bottom(); ++y) {
           for (double x = part.left(); x < part.right(); ++x) {
-            char& pixel = shown.at(std::size_t(y * width + x));
-            pixel = pixel == '-' ? char('0' + level) : 'x';
+            char& pixel = shown.at(std::size_t(y * (width + 1) + x));
+            pixel = pixel == '/' ? char('0' + level) : 'x';
           }
         }
       }
