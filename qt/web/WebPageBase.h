@@ -8,7 +8,6 @@
 #include "qt/Conversions.h"
 #include "qt/WebComponent.h"
 
-class QKeyEvent;
 class QTouchEvent;
 class QWheelEvent;
 
