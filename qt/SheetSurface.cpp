@@ -2,19 +2,14 @@
 
 #include <QElapsedTimer>
 #include <QKeyEvent>
-#include <QPainter>
 #include <QWheelEvent>
-#include <algorithm>
 #include <functional>
 #include <utility>
 
-#include "platform/hosting/SceneLayers.h"
 #include "qt/Conversions.h"
 #include "qt/Input.h"
-#include "qt/Picture.h"
 #include "qt/ViewAccessible.h"
 #include "qt/WebComponent.h"
-#include "qt/painting/FocusRing.h"
 #include "qt/text/QtTextEngine.h"
 
 namespace quorix::qt {
@@ -41,13 +36,6 @@ class FrameClock final : public QAbstractAnimation {
   std::function<bool(double)> tick_;
   QElapsedTimer sinceTick_;
 };
-
-void clearTop(QImage& picture, double points) {
-  if (points == 0) return;
-  QPainter painter(&picture);
-  painter.setCompositionMode(QPainter::CompositionMode_Clear);
-  painter.fillRect(QRectF(0, 0, picture.width(), points), Qt::black);
-}
 
 }  // namespace
 
@@ -96,71 +84,7 @@ void SheetSurface::focusMoved(bool later) {
 
 void SheetSurface::coverChanged() { ViewAccessible::coverChanged(); }
 
-// Pictures.
-
-bool SheetSurface::followFrame() {
-  if (!isOpen()) return false;
-  paintLayers();
-  paintRing();
-  if (!followMotion()) return false;
-  const QRectF panel = toRect(presenter().panelFrame());
-  for (const Layer& layer : layers_) layer.shown->moveTo(panel.topLeft() + layer.origin);
-  if (ring_.shown) ring_.shown->moveTo(panel.topLeft() + ring_.origin);
-  ground_ = {toQColor(presenter().shade()), panel, toQColor(presenter().panelColor())};
-  ground_.below.setTop(std::min(panel.top() + panelHeight_, panel.bottom()));
-  followPages();
-  return true;
-}
-
-void SheetSurface::paintLayers() {
-  const render::Scene& panel = presenter().panel();
-  const Painted now{presenter().panelRevision(), scale()};
-  if (painted_ == now) return;
-  painted_ = now;
-  ringFrame_.reset();
-  std::size_t count = 0;
-  for (const auto& layer : hosting::layersOf(panel, presenter().panelColor(), now.scale)) {
-    QImage picture = paintPicture(layer.scene, now.scale, {0, 0, 0, 0});
-    if (count == 0) {
-      panelHeight_ = picture.deviceIndependentSize().height();
-      clearTop(picture, hiddenTop_);
-    }
-    if (layers_.size() == count) {
-      layers_.push_back({newPicture(int(count)), {}});
-      ring_.shown.reset();  // which has to be above all layers
-    }
-    layers_[count].shown->setPicture(picture);
-    layers_[count++].origin = toPoint(layer.origin);
-  }
-  layers_.erase(layers_.begin() + std::ptrdiff_t(count), layers_.end());
-  ViewAccessible::sceneChanged(self_);
-}
-
-void SheetSurface::paintRing() {
-  auto frame = ringFrame();
-  if (!frame) {
-    ring_.shown.reset();
-    ringFrame_.reset();
-    return;
-  }
-  // Rounded, because motion moves it by fractions of a pixel.
-  const layout::Point corner = presenter().panelFrame().origin;
-  frame = layout::PixelGrid(scale()).round(frame->translated({-corner.x, -corner.y}));
-  if (ring_.shown && ringFrame_ == frame) return;
-  if (!ring_.shown) ring_.shown = newPicture(int(layers_.size()));
-  ring_.shown->setPicture(FocusRing::picture(*frame, presenter().panel().appearance, scale()));
-  ring_.origin = FocusRing::frameAround(*frame).topLeft();
-  ringFrame_ = frame;
-}
-
-void SheetSurface::paintAgain() {
-  painted_.reset();
-  needsFrame();
-}
-
-void SheetSurface::hideTop(double points) {
-  if (std::exchange(hiddenTop_, points) != points) paintAgain();
-}
+void SheetSurface::sceneChanged() { ViewAccessible::sceneChanged(self_); }
 
 // Pages.
 

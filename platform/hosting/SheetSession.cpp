@@ -92,6 +92,21 @@ void SheetSession::leave() {
   vanish();
 }
 
+bool SheetSession::followFrame() {
+  if (!isOpen()) return false;
+  presenter_.panel();  // the motion depends on its height
+  if (!followMotion()) return false;
+  if (pictures_.follow(presenter_, ringFrame(), scale())) sceneChanged();
+  followPages();
+  if (pictures_.hideTop(coveredTop_)) needsFrame();
+  return true;
+}
+
+void SheetSession::paintAgain() {
+  pictures_.paintAgain();
+  needsFrame();
+}
+
 bool SheetSession::followMotion() {
   if (!settings_.motion) presenter_.advance(0);
   if (presenter_.isMoving()) startClock();  // without motion too: it times the scroll indicator
@@ -110,6 +125,7 @@ void SheetSession::wasShown() {
 }
 
 void SheetSession::followPages() {
+  coveredTop_ = 0;
   if (closed_ || gaveUpPages_ || !(shown_ || opensPagesAtOnce())) return;
   if (pagesRevision_ != presenter_.panelRevision()) {
     pagesRevision_ = presenter_.panelRevision();
@@ -119,6 +135,7 @@ void SheetSession::followPages() {
   int index = 0;
   pages_.place(presenter_.panel(), scale(), clipsPages(), [&](PageEngine& page, PagePlace place) {
     place.room = place.room.translated(corner);
+    if (place.isAtTop) coveredTop_ = place.strip;
     placePage(page, place, index++);
   });
 }

@@ -35,6 +35,14 @@ QPainterPath rounded(const QRectF& rect, double topRadius, double bottomRadius) 
   return path;
 }
 
+template <class Draw>
+void smoothly(QPainter& painter, Draw draw) {
+  const bool antialiased = painter.testRenderHint(QPainter::Antialiasing);
+  painter.setRenderHint(QPainter::Antialiasing);
+  draw(painter);
+  painter.setRenderHint(QPainter::Antialiasing, antialiased);
+}
+
 }  // namespace
 
 ScenePainter::ScenePainter(QPainter& painter, QtTextEngine& engine)
@@ -203,13 +211,12 @@ void ScenePainter::draw(const render::FillItem& item) {
     if (ground_) ground_->filled(device.toAlignedRect(), item.color);
     return fill(device, item.color);
   }
-  // A rounded fill is not moved to whole pixels.
+  // Round corners are not moved to whole pixels.
   if (ground_) ground_->painted(device.toAlignedRect().adjusted(-1, -1, 1, 1));
-  const bool antialiased = painter().testRenderHint(QPainter::Antialiasing);
-  painter().setRenderHint(QPainter::Antialiasing);
-  painter().fillPath(rounded(toRect(item.frame), item.topCornerRadius, item.bottomCornerRadius),
-                     toQColor(item.color));
-  painter().setRenderHint(QPainter::Antialiasing, antialiased);
+  smoothly(painter(), [&](QPainter& to) {
+    to.fillPath(rounded(toRect(item.frame), item.topCornerRadius, item.bottomCornerRadius),
+                toQColor(item.color));
+  });
 }
 
 void ScenePainter::draw(const render::ClipItem& item) {
@@ -220,7 +227,15 @@ void ScenePainter::draw(const render::ClipItem& item) {
 
 void ScenePainter::draw(const render::StrokeItem& item) {
   const QRectF outer = deviceRect(item.frame);
-  if (ground_) ground_->painted(outer.toAlignedRect());
+  const int beside = item.cornerRadius > 0 ? 1 : 0;
+  if (ground_) ground_->painted(outer.toAlignedRect().adjusted(-beside, -beside, beside, beside));
+  if (item.cornerRadius > 0) {
+    const double half = item.width / 2, radius = item.cornerRadius - half;
+    const QRectF middle = toRect(item.frame).adjusted(half, half, -half, -half);
+    return smoothly(painter(), [&](QPainter& to) {
+      to.strokePath(rounded(middle, radius, radius), QPen(toQColor(item.color), item.width));
+    });
+  }
   const double scale = toDevice_.mapRect(QRectF(0, 0, 1, 1)).height();
   const double limit = std::min(outer.width(), outer.height()) / 2;
   const double w = std::min(std::max(1.0, std::round(item.width * scale)), limit);

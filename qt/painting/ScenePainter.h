@@ -60,14 +60,15 @@ class KnownGround {
 ///     ScenePainter(painter).paint(host.scene(size));
 class ScenePainter {
  public:
-  explicit ScenePainter(QPainter& painter, QtTextEngine& engine = QtTextEngine::shared());
+  QUORIX_EXPORT explicit ScenePainter(QPainter& painter,
+                                      QtTextEngine& engine = QtTextEngine::shared());
   /// Draws on an empty image in premultiplied ARGB, at its device pixel ratio. A text that was
   /// painted before on the same ground (empty, or of one opaque color) is painted from its picture,
   /// with the same pixels. On any other ground Qt blends text by the brightness.
   explicit ScenePainter(QImage& empty, QtTextEngine& engine = QtTextEngine::shared());
 
   /// Paints the items in order. Changes nothing of the given painter but its pen.
-  void paint(const render::Scene& scene);
+  QUORIX_EXPORT void paint(const render::Scene& scene);
 
  private:
   void draw(const render::TextItem& item);

@@ -134,10 +134,7 @@ class SheetItem final : public QQuickItem, public SheetSurface, public QuickAcce
   }
 
   void updatePolish() override {
-    coveredTop_ = 0;
-    if (!followFrame()) return;
-    hideTop(coveredTop_);
-    update();
+    if (followFrame()) update();
   }
 
   QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData*) override {
@@ -147,13 +144,14 @@ class SheetItem final : public QQuickItem, public SheetSurface, public QuickAcce
       old->appendChildNode(window()->createRectangleNode());
       old->appendChildNode(window()->createRectangleNode());
     }
+    const hosting::SheetPictures::Ground& ground = pictures().ground();
     auto* shade = static_cast<QSGRectangleNode*>(old->firstChild());
     // A transparent shade is not drawn, which saves blending the whole window.
-    shade->setRect(ground().shade.alpha() > 0 ? boundingRect() : QRectF());
-    shade->setColor(ground().shade);
+    shade->setRect(ground.shade.alpha > 0 ? boundingRect() : QRectF());
+    shade->setColor(toQColor(ground.shade));
     auto* below = static_cast<QSGRectangleNode*>(old->lastChild());
-    below->setRect(ground().below);
-    below->setColor(ground().color);
+    below->setRect(toRect(ground.below));
+    below->setColor(toQColor(ground.color));
     return old;
   }
 
@@ -179,7 +177,7 @@ class SheetItem final : public QQuickItem, public SheetSurface, public QuickAcce
 
   double scale() const override { return window() ? window()->effectiveDevicePixelRatio() : 1; }
   void needsFrame() override { polish(); }
-  std::unique_ptr<SheetPicture> newPicture(int index) override {
+  std::unique_ptr<hosting::ScenePicture> newPicture(int index) override {
     auto item = std::make_unique<PictureItem>(*this, [this] { paintAgain(); });
     item->setZ(2 * index);  // the pages are between them
     return item;
@@ -243,7 +241,6 @@ class SheetItem final : public QQuickItem, public SheetSurface, public QuickAcce
     page.setPosition(frame.topLeft());
     page.setSize(frame.size());
     static_cast<WebPage&>(engine).roundTop({place.strip, place.radius, scale()});
-    if (place.isAtTop) coveredTop_ = place.strip;
   }
 
   void pageFocusChanged(bool focused) {
@@ -270,7 +267,6 @@ class SheetItem final : public QQuickItem, public SheetSurface, public QuickAcce
   }
 
   bool inSceneGraph_ = false;
-  double coveredTop_ = 0;  ///< points at the top of the panel that a page covers
   // Made with the first page.
   SheetFront* front_ = nullptr;
   FocusStop* before_ = nullptr;

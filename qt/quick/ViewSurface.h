@@ -13,7 +13,6 @@
 #include "qt/HostedView.h"
 #include "qt/Picture.h"
 #include "qt/WindowScene.h"
-#include "qt/painting/FocusRing.h"
 #include "qt/quick/LayoutPlace.h"
 #include "qt/quick/PictureItem.h"
 #include "qt/quick/QuickAccessibleSurface.h"
@@ -191,7 +190,7 @@ class ViewSurface final : public HostedView,
     }
     const bool shifted = std::exchange(offset_, offset) != offset && painted;
     if (shifted) item_.update();
-    const bool ringShifted = shifted && ring_;
+    const bool ringShifted = shifted && ringFrame();
     return std::exchange(inViewport_, inside) != inside || leftPart || ringShifted;
   }
 
@@ -199,6 +198,7 @@ class ViewSurface final : public HostedView,
 
   void paintAgain() {
     pictureStale_ = true;
+    ring_.paintAgain();
     item_.polish();
   }
 
@@ -213,16 +213,8 @@ class ViewSurface final : public HostedView,
   }
 
   void updateRing() {
-    const auto around = ringFrame();
-    if (!around && !ring_) return;
-    if (!ring_) ring_ = new Ring(item_, [this] { paintAgain(); });
-    if (around != ring_->around || (around && pictureStale_)) {
-      ring_->around = around;
-      ring_->setPicture(around
-                            ? FocusRing::picture(*around, host().environment().appearance, scale())
-                            : QImage());
-    }
-    if (around) ring_->moveTo(offset_ + FocusRing::frameAround(*around).topLeft());
+    ring_.follow(ringFrame(), toPoint(offset_), host().environment().appearance, scale(),
+                 [this] { return std::make_unique<PictureItem>(item_, [this] { paintAgain(); }); });
   }
 
   ViewItem& item_;
@@ -233,11 +225,7 @@ class ViewSurface final : public HostedView,
   layout::Rect seen_;  ///< the part of the item in the viewport
   layout::Rect part_;  ///< the part of the item that its picture shows
   NodePicture picture_;
-  struct Ring : PictureItem {
-    using PictureItem::PictureItem;
-    std::optional<layout::Rect> around;  ///< the frame that its picture is for
-  };
-  Ring* ring_ = nullptr;  ///< made with the first ring
+  hosting::RingPicture ring_;
 
   bool idealStale_ = true;
   bool pictureStale_ = true;

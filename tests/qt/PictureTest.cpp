@@ -92,6 +92,8 @@ TEST(TextPictures, LookAsTheTextDrawnAnew) {
        grounded(wrapped, {}, light, sceneWith(link, layout::infinity, {31, 33}).items.front())},
       {"within a stroke",
        grounded(wrapped, {}, light, render::StrokeItem{{{20, 20}, {110, 60}}, dark, 1})},
+      {"within a round stroke",
+       grounded(wrapped, {}, light, render::StrokeItem{{{20, 20}, {110, 60}}, dark, 1, 6})},
   };
   for (const double scale : {1.0, 1.5, 3.0}) {
     QtTextEngine::shared().pictures().clear();
