@@ -121,4 +121,8 @@ bool Desktop::prefersReducedMotion() {
   return false;
 }
 
+bool Desktop::allowsMotion(std::optional<bool> chosen) {
+  return chosen ? *chosen : !prefersReducedMotion();
+}
+
 }  // namespace quorix::qt

@@ -2,6 +2,8 @@
 
 #include <QtCore/qnamespace.h>
 
+#include <optional>
+
 #include "platform/foundation/Export.h"
 #include "platform/swiftui/Environment.h"
 
@@ -23,5 +25,7 @@ QUORIX_EXPORT graphics::Appearance appearanceOf(const QPalette& palette);
 QUORIX_EXPORT layout::LayoutDirection directionOf(Qt::LayoutDirection direction);
 /// The user wants less motion, by the latest state of the desktop's settings.
 QUORIX_EXPORT bool prefersReducedMotion();
+/// Whether sheets move: what the host has `chosen`, or else what the user wants.
+QUORIX_EXPORT bool allowsMotion(std::optional<bool> chosen);
 
 }  // namespace quorix::qt::Desktop

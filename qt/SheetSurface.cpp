@@ -2,13 +2,11 @@
 
 #include <QElapsedTimer>
 #include <QKeyEvent>
-#include <QWheelEvent>
 #include <functional>
 #include <utility>
 
 #include "qt/Conversions.h"
 #include "qt/Input.h"
-#include "qt/ViewAccessible.h"
 #include "qt/WebComponent.h"
 #include "qt/text/QtTextEngine.h"
 
@@ -47,14 +45,9 @@ SheetSurface::SheetSurface(QObject& self, hosting::WindowSession& window, QStrin
 
 bool SheetSurface::handle(QEvent& event) {
   switch (event.type()) {
-    case QEvent::Wheel:
-      event.accept();
-      return handle(toScrollEvent(static_cast<QWheelEvent&>(event)));
     case QEvent::ShortcutOverride:
       event.setAccepted(takes(toKeyEvent(static_cast<QKeyEvent&>(event)).key));
       return true;
-    case QEvent::KeyPress:
-      return handle(toKeyEvent(static_cast<QKeyEvent&>(event)));
     case QEvent::KeyRelease: {
       // A phone closes the window unless the release of its Back key is accepted.
       const auto key = toKeyEvent(static_cast<QKeyEvent&>(event)).key;
@@ -62,11 +55,10 @@ bool SheetSurface::handle(QEvent& event) {
       return true;
     }
     default:
-      break;
+      if (!passInput(event, *this)) return false;
+      event.accept();  // also for other buttons, which must not reach what lies below
+      return true;
   }
-  if (!passPointer(event, *this)) return false;
-  event.accept();  // also for other buttons, which must not reach what lies below
-  return true;
 }
 
 Qt::CursorShape SheetSurface::cursorAt(QPointF point) {
@@ -77,14 +69,6 @@ void SheetSurface::vanish() {
   self_.setProperty("visible", false);
   self_.deleteLater();  // it may be handling an event
 }
-
-void SheetSurface::focusMoved(bool later) {
-  ViewAccessible::focusChanged(self_, later ? Qt::QueuedConnection : Qt::DirectConnection);
-}
-
-void SheetSurface::coverChanged() { ViewAccessible::coverChanged(); }
-
-void SheetSurface::sceneChanged() { ViewAccessible::sceneChanged(self_); }
 
 // Pages.
 

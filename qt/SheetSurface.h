@@ -36,9 +36,6 @@ class QUORIX_EXPORT SheetSurface : public hosting::SheetSession {
   void startClock() override { clock_->start(); }
   void stopClock() override { clock_->stop(); }
   void vanish() override;
-  void focusMoved(bool later) override;
-  void coverChanged() override;
-  void sceneChanged() override;
   bool canShowPages() const override;
   bool opensPagesAtOnce() const override;
 

@@ -12,7 +12,9 @@ constexpr double doubleTap = 400;  // milliseconds from the first release to the
 }  // namespace
 
 SheetSession::SheetSession(WindowSession& window, text::TextEngine& engine)
-    : window_(&window), presenter_(engine, *this) {
+    : window_(&window),
+      presenter_(engine, *this),
+      pictures_([this](int index) { return newPicture(index); }) {
   window.sheets_.push_back(this);
 }
 

@@ -176,7 +176,7 @@ class QUORIX_EXPORT SheetSession : public Responder,
   layout::Size windowSize_;
   VelocityTracker velocity_;
   EmbeddedPages pages_{*this};
-  SheetPictures pictures_{[this](int index) { return newPicture(index); }};
+  SheetPictures pictures_;
   FocusReturn focusReturn_;
   std::optional<unsigned> pagesRevision_;
   double coveredTop_ = 0;  ///< points at the panel's top that a page covers

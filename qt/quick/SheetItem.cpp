@@ -10,7 +10,6 @@
 
 #include "qt/Conversions.h"
 #include "qt/SheetSurface.h"
-#include "qt/ViewAccessible.h"
 #include "qt/WebComponent.h"
 #include "qt/quick/PictureItem.h"
 #include "qt/quick/QuickAccessibleSurface.h"
@@ -261,9 +260,12 @@ class SheetItem final : public QQuickItem, public SheetSurface, public QuickAcce
   std::vector<QObject*> accessibleViews() const override { return pageViews(); }
   bool isShown() const override { return !isClosed() && QuickAccessibleSurface::isShown(); }
   bool isDialog() const override { return true; }
+  void sceneChanged() override { tellScene(); }
+  void focusMoved(bool later) override { tellFocus(later); }
+  void coverChanged() override { tellCover(); }
   void accessibilityBegan() override {
     offer();
-    ViewAccessible::focusChanged(*this, Qt::QueuedConnection);
+    tellFocus(true);
   }
 
   bool inSceneGraph_ = false;

@@ -7,10 +7,10 @@
 #include <optional>
 #include <utility>
 
+#include "platform/hosting/ViewSession.h"
 #include "platform/render/Scene.h"
 #include "qt/Conversions.h"
 #include "qt/Desktop.h"
-#include "qt/HostedView.h"
 #include "qt/Picture.h"
 #include "qt/WindowScene.h"
 #include "qt/quick/LayoutPlace.h"
@@ -19,17 +19,18 @@
 #include "qt/quick/SheetItem.h"
 #include "qt/quick/ViewItem.h"
 #include "qt/quick/WindowWatcher.h"
+#include "qt/text/QtTextEngine.h"
 
 namespace quorix::qt {
 
 /// The private part of a view item. Main thread, except `paint`: the render thread, while the main
 /// thread waits.
-class ViewSurface final : public HostedView,
+class ViewSurface final : public hosting::ViewSession,
                           private WindowWatcher::Client,
                           public QuickAccessibleSurface {
  public:
   explicit ViewSurface(ViewItem& item)
-      : HostedView(item, item.settings()), QuickAccessibleSurface(item, *this), item_(item) {}
+      : ViewSession(QtTextEngine::shared()), QuickAccessibleSurface(item, *this), item_(item) {}
 
   ~ViewSurface() override { WindowWatcher::remove(*this); }
 
@@ -99,12 +100,13 @@ class ViewSurface final : public HostedView,
  private:
   void viewNeedsDisplay() override {
     idealStale_ = true;
-    HostedView::viewNeedsDisplay();
+    ViewSession::viewNeedsDisplay();
   }
 
   swiftui::Environment environment() const override {
     return item_.settings().over(Desktop::environment(scale()));
   }
+  bool allowsMotion() const override { return Desktop::allowsMotion(item_.settings().motion); }
 
   layout::Size size() const override { return {item_.width(), item_.height()}; }
 
@@ -137,6 +139,10 @@ class ViewSurface final : public HostedView,
     };
     return &WindowScene::of(*window, {[window] { return window; }, newSheet});
   }
+
+  bool isRead() const override { return areRead(); }
+  void sceneChanged() override { tellScene(); }
+  void focusMoved(bool later) override { tellFocus(later); }
 
   void activated() override { emit item_.activated(); }
   void sheetOpened() override { emit item_.sheetOpened(); }

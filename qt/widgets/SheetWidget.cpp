@@ -257,6 +257,9 @@ class SheetWidget final : public QWidget, public SheetSurface, public WidgetAcce
   std::vector<QObject*> accessibleViews() const override { return pageViews(); }
   bool isShown() const override { return !isClosed() && WidgetAccessibleSurface::isShown(); }
   bool isDialog() const override { return true; }
+  void sceneChanged() override { tellScene(); }
+  void focusMoved(bool later) override { tellFocus(later); }
+  void coverChanged() override { tellCover(); }
 
   SheetWidgetFront* front_ = nullptr;  ///< made with the first page
   WId activeBefore_ = 0;  ///< the native window in which a page opens, if it was active

@@ -7,10 +7,11 @@
 #include <optional>
 #include <utility>
 
+#include "platform/hosting/ViewSession.h"
 #include "qt/Desktop.h"
-#include "qt/HostedView.h"
 #include "qt/Picture.h"
 #include "qt/WindowScene.h"
+#include "qt/text/QtTextEngine.h"
 #include "qt/widgets/FocusFrame.h"
 #include "qt/widgets/SheetWidget.h"
 #include "qt/widgets/ViewWidget.h"
@@ -20,10 +21,10 @@
 namespace quorix::qt {
 
 /// The private part of a view widget. Main thread.
-class WidgetSurface final : public HostedView, private WidgetAccessibleSurface {
+class WidgetSurface final : public hosting::ViewSession, public WidgetAccessibleSurface {
  public:
   explicit WidgetSurface(ViewWidget& widget)
-      : HostedView(widget, widget.settings()),
+      : ViewSession(QtTextEngine::shared()),
         WidgetAccessibleSurface(widget, *this),
         widget_(widget) {}
 
@@ -74,7 +75,7 @@ class WidgetSurface final : public HostedView, private WidgetAccessibleSurface {
  private:
   void viewNeedsDisplay() override {
     sizeStale_ = true;
-    HostedView::viewNeedsDisplay();
+    ViewSession::viewNeedsDisplay();
   }
 
   swiftui::Environment environment() const override {
@@ -83,6 +84,7 @@ class WidgetSurface final : public HostedView, private WidgetAccessibleSurface {
     around.direction = Desktop::directionOf(widget_.layoutDirection());
     return widget_.settings().over(around);
   }
+  bool allowsMotion() const override { return Desktop::allowsMotion(widget_.settings().motion); }
 
   layout::Size size() const override { return {double(widget_.width()), double(widget_.height())}; }
   double scale() const { return widget_.devicePixelRatioF(); }
@@ -110,6 +112,10 @@ class WidgetSurface final : public HostedView, private WidgetAccessibleSurface {
     };
     return &WindowScene::of(*window, {[window] { return window->windowHandle(); }, newSheet});
   }
+
+  bool isRead() const override { return areRead(); }
+  void sceneChanged() override { tellScene(); }
+  void focusMoved(bool later) override { tellFocus(later); }
 
   void activated() override { emit widget_.activated(); }
   void sheetOpened() override { emit widget_.sheetOpened(); }
