@@ -48,7 +48,8 @@ quorix_public_headers(QuorixWidgets
   platform/hosting/SheetPresenter.h
   platform/hosting/ViewWindow.h
   platform/render/ScenePrinter.h
-  # Drawing: the direction of a text, the files of an image, the address of a page.
+  # Drawing: the focus ring, the direction of a text, the files of an image, the address of a page.
+  platform/hosting/FocusRing.h
   platform/text/TextAnalysis.h
   platform/graphics/AssetCatalog.h
   platform/webkit/WebContent.h

@@ -1,30 +1,18 @@
 #pragma once
 
-#include <QKeyEvent>
-
 #include "platform/hosting/ViewSession.h"
 #include "qt/Desktop.h"
-#include "qt/Input.h"
 #include "qt/SheetCloseReason.h"
 #include "qt/Surface.h"
-#include "qt/ViewAccessible.h"
 #include "qt/text/QtTextEngine.h"
 
 namespace quorix::qt {
 
-/// A view in a window: `Shown` is its item or widget, `Toolkit` the surface for any of these. Main
-/// thread.
-template <class Shown, class Toolkit>
-class HostedView : public hosting::ViewSession, public Toolkit {
+/// A view in a window: `Shown` is its item or widget, `ToolkitSurface` the surface for any of
+/// these. Main thread.
+template <class Shown, class ToolkitSurface>
+class HostedView : public hosting::ViewSession, public ToolkitSurface {
  public:
-  using ViewSession::handle;
-  /// Handles an event of the pointer, or a key that acts. False for other events. The action may
-  /// delete the surface: do not touch it afterwards.
-  bool handle(QEvent& event) {
-    if (event.type() == QEvent::KeyPress) return handle(toKeyEvent(static_cast<QKeyEvent&>(event)));
-    return passPointer(event, *this);
-  }
-
   /// It was shown or hidden, or its window was.
   void onScreenChanged() {
     host().setOnScreen(isOnScreen());
@@ -35,7 +23,7 @@ class HostedView : public hosting::ViewSession, public Toolkit {
   /// `chosen`: the host's settings for the view.
   HostedView(Shown& shown, const hosting::HostSettings& chosen)
       : ViewSession(QtTextEngine::shared()),
-        Toolkit(shown, *this),
+        ToolkitSurface(shown, *this),
         shown_(shown),
         chosen_(chosen) {}
 
@@ -48,10 +36,8 @@ class HostedView : public hosting::ViewSession, public Toolkit {
     return chosen_.motion ? *chosen_.motion : !Desktop::prefersReducedMotion();
   }
   bool isRead() const override { return Surface::areRead(); }
-  void sceneChanged() override { ViewAccessible::sceneChanged(shown_); }
-  void focusMoved(bool later) override {
-    ViewAccessible::focusChanged(shown_, later ? Qt::QueuedConnection : Qt::DirectConnection);
-  }
+  void sceneChanged() override { this->tellScene(); }
+  void focusMoved(bool later) override { this->tellFocus(later); }
   void desktopChanged() override { settingsChanged(); }
   void windowStateChanged() override { onScreenChanged(); }
 

@@ -75,18 +75,18 @@ void passTouch(QTouchEvent& event, hosting::Responder& responder) {
   }
 }
 
-}  // namespace
-
-hosting::KeyEvent toKeyEvent(const QKeyEvent& event) {
-  return {keyOf(event), event.isAutoRepeat()};
-}
-
 hosting::ScrollEvent toScrollEvent(const QWheelEvent& event) {
   const bool follows = event.phase() != Qt::NoScrollPhase && !event.pixelDelta().isNull();
   if (follows) return {-double(event.pixelDelta().y()), true};
   const double notches = event.angleDelta().y() / double(QWheelEvent::DefaultDeltasPerStep);
   const int lines = QGuiApplication::styleHints()->wheelScrollLines();
   return {-notches * lines * hosting::ScrollEvent::line, false};
+}
+
+}  // namespace
+
+hosting::KeyEvent toKeyEvent(const QKeyEvent& event) {
+  return {keyOf(event), event.isAutoRepeat()};
 }
 
 hosting::ViewFocus::Cause causeOf(Qt::FocusReason reason) {
@@ -97,8 +97,12 @@ hosting::ViewFocus::Cause causeOf(Qt::FocusReason reason) {
   return interrupts ? Cause::interruption : Cause::other;
 }
 
-bool passPointer(QEvent& event, hosting::Responder& responder) {
+bool passInput(QEvent& event, hosting::Responder& responder) {
   switch (event.type()) {
+    case QEvent::KeyPress:
+      return responder.handle(toKeyEvent(static_cast<QKeyEvent&>(event)));
+    case QEvent::Wheel:
+      return responder.handle(toScrollEvent(static_cast<QWheelEvent&>(event)));
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
       passMouse(static_cast<QMouseEvent&>(event), Phase::pressed, responder);

@@ -8,17 +8,16 @@
 
 class QEvent;
 class QKeyEvent;
-class QWheelEvent;
 
 namespace quorix::qt {
 
 QUORIX_EXPORT hosting::KeyEvent toKeyEvent(const QKeyEvent& event);
-hosting::ScrollEvent toScrollEvent(const QWheelEvent& event);
 QUORIX_EXPORT hosting::ViewFocus::Cause causeOf(Qt::FocusReason reason);
 
-/// Passes an event of the pointer to `responder`, and accepts it if that takes it. False for other
-/// events. The action may delete the surface.
-QUORIX_EXPORT bool passPointer(QEvent& event, hosting::Responder& responder);
+/// Passes an event of the pointer to `responder`, and accepts it if that takes it. Passes a key or
+/// the wheel. False for other events, and if `responder` does not use the key or the wheel. The
+/// action may delete the surface: do not touch it afterwards.
+QUORIX_EXPORT bool passInput(QEvent& event, hosting::Responder& responder);
 
 /// Shows the hand where the view acts, and elsewhere the cursor of what the view stands in.
 template <class View>

@@ -15,12 +15,6 @@ namespace {
 // What a QPainter can address on one axis.
 constexpr double largestSide = 32767;
 
-graphics::RGBA backgroundOf(const PictureOptions& options) {
-  if (options.background) return *options.background;
-  const bool dark = options.environment.appearance == graphics::Appearance::dark;
-  return dark ? graphics::RGBA{0, 0, 0, 255} : graphics::RGBA{255, 255, 255, 255};
-}
-
 }  // namespace
 
 QImage paintPicture(const render::Scene& scene, double scale, graphics::RGBA background) {
@@ -67,7 +61,7 @@ void paintAsPicture(QPainter& painter, const render::Scene& scene) {
 }
 
 QImage paintPicture(const render::Scene& scene, const PictureOptions& options) {
-  return paintPicture(scene, options.environment.scale, backgroundOf(options));
+  return paintPicture(scene, options.environment.scale, options.ground());
 }
 
 QImage picture(const swiftui::View& view, const PictureOptions& options) {

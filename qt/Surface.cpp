@@ -5,7 +5,6 @@
 
 #include "qt/ApplicationLifetime.h"
 #include "qt/Desktop.h"
-#include "qt/ViewAccessible.h"
 
 namespace quorix::qt {
 namespace {
@@ -15,20 +14,16 @@ QHash<const QObject*, Surface*>& surfaces() {
   return all;
 }
 
-QAccessibleInterface* makeInterface(const QString&, QObject* object) {
-  return Surface::of(object) ? ViewAccessible::make(*object) : nullptr;
-}
-
 /// Makes the surfaces known to assistive technology.
 class Bridge : private QAccessible::ActivationObserver {
  public:
   Bridge() {
-    QAccessible::installFactory(makeInterface);
+    QAccessible::installFactory(Surface::makeAccessible);
     QAccessible::installActivationObserver(this);
   }
   ~Bridge() override {
     QAccessible::removeActivationObserver(this);
-    QAccessible::removeFactory(makeInterface);
+    QAccessible::removeFactory(Surface::makeAccessible);
   }
   bool isActive() const { return active_ || QAccessible::isActive(); }
 

@@ -7,13 +7,14 @@
 #include "platform/foundation/Export.h"
 #include "platform/hosting/Responder.h"
 
+class QAccessibleInterface;
 class QObject;
 class QWindow;
 
 namespace quorix::qt {
 
-/// A view or a sheet in a window of either toolkit: what assistive technology asks it, and what
-/// changes around it. Main thread.
+/// A view or a sheet in a window of either toolkit: what assistive technology asks it and is told,
+/// and what changes around it. Main thread.
 class QUORIX_EXPORT Surface {
  public:
   Surface(const Surface&) = delete;
@@ -27,6 +28,8 @@ class QUORIX_EXPORT Surface {
   static void tellWindowState(const QWindow* window);
   /// Whether assistive technology listens.
   static bool areRead();
+  /// The interface of `object`'s surface, for Qt's accessibility; null for other objects.
+  static QAccessibleInterface* makeAccessible(const QString&, QObject* object);
 
   /// The item or the widget.
   QObject& object() const { return object_; }
@@ -48,6 +51,15 @@ class QUORIX_EXPORT Surface {
   /// Something modal lies over it.
   virtual bool isCovered() const = 0;
   virtual bool isDialog() const { return false; }
+
+  // Notices for assistive technology. They do nothing while none listens.
+
+  /// Tells what changed in the display list since the last call.
+  void tellScene();
+  /// Tells where the focus is: now, or on a later turn.
+  void tellFocus(bool later);
+  /// Tells which surfaces something modal covers from now on, or no longer.
+  static void tellCover();
 
   virtual void desktopChanged() {}
   /// Its window was shown, hidden, minimized or restored.

@@ -101,14 +101,19 @@ struct Painter {
     pango_cairo_show_layout(to, texts.lay(item.text, item.frame.size.width).get());
   }
 
-  void draw(const render::FillItem& item) {
-    const auto& [frame, color, r, b] = item;
+  /// `r` and `b` are the radii of the upper and the lower corners.
+  void outline(const layout::Rect& frame, double r, double b) {
     cairo_new_path(to);
     cairo_arc(to, frame.left() + r, frame.top() + r, r, G_PI, 1.5 * G_PI);
     cairo_arc(to, frame.right() - r, frame.top() + r, r, 1.5 * G_PI, 2 * G_PI);
     cairo_arc(to, frame.right() - b, frame.bottom() - b, b, 0, 0.5 * G_PI);
     cairo_arc(to, frame.left() + b, frame.bottom() - b, b, 0.5 * G_PI, G_PI);
-    use(color);
+    cairo_close_path(to);
+  }
+
+  void draw(const render::FillItem& item) {
+    outline(item.frame, item.topCornerRadius, item.bottomCornerRadius);
+    use(item.color);
     cairo_fill(to);
   }
 
@@ -120,8 +125,8 @@ struct Painter {
 
   void draw(const render::StrokeItem& item) {
     const auto& [origin, size] = item.frame;
-    const double w = item.width;
-    cairo_rectangle(to, origin.x + w / 2, origin.y + w / 2, size.width - w, size.height - w);
+    const double w = item.width, r = std::max(0.0, item.cornerRadius - w / 2);
+    outline({{origin.x + w / 2, origin.y + w / 2}, {size.width - w, size.height - w}}, r, r);
     use(item.color);
     cairo_set_line_width(to, w);
     cairo_stroke(to);

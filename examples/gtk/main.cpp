@@ -8,6 +8,7 @@
 #include "QuorixWidgets/info/InfoWidgetBuilder.h"
 #include "QuorixWidgets/score/ScoreWidgetBuilder.h"
 #include "platform/foundation/MainQueue.h"
+#include "platform/hosting/FocusRing.h"
 #include "platform/hosting/ViewWindow.h"
 #include "platform/uikit/URLOpener.h"
 
@@ -89,8 +90,9 @@ struct Surface final : hosting::ViewWindow {
     examples::Painter painter{to, texts_};
     painter.paint(view().host().scene(size));
     for (hosting::SheetSession* sheet : sheets()) painter.paint(sheet->presenter().scene());
-    const auto ring = front().ringFrame();
-    if (ring) painter.draw(render::StrokeItem{*ring, {53, 132, 228, 255}, 2});
+    using Ring = hosting::FocusRing;
+    const auto focused = front().ringFrame();
+    if (focused) painter.draw(Ring::line(Ring::around(*focused), painter.appearance));
   }
 
   /// Draws on a later turn, because a frame may be in progress.

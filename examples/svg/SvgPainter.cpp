@@ -169,8 +169,10 @@ void SvgPainter::draw(const render::StrokeItem& item) {
   const layout::Rect middle{
       {item.frame.left() + half, item.frame.top() + half},
       {item.frame.size.width - item.width, item.frame.size.height - item.width}};
-  svg_ += "<rect" + place(middle) + " fill=\"none\"" + fill(item.color, "stroke") +
-          attribute("stroke-width", item.width) + "/>\n";
+  const double radius = std::max(0.0, item.cornerRadius - half);
+  svg_ += "<rect" + place(middle) + (radius > 0 ? attribute("rx", radius) : std::string()) +
+          " fill=\"none\"" + fill(item.color, "stroke") + attribute("stroke-width", item.width) +
+          "/>\n";
 }
 
 /// A file cannot embed a page, so this draws its background.

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "platform/hosting/FocusRing.h"
-#include "platform/hosting/SceneLayers.h"
+#include "platform/hosting/SheetPictures.h"
 #include "platform/layout/Geometry.h"
 
 namespace quorix::hosting {

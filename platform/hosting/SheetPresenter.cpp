@@ -5,8 +5,8 @@
 #include <functional>
 #include <utility>
 
-#include "platform/hosting/SceneLayers.h"
 #include "platform/hosting/SheetPanel.h"
+#include "platform/hosting/SheetPictures.h"
 
 namespace quorix::hosting {
 namespace {

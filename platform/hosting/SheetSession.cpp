@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "platform/hosting/SheetPictures.h"
 #include "platform/hosting/WindowSession.h"
 
 namespace quorix::hosting {
@@ -12,7 +13,9 @@ constexpr double doubleTap = 400;  // milliseconds from the first release to the
 }  // namespace
 
 SheetSession::SheetSession(WindowSession& window, text::TextEngine& engine)
-    : window_(&window), presenter_(engine, *this) {
+    : window_(&window),
+      presenter_(engine, *this),
+      pictures_(std::make_unique<SheetPictures>([this](int index) { return newPicture(index); })) {
   window.sheets_.push_back(this);
 }
 
@@ -92,6 +95,25 @@ void SheetSession::leave() {
   vanish();
 }
 
+bool SheetSession::followFrame() {
+  if (!isOpen()) return false;
+  presenter_.panel();  // the motion depends on its height
+  if (!settings_.motion) presenter_.advance(0);
+  if (closed_) return false;
+  if (pictures_->follow(presenter_, ringFrame(), scale())) sceneChanged();
+  followMotion();  // after the painting, which takes none of its time
+  followPages();
+  if (pictures_->hideTop(coveredTop_)) needsFrame();
+  return true;
+}
+
+void SheetSession::paintAgain() {
+  pictures_->paintAgain();
+  needsFrame();
+}
+
+std::unique_ptr<ScenePicture> SheetSession::newPicture(int) { return nullptr; }
+
 bool SheetSession::followMotion() {
   if (!settings_.motion) presenter_.advance(0);
   if (presenter_.isMoving()) startClock();  // without motion too: it times the scroll indicator
@@ -110,6 +132,7 @@ void SheetSession::wasShown() {
 }
 
 void SheetSession::followPages() {
+  coveredTop_ = 0;
   if (closed_ || gaveUpPages_ || !(shown_ || opensPagesAtOnce())) return;
   if (pagesRevision_ != presenter_.panelRevision()) {
     pagesRevision_ = presenter_.panelRevision();
@@ -119,6 +142,7 @@ void SheetSession::followPages() {
   int index = 0;
   pages_.place(presenter_.panel(), scale(), clipsPages(), [&](PageEngine& page, PagePlace place) {
     place.room = place.room.translated(corner);
+    if (place.isAtTop) coveredTop_ = place.strip;
     placePage(page, place, index++);
   });
 }

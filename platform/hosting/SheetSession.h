@@ -13,6 +13,8 @@
 
 namespace quorix::hosting {
 
+class ScenePicture;
+class SheetPictures;
 class WindowSession;
 
 /// A sheet over a window: opening and closing, settings, motion, input, focus and pages. A
@@ -79,10 +81,16 @@ class QUORIX_EXPORT SheetSession : public Responder,
   void windowResized(layout::Size size);
   /// The frame clock ticked. Returns whether it must continue.
   bool advance(double seconds) { return presenter_.advance(seconds); }
-  /// Call before each frame: continues the motion. False if the sheet has closed.
+  /// Call before each frame: brings motion, pictures and pages up to date. False if the sheet has
+  /// closed. A toolkit that paints the whole display list calls the next two instead.
+  bool followFrame();
+  /// Continues the motion. False if the sheet has closed.
   bool followMotion();
-  /// Call before each frame, after the panel has moved: opens, closes and moves pages.
+  /// Call after the panel has moved: opens, closes and moves pages.
   void followPages();
+  const SheetPictures& pictures() const { return *pictures_; }
+  /// The toolkit lost the pictures.
+  void paintAgain();
   /// Call when a frame of the sheet is on the screen.
   void wasShown();
   /// Moves the focus inside the sheet.
@@ -114,6 +122,10 @@ class QUORIX_EXPORT SheetSession : public Responder,
   virtual void focusMoved(bool later) = 0;
   /// Notifies assistive technology that the sheet covers the window now, or no longer.
   virtual void coverChanged() {}
+  /// Notifies assistive technology of a new display list. Called by `followFrame`.
+  virtual void sceneChanged() {}
+  /// Makes a picture for `followFrame` above those before it; the pages are between them.
+  virtual std::unique_ptr<ScenePicture> newPicture(int index);
 
   // Pages, for a toolkit with a web engine.
   /// Whether a page can probably be shown. Fast: does not load the engine.
@@ -165,8 +177,10 @@ class QUORIX_EXPORT SheetSession : public Responder,
   layout::Size windowSize_;
   VelocityTracker velocity_;
   EmbeddedPages pages_{*this};
+  std::unique_ptr<SheetPictures> pictures_;
   FocusReturn focusReturn_;
   std::optional<unsigned> pagesRevision_;
+  double coveredTop_ = 0;  ///< points at the panel's top that a page covers
   bool animated_ = true;
   bool shown_ = false;
   bool presented_ = false;

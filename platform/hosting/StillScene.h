@@ -27,6 +27,13 @@ struct StillOptions {
   std::optional<graphics::RGBA> background;
   /// Insets that the device covers in the window of the sheet.
   layout::SideInsets safeArea = {};
+
+  /// The background, or its default.
+  graphics::RGBA ground() const {
+    const bool dark = environment.appearance == graphics::Appearance::dark;
+    return background.value_or(dark ? graphics::RGBA{0, 0, 0, 255}
+                                    : graphics::RGBA{255, 255, 255, 255});
+  }
 };
 
 /// A view that was laid out once, without a window: what a picture shows and what a screen reader

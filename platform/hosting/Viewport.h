@@ -168,7 +168,6 @@ class PicturePart {
 
   /// The view shows something else.
   void changed() { stale_ = true; }
-  bool isStale() const { return stale_; }
   /// Whether to paint the part again. Call it when it can be painted.
   bool takeStale() {
     if (stale_) painted_ = toPaint_;

@@ -50,6 +50,7 @@ struct StrokeItem {
   layout::Rect frame;
   graphics::RGBA color;
   double width = 1;
+  double cornerRadius = 0;  ///< of the frame
 };
 
 /// Clips all later items of the list to the frame.

@@ -122,6 +122,7 @@ void write(const StrokeItem& item, Writer& to) {
   to.begin("stroke", item.frame);
   to.value("color", hex(item.color));
   to.value("width", item.width);
+  if (item.cornerRadius > 0) to.value("cornerRadius", item.cornerRadius);
 }
 
 template <class Writer>

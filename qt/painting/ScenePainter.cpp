@@ -80,6 +80,14 @@ render::Pixels pixelsOf(QImage& image) {
           static_cast<std::size_t>(image.width()), static_cast<std::size_t>(image.height())};
 }
 
+template <class Draw>
+void smoothly(QPainter& painter, Draw draw) {
+  const bool antialiased = painter.testRenderHint(QPainter::Antialiasing);
+  painter.setRenderHint(QPainter::Antialiasing);
+  draw(painter);
+  painter.setRenderHint(QPainter::Antialiasing, antialiased);
+}
+
 }  // namespace
 
 ScenePainter::ScenePainter(QPainter& painter, double scale, QtTextEngine& engine)
@@ -189,14 +197,13 @@ void ScenePainter::draw(const render::FillItem& item) {
     if (ground_) ground_->filled(toRect(device), item.color);
     return fill(device, item.color);
   }
-  // A rounded fill is not moved to whole pixels.
+  // Round corners are not moved to whole pixels.
   if (ground_) ground_->painted(toRect(device.adjusted(-1, -1, 1, 1)));
-  const bool antialiased = painter().testRenderHint(QPainter::Antialiasing);
-  painter().setRenderHint(QPainter::Antialiasing);
-  painter().fillPath(rounded(toRect(scaled(item.frame)), item.topCornerRadius * scale_,
-                             item.bottomCornerRadius * scale_),
-                     toQColor(item.color));
-  painter().setRenderHint(QPainter::Antialiasing, antialiased);
+  smoothly(painter(), [&](QPainter& to) {
+    to.fillPath(rounded(toRect(scaled(item.frame)), item.topCornerRadius * scale_,
+                        item.bottomCornerRadius * scale_),
+                toQColor(item.color));
+  });
 }
 
 void ScenePainter::draw(const render::ClipItem& item) {
@@ -207,7 +214,16 @@ void ScenePainter::draw(const render::ClipItem& item) {
 
 void ScenePainter::draw(const render::StrokeItem& item) {
   const QRectF outer = deviceRect(item.frame);
-  if (ground_) ground_->painted(toRect(outer));
+  const int beside = item.cornerRadius > 0 ? 1 : 0;
+  if (ground_) ground_->painted(toRect(outer.adjusted(-beside, -beside, beside, beside)));
+  if (item.cornerRadius > 0) {
+    const double width = item.width * scale_, half = width / 2;
+    const double radius = std::max(item.cornerRadius * scale_ - half, 0.0);
+    const QRectF middle = toRect(scaled(item.frame)).adjusted(half, half, -half, -half);
+    return smoothly(painter(), [&](QPainter& to) {
+      to.strokePath(rounded(middle, radius, radius), QPen(toQColor(item.color), width));
+    });
+  }
   const double limit = std::min(outer.width(), outer.height()) / 2;
   const double w = std::min(std::max(1.0, std::round(item.width * scale_)), limit);
   const QRectF inner = outer.adjusted(w, w, -w, -w);

@@ -5,7 +5,9 @@
 #include <QQuickItem>
 #include <functional>
 
-#include "qt/SheetSurface.h"
+#include "platform/hosting/FocusRing.h"
+#include "qt/Conversions.h"
+#include "qt/Picture.h"
 
 class QSGNode;
 
@@ -29,18 +31,18 @@ class NodePicture {
 };
 
 /// Shows a picture at its place and takes no input. Main thread.
-class PictureItem : public QQuickItem, public SheetPicture {
+class PictureItem : public QQuickItem, public hosting::ScenePicture {
  public:
   /// For `lost` see `NodePicture::show`.
   PictureItem(QQuickItem& parent, std::function<void()> lost)
       : QQuickItem(&parent), lost_(std::move(lost)) {
     setFlag(ItemHasContents);
   }
-  void setPicture(const QImage& picture) override {
-    picture_.set(picture);
+  void show(const render::Scene& scene, double scale) override {
+    picture_.set(paintPicture(scene, scale, {0, 0, 0, 0}));
     update();
   }
-  void moveTo(QPointF corner) override { setPosition(corner); }
+  void moveTo(layout::Point corner) override { setPosition(toPoint(corner)); }
 
  protected:
   QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData*) override {

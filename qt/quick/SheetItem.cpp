@@ -11,7 +11,6 @@
 
 #include "qt/Conversions.h"
 #include "qt/SheetSurface.h"
-#include "qt/ViewAccessible.h"
 #include "qt/WebComponent.h"
 #include "qt/WindowScene.h"
 #include "qt/quick/PictureItem.h"
@@ -134,10 +133,7 @@ class SheetItem final : public SheetArea, public SheetSurface, public QuickAcces
   }
 
   void updatePolish() override {
-    coveredTop_ = 0;
-    if (!followFrame()) return;
-    hideTop(coveredTop_);
-    update();
+    if (followFrame()) update();
   }
 
   QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData*) override {
@@ -147,13 +143,14 @@ class SheetItem final : public SheetArea, public SheetSurface, public QuickAcces
       old->appendChildNode(window()->createRectangleNode());
       old->appendChildNode(window()->createRectangleNode());
     }
+    const hosting::SheetPictures::Ground& ground = pictures().ground();
     auto* shade = static_cast<QSGRectangleNode*>(old->firstChild());
     // A transparent shade is not drawn, which saves blending the whole window.
-    shade->setRect(ground().shade.alpha() > 0 ? boundingRect() : QRectF());
-    shade->setColor(ground().shade);
+    shade->setRect(ground.shade.alpha > 0 ? boundingRect() : QRectF());
+    shade->setColor(toQColor(ground.shade));
     auto* below = static_cast<QSGRectangleNode*>(old->lastChild());
-    below->setRect(ground().below);
-    below->setColor(ground().color);
+    below->setRect(toRect(ground.below));
+    below->setColor(toQColor(ground.color));
     return old;
   }
 
@@ -175,7 +172,7 @@ class SheetItem final : public SheetArea, public SheetSurface, public QuickAcces
 
   double scale() const override { return window() ? window()->effectiveDevicePixelRatio() : 1; }
   void needsFrame() override { polish(); }
-  std::unique_ptr<SheetPicture> newPicture(int index) override {
+  std::unique_ptr<hosting::ScenePicture> newPicture(int index) override {
     auto item = std::make_unique<PictureItem>(*this, [this] { paintAgain(); });
     item->setZ(2 * index);  // the pages are between them
     return item;
@@ -240,7 +237,6 @@ class SheetItem final : public SheetArea, public SheetSurface, public QuickAcces
     page.setPosition(frame.topLeft());
     page.setSize(frame.size());
     static_cast<WebPage&>(engine).roundTop({place.strip, place.radius, scale()});
-    if (place.isAtTop) coveredTop_ = place.strip;
   }
 
   void pageFocusChanged(bool focused) {
@@ -261,13 +257,15 @@ class SheetItem final : public SheetArea, public SheetSurface, public QuickAcces
   std::vector<QObject*> accessibleViews() const override { return pageViews(); }
   bool isShown() const override { return !isClosed() && QuickAccessibleSurface::isShown(); }
   bool isDialog() const override { return true; }
+  void sceneChanged() override { tellScene(); }
+  void focusMoved(bool later) override { tellFocus(later); }
+  void coverChanged() override { tellCover(); }
   void accessibilityBegan() override {
     offer();
-    ViewAccessible::focusChanged(*this, Qt::QueuedConnection);
+    tellFocus(true);
   }
 
   bool inSceneGraph_ = false;
-  double coveredTop_ = 0;  ///< points at the top of the panel that a page covers
   // Made with the first page.
   SheetFront* front_ = nullptr;
   FocusStop* before_ = nullptr;

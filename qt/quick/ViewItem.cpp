@@ -10,7 +10,6 @@
 #include "qt/Conversions.h"
 #include "qt/Engine.h"
 #include "qt/Input.h"
-#include "qt/ViewAccessible.h"
 #include "qt/quick/ViewSurface.h"
 
 namespace quorix::qt {
@@ -169,7 +168,7 @@ bool ViewItem::event(QEvent* event) {
     if (!item) return true;
   }
   // The action may delete this item: nothing is touched after it.
-  return surface_->handle(*event) || QQuickItem::event(event);
+  return passInput(*event, *surface_) || QQuickItem::event(event);
 }
 
 void ViewItem::mouseUngrabEvent() { surface_->pointerLost(); }
@@ -193,7 +192,7 @@ void ViewItem::keyPressEvent(QKeyEvent* event) {
 void ViewItem::focusInEvent(QFocusEvent* event) {
   QQuickItem::focusInEvent(event);
   surface_->focusCame(causeOf(event->reason()));
-  ViewAccessible::focusChanged(*this);
+  surface_->tellFocus(false);
 }
 
 void ViewItem::focusOutEvent(QFocusEvent* event) {

@@ -11,7 +11,6 @@
 #include "qt/Desktop.h"
 #include "qt/HostedView.h"
 #include "qt/Picture.h"
-#include "qt/painting/FocusRing.h"
 #include "qt/quick/LayoutPlace.h"
 #include "qt/quick/PictureItem.h"
 #include "qt/quick/QuickAccessibleSurface.h"
@@ -149,13 +148,14 @@ class ViewSurface final : public HostedView<ViewItem, QuickAccessibleSurface>,
         part_.follow(WindowWatcher::placeOf(item_, *item_.parentItem()), size(), scale());
     const bool shifted = before != offset() && !picture_.isNull();
     if (shifted) item_.update();
-    return needsFrame || (shifted && ring_);
+    return needsFrame || (shifted && ringFrame());
   }
 
   QPointF offset() const { return toPoint(part_.offset()); }
 
   void paintAgain() {
     part_.changed();
+    ring_.paintAgain();
     item_.polish();
   }
 
@@ -172,16 +172,8 @@ class ViewSurface final : public HostedView<ViewItem, QuickAccessibleSurface>,
   }
 
   void updateRing() {
-    const auto around = ringFrame();
-    if (!around && !ring_) return;
-    if (!ring_) ring_ = new Ring(item_, [this] { paintAgain(); });
-    if (around != ring_->around || (around && part_.isStale())) {
-      ring_->around = around;
-      ring_->setPicture(around
-                            ? FocusRing::picture(*around, host().environment().appearance, scale())
-                            : QImage());
-    }
-    if (around) ring_->moveTo(offset() + FocusRing::frameAround(*around).topLeft());
+    ring_.follow(ringFrame(), part_.offset(), host().environment().appearance, scale(),
+                 [this] { return std::make_unique<PictureItem>(item_, [this] { paintAgain(); }); });
   }
 
   ViewItem& item_;
@@ -190,11 +182,7 @@ class ViewSurface final : public HostedView<ViewItem, QuickAccessibleSurface>,
   layout::Size ideal_;
   hosting::PicturePart part_;
   NodePicture picture_;
-  struct Ring : PictureItem {
-    using PictureItem::PictureItem;
-    std::optional<layout::Rect> around;  ///< the frame that its picture is for
-  };
-  Ring* ring_ = nullptr;  ///< made with the first ring
+  hosting::RingPicture ring_;
 };
 
 }  // namespace quorix::qt

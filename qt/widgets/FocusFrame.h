@@ -5,7 +5,8 @@
 #include <QProxyStyle>
 
 #include "platform/hosting/FocusRing.h"
-#include "qt/painting/FocusRing.h"
+#include "qt/Conversions.h"
+#include "qt/Picture.h"
 
 namespace quorix::qt {
 
@@ -30,8 +31,12 @@ class FocusFrame : public QFocusFrame {
  protected:
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
-    const QRectF around = FocusRing::frameAround(element_).translated(kMargin, kMargin);
-    FocusRing::paint(painter, around.intersected(rect()), appearance_);
+    const layout::Rect around = hosting::FocusRing::around(element_).translated({kMargin, kMargin});
+    render::Scene ring;
+    ring.size = {double(width()), double(height())};
+    ring.items = {hosting::FocusRing::line(layout::intersection(around, toRect(QRectF(rect()))),
+                                           appearance_)};
+    paintAsPicture(painter, ring);
   }
 
  private:

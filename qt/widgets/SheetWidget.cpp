@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "qt/Conversions.h"
+#include "qt/Picture.h"
 #include "qt/SheetSurface.h"
 #include "qt/WindowScene.h"
 #include "qt/widgets/WidgetAccessibleSurface.h"
@@ -56,18 +57,20 @@ class SheetWidgetFront : public QWidget {
   SheetSurface& sheet_;
 };
 
-class PictureWidget final : public QWidget, public SheetPicture {
+class PictureWidget final : public QWidget, public hosting::ScenePicture {
   Q_OBJECT
 
  public:
   explicit PictureWidget(QWidget& parent) : QWidget(&parent) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
-    show();
+    QWidget::show();
   }
-  void setPicture(const QImage& picture) override { picture_ = picture; }
-  void moveTo(QPointF corner) override {
-    setGeometry(QRectF(corner, picture_.deviceIndependentSize()).toAlignedRect());
-    offset_ = corner - pos();
+  void show(const render::Scene& scene, double scale) override {
+    picture_ = paintPicture(scene, scale, {0, 0, 0, 0});
+  }
+  void moveTo(layout::Point corner) override {
+    setGeometry(QRectF(toPoint(corner), picture_.deviceIndependentSize()).toAlignedRect());
+    offset_ = toPoint(corner) - pos();
   }
 
  protected:
@@ -137,8 +140,9 @@ class SheetWidget final : public QWidget, public SheetSurface, public WidgetAcce
     // Qt tells a widget late, and not on every platform, that its window moved to another screen.
     if (scale() != settings().environment.scale) followScale();
     QPainter painter(this);
-    painter.fillRect(rect(), ground().shade);
-    painter.fillRect(ground().below, ground().color);
+    const hosting::SheetPictures::Ground& ground = pictures().ground();
+    painter.fillRect(rect(), toQColor(ground.shade));
+    painter.fillRect(toRect(ground.below), toQColor(ground.color));
     later([this] { wasShown(); });
   }
 
@@ -165,7 +169,7 @@ class SheetWidget final : public QWidget, public SheetSurface, public WidgetAcce
     update();
   }
 
-  std::unique_ptr<SheetPicture> newPicture(int) override {
+  std::unique_ptr<hosting::ScenePicture> newPicture(int) override {
     return std::make_unique<PictureWidget>(*this);
   }
 
@@ -224,7 +228,7 @@ class SheetWidget final : public QWidget, public SheetSurface, public WidgetAcce
     // anew, which is then not active.
     const WId before = std::exchange(activeBefore_, 0);
     if (before && window()->internalWinId() != before) activateWindow();
-    page.stackUnder(&static_cast<PictureWidget&>(picture(index + 1)));
+    page.stackUnder(&static_cast<PictureWidget&>(pictures().picture(index + 1)));
   }
 
   void focusPage(hosting::PageEngine& engine, bool forward) override {
@@ -247,6 +251,9 @@ class SheetWidget final : public QWidget, public SheetSurface, public WidgetAcce
   std::vector<QObject*> accessibleViews() const override { return pageViews(); }
   bool isShown() const override { return !isClosed() && WidgetAccessibleSurface::isShown(); }
   bool isDialog() const override { return true; }
+  void sceneChanged() override { tellScene(); }
+  void focusMoved(bool later) override { tellFocus(later); }
+  void coverChanged() override { tellCover(); }
 
   SheetWidgetFront* front_ = nullptr;  ///< made with the first page
   WId activeBefore_ = 0;  ///< the native window in which a page opens, if it was active

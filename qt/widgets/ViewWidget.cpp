@@ -8,7 +8,6 @@
 #include "qt/Conversions.h"
 #include "qt/Engine.h"
 #include "qt/Input.h"
-#include "qt/ViewAccessible.h"
 #include "qt/widgets/WidgetSurface.h"
 
 namespace quorix::qt {
@@ -59,7 +58,7 @@ bool ViewWidget::event(QEvent* event) {
       break;
   }
   // The action may delete this widget: nothing is touched after it.
-  return (isEnabled() && surface_->handle(*event)) || QWidget::event(event);
+  return (isEnabled() && passInput(*event, *surface_)) || QWidget::event(event);
 }
 
 void ViewWidget::changeEvent(QEvent* event) {
@@ -89,7 +88,7 @@ void ViewWidget::focusInEvent(QFocusEvent* event) {
   QMetaObject::invokeMethod(
       this,
       [this] {
-        if (hasFocus()) ViewAccessible::focusChanged(*this);
+        if (hasFocus()) surface_->tellFocus(false);
       },
       Qt::QueuedConnection);
 }

@@ -3,11 +3,13 @@
 #include <tuple>
 
 #include "platform/hosting/EmbeddedPages.h"
-#include "platform/hosting/SceneLayers.h"
 #include "platform/hosting/SheetPanel.h"
+#include "platform/hosting/SheetPictures.h"
 #include "platform/hosting/Viewport.h"
 #include "platform/render/RoundedTop.h"
+#include "tests/core/TestWindow.h"
 #include "tests/core/Vectors.h"
+#include "tests/web/PageRow.h"
 
 namespace quorix::hosting {
 namespace {
@@ -24,12 +26,12 @@ constexpr graphics::RGBA ground{255, 255, 255, 255};
 EmbedItem embed(Rect frame) { return {frame, std::make_shared<Content>(), {1, 2, 3, 255}}; }
 FillItem fill(Rect frame) { return {frame, {9, 9, 9, 255}}; }
 
-/// For each layer: the number of its items, its origin and size, and whether an embed follows.
+/// For each layer: the number of its items, its origin and size.
 std::string told(const Scene& scene, double scale) {
   std::ostringstream all;
   for (const SceneLayer& layer : layersOf(scene, ground, scale)) {
-    all << layer.scene.items.size() << " at " << layer.origin.x << "," << layer.origin.y << " "
-        << layer.scene.size.width << "x" << layer.scene.size.height << (layer.embed ? " | " : "");
+    all << (all.tellp() > 0 ? " | " : "") << layer.scene.items.size() << " at " << layer.origin.x
+        << "," << layer.origin.y << " " << layer.scene.size.width << "x" << layer.scene.size.height;
   }
   return all.str();
 }
@@ -56,6 +58,71 @@ TEST(SceneLayers, AreCutWhereSomethingPaintsItself) {
     }
     EXPECT_EQ(told(scene, row["scale"]), ::text(row, "layers"));
   });
+}
+
+TEST(SheetPictures, ArePaintedOnlyWhenTheyChange) {
+  /// Writes "number WIDTHxHEIGHT" when it paints, and its number and top when it moves.
+  struct Slip final : ScenePicture {
+    Slip(int index, std::ostringstream& all) : number(index), to(all) {}
+    ~Slip() override { to << "no " << number << ", "; }
+    void show(const Scene& scene, double) override {
+      to << number << ' ' << scene.size.width << 'x' << scene.size.height << ", ";
+    }
+    void moveTo(layout::Point corner) override { to << number << " at " << corner.y << ", "; }
+    int number;
+    std::ostringstream& to;
+  };
+  const swiftui::State<bool> shown{true};
+  const auto words = [&] {
+    return swiftui::Presentation{shown.binding(), swiftui::Text::verbatim("Words")};
+  };
+  const auto page = [&] {
+    const auto content = std::make_shared<webkit::WebContent>();
+    return swiftui::Presentation{
+        shown.binding(), swiftui::represented({"Page", [content] {
+                                                 return std::make_shared<testing::PageContent>(
+                                                     content, [] {});
+                                               }})};
+  };
+  testing::TestSheet on(words(), {320, 640}, {});
+  std::ostringstream log;
+  SheetPictures pictures([&](int index) { return std::make_unique<Slip>(index, log); });
+  std::optional<Rect> ring;
+  const struct {
+    const char* what;
+    std::function<void()> change;
+    const char* log;
+  } rows[] = {
+      {"words", [] {}, "0 320x348, 0 at 10, "},
+      {"a ring",
+       [&] {
+         ring = Rect{{20, 400.25}, {40, 20}};
+       },
+       "0 at 10, 1 48x28, 1 at 396.5, "},
+      {"nothing", [] {}, "0 at 10, 1 at 396.5, "},
+      {"a drag",
+       [&] {
+         on.sheet.pointerPressed({9, 600}), on.sheet.pointerMoved({9, 640}), ring->origin.y += 32;
+       },
+       "0 at 42, 1 at 428.5, "},
+      {"a page, below the ring", [&] { on.sheet.present(page()); },
+       "no 1, 0 320x630, 1 48x48, 0 at 42, 1 at 82, 2 48x28, 2 at 428.5, "},
+      {"covered at the top", [&] { pictures.hideTop(12); },
+       "0 320x618, 1 48x48, 0 at 54, 1 at 82, 2 at 428.5, "},
+      {"lost", [&] { pictures.paintAgain(); },
+       "0 320x618, 1 48x48, 0 at 54, 1 at 82, 2 48x28, 2 at 428.5, "},
+      {"words again", [&] { on.sheet.present(words()), ring.reset(); },
+       "no 1, 0 320x336, 0 at 54, no 2, "},
+  };
+  for (const auto& [what, change, expected] : rows) {
+    change();
+    on.sheet.advance(0);
+    log.str("");
+    pictures.follow(on.sheet, ring, 2);
+    EXPECT_EQ(log.str(), expected) << what;
+  }
+  const Rect panel = on.sheet.panelFrame();
+  EXPECT_EQ(pictures.ground().below.bottom(), panel.bottom());
 }
 
 /// The index of the hit area at `point`; -1 if there is none, or an embed takes the tap.

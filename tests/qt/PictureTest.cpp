@@ -71,6 +71,8 @@ TEST(TextPictures, LookAsTheTextDrawnAnew) {
       {"clipped", after(wrapped, {render::ClipItem{{{40, 35}, {50, 20}}}})},
       {"underlined", after(shaped(link), {ground(light)})},
       {"two runs, wrapped, dark", after(wrapped, {ground(dark)})},
+      {"within a round stroke",
+       after(wrapped, {ground(light), render::StrokeItem{{{20, 20}, {110, 60}}, dark, 1, 6}})},
   };
   for (const double scale : {1.0, 1.5, 3.0}) {
     QtTextEngine::shared().pictures().clear();

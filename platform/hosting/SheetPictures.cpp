@@ -1,6 +1,7 @@
-#include "platform/hosting/SceneLayers.h"
+#include "platform/hosting/SheetPictures.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/layout/Geometry.h"
 
@@ -65,7 +66,7 @@ Rect within(const Rect& rect, layout::Size size) {
 
 /// Crops the layer's picture to its items.
 void crop(SceneLayer& layer, double scale) {
-  auto& items = layer.scene.items;
+  const auto& items = layer.scene.items;
   if (items.empty()) {
     layer.scene.size = {};
     return;
@@ -73,15 +74,7 @@ void crop(SceneLayer& layer, double scale) {
   Rect all = inked(items.front());
   for (const render::Item& item : items) all = layout::united(all, inked(item));
   all = layout::PixelGrid(scale).round(within(all, layer.scene.size));
-  for (render::Item& item : items) {
-    std::visit(
-        [&](auto& shown) {
-          shown.frame = shown.frame.translated({-all.left(), -all.top()});
-        },
-        item);
-  }
-  layer.origin = all.origin;
-  layer.scene.size = all.size;
+  layer = {all.origin, render::partOf(layer.scene, all)};
 }
 
 }  // namespace
@@ -97,9 +90,7 @@ std::vector<SceneLayer> layersOf(const render::Scene& scene, graphics::RGBA grou
   for (const render::Item& item : scene.items) {
     layers.back().scene.items.push_back(item);
     const auto* embed = std::get_if<EmbedItem>(&item);
-    if (!embed || !embed->content) continue;
-    layers.back().embed = embed;
-    begin();
+    if (embed && embed->content) begin();
   }
   cutGround(layers.front().scene, ground, scale);
   for (std::size_t i = 1; i < layers.size(); ++i) crop(layers[i], scale);
@@ -111,6 +102,55 @@ bool hasEmbeds(const render::Scene& scene) {
     const auto* embed = std::get_if<EmbedItem>(&item);
     return embed && embed->content;
   });
+}
+
+bool SheetPictures::follow(SheetPresenter& sheet, const std::optional<Rect>& ring, double scale) {
+  const render::Scene& scene = sheet.panel();  // which decides on the rest
+  const std::pair now(sheet.panelRevision(), scale);
+  const bool paints = painted_ != now;
+  if (paints) paint(sheet, scale);
+  painted_ = now;
+  const Rect panel = sheet.panelFrame();
+  for (const Layer& layer : layers_) layer.picture->moveTo(panel.translated(layer.origin).origin);
+  std::optional<Rect> ringed;
+  // Rounded, because motion moves it by fractions of a pixel.
+  if (ring) {
+    ringed = layout::PixelGrid(scale).round(ring->translated({-panel.left(), -panel.top()}));
+  }
+  ring_.follow(ringed, panel.origin, scene.appearance, scale,
+               [this] { return make_(static_cast<int>(layers_.size())); });
+  ground_ = {sheet.shade(), panel, sheet.panelColor()};
+  const double covered = std::min(end_, panel.size.height);
+  ground_.below.origin.y += covered;
+  ground_.below.size.height -= covered;
+  return paints;
+}
+
+void SheetPictures::paint(SheetPresenter& sheet, double scale) {
+  auto layers = layersOf(sheet.panel(), sheet.panelColor(), scale);
+  end_ = layers.front().scene.size.height;
+  if (hiddenTop_ > 0) {
+    const Rect rest = {{0, hiddenTop_}, {layers.front().scene.size.width, end_ - hiddenTop_}};
+    layers.front() = {rest.origin, render::partOf(layers.front().scene, rest)};
+  }
+  while (layers_.size() > layers.size()) layers_.pop_back();
+  if (layers_.size() < layers.size()) ring_.drop();  // it has to be above all layers
+  for (std::size_t i = 0; i < layers.size(); ++i) {
+    if (i == layers_.size()) layers_.push_back({make_(static_cast<int>(i)), {}});
+    layers_[i].picture->show(layers[i].scene, scale);
+    layers_[i].origin = layers[i].origin;
+  }
+}
+
+void SheetPictures::paintAgain() {
+  painted_.reset();
+  ring_.paintAgain();
+}
+
+bool SheetPictures::hideTop(double points) {
+  const bool changes = std::exchange(hiddenTop_, points) != points;
+  if (changes) painted_.reset();
+  return changes;
 }
 
 }  // namespace quorix::hosting
