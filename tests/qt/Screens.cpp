@@ -91,7 +91,7 @@ void Screen::drag(QPoint from, QPoint to, int milliseconds, bool byTouch) {
   if (byTouch) QTest::touchEvent(&window(), &touchScreen()).press(1, from);
   if (!byTouch) QTest::mousePress(&window(), Qt::LeftButton, {}, from);
   for (int step = 1; step <= steps; ++step) {
-    if (byTouch) QTest::qWait(milliseconds / steps);
+    if (byTouch) QTest::qWait(1);
     if (byTouch) QTest::touchEvent(&window(), &touchScreen()).move(1, at(step));
     if (!byTouch) QTest::mouseMove(&window(), at(step), milliseconds / steps);
   }

@@ -46,8 +46,9 @@ class Screen {
   /// Turns the wheel. With a phase, moves two fingers on a trackpad.
   void wheel(QPoint at, QPoint pixels, QPoint angle, Qt::ScrollPhase phase = Qt::NoScrollPhase);
 
-  /// Drags the mouse or a finger from one point to the other within `milliseconds`. A finger is
-  /// always fast, because the test library numbers its events instead of timing them.
+  /// Drags the mouse or a finger from one point to the other. The mouse takes `milliseconds` by its
+  /// events' own times. A finger's events have the times at which they were sent, so it is as fast
+  /// as the machine allows: under load a flick would otherwise be too slow.
   void drag(QPoint from, QPoint to, int milliseconds, bool byTouch);
 
  protected:
