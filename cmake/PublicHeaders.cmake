@@ -47,6 +47,7 @@ quorix_public_headers(QuorixWidgets
   platform/hosting/ViewHost.h
   platform/hosting/SheetPresenter.h
   platform/hosting/ViewWindow.h
+  platform/hosting/SheetPictures.h
   platform/render/ScenePrinter.h
   # Drawing: the focus ring, the direction of a text, the files of an image, the address of a page.
   platform/hosting/FocusRing.h

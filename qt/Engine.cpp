@@ -54,7 +54,7 @@ struct Receiver {
 };
 
 Receiver& receiver() {
-  static Receiver& instance = *new Receiver;  // never destroyed, for the same reason
+  static Receiver& instance = *new Receiver;  // never destroyed: other threads may still post
   return instance;
 }
 

@@ -8,8 +8,8 @@
 
 namespace quorix::qt {
 
-/// A view in a window: `Shown` is its item or widget, `ToolkitSurface` the surface for any of
-/// these. Main thread.
+/// A view in a window: `Shown` is its item or widget, `ToolkitSurface` its toolkit's `Surface`.
+/// Main thread.
 template <class Shown, class ToolkitSurface>
 class HostedView : public hosting::ViewSession, public ToolkitSurface {
  public:
@@ -31,6 +31,8 @@ class HostedView : public hosting::ViewSession, public ToolkitSurface {
   void needsFrame() override = 0;
   layout::Size size() const override { return {double(shown_.width()), double(shown_.height())}; }
 
+  Shown& shown_;
+
  private:
   bool allowsMotion() const override {
     return chosen_.motion ? *chosen_.motion : !Desktop::prefersReducedMotion();
@@ -47,7 +49,6 @@ class HostedView : public hosting::ViewSession, public ToolkitSurface {
     emit shown_.sheetClosed(static_cast<SheetCloseReason>(reason));
   }
 
-  Shown& shown_;
   const hosting::HostSettings& chosen_;
 };
 

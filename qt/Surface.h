@@ -9,12 +9,13 @@
 
 class QAccessibleInterface;
 class QObject;
+class QString;
 class QWindow;
 
 namespace quorix::qt {
 
-/// A view or a sheet in a window of either toolkit: what assistive technology asks it and is told,
-/// and what changes around it. Main thread.
+/// A view or a sheet in a window of either toolkit: answers and notifies assistive technology, and
+/// is told of changes of the desktop and the window. Main thread.
 class QUORIX_EXPORT Surface {
  public:
   Surface(const Surface&) = delete;

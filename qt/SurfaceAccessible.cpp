@@ -4,7 +4,6 @@
 #include <utility>
 #include <vector>
 
-#include "qt/ApplicationLifetime.h"
 #include "qt/Surface.h"
 
 namespace quorix::qt {

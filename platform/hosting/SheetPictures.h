@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/hosting/FocusRing.h"
+#include "platform/hosting/RingPicture.h"
 #include "platform/hosting/SheetPresenter.h"
 
 namespace quorix::hosting {
@@ -47,7 +47,7 @@ class SheetPictures {
   struct Ground {
     graphics::RGBA shade{0, 0, 0, 0};  ///< over the whole window
     layout::Rect below;  ///< from where the panel's picture ends to the panel's bottom
-    graphics::RGBA color{0, 0, 0, 0};  ///< of that
+    graphics::RGBA color{0, 0, 0, 0};  ///< the color of `below`
   };
   const Ground& ground() const { return ground_; }
   /// The picture of layer `index`.

@@ -101,7 +101,7 @@ bool SheetSession::followFrame() {
   if (!settings_.motion) presenter_.advance(0);
   if (closed_) return false;
   if (pictures_->follow(presenter_, ringFrame(), scale())) sceneChanged();
-  followMotion();  // after the painting, which takes none of its time
+  if (presenter_.isMoving()) startClock();  // after the painting, which takes none of its time
   followPages();
   if (pictures_->hideTop(coveredTop_)) needsFrame();
   return true;

@@ -124,7 +124,8 @@ class QUORIX_EXPORT SheetSession : public Responder,
   virtual void coverChanged() {}
   /// Notifies assistive technology of a new display list. Called by `followFrame`.
   virtual void sceneChanged() {}
-  /// Makes a picture for `followFrame` above those before it; the pages are between them.
+  /// Makes a picture above those before it; the pages are between them. `index` counts from the
+  /// panel. Override it to call `followFrame`.
   virtual std::unique_ptr<ScenePicture> newPicture(int index);
 
   // Pages, for a toolkit with a web engine.

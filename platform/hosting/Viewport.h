@@ -15,7 +15,7 @@ namespace quorix::hosting {
 
 /// Where a view, or the parent of views, is in its window.
 struct ViewportPlace {
-  layout::Rect visible;                 ///< the part of the window in sight, from its own top left
+  layout::Rect visible;                 ///< the part of the window in sight, in its own coordinates
   std::optional<layout::Point> origin;  ///< in the window; absent while scaled or turned there
   bool operator==(const ViewportPlace&) const = default;
 };

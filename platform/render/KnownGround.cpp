@@ -72,7 +72,8 @@ bool KnownGround::fill(const Rect& part, RGBA color) const {
   return true;
 }
 
-/// Copies the picture where that gives what blending would. False where ink may be on nothing.
+/// Copies the picture where that gives what blending would. False if a text on a
+/// transparent ground may overlap it: the two have to be blended.
 bool KnownGround::copy(const InkPicture& picture, const Rect& to) const {
   if (std::ranges::any_of(inks_, [&](const Rect& ink) { return overlap(ink, to); })) return false;
   eachRow(to, [&](std::span<std::uint32_t> row, double left, double top) {

@@ -5,7 +5,7 @@
 #include <QQuickItem>
 #include <functional>
 
-#include "platform/hosting/FocusRing.h"
+#include "platform/hosting/RingPicture.h"
 #include "qt/Conversions.h"
 #include "qt/Picture.h"
 

@@ -25,7 +25,7 @@ namespace quorix::qt {
 class ViewSurface final : public HostedView<ViewItem, QuickAccessibleSurface>,
                           private WindowWatcher::Views::View {
  public:
-  explicit ViewSurface(ViewItem& item) : HostedView(item, item.settings()), item_(item) {}
+  explicit ViewSurface(ViewItem& item) : HostedView(item, item.settings()) {}
 
   /// The item moved to another window, or to none.
   void windowChanged() {
@@ -36,12 +36,12 @@ class ViewSurface final : public HostedView<ViewItem, QuickAccessibleSurface>,
     offer();
     onScreenChanged();  // before a size is needed, so that the view is evaluated once
     settingsChanged();
-    if (item_.window()) enterWindow();
+    if (shown_.window()) enterWindow();
   }
 
   void parentChanged() {
-    QQuickItem* parent = item_.parentItem();
-    QQuickWindow* window = parent ? item_.window() : nullptr;
+    QQuickItem* parent = shown_.parentItem();
+    QQuickWindow* window = parent ? shown_.window() : nullptr;
     window ? enter(WindowWatcher::viewsOf(*window), *parent) : leave();
     if (!isSizeStale()) followLayoutPlace();
   }
@@ -50,7 +50,7 @@ class ViewSurface final : public HostedView<ViewItem, QuickAccessibleSurface>,
 
   void sizeChanged(bool width) {
     resized();
-    item_.polish();
+    shown_.polish();
     if (width) updateImplicitSize();
   }
 
@@ -63,11 +63,11 @@ class ViewSurface final : public HostedView<ViewItem, QuickAccessibleSurface>,
   void polish() {
     if (isSizeStale()) updateImplicitSize();
     if (isInWindow()) place();
-    const bool seen = isInWindow() && part_.isInSight() && item_.isVisible();
+    const bool seen = isInWindow() && part_.isInSight() && shown_.isVisible();
     // Also out of sight: the scene decides whether the item is in the focus chain.
     if (refreshScene()) part_.changed();
     // In every frame the window visits all items that accept hovering.
-    item_.setAcceptHoverEvents(seen && !host().scene(size()).hitAreas.empty());
+    shown_.setAcceptHoverEvents(seen && !host().scene(size()).hitAreas.empty());
     if (seen) {
       updateRing();
       if (part_.takeStale()) paintPart();
@@ -80,64 +80,64 @@ class ViewSurface final : public HostedView<ViewItem, QuickAccessibleSurface>,
 
   QSGNode* paint(QSGNode* old) {
     const QPointF corner = toPoint(part_.painted().origin);
-    return picture_.show(old, item_, offset() + corner, [this] { paintAgain(); });
+    return picture_.show(old, shown_, offset() + corner, [this] { paintAgain(); });
   }
 
  private:
   bool isOnScreen() const override {
-    return isInWindow() && isShown() && item_.window()->visibility() != QWindow::Minimized;
+    return isInWindow() && isShown() && shown_.window()->visibility() != QWindow::Minimized;
   }
 
   swiftui::Environment environment() const override {
-    return item_.settings().over(Desktop::environment(scale()));
+    return shown_.settings().over(Desktop::environment(scale()));
   }
 
   double scale() const {
-    return item_.window() ? item_.window()->effectiveDevicePixelRatio()
-                          : qGuiApp->devicePixelRatio();
+    return shown_.window() ? shown_.window()->effectiveDevicePixelRatio()
+                           : qGuiApp->devicePixelRatio();
   }
 
-  bool hasFocus() const override { return item_.hasActiveFocus(); }
-  bool acceptsFocus() const override { return item_.activeFocusOnTab(); }
-  void setAcceptsFocus(bool accepts) override { item_.setActiveFocusOnTab(accepts); }
-  void takeFocusByPress() override { item_.forceActiveFocus(Qt::MouseFocusReason); }
+  bool hasFocus() const override { return shown_.hasActiveFocus(); }
+  bool acceptsFocus() const override { return shown_.activeFocusOnTab(); }
+  void setAcceptsFocus(bool accepts) override { shown_.setActiveFocusOnTab(accepts); }
+  void takeFocusByPress() override { shown_.forceActiveFocus(Qt::MouseFocusReason); }
 
   void giveFocusOn() override {
-    QQuickItem* next = item_.nextItemInFocusChain(true);
-    if (next && next != &item_ && next->activeFocusOnTab()) {
+    QQuickItem* next = shown_.nextItemInFocusChain(true);
+    if (next && next != &shown_ && next->activeFocusOnTab()) {
       next->forceActiveFocus(Qt::TabFocusReason);
     } else {
-      item_.setFocus(false, Qt::TabFocusReason);
+      shown_.setFocus(false, Qt::TabFocusReason);
     }
   }
 
-  void needsFrame() override { item_.polish(); }
+  void needsFrame() override { shown_.polish(); }
 
   hosting::WindowSession* window() override {
-    return item_.window() ? &sessionOf(*item_.window()) : nullptr;
+    return shown_.window() ? &sessionOf(*shown_.window()) : nullptr;
   }
 
   layout::Rect boundsInParent() const override {
-    return toRect(item_.mapRectToItem(item_.parentItem(), toRect({{}, size()})));
+    return toRect(shown_.mapRectToItem(shown_.parentItem(), toRect({{}, size()})));
   }
 
   void placeMayHaveChanged() override {
     if (isSceneStale()) return;  // `polish` will call `place`
-    if (item_.isVisible() && place()) item_.polish();
+    if (shown_.isVisible() && place()) shown_.polish();
   }
 
   void updateImplicitSize() {
     if (takeSizeStale()) ideal_ = host().sizeThatFits({});
-    const bool hasWidth = item_.widthValid() && item_.width() > 0;
+    const bool hasWidth = shown_.widthValid() && shown_.width() > 0;
     const double height =
-        hasWidth ? host().sizeThatFits({item_.width(), std::nullopt}).height : ideal_.height;
+        hasWidth ? host().sizeThatFits({shown_.width(), std::nullopt}).height : ideal_.height;
     followLayoutPlace();
-    item_.setImplicitSize(ideal_.width, height);
+    shown_.setImplicitSize(ideal_.width, height);
   }
 
   void followLayoutPlace() {
     const bool empty = ideal_ == layout::Size{};
-    if (empty && !layoutPlace_) layoutPlace_ = std::make_unique<LayoutPlace>(item_);
+    if (empty && !layoutPlace_) layoutPlace_ = std::make_unique<LayoutPlace>(shown_);
     if (layoutPlace_) layoutPlace_->follow(empty);
   }
 
@@ -145,9 +145,9 @@ class ViewSurface final : public HostedView<ViewItem, QuickAccessibleSurface>,
   bool place() {
     const QPointF before = offset();
     const bool needsFrame =
-        part_.follow(WindowWatcher::placeOf(item_, *item_.parentItem()), size(), scale());
+        part_.follow(WindowWatcher::placeOf(shown_, *shown_.parentItem()), size(), scale());
     const bool shifted = before != offset() && !picture_.isNull();
-    if (shifted) item_.update();
+    if (shifted) shown_.update();
     return needsFrame || (shifted && ringFrame());
   }
 
@@ -156,7 +156,7 @@ class ViewSurface final : public HostedView<ViewItem, QuickAccessibleSurface>,
   void paintAgain() {
     part_.changed();
     ring_.paintAgain();
-    item_.polish();
+    shown_.polish();
   }
 
   void paintPart() {
@@ -168,15 +168,15 @@ class ViewSurface final : public HostedView<ViewItem, QuickAccessibleSurface>,
 
   void show(const QImage& picture) {
     picture_.set(picture);
-    item_.update();
+    shown_.update();
   }
 
   void updateRing() {
-    ring_.follow(ringFrame(), part_.offset(), host().environment().appearance, scale(),
-                 [this] { return std::make_unique<PictureItem>(item_, [this] { paintAgain(); }); });
+    ring_.follow(ringFrame(), part_.offset(), host().environment().appearance, scale(), [this] {
+      return std::make_unique<PictureItem>(shown_, [this] { paintAgain(); });
+    });
   }
 
-  ViewItem& item_;
   std::unique_ptr<LayoutPlace> layoutPlace_;  ///< made when the view is first empty
 
   layout::Size ideal_;

@@ -24,8 +24,8 @@ class WindowWatcher : public QObject {
     return (watcher ? watcher : new WindowWatcher(window))->views_;
   }
 
-  /// Where `item` is, while `parent` bounds what is visible of it: its own parent, or itself for
-  /// the items in it.
+  /// Where `item` is in its window. The viewports of `parent` and its ancestors clip it: pass its
+  /// parent, or `item` itself for the items in it.
   static hosting::ViewportPlace placeOf(const QQuickItem& item, const QQuickItem& parent) {
     const QTransform toWindow = item.itemTransform(nullptr, nullptr);
     if (!toWindow.isInvertible()) return {};  // scaled to nothing

@@ -23,6 +23,7 @@ class FocusFrame : public QFocusFrame {
 
   /// Goes around the element at `element` in the widget.
   void goAround(const layout::Rect& element, graphics::Appearance appearance) {
+    if (element == element_ && appearance == appearance_) return;
     element_ = element;
     appearance_ = appearance;
     update();

@@ -19,8 +19,7 @@ namespace quorix::qt {
 /// The private part of a view widget. Main thread.
 class WidgetSurface final : public HostedView<ViewWidget, WidgetAccessibleSurface> {
  public:
-  explicit WidgetSurface(ViewWidget& widget)
-      : HostedView(widget, widget.settings()), widget_(widget) {}
+  explicit WidgetSurface(ViewWidget& widget) : HostedView(widget, widget.settings()) {}
 
   ~WidgetSurface() override { dropRing(); }
 
@@ -36,7 +35,7 @@ class WidgetSurface final : public HostedView<ViewWidget, WidgetAccessibleSurfac
 
   /// The widget was shown, or moved to another window.
   void placeChanged() {
-    QWidget* window = widget_.window();
+    QWidget* window = shown_.window();
     const bool moved = window != window_;
     if (moved) {
       leaveWindow();
@@ -62,31 +61,31 @@ class WidgetSurface final : public HostedView<ViewWidget, WidgetAccessibleSurfac
  private:
   swiftui::Environment environment() const override {
     swiftui::Environment around = Desktop::environment(scale());
-    around.appearance = Desktop::appearanceOf(widget_.palette());
-    around.direction = Desktop::directionOf(widget_.layoutDirection());
-    return widget_.settings().over(around);
+    around.appearance = Desktop::appearanceOf(shown_.palette());
+    around.direction = Desktop::directionOf(shown_.layoutDirection());
+    return shown_.settings().over(around);
   }
 
-  double scale() const { return widget_.devicePixelRatioF(); }
-  bool hasFocus() const override { return widget_.hasFocus(); }
-  bool acceptsFocus() const override { return widget_.focusPolicy() != Qt::NoFocus; }
+  double scale() const { return shown_.devicePixelRatioF(); }
+  bool hasFocus() const override { return shown_.hasFocus(); }
+  bool acceptsFocus() const override { return shown_.focusPolicy() != Qt::NoFocus; }
   void setAcceptsFocus(bool accepts) override {
-    widget_.setFocusPolicy(accepts ? Qt::TabFocus : Qt::NoFocus);
+    shown_.setFocusPolicy(accepts ? Qt::TabFocus : Qt::NoFocus);
   }
-  void takeFocusByPress() override { widget_.setFocus(Qt::MouseFocusReason); }
+  void takeFocusByPress() override { shown_.setFocus(Qt::MouseFocusReason); }
 
   void giveFocusOn() override {
-    if (!widget_.focusNextPrevChild(true)) widget_.clearFocus();
+    if (!shown_.focusNextPrevChild(true)) shown_.clearFocus();
   }
 
   void needsFrame() override { prepareFrameLater(); }
 
-  hosting::WindowSession* window() override { return &sessionOf(*widget_.window()); }
+  hosting::WindowSession* window() override { return &sessionOf(*shown_.window()); }
 
   /// An answer that layouts got. They lay out again only when one changes.
   using Told = std::optional<std::pair<layout::ProposedSize, QSize>>;
 
-  bool isOnScreen() const override { return isShown() && !widget_.window()->isMinimized(); }
+  bool isOnScreen() const override { return isShown() && !shown_.window()->isMinimized(); }
 
   void prepareFrame() override {
     const auto holds = [this](const Told& told) {
@@ -94,12 +93,12 @@ class WidgetSurface final : public HostedView<ViewWidget, WidgetAccessibleSurfac
     };
     if (takeSizeStale() && !(holds(ideal_) && holds(least_) && holds(fitted_))) {
       ideal_ = least_ = fitted_ = std::nullopt;
-      widget_.updateGeometry();
+      shown_.updateGeometry();
     }
-    if (isOnScreen() && refreshScene()) widget_.update();
+    if (isOnScreen() && refreshScene()) shown_.update();
     updateRing();
     // A widget that is scrolled away is visible to Qt.
-    rest(isOnScreen() && !widget_.visibleRegion().isEmpty());
+    rest(isOnScreen() && !shown_.visibleRegion().isEmpty());
   }
 
   QSize tell(Told& told, layout::ProposedSize proposal) {
@@ -111,7 +110,7 @@ class WidgetSurface final : public HostedView<ViewWidget, WidgetAccessibleSurfac
   void updateRing() {
     const auto around = ringFrame();
     if (!around) return dropRing();
-    if (!ring_) ring_ = new FocusFrame(widget_);
+    if (!ring_) ring_ = new FocusFrame(shown_);
     ring_->goAround(*around, host().environment().appearance);
   }
 
@@ -128,7 +127,6 @@ class WidgetSurface final : public HostedView<ViewWidget, WidgetAccessibleSurfac
     return QSizeF(size.width, size.height).boundedTo(most).toSize();
   }
 
-  ViewWidget& widget_;
   QPointer<QWidget> window_;
   Told ideal_, least_, fitted_;
   QPointer<FocusFrame> ring_;  ///< while it is visible

@@ -41,12 +41,18 @@ WebEngineView {
         z: -1
     }
 
-    // What the engine has off stays off: the clipboard, plugins, a page's taking the focus.
     settings {
-        errorPageEnabled: false // the background shows instead
-        fullScreenSupportEnabled: false
+        allowWindowActivationFromJavaScript: false
+        javascriptCanAccessClipboard: false
         javascriptCanOpenWindows: view.opensWindowsUnasked
+        javascriptCanPaste: false
         javascriptEnabled: view.allowsScripts
+        errorPageEnabled: false // the background shows instead
+        focusOnNavigationEnabled: false
+        fullScreenSupportEnabled: false
+        navigateOnDropEnabled: false
+        pluginsEnabled: false
+        screenCaptureEnabled: false
         unknownUrlSchemePolicy: WebEngineSettings.AllowAllUnknownUrlSchemes // see onNavigationRequested
     }
 

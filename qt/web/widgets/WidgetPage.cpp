@@ -76,12 +76,17 @@ class QuietPage final : public QWebEnginePage {
                                 const QString&) override {}
 
  private:
-  /// Leaves off what the engine has off: the clipboard, plugins, the whole screen, a page's taking
-  /// the focus.
   void settle(const webkit::WebContent::Settings& asked) {
     using Settings = QWebEngineSettings;
     Settings& own = *settings();
-    own.setAttribute(Settings::ErrorPageEnabled, false);  // the background shows instead
+    for (const auto off :
+         {Settings::AllowWindowActivationFromJavaScript, Settings::ErrorPageEnabled,
+          Settings::FocusOnNavigationEnabled, Settings::FullScreenSupportEnabled,
+          Settings::JavascriptCanAccessClipboard, Settings::JavascriptCanPaste,
+          Settings::NavigateOnDropEnabled, Settings::PluginsEnabled,
+          Settings::ScreenCaptureEnabled}) {
+      own.setAttribute(off, false);
+    }
     own.setAttribute(Settings::JavascriptEnabled, asked.allowsContentJavaScript);
     own.setAttribute(Settings::JavascriptCanOpenWindows,
                      asked.javaScriptCanOpenWindowsAutomatically);

@@ -1,3 +1,5 @@
+#include "platform/hosting/RingPicture.h"
+
 #include "platform/hosting/FocusRing.h"
 
 namespace quorix::hosting {
