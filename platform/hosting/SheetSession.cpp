@@ -112,6 +112,8 @@ void SheetSession::paintAgain() {
   needsFrame();
 }
 
+void SheetSession::dropPictures() { pictures_.reset(); }
+
 std::unique_ptr<ScenePicture> SheetSession::newPicture(int) { return nullptr; }
 
 bool SheetSession::followMotion() {

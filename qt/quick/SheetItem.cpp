@@ -112,6 +112,8 @@ class SheetItem final : public SheetArea, public SheetSurface, public QuickAcces
     });
   }
 
+  ~SheetItem() override { dropPictures(); }
+
  protected:
   /// A modal pop-up of Qt Quick Controls blocks the wheel for everything outside it, also for a
   /// page in a sheet above it. Gives the wheel to the window before the pop-up's filter.

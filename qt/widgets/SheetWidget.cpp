@@ -102,6 +102,8 @@ class SheetWidget final : public QWidget, public SheetSurface, public WidgetAcce
     followSize();
   }
 
+  ~SheetWidget() override { dropPictures(); }
+
  protected:
   // None of the events reaches what is below the sheet.
   bool event(QEvent* event) override {
