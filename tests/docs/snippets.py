@@ -2,7 +2,8 @@
 """Extracts the code from the guides and from the headers' comments, and checks it against the tree.
 
 snippets.py extract OUT HEADER...    writes every C++, QML and CMake snippet into OUT, for the compiler, qmllint
-                                     and CMake; prints the names of the C++ files
+                                     and CMake; prints the names of the C++ files: one for each guide, and one for
+                                     the headers of each room, because most of the compile time goes into includes
 snippets.py shell TOOL_FOLDER        checks the shell's snippets and runs those that call the tool
 snippets.py links                    checks the guides' links to files and headings
 
@@ -56,7 +57,7 @@ def examples(header):
 def source(path, pieces, head, namespace):
     """A C++ file with `pieces`: each becomes a function's body, or a declaration."""
     includes, rest = "", ""
-    for index, (line, code) in enumerate(pieces):
+    for line, code in pieces:
         includes += "".join(re.findall(r"^#include.*\n", code, re.MULTILINE))
         body = re.sub(r"^#include.*$", "", code, flags=re.MULTILINE)
         if not body.strip():
@@ -65,7 +66,7 @@ def source(path, pieces, head, namespace):
         if DEFINITIONS.search(body):
             rest += place + body
         else:
-            rest += f"[[maybe_unused]] static void snippet{index}() {{\n{place}{body}}}\n"
+            rest += f"[[maybe_unused]] static void {path.stem}{line}() {{\n{place}{body}}}\n"
     if namespace:
         rest = f"namespace {namespace} {{\n{rest}}}\n"
     return head + includes + rest
@@ -91,8 +92,8 @@ def extract(out, headers):
         if pieces := examples(ROOT / header):
             namespace = re.search(r"^namespace ([\w:]+) \{", (ROOT / header).read_text(), re.MULTILINE)[1]
             head = f'#include "{header}"\n#include "Given.h"\n'
-            wanted["headers/" + header.replace("/", "_")[:-2] + ".cpp"] = \
-                source(ROOT / header, pieces, head, namespace)
+            room = f"headers/{header.split('/')[0]}.cpp"
+            wanted[room] = wanted.get(room, "") + source(ROOT / header, pieces, head, namespace)
     readme_project(out / "readme")
     for old in [*out.glob("*.cpp"), *out.glob("headers/*.cpp"), *out.glob("qml/*.qml")]:
         if str(old.relative_to(out)) not in wanted:
