@@ -92,7 +92,6 @@ class CountedHost final : private hosting::ViewHost::Client, private text::TextE
     if (std::exchange(queued_, true)) return;
     QTimer::singleShot(0, qApp, [this] { paint(); });
   }
-  void presentationChanged() override {}
   text::TextMetrics measure(const text::AttributedText& text, double width) override {
     ++counts_.measured;
     return qt::QtTextEngine::shared().measure(text, width);

@@ -25,15 +25,10 @@ std::string minted(const TokenData& data) {
          ".s";
 }
 
-struct Surface final : hosting::ViewHost::Client {
-  void viewNeedsDisplay() override {}
-  void presentationChanged() override {}
-};
-
 /// Uses the token like a shop.
 void show(std::string_view token, bool isRead) {
   testing::FixedWidthText text;
-  Surface surface;
+  hosting::ViewHost::Client surface;
   hosting::ViewHost host(text, surface);
   host.setRoot(ScoreWidgetBuilder::buildSwiftUIScoreWidgetView("shop", "en", token,
                                                                {std::nullopt, std::nullopt}));

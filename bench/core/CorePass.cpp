@@ -37,13 +37,8 @@ class FixedWidths final : public text::TextEngine {
   }
 };
 
-struct Surface final : hosting::ViewHost::Client {
-  void viewNeedsDisplay() override {}
-  void presentationChanged() override {}
-};
-
 void pass(const swiftui::View& view, FixedWidths& engine) {
-  Surface surface;
+  hosting::ViewHost::Client surface;
   hosting::ViewHost host(engine, surface);
   host.setRoot(view);
   const auto& list = host.scene(kRow);

@@ -31,16 +31,10 @@ constexpr std::string_view kToken =
     "_CgKMvOVq5BAg43l_78kN7nb0vBMVh5Z2jyzaAXW2cQ";
 constexpr graphics::RGBA kPaper{255, 255, 255, 255};
 
-/// Makes the picture once, so it ignores change notices.
-struct StillSurface final : hosting::ViewHost::Client {
-  void viewNeedsDisplay() override {}
-  void presentationChanged() override {}
-};
-
 /// Writes `view` to `path`. False on failure.
 bool write(const swiftui::View& view, const std::string& path) {
   examples::OutlineTextEngine fonts;
-  StillSurface surface;
+  hosting::ViewHost::Client surface;
   hosting::ViewHost host(fonts, surface);
   host.setRoot(view);
   foundation::MainQueue::drain();  // sets the title of an imperative widget

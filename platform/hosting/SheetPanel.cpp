@@ -101,12 +101,14 @@ graphics::RGBA SheetPanel::shade() {
 }
 
 const render::Scene& SheetPanel::overlay() {
-  if (overlay_) return *overlay_;
+  const unsigned now = revision_;
+  if (overlay_ && overlayRevision_ == now) return *overlay_;
   render::Scene whole;
   whole.size = geometry.window;
   whole.items.emplace_back(std::in_place_type<render::FillItem>,
                            render::FillItem{{{}, whole.size}, shade()});
   addTo(whole, frame());
+  overlayRevision_ = now;
   return overlay_.emplace(std::move(whole));
 }
 
@@ -128,10 +130,12 @@ void SheetPanel::addTo(render::Scene& to, const layout::Rect& frame) {
 }
 
 const render::Scene& SheetPanel::atRest() {
-  if (atRest_) return *atRest_;
+  const unsigned now = revision_;
+  if (atRest_ && atRestRevision_ == now) return *atRest_;
   render::Scene alone;
   alone.size = {geometry.panelWidth(), restingHeight()};
   addTo(alone, {{}, alone.size});
+  atRestRevision_ = now;
   return atRest_.emplace(std::move(alone));
 }
 

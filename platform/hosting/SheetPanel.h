@@ -100,6 +100,9 @@ class SheetPanel {
   unsigned revision_ = 0;
   std::optional<render::Scene> overlay_;
   std::optional<render::Scene> atRest_;
+  // `revision_` at the start of their layout, during which the content may change.
+  unsigned overlayRevision_ = 0;
+  unsigned atRestRevision_ = 0;
 };
 
 }  // namespace quorix::hosting

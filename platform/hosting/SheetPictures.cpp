@@ -105,8 +105,8 @@ bool hasEmbeds(const render::Scene& scene) {
 }
 
 bool SheetPictures::follow(SheetPresenter& sheet, const std::optional<Rect>& ring, double scale) {
-  const render::Scene& scene = sheet.panel();  // which decides on the rest
-  const std::pair now(sheet.panelRevision(), scale);
+  const std::pair now(sheet.panelRevision(), scale);  // before a layout, which may change it
+  const render::Scene& scene = sheet.panel();         // which decides on the rest
   const bool paints = painted_ != now;
   if (paints) paint(sheet, scale);
   painted_ = now;

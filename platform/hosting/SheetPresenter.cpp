@@ -136,10 +136,10 @@ void SheetPresenter::setMotion(bool enabled) {
 
 void SheetPresenter::present(const swiftui::Presentation& presentation) {
   if (presentation.isPresented.get()) *state_->closeReason = SheetCloseReason::host;
-  state_->presentation = presentation;
   state_->closing = false;
   state_->closed = false;
   state_->content.updateRoot(presentation.content);
+  state_->presentation = presentation;  // now, so that the content is not evaluated off screen
   state_->content.setOnScreen(true);
 }
 

@@ -8,12 +8,6 @@
 namespace quorix::hosting {
 namespace {
 
-/// A surface for a still picture: it requests one display list and ignores changes.
-struct StillSurface final : ViewHost::Client {
-  void viewNeedsDisplay() override {}
-  void presentationChanged() override {}
-};
-
 /// Performs the first element that acts, and returns the sheets that it opens.
 std::optional<render::Scene> sheetsOf(ViewWindow& window) {
   const auto& elements = window.view().elements();
@@ -45,16 +39,15 @@ render::Scene StillScene::whole() && {
 
 StillScene stillScene(text::TextEngine& engine, const swiftui::View& view,
                       const StillOptions& options) {
-  StillSurface surface;
   StillScene still;
   if (!options.sheet) {
+    ViewHost::Client surface;
     ViewHost host(engine, surface);
     host.setEnvironment(options.environment);
     host.setRoot(view);
     host.setOnScreen(true);
     const auto ideal = [&] { return host.sizeThatFits({options.width, std::nullopt}).height; };
     still.view = host.takeScene({options.width, options.height ? *options.height : ideal()});
-    host.setOnScreen(false);
     return still;
   }
   const layout::Size size = {options.width, options.height.value_or(2 * options.width)};
@@ -67,7 +60,6 @@ StillScene stillScene(text::TextEngine& engine, const swiftui::View& view,
   still.sheet = sheetsOf(window);
   still.view = host.takeScene(ideal);
   still.view.size = size;
-  host.setOnScreen(false);
   return still;
 }
 

@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "platform/hosting/RecentEvaluations.h"
-#include "platform/layout/Geometry.h"
 #include "platform/swiftui/DisplayListBuilder.h"
 #include "platform/swiftui/LayoutPass.h"
 #include "platform/swiftui/ViewGraph.h"
@@ -28,16 +27,14 @@ struct ViewHost::State {
   State(text::TextEngine& textEngine, Client& surface)
       : engine(textEngine), client(surface), graph([this] { invalidated(); }) {}
   ~State() { forget(); }
-  State(const State&) = delete;
-  State& operator=(const State&) = delete;
 
-  swiftui::Evaluation& evaluated();
+  RecentEvaluations::Slot takeEvaluation();
   void evaluateAgain();
   void forget() { RecentEvaluations::shared().take(evaluation); }
   void invalidated();
   void changed();
   void layOut(const Area& within);
-  void tellSizes(std::vector<swiftui::WatchedSize> sizes);
+  bool isCurrent() const { return scene && shown == changes; }
   const render::Scene* current();
   const render::AccessibilityElement* acting(int index);
 
@@ -52,19 +49,21 @@ struct ViewHost::State {
   swiftui::PresentationDetents detents;
   std::optional<render::Scene> scene;
   std::optional<Area> area;  ///< of the latest display list
-  std::vector<std::pair<swiftui::TreePath, layout::Size>> geometry;
   std::optional<layout::Point> pressed;
-  int focused = -1;   ///< index of an accessibility element
-  bool stale = true;  ///< the latest evaluation is out of date
+  int focused = -1;        ///< index of an accessibility element
+  unsigned changes = 1;    ///< counts the changes of the view and its settings
+  unsigned evaluated = 0;  ///< `changes` at the start of the latest evaluation
+  unsigned shown = 0;      ///< `changes` at the start of the layout of `scene`
 };
 
-swiftui::Evaluation& ViewHost::State::evaluated() {
+/// Takes the evaluation out of the cache: content that changes during a layout empties the slot.
+RecentEvaluations::Slot ViewHost::State::takeEvaluation() {
   while (!evaluation) evaluateAgain();  // a client callback may have consumed the evaluation
-  return *evaluation;
+  return RecentEvaluations::shared().take(evaluation);
 }
 
 void ViewHost::State::evaluateAgain() {
-  stale = false;
+  evaluated = changes;
   RecentEvaluations::shared().fill(evaluation, graph.evaluate(environment));
   detents = evaluation->detents;
   for (const auto& content : evaluation->hosted) {
@@ -80,6 +79,7 @@ void ViewHost::State::evaluateAgain() {
 
 /// Evaluates at once when the graph changed, even without a paint: a sheet may open or close.
 void ViewHost::State::invalidated() {
+  ++changes;
   fitted.clear();
   scene.reset();
   evaluateAgain();
@@ -88,7 +88,7 @@ void ViewHost::State::invalidated() {
 
 /// Evaluates when the surface next asks, because it often changes several settings in a row.
 void ViewHost::State::changed() {
-  stale = true;
+  ++changes;
   fitted.clear();
   scene.reset();
   forget();
@@ -96,46 +96,36 @@ void ViewHost::State::changed() {
 }
 
 void ViewHost::State::layOut(const Area& within) {
-  evaluated();
-  // Out of the cache: hosted content may report a change meanwhile, which empties the slot.
-  const auto taken = RecentEvaluations::shared().take(evaluation);
-  swiftui::Evaluation& latest = *taken;
+  const auto taken = takeEvaluation();
+  const unsigned taking = changes;
   const auto safe = layout::SafeArea::within(within.size, within.insets);
-  swiftui::LayoutPass pass(latest.arena(), engine, environment.scale, safe);
+  swiftui::LayoutPass pass(taken->arena(), engine, environment.scale, safe);
   const layout::ProposedSize proposal = {safe.frame.size.width, safe.frame.size.height};
-  const layout::Size chosen = pass.measure(*latest.root, proposal);
+  const layout::Size chosen = pass.measure(*taken->root, proposal);
   const layout::Point centered = layout::alignedOffset({}, safe.frame.size, chosen);
   const layout::Point origin = {safe.frame.left() + std::max(0.0, centered.x),
                                 safe.frame.top() + std::max(0.0, centered.y)};
-  pass.setFrame(*latest.root, {origin, chosen}, proposal);
+  pass.setFrame(*taken->root, {origin, chosen}, proposal);
   if (environment.direction == layout::LayoutDirection::rightToLeft) {
-    swiftui::mirror(*latest.root, within.size.width);
+    swiftui::mirror(*taken->root, within.size.width);
   }
-  swiftui::DisplayListBuilder builder(latest, environment, engine, within.size);
+  swiftui::DisplayListBuilder builder(*taken, environment, engine, within.size);
   builder.build();
   area = within;
-  scene = std::move(builder.list);
-  tellSizes(std::move(builder.geometry));
-}
-
-/// Calls the views that observe a changed size. They may call this object again.
-void ViewHost::State::tellSizes(std::vector<swiftui::WatchedSize> sizes) {
-  auto before = std::exchange(geometry, {});
-  for (const swiftui::WatchedSize& now : sizes) geometry.emplace_back(now.path, now.size);
-  for (const swiftui::WatchedSize& now : sizes) {
-    // Erase each match, so that the next of several sizes at one path finds its own.
-    const auto known = std::find_if(before.begin(), before.end(),
-                                    [&](const auto& entry) { return entry.first == now.path; });
-    const bool same = known != before.end() && known->second == now.size;
-    if (known != before.end()) before.erase(known);
-    if (!same) now.action(now.size);
+  scene.reset();
+  for (const swiftui::WatchedSize& now : builder.geometry) {
+    // The action may call this object again.
+    if (std::exchange(now.told->value, now.size) != now.size) now.action(now.size);
   }
+  if (scene) return;  // an action had a later change laid out
+  scene = std::move(builder.list);
+  shown = taking;
 }
 
 /// The display list for input. If the latest one is out of date, makes a new one now for the same
 /// area, without waiting for the next frame. Null before the first layout.
 const render::Scene* ViewHost::State::current() {
-  if (!scene && area) layOut(*area);
+  if (!isCurrent() && area) layOut(Area(*area));
   return scene ? &*scene : nullptr;
 }
 
@@ -146,7 +136,6 @@ ViewHost::~ViewHost() = default;
 
 void ViewHost::setRoot(swiftui::View root) {
   state_->graph.setRoot(std::move(root));
-  state_->geometry.clear();
   state_->pressed.reset();
   state_->focused = -1;
   state_->changed();
@@ -176,9 +165,12 @@ layout::Size ViewHost::sizeThatFits(layout::ProposedSize proposal) {
   for (const auto& [offered, size] : fitted) {
     if (offered == proposal) return size;
   }
-  swiftui::Evaluation& latest = state_->evaluated();
-  swiftui::LayoutPass pass(latest.arena(), state_->engine, state_->environment.scale);
-  const layout::Size size = pass.measure(*latest.root, proposal);
+  auto taken = state_->takeEvaluation();
+  const unsigned taking = state_->changes;
+  swiftui::LayoutPass pass(taken->arena(), state_->engine, state_->environment.scale);
+  const layout::Size size = pass.measure(*taken->root, proposal);
+  if (state_->changes != taking) return size;
+  RecentEvaluations::shared().fill(state_->evaluation, std::move(taken));
   if (fitted.size() == manyProposals) fitted.clear();
   fitted.emplace_back(proposal, size);
   return size;
@@ -186,7 +178,7 @@ layout::Size ViewHost::sizeThatFits(layout::ProposedSize proposal) {
 
 const render::Scene& ViewHost::scene(layout::Size size, const layout::EdgeInsets& safeArea) {
   const Area area = {size, safeArea};
-  if (!state_->scene || state_->stale || state_->area != area) state_->layOut(area);
+  if (!state_->isCurrent() || state_->area != area) state_->layOut(area);
   return *state_->scene;
 }
 
@@ -203,12 +195,12 @@ void ViewHost::rest() {
 void ViewHost::forgetSizes() { state_->fitted = decltype(state_->fitted)(); }
 
 const swiftui::Presentation* ViewHost::presentation() {
-  if (state_->stale) state_->evaluateAgain();
+  if (state_->evaluated != state_->changes) state_->evaluateAgain();
   return state_->presentation ? &*state_->presentation : nullptr;
 }
 
 const swiftui::PresentationDetents& ViewHost::detents() {
-  if (state_->stale) state_->evaluateAgain();
+  if (state_->evaluated != state_->changes) state_->evaluateAgain();
   return state_->detents;
 }
 
@@ -278,10 +270,8 @@ int ViewHost::focusStops() const {
 }
 
 std::optional<layout::Rect> ViewHost::focusFrame() const {
-  const auto& scene = state_->scene;
-  const auto index = static_cast<std::size_t>(state_->focused);  // -1 exceeds every index
-  if (!scene || index >= scene->accessibility.size()) return std::nullopt;
-  return scene->accessibility[index].frame;
+  const render::AccessibilityElement* element = state_->acting(state_->focused);
+  return element ? std::optional(element->frame) : std::nullopt;
 }
 
 std::optional<layout::Rect> ViewHost::ringFrame() const {

@@ -17,14 +17,15 @@ namespace quorix::hosting {
 /// the surface when to paint again. Main thread.
 class QUORIX_EXPORT ViewHost {
  public:
-  /// The surface. Both functions may be called during a call of the `ViewHost`.
+  /// The surface. Both functions may be called during a call of the `ViewHost`: do not destroy it
+  /// there. By default they have no effect, for a picture that is made once.
   class Client {
    public:
     virtual ~Client() = default;
     /// The size or the display list may have changed: ask again before the next frame.
-    virtual void viewNeedsDisplay() = 0;
+    virtual void viewNeedsDisplay() {}
     /// `presentation()` began, changed its content or ended.
-    virtual void presentationChanged() = 0;
+    virtual void presentationChanged() {}
   };
 
   ViewHost(text::TextEngine& engine, Client& client);

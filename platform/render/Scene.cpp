@@ -97,7 +97,7 @@ Stretch stretchToPaint(double length, Stretch seen, double scale) {
   if (length <= most) return {0, length};
   const double centered = seen.start + (seen.length - most) / 2;
   const double start = std::clamp(centered, 0.0, length - most);
-  return {std::floor(start * scale) / scale, most};
+  return {layout::PixelGrid(scale).floor(start), most};
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <cstddef>
 #include <functional>
+#include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -11,12 +13,16 @@
 #include "platform/render/Scene.h"
 #include "platform/swiftui/Environment.h"
 #include "platform/swiftui/Evaluator.h"
+#include "platform/swiftui/State.h"
 
 namespace quorix::swiftui {
 
-/// A view that observes its size, with its place in the tree.
+/// A view that observes its size.
 struct WatchedSize {
-  TreePath path;
+  /// The size of the latest call of `action`.
+  using Told = StateBox<std::optional<layout::Size>>;
+
+  std::shared_ptr<Told> told;
   layout::Size size;
   std::function<void(layout::Size)> action;
 };

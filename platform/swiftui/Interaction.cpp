@@ -1,6 +1,7 @@
 // The modifiers that run actions: on a tap, when the view appears, and when its size changed.
 #include <algorithm>
 #include <functional>
+#include <memory>
 #include <string>
 #include <utility>
 
@@ -114,9 +115,9 @@ class Task final : public Modifier {
 };
 
 struct WatchedElement final : Element {
-  WatchedElement(const ElementRules& kind, const TreePath& place) : Element(kind), path(place) {}
+  using Element::Element;
 
-  TreePath path;
+  std::shared_ptr<WatchedSize::Told> told;
 };
 
 class GeometryChange final : public Decoration {
@@ -125,16 +126,21 @@ class GeometryChange final : public Decoration {
       : Decoration(std::move(content)), action_(std::move(action)) {}
 
   void evaluate(Evaluator& in, const Look& look, Axis axis, ElementList& out) const override {
-    const auto isAsContent = [](Element& self) { self.isText = self.child().isText; };
-    in.at(steps::modified, [&] {
-      in.wrapEach<WatchedElement>(content(), look, axis, out, isAsContent, *this, in.path());
-    });
+    std::shared_ptr<Kept>* kept = nullptr;  // one for each element
+    const auto adapt = [&](WatchedElement& self) {
+      self.isText = self.child().isText;
+      kept = kept ? &(*kept)->next : &in.states().first;
+      if (!*kept) *kept = std::make_shared<WatchedSize::Told>();
+      self.told = std::static_pointer_cast<WatchedSize::Told>(*kept);
+    };
+    in.at(steps::modified,
+          [&] { in.wrapEach<WatchedElement>(content(), look, axis, out, adapt, *this); });
   }
 
   void show(DisplayListBuilder& to, const Element& self) const override {
     to.showChildren(self);
     to.geometry.push_back(
-        {static_cast<const WatchedElement&>(self).path, self.frame.size, action_});
+        {static_cast<const WatchedElement&>(self).told, self.frame.size, action_});
   }
 
  private:

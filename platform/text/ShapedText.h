@@ -19,9 +19,10 @@ struct Stroke {
   /// The stroke below or through what stretches from `left` to `right` on a line at `baseline`:
   /// whole pixels, at least one. `em` is the font's size; all are device pixels.
   layout::Rect rect(double left, double right, double baseline, double em) const {
+    const layout::PixelGrid grid(1);
     const double height = std::max(1.0, std::round(thickness * em));
-    const double top = std::round(baseline + offset * em - height / 2);
-    return {{std::round(left), top}, {std::round(right) - std::round(left), height}};
+    const double top = grid.round(baseline + offset * em - height / 2);
+    return {{grid.round(left), top}, {grid.round(right) - grid.round(left), height}};
   }
 };
 

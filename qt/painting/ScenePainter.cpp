@@ -158,8 +158,9 @@ void ScenePainter::drawText(const render::TextItem& item) {
   const bool fromRight = item.text.direction == layout::LayoutDirection::rightToLeft;
   for (const ShapedText::Line& line : shaped.lines) {
     const double left = fromRight ? item.frame.right() - line.advance : item.frame.left();
-    const double x = std::round(left * scale_);
-    const double y = std::round((item.frame.top() + line.baseline) * scale_);
+    const layout::PixelGrid grid(1);
+    const double x = grid.round(left * scale_);
+    const double y = grid.round((item.frame.top() + line.baseline) * scale_);
     const auto decorate = [&](bool text::Run::*isSet, text::Stroke ShapingFont::*which) {
       for (const ShapedText::Span& span : line.spans) {
         const text::Run& run = item.text.runs[span.run];

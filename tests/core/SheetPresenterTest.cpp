@@ -6,6 +6,7 @@ namespace quorix {
 namespace {
 
 using foundation::MainQueue;
+using swiftui::View;
 using testing::TestWindow;
 
 const std::string row = "Your return fee €4.00";
@@ -151,6 +152,20 @@ TEST_F(ScoreSheet, OnItsWayOutItTakesNoTapButMayBeCalledBack) {
   window.settle();
   ASSERT_TRUE(window.sheet());
   EXPECT_EQ(panelHeight(), 305);
+}
+
+struct CountedContent {
+  static constexpr std::string_view typeName = "CountedContent";
+  int* bodies;
+  View body() const { return ++*bodies, swiftui::Text::verbatim("x"); }
+};
+
+TEST(SheetPresenter, EvaluatesItsContentOnceToOpen) {
+  int bodies = 0;
+  testing::TestSheet sheet({swiftui::State<bool>{true}.binding(), CountedContent{&bodies}},
+                           {320, 640}, {});
+  sheet.sheet.scene();
+  EXPECT_EQ(bodies, 1);
 }
 
 TEST(SheetPresenter, TakesHalfOfWhatTheSafeAreaLeavesAtTheTop) {

@@ -153,8 +153,18 @@ TEST(TextPictures, KeepTheLatestOnly) {
 
 TEST(Stroke, IsWholePixelsHighAndAtLeastOne) {
   const text::Stroke stroke{0.125, 0.0625};
-  EXPECT_EQ(stroke.rect(2.4, 20.6, 40, 8), (layout::Rect{{2, 41}, {19, 1}}));  // 0.5 px at 41
-  EXPECT_EQ(stroke.rect(2.4, 20.6, 40, 32), (layout::Rect{{2, 43}, {19, 2}}));
+  const struct {
+    double left, right, baseline, em;
+    layout::Rect expected;
+  } rows[] = {
+      {2.4, 20.6, 40, 8, {{2, 41}, {19, 1}}},  // 0.5 px at 41
+      {2.4, 20.6, 40, 32, {{2, 43}, {19, 2}}},
+      {10.5 - 1e-12, 20.5, -41, 8, {{11, -40}, {10, 1}}},  // halves are rounded up
+      {-10.5, 0.5, 40 - 1e-12, 8, {{-10, 41}, {11, 1}}},
+  };
+  for (const auto& [left, right, baseline, em, expected] : rows) {
+    EXPECT_EQ(stroke.rect(left, right, baseline, em), expected) << left << " at " << baseline;
+  }
 }
 
 TEST(ShapedText, JoinsTheGlyphsOfARunThatTouch) {

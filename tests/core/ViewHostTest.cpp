@@ -1,3 +1,4 @@
+#include "platform/hosting/SheetPictures.h"
 #include "platform/swiftui/UIViewRepresentable.h"
 #include "tests/core/Resources.h"
 #include "tests/core/TestWindow.h"
@@ -18,29 +19,78 @@ View key(std::string& log, const std::string& letter, double size) {
   });
 }
 
-/// Reports a change during its first display, like a view that loads its content then.
+/// Grows once from 10 to 20 points, during a call of the host's: like a view that loads its content
+/// when it is first used.
 class LateContent final : public render::HostedContent {
  public:
+  enum class When { measured, shown, told };
+  explicit LateContent(When when) : when_(when) {}
+
+  static View view(When when) {
+    const auto content = std::make_shared<LateContent>(when);
+    const View shown = swiftui::represented({"Late", [content] { return content; }});
+    return shown.onGeometryChange([content](layout::Size) { content->grow(When::told); });
+  }
+
   layout::Size sizeThatFits(layout::ProposedSize, text::TextEngine&, double) override {
-    return {10, 10};
+    const layout::Size now = side_;
+    grow(When::measured);
+    return now;
   }
   render::Scene scene(layout::Size size, const render::Display&, text::TextEngine&) override {
-    if (!std::exchange(loaded_, true)) tellChanged();
-    const graphics::RGBA color = {0, 0, 0, static_cast<std::uint8_t>(++shown_)};
-    return {size, {}, {render::FillItem{{{}, size}, color}}, {}, {}};
+    grow(When::shown);
+    return {size, {}, {render::FillItem{{{}, size}, {9, 9, 9, 255}}}, {}, {}};
   }
 
  private:
-  bool loaded_ = false;
-  int shown_ = 0;
+  void grow(When now) {
+    if (now == when_ && std::exchange(side_, grown) != grown) tellChanged();
+  }
+
+  static constexpr layout::Size grown{20, 20};
+  When when_;
+  layout::Size side_{10, 10};
 };
 
-TEST(ViewHost, ContentMayChangeWhileItIsShown) {
-  const View late = swiftui::represented({"Late", [] { return std::make_shared<LateContent>(); }});
-  TestWindow window(late.padding(4).onTapGesture([] {}), {}, {20, 20});
-  const auto& fill = std::get<render::FillItem>(window.shown().items.at(0));
-  EXPECT_EQ(fill.color.alpha, 2);  // shows the change
-  EXPECT_EQ(window.shown().hitAreas.size(), 1);
+double lastFill(const render::Scene& scene) {
+  return testing::itemsOf<render::FillItem>(scene).back().frame.size.width;
+}
+
+struct FillPicture final : hosting::ScenePicture {
+  explicit FillPicture(double& shown) : fill(shown) {}
+  void show(const render::Scene& scene, double) override { fill = lastFill(scene); }
+  void moveTo(layout::Point) override {}
+  double& fill;
+};
+
+TEST(ViewHost, ContentMayChangeWhileItIsLaidOut) {
+  using enum LateContent::When;
+  const swiftui::State<bool> presented{true};
+  for (const auto when : {measured, shown, told}) {
+    const auto late = [&] { return LateContent::view(when); };
+    SCOPED_TRACE(static_cast<int>(when));
+    testing::FixedWidthText engine;
+    hosting::ViewHost::Client client;
+    hosting::ViewHost host(engine, client);
+    host.setRoot(late());
+    for (int i = 0; i < 2; ++i) {
+      host.sizeThatFits({});
+      host.scene({40, 40});
+      host.presentation();
+    }
+    EXPECT_EQ(host.sizeThatFits({}), (layout::Size{20, 20}));
+    EXPECT_EQ(lastFill(host.scene({40, 40})), 20);
+
+    testing::TestSheet whole({presented.binding(), late()}, {320, 640}, {});
+    whole.sheet.scene();
+    EXPECT_EQ(lastFill(whole.sheet.scene()), 20);
+
+    testing::TestSheet inPictures({presented.binding(), late()}, {320, 640}, {});
+    double painted = 0;
+    hosting::SheetPictures pictures([&](int) { return std::make_unique<FillPicture>(painted); });
+    for (int i = 0; i < 2; ++i) pictures.follow(inPictures.sheet, {}, 1);
+    EXPECT_EQ(painted, 20);
+  }
 }
 
 struct Restless {
@@ -84,17 +134,19 @@ TEST(ViewHostInput, ATapIsAPressAndAReleaseOnOneArea) {
   EXPECT_EQ(log, "");
 }
 
-TEST(ViewHostInput, ATapOutlivesAnUpdateBetweenItsHalves) {
-  const auto model = testing::scoreModel(false);
-  const auto strings = LocalizationRepository::make("en");
-  TestWindow window(ScoreWidgetView{model, strings});
-  const auto frame = window.element("Your return fee €4.00").frame;
-  window.press(TestWindow::middle(frame));
-  strings->strings = TranslationTable::make({{"returns", "title", "Fee"}});
-  foundation::MainQueue::drain();
-  window.release(TestWindow::middle(frame));  // before the next frame
-  window.settle();
-  EXPECT_TRUE(window.sheet());
+TEST(ViewHostInput, ATapOrEnterWorksBetweenAnUpdateAndItsFrame) {
+  for (const bool byKey : {false, true}) {
+    const auto model = testing::scoreModel(false);
+    const auto strings = LocalizationRepository::make("en");
+    TestWindow window(ScoreWidgetView{model, strings});
+    const auto middle = TestWindow::middle(window.element("Your return fee €4.00").frame);
+    byKey ? window.key(hosting::Key::next) : window.press(middle);
+    strings->strings = TranslationTable::make({{"returns", "title", "Fee"}});
+    foundation::MainQueue::drain();
+    EXPECT_TRUE(byKey ? window.key(hosting::Key::activate) : window.release(middle));
+    window.settle();
+    EXPECT_TRUE(window.sheet()) << byKey;
+  }
 }
 
 TEST(ViewHostInput, FocusWalksOverWhatActsAndLeavesAtTheEnds) {
@@ -148,14 +200,9 @@ struct CountedView {
   }
 };
 
-struct IdleClient : hosting::ViewHost::Client {
-  void viewNeedsDisplay() override {}
-  void presentationChanged() override {}
-};
-
 TEST(ViewHosts, AreEvaluatedOnceOnAScreenAndSparinglyInLongLists) {
   testing::FixedWidthText engine;
-  IdleClient client;
+  hosting::ViewHost::Client client;
   for (const int count : {10, 200}) {
     int bodies = 0;
     std::vector<std::unique_ptr<hosting::ViewHost>> hosts;

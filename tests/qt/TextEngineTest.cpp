@@ -64,6 +64,15 @@ TEST(TextEngine, AnEmptyTextHasALineAndNoWidth) {
   EXPECT_GT(engine.measure({}, 100).size.height, 0);
 }
 
+TEST(TextEngine, TheLongestWordMayStandInAnyParagraph) {
+  QtTextEngine engine;
+  const double word = engine.leastWidth(plainText("手数料"));
+  EXPECT_GT(word, 0);
+  for (const char* lines : {"x\n手数料", "手数料\nx"}) {
+    EXPECT_EQ(engine.leastWidth(plainText(lines)), word) << lines;
+  }
+}
+
 /// Qt keeps "7,00" together with a character that this face lacks. The line's height must not come
 /// from another face.
 TEST(TextEngine, APriceIsAsHighAsItsFace) {

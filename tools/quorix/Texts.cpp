@@ -50,11 +50,6 @@ std::string listed(const std::string& title, const std::vector<std::string>& key
   return list;
 }
 
-struct BlindSurface final : hosting::ViewHost::Client {
-  void viewNeedsDisplay() override {}
-  void presentationChanged() override {}
-};
-
 }  // namespace
 
 std::variant<Translations, Failure> Translations::read(const std::string& path) {
@@ -95,7 +90,7 @@ bool fetchTranslations(const swiftui::View& view, const std::string& document) {
     if (url != *fence) asked = true;
     return URLResponse{{}, document, 200};
   });
-  BlindSurface surface;
+  hosting::ViewHost::Client surface;
   hosting::ViewHost host(qt::QtTextEngine::shared(), surface);
   host.setRoot(view);
   host.setOnScreen(true);

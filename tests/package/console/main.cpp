@@ -38,15 +38,10 @@ struct PlainText final : quorix::text::TextEngine {
   }
 };
 
-struct Surface final : quorix::hosting::ViewHost::Client {
-  void viewNeedsDisplay() override {}
-  void presentationChanged() override {}
-};
-
 /// The spoken text of `view`.
 std::string spoken(const quorix::swiftui::View& view) {
   PlainText text;
-  Surface surface;
+  quorix::hosting::ViewHost::Client surface;
   quorix::hosting::ViewHost host(text, surface);
   host.setRoot(view);
   const auto& elements = host.scene({390, 80}).accessibility;
