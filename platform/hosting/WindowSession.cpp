@@ -69,12 +69,10 @@ void WindowSession::settingsChanged(const Responder& opener) {
 
 void WindowSession::becameKey() {
   window_->makeKey();
-  for (WindowSession* session : sessions()) session->updateActivation();
+  for (WindowSession* session : sessions()) session->visibilityChanged();
 }
 
-void WindowSession::visibilityChanged() { updateActivation(); }
-
-void WindowSession::updateActivation() {
+void WindowSession::visibilityChanged() {
   const auto inSight = window_->isKeyWindow() ? ActivationState::foregroundActive
                                               : ActivationState::foregroundInactive;
   scene_->setActivationState(isVisible() ? inSight : ActivationState::background);
@@ -131,8 +129,7 @@ void WindowSession::show(const Controller& controller) {
 
 swiftui::Presentation controllerPresentation(
     const std::shared_ptr<uikit::UIViewController>& controller) {
-  auto isPresented = std::make_shared<swiftui::StateBox<bool>>();
-  isPresented->value = true;
+  auto isPresented = std::make_shared<swiftui::StateBox<bool>>(true);
   isPresented->onChange = [presented = std::weak_ptr(controller), box = isPresented.get()] {
     const auto closed = box->value ? nullptr : presented.lock();
     const auto presenter = closed ? closed->presentingViewController() : nullptr;

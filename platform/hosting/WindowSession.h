@@ -58,7 +58,6 @@ class QUORIX_EXPORT WindowSession : private uikit::UIWindow::Client {
   void presentedControllersChanged(uikit::UIWindow& window, bool animated) override;
   void showPresented();
   void show(const std::shared_ptr<uikit::UIViewController>& controller);
-  void updateActivation();
 
   std::shared_ptr<uikit::UIWindow> window_ = std::make_shared<uikit::UIWindow>();
   std::shared_ptr<uikit::UIWindowScene> scene_ = std::make_shared<uikit::UIWindowScene>();

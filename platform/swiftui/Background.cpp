@@ -13,7 +13,6 @@ namespace {
 
 using layout::EdgeInsets;
 using layout::ProposedSize;
-using layout::Size;
 
 /// Extends `frame` beyond the safe area on those of `edges` where it touches the safe area's edge.
 layout::Rect beyondSafeArea(const LayoutPass& in, const layout::Rect& frame, layout::Edges edges) {
@@ -56,10 +55,9 @@ class Background final : public SizedAsContent {
         color_(std::move(color)),
         ignores_(ignoresSafeAreaEdges) {}
 
-  void evaluate(Evaluator& in, const Look& look, layout::Axis axis,
-                ElementList& out) const override {
+  void evaluate(Evaluator& in, const Look& look, ElementList& out) const override {
     const auto count = [&](Element&) { ++in.result().items; };
-    in.wrapEach<FilledElement>(content(), look, axis, out, count, *this);
+    in.wrapEach<FilledElement>(content(), look, out, count, *this);
   }
 
   void place(LayoutPass& in, Element& self, ProposedSize proposal) const override {
@@ -90,10 +88,9 @@ class Border final : public SizedAsContent {
   Border(View content, Color color, double width)
       : SizedAsContent(std::move(content)), color_(std::move(color)), width_(width) {}
 
-  void evaluate(Evaluator& in, const Look& look, layout::Axis axis,
-                ElementList& out) const override {
+  void evaluate(Evaluator& in, const Look& look, ElementList& out) const override {
     ++in.result().items;
-    SizedAsContent::evaluate(in, look, axis, out);
+    SizedAsContent::evaluate(in, look, out);
   }
 
   void show(DisplayListBuilder& to, const Element& self) const override {

@@ -22,15 +22,14 @@ void Component::print(TreePrinter& to, int depth) const {
   to.print(shown, isModifier() ? depth : depth + 1);
 }
 
-void Component::evaluate(Evaluator& in, const Look& look, layout::Axis axis,
-                         ElementList& out) const {
+void Component::evaluate(Evaluator& in, const Look& look, ElementList& out) const {
   visitObserved([&](combine::ObservableObject& object) {
     auto& observed = in.result().observed;
     if (std::find(observed.begin(), observed.end(), &object) == observed.end()) {
       observed.push_back(&object);
     }
   });
-  in.at(step(), [&] { in.collectMade(body(in.states()), look, axis, out); });
+  in.at(step(), [&] { in.collectMade(body(in.states()), look, out); });
 }
 
 }  // namespace quorix::swiftui

@@ -19,7 +19,7 @@ namespace quorix::swiftui {
 class QUORIX_EXPORT Component : public Node {
  public:
   void print(TreePrinter& to, int depth) const final;
-  void evaluate(Evaluator& in, const Look& look, layout::Axis axis, ElementList& out) const final;
+  void evaluate(Evaluator& in, const Look& look, ElementList& out) const final;
 
  protected:
   virtual std::string_view name() const = 0;

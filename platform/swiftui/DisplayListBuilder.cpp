@@ -75,16 +75,4 @@ void DisplayListBuilder::act(AccessibilityElement& element, const foundation::Ac
   if (element.role != Role::link) element.role = Role::button;
 }
 
-DisplayListBuilder::NamedImage DisplayListBuilder::showLabel(const Element& button) {
-  NamedImage first;
-  NamedImage* const before = std::exchange(labelImage_, &first);
-  showChildren(button);
-  labelImage_ = before;
-  return first;
-}
-
-void DisplayListBuilder::showedImage(const foundation::Bundle& bundle, const std::string& name) {
-  if (labelImage_ && !labelImage_->bundle) *labelImage_ = {&bundle, &name};
-}
-
 }  // namespace quorix::swiftui

@@ -5,7 +5,6 @@
 #include <memory>
 #include <optional>
 #include <span>
-#include <string>
 #include <vector>
 
 #include "platform/layout/Geometry.h"
@@ -52,8 +51,8 @@ class DisplayListBuilder {
 
   // Assistive technology.
 
-  /// Adds an element with `role`. Returns null if an enclosing element provides the texts; then
-  /// leave them empty.
+  /// Adds an element with `role`. Returns it, so that the caller sets its texts, or null if an
+  /// enclosing element provides the texts.
   render::AccessibilityElement* describe(render::Role role, const layout::Rect& frame);
   std::size_t described() const { return list.accessibility.size(); }
   std::span<render::AccessibilityElement> describedSince(std::size_t first) {
@@ -67,23 +66,13 @@ class DisplayListBuilder {
   /// innermost one counts.
   static void act(render::AccessibilityElement& element, const foundation::Action& action);
 
-  /// An image of a bundle's asset catalog; null without one.
-  struct NamedImage {
-    const foundation::Bundle* bundle = nullptr;
-    const std::string* name = nullptr;
-  };
-  /// Shows a button's label. Returns the first image in it.
-  NamedImage showLabel(const Element& button);
-  void showedImage(const foundation::Bundle& bundle, const std::string& name);
-
  private:
   Evaluation& evaluation_;
   render::Display display_;
   text::TextEngine& engine_;
   layout::PixelGrid grid_;
   double width_;
-  int unnamed_ = 0;                   // enclosing elements that provide the texts
-  NamedImage* labelImage_ = nullptr;  // for the button whose label is being shown
+  int unnamed_ = 0;  // enclosing elements that provide the texts
 };
 
 }  // namespace quorix::swiftui

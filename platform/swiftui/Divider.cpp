@@ -20,9 +20,9 @@ class DividerNode final : public Node, public ElementRules {
  public:
   void print(TreePrinter& to, int depth) const override { to.line(depth, "Divider"); }
 
-  void evaluate(Evaluator& in, const Look&, Axis axis, ElementList& out) const override {
+  void evaluate(Evaluator& in, const Look& look, ElementList& out) const override {
     ++in.result().items;
-    out.append(in.make<ElementAlongAxis>(*this, axis));
+    out.append(in.make<ElementAlongAxis>(*this, look.axis()));
   }
 
   layout::Size measure(LayoutPass& in, Element& self,

@@ -2,18 +2,10 @@
 
 namespace quorix::swiftui {
 
-void Evaluator::run(const View& root) {
-  const foundation::Arena::Scope scope(result_.arena());
-  store_.beginEvaluation();
-  result_.root = single(*make<View>(root), {}, layout::Axis::vertical);
-  store_.endEvaluation();
-}
-
-void Evaluator::collectAll(std::span<const View> children, const Look& look, layout::Axis axis,
-                           ElementList& out) {
+void Evaluator::collectAll(std::span<const View> children, const Look& look, ElementList& out) {
   char32_t step = steps::firstChild;
   for (const View& child : children) {
-    at(step++, [&] { collect(child, look, axis, out); });
+    at(step++, [&] { collect(child, look, out); });
   }
 }
 
@@ -26,16 +18,20 @@ Element* Evaluator::stacked(const Stack& rules, ElementList children) {
   return stack;
 }
 
-Element* Evaluator::single(const View& view, const Look& look, layout::Axis axis) {
+Element* Evaluator::single(const View& view, const Look& look) {
   ElementList collected;
-  collect(view, look, axis, collected);
+  collect(view, look, collected);
   return collected.count == 1 ? collected.first : stacked(Stack::column(), collected);
 }
 
 std::unique_ptr<Evaluation> evaluate(const View& root, const Environment& environment,
                                      StateStore& store) {
   auto evaluation = std::make_unique<Evaluation>();
-  Evaluator(environment, store, *evaluation).run(root);
+  const foundation::Arena::Scope scope(evaluation->arena());
+  Evaluator in(environment, store, *evaluation);
+  store.beginEvaluation();
+  evaluation->root = in.single(*in.make<View>(root), {});
+  store.endEvaluation();
   return evaluation;
 }
 

@@ -60,8 +60,6 @@ class Evaluator {
   Evaluator(const Environment& settings, StateStore& store, Evaluation& result)
       : environment(settings), store_(store), result_(result), path_(result.arena().resource()) {}
 
-  void run(const View& root);
-
   const Environment& environment;
   Evaluation& result() { return result_; }
   const TreePath& path() const { return path_; }
@@ -73,21 +71,21 @@ class Evaluator {
   }
 
   /// Appends the elements of `view`. The view must outlive the evaluation's elements.
-  void collect(const View& view, const Look& look, layout::Axis axis, ElementList& out) {
-    view.node()->evaluate(*this, look, axis, out);
+  void collect(const View& view, const Look& look, ElementList& out) {
+    view.node()->evaluate(*this, look, out);
   }
   /// Appends the elements of a view that this evaluation made, and keeps the view.
-  void collectMade(View view, const Look& look, layout::Axis axis, ElementList& out) {
-    collect(*make<View>(std::move(view)), look, axis, out);
+  void collectMade(View view, const Look& look, ElementList& out) {
+    collect(*make<View>(std::move(view)), look, out);
   }
 
-  /// Appends an element of type `Wrapper` around each element of `content`, made of `arguments` and
-  /// passed to `adapt`.
+  /// Wraps each element of `content` in a `Wrapper(arguments...)`, passes that to `adapt`, and
+  /// appends it to `out`.
   template <class Wrapper, class Adapt, class... Arguments>
-  void wrapEach(const View& content, const Look& look, layout::Axis axis, ElementList& out,
-                Adapt adapt, const Arguments&... arguments) {
+  void wrapEach(const View& content, const Look& look, ElementList& out, Adapt adapt,
+                const Arguments&... arguments) {
     ElementList inner;
-    collect(content, look, axis, inner);
+    collect(content, look, inner);
     for (Element* element = inner.first; element;) {
       Element* wrapped = std::exchange(element, element->next);
       wrapped->next = nullptr;
@@ -105,14 +103,13 @@ class Evaluator {
   }
 
   /// Appends the elements of `children`; each child has its own place in the tree.
-  void collectAll(std::span<const View> children, const Look& look, layout::Axis axis,
-                  ElementList& out);
+  void collectAll(std::span<const View> children, const Look& look, ElementList& out);
 
   /// Makes a stack of `children`.
   Element* stacked(const Stack& rules, ElementList children);
 
   /// The element of `view`. Several elements are put into a stack.
-  Element* single(const View& view, const Look& look, layout::Axis axis);
+  Element* single(const View& view, const Look& look);
 
   /// Runs `go` with `step` appended to the path.
   template <class Go>

@@ -30,7 +30,7 @@ class ImageNode final : public Node, public ElementRules {
     to.line(depth, "Image(" + inQuotes(name_) + ")");
   }
 
-  void evaluate(Evaluator& in, const Look& look, layout::Axis, ElementList& out) const override {
+  void evaluate(Evaluator& in, const Look& look, ElementList& out) const override {
     const auto asset = graphics::imageSet(bundle_, name_);
     // An unknown image shows nothing, but frames and padding around it keep their size.
     const layout::Size size = asset ? layout::Size{asset->width, asset->height} : layout::Size{};
@@ -59,7 +59,6 @@ class ImageNode final : public Node, public ElementRules {
     const layout::Rect frame = to.onPixels(self.frame);
     const auto& bundle = bundle_ ? bundle_ : foundation::Bundle::main();
     to.describe(render::Role::image, frame);
-    to.showedImage(*bundle, name_);
     to.list.items.push_back(render::ImageItem{frame, name_, bundle, self.tint});
   }
 

@@ -2,8 +2,10 @@
 #include <algorithm>
 #include <functional>
 #include <memory>
+#include <span>
 #include <string>
 #include <utility>
+#include <variant>
 
 #include "platform/foundation/StringTable.h"
 #include "platform/swiftui/DisplayListBuilder.h"
@@ -16,17 +18,17 @@ namespace quorix::swiftui {
 namespace {
 
 using foundation::Action;
-using layout::Axis;
 using render::AccessibilityElement;
+using render::ImageItem;
 
 class TapGesture final : public Decoration {
  public:
   TapGesture(View content, Action action)
       : Decoration(std::move(content)), action_(std::move(action)) {}
 
-  void evaluate(Evaluator& in, const Look& look, Axis axis, ElementList& out) const override {
+  void evaluate(Evaluator& in, const Look& look, ElementList& out) const override {
     ++in.result().hitAreas;
-    Decoration::evaluate(in, look, axis, out);
+    Decoration::evaluate(in, look, out);
   }
 
   void show(DisplayListBuilder& to, const Element& self) const override {
@@ -65,12 +67,12 @@ class ButtonNode final : public Node, public Transparent<ElementRules> {
     to.print(label_, depth + 1);
   }
 
-  void evaluate(Evaluator& in, const Look& look, Axis axis, ElementList& out) const override {
+  void evaluate(Evaluator& in, const Look& look, ElementList& out) const override {
     Look inner = look;
     if (!inner.color) inner.color = &accentColor(in.environment.appearance);
     ++in.result().hitAreas;
     auto* button = in.make<Element>(static_cast<const ElementRules&>(*this));
-    in.adopt(*button, in.single(label_, inner, axis));
+    in.adopt(*button, in.single(label_, inner));
     out.append(button);
   }
 
@@ -78,14 +80,21 @@ class ButtonNode final : public Node, public Transparent<ElementRules> {
     const layout::Rect frame = to.onPixels(self.frame);
     to.list.hitAreas.push_back({frame, action_});
     const std::size_t first = to.described();
-    const auto image = to.showLabel(self);
+    const std::size_t firstItem = to.list.items.size();
+    to.showChildren(self);
     std::string words;
     for (const AccessibilityElement& part : to.describedSince(first)) {
       if (!words.empty() && !part.label.empty()) words += ", ";
       words += part.label;
     }
-    if (words.empty() && image.bundle) {
-      words = foundation::spokenName(*image.bundle, *image.name, to.environment.language);
+    const auto shown = std::span(to.list.items).subspan(firstItem);
+    const auto image = std::ranges::find_if(shown, [](const render::Item& item) {
+      const auto* found = std::get_if<ImageItem>(&item);
+      return found && found->bundle;
+    });
+    if (words.empty() && image != shown.end()) {
+      const auto& found = std::get<ImageItem>(*image);
+      words = foundation::spokenName(*found.bundle, found.name, to.environment.language);
     }
     to.list.accessibility.resize(first);
     to.list.accessibility.push_back({frame, render::Role::button, std::move(words), {}, action_});
@@ -100,11 +109,11 @@ class Task final : public Modifier {
  public:
   Task(View content, Action action) : Modifier(std::move(content)), action_(std::move(action)) {}
 
-  void evaluate(Evaluator& in, const Look& look, Axis axis, ElementList& out) const override {
+  void evaluate(Evaluator& in, const Look& look, ElementList& out) const override {
     in.at(steps::modified, [&] {
       in.result().tasks.push_back(
           {TreePath(in.path(), in.result().tasks.get_allocator()), action_});
-      in.collect(content(), look, axis, out);
+      in.collect(content(), look, out);
     });
   }
 
@@ -125,16 +134,16 @@ class GeometryChange final : public Decoration {
   GeometryChange(View content, std::function<void(layout::Size)> action)
       : Decoration(std::move(content)), action_(std::move(action)) {}
 
-  void evaluate(Evaluator& in, const Look& look, Axis axis, ElementList& out) const override {
+  void evaluate(Evaluator& in, const Look& look, ElementList& out) const override {
     std::shared_ptr<Kept>* kept = nullptr;  // one for each element
     const auto adapt = [&](WatchedElement& self) {
       self.isText = self.child().isText;
       kept = kept ? &(*kept)->next : &in.states().first;
-      if (!*kept) *kept = std::make_shared<WatchedSize::Told>();
+      if (!*kept) *kept = std::make_shared<WatchedSize::Told>(std::nullopt);
       self.told = std::static_pointer_cast<WatchedSize::Told>(*kept);
     };
     in.at(steps::modified,
-          [&] { in.wrapEach<WatchedElement>(content(), look, axis, out, adapt, *this); });
+          [&] { in.wrapEach<WatchedElement>(content(), look, out, adapt, *this); });
   }
 
   void show(DisplayListBuilder& to, const Element& self) const override {

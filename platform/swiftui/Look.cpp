@@ -68,7 +68,7 @@ text::AttributedText Look::attributed(const Text& text, const Environment& envir
   } else {
     result.runs.resize(1);
   }
-  text::bound(result, inRow ? text::mostInRow : text::mostOfText);
+  text::bound(result, stack == layout::Axis::horizontal ? text::mostInRow : text::mostOfText);
   return result;
 }
 
@@ -102,11 +102,10 @@ class LookModifier final : public Modifier {
  public:
   LookModifier(View content, L look) : Modifier(std::move(content)), look_(std::move(look)) {}
 
-  void evaluate(Evaluator& in, const Look& look, layout::Axis axis,
-                ElementList& out) const override {
+  void evaluate(Evaluator& in, const Look& look, ElementList& out) const override {
     Look inner = look;
     look_.apply(inner);
-    in.collect(content(), inner, axis, out);
+    in.collect(content(), inner, out);
   }
 
  private:

@@ -6,6 +6,7 @@
 #include <variant>
 
 #include "platform/foundation/Export.h"
+#include "platform/layout/Geometry.h"
 #include "platform/swiftui/Color.h"
 #include "platform/swiftui/Environment.h"
 #include "platform/swiftui/Font.h"
@@ -30,8 +31,9 @@ struct Look {
   bool underline = false;
   bool strikethrough = false;
   bool resizable = false;
-  bool inRow = false;     ///< the nearest stack is horizontal
-  bool inColumn = false;  ///< the nearest stack is vertical
+  std::optional<layout::Axis> stack;  ///< the axis of the nearest stack
+
+  layout::Axis axis() const { return stack.value_or(layout::Axis::vertical); }
 
   /// The color to draw with; transparent if the bundle does not have the named color.
   graphics::RGBA drawnColor(const Environment& environment) const;

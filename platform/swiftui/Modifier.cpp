@@ -12,20 +12,18 @@ void Modifier::print(TreePrinter& to, int depth) const {
   printBelow(to, depth + 3);
 }
 
-void LayoutModifier::evaluate(Evaluator& in, const Look& look, layout::Axis axis,
-                              ElementList& out) const {
+void LayoutModifier::evaluate(Evaluator& in, const Look& look, ElementList& out) const {
   in.wrapEach<Element>(
-      content(), look, axis, out, [](Element&) {}, *this);
+      content(), look, out, [](Element&) {}, *this);
 }
 
 void LayoutModifier::show(DisplayListBuilder& to, const Element& self) const {
   to.showChildren(self);
 }
 
-void Decoration::evaluate(Evaluator& in, const Look& look, layout::Axis axis,
-                          ElementList& out) const {
+void Decoration::evaluate(Evaluator& in, const Look& look, ElementList& out) const {
   const auto isAsContent = [](Element& self) { self.isText = self.child().isText; };
-  in.wrapEach<Element>(content(), look, axis, out, isAsContent, *this);
+  in.wrapEach<Element>(content(), look, out, isAsContent, *this);
 }
 
 }  // namespace quorix::swiftui

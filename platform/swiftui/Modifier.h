@@ -32,8 +32,7 @@ class LayoutModifier : public Modifier, public ElementRules {
  public:
   using Modifier::Modifier;
 
-  void evaluate(Evaluator& in, const Look& look, layout::Axis axis,
-                ElementList& out) const override;
+  void evaluate(Evaluator& in, const Look& look, ElementList& out) const override;
 
   /// Shows the wrapped element.
   void show(DisplayListBuilder& to, const Element& self) const override;
@@ -68,8 +67,7 @@ class Decoration : public Transparent<LayoutModifier> {
  public:
   using Transparent::Transparent;
 
-  void evaluate(Evaluator& in, const Look& look, layout::Axis axis,
-                ElementList& out) const override;
+  void evaluate(Evaluator& in, const Look& look, ElementList& out) const override;
   void show(DisplayListBuilder& to, const Element& self) const override = 0;
 };
 

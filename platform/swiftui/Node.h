@@ -23,9 +23,8 @@ class QUORIX_EXPORT Node {
   /// Prints the element at `depth`, and its children.
   virtual void print(TreePrinter& to, int depth) const = 0;
 
-  /// Appends the elements of this node, for a stack along `axis`, in the look `look`.
-  virtual void evaluate(Evaluator& in, const Look& look, layout::Axis axis,
-                        ElementList& out) const = 0;
+  /// Appends the elements of this node in the look `look`.
+  virtual void evaluate(Evaluator& in, const Look& look, ElementList& out) const = 0;
 };
 
 /// The layout and display of one kind of element. `self` is the element of one evaluation.

@@ -36,18 +36,17 @@ class Overlay final : public SizedAsContent {
   Overlay(View content, layout::Alignment alignment, View above)
       : SizedAsContent(std::move(content)), alignment_(alignment), above_(std::move(above)) {}
 
-  void evaluate(Evaluator& in, const Look& look, layout::Axis axis,
-                ElementList& out) const override {
+  void evaluate(Evaluator& in, const Look& look, ElementList& out) const override {
     ElementList wrapped;
     in.at(steps::modified, [&] {
       const auto adapt = [&](OverlaidElement& self) {
         self.makesWay = in.environment.textSize > ContentSizeCategory::large;
       };
-      in.wrapEach<OverlaidElement>(content(), look, axis, wrapped, adapt, *this);
+      in.wrapEach<OverlaidElement>(content(), look, wrapped, adapt, *this);
     });
     char32_t step = steps::firstOverlay;
     for (Element* element = wrapped.first; element; element = element->next) {
-      in.at(step++, [&] { in.adopt(*element, in.single(above_, look, axis)); });
+      in.at(step++, [&] { in.adopt(*element, in.single(above_, look)); });
     }
     out.appendAll(wrapped);
   }

@@ -15,10 +15,9 @@ class Sheet final : public Modifier {
         isPresented_(std::move(isPresented)),
         shown_(std::move(shown)) {}
 
-  void evaluate(Evaluator& in, const Look& look, layout::Axis axis,
-                ElementList& out) const override {
+  void evaluate(Evaluator& in, const Look& look, ElementList& out) const override {
     if (isPresented_.get()) in.result().presentation = Presentation{isPresented_, shown_};
-    in.collect(content(), look, axis, out);
+    in.collect(content(), look, out);
   }
 
  private:
@@ -36,10 +35,9 @@ class Detents final : public Modifier {
   Detents(View content, const PresentationDetents& detents)
       : Modifier(std::move(content)), detents_(detents) {}
 
-  void evaluate(Evaluator& in, const Look& look, layout::Axis axis,
-                ElementList& out) const override {
+  void evaluate(Evaluator& in, const Look& look, ElementList& out) const override {
     in.result().detents = detents_;
-    in.collect(content(), look, axis, out);
+    in.collect(content(), look, out);
   }
 
  private:

@@ -20,8 +20,8 @@ class SpacerNode final : public Node, public ElementRules {
     to.line(depth, minLength_ ? "Spacer(minLength: " + number(*minLength_) + ")" : "Spacer");
   }
 
-  void evaluate(Evaluator& in, const Look&, Axis axis, ElementList& out) const override {
-    auto* self = in.make<ElementAlongAxis>(*this, axis);
+  void evaluate(Evaluator& in, const Look& look, ElementList& out) const override {
+    auto* self = in.make<ElementAlongAxis>(*this, look.axis());
     self->isSpacer = true;
     out.append(self);
   }

@@ -128,12 +128,11 @@ class StackNode final : public Node {
     for (const View& child : children_) to.print(child, depth + 1);
   }
 
-  void evaluate(Evaluator& in, const Look& look, Axis, ElementList& out) const override {
+  void evaluate(Evaluator& in, const Look& look, ElementList& out) const override {
     Look inner = look;
-    inner.inColumn = rules_.axis() == Axis::vertical;
-    inner.inRow = rules_.axis() == Axis::horizontal;
+    inner.stack = rules_.axis();
     ElementList children;
-    in.collectAll(children_, inner, rules_.axis(), children);
+    in.collectAll(children_, inner, children);
     out.append(in.stacked(rules_, children));
   }
 
@@ -200,7 +199,7 @@ Stack::Offers Stack::divide(LayoutPass& in, Element& element, ProposedSize propo
   auto& self = static_cast<StackElement&>(element);
   const std::size_t count = self.children.count;
   const bool alike =
-      self.anyHeight ? self.dividedFor.width == proposal.width : self.dividedFor == proposal;
+      self.ignoresHeight ? self.dividedFor.width == proposal.width : self.dividedFor == proposal;
   if (alike && self.offers.size() == count) return self.offers;
 
   const std::span offers(in.arena.array<std::optional<double>>(count), count);
@@ -215,14 +214,14 @@ Stack::Offers Stack::divide(LayoutPass& in, Element& element, ProposedSize propo
   };
   const bool isRow = axis_ == Axis::horizontal;
   const std::span children(in.arena.array<StackChild>(count), count);
-  self.anyHeight = isRow;
+  self.ignoresHeight = isRow;
   Element* next = self.children.first;
   for (std::size_t i = 0; i < count; ++i, next = next->next) {
     StackChild& child = children[i];
     child.element = next;
     child.offer = &offers[i];
     const bool gives = isRow && next->isText;
-    self.anyHeight = self.anyHeight && (gives || next->isSpacer);
+    self.ignoresHeight = self.ignoresHeight && (gives || next->isSpacer);
     // A text's minimum width counts as 0, so shaping is skipped.
     child.atZero = gives ? 0 : ask(child, 0);
     child.atInfinity = ask(child, layout::infinity);

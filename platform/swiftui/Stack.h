@@ -57,7 +57,8 @@ struct StackElement final : Element {
   // Caches the latest division, because measuring and placing need the same one.
   layout::ProposedSize dividedFor;
   std::span<const std::optional<double>> offers;
-  bool anyHeight = false;  ///< a row of texts and spacers: the height does not change its widths
+  bool ignoresHeight =
+      false;  ///< a row of texts and spacers: the height does not change its widths
 };
 
 }  // namespace quorix::swiftui

@@ -21,11 +21,10 @@ struct Kept {
 /// The storage behind a `State`: outlives the view values that read it.
 template <class T>
 struct StateBox final : Kept {
-  StateBox() = default;
   explicit StateBox(T initial, foundation::Action changed = {})
       : value(std::move(initial)), onChange(std::move(changed)) {}
 
-  T value{};
+  T value;
   foundation::Action onChange;  ///< re-evaluates the owner
 };
 

@@ -12,12 +12,10 @@
 namespace quorix::swiftui {
 namespace {
 
-using layout::Axis;
-
 class EmptyNode final : public Node {
  public:
   void print(TreePrinter& to, int depth) const override { to.line(depth, "EmptyView"); }
-  void evaluate(Evaluator&, const Look&, Axis, ElementList&) const override {}
+  void evaluate(Evaluator&, const Look&, ElementList&) const override {}
 };
 
 class GroupNode final : public Node {
@@ -28,8 +26,8 @@ class GroupNode final : public Node {
   void print(TreePrinter& to, int depth) const override {
     for (const View& child : children_) to.print(child, depth);
   }
-  void evaluate(Evaluator& in, const Look& look, Axis axis, ElementList& out) const override {
-    in.collectAll(children_, look, axis, out);
+  void evaluate(Evaluator& in, const Look& look, ElementList& out) const override {
+    in.collectAll(children_, look, out);
   }
 
  private:
@@ -45,9 +43,8 @@ class ConditionalNode final : public Node {
     to.line(depth, "Conditional(" + std::string(nameOf(condition_)) + ")");
     to.print(content_, depth + 1);
   }
-  void evaluate(Evaluator& in, const Look& look, Axis axis, ElementList& out) const override {
-    in.at(condition_ ? steps::chosen : steps::notChosen,
-          [&] { in.collect(content_, look, axis, out); });
+  void evaluate(Evaluator& in, const Look& look, ElementList& out) const override {
+    in.at(condition_ ? steps::chosen : steps::notChosen, [&] { in.collect(content_, look, out); });
   }
 
  private:
@@ -60,8 +57,8 @@ class LazyNode final : public Node {
   explicit LazyNode(std::function<View()> make) : make_(std::move(make)) {}
 
   void print(TreePrinter& to, int depth) const override { to.print(make_(), depth); }
-  void evaluate(Evaluator& in, const Look& look, Axis axis, ElementList& out) const override {
-    in.collectMade(make_(), look, axis, out);
+  void evaluate(Evaluator& in, const Look& look, ElementList& out) const override {
+    in.collectMade(make_(), look, out);
   }
 
  private:

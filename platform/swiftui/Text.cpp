@@ -69,8 +69,8 @@ struct ShownText final : Element {
   ShownText(const ElementRules& kind, text::AttributedText words, const Look& look)
       : Element(kind),
         text(std::move(words)),
-        spansWhenWrapped(look.inColumn),
-        smallestPart(look.inRow ? smallestInRow : smallestParagraph) {
+        spansWhenWrapped(look.stack == layout::Axis::vertical),
+        smallestPart(look.stack == layout::Axis::horizontal ? smallestInRow : smallestParagraph) {
     isText = true;
     holdsText = true;
   }
@@ -87,7 +87,7 @@ class TextNode final : public Node, public ElementRules {
 
   void print(TreePrinter& to, int depth) const override { print(text_, to, depth); }
 
-  void evaluate(Evaluator& in, const Look& look, layout::Axis, ElementList& out) const override {
+  void evaluate(Evaluator& in, const Look& look, ElementList& out) const override {
     ++in.result().items;
     out.append(in.make<ShownText>(static_cast<const ElementRules&>(*this),
                                   look.attributed(text_, in.environment), look));

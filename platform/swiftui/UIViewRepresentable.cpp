@@ -22,91 +22,83 @@ struct HostedElement final : Element {
   HostedContent& content;
 };
 
-class HostedNode : public Node, public ElementRules {
+/// Content that a `Maker` makes once for each place in a tree, and updates at each evaluation.
+template <class Maker>
+class HostedNode final : public Node, public ElementRules {
  public:
-  void print(TreePrinter& to, int depth) const final { to.line(depth, name()); }
+  explicit HostedNode(Maker maker) : maker_(std::move(maker)) {}
 
-  void evaluate(Evaluator& in, const Look&, layout::Axis, ElementList& out) const final {
-    in.at(steps::into(maker()), [&] {
+  void print(TreePrinter& to, int depth) const override { to.line(depth, maker_.name()); }
+
+  void evaluate(Evaluator& in, const Look&, ElementList& out) const override {
+    in.at(steps::into(maker_.type()), [&] {
       auto& slot = in.states().first;
-      if (!slot) slot = std::make_shared<Shown>(make());
+      if (!slot) slot = std::make_shared<Shown>(maker_.make());
       const auto& hosted = static_cast<const Shown&>(*slot).value;
-      update(*hosted);
+      // Quietly, because the view is about to be laid out. A notice could evaluate it again.
+      hosted->updateQuietly([&] { maker_.update(*hosted); });
       in.result().hosted.push_back(hosted);
       out.append(in.make<HostedElement>(static_cast<const ElementRules&>(*this), *hosted));
     });
   }
 
-  layout::Size measure(LayoutPass& in, Element& self, layout::ProposedSize proposal) const final {
+  layout::Size measure(LayoutPass& in, Element& self,
+                       layout::ProposedSize proposal) const override {
     return contentOf(self).sizeThatFits(proposal, in.engine, 1 / in.grid.pixel());
   }
 
-  void place(LayoutPass&, Element&, layout::ProposedSize) const final {}
-  double leastWidth(LayoutPass&, Element&) const final { return 0; }
+  void place(LayoutPass&, Element&, layout::ProposedSize) const override {}
+  double leastWidth(LayoutPass&, Element&) const override { return 0; }
 
-  void show(DisplayListBuilder& to, const Element& self) const final {
+  void show(DisplayListBuilder& to, const Element& self) const override {
     to.host(contentOf(self), self);
   }
 
  private:
-  virtual std::string_view name() const = 0;
-  /// The type of the maker. If it changes, the place gets new content.
-  virtual std::type_index maker() const = 0;
-  virtual std::shared_ptr<HostedContent> make() const = 0;
-  /// Called at each evaluation.
-  virtual void update(HostedContent& hosted) const = 0;
-
   static HostedContent& contentOf(const Element& self) {
     return static_cast<const HostedElement&>(self).content;
   }
+
+  Maker maker_;
 };
 
-class RepresentedNode final : public HostedNode {
- public:
-  explicit RepresentedNode(Represented content) : content_(std::move(content)) {}
-
- private:
-  std::string_view name() const override { return content_.name; }
-  std::type_index maker() const override { return content_.make.target_type(); }
-  std::shared_ptr<HostedContent> make() const override { return content_.make(); }
-  void update(HostedContent& hosted) const override {
-    if (content_.update) content_.update(hosted);
+/// Makes content by a host's functions. Other functions in the same place make new content.
+struct RepresentedMaker {
+  std::string_view name() const { return content.name; }
+  std::type_index type() const { return content.make.target_type(); }
+  std::shared_ptr<HostedContent> make() const { return content.make(); }
+  void update(HostedContent& hosted) const {
+    if (content.update) content.update(hosted);
   }
 
-  Represented content_;
+  Represented content;
 };
 
 /// Shows an existing object. Another object in the same place replaces it.
 template <class Content, class Object>
-class ObjectNode final : public HostedNode {
- public:
-  explicit ObjectNode(std::shared_ptr<Object> object) : object_(std::move(object)) {}
-
- private:
-  std::string_view name() const override {
+struct ObjectMaker {
+  std::string_view name() const {
     return std::is_same_v<Object, uikit::UIView> ? "UIView" : "UIViewController";
   }
-  std::type_index maker() const override { return typeid(ObjectNode); }
-  std::shared_ptr<HostedContent> make() const override {
-    return std::make_shared<Content>(object_);
-  }
-  void update(HostedContent& hosted) const override {
-    auto& content = static_cast<Content&>(hosted);
-    content.updateQuietly([&] { content.show(object_); });
-  }
+  std::type_index type() const { return typeid(ObjectMaker); }
+  std::shared_ptr<HostedContent> make() const { return std::make_shared<Content>(object); }
+  void update(HostedContent& hosted) const { static_cast<Content&>(hosted).show(object); }
 
-  std::shared_ptr<Object> object_;
+  std::shared_ptr<Object> object;
 };
 
 template <class Content, class Object>
 View showing(std::shared_ptr<Object> object) {
+  using Maker = ObjectMaker<Content, Object>;
   if (!object) return {};
-  return makeView<ObjectNode<Content, Object>>(std::move(object));
+  return makeView<HostedNode<Maker>>(Maker{std::move(object)});
 }
 
 }  // namespace
 
-View represented(Represented content) { return makeView<RepresentedNode>(std::move(content)); }
+View represented(Represented content) {
+  return makeView<HostedNode<RepresentedMaker>>(RepresentedMaker{std::move(content)});
+}
 
 View hosting(std::shared_ptr<uikit::UIView> view) {
   return showing<uikit::UIViewContent>(std::move(view));

@@ -3,7 +3,6 @@
 #include <concepts>
 #include <functional>
 #include <memory>
-#include <string_view>
 #include <utility>
 
 #include "platform/foundation/Action.h"

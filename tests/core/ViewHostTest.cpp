@@ -20,7 +20,7 @@ View key(std::string& log, const std::string& letter, double size) {
 }
 
 /// Grows once from 10 to 20 points, during a call of the host's: like a view that loads its content
-/// when it is first used.
+/// when it is first used. Reports a change at each evaluation too, which changes nothing.
 class LateContent final : public render::HostedContent {
  public:
   enum class When { measured, shown, told };
@@ -28,7 +28,9 @@ class LateContent final : public render::HostedContent {
 
   static View view(When when) {
     const auto content = std::make_shared<LateContent>(when);
-    const View shown = swiftui::represented({"Late", [content] { return content; }});
+    const View shown =
+        swiftui::represented({"Late", [content] { return content; },
+                              [content](render::HostedContent&) { content->tellChanged(); }});
     return shown.onGeometryChange([content](layout::Size) { content->grow(When::told); });
   }
 
