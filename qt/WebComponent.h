@@ -42,7 +42,8 @@ class WebPage : public hosting::PageEngine {
 /// shows no page never loads it.
 using OpenWebPage = WebPage* (*)(QObject& place, const WebPage::Options& options,
                                  WebPage::Client& client);
-/// The number changes whenever `OpenWebPage`, `WebPage` or `hosting::PageEngine` changes.
+/// Change the number with `OpenWebPage`, `WebPage`, `hosting::PageEngine`, or a type in their
+/// signatures.
 constexpr char openWebPageSymbol[] = "quorixOpenWebPage7";
 
 /// Finds the libraries that hold the web engine ("QuorixWebQuick", "QuorixWebWidgets") and loads

@@ -20,7 +20,7 @@ namespace PageScripts = webkit::PageScripts;
 
 /// How long a page may take to answer before it counts as hanging. Closing, with the sheet's fall,
 /// then takes less than a second.
-constexpr milliseconds patience{400};
+constexpr milliseconds answerTimeout{400};
 
 milliseconds toMilliseconds(foundation::URLRequest::Seconds seconds) {
   constexpr double longest = std::numeric_limits<int>::max();
@@ -40,7 +40,7 @@ std::unique_ptr<EmbeddedPage> EmbeddedPage::open(const render::EmbedItem& embed,
   page->engine_ = owner.openPage(embed, *page);
   if (!page->engine_) return nullptr;
   content->attach([made = page.get()](const foundation::URLRequest& request) {
-    made->patience_ = toMilliseconds(request.timeoutInterval);
+    made->loadTimeout_ = toMilliseconds(request.timeoutInterval);
     if (webkit::mayNavigateTo(request.url.scheme())) made->engine_->load(request.url);
   });
   return page;
@@ -50,9 +50,9 @@ EmbeddedPage::~EmbeddedPage() {
   if (engine_) content_->detach();
 }
 
-void EmbeddedPage::start(Limit& limit, milliseconds after, std::function<void()> work) {
-  limit = std::make_shared<std::function<void()>>(std::move(work));
-  MainQueue::after(after, [weak = std::weak_ptr(limit)] {
+void EmbeddedPage::start(Timer& timer, milliseconds after, std::function<void()> work) {
+  timer = std::make_shared<std::function<void()>>(std::move(work));
+  MainQueue::after(after, [weak = std::weak_ptr(timer)] {
     if (const auto ran = weak.lock()) (*ran)();
   });
 }
@@ -66,15 +66,15 @@ void EmbeddedPage::later(std::function<void()> work) {
 // Load and process.
 
 void EmbeddedPage::loading(int percent) {
-  came_ = percent > 0;
-  start(standstill_, patience_, [this] {
-    engine_->stopLoad(patience_);
-    if (!came_) loadFailed();
+  hasData_ = percent > 0;
+  start(loadTimer_, loadTimeout_, [this] {
+    engine_->stopLoad(loadTimeout_);
+    if (!hasData_) loadFailed();
   });
 }
 
 void EmbeddedPage::loadEnded(int error) {
-  standstill_.reset();
+  loadTimer_.reset();
   if (webkit::broughtNothing(error)) loadFailed();
 }
 
@@ -98,8 +98,8 @@ void EmbeddedPage::windowAsked(std::string_view address, bool byUser) {
 }
 
 void EmbeddedPage::processEnded() {
-  standstill_.reset();
-  silence_.reset();
+  loadTimer_.reset();
+  answerTimer_.reset();
   later([this, kept = content_] {
     owner_.pageEnded();
     kept->processEnded();
@@ -112,13 +112,14 @@ void EmbeddedPage::processEnded() {
 void EmbeddedPage::expectAnswer(std::function<void()> then) {
   onAnswer_ = std::move(then);
   if (!content_->settings.allowsContentJavaScript) return answered(PageScripts::alive);
-  if (!silence_) start(silence_, patience, [this] { silence_.reset(), owner_.pageHangs(); });
+  if (!answerTimer_)
+    start(answerTimer_, answerTimeout, [this] { answerTimer_.reset(), owner_.pageHangs(); });
   engine_->ask(PageScripts::isAlive);
 }
 
 void EmbeddedPage::answered(std::string_view answer) {
   if (answer == PageScripts::alive) {
-    silence_.reset();
+    answerTimer_.reset();
     if (const auto then = std::exchange(onAnswer_, {})) then();
     return;
   }
@@ -130,12 +131,15 @@ void EmbeddedPage::answered(std::string_view answer) {
   }
 }
 
-bool EmbeddedPage::takes(Key key, bool tries) {
+bool EmbeddedPage::wouldUse(Key key) const {
   if (!content_->settings.allowsBackForwardNavigationGestures) return false;
+  return key == Key::pageForward || key == Key::pageBack ||
+         (key == Key::back && engine_->canGo(HistoryStep::back));
+}
+
+bool EmbeddedPage::use(Key key) {
+  if (!wouldUse(key)) return false;
   const auto step = key == Key::pageForward ? HistoryStep::forward : HistoryStep::back;
-  const bool leads =
-      key == Key::pageForward || key == Key::pageBack || (key == Key::back && engine_->canGo(step));
-  if (!leads || tries) return leads;
   const auto goes = [this, step] { engine_->go(step); };
   key == Key::back ? expectAnswer(goes) : goes();  // a page that hangs does not go back
   return true;
@@ -240,9 +244,12 @@ void EmbeddedPages::sendOutside(const render::Scene& scene) {
   }
 }
 
-bool EmbeddedPages::takes(Key key, bool tries) {
-  return std::any_of(pages_.begin(), pages_.end(),
-                     [&](const auto& page) { return page->takes(key, tries); });
+bool EmbeddedPages::use(Key key) {
+  return std::ranges::any_of(pages_, [&](const auto& page) { return page->use(key); });
+}
+
+bool EmbeddedPages::wouldUse(Key key) const {
+  return std::ranges::any_of(pages_, [&](const auto& page) { return page->wouldUse(key); });
 }
 
 std::vector<PageEngine*> EmbeddedPages::shown() const {

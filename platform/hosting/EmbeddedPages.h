@@ -24,9 +24,9 @@ class EmbeddedPage final : private PageEngine::Client {
     /// Null if no engine can show the page.
     virtual std::unique_ptr<PageEngine> openPage(const render::EmbedItem& embed,
                                                  PageEngine::Client& client) = 0;
-    /// A page got a key that closes the sheet, and hangs.
+    /// A page did not answer in time after a key that closes the sheet: close the sheet.
     virtual void pageHangs() = 0;
-    /// The page is blank from now on and takes no keys.
+    /// A page's load failed or its process ended: it is blank and takes no keys.
     virtual void pageEnded() = 0;
     /// Whether swipes are mirrored.
     virtual bool isRightToLeft() const = 0;
@@ -44,18 +44,20 @@ class EmbeddedPage final : private PageEngine::Client {
   const render::Embed* content() const { return content_.get(); }
   PageEngine& engine() const { return *engine_; }
 
-  /// Goes back or forward for a key that the page did not use. False for other keys, or if there is
-  /// no page to go to. `tries` only asks and does not navigate.
-  bool takes(Key key, bool tries);
+  /// Goes back or forward for a key that the page did not use. False for other keys, and for Back
+  /// without a page to go to.
+  bool use(Key key);
+  /// Whether `use` would use the key.
+  bool wouldUse(Key key) const;
 
  private:
   /// A timer; destroying it cancels it.
-  using Limit = std::shared_ptr<std::function<void()>>;
+  using Timer = std::shared_ptr<std::function<void()>>;
 
   EmbeddedPage(std::shared_ptr<webkit::WebContent> content, Owner& owner)
       : content_(std::move(content)), owner_(owner) {}
 
-  static void start(Limit& limit, std::chrono::milliseconds after, std::function<void()> work);
+  static void start(Timer& timer, std::chrono::milliseconds after, std::function<void()> work);
   void later(std::function<void()> work);
   void expectAnswer(std::function<void()> then);
   HistoryStep stepOf(SwipeDirection direction) const;
@@ -78,10 +80,10 @@ class EmbeddedPage final : private PageEngine::Client {
   std::shared_ptr<webkit::WebContent> content_;
   Owner& owner_;
   std::shared_ptr<EmbeddedPage*> alive_ = std::make_shared<EmbeddedPage*>(this);
-  std::chrono::milliseconds patience_ = foundation::URLRequest::defaultTimeout;  ///< for a load
-  Limit standstill_;   ///< runs since the load last progressed
-  bool came_ = false;  ///< data of the load has arrived
-  Limit silence_;      ///< runs since the page was asked
+  std::chrono::milliseconds loadTimeout_ = foundation::URLRequest::defaultTimeout;
+  Timer loadTimer_;       ///< runs since the load last progressed
+  bool hasData_ = false;  ///< data of the load has arrived
+  Timer answerTimer_;     ///< runs since the page was asked whether it is alive
   std::function<void()> onAnswer_;
   webkit::UserGesture gesture_;
   EdgeSwipe edgeSwipe_;
@@ -119,7 +121,8 @@ class EmbeddedPages {
   /// Opens the addresses of the pages in `scene` outside the app.
   static void sendOutside(const render::Scene& scene);
 
-  bool takes(Key key, bool tries = false);
+  bool use(Key key);
+  bool wouldUse(Key key) const;
   /// The pages on screen, from the bottom up.
   std::vector<PageEngine*> shown() const;
 

@@ -12,10 +12,7 @@ struct FocusRing {
   static constexpr double outset = gap + width;
 
   /// The ring's outer frame.
-  static layout::Rect around(const layout::Rect& element) {
-    return {{element.left() - outset, element.top() - outset},
-            {element.size.width + 2 * outset, element.size.height + 2 * outset}};
-  }
+  static layout::Rect around(const layout::Rect& element) { return element.outset(outset); }
 
   /// The ring inside `frame`. Its contrast with a white or a black page is above 5:1. Guidelines
   /// require 3:1.

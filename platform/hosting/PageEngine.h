@@ -15,6 +15,8 @@ enum class HistoryStep : std::uint8_t { back, forward };
 
 /// A live web page that the toolkit's web engine shows. The destructor removes it from the screen
 /// and stops its load. Main thread.
+///
+/// After a change of this class, change the number in `qt/WebComponent.h` too.
 class QUORIX_EXPORT PageEngine {
  public:
   /// Receives the page's events, often inside a call of the engine: do not destroy the page in

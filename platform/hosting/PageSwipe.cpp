@@ -31,10 +31,12 @@ std::optional<EdgeSwipe::Swipe> EdgeSwipe::follow(const TouchEvent& event) {
   const double across = std::abs(event.point.y - finger_->start.y);
   if (!finger_->swipes) {
     if (std::max(std::abs(inward), across) < slop) return std::nullopt;
-    finger_->swipes = inward > across;
-    if (!finger_->swipes) finger_.reset();
+    if (inward <= across) {
+      finger_.reset();
+      return std::nullopt;
+    }
+    finger_->swipes = true;
   }
-  if (!finger_) return std::nullopt;
   return Swipe{finger_->direction, inward >= fingerDistance};
 }
 

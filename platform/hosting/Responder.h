@@ -27,9 +27,9 @@ class QUORIX_EXPORT Responder {
   /// Handles the mouse, or the first finger of a touch. Returns false if the event belongs to what
   /// is below. An action may delete the surface: do not use it afterwards.
   bool handle(const PointerEvent& event);
-  /// Handles a wheel or a trackpad. The result means the same.
+  /// Handles a wheel or a trackpad. False if it is not used.
   virtual bool handle(const ScrollEvent&) { return false; }
-  /// Handles a key. The result means the same.
+  /// Handles a key. False if it is not used.
   virtual bool handle(const KeyEvent& event) = 0;
   /// Cancels the press because the toolkit gave the pointer to another object. Has no effect after
   /// the release, because some toolkits report every release in this way too.

@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "platform/hosting/FocusRing.h"
-#include "platform/hosting/SheetPictures.h"
 #include "platform/layout/Geometry.h"
 
 namespace quorix::hosting {
@@ -21,7 +20,7 @@ double SheetPanel::restingHeight() {
   return geometry.contentHeight(content.detents()) + geometry.safeArea.bottom;
 }
 
-double SheetPanel::room() { return restingHeight() - geometry.safeArea.bottom; }
+double SheetPanel::visibleHeight() { return restingHeight() - geometry.safeArea.bottom; }
 
 bool SheetPanel::reveal(double points) {
   if (revealed_ == points) return false;
@@ -44,7 +43,7 @@ const render::Scene& SheetPanel::lay() {
   const layout::EdgeInsets insets = geometry.panelInsets();
   const double free = std::max(0.0, width - insets.leading - insets.trailing);
   const double ideal = content.sizeThatFits({free, std::nullopt}).height;
-  const double beyond = ideal - room();
+  const double beyond = ideal - visibleHeight();
   const render::Scene& scene =
       content.scene({width, restingHeight() + std::max(0.0, beyond)}, insets);
   scroll.setRange(hasEmbeds(scene) ? 0 : beyond);
@@ -71,10 +70,7 @@ std::optional<layout::Rect> SheetPanel::ring() const {
   const auto element = inWindow(focus.ring());
   if (!element) return std::nullopt;
   // Twice the outset leaves space for the ring beside a rounded corner too.
-  constexpr double beside = 2 * FocusRing::outset;
-  const layout::Rect panel = frame();
-  const layout::Rect inside = {{panel.left() + beside, panel.top() + beside},
-                               {panel.size.width - 2 * beside, panel.size.height - 2 * beside}};
+  const layout::Rect inside = frame().outset(-2 * FocusRing::outset);
   const layout::Rect seen = layout::intersection(*element, inside);
   const bool isSeen = seen.size.width > 0 && seen.size.height > 0;
   return isSeen ? std::optional(seen) : std::nullopt;
@@ -105,8 +101,7 @@ const render::Scene& SheetPanel::overlay() {
   if (overlay_ && overlayRevision_ == now) return *overlay_;
   render::Scene whole;
   whole.size = geometry.window;
-  whole.items.emplace_back(std::in_place_type<render::FillItem>,
-                           render::FillItem{{{}, whole.size}, shade()});
+  whole.items.push_back(render::FillItem{{{}, whole.size}, shade()});
   addTo(whole, frame());
   overlayRevision_ = now;
   return overlay_.emplace(std::move(whole));
@@ -116,14 +111,11 @@ void SheetPanel::addTo(render::Scene& to, const layout::Rect& frame) {
   render::Scene shown = lay();
   const layout::Point top = origin(frame.origin);
   to.appearance = shown.appearance;
-  to.items.emplace_back(std::in_place_type<render::FillItem>,
-                        render::FillItem{frame, color(), SheetGeometry::cornerRadius});
+  to.items.push_back(render::FillItem{frame, color(), SheetGeometry::cornerRadius});
   if (scroll.range() > 0) {
     SheetGeometry::cut(shown, {{0, frame.top() - top.y}, {frame.size.width, restingHeight()}});
   }
-  if (scroll.offset() > 0) {
-    to.items.emplace_back(std::in_place_type<render::ClipItem>, render::ClipItem{frame});
-  }
+  if (scroll.offset() > 0) to.items.push_back(render::ClipItem{frame});
   to.append(std::move(shown), top);
   SheetGeometry::roundTop(to, frame);
   addIndicator(to, frame);
@@ -147,27 +139,26 @@ void SheetPanel::addIndicator(render::Scene& to, const layout::Rect& frame) {
   const bool mirrored = settings.direction == layout::LayoutDirection::rightToLeft;
   const double covered = geometry.panelInsets().trailing;
   const layout::Rect beside = {{frame.left() + (mirrored ? covered : 0), frame.top() + corner},
-                               {frame.size.width - covered, room() - corner}};
+                               {frame.size.width - covered, visibleHeight() - corner}};
   const layout::Rect bar =
       layout::PixelGrid(settings.scale).round(scroll.indicator(beside, mirrored));
   // The contrast is 3.9:1 with a white panel and higher with a dark one. Guidelines require 3:1.
   const std::uint8_t shade = settings.appearance == graphics::Appearance::dark ? 255 : 0;
   const auto alpha = static_cast<std::uint8_t>(std::lround(opacity * 128));
   const double radius = bar.size.width / 2;
-  to.items.emplace_back(std::in_place_type<render::FillItem>,
-                        render::FillItem{bar, {shade, shade, shade, alpha}, radius, radius});
+  to.items.push_back(render::FillItem{bar, {shade, shade, shade, alpha}, radius, radius});
 }
 
 // Scrolling.
 
 void SheetPanel::scrollToFocus() {
   if (const auto focused = content.focusFrame()) {
-    scroll.show(focused->top() - roomAtFocus, focused->bottom() + roomAtFocus, room());
+    scroll.show(focused->top() - roomAtFocus, focused->bottom() + roomAtFocus, visibleHeight());
   }
 }
 
-std::optional<double> SheetPanel::distanceOf(Key key) {
-  const double page = std::max(keyStep, room() - keyStep);
+std::optional<double> SheetPanel::scrollDistance(Key key) {
+  const double page = std::max(keyStep, visibleHeight() - keyStep);
   switch (key) {
     case Key::up:
       return -keyStep;
@@ -212,6 +203,13 @@ double SheetGeometry::contentHeight(const swiftui::PresentationDetents& detents)
 layout::Rect SheetGeometry::panel(double revealed) const {
   const double width = panelWidth();
   return {{(window.width - width) / 2, window.height - revealed}, {width, revealed}};
+}
+
+bool hasEmbeds(const render::Scene& scene) {
+  return std::ranges::any_of(scene.items, [](const render::Item& item) {
+    const auto* embed = std::get_if<render::EmbedItem>(&item);
+    return embed && embed->content;
+  });
 }
 
 namespace {

@@ -39,6 +39,9 @@ struct SheetGeometry {
   static void roundTop(render::Scene& scene, const layout::Rect& panel);
 };
 
+/// Whether `scene` has an embed with content.
+bool hasEmbeds(const render::Scene& scene);
+
 /// The panel of a sheet with its scrolling content. Main thread.
 class SheetPanel {
  public:
@@ -79,7 +82,7 @@ class SheetPanel {
 
   void scrollToFocus();
   /// How far a key scrolls, in points; absent for other keys.
-  std::optional<double> distanceOf(Key key);
+  std::optional<double> scrollDistance(Key key);
 
   ViewHost content;
   ViewFocus focus;
@@ -88,7 +91,7 @@ class SheetPanel {
 
  private:
   /// The height of the visible part of the content.
-  double room();
+  double visibleHeight();
   /// The content's origin if the panel's origin is `corner`.
   layout::Point origin(layout::Point corner) const;
   /// Adds the panel's fill, content and scroll indicator at `frame`. Rounds items that cover the

@@ -19,11 +19,7 @@ Rect inked(const render::ClipItem& clip) { return clip.frame; }
 Rect inked(const EmbedItem& embed) { return embed.frame; }
 
 /// Letters can extend beyond their line.
-Rect inked(const render::TextItem& text) {
-  const double reach = text.frame.size.height;
-  return {{text.frame.left() - reach, text.frame.top() - reach},
-          {text.frame.size.width + 2 * reach, text.frame.size.height + 2 * reach}};
-}
+Rect inked(const render::TextItem& text) { return text.frame.outset(text.frame.size.height); }
 
 Rect inked(const render::Item& item) {
   return std::visit([](const auto& shown) { return inked(shown); }, item);
@@ -79,7 +75,8 @@ void crop(SceneLayer& layer, double scale) {
 
 }  // namespace
 
-std::vector<SceneLayer> layersOf(const render::Scene& scene, graphics::RGBA ground, double scale) {
+std::vector<SceneLayer> layersOf(const render::Scene& scene, graphics::RGBA panelColor,
+                                 double scale) {
   std::vector<SceneLayer> layers;
   const auto begin = [&] {
     layers.emplace_back();
@@ -92,16 +89,9 @@ std::vector<SceneLayer> layersOf(const render::Scene& scene, graphics::RGBA grou
     const auto* embed = std::get_if<EmbedItem>(&item);
     if (embed && embed->content) begin();
   }
-  cutGround(layers.front().scene, ground, scale);
+  cutGround(layers.front().scene, panelColor, scale);
   for (std::size_t i = 1; i < layers.size(); ++i) crop(layers[i], scale);
   return layers;
-}
-
-bool hasEmbeds(const render::Scene& scene) {
-  return std::any_of(scene.items.begin(), scene.items.end(), [](const render::Item& item) {
-    const auto* embed = std::get_if<EmbedItem>(&item);
-    return embed && embed->content;
-  });
 }
 
 bool SheetPictures::follow(SheetPresenter& sheet, const std::optional<Rect>& ring, double scale) {

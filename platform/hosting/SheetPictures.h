@@ -17,14 +17,12 @@ struct SceneLayer {
   render::Scene scene;   ///< items only, relative to the picture; empty if there are none
 };
 
-/// Splits a panel's `scene` above each of its embeds, so there is one layer more than there are
-/// embeds. The first layer is as wide as the panel and ends where only the panel's color, `ground`,
-/// remains. Each further layer is only as large as its items. A layer's picture includes the
-/// background of its embed. Edges are on whole device pixels at `scale`.
-std::vector<SceneLayer> layersOf(const render::Scene& scene, graphics::RGBA ground, double scale);
-
-/// Whether `scene` has an embed with content.
-bool hasEmbeds(const render::Scene& scene);
+/// Splits a panel's `scene` into layers: the first up to the first embed, and one above each embed.
+/// A layer includes the background of its embed. The first layer is as wide as the panel and ends
+/// where only `panelColor` remains; each further layer is only as large as its items. Edges are on
+/// whole device pixels at `scale`.
+std::vector<SceneLayer> layersOf(const render::Scene& scene, graphics::RGBA panelColor,
+                                 double scale);
 
 /// The pictures of a sheet for a toolkit that moves them without painting: from the bottom up the
 /// panel, what lies above each page, and the focus ring. Main thread.

@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "platform/hosting/SheetPanel.h"
-#include "platform/hosting/SheetPictures.h"
 
 namespace quorix::hosting {
 namespace {
@@ -239,7 +238,7 @@ void SheetPresenter::scroll(const ScrollEvent& event) {
 }
 
 bool SheetPresenter::scroll(Key key) {
-  const auto distance = state_->panel.distanceOf(key);
+  const auto distance = state_->panel.scrollDistance(key);
   if (distance) scroll(ScrollEvent{*distance});
   return distance.has_value();
 }

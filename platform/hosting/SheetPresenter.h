@@ -41,9 +41,9 @@ class QUORIX_EXPORT SheetPresenter {
 
   /// Shows `presentation`. A new sheet rises; an open one replaces its content.
   void present(const swiftui::Presentation& presentation);
-  /// Closes the sheet for its owner: it falls, then `sheetDidClose` is called.
+  /// The owner no longer presents the sheet: moves it down, then calls `sheetDidClose`.
   void retract();
-  /// Closes the sheet for the user: writes false through the binding.
+  /// The user closes the sheet: writes false through the binding. The owner then calls `retract`.
   void dismiss(SheetCloseReason reason = SheetCloseReason::key);
   /// Why the binding became false: `host` unless the user closed the sheet in it or by `dismiss`.
   SheetCloseReason closeReason() const;

@@ -18,9 +18,9 @@ class SheetScroll {
 
   /// A finger presses. True if this stopped a motion; then the press is not a tap.
   bool hold();
-  /// The finger is `down` points below the place of its press. Returns how far it pulls the panel
-  /// down: the part of the drag beyond the content's top. Negative if it pushes a panel up that
-  /// does not scroll.
+  /// Scrolls by a drag; `down`: points from the press to the finger. Returns the part of the drag
+  /// beyond the content's top, by which the panel moves down. Negative for an upward drag of
+  /// content that does not scroll.
   double drag(double down);
   /// Whether the content was at its top from the start of the drag to its end. Then a flick closes
   /// the sheet.

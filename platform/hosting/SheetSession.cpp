@@ -227,12 +227,12 @@ bool SheetSession::handle(const ScrollEvent& event) {
 // Keyboard.
 
 bool SheetSession::takes(Key key) {
-  if (pages_.takes(key, true)) return true;
+  if (pages_.wouldUse(key)) return true;
   return key != Key::other && key != Key::pageBack && key != Key::pageForward;
 }
 
 bool SheetSession::handle(const KeyEvent& event) {
-  if (pages_.takes(event.key)) return true;
+  if (pages_.use(event.key)) return true;
   switch (event.key) {
     case Key::escape:
     case Key::back:

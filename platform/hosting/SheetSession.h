@@ -30,7 +30,7 @@ class QUORIX_EXPORT SheetSession : public Responder,
   ~SheetSession() override;
 
   void present(const swiftui::Presentation& presentation);
-  /// Closes the sheet for its owner: it falls.
+  /// The owner no longer presents the sheet: moves it down, then closes it.
   void retract() { presenter_.retract(); }
   /// Closes the sheet without motion because its owner is gone. The focus returns on a later turn.
   void abandon();

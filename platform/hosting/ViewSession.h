@@ -124,7 +124,7 @@ class QUORIX_EXPORT ViewSession : public Responder, private ViewHost::Client {
   virtual WindowSession* window() = 0;
 
   // Events. Each may delete the surface.
-  // The user activated an element with an action, by pointer, key or assistive technology.
+  /// The user activated an element with an action, by pointer, key or assistive technology.
   virtual void activated() {}
   /// A sheet of the view is open. Called on a later turn, and once for a whole stack of sheets.
   virtual void sheetOpened() {}

@@ -48,6 +48,10 @@ struct Rect {
     return {std::min(std::max(p.x, left()), right()), std::min(std::max(p.y, top()), bottom())};
   }
   Rect translated(Point by) const { return {{origin.x + by.x, origin.y + by.y}, size}; }
+  /// Larger by `by` on each side; smaller if `by` is negative.
+  Rect outset(double by) const {
+    return {{origin.x - by, origin.y - by}, {size.width + 2 * by, size.height + 2 * by}};
+  }
   bool operator==(const Rect&) const = default;
 };
 
@@ -150,8 +154,8 @@ struct SafeArea {
             insets};
   }
 
-  /// How far `rect` may extend into the insets: at those of `edges` where it touches the safe
-  /// area's edge.
+  /// The insets that `rect` may cover: those of `edges` at which it touches the edge of the safe
+  /// area. The others are 0.
   EdgeInsets beyond(const Rect& rect, Edges edges) const {
     constexpr double touching = 1e-6;
     EdgeInsets more;

@@ -37,9 +37,9 @@ struct InkPicture {
                                           graphics::RGBA ground);
 };
 
-/// Records what the items of a display list leave on an empty image, so that it is known what lies
-/// under the next one. Writes to the image what needs no toolkit: opaque fills, and texts that were
-/// painted before on the same ground. Device pixels.
+/// Tracks which parts of an image have one known color while a display list is painted on it.
+/// Paints opaque fills, and texts over a known color from their pictures. The toolkit paints the
+/// rest and reports it here. Device pixels.
 class KnownGround {
  public:
   explicit KnownGround(const Pixels& empty)
@@ -54,11 +54,7 @@ class KnownGround {
   /// Something was painted within `part`.
   void painted(const layout::Rect& part) { layers_.push_back({part, std::nullopt}); }
   /// A text was painted in `frame`. Its ink may leave the frame.
-  void inkedAround(const layout::Rect& frame) {
-    const double room = std::ceil(frame.size.height);
-    inked({{frame.left() - room, frame.top() - room},
-           {frame.size.width + 2 * room, frame.size.height + 2 * room}});
-  }
+  void inkedAround(const layout::Rect& frame) { inked(frame.outset(std::ceil(frame.size.height))); }
 
   /// Later fills and pictures are clipped to `part` too.
   void clip(const layout::Rect& part) { clip_ = intersection(clip_, part); }

@@ -10,13 +10,14 @@
 namespace quorix::render {
 
 inline constexpr int opaqueLevel = 8;
-/// A picture's pixels in rectangles, by their opacity in parts of `opaqueLevel`.
+/// A picture's pixels as rectangles. The index is their opacity, from 0 to `opaqueLevel`.
 using OpacityLevels = std::array<std::vector<layout::Rect>, opaqueLevel + 1>;
 
 /// Rounds the upper corners of a picture of `width` and `height` pixels, with smooth edges. For a
 /// painter that cannot cut along a curve.
 inline OpacityLevels roundedTop(int width, int height, double radius) {
-  // By how far the pixel's middle is inside the curve. Counts from the corner.
+  // The opacity of a pixel, from the distance of its middle to the curve. Both count from the
+  // corner.
   const auto levelAt = [radius](int column, int row) {
     const double distance =
         std::hypot(std::max(0.0, radius - column - 0.5), std::max(0.0, radius - row - 0.5));

@@ -150,19 +150,15 @@ void write(const AccessibilityElement& element, Writer& to) {
   to.flag("acts", static_cast<bool>(element.action));
 }
 
+template <class Writer>
+void write(const Item& item, Writer& to) {
+  std::visit([&](const auto& shown) { write(shown, to); }, item);
+}
+
 template <class Writer, class Part>
 std::string written(const std::vector<Part>& parts) {
   Writer to;
   for (const Part& part : parts) write(part, to);
-  return to.end();
-}
-
-template <class Writer>
-std::string written(const std::vector<Item>& items) {
-  Writer to;
-  for (const Item& item : items) {
-    std::visit([&](const auto& shown) { write(shown, to); }, item);
-  }
   return to.end();
 }
 

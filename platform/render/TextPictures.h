@@ -20,15 +20,15 @@ class TextPictures {
   /// picture the second time. The pointer holds until the next call.
   template <class Paint>
   const Picture* find(const TextItem& item, double scale, graphics::RGBA ground, Paint paint) {
-    const Look look{item.frame.size.width, scale, ground};
+    const Key key{item.frame.size.width, scale, ground};
     const std::size_t hash = item.text.shapeHash();
     Entry* const known = entries_.find(
-        hash, [&](const Entry& each) { return each.look == look && each.text == item.text; });
+        hash, [&](const Entry& each) { return each.key == key && each.text == item.text; });
     if (!known) {
       Entry& added = entries_.add(hash);
       bytes_ -= added.picture.bytes();
       added.text = item.text;
-      added.look = look;
+      added.key = key;
       added.isMade = false;
       added.picture = {};
       return nullptr;
@@ -47,15 +47,15 @@ class TextPictures {
   static constexpr std::size_t mostBytes = std::size_t{2} << 20;
   static constexpr std::size_t mostTexts = 128;
 
-  struct Look {
+  struct Key {
     double width = 0;
     double scale = 1;
     graphics::RGBA ground;
-    bool operator==(const Look&) const = default;
+    bool operator==(const Key&) const = default;
   };
   struct Entry {
     text::AttributedText text;
-    Look look;
+    Key key;
     bool isMade = false;
     Picture picture;
   };

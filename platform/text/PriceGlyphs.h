@@ -33,7 +33,8 @@ class PriceGlyphs {
            text.runs[0].text.find_first_of("0123456789") != std::string::npos;
   }
 
-  /// Two texts to learn from. Each has every pair of characters; a pair's neighbors differ.
+  /// Two texts to learn from. Each contains every pair of characters; the characters around a pair
+  /// differ between the two.
   static std::array<std::string, 2> samples() {
     auto backwards = characters;
     std::ranges::reverse(backwards);
@@ -91,7 +92,7 @@ class PriceGlyphs {
     return static_cast<std::size_t>(found - characters.begin());
   }
 
-  /// Each of `order` before and after each of them.
+  /// A text that contains every pair of two of `order`, in both orders.
   static std::string pairs(std::span<const std::string_view> order) {
     std::string all;
     for (std::size_t one = 0; one < order.size(); ++one) {
@@ -101,7 +102,7 @@ class PriceGlyphs {
     return all += order[0];
   }
 
-  /// Keeps the first `value`; whether this one is the same.
+  /// Stores the first `value`. False if it differs from the stored one.
   template <class Value>
   static bool agree(std::optional<Value>& known, Value value) {
     if (!known) known = value;
@@ -118,10 +119,11 @@ class PriceFaces {
   /// `em` is the font size, in points, at which an engine's unit is a point.
   explicit PriceFaces(double em) : em_(em) {}
 
-  /// What the engine would make of `price`, which `mayBePrice`, on one line with units of `unit`
-  /// points. Absent for other texts and faces that were not learned. `shape(sample, glyphs)` makes
-  /// the lines of a text to learn from and its glyphs; `make(like, glyphs)` makes the engine's own
-  /// of them.
+  /// Sets `price` (a text for which `mayBePrice` is true) on one line, as the engine would shape
+  /// it; `unit` is the points for each of the engine's units. Absent for a text with other
+  /// characters, and for a face that was not learned. `shape(sample, glyphs)` shapes a sample and
+  /// appends its glyphs; `make(like, glyphs)` returns `glyphs` in the engine's own type, with the
+  /// font of `like`.
   template <class Shape, class Make>
   std::optional<ShapedText<Glyphs>> set(const AttributedText& price, double unit, Shape shape,
                                         Make make) {

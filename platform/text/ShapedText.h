@@ -16,8 +16,8 @@ struct Stroke {
   double offset = 0;
   double thickness = 0;
 
-  /// The stroke below or through what stretches from `left` to `right` on a line at `baseline`:
-  /// whole pixels, at least one. `em` is the font's size; all are device pixels.
+  /// The stroke under or through a text from `left` to `right` on a line at `baseline`. On whole
+  /// pixels, at least one high. `em` is the font's size; all are device pixels.
   layout::Rect rect(double left, double right, double baseline, double em) const {
     const layout::PixelGrid grid(1);
     const double height = std::max(1.0, std::round(thickness * em));
@@ -26,9 +26,9 @@ struct Stroke {
   }
 };
 
-/// The width to report for a text: `needed`, rounded up so that the text breaks the same way when
-/// it is offered that width. `needed` is an upper bound, so a text whose `natural` width fits
-/// reports no more than `offered`. Points.
+/// The width to report for a text: `needed`, rounded up so that it breaks into the same lines at
+/// that width. `needed` may be too large, so the result is at most `offered` if `natural`, the
+/// width on one line, fits. Points.
 inline double measuredWidth(double natural, double needed, double offered) {
   const double width = std::ceil(needed * 64) / 64;
   return natural <= offered ? std::min(width, offered) : width;

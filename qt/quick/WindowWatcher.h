@@ -5,7 +5,7 @@
 #include <QQuickWindow>
 #include <QTransform>
 
-#include "platform/hosting/Viewport.h"
+#include "platform/hosting/ScrolledViews.h"
 #include "qt/Conversions.h"
 #include "qt/Surface.h"
 

@@ -3,9 +3,9 @@
 #include <tuple>
 
 #include "platform/hosting/EmbeddedPages.h"
+#include "platform/hosting/ScrolledViews.h"
 #include "platform/hosting/SheetPanel.h"
 #include "platform/hosting/SheetPictures.h"
-#include "platform/hosting/Viewport.h"
 #include "platform/render/RoundedTop.h"
 #include "tests/core/TestWindow.h"
 #include "tests/core/Vectors.h"

@@ -84,14 +84,14 @@ class ScrolledViews {
   /// Call before each frame. `placeOf` returns the `ViewportPlace` of a parent; `scale` is the
   /// device pixels for each point.
   void frame(double scale, auto placeOf) {
-    if (entries_.size() > looks) {
+    if (entries_.size() > checkedPerFrame) {
       bool anyMoved = false;
       for (auto& [parent, group] : groups_) anyMoved |= group.move(placeOf(*parent), scale);
       for (std::size_t i = 0; anyMoved && i < entries_.size(); ++i) {
         if (isConcerned(entries_[i])) entries_[i].view->placeMayHaveChanged();
       }
     }
-    for (std::size_t i = 0; i < std::min(looks, entries_.size()); ++i) {
+    for (std::size_t i = 0; i < std::min(checkedPerFrame, entries_.size()); ++i) {
       if (next_ >= entries_.size()) next_ = 0;
       entries_[next_++].view->moved();
     }
@@ -99,7 +99,7 @@ class ScrolledViews {
 
  private:
   /// How many views are checked in each frame, moved or not: all of an ordinary page.
-  static constexpr std::size_t looks = 8;
+  static constexpr std::size_t checkedPerFrame = 8;
 
   /// The views of one parent.
   struct Group {
@@ -113,9 +113,9 @@ class ScrolledViews {
       return moved;
     }
 
-    /// Whether the move may change what is seen of a view with these bounds, or on which parts of
-    /// pixels it stands. Most views of a list are in sight as a whole before and after a move by
-    /// whole pixels, which does not concern them.
+    /// Whether the move may change the visible part of a view with these bounds, or its offset from
+    /// whole pixels. A move by whole pixels changes neither if all of the view is visible before
+    /// and after.
     bool concerns(const layout::Rect& bounds) const {
       const auto sees = [&](const ViewportPlace& place) {
         return !layout::intersection(place.visible, bounds).isEmpty();
