@@ -138,7 +138,7 @@ void SheetPresenter::present(const swiftui::Presentation& presentation) {
   state_->closing = false;
   state_->closed = false;
   state_->content.updateRoot(presentation.content);
-  state_->presentation = presentation;  // now, so that the content is not evaluated off screen
+  state_->presentation = presentation;  // after `updateRoot`, which would evaluate it off screen
   state_->content.setOnScreen(true);
 }
 

@@ -169,7 +169,7 @@ layout::Size ViewHost::sizeThatFits(layout::ProposedSize proposal) {
   const unsigned taking = state_->changes;
   swiftui::LayoutPass pass(taken->arena(), state_->engine, state_->environment.scale);
   const layout::Size size = pass.measure(*taken->root, proposal);
-  if (state_->changes != taking) return size;
+  if (state_->changes != taking) return size;  // out of date already: do not cache it
   RecentEvaluations::shared().fill(state_->evaluation, std::move(taken));
   if (fitted.size() == manyProposals) fitted.clear();
   fitted.emplace_back(proposal, size);

@@ -92,7 +92,7 @@ class PriceGlyphs {
     return static_cast<std::size_t>(found - characters.begin());
   }
 
-  /// A text that contains every pair of two of `order`, in both orders.
+  /// A text in which every two of `order` are neighbors, in both orders, and each its own.
   static std::string pairs(std::span<const std::string_view> order) {
     std::string all;
     for (std::size_t one = 0; one < order.size(); ++one) {
