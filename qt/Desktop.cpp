@@ -10,6 +10,7 @@
 #include <string>
 #include <utility>
 
+#include "qt/ApplicationLifetime.h"
 #include "qt/DesktopPortal.h"
 #include "qt/Surface.h"
 
@@ -41,9 +42,9 @@ const std::string& languageCode() {
 /// Lives as long as the application object.
 class Follower : public QObject {
  public:
-  explicit Follower(QObject* application) : QObject(application) {
-    application->installEventFilter(this);
-    connect(qGuiApp, &QGuiApplication::layoutDirectionChanged, this, tellSurfaces);
+  explicit Follower(QGuiApplication& application) : QObject(&application) {
+    application.installEventFilter(this);
+    connect(&application, &QGuiApplication::layoutDirectionChanged, this, tellSurfaces);
     connect(&portal, &DesktopPortal::changed, this, tellSurfaces);
   }
 
@@ -60,11 +61,11 @@ class Follower : public QObject {
   }
 };
 
-/// Null without an application object.
+/// Null without a `QGuiApplication`.
 Follower* follower() {
   static QPointer<Follower> instance;
-  QObject* application = QCoreApplication::instance();
-  if (!instance && application) instance = new Follower(application);
+  QGuiApplication* application = guiApplication();
+  if (!instance && application) instance = new Follower(*application);
   return instance;
 }
 

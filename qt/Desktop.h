@@ -11,8 +11,8 @@ class QPalette;
 /// size, motion. Main thread.
 namespace quorix::qt::Desktop {
 
-/// Tells the surfaces of changes while the application object exists. Later calls, and calls
-/// without such an object, do nothing.
+/// Starts to notify the surfaces of changes, until the application object is destroyed. No effect
+/// without a `QGuiApplication`, or if already started.
 void follow();
 
 /// The desktop's settings, at `scale` device pixels for each point.

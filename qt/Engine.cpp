@@ -1,7 +1,6 @@
 #include "qt/Engine.h"
 
 #include <QDesktopServices>
-#include <QGuiApplication>
 #include <QThread>
 #include <QTimer>
 #include <cstdlib>
@@ -11,6 +10,7 @@
 #include "platform/foundation/MainQueue.h"
 #include "platform/foundation/URLSession.h"
 #include "platform/uikit/URLOpener.h"
+#include "qt/ApplicationLifetime.h"
 #include "qt/Conversions.h"
 #include "qt/Desktop.h"
 #include "qt/network/QtNetworkThread.h"
@@ -27,7 +27,7 @@ using foundation::MainQueue;
 class QtURLOpener final : public uikit::URLOpener {
  public:
   void open(const foundation::URL& url) override {
-    if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance())) return;
+    if (!guiApplication()) return;
     const QUrl address = toQUrl(url);
     if (address.isValid()) QDesktopServices::openUrl(address);
   }

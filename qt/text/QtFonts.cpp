@@ -23,10 +23,6 @@ using graphics::GraphicsFont;
 
 constexpr int anySize = 12;
 
-bool hasGuiApplication() {
-  return qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr;
-}
-
 /// The font with which Qt draws `file`. Where a face of the same family and style is installed from
 /// another foundry, Qt tells the two apart by "Family [Foundry]".
 QFont nameOf(const QRawFont& file) {
@@ -127,7 +123,7 @@ class RegisteredFaces {
 
 /// Runs on the thread that registers `face`; Qt's font database is used on the main thread only.
 void handToQt(const GraphicsFont& face) {
-  if (!hasGuiApplication()) return;  // `follow` does it later
+  if (!guiApplication()) return;  // `follow` does it later
   QMetaObject::invokeMethod(
       qGuiApp, [name = face.postScriptName()] { RegisteredFaces::shared().find(name); });
 }
@@ -135,7 +131,7 @@ void handToQt(const GraphicsFont& face) {
 /// Runs when an application object is made.
 void follow() {
   FontManager::shared().setRegistrationObserver(&handToQt);
-  if (hasGuiApplication()) RegisteredFaces::shared().loadAll();
+  if (guiApplication()) RegisteredFaces::shared().loadAll();
 }
 Q_COREAPP_STARTUP_FUNCTION(follow)
 
@@ -221,11 +217,10 @@ QtFonts::QtFonts() {
 void QtFonts::installSystemLookup() { FontManager::shared().setSystemLookup(&systemKnows); }
 
 bool QtFonts::systemKnows(std::string_view name) {
-  if (qGuiApp == nullptr || name.empty()) return false;
+  if (!guiApplication() || name.empty()) return false;
   // Not `hasFamily`, which first asks the system what else the name might stand for: that takes
   // milliseconds and finds no face of that name.
-  return postScriptFace(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())))
-      .has_value();
+  return postScriptFace(QString::fromUtf8(name)).has_value();
 }
 
 bool QtFonts::refresh() {

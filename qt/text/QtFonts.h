@@ -8,7 +8,6 @@
 #include <string_view>
 
 #include "platform/foundation/Cache.h"
-#include "platform/foundation/Export.h"
 #include "platform/text/AttributedText.h"
 #include "platform/text/ShapedText.h"
 
@@ -46,10 +45,10 @@ class QtFonts {
   QtFonts();
 
   /// Lets the font manager look up the faces that Qt has on its own. May be called again.
-  QUORIX_EXPORT static void installSystemLookup();
+  static void installSystemLookup();
 
-  /// Whether Qt has a face of that family or PostScript name. Any thread; false without an
-  /// application object.
+  /// Whether Qt has a face of that family or PostScript name. Any thread; false without a
+  /// `QGuiApplication`.
   static bool systemKnows(std::string_view name);
 
   /// The face of `font` in `pixels`.

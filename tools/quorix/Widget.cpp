@@ -8,7 +8,6 @@
 #include "platform/graphics/FontManager.h"
 #include "platform/render/ScenePrinter.h"
 #include "qt/StillScene.h"
-#include "qt/text/QtFonts.h"
 #include "tools/quorix/Files.h"
 #include "tools/quorix/gallery/Pictures.h"
 
@@ -73,7 +72,6 @@ swiftui::Environment WidgetLook::environment(double scale) const {
 }
 
 std::optional<Failure> WidgetLook::findFaces() {
-  qt::QtFonts::installSystemLookup();
   // Register the library's own faces first, so that a file cannot take their names.
   QuorixFont::regular();
   QuorixFont::medium();
