@@ -112,7 +112,11 @@ void SheetSession::paintAgain() {
   needsFrame();
 }
 
-void SheetSession::dropPictures() { pictures_.reset(); }
+void SheetSession::dropChildren() {
+  leaveWindow();
+  pages_.follow({});
+  pictures_.reset();
+}
 
 std::unique_ptr<ScenePicture> SheetSession::newPicture(int) { return nullptr; }
 

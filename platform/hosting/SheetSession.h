@@ -91,9 +91,9 @@ class QUORIX_EXPORT SheetSession : public Responder,
   const SheetPictures& pictures() const { return *pictures_; }
   /// The toolkit lost the pictures.
   void paintAgain();
-  /// Deletes the pictures. Call it in the destructor of a sheet whose pictures are its children:
-  /// they tell it when they go.
-  void dropPictures();
+  /// Deletes pictures and pages. Call it in the destructor of a sheet whose children they are: they
+  /// tell it when they go.
+  void dropChildren();
   /// Call when a frame of the sheet is on the screen.
   void wasShown();
   /// Moves the focus inside the sheet.

@@ -112,7 +112,7 @@ class SheetItem final : public SheetArea, public SheetSurface, public QuickAcces
     });
   }
 
-  ~SheetItem() override { dropPictures(); }
+  ~SheetItem() override { dropChildren(); }
 
  protected:
   /// A modal pop-up of Qt Quick Controls blocks the wheel for everything outside it, also for a

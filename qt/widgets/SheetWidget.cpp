@@ -102,7 +102,7 @@ class SheetWidget final : public QWidget, public SheetSurface, public WidgetAcce
     followSize();
   }
 
-  ~SheetWidget() override { dropPictures(); }
+  ~SheetWidget() override { dropChildren(); }
 
  protected:
   // None of the events reaches what is below the sheet.
