@@ -4,6 +4,7 @@
 #include <QQuickWindow>
 #include <QTimer>
 #include <cstdlib>
+#include <ctime>
 
 #include "bench/Subjects.h"
 #include "platform/foundation/URLSession.h"
@@ -34,6 +35,12 @@ void BenchApplication::settle() {
   QEventLoop loop;
   QTimer::singleShot(300, &loop, &QEventLoop::quit);
   loop.exec();
+}
+
+double BenchApplication::threadSeconds() {
+  timespec now{};
+  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+  return static_cast<double>(now.tv_sec) + 1e-9 * static_cast<double>(now.tv_nsec);
 }
 
 }  // namespace quorix::bench

@@ -14,6 +14,9 @@ class BenchApplication {
 
   /// Runs the event loop until the windows are at rest.
   static void settle();
+  /// The processor time of the calling thread. Unlike wall-clock time, it does not include other
+  /// work of the machine.
+  static double threadSeconds();
 
  private:
   QApplication application_;

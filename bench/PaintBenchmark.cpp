@@ -4,14 +4,14 @@
 
 #include <benchmark/benchmark.h>
 
-#include <time.h>
-
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QSGImageNode>
 #include <QWidget>
 #include <cstdlib>
 #include <memory>
+#include <string>
+#include <utility>
 #include <vector>
 
 #include "bench/BenchApplication.h"
@@ -57,22 +57,14 @@ void requireInk(const QImage& image) {
   std::abort();  // nothing was painted
 }
 
-/// The processor time of this thread, on which all timed work runs. Unlike wall-clock time, it does
-/// not include other work of the machine.
-double threadSeconds() {
-  timespec now{};
-  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
-  return static_cast<double>(now.tv_sec) + 1e-9 * static_cast<double>(now.tv_nsec);
-}
-
 /// Times only `paint`; `cleanUp` removes the widget afterwards.
 template <class Paint, class CleanUp>
 void run(benchmark::State& state, Series& series, Paint paint, CleanUp cleanUp) {
   for (auto _ : state) {
     const Subject& subject = series.next();
-    const double start = threadSeconds();
+    const double start = BenchApplication::threadSeconds();
     paint(subject);
-    state.SetIterationTime(threadSeconds() - start);
+    state.SetIterationTime(BenchApplication::threadSeconds() - start);
     cleanUp();
     QCoreApplication::processEvents();
   }
@@ -153,7 +145,7 @@ void bareImage(benchmark::State& state, Series& series) {
 void qml(benchmark::State& state, Series& series, const QString& file) {
   QmlPeer peer(file);
   inWindow(state, series, [&](const Subject& subject, QQuickItem* root) {
-    return peer.make(subject, root, series.size.width());
+    return peer.make(subject.properties(), root, series.size.width());
   });
 }
 
@@ -187,13 +179,12 @@ void addOurs(const std::string& name, Series& series) {
   add("oursInWindow/" + name, series, oursInWindow);
 }
 
-void addPeers(const std::string& name, Series& series, std::initializer_list<const char*> files) {
+/// `file` is the name of the peer in QML.
+void addPeers(const std::string& name, Series& series, const char* file) {
   add("labels/" + name, series, labels);
-  for (const char* file : files) {
-    add(std::string(file) + '/' + name, series, [file](benchmark::State& state, Series& painted) {
-      qml(state, painted, QLatin1String(file));
-    });
-  }
+  add(std::string(file) + '/' + name, series, [file](benchmark::State& state, Series& painted) {
+    qml(state, painted, QLatin1String(file));
+  });
 }
 
 }  // namespace
@@ -206,14 +197,14 @@ int main(int argc, char** argv) {
   for (auto& [name, series] :
        {std::pair<const char*, Series&>{"same", same}, {"different", different}}) {
     addOurs(name, series);
-    addPeers(name, series, {"ScoreRow", "LeanScoreRow"});
+    addPeers(name, series, "LeanScoreRow");
     add(std::string("bareImage/") + name, series, bareImage);
   }
   Series declarative = info(InfoSubject::Form::declarative);
   Series imperative = info(InfoSubject::Form::imperative);
   addOurs("declarative", declarative);
   addOurs("imperative", imperative);
-  addPeers("info", declarative, {"InfoWidget"});
+  addPeers("info", declarative, "InfoWidget");
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
   benchmark::RunSpecifiedBenchmarks();

@@ -17,8 +17,6 @@ QuickStage::QuickStage(QSize size) : image_(size, QImage::Format_ARGB32_Premulti
   window_.show();
 }
 
-QuickStage::~QuickStage() = default;
-
 void QuickStage::frame() {
   control_.polishItems();
   control_.beginFrame();
@@ -27,20 +25,20 @@ void QuickStage::frame() {
   control_.endFrame();
 }
 
-QmlPeer::QmlPeer(const QString& file)
-    : component_(&engine_, QUrl(QStringLiteral("qrc:/QuorixBench/%1.qml").arg(file))) {
-  if (component_.isReady()) return;
-  qCritical("%s", qPrintable(component_.errorString()));
+QQuickItem* create(QQmlComponent& component, const QVariantMap& properties) {
+  auto* item = qobject_cast<QQuickItem*>(component.createWithInitialProperties(properties));
+  if (item) return item;
+  qCritical("%s", qPrintable(component.errorString()));
   std::abort();
 }
 
-QQuickItem* QmlPeer::make(const Subject& subject, QQuickItem* parent, double width) {
-  QVariantMap properties = subject.properties();
+QmlPeer::QmlPeer(const QString& file)
+    : component_(&engine_, QUrl(QStringLiteral("qrc:/QuorixBench/%1.qml").arg(file))) {}
+
+QQuickItem* QmlPeer::make(QVariantMap properties, QQuickItem* parent, double width) {
   properties.insert(QStringLiteral("parent"), QVariant::fromValue(parent));
   properties.insert(QStringLiteral("width"), width);
-  auto* item = qobject_cast<QQuickItem*>(component_.createWithInitialProperties(properties));
-  if (!item) std::abort();
-  return item;
+  return create(component_, properties);
 }
 
 void sendTap(QQuickWindow& window, QPointF at) {

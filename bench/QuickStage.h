@@ -5,8 +5,7 @@
 #include <QQmlEngine>
 #include <QQuickRenderControl>
 #include <QQuickWindow>
-
-#include "bench/Subjects.h"
+#include <QVariantMap>
 
 class QQuickItem;
 
@@ -17,10 +16,8 @@ namespace quorix::bench {
 class QuickStage {
  public:
   explicit QuickStage(QSize size);
-  ~QuickStage();
 
   QQuickItem* root() { return window_.contentItem(); }
-  QQuickWindow& window() { return window_; }
   /// The latest frame.
   const QImage& image() const { return image_; }
 
@@ -33,14 +30,17 @@ class QuickStage {
   QImage image_;
 };
 
+/// Makes an item. Ends the process on failure.
+QQuickItem* create(QQmlComponent& component, const QVariantMap& properties);
+
 /// Makes widgets in QML: one engine and one component, compiled ahead of time and loaded once.
 class QmlPeer {
  public:
-  /// `file` is the name of a peer: "ScoreRow", "LeanScoreRow", "InfoWidget".
+  /// `file` is the name of a peer: "LeanScoreRow", "InfoWidget", "SheetRow".
   explicit QmlPeer(const QString& file);
 
   /// Makes one, `width` points wide, in `parent`, which does not own it.
-  QQuickItem* make(const Subject& subject, QQuickItem* parent, double width);
+  QQuickItem* make(QVariantMap properties, QQuickItem* parent, double width);
 
  private:
   QQmlEngine engine_;

@@ -36,10 +36,6 @@ namespace {
 constexpr const char* kClient = "my-shop";
 constexpr const char* kLanguage = "en";
 
-QString text(std::string_view utf8) {
-  return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
 }  // namespace
 
 Shopper::Shopper(std::size_t number) {
@@ -49,11 +45,11 @@ Shopper::Shopper(std::size_t number) {
   const auto localization = LocalizationRepository::make(kLanguage);
   const ScoreWidgetTexts texts(model, *localization);
   token = examples::mintToken(figures);
-  title = text(texts.text("returns", "title"));
-  fee = text(model.reducedReturnFee.get());
-  baseFee = text(model.baseReturnFee.get());
-  label = text(texts.rowLabel().resolved());
-  hint = text(texts.text("labels", "hint"));
+  title = QString::fromUtf8(texts.text("returns", "title"));
+  fee = QString::fromUtf8(model.reducedReturnFee.get());
+  baseFee = QString::fromUtf8(model.baseReturnFee.get());
+  label = QString::fromUtf8(texts.rowLabel().resolved());
+  hint = QString::fromUtf8(texts.text("labels", "hint"));
 }
 
 swiftui::View Shopper::ours() const {

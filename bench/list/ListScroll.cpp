@@ -7,7 +7,6 @@
 #include <QQuickItem>
 #include <algorithm>
 #include <cstdio>
-#include <ctime>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -29,12 +28,7 @@ constexpr char kRow[] = R"(
     import QuorixWidgets
     ScoreWidget { clientId: "my-shop"; locale: "en" })";
 
-/// The thread's processor time, which does not include other work of the machine.
-double microseconds() {
-  timespec now{};
-  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
-  return static_cast<double>(now.tv_sec) * 1e6 + static_cast<double>(now.tv_nsec) / 1e3;
-}
+double microseconds() { return 1e6 * BenchApplication::threadSeconds(); }
 
 class Measurement {
  public:

@@ -1,6 +1,6 @@
 #include "bench/list/RowList.h"
 
-#include <cstdlib>
+#include "bench/QuickStage.h"
 
 namespace quorix::bench {
 namespace {
@@ -47,13 +47,6 @@ std::unique_ptr<QQuickItem> RowList::make(QQuickItem& parent, const std::vector<
   return std::unique_ptr<QQuickItem>(
       create(component_,
              {{"parent", QVariant::fromValue(&parent)}, {"reuseItems", reuse}, {"model", model}}));
-}
-
-QQuickItem* create(QQmlComponent& component, const QVariantMap& properties) {
-  auto* item = qobject_cast<QQuickItem*>(component.createWithInitialProperties(properties));
-  if (item) return item;
-  qCritical("%s", qPrintable(component.errorString()));
-  std::abort();
 }
 
 }  // namespace quorix::bench

@@ -4,7 +4,6 @@
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <memory>
-#include <string_view>
 #include <vector>
 
 #include "bench/Subjects.h"
@@ -24,8 +23,5 @@ class RowList {
   QQmlEngine engine_;
   QQmlComponent component_{&engine_};
 };
-
-/// Makes an item. Ends the process on failure.
-QQuickItem* create(QQmlComponent& component, const QVariantMap& properties);
 
 }  // namespace quorix::bench

@@ -29,35 +29,23 @@
 namespace quorix::bench {
 namespace {
 
-/// A score row with its sheet. The QML equivalent gets the texts of both.
-class SheetSubject final : public Subject {
- public:
-  SheetSubject();
-
-  swiftui::View ours() const override { return shopper_.ours(); }
-  QVariantMap properties() const override { return properties_; }
-  QWidget* labels(QWidget* parent) const override { return shopper_.labels(parent); }
-
- private:
-  Shopper shopper_{0};
-  QVariantMap properties_;
-};
-
-SheetSubject::SheetSubject() : properties_(shopper_.properties()) {
-  const auto figures = parseTokenData(shopper_.token);
+/// The initial properties of the QML equivalent: the texts of the row and of its sheet.
+QVariantMap sheetProperties(const Shopper& shopper) {
+  const auto figures = parseTokenData(shopper.token);
   if (!figures) std::abort();
   const ScoreWidgetViewModel model("my-shop", *figures, "en", {std::nullopt, std::nullopt});
   const auto localization = LocalizationRepository::make("en");
   const ScoreWidgetTexts texts(model, *localization);
+  QVariantMap properties = shopper.properties();
   const auto add = [&](const char* name, std::string_view text) {
-    properties_.insert(QLatin1String(name),
-                       QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+    properties.insert(QLatin1String(name), QString::fromUtf8(text));
   };
   add("feeName", texts.text("returns", "fee"));
   add("rateName", texts.text("returns", "rate"));
   add("rate", model.returnRate.get());
   add("disclaimer", texts.text("returns", "disclaimer"));
   add("closeName", texts.text("actions", "close"));
+  return properties;
 }
 
 /// Watches a window after a tap.
@@ -200,17 +188,17 @@ int main(int argc, char** argv) {
   const bool motion = std::string_view(argv[2]) == "motion";
   QQuickWindow window;
   window.resize(375, 700);
-  const SheetSubject subject;
+  const Shopper shopper(0);
   std::unique_ptr<QmlPeer> qml;
   std::unique_ptr<QQuickItem> row;
   if (ours) {
-    auto item = std::make_unique<quorix::qt::ViewItem>(subject.ours(), window.contentItem());
+    auto item = std::make_unique<quorix::qt::ViewItem>(shopper.ours(), window.contentItem());
     item->setMotion(motion);
     item->setWidth(343);
     row = std::move(item);
   } else {
     qml = std::make_unique<QmlPeer>(QStringLiteral("SheetRow"));
-    row.reset(qml->make(subject, window.contentItem(), 343));
+    row.reset(qml->make(sheetProperties(shopper), window.contentItem(), 343));
   }
   row->setPosition({16, 16});
   window.show();
