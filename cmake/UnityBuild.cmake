@@ -3,6 +3,10 @@
 # those headers. A host may set it; the preset "demo" does. Other presets compile each file alone,
 # which finds missing includes.
 
+# Compiles the files of all other targets alone: they may have the same local names.
+set(quorix_unity_build ${CMAKE_UNITY_BUILD})
+set(CMAKE_UNITY_BUILD OFF)
+
 # Files that are compiled alone: they have the same local names as another file, or heavy headers,
 # or members of a local type, for which GCC warns in an included file.
 set(quorix_compiled_alone
@@ -14,7 +18,7 @@ set(quorix_compiled_alone
   qt/text/QtTextEngine.cpp)
 
 function(quorix_unity target)
-  if(NOT CMAKE_UNITY_BUILD)
+  if(NOT quorix_unity_build)
     return()
   endif()
   set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
