@@ -39,8 +39,7 @@ std::optional<std::string_view> languageIn(std::string_view path) {
 
 URLResponse answer(std::string_view path) {
   if (const auto language = languageIn(path)) {
-    QFile table(QStringLiteral(":/shop/translations/%1.json")
-                    .arg(QString::fromUtf8(language->data(), qsizetype(language->size()))));
+    QFile table(QStringLiteral(":/shop/translations/%1.json").arg(QString::fromUtf8(*language)));
     if (table.open(QIODevice::ReadOnly)) return {{}, table.readAll().toStdString(), 200};
   }
   return {{}, std::string(notFoundPage), 404};

@@ -4,12 +4,18 @@
 #include "tools/quorix/Files.h"
 
 namespace quorix::tool {
+namespace {
+
+/// Bytes; much more than any token or table needs.
+constexpr qint64 largestInput = 64'000'000;
+
+}  // namespace
 
 std::variant<std::string, Failure> readInputFile(const std::string& path) {
   QFile file(QString::fromStdString(path));
   if (file.open(QIODevice::ReadOnly)) {
-    const QByteArray bytes = file.read(static_cast<qint64>(largestInput) + 1);
-    if (static_cast<std::size_t>(bytes.size()) > largestInput) {
+    const QByteArray bytes = file.read(largestInput + 1);
+    if (bytes.size() > largestInput) {
       return Failure::refused("can't use " + path + ": it is over 64 MB");
     }
     if (file.error() == QFileDevice::NoError) return bytes.toStdString();

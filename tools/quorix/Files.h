@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QByteArray>
-#include <cstddef>
 #include <optional>
 #include <string>
 #include <variant>
@@ -9,9 +8,6 @@
 #include "tools/quorix/CommandLine.h"
 
 namespace quorix::tool {
-
-/// Bytes; much more than any token or table needs.
-inline constexpr std::size_t largestInput = 64'000'000;
 
 /// The bytes of the file at `path`, or a failure with the path and the reason.
 std::variant<std::string, Failure> readInputFile(const std::string& path);

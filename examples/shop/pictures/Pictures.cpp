@@ -17,7 +17,7 @@ bool Pictures::write() const {
   const auto keep = [this](const QImage& image, const char* name) { return save(image, name); };
   Shop shop;
   const OverlayPages pages(shop);
-  return WidgetPictures::each(keep) && QuickPictures(shop).each(keep) &&
+  return eachWidgetPicture(keep) && QuickPictures(shop).each(keep) &&
          WindowPictures(shop).each(keep);
 }
 

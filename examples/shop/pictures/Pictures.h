@@ -28,14 +28,17 @@ class Pictures {
 
 struct ShopScene;
 
+/// Takes a picture and its name. Returns whether to go on.
+using Keep = std::function<bool(const QImage&, const char* name)>;
+
 /// Pictures of the shop in Qt Quick. Main thread.
 class QuickPictures {
  public:
   /// `shop` must outlive this.
   explicit QuickPictures(Shop& shop);
 
-  /// Calls `keep` with each picture and its name, until it returns false.
-  bool each(const std::function<bool(const QImage&, const char* name)>& keep);
+  /// Calls `keep` with each picture, until it returns false.
+  bool each(const Keep& keep);
 
  private:
   QImage pictureOf(const ShopScene& scene);
@@ -44,14 +47,9 @@ class QuickPictures {
   QuickWindow face_;
 };
 
-/// Pictures of the widgets and their sheets alone. Main thread.
-class WidgetPictures {
- public:
-  WidgetPictures() = delete;
-
-  /// Calls `keep` with each picture and its name, until it returns false.
-  static bool each(const std::function<bool(const QImage&, const char* name)>& keep);
-};
+/// Calls `keep` with each picture of the widgets and their sheets alone, until it returns false.
+/// Main thread.
+bool eachWidgetPicture(const Keep& keep);
 
 /// Pictures of the shop in Qt Widgets. Main thread.
 class WindowPictures {
@@ -59,8 +57,8 @@ class WindowPictures {
   /// `shop` must outlive this.
   explicit WindowPictures(Shop& shop);
 
-  /// Calls `keep` with each picture and its name, until it returns false.
-  bool each(const std::function<bool(const QImage&, const char* name)>& keep);
+  /// Calls `keep` with each picture, until it returns false.
+  bool each(const Keep& keep);
 
  private:
   QImage pictureOf(const ShopScene& scene);

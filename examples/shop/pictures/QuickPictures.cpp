@@ -79,7 +79,7 @@ QuickPictures::QuickPictures(Shop& shop) : shop_(shop), face_(shop) {
   }
 }
 
-bool QuickPictures::each(const std::function<bool(const QImage&, const char* name)>& keep) {
+bool QuickPictures::each(const Keep& keep) {
   const bool hasPages = qt::WebComponentLoader::isThere("QuorixWebQuick");
   return std::ranges::all_of(scenes, [&](const ShopScene& scene) {
     return (scene.open == Open::overlay && !hasPages) || keep(pictureOf(scene), scene.name);

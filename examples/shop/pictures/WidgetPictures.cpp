@@ -102,7 +102,7 @@ QImage pictureOf(const Scene& scene) {
 
 }  // namespace
 
-bool WidgetPictures::each(const std::function<bool(const QImage&, const char* name)>& keep) {
+bool eachWidgetPicture(const Keep& keep) {
   return std::ranges::all_of(
       scenes, [&](const Scene& scene) { return keep(pictureOf(scene), scene.name); });
 }

@@ -67,7 +67,7 @@ WidgetPanel& opener(QWidget& window, Open what) {
 
 WindowPictures::WindowPictures(Shop& shop) : shop_(shop), face_(shop) { face_.show(); }
 
-bool WindowPictures::each(const std::function<bool(const QImage&, const char* name)>& keep) {
+bool WindowPictures::each(const Keep& keep) {
   const bool hasPages = qt::WebComponentLoader::isThere("QuorixWebWidgets");
   return std::ranges::all_of(scenes, [&](const ShopScene& scene) {
     return (scene.open == Open::overlay && !hasPages) || keep(pictureOf(scene), scene.name);

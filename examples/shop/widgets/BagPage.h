@@ -7,6 +7,7 @@
 
 namespace quorix::examples {
 
+class Label;
 class Shop;
 
 /// The pieces of one size in the bag, as they are now.
@@ -16,9 +17,6 @@ class BagLine : public QWidget {
  public:
   BagLine(const Bag::Line& line, Shop& shop, QWidget* parent = nullptr);
 };
-
-class Label;
-class Shop;
 
 /// The contents of the bag, their total price, and the return conditions.
 class BagPage : public ScrollPage {

@@ -16,8 +16,6 @@ class SizePicker : public QWidget {
   explicit SizePicker(Shop& shop, QWidget* parent = nullptr);
 };
 
-class Shop;
-
 /// The score row between hairlines, with margins. Takes no space if there is nothing to show.
 class ScoreSection : public QWidget {
   Q_OBJECT
@@ -25,8 +23,6 @@ class ScoreSection : public QWidget {
  public:
   explicit ScoreSection(Shop& shop, QWidget* parent = nullptr);
 };
-
-class Shop;
 
 /// The product page, with the score row below the price, and further information.
 class ProductPage : public ScrollPage {

@@ -28,6 +28,11 @@ constexpr double aboveSheet = 24;  // visible points of the dimmed window
 const std::string& regularFace() { return TovaFont::regular().name(); }
 constexpr std::string_view semiBoldFace = "TovaSansLatin-SemiBold";
 
+/// Whether the score widget has built-in texts in `language`.
+bool isBuiltIn(const std::string& language) {
+  return language == "en" || builtInTranslations(language) != builtInTranslations("en");
+}
+
 /// The texts of a language without built-in ones.
 std::shared_ptr<const TranslationTable> readTable(const std::string& language) {
   QFile file(QStringLiteral(":/gallery/%1.json").arg(QString::fromStdString(language)));
@@ -43,7 +48,7 @@ swiftui::View scoreWidget(const Cell& cell) {
   const TokenData figures{0.82, std::string(language.currency), language.fee, language.reducedFee};
   const ScoreWidgetStyle style{regularFace(), std::string(semiBoldFace)};
   const auto texts = LocalizationRepository::make(code);
-  if (!language.builtIn) texts->strings = readTable(code);
+  if (!isBuiltIn(code)) texts->strings = readTable(code);
   return ScoreWidgetView{std::make_shared<ScoreWidgetViewModel>("gallery", figures, code, style),
                          texts};
 }
@@ -88,16 +93,24 @@ ShownCell render(const Cell& cell, double scale) {
   qt::installEngine();
   foundation::URLSession::shared().setNetworkEnabled(false);
   const qt::PictureOptions options = optionsOf(cell, scale);
-  if (cell.widget->value == Widget::imperativeInfo) {
-    const auto widget = InfoWidgetBuilder::buildUIKitInfoWidgetView(
-        cell.language->name, {regularFace(), std::string(semiBoldFace), std::nullopt, true});
-    takeTurn();
-    qt::StillScene still = qt::stillScene(swiftui::hosting(widget), options);
-    return {std::move(still), uikit::printViews(*widget)};
+  const auto declarative = [&](const swiftui::View& view) -> ShownCell {
+    return {qt::stillScene(view, options), swiftui::printTree(view)};
+  };
+  switch (cell.widget->value) {
+    case Widget::row:
+    case Widget::sheet:
+      return declarative(scoreWidget(cell));
+    case Widget::info:
+    case Widget::overlay:
+      return declarative(infoWidget(cell));
+    case Widget::imperativeInfo:
+      break;
   }
-  const bool info = cell.widget->value == Widget::info || cell.widget->value == Widget::overlay;
-  const swiftui::View view = info ? infoWidget(cell) : scoreWidget(cell);
-  return {qt::stillScene(view, options), swiftui::printTree(view)};
+  const auto widget = InfoWidgetBuilder::buildUIKitInfoWidgetView(
+      cell.language->name, {regularFace(), std::string(semiBoldFace), std::nullopt, true});
+  takeTurn();
+  qt::StillScene still = qt::stillScene(swiftui::hosting(widget), options);
+  return {std::move(still), uikit::printViews(*widget)};
 }
 
 QImage picture(const ShownCell& shown, double scale) {

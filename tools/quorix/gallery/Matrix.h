@@ -32,7 +32,6 @@ struct Language {
   std::string_view currency;
   std::int64_t fee;         ///< in hundredths of the currency's unit
   std::int64_t reducedFee;  ///< in hundredths of the currency's unit
-  bool builtIn;             ///< the score widget has built-in texts in it
 };
 
 /// A phone in portrait orientation, or a tablet. Points.
@@ -55,11 +54,11 @@ inline constexpr auto leftToRight = layout::LayoutDirection::leftToRight;
 inline constexpr auto rightToLeft = layout::LayoutDirection::rightToLeft;
 
 inline constexpr auto languages = std::to_array<Choice<Language>>({
-    {"en", "English", {leftToRight, "GBP", 123'400, 99'900, true}},
-    {"es", "Español", {leftToRight, "EUR", 1'234'500, 999'900, true}},
-    {"de", "Deutsch", {leftToRight, "CHF", 123'400, 99'900, false}},
-    {"ar", "العربية", {rightToLeft, "AED", 123'400, 99'900, false}},
-    {"ja", "日本語", {leftToRight, "JPY", 1'234'500, 987'600, false}},
+    {"en", "English", {leftToRight, "GBP", 123'400, 99'900}},
+    {"es", "Español", {leftToRight, "EUR", 1'234'500, 999'900}},
+    {"de", "Deutsch", {leftToRight, "CHF", 123'400, 99'900}},
+    {"ar", "العربية", {rightToLeft, "AED", 123'400, 99'900}},
+    {"ja", "日本語", {leftToRight, "JPY", 1'234'500, 987'600}},
 });
 
 inline constexpr auto appearances = std::to_array<Choice<graphics::Appearance>>({

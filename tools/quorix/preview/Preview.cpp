@@ -166,7 +166,7 @@ void Preview::startAnew() {
 }
 
 void Preview::writePicture() {
-  const QImage picture = screen_.picture().toImage();
+  const QImage picture = screen_.grab().toImage();
   if (picture == written_) return;
   written_ = picture;
   const auto failure = writeFile(*controls_.choices().out, gallery::png(picture));

@@ -12,6 +12,7 @@ namespace quorix::tool {
 
 /// The choices of a preview, by its controls.
 struct PreviewChoices : WidgetLook {
+  /// In the order of the command line's names and the controls' titles.
   enum Widget { score, info, imperative };
 
   /// An entry of a control.

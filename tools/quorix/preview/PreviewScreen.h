@@ -18,9 +18,6 @@ class PreviewScreen : public QWidget {
 
   bool hasSheet() const;
 
-  /// A picture of the current screen, in device pixels.
-  QPixmap picture() { return grab(); }
-
  private:
   void openSheet();
 
