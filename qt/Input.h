@@ -14,9 +14,9 @@ namespace quorix::qt {
 QUORIX_EXPORT hosting::KeyEvent toKeyEvent(const QKeyEvent& event);
 QUORIX_EXPORT hosting::ViewFocus::Cause causeOf(Qt::FocusReason reason);
 
-/// Passes an event of the pointer to `responder`, and accepts it if that takes it. Passes a key or
-/// the wheel. False for other events, and if `responder` does not use the key or the wheel. The
-/// action may delete the surface: do not touch it afterwards.
+/// Passes an event to `responder`. Pointer: accepts the event if the responder takes it; returns
+/// true. Key, wheel: returns whether the responder uses it. Other events: returns false. The action
+/// may delete the surface: do not use it afterwards.
 QUORIX_EXPORT bool passInput(QEvent& event, hosting::Responder& responder);
 
 /// Shows the hand where the view acts, and elsewhere the cursor of what the view stands in.

@@ -37,9 +37,10 @@ QUORIX_EXPORT QImage picture(const swiftui::View& view, const PictureOptions& op
 QUORIX_EXPORT QImage paintPicture(const render::Scene& scene, double scale,
                                   graphics::RGBA background);
 
-/// Draws `scene` at the painter's origin, from its picture: directly on existing pixels Qt would
-/// blend the text otherwise. Moves the top left corner to the nearest device pixel. Draws directly
-/// if the painter rotates or shears, or the scene is larger than `render::mostPixels`.
+/// Paints `scene` into an image, and draws the image at the painter's origin, because Qt blends
+/// text differently over existing pixels. Moves the top left corner to the nearest device pixel.
+/// Draws directly if the painter rotates or shears, or the scene is larger than
+/// `render::mostPixels`.
 QUORIX_EXPORT void paintAsPicture(QPainter& painter, const render::Scene& scene);
 
 /// Draws `scene` with the background and the scale of `options`. Null as above.

@@ -1,6 +1,6 @@
 #include "qt/SafeArea.h"
 
-#include "qt/WindowScene.h"
+#include "qt/HostedWindow.h"
 
 namespace quorix::qt {
 

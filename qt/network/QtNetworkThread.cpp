@@ -76,10 +76,7 @@ std::optional<HTTPProxy> httpProxy(const QNetworkProxy& proxy) {
 
 /// One line for each request that went over the network. Silent unless the host's developer asks
 /// with QT_LOGGING_RULES="quorix.network=true".
-const QLoggingCategory& networkLog() {
-  static const QLoggingCategory category("quorix.network", QtWarningMsg);
-  return category;
-}
+Q_LOGGING_CATEGORY(networkLog, "quorix.network", QtWarningMsg)
 
 /// Without the query and the user's name, which may hold a token.
 QByteArray loggedAddress(const QUrl& address) {

@@ -50,10 +50,10 @@ struct KeptImages : foundation::Cache<ImageRequest, QImage> {
 };
 
 QImage imagePicture(const ImageRequest& request) {
-  constexpr int mostPixels = 360 * 360;
+  constexpr qint64 largestKept = 512 * 1024;  // bytes; 32 pictures are kept
   const auto draw = [&] { return drawn(request); };
-  const bool small = qint64{request.pixels.width()} * request.pixels.height() <= mostPixels;
-  return small ? applicationLifetime<KeptImages>().get(request, draw) : draw();
+  const qint64 bytes = qint64{4} * request.pixels.width() * request.pixels.height();
+  return bytes <= largestKept ? applicationLifetime<KeptImages>().get(request, draw) : draw();
 }
 
 /// `rect` with round corners.
@@ -90,11 +90,10 @@ void smoothly(QPainter& painter, Draw draw) {
 
 }  // namespace
 
-ScenePainter::ScenePainter(QPainter& painter, double scale, QtTextEngine& engine)
-    : painter_(&painter), scale_(scale), engine_(engine) {}
+ScenePainter::ScenePainter(QPainter& painter, double scale) : painter_(&painter), scale_(scale) {}
 
-ScenePainter::ScenePainter(QImage& empty, double scale, QtTextEngine& engine)
-    : image_(&empty), scale_(scale), engine_(engine), ground_(pixelsOf(empty)) {}
+ScenePainter::ScenePainter(QImage& empty, double scale)
+    : image_(&empty), scale_(scale), ground_(pixelsOf(empty)) {}
 
 /// Begins a painter on first use: that is expensive, and texts with pictures need none.
 QPainter& ScenePainter::painter() {
@@ -145,7 +144,7 @@ render::InkPicture ScenePainter::pictureOf(const render::TextItem& item,
   image.fill(toQColor(ground));
   QPainter painter(&image);
   painter.translate(room, room);
-  ScenePainter(painter, scale_, engine_).drawText({{{}, item.frame.size}, item.text});
+  ScenePainter(painter, scale_).drawText({{{}, item.frame.size}, item.text});
   painter.end();
   return render::InkPicture::cropped(pixelsOf(image), {double(room), double(room)}, ground);
 }

@@ -18,11 +18,11 @@ namespace quorix::qt {
 class ScenePainter {
  public:
   /// Draws each device pixel on a unit of `painter`. Leaves a clip item's clip and the last pen.
-  ScenePainter(QPainter& painter, double scale, QtTextEngine& engine = QtTextEngine::shared());
+  ScenePainter(QPainter& painter, double scale);
   /// Draws on an empty image in premultiplied ARGB. A text that was painted before on the same
   /// ground (empty, or of one opaque color) is painted from its picture, with the same pixels. On
   /// any other ground Qt blends text by the brightness.
-  ScenePainter(QImage& empty, double scale, QtTextEngine& engine = QtTextEngine::shared());
+  ScenePainter(QImage& empty, double scale);
 
   /// Paints the items in order.
   void paint(const render::Scene& scene);
@@ -49,7 +49,7 @@ class ScenePainter {
   QImage* image_ = nullptr;      ///< for `own_`
   std::optional<QPainter> own_;  ///< begun when an item needs a painter
   const double scale_;
-  QtTextEngine& engine_;
+  QtTextEngine& engine_ = QtTextEngine::shared();
   std::optional<render::KnownGround> ground_;
   graphics::Appearance appearance_ = graphics::Appearance::light;
 };

@@ -4,6 +4,7 @@
 #include <QPointF>
 #include <QQuickItem>
 #include <functional>
+#include <utility>
 
 #include "platform/hosting/RingPicture.h"
 #include "qt/Conversions.h"

@@ -7,7 +7,8 @@
 #include <QQuickWindow>
 #include <utility>
 
-#include "qt/WindowScene.h"
+#include "qt/Conversions.h"
+#include "qt/HostedWindow.h"
 #include "qt/quick/AttachedObject.h"
 
 namespace quorix::qt {
@@ -15,23 +16,23 @@ namespace quorix::qt {
 void QuickAccessibleSurface::offer() {
   const char* const type = "QQuickAccessibleAttached*";
   static bool tried = false;
-  if (!areRead() || attachedObject(item_, type) || std::exchange(tried, true)) return;
+  if (!areRead() || attachedObject(item(), type) || std::exchange(tried, true)) return;
   QQmlEngine engine;
   QQmlComponent component(&engine);
   component.setData("import QtQuick\nItem { Accessible.name: '' }", QUrl());
   delete component.create();
-  attachedObject(item_, type);
+  attachedObject(item(), type);
 }
 
 QRect QuickAccessibleSurface::onScreen(const layout::Rect& frame) const {
-  const QRectF local(frame.left(), frame.top(), frame.size.width, frame.size.height);
-  const QSizeF size = item_.mapRectToScene(local).size();
-  return QRectF(item_.mapToGlobal(local.topLeft()), size).toRect();
+  const QRectF local = toRect(frame);
+  const QSizeF size = item().mapRectToScene(local).size();
+  return QRectF(item().mapToGlobal(local.topLeft()), size).toRect();
 }
 
 QObject* QuickAccessibleSurface::accessibleParent() const {
-  QQuickWindow* window = item_.window();
-  for (QQuickItem* parent = item_.parentItem(); parent; parent = parent->parentItem()) {
+  QQuickWindow* window = item().window();
+  for (QQuickItem* parent = item().parentItem(); parent; parent = parent->parentItem()) {
     if (window && parent == window->contentItem()) return window;
     if (QAccessible::queryAccessibleInterface(parent)) return parent;
   }
@@ -44,8 +45,8 @@ bool QuickAccessibleSurface::liesOver(const QQuickItem& sheet, const QQuickItem*
 }
 
 bool QuickAccessibleSurface::isCovered() const {
-  const QQuickItem* sheet = itemOf(WindowScene::topmostOf(item_.window()));
-  return sheet && liesOver(*sheet, &item_);
+  const QQuickItem* sheet = itemOf(HostedWindow::topmostOf(item().window()));
+  return sheet && liesOver(*sheet, &item());
 }
 
 }  // namespace quorix::qt

@@ -11,20 +11,20 @@ namespace quorix::qt {
 class QuickAccessibleSurface : public Surface {
  public:
   QuickAccessibleSurface(QQuickItem& item, hosting::Responder& responder)
-      : Surface(item, responder), item_(item) {}
+      : Surface(item, responder) {}
   /// The item that shows `responder`; null for null.
   static QQuickItem* itemOf(const hosting::Responder* responder) {
     const auto* surface = dynamic_cast<const QuickAccessibleSurface*>(responder);
-    return surface ? &surface->item_ : nullptr;
+    return surface ? &surface->item() : nullptr;
   }
 
-  void takeFocus() override { item_.forceActiveFocus(Qt::OtherFocusReason); }
+  void takeFocus() override { item().forceActiveFocus(Qt::OtherFocusReason); }
   QRect onScreen(const layout::Rect& frame) const override;
-  QRect onScreen() const override { return onScreen({{}, {item_.width(), item_.height()}}); }
-  QWindow* accessibleWindow() const override { return item_.window(); }
+  QRect onScreen() const override { return onScreen({{}, {item().width(), item().height()}}); }
+  QWindow* accessibleWindow() const override { return item().window(); }
   QObject* accessibleParent() const override;
   bool isShown() const override {
-    return item_.isVisible() && item_.window() && item_.window()->isVisible();
+    return item().isVisible() && item().window() && item().window()->isVisible();
   }
   bool isCovered() const override;
   /// Whether `item` of the same window is below `sheet`, unlike a pop-up that opened later.
@@ -36,7 +36,7 @@ class QuickAccessibleSurface : public Surface {
   void offer();
 
  private:
-  QQuickItem& item_;
+  QQuickItem& item() const { return static_cast<QQuickItem&>(object()); }
 };
 
 }  // namespace quorix::qt

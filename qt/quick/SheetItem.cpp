@@ -10,9 +10,9 @@
 #include <utility>
 
 #include "qt/Conversions.h"
-#include "qt/SheetSurface.h"
+#include "qt/HostedSheet.h"
+#include "qt/HostedWindow.h"
 #include "qt/WebComponent.h"
-#include "qt/WindowScene.h"
 #include "qt/quick/PictureItem.h"
 #include "qt/quick/QuickAccessibleSurface.h"
 
@@ -42,7 +42,7 @@ class FocusStop : public QQuickItem {
 /// Passes its events to a sheet.
 class SheetArea : public QQuickItem {
  public:
-  SheetArea(QQuickItem& parent, SheetSurface& sheet) : QQuickItem(&parent), sheet_(sheet) {
+  SheetArea(QQuickItem& parent, HostedSheet& sheet) : QQuickItem(&parent), sheet_(sheet) {
     setAcceptedMouseButtons(Qt::AllButtons);
     setAcceptTouchEvents(true);
     setAcceptHoverEvents(true);
@@ -58,7 +58,7 @@ class SheetArea : public QQuickItem {
   void mouseUngrabEvent() override { sheet_.pointerLost(); }
   void touchUngrabEvent() override { sheet_.pointerLost(); }
 
-  SheetSurface& sheet_;
+  HostedSheet& sheet_;
 };
 
 /// Takes taps over the pages of a sheet. It is as large as the sheet, but contains only the points
@@ -79,13 +79,13 @@ class SheetFront : public SheetArea {
 }  // namespace
 
 /// A child of the window's content; deletes itself after it closed.
-class SheetItem final : public SheetArea, public SheetSurface, public QuickAccessibleSurface {
+class SheetItem final : public SheetArea, public HostedSheet, public QuickAccessibleSurface {
   Q_OBJECT
 
  public:
   SheetItem(QQuickWindow& window, hosting::WindowSession& session, QQuickItem* opener)
       : SheetArea(*window.contentItem(), *this),
-        SheetSurface(static_cast<QObject&>(*this), session, QStringLiteral("QuorixWebQuick")),
+        HostedSheet(static_cast<QObject&>(*this), session, QStringLiteral("QuorixWebQuick")),
         QuickAccessibleSurface(static_cast<QQuickItem&>(*this), *this) {
     setFlag(ItemHasContents);
     setFlag(ItemIsFocusScope);
@@ -275,10 +275,11 @@ class SheetItem final : public SheetArea, public SheetSurface, public QuickAcces
 };
 
 hosting::WindowSession& sessionOf(QQuickWindow& window) {
-  const auto newSheet = [&window](WindowScene & scene, const hosting::Responder* opener) -> auto& {
-    return *new SheetItem(window, scene, QuickAccessibleSurface::itemOf(opener));
+  const auto newSheet = [&window](HostedWindow & session,
+                                  const hosting::Responder* opener) -> auto& {
+    return *new SheetItem(window, session, QuickAccessibleSurface::itemOf(opener));
   };
-  return WindowScene::of(window, {[&window] { return &window; }, newSheet});
+  return HostedWindow::of(window, {[&window] { return &window; }, newSheet});
 }
 
 }  // namespace quorix::qt

@@ -10,7 +10,7 @@
 #include "qt/Conversions.h"
 #include "qt/Engine.h"
 #include "qt/Input.h"
-#include "qt/quick/ViewSurface.h"
+#include "qt/quick/ItemSurface.h"
 
 namespace quorix::qt {
 
@@ -105,7 +105,7 @@ bool TapRoom::isFree(const ViewItem& item, QPointF point) {
 ViewItem::ViewItem(QQuickItem* parent) : ViewItem(swiftui::View(), parent) {}
 
 ViewItem::ViewItem(swiftui::View view, QQuickItem* parent)
-    : QQuickItem(parent), surface_(std::make_unique<ViewSurface>(*this)) {
+    : QQuickItem(parent), surface_(std::make_unique<ItemSurface>(*this)) {
   installEngine();  // runs the main queue, without which no view changes
   setFlag(ItemHasContents);
   setAcceptedMouseButtons(Qt::LeftButton);

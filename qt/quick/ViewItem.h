@@ -10,7 +10,7 @@
 
 namespace quorix::qt {
 
-class ViewSurface;
+class ItemSurface;
 
 /// Shows a view in a Qt Quick window. A size in points is a size in items' units.
 ///
@@ -66,11 +66,11 @@ class QUORIX_EXPORT ViewItem : public QQuickItem, public ViewSettings {
   void focusOutEvent(QFocusEvent* event) override;
 
  private:
-  friend class ViewSurface;
+  friend class ItemSurface;
   friend struct TapRoom;
   void settingsChanged() override;
 
-  std::unique_ptr<ViewSurface> surface_;
+  std::unique_ptr<ItemSurface> surface_;
 };
 
 }  // namespace quorix::qt

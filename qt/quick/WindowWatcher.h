@@ -24,8 +24,9 @@ class WindowWatcher : public QObject {
     return (watcher ? watcher : new WindowWatcher(window))->views_;
   }
 
-  /// Where `item` is in its window. The viewports of `parent` and its ancestors clip it: pass its
-  /// parent, or `item` itself for the items in it.
+  /// The place of `item` in its window. The visible part is limited by the viewports of `parent`
+  /// and its ancestors: pass `item`'s parent, or `item` itself to ask for the place of its
+  /// children.
   static hosting::ViewportPlace placeOf(const QQuickItem& item, const QQuickItem& parent) {
     const QTransform toWindow = item.itemTransform(nullptr, nullptr);
     if (!toWindow.isInvertible()) return {};  // scaled to nothing

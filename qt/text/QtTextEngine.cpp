@@ -83,7 +83,7 @@ const ShapedText& QtTextEngine::shape(const text::AttributedText& text, double w
   return lines_.lines(text, std::max(width, 0.0), breakLines);
 }
 
-TextPictures& QtTextEngine::pictures() {
+render::TextPictures<render::InkPicture>& QtTextEngine::pictures() {
   if (fonts_.refresh()) clear();
   return pictures_;
 }

@@ -2,6 +2,7 @@
 
 #include "platform/foundation/Export.h"
 #include "platform/render/KnownGround.h"
+#include "platform/render/TextPictures.h"
 #include "platform/text/LineCache.h"
 #include "platform/text/PriceGlyphs.h"
 #include "platform/text/TextEngine.h"
@@ -9,8 +10,6 @@
 #include "qt/text/QtFonts.h"
 
 namespace quorix::qt {
-
-using TextPictures = render::TextPictures<render::InkPicture>;
 
 /// Shapes texts with Qt and its fallback faces. Caches what it measures, so that painting does not
 /// shape again. Main thread; needs an application object.
@@ -30,7 +29,7 @@ class QtTextEngine final : public text::TextEngine {
   ShapingFont font(const text::ResolvedFont& font) { return fonts_.find(font); }
 
   /// Pictures of texts. Drops them first if fonts were added or removed.
-  TextPictures& pictures();
+  render::TextPictures<render::InkPicture>& pictures();
 
   /// How often text has been broken into lines so far. For tests.
   int breaks() const { return breaks_; }
@@ -40,7 +39,7 @@ class QtTextEngine final : public text::TextEngine {
 
   QtFonts& fonts_ = QtFonts::shared();
   text::LineCache<ShapedText> lines_;
-  TextPictures pictures_;
+  render::TextPictures<render::InkPicture> pictures_;
   text::PriceFaces<QGlyphRun> prices_{ShapingFont::pixels};
   int breaks_ = 0;
 };

@@ -9,9 +9,9 @@
 #include <vector>
 
 #include "qt/Conversions.h"
+#include "qt/HostedSheet.h"
+#include "qt/HostedWindow.h"
 #include "qt/Picture.h"
-#include "qt/SheetSurface.h"
-#include "qt/WindowScene.h"
 #include "qt/widgets/WidgetAccessibleSurface.h"
 
 namespace quorix::qt {
@@ -25,7 +25,7 @@ class SheetWidgetFront : public QWidget {
   Q_OBJECT
 
  public:
-  SheetWidgetFront(QWidget& parent, SheetSurface& sheet) : QWidget(&parent), sheet_(sheet) {
+  SheetWidgetFront(QWidget& parent, HostedSheet& sheet) : QWidget(&parent), sheet_(sheet) {
     setAttribute(Qt::WA_AcceptTouchEvents);
     setFocusPolicy(Qt::NoFocus);
     setCursor(Qt::PointingHandCursor);
@@ -54,7 +54,7 @@ class SheetWidgetFront : public QWidget {
   }
 
  private:
-  SheetSurface& sheet_;
+  HostedSheet& sheet_;
 };
 
 class PictureWidget final : public QWidget, public hosting::ScenePicture {
@@ -82,13 +82,13 @@ class PictureWidget final : public QWidget, public hosting::ScenePicture {
 };
 
 /// A child of the window; deletes itself after it closed.
-class SheetWidget final : public QWidget, public SheetSurface, public WidgetAccessibleSurface {
+class SheetWidget final : public QWidget, public HostedSheet, public WidgetAccessibleSurface {
   Q_OBJECT
 
  public:
   SheetWidget(QWidget& window, hosting::WindowSession& session)
       : QWidget(&window),
-        SheetSurface(static_cast<QObject&>(*this), session, QStringLiteral("QuorixWebWidgets")),
+        HostedSheet(static_cast<QObject&>(*this), session, QStringLiteral("QuorixWebWidgets")),
         WidgetAccessibleSurface(static_cast<QWidget&>(*this), *this) {
     setAttribute(Qt::WA_AcceptTouchEvents);
     setAttribute(Qt::WA_Hover);
@@ -216,7 +216,7 @@ class SheetWidget final : public QWidget, public SheetSurface, public WidgetAcce
   std::unique_ptr<hosting::PageEngine> openPage(const render::EmbedItem& embed,
                                                 hosting::PageEngine::Client& client) override {
     activeBefore_ = isActiveWindow() ? window()->internalWinId() : 0;
-    auto page = SheetSurface::openPage(embed, client);
+    auto page = HostedSheet::openPage(embed, client);
     if (!front_) front_ = new SheetWidgetFront(*this, *this);
     front_->raise();
     return page;
@@ -262,10 +262,10 @@ class SheetWidget final : public QWidget, public SheetSurface, public WidgetAcce
 };
 
 hosting::WindowSession& sessionOf(QWidget& window) {
-  const auto newSheet = [&window](WindowScene & scene, auto*) -> auto& {
-    return *new SheetWidget(window, scene);
+  const auto newSheet = [&window](HostedWindow & session, auto*) -> auto& {
+    return *new SheetWidget(window, session);
   };
-  return WindowScene::of(window, {[&window] { return window.windowHandle(); }, newSheet});
+  return HostedWindow::of(window, {[&window] { return window.windowHandle(); }, newSheet});
 }
 
 }  // namespace quorix::qt

@@ -4,8 +4,8 @@
 #include <QWidget>
 #include <utility>
 
+#include "qt/HostedWindow.h"
 #include "qt/Surface.h"
-#include "qt/WindowScene.h"
 
 namespace quorix::qt {
 
@@ -13,21 +13,21 @@ namespace quorix::qt {
 class WidgetAccessibleSurface : public Surface {
  public:
   WidgetAccessibleSurface(QWidget& widget, hosting::Responder& responder)
-      : Surface(widget, responder), widget_(widget) {}
+      : Surface(widget, responder) {}
 
-  void takeFocus() override { widget_.setFocus(Qt::OtherFocusReason); }
+  void takeFocus() override { widget().setFocus(Qt::OtherFocusReason); }
   QRect onScreen(const layout::Rect& frame) const override {
-    const QPointF corner = widget_.mapToGlobal(QPointF(frame.left(), frame.top()));
+    const QPointF corner = widget().mapToGlobal(QPointF(frame.left(), frame.top()));
     return QRectF(corner, QSizeF(frame.size.width, frame.size.height)).toRect();
   }
-  QRect onScreen() const override { return {widget_.mapToGlobal(QPoint()), widget_.size()}; }
-  QWindow* accessibleWindow() const override { return widget_.window()->windowHandle(); }
+  QRect onScreen() const override { return {widget().mapToGlobal(QPoint()), widget().size()}; }
+  QWindow* accessibleWindow() const override { return widget().window()->windowHandle(); }
   QObject* accessibleParent() const override {
-    return widget_.isWindow() ? static_cast<QObject*>(qApp) : widget_.parentWidget();
+    return widget().isWindow() ? static_cast<QObject*>(qApp) : widget().parentWidget();
   }
-  bool isShown() const override { return widget_.isVisible(); }
+  bool isShown() const override { return widget().isVisible(); }
   bool isCovered() const override {
-    const hosting::Responder* sheet = WindowScene::topmostOf(widget_.window());
+    const hosting::Responder* sheet = HostedWindow::topmostOf(widget().window());
     return sheet && sheet != &responder();
   }
 
@@ -36,14 +36,15 @@ class WidgetAccessibleSurface : public Surface {
   void prepareFrameLater() {
     if (std::exchange(frameQueued_, true)) return;
     QMetaObject::invokeMethod(
-        &widget_, [this] { frameQueued_ = false, prepareFrame(); }, Qt::QueuedConnection);
+        &object(), [this] { frameQueued_ = false, prepareFrame(); }, Qt::QueuedConnection);
   }
 
  private:
   /// Brings the widget up to date before a frame.
   virtual void prepareFrame() = 0;
 
-  QWidget& widget_;
+  QWidget& widget() const { return static_cast<QWidget&>(object()); }
+
   bool frameQueued_ = false;
 };
 

@@ -12,7 +12,7 @@
 #include "qt/widgets/SheetWidget.h"
 #include "qt/widgets/ViewWidget.h"
 #include "qt/widgets/WidgetAccessibleSurface.h"
-#include "qt/widgets/WindowStateWatcher.h"
+#include "qt/widgets/WidgetWindowWatcher.h"
 
 namespace quorix::qt {
 
@@ -39,7 +39,7 @@ class WidgetSurface final : public HostedView<ViewWidget, WidgetAccessibleSurfac
     const bool moved = window != window_;
     if (moved) {
       leaveWindow();
-      WindowStateWatcher::watch(*window);
+      WidgetWindowWatcher::watch(*window);
       window_ = window;
     }
     onScreenChanged();  // before a size is needed, so that the view is evaluated once
@@ -97,7 +97,7 @@ class WidgetSurface final : public HostedView<ViewWidget, WidgetAccessibleSurfac
     }
     if (isOnScreen() && refreshScene()) shown_.update();
     updateRing();
-    // A widget that is scrolled away is visible to Qt.
+    // isVisible is also true for a widget that is scrolled out of sight.
     rest(isOnScreen() && !shown_.visibleRegion().isEmpty());
   }
 

@@ -10,8 +10,8 @@
 
 #include "platform/uikit/URLOpener.h"
 #include "qt/Engine.h"
+#include "qt/HostedWindow.h"
 #include "qt/SafeArea.h"
-#include "qt/WindowScene.h"
 #include "tests/qt/Screens.h"
 
 namespace quorix::testing {

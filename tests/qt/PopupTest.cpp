@@ -2,7 +2,7 @@
 #include <QMenu>
 #include <QWidgetAction>
 
-#include "qt/WindowScene.h"
+#include "qt/HostedWindow.h"
 #include "tests/qt/Screens.h"
 
 namespace quorix::testing {
@@ -117,7 +117,7 @@ TEST(Popup, InAWindowOfItsOwnTheSheetFillsThatWindow) {
     window == &menu ? menu.popup({30, 30}) : window->show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
     const QPoint onRow = row->mapTo(window, row->rect().center());
-    const auto isOpen = [&] { return qt::WindowScene::topmostOf(window) != nullptr; };
+    const auto isOpen = [&] { return qt::HostedWindow::topmostOf(window) != nullptr; };
     for (const bool byKey : {true, false}) {
       QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, onRow);
       screen.settle();

@@ -10,7 +10,7 @@
 
 #include "qt/ApplicationLifetime.h"
 #include "qt/web/WebPageBase.h"
-#include "qt/web/quick/RoundedTop.h"
+#include "qt/web/quick/RoundedTopItem.h"
 
 namespace quorix::qt {
 namespace {
@@ -18,7 +18,7 @@ namespace {
 /// What all pages in Qt Quick windows share. Lives as long as the application.
 struct QuickEngine {
   QuickEngine() {
-    qmlRegisterType<RoundedTop>("Quorix.Web", 1, 0, "RoundedTop");
+    qmlRegisterType<RoundedTopItem>("Quorix.Web", 1, 0, "RoundedTopItem");
     source.loadUrl(QUrl(QStringLiteral("qrc:/quorix/web/quick/WebPage.qml")));
     WebPageBase::openToReaders();
   }
@@ -71,7 +71,7 @@ class QuickPage final : public WebPageBase {
 
   void ask(std::string_view script) override {
     if (!view_) return;
-    const QString question = QString::fromStdString(std::string(script));
+    const QString question = QString::fromUtf8(script);
     QMetaObject::invokeMethod(view_, "ask", Q_ARG(QString, question));
   }
 

@@ -29,7 +29,7 @@ WebEngineView {
     // With a rounded top the page is drawn as a picture, which is cut.
     layer {
         enabled: view.topHeight > 0
-        effect: RoundedTop {
+        effect: RoundedTopItem {
             pixelRatio: view.pixelRatio
             radius: view.topRadius
         }

@@ -196,8 +196,8 @@ class WidgetPage final : public WebPageBase {
     const auto answered = [this, asked = view_](const QVariant& text) {
       if (asked) answer(text.toString());
     };
-    view_->page()->runJavaScript(QString::fromStdString(std::string(script)),
-                                 QWebEngineScript::ApplicationWorld, answered);
+    view_->page()->runJavaScript(QString::fromUtf8(script), QWebEngineScript::ApplicationWorld,
+                                 answered);
   }
 
   bool canGo(hosting::HistoryStep step) const override {

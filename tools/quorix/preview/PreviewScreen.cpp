@@ -7,8 +7,8 @@
 #include "QuorixWidgets/info/InfoWidgetViewModel.h"
 #include "QuorixWidgets/score/ScoreWidgetBuilder.h"
 #include "platform/swiftui/UIViewRepresentable.h"
+#include "qt/HostedWindow.h"
 #include "qt/Surface.h"
-#include "qt/WindowScene.h"
 
 namespace quorix::tool {
 namespace {
@@ -64,7 +64,7 @@ void PreviewScreen::show(const PreviewChoices& choices) {
     QMetaObject::invokeMethod(this, &PreviewScreen::openSheet, Qt::QueuedConnection);
 }
 
-bool PreviewScreen::hasSheet() const { return qt::WindowScene::topmostOf(this) != nullptr; }
+bool PreviewScreen::hasSheet() const { return qt::HostedWindow::topmostOf(this) != nullptr; }
 
 /// Performs the widget's first element with an action, like a screen reader.
 void PreviewScreen::openSheet() {

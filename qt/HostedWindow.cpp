@@ -1,4 +1,4 @@
-#include "qt/WindowScene.h"
+#include "qt/HostedWindow.h"
 
 #include <QGuiApplication>
 
@@ -9,34 +9,34 @@ namespace quorix::qt {
 namespace {
 
 /// Null before a view of the window needs one.
-WindowScene* find(const QObject& window) {
-  return window.findChild<WindowScene*>(QString(), Qt::FindDirectChildrenOnly);
+HostedWindow* find(const QObject& window) {
+  return window.findChild<HostedWindow*>(QString(), Qt::FindDirectChildrenOnly);
 }
 
 }  // namespace
 
-const hosting::Responder* WindowScene::topmostOf(const QObject* window) {
-  const WindowScene* scene = window ? find(*window) : nullptr;
-  return scene ? scene->topmost() : nullptr;
+const hosting::Responder* HostedWindow::topmostOf(const QObject* window) {
+  const HostedWindow* session = window ? find(*window) : nullptr;
+  return session ? session->topmost() : nullptr;
 }
 
-WindowScene& WindowScene::of(QObject& window, const Toolkit& toolkit) {
-  WindowScene* scene = find(window);
-  return scene ? *scene : *new WindowScene(window, toolkit);
+HostedWindow& HostedWindow::of(QObject& window, const Toolkit& toolkit) {
+  HostedWindow* session = find(window);
+  return session ? *session : *new HostedWindow(window, toolkit);
 }
 
-WindowScene::WindowScene(QObject& window, const Toolkit& toolkit)
+HostedWindow::HostedWindow(QObject& window, const Toolkit& toolkit)
     : QObject(&window), toolkit_(toolkit) {
-  connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &WindowScene::focusWindowChanged);
+  connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &HostedWindow::focusWindowChanged);
   focusWindowChanged(QGuiApplication::focusWindow());
 }
 
-bool WindowScene::isVisible() const {
+bool HostedWindow::isVisible() const {
   const QWindow* window = toolkit_.window();
   return window && window->isVisible();
 }
 
-hosting::SheetSession& WindowScene::newSheet(const hosting::Responder* opener) {
+hosting::SheetSession& HostedWindow::newSheet(const hosting::Responder* opener) {
   const auto follow = [this](QMarginsF covered) {
     setSafeArea({covered.top(), covered.left(), covered.bottom(), covered.right()});
   };
@@ -47,7 +47,7 @@ hosting::SheetSession& WindowScene::newSheet(const hosting::Responder* opener) {
   return toolkit_.newSheet(*this, opener);
 }
 
-void WindowScene::focusWindowChanged(QWindow* focused) {
+void HostedWindow::focusWindowChanged(QWindow* focused) {
   const bool isKey = focused != nullptr && focused == toolkit_.window();
   isKey ? becameKey() : visibilityChanged();
 }

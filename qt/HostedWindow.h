@@ -49,23 +49,23 @@ class SafeAreaWatcher : public QObject {
 };
 
 /// The session of a toolkit's window. A child of that window; main thread.
-class QUORIX_EXPORT WindowScene : public QObject, public hosting::WindowSession {
+class QUORIX_EXPORT HostedWindow : public QObject, public hosting::WindowSession {
   Q_OBJECT
 
  public:
   /// A window of a toolkit.
   struct Toolkit {
     std::function<QWindow*()> window;  ///< null while it is not shown
-    std::function<hosting::SheetSession&(WindowScene&, const hosting::Responder* opener)> newSheet;
+    std::function<hosting::SheetSession&(HostedWindow&, const hosting::Responder* opener)> newSheet;
   };
 
-  /// The scene of `window`, made with the first call.
-  static WindowScene& of(QObject& window, const Toolkit& toolkit);
+  /// The session of `window`, made with the first call.
+  static HostedWindow& of(QObject& window, const Toolkit& toolkit);
   /// The sheet that takes the input of `window`; null without one.
   static const hosting::Responder* topmostOf(const QObject* window);
 
  private:
-  WindowScene(QObject& window, const Toolkit& toolkit);
+  HostedWindow(QObject& window, const Toolkit& toolkit);
   bool isVisible() const override;
   hosting::SheetSession& newSheet(const hosting::Responder* opener) override;
   void focusWindowChanged(QWindow* focused);

@@ -1,4 +1,4 @@
-#include "qt/SheetSurface.h"
+#include "qt/HostedSheet.h"
 
 #include <QElapsedTimer>
 #include <QKeyEvent>
@@ -37,13 +37,13 @@ class FrameClock final : public QAbstractAnimation {
 
 }  // namespace
 
-SheetSurface::SheetSurface(QObject& self, hosting::WindowSession& window, QString webComponent)
+HostedSheet::HostedSheet(QObject& self, hosting::WindowSession& window, QString webComponent)
     : SheetSession(window, QtTextEngine::shared()),
       self_(self),
       webComponent_(std::move(webComponent)),
       clock_(std::make_unique<FrameClock>([this](double seconds) { return advance(seconds); })) {}
 
-bool SheetSurface::handle(QEvent& event) {
+bool HostedSheet::handle(QEvent& event) {
   switch (event.type()) {
     case QEvent::ShortcutOverride:
       event.setAccepted(takes(toKeyEvent(static_cast<QKeyEvent&>(event)).key));
@@ -61,23 +61,23 @@ bool SheetSurface::handle(QEvent& event) {
   }
 }
 
-Qt::CursorShape SheetSurface::cursorAt(QPointF point) {
+Qt::CursorShape HostedSheet::cursorAt(QPointF point) {
   return takesTapAt(toPoint(point)) ? Qt::PointingHandCursor : Qt::ArrowCursor;
 }
 
-void SheetSurface::vanish() {
+void HostedSheet::vanish() {
   self_.setProperty("visible", false);
   self_.deleteLater();  // it may be handling an event
 }
 
 // Pages.
 
-bool SheetSurface::canShowPages() const { return WebComponentLoader::isThere(webComponent_); }
+bool HostedSheet::canShowPages() const { return WebComponentLoader::isThere(webComponent_); }
 
-bool SheetSurface::opensPagesAtOnce() const { return WebComponentLoader::isLoaded(webComponent_); }
+bool HostedSheet::opensPagesAtOnce() const { return WebComponentLoader::isLoaded(webComponent_); }
 
-std::unique_ptr<hosting::PageEngine> SheetSurface::openPage(const render::EmbedItem& embed,
-                                                            hosting::PageEngine::Client& client) {
+std::unique_ptr<hosting::PageEngine> HostedSheet::openPage(const render::EmbedItem& embed,
+                                                           hosting::PageEngine::Client& client) {
   const auto& content = dynamic_cast<const webkit::WebContent&>(*embed.content);
   const OpenWebPage open = WebComponentLoader::load(webComponent_);
   if (!open) return nullptr;
@@ -85,11 +85,11 @@ std::unique_ptr<hosting::PageEngine> SheetSurface::openPage(const render::EmbedI
   return std::unique_ptr<WebPage>(open(self_, options, client));
 }
 
-QObject& SheetSurface::viewOf(const hosting::PageEngine& page) {
+QObject& HostedSheet::viewOf(const hosting::PageEngine& page) {
   return *static_cast<const WebPage&>(page).view();
 }
 
-std::vector<QObject*> SheetSurface::pageViews() const {
+std::vector<QObject*> HostedSheet::pageViews() const {
   std::vector<QObject*> views;
   for (const hosting::PageEngine* page : pages()) views.push_back(&viewOf(*page));
   return views;

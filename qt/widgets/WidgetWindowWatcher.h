@@ -16,14 +16,14 @@ namespace quorix::qt {
 /// Watches a window for its view widgets. Tells them when the window is minimized or restored,
 /// which Qt tells only the window. Gives a widget that is smaller than a finger needs the taps of
 /// fingers beside it, where no widget of the host takes them. Belongs to the window; main thread.
-class WindowStateWatcher : public QObject {
+class WidgetWindowWatcher : public QObject {
   Q_OBJECT
 
  public:
   /// Does nothing for a window that is watched.
   static void watch(QWidget& window) {
-    if (window.findChild<WindowStateWatcher*>(QString(), Qt::FindDirectChildrenOnly)) return;
-    new WindowStateWatcher(window);
+    if (window.findChild<WidgetWindowWatcher*>(QString(), Qt::FindDirectChildrenOnly)) return;
+    new WidgetWindowWatcher(window);
   }
 
  protected:
@@ -51,7 +51,7 @@ class WindowStateWatcher : public QObject {
  private:
   using Phase = hosting::PointerEvent::Phase;
 
-  explicit WindowStateWatcher(QWidget& window) : QObject(&window), window_(window) {
+  explicit WidgetWindowWatcher(QWidget& window) : QObject(&window), window_(window) {
     window.installEventFilter(this);
   }
 
@@ -69,7 +69,7 @@ class WindowStateWatcher : public QObject {
     }
     if (!pressed_) return false;
     // The window itself comes first. The host may have derived it, and may even delete it.
-    const QPointer<WindowStateWatcher> self = this;
+    const QPointer<WidgetWindowWatcher> self = this;
     static_cast<QObject&>(window_).event(&press);
     if (!self) return true;
     const bool taken = !press.isAccepted() && pressed_ && pass(*pressed_, Phase::pressed, press);

@@ -15,19 +15,19 @@ class QObject;
 namespace quorix::qt {
 
 /// A sheet over a window of either toolkit: events and pages. Main thread.
-class QUORIX_EXPORT SheetSurface : public hosting::SheetSession {
+class QUORIX_EXPORT HostedSheet : public hosting::SheetSession {
  public:
   using SheetSession::handle;
   /// Handles an event of the pointer or the keyboard. False for other events.
   bool handle(QEvent& event);
   Qt::CursorShape cursorAt(QPointF point);
-  /// The views of the pages on show, from the bottom up.
-  std::vector<QObject*> pageViews() const;
 
  protected:
   /// `self` is the derived object, `webComponent` the name of its toolkit's web component.
-  SheetSurface(QObject& self, hosting::WindowSession& window, QString webComponent);
+  HostedSheet(QObject& self, hosting::WindowSession& window, QString webComponent);
 
+  /// The views of the pages on show, from the bottom up.
+  std::vector<QObject*> pageViews() const;
   /// The view of a page on show.
   static QObject& viewOf(const hosting::PageEngine& page);
   std::unique_ptr<hosting::PageEngine> openPage(const render::EmbedItem& embed,

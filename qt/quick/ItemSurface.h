@@ -4,7 +4,6 @@
 #include <QQuickWindow>
 #include <memory>
 #include <optional>
-#include <utility>
 
 #include "platform/render/Scene.h"
 #include "qt/Conversions.h"
@@ -22,10 +21,10 @@ namespace quorix::qt {
 
 /// The private part of a view item. Main thread, except `paint`: the render thread, while the main
 /// thread waits.
-class ViewSurface final : public HostedView<ViewItem, QuickAccessibleSurface>,
+class ItemSurface final : public HostedView<ViewItem, QuickAccessibleSurface>,
                           private WindowWatcher::Views::View {
  public:
-  explicit ViewSurface(ViewItem& item) : HostedView(item, item.settings()) {}
+  explicit ItemSurface(ViewItem& item) : HostedView(item, item.settings()) {}
 
   /// The item moved to another window, or to none.
   void windowChanged() {

@@ -1,4 +1,4 @@
-#include "qt/web/quick/RoundedTop.h"
+#include "qt/web/quick/RoundedTopItem.h"
 
 #include <QSGGeometryNode>
 #include <QSGTextureMaterial>
@@ -67,12 +67,12 @@ class TopNode final : public QSGNode {
 
 }  // namespace
 
-RoundedTop::RoundedTop() {
+RoundedTopItem::RoundedTopItem() {
   setFlag(ItemHasContents);
-  connect(this, &RoundedTop::changed, this, &QQuickItem::update);
+  connect(this, &RoundedTopItem::changed, this, &QQuickItem::update);
 }
 
-QSGNode* RoundedTop::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
+QSGNode* RoundedTopItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
   delete old;
   QSGTextureProvider* provider = source_ ? source_->textureProvider() : nullptr;
   QSGTexture* texture = provider ? provider->texture() : nullptr;

@@ -7,7 +7,7 @@ namespace quorix::qt {
 
 /// Shows a picture with rounded upper corners and smooth edges. Needs a GPU's renderer, but no
 /// shader of its own: pixels at the curve are drawn with less opacity. Main thread.
-class RoundedTop : public QQuickItem {
+class RoundedTopItem : public QQuickItem {
   Q_OBJECT
   /// Provides the picture, which has this item's size.
   Q_PROPERTY(QQuickItem* source MEMBER source_ NOTIFY changed)
@@ -17,7 +17,7 @@ class RoundedTop : public QQuickItem {
   Q_PROPERTY(double pixelRatio MEMBER pixelRatio_ NOTIFY changed)
 
  public:
-  RoundedTop();
+  RoundedTopItem();
 
  signals:
   void changed();

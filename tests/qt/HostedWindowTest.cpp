@@ -23,9 +23,9 @@ swiftui::View opener(const std::string& page) {
   });
 }
 
-SCREENS_TEST_SUITE(WindowScene);
+SCREENS_TEST_SUITE(HostedWindow);
 
-TYPED_TEST(WindowScene, PresentsOverTheWindowInUseAndEndsWithIt) {
+TYPED_TEST(HostedWindow, PresentsOverTheWindowInUseAndEndsWithIt) {
   const auto scenes = [] { return uikit::UIApplication::shared().connectedScenes().size(); };
   const std::size_t before = scenes();
   TypeParam one;
@@ -45,7 +45,7 @@ TYPED_TEST(WindowScene, PresentsOverTheWindowInUseAndEndsWithIt) {
   EXPECT_EQ(scenes(), before + 1);
 }
 
-TYPED_TEST(WindowScene, ShowsItsSheetAgainAfterTheWindowWasHidden) {
+TYPED_TEST(HostedWindow, ShowsItsSheetAgainAfterTheWindowWasHidden) {
   TypeParam screen;
   if (auto* window = qobject_cast<QQuickWindow*>(&screen.window())) {
     window->setPersistentSceneGraph(false);  // a GPU's renderer frees the pictures
