@@ -153,20 +153,6 @@ TEST(UserDetails, DecodesAsPhonesDoAndNamesTheFirstReadThatFails) {
   forEachRow("users_own", expectReading);
 }
 
-TEST(UserDetails, DecodesFromARecordInsideADocument) {
-  JSONDocument document;
-  const auto read = document.parse(
-      R"({"shoppers": [7, {"item_return_rate": 0.2, "item_return_percentile": 35,
-                           "return_rate_trend": -0.05}], "item_return_rate": 1})");
-  const auto& top = std::get<JSONValue>(read);
-  const auto shoppers = top.member("shoppers")->elements();
-  EXPECT_EQ(std::get<UserDetails>(UserDetails::decode(shoppers[1])), (UserDetails{0.2, -0.05, 35}));
-  EXPECT_EQ(std::get<DecodingError>(UserDetails::decode(shoppers[0])),
-            (DecodingError{Kind::typeMismatch, ""}));
-  EXPECT_EQ(std::get<DecodingError>(UserDetails::decode(top)),
-            (DecodingError{Kind::keyNotFound, "item_return_percentile"}));
-}
-
 TEST(UserDetails, KeysAreTheirTextsExactly) {
   EXPECT_EQ(UserDetails::codingKey("return_rate_trend"), UserDetails::CodingKeys::returnRateTrend);
   EXPECT_EQ(UserDetails::codingKey("return_rate_trend "), std::nullopt);

@@ -3,8 +3,6 @@
 #include <unistd.h>
 
 #include <clocale>
-#include <cmath>
-#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <limits>
@@ -37,40 +35,6 @@ TEST(StringFormat, ShowsWhatPhonesShow) {
   });
 }
 
-/// The C library's result, in the "C" locale, in which tests run.
-template <class Number>
-void expectAsInC(const std::string& format, const std::string& inC, Number value) {
-  char expected[1024];
-  std::snprintf(expected, sizeof expected, inC.c_str(), value);
-  EXPECT_EQ(formatted(format, {static_cast<double>(value)}), expected) << format;
-}
-
-TEST(StringFormat, ShowsNumbersAsTheCLibraryDoes) {
-  const std::vector<double> numbers = {
-      0.0,  -0.0,  1.0,     -1.5,   0.1,       9.9999,        1e-5,     123456.5,
-      1e15, 1e300, -2.5e-7, 5e-324, 0x1p-1022, Limits::max(), HUGE_VAL, -HUGE_VAL};
-  for (const std::string flags : {"", "-", "+", " ", "#", "0", "+0", "#0", "-#+", "' "}) {
-    for (const char* size : {"", "1", "12", ".", ".0", ".1", "20.9", "40.17", ".340"}) {
-      const std::string start = "%" + flags + size;
-      for (const char letter : std::string_view("fFeEgGaA")) {
-        for (const double value : numbers) {
-          // Libraries differ in the digits of a subnormal number before its point.
-          const bool hex = letter == 'a' || letter == 'A';
-          if (hex && value != 0 && std::fabs(value) < Limits::min()) continue;
-          expectAsInC(start + letter, start + letter, value);
-        }
-      }
-      if (flags == "' ") continue;  // no effect in this locale
-      for (const char letter : std::string_view("diuoxX")) {
-        for (const long long value : {0LL, 7LL, -42LL, 1LL << 53}) {
-          expectAsInC(start + letter, start + "ll" + letter, value);
-          expectAsInC(start + "ll" + letter, start + "ll" + letter, value);
-        }
-      }
-    }
-  }
-}
-
 TEST(StringFormat, WritesAPointInEveryLocale) {
   const auto folder = std::filesystem::temp_directory_path() / std::to_string(getpid());
   std::filesystem::create_directories(folder);
@@ -79,8 +43,9 @@ TEST(StringFormat, WritesAPointInEveryLocale) {
   setenv("LOCPATH", folder.c_str(), 1);
   ASSERT_TRUE(std::setlocale(LC_NUMERIC, name.c_str()));
   EXPECT_EQ(std::localeconv()->decimal_point, std::string(","));
-  EXPECT_EQ(formatted("%.1f|%+08.2f|%-8.1e|%#.0f|%a|%d", {-12.5, 12.5, 12.5, 12.0, 1.5, 7.0}),
-            "-12.5|+0012.50|1.2e+01 |12.|0x1.8p+0|7");
+  EXPECT_EQ(
+      formatted("%.1f|%+08.2f|%-8.1e|%#.0f|%a|%'d", {-12.5, 12.5, 12.5, 12.0, 1.5, 1234567.0}),
+      "-12.5|+0012.50|1.2e+01 |12.|0x1.8p+0|1234567");
   std::setlocale(LC_NUMERIC, "C");
   std::filesystem::remove_all(folder);
 }

@@ -108,7 +108,7 @@ TEST(TextEngine, SetsPricesAsQtShapesThem) {
   const std::string own = plainText("").runs[0].font.name;
   // The first face kerns pairs of digits; the last one has ink outside its line.
   const std::string faces[] = {own, "DejaVu Sans", "DejaVu Sans Mono", "NotoSansDisplay-Italic"};
-  const char* const prices[] = {"€7.00", "$1,607,117.71", "£0.47", "12,56\u00A0€", "1.2"};
+  const char* const prices[] = {"€7.00", "$1,607,117.71", "£389.47", "12,56\u00A0€", "1.2"};
   for (const std::string& face : faces) {
     const auto text = [&](const std::string& price, double points) {
       AttributedText made = plainText(price, points);
