@@ -9,7 +9,6 @@
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTimer>
-#include <algorithm>
 #include <future>
 #include <memory>
 #include <utility>
@@ -64,24 +63,15 @@ class LoopbackServer::Connection : public QObject {
     const auto from = head_.find(' ') + 1;
     const std::string path = head_.substr(from, head_.find(' ', from) - from);
     answer_ = server_.take(path, std::exchange(head_, {}));
-    sent_ = 0;
-    send();
+    send(answer_.bytes);
   }
 
-  void send() {
-    if (socket_->bytesToWrite() > kBacklog) {
-      QTimer::singleShot(1, this, [this] { send(); });
-      return;
+  void send(const std::string& bytes) {
+    if (socket_->bytesToWrite() <= kBacklog) {
+      socket_->write(bytes.data(), static_cast<qint64>(bytes.size()));
     }
-    const auto size = std::min(answer_.piece, answer_.bytes.size() - sent_);
-    socket_->write(answer_.bytes.data() + sent_, static_cast<qint64>(size));
-    sent_ += size;
-    if (sent_ == answer_.bytes.size() && !answer_.filler.empty()) {
-      answer_.bytes = answer_.filler;
-      sent_ = 0;
-    }
-    if (sent_ < answer_.bytes.size()) {
-      QTimer::singleShot(1, this, [this] { send(); });
+    if (!answer_.filler.empty()) {
+      QTimer::singleShot(1, this, [this] { send(answer_.filler); });
     } else if (answer_.tunnelTo) {
       openTunnel();
     } else if (answer_.hangUp) {
@@ -103,7 +93,6 @@ class LoopbackServer::Connection : public QObject {
   QTcpSocket* tunnel_ = nullptr;
   std::string head_;
   Answer answer_;
-  std::size_t sent_ = 0;
 };
 
 LoopbackServer::LoopbackServer(Scheme scheme) : scheme_(scheme) {

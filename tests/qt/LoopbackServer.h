@@ -17,11 +17,10 @@ namespace quorix::testing {
 
 /// The bytes of the answer to one request, and faults of the server while it sends them.
 struct Answer {
-  std::string bytes;             ///< from the status line on
-  std::size_t piece = SIZE_MAX;  ///< bytes that are sent at once; about a millisecond between
-  bool hangUp = false;           ///< closes the connection after the last byte
-  std::string filler = {};       ///< repeated after the bytes, at the same speed
-  std::uint16_t tunnelTo = 0;    ///< a local port to which the client is then connected
+  std::string bytes;           ///< from the status line on
+  bool hangUp = false;         ///< closes the connection after the last byte
+  std::string filler = {};     ///< sent after the bytes, about once a millisecond without end
+  std::uint16_t tunnelTo = 0;  ///< a local port to which the client is then connected
 };
 
 /// A well-formed answer. `headers` are whole lines; the length is added.
