@@ -42,9 +42,7 @@ TEST(WebView, FillsItsSheetToTheRoundCornersAndTheBottom) {
 
 TEST(WebView, ClosesByACrossInTheUsersLanguageAndNotThePages) {
   const State<bool> shown{true};
-  swiftui::Environment environment;
-  environment.language = "de";
-  TestWindow window(overlay(shown, "Ann", "en"), environment);
+  TestWindow window(overlay(shown, "Ann", "en"), {.language = "de"});
   EXPECT_EQ(window.element("Schließen").role, render::Role::button);
   EXPECT_EQ(window.element("Schließen").frame, (layout::Rect{{272, 0}, {48, 56}}));
   for (const bool open : {false, true}) {

@@ -173,14 +173,12 @@ TEST(Text, ItsOwnLooksWinTheFirstOneWrittenFirst) {
                        .foregroundColor(color(2))
                        .underline();
   const Text whole = sum + Text::verbatim("") + Text::verbatim(" last");
-  swiftui::Environment turkish;
-  turkish.language = "tr";
   TestWindow window(View(whole)
                         .font(face("D"))
                         .foregroundColor(color(3))
                         .textCase(swiftui::TextCase::uppercase)
                         .accessibilityLabel(Text::verbatim("ibis")),
-                    turkish);
+                    {.language = "tr"});
   const auto run = [](const char* words, const char* name, swiftui::FontWeight weight,
                       std::uint8_t red, bool underline) {
     return text::Run{words, {name, 10, weight}, {red, 0, 0}, underline};

@@ -1,4 +1,5 @@
 #include "tests/core/TestWindow.h"
+#include "tests/qt/FeeRow.h"
 
 namespace quorix {
 namespace {
@@ -7,6 +8,7 @@ using foundation::MainQueue;
 using swiftui::Text;
 using swiftui::View;
 using testing::TestWindow;
+using testing::Watched;
 
 /// Shows "name value". A tap adds one.
 struct Counter {
@@ -36,22 +38,6 @@ struct Switched {
         layout::HorizontalAlignment::center, 0,
         {View(Text::verbatim("switch")).onTapGesture([binding] { binding.toggle(); }),
          swiftui::Conditional(on.get(), on.get() ? shown : View())});
-  }
-};
-
-struct Model final : combine::ObservableObject {
-  combine::Published<int> value{*this, 0};
-};
-
-/// Shows its model's value; counts its evaluations.
-struct Observer {
-  static constexpr std::string_view typeName = "Observer";
-  std::shared_ptr<Model> model = std::make_shared<Model>();
-  std::shared_ptr<int> evaluations = std::make_shared<int>(0);
-  auto observed() const { return std::tie(model); }
-  View body() const {
-    ++*evaluations;
-    return Text::verbatim(std::to_string(model->value));
   }
 };
 
@@ -98,15 +84,15 @@ TEST(ViewGraph, AnotherTypeInAPlaceStartsAfresh) {
 }
 
 TEST(ViewGraph, ChangesAreEvaluatedTogetherOnTheNextTurn) {
-  const Observer observer;
-  const Switched switched{observer};
+  const Watched watched("0");
+  const Switched switched{watched};
   TestWindow window(switched);
   const int before = *switched.evaluations;
   const int displays = window.displays;
   window.tap("switch");
   window.tap("switch");
-  observer.model->value = 1;
-  observer.model->value = 2;
+  watched.model->fee = "1";
+  watched.model->fee = "2";
   EXPECT_EQ(*switched.evaluations, before);
   EXPECT_EQ(MainQueue::drain(), 2 + 1) << "both taps, and one evaluation";
   EXPECT_EQ(*switched.evaluations, before + 1);
@@ -115,12 +101,12 @@ TEST(ViewGraph, ChangesAreEvaluatedTogetherOnTheNextTurn) {
 }
 
 TEST(ViewGraph, ObjectsAreObservedOnlyOnScreen) {
-  const Observer observer;
-  const Observer twin{observer.model};
-  const Switched switched{column({observer, twin})};
+  const Watched watched("0"), twin = watched;
+  const Switched switched{column({watched, twin})};
   TestWindow window(switched);
+  int changes = 0;
   const auto turnsAfterChange = [&] {
-    observer.model->value = observer.model->value + 1;
+    watched.model->fee = std::to_string(++changes);
     return MainQueue::drain();
   };
   EXPECT_EQ(turnsAfterChange(), 1);
@@ -161,17 +147,17 @@ TEST(ViewGraph, ATaskRunsAtEachAppearanceUnlessItsViewLeavesFirst) {
 }
 
 TEST(ViewGraph, AHostMayGoAtAnyTime) {
-  const Observer observer;
+  const Watched watched("0");
   std::function<void()> kept;
   bool ran = false;
   {
     const auto priority = swiftui::TaskPriority::userInitiated;
-    TestWindow window(Switched{View(observer).task(priority, [&ran] { ran = true; })});
+    TestWindow window(Switched{View(watched).task(priority, [&ran] { ran = true; })});
     kept = window.shown().hitAreas.at(0).action;
-    observer.model->value = 1;  // a turn and a task are pending
+    watched.model->fee = "1";  // a turn and a task are pending
   }
   kept();
-  observer.model->value = 2;
+  watched.model->fee = "2";
   MainQueue::drain();
   EXPECT_FALSE(ran);
 }

@@ -6,9 +6,27 @@
 
 namespace quorix::testing {
 
+inline swiftui::View paragraph() {
+  return swiftui::Text::verbatim("A sentence that needs two lines or more when the room is narrow");
+}
+
 struct FeeModel : combine::ObservableObject {
   explicit FeeModel(std::string text) : fee(*this, std::move(text)) {}
   combine::Published<std::string> fee;
+};
+
+/// Shows its model's text and counts its evaluations.
+struct Watched {
+  static constexpr std::string_view typeName = "Watched";
+
+  explicit Watched(std::string text, std::shared_ptr<int> evaluations = std::make_shared<int>(0))
+      : model(std::make_shared<FeeModel>(std::move(text))), bodies(std::move(evaluations)) {}
+
+  std::shared_ptr<FeeModel> model;
+  std::shared_ptr<int> bodies;
+
+  auto observed() const { return std::tie(model); }
+  swiftui::View body() const { return ++*bodies, swiftui::Text::verbatim(std::string(model->fee)); }
 };
 
 /// A row with one button. It opens a sheet with a line of text, an element that closes it, and one

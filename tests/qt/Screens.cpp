@@ -5,7 +5,6 @@
 #include <QQmlComponent>
 #include <QWheelEvent>
 #include <algorithm>
-#include <iterator>
 
 #include "qt/Engine.h"
 #include "qt/Surface.h"
@@ -46,9 +45,9 @@ void Screen::waitUntilActive() {
 }
 
 void Screen::settle() {
-  for (int quiet = 0; quiet < 2;) {
+  for (int quiet = 0; quiet < 12;) {
     const int before = frames_;
-    QTest::qWait(30);
+    QTest::qWait(5);
     quiet = frames_ == before ? quiet + 1 : 0;
   }
 }
@@ -142,17 +141,12 @@ QQuickItem* QuickScreen::addQml(const QByteArray& source) {
   return item;
 }
 
-std::function<int()> QuickScreen::listenBelow() {
-  QQuickItem* area = addQml(R"(
-      MouseArea {
-        property int events
-        acceptedButtons: Qt.AllButtons; hoverEnabled: true
-        onPressed: ++events
-        onPositionChanged: ++events
-        onWheel: ++events
-      })");
+QObject& QuickScreen::addBelow() {
+  auto* area = new QQuickItem(window_->contentItem());
   area->setSize(window_->size());
-  return [area] { return area->property("events").toInt(); };
+  area->setAcceptedMouseButtons(Qt::AllButtons);
+  area->setAcceptHoverEvents(true);
+  return *area;
 }
 
 WidgetScreen::WidgetScreen() : host_(std::make_unique<QWidget>()) {
@@ -168,12 +162,6 @@ bool WidgetScreen::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Paint && host_) {
     auto* widget = qobject_cast<QWidget*>(watched);
     if (widget && widget->window() == host_.get()) countFrame();
-  }
-  const QEvent::Type pointed[] = {QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
-                                  QEvent::MouseMove,        QEvent::Wheel,
-                                  QEvent::TouchBegin,       QEvent::ContextMenu};
-  if (below_ && watched == below_) {
-    eventsBelow_ += std::count(std::begin(pointed), std::end(pointed), event->type());
   }
   return false;
 }
@@ -203,13 +191,13 @@ QWidget* WidgetScreen::addFocusable() {
   return widget;
 }
 
-std::function<int()> WidgetScreen::listenBelow() {
-  below_ = new QWidget(host_.get());
-  below_->setMouseTracking(true);
-  below_->setAttribute(Qt::WA_AcceptTouchEvents);
-  below_->resize(host_->size());
-  below_->show();
-  return [this] { return static_cast<int>(eventsBelow_); };
+QObject& WidgetScreen::addBelow() {
+  auto* area = new QWidget(host_.get());
+  area->setMouseTracking(true);
+  area->setAttribute(Qt::WA_AcceptTouchEvents);
+  area->resize(host_->size());
+  area->show();
+  return *area;
 }
 
 }  // namespace quorix::testing

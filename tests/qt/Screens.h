@@ -26,8 +26,8 @@ class Screen {
 
   virtual QWindow& window() = 0;
   virtual QImage grab() = 0;
-  /// Adds an object below all later ones, and counts the pointer events that reach it.
-  virtual std::function<int()> listenBelow() = 0;
+  /// Adds an object below all later ones. It fills the window and takes input of pointers.
+  virtual QObject& addBelow() = 0;
 
   /// Runs the event loop until nothing is left to draw.
   void settle();
@@ -99,7 +99,7 @@ class QuickScreen : public Screen {
   QQuickWindow& window() override { return *window_; }
   void closeWindow() { window_.reset(); }
   QImage grab() override { return window_->grabWindow(); }
-  std::function<int()> listenBelow() override;
+  QObject& addBelow() override;
 
   /// Adds a view at `place`, without motion. Without a height in `place`, it has its ideal height.
   qt::ViewItem* add(swiftui::View view, QRectF place);
@@ -131,7 +131,7 @@ class WidgetScreen : public QObject, public Screen {
   QWidget& host() { return *host_; }
   void closeWindow() { host_.reset(); }
   QImage grab() override { return host_->grab().toImage(); }
-  std::function<int()> listenBelow() override;
+  QObject& addBelow() override;
 
   /// Adds a view at `place`, without motion. Without a height in `place`, it has its ideal height.
   qt::ViewWidget* add(swiftui::View view, QRectF place);
@@ -150,8 +150,6 @@ class WidgetScreen : public QObject, public Screen {
   QObject& accessibleRoot() override { return *host_; }
 
   std::unique_ptr<QWidget> host_;
-  QWidget* below_ = nullptr;
-  std::ptrdiff_t eventsBelow_ = 0;
 };
 
 /// All toolkits, for common behaviour.
@@ -181,17 +179,25 @@ struct Told {
   std::shared_ptr<QVariantList> said = std::make_shared<QVariantList>();
 };
 
-/// Counts an object's events of one kind.
+/// Counts an object's events of some kinds.
 struct EventCount : QObject {
-  EventCount(QObject& watched, QEvent::Type counted) : type(counted) {
+  EventCount(QObject& watched, QList<QEvent::Type> counted) : kinds(std::move(counted)) {
     watched.installEventFilter(this);
   }
   bool eventFilter(QObject*, QEvent* event) override {
-    return count += event->type() == type, false;
+    return count += kinds.contains(event->type()), false;
   }
-  const QEvent::Type type;
+  const QList<QEvent::Type> kinds;
   int count = 0;
 };
+
+inline const QList kPointer = {QEvent::MouseButtonPress,
+                               QEvent::MouseButtonRelease,
+                               QEvent::MouseMove,
+                               QEvent::HoverMove,
+                               QEvent::Wheel,
+                               QEvent::TouchBegin,
+                               QEvent::ContextMenu};
 
 struct ScreenName {
   template <class Screen>

@@ -9,21 +9,13 @@ namespace quorix::testing {
 inline text::AttributedText plainText(
     const std::string& characters, double points = 14,
     layout::LayoutDirection direction = layout::LayoutDirection::leftToRight) {
-  text::Run run;
-  run.text = characters;
-  run.font = {QuorixFont::regular().name(), points};
-  return {{run}, direction};
+  return {{{characters, {QuorixFont::regular().name(), points}, {}}}, direction};
 }
 
 /// Two runs. The second has another size and face and is underlined.
 inline text::AttributedText linkedText(const std::string& lead, const std::string& link) {
-  text::AttributedText text = plainText(lead, 14);
-  text::Run run;
-  run.text = link;
-  run.font = {QuorixFont::medium().name(), 17.5};
-  run.color = {0, 0, 255, 255};
-  run.underline = true;
-  text.runs.push_back(run);
+  text::AttributedText text = plainText(lead);
+  text.runs.push_back({link, {QuorixFont::medium().name(), 17.5}, {0, 0, 255}, true});
   return text;
 }
 

@@ -8,10 +8,6 @@
 namespace quorix::testing {
 namespace {
 
-swiftui::View paragraph() {
-  return swiftui::Text::verbatim("A sentence that needs two lines or more when the room is narrow");
-}
-
 /// Counts an item's requests to the scene graph.
 struct CountingItem : qt::ViewItem {
   using ViewItem::ViewItem;

@@ -10,19 +10,6 @@ namespace {
 using swiftui::Text;
 using swiftui::View;
 
-View paragraph() {
-  return Text::verbatim("A sentence that needs two lines or more when the room is narrow");
-}
-
-/// Counts its evaluations.
-struct Watched {
-  static constexpr std::string_view typeName = "Watched";
-  std::shared_ptr<FeeModel> model = std::make_shared<FeeModel>("4 €");
-  std::shared_ptr<int> bodies = std::make_shared<int>(0);
-  auto observed() const { return std::tie(model); }
-  View body() const { return ++*bodies, Text::verbatim(std::string(model->fee)); }
-};
-
 TEST(ViewWidget, TellsLayoutsOfNewSizesOnly) {
   WidgetScreen screen;
   auto* column = new QVBoxLayout(&screen.host());
@@ -31,7 +18,7 @@ TEST(ViewWidget, TellsLayoutsOfNewSizesOnly) {
   column->addWidget(first);
   column->addWidget(new qt::ViewWidget(model));
   screen.settle();
-  const EventCount requests(screen.host(), QEvent::LayoutRequest);
+  const EventCount requests(screen.host(), {QEvent::LayoutRequest});
   model.model->fee = "5 €";
   screen.settle();
   EXPECT_EQ(requests.count, 0);
@@ -79,9 +66,9 @@ TEST(ViewWidget, TakesTheRoomOfALabelWithWordWrapInAnyLayout) {
 
 TEST(ViewWidget, WorksOncePerChangeAndOnlyWhileItsWindowShowsIt) {
   WidgetScreen screen;
-  const Watched view;
+  const Watched view("4 €");
   auto* widget = new qt::ViewWidget(view, &screen.host());
-  const EventCount paints(*widget, QEvent::Paint);
+  const EventCount paints(*widget, {QEvent::Paint});
   widget->setGeometry(20, 40, 300, 30);
   widget->show();
   screen.settle();
@@ -140,7 +127,7 @@ TEST(ViewWidget, FollowsPaletteAndDirectionUnlessToldOtherwise) {
 
 TEST(ViewWidget, PointsAtWhatActsAndLetsTheRestThrough) {
   WidgetScreen screen;
-  const auto eventsBelow = screen.listenBelow();
+  const EventCount below(screen.addBelow(), kPointer);
   qt::ViewWidget* widget =
       screen.add(swiftui::VStack(layout::HorizontalAlignment::leading, 4,
                                  {View(Text::verbatim("Press")).onTapGesture([] {}),
@@ -155,11 +142,11 @@ TEST(ViewWidget, PointsAtWhatActsAndLetsTheRestThrough) {
   EXPECT_EQ(widget->cursor().shape(), Qt::PointingHandCursor);
   QTest::mouseMove(&screen.window(), outside);
   EXPECT_EQ(widget->cursor().shape(), Qt::ArrowCursor);
-  const int before = eventsBelow();
+  const int before = below.count;
   screen.clickAt(inside);
-  EXPECT_EQ(eventsBelow(), before);
+  EXPECT_EQ(below.count, before);
   screen.clickAt(outside);
-  EXPECT_EQ(eventsBelow(), before + 2);  // the press and its release
+  EXPECT_EQ(below.count, before + 2);  // the press and its release
 }
 
 }  // namespace
