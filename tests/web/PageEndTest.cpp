@@ -123,7 +123,7 @@ TYPED_TEST(PageEnd, ALoadThatStandsStillIsStopped) {
   this->screen.key(Qt::Key_Escape);
   pages().serve("/never", {.comes = false});
   this->openBlue("<img src='/never'>");
-  QTest::qWait(2000);
+  QTest::qWait(1600);  // longer than the limit of a load
   EXPECT_EQ(this->at(this->kInPage), QColor(Qt::blue)) << "what has come stays";
   EXPECT_EQ(this->failures, 1);
 }

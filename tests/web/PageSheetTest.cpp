@@ -69,7 +69,10 @@ TYPED_TEST(PageSheet, ScrollsThePageAndNotTheSheet) {
 }
 
 TYPED_TEST(PageSheet, LeadsTheKeyboardIntoThePageAndOutAgain) {
-  this->openBlue("<input id=a onfocus=\"tell('a')\"><input id=b onfocus=\"tell('b')\">");
+  this->openBlue(
+      "<input id=a onfocus=\"tell('a')\"><input id=b onfocus=\"tell('b')\" "
+      "onkeydown=\"if (event.key == 'Escape') { event.preventDefault(); tell('used'); "
+      "this.onkeydown = null }\">");
   QAccessibleInterface* control = this->screen.find("Close page");
   for (int round = 0; round < 2; ++round) {
     pages().forgetRequests();
@@ -87,22 +90,11 @@ TYPED_TEST(PageSheet, LeadsTheKeyboardIntoThePageAndOutAgain) {
   this->screen.key(Qt::Key_Backtab);
   EXPECT_TRUE(this->reported("b"));
   this->screen.key(Qt::Key_Escape);
-  EXPECT_TRUE(waitUntil([&] { return !this->isOpen(); }));
-  EXPECT_TRUE(waitUntil([&] { return TypeParam::hasFocus(this->opener); }));
-}
-
-TYPED_TEST(PageSheet, LeavesEscapeToThePageThatUsesIt) {
-  this->openBlue(
-      "<input onfocus=\"tell('in')\" onkeydown=\"if (event.key == 'Escape') { "
-      "event.preventDefault(); tell('used'); this.onkeydown = null }\">");
-  this->screen.key(Qt::Key_Tab);
-  this->screen.key(Qt::Key_Tab);
-  ASSERT_TRUE(this->reported("in"));
-  this->screen.key(Qt::Key_Escape);
   EXPECT_TRUE(this->reported("used"));
   EXPECT_TRUE(this->isOpen());
   this->screen.key(Qt::Key_Escape);
   EXPECT_TRUE(waitUntil([&] { return !this->isOpen(); }));
+  EXPECT_TRUE(waitUntil([&] { return TypeParam::hasFocus(this->opener); }));
 }
 
 double residentMegabytes() {
