@@ -42,7 +42,7 @@ TYPED_TEST(PageView, ShowsItsGroundUntilThePageHasPaintedAndWhenItFails) {
     this->failures = 0;
     this->open(address);
     EXPECT_TRUE(!fails || waitUntil([&] { return this->failures == 1; })) << address;
-    for (int i = 0; i < 10; ++i) this->screen.settle();
+    for (int i = 0; i < 5; ++i) this->screen.settle();
     EXPECT_EQ(this->failures, fails) << address;
     EXPECT_EQ(this->at(this->kInPage), kGround) << address;
     EXPECT_TRUE(this->isOpen());
