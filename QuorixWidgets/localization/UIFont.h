@@ -12,9 +12,7 @@ namespace quorix {
 /// The library's faces as fonts of the imperative toolkit. Sizes are in points and do not scale.
 /// Never null, because the handle has registered its face. Any thread.
 ///
-///     #include <platform/uikit/UILabel.h>
-///     auto label = std::make_shared<uikit::UILabel>();
-///     label->setFont(UIFont::Quorix::fixed(QuorixFont::regular(), 13));
+///     const uikit::UIFont::Ref small = UIFont::Quorix::fixed(QuorixFont::regular(), 13);
 struct UIFont : uikit::UIFont {
   UIFont() = delete;
 

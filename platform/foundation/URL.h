@@ -51,7 +51,7 @@ struct URLQueryItem {
 ///     auto components = URLComponents::parse("https://shop.example/page");
 ///     components->setQueryItems({{"lang", "en"}, {"debug", std::nullopt}});
 ///     components->url();  // https://shop.example/page?lang=en&debug
-class URLComponents {
+class QUORIX_EXPORT URLComponents {
  public:
   /// The parts of `text`; absent if it is not an absolute address.
   static std::optional<URLComponents> parse(std::string_view text);

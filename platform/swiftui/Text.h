@@ -35,7 +35,7 @@ class QUORIX_EXPORT Text {
   Text foregroundColor(Color color) const;
 
   /// Joins two texts to one paragraph.
-  friend Text operator+(Text first, Text second);
+  QUORIX_EXPORT friend Text operator+(Text first, Text second);
 
   /// The text that is shown to a user who reads `language`.
   std::string resolved(std::string_view language = {}) const;

@@ -26,12 +26,11 @@ QUORIX_EXPORT View represented(Represented content);
 /// A value that makes a view of the imperative toolkit for one place in a tree. To pass later
 /// values on, define `updateUIView(view)`, which is called at each evaluation.
 ///
-///     #include <platform/uikit/UILabel.h>
-///     struct Days {
-///       static constexpr std::string_view typeName = "Days";
-///       int count;
-///       auto makeUIView() const { return std::make_shared<uikit::UILabel>(); }
-///       void updateUIView(uikit::UILabel& label) const { label.setText(std::to_string(count)); }
+///     struct Box {
+///       static constexpr std::string_view typeName = "Box";
+///       double border;
+///       auto makeUIView() const { return std::make_shared<uikit::UIView>(); }
+///       void updateUIView(uikit::UIView& view) const { view.layer().setBorderWidth(border); }
 ///     };
 template <class R>
 concept UIViewRepresentable = requires(const R& value) {
@@ -60,7 +59,7 @@ View represent(R value) {
 /// Shows an existing imperative view on surfaces for declarative views. A view may be in one place
 /// at a time. A null view shows nothing.
 ///
-///     View label = hosting(std::make_shared<uikit::UILabel>());
+///     View box = hosting(std::make_shared<uikit::UIView>());
 QUORIX_EXPORT View hosting(std::shared_ptr<uikit::UIView> view);
 
 /// A value that makes a controller for one place in a tree. `updateUIViewController(controller)` is

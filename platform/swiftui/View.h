@@ -37,10 +37,7 @@ concept ViewModifier = requires(const M& modifier, View content) {
 /// a new view that wraps this one. Some modifiers apply to all views below (font, color, text case,
 /// underline, strikethrough); of these the innermost wins. Main thread.
 ///
-///     #include <platform/swiftui/Elements.h>
-///     View row = HStack(layout::VerticalAlignment::center, 12,
-///                       {Text::verbatim("Fee"), Spacer(), Text::verbatim("€4.00")});
-///     View padded = row.padding(16);
+///     View padded = View(Text::verbatim("Fee")).padding(16);
 class QUORIX_EXPORT View {
  public:
   /// Takes no space and shows nothing.

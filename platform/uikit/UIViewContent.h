@@ -39,7 +39,7 @@ class QUORIX_EXPORT UIViewContent : public render::HostedContent {
 
 /// Makes the display list of a controller's view, which fills the offered size. Loads the view at
 /// the first call of `scene`. Main thread.
-class UIViewControllerContent final : public render::HostedContent {
+class QUORIX_EXPORT UIViewControllerContent final : public render::HostedContent {
  public:
   explicit UIViewControllerContent(std::shared_ptr<UIViewController> controller);
 

@@ -72,6 +72,14 @@ def source(path, pieces, head, namespace):
     return head + includes + rest
 
 
+def check_includes(path, pieces, headers):
+    """Exits if a snippet includes a header of this tree that is not installed."""
+    for line, code in pieces:
+        for name in re.findall(r"^#include <((?:platform|QuorixWidgets|qt|qml)/.*)>", code, re.MULTILINE):
+            if name not in headers:
+                sys.exit(f"{path.relative_to(ROOT)}:{line}: {name} is not installed")
+
+
 def write(path, text):
     """Writes a file only if its content changes, so that unchanged files are not compiled again."""
     path.parent.mkdir(parents=True, exist_ok=True)
@@ -84,12 +92,14 @@ def extract(out, headers):
     for guide in GUIDES:
         name = guide.stem
         if pieces := snippets(guide, "cpp"):
+            check_includes(guide, pieces, headers)
             wanted[f"{name}.cpp"] = source(guide, pieces, '#include "Given.h"\n', None)
         for line, code in snippets(guide, "qml"):
             imports = "" if code.startswith("import") else QML_IMPORTS
             wanted[f"qml/{name}{line}.qml"] = imports + code
     for header in headers:
         if pieces := examples(ROOT / header):
+            check_includes(ROOT / header, pieces, headers)
             namespace = re.search(r"^namespace ([\w:]+) \{", (ROOT / header).read_text(), re.MULTILINE)[1]
             head = f'#include "{header}"\n#include "Given.h"\n'
             room = f"headers/{header.split('/')[0]}.cpp"

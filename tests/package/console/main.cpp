@@ -7,8 +7,10 @@
 #include <QuorixWidgets/localization/UIFont.h>
 #include <QuorixWidgets/score/ScoreWidgetBuilder.h>
 #include <platform/foundation/Bundle.h>
+#include <platform/foundation/URL.h>
 #include <platform/hosting/ViewHost.h>
 #include <platform/swiftui/TreePrinter.h>
+#include <platform/swiftui/UIViewRepresentable.h>
 
 #include <iostream>
 
@@ -48,6 +50,22 @@ std::string spoken(const quorix::swiftui::View& view) {
   return elements.empty() ? "nothing" : elements.front().label;
 }
 
+struct Page {
+  static constexpr std::string_view typeName = "Page";
+  auto makeUIViewController() const { return std::make_shared<quorix::uikit::UIViewController>(); }
+  void updateUIViewController(quorix::uikit::UIViewController&) const {}
+};
+
+/// A host's own address, joined text and screen.
+bool hasOwnViews() {
+  using namespace quorix::swiftui;
+  auto address = quorix::foundation::URLComponents::parse("https://shop.example/returns");
+  address->setQueryItems({{"lang", "en"}});
+  const Text joined = Text::verbatim("Free for ") + Text::verbatim("30 days");
+  return address->url()->absoluteString() == "https://shop.example/returns?lang=en" &&
+         joined.parts().size() == 2 && printTree(represent(Page())) == "Page\n";
+}
+
 }  // namespace
 
 int main() {
@@ -67,7 +85,7 @@ int main() {
   const auto details = quorix::UserDetails::decode(shoppers.elements().front());
   const auto* error = std::get_if<quorix::foundation::DecodingError>(&details);
   const bool right = figures && figures->currency == "EUR" && figures->returnsFee == 600 &&
-                     tree.find("3.00") != std::string::npos && hasFonts() &&
+                     tree.find("3.00") != std::string::npos && hasFonts() && hasOwnViews() &&
                      words == "€3.00 instead of €6.00" && error != nullptr &&
                      error->key == "item_return_percentile";
   return right ? 0 : 1;
