@@ -21,8 +21,8 @@ const std::shared_ptr<UIView>& UIViewController::view() {
 
 void UIViewController::present(std::shared_ptr<UIViewController> controller, bool animated,
                                std::function<void()> completion) {
-  const bool isFree =
-      controller && controller.get() != this && !controller->presenting_ && !controller->window_;
+  const bool isFree = controller && controller.get() != &bottom() && !controller->presenting_ &&
+                      !controller->window_;
   if (presented_ || !isFree) return;
   controller->presenting_ = this;
   presented_ = std::move(controller);
@@ -54,10 +54,12 @@ std::shared_ptr<UIViewController> UIViewController::presentingViewController() c
   return presenting_ ? presenting_->weak_from_this().lock() : nullptr;
 }
 
-UIWindow* UIViewController::window() const {
-  const UIViewController* bottom = this;
-  while (bottom->presenting_) bottom = bottom->presenting_;
-  return bottom->window_;
+UIWindow* UIViewController::window() const { return bottom().window_; }
+
+const UIViewController& UIViewController::bottom() const {
+  const UIViewController* lowest = this;
+  while (lowest->presenting_) lowest = lowest->presenting_;
+  return *lowest;
 }
 
 }  // namespace quorix::uikit

@@ -47,7 +47,7 @@ class QUORIX_EXPORT UIViewController : public std::enable_shared_from_this<UIVie
 
   /// Shows `controller` over this one. Calls `completion` on a later turn of the main queue. No
   /// effect if this one already presents a controller, or if `controller` is already presented, is
-  /// a window's root or is this one.
+  /// a window's root, is this one, or presents this one, directly or not.
   void present(std::shared_ptr<UIViewController> controller, bool animated,
                std::function<void()> completion = {});
   /// Dismisses the controller that this one presents, and all above it. If this one presents none,
@@ -63,6 +63,8 @@ class QUORIX_EXPORT UIViewController : public std::enable_shared_from_this<UIVie
  private:
   friend class UIWindow;
   void presentedChanged(bool animated, std::function<void()> completion);
+  /// The lowest of the controllers that present this one; itself if it is not presented.
+  const UIViewController& bottom() const;
 
   std::optional<std::string> nibName_;
   foundation::Bundle::Ref nibBundle_;

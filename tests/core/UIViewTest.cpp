@@ -155,6 +155,8 @@ TEST(UIViewController, PresentsAChainAndTellsItsWindow) {
 
     int completed = 0;
     first->present(second, true);
+    second->present(first, true);  // is below it
+    EXPECT_EQ(second->presentedViewController(), nullptr);
     root->present(first, true, [&] { ++completed; });
     EXPECT_EQ(window.presentedControllers(), (Chain{first, second}));
     EXPECT_EQ(second->window(), &window);
