@@ -1,6 +1,7 @@
 #include "platform/uikit/AxisLayout.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace quorix::uikit {
 namespace {
@@ -12,6 +13,7 @@ struct Line {
   Length start;
   Length end;
   Length length;
+  bool asked = false;   ///< for its natural length
   bool hollow = false;  ///< no rule and no content sets its length; it counts as 0
 
   Length& at(Edge edge) { return edge == Edge::start ? start : edge == Edge::end ? end : length; }
@@ -27,8 +29,10 @@ struct Line {
 
 class Solver {
  public:
-  Solver(const std::vector<AxisItem>& items, const std::vector<AxisRule>& rules, Length extent)
-      : items_(items), rules_(rules) {
+  Solver(const std::vector<AxisItem>& items, const std::vector<AxisRule>& rules,
+         const NaturalLength& natural, Length extent)
+      : rules_(rules), natural_(natural) {
+    lines_.reserve(items.size() + 1);
     lines_.push_back({0.0, extent, extent});
     for (const AxisItem& item : items) {
       lines_.push_back({item.start, {}, item.length});
@@ -81,10 +85,12 @@ class Solver {
     for (std::size_t i = 1; i < lines_.size(); ++i) {
       Line& open = lines_[i];
       if (open.isComplete()) continue;
-      if (const Length natural = items_[i - 1].natural; open.hasEdge() && natural) {
-        open.length = limited(*natural, static_cast<int>(i));
-        open.complete();
-        return true;
+      if (open.hasEdge() && !std::exchange(open.asked, true)) {
+        if (const Length natural = natural_(i - 1)) {
+          open.length = limited(*natural, static_cast<int>(i));
+          open.complete();
+          return true;
+        }
       }
       Line*& first = open.hasEdge() ? hollow : loose;
       if (!first) first = &open;
@@ -132,13 +138,13 @@ class Solver {
     return atMost ? std::min(natural, limit) : std::max(natural, limit);
   }
 
-  const std::vector<AxisItem>& items_;
   const std::vector<AxisRule>& rules_;
+  const NaturalLength& natural_;
   std::vector<Line> lines_;
 };
 
 /// The container's length that `rule` needs; absent when it needs none.
-Length reach(const AxisRule& rule, std::vector<Line> lines) {
+Length reach(const AxisRule& rule, const std::vector<Line>& lines) {
   const bool isFirst = rule.first == 0;
   const Edge edge = isFirst ? rule.firstEdge : rule.secondEdge;
   if ((!isFirst && rule.second != 0) || edge == Edge::start) return std::nullopt;
@@ -146,7 +152,7 @@ Length reach(const AxisRule& rule, std::vector<Line> lines) {
       isFirst ? LayoutRelation::lessThanOrEqual : LayoutRelation::greaterThanOrEqual;
   if (rule.relation == shrinks) return std::nullopt;
   if (rule.second == AxisRule::none) return rule.constant;
-  Line& item = lines[static_cast<std::size_t>(isFirst ? rule.second : rule.first)];
+  Line item = lines[static_cast<std::size_t>(isFirst ? rule.second : rule.first)];
   const Length at = item.at(isFirst ? rule.secondEdge : rule.firstEdge);
   if (item.hollow || !at) return std::nullopt;
   return *at + (isFirst ? rule.constant : -rule.constant);
@@ -155,10 +161,12 @@ Length reach(const AxisRule& rule, std::vector<Line> lines) {
 }  // namespace
 
 std::vector<AxisSpan> placeAlong(const std::vector<AxisItem>& items,
-                                 const std::vector<AxisRule>& rules, double extent) {
-  Solver solver(items, rules, extent);
+                                 const std::vector<AxisRule>& rules, const NaturalLength& natural,
+                                 double extent) {
+  Solver solver(items, rules, natural, extent);
   solver.solve();
   std::vector<AxisSpan> spans;
+  spans.reserve(items.size());
   for (std::size_t i = 1; i < solver.lines().size(); ++i) {
     const Line& line = solver.lines()[i];
     spans.push_back({*line.start, std::max(*line.length, 0.0)});
@@ -167,8 +175,9 @@ std::vector<AxisSpan> placeAlong(const std::vector<AxisItem>& items,
 }
 
 std::optional<double> fittingExtent(const std::vector<AxisItem>& items,
-                                    const std::vector<AxisRule>& rules) {
-  Solver solver(items, rules, std::nullopt);
+                                    const std::vector<AxisRule>& rules,
+                                    const NaturalLength& natural) {
+  Solver solver(items, rules, natural, std::nullopt);
   solver.solve();
   Length extent;
   for (const AxisRule& rule : rules) {

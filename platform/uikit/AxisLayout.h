@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -13,10 +15,13 @@ namespace quorix::uikit {
 
 /// One of the subviews, before it is placed.
 struct AxisItem {
-  std::optional<double> start;    ///< of a frame set by hand
-  std::optional<double> length;   ///< of a frame set by hand
-  std::optional<double> natural;  ///< natural length of the content; absent without content
+  std::optional<double> start;   ///< of a frame set by hand
+  std::optional<double> length;  ///< of a frame set by hand
 };
+
+/// The natural length of an item's content, by the item's index in the list; absent without
+/// content. Called at most once for each item, and only if no rule sets its length.
+using NaturalLength = std::function<std::optional<double>(std::size_t)>;
 
 /// `first` relates to `second` plus `constant`.
 struct AxisRule {
@@ -34,7 +39,6 @@ struct AxisRule {
 struct AxisSpan {
   double start = 0;
   double length = 0;
-  bool operator==(const AxisSpan&) const = default;
 };
 
 /// Places each item in a container of length `extent`.
@@ -43,11 +47,13 @@ struct AxisSpan {
 /// by the inequalities, or 0. If they leave a position open, it is the start. If rules contradict
 /// each other, the earlier one holds.
 std::vector<AxisSpan> placeAlong(const std::vector<AxisItem>& items,
-                                 const std::vector<AxisRule>& rules, double extent);
+                                 const std::vector<AxisRule>& rules, const NaturalLength& natural,
+                                 double extent);
 
 /// The smallest length of a container in which every item gets its length; absent when no rule
 /// bounds the container.
 std::optional<double> fittingExtent(const std::vector<AxisItem>& items,
-                                    const std::vector<AxisRule>& rules);
+                                    const std::vector<AxisRule>& rules,
+                                    const NaturalLength& natural);
 
 }  // namespace quorix::uikit

@@ -1,7 +1,7 @@
 #include "platform/uikit/ViewLayout.h"
 
 #include <algorithm>
-#include <utility>
+#include <functional>
 
 namespace quorix::uikit {
 namespace {
@@ -62,6 +62,18 @@ std::vector<AxisRule> rulesAlong(Axis axis, const UIView& view, LayoutDirection 
   return rules;
 }
 
+std::vector<AxisItem> itemsAlong(Axis axis, const UIView& view) {
+  std::vector<AxisItem> items(view.subviews().size());
+  for (std::size_t i = 0; i < items.size(); ++i) {
+    const UIView& subview = *view.subviews()[i];
+    if (!subview.translatesAutoresizingMaskIntoConstraints()) continue;
+    const layout::Rect& frame = subview.frame();
+    items[i] = axis == Axis::horizontal ? AxisItem{frame.left(), frame.size.width}
+                                        : AxisItem{frame.top(), frame.size.height};
+  }
+  return items;
+}
+
 /// The length that the view's own constraint sets. Its content does not count.
 std::optional<double> fixedLength(const UIView& view, LayoutAttribute attribute) {
   for (const ActiveLayoutConstraint& constraint : view.constraints()) {
@@ -93,9 +105,11 @@ void ViewLayout::layOut(UIView& view, const layout::Rect& frame) const {
   view.layOutAt(frame);
   if (view.subviews().empty()) return;
   const auto columns = across(view, frame.size.width);
-  const auto down = rulesAlong(Axis::vertical, view, context_.display.direction);
-  const auto rows = placeAlong(itemsDown(view, columns), down, frame.size.height);
-  const auto subviews = view.subviews();
+  const auto& subviews = view.subviews();
+  const auto height = [&](std::size_t i) { return naturalHeight(*subviews[i], columns[i].length); };
+  const auto rows = placeAlong(itemsAlong(Axis::vertical, view),
+                               rulesAlong(Axis::vertical, view, context_.display.direction),
+                               std::cref(height), frame.size.height);
   for (std::size_t i = 0; i < subviews.size(); ++i) {
     layOut(*subviews[i], {{columns[i].start, rows[i].start}, {columns[i].length, rows[i].length}});
   }
@@ -103,44 +117,29 @@ void ViewLayout::layOut(UIView& view, const layout::Rect& frame) const {
 
 ViewLayout::Length ViewLayout::naturalWidth(const UIView& view) const {
   if (const auto content = view.intrinsicContentSize(std::nullopt, context_)) return content->width;
+  const auto width = [&](std::size_t i) { return naturalWidth(*view.subviews()[i]); };
   // The width is the same in both reading directions.
-  return fittingExtent(itemsAcross(view),
-                       rulesAlong(Axis::horizontal, view, LayoutDirection::leftToRight));
+  return fittingExtent(itemsAlong(Axis::horizontal, view),
+                       rulesAlong(Axis::horizontal, view, LayoutDirection::leftToRight),
+                       std::cref(width));
 }
 
 ViewLayout::Length ViewLayout::naturalHeight(const UIView& view, double width) const {
   if (const auto content = view.intrinsicContentSize(width, context_)) return content->height;
-  return fittingExtent(itemsDown(view, across(view, width)),
-                       rulesAlong(Axis::vertical, view, context_.display.direction));
+  const auto columns = across(view, width);
+  const auto height = [&](std::size_t i) {
+    return naturalHeight(*view.subviews()[i], columns[i].length);
+  };
+  return fittingExtent(itemsAlong(Axis::vertical, view),
+                       rulesAlong(Axis::vertical, view, context_.display.direction),
+                       std::cref(height));
 }
 
 std::vector<AxisSpan> ViewLayout::across(const UIView& view, double width) const {
-  return placeAlong(itemsAcross(view),
-                    rulesAlong(Axis::horizontal, view, context_.display.direction), width);
-}
-
-std::vector<AxisItem> ViewLayout::itemsAcross(const UIView& view) const {
-  std::vector<AxisItem> items;
-  for (const auto& subview : view.subviews()) {
-    const layout::Rect& frame = subview->frame();
-    items.push_back(subview->translatesAutoresizingMaskIntoConstraints()
-                        ? AxisItem{frame.left(), frame.size.width, {}}
-                        : AxisItem{{}, {}, naturalWidth(*subview)});
-  }
-  return items;
-}
-
-std::vector<AxisItem> ViewLayout::itemsDown(const UIView& view,
-                                            const std::vector<AxisSpan>& across) const {
-  std::vector<AxisItem> items;
-  for (std::size_t i = 0; i < view.subviews().size(); ++i) {
-    const UIView& subview = *view.subviews()[i];
-    const layout::Rect& frame = subview.frame();
-    items.push_back(subview.translatesAutoresizingMaskIntoConstraints()
-                        ? AxisItem{frame.top(), frame.size.height, {}}
-                        : AxisItem{{}, {}, naturalHeight(subview, across[i].length)});
-  }
-  return items;
+  const auto natural = [&](std::size_t i) { return naturalWidth(*view.subviews()[i]); };
+  return placeAlong(itemsAlong(Axis::horizontal, view),
+                    rulesAlong(Axis::horizontal, view, context_.display.direction),
+                    std::cref(natural), width);
 }
 
 }  // namespace quorix::uikit

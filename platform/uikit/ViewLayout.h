@@ -26,8 +26,6 @@ class ViewLayout {
   Length naturalWidth(const UIView& view) const;
   Length naturalHeight(const UIView& view, double width) const;
   std::vector<AxisSpan> across(const UIView& view, double width) const;
-  std::vector<AxisItem> itemsAcross(const UIView& view) const;
-  std::vector<AxisItem> itemsDown(const UIView& view, const std::vector<AxisSpan>& across) const;
 
   const LayoutContext& context_;
 };
