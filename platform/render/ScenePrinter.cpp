@@ -78,8 +78,8 @@ template <class Writer>
 void writeLook(const text::Run& run, Writer& to) {
   to.value("font", run.font.name);
   to.value("points", run.font.points);
-  if (run.font.weight != swiftui::FontWeight::regular) {
-    to.value("weight", std::string(swiftui::nameOf(run.font.weight)));
+  if (run.font.weight != graphics::FontWeight::regular) {
+    to.value("weight", std::string(nameOf(run.font.weight)));
   }
   to.value("color", hex(run.color));
   to.flag("underline", run.underline);

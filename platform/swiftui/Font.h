@@ -1,9 +1,10 @@
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
+
+#include "platform/graphics/FontWeight.h"
 
 namespace quorix::swiftui {
 
@@ -22,13 +23,7 @@ enum class TextStyle : std::uint8_t {
   caption2,
 };
 
-/// With the numbers of OpenType.
-enum class FontWeight : std::uint16_t { regular = 400, medium = 500, semibold = 600, bold = 700 };
-
-constexpr std::string_view nameOf(FontWeight weight) {
-  constexpr std::string_view names[] = {"regular", "medium", "semibold", "bold"};
-  return names[static_cast<std::size_t>(weight) / 100 - 4];
-}
+using graphics::FontWeight;
 
 /// A face by name at a size in points. An unknown name selects the system's font.
 ///

@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
+#include "platform/graphics/FontWeight.h"
 #include "platform/graphics/RGBA.h"
 #include "platform/layout/Geometry.h"
-#include "platform/swiftui/Font.h"
 
 namespace quorix::text {
 
@@ -16,7 +16,7 @@ namespace quorix::text {
 struct ResolvedFont {
   std::string name;  ///< PostScript or family name; empty for the system's font
   double points = 17;
-  swiftui::FontWeight weight = swiftui::FontWeight::regular;
+  graphics::FontWeight weight = graphics::FontWeight::regular;
   bool operator==(const ResolvedFont&) const = default;
 };
 

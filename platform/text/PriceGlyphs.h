@@ -155,7 +155,7 @@ class PriceFaces {
 
   struct Face {
     std::string name;
-    swiftui::FontWeight weight;
+    graphics::FontWeight weight;
     std::size_t prices = 0;
     PriceGlyphs glyphs{};
     std::optional<ShapedText<Glyphs>> sample{};  ///< absent: not learned

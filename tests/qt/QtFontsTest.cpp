@@ -23,7 +23,7 @@ QRawFont face(const std::string& name) {
 }
 
 TEST(QtFonts, AWeightPicksTheNearestFaceOfTheFamilyThatIsNoLighter) {
-  using swiftui::FontWeight;
+  using graphics::FontWeight;
   const std::string regular = QuorixFont::regular().name(), medium = QuorixFont::medium().name();
   const std::string tova = TovaFont::regular().name(), semiBold = "TovaSansLatin-SemiBold";
   const struct {
