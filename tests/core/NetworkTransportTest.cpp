@@ -12,6 +12,7 @@
 
 #include "platform/foundation/Runtime.h"
 #include "tests/core/Fetch.h"
+#include "tests/core/Resources.h"
 
 namespace quorix::testing {
 namespace {
@@ -160,7 +161,7 @@ TEST_F(ConcurrentNetworkTransport, EndsAllRequestsInTimeAndBeginsAnew) {
 using NetworkTransportDeathTest = ConcurrentNetworkTransport;
 
 TEST_F(NetworkTransportDeathTest, ACompletionMayEndTheProcess) {
-  GTEST_FLAG_SET(death_test_style, "threadsafe");
+  useFreshProcesses();
   EXPECT_EXIT(
       {
         static const auto atTheEnd = transport;

@@ -16,14 +16,16 @@ inline foundation::Bundle::Ref memoryBundle(const std::map<std::string, std::str
   return foundation::Bundle::of(std::move(table));
 }
 
-/// Tests what a process makes only once, each in its own process. Under an emulator a test cannot
-/// start its program again: the environment then selects a fork, and CTest starts each test
-/// separately.
+/// Starts the program again for each following death test. Under an emulator this is not possible:
+/// the environment then selects a fork, and CTest starts each test separately.
+inline void useFreshProcesses() {
+  if (!std::getenv("GTEST_DEATH_TEST_STYLE")) GTEST_FLAG_SET(death_test_style, "threadsafe");
+}
+
+/// Tests what a process makes only once, each in its own process.
 class FreshProcessDeathTest : public ::testing::Test {
  protected:
-  FreshProcessDeathTest() {
-    if (!std::getenv("GTEST_DEATH_TEST_STYLE")) GTEST_FLAG_SET(death_test_style, "threadsafe");
-  }
+  FreshProcessDeathTest() { useFreshProcesses(); }
 };
 
 #define EXPECT_IN_FRESH_PROCESS(condition) \
