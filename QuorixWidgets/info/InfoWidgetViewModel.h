@@ -23,9 +23,9 @@ struct InfoTitlePart {
   bool operator==(const InfoTitlePart&) const = default;
 };
 
-/// Splits `title` at `number`: the text before it, the number, and the text up to the next
-/// occurrence. If only one piece of text remains, the number comes first. Empty if none remains.
-/// Any thread.
+/// Splits `title` at `number`. Returns the text before it, the number, and the text after it, up to
+/// its next occurrence. With text on one side only, returns the number and then that text. Empty
+/// without other text. Any thread.
 ///
 ///     splitInfoTitle("A 20% B", "20%")  // "A ", "20%" (the number), " B"
 std::vector<InfoTitlePart> splitInfoTitle(std::string_view title, std::string_view number);

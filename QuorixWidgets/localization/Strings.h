@@ -31,7 +31,8 @@ struct StringTableProblem {
 };
 
 /// All mistakes in `table`: missing entries, unused entries, formats that do not show exactly their
-/// argument, and a title that does not have its figure exactly once between texts. Any thread.
+/// argument, and a title that lacks its figure, has text after a second one, or consists only of
+/// it. Any thread.
 QUORIX_EXPORT std::vector<StringTableProblem> problems(const foundation::StringTable& table);
 
 }  // namespace quorix

@@ -10,12 +10,12 @@
 
 namespace quorix {
 
-/// The style in a widget's view model. `Color` is empty for the library's own background.
-template <class Color>
+/// The style in a widget's view model. An empty `backgroundColor` stands for the library's own.
+template <class Background>
 struct StyleConfiguration {
   std::optional<std::string> regularFont;
   std::optional<std::string> semiBoldFont;
-  Color backgroundColor;
+  Background backgroundColor;
   bool showBorder = false;
 };
 

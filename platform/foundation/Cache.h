@@ -90,8 +90,7 @@ class RecentEntries {
 
   std::size_t size() const { return nodes_.size(); }
 
-  /// The entry of `hash` that `matches` accepts, which is the one used last from now on; null if
-  /// there is none.
+  /// Finds an entry of `hash` that `matches` accepts, and marks it as used last; null without one.
   template <class Matches>
   Entry* find(std::size_t hash, Matches matches) {
     const auto [first, last] = index_.equal_range(hash);
@@ -103,7 +102,8 @@ class RecentEntries {
     return nullptr;
   }
 
-  /// Adds an entry as the one used last. At the bound it is the oldest one, with its old content.
+  /// Adds an entry, marked as used last. A full cache reuses the oldest entry with its content:
+  /// overwrite it.
   Entry& add(std::size_t hash) {
     if (nodes_.size() < most_) {
       nodes_.emplace_front();

@@ -19,9 +19,9 @@ class QUORIX_EXPORT NetworkThread {
   /// Runs `work` on the thread, on a later turn and in order. Any thread.
   virtual void post(std::function<void()> work) = 0;
 
-  /// Starts a GET of an http or https address, redirects included. `ended` is called once, on a
-  /// later turn, and may destroy the fetch, which is what this returns. It is not called after
-  /// that. On the thread.
+  /// Starts a GET of an http or https address, redirects included. Returns the fetch; destroying it
+  /// cancels it. `ended` is called once, on a later turn, but not after the fetch was destroyed.
+  /// `ended` may destroy it. On the thread.
   virtual std::shared_ptr<void> fetch(const URL& url, std::chrono::milliseconds timeLimit,
                                       URLTransport::Completion ended) = 0;
 
@@ -59,11 +59,11 @@ class QUORIX_EXPORT NetworkTransport final : public URLTransport {
 
   void open();
 
-  /// Ends the requests in flight with the error `canceled`, on another thread, and then the
-  /// thread. After two seconds, a thread that is blocked (by a protocol, a completion or a choice
-  /// of proxies) is left behind: it sleeps for good when the protocol or the completion returns. A
-  /// completion that ends the process calls this on the thread itself, which is left behind once
-  /// the other requests have ended.
+  /// Ends the requests in flight with the error `canceled`, on another thread, then ends the
+  /// transport's thread. If that is blocked for two seconds (by a protocol, a completion or the
+  /// search for a proxy), it is abandoned: it sleeps from when the blocking call returns. If a
+  /// completion calls this on the transport's thread, the thread is abandoned after the other
+  /// requests have ended.
   void close();
 
  private:
