@@ -22,8 +22,10 @@ void expectFinite(const uikit::UIView& view) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
   std::shared_ptr<uikit::UIView> content;
   std::weak_ptr<uikit::UILabel> title, link;
-  const auto read = uikit::Nib::parse(
-      {reinterpret_cast<const char*>(bytes), size}, "Fuzz", "UIInfoWidget",
+  const auto file = foundation::Bundle::of(
+      {{"Fuzz.xib", foundation::Data({reinterpret_cast<const char*>(bytes), size})}});
+  const auto read = uikit::Nib::load(
+      "Fuzz", *file, "UIInfoWidget",
       {{{"contentView", &content}}, {{"titleLabel", &title}, {"linkLabel", &link}}});
   if (const auto* error = std::get_if<foundation::Error>(&read)) {
     expect(!error->description.empty(), "a refusal has its reason");

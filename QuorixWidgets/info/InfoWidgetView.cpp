@@ -35,8 +35,7 @@ View link(const InfoWidgetViewModel& model) {
 
 /// An empty view if the image is missing.
 View logo() {
-  const auto library = libraryBundle();
-  const auto bundle = library ? library : foundation::Bundle::main();
+  const auto bundle = libraryBundle();
   if (!graphics::imageSet(bundle, "poweredBy")) return {};
   return swiftui::Image("poweredBy", bundle).resizable().scaledToFit().frame(std::nullopt, 13);
 }

@@ -17,7 +17,6 @@ using foundation::StringTable;
 namespace {
 
 constexpr std::string_view fallbackLocale = "en";
-constexpr std::string_view tableName = "Localizable";
 
 /// The folder with the string tables of `locale`; null if the library has none.
 Bundle::Ref getBundle(std::string_view locale) {
@@ -32,7 +31,7 @@ std::optional<std::string> lookUp(std::string_view key, std::string_view locale)
   Bundle::Ref bundle = getBundle(locale);
   if (!bundle) bundle = getBundle(fallbackLocale);
   if (!bundle) return std::nullopt;
-  return foundation::localizedString(*bundle, key, tableName);
+  return foundation::localizedString(*bundle, key);
 }
 
 }  // namespace

@@ -12,7 +12,6 @@
 #include "platform/combine/ObservableObject.h"
 #include "platform/foundation/CurrencyFormatter.h"
 #include "platform/foundation/Export.h"
-#include "platform/swiftui/Font.h"
 #include "platform/swiftui/Text.h"
 
 namespace quorix {

@@ -3,7 +3,6 @@
 #include <simdjson.h>
 
 #include <string>
-#include <utility>
 
 #include "platform/foundation/Numbers.h"
 

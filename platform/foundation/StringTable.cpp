@@ -178,8 +178,8 @@ std::optional<std::string> entryIn(const Bundle& bundle, const std::string& path
 
 }  // namespace
 
-std::string localizedString(const Bundle& bundle, std::string_view key, std::string_view table) {
-  return entryIn(bundle, std::string(table) + ".strings", key).value_or(std::string(key));
+std::string localizedString(const Bundle& bundle, std::string_view key) {
+  return entryIn(bundle, "Localizable.strings", key).value_or(std::string(key));
 }
 
 std::optional<std::string> localizedEntry(const Bundle& bundle, std::string_view key,

@@ -43,12 +43,12 @@ Error notAStringTable(std::string_view text, std::size_t offset, const std::stri
 
 // Looking texts up in the tables of bundles.
 
-/// The text for `key` in the string table "table.strings" of `bundle`. Reads the table again if it
-/// has changed. Returns the key itself if the bundle has no such entry or no readable table. Any
-/// thread.
+/// The text for `key` in the "Localizable" string table at the root of `bundle`. Reads the table
+/// again if it has changed. Returns the key itself if the bundle has no such entry or no readable
+/// table. Any thread.
 ///
-///     localizedString(*bundle->folder("en.lproj"), "greeting", "Localizable")
-std::string localizedString(const Bundle& bundle, std::string_view key, std::string_view table);
+///     localizedString(*bundle->folder("en.lproj"), "greeting")
+std::string localizedString(const Bundle& bundle, std::string_view key);
 
 /// The text for `key` in the "Localizable" string tables of `bundle`, for a user who reads
 /// `language` ("pt-BR"). Searches "pt-BR.lproj", "pt.lproj", "en.lproj", then the bundle's root;

@@ -87,6 +87,25 @@ double encoded(double linear) {
   return value <= 0.0031308 ? value * 12.92 : 1.055 * std::pow(value, 1 / 2.4) - 0.055;
 }
 
+/// A color in sRGB, or in the wide space Display P3.
+std::optional<RGBA> makeColor(bool wide, std::string_view red, std::string_view green,
+                              std::string_view blue, std::string_view alpha) {
+  auto r = component(red);
+  auto g = component(green);
+  auto b = component(blue);
+  const auto a = alphaComponent(alpha);
+  if (!r || !g || !b || !a) return std::nullopt;
+  if (wide) {
+    // Both spaces have the same white point and transfer curve, so one matrix on linear light
+    // converts.
+    const double lr = linear(*r), lg = linear(*g), lb = linear(*b);
+    r = encoded(1.2249402 * lr - 0.2249402 * lg);
+    g = encoded(-0.0420569 * lr + 1.0420569 * lg);
+    b = encoded(-0.0196376 * lr - 0.0786361 * lg + 1.0982736 * lb);
+  }
+  return RGBA{channel(*r), channel(*g), channel(*b), channel(*a)};
+}
+
 std::optional<RGBA> color(JSONValue entry) {
   const auto component = [&](std::string_view name) {
     return text(entry, "color", "components", name).value_or(std::string_view());
@@ -94,12 +113,12 @@ std::optional<RGBA> color(JSONValue entry) {
   const auto space = text(entry, "color", "color-space").value_or("srgb");
   if (space == "gray-gamma-22" || space == "extended-gray") {
     const auto white = component("white");
-    return makeColor(ColorSpace::sRGB, white, white, white, component("alpha"));
+    return makeColor(false, white, white, white, component("alpha"));
   }
   const bool wide = space == "display-p3";
   if (!wide && space != "srgb" && space != "extended-srgb") return std::nullopt;
-  return makeColor(wide ? ColorSpace::displayP3 : ColorSpace::sRGB, component("red"),
-                   component("green"), component("blue"), component("alpha"));
+  return makeColor(wide, component("red"), component("green"), component("blue"),
+                   component("alpha"));
 }
 
 std::optional<std::string> svgFile(JSONValue entry) {
@@ -142,24 +161,6 @@ auto withRoot(std::string_view json, Read read) -> decltype(read(std::declval<JS
 }
 
 }  // namespace
-
-std::optional<RGBA> makeColor(ColorSpace space, std::string_view red, std::string_view green,
-                              std::string_view blue, std::string_view alpha) {
-  auto r = component(red);
-  auto g = component(green);
-  auto b = component(blue);
-  const auto a = alphaComponent(alpha);
-  if (!r || !g || !b || !a) return std::nullopt;
-  if (space == ColorSpace::displayP3) {
-    // Both spaces have the same white point and transfer curve, so one matrix on linear light
-    // converts.
-    const double lr = linear(*r), lg = linear(*g), lb = linear(*b);
-    r = encoded(1.2249402 * lr - 0.2249402 * lg);
-    g = encoded(-0.0420569 * lr + 1.0420569 * lg);
-    b = encoded(-0.0196376 * lr - 0.0786361 * lg + 1.0982736 * lb);
-  }
-  return RGBA{channel(*r), channel(*g), channel(*b), channel(*a)};
-}
 
 std::optional<ColorSet> parseColorSet(std::string_view json) {
   return withRoot(json, [](JSONValue root) -> std::optional<ColorSet> {

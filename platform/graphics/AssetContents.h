@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -18,20 +17,16 @@ struct ImageSetFiles {
 
 // Readers of the `Contents.json` of each kind of asset folder. They skip entries for one device
 // only and for high contrast. Absent for any other text.
+
+/// Reads color components in any spelling that design tools write: "0xFF", "255" or "1.000". Alpha
+/// is opaque if empty, and "1" is the fraction 1. Clamps fractions to 0 to 1, and colors outside
+/// sRGB channel by channel.
 std::optional<ColorSet> parseColorSet(std::string_view json);
 std::optional<ImageSetFiles> parseImageSet(std::string_view json);
 std::optional<std::string> parseDataSet(std::string_view json);
 
 /// Whether a folder's `Contents.json` makes its name part of the names inside it.
 bool providesNamespace(std::string_view json);
-
-enum class ColorSpace : std::uint8_t { sRGB, displayP3 };
-
-/// The color with these components, in any spelling that design tools write: "0xFF", "255" or
-/// "1.000". Alpha is opaque if empty, and "1" is the fraction 1. Clamps fractions to 0 to 1, and
-/// colors outside sRGB channel by channel. Absent for any other text.
-std::optional<RGBA> makeColor(ColorSpace space, std::string_view red, std::string_view green,
-                              std::string_view blue, std::string_view alpha);
 
 /// A width and height in points, both above 0.
 struct SvgSize {

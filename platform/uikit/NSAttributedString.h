@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstdint>
 #include <memory>
-#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -15,13 +14,13 @@
 namespace quorix::uikit {
 
 /// The numeric values are the platform's.
-enum class NSUnderlineStyle : std::uint8_t { none = 0, single = 1, thick = 2 };
+enum class NSUnderlineStyle : std::uint8_t { none = 0, thick = 2 };
 
-/// The look of a run of text. Absent values are taken from the label.
+/// The look of a run of text.
 struct NSAttributes {
   UIFont::Ref font = nullptr;              ///< null: the label's
   UIColor::Ref foregroundColor = nullptr;  ///< null: the label's
-  std::optional<NSUnderlineStyle> underlineStyle = std::nullopt;
+  NSUnderlineStyle underlineStyle = NSUnderlineStyle::none;
   bool operator==(const NSAttributes&) const = default;
 };
 

@@ -2,7 +2,6 @@
 
 #include <functional>
 #include <optional>
-#include <utility>
 
 #include "platform/foundation/Cache.h"
 #include "platform/foundation/Runtime.h"
@@ -123,24 +122,6 @@ struct InterfaceFiles : foundation::ParsedFileCache<Reading> {
   InterfaceFiles() : ParsedFileCache(readFile) {}
 };
 
-namespace {
-
-/// The views of the file for `owner`, or the error of reading or of connecting.
-foundation::Result<Nib::Views> instantiate(const Reading& reading, std::string_view name,
-                                           std::string_view owner, const Nib::Outlets& outlets) {
-  const auto refused = [&](const std::string& why) {
-    return foundation::Error{"Nib", 1, std::string(name) + ".xib:" + why};
-  };
-  if (const auto* error = std::get_if<foundation::Error>(&reading)) {
-    return refused(error->description);
-  }
-  NibInstance instance(std::get<NibDocument>(reading));
-  if (const auto refusal = instance.connect(owner, outlets)) return refused(*refusal);
-  return instance.outermost();
-}
-
-}  // namespace
-
 foundation::Result<Nib::Views> Nib::load(std::string_view name, const foundation::Bundle& bundle,
                                          std::string_view owner, const Outlets& outlets) {
   const auto path = bundle.pathForResource(name, "xib");
@@ -148,12 +129,16 @@ foundation::Result<Nib::Views> Nib::load(std::string_view name, const foundation
   if (!file) {
     return foundation::Error{"Nib", 0, "No interface file named '" + std::string(name) + "'"};
   }
-  return instantiate(*foundation::Runtime::the<InterfaceFiles>().read(*file), name, owner, outlets);
-}
-
-foundation::Result<Nib::Views> Nib::parse(std::string_view xml, std::string_view name,
-                                          std::string_view owner, const Outlets& outlets) {
-  return instantiate(readNib(xml), name, owner, outlets);
+  const auto refused = [&](const std::string& why) {
+    return foundation::Error{"Nib", 1, std::string(name) + ".xib:" + why};
+  };
+  const auto reading = foundation::Runtime::the<InterfaceFiles>().read(*file);
+  if (const auto* error = std::get_if<foundation::Error>(&*reading)) {
+    return refused(error->description);
+  }
+  NibInstance instance(std::get<NibDocument>(*reading));
+  if (const auto refusal = instance.connect(owner, outlets)) return refused(*refusal);
+  return instance.outermost();
 }
 
 }  // namespace quorix::uikit

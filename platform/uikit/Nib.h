@@ -39,9 +39,6 @@ class Nib {
   ///                            &titleLabel_}}});
   static foundation::Result<Views> load(std::string_view name, const foundation::Bundle& bundle,
                                         std::string_view owner, const Outlets& outlets);
-  /// Loads the same from the file's text; `name` is for messages.
-  static foundation::Result<Views> parse(std::string_view xml, std::string_view name,
-                                         std::string_view owner, const Outlets& outlets);
 };
 
 }  // namespace quorix::uikit

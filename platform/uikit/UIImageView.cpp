@@ -69,8 +69,9 @@ std::optional<render::AccessibilityElement> UIImageView::describe(std::string_vi
   render::AccessibilityElement element;
   element.role = render::Role::image;
   // An image that can be tapped needs a label: use its name.
-  const bool acts = !gestureRecognizers().empty() && image_->bundle();
-  if (acts) element.label = foundation::spokenName(*image_->bundle(), image_->name(), language);
+  if (!gestureRecognizers().empty()) {
+    element.label = foundation::spokenName(*image_->bundle(), image_->name(), language);
+  }
   return element;
 }
 

@@ -63,11 +63,11 @@ text::AttributedText UILabel::resolved(const render::Display& display) const {
   for (const NSAttributedString::Run& run : text_.runs()) {
     const UIColor::Ref& color =
         run.attributes.foregroundColor ? run.attributes.foregroundColor : textColor_;
-    const auto underline = run.attributes.underlineStyle.value_or(NSUnderlineStyle::none);
+    const bool underline = run.attributes.underlineStyle == NSUnderlineStyle::thick;
     text.runs.push_back(
         {run.text, resolvedFont(run.attributes.font ? run.attributes.font : font_),
-         color ? color->resolve(display.appearance) : defaultColor(display.appearance),
-         underline != NSUnderlineStyle::none, false, underline == NSUnderlineStyle::thick});
+         color ? color->resolve(display.appearance) : defaultColor(display.appearance), underline,
+         false, underline});
   }
   text::bound(text);
   return text;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "platform/uikit/NSAttributedString.h"
@@ -22,14 +21,11 @@ class UILabel final : public UIView {
   void setAttributedText(const NSAttributedString& text);
 
   /// Null selects the system's font at 17 points. Setting a font changes every run.
-  const UIFont::Ref& font() const { return font_; }
   void setFont(UIFont::Ref font);
   /// Null selects black, or white in dark mode. Setting a color changes every run.
-  const UIColor::Ref& textColor() const { return textColor_; }
   void setTextColor(UIColor::Ref color);
   /// 1 (the default) never breaks the text. Any other number breaks it to the width, without a
   /// limit of lines.
-  int numberOfLines() const { return numberOfLines_; }
   void setNumberOfLines(int lines);
 
   std::string_view className() const override { return "UILabel"; }

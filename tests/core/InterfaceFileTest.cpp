@@ -4,6 +4,7 @@
 #include "platform/uikit/UIImageView.h"
 #include "platform/uikit/ViewLayout.h"
 #include "tests/core/FixedWidthText.h"
+#include "tests/core/Resources.h"
 #include "tests/core/Vectors.h"
 
 namespace quorix::uikit {
@@ -13,7 +14,8 @@ namespace {
 std::string outcome(const std::string& xml) {
   std::shared_ptr<UIView> box;
   std::weak_ptr<UILabel> label;
-  const auto read = Nib::parse(xml, "Card", "Card", {{{"box", &box}}, {{"label", &label}}});
+  const auto bundle = testing::memoryBundle({{"Card.xib", xml}});
+  const auto read = Nib::load("Card", *bundle, "Card", {{{"box", &box}}, {{"label", &label}}});
   if (const auto* error = std::get_if<foundation::Error>(&read)) {
     EXPECT_EQ(box, nullptr) << "a refused file connects nothing";
     return error->description;
@@ -52,8 +54,8 @@ std::string printed(const layout::Rect& frame) {
 TEST(ViewLayout, FollowsConstraintsAndContent) {
   forEachRow("layout/constraints", [&](simdjson::dom::element row) {
     std::shared_ptr<UIView> box;
-    const std::string xml = contentsOf("cards/" + ::text(row, "card") + ".xib");
-    const auto read = Nib::parse(xml, "Card", "Card", {{{"box", &box}}, {}});
+    const auto bundle = foundation::Bundle::open(TEST_DATA "/cards");
+    const auto read = Nib::load(::text(row, "card"), *bundle, "Card", {{{"box", &box}}, {}});
     const auto* error = std::get_if<foundation::Error>(&read);
     ASSERT_EQ(error, nullptr) << error->description;
     std::optional<double> width;  // the offered width

@@ -7,6 +7,7 @@
 #include "platform/foundation/StringTable.h"
 #include "platform/graphics/AssetContents.h"
 #include "platform/uikit/Nib.h"
+#include "tests/core/Resources.h"
 #include "tests/core/Vectors.h"
 
 namespace quorix {
@@ -30,7 +31,8 @@ void readStrings(const std::string& text) { foundation::readStringsFile(text); }
 
 void readInterface(const std::string& xml) {
   std::shared_ptr<uikit::UIView> box;
-  EXPECT_EQ(uikit::Nib::parse(xml, "Card", "Card", {{{"box", &box}}, {}}).index(), 0U);
+  const auto bundle = testing::memoryBundle({{"Card.xib", xml}});
+  EXPECT_EQ(uikit::Nib::load("Card", *bundle, "Card", {{{"box", &box}}, {}}).index(), 0U);
 }
 
 void readColors(const std::string& json) { EXPECT_TRUE(graphics::parseColorSet(json)); }

@@ -22,12 +22,15 @@ using testing::replaceLibraryBundle;
 
 TEST(AssetContents, ReadsColorsInEverySpellingAndNothingElse) {
   forEachRow("color_components", [](simdjson::dom::element row) {
-    const auto color = graphics::makeColor(graphics::ColorSpace::sRGB, ::text(row, "red"), "0", "0",
-                                           ::text(row, "alpha"));
-    ASSERT_EQ(color.has_value(), !row["color"].is_null());
-    if (!color) return;
-    EXPECT_EQ(color->red, std::int64_t(row["color"].at(0)));
-    EXPECT_EQ(color->alpha, std::int64_t(row["color"].at(3)));
+    const auto set = graphics::parseColorSet(
+        R"({"colors": [{"color": {"components": {"green": "0", "blue": "0", "red": )" +
+        simdjson::to_string(row["red"]) + R"(, "alpha": )" + simdjson::to_string(row["alpha"]) +
+        "}}}]}");
+    ASSERT_EQ(set.has_value(), !row["color"].is_null());
+    if (!set) return;
+    const RGBA color = set->resolve(Appearance::light);
+    EXPECT_EQ(color.red, std::int64_t(row["color"].at(0)));
+    EXPECT_EQ(color.alpha, std::int64_t(row["color"].at(3)));
   });
 }
 
