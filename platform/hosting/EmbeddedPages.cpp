@@ -112,8 +112,9 @@ void EmbeddedPage::processEnded() {
 void EmbeddedPage::expectAnswer(std::function<void()> then) {
   onAnswer_ = std::move(then);
   if (!content_->settings.allowsContentJavaScript) return answered(PageScripts::alive);
-  if (!answerTimer_)
+  if (!answerTimer_) {
     start(answerTimer_, answerTimeout, [this] { answerTimer_.reset(), owner_.pageHangs(); });
+  }
   engine_->ask(PageScripts::isAlive);
 }
 

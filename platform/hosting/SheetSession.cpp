@@ -113,7 +113,7 @@ void SheetSession::paintAgain() {
 }
 
 void SheetSession::dropChildren() {
-  leaveWindow();
+  leaveWindow();  // first: a page that goes with the focus must not move it in this sheet
   pages_.follow({});
   pictures_.reset();
 }

@@ -1,5 +1,6 @@
 #include "platform/render/ScenePrinter.h"
 
+#include <concepts>
 #include <string_view>
 
 #include "platform/render/Wording.h"
@@ -150,8 +151,9 @@ void write(const AccessibilityElement& element, Writer& to) {
   to.flag("acts", static_cast<bool>(element.action));
 }
 
+// Only for an `Item` itself: a kind without a function of its own would convert to one.
 template <class Writer>
-void write(const Item& item, Writer& to) {
+void write(const std::same_as<Item> auto& item, Writer& to) {
   std::visit([&](const auto& shown) { write(shown, to); }, item);
 }
 

@@ -45,6 +45,7 @@ void Screen::waitUntilActive() {
 }
 
 void Screen::settle() {
+  // Quiet for 60 ms: on a busy machine a frame of the render thread is that late.
   for (int quiet = 0; quiet < 12;) {
     const int before = frames_;
     QTest::qWait(5);
